@@ -1,0 +1,40 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# How everything here is compiled: standard, warnings, hardening, cache, sanitizers.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(QUILLON_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(QUILLON_BENCH "Build the benchmarks" OFF)
+option(QUILLON_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    # GCC's precompiled headers are only cached when ccache may overlook their defines and times.
+    set(launcher "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime "${CCACHE}")
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+    set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wconversion -Wsign-conversion -Wnull-dereference -Wimplicit-fallthrough -Wswitch-enum
+    -fstack-protector-strong -fpch-preprocess)
+if(QUILLON_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+
+if(QUILLON_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+elseif(CMAKE_BUILD_TYPE STREQUAL "Release" OR CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
+    add_compile_definitions(_FORTIFY_SOURCE=2)
+endif()
+
+find_program(CLANG_TIDY clang-tidy)
