@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quillon {
+
+/// The user's language for an English text, which is the key of the table. Unknown texts come back
+/// as they are. Stored values are never localised. Placeholders are "%@", filled by filled().
+QString localized(const QString &english);
+QString localized(const char *english);
+
+/// `text` with its "%@" placeholders replaced, in order, by `values`. A value that itself contains
+/// "%@" is not filled again.
+QString filled(const QString &text, const QStringList &values);
+
+} // namespace quillon

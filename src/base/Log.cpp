@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Log.h"
+
+namespace quillon {
+
+Q_LOGGING_CATEGORY(logApp, "quillon.app", QtWarningMsg)
+Q_LOGGING_CATEGORY(logDevices, "quillon.devices", QtWarningMsg)
+Q_LOGGING_CATEGORY(logHelperLink, "quillon.helperlink", QtWarningMsg)
+Q_LOGGING_CATEGORY(logSettings, "quillon.settings", QtWarningMsg)
+Q_LOGGING_CATEGORY(logPlatform, "quillon.platform", QtWarningMsg)
+
+} // namespace quillon

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLoggingCategory>
+
+namespace quillon {
+
+// One category per room, named quillon.<room>; warnings and worse are on by default.
+Q_DECLARE_LOGGING_CATEGORY(logApp)
+Q_DECLARE_LOGGING_CATEGORY(logDevices)
+Q_DECLARE_LOGGING_CATEGORY(logHelperLink)
+Q_DECLARE_LOGGING_CATEGORY(logSettings)
+Q_DECLARE_LOGGING_CATEGORY(logPlatform)
+
+} // namespace quillon

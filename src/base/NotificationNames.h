@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// Names of broadcasts: in-process (NotificationCenter) and between programs
+/// (DistributedNotificationCenter).
+namespace quillon::notifications {
+
+inline const QString networkChanged = QStringLiteral("networkChanged");
+inline const QString addressUpdated = QStringLiteral("addressUpdated");
+inline const QString helperStatusChanged = QStringLiteral("helperStatusChanged");
+inline const QString closeVendorViewPopover = QStringLiteral("closeVendorViewPopover");
+inline const QString toggleCheckbox = QStringLiteral("toggleCheckbox");
+
+inline const QString helperUpdated = QStringLiteral("HelperUpdated");
+inline const QString helperUpdatedObject = QStringLiteral("com.orvandel.Quillon4MASHelper");
+inline const QString terminateLoginHelper = QStringLiteral("terminateQuillon4LoginHelper");
+inline const QString applicationObject = QStringLiteral("com.orvandel.Quillon4");
+
+} // namespace quillon::notifications

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+
+#include <chrono>
+#include <functional>
+
+namespace quillon {
+
+/// Time and threads. No other code calls a timer, a thread or the clock directly.
+/// All calls are safe from every thread. Tasks still waiting when the program leaves its main loop
+/// never run.
+class Scheduler
+{
+public:
+    using Task = std::function<void()>;
+    using Token = quint64;
+
+    virtual ~Scheduler() = default;
+
+    /// The wall clock, UTC.
+    virtual QDateTime now() const = 0;
+    virtual bool isMainThread() const = 0;
+
+    /// Runs `task` on the main thread in a later turn of its loop, also when called there. Tasks
+    /// run in the order in which they were given.
+    virtual void onMain(Task task) = 0;
+    /// The same after `delay`; the token cancels it until it has begun.
+    virtual Token onMainAfter(std::chrono::milliseconds delay, Task task) = 0;
+    /// Runs `task` on the main thread every `interval`, first after one interval, until cancelled;
+    /// also while a menu is open.
+    virtual Token repeat(std::chrono::milliseconds interval, Task task) = 0;
+    /// Unknown or used-up tokens are ignored.
+    virtual void cancel(Token token) = 0;
+
+    /// Runs `task` on a thread other than the main one. No order among tasks: see SerialQueue.
+    virtual void inBackground(Task task) = 0;
+};
+
+} // namespace quillon

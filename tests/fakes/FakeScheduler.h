@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Scheduler.h"
+
+#include <deque>
+#include <map>
+
+namespace quillon::test {
+
+/// A scheduler whose clock has hands: nothing runs until a test turns them. Background tasks run on
+/// the calling thread too, but isMainThread() is false meanwhile.
+class FakeScheduler : public Scheduler
+{
+public:
+    QDateTime now() const override { return m_now; }
+    bool isMainThread() const override { return m_onMainThread; }
+    void onMain(Task task) override;
+    Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
+    Token repeat(std::chrono::milliseconds interval, Task task) override;
+    void cancel(Token token) override;
+    void inBackground(Task task) override;
+
+    /// Runs what is due now, and what that asks for, until nothing is left.
+    void runPending();
+    /// Turns the hands forward, running every task at its own moment.
+    void advance(std::chrono::milliseconds time);
+    /// Calls `task` as if from another thread.
+    void asBackground(const Task &task);
+    bool hasTimers() const { return !m_timers.empty(); }
+
+private:
+    struct Timer
+    {
+        QDateTime due;
+        std::chrono::milliseconds interval{0};
+        Task task;
+    };
+
+    bool runTimersDue();
+
+    QDateTime m_now = QDateTime::fromSecsSinceEpoch(1'750'000'000, Qt::UTC);
+    bool m_onMainThread = true;
+    std::deque<Task> m_main;
+    std::deque<Task> m_background;
+    std::map<Token, Timer> m_timers;
+    Token m_nextToken = 1;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeSettingsStore.h"
+
+#include "base/Log.h"
+
+#include <utility>
+
+namespace quillon::test {
+
+FakeSettingsStore::FakeSettingsStore(Scheduler &scheduler)
+    : m_scheduler(scheduler)
+    , m_observers(scheduler)
+{
+}
+
+QVariant FakeSettingsStore::get(const QString &key) const
+{
+    const std::lock_guard lock(m_mutex);
+    return visible(key);
+}
+
+QVariant FakeSettingsStore::visible(const QString &key) const
+{
+    const auto found = m_stored.constFind(key);
+    return found != m_stored.constEnd() ? *found : m_defaults.value(key);
+}
+
+void FakeSettingsStore::set(const QString &key, const QVariant &value)
+{
+    if (value.isValid() && !isPropertyList(value)) {
+        qCWarning(logSettings) << "Refused a value that is not property-list data for" << key;
+        return;
+    }
+    {
+        const std::lock_guard lock(m_mutex);
+        m_journal << (value.isValid() ? QStringLiteral("set ") : QStringLiteral("remove ")) + key;
+        replace(key, normalizedPropertyList(value));
+    }
+    m_observers.deliver();
+}
+
+void FakeSettingsStore::replace(const QString &key, const QVariant &value)
+{
+    const QVariant before = visible(key);
+    if (value.isValid()) {
+        m_stored.insert(key, value);
+    } else {
+        m_stored.remove(key);
+    }
+    const QVariant after = visible(key);
+    if (!isSamePropertyList(before, after)) {
+        m_observers.report({key, before, after});
+    }
+}
+
+void FakeSettingsStore::changeFromOutside(const QString &key, const QVariant &value)
+{
+    m_scheduler.onMain([this, key, value] {
+        {
+            const std::lock_guard lock(m_mutex);
+            replace(key, normalizedPropertyList(value));
+        }
+        m_observers.deliver();
+    });
+}
+
+void FakeSettingsStore::registerDefaults(const QVariantMap &defaults)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        const QVariantMap previous =
+            std::exchange(m_defaults, normalizedPropertyList(defaults).toMap());
+        QVariantMap concerned = previous;
+        concerned.insert(m_defaults);
+        for (const QString &key : concerned.keys()) {
+            const QVariant before = m_stored.value(key, previous.value(key));
+            const QVariant after = visible(key);
+            if (!isSamePropertyList(before, after)) {
+                m_observers.report({key, before, after});
+            }
+        }
+    }
+    m_observers.deliver();
+}
+
+bool FakeSettingsStore::synchronize()
+{
+    const std::lock_guard lock(m_mutex);
+    m_journal << QStringLiteral("synchronize");
+    return !m_failing;
+}
+
+SettingsStore::Token FakeSettingsStore::addObserver(const QString &key, Observer observer)
+{
+    return m_observers.add(key, std::move(observer));
+}
+
+void FakeSettingsStore::removeObserver(Token token)
+{
+    m_observers.remove(token);
+}
+
+int FakeSettingsStore::writeCount(const QString &key) const
+{
+    const std::lock_guard lock(m_mutex);
+    return static_cast<int>(m_journal.count(QStringLiteral("set ") + key) +
+                            m_journal.count(QStringLiteral("remove ") + key));
+}
+
+int FakeSettingsStore::synchronizeCount() const
+{
+    const std::lock_guard lock(m_mutex);
+    return static_cast<int>(m_journal.count(QStringLiteral("synchronize")));
+}
+
+QStringList FakeSettingsStore::journal() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_journal;
+}
+
+void FakeSettingsStore::clearJournal()
+{
+    const std::lock_guard lock(m_mutex);
+    m_journal.clear();
+}
+
+QVariantMap FakeSettingsStore::stored() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_stored;
+}
+
+void FakeSettingsStore::failSynchronize(bool fails)
+{
+    const std::lock_guard lock(m_mutex);
+    m_failing = fails;
+}
+
+} // namespace quillon::test

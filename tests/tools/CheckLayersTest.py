@@ -1,0 +1,112 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""tools/check-layers finds what it is there to find, and nothing else."""
+import os
+import subprocess
+import tempfile
+import unittest
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.realpath(__file__))))
+
+
+class CheckLayersTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.write("src/base/Error.h", "#include <QString>")
+
+    def write(self, path, *lines):
+        path = os.path.join(self.folder.name, path)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w") as file:
+            file.write("\n".join(lines) + "\n")
+
+    def problems(self):
+        result = subprocess.run([os.path.join(ROOT, "tools/check-layers"), self.folder.name],
+                                text=True, capture_output=True, stdin=subprocess.DEVNULL)
+        self.assertEqual(result.stderr, "")
+        lines = result.stdout.splitlines()
+        self.assertEqual(result.returncode, 1 if lines else 0)
+        return lines
+
+    def assert_only_problem(self, start):
+        problems = self.problems()
+        self.assertEqual(len(problems), 1, problems)
+        self.assertTrue(problems[0].startswith(start), problems[0])
+
+    def test_allows_includes_that_run_downwards(self):
+        self.write("src/platform/Scheduler.h", '#include "base/Error.h"')
+        self.write("src/platform/linux/Clock.cpp", '#include "platform/Scheduler.h"', "#include <sys/timerfd.h>")
+        self.write("src/devices/Table.cpp", '#include "platform/Scheduler.h"', "#include <vector>")
+        self.write("src/ui/Window.cpp", "#include <QWidget>", '#include "devices/Table.h"')
+        self.write("src/devices/Table.h")
+        self.write("src/main.cpp", '#include "ui/Window.h"', '#include "platform/linux/Clock.h"')
+        self.write("src/ui/Window.h")
+        self.write("src/platform/linux/Clock.h")
+        self.assertEqual(self.problems(), [])
+
+    def test_refuses_an_include_that_runs_upwards(self):
+        self.write("src/app/Model.h")
+        self.write("src/devices/Table.cpp", "// text", '#include "app/Model.h"')
+        self.assert_only_problem("src/devices/Table.cpp:2: devices must not include app")
+
+    def test_refuses_a_seams_implementation_outside_main(self):
+        self.write("src/platform/linux/Netlink.h")
+        self.write("src/main.cpp", '#include "platform/linux/Netlink.h"')
+        self.write("tests/integration/NetlinkTest.cpp", '#include "platform/linux/Netlink.h"')
+        self.write("src/app/Platform.h", '#include "platform/linux/Netlink.h"')
+        self.assert_only_problem("src/app/Platform.h:1: app must not include platform/linux")
+
+    def test_refuses_rooms_in_the_helper(self):
+        self.write("contract/Names.h")
+        self.write("helper/main.cpp", '#include "contract/Names.h"', '#include "base/Error.h"')
+        self.assert_only_problem("helper/main.cpp:2: helper must not include base")
+
+    def test_refuses_qt_in_the_helper(self):
+        self.write("helper/main.cpp", "#include <QtCore/QString>")
+        self.assert_only_problem("helper/main.cpp:1: helper must not use QtCore")
+
+    def test_refuses_the_contract_above_the_platform(self):
+        self.write("contract/Names.h")
+        self.write("src/app/Model.cpp", '#include "contract/Names.h"')
+        self.assert_only_problem("src/app/Model.cpp:1: app must not include contract")
+
+    def test_refuses_widgets_below_the_user_interface(self):
+        self.write("src/app/Model.cpp", "#include <QObject>", "#include <QWidget>")
+        self.assert_only_problem("src/app/Model.cpp:2: app must not use QtWidgets")
+
+    def test_refuses_d_bus_in_a_feature(self):
+        self.write("src/XPCMethods.cpp", "#include <QDBusConnection>")
+        self.assert_only_problem("src/XPCMethods.cpp:1: XPCMethods must not use QtDBus")
+
+    def test_refuses_a_circle_within_a_room(self):
+        self.write("src/app/One.h", '#include "app/Two.h"')
+        self.write("src/app/Two.h", '#include "Three.h"')
+        self.write("src/app/Three.h", "", '#include "app/One.h"')
+        self.assert_only_problem("src/app/Three.h:2: includes src/app/One.h, which includes it")
+
+    def test_refuses_a_room_that_the_table_does_not_know(self):
+        self.write("src/utilities/Strings.h", '#include "base/Error.h"')
+        self.assert_only_problem("src/utilities/Strings.h:1: the room utilities is not in the table")
+
+    def test_refuses_a_file_that_does_not_exist(self):
+        self.write("src/app/Model.cpp", '#include "app/Missing.h"')
+        self.assert_only_problem('src/app/Model.cpp:1: "app/Missing.h" is not a file of ours')
+
+    def test_refuses_real_time_outside_the_platform(self):
+        self.write("src/app/Model.cpp", "// a QTimer would be wrong here", "",
+                   "auto now = QDateTime::currentDateTimeUtc();")
+        self.write("src/platform/qt/QtScheduler.cpp", "QTimer timer;")
+        self.assert_only_problem("src/app/Model.cpp:3: currentDateTimeUtc: use platform/Scheduler.h")
+
+    def test_refuses_threads_in_a_feature(self):
+        self.write("src/devices/Table.cpp", "std::thread worker;")
+        self.assert_only_problem("src/devices/Table.cpp:1: std::thread: use platform/Scheduler.h")
+
+    def test_refuses_a_folder_without_sources(self):
+        os.remove(os.path.join(self.folder.name, "src/base/Error.h"))
+        self.assert_only_problem("no sources in")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/PropertyList.h"
+
+#include <QDateTime>
+#include <QPoint>
+#include <QTimeZone>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace quillon {
+namespace {
+
+const QDateTime noon = QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
+
+QVariant nested(int levels)
+{
+    QVariant value = 1;
+    for (int level = 0; level < levels; ++level) {
+        value = QVariantList{value};
+    }
+    return value;
+}
+
+TEST(PropertyList, KnowsTheTypeOfEveryKindOfValue)
+{
+    EXPECT_EQ(propertyListType(true), PropertyListType::Boolean);
+    EXPECT_EQ(propertyListType(1), PropertyListType::Integer);
+    EXPECT_EQ(propertyListType(1U), PropertyListType::Integer);
+    EXPECT_EQ(propertyListType(1LL), PropertyListType::Integer);
+    EXPECT_EQ(propertyListType(1.5F), PropertyListType::Real);
+    EXPECT_EQ(propertyListType(1.5), PropertyListType::Real);
+    EXPECT_EQ(propertyListType(QStringLiteral("text")), PropertyListType::String);
+    EXPECT_EQ(propertyListType(noon), PropertyListType::Date);
+    EXPECT_EQ(propertyListType(QByteArray("\0\1", 2)), PropertyListType::Data);
+    EXPECT_EQ(propertyListType(QVariantList()), PropertyListType::Array);
+    EXPECT_EQ(propertyListType(QStringList()), PropertyListType::Array);
+    EXPECT_EQ(propertyListType(QVariantMap()), PropertyListType::Dictionary);
+}
+
+TEST(PropertyList, OtherValuesHaveNoType)
+{
+    EXPECT_FALSE(propertyListType(QVariant()));
+    EXPECT_FALSE(propertyListType(QPoint(1, 2)));
+    EXPECT_FALSE(propertyListType(QDateTime()));
+    EXPECT_FALSE(propertyListType(noon.addYears(8000)))
+        << "a date of five-figure year has no text form";
+    EXPECT_FALSE(isPropertyList(QVariant()));
+}
+
+TEST(PropertyList, ContainersMustHoldPropertyListDataThroughout)
+{
+    EXPECT_TRUE(isPropertyList(QVariantList{1, QVariantMap{{QStringLiteral("a"), 2.5}}}));
+    EXPECT_FALSE(isPropertyList(QVariantList{1, QVariantMap{{QStringLiteral("a"), QPoint()}}}));
+    EXPECT_FALSE(isPropertyList(QVariantList{QVariant()}));
+}
+
+TEST(PropertyList, NestsToTheLimitAndNoDeeper)
+{
+    EXPECT_TRUE(isPropertyList(nested(propertyListDepthLimit)));
+    EXPECT_FALSE(isPropertyList(nested(propertyListDepthLimit + 1)));
+}
+
+TEST(PropertyList, NormalisedNumbersHaveOneTypeEach)
+{
+    const QVariantMap map =
+        normalizedPropertyList(QVariantMap{{QStringLiteral("list"), QVariantList{7, 7U, 1.5F}}})
+            .toMap();
+    const QVariantList list = map.value(QStringLiteral("list")).toList();
+    EXPECT_EQ(list.at(0).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(list.at(1).typeId(), QMetaType::LongLong);
+    EXPECT_EQ(list.at(2).typeId(), QMetaType::Double);
+}
+
+TEST(PropertyList, NormalisedDatesAreWholeSecondsInUtc)
+{
+    const QDateTime local(QDate(2026, 3, 1), QTime(13, 0, 0, 750), Qt::OffsetFromUTC, 3600);
+    const QDateTime normalised = normalizedPropertyList(local).toDateTime();
+    EXPECT_EQ(normalised.toMSecsSinceEpoch(), noon.toMSecsSinceEpoch());
+    EXPECT_EQ(normalised.timeSpec(), Qt::UTC);
+    const QDateTime before1970 = QDateTime::fromMSecsSinceEpoch(-500, Qt::UTC);
+    EXPECT_EQ(normalizedPropertyList(before1970).toDateTime().toMSecsSinceEpoch(), -1000);
+}
+
+TEST(PropertyList, CharactersThatAFileCannotCarryAreReplaced)
+{
+    const QString kept = QString::fromUtf8("tab\t line\n return\r  é 漢 😀");
+    EXPECT_EQ(normalizedPropertyList(kept).toString(), kept);
+    const QChar replacement = QChar::ReplacementCharacter;
+    EXPECT_EQ(normalizedPropertyList(QString::fromLatin1("a\0b\x07", 4)).toString(),
+        QStringLiteral("a") + replacement + QStringLiteral("b") + replacement);
+    const QString loneHalves = QString(QChar(0xD83D)) + QStringLiteral("x") + QChar(0xDE00);
+    EXPECT_EQ(normalizedPropertyList(loneHalves).toString(),
+        QString(replacement) + QStringLiteral("x") + replacement);
+    const QString noncharacter = QString(QChar(0xFFFE));
+    EXPECT_EQ(normalizedPropertyList(noncharacter).toString(), QString(replacement));
+    const QVariantMap map =
+        normalizedPropertyList(QVariantMap{{QStringLiteral("\x01"), 1}}).toMap();
+    EXPECT_EQ(map.firstKey(), QString(replacement));
+}
+
+TEST(PropertyList, SameMeansTheSameTypeAndValueThroughout)
+{
+    EXPECT_TRUE(isSamePropertyList(QVariant(), QVariant()));
+    EXPECT_FALSE(isSamePropertyList(QVariant(), false));
+    EXPECT_TRUE(isSamePropertyList(1LL, 1LL));
+    EXPECT_FALSE(isSamePropertyList(1LL, true));
+    EXPECT_FALSE(isSamePropertyList(1LL, 1.0));
+    EXPECT_FALSE(isSamePropertyList(QStringLiteral("1"), 1LL));
+    EXPECT_FALSE(isSamePropertyList(QStringLiteral("a"), QByteArray("a")));
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_TRUE(isSamePropertyList(nan, nan));
+    const QVariantMap one{{QStringLiteral("list"), QVariantList{1LL, nan}}};
+    const QVariantMap longer{{QStringLiteral("list"), QVariantList{1LL, nan, nan}}};
+    const QVariantMap otherKey{{QStringLiteral("liste"), QVariantList{1LL, nan}}};
+    const QVariantMap otherType{{QStringLiteral("list"), QVariantList{true, nan}}};
+    EXPECT_TRUE(isSamePropertyList(one, QVariantMap(one)));
+    EXPECT_FALSE(isSamePropertyList(one, longer));
+    EXPECT_FALSE(isSamePropertyList(longer, one));
+    EXPECT_FALSE(isSamePropertyList(one, otherKey));
+    EXPECT_FALSE(isSamePropertyList(one, otherType));
+}
+
+} // namespace
+} // namespace quillon

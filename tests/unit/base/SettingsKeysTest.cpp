@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/SettingsKeys.h"
+
+#include <QSet>
+#include <gtest/gtest.h>
+
+namespace quillon {
+namespace {
+
+TEST(SettingsKeys, EveryKeyIsInTheTableOnce)
+{
+    QSet<QString> names;
+    for (const keys::Entry &entry : keys::all()) {
+        EXPECT_FALSE(names.contains(entry.name)) << entry.name.toStdString();
+        names.insert(entry.name);
+    }
+    EXPECT_EQ(names.size(), 33);
+}
+
+TEST(SettingsKeys, OnlyValuesOfThePlatformHaveNoFixedType)
+{
+    QSet<QString> untyped;
+    for (const keys::Entry &entry : keys::all()) {
+        if (!entry.type) {
+            untyped.insert(entry.name);
+        }
+    }
+    EXPECT_EQ(
+        untyped, QSet<QString>({keys::showKeyCombo, keys::randomKeyCombo, keys::iCloudToken}));
+}
+
+TEST(SettingsKeys, AKeyIsStoredUnderItsOwnName)
+{
+    EXPECT_EQ(keys::deviceDict, QStringLiteral("deviceDict"));
+    EXPECT_EQ(keys::lowerCaseHEX, QStringLiteral("lowerCaseHEX"));
+    EXPECT_EQ(keys::SUFeedURL, QStringLiteral("SUFeedURL"));
+}
+
+} // namespace
+} // namespace quillon
