@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Scheduler.h"
+#include "platform/SettingsProblem.h"
+#include "platform/SettingsStore.h"
+
+#include <memory>
+
+namespace quillon {
+
+class FileWatch;
+
+/// The settings in one property-list file, which is replaced whole, at one stroke. Where this
+/// process and another program changed different keys, both stand; where they changed the same one,
+/// what was set here since the last flush wins. Keys that nobody here knows are kept.
+///
+/// A write reaches the file within a moment, at synchronize(), and when the store is destroyed. No
+/// value is lost to a failing file: it stays in memory and goes out with the next flush that
+/// succeeds. A file that disappears while the program runs is written again.
+///
+/// Made and destroyed on the main thread; safe from every thread in between.
+class PlistSettingsStore : public SettingsStore
+{
+public:
+    /// Reads the file at `path`, which need not be there. `problem` is called on the main thread,
+    /// in a later turn of its loop, once for each problem until it is over.
+    PlistSettingsStore(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem);
+    ~PlistSettingsStore() override;
+
+    QVariant get(const QString &key) const override;
+    void set(const QString &key, const QVariant &value) override;
+    void registerDefaults(const QVariantMap &defaults) override;
+    bool synchronize() override;
+    Token addObserver(const QString &key, Observer observer) override;
+    void removeObserver(Token token) override;
+
+private:
+    class Core;
+
+    std::shared_ptr<Core> m_core; ///< shared with background tasks, which may outlive the store
+    std::unique_ptr<FileWatch> m_watch;
+};
+
+} // namespace quillon

@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeScheduler.h"
+#include "platform/qt/QtScheduler.h"
+
+#include <QEventLoop>
+#include <QStringList>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <future>
+#include <thread>
+#include <vector>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// What a scheduler promises, asked of the fake one with its hands and of the real one with its
+/// loop.
+struct FakeClock
+{
+    test::FakeScheduler scheduler;
+    void pass(std::chrono::milliseconds time) { scheduler.advance(time); }
+};
+
+struct RealClock
+{
+    QtScheduler scheduler;
+    void pass(std::chrono::milliseconds time)
+    {
+        QEventLoop loop;
+        scheduler.onMainAfter(time, [&loop] { loop.quit(); });
+        loop.exec();
+    }
+};
+
+template <typename Clock>
+class SchedulerConformance : public ::testing::Test
+{
+protected:
+    Clock clock;
+    Scheduler &scheduler = clock.scheduler;
+};
+
+using Clocks = ::testing::Types<FakeClock, RealClock>;
+TYPED_TEST_SUITE(SchedulerConformance, Clocks);
+
+TYPED_TEST(SchedulerConformance, TheClockIsUtc)
+{
+    const QDateTime before = this->scheduler.now();
+    EXPECT_EQ(before.timeSpec(), Qt::UTC);
+    this->clock.pass(30ms);
+    EXPECT_GE(before.msecsTo(this->scheduler.now()), 30);
+}
+
+TYPED_TEST(SchedulerConformance, TasksForTheMainThreadRunLaterAndInOrder)
+{
+    QStringList done;
+    this->scheduler.onMain([&] {
+        EXPECT_TRUE(this->scheduler.isMainThread());
+        this->scheduler.onMain([&] { done << QStringLiteral("c"); });
+        done << QStringLiteral("a");
+    });
+    this->scheduler.onMain([&] { done << QStringLiteral("b"); });
+    EXPECT_TRUE(done.isEmpty());
+    this->clock.pass(20ms);
+    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
+}
+
+TYPED_TEST(SchedulerConformance, BackgroundTasksAreOffTheMainThreadAndCanGoBackToIt)
+{
+    bool wentBack = false;
+    std::atomic<bool> ranOnMain = true;
+    this->scheduler.inBackground([&] {
+        ranOnMain = this->scheduler.isMainThread();
+        this->scheduler.onMain([&] { wentBack = this->scheduler.isMainThread(); });
+    });
+    for (int turn = 0; turn < 200 && !wentBack; ++turn) {
+        this->clock.pass(10ms);
+    }
+    EXPECT_TRUE(wentBack);
+    EXPECT_FALSE(ranOnMain);
+}
+
+TYPED_TEST(SchedulerConformance, ADelayedTaskRunsOnceAndNotBeforeItsTime)
+{
+    const QDateTime begin = this->scheduler.now();
+    int runs = 0;
+    this->scheduler.onMainAfter(60ms, [&] {
+        ++runs;
+        EXPECT_TRUE(this->scheduler.isMainThread());
+        EXPECT_GE(begin.msecsTo(this->scheduler.now()), 59);
+    });
+    this->clock.pass(20ms);
+    EXPECT_EQ(runs, 0);
+    this->clock.pass(150ms);
+    EXPECT_EQ(runs, 1);
+}
+
+TYPED_TEST(SchedulerConformance, AShorterDelayComesFirstWhicheverWasGivenFirst)
+{
+    QStringList done;
+    this->scheduler.onMainAfter(80ms, [&] { done << QStringLiteral("long"); });
+    this->scheduler.onMainAfter(5ms, [&] { done << QStringLiteral("short"); });
+    this->clock.pass(150ms);
+    EXPECT_EQ(done.join(u' '), QStringLiteral("short long"));
+}
+
+TYPED_TEST(SchedulerConformance, ACancelledTaskNeverRuns)
+{
+    int runs = 0;
+    const auto delayed = this->scheduler.onMainAfter(10ms, [&] { ++runs; });
+    const auto repeated = this->scheduler.repeat(10ms, [&] { ++runs; });
+    EXPECT_NE(delayed, repeated);
+    this->scheduler.cancel(delayed);
+    this->scheduler.cancel(repeated);
+    this->scheduler.cancel(delayed);
+    this->scheduler.cancel(repeated + 1000);
+    this->clock.pass(60ms);
+    EXPECT_EQ(runs, 0);
+}
+
+TYPED_TEST(SchedulerConformance, ARepeatedTaskComesEveryIntervalFirstAfterOneUntilItCancelsItself)
+{
+    const QDateTime begin = this->scheduler.now();
+    int runs = 0;
+    Scheduler::Token token = 0;
+    token = this->scheduler.repeat(20ms, [&] {
+        ++runs;
+        EXPECT_GE(begin.msecsTo(this->scheduler.now()), 20 * runs - 1);
+        if (runs == 3) {
+            this->scheduler.cancel(token);
+        }
+    });
+    for (int turn = 0; turn < 100 && runs < 3; ++turn) {
+        this->clock.pass(20ms);
+    }
+    this->clock.pass(60ms);
+    EXPECT_EQ(runs, 3);
+}
+
+TYPED_TEST(SchedulerConformance, ATaskMayCancelAnotherThatIsDueAtTheSameTime)
+{
+    int runs = 0;
+    Scheduler::Token first = 0;
+    Scheduler::Token second = 0;
+    first = this->scheduler.onMainAfter(10ms, [&] {
+        ++runs;
+        this->scheduler.cancel(second);
+    });
+    second = this->scheduler.onMainAfter(10ms, [&] {
+        ++runs;
+        this->scheduler.cancel(first);
+    });
+    this->clock.pass(60ms);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST(QtScheduler, ARepeatedTaskAlsoComesWhileItsOwnCallHoldsALoopOpen)
+{
+    RealClock clock;
+    int runs = 0;
+    clock.scheduler.repeat(10ms, [&] {
+        if (++runs == 1) {
+            clock.pass(60ms);
+        }
+    });
+    clock.pass(30ms);
+    EXPECT_GE(runs, 3);
+}
+
+TEST(QtScheduler, TokensCanBeCancelledFromAnotherThread)
+{
+    RealClock clock;
+    int runs = 0;
+    const auto token = clock.scheduler.repeat(20ms, [&] { ++runs; });
+    std::thread([&] { clock.scheduler.cancel(token); }).join();
+    clock.pass(80ms);
+    EXPECT_EQ(runs, 0);
+}
+
+TEST(QtScheduler, TheDelayCountsFromTheCallEvenWhenTheMainThreadIsBusy)
+{
+    RealClock clock;
+    bool ran = false;
+    clock.scheduler.onMainAfter(500ms, [&] { ran = true; });
+    std::this_thread::sleep_for(520ms); // the real clock has no hands
+    clock.pass(50ms);
+    EXPECT_TRUE(ran);
+}
+
+TEST(QtScheduler, ANegativeDelayIsNone)
+{
+    RealClock clock;
+    bool ran = false;
+    clock.scheduler.onMainAfter(-5ms, [&] { ran = true; });
+    EXPECT_FALSE(ran);
+    clock.pass(20ms);
+    EXPECT_TRUE(ran);
+}
+
+TEST(QtScheduler, ADelayOfMonthsIsNotCutShort)
+{
+    RealClock clock;
+    int runs = 0;
+    // In 32 bits this would be 5 milliseconds.
+    constexpr std::chrono::milliseconds sevenWeeks(0x1'0000'0005);
+    clock.scheduler.onMainAfter(sevenWeeks, [&] { ++runs; });
+    clock.scheduler.repeat(sevenWeeks, [&] { ++runs; });
+    clock.pass(50ms);
+    EXPECT_EQ(runs, 0);
+}
+
+TEST(QtScheduler, ShutDownWaitsForWhatHasBegunAndDropsWhatWaits)
+{
+    RealClock clock;
+    std::atomic<bool> finished = false;
+    std::promise<void> begun;
+    std::atomic<int> dropped = 0;
+    clock.scheduler.inBackground([&] {
+        begun.set_value();
+        std::this_thread::sleep_for(50ms);
+        clock.scheduler.inBackground([&] { ++dropped; });
+        clock.scheduler.onMain([&] { ++dropped; });
+        finished = true;
+    });
+    begun.get_future().wait();
+    clock.scheduler.onMain([&] { ++dropped; });
+    clock.scheduler.onMainAfter(1ms, [&] { ++dropped; });
+    clock.scheduler.repeat(1ms, [&] { ++dropped; });
+    clock.scheduler.shutDown();
+    EXPECT_TRUE(finished);
+
+    clock.scheduler.shutDown();
+    clock.scheduler.onMain([&] { ++dropped; });
+    clock.scheduler.onMainAfter(0ms, [&] { ++dropped; });
+    clock.scheduler.inBackground([&] { ++dropped; });
+    RealClock other;
+    other.pass(50ms);
+    EXPECT_EQ(dropped, 0);
+}
+
+TEST(QtScheduler, ManyThreadsMayGiveTasksAtOnce)
+{
+    RealClock clock;
+    int onMain = 0;
+    int delayed = 0;
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([&] {
+            for (int task = 0; task < 100; ++task) {
+                clock.scheduler.onMain([&] { ++onMain; });
+                clock.scheduler.onMainAfter(1ms, [&] { ++delayed; });
+                clock.scheduler.cancel(clock.scheduler.onMainAfter(1ms, [&] { ++delayed; }));
+            }
+        });
+    }
+    for (std::thread &thread : threads) {
+        thread.join();
+    }
+    clock.pass(100ms);
+    EXPECT_EQ(onMain, 400);
+    EXPECT_EQ(delayed, 400);
+}
+
+} // namespace
+} // namespace quillon
