@@ -1,0 +1,30 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The helper's system files in two variants from one source: "packaged" is what the distribution's
+# package brings, "installed" what the helper's own `install` writes (its texts are built into the
+# helper). The package's paths are fixed, whatever prefix this build has, so that a helper that was
+# built elsewhere still recognises a packaged one.
+set(QUILLON_PACKAGED_TOOL "/usr/libexec/quillon4/Quillon4HelperTool" CACHE STRING
+    "Where the distribution's package puts the helper")
+set(QUILLON_PACKAGED_UNIT "/usr/lib/systemd/system/quillon4-helper.service" CACHE STRING
+    "Where the distribution's package puts the helper's unit")
+mark_as_advanced(QUILLON_PACKAGED_TOOL QUILLON_PACKAGED_UNIT)
+set(QUILLON_INSTALLED_TOOL "/usr/local/libexec/quillon4/Quillon4HelperTool")
+
+set(QUILLON_HELPER_FILES "${PROJECT_BINARY_DIR}/data/helper")
+
+function(quillon_helper_files variant QUILLON_HELPER_TOOL QUILLON_HELPER_READ_WRITE_PATHS)
+    set(folder "${QUILLON_HELPER_FILES}/${variant}")
+    foreach(file systemd/quillon4-helper.service dbus/com.orvandel.Quillon4HelperTool.service
+            polkit/com.orvandel.quillon4.policy)
+        get_filename_component(name "${file}" NAME)
+        configure_file("${PROJECT_SOURCE_DIR}/data/${file}.in" "${folder}/${name}" @ONLY)
+    endforeach()
+    configure_file("${PROJECT_SOURCE_DIR}/data/dbus/com.orvandel.Quillon4HelperTool.conf"
+        "${folder}/com.orvandel.Quillon4HelperTool.conf" COPYONLY)
+endfunction()
+
+quillon_helper_files(packaged "${QUILLON_PACKAGED_TOOL}" "# What a package owns the helper never changes.")
+# To remove itself it must remove these entries and, where it made them, the folders around them.
+quillon_helper_files(installed "${QUILLON_INSTALLED_TOOL}"
+    "ReadWritePaths=/usr/local /etc/dbus-1/system.d /etc/systemd/system /usr/share/polkit-1/actions")

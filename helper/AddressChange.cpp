@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helper/AddressChange.h"
+
+#include <cerrno>
+#include <cstring>
+#include <net/if.h>
+#include <net/if_arp.h>
+
+namespace quillon {
+
+namespace {
+
+Outcome changeFailed(const LinkState &link, const char *what, int error)
+{
+    return Refusal{contract::error::changeFailed,
+        link.name + ": " + what + " failed: " + std::strerror(error)};
+}
+
+bool driverWantsItDown(int error)
+{
+    return error == EBUSY || error == EOPNOTSUPP;
+}
+
+} // namespace
+
+AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi)
+{
+    // A Wi-Fi interface has to leave its network, whatever its driver would let pass: going down
+    // leaves.
+    if (deviceIsWiFi && (link.flags & IFF_UP) != 0) {
+        return AddressStrategy::DownSetUp;
+    }
+    return AddressStrategy::Live;
+}
+
+AddressChange::AddressChange(KernelLink &kernel)
+    : m_kernel{kernel}
+{
+}
+
+Outcome AddressChange::change(
+    const std::string &device, const contract::LinkLayerAddress &address, bool deviceIsWiFi)
+{
+    LinkState link;
+    if (auto refusal = find(device, link)) {
+        return refusal;
+    }
+    Outcome refusal;
+    switch (strategyFor(link, deviceIsWiFi)) {
+    case AddressStrategy::Live:
+        refusal = setLive(link, address);
+        break;
+    case AddressStrategy::DownSetUp:
+        refusal = setWhileDown(link, address);
+        break;
+    }
+    return refusal ? refusal : confirm(link, address);
+}
+
+Outcome AddressChange::find(const std::string &device, LinkState &link)
+{
+    // The kernel also finds by alternative names, and a name can move to another interface: from
+    // here on only the index counts, and it must be the index of exactly this name.
+    if (m_kernel.findByName(device, link) != 0 || link.name != device || link.index <= 0) {
+        return Refusal{contract::error::noSuchDevice, "There is no interface " + device + "."};
+    }
+    if (link.type != ARPHRD_ETHER || (link.flags & IFF_LOOPBACK) != 0) {
+        return Refusal{
+            contract::error::unsupportedDevice, device + " is not an Ethernet-like interface."};
+    }
+    return std::nullopt;
+}
+
+Outcome AddressChange::setLive(const LinkState &link, const contract::LinkLayerAddress &address)
+{
+    const int error = m_kernel.setAddress(link.index, address);
+    if (error == 0) {
+        return std::nullopt;
+    }
+    if (driverWantsItDown(error) && (link.flags & IFF_UP) != 0) {
+        return setWhileDown(link, address);
+    }
+    return changeFailed(link, "setting the address", error);
+}
+
+Outcome AddressChange::setWhileDown(
+    const LinkState &link, const contract::LinkLayerAddress &address)
+{
+    LinkConfiguration configuration;
+    if (const int error = m_kernel.readConfiguration(link, configuration); error != 0) {
+        // Without knowing what to put back it would be wrong to take it down.
+        return changeFailed(link, "reading addresses and routes", error);
+    }
+    if (const int error = m_kernel.setUp(link.index, false); error != 0) {
+        return changeFailed(link, "taking the interface down", error);
+    }
+    const int setError = m_kernel.setAddress(link.index, address);
+    // Whatever came of it, the interface goes back to work.
+    const int upError = m_kernel.setUp(link.index, true);
+    const int putBackError = upError == 0 ? m_kernel.putBack(configuration) : 0;
+    if (setError != 0) {
+        return changeFailed(link, "setting the address", setError);
+    }
+    if (upError != 0) {
+        return changeFailed(link, "bringing the interface up", upError);
+    }
+    if (putBackError != 0) {
+        return changeFailed(link, "putting addresses and routes back", putBackError);
+    }
+    return std::nullopt;
+}
+
+Outcome AddressChange::confirm(const LinkState &link, const contract::LinkLayerAddress &address)
+{
+    LinkState now;
+    const int error = m_kernel.findByIndex(link.index, now);
+    if (error != 0 || now.address != address) {
+        return Refusal{contract::error::addressDidNotTake,
+            link.name + " did not take the address " + contract::addressText(address) + "."};
+    }
+    return std::nullopt;
+}
+
+} // namespace quillon

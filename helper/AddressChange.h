@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "helper/KernelLink.h"
+#include "helper/Outcome.h"
+
+#include <string>
+
+namespace quillon {
+
+/// How an address gets onto an interface.
+enum class AddressStrategy
+{
+    /// Set while the interface is up, falling back to the other way where its driver refuses that.
+    Live,
+    /// Take the interface down, set, bring it up, and put its addresses and routes back.
+    DownSetUp,
+};
+
+/// The way for this interface. The one place where it is decided who owns the interface: one that a
+/// network manager manages belongs to that manager and would get its address through it.
+AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi);
+
+/// Changes the link-layer address of one interface. Blocks while the kernel works; requests that
+/// follow each other are therefore never interleaved, on one device or on two.
+class AddressChange
+{
+public:
+    explicit AddressChange(KernelLink &kernel);
+
+    /// `device` and `address` have passed the contract's validation. Errors: NoSuchDevice,
+    /// UnsupportedDevice, ChangeFailed, AddressDidNotTake.
+    Outcome change(
+        const std::string &device, const contract::LinkLayerAddress &address, bool deviceIsWiFi);
+
+private:
+    Outcome find(const std::string &device, LinkState &link);
+    Outcome setLive(const LinkState &link, const contract::LinkLayerAddress &address);
+    Outcome setWhileDown(const LinkState &link, const contract::LinkLayerAddress &address);
+    Outcome confirm(const LinkState &link, const contract::LinkLayerAddress &address);
+
+    KernelLink &m_kernel;
+};
+
+} // namespace quillon

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "helper/KernelLink.h"
+#include "helper/NetlinkSocket.h"
+
+namespace quillon {
+
+/// KernelLink by rtnetlink, in the network namespace of the process. Changing anything needs
+/// CAP_NET_ADMIN.
+class NetlinkKernelLink : public KernelLink
+{
+public:
+    int findByName(const std::string &name, LinkState &state) override;
+    int findByIndex(int index, LinkState &state) override;
+    int setAddress(int index, const contract::LinkLayerAddress &address) override;
+    int setUp(int index, bool up) override;
+    int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override;
+    int putBack(const LinkConfiguration &configuration) override;
+
+private:
+    int find(int index, const std::string &name, LinkState &state);
+    int readTable(int type, const NetlinkSocket::Answer &answer);
+    int create(int type, const LinkConfiguration::Message &message);
+    int createPatiently(const LinkConfiguration::Message &route);
+
+    NetlinkSocket m_socket;
+};
+
+} // namespace quillon

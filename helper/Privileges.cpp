@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helper/Privileges.h"
+
+#include <cap-ng.h>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/close_range.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+// Kernel interface since 6.3; the build machine's headers may be older.
+#ifndef PR_SET_MDWE
+#define PR_SET_MDWE 65
+#define PR_MDWE_REFUSE_EXEC_GAIN 1UL
+#endif
+
+namespace quillon {
+
+namespace {
+
+std::string failure(const char *what)
+{
+    return std::string{what} + ": " + std::strerror(errno);
+}
+
+std::optional<std::string> dropBoundingSet()
+{
+    for (int capability = 0; capability <= CAP_LAST_CAP; ++capability) {
+        const bool bounded = prctl(PR_CAPBSET_READ, capability, 0, 0, 0) == 1;
+        if (capability == CAP_NET_ADMIN || !bounded) {
+            continue;
+        }
+        // EPERM where whoever started us has already taken CAP_SETPCAP: no_new_privs holds anyway.
+        if (prctl(PR_CAPBSET_DROP, capability, 0, 0, 0) != 0 && errno != EPERM) {
+            return failure("cannot narrow the bounding set");
+        }
+    }
+    return std::nullopt;
+}
+
+/// What the kernel says, not what a library believes: CAP_NET_ADMIN in force and nothing beside it.
+bool haveNetworkAdministrationAlone()
+{
+    if (capng_get_caps_process() != 0) {
+        return false;
+    }
+    for (int capability = 0; capability <= CAP_LAST_CAP; ++capability) {
+        const auto number = static_cast<unsigned>(capability);
+        const int wanted = capability == CAP_NET_ADMIN ? 1 : 0;
+        if (capng_have_capability(CAPNG_EFFECTIVE, number) != wanted ||
+            capng_have_capability(CAPNG_PERMITTED, number) != wanted ||
+            capng_have_capability(CAPNG_INHERITABLE, number) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::optional<std::string> dropCapabilities()
+{
+    if (auto problem = dropBoundingSet()) {
+        return problem;
+    }
+    if (prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0) != 0) {
+        return failure("cannot clear the ambient capabilities");
+    }
+    // Under the unit it is so from the start, and its filter knows no capset().
+    if (haveNetworkAdministrationAlone()) {
+        return std::nullopt;
+    }
+    capng_clear(CAPNG_SELECT_CAPS);
+    capng_update(
+        CAPNG_ADD, static_cast<capng_type_t>(CAPNG_EFFECTIVE | CAPNG_PERMITTED), CAP_NET_ADMIN);
+    if (capng_apply(CAPNG_SELECT_CAPS) != 0) {
+        return failure("cannot drop capabilities");
+    }
+    if (!haveNetworkAdministrationAlone()) {
+        return std::string{"the capabilities in force are not CAP_NET_ADMIN alone"};
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> closeInheritedDescriptors()
+{
+    for (int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // A missing standard descriptor would be taken by the next socket, and logs would go there.
+        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor) {
+            return failure("cannot open /dev/null");
+        }
+    }
+    if (close_range(STDERR_FILENO + 1, ~0U, 0) != 0) {
+        return failure("cannot close inherited descriptors");
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::string> keepNetworkAdministrationOnly()
+{
+    // Before libraries read it: the environment is whoever's started us, and could name another
+    // bus.
+    if (clearenv() != 0) {
+        return failure("cannot clear the environment");
+    }
+    umask(0077);
+    if (chdir("/") != 0) {
+        return failure("cannot go to the root folder");
+    }
+    if (auto problem = closeInheritedDescriptors()) {
+        return problem;
+    }
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) {
+        return failure("cannot set no_new_privs");
+    }
+    if (prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) != 0) {
+        return failure("cannot forbid dumps");
+    }
+    // Not on kernels before 6.3, where the unit's filter does it.
+    prctl(PR_SET_MDWE, PR_MDWE_REFUSE_EXEC_GAIN, 0UL, 0UL, 0UL);
+    return dropCapabilities();
+}
+
+} // namespace quillon

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace quillon {
+
+/// Gives up, for good, everything but CAP_NET_ADMIN: the other capabilities of every set, the way
+/// to gain any by executing a program (no_new_privs), being traced or dumped, every inherited
+/// descriptor above standard error, and the whole environment. The unit does the same and more;
+/// this holds also where the bus starts the helper without a service manager. Before the first byte
+/// is read from outside; returns what failed, and then the process must end.
+std::optional<std::string> keepNetworkAdministrationOnly();
+
+} // namespace quillon

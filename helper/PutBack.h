@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "helper/KernelLink.h"
+
+#include <optional>
+
+struct nlmsghdr;
+
+namespace quillon {
+
+/// From the kernel's tables to the messages that restore an interface's configuration after it was
+/// down: pure functions of messages. A result is a message's body (after its header), ready for
+/// RTM_NEWADDR or RTM_NEWROUTE.
+
+/// None when `message` is not an address of `link`, or one that the kernel makes by itself:
+/// temporary and stable-privacy IPv6 addresses and those formed from the
+/// link-layer address, which would betray the address that was just left.
+std::optional<LinkConfiguration::Message> addressToPutBack(
+    const nlmsghdr *message, const LinkState &link);
+
+/// None when `message` is not a route through `link`, or one that the kernel or the next router
+/// advertisement makes by itself.
+std::optional<LinkConfiguration::Message> routeToPutBack(
+    const nlmsghdr *message, const LinkState &link);
+
+/// Of a result of routeToPutBack().
+bool hasGateway(const LinkConfiguration::Message &route);
+bool hasSourceAddress(const LinkConfiguration::Message &route);
+
+} // namespace quillon

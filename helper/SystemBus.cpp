@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helper/SystemBus.h"
+
+#include "helper/Log.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+
+namespace quillon {
+
+namespace {
+
+constexpr char systemBusAddress[] = "unix:path=/run/dbus/system_bus_socket";
+// The service manager reads every unit again.
+constexpr std::chrono::seconds answerTime{30};
+
+void tell(sdbus::IConnection &connection, const char *name, const char *path, const char *interface,
+    const char *method)
+{
+    try {
+        const auto proxy = sdbus::createProxy(connection, name, path);
+        const auto call = proxy->createMethodCall(interface, method);
+        proxy->callMethod(call, answerTime);
+    } catch (const sdbus::Error &error) {
+        logLine(std::string{method} + " of " + name + ": " + harmless(error.getName()));
+    }
+}
+
+bool isThere(sdbus::IConnection &connection, const std::string &name)
+{
+    try {
+        const auto proxy =
+            sdbus::createProxy(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus");
+        auto call = proxy->createMethodCall("org.freedesktop.DBus", "NameHasOwner");
+        call << name;
+        auto reply = proxy->callMethod(call, answerTime);
+        bool owned = false;
+        reply >> owned;
+        return owned;
+    } catch (const sdbus::Error &) {
+        return false;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<sdbus::IConnection> connectToSystemBus()
+{
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", systemBusAddress, 1);
+    return sdbus::createSystemBusConnection();
+}
+
+void announceChangedFiles(sdbus::IConnection &connection)
+{
+    tell(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "ReloadConfig");
+    // Asking would start it, where the bus knows how to.
+    if (isThere(connection, "org.freedesktop.systemd1")) {
+        tell(connection, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
+            "org.freedesktop.systemd1.Manager", "Reload");
+    }
+}
+
+} // namespace quillon

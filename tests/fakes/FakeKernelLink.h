@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "helper/KernelLink.h"
+
+#include <cerrno>
+#include <map>
+#include <net/if.h>
+#include <net/if_arp.h>
+#include <string>
+#include <vector>
+
+namespace quillon::test {
+
+/// A kernel with interfaces that can be made to behave like different drivers. Going down loses the
+/// configuration, as in the real one.
+class FakeKernelLink : public KernelLink
+{
+public:
+    struct Interface
+    {
+        LinkState state;
+        /// Refuse a new address while up, with this errno value.
+        int refusesWhileUp = 0;
+        /// Refuse it always.
+        int refusesAlways = 0;
+        /// Says yes and keeps the old one.
+        bool ignoresAddress = false;
+        /// Is gone as soon as it has its address.
+        bool vanishesAfterwards = false;
+        LinkConfiguration configuration;
+    };
+
+    Interface &add(const std::string &name, unsigned flags = IFF_UP, unsigned type = ARPHRD_ETHER)
+    {
+        auto &interface = m_interfaces[++m_last];
+        interface.state = {m_last, name, type, flags, {2, 0, 0, 0, 0, 1}};
+        return interface;
+    }
+
+    int findByName(const std::string &name, LinkState &state) override
+    {
+        for (const auto &[index, interface] : m_interfaces) {
+            if (interface.state.name == name || alternativeNames[name] == interface.state.name) {
+                state = interface.state;
+                return 0;
+            }
+        }
+        return ENODEV;
+    }
+    int findByIndex(int index, LinkState &state) override
+    {
+        if (m_interfaces.count(index) == 0) {
+            return ENODEV;
+        }
+        state = m_interfaces[index].state;
+        return 0;
+    }
+    int setAddress(int index, const contract::LinkLayerAddress &address) override
+    {
+        auto &interface = m_interfaces[index];
+        const bool up = (interface.state.flags & IFF_UP) != 0;
+        steps.push_back(up ? "set while up" : "set while down");
+        if (interface.refusesAlways != 0) {
+            return interface.refusesAlways;
+        }
+        if (up && interface.refusesWhileUp != 0) {
+            return interface.refusesWhileUp;
+        }
+        if (!interface.ignoresAddress) {
+            interface.state.address = address;
+        }
+        if (interface.vanishesAfterwards) {
+            m_interfaces.erase(index);
+        }
+        return 0;
+    }
+    int setUp(int index, bool up) override
+    {
+        steps.push_back(up ? "up" : "down");
+        auto &interface = m_interfaces[index];
+        const int failure = up ? failsToComeUp : failsToGoDown;
+        if (failure != 0) {
+            return failure;
+        }
+        interface.state.flags =
+            up ? interface.state.flags | IFF_UP : interface.state.flags & ~unsigned{IFF_UP};
+        if (!up) {
+            interface.configuration = {};
+        }
+        m_lastUp = index;
+        return 0;
+    }
+    int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override
+    {
+        steps.push_back("read");
+        configuration = m_interfaces[link.index].configuration;
+        return failsToRead;
+    }
+    int putBack(const LinkConfiguration &configuration) override
+    {
+        steps.push_back("put back");
+        m_interfaces[m_lastUp].configuration = configuration;
+        return failsToPutBack;
+    }
+
+    Interface &named(const std::string &name)
+    {
+        for (auto &[index, interface] : m_interfaces) {
+            if (interface.state.name == name) {
+                return interface;
+            }
+        }
+        return add(name);
+    }
+
+    std::vector<std::string> steps;
+    std::map<std::string, std::string> alternativeNames;
+    int failsToRead = 0;
+    int failsToGoDown = 0;
+    int failsToComeUp = 0;
+    int failsToPutBack = 0;
+
+private:
+    std::map<int, Interface> m_interfaces;
+    int m_last = 0;
+    int m_lastUp = 0;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/helper/BusClient.h"
+
+#include "contract/Names.h"
+#include "integration/helper/Machine.h"
+
+#include <chrono>
+#include <numeric>
+#include <unistd.h>
+
+namespace quillon::test {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto patience = 20s;
+
+} // namespace
+
+std::unique_ptr<sdbus::IConnection> connectAs(const std::string &user)
+{
+    const auto original = geteuid();
+    if (seteuid(userId(user)) != 0) {
+        return nullptr;
+    }
+    auto connection = sdbus::createSystemBusConnection();
+    // The bus asked the socket who connected; who we are afterwards does not matter to it.
+    return seteuid(original) == 0 ? std::move(connection) : nullptr;
+}
+
+std::vector<std::uint8_t> someAuthorization()
+{
+    std::vector<std::uint8_t> bytes(contract::authorizationSize);
+    std::iota(bytes.begin(), bytes.end(), std::uint8_t{1});
+    return bytes;
+}
+
+BusClient::BusClient(const std::string &user)
+    : m_connection{connectAs(user)}
+    , m_helper{sdbus::createProxy(*m_connection, contract::helperName, contract::helperPath)}
+    , m_bus{sdbus::createProxy(*m_connection, "org.freedesktop.DBus", "/org/freedesktop/DBus")}
+{
+}
+
+BusClient::~BusClient()
+{
+    if (m_loops) {
+        m_connection->leaveEventLoop();
+    }
+}
+
+std::string BusClient::send(sdbus::MethodCall &call)
+{
+    try {
+        auto reply = m_helper->callMethod(call, patience);
+        std::string text = done;
+        if (!reply.isEmpty()) {
+            reply >> text;
+        }
+        return text;
+    } catch (const sdbus::Error &error) {
+        return error.getName();
+    }
+}
+
+std::string BusClient::version()
+{
+    auto call = m_helper->createMethodCall(contract::helperInterface, "GetVersion");
+    return send(call);
+}
+
+std::string BusClient::endpoint()
+{
+    auto call = m_helper->createMethodCall(contract::helperInterface, "ConnectWithEndpoint");
+    return send(call);
+}
+
+std::string BusClient::change(const std::string &device, const std::string &address,
+    bool deviceIsWiFi, const std::vector<std::uint8_t> &authorization)
+{
+    auto call = m_helper->createMethodCall(contract::helperInterface, "ChangeAddressOfDevice");
+    call << device << address << deviceIsWiFi << authorization;
+    return send(call);
+}
+
+std::string BusClient::uninstall(const std::vector<std::uint8_t> &authorization)
+{
+    auto call = m_helper->createMethodCall(contract::helperInterface, "Uninstall");
+    call << authorization;
+    return send(call);
+}
+
+std::string BusClient::call(const std::string &destination, const std::string &path,
+    const std::string &interface, const std::string &method)
+{
+    const auto proxy = sdbus::createProxy(*m_connection, destination, path);
+    try {
+        const auto call = proxy->createMethodCall(interface, method);
+        auto reply = proxy->callMethod(call, patience);
+        std::string text = done;
+        if (!reply.isEmpty()) {
+            reply >> text;
+        }
+        return text;
+    } catch (const sdbus::Error &error) {
+        return error.getName();
+    }
+}
+
+void BusClient::changeLater(const std::string &device, const std::string &address)
+{
+    if (!m_loops) {
+        m_connection->enterEventLoopAsync();
+        m_loops = true;
+    }
+    auto call = m_helper->createMethodCall(contract::helperInterface, "ChangeAddressOfDevice");
+    call << device << address << false << someAuthorization();
+    m_helper->callMethod(
+        call,
+        [this](sdbus::MethodReply &, const sdbus::Error *error) {
+            const std::lock_guard lock{m_mutex};
+            ++m_answers[error == nullptr ? done : error->getName()];
+        },
+        patience);
+}
+
+std::map<std::string, int> BusClient::answers() const
+{
+    const std::lock_guard lock{m_mutex};
+    return m_answers;
+}
+
+bool BusClient::hasOwner(const std::string &name)
+{
+    bool owned = false;
+    m_bus->callMethod("NameHasOwner")
+        .onInterface("org.freedesktop.DBus")
+        .withArguments(name)
+        .storeResultsTo(owned);
+    return owned;
+}
+
+pid_t BusClient::processOf(const std::string &name)
+{
+    std::uint32_t process = 0;
+    m_bus->callMethod("GetConnectionUnixProcessID")
+        .onInterface("org.freedesktop.DBus")
+        .withArguments(name)
+        .storeResultsTo(process);
+    return static_cast<pid_t>(process);
+}
+
+} // namespace quillon::test

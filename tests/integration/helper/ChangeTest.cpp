@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "integration/helper/BusClient.h"
+#include "integration/helper/Machine.h"
+#include "integration/helper/Waiting.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon {
+namespace {
+
+using test::BusClient;
+using test::kernelAddress;
+using test::outputOf;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr char newAddress[] = "02:11:22:33:44:55";
+
+/// Everything of the configuration that a person gave, without what the kernel makes of the
+/// address.
+std::string configuration()
+{
+    return outputOf(
+        "ip -o addr show dev enp1s0 | grep -v ' fe80::.*:fe' | "
+        "sed 's/valid_lft [0-9]*sec/valid_lft some/; s/preferred_lft [0-9]*sec/preferred_lft "
+        "some/';"
+        "ip -4 route show table all dev enp1s0;"
+        "ip -6 route show table all dev enp1s0 | grep -v -e ' fe80::' -e '^fe80::' -e '^anycast' | "
+        "sed 's/expires [0-9]*sec/expires some/' | sort");
+}
+
+class AChange : public testing::Test
+{
+protected:
+    BusClient quillon{"quillon"};
+};
+
+TEST_F(AChange, reachesTheKernel)
+{
+    ASSERT_NE(kernelAddress("enp1s0"), newAddress);
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+}
+
+TEST_F(AChange, takesOneDigitOctets)
+{
+    EXPECT_EQ(quillon.change("enp1s0", "2:1:a:B:0:f"), BusClient::done);
+    EXPECT_EQ(kernelAddress("enp1s0"), "02:01:0a:0b:00:0f");
+}
+
+TEST_F(AChange, worksOnABridgeAndOnAnInterfaceWithoutAddresses)
+{
+    EXPECT_EQ(quillon.change("br0", newAddress), BusClient::done);
+    EXPECT_EQ(kernelAddress("br0"), newAddress);
+    EXPECT_EQ(quillon.change("enp2s0", "02:11:22:33:44:56"), BusClient::done);
+    EXPECT_EQ(kernelAddress("enp2s0"), "02:11:22:33:44:56");
+}
+
+TEST_F(AChange, throughTheEndpointWorksLikeThroughTheName)
+{
+    const auto endpoint = quillon.endpoint();
+    EXPECT_EQ(quillon.call(endpoint, contract::helperPath, contract::helperInterface, "GetVersion"),
+        "2.0");
+}
+
+TEST_F(AChange, ofAWiFiInterfacePutsAddressesAndRoutesBack)
+{
+    outputOf(
+        "ip addr add 198.51.100.7/24 dev enp1s0 label enp1s0:1 valid_lft 4000 preferred_lft 3000;"
+        "ip addr add 203.0.113.1 peer 203.0.113.2/32 dev enp1s0;"
+        "ip -6 addr add fd00:db8:1::5/64 dev enp1s0 valid_lft 4000 preferred_lft 0;"
+        "ip -6 addr add fd00:db8:2::5/64 dev enp1s0 noprefixroute nodad;"
+        "ip -6 addr add fe80::1234/64 dev enp1s0 nodad;"
+        "ip route add 198.18.0.0/24 via 192.0.2.1 dev enp1s0 metric 77 mtu 1400;"
+        "ip route add 198.18.1.0/24 dev enp1s0 scope link src 198.51.100.7;"
+        "ip route add default via 192.0.2.1 dev enp1s0 table 100;"
+        "ip route add 198.18.2.0/24 via 10.9.9.9 dev enp1s0 onlink;"
+        "ip route add blackhole 198.18.3.0/24;"
+        "ip -6 route add fd00:db8:3::/64 via fd00:db8::1 dev enp1s0 metric 300 pref high;"
+        "ip -6 route add fd00:db8:4::/64 dev enp1s0 expires 4000;"
+        "ip -6 route add default via fd00:db8::1 dev enp1s0 table 100");
+    // Duplicate address detection of the sandbox's own address must be over: its state is shown.
+    ASSERT_TRUE(test::waitUntil([] {
+        return outputOf("ip -6 addr show dev enp1s0").find("tentative") == std::string::npos;
+    }));
+    const auto before = configuration();
+    ASSERT_THAT(before, HasSubstr("198.18.2.0/24"));
+
+    EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
+
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+    ASSERT_TRUE(test::waitUntil([] {
+        return outputOf("ip -6 addr show dev enp1s0").find("tentative") == std::string::npos;
+    }));
+    EXPECT_EQ(configuration(), before);
+    EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), HasSubstr("fe80::11:22ff:fe33:4455"));
+}
+
+TEST_F(AChange, waitsForASourceAddressThatIsStillBeingChecked)
+{
+    outputOf(
+        "ip -6 route add fd00:db8:5::/64 via fd00:db8::1 dev enp1s0 src fd00:db8::10 2>/dev/null ||"
+        "(sleep 2; ip -6 route add fd00:db8:5::/64 via fd00:db8::1 dev enp1s0 src fd00:db8::10)");
+    EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
+    EXPECT_THAT(outputOf("ip -6 route show dev enp1s0"),
+        HasSubstr("fd00:db8:5::/64 via fd00:db8::1 src fd00:db8::10"));
+}
+
+TEST_F(AChange, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
+{
+    const auto old = outputOf("ip -6 addr show dev enp1s0 scope link");
+    ASSERT_THAT(old, HasSubstr("fe80::200:5eff:fe00:5301"));
+    EXPECT_EQ(quillon.change("enp1s0", "02:00:00:00:00:77"), BusClient::done);
+    EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
+    EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), Not(HasSubstr("fe80::200:5eff:fe00:5301")));
+}
+
+TEST_F(AChange, thatTheDriverRefusesLeavesTheInterfaceAtWork)
+{
+    outputOf("ip link add ifb9 type ifb && ip addr add 198.51.100.9/24 dev ifb9 && ip link set "
+             "ifb9 up &&"
+             "ip route add 198.18.9.0/24 via 198.51.100.1 dev ifb9");
+    const auto before = kernelAddress("ifb9");
+    EXPECT_EQ(quillon.change("ifb9", newAddress), contract::error::changeFailed.name);
+    EXPECT_EQ(kernelAddress("ifb9"), before);
+    EXPECT_THAT(outputOf("ip addr show dev ifb9"), HasSubstr(",UP"));
+    EXPECT_THAT(outputOf("ip addr show dev ifb9"), HasSubstr("198.51.100.9/24"));
+    EXPECT_THAT(outputOf("ip route show dev ifb9"), HasSubstr("198.18.9.0/24 via 198.51.100.1"));
+}
+
+TEST_F(AChange, needsAnInterfaceThatIsThereAndSuitable)
+{
+    outputOf("ip link add link enp2s0 name mv0 type macvlan 2>/dev/null; ip link property add dev "
+             "enp1s0 altname lan0");
+    EXPECT_EQ(quillon.change("enp9s0", newAddress), contract::error::noSuchDevice.name);
+    EXPECT_EQ(quillon.change("lan0", newAddress), contract::error::noSuchDevice.name);
+    EXPECT_EQ(quillon.change("lo", newAddress), contract::error::unsupportedDevice.name);
+    EXPECT_NE(kernelAddress("enp1s0"), newAddress);
+}
+
+TEST_F(AChange, ofManyAtOnceLeavesOneOfTheAddressesAndAllRoutes)
+{
+    const auto routes = outputOf("ip route show dev enp1s0");
+    std::vector<std::unique_ptr<BusClient>> clients;
+    for (int i = 0; i < 2; ++i) {
+        clients.push_back(std::make_unique<BusClient>("quillon"));
+        for (int j = 0; j < 4; ++j) {
+            clients.back()->changeLater(
+                "enp1s0", "02:00:00:00:0" + std::to_string(i) + ":0" + std::to_string(j));
+        }
+    }
+    for (const auto &client : clients) {
+        EXPECT_TRUE(test::waitUntil([&] { return client->answers()[BusClient::done] == 4; }));
+    }
+    EXPECT_THAT(kernelAddress("enp1s0"), HasSubstr("02:00:00:00:0"));
+    EXPECT_EQ(outputOf("ip route show dev enp1s0"), routes);
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "integration/helper/BusClient.h"
+#include "integration/helper/FakePolkit.h"
+#include "integration/helper/Machine.h"
+#include "integration/helper/Waiting.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon {
+namespace {
+
+using test::builtTool;
+using test::BusClient;
+using test::installedThings;
+using test::outputOf;
+using test::run;
+using test::waitUntil;
+using testing::Contains;
+using testing::HasSubstr;
+
+/// The sandbox has installed the helper; these tests begin without it.
+class AnInstallationOfTheSystem : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const auto folders = outputOf("grep ^/ /usr/local/libexec/quillon4/folders");
+        outputOf(builtTool() + " uninstall");
+        // Otherwise what is "clean" here would not be.
+        EXPECT_EQ(outputOf("ls -d $(echo '" + folders + "') 2>/dev/null || true"), "");
+        clean = installedThings();
+    }
+
+    std::vector<std::string> clean;
+};
+
+TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedByHand)
+{
+    outputOf(builtTool() + " install");
+    EXPECT_NE(installedThings(), clean);
+    outputOf(builtTool() + " uninstall");
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedOverTheBus)
+{
+    outputOf(builtTool() + " install");
+    BusClient administrator{"root"};
+    ASSERT_EQ(administrator.version(), "2.0");
+    const auto helper = administrator.processOf(contract::helperName);
+    EXPECT_EQ(administrator.uninstall(), BusClient::done);
+    EXPECT_TRUE(waitUntil([&] { return !administrator.hasOwner(contract::helperName); }));
+    EXPECT_TRUE(
+        waitUntil([&] { return run("test -e /proc/" + std::to_string(helper)).exitCode != 0; }));
+    EXPECT_EQ(installedThings(), clean);
+    EXPECT_EQ(administrator.version(), "org.freedesktop.DBus.Error.ServiceUnknown");
+}
+
+TEST_F(AnInstallationOfTheSystem, isUsableAtOnce)
+{
+    outputOf(builtTool() + " install");
+    BusClient quillon{"quillon"};
+    EXPECT_EQ(quillon.version(), "2.0");
+    // polkit notices its new action by itself, some milliseconds later.
+    EXPECT_TRUE(waitUntil(
+        [&] { return quillon.change("enp1s0", "02:11:22:33:44:55") == BusClient::done; }));
+}
+
+TEST_F(AnInstallationOfTheSystem, overAnOlderOneLetsTheRunningHelperFinish)
+{
+    outputOf(builtTool() + " install");
+    BusClient quillon{"quillon"};
+    ASSERT_EQ(quillon.version(), "2.0");
+    const auto helper = quillon.processOf(contract::helperName);
+    outputOf(builtTool() + " install");
+    EXPECT_EQ(quillon.version(), "2.0");
+    EXPECT_EQ(quillon.processOf(contract::helperName), helper);
+    outputOf(builtTool() + " uninstall");
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(AnInstallationOfTheSystem, copiesTheProgramThatRunsAndNotWhatLiesInItsPlace)
+{
+    outputOf("cp " + builtTool() + " /tmp/tool");
+    // The file is exchanged after the start: the shell holds the old one open and executes it.
+    outputOf("exec 9</tmp/tool; rm /tmp/tool; echo evil >/tmp/tool; /proc/self/fd/9 install");
+    EXPECT_EQ(outputOf("cmp " + builtTool() + ' ' + test::installedTool), "");
+}
+
+TEST_F(AnInstallationOfTheSystem, isRefusedToOrdinaryUsers)
+{
+    EXPECT_EQ(run("runuser -u mallory -- " + builtTool() + " install").exitCode, 3);
+    EXPECT_EQ(run("runuser -u mallory -- " + builtTool() + " uninstall").exitCode, 3);
+    EXPECT_EQ(run("runuser -u mallory -- " + builtTool()).exitCode, 3);
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(AnInstallationOfTheSystem, acceptsNoPathAndNoOption)
+{
+    for (const char *arguments : {"install /tmp", "--install", "install --prefix=/tmp", "/tmp",
+             "''", "--help", "uninstall install", "serve"}) {
+        EXPECT_EQ(run(builtTool() + ' ' + arguments).exitCode, 2) << arguments;
+    }
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(AnInstallationOfTheSystem, goesIntoNoFolderThatAnOrdinaryUserControls)
+{
+    const struct
+    {
+        const char *preparation;
+        const char *complaint;
+        const char *undo;
+    } cases[] = {
+        {"install -d -o mallory /usr/local/libexec", "belongs to another user",
+            "rmdir /usr/local/libexec"},
+        {"install -d -m 0777 /usr/local/libexec", "writable by other users",
+            "rmdir /usr/local/libexec"},
+        {"install -d -o mallory /home/mallory/x; ln -s /home/mallory/x /usr/local/libexec",
+            "symbolic links are not followed", "rm /usr/local/libexec; rmdir /home/mallory/x"},
+        {"chown mallory /etc/dbus-1/system.d", "belongs to another user",
+            "chown root /etc/dbus-1/system.d"},
+        {"ln -s /home/mallory/p /usr/share/polkit-1/actions/com.orvandel.quillon4.policy",
+            "refusing to replace it",
+            "rm /usr/share/polkit-1/actions/com.orvandel.quillon4.policy"},
+    };
+    for (const auto &attempt : cases) {
+        outputOf(attempt.preparation);
+        const auto prepared = installedThings();
+        const auto result = run(builtTool() + " install");
+        EXPECT_EQ(result.exitCode, 1) << attempt.preparation;
+        EXPECT_THAT(result.output, HasSubstr(attempt.complaint)) << attempt.preparation;
+        EXPECT_EQ(installedThings(), prepared) << attempt.preparation;
+        outputOf(attempt.undo);
+        EXPECT_EQ(installedThings(), clean);
+    }
+}
+
+TEST_F(AnInstallationOfTheSystem, onAReadOnlySystemSaysSoAndChangesNothing)
+{
+    outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
+    clean = installedThings();
+    const auto result = run(builtTool() + " install");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output,
+        HasSubstr("/usr/share/polkit-1/actions/com.orvandel.quillon4.policy.new: Read-only"));
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(AnInstallationOfTheSystem, thatCannotBeRemovedEntirelyStaysEntirely)
+{
+    outputOf(builtTool() + " install");
+    outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
+    const auto installed = installedThings();
+    BusClient administrator{"root"};
+    EXPECT_EQ(administrator.uninstall(), contract::error::uninstallFailed.name);
+    EXPECT_EQ(installedThings(), installed);
+    EXPECT_EQ(administrator.version(), "2.0");
+}
+
+/// As the distribution's package would put it.
+class APackagedHelper : public AnInstallationOfTheSystem
+{
+protected:
+    void SetUp() override
+    {
+        AnInstallationOfTheSystem::SetUp();
+        const auto files = std::string{QUILLON_BUILD} + "/data/helper/packaged/";
+        outputOf("for folder in /usr/libexec /usr/lib/systemd/system; do mount -t tmpfs -o "
+                 "mode=0755 none $folder; done;"
+                 "install -D " +
+                 builtTool() +
+                 " /usr/libexec/quillon4/Quillon4HelperTool;"
+                 "install -m 0644 " +
+                 files +
+                 "quillon4-helper.service /usr/lib/systemd/system/;"
+                 "install -m 0644 " +
+                 files +
+                 "com.orvandel.Quillon4HelperTool.conf /usr/share/dbus-1/system.d/;"
+                 "install -m 0644 " +
+                 files +
+                 "com.orvandel.Quillon4HelperTool.service /usr/share/dbus-1/system-services/;"
+                 "install -m 0644 " +
+                 files + "com.orvandel.quillon4.policy /usr/share/polkit-1/actions/");
+        test::reloadBus();
+        packaged = installedThings();
+    }
+
+    std::vector<std::string> packaged;
+};
+
+TEST_F(APackagedHelper, isNeverRemovedOverTheBus)
+{
+    BusClient administrator{"root"};
+    EXPECT_EQ(administrator.version(), "2.0");
+    EXPECT_EQ(administrator.uninstall(), contract::error::ownedByPackage.name);
+    EXPECT_EQ(administrator.version(), "2.0");
+    EXPECT_EQ(installedThings(), packaged);
+}
+
+TEST_F(APackagedHelper, isNeverRemovedByHand)
+{
+    for (const auto &tool :
+        {builtTool(), std::string{"/usr/libexec/quillon4/Quillon4HelperTool"}}) {
+        const auto result = run(tool + " uninstall");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.output, HasSubstr("remove that package"));
+        EXPECT_EQ(installedThings(), packaged);
+    }
+}
+
+TEST_F(APackagedHelper, removesNothingElseEither)
+{
+    // Left from before the package came.
+    outputOf("install -D " + builtTool() + ' ' + test::installedTool);
+    const auto both = installedThings();
+    EXPECT_EQ(BusClient{"root"}.uninstall(), contract::error::ownedByPackage.name);
+    EXPECT_EQ(installedThings(), both);
+}
+
+TEST_F(APackagedHelper, needsNoInstallation)
+{
+    const auto result = run(builtTool() + " install");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, HasSubstr("package"));
+    EXPECT_EQ(installedThings(), packaged);
+}
+
+} // namespace
+} // namespace quillon

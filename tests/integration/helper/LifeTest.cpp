@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "helper/HelperDaemon.h"
+#include "helper/NetlinkKernelLink.h"
+#include "integration/helper/BusClient.h"
+#include "integration/helper/FakePolkit.h"
+#include "integration/helper/Machine.h"
+#include "integration/helper/Waiting.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <csignal>
+#include <sys/eventfd.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+using test::BusClient;
+using test::FakePolkit;
+using test::kernelAddress;
+using test::outputOf;
+using test::waitUntil;
+using testing::HasSubstr;
+
+constexpr char newAddress[] = "02:11:22:33:44:55";
+
+/// The daemon's class in this process, with an idle period that a test can wait for.
+class ADaemonOfShortPatience : public testing::Test
+{
+protected:
+    ADaemonOfShortPatience()
+        : thread{[this] {
+            daemon.run(stop);
+            ended = true;
+        }}
+    {
+        started = waitUntil([this] { return root.hasOwner(contract::helperName); });
+    }
+    ~ADaemonOfShortPatience() override
+    {
+        eventfd_write(stop, 1);
+        thread.join();
+        close(stop);
+    }
+
+    static constexpr auto idlePeriod = 300ms;
+
+    BusClient root{"root"};
+    BusClient quillon{"quillon"};
+    int stop = eventfd(0, EFD_CLOEXEC);
+    std::unique_ptr<sdbus::IConnection> connection = sdbus::createSystemBusConnection();
+    NetlinkKernelLink kernel;
+    HelperDaemon daemon{*connection, kernel,
+        [] {
+            return Outcome{Refusal{contract::error::ownedByPackage, "package"}};
+        },
+        idlePeriod};
+    std::atomic<bool> ended = false;
+    bool started = false;
+    std::thread thread;
+};
+
+TEST_F(ADaemonOfShortPatience, endsWhenNobodyAsksAnything)
+{
+    ASSERT_TRUE(started);
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_FALSE(root.hasOwner(contract::helperName));
+}
+
+TEST_F(ADaemonOfShortPatience, staysWhileItIsAsked)
+{
+    ASSERT_TRUE(started);
+    for (int i = 0; i < 10; ++i) {
+        std::this_thread::sleep_for(idlePeriod / 4);
+        ASSERT_FALSE(ended.load());
+        ASSERT_EQ(quillon.version(), "2.0");
+    }
+}
+
+TEST_F(ADaemonOfShortPatience, waitsForAPersonWhoThinks)
+{
+    ASSERT_TRUE(started);
+    FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
+    quillon.changeLater("enp1s0", newAddress);
+    std::this_thread::sleep_for(idlePeriod * 2);
+    // Somebody leaves the bus, which wakes the daemon.
+    BusClient{"mallory"};
+    std::this_thread::sleep_for(idlePeriod);
+    EXPECT_FALSE(ended.load());
+    EXPECT_TRUE(root.hasOwner(contract::helperName));
+    polkit.openQuestionsAreGranted();
+    EXPECT_TRUE(waitUntil([this] { return quillon.answers()[BusClient::done] == 1; }));
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+}
+
+TEST_F(ADaemonOfShortPatience, refusesOpenRequestsWhenItIsStopped)
+{
+    ASSERT_TRUE(started);
+    FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
+    quillon.changeLater("enp1s0", newAddress);
+    ASSERT_TRUE(waitUntil([&] { return polkit.questions().size() == 1; }));
+    eventfd_write(stop, 1);
+    EXPECT_TRUE(
+        waitUntil([this] { return quillon.answers()[contract::error::notAuthorized.name] == 1; }));
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_TRUE(waitUntil([&] { return polkit.cancelled().size() == 1; }));
+}
+
+class AHelperProcess : public testing::Test
+{
+protected:
+    BusClient quillon{"quillon"};
+};
+
+TEST_F(AHelperProcess, isStartedByTheFirstCallAndStartsCleanAfterACrash)
+{
+    ASSERT_FALSE(quillon.hasOwner(contract::helperName));
+    ASSERT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    const auto first = quillon.processOf(contract::helperName);
+    kill(first, SIGKILL);
+    ASSERT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
+    EXPECT_EQ(quillon.change("enp1s0", "02:11:22:33:44:66"), BusClient::done);
+    EXPECT_EQ(kernelAddress("enp1s0"), "02:11:22:33:44:66");
+    EXPECT_NE(quillon.processOf(contract::helperName), first);
+}
+
+TEST_F(AHelperProcess, thatIsKilledDuringAPromptAnswersWithAnErrorAndForgetsTheRequest)
+{
+    FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
+    const auto before = kernelAddress("enp1s0");
+    BusClient caller{"quillon"};
+    caller.changeLater("enp1s0", newAddress);
+    ASSERT_TRUE(waitUntil([&] { return polkit.questions().size() == 1; }));
+    kill(quillon.processOf(contract::helperName), SIGKILL);
+    EXPECT_TRUE(waitUntil([&] { return caller.answers().size() == 1; }));
+    EXPECT_EQ(caller.answers().count(BusClient::done), 0U);
+    polkit.openQuestionsAreGranted();
+    EXPECT_EQ(quillon.version(), "2.0");
+    EXPECT_EQ(kernelAddress("enp1s0"), before);
+}
+
+TEST_F(AHelperProcess, endsPolitelyWhenItIsAskedTo)
+{
+    ASSERT_EQ(quillon.version(), "2.0");
+    kill(quillon.processOf(contract::helperName), SIGTERM);
+    EXPECT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
+}
+
+TEST_F(AHelperProcess, holdsOneCapabilityAndCanGainNone)
+{
+    ASSERT_EQ(quillon.version(), "2.0");
+    const auto status = outputOf(
+        "cat /proc/" + std::to_string(quillon.processOf(contract::helperName)) + "/status");
+    for (const char *set : {"CapPrm", "CapEff", "CapBnd"}) {
+        EXPECT_THAT(status, HasSubstr(std::string{set} + ":\t0000000000001000\n"));
+    }
+    for (const char *set : {"CapInh", "CapAmb"}) {
+        EXPECT_THAT(status, HasSubstr(std::string{set} + ":\t0000000000000000\n"));
+    }
+    EXPECT_THAT(status, HasSubstr("NoNewPrivs:\t1\n"));
+}
+
+TEST_F(AHelperProcess, takesNoBusFromItsEnvironment)
+{
+    outputOf("env DBUS_SYSTEM_BUS_ADDRESS=unix:path=/tmp/false-bus "
+             "DBUS_STARTER_ADDRESS=unix:path=/tmp/false-bus " +
+             std::string{test::installedTool} + " >/tmp/helper.log 2>&1 &");
+    ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }));
+    EXPECT_EQ(quillon.version(), "2.0");
+}
+
+TEST_F(AHelperProcess, startsNoOtherProcess)
+{
+    ASSERT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
+    const auto helper = std::to_string(quillon.processOf(contract::helperName));
+    EXPECT_EQ(outputOf("cat /proc/" + helper + "/task/*/children"), "");
+    EXPECT_EQ(outputOf("ls /proc/" + helper + "/task | wc -l"), "1\n");
+}
+
+} // namespace
+} // namespace quillon

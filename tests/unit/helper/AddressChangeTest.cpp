@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helper/AddressChange.h"
+
+#include "tests/fakes/FakeKernelLink.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon {
+namespace {
+
+using test::FakeKernelLink;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr contract::LinkLayerAddress wanted{0x02, 0x11, 0x22, 0x33, 0x44, 0x55};
+
+class AnAddressChange : public testing::Test
+{
+protected:
+    Outcome change(const std::string &device, bool wifi = false)
+    {
+        return AddressChange{kernel}.change(device, wanted, wifi);
+    }
+    static std::string errorOf(const Outcome &outcome)
+    {
+        return outcome ? outcome->error.name : "done";
+    }
+
+    FakeKernelLink kernel;
+};
+
+TEST_F(AnAddressChange, isMadeLiveWhereTheDriverAllows)
+{
+    kernel.add("enp1s0");
+    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_THAT(kernel.steps, ElementsAre("set while up"));
+    EXPECT_EQ(kernel.named("enp1s0").state.address, wanted);
+}
+
+TEST_F(AnAddressChange, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEverythingBack)
+{
+    for (int refusal : {EBUSY, EOPNOTSUPP}) {
+        kernel = {};
+        auto &interface = kernel.add("enp1s0");
+        interface.refusesWhileUp = refusal;
+        interface.configuration = {{{1, 2, 3}}, {{4, 5}, {6}}};
+        EXPECT_EQ(errorOf(change("enp1s0")), "done");
+        EXPECT_THAT(kernel.steps,
+            ElementsAre("set while up", "read", "down", "set while down", "up", "put back"));
+        EXPECT_EQ(interface.state.address, wanted);
+        EXPECT_EQ(interface.configuration.addresses,
+            (std::vector<LinkConfiguration::Message>{{1, 2, 3}}));
+        EXPECT_EQ(
+            interface.configuration.routes, (std::vector<LinkConfiguration::Message>{{4, 5}, {6}}));
+    }
+}
+
+TEST_F(AnAddressChange, ofAWiFiInterfaceLeavesTheNetworkWithoutTryingLive)
+{
+    kernel.add("wlp2s0");
+    EXPECT_EQ(errorOf(change("wlp2s0", true)), "done");
+    EXPECT_THAT(kernel.steps, ElementsAre("read", "down", "set while down", "up", "put back"));
+}
+
+TEST_F(AnAddressChange, leavesAnInterfaceDownThatWasDown)
+{
+    kernel.add("wlp2s0", 0);
+    kernel.add("enp1s0", 0);
+    EXPECT_EQ(errorOf(change("wlp2s0", true)), "done");
+    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_THAT(kernel.steps, ElementsAre("set while down", "set while down"));
+    EXPECT_EQ(kernel.named("enp1s0").state.flags & IFF_UP, 0U);
+}
+
+TEST_F(AnAddressChange, thatFailsWhileDownStillBringsTheInterfaceBack)
+{
+    auto &interface = kernel.add("enp1s0");
+    interface.refusesAlways = EOPNOTSUPP;
+    interface.configuration = {{{1}}, {{2}}};
+    const auto outcome = change("enp1s0");
+    EXPECT_EQ(errorOf(outcome), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps,
+        ElementsAre("set while up", "read", "down", "set while down", "up", "put back"));
+    EXPECT_NE(interface.state.flags & IFF_UP, 0U);
+    EXPECT_EQ(interface.configuration.addresses.size(), 1U);
+}
+
+TEST_F(AnAddressChange, doesNotTakeDownWhatItCouldNotPutBack)
+{
+    kernel.add("enp1s0").refusesWhileUp = EBUSY;
+    kernel.failsToRead = EINTR;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps, ElementsAre("set while up", "read"));
+}
+
+TEST_F(AnAddressChange, saysWhichStepFailed)
+{
+    kernel.add("wlp2s0");
+    kernel.failsToGoDown = EPERM;
+    EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("taking the interface down"));
+    kernel.failsToGoDown = 0;
+    kernel.failsToComeUp = EIO;
+    EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("bringing the interface up"));
+    kernel.failsToComeUp = 0;
+    kernel.named("wlp2s0").state.flags |= IFF_UP;
+    kernel.failsToPutBack = EINVAL;
+    EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("putting addresses and routes back"));
+}
+
+TEST_F(AnAddressChange, isNotRetriedForAnAddressThatTheKernelRefuses)
+{
+    kernel.add("enp1s0").refusesAlways = EADDRNOTAVAIL;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps, ElementsAre("set while up"));
+}
+
+TEST_F(AnAddressChange, isAnErrorUnlessItTook)
+{
+    kernel.add("enp1s0").ignoresAddress = true;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::addressDidNotTake.name);
+}
+
+TEST_F(AnAddressChange, ofAnInterfaceThatVanishesMeanwhileIsAnError)
+{
+    kernel.add("enp1s0").vanishesAfterwards = true;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::addressDidNotTake.name);
+}
+
+TEST_F(AnAddressChange, needsAnInterfaceOfExactlyThisName)
+{
+    kernel.add("enp1s0");
+    kernel.alternativeNames["lan"] = "enp1s0";
+    EXPECT_EQ(errorOf(change("enp9s0")), contract::error::noSuchDevice.name);
+    EXPECT_EQ(errorOf(change("lan")), contract::error::noSuchDevice.name);
+    EXPECT_THAT(kernel.steps, IsEmpty());
+}
+
+TEST_F(AnAddressChange, leavesLoopbackAndOtherKindsOfLinkAlone)
+{
+    kernel.add("lo", IFF_UP | IFF_LOOPBACK, ARPHRD_LOOPBACK);
+    kernel.add("odd", IFF_UP | IFF_LOOPBACK, ARPHRD_ETHER);
+    kernel.add("tun0", IFF_UP, ARPHRD_NONE);
+    kernel.add("ib0", IFF_UP, ARPHRD_INFINIBAND);
+    for (const char *device : {"lo", "odd", "tun0", "ib0"}) {
+        EXPECT_EQ(errorOf(change(device)), contract::error::unsupportedDevice.name) << device;
+    }
+    EXPECT_THAT(kernel.steps, IsEmpty());
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "helper/PrivilegedRequests.h"
+
+#include "tests/fakes/FakeAuthority.h"
+#include "tests/fakes/FakeCallers.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace quillon {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::uint32_t quillonUser = 1000;
+constexpr std::uint32_t malloryUser = 1001;
+
+class APrivilegedRequest : public testing::Test
+{
+protected:
+    APrivilegedRequest() { callers.connections = {{":1.1", quillonUser}, {":1.2", malloryUser}}; }
+
+    void ask(const std::string &caller)
+    {
+        requests.submit({caller, contract::actionChange, {{"device", "enp1s0"}},
+            [this, caller] {
+                carriedOut.push_back(caller);
+                return operationOutcome;
+            },
+            [this](
+                const Outcome &outcome) { answers.push_back(outcome ? outcome->error.code : 0); }});
+    }
+    void connect(const std::string &caller, std::uint32_t user)
+    {
+        callers.connections[caller] = user;
+    }
+    void leave(const std::string &caller)
+    {
+        callers.connections.erase(caller);
+        requests.callerVanished(caller);
+    }
+
+    static constexpr int done = 0;
+    static constexpr int notAuthorized = contract::error::notAuthorized.code;
+    static constexpr int tooMany = contract::error::tooManyRequests.code;
+
+    test::FakeCallers callers;
+    test::FakeAuthority authority;
+    PrivilegedRequests requests{callers, authority, {}};
+    Outcome operationOutcome;
+    std::vector<std::string> carriedOut;
+    std::vector<int> answers;
+};
+
+TEST_F(APrivilegedRequest, isCarriedOutAfterAYes)
+{
+    ask(":1.1");
+    EXPECT_THAT(carriedOut, IsEmpty());
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(carriedOut, ElementsAre(":1.1"));
+    EXPECT_THAT(answers, ElementsAre(done));
+    EXPECT_EQ(requests.waiting(), 0U);
+}
+
+TEST_F(APrivilegedRequest, isDecidedAboutItsSenderAndItsAction)
+{
+    ask(":1.2");
+    EXPECT_EQ(authority.prompts.at(0).caller, ":1.2");
+    EXPECT_EQ(authority.prompts.at(0).action, contract::actionChange);
+}
+
+TEST_F(APrivilegedRequest, isRefusedAfterANo)
+{
+    ask(":1.1");
+    authority.prompts.at(0).answer(false);
+    EXPECT_THAT(carriedOut, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+}
+
+TEST_F(APrivilegedRequest, worksWithAnAuthorityThatAnswersAtOnce)
+{
+    authority.answersAtOnce = true;
+    ask(":1.1");
+    EXPECT_THAT(answers, ElementsAre(done));
+}
+
+TEST_F(APrivilegedRequest, handsTheOperationsErrorOn)
+{
+    operationOutcome = Refusal{contract::error::noSuchDevice, "none"};
+    ask(":1.1");
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(answers, ElementsAre(contract::error::noSuchDevice.code));
+}
+
+TEST_F(APrivilegedRequest, ofACallerWhoLeftDuringThePromptTakesThePromptAway)
+{
+    ask(":1.1");
+    leave(":1.1");
+    EXPECT_THAT(authority.cancelled, ElementsAre(authority.prompts.at(0).check));
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(carriedOut, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+}
+
+TEST_F(APrivilegedRequest, ofACallerWhoseDepartureIsStillOnItsWayIsRefused)
+{
+    ask(":1.1");
+    callers.connections.erase(":1.1");
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(carriedOut, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+}
+
+TEST_F(APrivilegedRequest, ofACallerWhoIsGoneAlreadyAsksNobody)
+{
+    ask(":1.9");
+    EXPECT_THAT(authority.prompts, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+}
+
+TEST_F(APrivilegedRequest, isNotTouchedByAnotherCallersDeparture)
+{
+    ask(":1.1");
+    leave(":1.2");
+    EXPECT_THAT(authority.cancelled, IsEmpty());
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(answers, ElementsAre(done));
+}
+
+TEST_F(APrivilegedRequest, hasANameThatNobodyCanGuess)
+{
+    std::set<std::string> names;
+    for (int i = 0; i < 100; ++i) {
+        ask(":1.1");
+        names.insert(authority.prompts.back().check);
+        authority.prompts.back().answer(false);
+    }
+    EXPECT_EQ(names.size(), 100U);
+    for (const auto &name : names) {
+        EXPECT_EQ(name.size(), std::string{"quillon-"}.size() + 32);
+    }
+}
+
+TEST_F(APrivilegedRequest, answeredTwiceIsCarriedOutOnce)
+{
+    ask(":1.1");
+    ask(":1.1");
+    authority.prompts.at(0).answer(true);
+    authority.prompts.at(0).answer(true);
+    EXPECT_EQ(carriedOut.size(), 1U);
+    EXPECT_EQ(requests.waiting(), 1U);
+}
+
+TEST_F(APrivilegedRequest, isOneOfFourPerCaller)
+{
+    for (int i = 0; i < 5; ++i) {
+        ask(":1.2");
+    }
+    EXPECT_EQ(authority.prompts.size(), 4U);
+    EXPECT_THAT(answers, ElementsAre(tooMany));
+    ask(":1.1");
+    EXPECT_EQ(authority.prompts.size(), 5U);
+}
+
+TEST_F(APrivilegedRequest, isOneOfEightPerUserWhateverHisConnections)
+{
+    for (int i = 10; i < 100; ++i) {
+        connect(":1." + std::to_string(i), malloryUser);
+        ask(":1." + std::to_string(i));
+    }
+    EXPECT_EQ(authority.prompts.size(), 8U);
+    EXPECT_EQ(answers.size(), 82U);
+    ask(":1.1");
+    authority.prompts.back().answer(true);
+    EXPECT_THAT(carriedOut, ElementsAre(":1.1"));
+}
+
+TEST_F(APrivilegedRequest, isOneOfThirtyTwoInAll)
+{
+    for (int i = 10; i < 60; ++i) {
+        connect(":1." + std::to_string(i), 2000U + static_cast<unsigned>(i));
+        ask(":1." + std::to_string(i));
+    }
+    EXPECT_EQ(requests.waiting(), 32U);
+    EXPECT_EQ(answers, std::vector<int>(18, tooMany));
+}
+
+TEST_F(APrivilegedRequest, makesRoomWhenItIsDecided)
+{
+    for (int i = 0; i < 4; ++i) {
+        ask(":1.2");
+    }
+    authority.prompts.at(0).answer(false);
+    ask(":1.2");
+    EXPECT_EQ(authority.prompts.size(), 5U);
+}
+
+TEST_F(APrivilegedRequest, isRefusedWhenTheHelperEnds)
+{
+    ask(":1.1");
+    ask(":1.2");
+    requests.refuseAll();
+    EXPECT_EQ(authority.cancelled.size(), 2U);
+    EXPECT_THAT(answers, ElementsAre(notAuthorized, notAuthorized));
+    EXPECT_EQ(requests.waiting(), 0U);
+}
+
+} // namespace
+} // namespace quillon
