@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "devices/AddressChanger.h"
+
+#include "XPCMethods.h"
+#include "base/Localized.h"
+#include "base/NotificationNames.h"
+#include "base/Notifier.h"
+#include "base/SettingsKeys.h"
+#include "devices/AddressText.h"
+#include "devices/CurrentInterface.h"
+#include "devices/DeviceTable.h"
+#include "devices/MenuItem.h"
+#include "devices/RandomAddress.h"
+#include "platform/NetworkHost.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Scheduler.h"
+#include "platform/SettingsStore.h"
+
+#include <QPointer>
+
+#include <mutex>
+#include <shared_mutex>
+
+namespace quillon {
+
+/// Shared with the work on other threads: whoever holds it shared and finds `alive` may use the
+/// changer.
+struct AddressChanger::Life
+{
+    std::shared_mutex mutex;
+    bool alive = true;
+    std::mutex queueMutex;
+};
+
+namespace {
+
+/// What a menu title says after its separator; the whole title when it has none.
+QString valueInTitle(const MenuItem *item)
+{
+    if (!item) {
+        return {};
+    }
+    const qsizetype separator = item->title().indexOf(titleSeparator);
+    return separator < 0 ? item->title() : item->title().mid(separator + titleSeparator.size());
+}
+
+const MenuItem *itemAboveParent(const MenuItem &sender, int places)
+{
+    return sender.parentItem() ? sender.parentItem()->itemAbove(places) : nullptr;
+}
+
+} // namespace
+
+AddressChanger::AddressChanger(const Collaborators &collaborators)
+    : m_with(collaborators)
+    , m_displayCase(collaborators.settings)
+    , m_life(std::make_shared<Life>())
+{
+}
+
+AddressChanger::~AddressChanger()
+{
+    const std::unique_lock lock(m_life->mutex);
+    m_life->alive = false;
+}
+
+void AddressChanger::randomizeAddress(RandomAddress &random)
+{
+    random.genRandomMacAddressWithVendor(m_with.currentInterface.device());
+}
+
+QString AddressChanger::changeMacAddress(const QString &fieldText)
+{
+    const QString address = m_displayCase.transformedValue(fieldText);
+    updateMacAddressWithAddress(m_with.currentInterface.device(), address);
+    return address;
+}
+
+void AddressChanger::restoreDefaultAddress()
+{
+    const QVariantMap current = m_with.currentInterface.record();
+    updateMacAddressWithAddress(
+        current.value(record::device).toString(), current.value(record::hardware).toString());
+}
+
+void AddressChanger::randomizeAddress(const MenuItem &sender, RandomAddress &random)
+{
+    const QString device = valueInTitle(itemAboveParent(sender, 2));
+    if (m_with.devices.contains(device)) {
+        random.genRandomMacAddressWithVendor(device);
+    }
+}
+
+void AddressChanger::restoreDefaultAddress(const MenuItem &sender)
+{
+    const QString address = valueInTitle(sender.parentItem());
+    const QString device = valueInTitle(itemAboveParent(sender, 1));
+    if (m_with.devices.contains(device) && isStringValidHEX(address)) {
+        updateMacAddressWithAddress(device, address);
+    }
+}
+
+void AddressChanger::updateMacAddressWithAddress(const QString &device, const QString &address)
+{
+    changeAddressQueue().add([this, life = m_life, device, address] {
+        const std::shared_lock lock(life->mutex);
+        if (life->alive) {
+            requestChange(device, address);
+        }
+    });
+}
+
+SerialQueue &AddressChanger::changeAddressQueue()
+{
+    const std::lock_guard lock(m_life->queueMutex);
+    if (!m_changeAddressQueue) {
+        m_changeAddressQueue.emplace(m_with.scheduler);
+    }
+    return *m_changeAddressQueue;
+}
+
+void AddressChanger::requestChange(const QString &requestedDevice, const QString &address)
+{
+    const QString current = m_with.currentInterface.device();
+    const QString device = requestedDevice.isEmpty() ? current : requestedDevice;
+    const QVariantMap record = m_with.devices.record(device);
+    const Request request{
+        .device = device,
+        .isCurrent = device == current,
+        .interface = record.value(record::interface).toString(),
+        .oldAddress = record.value(record::current).toString(),
+        .address = address,
+    };
+    if (record.contains(record::current) && address == request.oldAddress) {
+        tellNotChanged(request.interface, "The new Address and the old Address are identical");
+        return;
+    }
+    m_with.scheduler.onMain([self = QPointer(this), request] {
+        if (self) {
+            self->askHelper(request);
+        }
+    });
+}
+
+void AddressChanger::askHelper(const Request &request)
+{
+    const bool isWifi = request.interface == QLatin1String("Wi-Fi");
+    m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
+        request.device, request.address, isWifi, [this, life = m_life, request](bool success) {
+            const std::shared_lock lock(life->mutex);
+            if (life->alive) {
+                finish(request, success);
+            }
+        });
+}
+
+void AddressChanger::finish(const Request &request, bool success)
+{
+    const InterfaceInfo now = m_with.devices.getInfoForDevice(request.device);
+    if (now.macAddress.isEmpty()) {
+        // The interface has gone: there is nothing true to say about its address.
+        return;
+    }
+    QVariantMap table = m_with.devices.devices();
+    QVariantMap record = table.value(request.device).toMap();
+    record[record::current] = now.macAddress;
+    record[record::ipAddress] = now.ipAddress;
+    record[record::status] = now.status;
+    table[request.device] = record;
+    m_with.settings.set(keys::deviceDict, table);
+    m_with.settings.synchronize();
+    if (request.isCurrent) {
+        m_with.currentInterface.updateCurrentInterfaceDict(request.device);
+    }
+    tellOutcome(request, success, now.macAddress);
+    m_with.currentInterface.updateHexValues();
+}
+
+void AddressChanger::tellOutcome(const Request &request, bool success, const QString &readBack)
+{
+    if (!success) {
+        tellNotChanged(request.interface, "Please make sure you have installed the HelperTool");
+        return;
+    }
+    if (readBack == request.oldAddress) {
+        tellNotChanged(request.interface, "Please make sure your Device is enabled");
+        return;
+    }
+    m_with.notifier.sendNotificationWithBody(
+        filled(localized("%@ Address Changed"), {request.interface}),
+        filled(localized("Your new MAC Address is: %@"), {readBack}));
+    Q_EMIT addressChanged(request.device, request.address);
+    m_with.notifications.post(
+        notifications::addressUpdated, this, {{record::device, request.device}});
+}
+
+void AddressChanger::tellNotChanged(const QString &interface, const char *reason)
+{
+    m_with.notifier.sendNotificationWithBody(
+        filled(localized("%@ Address was not Changed"), {interface}), localized(reason));
+}
+
+} // namespace quillon

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "devices/HexValueTransformer.h"
+#include "platform/SerialQueue.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+namespace quillon {
+
+class CurrentInterface;
+class DeviceTable;
+class MenuItem;
+class NotificationCenter;
+class Notifier;
+class RandomAddress;
+class SettingsStore;
+class XPCMethods;
+
+/// Every change of an address, whoever asks, ends here: it serialises changes, refuses a change to
+/// the address in use, has the helper do it, reads the address back, updates the device table,
+/// tells the user and announces it.
+///
+/// The queue serialises the test and the hand-over to the helper, not the helper's work: a second
+/// change may start before the first one's reply has come.
+class AddressChanger : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Collaborators
+    {
+        SettingsStore &settings;
+        Scheduler &scheduler;
+        NotificationCenter &notifications;
+        Notifier &notifier;
+        XPCMethods &helper;
+        DeviceTable &devices;
+        CurrentInterface &currentInterface;
+    };
+
+    explicit AddressChanger(const Collaborators &collaborators);
+    /// Changes that have not reached the helper are dropped, later replies ignored. Waits for a
+    /// reply that is being handled.
+    ~AddressChanger() override;
+
+    /// Queues one change and returns at once. An empty `device` is the current interface. Any
+    /// thread.
+    void updateMacAddressWithAddress(const QString &device, const QString &address);
+
+    /// The main window's buttons: they act on the current interface.
+    void randomizeAddress(RandomAddress &random);
+    /// Puts `fieldText` into display case, requests it, and returns it for the field.
+    QString changeMacAddress(const QString &fieldText);
+    void restoreDefaultAddress();
+
+    /// The items of a menu's per-interface section: they find their device and address by the
+    /// titles around them, and do nothing when what they find is unknown or malformed.
+    void randomizeAddress(const MenuItem &sender, RandomAddress &random);
+    void restoreDefaultAddress(const MenuItem &sender);
+
+Q_SIGNALS:
+    /// After the user was told of a successful change and before "addressUpdated" is posted; on the
+    /// thread of the helper's reply.
+    void addressChanged(const QString &device, const QString &requestedAddress);
+
+private:
+    /// One change between the test of its address and the helper's reply.
+    struct Request
+    {
+        QString device;
+        bool isCurrent = false;
+        QString interface;
+        QString oldAddress;
+        QString address;
+    };
+    struct Life;
+
+    SerialQueue &changeAddressQueue();
+    void requestChange(const QString &requestedDevice, const QString &address);
+    void askHelper(const Request &request);
+    void finish(const Request &request, bool success);
+    void tellOutcome(const Request &request, bool success, const QString &readBack);
+    void tellNotChanged(const QString &interface, const char *reason);
+
+    Collaborators m_with;
+    HexValueTransformer m_displayCase;
+    std::shared_ptr<Life> m_life;
+    std::optional<SerialQueue> m_changeAddressQueue;
+};
+
+} // namespace quillon

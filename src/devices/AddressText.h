@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// The address-text test. Deliberately loose: six groups separated by ":", one or more characters
+/// in each of the first five and two to four in the last, admitting letters beyond F and some
+/// punctuation.
+bool isStringValidHEX(const QString &text);
+
+} // namespace quillon

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/PropertyList.h"
+
+#include <QObject>
+
+namespace quillon {
+
+class DeviceTable;
+class Scheduler;
+class SettingsStore;
+
+/// The interface that the window and the menu act on: the persisted selection
+/// `currentInterfaceDict`. It says what followed by signals, always on the main thread; the order
+/// in which they are emitted and connected (app/EventWiring) is the order of the follow-ups.
+class CurrentInterface : public QObject
+{
+    Q_OBJECT
+
+public:
+    CurrentInterface(SettingsStore &settings, Scheduler &scheduler, DeviceTable &devices);
+
+    /// The selected device's name, "" before the first selection.
+    QString device() const;
+    QVariantMap record() const;
+    /// Before the first selection ever: selects the Wi-Fi device, else the first device. Otherwise
+    /// nothing. At once, so that the steps of the launch that follow find it. Main thread.
+    void selectInitialDevice();
+
+    /// Makes `device` current; an empty name is ignored.
+    void updateInterface(const QString &device);
+    /// A menu item's title, "label · device".
+    void changeInterface(const QString &menuItemTitle);
+    /// The popup button's selected title, a device name.
+    void changeInterfacefromPopup(const QString &selectedTitle);
+    /// Rebuilds and stores the record, in a later turn of the main loop. A device whose address is
+    /// not valid leaves the previous selection as it is. Any thread.
+    void updateCurrentInterfaceDict(const QString &device);
+    /// Refreshes the current device's record (one that lost its address gets the factory address),
+    /// the selection and the address field. Any thread.
+    void updateHexValues();
+
+Q_SIGNALS:
+    /// updateInterface() has asked for the rebuild.
+    void interfaceSelected(const QString &device);
+    /// A rebuild begins; whatever it finds, the countdown label is out of date.
+    void rebuildStarted();
+    /// The record is stored and flushed; `address` is in display case.
+    void currentInterfaceUpdated(const QString &device, const QString &address);
+    /// updateHexValues() is done: the address field has to be refilled.
+    void hexValuesUpdated();
+
+private:
+    void rebuild(const QString &device);
+
+    SettingsStore &m_settings;
+    Scheduler &m_scheduler;
+    DeviceTable &m_devices;
+};
+
+} // namespace quillon

@@ -1,0 +1,303 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeHelper.h"
+
+#include "fakes/FakeNetworkHost.h"
+#include "fakes/FakeScheduler.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon::test {
+
+namespace {
+
+constexpr int authorizationSize = 32;
+
+Error gone()
+{
+    return {busErrorDomain, 0, QStringLiteral("the peer is gone")};
+}
+
+Error refused(int code)
+{
+    return {QStringLiteral("com.orvandel.Quillon4.Error.NotAuthorized"), code, {}};
+}
+
+} // namespace
+
+/// The states that both kinds of connection share: made, resumed, invalidated.
+class FakeHelper::Link
+{
+public:
+    explicit Link(FakeHelper &peer)
+        : m_peer(peer)
+    {
+    }
+
+    void invalidate()
+    {
+        if (std::exchange(m_state, Invalidated) != Invalidated && m_invalidated) {
+            // A copy: the handler may take itself away while it runs.
+            m_peer.m_scheduler.inBackground([handler = m_invalidated] { handler(); });
+        }
+    }
+
+    /// True when a call may go out; else it ends in its error handler.
+    bool mayCall(const ErrorHandler &errorHandler)
+    {
+        if (m_state != Resumed) {
+            m_peer.answer([errorHandler] { errorHandler(gone()); });
+        }
+        return m_state == Resumed;
+    }
+
+protected:
+    enum State
+    {
+        Made,
+        Resumed,
+        Invalidated,
+    };
+
+    FakeHelper &m_peer;
+    State m_state = Made;
+    std::function<void()> m_invalidated;
+};
+
+class FakeHelper::Service : public XPCServiceConnection, public Link
+{
+public:
+    using Link::Link;
+
+    void setInvalidationHandler(std::function<void()> handler) override
+    {
+        m_invalidated = std::move(handler);
+    }
+    void resume() override { m_state = Resumed; }
+
+    void installHelperToolWithReply(ErrorReply reply, ErrorHandler errorHandler) override
+    {
+        m_peer.m_journal << QStringLiteral("install");
+        if (!reachable(errorHandler)) {
+            return;
+        }
+        if (!m_peer.installFails) {
+            m_peer.installed = true;
+        }
+        const auto error = m_peer.installFails ? std::optional(refused(11)) : std::nullopt;
+        m_peer.answer([reply, error] { reply(error); });
+    }
+
+    void setupAuthorizationRights() override { m_peer.m_journal << QStringLiteral("rights"); }
+
+    void connectWithEndpointAndAuthorizationReply(
+        std::function<void(const std::optional<QString> &, const QByteArray &)> reply,
+        ErrorHandler errorHandler) override
+    {
+        m_peer.m_journal << QStringLiteral("endpoint");
+        if (!reachable(errorHandler)) {
+            return;
+        }
+        std::optional<QString> endpoint;
+        if (m_peer.installed) {
+            endpoint = QStringLiteral(":1.%1").arg(++m_peer.m_endpoints);
+        }
+        // Fresh bytes each time, so that a test sees which ones were used.
+        m_peer.m_givenAuthorization =
+            QByteArray(authorizationSize, static_cast<char>('a' + m_peer.m_endpoints % 26));
+        m_peer.answer(
+            [reply, endpoint, bytes = m_peer.m_givenAuthorization] { reply(endpoint, bytes); });
+    }
+
+private:
+    bool reachable(const ErrorHandler &errorHandler)
+    {
+        if (!mayCall(errorHandler)) {
+            return false;
+        }
+        if (!m_peer.serviceExists) {
+            m_peer.answer([errorHandler] {
+                errorHandler({busErrorDomain, 0, QStringLiteral("no such service")});
+            });
+            return false;
+        }
+        if (m_peer.serviceHangs) {
+            m_peer.hang(errorHandler);
+            return false;
+        }
+        return true;
+    }
+};
+
+class FakeHelper::Tool : public HelperToolConnection, public Link
+{
+public:
+    using Link::Link;
+
+    void setInvalidationHandler(std::function<void()> handler) override
+    {
+        m_invalidated = std::move(handler);
+    }
+    void resume() override { m_state = Resumed; }
+
+    void getVersionWithReply(
+        std::function<void(const QString &)> reply, ErrorHandler errorHandler) override
+    {
+        m_peer.m_journal << QStringLiteral("version");
+        if (listens(errorHandler)) {
+            m_peer.answer([reply, version = m_peer.version] { reply(version); });
+        }
+    }
+
+    void changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(const QString &device,
+        const QString &address, bool deviceIsWiFi, const QByteArray &authorization,
+        ErrorReply reply, ErrorHandler errorHandler) override
+    {
+        m_peer.m_journal << QStringLiteral("change");
+        if (!listens(errorHandler)) {
+            return;
+        }
+        const bool done = m_peer.change({device, address, deviceIsWiFi, authorization});
+        const auto error = done ? std::nullopt : std::optional(refused(1));
+        m_peer.answer([reply, error] { reply(error); });
+    }
+
+    void uninstallWithAuthorizationAndReply(
+        const QByteArray &, ErrorReply reply, ErrorHandler errorHandler) override
+    {
+        m_peer.m_journal << QStringLiteral("uninstall");
+        const bool refusing = m_peer.mood == Mood::Refusing;
+        if (!refusing && m_peer.mood != Mood::Hanging) {
+            m_peer.installed = false;
+        }
+        if (listens(errorHandler)) {
+            const auto error = refusing ? std::optional(refused(1)) : std::nullopt;
+            m_peer.answer([reply, error] { reply(error); });
+        }
+    }
+
+private:
+    bool listens(const ErrorHandler &errorHandler)
+    {
+        if (!mayCall(errorHandler)) {
+            return false;
+        }
+        if (m_peer.mood == Mood::Dropping) {
+            m_peer.answer([errorHandler] { errorHandler(gone()); });
+            invalidate();
+            return false;
+        }
+        if (m_peer.mood == Mood::Hanging) {
+            m_peer.hang(errorHandler);
+            return false;
+        }
+        return true;
+    }
+};
+
+FakeHelper::FakeHelper(FakeScheduler &scheduler, FakeNetworkHost &host)
+    : m_scheduler(scheduler)
+    , m_host(host)
+{
+}
+
+FakeHelper::~FakeHelper() = default;
+
+QByteArray FakeHelper::externalForm()
+{
+    return QByteArray(authorizationSize, 'A');
+}
+
+void FakeHelper::answer(const std::function<void()> &reply)
+{
+    m_scheduler.inBackground([reply, twice = answersTwice] {
+        reply();
+        if (twice) {
+            reply();
+        }
+    });
+}
+
+void FakeHelper::hang(const ErrorHandler &errorHandler)
+{
+    m_hanging.push_back(errorHandler);
+}
+
+bool FakeHelper::change(const Change &change)
+{
+    m_changes.append(change);
+    switch (mood) {
+    case Mood::Refusing:
+        return false;
+    case Mood::Lying:
+        return true;
+    case Mood::Obliging:
+    case Mood::Hanging:
+    case Mood::Dropping:
+        break;
+    }
+    return m_host.giveAddress(change.device, change.address);
+}
+
+void FakeHelper::timeOut()
+{
+    for (const ErrorHandler &errorHandler : std::exchange(m_hanging, {})) {
+        answer([errorHandler] {
+            errorHandler({busErrorDomain, 0, QStringLiteral("no answer in time")});
+        });
+    }
+}
+
+void FakeHelper::dropService()
+{
+    for (const auto &weak : std::exchange(m_services, {})) {
+        if (const auto service = weak.lock()) {
+            service->invalidate();
+        }
+    }
+    timeOut();
+}
+
+void FakeHelper::dropHelper()
+{
+    for (const auto &weak : std::exchange(m_tools, {})) {
+        if (const auto tool = weak.lock()) {
+            tool->invalidate();
+        }
+    }
+    timeOut();
+}
+
+int FakeHelper::liveHelperConnections() const
+{
+    return static_cast<int>(std::count_if(
+        m_tools.begin(), m_tools.end(), [](const auto &weak) { return !weak.expired(); }));
+}
+
+Result<QByteArray> FakeHelper::createAuthorization()
+{
+    m_journal << QStringLiteral("authorize");
+    if (!authorizes) {
+        return Error{posixErrorDomain, 5, QStringLiteral("no random bytes")};
+    }
+    return externalForm();
+}
+
+std::shared_ptr<XPCServiceConnection> FakeHelper::connectToService(const QString &serviceName)
+{
+    m_journal << QStringLiteral("service ") + serviceName;
+    auto service = std::make_shared<Service>(*this);
+    m_services.push_back(service);
+    return service;
+}
+
+std::shared_ptr<HelperToolConnection> FakeHelper::connectToListenerEndpoint(const QString &endpoint)
+{
+    m_journal << QStringLiteral("helper ") + endpoint;
+    auto tool = std::make_shared<Tool>(*this);
+    m_tools.push_back(tool);
+    return tool;
+}
+
+} // namespace quillon::test

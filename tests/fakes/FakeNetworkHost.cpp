@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeNetworkHost.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace quillon::test {
+
+namespace {
+
+auto named(const QString &device)
+{
+    return [device](const FakeNetworkHost::Interface &each) { return each.device == device; };
+}
+
+FakeNetworkHost::Interface described(const QJsonObject &object)
+{
+    return {
+        .port = object.value(QLatin1String("port")).toString(),
+        .device = object.value(QLatin1String("device")).toString(),
+        .factory = object.value(QLatin1String("factory")).toString(),
+        .address = object.value(QLatin1String("address")).toString(),
+        .ipv4 = object.value(QLatin1String("ipv4")).toVariant().toStringList(),
+        .active = object.value(QLatin1String("active")).toBool(true),
+        .keepsAddress = object.value(QLatin1String("keepsAddress")).toBool(false),
+        .broken = object.value(QLatin1String("broken")).toBool(false),
+    };
+}
+
+} // namespace
+
+FakeNetworkHost::FakeNetworkHost(const QString &name)
+{
+    QFile file(QStringLiteral(QUILLON_TEST_DATA "/machines/%1.json").arg(name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("No machine is described in %s", qUtf8Printable(file.fileName()));
+    }
+    const QJsonArray interfaces = QJsonDocument::fromJson(file.readAll()).array();
+    if (interfaces.isEmpty()) {
+        qFatal("%s describes no interface", qUtf8Printable(file.fileName()));
+    }
+    for (const QJsonValue &interface : interfaces) {
+        plug(described(interface.toObject()));
+    }
+}
+
+QList<PortRecord> FakeNetworkHost::ports()
+{
+    m_journal << QStringLiteral("ports");
+    QList<PortRecord> records;
+    for (const Interface &each : std::as_const(m_interfaces)) {
+        records.append({each.port, each.device, each.factory, answer(each)});
+    }
+    return records;
+}
+
+InterfaceInfo FakeNetworkHost::info(const QString &device)
+{
+    m_journal << QStringLiteral("info ") + device;
+    const auto found = std::find_if(m_interfaces.cbegin(), m_interfaces.cend(), named(device));
+    return found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
+}
+
+InterfaceInfo FakeNetworkHost::answer(const Interface &interface)
+{
+    if (interface.broken) {
+        return {};
+    }
+    return {
+        .ipAddress = interface.ipv4.value(0),
+        .macAddress = interface.address,
+        .status = interface.active ? QStringLiteral("active") : QStringLiteral("inactive"),
+    };
+}
+
+void FakeNetworkHost::plug(const Interface &interface)
+{
+    unplug(interface.device);
+    m_interfaces.append(interface);
+}
+
+void FakeNetworkHost::unplug(const QString &device)
+{
+    m_interfaces.removeIf(named(device));
+}
+
+void FakeNetworkHost::rename(const QString &device, const QString &newName)
+{
+    at(device).device = newName;
+}
+
+bool FakeNetworkHost::giveAddress(const QString &device, const QString &address)
+{
+    const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(), named(device));
+    if (found == m_interfaces.end()) {
+        return false;
+    }
+    if (!found->keepsAddress) {
+        found->address = address.toLower();
+    }
+    return true;
+}
+
+FakeNetworkHost::Interface &FakeNetworkHost::at(const QString &device)
+{
+    const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(), named(device));
+    if (found == m_interfaces.end()) {
+        qFatal("The machine has no interface %s", qUtf8Printable(device));
+    }
+    return *found;
+}
+
+QString FakeNetworkHost::addressOf(const QString &device) const
+{
+    const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(), named(device));
+    return found == m_interfaces.end() ? QString() : found->address;
+}
+
+} // namespace quillon::test

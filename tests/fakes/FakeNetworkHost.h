@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/NetworkHost.h"
+
+#include <QStringList>
+
+namespace quillon::test {
+
+/// A machine whose interfaces can be plugged, renamed, given addresses and broken.
+class FakeNetworkHost : public NetworkHost
+{
+public:
+    struct Interface
+    {
+        QString port;       ///< port name
+        QString device;     ///< interface name
+        QString factory;    ///< factory address; empty when it has none to tell
+        QString address;    ///< the address in use
+        QStringList ipv4;   ///< in the order in which they were added
+        bool active = true; ///< the link is up
+        /// Takes no new address but does not say so, as one that is switched off.
+        bool keepsAddress = false;
+        /// Is listed, but answers no query any more.
+        bool broken = false;
+    };
+
+    FakeNetworkHost() = default;
+    /// The machine that tests/data/machines/`name`.json describes. Ends the test program when there
+    /// is no such description.
+    explicit FakeNetworkHost(const QString &name);
+
+    QList<PortRecord> ports() override;
+    InterfaceInfo info(const QString &device) override;
+
+    void plug(const Interface &interface);
+    void unplug(const QString &device);
+    void rename(const QString &device, const QString &newName);
+    /// Makes `address` the one in use, as the kernel does; false when there is no such interface.
+    bool giveAddress(const QString &device, const QString &address);
+    /// The interface to change by hand; it must exist.
+    Interface &at(const QString &device);
+    const QList<Interface> &interfaces() const { return m_interfaces; }
+    QString addressOf(const QString &device) const;
+    /// What the host was asked, in order: "ports", "info <device>".
+    const QStringList &journal() const { return m_journal; }
+    void clearJournal() { m_journal.clear(); }
+
+private:
+    static InterfaceInfo answer(const Interface &interface);
+
+    QList<Interface> m_interfaces;
+    QStringList m_journal;
+};
+
+} // namespace quillon::test

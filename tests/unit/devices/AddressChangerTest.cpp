@@ -1,0 +1,319 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "AddressChangeFixture.h"
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <latch>
+#include <thread>
+
+namespace quillon::test {
+
+namespace {
+
+TEST_F(AddressChange, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
+{
+    change(en1, wanted);
+    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(recorded(en1, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(current.record().value(record::current).toString(), wanted);
+    EXPECT_EQ(notifier.messages(),
+        told("Wi-Fi Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(order, (QStringList{QStringLiteral("history en1 02:AA:BB:CC:DD:01"),
+                         QStringLiteral("posted en1"), QStringLiteral("updated en1"),
+                         QStringLiteral("updated en1"), QStringLiteral("hex values")}));
+    EXPECT_EQ(messagesBeforeHistory, 1);
+}
+
+TEST_F(AddressChange, HandsTheHelperDeviceAddressAndWhetherItIsWifi)
+{
+    change(en1, wanted);
+    change(en0, wanted);
+    ASSERT_EQ(helper.changes().size(), 2);
+    EXPECT_EQ(helper.changes().at(0).device, en1);
+    EXPECT_EQ(helper.changes().at(0).address, wanted) << "as it was requested";
+    EXPECT_TRUE(helper.changes().at(0).deviceIsWiFi);
+    EXPECT_EQ(helper.changes().at(1).device, en0);
+    EXPECT_FALSE(helper.changes().at(1).deviceIsWiFi);
+}
+
+TEST_F(AddressChange, ReturnsAtOnceAndTestsOnTheQueue)
+{
+    changer->updateMacAddressWithAddress(en1, wanted);
+    EXPECT_TRUE(helper.journal().isEmpty());
+    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
+}
+
+TEST_F(AddressChange, IsFinishedOnTheThreadOfTheReply)
+{
+    change(en1, wanted);
+    EXPECT_FALSE(historyOnMainThread);
+}
+
+TEST_F(AddressChange, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
+{
+    change(en1, QStringLiteral("02:16:3e:44:55:66"));
+    EXPECT_EQ(notifier.messages(),
+        told("Wi-Fi Address was not Changed", "The new Address and the old Address are identical"));
+    EXPECT_TRUE(helper.journal().isEmpty());
+    EXPECT_TRUE(settings.journal().isEmpty());
+    EXPECT_TRUE(order.isEmpty());
+}
+
+TEST_F(AddressChange, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
+{
+    change(en1, QStringLiteral("02:16:3E:44:55:66"));
+    EXPECT_EQ(helper.changes().size(), 1);
+    EXPECT_EQ(notifier.messages(),
+        told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled"));
+}
+
+TEST_F(AddressChange, OfAnEmptyDeviceIsThatOfTheCurrentInterface)
+{
+    change(QString(), wanted);
+    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(current.record().value(record::current).toString(), wanted);
+}
+
+TEST_F(AddressChange, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
+{
+    const QVariantMap before = current.record();
+    change(en0, wanted);
+    EXPECT_EQ(recorded(en0, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Ethernet Address Changed"));
+    EXPECT_EQ(current.device(), en1);
+    QVariantMap after = current.record();
+    EXPECT_EQ(after.value(record::current).toString().toLower(), before.value(record::current));
+    EXPECT_EQ(order,
+        (QStringList{QStringLiteral("history en0 02:AA:BB:CC:DD:01"), QStringLiteral("posted en0"),
+            QStringLiteral("updated en1"), QStringLiteral("hex values")}));
+}
+
+TEST_F(AddressChange, ThatTheHelperRefusesSaysSo)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    change(en1, wanted);
+    EXPECT_EQ(notifier.messages(), told("Wi-Fi Address was not Changed",
+                                       "Please make sure you have installed the HelperTool"));
+    EXPECT_EQ(order, (QStringList{QStringLiteral("updated en1"), QStringLiteral("updated en1"),
+                         QStringLiteral("hex values")}));
+}
+
+TEST_F(AddressChange, WithoutHelperSaysSo)
+{
+    helper.installed = false;
+    change(en1, wanted);
+    EXPECT_EQ(notifier.messages(), told("Wi-Fi Address was not Changed",
+                                       "Please make sure you have installed the HelperTool"));
+}
+
+TEST_F(AddressChange, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
+{
+    host.at(en1).keepsAddress = true;
+    change(en1, wanted);
+    EXPECT_EQ(notifier.messages(),
+        told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled"));
+    EXPECT_FALSE(order.contains(QStringLiteral("posted en1")));
+}
+
+TEST_F(AddressChange, OfAnInterfaceThatVanishedEndsInSilence)
+{
+    const QVariantMap before = table.devices();
+    host.unplug(en1);
+    change(en1, wanted);
+    EXPECT_TRUE(notifier.messages().isEmpty());
+    EXPECT_EQ(table.devices(), before);
+    EXPECT_TRUE(settings.journal().isEmpty());
+    EXPECT_TRUE(order.isEmpty());
+}
+
+TEST_F(AddressChange, KeepsWhatWasReadBackAlsoAfterAFailure)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    host.giveAddress(en1, QStringLiteral("02:00:00:00:00:99"));
+    host.at(en1).ipv4 = QStringList{QStringLiteral("203.0.113.5")};
+    host.at(en1).active = false;
+    change(en1, wanted);
+    EXPECT_EQ(recorded(en1, record::current), QLatin1String("02:00:00:00:00:99"));
+    EXPECT_EQ(recorded(en1, record::ipAddress), QLatin1String("203.0.113.5"));
+    EXPECT_EQ(recorded(en1, record::status), QLatin1String("inactive"));
+    EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
+}
+
+TEST_F(AddressChange, WritesTheTableAndFlushesIt)
+{
+    change(en0, wanted);
+    EXPECT_EQ(settings.journal().mid(0, 2),
+        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+}
+
+TEST_F(AddressChange, KeepsWhatOthersWroteWhileTheHelperWorked)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change(en1, wanted);
+    QVariantMap record = table.record(en0);
+    record[record::vendor] = QStringLiteral("Maker (A1B2C3)");
+    storeRecord(en0, record);
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(recorded(en0, record::vendor), QLatin1String("Maker (A1B2C3)"));
+}
+
+TEST_F(AddressChange, OfAnUnknownDeviceDoesNoHarm)
+{
+    change(QStringLiteral("en9"), wanted);
+    EXPECT_TRUE(notifier.messages().isEmpty());
+    host.plug({.port = QStringLiteral("Ethernet"),
+        .device = QStringLiteral("en8"),
+        .factory = {},
+        .address = QStringLiteral("02:00:00:00:00:08"),
+        .ipv4 = {}});
+    change(QStringLiteral("en8"), wanted);
+    EXPECT_EQ(notifier.messages(),
+        told(" Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
+}
+
+TEST_F(AddressChange, WithoutAnySelectionDoesNoHarm)
+{
+    settings.set(keys::currentInterfaceDict, QVariant());
+    change(QString(), QString());
+    EXPECT_TRUE(notifier.messages().isEmpty());
+}
+
+TEST_F(AddressChange, ToAnEmptyAddressIsReportedInItsOwnWords)
+{
+    host.at(en1).keepsAddress = true;
+    helper.mood = FakeHelper::Mood::Refusing;
+    change(en1, QString());
+    EXPECT_EQ(notifier.messages(), told("Wi-Fi Address was not Changed",
+                                       "Please make sure you have installed the HelperTool"));
+}
+
+TEST_F(AddressChange, IsTakenInTheOrderOfTheRequests)
+{
+    changer->updateMacAddressWithAddress(en1, QStringLiteral("02:00:00:00:00:01"));
+    changer->updateMacAddressWithAddress(en0, QStringLiteral("02:00:00:00:00:02"));
+    changer->updateMacAddressWithAddress(en1, QStringLiteral("02:00:00:00:00:03"));
+    scheduler.runPending();
+    QStringList asked;
+    for (const FakeHelper::Change &each : helper.changes()) {
+        asked << each.address.right(2);
+    }
+    EXPECT_EQ(
+        asked, (QStringList{QStringLiteral("01"), QStringLiteral("02"), QStringLiteral("03")}));
+}
+
+TEST_F(AddressChange, MayStartBeforeTheReplyToThePreviousOneCame)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change(en1, wanted);
+    EXPECT_TRUE(notifier.messages().isEmpty());
+    helper.mood = FakeHelper::Mood::Obliging;
+    change(en0, wanted);
+    EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Ethernet Address Changed"));
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(notifier.messages().value(1).title, QLatin1String("Wi-Fi Address was not Changed"));
+}
+
+TEST_F(AddressChange, IsToldOnceWhenAPeerAnswersTwice)
+{
+    helper.answersTwice = true;
+    change(en1, wanted);
+    EXPECT_EQ(notifier.messages().size(), 1);
+    EXPECT_EQ(helper.changes().size(), 1);
+}
+
+TEST_F(AddressChange, OutlivedByItsReplyDoesNoHarm)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change(en1, wanted);
+    changer.reset();
+    helper.timeOut();
+    settings.clearJournal();
+    scheduler.runPending();
+    EXPECT_TRUE(notifier.messages().isEmpty());
+    EXPECT_TRUE(settings.journal().isEmpty());
+}
+
+TEST_F(AddressChange, IsDroppedWhenTheProgramEndsBeforeTheQueueRan)
+{
+    changer->updateMacAddressWithAddress(en1, wanted);
+    changer.reset();
+    scheduler.runPending();
+    EXPECT_TRUE(helper.journal().isEmpty());
+}
+
+/// Holds up whoever tells the user something until it is let go.
+class SlowNotifier : public Notifier
+{
+public:
+    void sendNotificationWithBody(const QString &, const QString &) override
+    {
+        m_entered.count_down();
+        m_letGo.wait();
+        m_done = true;
+    }
+    void waitUntilCalled() const { m_entered.wait(); }
+    void letGo() { m_letGo.count_down(); }
+    bool isDone() const { return m_done; }
+
+private:
+    std::latch m_entered{1};
+    std::latch m_letGo{1};
+    std::atomic_bool m_done{false};
+};
+
+class AddressChangeAtTheEnd : public AddressChange
+{
+protected:
+    /// Ends the changer while another thread tells the user of the change to `address`.
+    void endWhileTelling(const QString &address)
+    {
+        SlowNotifier slow;
+        changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{
+            settings, scheduler, notifications, slow, xpc, table, current});
+        changer->updateMacAddressWithAddress(en1, address);
+        std::thread others([this] { scheduler.runPending(); });
+        slow.waitUntilCalled();
+        auto end = std::async(std::launch::async, [this, &slow] {
+            changer.reset();
+            return slow.isDone();
+        });
+        EXPECT_EQ(end.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+        slow.letGo();
+        EXPECT_TRUE(end.get()) << "ended under the feet of another thread";
+        others.join();
+    }
+};
+
+TEST_F(AddressChangeAtTheEnd, WaitsForAReplyThatIsBeingHandled)
+{
+    endWhileTelling(wanted);
+}
+
+TEST_F(AddressChangeAtTheEnd, WaitsForATestOnTheQueue)
+{
+    endWhileTelling(QStringLiteral("02:16:3e:44:55:66"));
+}
+
+/// A user who switched notifications off: the notifier says nothing.
+TEST_F(AddressChange, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesIt)
+{
+    class Silent : public Notifier
+    {
+        void sendNotificationWithBody(const QString &, const QString &) override {}
+    } silent;
+    AddressChanger quiet({settings, scheduler, notifications, silent, xpc, table, current});
+    QStringList history;
+    QObject::connect(&quiet, &AddressChanger::addressChanged,
+        [&history](const QString &device) { history << device; });
+    quiet.updateMacAddressWithAddress(en1, wanted);
+    scheduler.runPending();
+    EXPECT_EQ(history, QStringList{en1});
+    EXPECT_TRUE(order.contains(QStringLiteral("posted en1")));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "devices/CurrentInterface.h"
+
+#include "DeviceMachine.h"
+
+#include <memory>
+
+namespace quillon::test {
+namespace {
+
+class Selection : public DeviceMachine
+{
+protected:
+    Selection()
+    {
+        table.updateNetWorkInterfaces();
+        QObject::connect(&current, &CurrentInterface::interfaceSelected,
+            [this](const QString &device) { heard << QStringLiteral("selected ") + device; });
+        QObject::connect(&current, &CurrentInterface::rebuildStarted, [this] {
+            onMainThread = onMainThread && scheduler.isMainThread();
+            heard << QStringLiteral("rebuild");
+        });
+        QObject::connect(&current, &CurrentInterface::currentInterfaceUpdated,
+            [this](const QString &device, const QString &address) {
+                onMainThread = onMainThread && scheduler.isMainThread();
+                heard << QStringLiteral("updated %1 %2").arg(device, address);
+            });
+        QObject::connect(&current, &CurrentInterface::hexValuesUpdated, [this] {
+            onMainThread = onMainThread && scheduler.isMainThread();
+            heard << QStringLiteral("hex values");
+        });
+        settings.clearJournal();
+        host.clearJournal();
+    }
+
+    const QString en0 = QStringLiteral("en0");
+    const QString en1 = QStringLiteral("en1");
+    CurrentInterface current{settings, scheduler, table};
+    QStringList heard;
+    bool onMainThread = true;
+};
+
+TEST_F(Selection, IsNoneAtFirst)
+{
+    EXPECT_EQ(current.device(), QString());
+    EXPECT_TRUE(current.record().isEmpty());
+}
+
+TEST_F(Selection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
+{
+    storeRecord(en1, {{record::current, QStringLiteral("aa:bb:cc:dd:ee:ff")},
+                         {record::hardware, QStringLiteral("aa:bb:cc:00:00:01")},
+                         {record::vendor, QStringLiteral("Maker (A1B2C3)")}});
+    current.updateCurrentInterfaceDict(en1);
+    scheduler.runPending();
+    const QVariantMap expected = {
+        {record::current, QStringLiteral("AA:BB:CC:DD:EE:FF")},
+        {record::hardware, QStringLiteral("aa:bb:cc:00:00:01")},
+        {record::vendor, QStringLiteral("Maker (A1B2C3)")},
+        {record::device, en1},
+    };
+    EXPECT_EQ(current.record(), expected);
+    EXPECT_EQ(current.device(), en1);
+    EXPECT_EQ(recorded(en1, record::current), QLatin1String("aa:bb:cc:dd:ee:ff"));
+}
+
+TEST_F(Selection, IsStoredAndFlushedBeforeAnybodyHears)
+{
+    bool flushedBefore = false;
+    QObject::connect(&current, &CurrentInterface::currentInterfaceUpdated, [&] {
+        flushedBefore =
+            settings.journal() ==
+            QStringList{QStringLiteral("set currentInterfaceDict"), QStringLiteral("synchronize")};
+    });
+    current.updateCurrentInterfaceDict(en1);
+    scheduler.runPending();
+    EXPECT_TRUE(flushedBefore);
+    EXPECT_EQ(heard,
+        (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
+}
+
+TEST_F(Selection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
+{
+    scheduler.asBackground([this] { current.updateCurrentInterfaceDict(en1); });
+    EXPECT_TRUE(heard.isEmpty());
+    EXPECT_EQ(current.device(), QString());
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en1);
+    EXPECT_TRUE(onMainThread);
+}
+
+TEST_F(Selection, OfADeviceWithoutAddressLeavesThePreviousOneInForce)
+{
+    select(en0);
+    const QVariantMap before = current.record();
+    host.at(en1).broken = true;
+    current.updateInterface(en1);
+    scheduler.runPending();
+    EXPECT_EQ(current.record(), before);
+    EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild")}));
+}
+
+TEST_F(Selection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
+{
+    select(en0);
+    const QVariantMap before = current.record();
+    storeRecord(en1, {{record::current, QStringLiteral("02:16:3e:44:55:66 ")}});
+    settings.clearJournal();
+    current.updateCurrentInterfaceDict(en1);
+    scheduler.runPending();
+    EXPECT_EQ(current.record(), before);
+    EXPECT_TRUE(settings.journal().isEmpty());
+    EXPECT_EQ(heard, QStringList{QStringLiteral("rebuild")});
+}
+
+TEST_F(Selection, OfAnUnknownDeviceLeavesThePreviousOneInForce)
+{
+    select(en0);
+    current.updateInterface(QStringLiteral("en9"));
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en0);
+}
+
+TEST_F(Selection, ReadsThePortsThenRebuildsThenSaysSo)
+{
+    host.giveAddress(en1, QStringLiteral("02:00:00:00:00:01"));
+    current.updateInterface(en1);
+    EXPECT_EQ(host.journal(), QStringList{QStringLiteral("ports")});
+    EXPECT_EQ(heard, QStringList{QStringLiteral("selected en1")});
+    scheduler.runPending();
+    EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild"),
+                         QStringLiteral("updated en1 02:00:00:00:00:01")}));
+}
+
+TEST_F(Selection, OfAnEmptyNameDoesNothing)
+{
+    current.updateInterface(QString());
+    current.changeInterfacefromPopup(QString());
+    scheduler.runPending();
+    EXPECT_TRUE(heard.isEmpty());
+    EXPECT_TRUE(host.journal().isEmpty());
+}
+
+TEST_F(Selection, FromAMenuIsTheLastPieceOfTheTitle)
+{
+    current.changeInterface(QStringLiteral("Wi-Fi \u00B7 en1"));
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en1);
+    current.changeInterface(QStringLiteral("a \u00B7 b \u00B7 en0"));
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en0);
+    current.changeInterface(en1);
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en1);
+}
+
+TEST_F(Selection, FromAMenuSplitsAtTheBlanksToo)
+{
+    select(en0);
+    current.changeInterface(QStringLiteral("Wi-Fi\u00B7en1"));
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en0);
+}
+
+TEST_F(Selection, FromThePopupIsTheTitle)
+{
+    current.changeInterfacefromPopup(en1);
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), en1);
+}
+
+TEST_F(Selection, OfTheFirstStartIsTheWifiDeviceAtOnce)
+{
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en1);
+    EXPECT_EQ(heard,
+        (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
+}
+
+TEST_F(Selection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
+{
+    QVariantMap devices = table.devices();
+    devices.remove(en1);
+    store(devices);
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en0);
+}
+
+TEST_F(Selection, OfTheFirstStartWithoutDevicesIsNone)
+{
+    store({});
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), QString());
+    EXPECT_TRUE(heard.isEmpty());
+}
+
+TEST_F(Selection, OfADeviceThatVanishedStays)
+{
+    const QVariantMap stored = {{record::device, QStringLiteral("en8")},
+        {record::current, QStringLiteral("02:00:00:00:00:08")}};
+    settings.set(keys::currentInterfaceDict, stored);
+    current.selectInitialDevice();
+    scheduler.runPending();
+    EXPECT_EQ(current.record(), stored);
+    EXPECT_TRUE(heard.isEmpty());
+}
+
+TEST_F(Selection, SurvivesItsOwnEndWithWorkAhead)
+{
+    auto brief = std::make_unique<CurrentInterface>(settings, scheduler, table);
+    brief->updateCurrentInterfaceDict(en1);
+    brief->updateHexValues();
+    settings.clearJournal();
+    brief.reset();
+    scheduler.runPending();
+    EXPECT_TRUE(settings.journal().isEmpty());
+}
+
+class HexValues : public Selection
+{
+protected:
+    HexValues()
+    {
+        select(en1);
+        settings.clearJournal();
+    }
+};
+
+TEST_F(HexValues, StopAtAnEmptyTable)
+{
+    store({});
+    settings.clearJournal();
+    current.updateHexValues();
+    scheduler.runPending();
+    EXPECT_TRUE(heard.isEmpty());
+    EXPECT_TRUE(settings.journal().isEmpty());
+}
+
+TEST_F(HexValues, WriteTheTableRebuildTheSelectionThenRefillTheField)
+{
+    current.updateHexValues();
+    EXPECT_EQ(settings.journal(),
+        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_TRUE(heard.isEmpty());
+    scheduler.runPending();
+    EXPECT_EQ(
+        heard, (QStringList{QStringLiteral("rebuild"),
+                   QStringLiteral("updated en1 02:16:3E:44:55:66"), QStringLiteral("hex values")}));
+}
+
+TEST_F(HexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
+{
+    storeRecord(en1, {{record::hardware, QStringLiteral("00:16:3e:44:55:66")}});
+    current.updateHexValues();
+    EXPECT_EQ(recorded(en1, record::current), QLatin1String("00:16:3e:44:55:66"));
+    EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
+    scheduler.runPending();
+    EXPECT_EQ(
+        current.record().value(record::current).toString(), QLatin1String("00:16:3E:44:55:66"));
+}
+
+TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
+{
+    for (const char *address : {"", "malformed"}) {
+        const QVariantMap record = {{record::hardware, QStringLiteral("00:16:3e:44:55:66")},
+            {record::current, QString::fromUtf8(address)}};
+        storeRecord(en1, record);
+        heard.clear();
+        settings.clearJournal();
+        current.updateHexValues();
+        scheduler.runPending();
+        EXPECT_EQ(table.record(en1), record);
+        EXPECT_TRUE(settings.journal().isEmpty());
+        EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
+    }
+}
+
+TEST_F(HexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
+{
+    settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, QStringLiteral("en8")}});
+    const QVariantMap before = table.devices();
+    current.updateHexValues();
+    scheduler.runPending();
+    EXPECT_EQ(table.devices(), before);
+    EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
+}
+
+TEST_F(HexValues, FollowTheDisplayCase)
+{
+    settings.setBool(keys::lowerCaseHEX, true);
+    current.updateHexValues();
+    scheduler.runPending();
+    EXPECT_EQ(heard.value(1), QLatin1String("updated en1 02:16:3e:44:55:66"));
+}
+
+TEST_F(HexValues, SpeakOnTheMainThreadOnly)
+{
+    scheduler.asBackground([this] { current.updateHexValues(); });
+    scheduler.runPending();
+    EXPECT_EQ(heard.size(), 3);
+    EXPECT_TRUE(onMainThread);
+}
+
+} // namespace
+} // namespace quillon::test

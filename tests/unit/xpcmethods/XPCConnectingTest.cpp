@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "HelperLinkFixture.h"
+
+namespace quillon::test {
+namespace {
+
+class Authorisation : public HelperLinkFixture
+{
+};
+
+TEST_F(Authorisation, IsMadeOnceAndTheServiceIsAskedForTheRights)
+{
+    EXPECT_EQ(journalOf([this] { xpc->authorizeHelperTool(true); }),
+        (QStringList{QStringLiteral("authorize"), serviceMade, QStringLiteral("rights")}));
+}
+
+TEST_F(Authorisation, IsReplacedByTheDataThatCameWithTheEndpoint)
+{
+    xpc->authorizeHelperTool(true);
+    change();
+    scheduler.runPending();
+    ASSERT_EQ(helper.changes().size(), 1);
+    EXPECT_EQ(helper.changes().at(0).authorization, helper.givenAuthorization());
+    EXPECT_NE(helper.changes().at(0).authorization, FakeHelper::externalForm());
+    change();
+    scheduler.runPending();
+    EXPECT_EQ(helper.changes().at(1).authorization, helper.givenAuthorization());
+    EXPECT_NE(helper.changes().at(1).authorization, helper.changes().at(0).authorization);
+}
+
+class Connecting : public HelperLinkFixture
+{
+protected:
+    void execute()
+    {
+        xpc->connectAndExecuteCommandBlock([this](const std::optional<Error> &error) {
+            repliedOnMainThread = scheduler.isMainThread();
+            texts << (error ? error->domain + QStringLiteral(" %1").arg(error->code)
+                            : QStringLiteral("connected"));
+        });
+    }
+};
+
+TEST_F(Connecting, ToTheServiceHappensOnce)
+{
+    EXPECT_EQ(journalOf([this] {
+        xpc->connectToXPCService();
+        xpc->connectToXPCService();
+    }),
+        QStringList{serviceMade});
+}
+
+TEST_F(Connecting, ToTheHelperHappensOncePerConnection)
+{
+    EXPECT_EQ(journalOf([this] {
+        xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
+        xpc->connectToHelperToolEndpoint(QStringLiteral(":1.8"));
+    }),
+        QStringList{QStringLiteral("helper :1.7")});
+}
+
+TEST_F(Connecting, GoesThroughTheServiceToTheEndpointAndExecutesOnTheMainThread)
+{
+    EXPECT_EQ(journalOf([this] { execute(); }),
+        (QStringList{serviceMade, QStringLiteral("endpoint"), QStringLiteral("helper :1.1")}));
+    EXPECT_EQ(texts, QStringList{QStringLiteral("connected")});
+    EXPECT_TRUE(repliedOnMainThread);
+}
+
+TEST_F(Connecting, KeepsTheServiceButMakesAFreshHelperConnectionEveryTime)
+{
+    execute();
+    scheduler.runPending();
+    EXPECT_EQ(journalOf([this] { execute(); }),
+        (QStringList{QStringLiteral("endpoint"), QStringLiteral("helper :1.2")}));
+    EXPECT_EQ(helper.liveHelperConnections(), 1);
+}
+
+TEST_F(Connecting, WithoutEndpointIsPosixError25)
+{
+    helper.installed = false;
+    EXPECT_EQ(
+        journalOf([this] { execute(); }), (QStringList{serviceMade, QStringLiteral("endpoint")}));
+    EXPECT_EQ(texts, QStringList{QStringLiteral("POSIXErrorDomain 25")});
+    EXPECT_TRUE(repliedOnMainThread);
+}
+
+TEST_F(Connecting, WithoutServiceIsTheErrorOfTheConnectionOnTheMainThread)
+{
+    helper.serviceExists = false;
+    execute();
+    scheduler.runPending();
+    EXPECT_EQ(texts, QStringList{QStringLiteral("BusErrorDomain 0")});
+    EXPECT_TRUE(repliedOnMainThread);
+}
+
+TEST_F(Connecting, ToAServiceThatHangsHangsNobodyAndEndsInAnError)
+{
+    helper.serviceHangs = true;
+    execute();
+    scheduler.runPending();
+    EXPECT_TRUE(texts.isEmpty());
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(texts, QStringList{QStringLiteral("BusErrorDomain 0")});
+}
+
+TEST_F(Connecting, ExecutesOnceWhenTheServiceAnswersTwice)
+{
+    helper.answersTwice = true;
+    execute();
+    scheduler.runPending();
+    EXPECT_EQ(texts.size(), 1);
+}
+
+TEST_F(Connecting, AnewAfterTheServiceWentAndSaysSo)
+{
+    xpc->connectToXPCService();
+    EXPECT_EQ(logOf([this] { helper.dropService(); }),
+        QStringList{line("Quillon connection to HelperTool invalidated\n")});
+    EXPECT_EQ(journalOf([this] { xpc->connectToXPCService(); }), QStringList{serviceMade});
+}
+
+TEST_F(Connecting, AnewAfterTheHelperWentAndSaysSo)
+{
+    xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
+    EXPECT_EQ(logOf([this] { helper.dropHelper(); }),
+        QStringList{line("Quillon connection to HelperTool invalidated\n")});
+    EXPECT_EQ(helper.liveHelperConnections(), 0);
+    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(QStringLiteral(":1.8")); }),
+        QStringList{QStringLiteral("helper :1.8")});
+}
+
+TEST_F(Connecting, IsUndoneOnTheMainThreadOnly)
+{
+    xpc->connectToXPCService();
+    helper.dropService();
+    helper.clearJournal();
+    xpc->connectToXPCService();
+    EXPECT_TRUE(helper.journal().isEmpty()) << "the main loop has not heard of it yet";
+}
+
+TEST_F(Connecting, AConnectionMadeMeanwhileSurvivesTheEndOfTheOldOne)
+{
+    // A call under way keeps the first connection beyond the second sequence.
+    helper.mood = FakeHelper::Mood::Hanging;
+    xpc->getVersionOfHelperToolwithReply(keepText());
+    scheduler.runPending();
+    EXPECT_EQ(helper.liveHelperConnections(), 1);
+
+    execute();
+    helper.dropHelper();
+    scheduler.runPending();
+    EXPECT_EQ(helper.liveHelperConnections(), 1) << "the second one";
+    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(QStringLiteral(":1.9")); }),
+        QStringList());
+}
+
+TEST_F(Connecting, DoesNotCutOffACallThatIsUnderWay)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    xpc->getVersionOfHelperToolwithReply(keepText());
+    scheduler.runPending();
+    execute();
+    scheduler.runPending();
+    EXPECT_EQ(helper.liveHelperConnections(), 2);
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(texts,
+        (QStringList{QStringLiteral("connected"), QStringLiteral("error BusErrorDomain / 0\n")}));
+    EXPECT_EQ(helper.liveHelperConnections(), 1);
+}
+
+TEST_F(Connecting, IsForgottenWhenTheLinkGoesMeanwhile)
+{
+    execute();
+    xpc.reset();
+    scheduler.runPending();
+    EXPECT_TRUE(texts.isEmpty());
+}
+
+TEST_F(Connecting, InvalidatedAfterTheLinkHasGoneDoesNoHarm)
+{
+    xpc->connectToXPCService();
+    xpc->installHelperToolwithReply(keepSuccess());
+    xpc.reset();
+    helper.dropService();
+    scheduler.runPending();
+    EXPECT_EQ(successes.size(), 1) << "the call had gone out";
+}
+
+} // namespace
+} // namespace quillon::test

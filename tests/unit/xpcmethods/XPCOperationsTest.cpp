@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "HelperLinkFixture.h"
+
+namespace quillon::test {
+namespace {
+
+class Installing : public HelperLinkFixture
+{
+protected:
+    Installing() { helper.installed = false; }
+    void install() { xpc->installHelperToolwithReply(keepSuccess()); }
+};
+
+TEST_F(Installing, IsToldAndLogged)
+{
+    EXPECT_EQ(logOf([this] { install(); }),
+        QStringList{line("Quillon4HelperTool successfully installed\n")});
+    EXPECT_EQ(successes, QList<bool>{true});
+    EXPECT_FALSE(repliedOnMainThread);
+    EXPECT_EQ(helper.journal(), (QStringList{serviceMade, QStringLiteral("install")}));
+}
+
+TEST_F(Installing, ThatFailsLogsTheError)
+{
+    helper.installFails = true;
+    EXPECT_EQ(logOf([this] { install(); }),
+        QStringList{line("error com.orvandel.Quillon4.Error.NotAuthorized / 11\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Installing, WithoutServiceFails)
+{
+    helper.serviceExists = false;
+    EXPECT_EQ(logOf([this] { install(); }), QStringList{line("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Installing, IsToldOnceWhenTheServiceAnswersTwice)
+{
+    helper.answersTwice = true;
+    EXPECT_EQ(logOf([this] { install(); }).size(), 1);
+    EXPECT_EQ(successes, QList<bool>{true});
+}
+
+class Version : public HelperLinkFixture
+{
+protected:
+    void ask() { xpc->getVersionOfHelperToolwithReply(keepText()); }
+};
+
+TEST_F(Version, IsWhatTheHelperAnswers)
+{
+    EXPECT_EQ(XPCMethods::helperToolVersion(), QLatin1String("2.0"));
+    helper.version = QStringLiteral("2.0");
+    EXPECT_TRUE(logOf([this] { ask(); }).isEmpty());
+    EXPECT_EQ(texts, QStringList{QStringLiteral("2.0")});
+    EXPECT_FALSE(repliedOnMainThread);
+}
+
+TEST_F(Version, WithoutServiceIsAnErrorText)
+{
+    helper.serviceExists = false;
+    EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
+}
+
+TEST_F(Version, WithoutEndpointIsAnErrorText)
+{
+    helper.installed = false;
+    EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
+    EXPECT_EQ(texts, QStringList{QStringLiteral("error POSIXErrorDomain / 25\n")});
+}
+
+TEST_F(Version, OfAHelperThatHangsIsAnErrorText)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    ask();
+    scheduler.runPending();
+    EXPECT_TRUE(texts.isEmpty());
+    EXPECT_EQ(logOf([this] { helper.timeOut(); }), QStringList{line("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
+}
+
+TEST_F(Version, IsToldOnceWhenTheHelperAnswersTwice)
+{
+    helper.answersTwice = true;
+    ask();
+    scheduler.runPending();
+    EXPECT_EQ(texts.size(), 1);
+}
+
+class Changing : public HelperLinkFixture
+{
+};
+
+TEST_F(Changing, ReachesTheMachine)
+{
+    EXPECT_TRUE(logOf([this] { change(); }).isEmpty());
+    EXPECT_EQ(successes, QList<bool>{true});
+    EXPECT_FALSE(repliedOnMainThread);
+    EXPECT_EQ(host.addressOf(QStringLiteral("wlp2s0")), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_TRUE(helper.changes().at(0).deviceIsWiFi);
+}
+
+TEST_F(Changing, ThatTheHelperRefusesIsLoggedAndFails)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    EXPECT_EQ(logOf([this] { change(); }),
+        QStringList{line("error com.orvandel.Quillon4.Error.NotAuthorized / 1\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Changing, WithoutEndpointFailsWithPosixError25)
+{
+    helper.installed = false;
+    EXPECT_EQ(logOf([this] { change(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+    EXPECT_TRUE(helper.changes().isEmpty());
+}
+
+TEST_F(Changing, ThroughAConnectionThatDropsFails)
+{
+    helper.mood = FakeHelper::Mood::Dropping;
+    const QStringList log = logOf([this] { change(); });
+    EXPECT_TRUE(log.contains(line("error BusErrorDomain / 0\n")));
+    EXPECT_TRUE(log.contains(line("Quillon connection to HelperTool invalidated\n")));
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Changing, WithAHelperThatHangsFailsInTheEnd)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change();
+    scheduler.runPending();
+    EXPECT_TRUE(successes.isEmpty());
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Changing, IsToldOnceWhenTheHelperAnswersTwice)
+{
+    helper.answersTwice = true;
+    change();
+    scheduler.runPending();
+    EXPECT_EQ(successes, QList<bool>{true});
+    EXPECT_EQ(helper.changes().size(), 1);
+}
+
+TEST_F(Changing, IsNotCutOffByTheNextOperation)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change();
+    scheduler.runPending();
+    helper.mood = FakeHelper::Mood::Obliging;
+    xpc->getVersionOfHelperToolwithReply(keepText());
+    scheduler.runPending();
+    EXPECT_EQ(texts, QStringList{QStringLiteral("2.0")});
+    EXPECT_EQ(helper.liveHelperConnections(), 2) << "the one under way is kept";
+    helper.timeOut();
+    scheduler.runPending();
+    EXPECT_EQ(successes, QList<bool>{false});
+    EXPECT_EQ(helper.liveHelperConnections(), 1);
+}
+
+TEST_F(Changing, SurvivesTheEndOfTheLinkWhileTheHelperWorks)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    change();
+    scheduler.runPending();
+    xpc.reset();
+    helper.timeOut();
+    EXPECT_EQ(logOf([] {}), QStringList{line("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+class Uninstalling : public HelperLinkFixture
+{
+protected:
+    void uninstall() { xpc->uninstallHelperToolwithReply(keepSuccess()); }
+};
+
+TEST_F(Uninstalling, IsToldAndLogged)
+{
+    EXPECT_EQ(logOf([this] { uninstall(); }),
+        QStringList{line("Quillon4HelperTool successfully uninstalled\n")});
+    EXPECT_EQ(successes, QList<bool>{true});
+    EXPECT_FALSE(repliedOnMainThread);
+    EXPECT_FALSE(helper.installed);
+}
+
+TEST_F(Uninstalling, ThatTheHelperRefusesIsLoggedAndFails)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    EXPECT_EQ(logOf([this] { uninstall(); }),
+        QStringList{line("error com.orvandel.Quillon4.Error.NotAuthorized / 1\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Uninstalling, ThroughAConnectionThatDropsIsASuccess)
+{
+    helper.mood = FakeHelper::Mood::Dropping;
+    QStringList log = logOf([this] { uninstall(); });
+    log.removeAll(line("Quillon connection to HelperTool invalidated\n"));
+    EXPECT_EQ(log, (QStringList{line("error BusErrorDomain / 0\n"),
+                       line("Quillon4HelperTool successfully uninstalled\n")}));
+    EXPECT_EQ(successes, QList<bool>{true});
+}
+
+TEST_F(Uninstalling, WithoutEndpointFails)
+{
+    helper.installed = false;
+    EXPECT_EQ(logOf([this] { uninstall(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
+    EXPECT_EQ(successes, QList<bool>{false});
+}
+
+TEST_F(Uninstalling, IsToldOnceWhenTheHelperAnswersTwice)
+{
+    helper.answersTwice = true;
+    EXPECT_EQ(logOf([this] { uninstall(); }).size(), 1);
+    EXPECT_EQ(successes, QList<bool>{true});
+}
+
+} // namespace
+} // namespace quillon::test
