@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/Service.h"
+
+#include "contract/Names.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <sys/random.h>
+#include <utility>
+
+namespace quillon::service {
+
+namespace {
+
+// More than any session needs; each waits for the helper for some seconds at most.
+constexpr unsigned mostOpenRequests = 64;
+
+std::vector<std::uint8_t> freshAuthorization()
+{
+    std::vector<std::uint8_t> bytes(contract::authorizationSize);
+    ssize_t size = -1;
+    do {
+        // Up to 256 bytes come whole once the kernel's generator is ready.
+        size = getrandom(bytes.data(), bytes.size(), 0);
+    } while (size < 0 && errno == EINTR);
+    return size == static_cast<ssize_t>(bytes.size()) ? bytes : std::vector<std::uint8_t>();
+}
+
+// A reply can only fail when its caller or the bus is gone; then nobody is left to be told.
+template <typename Reply>
+void send(const Reply &reply)
+{
+    try {
+        reply.send();
+    } catch (const sdbus::Error &error) {
+        std::fprintf(stderr, "An answer was not sent: %s\n", error.what());
+    }
+}
+
+} // namespace
+
+Service::Service(PollLoop &loop, sdbus::IConnection &sessionBus, std::string tool)
+    : m_helper(loop)
+    , m_installation(loop, std::move(tool))
+    , m_object(sdbus::createObject(sessionBus, contract::servicePath))
+    , m_notifications(sdbus::createObject(sessionBus, contract::distributedPath))
+{
+    const std::string interface = contract::serviceInterface;
+    m_object->registerMethod(interface, "InstallHelperTool", "", "",
+        [this](sdbus::MethodCall call) { installHelperTool(std::move(call)); });
+    m_object->registerMethod(interface, "SetupAuthorizationRights", "", "",
+        [this](sdbus::MethodCall call) { setupAuthorizationRights(std::move(call)); });
+    m_object->registerMethod(interface, "ConnectWithEndpointAndAuthorization", "", {}, "say",
+        {"endpoint", "authorization"},
+        [this](sdbus::MethodCall call) { connectWithEndpointAndAuthorization(std::move(call)); });
+    m_object->finishRegistration();
+    m_notifications->registerSignal(
+        contract::distributedInterface, contract::distributedSignal, "ss", {"name", "object"});
+    m_notifications->finishRegistration();
+    sessionBus.requestName(contract::serviceName);
+}
+
+void Service::begin()
+{
+    ++m_requests;
+    ++m_openRequests;
+}
+
+void Service::answer(const sdbus::MethodCall &call)
+{
+    --m_openRequests;
+    send(call.createReply());
+}
+
+void Service::refuse(const sdbus::MethodCall &call, const char *name, const std::string &message)
+{
+    --m_openRequests;
+    send(call.createErrorReply(sdbus::Error(name, message)));
+}
+
+void Service::installHelperTool(sdbus::MethodCall call)
+{
+    begin();
+    if (m_isInstalling) {
+        refuse(call, contract::error::installFailed.name, "An installation is already running");
+        return;
+    }
+    m_isInstalling = true;
+    m_helper.askVersion([this, call](const std::string &version) {
+        if (version == contract::helperVersion) {
+            m_isInstalling = false;
+            answer(call);
+        } else {
+            runInstallation(call);
+        }
+    });
+}
+
+void Service::runInstallation(const sdbus::MethodCall &call)
+{
+    m_installation.start([this, call](Installation::Outcome outcome, const std::string &message) {
+        m_isInstalling = false;
+        switch (outcome) {
+        case Installation::Outcome::Installed:
+            answer(call);
+            announceHelperUpdated();
+            return;
+        case Installation::Outcome::NotAuthorized:
+            refuse(call, contract::error::notAuthorized.name, message);
+            return;
+        case Installation::Outcome::Failed:
+            refuse(call, contract::error::installFailed.name, message);
+            return;
+        }
+    });
+}
+
+void Service::setupAuthorizationRights(sdbus::MethodCall call)
+{
+    begin();
+    m_authorization = freshAuthorization();
+    answer(call);
+}
+
+void Service::connectWithEndpointAndAuthorization(sdbus::MethodCall call)
+{
+    begin();
+    if (m_authorization.empty()) {
+        m_authorization = freshAuthorization();
+    }
+    const auto reply = [this, call](const std::string &endpoint) {
+        --m_openRequests;
+        auto answer = call.createReply();
+        answer << endpoint << m_authorization;
+        send(answer);
+    };
+    if (m_openRequests > mostOpenRequests) {
+        reply({});
+        return;
+    }
+    m_helper.askEndpoint(reply);
+}
+
+void Service::announceHelperUpdated()
+{
+    auto signal =
+        m_notifications->createSignal(contract::distributedInterface, contract::distributedSignal);
+    signal << std::string(contract::helperUpdated) << std::string(contract::helperUpdatedObject);
+    m_notifications->emitSignal(signal);
+}
+
+} // namespace quillon::service

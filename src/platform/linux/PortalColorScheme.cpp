@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/PortalColorScheme.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString colorScheme = QStringLiteral("color-scheme");
+
+// The portal's numbers.
+constexpr uint preferDark = 1;
+constexpr uint preferLight = 2;
+
+} // namespace
+
+void PortalColorScheme::watch(std::function<void(ColorScheme)> observer)
+{
+    m_observer = std::move(observer);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+        SLOT(settingChanged(QDBusMessage)));
+
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    call.setArguments({appearance, colorScheme});
+    auto *pending = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending] {
+        pending->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *pending;
+        if (!reply.isError()) {
+            report(reply.value().variant());
+        }
+    });
+}
+
+void PortalColorScheme::settingChanged(const QDBusMessage &message)
+{
+    const QVariantList arguments = message.arguments();
+    if (arguments.value(0) == appearance && arguments.value(1) == colorScheme) {
+        report(arguments.value(2));
+    }
+}
+
+void PortalColorScheme::report(const QVariant &value)
+{
+    // Read wraps the value once more than the signal does.
+    const QVariant plain =
+        value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    const uint preference = plain.toUInt();
+    if (preference == preferDark) {
+        m_observer(ColorScheme::Dark);
+    } else if (preference == preferLight) {
+        m_observer(ColorScheme::Light);
+    }
+}
+
+} // namespace quillon

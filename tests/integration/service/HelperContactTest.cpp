@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "integration/linux/FakePeer.h"
+#include "integration/linux/PrivateBus.h"
+#include "integration/linux/Waiting.h"
+#include "platform/linux/DBusHelperLink.h"
+#include "platform/linux/GetrandomSource.h"
+
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+using namespace std::chrono_literals;
+
+/// The service program on buses of the test's own, with a helper that misbehaves.
+class HelperContact : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), session.address());
+        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), system.address());
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(QUILLON_BUILD "/service/quillon-xpc-service"), QStringList());
+        ASSERT_TRUE(eventually([this] {
+            return ours.interface()
+                ->isServiceRegistered(QLatin1String(contract::serviceName))
+                .value();
+        }));
+        service = link.connectToService(QLatin1String(contract::serviceName));
+        service->resume();
+    }
+
+    void TearDown() override
+    {
+        program.kill();
+        program.waitForFinished();
+    }
+
+    void helperIs(FakePeer::Answer answer)
+    {
+        helper.reset(); // one object per path
+        helper = std::make_unique<FakePeer>(helperBus, contract::helperPath, std::move(answer));
+        QDBusConnection(helperBus).registerService(QLatin1String(contract::helperName));
+    }
+
+    // None when the service says that the helper cannot be reached.
+    std::optional<QString> endpoint()
+    {
+        std::optional<QString> found;
+        bool answered = false;
+        service->connectWithEndpointAndAuthorizationReply(
+            [&](const std::optional<QString> &answer, const QByteArray &) {
+                answered = true;
+                found = answer;
+            },
+            [](const Error &error) { ADD_FAILURE() << qPrintable(error.message); });
+        EXPECT_TRUE(eventually([&] { return answered; }));
+        return found;
+    }
+
+    std::optional<Error> install()
+    {
+        std::optional<Error> problem;
+        bool answered = false;
+        const auto answer = [&](const std::optional<Error> &error) {
+            answered = true;
+            problem = error;
+        };
+        service->installHelperToolWithReply(answer, [&](const Error &error) { answer(error); });
+        EXPECT_TRUE(eventually([&] { return answered; }));
+        return problem;
+    }
+
+    PrivateBus session;
+    PrivateBus system;
+    QProcess program;
+    QDBusConnection ours = session.connect();
+    QString helperBus = system.open();
+    GetrandomSource random;
+    DBusHelperLink link{random, ours, ours};
+    std::shared_ptr<XPCServiceConnection> service;
+    std::unique_ptr<FakePeer> helper;
+};
+
+TEST_F(HelperContact, PassesOnTheNameOfWhoAnswered)
+{
+    const QString name = QDBusConnection(helperBus).baseService();
+    helperIs([name](const QDBusMessage &call) { return call.createReply(name); });
+    EXPECT_EQ(endpoint(), name);
+}
+
+TEST_F(HelperContact, PassesOnNobodyElsesName)
+{
+    const QString stranger = system.connect().baseService();
+    for (const QString &name :
+        {stranger, QLatin1String(contract::helperName) + QString(), QString()}) {
+        helperIs([name](const QDBusMessage &call) { return call.createReply(name); });
+        EXPECT_FALSE(endpoint()) << qPrintable(name);
+    }
+}
+
+TEST_F(HelperContact, AnAnswerThatIsNoTextIsNone)
+{
+    helperIs([](const QDBusMessage &call) { return call.createReply(QVariantList{1, 2}); });
+    EXPECT_FALSE(endpoint());
+    helperIs([](const QDBusMessage &call) { return call.createReply(); });
+    EXPECT_FALSE(endpoint());
+    helperIs([](const QDBusMessage &call) {
+        return call.createErrorReply(QStringLiteral("com.example.No"), QStringLiteral("no"));
+    });
+    EXPECT_FALSE(endpoint());
+}
+
+TEST_F(HelperContact, AHelperThatHangsIsGivenUpBeforeTheProgramGivesUpTheService)
+{
+    helperIs([](const QDBusMessage &) { return QDBusMessage(); });
+    QElapsedTimer time;
+    time.start();
+    EXPECT_FALSE(endpoint());
+    EXPECT_LT(time.elapsed(), contract::answerLimit);
+}
+
+TEST_F(HelperContact, ANewSystemBusConnectionIsMadeWhenTheOldOneIsGone)
+{
+    EXPECT_FALSE(endpoint());
+    system.stop();
+    EXPECT_FALSE(endpoint());
+    EXPECT_FALSE(endpoint());
+    EXPECT_EQ(program.state(), QProcess::Running);
+}
+
+TEST_F(HelperContact, OnlyAHelperOfThisVersionIsLeftAlone)
+{
+    helperIs([](const QDBusMessage &call) { return call.createReply(QStringLiteral("2.0")); });
+    EXPECT_FALSE(install());
+    // Now somebody must be asked, and nobody is there.
+    helperIs([](const QDBusMessage &call) { return call.createReply(QStringLiteral("1.9")); });
+    const auto problem = install();
+    ASSERT_TRUE(problem);
+    EXPECT_EQ(problem->code, contract::error::notAuthorized.code) << qPrintable(problem->message);
+}
+
+TEST_F(HelperContact, TheServiceEndsWithItsSession)
+{
+    session.stop();
+    EXPECT_TRUE(eventually([this] { return program.state() == QProcess::NotRunning; }));
+}
+
+} // namespace quillon::test

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "integration/linux/Commands.h"
+#include "integration/linux/Waiting.h"
+#include "platform/linux/BusRunningApplications.h"
+#include "platform/linux/SessionBusNotificationCenter.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace quillon::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString itsName = QLatin1String(contract::loginHelperName);
+
+QByteArray contents(const char *file)
+{
+    QFile opened(QString::fromLatin1(file));
+    return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+}
+
+} // namespace
+
+/// The login item, built to start a program of the test's instead of the real one.
+class LoginItem : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        // Looks for the login item as soon as it starts, and says how often it was started.
+        program("gdbus call --session --dest org.freedesktop.DBus --object-path / --method "
+                "org.freedesktop.DBus.NameHasOwner com.orvandel.Quillon4Helper >/tmp/seen.new\n"
+                "echo $$ >>/tmp/started\n"
+                "mv /tmp/seen.new /tmp/seen\n"
+                "exec sleep 1000\n");
+    }
+
+    void TearDown() override
+    {
+        item.kill();
+        item.waitForFinished();
+        const QByteArrayList started = contents("/tmp/started").split('\n');
+        for (const QByteArray &pid : started) {
+            if (pid.toInt() > 1) {
+                kill(pid.toInt(), SIGKILL);
+            }
+        }
+    }
+
+    static void program(const char *script)
+    {
+        QFile file(QStringLiteral(QUILLON_TEST_PROGRAM));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("#!/bin/sh\n");
+        file.write(script);
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    void start()
+    {
+        item.start(QStringLiteral(QUILLON_TEST_LOGIN_ITEM), QStringList());
+        ASSERT_TRUE(eventually([] { return !contents("/tmp/seen").isEmpty(); }));
+    }
+
+    bool hasEnded() const { return item.state() == QProcess::NotRunning; }
+
+    QProcess item;
+    BusRunningApplications running;
+    SessionBusNotificationCenter center;
+};
+
+TEST_F(LoginItem, IsSeenByTheProgramThatItStarts)
+{
+    start();
+    EXPECT_EQ(contents("/tmp/seen").trimmed(), "(true,)");
+    EXPECT_TRUE(running.isRunning(itsName));
+    EXPECT_EQ(contents("/tmp/started").count('\n'), 1);
+}
+
+TEST_F(LoginItem, QuitsWhenToldAndLeavesTheProgramRunning)
+{
+    start();
+    center.post(QLatin1String(contract::terminateLoginHelper),
+        QLatin1String(contract::terminateLoginHelperObject));
+    EXPECT_TRUE(eventually([this] { return hasEnded(); }));
+    EXPECT_EQ(item.exitCode(), 0);
+    EXPECT_FALSE(running.isRunning(itsName));
+    EXPECT_EQ(kill(contents("/tmp/started").trimmed().toInt(), 0), 0);
+}
+
+TEST_F(LoginItem, StaysForEveryOtherBroadcast)
+{
+    start();
+    center.post(QLatin1String(contract::terminateLoginHelper), QStringLiteral("com.example.Other"));
+    center.post(QLatin1String(contract::helperUpdated),
+        QLatin1String(contract::terminateLoginHelperObject));
+    command(QStringLiteral("dbus-send --session --type=signal %1 %2.%3 int32:1")
+                .arg(QLatin1String(contract::distributedPath),
+                    QLatin1String(contract::distributedInterface),
+                    QLatin1String(contract::distributedSignal)));
+    EXPECT_FALSE(eventually([this] { return hasEnded(); }, 500ms));
+    EXPECT_TRUE(running.isRunning(itsName));
+}
+
+TEST_F(LoginItem, EndsWithAProgramThatNeverSaysAWord)
+{
+    program("echo yes >/tmp/seen; exit 0\n");
+    start();
+    EXPECT_TRUE(eventually([this] { return hasEnded(); }));
+}
+
+TEST_F(LoginItem, EndsWhenThereIsNoProgram)
+{
+    QFile::remove(QStringLiteral(QUILLON_TEST_PROGRAM));
+    item.start(QStringLiteral(QUILLON_TEST_LOGIN_ITEM), QStringList());
+    EXPECT_TRUE(eventually([this] { return hasEnded(); }));
+    EXPECT_EQ(item.exitCode(), 1);
+}
+
+TEST_F(LoginItem, ASecondOneStartsNothing)
+{
+    start();
+    QProcess second;
+    second.start(QStringLiteral(QUILLON_TEST_LOGIN_ITEM), QStringList());
+    EXPECT_TRUE(eventually([&] { return second.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(second.exitCode(), 1);
+    EXPECT_EQ(contents("/tmp/started").count('\n'), 1);
+    EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(LoginItem, WithoutASessionItStartsNothing)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(
+        QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=/tmp/no-bus"));
+    item.setProcessEnvironment(environment);
+    item.start(QStringLiteral(QUILLON_TEST_LOGIN_ITEM), QStringList());
+    EXPECT_TRUE(eventually([this] { return hasEnded(); }));
+    EXPECT_NE(item.exitCode(), 0);
+    EXPECT_TRUE(contents("/tmp/started").isEmpty());
+}
+
+} // namespace quillon::test

@@ -1,0 +1,309 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Names.h"
+#include "integration/linux/Commands.h"
+#include "integration/linux/Waiting.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quillon::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString build = QStringLiteral(QUILLON_BUILD);
+
+/// What one call to the service came to.
+struct Call
+{
+    bool succeeded = false;
+    QString text; ///< the answer, or the error
+};
+
+/// A program that runs until its object goes.
+class Running
+{
+public:
+    Running(const QString &program, const QStringList &arguments)
+    {
+        m_process.setProcessChannelMode(QProcess::MergedChannels);
+        m_process.start(program, arguments);
+        m_process.waitForStarted();
+    }
+    ~Running()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    bool ended() const { return m_process.state() == QProcess::NotRunning; }
+    int exitCode() const { return m_process.exitCode(); }
+    QString output()
+    {
+        m_output += QString::fromUtf8(m_process.readAll());
+        return m_output;
+    }
+
+private:
+    QProcess m_process;
+    QString m_output;
+};
+
+QStringList asUser(const QStringList &command)
+{
+    return QStringList{QStringLiteral("-u"), QStringLiteral("quillon"), QStringLiteral("--")} +
+           command;
+}
+
+std::unique_ptr<Running> calling(const QString &operation)
+{
+    return std::make_unique<Running>(QStringLiteral("runuser"),
+        asUser({QStringLiteral("gdbus"), QStringLiteral("call"), QStringLiteral("--session"),
+            QStringLiteral("--timeout"), QStringLiteral("60"), QStringLiteral("--dest"),
+            QLatin1String(contract::serviceName), QStringLiteral("--object-path"),
+            QLatin1String(contract::servicePath), QStringLiteral("--method"),
+            QLatin1String(contract::serviceInterface) + QLatin1Char('.') + operation}));
+}
+
+Call call(const QString &operation)
+{
+    const auto process = calling(operation);
+    EXPECT_TRUE(eventually([&] { return process->ended(); }));
+    return {process->exitCode() == 0, process->output()};
+}
+
+QString endpointIn(const Call &connected)
+{
+    static const QRegularExpression answer(QStringLiteral("\\A\\('([^']*)', \\["));
+    return answer.match(connected.text).captured(1);
+}
+
+qsizetype authorizationBytesIn(const Call &connected)
+{
+    return connected.text.count(QStringLiteral("0x"));
+}
+
+bool isError(const Call &result, const contract::ErrorName &error)
+{
+    return !result.succeeded && result.text.contains(QLatin1String(error.name));
+}
+
+void reloadSystemBus()
+{
+    command(QStringLiteral("gdbus call --system --dest org.freedesktop.DBus --object-path / "
+                           "--method org.freedesktop.DBus.ReloadConfig"));
+}
+
+// As on a machine where it never was installed.
+void removeHelper()
+{
+    for (const char *folder : {"/usr/local", "/etc"}) {
+        QDirIterator files(QLatin1String(folder),
+            {QStringLiteral("*orvandel.Quillon4HelperTool*"), QStringLiteral("*orvandel.quillon4*"),
+                QStringLiteral("Quillon4HelperTool"), QStringLiteral("quillon4-helper*")},
+            QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile::remove(files.next());
+        }
+    }
+    reloadSystemBus();
+}
+
+} // namespace
+
+/// The service that the session bus starts for the user, beside the real helper and the real
+/// polkit.
+class ServiceTest : public ::testing::Test
+{
+protected:
+    // A person in front of the user's service, who does as `answer` says.
+    void atThePrompt(const char *answer)
+    {
+        const QString ready = QStringLiteral("/tmp/agent-ready");
+        QFile::remove(ready);
+        agent = std::make_unique<Running>(
+            QStringLiteral(QUILLON_SOURCE "/tools/sandbox.d/sandbox-polkit-agent"),
+            QStringList{QStringLiteral("--pid"), QString::number(serviceProcess()),
+                QStringLiteral("--log"), prompts, QStringLiteral("--ready"), ready,
+                QLatin1String(answer)});
+        ASSERT_TRUE(eventually([&] { return QFile::exists(ready); }))
+            << agent->output().toStdString();
+    }
+
+    // Starts the service if it does not run.
+    static int serviceProcess()
+    {
+        EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+        const QByteArray answer =
+            command(QStringLiteral("runuser -u quillon -- gdbus call --session --dest "
+                                   "org.freedesktop.DBus --object-path / "
+                                   "--method org.freedesktop.DBus.GetConnectionUnixProcessID %1")
+                        .arg(QLatin1String(contract::serviceName)));
+        // "(uint32 123,)"
+        return QString::fromUtf8(answer)
+            .section(QLatin1Char(' '), 1)
+            .section(QLatin1Char(','), 0, 0)
+            .toInt();
+    }
+
+    QByteArray promptLog() const
+    {
+        QFile log(prompts);
+        return log.open(QIODevice::ReadOnly) ? log.readAll() : QByteArray();
+    }
+
+    // Hears the broadcasts of the user's session.
+    void listen()
+    {
+        listener = std::make_unique<Running>(QStringLiteral("runuser"),
+            asUser({QStringLiteral("dbus-monitor"), QStringLiteral("--session"),
+                QStringLiteral("interface=") + QLatin1String(contract::distributedInterface)}));
+        ASSERT_TRUE(eventually(
+            [this] { return listener->output().contains(QLatin1String("NameAcquired")); }));
+    }
+
+    bool heardHelperUpdated()
+    {
+        const QString heard = listener->output();
+        return heard.contains(QLatin1String("string \"HelperUpdated\"")) &&
+               heard.contains(QLatin1String("string \"com.orvandel.Quillon4MASHelper\""));
+    }
+
+    const QString prompts = QStringLiteral("/tmp/prompts.log");
+    std::unique_ptr<Running> agent;
+    std::unique_ptr<Running> listener;
+};
+
+TEST_F(ServiceTest, GivesTheHelpersUniqueNameAndThirtyTwoBytes)
+{
+    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
+    const QByteArray owner = command(
+        QStringLiteral("gdbus call --system --dest org.freedesktop.DBus --object-path / --method "
+                       "org.freedesktop.DBus.GetNameOwner com.orvandel.Quillon4HelperTool"));
+    EXPECT_FALSE(endpointIn(connected).isEmpty());
+    EXPECT_EQ(
+        QString::fromUtf8(owner).trimmed(), QStringLiteral("('%1',)").arg(endpointIn(connected)));
+    EXPECT_EQ(authorizationBytesIn(connected), 32);
+}
+
+TEST_F(ServiceTest, SetupMakesTheAuthorizationAnew)
+{
+    const QString connect = QStringLiteral("ConnectWithEndpointAndAuthorization");
+    const Call first = call(connect);
+    EXPECT_EQ(call(connect).text, first.text);
+    EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+    EXPECT_NE(call(connect).text, first.text);
+}
+
+TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
+{
+    removeHelper();
+    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
+    EXPECT_EQ(endpointIn(connected), QString());
+    EXPECT_EQ(authorizationBytesIn(connected), 32);
+}
+
+TEST_F(ServiceTest, WithoutASystemBusThereIsNoEndpoint)
+{
+    QFile::rename(QStringLiteral("/run/dbus/system_bus_socket"), QStringLiteral("/run/dbus/gone"));
+    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
+    EXPECT_EQ(endpointIn(connected), QString());
+}
+
+TEST_F(ServiceTest, AHelperThatIsThereIsNotInstalledAgain)
+{
+    atThePrompt("grant");
+    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
+    EXPECT_EQ(promptLog(), QByteArray());
+}
+
+TEST_F(ServiceTest, InstallsAfterOnePromptAndAnnouncesIt)
+{
+    removeHelper();
+    atThePrompt("grant");
+    listen();
+    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
+    EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
+    EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
+
+    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    EXPECT_FALSE(endpointIn(connected).isEmpty()) << connected.text.toStdString();
+}
+
+TEST_F(ServiceTest, ARefusedPromptInstallsNothing)
+{
+    removeHelper();
+    listen();
+    for (const char *answer : {"refuse", "dismiss"}) {
+        atThePrompt(answer);
+        const Call installed = call(QStringLiteral("InstallHelperTool"));
+        EXPECT_TRUE(isError(installed, contract::error::notAuthorized))
+            << answer << ": " << installed.text.toStdString();
+        EXPECT_TRUE(promptLog().contains(answer));
+        agent.reset();
+    }
+    EXPECT_EQ(endpointIn(call(QStringLiteral("ConnectWithEndpointAndAuthorization"))), QString());
+    EXPECT_FALSE(heardHelperUpdated());
+}
+
+TEST_F(ServiceTest, WithoutAnybodyToAskInstallsNothing)
+{
+    removeHelper();
+    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    EXPECT_TRUE(isError(installed, contract::error::notAuthorized)) << installed.text.toStdString();
+}
+
+TEST_F(ServiceTest, OneInstallationAtATimeAndTheServiceGoesOnMeanwhile)
+{
+    removeHelper();
+    atThePrompt("hang");
+    const auto first = calling(QStringLiteral("InstallHelperTool"));
+    ASSERT_TRUE(eventually([this] { return promptLog().contains("hang"); }));
+
+    const Call second = call(QStringLiteral("InstallHelperTool"));
+    EXPECT_TRUE(isError(second, contract::error::installFailed)) << second.text.toStdString();
+    EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+    EXPECT_FALSE(first->ended());
+
+    agent.reset(); // the person's session goes, and the prompt with it
+    EXPECT_TRUE(eventually([&] { return first->ended(); }));
+    EXPECT_NE(first->exitCode(), 0);
+}
+
+TEST_F(ServiceTest, ToldWhyTheToolFailed)
+{
+    removeHelper();
+    // Where the tool wants to put a file there is a folder, with something in it.
+    command(QStringLiteral("mkdir -p "
+                           "/usr/local/share/dbus-1/system-services/"
+                           "com.orvandel.Quillon4HelperTool.service/in-the-way"));
+    atThePrompt("grant");
+    listen();
+    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    EXPECT_TRUE(isError(installed, contract::error::installFailed)) << installed.text.toStdString();
+    EXPECT_TRUE(installed.text.contains(QLatin1String("system-services")))
+        << installed.text.toStdString();
+    EXPECT_FALSE(heardHelperUpdated());
+}
+
+TEST(ServiceProgram, NeverRunsAsRoot)
+{
+    Running service(build + QStringLiteral("/service/quillon-xpc-service"), {});
+    ASSERT_TRUE(eventually([&] { return service.ended(); }));
+    EXPECT_EQ(service.exitCode(), 1);
+    EXPECT_TRUE(service.output().contains(QLatin1String("never runs as root")));
+}
+
+} // namespace quillon::test
