@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "devices/HexFormatter.h"
+#include "devices/HexValueTransformer.h"
+
+#include <QObject>
+#include <QStringList>
+
+namespace quillon {
+
+class CurrentInterface;
+class DeviceTable;
+class Scheduler;
+class SettingsStore;
+
+/// What the main window shows, as plain state that widgets mirror, and the rules by which it
+/// changes. Main thread, except where an operation says that it moves there by itself.
+class MainWindowModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct State
+    {
+        // The selection button: one title per device, in the order of every list of devices.
+        QStringList devices;
+        QString selectedDevice;
+        bool selectionVisible = false;
+
+        QString fieldText;
+        QString fieldPlaceholder;
+        bool fieldEnabled = false;
+        bool updateEnabled = false; ///< the apply button
+        bool randomiseEnabled = false;
+        bool restoreEnabled = false;
+
+        /// The hint to install the helper, with its install button.
+        bool readMeVisible = false;
+        bool installing = false; ///< an installation was asked for and has not ended
+
+        bool hardwareIndicatorVisible = false; ///< the address in use is not the factory address
+        bool softwareButtonVisible = false;
+
+        // The selected interface, for display; addresses in display case.
+        QString interfaceName; ///< localised port name
+        QString currentAddress;
+        QString hardwareAddress;
+        QString ipAddress; ///< "" when none
+        bool linkActive = false;
+
+        QString versionLabel;
+
+        bool operator==(const State &) const = default;
+    };
+
+    /// How the hint is drawn: left-aligned, bold, of this size in points, in this colour (0 to 1).
+    struct ReadMeStyle
+    {
+        int pointSize = 14;
+        double red = 0.43;
+        double green = 0.61;
+        double blue = 0.99;
+        double alpha = 1.0;
+    };
+
+    MainWindowModel(SettingsStore &settings, Scheduler &scheduler, const DeviceTable &devices,
+        const CurrentInterface &currentInterface);
+
+    const State &state() const { return m_state; }
+    static ReadMeStyle readMeStyle() { return {}; }
+    /// A text that explains the helper, shown on demand beside the hint.
+    static QString readMeText();
+
+    /// Before the first device is read: everything that needs the helper is disabled.
+    void prepareWindow();
+    void disableRandomise();
+    void disableUpdate();
+
+    void populateSelectionButton();
+    void popupButtonClicked() { populateSelectionButton(); }
+    /// Takes the emphasis from every button that may have kept it.
+    void resetInfoButtons();
+    /// Gives the hint its own style again without changing its text.
+    void readMeReset();
+    /// Enables the address field exactly when the helper is installed, and shows the hint
+    /// otherwise.
+    void setHelperInstalled(bool installed);
+    void hideReadMe();
+    void setInstalling(bool installing);
+    void showPlaceholder(const QString &address);
+    /// A fresh formatter on the address field.
+    void renewHexFormatter();
+
+    /// Shows the current interface's address in the field, in a later turn of the main loop. Any
+    /// thread.
+    void populateHexField();
+    /// An address that was dropped on the field; anything else is ignored.
+    void populateHexFieldFromDrop(const QString &text);
+    /// The apply button follows the field; does nothing while the helper is not installed.
+    void checkUpdateButton();
+
+    /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
+    /// what it had.
+    bool editField(const QString &text);
+    /// The program wrote `text` into the field.
+    void setFieldText(const QString &text);
+
+    /// A drag over the field is accepted when the field is enabled and `text` is a valid address.
+    bool draggingEntered(const QString &text) const;
+    bool performDragOperation() const;
+    void concludeDragOperation(const QString &text);
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+    /// The user edited or cleared the field in vain: it has to show state().fieldText again.
+    void fieldRestored();
+    /// Buttons that may be emphasised are to look normal again.
+    void infoButtonsReset();
+    void readMeStyleReset();
+
+private:
+    void update(const State &state);
+    void fillInterfaceDetails(State &state) const;
+
+    SettingsStore &m_settings;
+    Scheduler &m_scheduler;
+    const DeviceTable &m_devices;
+    const CurrentInterface &m_currentInterface;
+    HexValueTransformer m_displayCase;
+    HexFormatter m_hexFormatter;
+    bool m_helperInstalled = false;
+    State m_state;
+};
+
+} // namespace quillon
