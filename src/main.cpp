@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/QuillonAppDelegate.h"
+#include "app/SettingsProblemMessage.h"
+#include "base/Log.h"
+#include "platform/linux/BusRunningApplications.h"
+#include "platform/linux/DBusHelperLink.h"
+#include "platform/linux/FreedesktopNotifications.h"
+#include "platform/linux/GetifaddrsAddresses.h"
+#include "platform/linux/GetrandomSource.h"
+#include "platform/linux/NetlinkChangeSource.h"
+#include "platform/linux/NetlinkHost.h"
+#include "platform/linux/PortalColorScheme.h"
+#include "platform/linux/SessionBusNotificationCenter.h"
+#include "platform/linux/SessionInstance.h"
+#include "platform/linux/TerminationSignals.h"
+#include "platform/linux/TrayHostWatch.h"
+#include "platform/linux/X11TaskBar.h"
+#include "platform/qt/PlistSettingsStore.h"
+#include "platform/qt/PropertyListFile.h"
+#include "platform/qt/QtScheduler.h"
+#include "ui/MainWindow.h"
+#include "ui/UserInterface.h"
+
+#include <QApplication>
+#include <QSessionManager>
+#include <QStandardPaths>
+
+using namespace quillon;
+
+namespace {
+
+/// A folder of its own, so that watching it does not wake us for everybody else's settings.
+QString settingsPath(const QString &name)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return folder + QStringLiteral("/Quillon/") + name;
+}
+
+QVariantMap packagedDefaults()
+{
+    const auto defaults = readPropertyListFile(QStringLiteral(":/Defaults.plist"));
+    if (!defaults) {
+        qCWarning(logSettings, "the packaged defaults cannot be read: %s",
+            qUtf8Printable(defaults.error().message));
+        return {};
+    }
+    return defaults.value();
+}
+
+void describe(QApplication &application)
+{
+    application.setApplicationName(QStringLiteral("Quillon"));
+    application.setApplicationVersion(QStringLiteral(QUILLON_VERSION));
+    application.setDesktopFileName(QStringLiteral("com.orvandel.Quillon4"));
+    application.setQuitOnLastWindowClosed(false);
+    // A session that restores its programs would start us beside the login item.
+    QObject::connect(&application, &QGuiApplication::saveStateRequest,
+        [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
+}
+
+int bringOtherToTheFront(QApplication &application, SessionInstance &instance)
+{
+    instance.activateOther([&application](bool reached) { application.exit(reached ? 0 : 1); });
+    return application.exec();
+}
+
+void connectWindow(MainWindow &window, QuillonAppDelegate &delegate)
+{
+    QObject::connect(&window, &MainWindow::randomisePressed, [&] { delegate.randomizeAddress(); });
+    QObject::connect(&window, &MainWindow::applyPressed, [&] { delegate.changeMacAddress(); });
+    QObject::connect(
+        &window, &MainWindow::restorePressed, [&] { delegate.restoreDefaultAddress(); });
+    QObject::connect(&window, &MainWindow::installPressed, [&] { delegate.installHelper(); });
+    QObject::connect(&window, &MainWindow::interfacePicked,
+        [&](const QString &title) { delegate.changeInterfacefromPopup(title); });
+    QObject::connect(&window, &MainWindow::selectionPopupShown,
+        [&] { delegate.mainWindow().popupButtonClicked(); });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    describe(application);
+
+    SessionInstance instance;
+    if (instance.claim() == SessionInstance::Claim::AlreadyRunning) {
+        return bringOtherToTheFront(application, instance);
+    }
+
+    // From the ground up; destroyed in the opposite order.
+    QtScheduler scheduler;
+    Notifier *notifier = nullptr;
+    const auto tellOfSettings = [&notifier](const SettingsProblem &problem) {
+        if (notifier) {
+            const SettingsProblemMessage message = settingsProblemMessage(problem);
+            notifier->sendNotificationWithBody(message.title, message.body);
+        }
+    };
+    PlistSettingsStore settings(
+        settingsPath(QStringLiteral("com.orvandel.Quillon4.plist")), scheduler, tellOfSettings);
+    PlistSettingsStore groupSettings(
+        settingsPath(QStringLiteral("orvandel.com.orvandel.Quillon4.plist")), scheduler,
+        tellOfSettings);
+    NotificationCenter notifications;
+    SessionBusNotificationCenter distributedNotifications;
+    FreedesktopNotifications userNotifications(scheduler);
+    NetlinkHost network;
+    GetifaddrsAddresses interfaceAddresses;
+    NetlinkChangeSource networkChanges(scheduler);
+    GetrandomSource random;
+    DBusHelperLink helperLink(random);
+    BusRunningApplications runningApplications;
+
+    QuillonAppDelegate::initialize(settings, packagedDefaults());
+    QuillonAppDelegate delegate({scheduler, settings, groupSettings, notifications,
+        distributedNotifications, userNotifications, network, interfaceAddresses, networkChanges,
+        helperLink, random, runningApplications});
+    notifier = &delegate.userNotifications();
+    LaunchSequence &launch = delegate.launch();
+
+    TrayHostWatch trayHost;
+    X11TaskBar taskBar;
+    PortalColorScheme colorScheme;
+    UserInterface userInterface({delegate.mainWindow(), delegate.statusMenu(), delegate.presence()},
+        {trayHost, taskBar, colorScheme});
+    connectWindow(userInterface.mainWindow(), delegate);
+    QObject::connect(
+        &instance, &SessionInstance::activated, [&] { launch.applicationShouldHandleReopen(); });
+    QObject::connect(
+        &delegate.presence(), &Presence::terminated, &application, &QApplication::quit);
+    const TerminationSignals signals([&application] { application.quit(); });
+
+    launch.awakeFromNib();
+    launch.applicationWillFinishLaunching();
+    launch.applicationDidFinishLaunching();
+    const int code = application.exec();
+    launch.applicationWillTerminate();
+    // Background work ends before the components that it uses, and nobody is left to be told.
+    scheduler.shutDown();
+    notifier = nullptr;
+    return code;
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+
+namespace quillon {
+
+class MainWindowModel;
+
+/// The device selection button: mirrors the model's titles. The user's choice is only reported;
+/// what is selected then is the model's word.
+class InterfaceSelector : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit InterfaceSelector(MainWindowModel &model, QWidget *parent = nullptr);
+
+    void refresh();
+    void showPopup() override;
+
+Q_SIGNALS:
+    void interfacePicked(const QString &title);
+    /// Just before the list opens.
+    void selectionPopupShown();
+
+private:
+    MainWindowModel &m_model;
+};
+
+} // namespace quillon

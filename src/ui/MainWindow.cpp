@@ -1,0 +1,291 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/MainWindow.h"
+
+#include "app/MainWindowModel.h"
+#include "app/Presence.h"
+#include "base/Localized.h"
+#include "platform/TaskBar.h"
+#include "ui/AddressField.h"
+#include "ui/InterfaceDetails.h"
+#include "ui/InterfaceSelector.h"
+#include "ui/ReadMeHint.h"
+#include "ui/TextFieldBackgroundView.h"
+#include "ui/Theme.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int portIconSize = 32;
+constexpr int linkDotSize = 10;
+
+QLabel *makeCaption(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setProperty("look", QStringLiteral("caption"));
+    return label;
+}
+
+QPushButton *makeButton(
+    const QString &text, const QString &accessibleName, const QString &description)
+{
+    auto *button = new QPushButton(text);
+    button->setAccessibleName(accessibleName);
+    button->setAccessibleDescription(description);
+    button->setToolTip(description);
+    button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
+    // Return presses the focused button, as the space bar does.
+    button->setAutoDefault(true);
+    return button;
+}
+
+} // namespace
+
+MainWindow::MainWindow(
+    MainWindowModel &model, Presence &presence, const Theme &theme, TaskBar &taskBar)
+    : m_model(model)
+    , m_presence(presence)
+    , m_theme(theme)
+    , m_taskBar(taskBar)
+{
+    setObjectName(QStringLiteral("windowView"));
+    setWindowTitle(QStringLiteral("Quillon"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/com.orvandel.Quillon4.svg")));
+
+    m_readMe = new ReadMeHint(model, theme);
+    m_details = new InterfaceDetails(model);
+    m_version = makeCaption(QString());
+    m_version->setFont(Theme::textFont(0.9));
+    m_version->setAccessibleName(localized("Version"));
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(
+        Theme::windowMargin, Theme::windowMargin, Theme::windowMargin, Theme::cardMargin);
+    column->setSpacing(Theme::spacing);
+    // The window is as large as its texts need, in any language and at any scale.
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    column->addWidget(makeHeader());
+    column->addWidget(m_readMe);
+    column->addWidget(makeAddressCard());
+    column->addWidget(makeButtons());
+    column->addWidget(m_details);
+    column->addWidget(m_version, 0, Qt::AlignRight);
+
+    makeShortcuts();
+    connectModel();
+    connectPresence();
+    refresh();
+    m_field->setFocus();
+}
+
+QWidget *MainWindow::makeHeader()
+{
+    auto *header = new QWidget;
+    header->setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
+    m_portIcon = new QLabel;
+    m_portIcon->setFixedSize(portIconSize, portIconSize);
+    m_selectorCaption = makeCaption(localized("&Interface"));
+    m_selector = new InterfaceSelector(m_model);
+    m_selectorCaption->setBuddy(m_selector);
+    m_portName = new QLabel;
+    m_portName->setObjectName(QStringLiteral("portName"));
+    m_portName->setFont(Theme::textFont(1.0, QFont::DemiBold));
+    m_linkDot = new QLabel;
+    m_linkDot->setFixedSize(linkDotSize, linkDotSize);
+    m_linkText = new QLabel;
+    m_linkText->setObjectName(QStringLiteral("linkState"));
+
+    auto *link = new QHBoxLayout;
+    link->setSpacing(6);
+    link->addWidget(m_linkDot);
+    link->addWidget(m_linkText);
+    auto *port = new QVBoxLayout;
+    port->setSpacing(2);
+    port->addWidget(m_portName);
+    port->addLayout(link);
+
+    auto *row = new QHBoxLayout(header);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::unit + Theme::unit / 2);
+    row->addWidget(m_portIcon);
+    row->addLayout(port);
+    row->addStretch(1);
+    row->addWidget(m_selectorCaption);
+    row->addWidget(m_selector);
+    return header;
+}
+
+QWidget *MainWindow::makeAddressCard()
+{
+    auto *card = new TextFieldBackgroundView(m_model);
+    auto *caption = makeCaption(localized("A&ddress"));
+    m_field = new AddressField(m_model);
+    caption->setBuddy(m_field);
+    m_apply = makeButton(localized("&Apply"), localized("Apply address"),
+        localized("Gives the interface the address in the field"));
+    m_apply->setObjectName(QStringLiteral("updateButton"));
+    m_apply->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
+
+    auto *grid = new QGridLayout(card);
+    grid->setContentsMargins(
+        Theme::cardMargin, Theme::unit + 4, Theme::cardMargin, Theme::cardMargin);
+    grid->setHorizontalSpacing(Theme::unit);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(0, 1);
+    grid->addWidget(caption, 0, 0, 1, 2);
+    grid->addWidget(m_field, 1, 0);
+    grid->addWidget(m_apply, 1, 1);
+    return card;
+}
+
+QWidget *MainWindow::makeButtons()
+{
+    auto *buttons = new QWidget;
+    m_randomise = makeButton(localized("&Randomise address"), localized("Randomise address"),
+        localized("Gives the interface a random, locally administered address"));
+    m_randomise->setObjectName(QStringLiteral("randomiseButton"));
+    m_randomise->setProperty("look", QStringLiteral("primary"));
+    m_randomise->setIcon(m_theme.icon(QStringLiteral("random"), Theme::Ink::OnAccent));
+    m_restore =
+        makeButton(localized("Restore &factory address"), localized("Restore factory address"),
+            localized("Gives the interface the address back that it was made with"));
+    m_restore->setObjectName(QStringLiteral("restoreButton"));
+    m_restore->setIcon(m_theme.icon(QStringLiteral("restore"), Theme::Ink::Text));
+
+    auto *row = new QHBoxLayout(buttons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::unit);
+    row->addWidget(m_randomise, 1);
+    row->addWidget(m_restore, 1);
+    return buttons;
+}
+
+void MainWindow::makeShortcuts()
+{
+    const auto add = [this](const QString &text, const QKeySequence &keys, auto reaction) {
+        auto *action = new QAction(text, this);
+        action->setShortcut(keys);
+        connect(action, &QAction::triggered, this, reaction);
+        addAction(action);
+    };
+    add(localized("Close Window"), QKeySequence(Qt::CTRL | Qt::Key_W),
+        [this] { m_presence.closeWindow(); });
+    add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
+        [this] { m_presence.quit(); });
+
+    connect(m_selector, &InterfaceSelector::interfacePicked, this, &MainWindow::interfacePicked);
+    connect(m_selector, &InterfaceSelector::selectionPopupShown, this,
+        &MainWindow::selectionPopupShown);
+    connect(m_apply, &QPushButton::clicked, this, &MainWindow::applyPressed);
+    connect(m_randomise, &QPushButton::clicked, this, &MainWindow::randomisePressed);
+    connect(m_restore, &QPushButton::clicked, this, &MainWindow::restorePressed);
+    connect(m_readMe, &ReadMeHint::installPressed, this, &MainWindow::installPressed);
+    connect(m_field, &QLineEdit::returnPressed, this, [this] {
+        if (m_model.state().updateEnabled) {
+            Q_EMIT applyPressed();
+        }
+    });
+}
+
+void MainWindow::connectModel()
+{
+    connect(&m_model, &MainWindowModel::changed, this, &MainWindow::refresh);
+    connect(&m_model, &MainWindowModel::fieldRestored, m_field, &AddressField::refresh);
+    connect(&m_theme, &Theme::changed, this, &MainWindow::refreshLink);
+}
+
+void MainWindow::connectPresence()
+{
+    connect(&m_presence, &Presence::windowOpened, this, &MainWindow::bringUp);
+    connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
+    connect(&m_presence, &Presence::windowClosed, this, &QWidget::close);
+    connect(&m_presence, &Presence::dockIconHiddenChanged, this, &MainWindow::followTaskBar);
+}
+
+void MainWindow::refresh()
+{
+    const auto &state = m_model.state();
+    m_selector->refresh();
+    m_selectorCaption->setVisible(state.selectionVisible);
+    m_field->refresh();
+    m_field->setPlaceholderText(state.fieldPlaceholder);
+    m_field->setEnabled(state.fieldEnabled);
+    m_apply->setEnabled(state.updateEnabled);
+    m_randomise->setEnabled(state.randomiseEnabled);
+    m_restore->setEnabled(state.restoreEnabled);
+    m_readMe->refresh();
+    m_details->refresh();
+    m_version->setText(state.versionLabel);
+    m_portName->setText(state.interfaceName);
+    refreshLink();
+}
+
+void MainWindow::refreshLink()
+{
+    const auto &state = m_model.state();
+    const bool known = !state.interfaceName.isEmpty();
+    const bool active = state.linkActive;
+    const auto picture = [this](const QString &name, Theme::Ink ink, int size) {
+        return m_theme.icon(name, ink).pixmap(QSize(size, size), devicePixelRatioF());
+    };
+    m_linkDot->setVisible(known);
+    m_linkDot->setPixmap(
+        active ? picture(QStringLiteral("link-active"), Theme::Ink::Positive, linkDotSize)
+               : picture(QStringLiteral("link-inactive"), Theme::Ink::Muted, linkDotSize));
+    m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
+    m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
+    m_linkText->setProperty("look", active ? QStringLiteral("active") : QStringLiteral("inactive"));
+    style()->unpolish(m_linkText);
+    style()->polish(m_linkText);
+    const bool wireless = state.interfaceName == localized("Wi-Fi");
+    m_portIcon->setPixmap(picture(wireless ? QStringLiteral("wireless") : QStringLiteral("wired"),
+        Theme::Ink::Accent, portIconSize));
+}
+
+void MainWindow::bringUp()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    // Under X11 Qt notices only after a while that a hidden window lost the keyboard. Shown again
+    // before that, the window would have the keyboard without knowing it.
+    if (QGuiApplication::focusWindow() == windowHandle()) {
+        QApplication::setActiveWindow(this);
+    }
+}
+
+void MainWindow::followTaskBar()
+{
+    m_taskBar.setSkipped(static_cast<quintptr>(winId()), m_presence.isDockIconHidden());
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    followTaskBar();
+    QWidget::showEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    // The window is kept either way: hidden it can come back, and ending is the program's business.
+    event->ignore();
+    if (m_reachableWhenClosed) {
+        hide();
+    } else {
+        m_presence.quit();
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+namespace quillon {
+
+class AddressField;
+class InterfaceDetails;
+class InterfaceSelector;
+class MainWindowModel;
+class Presence;
+class ReadMeHint;
+class TaskBar;
+class Theme;
+
+/// The window on one selected interface. It mirrors MainWindowModel, follows Presence, and reports
+/// what the user does; it decides nothing. Main thread.
+class MainWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    MainWindow(MainWindowModel &model, Presence &presence, const Theme &theme, TaskBar &taskBar);
+
+    /// Whether the program stays within reach once the window is closed. Then closing only hides
+    /// it; otherwise closing is the quit command, so that no program runs that nobody can reach.
+    void setReachableWhenClosed(bool reachable) { m_reachableWhenClosed = reachable; }
+
+Q_SIGNALS:
+    void randomisePressed();
+    void applyPressed();
+    void restorePressed();
+    void installPressed();
+    void interfacePicked(const QString &title);
+    void selectionPopupShown();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *makeHeader();
+    QWidget *makeAddressCard();
+    QWidget *makeButtons();
+    void makeShortcuts();
+    void connectModel();
+    void connectPresence();
+    void refresh();
+    void refreshLink();
+    void bringUp();
+    void followTaskBar();
+
+    MainWindowModel &m_model;
+    Presence &m_presence;
+    const Theme &m_theme;
+    TaskBar &m_taskBar;
+    bool m_reachableWhenClosed = false;
+
+    InterfaceSelector *m_selector;
+    AddressField *m_field;
+    QPushButton *m_apply;
+    QPushButton *m_randomise;
+    QPushButton *m_restore;
+    ReadMeHint *m_readMe;
+    InterfaceDetails *m_details;
+    QLabel *m_selectorCaption;
+    QLabel *m_portIcon;
+    QLabel *m_portName;
+    QLabel *m_linkDot;
+    QLabel *m_linkText;
+    QLabel *m_version;
+};
+
+} // namespace quillon

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/ColorSchemeSource.h"
+
+#include <QColor>
+#include <QList>
+#include <QPalette>
+
+namespace quillon {
+
+/// Every colour of the program's windows, by what it is for.
+struct ThemeColors
+{
+    QColor window;        ///< behind everything
+    QColor surface;       ///< cards
+    QColor surfaceBorder; ///< decoration only
+    QColor control;       ///< secondary buttons, selectors
+    QColor controlHover;
+    QColor controlPressed;
+    QColor controlBorder; ///< the outline by which a control is recognised
+    QColor text;
+    QColor mutedText;
+    QColor disabledText;
+    QColor accent; ///< the primary button, links, the ring around the focused control
+    QColor accentHover;
+    QColor accentPressed;
+    QColor onAccent;
+    QColor disabledFill;
+    QColor positive;
+    QColor notice; ///< text on noticeSurface
+    QColor noticeSurface;
+    QColor hint; ///< the panel that offers the helper: dark in both schemes
+    QColor hintText;
+    QColor hintBody;
+    QColor hintButton;
+    QColor hintButtonHover;
+    QColor onHintButton;
+
+    static ThemeColors forScheme(ColorScheme scheme);
+    QPalette palette() const;
+};
+
+/// The scheme that a palette belongs to, as a desktop's platform theme gives it: dark when its text
+/// is lighter than its windows.
+ColorScheme schemeOf(const QPalette &palette);
+
+/// Contrast of two opaque colours as WCAG 2.1 defines it: 1 to 21.
+double contrastRatio(const QColor &first, const QColor &second);
+
+/// A colour that is drawn on another, and the least contrast that makes it legible: 4.5 for text, 3
+/// for large text, outlines and symbols.
+struct ColorPair
+{
+    const char *use;
+    QColor foreground;
+    QColor background;
+    double leastContrast;
+};
+
+/// All pairs that carry meaning. Disabled controls are not among them.
+QList<ColorPair> meaningfulPairs(const ThemeColors &colors);
+
+} // namespace quillon

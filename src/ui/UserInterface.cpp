@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/UserInterface.h"
+
+#include "platform/ColorSchemeSource.h"
+
+#include <QApplication>
+
+namespace quillon {
+
+namespace {
+
+/// The theme must dress the application before the first window measures itself.
+Theme &applied(Theme &theme)
+{
+    theme.apply();
+    return theme;
+}
+
+} // namespace
+
+UserInterface::UserInterface(const Models &models, const Desktop &desktop)
+    : m_theme(schemeOf(QGuiApplication::palette()))
+    , m_mainWindow(models.mainWindow, models.presence, applied(m_theme), desktop.taskBar)
+    , m_statusItem(models.statusMenu, models.presence, desktop.trayHost, m_theme)
+{
+    // Closing the window is not the end: MainWindow says what it means.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,
+        [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
+    desktop.colorScheme.watch([this](ColorScheme scheme) { m_theme.setScheme(scheme); });
+}
+
+} // namespace quillon

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/MainWindow.h"
+#include "ui/StatusItem.h"
+#include "ui/Theme.h"
+
+namespace quillon {
+
+class ColorSchemeSource;
+
+/// Everything that is seen of the program, put together: the look, the main window, the status
+/// item. Nothing is shown until Presence says so. Needs a QApplication; main thread.
+class UserInterface
+{
+public:
+    struct Models
+    {
+        MainWindowModel &mainWindow;
+        StatusMenuModel &statusMenu;
+        Presence &presence;
+    };
+    struct Desktop
+    {
+        TrayHost &trayHost;
+        TaskBar &taskBar;
+        ColorSchemeSource &colorScheme;
+    };
+
+    UserInterface(const Models &models, const Desktop &desktop);
+
+    /// Its signals are what the user does.
+    MainWindow &mainWindow() { return m_mainWindow; }
+
+private:
+    Theme m_theme;
+    MainWindow m_mainWindow;
+    StatusItem m_statusItem;
+};
+
+} // namespace quillon

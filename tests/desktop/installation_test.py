@@ -1,0 +1,74 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The way to a helper: the hint, its button, and an administrator who agrees or not.
+
+Runs as root, who is the administrator; the program and its user are ordinary.
+"""
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from program import SANDBOX_TOOLS, ProgramTest, wait_until
+
+USER = "quillon"
+AGENT = os.path.join(SANDBOX_TOOLS, "sandbox-polkit-agent")
+
+
+class InstallationTest(ProgramTest):
+    def answer(self, answer):
+        with open(os.environ["QUILLON_ANSWER"], "w") as file:
+            file.write(answer)
+
+    def prompts(self):
+        with open(os.environ["QUILLON_PROMPTS"]) as file:
+            return len(file.readlines())
+
+    def test_the_helper_is_installed_from_the_window(self):
+        self.window.find("label", "Helper hint")
+        self.assertFalse(self.field.enabled)
+        self.assertFalse(self.button("Randomise address").enabled)
+        self.assertFalse(self.button("Apply address").enabled)
+
+        self.answer("dismiss")
+        self.button("Install helper").press()
+        wait_until(lambda: self.prompts() == 1, "nobody was asked")
+        wait_until(lambda: self.button("Install helper").enabled, "the button did not come back")
+        self.assertFalse(self.field.enabled, "nobody agreed, and yet there is a helper")
+
+        self.answer("grant")
+        self.button("Install helper").press()
+        wait_until(lambda: self.field.enabled, "the field is still disabled")
+        wait_until(lambda: not self.window.has("label", "Helper hint"), "the hint is still there")
+        self.assertEqual(self.prompts(), 2)
+
+        self.button("Randomise address").press()
+        self.expect_shown(self.expect_only_changed(self.selector.name))
+
+
+def as_administrator():
+    """Sits at the password prompt, and has this script's tests run by the ordinary user."""
+    with tempfile.TemporaryDirectory() as folder:
+        os.chmod(folder, 0o755)
+        files = {name: os.path.join(folder, name) for name in ("ready", "control", "prompts")}
+        for name in ("control", "prompts"):
+            open(files[name], "w").close()
+        os.chmod(files["control"], 0o666)
+        agent = subprocess.Popen([AGENT, "--ready", files["ready"], "--control", files["control"],
+                                  "--log", files["prompts"], "refuse"], stdin=subprocess.DEVNULL)
+        try:
+            wait_until(lambda: os.path.exists(files["ready"]), "the agent did not start")
+            environment = {**os.environ, "HOME": os.path.expanduser("~" + USER), "USER": USER, "LOGNAME": USER,
+                           "QUILLON_ANSWER": files["control"], "QUILLON_PROMPTS": files["prompts"]}
+            return subprocess.run(["runuser", "-u", USER, "--", sys.executable, "-B", os.path.realpath(__file__)],
+                                  env=environment).returncode
+        finally:
+            agent.terminate()
+            agent.wait()
+
+
+if __name__ == "__main__":
+    if os.getuid() == 0:
+        sys.exit(as_administrator())
+    unittest.main(verbosity=2)

@@ -1,0 +1,96 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Windows that close and come back, a second start, quitting, and the task bar's entry."""
+import os
+import plistlib
+import subprocess
+import unittest
+
+from program import (DEADLINE, NAME, TITLE, ProgramTest, accessibility, start, trayclient, wait_until,
+                     xdotool)
+
+SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
+
+
+def change_setting(key, value):
+    """As another program changes it: the file is replaced whole."""
+    with open(SETTINGS, "rb") as file:
+        settings = plistlib.load(file)
+    settings[key] = value
+    with open(SETTINGS + ".new", "wb") as file:
+        plistlib.dump(settings, file)
+    os.replace(SETTINGS + ".new", SETTINGS)
+
+
+def window_states():
+    """The states of our window that the window manager knows."""
+    identifier = subprocess.run(["xdotool", "search", "--name", f"^{TITLE}$"], check=True,
+                                capture_output=True, text=True).stdout.split()[-1]
+    answer = subprocess.run(["xprop", "-id", identifier, "_NET_WM_STATE"], check=True,
+                            capture_output=True, text=True)
+    return answer.stdout
+
+
+class LifecycleTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.item = trayclient.only_item()
+
+    def press_keys(self, keys):
+        self.field.click()
+        wait_until(lambda: self.field.focused, "the window did not get the keyboard")
+        xdotool("key", keys)
+
+    def hide(self):
+        self.press_keys("ctrl+w")
+        wait_until(lambda: not accessibility.has_window(NAME, TITLE), "the window stayed")
+        self.assertIsNone(self.program.poll(), "the status item is there: closing does not end it")
+
+    def test_a_closed_window_comes_back_from_the_status_item(self):
+        self.hide()
+        self.item.click("Open Quillon")
+        accessibility.window(NAME, TITLE)
+
+    def test_a_click_on_the_status_item_opens_the_window(self):
+        self.hide()
+        self.item.activate()
+        accessibility.window(NAME, TITLE)
+
+    def test_a_second_start_brings_the_first_to_the_front(self):
+        self.hide()
+        self.assertEqual(start().wait(DEADLINE), 0)
+        accessibility.window(NAME, TITLE)
+        self.assertIsNone(self.program.poll())
+        self.assertEqual(len(trayclient.items()), 1)
+
+    def test_the_quit_command_ends_the_program(self):
+        self.press_keys("ctrl+q")
+        self.assertEqual(self.program.wait(DEADLINE), 0)
+
+    def test_without_status_item_closing_ends_the_program(self):
+        self.addCleanup(change_setting, "showInMenu", True)
+        change_setting("showInMenu", False)
+        wait_until(lambda: not trayclient.items(), "the status item stayed")
+        self.press_keys("ctrl+w")
+        self.assertEqual(self.program.wait(DEADLINE), 0)
+
+    def test_the_task_bar_entry_follows_the_setting(self):
+        self.addCleanup(change_setting, "hideDock", False)
+        self.assertNotIn("_NET_WM_STATE_SKIP_TASKBAR", window_states())
+        change_setting("hideDock", True)
+        wait_until(lambda: "_NET_WM_STATE_SKIP_TASKBAR" in window_states(), "the entry stayed")
+        self.hide()
+        self.item.activate()
+        accessibility.window(NAME, TITLE)
+        wait_until(lambda: "_NET_WM_STATE_SKIP_TASKBAR" in window_states(), "the entry came back")
+        self.press_keys("ctrl+q")
+        wait_until(lambda: not accessibility.has_window(NAME, TITLE), "the window stayed")
+        self.assertIsNone(self.program.poll(), "without Dock icon the quit command only hides")
+        change_setting("hideDock", False)
+        self.item.activate()
+        accessibility.window(NAME, TITLE)
+        wait_until(lambda: "_NET_WM_STATE_SKIP_TASKBAR" not in window_states(), "no entry came")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

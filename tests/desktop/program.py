@@ -1,0 +1,68 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The program under test, started as a person starts it, and the kernel to compare with."""
+import json
+import os
+import subprocess
+import sys
+import unittest
+
+SANDBOX_TOOLS = os.path.realpath(os.path.join(os.path.dirname(os.path.realpath(__file__)),
+                                              "..", "..", "tools", "sandbox.d"))
+sys.path.insert(0, SANDBOX_TOOLS)
+
+import accessibility  # noqa: E402
+import trayclient  # noqa: E402,F401
+from accessibility import wait_until, xdotool  # noqa: E402,F401
+
+NAME = TITLE = "Quillon"
+PROGRAM = os.path.join(os.environ["QUILLON_BUILD"], "src", "quillon")
+DEADLINE = 20
+
+
+def kernel_addresses():
+    """What the kernel says: the address of each interface, in capitals."""
+    answer = subprocess.run(["ip", "-j", "link"], check=True, capture_output=True, stdin=subprocess.DEVNULL)
+    return {link["ifname"]: link["address"].upper() for link in json.loads(answer.stdout)
+            if link["ifname"] != "lo"}
+
+
+def start():
+    return subprocess.Popen([PROGRAM], stdin=subprocess.DEVNULL)
+
+
+class ProgramTest(unittest.TestCase):
+    """Starts the program anew for each test, and expects it to end in order when asked to."""
+
+    def setUp(self):
+        self.addresses = kernel_addresses()
+        self.program = start()
+        self.addCleanup(self.end_program)
+        self.window = accessibility.window(NAME, TITLE)
+        self.field = self.window.find("entry", "Address")
+        wait_until(lambda: self.field.text, "the window showed no address")
+        # Only now has the window manager put the window where it stays.
+        wait_until(lambda: self.selector.focused, "the window did not get the keyboard")
+
+    def end_program(self):
+        if self.program.poll() is None:
+            self.program.terminate()
+        self.assertEqual(self.program.wait(DEADLINE), 0, "the program did not end in order")
+
+    def button(self, name):
+        return self.window.find("button", name)
+
+    @property
+    def selector(self):
+        return self.window.labelled("Interface", "combo box")
+
+    def expect_only_changed(self, device):
+        """Waits until the kernel has a new address for `device`; returns it. No other may have changed."""
+        new = wait_until(lambda: kernel_addresses()[device] != self.addresses[device]
+                         and kernel_addresses()[device], f"the kernel kept the address of {device}")
+        self.assertEqual(kernel_addresses(), {**self.addresses, device: new})
+        return new
+
+    def expect_shown(self, address):
+        wait_until(lambda: self.field.text == address,
+                   lambda: f"the window shows {self.field.text} instead of {address}")
