@@ -20,7 +20,7 @@ namespace {
 constexpr int attempts = 8;
 // Duplicate address detection takes a second by default; until then a route may not name the
 // address.
-constexpr int detectionAttempts = 60;
+constexpr int detectionPauses = 60;
 constexpr int detectionPauseMilliseconds = 50;
 
 NetlinkMessage linkMessage(int type, int index)
@@ -169,11 +169,10 @@ int NetlinkKernelLink::create(int type, const LinkConfiguration::Message &body)
     return error == EEXIST ? 0 : error;
 }
 
-int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route)
+int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route, int &pausesLeft)
 {
     int error = create(RTM_NEWROUTE, route);
-    for (int attempt = 0; error == EINVAL && hasSourceAddress(route) && attempt < detectionAttempts;
-         ++attempt) {
+    for (; error == EINVAL && hasSourceAddress(route) && pausesLeft > 0; --pausesLeft) {
         ::poll(nullptr, 0, detectionPauseMilliseconds);
         error = create(RTM_NEWROUTE, route);
     }
@@ -187,8 +186,10 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
     for (const auto &address : configuration.addresses) {
         note(create(RTM_NEWADDR, address));
     }
+    // Shared by all routes: what is still wrong after that long stays wrong for the next one too.
+    int pausesLeft = detectionPauses;
     for (const auto &route : configuration.routes) {
-        note(createPatiently(route));
+        note(createPatiently(route, pausesLeft));
     }
     return first;
 }

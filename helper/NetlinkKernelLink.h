@@ -23,7 +23,7 @@ private:
     int find(int index, const std::string &name, LinkState &state);
     int readTable(int type, const NetlinkSocket::Answer &answer);
     int create(int type, const LinkConfiguration::Message &message);
-    int createPatiently(const LinkConfiguration::Message &route);
+    int createPatiently(const LinkConfiguration::Message &route, int &pausesLeft);
 
     NetlinkSocket m_socket;
 };

@@ -6,6 +6,7 @@
 #include <netlink/netlink.h>
 
 #include <cerrno>
+#include <cstring>
 
 namespace quillon {
 
@@ -33,6 +34,16 @@ int onEnd(nl_msg *, void *argument)
     return NL_STOP;
 }
 
+int onTableEnd(nl_msg *message, void *argument)
+{
+    auto *exchange = static_cast<Exchange *>(argument);
+    exchange->finished = true;
+    if (const int error = failureOfTable(nlmsg_hdr(message)); error != 0) {
+        exchange->result = error;
+    }
+    return NL_STOP;
+}
+
 int onInterrupted(nl_msg *, void *argument)
 {
     static_cast<Exchange *>(argument)->result = EINTR;
@@ -48,6 +59,17 @@ int onError(sockaddr_nl *, nlmsgerr *error, void *argument)
 }
 
 } // namespace
+
+int failureOfTable(const nlmsghdr *end)
+{
+    int status = 0;
+    if (nlmsg_datalen(end) >= static_cast<int>(sizeof status)) {
+        std::memcpy(&status, nlmsg_data(end), sizeof status);
+    }
+    // No errno is as low; and the lowest number has no opposite.
+    constexpr int highestErrno = 4095;
+    return status <= 0 && status >= -highestErrno ? -status : EBADMSG;
+}
 
 void FreeNetlinkMessage::operator()(nl_msg *message) const
 {
@@ -91,7 +113,7 @@ int NetlinkSocket::request(nl_msg *message, const Answer &answer)
     Exchange exchange{&answer};
     nl_cb_set(callbacks.get(), NL_CB_VALID, NL_CB_CUSTOM, onValid, &exchange);
     nl_cb_set(callbacks.get(), NL_CB_ACK, NL_CB_CUSTOM, onEnd, &exchange);
-    nl_cb_set(callbacks.get(), NL_CB_FINISH, NL_CB_CUSTOM, onEnd, &exchange);
+    nl_cb_set(callbacks.get(), NL_CB_FINISH, NL_CB_CUSTOM, onTableEnd, &exchange);
     nl_cb_set(callbacks.get(), NL_CB_DUMP_INTR, NL_CB_CUSTOM, onInterrupted, &exchange);
     nl_cb_err(callbacks.get(), NL_CB_CUSTOM, onError, &exchange);
 

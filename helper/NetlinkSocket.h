@@ -21,6 +21,10 @@ struct FreeNetlinkSocket
 };
 using NetlinkMessage = std::unique_ptr<nl_msg, FreeNetlinkMessage>;
 
+/// 0, or the errno value with which a table broke off: `end` is its NLMSG_DONE. libnl does not
+/// look.
+int failureOfTable(const nlmsghdr *end);
+
 /// A connection to the kernel's routing service (rtnetlink(7)), opened at the first request. Used
 /// by one thread; every request waits for its answer.
 class NetlinkSocket

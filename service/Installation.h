@@ -29,7 +29,6 @@ public:
     Installation(const Installation &) = delete;
     Installation &operator=(const Installation &) = delete;
 
-    bool isRunning() const { return m_child > 0; }
     /// Called when none runs. `reply` is called once, as late as the person at the prompt likes.
     void start(Reply reply);
 

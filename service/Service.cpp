@@ -126,6 +126,11 @@ void Service::setupAuthorizationRights(sdbus::MethodCall call)
 void Service::connectWithEndpointAndAuthorization(sdbus::MethodCall call)
 {
     begin();
+    if (m_openRequests > mostOpenRequests) {
+        refuse(
+            call, contract::error::tooManyRequests.name, "Too many requests wait for the helper");
+        return;
+    }
     if (m_authorization.empty()) {
         m_authorization = freshAuthorization();
     }
@@ -135,10 +140,6 @@ void Service::connectWithEndpointAndAuthorization(sdbus::MethodCall call)
         answer << endpoint << m_authorization;
         send(answer);
     };
-    if (m_openRequests > mostOpenRequests) {
-        reply({});
-        return;
-    }
     m_helper.askEndpoint(reply);
 }
 

@@ -8,7 +8,9 @@
 namespace quillon {
 
 /// The user's language for an English text, which is the key of the table. Unknown texts come back
-/// as they are. Stored values are never localised. Placeholders are "%@", filled by filled().
+/// as they are. Stored values stay English, except the two that are kept for display only (a
+/// record's `localizedInterface`, the external address before it is known). Placeholders are "%@",
+/// filled by filled().
 QString localized(const QString &english);
 QString localized(const char *english);
 

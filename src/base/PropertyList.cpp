@@ -51,6 +51,16 @@ bool isXmlCharacter(const QString &text, qsizetype index)
     return code >= 0x20 ? code < 0xFFFE : code == u'\t' || code == u'\n' || code == u'\r';
 }
 
+bool isCarriable(const QString &text)
+{
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (!isXmlCharacter(text, index)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 QString carriable(QString text)
 {
     for (qsizetype index = 0; index < text.size(); ++index) {
@@ -59,6 +69,30 @@ QString carriable(QString text)
         }
     }
     return text;
+}
+
+/// Whether normalising would leave `value` as it is.
+bool isNormalized(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::LongLong:
+    case QMetaType::Double:
+    case QMetaType::QByteArray:
+        return true;
+    case QMetaType::QString:
+        return isCarriable(*static_cast<const QString *>(value.constData()));
+    case QMetaType::QVariantList: {
+        const auto &items = *static_cast<const QVariantList *>(value.constData());
+        return std::all_of(items.begin(), items.end(), isNormalized);
+    }
+    case QMetaType::QVariantMap: {
+        const auto &map = *static_cast<const QVariantMap *>(value.constData());
+        return std::all_of(map.keyBegin(), map.keyEnd(), isCarriable) &&
+               std::all_of(map.begin(), map.end(), isNormalized);
+    }
+    }
+    return false;
 }
 
 } // namespace
@@ -99,6 +133,11 @@ bool isPropertyList(const QVariant &value)
 
 QVariant normalizedPropertyList(const QVariant &value)
 {
+    // What is normal already stays shared with its other copies, which keeps writing and comparing
+    // large dictionaries cheap.
+    if (isNormalized(value)) {
+        return value;
+    }
     const auto type = propertyListType(value);
     if (type == PropertyListType::Integer) {
         return value.toLongLong();
@@ -153,6 +192,9 @@ bool isSamePropertyList(const QVariant &a, const QVariant &b)
     if (type == PropertyListType::Dictionary) {
         const QVariantMap first = a.toMap();
         const QVariantMap second = b.toMap();
+        if (first.isSharedWith(second)) {
+            return true;
+        }
         const auto end = first.keyValueEnd();
         return std::equal(first.keyValueBegin(), end, second.keyValueBegin(), second.keyValueEnd(),
             [](const auto &x, const auto &y) {

@@ -36,7 +36,8 @@ class NetworkHost
 public:
     virtual ~NetworkHost() = default;
 
-    /// The ports whose address a person may want to change, in the system's order.
+    /// The hardware ports, in the system's order. Whoever lists them leaves out those whose names
+    /// are skipped (PortName.h).
     virtual QList<PortRecord> ports() = 0;
     /// One interface by name; all texts empty when there is none.
     virtual InterfaceInfo info(const QString &device) = 0;

@@ -48,4 +48,10 @@ void NotificationCenter::removeObserver(Token token)
     m_observers.erase(token);
 }
 
+bool NotificationCenter::hasObservers()
+{
+    const std::lock_guard lock(m_mutex);
+    return !m_observers.empty();
+}
+
 } // namespace quillon

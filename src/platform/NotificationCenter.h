@@ -32,6 +32,8 @@ public:
     Token addObserver(const QString &name, Observer observer);
     /// After it returns, the observer is not called again by posts that begin later.
     void removeObserver(Token token);
+    /// Whether anybody listens to anything.
+    bool hasObservers();
 
 private:
     struct Entry

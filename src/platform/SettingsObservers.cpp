@@ -3,7 +3,6 @@
 #include "platform/SettingsObservers.h"
 
 #include <utility>
-#include <vector>
 
 namespace quillon {
 
@@ -23,8 +22,27 @@ struct SettingsObservers::State
     std::mutex mutex;
     std::map<Token, Entry> observers;
     std::deque<Waiting> waiting;
+    Change current;           ///< the change that is being told
+    std::deque<Token> untold; ///< who has not heard of it yet
     Token nextToken = 1;
+
+    bool takeNext();
 };
+
+// Whether somebody is to be told of the current change, which is the next one when all know it.
+bool SettingsObservers::State::takeNext()
+{
+    while (untold.empty() && !waiting.empty()) {
+        current = std::move(waiting.front().change);
+        for (const auto &[token, entry] : observers) {
+            if (entry.key == current.key && token < waiting.front().firstUnaware) {
+                untold.push_back(token);
+            }
+        }
+        waiting.pop_front();
+    }
+    return !untold.empty();
+}
 
 SettingsObservers::SettingsObservers(Scheduler &scheduler)
     : m_scheduler(scheduler)
@@ -65,29 +83,24 @@ void SettingsObservers::deliver()
     });
 }
 
+// What is under way is part of the state: a call from within an observer first tells the others of
+// the change that this observer reacts to, so that nobody hears of a newer one before.
 void SettingsObservers::drain(const std::shared_ptr<State> &state)
 {
     std::unique_lock lock(state->mutex);
-    while (!state->waiting.empty()) {
-        const State::Waiting next = std::move(state->waiting.front());
-        state->waiting.pop_front();
-        std::vector<Token> addressed;
-        for (const auto &[token, entry] : state->observers) {
-            if (entry.key == next.change.key && token < next.firstUnaware) {
-                addressed.push_back(token);
-            }
+    while (state->takeNext()) {
+        const Token token = state->untold.front();
+        state->untold.pop_front();
+        // An observer called before this one may have removed it.
+        const auto found = state->observers.find(token);
+        if (found == state->observers.end()) {
+            continue;
         }
-        for (const Token token : addressed) {
-            // An observer called before this one may have removed it.
-            const auto found = state->observers.find(token);
-            if (found == state->observers.end()) {
-                continue;
-            }
-            const Observer observer = found->second.observer;
-            lock.unlock();
-            observer(next.change);
-            lock.lock();
-        }
+        const Observer observer = found->second.observer;
+        const Change change = state->current;
+        lock.unlock();
+        observer(change);
+        lock.lock();
     }
 }
 

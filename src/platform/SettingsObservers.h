@@ -15,8 +15,10 @@ namespace quillon {
 /// The observers of a settings store, for those who implement one. Changes reach the observers on
 /// the main thread in the order in which they were reported: at once when the main thread reports
 /// them (after those that other threads reported before), else in a later turn of its loop. Safe
-/// from every thread; observers may add and remove observers and cause further changes. An observer
-/// hears of no change that was reported before it was added.
+/// from every thread; observers may add and remove observers and cause further changes. A change
+/// that an observer causes is told before its call returns too: first the other observers hear of
+/// the change that it reacts to, then all of the new one, so that each hears them in their order.
+/// An observer hears of no change that was reported before it was added.
 class SettingsObservers
 {
 public:

@@ -3,33 +3,48 @@
 #pragma once
 
 #include "platform/DistributedNotificationCenter.h"
+#include "platform/Scheduler.h"
 
 #include <QList>
 
 #include <map>
 #include <utility>
+#include <vector>
 
 namespace quillon::test {
 
-/// A session without other programs: posts are kept and reach the observers of this process.
+/// A session without other programs: posts are kept and reach the observers of this process in a
+/// later turn of its main loop, for they go by way of the session.
 class FakeDistributedNotificationCenter : public DistributedNotificationCenter
 {
 public:
+    explicit FakeDistributedNotificationCenter(Scheduler &scheduler)
+        : m_scheduler(scheduler)
+    {
+    }
+
     QList<std::pair<QString, QString>> posted;
 
     void post(const QString &name, const QString &object) override
     {
         posted.append({name, object});
-        deliver(name, object);
+        m_scheduler.onMain([this, name, object] { deliver(name, object); });
     }
 
-    /// As if another program had posted it.
+    /// What another program posted arrives.
     void deliver(const QString &name, const QString &object)
     {
-        const auto observers = m_observers;
-        for (const auto &[token, entry] : observers) {
+        std::vector<Token> interested;
+        for (const auto &[token, entry] : m_observers) {
             if (entry.name == name && entry.object == object) {
-                entry.observer();
+                interested.push_back(token);
+            }
+        }
+        for (const Token token : interested) {
+            // An observer may have removed a later one.
+            if (const auto found = m_observers.find(token); found != m_observers.end()) {
+                const auto observer = found->second.observer;
+                observer();
             }
         }
     }
@@ -52,6 +67,7 @@ private:
         std::function<void()> observer;
     };
 
+    Scheduler &m_scheduler;
     std::map<Token, Entry> m_observers;
     Token m_nextToken = 1;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/FakeHelper.h"
 
+#include "contract/Names.h"
+#include "contract/Validation.h"
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeScheduler.h"
 
@@ -12,16 +14,16 @@ namespace quillon::test {
 
 namespace {
 
-constexpr int authorizationSize = 32;
+constexpr int authorizationSize = contract::authorizationSize;
 
 Error gone()
 {
     return {busErrorDomain, 0, QStringLiteral("the peer is gone")};
 }
 
-Error refused(int code)
+Error refused(const contract::ErrorName &error)
 {
-    return {QStringLiteral("com.orvandel.Quillon4.Error.NotAuthorized"), code, {}};
+    return {QLatin1String(error.name), error.code, {}};
 }
 
 } // namespace
@@ -30,9 +32,20 @@ Error refused(int code)
 class FakeHelper::Link
 {
 public:
-    explicit Link(FakeHelper &peer)
+    Link(FakeHelper &peer, bool isThere)
         : m_peer(peer)
+        , m_isThere(isThere)
     {
+    }
+
+    void open()
+    {
+        if (m_state == Made) {
+            m_state = Resumed;
+            if (!m_isThere) {
+                invalidate();
+            }
+        }
     }
 
     void invalidate()
@@ -61,6 +74,7 @@ protected:
     };
 
     FakeHelper &m_peer;
+    const bool m_isThere;
     State m_state = Made;
     std::function<void()> m_invalidated;
 };
@@ -68,13 +82,18 @@ protected:
 class FakeHelper::Service : public XPCServiceConnection, public Link
 {
 public:
-    using Link::Link;
+    // A well-known name is started on demand, so that the connection itself always opens.
+    Service(FakeHelper &peer, const QString &name)
+        : Link(peer, true)
+        , m_isOurs(name == QLatin1String(contract::serviceName))
+    {
+    }
 
     void setInvalidationHandler(std::function<void()> handler) override
     {
         m_invalidated = std::move(handler);
     }
-    void resume() override { m_state = Resumed; }
+    void resume() override { open(); }
 
     void installHelperToolWithReply(ErrorReply reply, ErrorHandler errorHandler) override
     {
@@ -85,7 +104,9 @@ public:
         if (!m_peer.installFails) {
             m_peer.installed = true;
         }
-        const auto error = m_peer.installFails ? std::optional(refused(11)) : std::nullopt;
+        const auto error = m_peer.installFails
+                               ? std::optional(refused(contract::error::installFailed))
+                               : std::nullopt;
         m_peer.answer([reply, error] { reply(error); });
     }
 
@@ -106,8 +127,13 @@ public:
         // Fresh bytes each time, so that a test sees which ones were used.
         m_peer.m_givenAuthorization =
             QByteArray(authorizationSize, static_cast<char>('a' + m_peer.m_endpoints % 26));
-        m_peer.answer(
-            [reply, endpoint, bytes = m_peer.m_givenAuthorization] { reply(endpoint, bytes); });
+        m_peer.answer([&peer = m_peer, reply, endpoint, bytes = m_peer.m_givenAuthorization] {
+            // The helper is there from now on: one that went meanwhile was started anew.
+            if (endpoint) {
+                peer.m_livingEndpoints.append(*endpoint);
+            }
+            reply(endpoint, bytes);
+        });
     }
 
 private:
@@ -116,7 +142,7 @@ private:
         if (!mayCall(errorHandler)) {
             return false;
         }
-        if (!m_peer.serviceExists) {
+        if (!m_isOurs || !m_peer.serviceExists) {
             m_peer.answer([errorHandler] {
                 errorHandler({busErrorDomain, 0, QStringLiteral("no such service")});
             });
@@ -128,6 +154,8 @@ private:
         }
         return true;
     }
+
+    const bool m_isOurs;
 };
 
 class FakeHelper::Tool : public HelperToolConnection, public Link
@@ -139,7 +167,7 @@ public:
     {
         m_invalidated = std::move(handler);
     }
-    void resume() override { m_state = Resumed; }
+    void resume() override { open(); }
 
     void getVersionWithReply(
         std::function<void(const QString &)> reply, ErrorHandler errorHandler) override
@@ -158,8 +186,7 @@ public:
         if (!listens(errorHandler)) {
             return;
         }
-        const bool done = m_peer.change({device, address, deviceIsWiFi, authorization});
-        const auto error = done ? std::nullopt : std::optional(refused(1));
+        const auto error = m_peer.change({device, address, deviceIsWiFi, authorization});
         m_peer.answer([reply, error] { reply(error); });
     }
 
@@ -172,7 +199,8 @@ public:
             m_peer.installed = false;
         }
         if (listens(errorHandler)) {
-            const auto error = refusing ? std::optional(refused(1)) : std::nullopt;
+            const auto error =
+                refusing ? std::optional(refused(contract::error::notAuthorized)) : std::nullopt;
             m_peer.answer([reply, error] { reply(error); });
         }
     }
@@ -224,20 +252,32 @@ void FakeHelper::hang(const ErrorHandler &errorHandler)
     m_hanging.push_back(errorHandler);
 }
 
-bool FakeHelper::change(const Change &change)
+std::optional<Error> FakeHelper::change(const Change &change)
 {
     m_changes.append(change);
     switch (mood) {
     case Mood::Refusing:
-        return false;
+        return refused(contract::error::notAuthorized);
     case Mood::Lying:
-        return true;
+        return std::nullopt;
     case Mood::Obliging:
     case Mood::Hanging:
     case Mood::Dropping:
         break;
     }
-    return m_host.giveAddress(change.device, change.address);
+    if (change.authorization.size() != authorizationSize) {
+        return refused(contract::error::invalidAuthorization);
+    }
+    if (!contract::isValidDeviceName(change.device.toStdString())) {
+        return refused(contract::error::invalidDevice);
+    }
+    if (!contract::unicastAddress(change.address.toStdString())) {
+        return refused(contract::error::invalidAddress);
+    }
+    if (!m_host.giveAddress(change.device, change.address)) {
+        return refused(contract::error::noSuchDevice);
+    }
+    return std::nullopt;
 }
 
 void FakeHelper::timeOut()
@@ -261,6 +301,7 @@ void FakeHelper::dropService()
 
 void FakeHelper::dropHelper()
 {
+    m_livingEndpoints.clear();
     for (const auto &weak : std::exchange(m_tools, {})) {
         if (const auto tool = weak.lock()) {
             tool->invalidate();
@@ -281,13 +322,14 @@ Result<QByteArray> FakeHelper::createAuthorization()
     if (!authorizes) {
         return Error{posixErrorDomain, 5, QStringLiteral("no random bytes")};
     }
-    return externalForm();
+    // Fresh bytes each time, the first being externalForm().
+    return QByteArray(authorizationSize, static_cast<char>('A' + m_authorizations++ % 26));
 }
 
 std::shared_ptr<XPCServiceConnection> FakeHelper::connectToService(const QString &serviceName)
 {
     m_journal << QStringLiteral("service ") + serviceName;
-    auto service = std::make_shared<Service>(*this);
+    auto service = std::make_shared<Service>(*this, serviceName);
     m_services.push_back(service);
     return service;
 }
@@ -295,7 +337,7 @@ std::shared_ptr<XPCServiceConnection> FakeHelper::connectToService(const QString
 std::shared_ptr<HelperToolConnection> FakeHelper::connectToListenerEndpoint(const QString &endpoint)
 {
     m_journal << QStringLiteral("helper ") + endpoint;
-    auto tool = std::make_shared<Tool>(*this);
+    auto tool = std::make_shared<Tool>(*this, m_livingEndpoints.contains(endpoint));
     m_tools.push_back(tool);
     return tool;
 }

@@ -17,8 +17,8 @@ class FakeNetworkHost;
 class FakeScheduler;
 
 /// The service and the helper behind the link: they keep their addresses on a fake machine and
-/// answer as if from a thread of their own, in a later turn. Every way in which they can fail is a
-/// switch.
+/// answer as if from a thread of their own, in a later turn. What the real ones refuse they refuse
+/// too, by the same names; every way in which they can fail is a switch.
 class FakeHelper : public HelperLink
 {
 public:
@@ -59,7 +59,7 @@ public:
     void clearJournal() { m_journal.clear(); }
     /// The authorisation that the service gave out with its latest endpoint.
     const QByteArray &givenAuthorization() const { return m_givenAuthorization; }
-    /// The bytes of createAuthorization().
+    /// The bytes that createAuthorization() gives first.
     static QByteArray externalForm();
 
     /// The peer goes: its connections are invalidated, calls under way end in their error handlers.
@@ -82,14 +82,16 @@ private:
 
     void answer(const std::function<void()> &reply);
     void hang(const ErrorHandler &errorHandler);
-    bool change(const Change &change);
+    std::optional<Error> change(const Change &change);
 
     FakeScheduler &m_scheduler;
     FakeNetworkHost &m_host;
     QList<Change> m_changes;
     QStringList m_journal;
     QByteArray m_givenAuthorization;
+    int m_authorizations = 0;
     int m_endpoints = 0;
+    QStringList m_livingEndpoints;
     std::vector<ErrorHandler> m_hanging;
     std::vector<std::weak_ptr<Service>> m_services;
     std::vector<std::weak_ptr<Tool>> m_tools;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fakes/FakeNetworkHost.h"
 
+#include "contract/Validation.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -54,7 +56,9 @@ QList<PortRecord> FakeNetworkHost::ports()
     m_journal << QStringLiteral("ports");
     QList<PortRecord> records;
     for (const Interface &each : std::as_const(m_interfaces)) {
-        records.append({each.port, each.device, each.factory, answer(each)});
+        if (!each.port.isEmpty()) {
+            records.append({each.port, each.device, each.factory, answer(each)});
+        }
     }
     return records;
 }
@@ -73,7 +77,7 @@ InterfaceInfo FakeNetworkHost::answer(const Interface &interface)
     }
     return {
         .ipAddress = interface.ipv4.value(0),
-        .macAddress = interface.address,
+        .macAddress = interface.address.toLower(),
         .status = interface.active ? QStringLiteral("active") : QStringLiteral("inactive"),
     };
 }
@@ -89,19 +93,24 @@ void FakeNetworkHost::unplug(const QString &device)
     m_interfaces.removeIf(named(device));
 }
 
-void FakeNetworkHost::rename(const QString &device, const QString &newName)
+bool FakeNetworkHost::rename(const QString &device, const QString &newName)
 {
+    if (std::any_of(m_interfaces.cbegin(), m_interfaces.cend(), named(newName))) {
+        return false;
+    }
     at(device).device = newName;
+    return true;
 }
 
 bool FakeNetworkHost::giveAddress(const QString &device, const QString &address)
 {
     const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(), named(device));
-    if (found == m_interfaces.end()) {
+    const auto octets = contract::unicastAddress(address.toStdString());
+    if (found == m_interfaces.end() || !octets) {
         return false;
     }
     if (!found->keepsAddress) {
-        found->address = address.toLower();
+        found->address = QString::fromStdString(contract::addressText(*octets));
     }
     return true;
 }
@@ -118,7 +127,7 @@ FakeNetworkHost::Interface &FakeNetworkHost::at(const QString &device)
 QString FakeNetworkHost::addressOf(const QString &device) const
 {
     const auto found = std::find_if(m_interfaces.begin(), m_interfaces.end(), named(device));
-    return found == m_interfaces.end() ? QString() : found->address;
+    return found == m_interfaces.end() ? QString() : found->address.toLower();
 }
 
 } // namespace quillon::test

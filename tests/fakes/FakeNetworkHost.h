@@ -8,13 +8,14 @@
 
 namespace quillon::test {
 
-/// A machine whose interfaces can be plugged, renamed, given addresses and broken.
+/// A machine whose interfaces can be plugged, renamed, given addresses and broken. It takes and
+/// tells addresses as the kernel does.
 class FakeNetworkHost : public NetworkHost
 {
 public:
     struct Interface
     {
-        QString port;       ///< port name
+        QString port;       ///< port name; empty for what is no port, such as a tunnel
         QString device;     ///< interface name
         QString factory;    ///< factory address; empty when it has none to tell
         QString address;    ///< the address in use
@@ -36,8 +37,9 @@ public:
 
     void plug(const Interface &interface);
     void unplug(const QString &device);
-    void rename(const QString &device, const QString &newName);
-    /// Makes `address` the one in use, as the kernel does; false when there is no such interface.
+    /// False, and nothing happens, when another interface has the name already.
+    bool rename(const QString &device, const QString &newName);
+    /// Makes `address` the one in use; false when there is no such interface or none can have it.
     bool giveAddress(const QString &device, const QString &address);
     /// The interface to change by hand; it must exist.
     Interface &at(const QString &device);

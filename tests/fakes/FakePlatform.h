@@ -40,7 +40,7 @@ struct FakePlatform
     FakeSettingsStore settings{scheduler};
     FakeSettingsStore groupSettings{scheduler};
     NotificationCenter notifications;
-    FakeDistributedNotificationCenter distributed;
+    FakeDistributedNotificationCenter distributed{scheduler};
     FakeUserNotificationCenter userNotifications{scheduler};
     FakeNetworkHost host;
     FakeInterfaceAddresses addresses{host};

@@ -93,11 +93,13 @@ bool FakeSettingsStore::synchronize()
 
 SettingsStore::Token FakeSettingsStore::addObserver(const QString &key, Observer observer)
 {
+    ++m_observerCount;
     return m_observers.add(key, std::move(observer));
 }
 
 void FakeSettingsStore::removeObserver(Token token)
 {
+    --m_observerCount;
     m_observers.remove(token);
 }
 

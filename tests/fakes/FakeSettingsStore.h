@@ -38,6 +38,7 @@ public:
     /// Another program changes a value: it is not in the journal, and observers hear of it in a
     /// later turn of the main loop.
     void changeFromOutside(const QString &key, const QVariant &value);
+    bool hasObservers() const { return m_observerCount > 0; }
     /// From now on synchronize() fails, or no longer.
     void failSynchronize(bool fails);
 
@@ -51,6 +52,7 @@ private:
     QVariantMap m_defaults;
     QStringList m_journal;
     bool m_failing = false;
+    int m_observerCount = 0;
     SettingsObservers m_observers;
 };
 

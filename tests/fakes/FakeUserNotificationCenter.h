@@ -12,6 +12,7 @@
 namespace quillon::test {
 
 /// A desktop that shows messages: what is waiting, what is on the screen, and what was ever shown.
+/// At most one message per identifier is waiting, and one is on the screen.
 class FakeUserNotificationCenter : public UserNotificationCenter
 {
 public:
@@ -51,10 +52,12 @@ public:
     void add(const UserNotificationRequest &request,
         std::function<void(const std::optional<Error> &)> reply) override
     {
+        removePending(request.identifier);
         m_pending[request.identifier] =
             m_scheduler.onMainAfter(request.delay, [this, request, reply] {
                 m_pending.erase(request.identifier);
                 if (!deliveryError) {
+                    removeDelivered(request.identifier);
                     onScreen.append(request);
                     everShown.append(request);
                 }

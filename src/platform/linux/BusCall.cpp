@@ -47,6 +47,15 @@ void callBus(const QDBusConnection &bus, QObject *context, const QDBusMessage &c
         });
 }
 
+QDBusMessage nameHasOwner(const QString &name)
+{
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QStringLiteral("NameHasOwner"));
+    question << name;
+    return question;
+}
+
 Error busError(const QDBusMessage &message)
 {
     const auto *known = contractError(message.errorName());

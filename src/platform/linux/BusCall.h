@@ -23,6 +23,10 @@ using BusReply = std::function<void(const QDBusMessage &)>;
 void callBus(const QDBusConnection &bus, QObject *context, const QDBusMessage &call,
     std::chrono::milliseconds limit, BusReply reply);
 
+/// The question to a message bus whether a program owns `name`, to be sent; the answer is a
+/// boolean.
+QDBusMessage nameHasOwner(const QString &name);
+
 /// A D-Bus error as an Error: its domain is the D-Bus error name, its code that of the contract, or
 /// 0 for a name that is not the contract's. The message is cut to a length that a log can take.
 Error busError(const QDBusMessage &message);

@@ -78,10 +78,7 @@ void BusPeer::watch()
 
 void BusPeer::askWhetherThere()
 {
-    const QString bus = QStringLiteral("org.freedesktop.DBus");
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QStringLiteral("NameHasOwner"));
-    question << m_address.name;
+    const QDBusMessage question = nameHasOwner(m_address.name);
     callBus(m_bus, this, question, busLimit, [this](const QDBusMessage &answer) {
         if (answer.type() != QDBusMessage::ReplyMessage || !answer.arguments().value(0).toBool()) {
             invalidate(QStringLiteral("The program is not on the bus"));

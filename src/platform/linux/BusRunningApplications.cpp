@@ -3,8 +3,7 @@
 #include "platform/linux/BusRunningApplications.h"
 
 #include "base/Log.h"
-
-#include <QDBusMessage>
+#include "platform/linux/BusCall.h"
 
 #include <utility>
 
@@ -21,11 +20,8 @@ BusRunningApplications::BusRunningApplications(QDBusConnection bus)
 
 bool BusRunningApplications::isRunning(const QString &identifier)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("NameHasOwner"));
-    call << identifier;
-    const QDBusMessage reply = m_bus.call(call, QDBus::Block, longestWaitInMilliseconds);
+    const QDBusMessage reply =
+        m_bus.call(nameHasOwner(identifier), QDBus::Block, longestWaitInMilliseconds);
     if (reply.type() != QDBusMessage::ReplyMessage) {
         qCWarning(logPlatform, "Running programs are not known: %ls",
             qUtf16Printable(reply.errorMessage()));

@@ -7,6 +7,8 @@
 
 #include <arpa/inet.h>
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <linux/if.h>
 #include <linux/if_addr.h>
 #include <linux/if_link.h>
@@ -116,12 +118,29 @@ std::optional<AddressFacts> addressFacts(nlmsghdr *header)
     return AddressFacts{static_cast<int>(about->ifa_index), QString::fromLatin1(dotted.data())};
 }
 
+// The kernel tells an errno by its negative value, and has none above MAX_ERRNO.
+int errnoOf(int status)
+{
+    constexpr int highestErrno = 4095;
+    return status <= 0 && status >= -highestErrno ? -status : EBADMSG;
+}
+
 int refusal(nlmsghdr *header)
 {
     if (nlmsg_datalen(header) < static_cast<int>(sizeof(nlmsgerr))) {
         return EBADMSG;
     }
-    return -static_cast<const nlmsgerr *>(nlmsg_data(header))->error;
+    return errnoOf(static_cast<const nlmsgerr *>(nlmsg_data(header))->error);
+}
+
+// What the end of a table says of the whole: a dump that failed half-way ends with its errno.
+int failureOfTable(nlmsghdr *header)
+{
+    int status = 0;
+    if (nlmsg_datalen(header) >= static_cast<int>(sizeof status)) {
+        std::memcpy(&status, nlmsg_data(header), sizeof status);
+    }
+    return errnoOf(status);
 }
 
 // Calls `visit` with each complete message; false when bytes were left that are none.
@@ -164,6 +183,8 @@ void LinkMessages::add(std::span<const std::byte> datagram, quint32 sequence)
             }
         } else if (header->nlmsg_type == NLMSG_ERROR) {
             error = refusal(header);
+        } else if (header->nlmsg_type == NLMSG_DONE) {
+            error = failureOfTable(header);
         }
         finished = header->nlmsg_type == NLMSG_DONE || header->nlmsg_type == NLMSG_ERROR ||
                    !(header->nlmsg_flags & NLM_F_MULTI);

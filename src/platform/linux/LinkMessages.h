@@ -44,7 +44,7 @@ struct LinkMessages
     QList<AddressFacts> addresses;
     bool finished = false;    ///< the last message of the answer was seen
     bool interrupted = false; ///< the tables changed while they were read (NLM_F_DUMP_INTR)
-    int error = 0;            ///< errno of a refusal, else 0
+    int error = 0;            ///< errno of a refusal or of a table that broke off, else 0
 
     /// Adds the messages of one datagram that answer the request `sequence`. The bytes must be
     /// aligned as nlmsghdr. Whatever is truncated or malformed is left out; nothing is read beyond

@@ -3,7 +3,6 @@
 #include "platform/linux/NetlinkHost.h"
 
 #include "base/Log.h"
-#include "platform/PortName.h"
 #include "platform/linux/RouteSocket.h"
 
 #include <QFile>
@@ -66,7 +65,7 @@ QList<PortRecord> NetlinkHost::ports()
     for (const LinkFacts &link : links.links) {
         const QString name =
             portName(link, hasHardware(link) ? hardwareFacts(link) : HardwareFacts{});
-        if (!name.isEmpty() && !isSkippedPortName(name)) {
+        if (!name.isEmpty()) {
             ports.append({name, link.name, link.permanentAddress,
                 interfaceInfo(link, ipv4.value(link.index))});
         }

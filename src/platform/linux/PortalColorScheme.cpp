@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/PortalColorScheme.h"
 
+#include "platform/linux/BusCall.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusVariant>
 
 #include <utility>
@@ -14,11 +14,16 @@ namespace quillon {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearance = QStringLiteral("org.freedesktop.appearance");
 const QString colorScheme = QStringLiteral("color-scheme");
+
+// The portal may have to be started first.
+constexpr auto answerLimit = 25s;
 
 // The portal's numbers.
 constexpr uint preferDark = 1;
@@ -36,12 +41,9 @@ void PortalColorScheme::watch(std::function<void(ColorScheme)> observer)
     QDBusMessage call =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
     call.setArguments({appearance, colorScheme});
-    auto *pending = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
-    connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending] {
-        pending->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *pending;
-        if (!reply.isError()) {
-            report(reply.value().variant());
+    callBus(bus, this, call, answerLimit, [this](const QDBusMessage &answer) {
+        if (answer.type() == QDBusMessage::ReplyMessage) {
+            report(answer.arguments().value(0));
         }
     });
 }
@@ -57,8 +59,10 @@ void PortalColorScheme::settingChanged(const QDBusMessage &message)
 void PortalColorScheme::report(const QVariant &value)
 {
     // Read wraps the value once more than the signal does.
-    const QVariant plain =
-        value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    QVariant plain = value;
+    while (plain.canConvert<QDBusVariant>()) {
+        plain = plain.value<QDBusVariant>().variant();
+    }
     const uint preference = plain.toUInt();
     if (preference == preferDark) {
         m_observer(ColorScheme::Dark);

@@ -35,8 +35,11 @@ public:
     void activateOther(std::function<void(bool reached)> done);
 
 Q_SIGNALS:
-    /// Another start, or the desktop, asked for the program's window.
-    void activated();
+    /// Another start, or the desktop, asked for the program's window. `token` is what the desktop
+    /// gave for it, so that the window may take the focus: an activation token (XDG activation) or
+    /// a startup id (Startup Notification Protocol); empty when it gave none. A window that asks
+    /// for the focus during the emission has the token's right to it.
+    void activated(const QString &token);
 
 private:
     QDBusConnection m_bus;

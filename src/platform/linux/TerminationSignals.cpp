@@ -5,6 +5,7 @@
 #include "base/Log.h"
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <sys/eventfd.h>
@@ -21,8 +22,11 @@ volatile std::sig_atomic_t signalDescriptor = -1;
 
 void onSignal(int)
 {
+    // Whatever code was interrupted may be about to read its errno.
+    const int before = errno;
     const std::uint64_t one = 1;
     [[maybe_unused]] const auto written = ::write(signalDescriptor, &one, sizeof one);
+    errno = before;
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/TrayHostWatch.h"
 
+#include "platform/linux/BusCall.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
@@ -14,6 +14,11 @@
 namespace quillon {
 
 namespace {
+
+using namespace std::chrono_literals;
+
+// A watcher that says nothing for so long has no tray to show us in. At login it may be slow.
+constexpr auto answerLimit = 25s;
 
 const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString path = QStringLiteral("/StatusNotifierWatcher");
@@ -47,17 +52,15 @@ void TrayHostWatch::ask()
     call.setArguments({interface, QStringLiteral("IsStatusNotifierHostRegistered")});
     // The question alone must not start a tray that the user does not have.
     call.setAutoStartService(false);
-    auto *pending =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
     const quint64 question = ++m_question;
-    connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending, question] {
-        pending->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *pending;
+    const auto onAnswer = [this, question](const QDBusMessage &answer) {
         // An answer that a newer question has overtaken says nothing about now.
         if (question == m_question) {
-            report(!reply.isError() && reply.value().variant().toBool());
+            // An error has a text as its first argument, which is no variant.
+            report(answer.arguments().value(0).value<QDBusVariant>().variant().toBool());
         }
-    });
+    };
+    callBus(QDBusConnection::sessionBus(), this, call, answerLimit, onAnswer);
 }
 
 void TrayHostWatch::report(bool available)

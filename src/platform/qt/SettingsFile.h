@@ -35,8 +35,6 @@ public:
 
     SettingsFile(const QString &path, SettingsValues &values);
 
-    const QString &path() const { return m_path; }
-
     /// Takes over the file's content, unless it is as it was.
     Outcome read(Patience patience);
     /// The same without patience, then writes what is unsaved. True when nothing unsaved is left of

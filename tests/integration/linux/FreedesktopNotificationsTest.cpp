@@ -4,108 +4,20 @@
 
 #include "fakes/FakeScheduler.h"
 #include "integration/linux/Commands.h"
+#include "integration/linux/NotificationServer.h"
 #include "integration/linux/PrivateBus.h"
 #include "integration/linux/Waiting.h"
 
 #include <QDBusArgument>
-#include <QDBusVirtualObject>
-#include <QMap>
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <vector>
 
 namespace quillon::test {
 
 using namespace std::chrono_literals;
 
 namespace {
-
-const QString serverName = QStringLiteral("org.freedesktop.Notifications");
-const QString serverPath = QStringLiteral("/org/freedesktop/Notifications");
-
-/// A notification server: what was asked of it, and what is on the screen.
-class NotificationServer : public QDBusVirtualObject
-{
-public:
-    explicit NotificationServer(PrivateBus &bus, QStringList capabilities = {})
-        : m_bus(bus)
-        , m_connection(bus.open())
-        , m_capabilities(std::move(capabilities))
-    {
-        QDBusConnection connection(m_connection);
-        connection.registerVirtualObject(serverPath, this);
-        EXPECT_TRUE(connection.registerService(serverName));
-    }
-    ~NotificationServer() override { m_bus.drop(m_connection); }
-
-    QString introspect(const QString &) const override { return {}; }
-    bool handleMessage(const QDBusMessage &call, const QDBusConnection &) override
-    {
-        if (call.member() == QLatin1String("GetCapabilities")) {
-            reply(call.createReply(QVariantList{m_capabilities}));
-        } else if (call.member() == QLatin1String("Notify")) {
-            notify(call);
-        } else if (call.member() == QLatin1String("CloseNotification")) {
-            close(call.arguments().value(0).toUInt());
-            reply(call.createReply());
-        }
-        return true;
-    }
-
-    /// A person, or the server's own clock, takes a message away.
-    void close(quint32 id)
-    {
-        closed.push_back(id);
-        onScreen.remove(id);
-        QDBusMessage signal = QDBusMessage::createSignal(
-            serverPath, serverName, QStringLiteral("NotificationClosed"));
-        signal << id << 2U;
-        reply(signal);
-    }
-    void answerHeld()
-    {
-        for (const QDBusMessage &answer : held) {
-            reply(answer);
-        }
-        held.clear();
-    }
-
-    std::vector<QDBusMessage> notified;
-    std::vector<quint32> closed;
-    QMap<quint32, QString> onScreen; ///< body by id
-    bool refuses = false;
-    bool holdsBack = false; ///< answers wait for answerHeld()
-    std::vector<QDBusMessage> held;
-
-private:
-    void reply(const QDBusMessage &message) { QDBusConnection(m_connection).send(message); }
-
-    void notify(const QDBusMessage &call)
-    {
-        notified.push_back(call);
-        if (refuses) {
-            reply(call.createErrorReply(
-                QStringLiteral("org.freedesktop.Notifications.Error.ExcessNotificationGeneration"),
-                QStringLiteral("too many")));
-            return;
-        }
-        const quint32 replaces = call.arguments().value(1).toUInt();
-        const quint32 id = replaces != 0 ? replaces : ++m_lastId;
-        onScreen.insert(id, call.arguments().value(4).toString());
-        const QDBusMessage answer = call.createReply(QVariantList{id});
-        if (holdsBack) {
-            held.push_back(answer);
-        } else {
-            reply(answer);
-        }
-    }
-
-    PrivateBus &m_bus;
-    const QString m_connection;
-    const QStringList m_capabilities;
-    quint32 m_lastId = 40;
-};
 
 UserNotificationRequest request(const char *body, std::chrono::milliseconds delay = 1000ms)
 {
@@ -386,8 +298,9 @@ protected:
         dunst.setStandardErrorFile(QProcess::nullDevice());
         dunst.start(QStringLiteral("dunst"), QStringList());
         const QDBusConnection watcher = bus.connect();
-        ASSERT_TRUE(eventually(
-            [&] { return watcher.interface()->isServiceRegistered(serverName).value(); }));
+        ASSERT_TRUE(eventually([&] {
+            return watcher.interface()->isServiceRegistered(NotificationServer::name).value();
+        }));
     }
 
     void TearDown() override

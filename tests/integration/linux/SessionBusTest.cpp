@@ -143,10 +143,45 @@ protected:
     SessionInstance first{bus.connect()};
     SessionInstance second{bus.connect()};
     int activations = 0;
+    QString token;
+    /// What a window that asks for the focus upon the activation would find.
+    QString tokenForWindows;
 
     void SetUp() override
     {
-        QObject::connect(&first, &SessionInstance::activated, [this] { ++activations; });
+        forgetTokens();
+        QObject::connect(&first, &SessionInstance::activated, [this](const QString &given) {
+            ++activations;
+            token = given;
+            tokenForWindows = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+        });
+    }
+
+    void TearDown() override { forgetTokens(); }
+
+    static void forgetTokens()
+    {
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        qunsetenv("DESKTOP_STARTUP_ID");
+    }
+
+    void callFromDesktop(const QString &operation)
+    {
+        QProcess desktop;
+        desktop.startCommand(QStringLiteral("gdbus call --address %1 --dest com.orvandel.Quillon4 "
+                                            "--object-path /com/orvandel/Quillon4 "
+                                            "--method org.freedesktop.Application.%2")
+                                 .arg(bus.address(), operation));
+        EXPECT_TRUE(eventually([&] { return desktop.state() == QProcess::NotRunning; }));
+        EXPECT_EQ(desktop.exitCode(), 0)
+            << operation.toStdString() << desktop.readAllStandardError().toStdString();
+    }
+
+    void startAgain()
+    {
+        bool answered = false;
+        second.activateOther([&](bool) { answered = true; });
+        EXPECT_TRUE(eventually([&] { return answered; }));
     }
 };
 
@@ -171,17 +206,60 @@ TEST_F(SingleInstance, ASecondStartBringsTheFirstUp)
 TEST_F(SingleInstance, TheDesktopMayActivateOpenAndAct)
 {
     first.claim();
-    const QString call = QStringLiteral(
-        "gdbus call --address %1 --dest com.orvandel.Quillon4 --object-path /com/orvandel/Quillon4 "
-        "--method org.freedesktop.Application.%2")
-                             .arg(bus.address());
-    for (const char *method : {"Activate {}", "Open [] {}", "ActivateAction anything [] {}"}) {
-        QProcess desktop;
-        desktop.startCommand(call.arg(QLatin1String(method)));
-        EXPECT_TRUE(eventually([&] { return desktop.state() == QProcess::NotRunning; }));
-        EXPECT_EQ(desktop.exitCode(), 0) << method << desktop.readAllStandardError().toStdString();
+    for (const char *operation : {"Activate {}", "Open [] {}", "ActivateAction anything [] {}"}) {
+        callFromDesktop(QLatin1String(operation));
     }
     EXPECT_EQ(activations, 3);
+}
+
+TEST_F(SingleInstance, TheTokenOfTheSecondStartReachesTheWindowsOfTheFirst)
+{
+    first.claim();
+    qputenv("XDG_ACTIVATION_TOKEN", "token-17");
+    startAgain();
+    EXPECT_EQ(token, QStringLiteral("token-17"));
+    // The processes are two: what the first finds is what it was sent.
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <'token-18'>}\""));
+    EXPECT_EQ(token, QStringLiteral("token-18"));
+    EXPECT_EQ(tokenForWindows, QStringLiteral("token-18"));
+}
+
+TEST_F(SingleInstance, AStartupIdStandsInForAToken)
+{
+    first.claim();
+    qputenv("DESKTOP_STARTUP_ID", "panel-4711_TIME99");
+    startAgain();
+    EXPECT_EQ(token, QStringLiteral("panel-4711_TIME99"));
+    EXPECT_EQ(tokenForWindows, QStringLiteral("panel-4711_TIME99"));
+}
+
+TEST_F(SingleInstance, EveryOperationOfTheDesktopHandsItsTokenOn)
+{
+    first.claim();
+    const QString data = QStringLiteral("\"{'activation-token': <'%1'>}\"");
+    for (const char *operation : {"Activate", "Open []", "ActivateAction anything []"}) {
+        callFromDesktop(QLatin1String(operation) + u' ' + data.arg(QLatin1String(operation, 4)));
+        EXPECT_EQ(token, QLatin1String(operation, 4));
+    }
+}
+
+TEST_F(SingleInstance, ATokenIsNotUsedTwice)
+{
+    first.claim();
+    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <'token-18'>}\""));
+    callFromDesktop(QStringLiteral("Activate {}"));
+    EXPECT_EQ(activations, 2);
+    EXPECT_EQ(token, QString());
+    EXPECT_EQ(tokenForWindows, QString());
+}
+
+TEST_F(SingleInstance, ATokenOfAnotherTypeIsNone)
+{
+    first.claim();
+    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <[1, 2]>}\""));
+    EXPECT_EQ(activations, 1);
+    EXPECT_EQ(token, QString());
 }
 
 TEST_F(SingleInstance, TheOtherMayHaveEndedMeanwhile)

@@ -124,6 +124,32 @@ TEST_F(HelperContact, AHelperThatHangsIsGivenUpBeforeTheProgramGivesUpTheService
     EXPECT_LT(time.elapsed(), contract::answerLimit);
 }
 
+TEST_F(HelperContact, TheSixtyFifthRequestThatWaitsIsRefusedAndTheOthersAreAnswered)
+{
+    helperIs([](const QDBusMessage &) { return QDBusMessage(); });
+    constexpr int most = 64;
+    const QString name = QDBusConnection(helperBus).baseService();
+    int answered = 0;
+    QStringList refusals;
+    for (int i = 0; i < most + 1; ++i) {
+        service->connectWithEndpointAndAuthorizationReply(
+            [&](const std::optional<QString> &endpoint, const QByteArray &) {
+                answered += endpoint == name;
+            },
+            [&](const Error &error) { refusals << error.domain; });
+    }
+    EXPECT_TRUE(eventually([&] { return helper->calls.size() == most && !refusals.isEmpty(); }));
+    EXPECT_EQ(helper->calls.size(), std::size_t{most});
+    EXPECT_EQ(refusals, QStringList(QLatin1String(contract::error::tooManyRequests.name)));
+
+    for (const QDBusMessage &call : helper->calls) {
+        QDBusConnection(helperBus).send(call.createReply(name));
+    }
+    EXPECT_TRUE(eventually([&] { return answered == most; })) << answered;
+    helperIs([name](const QDBusMessage &call) { return call.createReply(name); });
+    EXPECT_EQ(endpoint(), name) << "there is room again";
+}
+
 TEST_F(HelperContact, ANewSystemBusConnectionIsMadeWhenTheOldOneIsGone)
 {
     EXPECT_FALSE(endpoint());

@@ -41,11 +41,11 @@ TEST_F(EntryPoints, RandomizeActsOnTheCurrentInterface)
 TEST_F(EntryPoints, RandomizeFollowsTheVendorOfTheDevice)
 {
     QVariantMap record = table.record(en1);
-    record[record::vendor] = QStringLiteral("Some Maker Inc. (A1B2C3)");
+    record[record::vendor] = QStringLiteral("Some Maker Inc. (A2B2C3)");
     storeRecord(en1, record);
     changer->randomizeAddress(randomAddress);
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("a1:b2:c3:ef:00:09"));
+    EXPECT_EQ(host.addressOf(en1), QLatin1String("a2:b2:c3:ef:00:09"));
 }
 
 TEST_F(EntryPoints, RandomizeWithAFailingSourceReportsTheFailure)

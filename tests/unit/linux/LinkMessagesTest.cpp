@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <linux/if.h>
 #include <linux/if_addr.h>
 #include <linux/if_arp.h>
@@ -126,6 +127,38 @@ TEST(LinkMessages, ARefusalEndsTheAnswerWithItsErrno)
     const LinkMessages messages = read(bytes);
     EXPECT_EQ(messages.error, ENODEV);
     EXPECT_TRUE(messages.finished);
+}
+
+TEST(LinkMessages, ATableThatBreaksOffIsAnErrorAndNotAShorterTable)
+{
+    NetlinkBytes bytes;
+    bytes.message(RTM_NEWLINK, ethernet()).text(IFLA_IFNAME, "eth0");
+    bytes.message(NLMSG_DONE, int{-ENOBUFS});
+    const LinkMessages messages = read(bytes);
+    EXPECT_EQ(messages.error, ENOBUFS);
+    EXPECT_TRUE(messages.finished);
+}
+
+TEST(LinkMessages, AStatusThatIsNoErrnoIsStillAnError)
+{
+    for (const int status : {1, -4096, INT_MIN}) {
+        NetlinkBytes end;
+        end.message(NLMSG_DONE, status);
+        EXPECT_EQ(read(end).error, EBADMSG) << status;
+        nlmsgerr refusal{};
+        refusal.error = status;
+        NetlinkBytes bytes;
+        bytes.message(NLMSG_ERROR, refusal, 0);
+        EXPECT_EQ(read(bytes).error, EBADMSG) << status;
+    }
+}
+
+TEST(LinkMessages, AnEndWithoutAStatusIsAGoodEnd)
+{
+    NetlinkBytes bytes;
+    bytes.message(NLMSG_DONE, int{-ENOBUFS}).setMessageLength(sizeof(nlmsghdr));
+    EXPECT_EQ(read(bytes).error, 0);
+    EXPECT_TRUE(read(bytes).finished);
 }
 
 TEST(LinkMessages, OurOwnAddressNotTheFarEnds)

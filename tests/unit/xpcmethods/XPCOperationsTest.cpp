@@ -25,7 +25,7 @@ TEST_F(Installing, ThatFailsLogsTheError)
 {
     helper.installFails = true;
     EXPECT_EQ(logOf([this] { install(); }),
-        QStringList{line("error com.orvandel.Quillon4.Error.NotAuthorized / 11\n")});
+        QStringList{line("error com.orvandel.Quillon4.Error.InstallFailed / 11\n")});
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
