@@ -6,6 +6,8 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
+#include <QPointer>
+
 namespace quillon {
 
 AdvancedPreferencesModel::AdvancedPreferencesModel(
@@ -20,11 +22,14 @@ void AdvancedPreferencesModel::load()
 {
     checkButtonStatus();
     set(false, m_uninstallEnabled);
-    m_helper.getVersionOfHelperToolwithReply([this](const QString &version) {
-        m_scheduler.onMain([this, version] {
-            set(version != XPCMethods::helperToolVersion(), m_uninstallEnabled);
+    m_helper.getVersionOfHelperToolwithReply(
+        [self = QPointer(this), &scheduler = m_scheduler](const QString &version) {
+            scheduler.onMain([self, version] {
+                if (self) {
+                    self->set(version != XPCMethods::helperToolVersion(), self->m_uninstallEnabled);
+                }
+            });
         });
-    });
 }
 
 void AdvancedPreferencesModel::checkButtonStatus()
@@ -35,27 +40,35 @@ void AdvancedPreferencesModel::checkButtonStatus()
 
 void AdvancedPreferencesModel::installHelper()
 {
-    m_helper.installHelperToolwithReply([this](bool success) {
-        m_scheduler.onMain([this, success] {
-            if (success) {
-                m_helper.updateHelperInstalledStatus();
-            }
-            Q_EMIT appKeyWanted();
+    m_helper.installHelperToolwithReply(
+        [self = QPointer(this), &scheduler = m_scheduler](bool success) {
+            scheduler.onMain([self, success] {
+                if (!self) {
+                    return;
+                }
+                if (success) {
+                    self->m_helper.updateHelperInstalledStatus();
+                }
+                Q_EMIT self->appKeyWanted();
+            });
         });
-    });
 }
 
 void AdvancedPreferencesModel::uninstallHelper()
 {
-    m_helper.uninstallHelperToolwithReply([this](bool success) {
-        m_scheduler.onMain([this, success] {
-            if (success) {
-                purgeGroupDefaults();
-                m_helper.updateHelperInstalledStatus();
-            }
-            Q_EMIT appKeyWanted();
+    m_helper.uninstallHelperToolwithReply(
+        [self = QPointer(this), &scheduler = m_scheduler](bool success) {
+            scheduler.onMain([self, success] {
+                if (!self) {
+                    return;
+                }
+                if (success) {
+                    self->purgeGroupDefaults();
+                    self->m_helper.updateHelperInstalledStatus();
+                }
+                Q_EMIT self->appKeyWanted();
+            });
         });
-    });
 }
 
 void AdvancedPreferencesModel::purgeGroupDefaults()

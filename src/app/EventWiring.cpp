@@ -15,6 +15,8 @@
 #include "devices/NetworkFollower.h"
 #include "platform/NetworkChangeSource.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace quillon {
@@ -33,6 +35,7 @@ EventWiring::EventWiring(const Platform &platform, const Components &components)
 
 EventWiring::~EventWiring()
 {
+    Q_EMIT cloudObserversStopped();
     for (const auto token : m_notificationTokens) {
         m_platform.notifications.removeObserver(token);
     }
@@ -111,6 +114,7 @@ void EventWiring::connectCurrentInterface()
     onUpdate([&window] { window.checkUpdateButton(); });
     onUpdate([this](const QString &device) { Q_EMIT vendorFieldStale(device); });
     onUpdate([this](const QString &device) { Q_EMIT ruleStatusStale(device); });
+    onUpdate([this] { m_with.statusMenu.menuNeedsUpdate(); });
 
     connect(&current, &CurrentInterface::hexValuesUpdated, this,
         [&window] { window.populateHexField(); });
@@ -118,6 +122,8 @@ void EventWiring::connectCurrentInterface()
 
 void EventWiring::connectAddressChange()
 {
+    connect(&m_with.addressChanger, &AddressChanger::restoreRequested, this,
+        &EventWiring::hardwarePopoverClosed);
     // Direct: the history is written between the user's message and the broadcast, on their thread.
     connect(&m_with.addressChanger, &AddressChanger::addressChanged, this,
         &EventWiring::historyRecordDue, Qt::DirectConnection);
@@ -148,8 +154,12 @@ void EventWiring::setupNotifications()
 {
     observeSettings();
     observeBroadcasts();
-    m_platform.networkChanges.start(
-        [this] { m_platform.notifications.post(notifications::networkChanged); });
+    // The source outlives this.
+    m_platform.networkChanges.start([self = QPointer(this)] {
+        if (self) {
+            self->m_platform.notifications.post(notifications::networkChanged);
+        }
+    });
     // A login item that started us has done its work.
     postTerminateLoginHelper();
 }
@@ -160,8 +170,11 @@ void EventWiring::observeSettings()
     observe(keys::currentInterfaceDict, [this] { m_with.mainWindow.populateHexField(); });
     observe(keys::loginStart, [this] {
         Q_EMIT loginStartChanged();
-        m_platform.scheduler.onMainAfter(
-            terminateLoginHelperDelay, [this] { postTerminateLoginHelper(); });
+        m_platform.scheduler.onMainAfter(terminateLoginHelperDelay, [self = QPointer(this)] {
+            if (self) {
+                self->postTerminateLoginHelper();
+            }
+        });
     });
     observe(keys::showInMenu, [this] { m_with.presence.updateMenu(); });
     observe(keys::hideDock, [this] { m_with.presence.updateDock(); });
@@ -175,13 +188,20 @@ void EventWiring::observeSettings()
 
 void EventWiring::observeBroadcasts()
 {
+    observe(notifications::recordsChanged, [this](const auto &) { Q_EMIT recordStoreChanged(); });
+    observe(notifications::cloudContainerChanged,
+        [this](const auto &) { Q_EMIT cloudContainerChanged(); });
     observe(notifications::networkChanged, [this](const auto &) {
         m_with.networkFollower.networkChanged();
         m_with.statusMenu.menuNeedsUpdate();
         Q_EMIT networkChanged();
     });
     observe(notifications::addressUpdated, [this](const auto &) {
-        m_platform.scheduler.onMain([this] { m_with.statusMenu.menuNeedsUpdate(); });
+        m_platform.scheduler.onMain([self = QPointer(this)] {
+            if (self) {
+                self->m_with.statusMenu.menuNeedsUpdate();
+            }
+        });
     });
     observe(notifications::helperStatusChanged, [this](const auto &) {
         m_with.advancedPreferences.checkButtonStatus();

@@ -65,6 +65,8 @@ Q_SIGNALS:
     /// After the reactions to every observed key.
     void observedSettingChanged(const QString &key);
     // Broadcasts.
+    void recordStoreChanged();
+    void cloudContainerChanged();
     void networkChanged();
     void vendorViewPopoverClosed();
     void ruleToggled(const QVariantMap &userInfo);
@@ -77,8 +79,12 @@ Q_SIGNALS:
     void vendorSelectionStale(const QString &device);
     /// The helper's status was read: rules are to be evaluated without changing anything.
     void ruleEvaluationDue();
+    /// The factory-address popover is to close.
+    void hardwarePopoverClosed();
     /// An address was changed: it belongs into the history.
     void historyRecordDue(const QString &device, const QString &address);
+    /// The wiring ends: what observes the cloud account is to stop.
+    void cloudObserversStopped();
 
 private:
     void connectHelperStatus();

@@ -14,6 +14,8 @@
 #include "platform/RunningApplications.h"
 #include "platform/SettingsStore.h"
 
+#include <QPointer>
+
 namespace quillon {
 
 namespace {
@@ -91,9 +93,11 @@ void LaunchSequence::startup()
     Q_EMIT locationPermissionDue();
     Q_EMIT externalAddressDue();
 
-    m_with.scheduler.onMainAfter(firstRuleCheckDelay, [this] {
-        Q_EMIT firstRuleCheckDue();
-        m_startedFromLogin = false;
+    m_with.scheduler.onMainAfter(firstRuleCheckDelay, [self = QPointer(this)] {
+        if (self) {
+            Q_EMIT self->firstRuleCheckDue();
+            self->m_startedFromLogin = false;
+        }
     });
 }
 

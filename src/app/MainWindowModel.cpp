@@ -11,6 +11,7 @@
 #include "platform/SettingsStore.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace quillon {
 
@@ -127,15 +128,22 @@ void MainWindowModel::renewHexFormatter()
 
 void MainWindowModel::populateHexField()
 {
-    m_scheduler.onMain([this] {
-        const QVariantMap record = m_currentInterface.record();
-        State state = m_state;
-        state.fieldText = m_displayCase.transformedValue(record.value(record::current).toString());
-        state.softwareButtonVisible = true;
-        fillInterfaceDetails(state);
-        update(state);
-        checkUpdateButton();
+    m_scheduler.onMain([self = QPointer(this)] {
+        if (self) {
+            self->showCurrentAddress();
+        }
     });
+}
+
+void MainWindowModel::showCurrentAddress()
+{
+    State state = m_state;
+    state.fieldText = m_displayCase.transformedValue(
+        m_currentInterface.record().value(record::current).toString());
+    state.softwareButtonVisible = true;
+    fillInterfaceDetails(state);
+    update(state);
+    checkUpdateButton();
 }
 
 void MainWindowModel::populateHexFieldFromDrop(const QString &text)
@@ -149,11 +157,15 @@ void MainWindowModel::populateHexFieldFromDrop(const QString &text)
 
 void MainWindowModel::checkUpdateButton()
 {
-    if (!m_helperInstalled) {
+    if (!m_scheduler.isMainThread()) {
+        m_scheduler.onMain([self = QPointer(this)] {
+            if (self) {
+                self->checkUpdateButton();
+            }
+        });
         return;
     }
-    if (!m_scheduler.isMainThread()) {
-        m_scheduler.onMain([this] { checkUpdateButton(); });
+    if (!m_helperInstalled) {
         return;
     }
     State state = m_state;

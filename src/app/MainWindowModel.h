@@ -41,6 +41,7 @@ public:
         bool installing = false; ///< an installation was asked for and has not ended
 
         bool hardwareIndicatorVisible = false; ///< the address in use is not the factory address
+        /// The button of the saved addresses.
         bool softwareButtonVisible = false;
 
         // The selected interface, for display; addresses in display case.
@@ -98,7 +99,8 @@ public:
     void populateHexField();
     /// An address that was dropped on the field; anything else is ignored.
     void populateHexFieldFromDrop(const QString &text);
-    /// The apply button follows the field; does nothing while the helper is not installed.
+    /// The apply button follows the field; does nothing while the helper is not installed. Any
+    /// thread.
     void checkUpdateButton();
 
     /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
@@ -123,6 +125,7 @@ Q_SIGNALS:
 
 private:
     void update(const State &state);
+    void showCurrentAddress();
     void fillInterfaceDetails(State &state) const;
 
     SettingsStore &m_settings;

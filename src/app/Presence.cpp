@@ -14,7 +14,7 @@ Presence::Presence(SettingsStore &settings)
 
 bool Presence::isDockIconHidden() const
 {
-    return m_statusItemAvailable && m_settings.getBool(keys::hideDock);
+    return m_statusItemShown && m_statusItemAvailable && m_settings.getBool(keys::hideDock);
 }
 
 void Presence::updateMenu()
@@ -31,6 +31,7 @@ void Presence::showMenuBarItem(bool shown)
     if (shown != m_statusItemShown) {
         m_statusItemShown = shown;
         Q_EMIT statusItemShownChanged(shown);
+        updateDock();
     }
 }
 

@@ -18,8 +18,8 @@ public:
     explicit Presence(SettingsStore &settings);
 
     bool isStatusItemShown() const { return m_statusItemShown; }
-    /// The setting `hideDock`, unless no desktop shows our status item: then the program could not
-    /// be reached any more.
+    /// The setting `hideDock`, unless there is no status item before the user: then the program
+    /// could not be reached any more.
     bool isDockIconHidden() const;
 
     /// Follows `showInMenu`.

@@ -13,12 +13,13 @@ SettingsProblemMessage settingsProblemMessage(const SettingsProblem &problem)
     case SettingsProblem::Kind::Damaged:
         if (problem.keptPath.isEmpty()) {
             return {localized("Settings are damaged"),
-                filled(
-                    localized("Quillon uses its defaults. The damaged file was left as it is: %@"),
+                filled(localized("Quillon goes on with what it knows, or with its defaults. The "
+                                 "damaged file was left as it was: %@"),
                     {problem.path})};
         }
         return {localized("Settings were damaged"),
-            filled(localized("Quillon uses its defaults. The damaged file is kept: %@"),
+            filled(localized("Quillon goes on with what it knows, or with its defaults. The "
+                             "damaged file is kept: %@"),
                 {problem.keptPath})};
     case SettingsProblem::Kind::Unreadable:
         return {localized("Settings cannot be read"),

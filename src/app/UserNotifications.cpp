@@ -34,11 +34,12 @@ void UserNotifications::checkNotificationCenter()
     if (!m_settings.getBool(keys::displayNotifications)) {
         return;
     }
-    m_center.requestAlertAuthorization([this](bool granted, const std::optional<Error> &error) {
-        if (!granted && !error) {
-            m_settings.setBool(keys::displayNotifications, false);
-        }
-    });
+    m_center.requestAlertAuthorization(
+        [&settings = m_settings](bool granted, const std::optional<Error> &error) {
+            if (!granted && !error) {
+                settings.setBool(keys::displayNotifications, false);
+            }
+        });
 }
 
 void UserNotifications::sendNotificationWithBody(const QString &title, const QString &body)
@@ -46,15 +47,16 @@ void UserNotifications::sendNotificationWithBody(const QString &title, const QSt
     if (!m_settings.getBool(keys::displayNotifications)) {
         return;
     }
-    m_scheduler.onMain([this, title, body] {
+    // The platform outlives this.
+    m_scheduler.onMain([&center = m_center, title, body] {
         UserNotificationRequest request;
         request.identifier = QString::fromLatin1(title.toUtf8().toBase64());
         request.title = title;
         request.body = body;
         request.delay = notificationDelay;
-        m_center.removePending(request.identifier);
-        m_center.removeDelivered(request.identifier);
-        m_center.add(request, [](const std::optional<Error> &error) {
+        center.removePending(request.identifier);
+        center.removeDelivered(request.identifier);
+        center.add(request, [](const std::optional<Error> &error) {
             if (error) {
                 qCWarning(logApp, "Quillon Local Notification failed to send");
             }

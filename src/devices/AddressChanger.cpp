@@ -79,6 +79,7 @@ QString AddressChanger::changeMacAddress(const QString &fieldText)
 
 void AddressChanger::restoreDefaultAddress()
 {
+    Q_EMIT restoreRequested();
     const QVariantMap current = m_with.currentInterface.record();
     updateMacAddressWithAddress(
         current.value(record::device).toString(), current.value(record::hardware).toString());
@@ -94,6 +95,7 @@ void AddressChanger::randomizeAddress(const MenuItem &sender, RandomAddress &ran
 
 void AddressChanger::restoreDefaultAddress(const MenuItem &sender)
 {
+    Q_EMIT restoreRequested();
     const QString address = valueInTitle(sender.parentItem());
     const QString device = valueInTitle(itemAboveParent(sender, 1));
     if (m_with.devices.contains(device) && isStringValidHEX(address)) {
@@ -145,7 +147,7 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
 
 void AddressChanger::askHelper(const Request &request)
 {
-    const bool isWifi = request.interface == QLatin1String("Wi-Fi");
+    const bool isWifi = isWifiRecord({{record::interface, request.interface}});
     m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
         request.device, request.address, isWifi, [this, life = m_life, request](bool success) {
             const std::shared_lock lock(life->mutex);

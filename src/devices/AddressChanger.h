@@ -64,6 +64,9 @@ public:
     void restoreDefaultAddress(const MenuItem &sender);
 
 Q_SIGNALS:
+    /// A restore was asked for, in the window or the menu: whatever shows the factory address may
+    /// close. Before anything else of it happens.
+    void restoreRequested();
     /// After the user was told of a successful change and before "addressUpdated" is posted; on the
     /// thread of the helper's reply.
     void addressChanged(const QString &device, const QString &requestedAddress);

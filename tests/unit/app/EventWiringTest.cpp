@@ -32,6 +32,15 @@ protected:
 
     const MainWindowModel::State &window() const { return delegate->mainWindow().state(); }
 
+    QVariantMap tableWithoutAddressOf(const QString &device) const
+    {
+        QVariantMap table = machine.settings.getDictionary(keys::deviceDict);
+        QVariantMap changed = table.value(device).toMap();
+        changed.remove(record::current);
+        table[device] = changed;
+        return table;
+    }
+
     template <typename Signal>
     void count(Signal signal, int &counter)
     {
@@ -77,13 +86,15 @@ TEST_F(EventWiringTest, StartAtLoginIsFollowedAndOneSecondLaterTheLoginItemIsTol
     EXPECT_TRUE(machine.distributed.posted.isEmpty());
     machine.scheduler.advance(1ms);
     EXPECT_EQ(machine.distributed.posted.size(), 1);
-    EXPECT_EQ(machine.distributed.posted.first().first, notifications::terminateLoginHelper);
+    EXPECT_EQ(machine.distributed.posted.first(),
+        std::pair(notifications::terminateLoginHelper, notifications::applicationObject));
 }
 
 TEST_F(EventWiringTest, TheStatusItemAndTheDockIconFollowTheirSettings)
 {
     machine.settings.setBool(keys::showInMenu, false);
     EXPECT_FALSE(delegate->presence().isStatusItemShown());
+    machine.settings.setBool(keys::showInMenu, true);
     delegate->presence().setStatusItemAvailable(true);
     machine.settings.setBool(keys::hideDock, true);
     EXPECT_TRUE(delegate->presence().isDockIconHidden());
@@ -103,6 +114,103 @@ TEST_F(EventWiringTest, EachRowOfALaterRoomIsAnnounced)
     machine.settings.setBool(keys::shouldUpdateExternalIP, true);
     machine.settings.setBool(keys::iCloudSync, true);
     EXPECT_EQ((QList<int>{show, random, saved, external, cloud}), (QList<int>{1, 1, 1, 1, 1}));
+}
+
+TEST_F(EventWiringTest, EachBroadcastOfALaterRoomIsAnnounced)
+{
+    int records = 0, cloud = 0, popover = 0;
+    QString toggled;
+    count(&EventWiring::recordStoreChanged, records);
+    count(&EventWiring::cloudContainerChanged, cloud);
+    count(&EventWiring::vendorViewPopoverClosed, popover);
+    QObject::connect(&delegate->wiring(), &EventWiring::ruleToggled,
+        [&](const QVariantMap &info) { toggled = info.value(QStringLiteral("objID")).toString(); });
+    machine.notifications.post(notifications::recordsChanged);
+    machine.notifications.post(notifications::cloudContainerChanged);
+    machine.notifications.post(notifications::closeVendorViewPopover);
+    machine.notifications.post(notifications::toggleCheckbox, nullptr,
+        {{QStringLiteral("objID"), QStringLiteral("x-record:1")}});
+    EXPECT_EQ((QList<int>{records, cloud, popover}), (QList<int>{1, 1, 1}));
+    EXPECT_EQ(toggled, QStringLiteral("x-record:1"));
+}
+
+TEST_F(EventWiringTest, TheFactoryAddressPopoverClosesBeforeARestoreBegins)
+{
+    machine.host.giveAddress(QStringLiteral("enp1s0"), QStringLiteral("02:00:00:00:00:77"));
+    machine.networkChanges.networkChanges();
+    machine.scheduler.runPending();
+    int closed = 0;
+    QObject::connect(&delegate->wiring(), &EventWiring::hardwarePopoverClosed, [&] {
+        EXPECT_EQ(
+            machine.host.addressOf(QStringLiteral("enp1s0")), QStringLiteral("02:00:00:00:00:77"));
+        ++closed;
+    });
+    delegate->restoreDefaultAddress();
+    EXPECT_EQ(closed, 1);
+    machine.scheduler.runPending();
+    EXPECT_EQ(
+        machine.host.addressOf(QStringLiteral("enp1s0")), QStringLiteral("3c:22:fb:00:00:01"));
+}
+
+TEST_F(EventWiringTest, TheEndOfTheWiringStopsTheObserversOfTheCloud)
+{
+    int stopped = 0;
+    count(&EventWiring::cloudObserversStopped, stopped);
+    delegate.reset();
+    EXPECT_EQ(stopped, 1);
+}
+
+TEST_F(EventWiringTest, WhatWasPutOffReachesNobodyAfterTheEnd)
+{
+    machine.settings.setBool(keys::loginStart, true);
+    machine.notifications.post(notifications::addressUpdated);
+    delegate->mainWindow().populateHexField();
+    delegate->advancedPreferences().load();
+    delegate.reset();
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(5s);
+    EXPECT_TRUE(machine.distributed.posted.isEmpty());
+}
+
+TEST_F(EventWiringTest, WithoutTheServiceTheHintIsShownAndTheFieldStaysDisabled)
+{
+    FakePlatform other;
+    other.helper.serviceExists = false;
+    QuillonAppDelegate second(other.platform());
+    second.launch().awakeFromNib();
+    second.launch().applicationWillFinishLaunching();
+    second.launch().applicationDidFinishLaunching();
+    other.scheduler.advance(2s);
+    EXPECT_TRUE(second.mainWindow().state().readMeVisible);
+    EXPECT_FALSE(second.mainWindow().state().fieldEnabled);
+    EXPECT_FALSE(second.mainWindow().state().randomiseEnabled);
+}
+
+TEST_F(EventWiringTest, WithNotificationsSwitchedOffAChangeIsRecordedAndAnnouncedWithoutAMessage)
+{
+    machine.settings.setBool(keys::displayNotifications, false);
+    int records = 0, broadcasts = 0;
+    count(&EventWiring::historyRecordDue, records);
+    const auto token = machine.notifications.addObserver(
+        notifications::addressUpdated, [&](const auto &) { ++broadcasts; });
+    delegate->randomizeAddress();
+    machine.scheduler.advance(5s);
+    machine.notifications.removeObserver(token);
+    EXPECT_EQ(records, 1);
+    EXPECT_EQ(broadcasts, 1);
+    EXPECT_TRUE(machine.userNotifications.everShown.isEmpty());
+}
+
+TEST_F(EventWiringTest, TheStatusMenuFollowsTheSelectionAndTheDisplayCase)
+{
+    delegate->changeInterfacefromPopup(QStringLiteral("enp2s0"));
+    machine.scheduler.runPending();
+    machine.settings.setBool(keys::lowerCaseHEX, true);
+    machine.scheduler.runPending();
+    for (const MenuEntry &entry : delegate->statusMenu().entries()) {
+        EXPECT_EQ(entry.checked, entry.title == QStringLiteral("USB Ethernet · enp2s0"));
+        EXPECT_FALSE(entry.title.contains(QStringLiteral("FB"))) << qPrintable(entry.title);
+    }
 }
 
 TEST_F(EventWiringTest, EveryObservedKeyIsHandedOnAfterItsReaction)
@@ -170,6 +278,27 @@ TEST_F(EventWiringTest, TheHelpersStatusIsFollowedInItsOrder)
     QObject::connect(&delegate->wiring(), &EventWiring::ruleEvaluationDue, [&] {
         EXPECT_TRUE(model.state().readMeVisible) << "the field and the hint come first";
         order.append(QStringLiteral("rules"));
+        // What the next steps have to mend, each at its place.
+        machine.settings.set(keys::deviceDict, tableWithoutAddressOf(QStringLiteral("enp1s0")));
+        machine.host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp9s0"), {},
+            QStringLiteral("3c:22:fb:00:00:09"), {}});
+    });
+    const auto table = machine.settings.addObserver(keys::deviceDict, [&](const auto &change) {
+        const QVariantMap now = change.newValue.toMap();
+        const bool mended = now.value(QStringLiteral("enp1s0")).toMap().contains(record::current);
+        const bool read = now.contains(QStringLiteral("enp9s0"));
+        if (mended && !order.contains(QStringLiteral("hex values"))) {
+            order.append(QStringLiteral("hex values"));
+        }
+        if (read && !order.contains(QStringLiteral("interfaces"))) {
+            order.append(QStringLiteral("interfaces"));
+        }
+    });
+    QObject::connect(&model, &MainWindowModel::changed, [&] {
+        if (model.state().devices.contains(QStringLiteral("enp9s0")) &&
+            !order.contains(QStringLiteral("selection"))) {
+            order.append(QStringLiteral("selection"));
+        }
     });
     const auto token =
         machine.notifications.addObserver(notifications::helperStatusChanged, [&](const auto &) {
@@ -180,8 +309,11 @@ TEST_F(EventWiringTest, TheHelpersStatusIsFollowedInItsOrder)
     machine.distributed.deliver(notifications::helperUpdated, notifications::helperUpdatedObject);
     machine.scheduler.runPending();
     machine.notifications.removeObserver(token);
-    EXPECT_THAT(order, ElementsAre(QStringLiteral("hint style"), QStringLiteral("rules"),
-                           QStringLiteral("buttons"), QStringLiteral("broadcast")));
+    machine.settings.removeObserver(table);
+    EXPECT_THAT(order,
+        ElementsAre(QStringLiteral("hint style"), QStringLiteral("rules"),
+            QStringLiteral("buttons"), QStringLiteral("hex values"), QStringLiteral("interfaces"),
+            QStringLiteral("selection"), QStringLiteral("broadcast")));
 }
 
 TEST_F(EventWiringTest, FollowUpsOfANewSelectionComeInTheirOrder)
@@ -194,12 +326,17 @@ TEST_F(EventWiringTest, FollowUpsOfANewSelectionComeInTheirOrder)
         [&] { order.append(QStringLiteral("countdown")); });
     QObject::connect(&wiring, &EventWiring::currentVendorStale, [&](const QString &address) {
         EXPECT_EQ(window().fieldPlaceholder, address) << "the placeholder comes first";
+        EXPECT_TRUE(window().updateEnabled) << "the apply button comes after the vendor";
         order.append(QStringLiteral("vendor of ") + address);
     });
-    QObject::connect(&wiring, &EventWiring::vendorFieldStale,
-        [&] { order.append(QStringLiteral("vendor field")); });
+    QObject::connect(&wiring, &EventWiring::vendorFieldStale, [&] {
+        EXPECT_FALSE(window().updateEnabled) << "the apply button comes before the vendor field";
+        order.append(QStringLiteral("vendor field"));
+    });
     QObject::connect(&wiring, &EventWiring::ruleStatusStale,
         [&](const QString &device) { order.append(QStringLiteral("rules of ") + device); });
+    // Offered for the old interface, and the new one's own address.
+    delegate->mainWindow().editField(QStringLiteral("3C:22:FB:00:00:02"));
     delegate->changeInterfacefromPopup(QStringLiteral("enp2s0"));
     machine.scheduler.runPending();
     EXPECT_THAT(order, ElementsAre(QStringLiteral("vendor choice"), QStringLiteral("countdown"),
@@ -275,6 +412,24 @@ TEST_F(EventWiringTest, TheInstallButtonIsBusyUntilTheInstallationHasEnded)
     machine.scheduler.runPending();
     EXPECT_FALSE(window().installing);
     EXPECT_FALSE(window().readMeVisible);
+}
+
+TEST_F(EventWiringTest, AnInstallationFromTheWindowBringsItToTheFrontOnSuccessOnly)
+{
+    int fronts = 0;
+    QObject::connect(&delegate->presence(), &Presence::windowOpened, [&] { ++fronts; });
+    machine.helper.installFails = true;
+    delegate->installHelper();
+    machine.scheduler.runPending();
+    EXPECT_EQ(fronts, 0);
+
+    machine.helper.installFails = false;
+    machine.host.clearJournal();
+    delegate->installHelper();
+    machine.scheduler.runPending();
+    EXPECT_EQ(fronts, 1);
+    EXPECT_EQ(machine.host.journal().count(QStringLiteral("ports")), 2)
+        << "once for the button, once for the helper's status";
 }
 
 } // namespace

@@ -78,12 +78,56 @@ TEST_F(LaunchSequenceTest, TheStepsComeInTheirOrder)
     EXPECT_THAT(journal,
         ElementsAre(QStringLiteral("window prepared"), QStringLiteral("application hidden"),
             QStringLiteral("vendor database"), QStringLiteral("record store"),
-            QStringLiteral("Dock icon"), QStringLiteral("status item"),
+            QStringLiteral("Dock icon"), QStringLiteral("status item"), QStringLiteral("Dock icon"),
             QStringLiteral("window opened"), QStringLiteral("countdown label"),
             QStringLiteral("hot keys"), QStringLiteral("vendor count"),
             QStringLiteral("quick addresses"), QStringLiteral("info buttons reset"),
             QStringLiteral("vendor field"), QStringLiteral("cloud check"),
             QStringLiteral("location permission"), QStringLiteral("external address")));
+}
+
+TEST_F(LaunchSequenceTest, EachStepFindsWhatTheStepsBeforeItDidAndNothingMore)
+{
+    machine.settings.setBool(keys::loginStart, true);
+    create();
+    LaunchSequence &launch = delegate->launch();
+    int checked = 0;
+    const auto at = [&](auto signal, auto check) {
+        QObject::connect(&launch, signal, [&checked, check] {
+            check();
+            ++checked;
+        });
+    };
+    at(&LaunchSequence::vendorDatabaseDue,
+        [&] { EXPECT_TRUE(machine.helper.journal().isEmpty()); });
+    at(&LaunchSequence::recordStoreDue, [&] {
+        EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("authorize")));
+        EXPECT_FALSE(machine.settings.get(keys::externalIPAddress).isValid());
+    });
+    at(&LaunchSequence::loginItemDue, [&] {
+        EXPECT_TRUE(delegate->presence().isStatusItemShown());
+        EXPECT_EQ(machine.userNotifications.authorizationRequests, 0);
+    });
+    QObject::connect(&delegate->presence(), &Presence::statusItemShownChanged, [&] {
+        EXPECT_TRUE(machine.settings.get(keys::externalIPAddress).isValid());
+        ++checked;
+    });
+    at(&LaunchSequence::countdownLabelDue,
+        [&] { EXPECT_EQ(machine.userNotifications.authorizationRequests, 1); });
+    at(&LaunchSequence::quickAddressesDue,
+        [&] { EXPECT_FALSE(machine.host.journal().contains(QStringLiteral("ports"))); });
+    at(&LaunchSequence::vendorFieldDue, [&] {
+        EXPECT_TRUE(machine.host.journal().contains(QStringLiteral("ports")));
+        EXPECT_FALSE(machine.networkChanges.isStarted());
+    });
+    at(&LaunchSequence::cloudCheckDue, [&] {
+        EXPECT_TRUE(delegate->mainWindow().state().selectionVisible);
+        EXPECT_TRUE(machine.networkChanges.isStarted());
+    });
+    launch.awakeFromNib();
+    launch.applicationWillFinishLaunching();
+    launch.applicationDidFinishLaunching();
+    EXPECT_EQ(checked, 8);
 }
 
 TEST_F(LaunchSequenceTest, DefaultsAreRegisteredBeforeTheFirstComponentAndFlushed)
@@ -200,7 +244,7 @@ TEST_F(LaunchSequenceTest, TheLoginItemIsPreparedOnlyWhenTheProgramStartsAtLogin
     machine.settings.setBool(keys::loginStart, true);
     launch();
     EXPECT_EQ(journal.indexOf(QStringLiteral("login item")),
-        journal.indexOf(QStringLiteral("status item")) + 1);
+        journal.indexOf(QStringLiteral("window opened")) - 1);
 }
 
 TEST_F(LaunchSequenceTest, AnUnsetExternalAddressIsStoredAsUnknownAndASetOneIsKept)
@@ -246,6 +290,8 @@ TEST_F(LaunchSequenceTest, AfterTheProgramsEndNothingObservesAnyMore)
     machine.scheduler.advance(1s);
     delegate.reset();
     EXPECT_FALSE(machine.distributed.hasObservers());
+    EXPECT_FALSE(machine.settings.hasObservers());
+    EXPECT_FALSE(machine.notifications.hasObservers());
     machine.settings.setBool(keys::lowerCaseHEX, true);
     machine.notifications.post(notifications::networkChanged);
     machine.scheduler.runPending();

@@ -52,6 +52,7 @@ TEST_F(PresenceTest, SwitchingTheStatusItemOffShowsTheDockIconAgain)
 
 TEST_F(PresenceTest, TheDockIconStaysWhileNoDesktopShowsTheStatusItem)
 {
+    presence.showMenuBarItem(true);
     settings.setBool(keys::hideDock, true);
     presence.updateDock();
     EXPECT_FALSE(presence.isDockIconHidden());
@@ -63,6 +64,27 @@ TEST_F(PresenceTest, TheDockIconStaysWhileNoDesktopShowsTheStatusItem)
     EXPECT_FALSE(presence.isDockIconHidden());
 }
 
+TEST_F(PresenceTest, TheDockIconStaysWhileTheStatusItemIsSwitchedOff)
+{
+    presence.setStatusItemAvailable(true);
+    presence.showMenuBarItem(false);
+    settings.setBool(keys::hideDock, true);
+    EXPECT_FALSE(presence.isDockIconHidden());
+    presence.quit();
+    EXPECT_EQ(terminations, 1) << "a program that nobody can reach must not go on";
+}
+
+TEST_F(PresenceTest, TheDockIconFollowsTheStatusItem)
+{
+    QList<bool> told;
+    QObject::connect(
+        &presence, &Presence::dockIconHiddenChanged, [&](bool hidden) { told.append(hidden); });
+    settings.setBool(keys::hideDock, true);
+    presence.setStatusItemAvailable(true);
+    presence.showMenuBarItem(true);
+    EXPECT_EQ(told, (QList<bool>{false, true}));
+}
+
 TEST_F(PresenceTest, QuitOfTheWindowEndsTheProgramWhileItHasADockIcon)
 {
     presence.quit();
@@ -72,6 +94,7 @@ TEST_F(PresenceTest, QuitOfTheWindowEndsTheProgramWhileItHasADockIcon)
 
 TEST_F(PresenceTest, QuitOfTheWindowOnlyHidesTheProgramWithoutADockIcon)
 {
+    presence.showMenuBarItem(true);
     settings.setBool(keys::hideDock, true);
     presence.setStatusItemAvailable(true);
     presence.quit();
