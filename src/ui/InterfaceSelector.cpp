@@ -5,6 +5,7 @@
 #include "app/MainWindowModel.h"
 #include "base/Localized.h"
 
+#include <QHoverEvent>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
@@ -50,6 +51,21 @@ void InterfaceSelector::showPopup()
 {
     Q_EMIT selectionPopupShown();
     QComboBox::showPopup();
+}
+
+void InterfaceSelector::hidePopup()
+{
+    QComboBox::hidePopup();
+    resetEmphasis();
+}
+
+void InterfaceSelector::resetEmphasis()
+{
+    // The pointer may have left while the list had it; nothing says so any more.
+    setAttribute(Qt::WA_UnderMouse, false);
+    QHoverEvent leave(QEvent::HoverLeave, QPointF(-1, -1), QPointF(-1, -1), QPointF(-1, -1));
+    QComboBox::event(&leave);
+    update();
 }
 
 } // namespace quillon

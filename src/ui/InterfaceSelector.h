@@ -19,6 +19,9 @@ public:
 
     void refresh();
     void showPopup() override;
+    void hidePopup() override;
+    /// Takes the look of a button that is pointed at or pressed away until it is pointed at anew.
+    void resetEmphasis();
 
 Q_SIGNALS:
     void interfacePicked(const QString &title);

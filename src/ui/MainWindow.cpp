@@ -13,15 +13,19 @@
 #include "ui/TextFieldBackgroundView.h"
 #include "ui/Theme.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace quillon {
 
@@ -50,6 +54,13 @@ QPushButton *makeButton(
     return button;
 }
 
+/// To assistive technology a plain widget is a part of something; this one is a window.
+QAccessibleInterface *accessibleWindow(const QString &, QObject *object)
+{
+    auto *window = qobject_cast<MainWindow *>(object);
+    return window == nullptr ? nullptr : new QAccessibleWidget(window, QAccessible::Window);
+}
+
 } // namespace
 
 MainWindow::MainWindow(
@@ -59,6 +70,7 @@ MainWindow::MainWindow(
     , m_theme(theme)
     , m_taskBar(taskBar)
 {
+    QAccessible::installFactory(accessibleWindow);
     setObjectName(QStringLiteral("windowView"));
     setWindowTitle(QStringLiteral("Quillon"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/com.orvandel.Quillon4.svg")));
@@ -202,6 +214,8 @@ void MainWindow::connectModel()
 {
     connect(&m_model, &MainWindowModel::changed, this, &MainWindow::refresh);
     connect(&m_model, &MainWindowModel::fieldRestored, m_field, &AddressField::refresh);
+    connect(&m_model, &MainWindowModel::infoButtonsReset, m_selector,
+        &InterfaceSelector::resetEmphasis);
     connect(&m_theme, &Theme::changed, this, &MainWindow::refreshLink);
 }
 
@@ -275,6 +289,26 @@ void MainWindow::showEvent(QShowEvent *event)
 {
     followTaskBar();
     QWidget::showEvent(event);
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && isGround(event->position().toPoint())) {
+        // Where the desktop cannot move windows on request there is still the title bar.
+        windowHandle()->startSystemMove();
+    } else {
+        event->ignore();
+    }
+}
+
+bool MainWindow::isGround(const QPoint &place) const
+{
+    // A control that is disabled leaves its presses to the window but is no ground.
+    const QWidget *widget = childAt(place);
+    while (widget != nullptr && widget != this && widget->focusPolicy() == Qt::NoFocus) {
+        widget = widget->parentWidget();
+    }
+    return widget == nullptr || widget == this;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -42,6 +42,8 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    /// The window can be moved by its ground.
+    void mousePressEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -55,6 +57,7 @@ private:
     void refreshLink();
     void bringUp();
     void followTaskBar();
+    bool isGround(const QPoint &place) const;
 
     MainWindowModel &m_model;
     Presence &m_presence;

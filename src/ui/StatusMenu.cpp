@@ -14,6 +14,15 @@ QString withoutMnemonics(QString title)
     return title.replace(u'&', QStringLiteral("&&")).replace(u'_', QStringLiteral("__"));
 }
 
+/// A submenu belongs to the menu, not to the action that opens it.
+void dropSubmenu(QAction &action)
+{
+    if (QMenu *submenu = action.menu()) {
+        action.setMenu(static_cast<QMenu *>(nullptr));
+        submenu->deleteLater();
+    }
+}
+
 } // namespace
 
 QStringList menuEntryKeys(const std::vector<MenuEntry> &entries)
@@ -52,6 +61,7 @@ void StatusMenu::refresh()
             ++entry;
         } else {
             removeAction(entry.value());
+            dropSubmenu(*entry.value());
             entry.value()->deleteLater();
             entry = m_actions.erase(entry);
         }
@@ -95,10 +105,7 @@ void StatusMenu::showSubmenu(QAction &action, const std::vector<MenuEntry> &entr
 {
     QMenu *submenu = action.menu();
     if (entries.empty()) {
-        if (submenu != nullptr) {
-            action.setMenu(static_cast<QMenu *>(nullptr));
-            submenu->deleteLater();
-        }
+        dropSubmenu(action);
         return;
     }
     if (submenu == nullptr) {
@@ -107,12 +114,16 @@ void StatusMenu::showSubmenu(QAction &action, const std::vector<MenuEntry> &entr
     }
     auto items = submenu->actions();
     while (items.size() > static_cast<qsizetype>(entries.size())) {
-        delete items.takeLast();
+        // Later: it may be the one whose click is being handled.
+        QAction *item = items.takeLast();
+        submenu->removeAction(item);
+        item->deleteLater();
     }
     for (size_t index = 0; index < entries.size(); ++index) {
         if (static_cast<qsizetype>(index) == items.size()) {
             QAction *made = submenu->addAction(QString());
-            connect(made, &QAction::triggered, this,
+            // A click means nothing once the item that the submenu belongs to has gone.
+            connect(made, &QAction::triggered, &action,
                 [this, &action, made] { activate(action, *made); });
             items.append(made);
         }

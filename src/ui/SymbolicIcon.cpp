@@ -27,11 +27,11 @@ void SymbolicIcon::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
 QPixmap SymbolicIcon::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
 {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(m_name));
-    if (m_theme.isNull() || size.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    const Theme *theme = m_theme.data();
+    if (theme == nullptr || size.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    const QColor color =
-        mode == QIcon::Disabled ? m_theme->colors().disabledText : m_theme->ink(m_ink);
+    const QColor color = mode == QIcon::Disabled ? theme->colors().disabledText : theme->ink(m_ink);
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", color.name().toLatin1());
     QBuffer buffer(&drawing);

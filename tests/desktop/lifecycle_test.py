@@ -6,10 +6,16 @@ import plistlib
 import subprocess
 import unittest
 
-from program import (DEADLINE, NAME, TITLE, ProgramTest, accessibility, start, trayclient, wait_until,
+from gi.repository import Gio, GLib
+from program import (DEADLINE, NAME, PROGRAM, TITLE, ProgramTest, accessibility, start, trayclient, wait_until,
                      xdotool)
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
+APPLICATION = """
+<node><interface name="org.freedesktop.Application">
+  <method name="Activate"><arg type="a{sv}" name="platform_data" direction="in"/></method>
+</interface></node>
+"""
 
 
 def change_setting(key, value):
@@ -90,6 +96,42 @@ class LifecycleTest(ProgramTest):
         self.item.activate()
         accessibility.window(NAME, TITLE)
         wait_until(lambda: "_NET_WM_STATE_SKIP_TASKBAR" not in window_states(), "no entry came")
+
+
+def program_in_use(activations):
+    """Makes us the program as far as the session knows, for as long as the bus that it returns is kept, and
+    notes how we are activated."""
+    node = Gio.DBusNodeInfo.new_for_xml(APPLICATION)
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+
+    def called(_bus, _sender, _path, _interface, _method, arguments, invocation):
+        activations.append(arguments.unpack()[0])
+        invocation.return_value(None)
+
+    bus.register_object("/com/orvandel/Quillon4", node.interfaces[0], called, None, None)
+    bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+                  GLib.Variant("(su)", ("com.orvandel.Quillon4", 4)), None, Gio.DBusCallFlags.NONE, -1, None)
+    return bus
+
+
+class SecondStartTest(unittest.TestCase):
+    def test_it_hands_on_what_the_desktop_gave_it(self):
+        activations = []
+        bus = program_in_use(activations)
+        self.addCleanup(bus.close_sync)
+        given = {"DESKTOP_STARTUP_ID": "panel-1_TIME4711", "XDG_ACTIVATION_TOKEN": "token-17"}
+        second = subprocess.Popen([PROGRAM], stdin=subprocess.DEVNULL, env={**os.environ, **given})
+        self.addCleanup(second.wait)
+        self.addCleanup(second.kill)
+
+        def ended():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return second.poll() is not None
+        wait_until(ended, "the second start stayed")
+        self.assertEqual(second.returncode, 0)
+        self.assertEqual(activations, [{"desktop-startup-id": "panel-1_TIME4711",
+                                        "activation-token": "token-17"}])
 
 
 if __name__ == "__main__":

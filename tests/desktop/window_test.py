@@ -3,7 +3,7 @@
 """The main window: what its controls do to the kernel's addresses."""
 import unittest
 
-from program import ProgramTest, kernel_addresses, wait_until, xdotool
+from program import ProgramTest, accessibility, kernel_addresses, wait_until, xdotool
 
 TYPED = "02:00:5E:10:AB:CD"
 
@@ -70,6 +70,36 @@ class MainWindowTest(ProgramTest):
         wait_until(lambda: self.button("Restore factory address").enabled, "it can be restored")
         xdotool("key", "alt+f")
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
+
+    def test_it_is_announced_as_a_window(self):
+        self.assertIn(self.window.role, accessibility.WINDOWS)
+
+    def drag(self, x, y):
+        xdotool("mousemove", x, y, "mousedown", 1)
+        # In steps, as a hand does it.
+        for step in range(1, 6):
+            xdotool("mousemove", x + 12 * step, y + 8 * step)
+        xdotool("mouseup", 1)
+
+    def test_the_window_is_moved_by_its_ground(self):
+        left, top, width, height = self.window.extents
+        self.drag(left + 8, top + height // 2)
+        wait_until(lambda: self.window.extents == (left + 60, top + 40, width, height),
+                   lambda: f"it was at {left}, {top} and is at {self.window.extents}")
+        # The press that began it is over: a click does what it always does.
+        self.button("Randomise address").click()
+        self.expect_only_changed(self.selected)
+
+    def test_the_window_is_not_moved_by_its_controls(self):
+        before = self.window.extents
+        apply = self.button("Apply address")
+        self.assertFalse(apply.enabled)
+        for control in (self.button("Randomise address"), apply, self.field):
+            x, y, width, height = control.extents
+            self.drag(x + width // 2, y + height // 2)
+        self.field.click()
+        wait_until(lambda: self.field.focused, "the window did not get the keyboard")
+        self.assertEqual(self.window.extents, before)
 
 
 if __name__ == "__main__":

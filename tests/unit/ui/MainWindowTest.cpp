@@ -5,11 +5,14 @@
 #include "ui/Theme.h"
 #include "unit/ui/WindowMachine.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QStyleOptionComboBox>
 #include <QTranslator>
 
 namespace quillon::test {
@@ -133,6 +136,84 @@ TEST_F(MainWindowTest, AChoiceIsReportedAndOnlyTheModelChangesTheSelection)
     EXPECT_EQ(selector->currentText(), QStringLiteral("enp1s0"));
 }
 
+QStyle::State stateOf(const QComboBox &selector)
+{
+    // What a style is told of a button is protected.
+    struct Told : QComboBox
+    {
+        using QComboBox::initStyleOption;
+    };
+    QStyleOptionComboBox told;
+    (selector.*&Told::initStyleOption)(&told);
+    return told.state;
+}
+
+TEST_F(MainWindowTest, TheSelectorLosesItsEmphasisWhenTheModelSaysSo)
+{
+    auto *selector = named<QComboBox>("Interface");
+    selector->setAttribute(Qt::WA_UnderMouse);
+    ASSERT_TRUE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+    window.resetInfoButtons();
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+}
+
+TEST_F(MainWindowTest, TheSelectorLosesItsEmphasisWhenItsListCloses)
+{
+    auto *selector = named<QComboBox>("Interface");
+    selector->setAttribute(Qt::WA_UnderMouse);
+    selector->showPopup();
+    ASSERT_TRUE(stateOf(*selector).testFlag(QStyle::State_On));
+    selector->hidePopup();
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_On));
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_Sunken));
+}
+
+TEST_F(MainWindowTest, OnlyItsGroundIsForMovingIt)
+{
+    const auto moves = [this](const QPoint &place, Qt::MouseButton button = Qt::LeftButton) {
+        QMouseEvent press(QEvent::MouseButtonPress, place, view->mapToGlobal(place), button, button,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(view.get(), &press);
+        return press.isAccepted();
+    };
+    const auto middleOf = [this](const QWidget *widget) {
+        return widget->mapTo(view.get(), widget->rect().center());
+    };
+    EXPECT_TRUE(moves(QPoint(4, 4)));
+    EXPECT_TRUE(moves(middleOf(view->findChild<QLabel *>(QStringLiteral("portName")))));
+    EXPECT_FALSE(moves(QPoint(4, 4), Qt::RightButton));
+    ASSERT_FALSE(named<QPushButton>("Apply address")->isEnabled());
+    for (const char *name : {"Apply address", "Randomise address"}) {
+        EXPECT_FALSE(moves(middleOf(named<QPushButton>(name)))) << name;
+    }
+    EXPECT_FALSE(moves(middleOf(named<QLineEdit>("Address"))));
+}
+
+TEST_F(MainWindowTest, ToAssistiveTechnologyItIsAWindow)
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(view.get());
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->role(), QAccessible::Window);
+    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Quillon"));
+}
+
+TEST_F(MainWindowTest, TheHintIsDrawnInTheModelsStyle)
+{
+    window.setHelperInstalled(false);
+    const auto *hint = named<QLabel>("Helper hint");
+    const auto look = MainWindowModel::readMeStyle();
+    EXPECT_EQ(look.pointSize, 14);
+    EXPECT_EQ(hint->font().pointSize(), look.pointSize);
+    EXPECT_TRUE(hint->font().bold());
+    EXPECT_TRUE(hint->alignment().testFlag(Qt::AlignLeft));
+    const QColor color = hint->palette().color(QPalette::WindowText);
+    EXPECT_NEAR(color.redF(), look.red, 0.005);
+    EXPECT_NEAR(color.greenF(), look.green, 0.005);
+    EXPECT_NEAR(color.blueF(), look.blue, 0.005);
+    EXPECT_NEAR(color.alphaF(), look.alpha, 0.005);
+}
+
 TEST_F(MainWindowTest, ButtonsReportWhatTheUserDoes)
 {
     QStringList pressed;
@@ -212,6 +293,7 @@ TEST_F(MainWindowTest, TheQuitCommandEndsTheProgram)
 TEST_F(MainWindowTest, WithTheDockIconHiddenQuittingOnlyHides)
 {
     settings.set(keys::hideDock, true);
+    presence.showMenuBarItem(true);
     presence.setStatusItemAvailable(true);
     trigger(Qt::CTRL | Qt::Key_Q);
     EXPECT_EQ(terminations, 0);
@@ -220,6 +302,7 @@ TEST_F(MainWindowTest, WithTheDockIconHiddenQuittingOnlyHides)
 
 TEST_F(MainWindowTest, ItsTaskBarEntryFollowsTheDockIcon)
 {
+    presence.showMenuBarItem(true);
     presence.setStatusItemAvailable(true);
     EXPECT_FALSE(taskBar.skipped);
     settings.set(keys::hideDock, true);

@@ -6,6 +6,8 @@
 #include "ui/Theme.h"
 #include "unit/ui/WindowMachine.h"
 
+#include <QPointer>
+
 namespace quillon::test {
 namespace {
 
@@ -127,6 +129,43 @@ TEST_F(StatusMenuTest, WithoutTheHelperTheAddressesHaveNoSubmenus)
     menu.menuWillOpen();
     EXPECT_NE(titled(wiredCurrent)->menu(), nullptr);
     EXPECT_TRUE(titled(wiredCurrent)->isEnabled());
+}
+
+TEST_F(StatusMenuTest, AnInterfaceThatGoesTakesItsSubmenusAlong)
+{
+    ASSERT_EQ(view.findChildren<QMenu *>().size(), 4);
+    const QPointer<QAction> item = titled(wiredCurrent);
+    const QPointer<QAction> randomize = insideOf(wiredCurrent);
+    int randomized = 0;
+    QObject::connect(
+        &menu, &StatusMenuModel::randomizeChosen, [&](const MenuItem &) { ++randomized; });
+    host.unplug(QStringLiteral("enp1s0"));
+    QVariantMap known = devices.devices();
+    known.remove(QStringLiteral("enp1s0"));
+    settings.set(keys::deviceDict, known);
+    menu.menuWillOpen();
+    // A click that was under way.
+    ASSERT_FALSE(randomize.isNull());
+    randomize->trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(item.isNull());
+    EXPECT_TRUE(randomize.isNull());
+    EXPECT_EQ(view.findChildren<QMenu *>().size(), 2);
+    EXPECT_EQ(randomized, 0);
+}
+
+TEST_F(StatusMenuTest, ASubmenuThatOutlivesItsItemDoesNothing)
+{
+    const QPointer<QAction> item = titled(wiredCurrent);
+    QAction *const randomize = insideOf(wiredCurrent);
+    int randomized = 0;
+    QObject::connect(
+        &menu, &StatusMenuModel::randomizeChosen, [&](const MenuItem &) { ++randomized; });
+    randomize->trigger();
+    EXPECT_EQ(randomized, 1);
+    delete item.data();
+    randomize->trigger();
+    EXPECT_EQ(randomized, 1);
 }
 
 TEST_F(StatusMenuTest, IsRebuiltWhenItIsAboutToOpen)
