@@ -25,8 +25,8 @@ void AdvancedPreferencesModel::load()
     m_helper.getVersionOfHelperToolwithReply(
         [self = QPointer(this), &scheduler = m_scheduler](const QString &version) {
             scheduler.onMain([self, version] {
-                if (self) {
-                    self->set(version != XPCMethods::helperToolVersion(), self->m_uninstallEnabled);
+                if (auto *const that = self.data()) {
+                    that->set(version != XPCMethods::helperToolVersion(), that->m_uninstallEnabled);
                 }
             });
         });
@@ -43,13 +43,14 @@ void AdvancedPreferencesModel::installHelper()
     m_helper.installHelperToolwithReply(
         [self = QPointer(this), &scheduler = m_scheduler](bool success) {
             scheduler.onMain([self, success] {
-                if (!self) {
+                auto *const that = self.data();
+                if (that == nullptr) {
                     return;
                 }
                 if (success) {
-                    self->m_helper.updateHelperInstalledStatus();
+                    that->m_helper.updateHelperInstalledStatus();
                 }
-                Q_EMIT self->appKeyWanted();
+                Q_EMIT that->appKeyWanted();
             });
         });
 }
@@ -59,14 +60,15 @@ void AdvancedPreferencesModel::uninstallHelper()
     m_helper.uninstallHelperToolwithReply(
         [self = QPointer(this), &scheduler = m_scheduler](bool success) {
             scheduler.onMain([self, success] {
-                if (!self) {
+                auto *const that = self.data();
+                if (that == nullptr) {
                     return;
                 }
                 if (success) {
-                    self->purgeGroupDefaults();
-                    self->m_helper.updateHelperInstalledStatus();
+                    that->purgeGroupDefaults();
+                    that->m_helper.updateHelperInstalledStatus();
                 }
-                Q_EMIT self->appKeyWanted();
+                Q_EMIT that->appKeyWanted();
             });
         });
 }

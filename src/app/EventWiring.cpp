@@ -156,8 +156,8 @@ void EventWiring::setupNotifications()
     observeBroadcasts();
     // The source outlives this.
     m_platform.networkChanges.start([self = QPointer(this)] {
-        if (self) {
-            self->m_platform.notifications.post(notifications::networkChanged);
+        if (auto *const that = self.data()) {
+            that->m_platform.notifications.post(notifications::networkChanged);
         }
     });
     // A login item that started us has done its work.
@@ -171,8 +171,8 @@ void EventWiring::observeSettings()
     observe(keys::loginStart, [this] {
         Q_EMIT loginStartChanged();
         m_platform.scheduler.onMainAfter(terminateLoginHelperDelay, [self = QPointer(this)] {
-            if (self) {
-                self->postTerminateLoginHelper();
+            if (auto *const that = self.data()) {
+                that->postTerminateLoginHelper();
             }
         });
     });
@@ -198,8 +198,8 @@ void EventWiring::observeBroadcasts()
     });
     observe(notifications::addressUpdated, [this](const auto &) {
         m_platform.scheduler.onMain([self = QPointer(this)] {
-            if (self) {
-                self->m_with.statusMenu.menuNeedsUpdate();
+            if (auto *const that = self.data()) {
+                that->m_with.statusMenu.menuNeedsUpdate();
             }
         });
     });

@@ -94,9 +94,9 @@ void LaunchSequence::startup()
     Q_EMIT externalAddressDue();
 
     m_with.scheduler.onMainAfter(firstRuleCheckDelay, [self = QPointer(this)] {
-        if (self) {
-            Q_EMIT self->firstRuleCheckDue();
-            self->m_startedFromLogin = false;
+        if (auto *const that = self.data()) {
+            Q_EMIT that->firstRuleCheckDue();
+            that->m_startedFromLogin = false;
         }
     });
 }

@@ -129,8 +129,8 @@ void MainWindowModel::renewHexFormatter()
 void MainWindowModel::populateHexField()
 {
     m_scheduler.onMain([self = QPointer(this)] {
-        if (self) {
-            self->showCurrentAddress();
+        if (auto *const that = self.data()) {
+            that->showCurrentAddress();
         }
     });
 }
@@ -159,8 +159,8 @@ void MainWindowModel::checkUpdateButton()
 {
     if (!m_scheduler.isMainThread()) {
         m_scheduler.onMain([self = QPointer(this)] {
-            if (self) {
-                self->checkUpdateButton();
+            if (auto *const that = self.data()) {
+                that->checkUpdateButton();
             }
         });
         return;
