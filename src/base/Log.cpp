@@ -9,5 +9,10 @@ Q_LOGGING_CATEGORY(logDevices, "quillon.devices", QtWarningMsg)
 Q_LOGGING_CATEGORY(logHelperLink, "quillon.helperlink", QtWarningMsg)
 Q_LOGGING_CATEGORY(logSettings, "quillon.settings", QtWarningMsg)
 Q_LOGGING_CATEGORY(logPlatform, "quillon.platform", QtWarningMsg)
+Q_LOGGING_CATEGORY(logRecords, "quillon.records", QtWarningMsg)
+Q_LOGGING_CATEGORY(logNetworks, "quillon.networks", QtWarningMsg)
+Q_LOGGING_CATEGORY(logHistory, "quillon.history", QtWarningMsg)
+Q_LOGGING_CATEGORY(logRules, "quillon.rules", QtWarningMsg)
+Q_LOGGING_CATEGORY(logVendors, "quillon.vendors", QtWarningMsg)
 
 } // namespace quillon

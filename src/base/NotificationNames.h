@@ -15,6 +15,11 @@ inline const QString recordsChanged = QStringLiteral("recordsChanged");
 inline const QString cloudContainerChanged = QStringLiteral("cloudContainerChanged");
 inline const QString closeVendorViewPopover = QStringLiteral("closeVendorViewPopover");
 inline const QString toggleCheckbox = QStringLiteral("toggleCheckbox");
+inline const QString ruleTable = QStringLiteral("ruleTable");
+inline const QString updateNamesArray = QStringLiteral("updateNamesArray");
+inline const QString updateOverview = QStringLiteral("updateOverview");
+inline const QString showNetworkWarning = QStringLiteral("showNetworkWarning");
+inline const QString vendorUpdated = QStringLiteral("vendorUpdated");
 
 inline const QString helperUpdated = QStringLiteral("HelperUpdated");
 inline const QString helperUpdatedObject = QStringLiteral("com.orvandel.Quillon4MASHelper");

@@ -24,8 +24,12 @@ public:
     }
 
     explicit operator bool() const { return std::holds_alternative<T>(m_state); }
-    const T &value() const { return std::get<T>(m_state); }
-    const Error &error() const { return std::get<Error>(m_state); }
+    const T &value() const & { return std::get<T>(m_state); }
+    T &value() & { return std::get<T>(m_state); }
+    // By value, so that a loop over a passing result's value does not outlive it.
+    T value() && { return std::get<T>(std::move(m_state)); }
+    const Error &error() const & { return std::get<Error>(m_state); }
+    Error error() && { return std::get<Error>(std::move(m_state)); }
 
 private:
     std::variant<T, Error> m_state;

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/UniqueName.h"
+
+#include <QSet>
+
+namespace quillon {
+
+QString getOriginalNameFromArray(const QString &name, const QStringList &taken)
+{
+    const QSet<QString> names(taken.begin(), taken.end());
+    QString candidate = name;
+    for (int suffix = 2; names.contains(candidate); ++suffix) {
+        candidate = name + QStringLiteral(" (%1)").arg(suffix);
+    }
+    return candidate;
+}
+
+} // namespace quillon

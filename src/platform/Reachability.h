@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace quillon {
+
+/// Whether the internet can be reached now, for the default route: answered at once from what the
+/// system knows, without sending anything. Main thread.
+class Reachability
+{
+public:
+    virtual ~Reachability() = default;
+
+    virtual bool isReachable() = 0;
+};
+
+} // namespace quillon
