@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+namespace quillon {
+
+/// A condition on a record's attributes: composable, comparable in memory and by the store with the
+/// same answer. An attribute that holds nothing satisfies no comparison. Texts compare exactly
+/// unless the operator says otherwise.
+class Predicate
+{
+public:
+    enum class Kind
+    {
+        Equal,      ///< "device == 'en0'"
+        Contains,   ///< plain, case-sensitive substring
+        BeginsWith, ///< ignoring case and diacritics
+        And,        ///< of none: true
+        Or,         ///< of none: false
+    };
+
+    static Predicate equal(const QString &attribute, const QVariant &value);
+    static Predicate contains(const QString &attribute, const QString &text);
+    static Predicate beginsWith(const QString &attribute, const QString &text);
+    static Predicate all(const QList<Predicate> &parts);
+    static Predicate any(const QList<Predicate> &parts);
+
+    /// Gives an attribute's value.
+    using Values = std::function<QVariant(const QString &attribute)>;
+    bool evaluate(const Values &values) const;
+    /// In the usual notation: texts in single quotes, Booleans as YES and NO, "&&" and "||" between
+    /// parentheses, "CONTAINS", "BEGINSWITH[cd]".
+    QString format() const;
+
+    Kind kind() const { return m_kind; }
+    const QString &attribute() const { return m_attribute; }
+    const QVariant &value() const { return m_value; }
+    const QList<Predicate> &parts() const { return m_parts; }
+
+    bool operator==(const Predicate &) const = default;
+
+private:
+    Kind m_kind = Kind::And;
+    QString m_attribute;
+    QVariant m_value;
+    QList<Predicate> m_parts;
+};
+
+/// `text` without case and diacritics, as BeginsWith compares it.
+QString foldedText(const QString &text);
+
+} // namespace quillon

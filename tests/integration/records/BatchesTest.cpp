@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The check of the kill trials can fail: whatever is lost, halved or too much is seen.
+#include "ExpectBatch.h"
+#include "KillTrial.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace quillon {
+namespace {
+
+class BatchesTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        auto opened = test::openedContainer(path, scheduler);
+        ASSERT_TRUE(opened);
+        container = std::move(opened.value());
+        batches = std::make_unique<test::Batches>(container->viewContext());
+        for (qint64 batch = 1; batch <= last; ++batch) {
+            batches->change(batch);
+            ASSERT_FALSE(container->viewContext().save().has_value());
+        }
+    }
+    ManagedObjectList all(const QString &entity)
+    {
+        const auto objects = container->viewContext().fetch({entity, {}, {}});
+        return objects ? objects.value() : ManagedObjectList();
+    }
+    bool isSeen()
+    {
+        return batches->last() != last || batches->found() != test::Batches::expected(last);
+    }
+
+    static constexpr qint64 last = 9;
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    test::FakeScheduler scheduler;
+    std::unique_ptr<PersistentContainer> container;
+    std::unique_ptr<test::Batches> batches;
+};
+
+TEST_F(BatchesTest, WholeBatchesAreAsExpected)
+{
+    EXPECT_EQ(batches->found(), test::Batches::expected(last));
+    EXPECT_GT(batches->found().size(), 5);
+    test::expectBatch(path, last);
+}
+
+TEST_F(BatchesTest, AMissingRecordIsSeen)
+{
+    container->viewContext().deleteObject(all(model::Connection).last());
+    EXPECT_TRUE(isSeen());
+}
+
+TEST_F(BatchesTest, ALostChangeIsSeen)
+{
+    all(model::Connection).first()->setValue(model::connection::ssid, QStringLiteral("new"));
+    EXPECT_TRUE(isSeen());
+}
+
+TEST_F(BatchesTest, ARecordTooManyIsSeen)
+{
+    container->viewContext().insertNewObject(model::Connection);
+    EXPECT_TRUE(isSeen());
+}
+
+TEST_F(BatchesTest, ALostMarkerIsSeen)
+{
+    for (const auto &rule : all(model::Rule)) {
+        container->viewContext().deleteObject(rule);
+    }
+    EXPECT_TRUE(isSeen());
+}
+
+/// One of the file's states after a batch is put in the place of a later one.
+TEST_F(BatchesTest, ATrialSeesThatASaveWasLost)
+{
+    const QString place = folder.filePath(QStringLiteral("trial.sqlite"));
+    test::KillTrial trial(place, 7);
+    for (int round = 0; round < 6; ++round) {
+        trial.killOneWriter();
+    }
+    trial.check();
+    EXPECT_EQ(trial.faults(), QStringList());
+    EXPECT_EQ(trial.counts().kills, 6);
+    EXPECT_GT(trial.counts().savesReported, 0);
+
+    container.reset();
+    ASSERT_TRUE(QFile::remove(place));
+    trial.check();
+    EXPECT_EQ(trial.faults().size(), 1) << trial.faults().join(u'\n').toStdString();
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ExpectBatch.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Another process that holds the file locked against writers, from the end of the constructor
+/// until it is released, or for `period`.
+class LockHolder
+{
+public:
+    explicit LockHolder(const QString &path, std::chrono::milliseconds period = 1h)
+    {
+        int ready[2] = {};
+        EXPECT_EQ(::pipe(ready), 0);
+        m_process = ::fork();
+        if (m_process == 0) {
+            hold(path, ready[1], period);
+        }
+        ::close(ready[1]);
+        char answer = 0;
+        EXPECT_EQ(::read(ready[0], &answer, 1), 1);
+        ::close(ready[0]);
+    }
+    ~LockHolder() { release(); }
+    LockHolder(const LockHolder &) = delete;
+    LockHolder &operator=(const LockHolder &) = delete;
+
+    void release()
+    {
+        if (m_process > 0) {
+            ::kill(m_process, SIGKILL);
+            ::waitpid(m_process, nullptr, 0);
+            m_process = 0;
+        }
+    }
+
+private:
+    [[noreturn]] static void hold(const QString &path, int ready, std::chrono::milliseconds period)
+    {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+        database.exec("BEGIN EXCLUSIVE");
+        if (::write(ready, "!", 1) == 1) {
+            std::this_thread::sleep_for(period);
+        }
+        database.exec("ROLLBACK");
+        std::_Exit(0);
+    }
+
+    pid_t m_process = 0;
+};
+
+class LockedFile : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        {
+            auto first = test::openedContainer(path, scheduler);
+            ASSERT_TRUE(first);
+            test::Batches batches(first.value()->viewContext());
+            batches.change(1);
+            ASSERT_FALSE(first.value()->viewContext().save().has_value());
+        }
+        // A fork has to come before we open the file: a connection does not outlive one.
+    }
+    void open()
+    {
+        auto opened = test::openedContainer(path, scheduler);
+        ASSERT_TRUE(opened) << opened.error().message.toStdString();
+        container = std::move(opened.value());
+    }
+    ManagedObjectContext &context() { return container->viewContext(); }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    test::FakeScheduler scheduler;
+    std::unique_ptr<PersistentContainer> container;
+};
+
+TEST_F(LockedFile, ASaveGivesUpInBoundedTimeAndSucceedsLater)
+{
+    LockHolder holder(path);
+    open();
+    test::Batches batches(context());
+    batches.change(2);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    const auto error = context().save();
+    EXPECT_LT(elapsed.elapsed(), 4000);
+    ASSERT_TRUE(error.has_value());
+    EXPECT_FALSE(error->message.isEmpty());
+    EXPECT_TRUE(context().hasChanges());
+    EXPECT_EQ(batches.found(), test::Batches::expected(2));
+
+    holder.release();
+    EXPECT_FALSE(context().save().has_value());
+    test::expectBatch(path, 2);
+}
+
+TEST_F(LockedFile, ReadingGoesOnMeanwhile)
+{
+    const LockHolder holder(path);
+    open();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    test::Batches batches(context());
+    EXPECT_EQ(batches.last(), 1);
+    EXPECT_EQ(batches.found(), test::Batches::expected(1));
+    EXPECT_LT(elapsed.elapsed(), 1000) << "reading does not wait";
+}
+
+TEST_F(LockedFile, ASaveWaitsForAShortLock)
+{
+    const LockHolder holder(path, 300ms);
+    open();
+    test::Batches batches(context());
+    batches.change(2);
+    const auto error = context().save();
+    EXPECT_FALSE(error.has_value()) << error->message.toStdString();
+    test::expectBatch(path, 2);
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,343 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/RecordFile.h"
+
+#include "fakes/QtPrinting.h"
+#include "store/QuillonModel.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <SQLiteCpp/Database.h>
+#include <sys/stat.h>
+
+namespace quillon::test {
+
+class OpeningRecords : public ::testing::Test
+{
+protected:
+    using Opened = Result<std::unique_ptr<RecordFile>>;
+
+    Opened open(const RecordSchema &schema = quillonSchema()) const
+    {
+        return RecordFile::open(quillonModel(), path, schema);
+    }
+    void sql(const std::string &script) const
+    {
+        SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+            .exec(script);
+    }
+    std::string answer(const std::string &query) const
+    {
+        return SQLite::Database(path.toStdString()).execAndGet(query).getString();
+    }
+    QByteArray bytes() const { return bytes(path); }
+    static QByteArray bytes(const QString &of)
+    {
+        QFile file(of);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    void write(const QByteArray &content) const { write(path, content); }
+    static void write(const QString &to, const QByteArray &content)
+    {
+        QFile file(to);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
+    }
+    void makeWithOneRule() const
+    {
+        auto file = open();
+        ASSERT_TRUE(file);
+        const Entity &rule = quillonModel().entities.first();
+        QVariantList values(rule.attributes().size());
+        values[rule.indexOf(model::rule::name)] = QStringLiteral("Home");
+        const RecordRow row{0, QUuid::createUuid(), values};
+        ASSERT_TRUE(file.value()->write({{RowChange::Kind::Insert, rule, row, {}}}));
+    }
+    static RecordSchema withStep(const std::string &script)
+    {
+        RecordSchema schema = quillonSchema();
+        schema.steps << script;
+        return schema;
+    }
+    void expectRefused(const Opened &opened, RecordFileError code, const QString &message) const
+    {
+        ASSERT_FALSE(opened);
+        EXPECT_EQ(opened.error().domain, recordFileErrorDomain);
+        EXPECT_EQ(opened.error().code, static_cast<int>(code));
+        EXPECT_TRUE(opened.error().message.contains(message))
+            << opened.error().message.toStdString();
+        EXPECT_EQ(isFileOfANewerVersion(opened.error()), code == RecordFileError::Newer);
+    }
+
+    /// From now on the file is as a program leaves it that was killed while it filled "Notes": the
+    /// journal has what the file had before.
+    void leaveHalfDone()
+    {
+        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
+        SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+        other.exec("PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN;"
+                   "WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n LIMIT 200)"
+                   "INSERT INTO Notes SELECT hex(randomblob(500)) FROM n");
+        write(copy, bytes(path));
+        write(copy + QStringLiteral("-journal"), bytes(path + QStringLiteral("-journal")));
+        path = copy;
+    }
+    void expectHalfDoneRefused(RecordFileError code, const QString &message)
+    {
+        leaveHalfDone();
+        const QByteArray before = bytes();
+        const QByteArray journal = bytes(path + QStringLiteral("-journal"));
+        ASSERT_GT(journal.size(), 512);
+        expectRefused(open(), code, message);
+        EXPECT_TRUE(bytes() == before);
+        EXPECT_TRUE(bytes(path + QStringLiteral("-journal")) == journal);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+};
+
+TEST_F(OpeningRecords, MakesAMissingFileForItsOwnerAlone)
+{
+    ASSERT_TRUE(open());
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther |
+                                             QFile::WriteOther | QFile::ExeOwner),
+        QFile::Permissions());
+    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    EXPECT_EQ(answer("PRAGMA journal_mode"), "wal");
+    EXPECT_EQ(answer("SELECT count(*) FROM Rule"), "0");
+    EXPECT_EQ(answer("SELECT count(*) FROM Connection"), "0");
+}
+
+TEST_F(OpeningRecords, TheLogBesideTheFileIsForItsOwnerToo)
+{
+    const auto file = open();
+    const auto permissions = QFile::permissions(path + QStringLiteral("-wal"));
+    EXPECT_TRUE(permissions & QFile::ReadOwner);
+    EXPECT_FALSE(permissions & (QFile::ReadGroup | QFile::ReadOther));
+}
+
+TEST_F(OpeningRecords, AnEmptyFileIsANewOne)
+{
+    write({});
+    ASSERT_TRUE(open());
+    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+}
+
+TEST_F(OpeningRecords, AnOlderFileIsBroughtUpToDate)
+{
+    makeWithOneRule();
+    RecordSchema later = withStep("ALTER TABLE Rule ADD COLUMN colour TEXT;"
+                                  "UPDATE Rule SET colour = 'green' WHERE name = 'Home';");
+    later.steps << "CREATE INDEX byDate ON Connection (date)";
+    ASSERT_TRUE(open(later));
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
+    EXPECT_EQ(answer("SELECT colour FROM Rule"), "green");
+    EXPECT_EQ(answer("SELECT count(*) FROM sqlite_master WHERE name = 'byDate'"), "1");
+    ASSERT_TRUE(open(later)) << "a step runs once";
+}
+
+TEST_F(OpeningRecords, AStepThatFailsLeavesTheFileAsItWas)
+{
+    makeWithOneRule();
+    const QByteArray before = bytes();
+    RecordSchema later = withStep("ALTER TABLE Rule ADD COLUMN colour TEXT");
+    later.steps << "UPDATE NoSuchTable SET x = 1";
+    expectRefused(open(later), RecordFileError::Failed, QStringLiteral("NoSuchTable"));
+    EXPECT_EQ(bytes(), before);
+    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    EXPECT_TRUE(open());
+}
+
+TEST_F(OpeningRecords, AStepThatLosesAnAttributeIsTakenBack)
+{
+    makeWithOneRule();
+    expectRefused(open(withStep("ALTER TABLE Rule DROP COLUMN vendor")), RecordFileError::Damaged,
+        QStringLiteral("\"Rule\" lacks \"vendor\""));
+    EXPECT_TRUE(open());
+}
+
+TEST_F(OpeningRecords, AFileOfANewerVersionIsRefusedAndUntouched)
+{
+    ASSERT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
+    const QByteArray before = bytes();
+    expectRefused(open(), RecordFileError::Newer,
+        QStringLiteral("were written by a newer version of Quillon (version 2 of the file; this "
+                       "program knows versions up to 1)"));
+    EXPECT_EQ(bytes(), before);
+    EXPECT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
+}
+
+TEST_F(OpeningRecords, WhatANewerProgramLeftInItsLogStaysThere)
+{
+    {
+        // As a program leaves it that was killed: the log has what the file does not have yet.
+        auto newer = open(withStep("CREATE TABLE Extra (x)"));
+        ASSERT_TRUE(newer);
+        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
+        SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
+            .exec("INSERT INTO Extra VALUES (1)");
+        QFile::copy(path, copy);
+        QFile::copy(path + QStringLiteral("-wal"), copy + QStringLiteral("-wal"));
+        path = copy;
+    }
+    const QByteArray before = bytes();
+    expectRefused(open(), RecordFileError::Newer, QStringLiteral("newer version"));
+    EXPECT_EQ(bytes(), before);
+    EXPECT_EQ(answer("SELECT count(*) FROM Extra"), "1");
+}
+
+TEST_F(OpeningRecords, WhatIsNoDatabaseIsRefusedAndUntouched)
+{
+    const QByteArray text("Dear diary, this is not a database at all.");
+    write(text);
+    expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+    EXPECT_EQ(bytes(), text);
+    write(QByteArray("SQLite format 3\0", 16) + QByteArray(5000, 'x'));
+    EXPECT_FALSE(open());
+}
+
+TEST_F(OpeningRecords, AFileTooShortForADatabaseIsRefusedAndUntouched)
+{
+    const QByteArray header("SQLite format 3\0", 16);
+    for (const QByteArray &text : {QByteArray("x"), QByteArray("scribble"), header.left(1), header,
+             header + QByteArray(83, '\0')}) {
+        write(text);
+        expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+        EXPECT_EQ(bytes(), text);
+    }
+}
+
+TEST_F(OpeningRecords, WhatIsNoDatabaseIsNotReadFromALogBesideIt)
+{
+    {
+        const auto other = open();
+        ASSERT_TRUE(other);
+        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
+        const QByteArray log = bytes(path + QStringLiteral("-wal"));
+        write(copy, QByteArray(5000, 'x'));
+        write(copy + QStringLiteral("-wal"), log);
+        path = copy;
+    }
+    const QByteArray log = bytes(path + QStringLiteral("-wal"));
+    expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+    EXPECT_EQ(bytes(), QByteArray(5000, 'x'));
+    EXPECT_EQ(bytes(path + QStringLiteral("-wal")), log);
+}
+
+TEST_F(OpeningRecords, WhatAnotherProgramDidNotFinishIsLeftToIt)
+{
+    sql("CREATE TABLE Notes (text); INSERT INTO Notes VALUES ('before')");
+    expectHalfDoneRefused(
+        RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+}
+
+TEST_F(OpeningRecords, WhatANewerProgramDidNotFinishIsLeftToIt)
+{
+    ASSERT_TRUE(open(withStep("CREATE TABLE Notes (text)")));
+    sql("PRAGMA journal_mode = DELETE");
+    expectHalfDoneRefused(RecordFileError::Newer, QStringLiteral("newer version"));
+}
+
+TEST_F(OpeningRecords, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
+{
+    sql("CREATE TABLE Rule (x); INSERT INTO Rule VALUES (1)");
+    const QByteArray before = bytes();
+    expectRefused(
+        open(), RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+    EXPECT_EQ(bytes(), before);
+    sql("PRAGMA user_version = 1");
+    expectRefused(
+        open(), RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+}
+
+TEST_F(OpeningRecords, AMissingColumnOrTableIsDamage)
+{
+    makeWithOneRule();
+    sql("ALTER TABLE Rule DROP COLUMN ssid");
+    const QByteArray before = bytes();
+    expectRefused(open(), RecordFileError::Damaged, QStringLiteral("\"Rule\" lacks \"ssid\""));
+    EXPECT_EQ(bytes(), before);
+    sql("DROP TABLE Rule");
+    expectRefused(open(), RecordFileError::Damaged, QStringLiteral("\"Rule\" lacks \"pk\""));
+}
+
+TEST_F(OpeningRecords, ADamagedPageIsNoticedAndUntouched)
+{
+    makeWithOneRule();
+    const QByteArray whole = bytes();
+    ASSERT_GT(whole.size(), 4096 * 2);
+    QByteArray damaged = whole;
+    for (qsizetype at = 4096; at < damaged.size(); ++at) {
+        damaged[at] = static_cast<char>(at * 31);
+    }
+    write(damaged);
+    expectRefused(open(), RecordFileError::Damaged, QString());
+    EXPECT_EQ(bytes(), damaged);
+}
+
+TEST_F(OpeningRecords, ATruncatedFileIsNoticedAndUntouched)
+{
+    makeWithOneRule();
+    const QByteArray part = bytes().left(4096 * 2);
+    write(part);
+    expectRefused(open(), RecordFileError::Damaged, QString());
+    EXPECT_EQ(bytes(), part);
+}
+
+TEST_F(OpeningRecords, NoByteThatIsWrongEndsTheProgram)
+{
+    makeWithOneRule();
+    const QByteArray whole = bytes();
+    for (qsizetype at = 0; at < 4096; at += 29) {
+        QByteArray damaged = whole;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+        write(damaged);
+        const auto opened = open();
+        EXPECT_TRUE(opened || !opened.error().message.isEmpty());
+    }
+}
+
+TEST_F(OpeningRecords, AFileThatSomebodyKeepsIsReportedAsLocked)
+{
+    makeWithOneRule();
+    SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE");
+    expectRefused(open(), RecordFileError::Locked, QStringLiteral("locked"));
+}
+
+TEST_F(OpeningRecords, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
+{
+    makeWithOneRule();
+    SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("BEGIN IMMEDIATE");
+    EXPECT_TRUE(open()) << "reading goes on meanwhile";
+    expectRefused(open(withStep("CREATE TABLE Extra (x)")), RecordFileError::Locked,
+        QStringLiteral("locked"));
+}
+
+TEST_F(OpeningRecords, AFolderOrAMissingFolderCannotBeOpened)
+{
+    QDir(folder.path()).mkdir(QStringLiteral("Quillon.sqlite"));
+    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
+    path = folder.filePath(QStringLiteral("missing/Quillon.sqlite"));
+    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
+}
+
+TEST_F(OpeningRecords, APipeIsNotWaitedFor)
+{
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
+}
+
+TEST_F(OpeningRecords, ANameWithAnyCharacterIsAFile)
+{
+    path = folder.filePath(QStringLiteral("Ä ?mode=memory%41'\".sqlite"));
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(QFile::exists(path));
+}
+
+} // namespace quillon::test

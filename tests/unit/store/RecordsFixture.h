@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fakes/FakeScheduler.h"
+#include "fakes/QtPrinting.h"
+#include "store/FetchedRecords.h"
+#include "store/PersistentContainer.h"
+#include "store/QuillonModel.h"
+#include "store/RecordFile.h"
+
+#include <QTemporaryDir>
+#include <QUndoStack>
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+/// A record file in a folder of its own, opened as one program opens it; another() is a second
+/// program on the same file.
+class RecordsTest : public ::testing::Test
+{
+protected:
+    struct Program
+    {
+        explicit Program(const QString &path)
+        {
+            auto loaded = PersistentContainer::load(quillonModel(), path, scheduler);
+            if (!loaded) {
+                ADD_FAILURE() << loaded.error().message.toStdString();
+                return;
+            }
+            container = std::move(loaded.value());
+        }
+        ManagedObjectContext &context() const { return container->viewContext(); }
+
+        FakeScheduler scheduler;
+        std::unique_ptr<PersistentContainer> container;
+    };
+
+    Program &program()
+    {
+        if (!m_program) {
+            m_program = std::make_unique<Program>(path);
+        }
+        return *m_program;
+    }
+    ManagedObjectContext &context() { return program().context(); }
+    std::unique_ptr<Program> another() const { return std::make_unique<Program>(path); }
+    void endTurn() { program().scheduler.runPending(); }
+    void save()
+    {
+        const auto error = context().save();
+        EXPECT_FALSE(error) << error->message.toStdString();
+    }
+    /// Unsaved changes are lost.
+    void quit() { m_program.reset(); }
+
+    ManagedObjectPtr rule(const QString &name)
+    {
+        auto object = context().insertNewObject(model::Rule);
+        object->setValue(model::rule::name, name);
+        return object;
+    }
+    static QString nameOf(const ManagedObjectPtr &object)
+    {
+        return object ? object->value(model::rule::name).toString() : QStringLiteral("(none)");
+    }
+    static QStringList names(const ManagedObjectList &objects)
+    {
+        QStringList all;
+        for (const auto &object : objects) {
+            all << nameOf(object);
+        }
+        return all;
+    }
+    static QStringList names(ManagedObjectContext &of, const FetchRequest &request)
+    {
+        const auto objects = of.fetch(request);
+        return objects ? names(objects.value()) : QStringList(objects.error().message);
+    }
+    QStringList names(const FetchRequest &request = {model::Rule, {}, {}})
+    {
+        return names(context(), request);
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+
+private:
+    std::unique_ptr<Program> m_program;
+};
+
+inline QString operator""_s(const char *text, std::size_t length)
+{
+    return QString::fromUtf8(text, static_cast<qsizetype>(length));
+}
+
+} // namespace quillon::test
