@@ -1,8 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """tools/sandbox keeps what it promises."""
+import glob
+import json
 import os
 import re
+import shutil
 import signal
 import subprocess
 import tempfile
@@ -190,6 +193,103 @@ class SandboxTest(unittest.TestCase):
                     for me, other in (("1", "2"), ("2", "1"))]
             self.assertEqual([process.communicate(timeout=DEADLINE)[0] for process in both],
                              ["02:00:00:00:00:01\ndisplay\n", "02:00:00:00:00:02\ndisplay\n"])
+
+
+class SandboxWebTest(unittest.TestCase):
+    """The hosts that the build asks are inside, trusted, and answer when told to."""
+
+    WEB = os.path.join(ROOT, "tools/sandbox.d/sandbox-web")
+    START = f"{WEB} --ready /tmp/ready --log /tmp/log --rules /tmp/rules --root /tmp & " \
+            "while [ ! -e /tmp/ready ]; do sleep 0.01; done; "
+    # As any program does that knows nothing of a sandbox.
+    ASK = ("import sys, urllib.error, urllib.request as web\n"
+           "for address in sys.argv[1:]:\n"
+           "    try:\n"
+           "        answer = web.urlopen(address, timeout=10)\n"
+           "    except urllib.error.HTTPError as error:\n"
+           "        answer = error\n"
+           "    except OSError as error:\n"
+           "        print('refused', error)\n"
+           "        continue\n"
+           "    print(answer.status, answer.read().decode())\n")
+
+    def setUp(self):
+        with open(os.path.join(BUILD, "services.txt")) as file:
+            services = dict(line.strip().split("=", 1) for line in file)
+        self.address = f"https://{services['QUILLON_EXTERNAL_ADDRESS_HOST']}/?format=json"
+        self.registry = services["QUILLON_REGISTRY_URL"]
+
+    def asked(self, rules, *addresses, before="", who=("--no-display", "--no-helper")):
+        with tempfile.TemporaryDirectory() as shared:
+            for name, text in (("rules", json.dumps(rules)), ("ask", self.ASK)):
+                with open(os.path.join(shared, name), "w") as file:
+                    file.write(text)
+            os.chmod(shared, 0o755)
+            script = (f"cp {shared}/rules /tmp/rules; {before or self.START}"
+                      f"python3 {shared}/ask {' '.join(map(repr, addresses))}")
+            result = run(*who, "--bind", shared, "sh", "-c", script)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return result.stdout.splitlines()
+
+    def test_stands_in_for_the_hosts_that_the_build_asks(self):
+        rules = {self.address.removeprefix("https://"): {"body": '{"ip":"203.0.113.7"}'},
+                 self.registry.removeprefix("https://"): {"body": "Registry,Assignment"}}
+        self.assertEqual(self.asked(rules, self.address, self.registry),
+                         ['200 {"ip":"203.0.113.7"}', "200 Registry,Assignment"])
+
+    def test_stands_in_for_them_when_root_starts_it_too(self):
+        rules = {"/": {"body": "here"}}
+        self.assertEqual(self.asked(rules, self.address, who=("--root", "--no-display", "--no-helper")), ["200 here"])
+
+    def test_has_nobody_at_them_until_then(self):
+        self.assertIn("Connection refused", self.asked({}, self.address, before=":; ")[0])
+
+    def test_trusts_its_own_authority_and_no_other(self):
+        lines = self.asked({"/": {"body": "here"}}, *(f"https://{name}.test/" for name in (
+            "trusted", "wrong-name", "expired", "untrusted")))
+        self.assertEqual(lines[0], "200 here")
+        for line, why in zip(lines[1:], ("doesn't match|mismatch", "expired", "unable to get local issuer"), strict=True):
+            self.assertRegex(line, f"refused .*({why})")
+
+    def test_its_authority_is_nothing_outside(self):
+        self.asked({}, self.address)
+        authority = glob.glob(os.path.join(BUILD, "sandbox-authority-*/authority.pem"))
+        self.assertEqual(len(authority), 1)
+        with open(authority[0]) as file, open("/etc/ssl/certs/ca-certificates.crt") as trusted:
+            self.assertNotIn(file.read(), trusted.read())
+        self.assertFalse(os.path.lexists("/etc/ssl/certs/quillon-sandbox.pem"))
+        with open("/etc/hosts") as file:
+            self.assertNotIn("trusted.test", file.read())
+
+    def test_makes_its_authority_once_though_many_start_at_the_same_time(self):
+        with tempfile.TemporaryDirectory() as build:
+            shutil.copy(os.path.join(BUILD, "services.txt"), build)
+            os.chmod(build, 0o755)
+            command = [SANDBOX, "--no-display", "--no-helper", "--build", build, "cat",
+                       "/run/quillon-sandbox/authority/authority.pem"]
+            several = [subprocess.Popen(command, text=True, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE)
+                       for _ in range(4)]
+            seen = {process.communicate(timeout=DEADLINE)[0] for process in several}
+            self.assertEqual(len(seen), 1)
+            self.assertIn("BEGIN CERTIFICATE", seen.pop())
+            self.assertEqual(len([name for name in os.listdir(build) if "authority" in name]), 1)
+
+    def test_leads_no_other_name_anywhere_and_says_so_at_once(self):
+        start = time.monotonic()
+        result = run("--no-display", "--no-helper", "getent", "ahosts", "somewhere.example")
+        self.assertEqual(result.returncode, 2)
+        self.assertLess(time.monotonic() - start, 5)
+
+    def test_answers_as_the_rules_say(self):
+        page = "http://trusted.test"
+        rules = {"/gone": {"status": 404, "body": "gone"}, "/away": {"redirect": f"{page}/?a=1"},
+                 "/": {"body": "any"}, "/?a=1": {"body": "this", "framing": "chunked", "piece": 1, "pause": 0.01},
+                 "trusted.test/host": {"body": "host", "framing": "close"}, "/size": {"size": 5, "piece": 2}}
+        self.assertEqual(
+            self.asked(rules, *(page + path for path in (
+                "/gone", "/away", "/?b=1", "/host", "/size", "/nowhere", "/rules", "/../etc/passwd"))),
+            ["404 gone", "200 this", "200 any", "200 host", "200 #####", "404 There is no such page.", "",
+             "200 " + json.dumps(rules), "404 There is no such page.", ""])
 
 
 class SandboxCleanUpTest(unittest.TestCase):

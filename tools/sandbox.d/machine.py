@@ -11,6 +11,7 @@ import filesystem
 import namespaces
 import network
 import services
+import web
 from common import QUILLON, SandboxError, log_folder, user_switch
 
 __all__ = ["SandboxError", "run"]
@@ -22,6 +23,7 @@ def run(options, passed_on):
     namespaces.private_mount_namespace()
     namespaces.unshare(namespaces.CLONE_NEWNET)
     filesystem.make(options, folder)
+    web.install(options.build)
     try:
         started = services.Services(options, passed_on)
         network.make()

@@ -42,6 +42,15 @@ def quiet_ipv6():
                 pass  # /proc/sys is read-only in some containers: then the messages come
 
 
+def open_low_ports():
+    """An ordinary user may stand in for a web server, on the ports of web servers."""
+    try:
+        with open("/proc/sys/net/ipv4/ip_unprivileged_port_start", "w") as file:
+            file.write("0")
+    except OSError:
+        pass  # /proc/sys is read-only in some containers: then only root may
+
+
 def hold_far_namespace():
     """A process that does nothing but keep the namespace of the far ends."""
     ready_read, ready_write = os.pipe()
@@ -77,6 +86,7 @@ def batch(commands, prefix=()):
 def make():
     far = hold_far_namespace()
     quiet_ipv6()
+    open_low_ports()
     ipv6 = os.path.isdir("/proc/sys/net/ipv6")
     batch(HERE.format(far=far) + (HERE_6 if ipv6 else ""))
     batch(THERE + (THERE_6 if ipv6 else ""), ("nsenter", "-t", str(far), "-n"))
