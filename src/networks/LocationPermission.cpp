@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "networks/LocationPermission.h"
+
+#include "base/Localized.h"
+#include "base/Log.h"
+#include "networks/WiFiNetwork.h"
+#include "platform/Scheduler.h"
+#include "platform/SystemSettings.h"
+
+#include <QPointer>
+
+namespace quillon {
+
+namespace {
+
+// Alerts and questions wait until the window has come up, so that they appear above it.
+constexpr std::chrono::milliseconds questionDelay{1000};
+constexpr int openButton = 0;
+
+} // namespace
+
+LocationPermission::LocationPermission(const Collaborators &collaborators)
+    : m_with(collaborators)
+{
+}
+
+void LocationPermission::requestNetworkPermissions()
+{
+    m_with.scheduler.onMain([self = QPointer(this)] {
+        if (auto *const that = self.data()) {
+            that->followAuthorization();
+        }
+    });
+}
+
+void LocationPermission::followAuthorization()
+{
+    m_with.authorization.setDelegate({
+        .didChangeAuthorization =
+            [self = QPointer(this)](LocationAuthorization::Status status) {
+                if (auto *const that = self.data()) {
+                    that->locationManagerDidChangeAuthorization(status);
+                }
+            },
+        .didFailWithError =
+            [self = QPointer(this)](int code) {
+                if (auto *const that = self.data()) {
+                    that->locationManagerDidFailWithError(code);
+                }
+            },
+    });
+    if (!m_with.authorization.servicesEnabled()) {
+        Q_EMIT servicesFoundDisabled();
+    }
+    m_with.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
+        if (auto *const that = self.data()) {
+            that->m_with.authorization.requestWhenInUseAuthorization();
+        }
+    });
+}
+
+void LocationPermission::locationManagerDidChangeAuthorization(LocationAuthorization::Status status)
+{
+    if (status == LocationAuthorization::Status::Denied) {
+        showLocationError();
+    }
+    m_with.wifi.updateWiFiNetwork();
+}
+
+void LocationPermission::locationManagerDidFailWithError(int code)
+{
+    if (code == LocationAuthorization::denied) {
+        showLocationError();
+    }
+}
+
+void LocationPermission::showLocationError()
+{
+    if (m_locationAlert) {
+        return;
+    }
+    m_locationAlert = Alert{
+        .message = localized(
+            "Quillon requires Location Services to determine your current network details"),
+        .informativeText = localized("You need to give Quillon access in System Settings > Privacy "
+                                     "& Security > Privacy > Location Services"),
+        .buttons = {localized("Open"), localized("Cancel")},
+    };
+    m_with.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
+        if (auto *const that = self.data()) {
+            that->runLocationAlert();
+        }
+    });
+}
+
+void LocationPermission::runLocationAlert()
+{
+    // Events go on while the alert is open: the program may end under it.
+    const QPointer self(this);
+    const Alert alert = *m_locationAlert;
+    const int answer = m_with.alerts.runModal(alert);
+    if (!self) {
+        return;
+    }
+    if (answer == openButton) {
+        openSystemSettings();
+    }
+    m_locationAlert.reset();
+}
+
+void LocationPermission::openSystemSettings()
+{
+    if (!m_with.systemSettings.openLocationServices()) {
+        qCWarning(logNetworks, "No settings program found for location services");
+    }
+}
+
+} // namespace quillon

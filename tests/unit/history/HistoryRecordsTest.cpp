@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "history/HistoryRecords.h"
+
+#include "HistoryMachine.h"
+#include "fakes/LogCapture.h"
+
+#include <QUndoStack>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace quillon::test {
+namespace {
+
+class History : public HistoryMachine
+{
+protected:
+    Connection onlyRecord()
+    {
+        const QList<Connection> all = recordsOf(context());
+        EXPECT_EQ(all.size(), 1);
+        return all.isEmpty() ? Connection(context().insertNewObject(QStringLiteral("Connection")))
+                             : all.first();
+    }
+    void change(const char *statement)
+    {
+        SQLite::Database database(file().toStdString(), SQLite::OPEN_READWRITE);
+        database.exec(statement);
+    }
+};
+
+TEST_F(History, TellsWhatHappenedOnAWiredPort)
+{
+    const QDateTime now = scheduler.now();
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.date(), now);
+    EXPECT_EQ(made.device(), wired);
+    EXPECT_EQ(made.interface(), QStringLiteral("Ethernet"));
+    EXPECT_EQ(made.address(), address) << "the letters as they were asked for";
+    EXPECT_FALSE(made.record()->value(QStringLiteral("notes")).isValid());
+}
+
+TEST_F(History, NeverTellsTheWiFiNetworkOfAWiredPort)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.record()->value(QStringLiteral("ssid")), QVariant(QStringLiteral("")));
+    EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
+}
+
+TEST_F(History, TellsTheNetworkOfTheWiFiPort)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.interface(), QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(made.ssid(), QStringLiteral("Home"));
+    EXPECT_EQ(made.bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+}
+
+TEST_F(History, TellsTheAccessPointInLowerCase)
+{
+    join(QStringLiteral("HOME"), QStringLiteral("A4:2B:B0:11:22:33"));
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    EXPECT_EQ(onlyRecord().bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+    EXPECT_EQ(onlyRecord().ssid(), QStringLiteral("HOME"));
+}
+
+TEST_F(History, TellsNoNetworkWhileTheWiFiPortIsOnNone)
+{
+    join(QString(), QString());
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.record()->value(QStringLiteral("ssid")), QVariant(QStringLiteral("")));
+    EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
+}
+
+TEST_F(History, TellsAlsoOfADeviceThatIsNotKnown)
+{
+    history->addHistoryItemForDeviceWithNewAddress(QStringLiteral("en9"), address);
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.device(), QStringLiteral("en9"));
+    for (const char *attribute : {"interface", "ssid", "bssid"}) {
+        EXPECT_EQ(
+            made.record()->value(QString::fromLatin1(attribute)), QVariant(QStringLiteral("")));
+    }
+}
+
+TEST_F(History, TakesOnlyThePortThatIsExactlyWiFiForWiFi)
+{
+    for (const char *port : {"wi-fi", "Wi-Fi 2", "WiFi"}) {
+        storeRecord(wifi, {{record::interface, QString::fromLatin1(port)}});
+        history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    }
+    const QList<Connection> made = recordsOf(context());
+    ASSERT_EQ(made.size(), 3);
+    for (const Connection &connection : made) {
+        EXPECT_EQ(connection.ssid(), QString());
+    }
+}
+
+TEST_F(History, IsInTheFileAtOnce)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    EXPECT_FALSE(context().hasChanges());
+    // Nothing is said to the store that could make it write more.
+    RecordStore other({settings, scheduler, alerts}, folder.path());
+    const QList<Connection> found = recordsOf(other.managedObjectContext());
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found.first().date(), scheduler.now());
+    EXPECT_EQ(found.first().address(), address);
+    EXPECT_EQ(found.first().ssid(), QStringLiteral("Home"));
+}
+
+TEST_F(History, SavesWhatElseIsPending)
+{
+    const ManagedObjectPtr rule = context().insertNewObject(QStringLiteral("Rule"));
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    EXPECT_FALSE(rule->hasChanges());
+}
+
+TEST_F(History, IsNoEditThatCouldBeUndone)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    context().processPendingChanges();
+    EXPECT_FALSE(context().undoManager().canUndo());
+    Connection made = onlyRecord();
+    made.setNotes(QStringLiteral("at the fair"));
+    context().processPendingChanges();
+    ASSERT_TRUE(context().undoManager().canUndo());
+    context().undoManager().undo();
+    EXPECT_EQ(made.notes(), QString());
+    EXPECT_FALSE(context().undoManager().canUndo());
+    EXPECT_EQ(onlyRecord().address(), address);
+}
+
+TEST_F(History, IsToldToThoseWhoShowIt)
+{
+    qsizetype inserted = 0;
+    QObject::connect(records.get(), &RecordStore::objectsDidChange,
+        [&](const ObjectsDidChange &change) { inserted += change.inserted.size(); });
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    scheduler.runPending();
+    EXPECT_EQ(inserted, 1);
+}
+
+TEST_F(History, KeepsARecordThatCannotBeSavedForTheNextTime)
+{
+    context();
+    change("ALTER TABLE Connection RENAME TO Away");
+    {
+        const LogCapture log;
+        history->addHistoryItemForDeviceWithNewAddress(wired, address);
+        EXPECT_TRUE(
+            LogCapture::taken().contains(QStringLiteral("quillon.history: Rule not added...")));
+    }
+    EXPECT_TRUE(alerts.errors.isEmpty());
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+    EXPECT_TRUE(context().hasChanges());
+    change("ALTER TABLE Away RENAME TO Connection");
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    EXPECT_FALSE(context().hasChanges());
+    EXPECT_EQ(recordsOf(context()).size(), 2);
+}
+
+TEST_F(History, TakesTheFactsAtOnceOnAnotherThread)
+{
+    const QDateTime moment = scheduler.now();
+    scheduler.asBackground([&] { history->addHistoryItemForDeviceWithNewAddress(wifi, address); });
+    EXPECT_FALSE(records->hasManagedObjectContext()) << "records belong to the main thread";
+    join(QStringLiteral("Elsewhere"), QStringLiteral("ff:ff:ff:ff:ff:ff"));
+    storeRecord(wifi, {{record::interface, QStringLiteral("Ethernet")}});
+    scheduler.advance(std::chrono::seconds(0));
+    const Connection made = onlyRecord();
+    EXPECT_EQ(made.date(), moment);
+    EXPECT_EQ(made.interface(), QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(made.ssid(), QStringLiteral("Home"));
+    EXPECT_EQ(made.bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+    EXPECT_FALSE(context().hasChanges());
+}
+
+TEST_F(History, RecordsInTheCallersTurnOnTheMainThread)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    EXPECT_EQ(recordsOf(context()).size(), 1);
+}
+
+TEST_F(History, MayBeGoneWhenAnotherThreadsRecordIsDue)
+{
+    scheduler.asBackground([&] { history->addHistoryItemForDeviceWithNewAddress(wifi, address); });
+    history.reset();
+    scheduler.runPending();
+    EXPECT_TRUE(recordsOf(context()).isEmpty());
+}
+
+TEST_F(History, PassesOverSettingsThatAreNone)
+{
+    for (const QVariant &hostile : {QVariant(QStringLiteral("text")), QVariant(QVariantList{1}),
+             QVariant(QVariantMap{{wifirecord::SSID, 5}, {wifirecord::BSSID, QVariantMap{}}})}) {
+        settings.set(keys::currentWiFiDict, hostile);
+        history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    }
+    for (const QVariant &hostile : {QVariant(5), QVariant(QVariantMap{{wifi, 5}}),
+             QVariant(QVariantMap{{wifi, QVariantMap{{record::interface, 7}}}})}) {
+        settings.set(keys::deviceDict, hostile);
+        history->addHistoryItemForDeviceWithNewAddress(wifi, address);
+    }
+    const QList<Connection> made = recordsOf(context());
+    ASSERT_EQ(made.size(), 6);
+    for (const Connection &connection : made) {
+        EXPECT_EQ(connection.ssid(), QString());
+        EXPECT_EQ(connection.bssid(), QString());
+        EXPECT_EQ(connection.address(), address);
+    }
+    EXPECT_EQ(made.first().interface(), QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(made.last().interface(), QString());
+}
+
+TEST_F(History, AsAnArrayIsAnEntityThatDoesNotExist)
+{
+    history->addHistoryItemForDeviceWithNewAddress(wired, address);
+    const LogCapture log;
+    EXPECT_TRUE(history->managedHistoryArray().isEmpty());
+    const QStringList lines = LogCapture::taken();
+    ASSERT_GE(lines.size(), 2);
+    EXPECT_EQ(lines.at(lines.size() - 2),
+        QStringLiteral("quillon.history: Unable to execute fetch request."));
+    EXPECT_TRUE(lines.last().startsWith(QStringLiteral("quillon.history: ")));
+    EXPECT_TRUE(lines.last().contains(QStringLiteral(", ")));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "networks/LocationPermission.h"
+
+#include "NetworkMachine.h"
+#include "fakes/FakeAlertPresenter.h"
+#include "fakes/FakeLocationAuthorization.h"
+#include "fakes/FakeSystemSettings.h"
+#include "fakes/LogCapture.h"
+
+#include <memory>
+
+namespace quillon::test {
+namespace {
+
+using Status = LocationAuthorization::Status;
+using namespace std::chrono_literals;
+
+class Permission : public NetworkMachine
+{
+protected:
+    Permission()
+        : permission(std::make_unique<LocationPermission>(LocationPermission::Collaborators{
+              scheduler, authorization, alerts, systemSettings, network}))
+    {
+        QObject::connect(permission.get(), &LocationPermission::servicesFoundDisabled,
+            [this] { ++foundDisabled; });
+        alerts.answer = cancel;
+    }
+
+    void ask()
+    {
+        permission->requestNetworkPermissions();
+        scheduler.runPending();
+    }
+
+    static constexpr int open = 0;
+    static constexpr int cancel = 1;
+    FakeLocationAuthorization authorization;
+    FakeAlertPresenter alerts;
+    FakeSystemSettings systemSettings;
+    std::unique_ptr<LocationPermission> permission;
+    int foundDisabled = 0;
+};
+
+TEST_F(Permission, IsAskedForOneSecondAfterTheStart)
+{
+    permission->requestNetworkPermissions();
+    EXPECT_FALSE(authorization.delegate.didChangeAuthorization) << "not in the caller's turn";
+    scheduler.runPending();
+    EXPECT_TRUE(authorization.delegate.didChangeAuthorization);
+    scheduler.advance(999ms);
+    EXPECT_EQ(authorization.requests, 0);
+    scheduler.advance(1ms);
+    EXPECT_EQ(authorization.requests, 1);
+    EXPECT_EQ(foundDisabled, 0);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+}
+
+TEST_F(Permission, IsAskedForFromTheWindowWhenServicesAreOff)
+{
+    authorization.enabled = false;
+    ask();
+    EXPECT_EQ(foundDisabled, 1);
+    scheduler.advance(1s);
+    EXPECT_EQ(authorization.requests, 1);
+}
+
+TEST_F(Permission, RefreshesTheNetworkAtEveryAnswer)
+{
+    ask();
+    int reads = radio.reads;
+    for (const Status status :
+        {Status::NotDetermined, Status::Restricted, Status::Denied, Status::Authorized}) {
+        authorization.answer(status);
+        EXPECT_EQ(radio.reads, ++reads);
+    }
+}
+
+TEST_F(Permission, ShowsTheNetworkOnceItIsGiven)
+{
+    const WiFiInterface visible = *radio.interface;
+    radio.leave();
+    ask();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(current(wifirecord::SSID), QString());
+    radio.join(visible);
+    authorization.answer(Status::Authorized);
+    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    scheduler.advance(5s);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+}
+
+TEST_F(Permission, ExplainsARefusalOneSecondLater)
+{
+    ask();
+    authorization.answer(Status::Denied);
+    scheduler.advance(999ms);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+    scheduler.advance(1ms);
+    const Alert expected = {
+        QStringLiteral(
+            "Quillon requires Location Services to determine your current network details"),
+        QStringLiteral("You need to give Quillon access in System Settings > Privacy & Security > "
+                       "Privacy > Location Services"),
+        {QStringLiteral("Open"), QStringLiteral("Cancel")},
+    };
+    EXPECT_EQ(alerts.alerts, QList<Alert>{expected});
+}
+
+TEST_F(Permission, ExplainsOnlyARefusal)
+{
+    ask();
+    for (const Status status : {Status::NotDetermined, Status::Restricted, Status::Authorized}) {
+        authorization.answer(status);
+    }
+    scheduler.advance(5s);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+}
+
+TEST_F(Permission, ExplainsTheFailureThatMeansARefusal)
+{
+    ask();
+    const int reads = radio.reads;
+    authorization.fail(1);
+    scheduler.advance(1s);
+    EXPECT_EQ(alerts.alerts.size(), 1);
+    EXPECT_EQ(radio.reads, reads) << "a failure is no change of the authorisation";
+}
+
+TEST_F(Permission, IgnoresOtherFailures)
+{
+    ask();
+    for (const int code : {-1, 0, 2, 3, 16}) {
+        authorization.fail(code);
+    }
+    scheduler.advance(5s);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+}
+
+TEST_F(Permission, DeniedTwiceInARowShowsOneAlert)
+{
+    ask();
+    authorization.answer(Status::Denied);
+    scheduler.advance(500ms);
+    authorization.answer(Status::Denied);
+    authorization.fail(LocationAuthorization::denied);
+    scheduler.advance(5s);
+    EXPECT_EQ(alerts.alerts.size(), 1);
+}
+
+TEST_F(Permission, DeniedWhileTheAlertIsOpenShowsNoSecondOne)
+{
+    ask();
+    alerts.whileShown = [this] {
+        authorization.answer(Status::Denied);
+        scheduler.advance(5s);
+    };
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    scheduler.advance(10s);
+    EXPECT_EQ(alerts.alerts.size(), 1);
+}
+
+TEST_F(Permission, DeniedAgainAfterTheAlertShowsAnother)
+{
+    ask();
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    EXPECT_EQ(alerts.alerts.size(), 2);
+}
+
+TEST_F(Permission, OpensTheSystemSettingsWhenTheUserWantsThat)
+{
+    ask();
+    alerts.answer = open;
+    int openedWhileShown = -1;
+    alerts.whileShown = [&] { openedWhileShown = systemSettings.locationServicesOpened; };
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    EXPECT_EQ(openedWhileShown, 0);
+    EXPECT_EQ(systemSettings.locationServicesOpened, 1);
+}
+
+TEST_F(Permission, CancelledOpensNothing)
+{
+    ask();
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    EXPECT_EQ(alerts.alerts.size(), 1);
+    EXPECT_EQ(systemSettings.locationServicesOpened, 0);
+}
+
+TEST_F(Permission, MayGoBeforeItAsks)
+{
+    permission->requestNetworkPermissions();
+    permission.reset();
+    scheduler.advance(5s);
+    EXPECT_EQ(authorization.requests, 0);
+}
+
+TEST_F(Permission, MayGoBeforeItsAlertComes)
+{
+    ask();
+    authorization.answer(Status::Denied);
+    const int reads = radio.reads;
+    permission.reset();
+    scheduler.advance(5s);
+    authorization.answer(Status::Denied);
+    authorization.fail(1);
+    scheduler.advance(5s);
+    EXPECT_TRUE(alerts.alerts.isEmpty());
+    EXPECT_EQ(radio.reads, reads);
+    EXPECT_EQ(authorization.requests, 0);
+}
+
+TEST_F(Permission, MayGoWhileItsAlertIsOpen)
+{
+    ask();
+    alerts.answer = open;
+    alerts.whileShown = [this] { permission.reset(); };
+    authorization.answer(Status::Denied);
+    scheduler.advance(1s);
+    EXPECT_EQ(alerts.alerts.size(), 1);
+    EXPECT_EQ(systemSettings.locationServicesOpened, 0);
+}
+
+class NoSystemSettings : public SystemSettings
+{
+public:
+    bool openLocationServices() override { return false; }
+};
+
+TEST_F(Permission, LogsThatThereIsNoSettingsProgram)
+{
+    const LogCapture log;
+    NoSystemSettings none;
+    LocationPermission lost({scheduler, authorization, alerts, none, network});
+    lost.openSystemSettings();
+    EXPECT_EQ(LogCapture::taken(),
+        QStringList{
+            QStringLiteral("quillon.networks: No settings program found for location services")});
+}
+
+} // namespace
+} // namespace quillon::test
