@@ -118,6 +118,12 @@ std::optional<AddressFacts> addressFacts(nlmsghdr *header)
     return AddressFacts{static_cast<int>(about->ifa_index), QString::fromLatin1(dotted.data())};
 }
 
+std::optional<DefaultRoute> routeFacts(nlmsghdr *header)
+{
+    return defaultRoute({static_cast<const std::byte *>(nlmsg_data(header)),
+        static_cast<std::size_t>(nlmsg_datalen(header))});
+}
+
 // The kernel tells an errno by its negative value, and has none above MAX_ERRNO.
 int errnoOf(int status)
 {
@@ -145,7 +151,7 @@ int failureOfTable(nlmsghdr *header)
 
 // Calls `visit` with each complete message; false when bytes were left that are none.
 template <typename Visit>
-bool forEachMessage(std::span<const std::byte> datagram, Visit visit)
+bool forEachHeader(std::span<const std::byte> datagram, Visit visit)
 {
     // libnl reads through pointers to non-const; it does not write.
     auto *header = reinterpret_cast<nlmsghdr *>(const_cast<std::byte *>(datagram.data()));
@@ -168,7 +174,7 @@ bool isWirelessEvent(nlmsghdr *header)
 
 void LinkMessages::add(std::span<const std::byte> datagram, quint32 sequence)
 {
-    forEachMessage(datagram, [&](nlmsghdr *header) {
+    forEachHeader(datagram, [&](nlmsghdr *header) {
         if (header->nlmsg_seq != sequence || finished) {
             return;
         }
@@ -180,6 +186,10 @@ void LinkMessages::add(std::span<const std::byte> datagram, quint32 sequence)
         } else if (header->nlmsg_type == RTM_NEWADDR) {
             if (auto address = addressFacts(header)) {
                 addresses.append(*std::move(address));
+            }
+        } else if (header->nlmsg_type == RTM_NEWROUTE) {
+            if (auto route = routeFacts(header)) {
+                routes.append(*std::move(route));
             }
         } else if (header->nlmsg_type == NLMSG_ERROR) {
             error = refusal(header);
@@ -194,17 +204,21 @@ void LinkMessages::add(std::span<const std::byte> datagram, quint32 sequence)
 bool tellsOfChange(std::span<const std::byte> datagram)
 {
     bool changed = false;
-    const bool readable = forEachMessage(
+    const bool readable = forEachHeader(
         datagram, [&](nlmsghdr *header) { changed = changed || !isWirelessEvent(header); });
     return changed || !readable;
 }
 
-QString statusText(const LinkFacts &link)
+bool isActive(const LinkFacts &link)
 {
     const bool carrier = (link.flags & IFF_UP) && (link.flags & IFF_LOWER_UP);
-    const bool active = link.operationalState == IF_OPER_UP ||
-                        (link.operationalState == IF_OPER_UNKNOWN && carrier);
-    return active ? QStringLiteral("active") : QStringLiteral("inactive");
+    return link.operationalState == IF_OPER_UP ||
+           (link.operationalState == IF_OPER_UNKNOWN && carrier);
+}
+
+QString statusText(const LinkFacts &link)
+{
+    return isActive(link) ? QStringLiteral("active") : QStringLiteral("inactive");
 }
 
 QString addressText(std::span<const unsigned char> octets)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/linux/DefaultRoute.h"
+
 #include <QList>
 #include <QString>
 
@@ -42,9 +44,10 @@ struct LinkMessages
 {
     QList<LinkFacts> links;
     QList<AddressFacts> addresses;
-    bool finished = false;    ///< the last message of the answer was seen
-    bool interrupted = false; ///< the tables changed while they were read (NLM_F_DUMP_INTR)
-    int error = 0;            ///< errno of a refusal or of a table that broke off, else 0
+    QList<DefaultRoute> routes; ///< other routes are left out
+    bool finished = false;      ///< the last message of the answer was seen
+    bool interrupted = false;   ///< the tables changed while they were read (NLM_F_DUMP_INTR)
+    int error = 0;              ///< errno of a refusal or of a table that broke off, else 0
 
     /// Adds the messages of one datagram that answer the request `sequence`. The bytes must be
     /// aligned as nlmsghdr. Whatever is truncated or malformed is left out; nothing is read beyond
@@ -57,8 +60,11 @@ struct LinkMessages
 /// carry no state of the link. An unreadable datagram counts as a change.
 bool tellsOfChange(std::span<const std::byte> datagram);
 
-/// "active" when the link can carry traffic, else "inactive". IF_OPER_UNKNOWN, which drivers
-/// without operational state report all the time, counts as up when the carrier is there.
+/// Whether the link can carry traffic. IF_OPER_UNKNOWN, which drivers without operational state
+/// report all the time, counts as up when the carrier is there.
+bool isActive(const LinkFacts &link);
+
+/// "active" when the link can carry traffic, else "inactive".
 QString statusText(const LinkFacts &link);
 
 /// Lower-case octets separated by ":"; empty unless it is six octets.

@@ -49,6 +49,18 @@ nl_msg *addressRequest(int index)
     return message;
 }
 
+nl_msg *routeRequest(int family)
+{
+    nl_msg *message = nlmsg_alloc_simple(RTM_GETROUTE, NLM_F_DUMP);
+    rtmsg header{};
+    header.rtm_family = static_cast<unsigned char>(family);
+    header.rtm_type = RTN_UNICAST;
+    if (message) {
+        nlmsg_append(message, &header, sizeof header, NLMSG_ALIGNTO);
+    }
+    return message;
+}
+
 LinkMessages failure(int error)
 {
     LinkMessages messages;
@@ -56,7 +68,7 @@ LinkMessages failure(int error)
     return messages;
 }
 
-// Kernels from 4.20 then honour the index of an address request.
+// Kernels from 4.20 then honour the index of an address request and the type of a route request.
 void wishStrictChecks(int descriptor)
 {
     const int on = 1;
@@ -108,6 +120,11 @@ LinkMessages RouteSocket::link(const QByteArray &name)
 LinkMessages RouteSocket::addresses(int index)
 {
     return askForTable([index] { return addressRequest(index); });
+}
+
+LinkMessages RouteSocket::defaultRoutes(int family)
+{
+    return askForTable([family] { return routeRequest(family); });
 }
 
 LinkMessages RouteSocket::askForTable(const std::function<nl_msg *()> &message)

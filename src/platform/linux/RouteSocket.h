@@ -25,6 +25,8 @@ public:
     LinkMessages link(const QByteArray &name);
     /// The IPv4 addresses of one link, or of all (0), in the kernel's order.
     LinkMessages addresses(int index = 0);
+    /// The default routes of one family, AF_INET or AF_INET6.
+    LinkMessages defaultRoutes(int family);
 
 private:
     struct Free
