@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/RegistryImport.h"
+
+#include "base/Log.h"
+#include "base/SettingsKeys.h"
+#include "platform/Scheduler.h"
+#include "platform/SettingsStore.h"
+#include "vendors/DateStamp.h"
+#include "vendors/VendorTable.h"
+
+#include <QFile>
+#include <QPointer>
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr qint64 pieceSize = qint64{1024} * 1024;
+
+} // namespace
+
+/// What runs in the background. It shares nothing with its owner but the way back.
+class RegistryImport::Work
+{
+public:
+    Work(RegistryImport &owner, Scheduler &scheduler, VendorFiles files, VendorDatabase database)
+        : m_owner(&owner)
+        , m_scheduler(scheduler)
+        , m_files(std::move(files))
+        , m_database(std::move(database))
+    {
+    }
+
+    void importDownload(QFile &body);
+    void parseDownloadedCSV(const QString &csv);
+
+private:
+    bool save(QFile &body) const;
+    void replaceDBFile();
+    void cleanupTempDBFile() const { QFile::remove(m_files.newDatabase()); }
+    void parseFailed();
+    void downloadCompleted();
+    void tellOwner(void (RegistryImport::*what)());
+
+    QPointer<RegistryImport> m_owner;
+    Scheduler &m_scheduler;
+    VendorFiles m_files;
+    VendorDatabase m_database;
+};
+
+void RegistryImport::Work::importDownload(QFile &body)
+{
+    if (save(body)) {
+        parseDownloadedCSV(m_files.registryText());
+    } else {
+        parseFailed();
+    }
+}
+
+bool RegistryImport::Work::save(QFile &body) const
+{
+    QFile text(m_files.registryText());
+    if (!text.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        qCWarning(logVendors, "Registry not saved: %s", qUtf8Printable(text.errorString()));
+        return false;
+    }
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    for (;;) {
+        const qint64 size = body.read(piece.data(), piece.size());
+        if (size == 0) {
+            return true;
+        }
+        if (size < 0) {
+            qCWarning(logVendors, "Registry not read: %s", qUtf8Printable(body.errorString()));
+            return false;
+        }
+        if (text.write(piece.constData(), size) != size) {
+            qCWarning(logVendors, "Registry not saved: %s", qUtf8Printable(text.errorString()));
+            return false;
+        }
+    }
+}
+
+void RegistryImport::Work::parseDownloadedCSV(const QString &csv)
+{
+    if (fillVendorTable(csv, m_files.newDatabase())) {
+        replaceDBFile();
+    } else {
+        parseFailed();
+    }
+}
+
+void RegistryImport::Work::replaceDBFile()
+{
+    if (m_database.rewriteFrom(m_files.newDatabase()) == VendorDatabase::Rewriting::Failed) {
+        parseFailed();
+    }
+    downloadCompleted();
+    cleanupTempDBFile();
+}
+
+void RegistryImport::Work::parseFailed()
+{
+    // Here and not after the report: by then the next import may be building its own.
+    cleanupTempDBFile();
+    tellOwner(&RegistryImport::reportFailure);
+}
+
+void RegistryImport::Work::downloadCompleted()
+{
+    QFile::remove(m_files.registryText());
+    tellOwner(&RegistryImport::reportCompletion);
+}
+
+void RegistryImport::Work::tellOwner(void (RegistryImport::*what)())
+{
+    m_scheduler.onMain([owner = m_owner, what] {
+        if (auto *const that = owner.data()) {
+            (that->*what)();
+        }
+    });
+}
+
+RegistryImport::RegistryImport(Scheduler &scheduler, SettingsStore &settings,
+    const VendorFiles &files, const VendorDatabase &database)
+    : m_scheduler(scheduler)
+    , m_settings(settings)
+    , m_work(std::make_shared<Work>(*this, scheduler, files, database))
+    , m_queue(scheduler)
+{
+}
+
+RegistryImport::~RegistryImport() = default;
+
+void RegistryImport::importDownload(std::shared_ptr<QFile> body)
+{
+    Q_EMIT processingBegun();
+    m_queue.add([work = m_work, body = std::move(body)] { work->importDownload(*body); });
+}
+
+void RegistryImport::parseDownloadedCSV(const QString &path)
+{
+    Q_EMIT processingBegun();
+    m_queue.add([work = m_work, path] { work->parseDownloadedCSV(path); });
+}
+
+void RegistryImport::reportFailure()
+{
+    Q_EMIT parsingFailed();
+    Q_EMIT ended();
+}
+
+void RegistryImport::reportCompletion()
+{
+    const QString date = mediumDateShortTime(m_scheduler.now().toLocalTime(), QLocale());
+    m_settings.set(keys::vendorIDUpdatedDate, date);
+    Q_EMIT downloadCompleted(date);
+    Q_EMIT ended();
+}
+
+} // namespace quillon

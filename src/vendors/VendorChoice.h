@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+
+namespace quillon {
+
+class NotificationCenter;
+class SettingsStore;
+class VendorList;
+
+/// Which manufacturer's prefix random addresses of a device take: the key `vendor` of its record.
+/// Main thread.
+class VendorChoice : public QObject
+{
+    Q_OBJECT
+
+public:
+    VendorChoice(SettingsStore &settings, NotificationCenter &notifications, VendorList &list);
+
+    /// The device's choice as it is shown; "Random Address", in the user's language, when it has
+    /// made none.
+    QString shownChoice(const QString &device) const;
+
+    /// Stores `choice`, an entry of the list, for the selected interface, and announces it with
+    /// "vendorUpdated" (`device`, `newVendor`). Without a known interface nothing happens.
+    void saveVendorSelection(const QString &choice);
+    /// Shows the device's choice in the text field. Without a device that is always "Random
+    /// Address": the selected interface's name is not used.
+    void updateVendorField(const std::optional<QString> &device);
+    /// Selects the device's choice in the list, unfiltered; nothing when it is not in there.
+    void setVendorSelectionForDevice(const QString &device);
+    /// The same for the selected interface.
+    void setVendorSelectionForCurrentDevice();
+    /// The user chose a row of what is shown of the list; a row that is not there is ignored.
+    void updateVendorTableSelectionWithRow(qsizetype row);
+
+Q_SIGNALS:
+    /// The text field is to show `text`.
+    void vendorFieldUpdated(const QString &text);
+    /// The list is to select `row` alone and to show it; none: nothing is to be selected.
+    void vendorSelected(const std::optional<qsizetype> &row);
+
+private:
+    SettingsStore &m_settings;
+    NotificationCenter &m_notifications;
+    VendorList &m_list;
+};
+
+} // namespace quillon

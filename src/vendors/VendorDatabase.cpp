@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorDatabase.h"
+
+#include "base/Log.h"
+#include "vendors/NullMarker.h"
+
+#include <QFile>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+#include <algorithm>
+#include <mutex>
+#include <shared_mutex>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace quillon {
+
+namespace {
+
+// Questions are asked on the main thread too: another program's lock must not hold it up.
+constexpr int readerPatience = 250; // milliseconds
+// So often the rewriting tries: for about a second.
+constexpr int rewriterTries = 20;
+constexpr int pauseBetweenTries = 50; // milliseconds
+constexpr qint64 pieceSize = qint64{1024} * 1024;
+constexpr int longestText = 4096; // UTF-16 units
+constexpr int longestUnit = 4;    // bytes of UTF-8, more than any takes
+
+std::optional<QString> text(const SQLite::Statement &row, int column)
+{
+    if (row.isColumnNull(column)) {
+        return std::nullopt;
+    }
+    const SQLite::Column cell = row.getColumn(column);
+    const char *const bytes = cell.getText();
+    QString text = QString::fromUtf8(bytes, std::min(cell.getBytes(), longestText * longestUnit));
+    const bool cutsPair = text.size() > longestText && text.at(longestText - 1).isHighSurrogate();
+    text.truncate(cutsPair ? longestText - 1 : longestText);
+    return text;
+}
+
+/// The file has answered: it holds no vendor table, and will not a moment later.
+bool meansNoTable(const SQLite::Exception &error)
+{
+    const int code = error.getErrorCode();
+    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT || code == SQLITE_ERROR;
+}
+
+/// The copied bytes have arrived on the disk.
+bool copyWhole(QFile &source, QFile &target)
+{
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    for (;;) {
+        const qint64 size = source.read(piece.data(), piece.size());
+        if (size == 0) {
+            return fdatasync(target.handle()) == 0;
+        }
+        if (size < 0 || target.write(piece.constData(), size) != size) {
+            return false;
+        }
+    }
+}
+
+} // namespace
+
+QString vendorDisplayString(
+    const std::optional<QString> &organizationName, const std::optional<QString> &assignment)
+{
+    QString text = organizationName.value_or(nullMarker);
+    text += QLatin1String(" (");
+    text += assignment.value_or(nullMarker);
+    text += QLatin1Char(')');
+    return text.trimmed();
+}
+
+struct VendorDatabase::File
+{
+    explicit File(const QString &filePath)
+        : path(filePath)
+    {
+    }
+
+    /// What `ask` answers about the open database, or the empty answer; for `wasRead` see count().
+    template <typename Ask>
+    auto inQueue(Ask ask, bool *wasRead = nullptr) const
+        -> decltype(ask(std::declval<SQLite::Database &>()))
+    {
+        std::unique_lock turn(turnstile);
+        const std::shared_lock lock(mutex);
+        turn.unlock();
+        try {
+            SQLite::Database database(
+                QFile::encodeName(path).constData(), SQLite::OPEN_READONLY, readerPatience);
+            return ask(database);
+        } catch (const SQLite::Exception &error) {
+            qCDebug(logVendors, "Vendor database not read: %s", error.what());
+            if (wasRead != nullptr) {
+                *wasRead = meansNoTable(error) || !QFile::exists(path);
+            }
+            return {};
+        }
+    }
+
+    /// None when another program has locked the file.
+    std::optional<Rewriting> tryRewriting(const QString &source) const;
+
+    const QString path;
+    /// Readers wait for the whole rewriting, however long the disk takes: for SQLite's own lock
+    /// they would wait a moment and then answer nothing.
+    mutable std::shared_mutex mutex;
+    /// Who waits for the whole file holds it, so that new questions queue up behind.
+    mutable std::mutex turnstile;
+};
+
+VendorDatabase::VendorDatabase(const QString &path)
+    : m_file(std::make_shared<File>(path))
+{
+}
+
+const QString &VendorDatabase::path() const
+{
+    return m_file->path;
+}
+
+qlonglong VendorDatabase::count(bool *wasRead) const
+{
+    if (wasRead != nullptr) {
+        *wasRead = true;
+    }
+    return m_file->inQueue(
+        [](SQLite::Database &database) {
+            SQLite::Statement statement(database, "SELECT COUNT(*) FROM vendor");
+            qlonglong count = 0;
+            while (statement.executeStep()) {
+                count = statement.getColumn(0).getInt64();
+            }
+            return count;
+        },
+        wasRead);
+}
+
+std::optional<VendorRecord> VendorDatabase::lookup(const QString &assignment) const
+{
+    return m_file->inQueue([&](SQLite::Database &database) {
+        SQLite::Statement statement(database, "SELECT * FROM vendor WHERE Assignment = (?)");
+        statement.bind(1, assignment.toStdString());
+        const int assignmentColumn = statement.getColumnIndex("Assignment");
+        const int addressColumn = statement.getColumnIndex("Organization_Address");
+        const int nameColumn = statement.getColumnIndex("Organization_Name");
+        const int registryColumn = statement.getColumnIndex("Registry");
+        std::optional<VendorRecord> found;
+        while (statement.executeStep()) {
+            found = VendorRecord{text(statement, assignmentColumn), text(statement, addressColumn),
+                text(statement, nameColumn), text(statement, registryColumn)};
+        }
+        return found;
+    });
+}
+
+QStringList VendorDatabase::displayStrings() const
+{
+    return m_file->inQueue([](SQLite::Database &database) {
+        SQLite::Statement statement(database, "SELECT * FROM vendor");
+        const int nameColumn = statement.getColumnIndex("Organization_Name");
+        const int assignmentColumn = statement.getColumnIndex("Assignment");
+        QStringList all;
+        while (statement.executeStep()) {
+            all.append(vendorDisplayString(
+                text(statement, nameColumn), text(statement, assignmentColumn)));
+        }
+        return all;
+    });
+}
+
+VendorDatabase::Rewriting VendorDatabase::rewriteFrom(const QString &source)
+{
+    for (int tries = 0; tries < rewriterTries; ++tries) {
+        if (const auto outcome = m_file->tryRewriting(source)) {
+            return *outcome;
+        }
+        // Between two tries nothing is held: questions need not wait for the other program too.
+        sqlite3_sleep(pauseBetweenTries);
+    }
+    qCWarning(logVendors, "Vendor database is locked by another program");
+    return Rewriting::Failed;
+}
+
+std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
+    const QString &source) const
+{
+    const std::unique_lock turn(turnstile);
+    const std::unique_lock lock(mutex);
+    if (!QFile::exists(path)) {
+        return Rewriting::FileMissing;
+    }
+    QFile fresh(source);
+    if (!fresh.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return Rewriting::Failed;
+    }
+    // Keeps other programs out meanwhile. A file that is no database (any more) cannot be locked,
+    // but neither can it be read.
+    std::optional<SQLite::Database> guard;
+    try {
+        guard.emplace(QFile::encodeName(path).constData(), SQLite::OPEN_READWRITE);
+        if (guard->tryExec("BEGIN EXCLUSIVE") == SQLITE_BUSY) {
+            return std::nullopt;
+        }
+    } catch (const SQLite::Exception &error) {
+        qCWarning(logVendors, "Vendor database not locked: %s", error.what());
+    }
+    QFile live(path);
+    if (!live.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered) ||
+        !copyWhole(fresh, live)) {
+        qCWarning(
+            logVendors, "Vendor database not written: %s", qUtf8Printable(live.errorString()));
+        return Rewriting::Failed;
+    }
+    return Rewriting::Done;
+}
+
+} // namespace quillon

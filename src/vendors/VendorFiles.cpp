@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorFiles.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace quillon {
+
+QString shippedVendorDatabase(const QString &programFolder)
+{
+    for (const char *const place : {"../share/quillon4/oui.db", "../data/oui.db"}) {
+        const QString path =
+            QDir::cleanPath(programFolder + QLatin1Char('/') + QLatin1String(place));
+        if (QFile::exists(path)) {
+            return path;
+        }
+    }
+    return {};
+}
+
+} // namespace quillon

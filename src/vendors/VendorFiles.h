@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// Where the vendor registry keeps its files: a folder of the user's, which need not exist yet, and
+/// the database that the program is shipped with.
+struct VendorFiles
+{
+    QString folder;
+    QString seed;
+
+    QString liveDatabase() const { return folder + QStringLiteral("/oui.db"); }
+    /// The database that is being built during a refresh.
+    QString newDatabase() const { return folder + QStringLiteral("/temp.db"); }
+    /// The downloaded registry.
+    QString registryText() const { return folder + QStringLiteral("/oui.csv"); }
+};
+
+/// The shipped database as seen from the folder of the running program: that of the installation
+/// ("../share/quillon4/oui.db"), else that of the build folder ("../data/oui.db"). Empty when there
+/// is none.
+QString shippedVendorDatabase(const QString &programFolder);
+
+} // namespace quillon

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorList.h"
+
+#include "base/Localized.h"
+#include "platform/Scheduler.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+VendorList::VendorList(Scheduler &scheduler, const VendorDatabase &database)
+    : m_scheduler(scheduler)
+    , m_database(database)
+{
+}
+
+void VendorList::loadVendorField()
+{
+    m_scheduler.inBackground(
+        [self = QPointer(this), &scheduler = m_scheduler, database = m_database, load = ++m_load] {
+            QStringList texts{localized(randomAddressChoice)};
+            texts += database.displayStrings();
+            auto entries = std::make_shared<const VendorEntries>(std::move(texts));
+            scheduler.onMain([self, load, entries = std::move(entries)] {
+                auto *const that = self.data();
+                if (that != nullptr && that->m_load == load) {
+                    that->m_entries = entries;
+                    that->arrange();
+                    Q_EMIT that->rebuilt();
+                }
+            });
+        });
+}
+
+void VendorList::filter(const QString &text)
+{
+    if (text.isEmpty() && m_filter.isEmpty()) {
+        return;
+    }
+    m_filter = text;
+    arrange();
+}
+
+void VendorList::arrange()
+{
+    m_shown.reset();
+    if (!m_filter.isEmpty()) {
+        m_shown = m_entries->beginningWith(m_filter);
+    }
+    Q_EMIT rearranged();
+}
+
+qsizetype VendorList::rowCount() const
+{
+    return m_shown ? static_cast<qsizetype>(m_shown->size()) : m_entries->size();
+}
+
+QString VendorList::entry(qsizetype row) const
+{
+    return m_entries->texts().at(m_shown ? m_shown->at(static_cast<std::size_t>(row)) : row);
+}
+
+qsizetype VendorList::rowOf(const QString &entry) const
+{
+    const qsizetype index = m_entries->indexOf(entry);
+    if (index < 0 || !m_shown) {
+        return index;
+    }
+    // Equal entries stand together, and are shown together.
+    const auto found = std::lower_bound(m_shown->begin(), m_shown->end(), index);
+    return found != m_shown->end() && *found == index ? found - m_shown->begin() : -1;
+}
+
+} // namespace quillon
