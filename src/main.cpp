@@ -2,25 +2,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/QuillonAppDelegate.h"
 #include "app/SettingsProblemMessage.h"
+#include "app/Termination.h"
 #include "base/Log.h"
 #include "platform/linux/BusRunningApplications.h"
 #include "platform/linux/DBusHelperLink.h"
+#include "platform/linux/DesktopSystemSettings.h"
 #include "platform/linux/FreedesktopNotifications.h"
 #include "platform/linux/GetifaddrsAddresses.h"
 #include "platform/linux/GetrandomSource.h"
 #include "platform/linux/NetlinkChangeSource.h"
 #include "platform/linux/NetlinkHost.h"
+#include "platform/linux/Nl80211LocationAuthorization.h"
+#include "platform/linux/Nl80211WiFiClient.h"
 #include "platform/linux/PortalColorScheme.h"
+#include "platform/linux/RouteReachability.h"
 #include "platform/linux/SessionBusNotificationCenter.h"
 #include "platform/linux/SessionInstance.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/TrayHostWatch.h"
 #include "platform/linux/X11TaskBar.h"
+#include "platform/qt/NetworkHttpClient.h"
 #include "platform/qt/PlistSettingsStore.h"
 #include "platform/qt/PropertyListFile.h"
 #include "platform/qt/QtScheduler.h"
 #include "ui/MainWindow.h"
+#include "ui/MessageAlerts.h"
 #include "ui/UserInterface.h"
+#include "vendors/VendorFiles.h"
 
 #include <QApplication>
 #include <QSessionManager>
@@ -35,6 +43,15 @@ QString settingsPath(const QString &name)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return folder + QStringLiteral("/Quillon/") + name;
+}
+
+Places places()
+{
+    return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                QStringLiteral("/Quillon"),
+        shippedVendorDatabase(QCoreApplication::applicationDirPath()),
+        QUrl(QStringLiteral("https://" QUILLON_EXTERNAL_ADDRESS_HOST)),
+        QUrl(QStringLiteral(QUILLON_REGISTRY_URL))};
 }
 
 QVariantMap packagedDefaults()
@@ -107,31 +124,43 @@ int main(int argc, char **argv)
     NotificationCenter notifications;
     SessionBusNotificationCenter distributedNotifications;
     FreedesktopNotifications userNotifications(scheduler);
+    MessageAlerts alerts;
     NetlinkHost network;
     GetifaddrsAddresses interfaceAddresses;
     NetlinkChangeSource networkChanges(scheduler);
+    RouteReachability reachability;
+    Nl80211WiFiClient wifi;
+    Nl80211LocationAuthorization location(scheduler);
+    DesktopSystemSettings systemSettings;
+    NetworkHttpClient http;
     GetrandomSource random;
     DBusHelperLink helperLink(random);
     BusRunningApplications runningApplications;
 
     QuillonAppDelegate::initialize(settings, packagedDefaults());
     QuillonAppDelegate delegate({scheduler, settings, groupSettings, notifications,
-        distributedNotifications, userNotifications, network, interfaceAddresses, networkChanges,
-        helperLink, random, runningApplications});
+        distributedNotifications, userNotifications, alerts, network, interfaceAddresses,
+        networkChanges, reachability, wifi, location, systemSettings, http, helperLink, random,
+        runningApplications, places()});
     notifier = &delegate.userNotifications();
     LaunchSequence &launch = delegate.launch();
 
     TrayHostWatch trayHost;
     X11TaskBar taskBar;
     PortalColorScheme colorScheme;
-    UserInterface userInterface({delegate.mainWindow(), delegate.statusMenu(), delegate.presence()},
+    UserInterface userInterface({delegate.mainWindow(), delegate.statusMenu(), delegate.presence(),
+                                    {delegate.networks().externalAddressShown,
+                                        delegate.rules().status, delegate.rules().countdown},
+                                    delegate.vendors().field, delegate.vendors().pane},
         {trayHost, taskBar, colorScheme});
     connectWindow(userInterface.mainWindow(), delegate);
     QObject::connect(
         &instance, &SessionInstance::activated, [&] { launch.applicationShouldHandleReopen(); });
+    Termination termination(delegate.records().saving);
+    QObject::connect(&termination, &Termination::granted, &application, &QCoreApplication::quit);
     QObject::connect(
-        &delegate.presence(), &Presence::terminated, &application, &QApplication::quit);
-    const TerminationSignals signals([&application] { application.quit(); });
+        &delegate.presence(), &Presence::terminated, &termination, &Termination::terminate);
+    const TerminationSignals signals([&termination] { termination.terminate(); });
 
     launch.awakeFromNib();
     launch.applicationWillFinishLaunching();

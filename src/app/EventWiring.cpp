@@ -12,7 +12,6 @@
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
-#include "devices/NetworkFollower.h"
 #include "platform/NetworkChangeSource.h"
 
 #include <QPointer>
@@ -188,13 +187,11 @@ void EventWiring::observeSettings()
 
 void EventWiring::observeBroadcasts()
 {
-    observe(notifications::recordsChanged, [this](const auto &) { Q_EMIT recordStoreChanged(); });
     observe(notifications::cloudContainerChanged,
         [this](const auto &) { Q_EMIT cloudContainerChanged(); });
     observe(notifications::networkChanged, [this](const auto &) {
-        m_with.networkFollower.networkChanged();
-        m_with.statusMenu.menuNeedsUpdate();
         Q_EMIT networkChanged();
+        m_with.statusMenu.menuNeedsUpdate();
     });
     observe(notifications::addressUpdated, [this](const auto &) {
         m_platform.scheduler.onMain([self = QPointer(this)] {

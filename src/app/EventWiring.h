@@ -19,14 +19,14 @@ class AdvancedPreferencesModel;
 class CurrentInterface;
 class DeviceTable;
 class MainWindowModel;
-class NetworkFollower;
 class Presence;
 class RandomAddress;
 class StatusMenuModel;
 class XPCMethods;
 
 /// Which fact leads to which reaction, in which order. Connections only: what a reaction does is
-/// its component's. Rows of rooms that are not built yet are the signals below.
+/// its component's. A row that belongs to a feature is a signal,
+/// which the feature's room connects to.
 class EventWiring : public QObject
 {
     Q_OBJECT
@@ -39,7 +39,6 @@ public:
         CurrentInterface &currentInterface;
         RandomAddress &randomAddress;
         AddressChanger &addressChanger;
-        NetworkFollower &networkFollower;
         MainWindowModel &mainWindow;
         StatusMenuModel &statusMenu;
         AdvancedPreferencesModel &advancedPreferences;
@@ -65,7 +64,6 @@ Q_SIGNALS:
     /// After the reactions to every observed key.
     void observedSettingChanged(const QString &key);
     // Broadcasts.
-    void recordStoreChanged();
     void cloudContainerChanged();
     void networkChanged();
     void vendorViewPopoverClosed();

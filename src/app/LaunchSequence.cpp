@@ -11,6 +11,7 @@
 #include "base/SettingsKeys.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "networks/ExternalIPAddress.h"
 #include "platform/RunningApplications.h"
 #include "platform/SettingsStore.h"
 
@@ -51,7 +52,7 @@ void LaunchSequence::applicationDidFinishLaunching()
     Q_EMIT recordStoreDue();
     m_with.presence.updateDock();
     if (!m_with.settings.get(keys::externalIPAddress).isValid()) {
-        m_with.settings.set(keys::externalIPAddress, localized("Unknown..."));
+        m_with.externalAddress.saveExternalIPAddress(localized("Unknown..."));
     }
     m_with.presence.showMenuBarItem(m_with.settings.getBool(keys::showInMenu));
     if (m_with.settings.getBool(keys::loginStart)) {
@@ -109,8 +110,7 @@ bool LaunchSequence::applicationShouldHandleReopen()
 
 void LaunchSequence::applicationWillTerminate()
 {
-    m_with.settings.set(keys::externalIPAddress, localized("Unknown..."));
-    m_with.settings.synchronize();
+    m_with.externalAddress.saveExternalIPAddress(localized("Unknown..."));
 }
 
 bool LaunchSequence::startupCheck()

@@ -11,6 +11,7 @@ namespace quillon {
 class CurrentInterface;
 class DeviceTable;
 class EventWiring;
+class ExternalIPAddress;
 class MainWindowModel;
 class Presence;
 class RunningApplications;
@@ -19,8 +20,8 @@ class UserNotifications;
 class XPCMethods;
 
 /// What happens, in which order, between the start of the process and the first rule check, and at
-/// quit. The steps of rooms that are not built yet are the signals below, each emitted at its
-/// place; a room takes its step by connecting to it.
+/// quit. A step that belongs to a feature is a signal, emitted at its place in the order, which
+/// the feature's room connects to.
 class LaunchSequence : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,7 @@ public:
         XPCMethods &helper;
         DeviceTable &devices;
         CurrentInterface &currentInterface;
+        ExternalIPAddress &externalAddress;
         MainWindowModel &mainWindow;
         Presence &presence;
         UserNotifications &userNotifications;
@@ -65,7 +67,6 @@ Q_SIGNALS:
     void recordStoreDue();
     void loginItemDue();
     // startup
-    void startupBegun();
     void countdownLabelDue();
     void hotKeysDue();
     void vendorCountDue();

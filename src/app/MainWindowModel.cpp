@@ -198,6 +198,13 @@ bool MainWindowModel::editField(const QString &text)
     return true;
 }
 
+void MainWindowModel::endEditing()
+{
+    if (m_state.fieldText.isEmpty()) {
+        populateHexField();
+    }
+}
+
 void MainWindowModel::setFieldText(const QString &text)
 {
     State state = m_state;

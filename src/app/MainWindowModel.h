@@ -106,6 +106,8 @@ public:
     /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
     /// what it had.
     bool editField(const QString &text);
+    /// The user is done with the field: one that is left empty shows the current address again.
+    void endEditing();
     /// The program wrote `text` into the field.
     void setFieldText(const QString &text);
 

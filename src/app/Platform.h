@@ -2,19 +2,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <QUrl>
+
 namespace quillon {
 
+class AlertPresenter;
 class DistributedNotificationCenter;
 class HelperLink;
+class HttpClient;
 class InterfaceAddresses;
+class LocationAuthorization;
 class NetworkChangeSource;
 class NetworkHost;
 class NotificationCenter;
 class RandomSource;
+class Reachability;
 class RunningApplications;
 class Scheduler;
 class SettingsStore;
+class SystemSettings;
 class UserNotificationCenter;
+class WiFiClient;
+
+/// Where the program finds what is not its own.
+struct Places
+{
+    /// Of the user's data; made when it is missing.
+    QString supportFolder;
+    /// The vendor database that the program is shipped with, "" when there is none.
+    QString shippedVendorDatabase;
+    /// The service that tells our external address.
+    QUrl externalAddressService;
+    QUrl vendorRegistry;
+};
 
 /// Every seam to the platform that the program uses, filled by main.cpp (or by a test). What it
 /// refers to outlives the program's components.
@@ -27,12 +48,19 @@ struct Platform
     NotificationCenter &notifications;
     DistributedNotificationCenter &distributedNotifications;
     UserNotificationCenter &userNotifications;
+    AlertPresenter &alerts;
     NetworkHost &network;
     InterfaceAddresses &interfaceAddresses;
     NetworkChangeSource &networkChanges;
+    Reachability &reachability;
+    WiFiClient &wifi;
+    LocationAuthorization &location;
+    SystemSettings &systemSettings;
+    HttpClient &http;
     HelperLink &helperLink;
     RandomSource &random;
     RunningApplications &runningApplications;
+    Places places;
 };
 
 } // namespace quillon

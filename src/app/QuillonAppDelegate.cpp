@@ -25,19 +25,29 @@ QuillonAppDelegate::QuillonAppDelegate(const Platform &platform)
           [this](const QString &device, const QString &address) {
               m_addressChanger.updateMacAddressWithAddress(device, address);
           })
-    , m_networkFollower(m_devices, m_currentInterface)
+    , m_records(platform)
+    , m_networks(platform, m_devices, m_records.store)
+    , m_rules(platform,
+          {m_userNotifications, m_devices, m_currentInterface, m_randomAddress, m_addressChanger,
+              m_records, m_networks, [this] { return m_launch.startedFromLogin(); }})
+    , m_vendors(platform)
     , m_mainWindow(platform.settings, platform.scheduler, m_devices, m_currentInterface)
     , m_statusMenu(platform.settings, m_devices, m_currentInterface,
           [this] { return m_helper.isHelperInstalled(); })
     , m_advancedPreferences(m_helper, platform.groupSettings, platform.scheduler)
     , m_presence(platform.settings)
-    , m_wiring(platform,
-          {m_helper, m_devices, m_currentInterface, m_randomAddress, m_addressChanger,
-              m_networkFollower, m_mainWindow, m_statusMenu, m_advancedPreferences, m_presence})
+    , m_wiring(
+          platform, {m_helper, m_devices, m_currentInterface, m_randomAddress, m_addressChanger,
+                        m_mainWindow, m_statusMenu, m_advancedPreferences, m_presence})
     , m_launch({platform.scheduler, platform.settings, platform.runningApplications, m_helper,
-          m_devices, m_currentInterface, m_mainWindow, m_presence, m_userNotifications, m_wiring})
+          m_devices, m_currentInterface, m_networks.externalAddress, m_mainWindow, m_presence,
+          m_userNotifications, m_wiring})
 {
     m_wiring.connectComponents();
+    m_records.connectTo(m_wiring, m_launch);
+    m_networks.connectTo(m_wiring, m_launch, m_presence);
+    m_rules.connectTo(m_wiring, m_launch);
+    m_vendors.connectTo(m_wiring, m_launch);
 }
 
 void QuillonAppDelegate::randomizeAddress()

@@ -7,14 +7,17 @@
 #include "app/EventWiring.h"
 #include "app/LaunchSequence.h"
 #include "app/MainWindowModel.h"
+#include "app/NetworkRoom.h"
 #include "app/Platform.h"
 #include "app/Presence.h"
+#include "app/RecordRoom.h"
+#include "app/RuleRoom.h"
 #include "app/StatusMenuModel.h"
 #include "app/UserNotifications.h"
+#include "app/VendorRoom.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
-#include "devices/NetworkFollower.h"
 #include "devices/RandomAddress.h"
 
 namespace quillon {
@@ -34,6 +37,10 @@ public:
     StatusMenuModel &statusMenu() { return m_statusMenu; }
     AdvancedPreferencesModel &advancedPreferences() { return m_advancedPreferences; }
     Presence &presence() { return m_presence; }
+    RecordRoom &records() { return m_records; }
+    NetworkRoom &networks() { return m_networks; }
+    RuleRoom &rules() { return m_rules; }
+    VendorRoom &vendors() { return m_vendors; }
     Notifier &userNotifications() { return m_userNotifications; }
     EventWiring &wiring() { return m_wiring; }
 
@@ -51,7 +58,10 @@ private:
     CurrentInterface m_currentInterface;
     AddressChanger m_addressChanger;
     RandomAddress m_randomAddress;
-    NetworkFollower m_networkFollower;
+    RecordRoom m_records;
+    NetworkRoom m_networks;
+    RuleRoom m_rules;
+    VendorRoom m_vendors;
     MainWindowModel m_mainWindow;
     StatusMenuModel m_statusMenu;
     AdvancedPreferencesModel m_advancedPreferences;

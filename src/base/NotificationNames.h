@@ -11,7 +11,6 @@ namespace quillon::notifications {
 inline const QString networkChanged = QStringLiteral("networkChanged");
 inline const QString addressUpdated = QStringLiteral("addressUpdated");
 inline const QString helperStatusChanged = QStringLiteral("helperStatusChanged");
-inline const QString recordsChanged = QStringLiteral("recordsChanged");
 inline const QString cloudContainerChanged = QStringLiteral("cloudContainerChanged");
 inline const QString closeVendorViewPopover = QStringLiteral("closeVendorViewPopover");
 inline const QString toggleCheckbox = QStringLiteral("toggleCheckbox");

@@ -147,12 +147,14 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
 
 void AddressChanger::askHelper(const Request &request)
 {
+    Q_EMIT changeBegan(request.device);
     const bool isWifi = isWifiRecord({{record::interface, request.interface}});
     m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
         request.device, request.address, isWifi, [this, life = m_life, request](bool success) {
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
                 finish(request, success);
+                Q_EMIT changeEnded(request.device);
             }
         });
 }

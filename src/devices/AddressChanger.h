@@ -70,6 +70,12 @@ Q_SIGNALS:
     /// After the user was told of a successful change and before "addressUpdated" is posted; on the
     /// thread of the helper's reply.
     void addressChanged(const QString &device, const QString &requestedAddress);
+    /// The helper is about to be asked to change `device`; on the main thread. Every one is
+    /// followed by changeEnded().
+    void changeBegan(const QString &device);
+    /// The helper has answered and the table says what is true now, however the change went; on the
+    /// thread of the helper's reply.
+    void changeEnded(const QString &device);
 
 private:
     /// One change between the test of its address and the helper's reply.

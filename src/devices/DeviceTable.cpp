@@ -61,6 +61,16 @@ bool isWifiRecord(const QVariantMap &record)
     return record.value(record::interface).toString() == wifiPortName;
 }
 
+QString firstChangedDevice(const QVariantMap &before, const QVariantMap &now)
+{
+    for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
+        if (entry.value() != now.value(entry.key())) {
+            return entry.key();
+        }
+    }
+    return {};
+}
+
 DeviceTable::DeviceTable(
     SettingsStore &settings, NetworkHost &host, const InterfaceAddresses &addresses)
     : m_settings(settings)

@@ -18,6 +18,10 @@ struct InterfaceInfo;
 /// A device is Wi-Fi when its record's `interface` is exactly "Wi-Fi".
 bool isWifiRecord(const QVariantMap &record);
 
+/// The first device, in key order, whose record is not the same in both tables; "" when none
+/// differs. Devices that only `now` holds do not count.
+QString firstChangedDevice(const QVariantMap &before, const QVariantMap &now);
+
 /// The table of known network interfaces, kept in the settings under `deviceDict`: device name to
 /// device record. It never shrinks, and keys of a record that others set survive every refresh.
 /// The table is read from the settings at every call. Calls block while the host answers. Any

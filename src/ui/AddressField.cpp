@@ -57,6 +57,7 @@ AddressField::AddressField(MainWindowModel &model, QWidget *parent)
     setText(m_model.state().fieldText);
     setValidator(new EntryRules(*this));
     connect(this, &QLineEdit::textChanged, this, &AddressField::refresh);
+    connect(this, &QLineEdit::editingFinished, &m_model, &MainWindowModel::endEditing);
 }
 
 QSize AddressField::sizeHint() const

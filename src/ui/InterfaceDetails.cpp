@@ -7,68 +7,106 @@
 #include "ui/Theme.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 namespace quillon {
+
+namespace {
+
+constexpr int columns = 3;
+constexpr int rowSpacing = 4;
+
+QFrame *makeRule()
+{
+    auto *rule = new QFrame;
+    rule->setProperty("look", QStringLiteral("rule"));
+    return rule;
+}
+
+} // namespace
 
 InterfaceDetails::InterfaceDetails(MainWindowModel &model, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
+    , m_grid(new QGridLayout(this))
+    , m_current(makeValue(QStringLiteral("currentAddress")))
+    , m_factory(makeValue(QStringLiteral("hardwareAddress")))
+    , m_ipAddress(makeValue(QStringLiteral("ipAddress")))
     , m_changed(new QLabel(localized("Changed")))
 {
     setProperty("look", QStringLiteral("card"));
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(
-        Theme::cardMargin, Theme::unit + 4, Theme::cardMargin, Theme::unit + 4);
-    grid->setHorizontalSpacing(3 * Theme::unit);
-    grid->setVerticalSpacing(Theme::unit);
-    grid->setColumnStretch(1, 1);
-
-    m_current = addRow(*grid, localized("Current address"));
-    m_current->setObjectName(QStringLiteral("currentAddress"));
-    m_factory = addRow(*grid, localized("Factory address"));
-    m_factory->setObjectName(QStringLiteral("hardwareAddress"));
-    m_ipAddress = addRow(*grid, localized("IPv4 address"));
-    m_ipAddress->setObjectName(QStringLiteral("ipAddress"));
+    m_grid->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::cardMargin, Theme::unit);
+    m_grid->setHorizontalSpacing(3 * Theme::unit);
+    m_grid->setVerticalSpacing(rowSpacing);
+    m_grid->setColumnStretch(1, 1);
 
     m_changed->setObjectName(QStringLiteral("hardwareIndicator"));
     m_changed->setProperty("look", QStringLiteral("notice"));
     m_changed->setToolTip(localized("The address in use is not the factory address"));
     m_changed->setAccessibleName(localized("The address in use is not the factory address"));
     m_changed->setFont(Theme::textFont(0.9, QFont::DemiBold));
-    grid->addWidget(m_changed, 0, 2, Qt::AlignRight | Qt::AlignVCenter);
-    // The pill comes and goes; the rows keep their height.
-    grid->setRowMinimumHeight(0, m_changed->sizeHint().height());
+    addRow(localized("Current address"), m_current, {nullptr, m_changed});
+    addRow(localized("Factory address"), m_factory);
+    addRow(localized("IPv4 address"), m_ipAddress);
     refresh();
 }
 
-QLabel *InterfaceDetails::addRow(QGridLayout &grid, const QString &caption)
+void InterfaceDetails::addRow(const QString &caption, QWidget *value, const Beside &beside)
 {
-    int row = 0;
-    if (grid.count() > 0) {
-        auto *rule = new QFrame;
-        rule->setProperty("look", QStringLiteral("rule"));
-        grid.addWidget(rule, grid.rowCount(), 0, 1, 3);
-        row = grid.rowCount();
+    if (m_grid->count() > 0) {
+        m_grid->addWidget(makeRule(), m_grid->rowCount(), 0, 1, columns);
     }
     auto *name = new QLabel(caption);
     name->setProperty("look", QStringLiteral("caption"));
+    // What stands beside the value comes and goes; the rows keep their height, all the same.
+    name->setMinimumHeight(Theme::rowHeight);
+    // Both are children of this: a screen reader finds a name beside its value only.
+    name->setBuddy(value);
+    const int row = m_grid->rowCount();
+    m_grid->addWidget(name, row, 0);
+    auto *cell = new QHBoxLayout;
+    cell->setSpacing(Theme::unit);
+    if (beside.before != nullptr) {
+        cell->addWidget(beside.before);
+    }
+    cell->addWidget(value, 1);
+    m_grid->addLayout(cell, row, 1);
+    if (beside.end != nullptr) {
+        m_grid->addWidget(beside.end, row, 2, Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+QWidget *InterfaceDetails::addWideRow(QWidget *content)
+{
+    auto *row = new QWidget;
+    auto *column = new QVBoxLayout(row);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(rowSpacing);
+    column->addWidget(makeRule());
+    column->addWidget(content);
+    content->setMinimumHeight(Theme::rowHeight);
+    m_grid->addWidget(row, m_grid->rowCount(), 0, 1, columns);
+    return row;
+}
+
+QLabel *InterfaceDetails::makeValue(const QString &name)
+{
     auto *value = new QLabel;
+    value->setObjectName(name);
     value->setProperty("look", QStringLiteral("value"));
+    value->setTextFormat(Qt::PlainText);
     value->setFont(Theme::addressFont(1.0));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setCursor(Qt::IBeamCursor);
-    // Tells a screen reader which of the two belongs to which.
-    name->setBuddy(value);
-    grid.addWidget(name, row, 0);
-    grid.addWidget(value, row, 1);
     return value;
 }
 
-void InterfaceDetails::showValue(QLabel &label, const QString &value)
+void InterfaceDetails::showValue(QLabel &label, const QString &text)
 {
-    label.setText(value.isEmpty() ? QStringLiteral("–") : value);
-    label.setAccessibleName(value.isEmpty() ? localized("None") : value);
+    label.setText(text.isEmpty() ? QStringLiteral("–") : text);
+    label.setAccessibleName(text.isEmpty() ? localized("None") : text);
 }
 
 void InterfaceDetails::refresh()

@@ -11,8 +11,8 @@ namespace quillon {
 
 class MainWindowModel;
 
-/// What is known of the selected interface: its addresses, and whether the address in use is the
-/// factory address.
+/// What is known of the selected interface, in rows: its addresses, whether the address in use is
+/// the factory address, and what others add.
 class InterfaceDetails : public QFrame
 {
     Q_OBJECT
@@ -20,13 +20,27 @@ class InterfaceDetails : public QFrame
 public:
     explicit InterfaceDetails(MainWindowModel &model, QWidget *parent = nullptr);
 
+    /// What stands beside the value of a row, if anything.
+    struct Beside
+    {
+        QWidget *before = nullptr;
+        QWidget *end = nullptr; ///< at the end of the row
+    };
+    /// Adds a row under the others. To a screen reader `caption` is the value's name.
+    void addRow(const QString &caption, QWidget *value, const Beside &beside);
+    void addRow(const QString &caption, QWidget *value) { addRow(caption, value, Beside()); }
+    /// Adds a row without a name, over the whole width. What is returned hides and shows it.
+    QWidget *addWideRow(QWidget *content);
+    /// A value that can be selected and copied.
+    static QLabel *makeValue(const QString &name);
+    /// An empty text is shown as a dash.
+    static void showValue(QLabel &label, const QString &text);
+
     void refresh();
 
 private:
-    QLabel *addRow(QGridLayout &grid, const QString &caption);
-    static void showValue(QLabel &label, const QString &value);
-
     MainWindowModel &m_model;
+    QGridLayout *m_grid;
     QLabel *m_current;
     QLabel *m_factory;
     QLabel *m_ipAddress;

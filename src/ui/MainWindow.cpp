@@ -7,7 +7,9 @@
 #include "base/Localized.h"
 #include "platform/TaskBar.h"
 #include "ui/AddressField.h"
+#include "ui/DetailsArea.h"
 #include "ui/InterfaceDetails.h"
+#include "ui/InterfaceHeader.h"
 #include "ui/InterfaceSelector.h"
 #include "ui/ReadMeHint.h"
 #include "ui/TextFieldBackgroundView.h"
@@ -23,16 +25,18 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QStyle>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace quillon {
 
 namespace {
 
-constexpr int portIconSize = 32;
-constexpr int linkDotSize = 10;
+/// What a desktop draws around windows, before it has told us.
+constexpr int usualFrame = 32;
 
 QLabel *makeCaption(const QString &text)
 {
@@ -75,24 +79,27 @@ MainWindow::MainWindow(
     setWindowTitle(QStringLiteral("Quillon"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/com.orvandel.Quillon4.svg")));
 
+    m_header = new InterfaceHeader(model, theme);
     m_readMe = new ReadMeHint(model, theme);
     m_details = new InterfaceDetails(model);
+    m_area = new DetailsArea;
+    m_area->add(m_details);
     m_version = makeCaption(QString());
     m_version->setFont(Theme::textFont(0.9));
     m_version->setAccessibleName(localized("Version"));
 
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(
+    m_column = new QVBoxLayout(this);
+    m_column->setContentsMargins(
         Theme::windowMargin, Theme::windowMargin, Theme::windowMargin, Theme::cardMargin);
-    column->setSpacing(Theme::spacing);
+    m_column->setSpacing(Theme::spacing);
     // The window is as large as its texts need, in any language and at any scale.
-    column->setSizeConstraint(QLayout::SetFixedSize);
-    column->addWidget(makeHeader());
-    column->addWidget(m_readMe);
-    column->addWidget(makeAddressCard());
-    column->addWidget(makeButtons());
-    column->addWidget(m_details);
-    column->addWidget(m_version, 0, Qt::AlignRight);
+    m_column->setSizeConstraint(QLayout::SetFixedSize);
+    m_column->addWidget(m_header);
+    m_column->addWidget(m_readMe);
+    m_column->addWidget(makeAddressCard());
+    m_column->addWidget(makeButtons());
+    m_column->addWidget(m_area);
+    m_column->addWidget(m_version, 0, Qt::AlignRight);
 
     makeShortcuts();
     connectModel();
@@ -101,41 +108,14 @@ MainWindow::MainWindow(
     m_field->setFocus();
 }
 
-QWidget *MainWindow::makeHeader()
+void MainWindow::addChoice(QWidget *section)
 {
-    auto *header = new QWidget;
-    header->setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
-    m_portIcon = new QLabel;
-    m_portIcon->setFixedSize(portIconSize, portIconSize);
-    m_selectorCaption = makeCaption(localized("&Interface"));
-    m_selector = new InterfaceSelector(m_model);
-    m_selectorCaption->setBuddy(m_selector);
-    m_portName = new QLabel;
-    m_portName->setObjectName(QStringLiteral("portName"));
-    m_portName->setFont(Theme::textFont(1.0, QFont::DemiBold));
-    m_linkDot = new QLabel;
-    m_linkDot->setFixedSize(linkDotSize, linkDotSize);
-    m_linkText = new QLabel;
-    m_linkText->setObjectName(QStringLiteral("linkState"));
+    m_column->insertWidget(m_column->indexOf(m_area), section);
+}
 
-    auto *link = new QHBoxLayout;
-    link->setSpacing(6);
-    link->addWidget(m_linkDot);
-    link->addWidget(m_linkText);
-    auto *port = new QVBoxLayout;
-    port->setSpacing(2);
-    port->addWidget(m_portName);
-    port->addLayout(link);
-
-    auto *row = new QHBoxLayout(header);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Theme::unit + Theme::unit / 2);
-    row->addWidget(m_portIcon);
-    row->addLayout(port);
-    row->addStretch(1);
-    row->addWidget(m_selectorCaption);
-    row->addWidget(m_selector);
-    return header;
+void MainWindow::addDetails(QWidget *section)
+{
+    m_area->add(section);
 }
 
 QWidget *MainWindow::makeAddressCard()
@@ -196,9 +176,10 @@ void MainWindow::makeShortcuts()
     add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
         [this] { m_presence.quit(); });
 
-    connect(m_selector, &InterfaceSelector::interfacePicked, this, &MainWindow::interfacePicked);
-    connect(m_selector, &InterfaceSelector::selectionPopupShown, this,
-        &MainWindow::selectionPopupShown);
+    InterfaceSelector *const selector = &m_header->selector();
+    connect(selector, &InterfaceSelector::interfacePicked, this, &MainWindow::interfacePicked);
+    connect(
+        selector, &InterfaceSelector::selectionPopupShown, this, &MainWindow::selectionPopupShown);
     connect(m_apply, &QPushButton::clicked, this, &MainWindow::applyPressed);
     connect(m_randomise, &QPushButton::clicked, this, &MainWindow::randomisePressed);
     connect(m_restore, &QPushButton::clicked, this, &MainWindow::restorePressed);
@@ -214,9 +195,8 @@ void MainWindow::connectModel()
 {
     connect(&m_model, &MainWindowModel::changed, this, &MainWindow::refresh);
     connect(&m_model, &MainWindowModel::fieldRestored, m_field, &AddressField::refresh);
-    connect(&m_model, &MainWindowModel::infoButtonsReset, m_selector,
+    connect(&m_model, &MainWindowModel::infoButtonsReset, &m_header->selector(),
         &InterfaceSelector::resetEmphasis);
-    connect(&m_theme, &Theme::changed, this, &MainWindow::refreshLink);
 }
 
 void MainWindow::connectPresence()
@@ -230,8 +210,7 @@ void MainWindow::connectPresence()
 void MainWindow::refresh()
 {
     const auto &state = m_model.state();
-    m_selector->refresh();
-    m_selectorCaption->setVisible(state.selectionVisible);
+    m_header->refresh();
     m_field->refresh();
     m_field->setPlaceholderText(state.fieldPlaceholder);
     m_field->setEnabled(state.fieldEnabled);
@@ -241,30 +220,6 @@ void MainWindow::refresh()
     m_readMe->refresh();
     m_details->refresh();
     m_version->setText(state.versionLabel);
-    m_portName->setText(state.interfaceName);
-    refreshLink();
-}
-
-void MainWindow::refreshLink()
-{
-    const auto &state = m_model.state();
-    const bool known = !state.interfaceName.isEmpty();
-    const bool active = state.linkActive;
-    const auto picture = [this](const QString &name, Theme::Ink ink, int size) {
-        return m_theme.icon(name, ink).pixmap(QSize(size, size), devicePixelRatioF());
-    };
-    m_linkDot->setVisible(known);
-    m_linkDot->setPixmap(
-        active ? picture(QStringLiteral("link-active"), Theme::Ink::Positive, linkDotSize)
-               : picture(QStringLiteral("link-inactive"), Theme::Ink::Muted, linkDotSize));
-    m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
-    m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
-    m_linkText->setProperty("look", active ? QStringLiteral("active") : QStringLiteral("inactive"));
-    style()->unpolish(m_linkText);
-    style()->polish(m_linkText);
-    const bool wireless = state.interfaceName == localized("Wi-Fi");
-    m_portIcon->setPixmap(picture(wireless ? QStringLiteral("wireless") : QStringLiteral("wired"),
-        Theme::Ink::Accent, portIconSize));
 }
 
 void MainWindow::bringUp()
@@ -288,7 +243,25 @@ void MainWindow::followTaskBar()
 void MainWindow::showEvent(QShowEvent *event)
 {
     followTaskBar();
+    fitScreen();
     QWidget::showEvent(event);
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        fitScreen();
+    }
+    return QWidget::event(event);
+}
+
+void MainWindow::fitScreen()
+{
+    const int width = m_column->totalSizeHint().width();
+    const int area = m_area->heightForWidth(width - 2 * Theme::windowMargin);
+    const int rest = m_column->totalHeightForWidth(width) - area;
+    const int frame = std::max(frameGeometry().height() - height(), usualFrame);
+    m_area->setTallest(screen()->availableGeometry().height() - frame - rest);
 }
 
 void MainWindow::mousePressEvent(QMouseEvent *event)

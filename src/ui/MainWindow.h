@@ -11,8 +11,9 @@ class QVBoxLayout;
 namespace quillon {
 
 class AddressField;
+class DetailsArea;
 class InterfaceDetails;
-class InterfaceSelector;
+class InterfaceHeader;
 class MainWindowModel;
 class Presence;
 class ReadMeHint;
@@ -32,6 +33,13 @@ public:
     /// it; otherwise closing is the quit command, so that no program runs that nobody can reach.
     void setReachableWhenClosed(bool reachable) { m_reachableWhenClosed = reachable; }
 
+    /// Puts a section under the buttons, where the next address is chosen.
+    void addChoice(QWidget *section);
+    /// Puts a section under the details, in the order of the calls.
+    void addDetails(QWidget *section);
+    /// What is known of the selected interface; rows can be added.
+    InterfaceDetails &details() { return *m_details; }
+
 Q_SIGNALS:
     void randomisePressed();
     void applyPressed();
@@ -42,21 +50,21 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool event(QEvent *event) override;
     /// The window can be moved by its ground.
     void mousePressEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    QWidget *makeHeader();
     QWidget *makeAddressCard();
     QWidget *makeButtons();
     void makeShortcuts();
     void connectModel();
     void connectPresence();
     void refresh();
-    void refreshLink();
     void bringUp();
     void followTaskBar();
+    void fitScreen();
     bool isGround(const QPoint &place) const;
 
     MainWindowModel &m_model;
@@ -65,19 +73,16 @@ private:
     TaskBar &m_taskBar;
     bool m_reachableWhenClosed = false;
 
-    InterfaceSelector *m_selector;
+    InterfaceHeader *m_header;
     AddressField *m_field;
     QPushButton *m_apply;
     QPushButton *m_randomise;
     QPushButton *m_restore;
     ReadMeHint *m_readMe;
     InterfaceDetails *m_details;
-    QLabel *m_selectorCaption;
-    QLabel *m_portIcon;
-    QLabel *m_portName;
-    QLabel *m_linkDot;
-    QLabel *m_linkText;
+    DetailsArea *m_area;
     QLabel *m_version;
+    QVBoxLayout *m_column;
 };
 
 } // namespace quillon

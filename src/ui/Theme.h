@@ -24,6 +24,7 @@ public:
     static constexpr int spacing = 2 * unit;
     static constexpr int iconSize = 20;
     static constexpr int windowWidth = 460;
+    static constexpr int rowHeight = 26; ///< of a row of details
 
     /// Which of the theme's colours an icon is drawn in. Disabled icons are drawn as disabled text.
     enum class Ink

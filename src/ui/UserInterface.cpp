@@ -3,6 +3,9 @@
 #include "ui/UserInterface.h"
 
 #include "platform/ColorSchemeSource.h"
+#include "ui/InterfaceDetails.h"
+#include "ui/VendorChooser.h"
+#include "ui/VendorDataCard.h"
 
 #include <QApplication>
 
@@ -24,6 +27,10 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     , m_mainWindow(models.mainWindow, models.presence, applied(m_theme), desktop.taskBar)
     , m_statusItem(models.statusMenu, models.presence, desktop.trayHost, m_theme)
 {
+    m_mainWindow.addChoice(new VendorChooser(models.vendorField, m_theme));
+    // It belongs to the details.
+    new StatusRows(models.status, m_theme, m_mainWindow.details());
+    m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,

@@ -4,11 +4,14 @@
 
 #include "ui/MainWindow.h"
 #include "ui/StatusItem.h"
+#include "ui/StatusRows.h"
 #include "ui/Theme.h"
 
 namespace quillon {
 
 class ColorSchemeSource;
+class VendorFieldModel;
+class VendorPaneModel;
 
 /// Everything that is seen of the program, put together: the look, the main window, the status
 /// item. Nothing is shown until Presence says so. Needs a QApplication; main thread.
@@ -20,6 +23,9 @@ public:
         MainWindowModel &mainWindow;
         StatusMenuModel &statusMenu;
         Presence &presence;
+        StatusRows::Models status;
+        VendorFieldModel &vendorField;
+        VendorPaneModel &vendorPane;
     };
     struct Desktop
     {

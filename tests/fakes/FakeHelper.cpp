@@ -187,7 +187,14 @@ public:
             return;
         }
         const auto error = m_peer.change({device, address, deviceIsWiFi, authorization});
-        m_peer.answer([reply, error] { reply(error); });
+        const auto answer = [&peer = m_peer, reply, error] {
+            peer.answer([reply, error] { reply(error); });
+        };
+        if (m_peer.changeTakes.count() > 0) {
+            m_peer.m_scheduler.onMainAfter(m_peer.changeTakes, answer);
+        } else {
+            answer();
+        }
     }
 
     void uninstallWithAuthorizationAndReply(

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -43,6 +44,8 @@ public:
     };
     Mood mood = Mood::Obliging;
     bool serviceHangs = false;
+    /// From the moment the machine has its new address to the answer that tells so.
+    std::chrono::milliseconds changeTakes{0};
 
     /// What the peers were asked.
     struct Change

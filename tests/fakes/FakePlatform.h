@@ -3,21 +3,30 @@
 #pragma once
 
 #include "app/Platform.h"
+#include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeHelper.h"
+#include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeLocationAuthorization.h"
 #include "fakes/FakeNetworkChangeSource.h"
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeRandomSource.h"
+#include "fakes/FakeReachability.h"
 #include "fakes/FakeRunningApplications.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
+#include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
+#include "fakes/FakeWiFiClient.h"
 #include "platform/NotificationCenter.h"
+
+#include <QTemporaryDir>
 
 namespace quillon::test {
 
-/// A whole machine of fakes for the program to run on: two wired interfaces and a helper in place.
+/// A whole machine of fakes for the program to run on: two wired interfaces, a Wi-Fi client without
+/// an interface, a helper in place. The user's data are a folder of their own.
 struct FakePlatform
 {
     FakePlatform()
@@ -33,18 +42,28 @@ struct FakePlatform
     Platform platform()
     {
         return {scheduler, settings, groupSettings, notifications, distributed, userNotifications,
-            host, addresses, networkChanges, helper, random, runningApplications};
+            alerts, host, addresses, networkChanges, reachability, wifi, location, systemSettings,
+            http, helper, random, runningApplications,
+            {data.path(), QString(), QUrl(QStringLiteral("https://address.example")),
+                QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))}};
     }
 
+    QTemporaryDir data;
     FakeScheduler scheduler;
     FakeSettingsStore settings{scheduler};
     FakeSettingsStore groupSettings{scheduler};
     NotificationCenter notifications;
     FakeDistributedNotificationCenter distributed{scheduler};
     FakeUserNotificationCenter userNotifications{scheduler};
+    FakeAlertPresenter alerts;
     FakeNetworkHost host;
     FakeInterfaceAddresses addresses{host};
     FakeNetworkChangeSource networkChanges;
+    FakeReachability reachability;
+    FakeWiFiClient wifi;
+    FakeLocationAuthorization location;
+    FakeSystemSettings systemSettings;
+    FakeHttpClient http{scheduler};
     FakeHelper helper{scheduler, host};
     FakeRandomSource random;
     FakeRunningApplications runningApplications;

@@ -14,7 +14,7 @@ namespace quillon::test {
 class FakeScheduler : public Scheduler
 {
 public:
-    QDateTime now() const override { return m_now; }
+    QDateTime now() const override { return m_now.addMSecs(m_clockIsAhead.count()); }
     bool isMainThread() const override { return m_onMainThread; }
     void onMain(Task task) override;
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
@@ -26,6 +26,9 @@ public:
     void runPending();
     /// Turns the hands forward, running every task at its own moment.
     void advance(std::chrono::milliseconds time);
+    /// Sets the clock forward, or back, as a user does, or time that passed while the machine was
+    /// suspended: now() jumps, and what waits still waits for as long as before.
+    void setClock(std::chrono::milliseconds forward) { m_clockIsAhead += forward; }
     /// Calls `task` as if from another thread.
     void asBackground(const Task &task);
     bool hasTimers() const { return !m_timers.empty(); }
@@ -41,6 +44,7 @@ private:
     bool runTimersDue();
 
     QDateTime m_now = QDateTime::fromSecsSinceEpoch(1'750'000'000, Qt::UTC);
+    std::chrono::milliseconds m_clockIsAhead{0};
     bool m_onMainThread = true;
     std::deque<Task> m_main;
     std::deque<Task> m_background;

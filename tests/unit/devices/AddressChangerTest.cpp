@@ -245,6 +245,49 @@ TEST_F(AddressChange, IsDroppedWhenTheProgramEndsBeforeTheQueueRan)
     EXPECT_TRUE(helper.journal().isEmpty());
 }
 
+TEST_F(AddressChange, TellsWhenItBeginsAndWhenItHasEndedHoweverItWent)
+{
+    QStringList course;
+    QObject::connect(changer.get(), &AddressChanger::changeBegan, [&](const QString &device) {
+        course << QStringLiteral("began ") + device;
+        EXPECT_TRUE(scheduler.isMainThread());
+        EXPECT_TRUE(helper.changes().isEmpty());
+    });
+    QObject::connect(changer.get(), &AddressChanger::changeEnded,
+        [&](const QString &device) { course << QStringLiteral("ended ") + device; });
+    change(QString(), wanted);
+    EXPECT_EQ(course, (QStringList{QStringLiteral("began en1"), QStringLiteral("ended en1")}));
+    EXPECT_EQ(recorded(en1, record::current), wanted.toLower());
+}
+
+TEST_F(AddressChange, ThatFailsHasEndedToo)
+{
+    int began = 0;
+    int ended = 0;
+    QObject::connect(changer.get(), &AddressChanger::changeBegan, [&] { ++began; });
+    QObject::connect(changer.get(), &AddressChanger::changeEnded, [&] { ++ended; });
+    helper.mood = FakeHelper::Mood::Refusing;
+    change(en1, wanted);
+    helper.mood = FakeHelper::Mood::Dropping;
+    change(en1, wanted);
+    helper.mood = FakeHelper::Mood::Obliging;
+    helper.installed = false;
+    change(en1, wanted);
+    host.unplug(en1);
+    change(en1, wanted);
+    EXPECT_EQ(began, 4);
+    EXPECT_EQ(ended, 4);
+}
+
+TEST_F(AddressChange, ToTheAddressInUseNeverBegins)
+{
+    int news = 0;
+    QObject::connect(changer.get(), &AddressChanger::changeBegan, [&] { ++news; });
+    QObject::connect(changer.get(), &AddressChanger::changeEnded, [&] { ++news; });
+    change(en1, QStringLiteral("02:16:3e:44:55:66"));
+    EXPECT_EQ(news, 0);
+}
+
 /// Holds up whoever tells the user something until it is let go.
 class SlowNotifier : public Notifier
 {

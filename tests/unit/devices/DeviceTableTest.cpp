@@ -339,5 +339,20 @@ TEST_F(DeviceQueries, FromManyThreadsReachTheHostOneAtATime)
     EXPECT_FALSE(touchy.wasCrowded());
 }
 
+TEST(FirstChangedDevice, IsTheFirstByNameWhoseRecordDiffers)
+{
+    const QVariantMap one{{record::status, QStringLiteral("active")}};
+    const QVariantMap other{{record::status, QStringLiteral("inactive")}};
+    const QString en0 = QStringLiteral("en0");
+    const QString en1 = QStringLiteral("en1");
+    EXPECT_EQ(firstChangedDevice({}, {}), QString());
+    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, one}}), QString());
+    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, other}}), en1);
+    EXPECT_EQ(firstChangedDevice({{en1, one}, {en0, one}}, {{en0, other}, {en1, other}}), en0);
+    EXPECT_EQ(firstChangedDevice({{en0, one}}, {}), en0);
+    EXPECT_EQ(firstChangedDevice({{en0, one}}, {{en0, one}, {en1, one}}), QString())
+        << "a device that is new has not changed";
+}
+
 } // namespace
 } // namespace quillon::test

@@ -118,6 +118,37 @@ TEST_F(AddressFieldTest, FollowsTheSelectedInterface)
     EXPECT_EQ(field.text(), QStringLiteral("3C:22:FB:00:00:02"));
 }
 
+TEST_F(AddressFieldTest, AFieldLeftEmptyShowsTheCurrentAddressAgain)
+{
+    field.selectAll();
+    press(field, Qt::Key_Backspace);
+    scheduler.runPending();
+    ASSERT_EQ(field.text(), QString()) << "not before the user is done with it";
+    QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&field, &left);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, ReturnInAnEmptyFieldShowsTheCurrentAddressAgain)
+{
+    field.selectAll();
+    press(field, Qt::Key_Backspace);
+    press(field, Qt::Key_Return);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, WhatIsLeftUnfinishedStays)
+{
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&field, &left);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:0"));
+}
+
 class DropOnTheFieldTest : public AddressFieldTest
 {
 protected:

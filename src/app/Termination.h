@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+namespace quillon {
+
+class RecordSaving;
+
+/// The program's wish to end, from wherever it comes: it ends once its records are saved, or the
+/// user does without. Main thread.
+class Termination : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Termination(RecordSaving &saving);
+
+    /// While the user is asked, further wishes wait for the same answer.
+    void terminate();
+
+Q_SIGNALS:
+    /// Nothing keeps the program from ending.
+    void granted();
+
+private:
+    RecordSaving &m_saving;
+    bool m_asking = false;
+};
+
+} // namespace quillon

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+
+namespace quillon {
+
+class NotificationCenter;
+class VendorChoice;
+class VendorList;
+
+/// The vendor text field with its popover, a list of manufacturers that the typed text narrows.
+/// Widgets mirror state() and the rows, and hand on what the user does. Main thread.
+class VendorFieldModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct State
+    {
+        QString text;
+        bool popoverShown = false;
+        /// The row of the list that is selected.
+        std::optional<qsizetype> selectedRow;
+        /// The button of the vendor information.
+        bool vendorButtonVisible = false;
+
+        bool operator==(const State &) const = default;
+    };
+    /// What an editing field can be told to do.
+    enum class Command
+    {
+        MoveDown,
+        Other,
+    };
+    enum class Key
+    {
+        Return,
+        Down,
+        Up,
+        Other,
+    };
+
+    VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
+
+    const State &state() const { return m_state; }
+    qsizetype rowCount() const;
+    /// The text of a row that is there.
+    QString rowText(qsizetype row) const;
+    QString rowToolTip(qsizetype row) const { return rowText(row); }
+
+    /// The user edited the field to `text`.
+    void controlTextDidChange(const QString &text);
+    /// The user's command in the field. Always false: the field carries it out as well.
+    bool controlDoCommandBySelector(Command command);
+    /// The user is about to select a row of the list, which is then the choice. Always true.
+    bool tableViewShouldSelectRow(qsizetype row);
+    /// A key in the list: true when it is the list's own to handle.
+    bool tableKeyDown(Key key);
+
+    void toggleVendorViewPopover();
+    void showVendorViewPopover();
+    void closeVendorViewPopover();
+
+    // What follows from elsewhere.
+    void showText(const QString &text);
+    void selectRow(const std::optional<qsizetype> &row);
+    void showVendorButton(bool shown);
+    void rearrange();
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+    /// Other rows are shown than before.
+    void rowsChanged();
+    /// The field's text is to be selected, and the insertion point then put behind it.
+    void insertionPointDue();
+    /// The list is to take the keyboard.
+    void listFocusDue();
+    /// The list is to show `row`, scrolling if need be.
+    void scrollDue(qsizetype row);
+
+private:
+    void update(const State &state);
+
+    VendorChoice &m_choice;
+    VendorList &m_list;
+    NotificationCenter &m_notifications;
+    State m_state;
+    /// What the selected row holds, by which it is found again when the rows change.
+    QString m_selectedEntry;
+};
+
+} // namespace quillon

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+namespace quillon {
+
+class RegistryDownload;
+class SettingsStore;
+
+/// What the "Vendor Data" pane shows: the refresh button, its progress, and two lines of text. Main
+/// thread.
+class VendorPaneModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Action
+    {
+        StartDownload,
+        CancelDownload,
+    };
+    struct State
+    {
+        QString buttonTitle;
+        Action action = Action::StartDownload;
+        /// 0 to 1; below 0 while the size of a download is not known.
+        float progress = 0;
+        bool progressShown = false;
+        QString updatedLabel;
+        QString vendorCount;
+
+        bool operator==(const State &) const = default;
+    };
+
+    VendorPaneModel(const SettingsStore &settings, RegistryDownload &download);
+
+    const State &state() const { return m_state; }
+    /// The user pressed the button: what state().action says.
+    void pressButton();
+
+    /// At start: what the settings remember.
+    void showStoredTexts();
+
+    // What happened to the refresh and to the database.
+    void showDownloadBegun();
+    void showProgress(qint64 chunk, qint64 received, qint64 expected);
+    void showDownloadCancelled();
+    void showProcessingBegun();
+    void showParsingFailed();
+    void showDownloadCompleted(const QString &date);
+    void resetDownloadButton();
+    void showFirstCountBegun();
+    void showAdditionNoted(const QString &note);
+    void showCount(qlonglong count);
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+
+private:
+    void update(const State &state);
+    void updateLabel(const QString &text);
+    void updateCount(const QString &text);
+
+    const SettingsStore &m_settings;
+    RegistryDownload &m_download;
+    State m_state;
+};
+
+} // namespace quillon

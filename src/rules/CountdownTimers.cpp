@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/CountdownTimers.h"
+
+#include "base/Localized.h"
+#include "base/NotificationNames.h"
+#include "base/Notifier.h"
+#include "base/SettingsKeys.h"
+#include "devices/DeviceTable.h"
+#include "devices/RandomAddress.h"
+#include "platform/NotificationCenter.h"
+#include "rules/CountdownText.h"
+#include "rules/RuleQueries.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::chrono::milliseconds tickInterval{1000};
+constexpr qint64 secondsInMinute = 60;
+constexpr int warnedInterval = 1;
+const QString menuIndentation = QStringLiteral("    ");
+
+namespace key {
+
+const QString startDate = QStringLiteral("startDate");
+const QString interval = QStringLiteral("interval");
+const QString timer = QStringLiteral("timer");
+const QString isPaused = QStringLiteral("isPaused");
+const QString remaining = QStringLiteral("remaining");
+const QString label = QStringLiteral("label");
+const QString display = QStringLiteral("display");
+const QString menu = QStringLiteral("menu");
+
+} // namespace key
+
+QString markedAsPaused(const QString &text)
+{
+    const QString mark = localized("(paused)");
+    return text.contains(mark) ? text : text + QLatin1Char(' ') + mark;
+}
+
+} // namespace
+
+CountdownTimers::CountdownTimers(const Collaborators &collaborators)
+    : m_with(collaborators)
+{
+}
+
+CountdownTimers::~CountdownTimers()
+{
+    for (const Countdown &countdown : std::as_const(m_timers)) {
+        m_with.scheduler.cancel(countdown.timer);
+    }
+}
+
+void CountdownTimers::startCountDownTimer(const QString &device)
+{
+    stopCountdownTimer(device);
+    Countdown countdown;
+    countdown.startDate = m_with.scheduler.now();
+    countdown.interval = minutesOfRule(device);
+    countdown.timer = m_with.scheduler.repeat(tickInterval, [self = QPointer(this), device] {
+        if (auto *const that = self.data()) {
+            that->checkCountdownTimer(device);
+        }
+    });
+    m_timers[device] = countdown;
+    // By now the start has passed, if by less than the clock tells.
+    const QDateTime soon = countdown.startDate.addMSecs(1);
+    const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
+        countdown.startDate, countdown.interval, std::max(soon, m_with.scheduler.now()));
+    m_with.notifier.sendNotificationWithBody(
+        localized("Quillon Timer started"), text.displayString);
+}
+
+int CountdownTimers::minutesOfRule(const QString &device) const
+{
+    const QVariantMap rule = m_with.devices.record(device).value(record::rule).toMap();
+    // As many as a rule can hold, whatever the settings say.
+    using Minutes = std::numeric_limits<qint16>;
+    return static_cast<int>(std::clamp<qlonglong>(
+        rule.value(timerMinutesKey).toLongLong(), Minutes::min(), Minutes::max()));
+}
+
+void CountdownTimers::stopCountdownTimer(const QString &device)
+{
+    const auto found = m_timers.constFind(device);
+    if (found != m_timers.constEnd()) {
+        m_with.scheduler.cancel(found->timer);
+        m_timers.erase(found);
+        Q_EMIT timerLabelStale();
+    }
+    if (m_timers.isEmpty()) {
+        Q_EMIT timerLabelStale();
+    }
+    postOverview();
+}
+
+void CountdownTimers::pauseCountdownTimer(const QString &device)
+{
+    Q_EMIT timerButtonsStale();
+    const auto found = m_timers.find(device);
+    if (found != m_timers.end()) {
+        found->pausedRemaining = generateTimerCountdownStringForStartDateAndInterval(
+            found->startDate, found->interval, m_with.scheduler.now())
+                                     .remaining;
+    }
+}
+
+void CountdownTimers::resumeCountdownTimer(const QString &device)
+{
+    Q_EMIT timerButtonsStale();
+    const auto found = m_timers.find(device);
+    if (found != m_timers.end()) {
+        found->pausedRemaining.reset();
+    }
+}
+
+void CountdownTimers::checkCountdownTimer(const QString &device)
+{
+    const auto found = m_timers.find(device);
+    if (found == m_timers.end()) {
+        return;
+    }
+    const QDateTime now = m_with.scheduler.now();
+    const CountdownText text =
+        generateTimerCountdownStringForStartDateAndInterval(found->startDate, found->interval, now);
+    showTime(*found, text.displayString, now);
+    const bool warns = takeMinuteWarning(*found, text.remaining);
+    // A copy: whoever hears of the tick may end or restart the countdown.
+    const Countdown countdown = *found;
+    if (countdown.menuTitle) {
+        Q_EMIT menuItemTitled(device, *countdown.menuTitle);
+    }
+    Q_EMIT ticked(device, *countdown.display, countdown.pausedRemaining.has_value());
+    if (warns) {
+        m_with.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
+    }
+    if (isRunning(device, countdown.timer)) {
+        actOnRemaining(device, countdown, text.remaining);
+    }
+    postOverview();
+}
+
+void CountdownTimers::showTime(Countdown &countdown, const QString &text, const QDateTime &now)
+{
+    QString shown = text;
+    if (const std::optional<qint64> paused = countdown.pausedRemaining) {
+        shown = markedAsPaused(countdown.display.value_or(text));
+        // After resuming it goes on from where it was paused.
+        countdown.startDate = now.addSecs(*paused - countdown.interval * secondsInMinute + 1);
+    }
+    countdown.display = shown;
+    if (countdown.menuTitle) {
+        countdown.menuTitle = menuIndentation + shown;
+    }
+}
+
+bool CountdownTimers::takeMinuteWarning(Countdown &countdown, qint64 remaining)
+{
+    if (remaining > secondsInMinute) {
+        countdown.minuteWarningGiven = false;
+    }
+    // The tick that passes the minute counts: the first one comes when a second is gone already.
+    const bool due = countdown.interval == warnedInterval && remaining > 0 &&
+                     remaining <= secondsInMinute && !countdown.minuteWarningGiven &&
+                     !countdown.pausedRemaining;
+    countdown.minuteWarningGiven = countdown.minuteWarningGiven || due;
+    return due;
+}
+
+bool CountdownTimers::isRunning(const QString &device, Scheduler::Token timer) const
+{
+    const auto found = m_timers.constFind(device);
+    return found != m_timers.constEnd() && found->timer == timer && !found->pausedRemaining;
+}
+
+void CountdownTimers::actOnRemaining(
+    const QString &device, const Countdown &countdown, qint64 remaining)
+{
+    if (remaining < 0 || countdown.interval <= 0) {
+        startCountDownTimer(device);
+    } else if (remaining == 0) {
+        // The change comes after all that belongs to this tick.
+        m_with.scheduler.onMain([self = QPointer(this), device, timer = countdown.timer] {
+            if (auto *const that = self.data()) {
+                that->expire(device, timer);
+            }
+        });
+    }
+}
+
+void CountdownTimers::expire(const QString &device, Scheduler::Token timer)
+{
+    // It may have been stopped or restarted since, and two ticks may have met the same zero.
+    if (isRunning(device, timer)) {
+        m_with.randomAddress.genRandomMacAddressWithVendor(device);
+        startCountDownTimer(device);
+    }
+}
+
+void CountdownTimers::setMenuItemShown(const QString &device, bool shown)
+{
+    const auto found = m_timers.find(device);
+    if (found == m_timers.end()) {
+        return;
+    }
+    found->menuTitle.reset();
+    if (shown) {
+        found->menuTitle = menuIndentation + found->display.value_or(QString());
+    }
+}
+
+QVariantMap CountdownTimers::timers() const
+{
+    QVariantMap table;
+    for (auto entry = m_timers.cbegin(); entry != m_timers.cend(); ++entry) {
+        table[entry.key()] = asPropertyList(entry.key(), *entry);
+    }
+    return table;
+}
+
+QVariantMap CountdownTimers::asPropertyList(const QString &device, const Countdown &countdown)
+{
+    QVariantMap entry{
+        {record::device, device},
+        {key::startDate, countdown.startDate},
+        {key::interval, static_cast<qlonglong>(countdown.interval)},
+        {key::timer, static_cast<qlonglong>(countdown.timer)},
+    };
+    if (countdown.pausedRemaining) {
+        entry[key::isPaused] = QVariantMap{{key::remaining, *countdown.pausedRemaining}};
+    }
+    QVariantMap label;
+    if (countdown.display) {
+        label[key::display] = *countdown.display;
+    }
+    if (countdown.menuTitle) {
+        label[key::menu] = *countdown.menuTitle;
+    }
+    if (!label.isEmpty()) {
+        entry[key::label] = label;
+    }
+    return entry;
+}
+
+void CountdownTimers::postOverview()
+{
+    m_with.notifications.post(notifications::updateOverview, this, timers());
+}
+
+} // namespace quillon

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Scheduler.h"
+
+#include <QHash>
+#include <QObject>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace quillon {
+
+class DeviceTable;
+class NotificationCenter;
+class Notifier;
+class RandomAddress;
+
+/// The countdowns of rules that change an address again and again: one for each device, ticking
+/// once a second. Every tick computes what is left from the wall clock, so late ticks never add
+/// up. They end with the program. Main thread.
+class CountdownTimers : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Collaborators
+    {
+        Scheduler &scheduler;
+        NotificationCenter &notifications;
+        Notifier &notifier;
+        const DeviceTable &devices;
+        RandomAddress &randomAddress;
+    };
+
+    explicit CountdownTimers(const Collaborators &collaborators);
+    ~CountdownTimers() override;
+
+    /// Starts the countdown of `device` anew, as long as the "timerMinutes" of the rule in its
+    /// record say. At its end the device gets a random address, and it starts again. That address
+    /// is one of the manufacturer that was chosen for the device, if any; the rule's own choice
+    /// does not count. One that is a second late or more, or has no length, starts again without a
+    /// change.
+    void startCountDownTimer(const QString &device);
+    void stopCountdownTimer(const QString &device);
+    /// A paused countdown shows what it showed, does not come to its end, and goes on from where it
+    /// was. For a device without countdown: nothing beyond the signal.
+    void pauseCountdownTimer(const QString &device);
+    void resumeCountdownTimer(const QString &device);
+
+    /// The running and paused countdowns as property-list data, device to dictionary: "device";
+    /// "startDate" (moved while paused); "interval", minutes; "timer", the number of the running
+    /// timer; "isPaused" only while paused, holding "remaining", seconds; "label" from the first
+    /// tick on, holding "display" and, while the menu shows the countdown, "menu", the title of its
+    /// item.
+    QVariantMap timers() const;
+    /// The menu has an item that shows the countdown of `device`, or no longer.
+    void setMenuItemShown(const QString &device, bool shown);
+
+Q_SIGNALS:
+    /// Every second, for each device; `text` tells what is left.
+    void ticked(const QString &device, const QString &text, bool isPaused);
+    /// The title of the countdown's menu item, where it has one.
+    void menuItemTitled(const QString &device, const QString &title);
+    /// The window's countdown label is to be emptied and its buttons hidden.
+    void timerLabelStale();
+    /// Pause or resume was asked for: the window's buttons are to look normal.
+    void timerButtonsStale();
+
+private:
+    struct Countdown
+    {
+        QDateTime startDate;
+        int interval = 0; ///< minutes
+        Scheduler::Token timer = 0;
+        std::optional<qint64> pausedRemaining; ///< seconds; while paused
+        std::optional<QString> display;
+        std::optional<QString> menuTitle; ///< while the menu has an item
+        bool minuteWarningGiven = false;
+    };
+
+    int minutesOfRule(const QString &device) const;
+    static QVariantMap asPropertyList(const QString &device, const Countdown &countdown);
+    static void showTime(Countdown &countdown, const QString &text, const QDateTime &now);
+    static bool takeMinuteWarning(Countdown &countdown, qint64 remaining);
+    bool isRunning(const QString &device, Scheduler::Token timer) const;
+    void checkCountdownTimer(const QString &device);
+    void actOnRemaining(const QString &device, const Countdown &countdown, qint64 remaining);
+    void expire(const QString &device, Scheduler::Token timer);
+    void postOverview();
+
+    Collaborators m_with;
+    QHash<QString, Countdown> m_timers;
+};
+
+} // namespace quillon

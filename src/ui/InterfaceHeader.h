@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace quillon {
+
+class InterfaceSelector;
+class MainWindowModel;
+class Theme;
+
+/// The top of the main window: what the selected interface is, whether its link is active, and the
+/// button that selects another.
+class InterfaceHeader : public QWidget
+{
+    Q_OBJECT
+
+public:
+    InterfaceHeader(MainWindowModel &model, const Theme &theme, QWidget *parent = nullptr);
+
+    InterfaceSelector &selector() { return *m_selector; }
+    void refresh();
+
+private:
+    void refreshLink();
+
+    MainWindowModel &m_model;
+    const Theme &m_theme;
+    InterfaceSelector *m_selector;
+    QLabel *m_selectorCaption;
+    QLabel *m_portIcon;
+    QLabel *m_portName;
+    QLabel *m_linkDot;
+    QLabel *m_linkText;
+};
+
+} // namespace quillon

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFrame>
+
+class QLineEdit;
+class QToolButton;
+
+namespace quillon {
+
+class Theme;
+class VendorFieldModel;
+class VendorTableView;
+
+/// The field that names the manufacturer of random addresses. The list to choose from opens under
+/// it, over what else is in the window, and closes when the user turns to something else.
+class VendorChooser : public QFrame
+{
+    Q_OBJECT
+
+public:
+    VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent = nullptr);
+
+protected:
+    /// The keys of field and list, the moment when both lose the keyboard, presses beside the list.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+
+private:
+    void makeField();
+    void makeToggle(const Theme &theme);
+    void connectModel();
+    void refresh();
+    bool takesKey(QObject *watched, int key);
+    void close();
+    void closeWhenLeft();
+    void openList();
+    void placeList();
+
+    VendorFieldModel &m_model;
+    QLineEdit *m_field;
+    QToolButton *m_toggle;
+    VendorTableView *m_table;
+};
+
+} // namespace quillon

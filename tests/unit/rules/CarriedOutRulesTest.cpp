@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/CarriedOutRules.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+const QString en0 = QStringLiteral("en0");
+const QString en1 = QStringLiteral("en1");
+const CarriedOutRules::Occasion home{
+    {{QStringLiteral("address"), QStringLiteral("Random Address")}}, QStringLiteral("Home")};
+const CarriedOutRules::Occasion office{home.rule, QStringLiteral("Office")};
+
+class CarriedOut : public ::testing::Test
+{
+protected:
+    /// The change has settled now and left the link down.
+    void settleDown()
+    {
+        rules.carryOut(en0, home);
+        rules.changeBegan(en0);
+        rules.sawOffNetwork(en0, now);
+        rules.changeSettled(en0, false, now);
+    }
+
+    CarriedOutRules rules;
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(1'750'000'000, Qt::UTC);
+};
+
+TEST_F(CarriedOut, IsRememberedForItsDeviceRuleAndNetwork)
+{
+    rules.carryOut(en0, home);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    EXPECT_FALSE(rules.isCarriedOut(en1, home));
+    EXPECT_FALSE(rules.isCarriedOut(en0, office));
+    EXPECT_FALSE(rules.isCarriedOut(en0, {{}, QStringLiteral("Home")}));
+    EXPECT_EQ(rules.devices(), QStringList{en0});
+}
+
+TEST_F(CarriedOut, IsForgottenWhenTheLinkGoesByItself)
+{
+    rules.carryOut(en0, home);
+    rules.sawOnNetwork(en0, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawOffNetwork(en0, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+    EXPECT_TRUE(rules.devices().isEmpty());
+}
+
+TEST_F(CarriedOut, OutlivesALinkThatGoesDuringAChange)
+{
+    rules.carryOut(en0, home);
+    rules.changeBegan(en0);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawOnNetwork(en0, now);
+    rules.changeSettled(en0, true, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawOffNetwork(en0, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, OutlivesALinkThatComesBackAfterTheChange)
+{
+    rules.carryOut(en0, home);
+    rules.changeBegan(en0);
+    rules.changeSettled(en0, false, now);
+    rules.sawOffNetwork(en0, now);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawOnNetwork(en0, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawOffNetwork(en0, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home)) << "the next loss is none of ours";
+}
+
+TEST_F(CarriedOut, OutlivesALinkThatComesBackWithinAMinute)
+{
+    settleDown();
+    rules.sawOffNetwork(en0, now.addSecs(60));
+    rules.sawOnNetwork(en0, now.addSecs(60));
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, IsForgottenWhenTheLinkComesBackAfterAMinute)
+{
+    settleDown();
+    rules.sawOnNetwork(en0, now.addSecs(61));
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, IsForgottenWhenTheLinkIsStillDownAfterAMinute)
+{
+    settleDown();
+    rules.sawOffNetwork(en0, now.addSecs(61));
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, IsForgottenWhenTheClockWasSetBackWhileTheLinkWasDown)
+{
+    settleDown();
+    rules.sawOnNetwork(en0, now.addSecs(-1));
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, OutlivesALinkThatComesBackLateDuringAnotherChange)
+{
+    settleDown();
+    rules.changeBegan(en0);
+    rules.sawOnNetwork(en0, now.addSecs(61));
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, AnewIsNotForgottenForALinkThatWasDownBefore)
+{
+    settleDown();
+    rules.carryOut(en0, office);
+    rules.sawOnNetwork(en0, now.addSecs(3600));
+    EXPECT_TRUE(rules.isCarriedOut(en0, office));
+}
+
+TEST_F(CarriedOut, WaitsForTheLastOfSeveralChanges)
+{
+    rules.carryOut(en0, home);
+    rules.changeBegan(en0);
+    rules.changeBegan(en0);
+    rules.changeSettled(en0, true, now);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, IsForgottenWithTheDeviceEvenDuringAChange)
+{
+    rules.carryOut(en0, home);
+    rules.changeBegan(en0);
+    rules.sawGone(en0);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+    rules.changeSettled(en0, false, now);
+    rules.sawGone(en0);
+    rules.carryOut(en0, home);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(CarriedOut, ToleratesWhatItNeverHeardOf)
+{
+    rules.sawOnNetwork(en0, now);
+    rules.sawOffNetwork(en0, now);
+    rules.sawGone(en0);
+    rules.changeSettled(en0, true, now);
+    rules.changeSettled(en0, true, now);
+    rules.carryOut(en0, home);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+} // namespace
+} // namespace quillon::test

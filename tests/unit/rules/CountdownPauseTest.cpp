@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CountdownMachine.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+namespace {
+
+const QString in = QStringLiteral("...changing MAC Address in ");
+
+class PausedCountdown : public CountdownMachine
+{
+protected:
+    /// Two minutes, paused when 90 seconds are left.
+    PausedCountdown()
+    {
+        timers->startCountDownTimer(en0);
+        pass(30s);
+        timers->pauseCountdownTimer(en0);
+    }
+    QVariant pausedRemaining() const
+    {
+        return timer(en0)
+            .value(QStringLiteral("isPaused"))
+            .toMap()
+            .value(QStringLiteral("remaining"));
+    }
+};
+
+TEST_F(PausedCountdown, RemembersWhatIsLeft)
+{
+    EXPECT_EQ(pausedRemaining(), QVariant(90));
+    EXPECT_EQ(timer(en0).value(QStringLiteral("isPaused")).toMap().size(), 1);
+    EXPECT_EQ(reset, 1);
+}
+
+TEST_F(PausedCountdown, FreezesTheTextMarkedOnce)
+{
+    for (int second = 0; second < 5; ++second) {
+        pass(1s);
+        EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30 (paused)"));
+        EXPECT_TRUE(shownAsPaused);
+    }
+}
+
+TEST_F(PausedCountdown, GoesOnFromWhereItWasGiveOrTakeASecond)
+{
+    pass(10min);
+    timers->resumeCountdownTimer(en0);
+    EXPECT_FALSE(timer(en0).contains(QStringLiteral("isPaused")));
+    EXPECT_EQ(reset, 2);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+    EXPECT_FALSE(shownAsPaused);
+    pass(89s);
+    EXPECT_TRUE(changes.isEmpty());
+    pass(1s);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(started(), 2);
+}
+
+TEST_F(PausedCountdown, MovesItsStartWithEveryTick)
+{
+    pass(1s);
+    const QDateTime moved = timer(en0).value(QStringLiteral("startDate")).toDateTime();
+    EXPECT_EQ(scheduler.now().secsTo(moved), 90 - 120 + 1);
+    pass(1s);
+    EXPECT_EQ(moved.secsTo(timer(en0).value(QStringLiteral("startDate")).toDateTime()), 1);
+}
+
+TEST_F(PausedCountdown, NeitherChangesNorStartsAnewHoweverLong)
+{
+    pass(24h);
+    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_EQ(started(), 1);
+    EXPECT_EQ(pausedRemaining(), QVariant(90));
+}
+
+TEST_F(PausedCountdown, StaysPausedThroughASuspension)
+{
+    pass(1s);
+    scheduler.setClock(8h);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30 (paused)"));
+    EXPECT_TRUE(changes.isEmpty());
+    timers->resumeCountdownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+}
+
+TEST_F(PausedCountdown, StaysPausedWhenTheClockIsSetBack)
+{
+    scheduler.setClock(-8h);
+    pass(2s);
+    timers->resumeCountdownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+}
+
+TEST_F(PausedCountdown, ResumedBeforeATickGoesOnByTheClock)
+{
+    pass(400ms);
+    timers->resumeCountdownTimer(en0);
+    pass(600ms);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:29"));
+}
+
+TEST_F(PausedCountdown, PausedTwiceTellsTheLatterTime)
+{
+    pass(10s);
+    timers->resumeCountdownTimer(en0);
+    pass(30s);
+    timers->pauseCountdownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:01 (paused)"));
+}
+
+TEST_F(PausedCountdown, IsNotPausedAnyMoreWhenItIsStartedAnew)
+{
+    timers->startCountDownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:59"));
+    EXPECT_FALSE(shownAsPaused);
+}
+
+TEST_F(PausedCountdown, InItsLastSecondWaitsToBeResumed)
+{
+    timers->startCountDownTimer(en0);
+    pass(119'500ms);
+    timers->pauseCountdownTimer(en0);
+    EXPECT_EQ(pausedRemaining(), QVariant(0));
+    pass(1min);
+    EXPECT_TRUE(changes.isEmpty());
+    timers->resumeCountdownTimer(en0);
+    pass(2s);
+    EXPECT_EQ(changes.size(), 1);
+}
+
+TEST_F(PausedCountdown, BetweenItsZeroAndTheChangeMakesNone)
+{
+    timers->startCountDownTimer(en0);
+    QObject::connect(
+        timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
+            if (text.endsWith(QStringLiteral("00:00:00"))) {
+                scheduler.onMain([this] { timers->pauseCountdownTimer(en0); });
+            }
+        });
+    pass(130s);
+    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_EQ(pausedRemaining(), QVariant(0));
+}
+
+TEST_F(PausedCountdown, BeforeItsFirstTickShowsTheTime)
+{
+    timers->startCountDownTimer(en0);
+    timers->pauseCountdownTimer(en0);
+    pass(2s);
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:59 (paused)"));
+}
+
+TEST_F(PausedCountdown, OfOneMinuteDoesNotWarnWhileItWaits)
+{
+    ruleSays(en0, 1);
+    timers->startCountDownTimer(en0);
+    timers->pauseCountdownTimer(en0);
+    pass(1min);
+    EXPECT_EQ(warnings(), 0);
+    timers->resumeCountdownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(warnings(), 1);
+}
+
+TEST_F(PausedCountdown, OfAnInterfaceWithoutOneOnlyResetsTheButtons)
+{
+    timers->pauseCountdownTimer(en1);
+    timers->resumeCountdownTimer(en1);
+    EXPECT_EQ(reset, 3);
+    EXPECT_EQ(timers->timers().keys(), QStringList{en0});
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,313 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "CountdownMachine.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+namespace {
+
+const QString in = QStringLiteral("...changing MAC Address in ");
+
+class Countdown : public CountdownMachine
+{
+};
+
+TEST_F(Countdown, IsToldWhenItStarts)
+{
+    timers->startCountDownTimer(en0);
+    EXPECT_EQ(notifier.messages(),
+        (QList<FakeNotifier::Message>{
+            {QStringLiteral("Quillon Timer started"), in + QStringLiteral("00:01:59")}}));
+}
+
+TEST_F(Countdown, IsKeptUnderItsDevice)
+{
+    timers->startCountDownTimer(en0);
+    const QVariantMap entry = timer(en0);
+    EXPECT_EQ(entry.value(QStringLiteral("device")).toString(), en0);
+    EXPECT_EQ(entry.value(QStringLiteral("startDate")).toDateTime(), scheduler.now());
+    EXPECT_EQ(entry.value(QStringLiteral("interval")), QVariant(2));
+    EXPECT_FALSE(entry.contains(QStringLiteral("isPaused")));
+    EXPECT_FALSE(entry.contains(QStringLiteral("label"))) << "nothing was shown yet";
+    EXPECT_TRUE(isPropertyList(timers->timers()));
+}
+
+TEST_F(Countdown, TicksOnceASecond)
+{
+    timers->startCountDownTimer(en0);
+    pass(999ms);
+    EXPECT_EQ(ticks, 0);
+    pass(1ms);
+    EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("00:01:59"));
+    pass(59s);
+    EXPECT_EQ(ticks, 60);
+    EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("00:01:00"));
+    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:00"));
+    EXPECT_FALSE(shownAsPaused);
+}
+
+TEST_F(Countdown, ChangesTheAddressAtZeroAndStartsAgain)
+{
+    random.put(QByteArray::fromHex("3f0102030405"));
+    timers->startCountDownTimer(en0);
+    pass(119s);
+    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_EQ(started(), 1);
+    pass(1s);
+    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+    EXPECT_EQ(started(), 2);
+    EXPECT_EQ(timer(en0).value(QStringLiteral("startDate")).toDateTime(), scheduler.now());
+    pass(120s);
+    EXPECT_EQ(changes.size(), 2);
+    EXPECT_EQ(started(), 3);
+}
+
+TEST_F(Countdown, ChangesAfterTheTickHasDoneItsBookkeeping)
+{
+    timers->startCountDownTimer(en0);
+    QStringList order;
+    notifications.addObserver(notifications::updateOverview,
+        [&](const auto &) { order << QString::number(changes.size()); });
+    pass(119s);
+    order.clear();
+    pass(1s);
+    EXPECT_EQ(order, (QStringList{QStringLiteral("0"), QStringLiteral("1")}))
+        << "the tick first; then the change, and the restart";
+}
+
+TEST_F(Countdown, GivesARandomAddressWhateverTheVendorOfTheRule)
+{
+    random.put(QByteArray::fromHex("3f0102030405"));
+    timers->startCountDownTimer(en0);
+    pass(120s);
+    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+}
+
+TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
+{
+    random.put(QByteArray::fromHex("3f0102030405"));
+    QVariantMap devices = table.devices();
+    QVariantMap record = devices.value(en0).toMap();
+    record[record::vendor] = QStringLiteral("Another (3C22FB)");
+    devices[en0] = record;
+    settings.set(keys::deviceDict, devices);
+    timers->startCountDownTimer(en0);
+    pass(120s);
+    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});
+}
+
+TEST_F(Countdown, TakesItsLengthFromTheRuleInForceAtEachStart)
+{
+    timers->startCountDownTimer(en0);
+    ruleSays(en0, 5);
+    pass(120s);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(timer(en0).value(QStringLiteral("interval")), QVariant(5));
+    pass(299s);
+    EXPECT_EQ(changes.size(), 1);
+    pass(1s);
+    EXPECT_EQ(changes.size(), 2);
+}
+
+TEST_F(Countdown, OfEachInterfaceRunsOnItsOwn)
+{
+    ruleSays(en1, 3);
+    timers->startCountDownTimer(en0);
+    pass(30s);
+    timers->startCountDownTimer(en1);
+    EXPECT_EQ(timers->timers().keys(), (QStringList{en0, en1}));
+    pass(90s);
+    EXPECT_EQ(changes.size(), 1);
+    pass(90s);
+    EXPECT_EQ(changes.last().left(3), en1);
+}
+
+TEST_F(Countdown, RestartedLeavesOneTimer)
+{
+    timers->startCountDownTimer(en0);
+    pass(60s);
+    timers->startCountDownTimer(en0);
+    ticks = 0;
+    pass(10s);
+    EXPECT_EQ(ticks, 10);
+    pass(109s);
+    EXPECT_TRUE(changes.isEmpty());
+    pass(1s);
+    EXPECT_EQ(changes.size(), 1);
+}
+
+TEST_F(Countdown, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
+{
+    ruleSays(en0, 1);
+    timers->startCountDownTimer(en0);
+    pass(1s);
+    EXPECT_EQ(notifier.messages().last(),
+        (FakeNotifier::Message{QStringLiteral("Quillon"), in + QStringLiteral("00:00:59")}));
+    pass(58s);
+    EXPECT_EQ(warnings(), 1);
+    pass(2s);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(warnings(), 2) << "the next minute has begun";
+}
+
+TEST_F(Countdown, OfMoreMinutesChangesWithoutWarning)
+{
+    ruleSays(en0, 5);
+    timers->startCountDownTimer(en0);
+    pass(301s);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(warnings(), 0);
+}
+
+TEST_F(Countdown, IsShownInItsMenuItemBehindFourBlanks)
+{
+    QStringList titles;
+    QObject::connect(timers.get(), &CountdownTimers::menuItemTitled,
+        [&titles](const QString &device, const QString &title) { titles << device + title; });
+    timers->startCountDownTimer(en0);
+    pass(1s);
+    EXPECT_TRUE(titles.isEmpty());
+    timers->setMenuItemShown(en0, true);
+    pass(1s);
+    EXPECT_EQ(titles, QStringList{en0 + QStringLiteral("    ") + in + QStringLiteral("00:01:58")});
+    EXPECT_EQ(timer(en0).value(QStringLiteral("label")).toMap().value(QStringLiteral("menu")),
+        QVariant(QStringLiteral("    ") + in + QStringLiteral("00:01:58")));
+    timers->setMenuItemShown(en0, false);
+    pass(1s);
+    EXPECT_EQ(titles.size(), 1);
+    timers->setMenuItemShown(en1, true);
+}
+
+TEST_F(Countdown, LosesItsMenuItemWithEveryStart)
+{
+    timers->startCountDownTimer(en0);
+    timers->setMenuItemShown(en0, true);
+    timers->startCountDownTimer(en0);
+    EXPECT_FALSE(timer(en0).contains(QStringLiteral("label")));
+}
+
+class CountdownOverview : public CountdownMachine
+{
+protected:
+    CountdownOverview()
+    {
+        notifications.addObserver(notifications::updateOverview,
+            [this](const auto &posted) { overviews.append(posted); });
+    }
+    QList<NotificationCenter::Notification> overviews;
+};
+
+TEST_F(CountdownOverview, ComesWithEveryTickAndHoldsEveryCountdown)
+{
+    ruleSays(en1, 9);
+    timers->startCountDownTimer(en0);
+    timers->startCountDownTimer(en1);
+    overviews.clear();
+    pass(1s);
+    ASSERT_EQ(overviews.size(), 2);
+    EXPECT_EQ(overviews.last().object, timers.get());
+    EXPECT_EQ(overviews.last().userInfo, timers->timers());
+    EXPECT_EQ(overviews.last().userInfo.keys(), (QStringList{en0, en1}));
+}
+
+TEST_F(CountdownOverview, ComesWithEveryStopAlsoWhenNothingRan)
+{
+    timers->startCountDownTimer(en0);
+    EXPECT_EQ(overviews.size(), 1) << "a start stops first";
+    timers->stopCountdownTimer(en0);
+    EXPECT_EQ(overviews.size(), 2);
+    timers->stopCountdownTimer(en0);
+    EXPECT_EQ(overviews.size(), 3);
+    EXPECT_TRUE(overviews.last().userInfo.isEmpty());
+}
+
+class StoppedCountdown : public CountdownMachine
+{
+};
+
+TEST_F(StoppedCountdown, TicksNoMore)
+{
+    timers->startCountDownTimer(en0);
+    timers->stopCountdownTimer(en0);
+    EXPECT_FALSE(scheduler.hasTimers());
+    pass(10min);
+    EXPECT_EQ(ticks, 0);
+    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(timers->timers().isEmpty());
+}
+
+TEST_F(StoppedCountdown, HidesTheLabel)
+{
+    ruleSays(en1, 9);
+    timers->startCountDownTimer(en0);
+    timers->startCountDownTimer(en1);
+    hidden = 0;
+    timers->stopCountdownTimer(en0);
+    EXPECT_EQ(hidden, 1);
+    timers->stopCountdownTimer(QStringLiteral("en7"));
+    EXPECT_EQ(hidden, 1) << "another one runs";
+    timers->stopCountdownTimer(en1);
+    EXPECT_EQ(hidden, 3) << "its own, and that of the last one";
+    timers->stopCountdownTimer(en1);
+    EXPECT_EQ(hidden, 4);
+}
+
+TEST_F(StoppedCountdown, BetweenItsZeroAndTheChangeMakesNone)
+{
+    timers->startCountDownTimer(en0);
+    const auto token =
+        notifications.addObserver(notifications::updateOverview, [this](const auto &) {
+            if (display(en0).endsWith(QStringLiteral("00:00:00"))) {
+                scheduler.onMain([this] { changes << QStringLiteral("late"); });
+            }
+        });
+    QObject::connect(
+        timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
+            if (text.endsWith(QStringLiteral("00:00:00"))) {
+                scheduler.onMain([this] { timers->stopCountdownTimer(en0); });
+            }
+        });
+    pass(125s);
+    notifications.removeObserver(token);
+    EXPECT_EQ(changes, QStringList{QStringLiteral("late")});
+    EXPECT_TRUE(timers->timers().isEmpty());
+}
+
+TEST_F(StoppedCountdown, ByWhoeverHearsOfTheTickIsNotBroughtBack)
+{
+    QObject::connect(timers.get(), &CountdownTimers::ticked, timers.get(),
+        [this](const QString &device) { timers->stopCountdownTimer(device); });
+    ruleSays(en0, 0);
+    timers->startCountDownTimer(en0);
+    pass(5s);
+    EXPECT_EQ(ticks, 1);
+    EXPECT_TRUE(timers->timers().isEmpty());
+}
+
+TEST_F(StoppedCountdown, WithTheProgramLeavesNoTimer)
+{
+    ruleSays(en1, 9);
+    timers->startCountDownTimer(en0);
+    timers->startCountDownTimer(en1);
+    timers.reset();
+    EXPECT_FALSE(scheduler.hasTimers());
+    pass(10min);
+    EXPECT_TRUE(changes.isEmpty());
+}
+
+TEST_F(StoppedCountdown, WithTheProgramDropsAChangeThatIsQueued)
+{
+    timers->startCountDownTimer(en0);
+    QObject::connect(
+        timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
+            if (text.endsWith(QStringLiteral("00:00:00"))) {
+                scheduler.onMain([this] { timers.reset(); });
+            }
+        });
+    pass(125s);
+    EXPECT_TRUE(changes.isEmpty());
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,382 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RuleMachine.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+namespace {
+
+inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
+{
+    *out << message.title.toStdString() << ": " << message.body.toStdString();
+}
+
+/// An interface gets its network, the rule changes the address, and the change makes news itself:
+/// the link goes and comes, leases are lost and given. None of it may change the address again.
+class OneEvent : public RuleMachine
+{
+protected:
+    OneEvent()
+    {
+        addRule({.name = QStringLiteral("once")});
+        addRule({.name = QStringLiteral("once"), .device = en1});
+        helper.changeTakes = 500ms;
+    }
+    /// The event: the interface is given a lease. The change is under way afterwards.
+    void plugIn(const QString &device)
+    {
+        giveLease(device);
+        networkEvent();
+        ASSERT_EQ(changesOf(device).size(), 1);
+    }
+    void linkGoes(const QString &device)
+    {
+        host.at(device).active = false;
+        host.at(device).ipv4.clear();
+        reachability.reachable = false;
+        networkEvent();
+    }
+    void linkComes(const QString &device)
+    {
+        host.at(device).active = true;
+        networkEvent();
+        giveLease(device);
+        reachability.reachable = true;
+        networkEvent();
+    }
+    void pass(std::chrono::milliseconds time) { scheduler.advance(time); }
+};
+
+TEST_F(OneEvent, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
+{
+    plugIn(en0);
+    networkEvent();
+    EXPECT_EQ(table.record(en0).value(record::current).toString(), host.addressOf(en0));
+    networkEvent();
+    pass(1s);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhenItIsReportedAfterTheAnswer)
+{
+    plugIn(en0);
+    pass(1s);
+    overviews.clear();
+    networkEvent();
+    EXPECT_TRUE(overviews.isEmpty()) << "the table knows the new address already";
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesAndComesBeforeTheAnswer)
+{
+    plugIn(en0);
+    linkGoes(en0);
+    linkComes(en0);
+    pass(1s);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhenTheLinkComesBackLongAfterTheAnswer)
+{
+    plugIn(en0);
+    linkGoes(en0);
+    pass(1min);
+    linkComes(en0);
+    pass(1min);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesSoonAfterTheAnswer)
+{
+    plugIn(en0);
+    pass(600ms);
+    linkGoes(en0);
+    pass(5s);
+    linkComes(en0);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhenTheLinkIsAwayForTwentySeconds)
+{
+    plugIn(en0);
+    pass(600ms);
+    linkGoes(en0);
+    pass(20s);
+    linkComes(en0);
+    pass(1min);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeHoweverLateAnotherLeaseComes)
+{
+    plugIn(en0);
+    for (const auto wait : {100ms, 1000ms, 60'000ms, 3'600'000ms}) {
+        pass(wait);
+        giveLease(en0);
+        networkEvent();
+    }
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
+{
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    plugIn(en1);
+    radio.leave();
+    linkGoes(en1);
+    EXPECT_EQ(hasRule(en1), QVariant(0));
+    reachability.reachable = true;
+    giveLease(en1);
+    networkEvent();
+    pass(1s);
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:99"));
+    linkComes(en1);
+    pass(1min);
+    EXPECT_EQ(ruleInForce(en1), QStringLiteral("once"));
+    EXPECT_EQ(changesOf(en1).size(), 1);
+}
+
+TEST_F(OneEvent, MakesOneChangeWhereAnotherProgramPutsTheAddressBack)
+{
+    plugIn(en0);
+    pass(10s);
+    for (int time = 0; time < 20; ++time) {
+        host.giveAddress(en0, QStringLiteral("02:00:00:00:01:%1").arg(10 + time));
+        networkEvent();
+        pass(10s);
+    }
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, DoesNotFeedItselfWhateverEachChangeBringsAbout)
+{
+    // The world answers every change of the address with all of it, at several paces.
+    for (const auto pace : {0ms, 100ms, 400ms, 700ms, 3000ms}) {
+        pass(1min);
+        const qsizetype before = helper.changes().size();
+        linkGoes(en0);
+        linkComes(en0);
+        qsizetype answered = before;
+        int rounds = 0;
+        while (helper.changes().size() > answered && ++rounds < 50) {
+            answered = helper.changes().size();
+            networkEvent();
+            pass(pace);
+            linkGoes(en0);
+            pass(pace);
+            linkComes(en0);
+            pass(pace);
+            giveLease(en0);
+            networkEvent();
+        }
+        EXPECT_EQ(helper.changes().size() - before, 1) << pace.count();
+    }
+}
+
+TEST_F(OneEvent, OfAFixedAddressIsToldOnce)
+{
+    for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
+        rule.setAddress(fixedAddress);
+    }
+    plugIn(en0);
+    networkEvent();
+    linkGoes(en0);
+    linkComes(en0);
+    pass(1min);
+    EXPECT_EQ(notifier.messages(),
+        (QList<FakeNotifier::Message>{{QStringLiteral("Ethernet Address Changed"),
+            QStringLiteral("Your new MAC Address is: ") + fixedAddress}}));
+}
+
+TEST_F(OneEvent, ThatFailsIsNotTriedAgainByItsOwnNews)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    plugIn(en0);
+    pass(1s);
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(OneEvent, LeavesAnAddressThatTheUserChoseAlone)
+{
+    plugIn(en0);
+    pass(10s);
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    scheduler.runPending();
+    linkGoes(en0);
+    pass(1s);
+    linkComes(en0);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
+class AnotherEvent : public OneEvent
+{
+protected:
+    void plugInAndSettle(const QString &device)
+    {
+        plugIn(device);
+        networkEvent();
+        pass(10s);
+    }
+};
+
+TEST_F(AnotherEvent, OfAPlugThatIsPulledAndPutBackIsCarriedOut)
+{
+    plugInAndSettle(en0);
+    linkGoes(en0);
+    linkComes(en0);
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, OfAPlugThatWasPulledRightAfterTheChangeAndPutElsewhereIsCarriedOut)
+{
+    plugIn(en0);
+    pass(600ms);
+    linkGoes(en0);
+    pass(1h);
+    linkComes(en0);
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsCarriedOut)
+{
+    plugIn(en0);
+    pass(600ms);
+    linkGoes(en0);
+    pass(10s);
+    scheduler.setClock(1h);
+    linkComes(en0);
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
+{
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    plugInAndSettle(en1);
+    giveLease(en0);
+    radio.leave();
+    linkGoes(en1);
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    linkComes(en1);
+    EXPECT_EQ(changesOf(en1).size(), 2);
+}
+
+TEST_F(AnotherEvent, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedOut)
+{
+    plugInAndSettle(en0);
+    const FakeNetworkHost::Interface taken = host.at(en0);
+    host.unplug(en0);
+    networkEvent();
+    host.plug(taken);
+    host.giveAddress(en0, QStringLiteral("02:00:00:00:00:55"));
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenToGo)
+{
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    plugInAndSettle(en1);
+    joinWifi(QStringLiteral("Office"), QStringLiteral("02:00:00:00:cc:01"));
+    giveLease(en1);
+    networkEvent();
+    EXPECT_EQ(changesOf(en1).size(), 2);
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    giveLease(en1);
+    networkEvent();
+    EXPECT_EQ(changesOf(en1).size(), 3);
+}
+
+TEST_F(AnotherEvent, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
+{
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    plugInAndSettle(en1);
+    joinWifi(QStringLiteral("Office"), QStringLiteral("02:00:00:00:cc:01"));
+    giveLease(en1);
+    reachability.reachable = false;
+    networkEvent();
+    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    giveLease(en1);
+    reachability.reachable = true;
+    networkEvent();
+    EXPECT_EQ(changesOf(en1).size(), 2);
+}
+
+TEST_F(AnotherEvent, AfterTheRuleWasEditedIsCarriedOut)
+{
+    plugInAndSettle(en0);
+    for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
+        rule.setName(QStringLiteral("renamed"));
+    }
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1) << "under another name it is the same rule";
+    for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
+        rule.setVendor(QStringLiteral("Maker (3C22FB)"));
+    }
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
+{
+    reachability.reachable = false;
+    giveLease(en0);
+    networkEvent();
+    reachability.reachable = true;
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(AnotherEvent, IsNotNeededWhereTheUserAsksForAChange)
+{
+    plugInAndSettle(en0);
+    evaluate(en0, true);
+    EXPECT_EQ(changesOf(en0).size(), 2);
+    evaluate(en0, true);
+    EXPECT_EQ(changesOf(en0).size(), 3);
+}
+
+TEST_F(AnotherEvent, OfARuleThatRepeatsRestartsItsCountdownAndEachCountdownMakesOneChange)
+{
+    for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
+        rule.setChangeAction(Rule::every);
+        rule.setTimerMins(5);
+    }
+    giveLease(en0);
+    networkEvent();
+    pass(3min);
+    giveLease(en0);
+    networkEvent();
+    pass(3min);
+    EXPECT_TRUE(helper.changes().isEmpty());
+    pass(2min);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+    linkGoes(en0);
+    linkComes(en0);
+    pass(4min);
+    EXPECT_EQ(changesOf(en0).size(), 1);
+    EXPECT_TRUE(isCountingDown(en0));
+    pass(2min);
+    EXPECT_EQ(changesOf(en0).size(), 2);
+}
+
+TEST_F(AnotherEvent, ThatComesWhenTheProgramEndsDoesNoHarm)
+{
+    auto brief = std::make_unique<RuleEvaluation>(RuleEvaluation::Collaborators{settings, scheduler,
+        notifications, table, current, wifi, externalAddress, reachability, randomAddress, changer,
+        store, invariants, queries, timers, [] { return false; }});
+    brief->addressChangeBegan(en0);
+    brief->addressChangeEnded(en0);
+    brief.reset();
+    pass(1min);
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "XPCMethods.h"
+#include "base/NetworkKeys.h"
+#include "base/NotificationNames.h"
+#include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
+#include "devices/CurrentInterface.h"
+#include "devices/DeviceTable.h"
+#include "devices/RandomAddress.h"
+#include "fakes/FakeAlertPresenter.h"
+#include "fakes/FakeHelper.h"
+#include "fakes/FakeHttpClient.h"
+#include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeNetworkHost.h"
+#include "fakes/FakeNotifier.h"
+#include "fakes/FakeRandomSource.h"
+#include "fakes/FakeReachability.h"
+#include "fakes/FakeScheduler.h"
+#include "fakes/FakeSettingsStore.h"
+#include "fakes/FakeWiFiClient.h"
+#include "fakes/LogCapture.h"
+#include "fakes/QtPrinting.h"
+#include "networks/ExternalIPAddress.h"
+#include "networks/SpecialNetworks.h"
+#include "networks/WiFiNetwork.h"
+#include "platform/NotificationCenter.h"
+#include "rules/CountdownTimers.h"
+#include "rules/RuleEvaluation.h"
+#include "rules/RuleQueries.h"
+#include "rules/RuleSwitches.h"
+#include "store/RecordInvariants.h"
+#include "store/RecordStore.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+/// What a test says of a rule; the rest is what an everyday rule has.
+struct RuleText
+{
+    QString name;
+    QString device = QStringLiteral("en0");
+    QString network = anyNetwork;
+    bool enabled = true;
+    bool isLogin = false;
+    int action = Rule::changeAddress;
+    QString address = QStringLiteral("Random Address");
+    int changeAction = Rule::once;
+    int timerMins = 5;
+    QString vendor = {};
+    QString ssid = {};
+    bool ssidDefined = false;
+};
+
+/// A machine with a wired interface (en0, selected), a Wi-Fi interface (en1) and a bridge, the
+/// rules, and everything that rules act upon: the helper really changes the machine's addresses.
+class RuleMachine : public ::testing::Test
+{
+protected:
+    RuleMachine()
+    {
+        random.put(QByteArray::fromHex("3f0203040506"
+                                       "3e0b0c0d0e0f"
+                                       "3d1213141516"
+                                       "3c1b1c1d1e1f"));
+        table.updateNetWorkInterfaces();
+        select(en0);
+        QObject::connect(&changer, &AddressChanger::changeBegan, &evaluation,
+            &RuleEvaluation::addressChangeBegan);
+        QObject::connect(&changer, &AddressChanger::changeEnded, &evaluation,
+            &RuleEvaluation::addressChangeEnded);
+        QObject::connect(&store, &RecordStore::objectsDidChange, &invariants,
+            &RecordInvariants::contextDidChange);
+        notifications.addObserver(notifications::updateOverview, [this](const auto &posted) {
+            if (posted.object != &timers) {
+                overviews.append(posted);
+            }
+        });
+        settings.clearJournal();
+        host.clearJournal();
+    }
+
+    void select(const QString &device)
+    {
+        QVariantMap selection = table.record(device);
+        selection[record::device] = device;
+        settings.set(keys::currentInterfaceDict, selection);
+    }
+    void setRecord(const QString &device, const QString &key, const QVariant &value)
+    {
+        QVariantMap devices = table.devices();
+        QVariantMap record = devices.value(device).toMap();
+        record.remove(key);
+        if (value.isValid()) {
+            record[key] = value;
+        }
+        devices[device] = record;
+        settings.set(keys::deviceDict, devices);
+    }
+
+    Rule addRule(const RuleText &text)
+    {
+        const Rule rule(context().insertNewObject(QStringLiteral("Rule")));
+        rule.setName(text.name);
+        rule.setDevice(text.device);
+        rule.setNetwork(text.isLogin ? QString() : text.network);
+        rule.setEnabled(text.enabled);
+        rule.setActive(false);
+        rule.setIsLogin(text.isLogin);
+        rule.setAction(text.action);
+        rule.setAddress(text.address);
+        rule.setChangeAction(text.changeAction);
+        rule.setTimerMins(text.timerMins);
+        rule.setVendor(text.vendor);
+        rule.setSsid(text.ssid);
+        rule.setSsidDefined(text.ssidDefined);
+        context().processPendingChanges();
+        return rule;
+    }
+    ManagedObjectContext &context() { return store.managedObjectContext(); }
+
+    /// The radio associates; the system tells of it when networkEvent() is called.
+    void joinWifi(const QString &ssid, const QString &bssid)
+    {
+        WiFiInterface interface;
+        interface.device = en1;
+        interface.ssid = ssid;
+        interface.bssid = bssid;
+        radio.join(interface);
+    }
+    void saveNetwork(const QString &name, const QString &ssid, const QString &bssid, bool bySsid)
+    {
+        QVariantMap networks = settings.getDictionary(keys::savedNetworks);
+        QVariantMap entry{
+            {savedentry::name, name}, {savedentry::SSID, ssid}, {savedentry::BSSID, bssid}};
+        if (bySsid) {
+            entry[savedentry::ssidDefined] = true;
+        }
+        networks[bssid.toLower()] = entry;
+        settings.set(keys::savedNetworks, networks);
+    }
+
+    /// The interface gets another IPv4 address, which makes its record another one.
+    void giveLease(const QString &device)
+    {
+        host.at(device).ipv4 = QStringList{QStringLiteral("203.0.113.%1").arg(++leases)};
+    }
+    /// The system tells of a change, and everything that follows happens.
+    void networkEvent()
+    {
+        evaluation.networkChanged();
+        scheduler.runPending();
+    }
+    void evaluate(const QString &device, bool change)
+    {
+        evaluation.checkDeviceForCurrentRuleAndChange(device, change);
+        scheduler.runPending();
+    }
+
+    QVariantMap recordedRule(const QString &device) const
+    {
+        return table.record(device).value(record::rule).toMap();
+    }
+    QString ruleInForce(const QString &device) const
+    {
+        return recordedRule(device).value(QStringLiteral("name")).toString();
+    }
+    QString loginRuleInForce(const QString &device) const
+    {
+        const QVariantMap rule = table.record(device).value(record::loginRule).toMap();
+        return rule.value(QStringLiteral("name")).toString();
+    }
+    QVariant hasRule(const QString &device) const
+    {
+        return table.record(device).value(record::hasRule);
+    }
+    /// The addresses that the helper was asked to set on `device`, in order.
+    QStringList changesOf(const QString &device) const
+    {
+        QStringList asked;
+        for (const FakeHelper::Change &change : helper.changes()) {
+            if (change.device == device) {
+                asked << change.address;
+            }
+        }
+        return asked;
+    }
+    bool isCountingDown(const QString &device) const { return timers.timers().contains(device); }
+
+    const QString en0 = QStringLiteral("en0");
+    const QString en1 = QStringLiteral("en1");
+    const QString fixedAddress = QStringLiteral("02:00:00:00:00:77");
+
+    QTemporaryDir folder;
+    FakeScheduler scheduler;
+    FakeSettingsStore settings{scheduler};
+    FakeNetworkHost host{QStringLiteral("desk")};
+    FakeInterfaceAddresses addresses{host};
+    DeviceTable table{settings, host, addresses};
+    NotificationCenter notifications;
+    FakeNotifier notifier;
+    FakeHelper helper{scheduler, host};
+    XPCMethods xpc{helper, scheduler, notifications};
+    CurrentInterface current{settings, scheduler, table};
+    AddressChanger changer{{settings, scheduler, notifications, notifier, xpc, table, current}};
+    FakeRandomSource random;
+    RandomAddress randomAddress{
+        random, table, [this](const QString &device, const QString &address) {
+            changer.updateMacAddressWithAddress(device, address);
+        }};
+    FakeWiFiClient radio;
+    WiFiNetwork wifi{settings, radio, table};
+    FakeHttpClient http{scheduler};
+    ExternalIPAddress externalAddress{http, settings, QUrl(QStringLiteral("https://ip.example"))};
+    FakeReachability reachability;
+    FakeAlertPresenter alerts;
+    RecordStore store{{settings, scheduler, alerts}, folder.path()};
+    RuleQueries queries{store, settings, table};
+    RecordInvariants invariants{
+        {store, scheduler, notifications, [this] { return queries.namesArray(); }}};
+    CountdownTimers timers{{scheduler, notifications, notifier, table, randomAddress}};
+    bool startedFromLogin = false;
+    RuleEvaluation evaluation{{settings, scheduler, notifications, table, current, wifi,
+        externalAddress, reachability, randomAddress, changer, store, invariants, queries, timers,
+        [this] { return startedFromLogin; }}};
+    RuleSwitches switches{{store, notifications, queries, evaluation}};
+    /// What evaluation told the overview; countdowns tell it more.
+    QList<NotificationCenter::Notification> overviews;
+    int leases = 0;
+};
+
+} // namespace quillon::test

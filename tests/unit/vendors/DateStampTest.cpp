@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/DateStamp.h"
+
+#include "fakes/QtPrinting.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+QString stampIn(const char *locale)
+{
+    const QDateTime moment(QDate(2026, 11, 5), QTime(14, 7, 59), Qt::UTC);
+    return mediumDateShortTime(moment, QLocale(QString::fromLatin1(locale)));
+}
+
+TEST(DateStamp, HasAShortMonthNoWeekdayAndNoSeconds)
+{
+    EXPECT_EQ(stampIn("en_US"), QLatin1String("Nov 5, 2026, 2:07 PM"));
+    EXPECT_EQ(stampIn("en_GB"), QLatin1String("5 Nov 2026, 14:07"));
+    EXPECT_EQ(stampIn("de_DE"), QLatin1String("5. Nov. 2026, 14:07"));
+    EXPECT_EQ(stampIn("fr_FR"), QLatin1String("5 nov. 2026, 14:07"));
+    EXPECT_EQ(stampIn("C"), QLatin1String("5 Nov 2026, 14:07"));
+}
+
+TEST(DateStamp, NamesNoWeekdayInAnyLanguage)
+{
+    for (const QLocale &locale :
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
+        const QDateTime moment(QDate(2026, 11, 5), QTime(14, 7), Qt::UTC);
+        const QString stamp = mediumDateShortTime(moment, locale);
+        EXPECT_FALSE(stamp.isEmpty()) << locale.name().toStdString();
+        EXPECT_FALSE(stamp.contains(locale.dayName(4, QLocale::LongFormat)))
+            << locale.name().toStdString() << ": " << stamp.toStdString();
+    }
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RegistryRefresh.h"
+#include "fakes/LogCapture.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <csignal>
+#include <sys/resource.h>
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using RegistryRefreshFault = RegistryRefresh;
+
+TEST_F(RegistryRefreshFault, FailsOfATextWithoutRecords)
+{
+    for (const QByteArray &text : {QByteArray(), registryHeader, QByteArray("Not Found")}) {
+        refresh(text);
+        expectParsingFailed();
+    }
+}
+
+TEST_F(RegistryRefreshFault, FailsOfATextWithAParseErrorWhereverItIs)
+{
+    refresh("MA-L,\"00\"1A2B\n" + registryOf(20));
+    expectParsingFailed();
+    refresh(registryOf(20) + "MA-L,\"001A2B");
+    expectParsingFailed();
+    refresh(QByteArray(500'000, '\"'));
+    expectParsingFailed();
+    EXPECT_EQ(readFile(files.registryText()), QByteArray(500'000, '\"'));
+}
+
+TEST_F(RegistryRefreshFault, ThatCannotBeTransferredWaitsToBeCancelled)
+{
+    const LogCapture log;
+    http.refuse(registry, {posixErrorDomain, 111, QStringLiteral("refused")});
+    pane.pressButton();
+    scheduler.advance(std::chrono::hours(1));
+    EXPECT_EQ(
+        LogCapture::taken(), QStringList("quillon.vendors: Registry not downloaded: refused"));
+    expectDownloading();
+    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Getting download information..."));
+    pane.pressButton();
+    expectIdle();
+    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Download cancelled..."));
+    EXPECT_EQ(pane.state().vendorCount, QLatin1String("10 Vendor Identifiers"));
+    refresh(registryOf(11));
+    EXPECT_EQ(database.count(), 11);
+}
+
+TEST_F(RegistryRefreshFault, ThatBreaksInTheMiddleKeepsItsLastProgress)
+{
+    const LogCapture log;
+    pane.pressButton();
+    http.deliver(http.last(), QByteArray(500'000, 'x'), 1'000'000);
+    http.fail(http.last(), {posixErrorDomain, 104, QStringLiteral("reset")});
+    scheduler.runPending();
+    expectDownloading();
+    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 50.000% of 1.0MB"));
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
+}
+
+TEST_F(RegistryRefreshFault, WithoutALiveDatabaseWritesNothingAndReportsCompletion)
+{
+    QFile::remove(files.liveDatabase());
+    refresh(registryOf(15));
+    EXPECT_EQ(pane.state().updatedLabel, lastUpdated());
+    EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
+    EXPECT_THAT(filesInFolder(), IsEmpty());
+}
+
+TEST_F(RegistryRefreshFault, ThatCannotWriteTheLiveDatabaseFailsAndCompletes)
+{
+    const LogCapture log;
+    QFile::remove(files.liveDatabase());
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), files.liveDatabase()));
+    refresh(registryOf(15));
+    EXPECT_THAT(takeLabels(),
+        ElementsAre("Getting download information...", "Downloading... 100.000% of 0.0MB",
+            "Processing data...", "Parsing file failed...", lastUpdated()));
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
+    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), stamp);
+    expectIdle();
+}
+
+TEST_F(RegistryRefreshFault, ThatFindsTheLiveDatabaseLockedFailsAndCompletes)
+{
+    const LogCapture log;
+    SQLite::Database other(
+        QFile::encodeName(files.liveDatabase()).constData(), SQLite::OPEN_READWRITE);
+    other.exec("begin immediate");
+    refresh(registryOf(15));
+    const QStringList said = takeLabels();
+    EXPECT_EQ(said.at(said.size() - 2), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(said.last(), lastUpdated());
+    other.exec("rollback");
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
+}
+
+TEST_F(RegistryRefreshFault, ThatCannotSaveTheTextFails)
+{
+    const LogCapture log;
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), files.registryText()));
+    refresh(registryOf(15));
+    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(database.count(), 10);
+    expectIdle();
+}
+
+TEST_F(RegistryRefreshFault, ThatCannotReadWhatItDownloadedSaysWhy)
+{
+    const LogCapture log;
+    // Opens, but has nothing at its beginning that could be read.
+    auto body = std::make_shared<QFile>(QStringLiteral("/proc/self/mem"));
+    ASSERT_TRUE(body->open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    import.importDownload(body);
+    scheduler.runPending();
+    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(
+        LogCapture::taken(), QStringList("quillon.vendors: Registry not read: Input/output error"));
+}
+
+TEST_F(RegistryRefreshFault, FailsWithoutItsFolder)
+{
+    const LogCapture log;
+    QDir(files.folder).removeRecursively();
+    refresh(registryOf(15));
+    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
+    EXPECT_FALSE(QDir(files.folder).exists());
+    expectIdle();
+}
+
+TEST_F(RegistryRefreshFault, FailsWhereTheNewDatabaseCannotBeMade)
+{
+    const LogCapture log;
+    // Not empty, so that it is not removed for the new one.
+    QDir().mkpath(files.newDatabase() + QStringLiteral("/in the way"));
+    refresh(registryOf(15));
+    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_TRUE(QFile::exists(files.registryText()));
+    expectIdle();
+}
+
+/// Files of this process grow no further than `bytes` while it lives.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+        : m_previousHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_previous);
+        const rlimit limit = {bytes, m_previous.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_previous);
+        std::signal(SIGXFSZ, m_previousHandler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    void (*m_previousHandler)(int);
+    rlimit m_previous = {};
+};
+
+TEST_F(RegistryRefreshFault, StopsAtTheInsertForWhichThereIsNoRoom)
+{
+    const LogCapture log;
+    const QByteArray text = registryOf(5000);
+    downloadUpToImport(text);
+    {
+        // Room for the text, not for the database, which is larger.
+        const FileSizeLimit limit(static_cast<rlim_t>(text.size()) + 4096);
+        scheduler.runPending();
+    }
+    EXPECT_THAT(LogCapture::taken().join(QLatin1Char('\n')).toStdString(),
+        ::testing::HasSubstr("quillon.vendors: Vendor not stored: "));
+    expectParsingFailed();
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorChoice.h"
+
+#include "VendorMachine.h"
+#include "base/NotificationNames.h"
+#include "devices/RandomAddress.h"
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ChosenVendor : public VendorMachine
+{
+protected:
+    ChosenVendor()
+    {
+        makeLive(registryOf({{"001A2B", "Some Maker Inc."}, {"080030", "Another (Old) Maker"}}));
+        storeDevice(en0, {{record::current, QStringLiteral("00:11:22:33:44:55")}});
+        storeDevice(en1, {{record::vendor, maker}});
+        select(en0);
+        loadList();
+        notifications.addObserver(
+            notifications::vendorUpdated, [this](const NotificationCenter::Notification &posted) {
+                EXPECT_EQ(posted.object, nullptr);
+                announced << posted.userInfo;
+                // Whoever hears of it finds it stored.
+                EXPECT_EQ(stored(posted.userInfo.value(QStringLiteral("device")).toString()),
+                    posted.userInfo.value(QStringLiteral("newVendor")).toString());
+            });
+    }
+
+    QString stored(const QString &device) const
+    {
+        return settings.getDictionary(keys::deviceDict)
+            .value(device)
+            .toMap()
+            .value(record::vendor)
+            .toString();
+    }
+
+    const QString en0 = QStringLiteral("en0");
+    const QString en1 = QStringLiteral("en1");
+    const QString maker = QStringLiteral("Some Maker Inc. (001A2B)");
+    const QString random = QStringLiteral("Random Address");
+    QList<QVariantMap> announced;
+};
+
+TEST_F(ChosenVendor, IsStoredForTheSelectedInterfaceAndAnnounced)
+{
+    settings.clearJournal();
+    choice.saveVendorSelection(maker);
+    EXPECT_EQ(stored(en0), maker);
+    EXPECT_EQ(settings.getDictionary(keys::deviceDict).value(en0).toMap().value(record::current),
+        QStringLiteral("00:11:22:33:44:55"));
+    EXPECT_THAT(settings.journal(), ElementsAre("set deviceDict", "synchronize"));
+    EXPECT_THAT(announced, ElementsAre(QVariantMap{{QStringLiteral("device"), en0},
+                               {QStringLiteral("newVendor"), maker}}));
+}
+
+TEST_F(ChosenVendor, GivesRandomAddressesItsPrefix)
+{
+    choice.saveVendorSelection(QStringLiteral("Another (Old) Maker (080030)"));
+    EXPECT_EQ(vendorPrefix(stored(en0)), QStringLiteral("080030"));
+    choice.saveVendorSelection(random);
+    EXPECT_EQ(vendorPrefix(stored(en0)), std::nullopt);
+}
+
+TEST_F(ChosenVendor, WithANameThatIsFarTooLongIsStoredCut)
+{
+    makeLive(registryOf({{"001A2B", QByteArray(5'000'000, 'A')}}));
+    loadList();
+    choice.updateVendorTableSelectionWithRow(0);
+    EXPECT_TRUE(stored(en0) == QString(4096, QLatin1Char('A')) + QLatin1String(" (001A2B)"))
+        << "length " << stored(en0).size();
+    EXPECT_EQ(vendorPrefix(stored(en0)), QStringLiteral("001A2B"));
+    EXPECT_EQ(list.rowOf(stored(en0)), 0);
+}
+
+TEST_F(ChosenVendor, IsNotStoredWithoutAKnownInterface)
+{
+    for (const char *const device : {"", "en7"}) {
+        select(QString::fromLatin1(device));
+        choice.saveVendorSelection(maker);
+    }
+    settings.set(keys::currentInterfaceDict, {});
+    choice.saveVendorSelection(maker);
+    EXPECT_EQ(settings.getDictionary(keys::deviceDict).size(), 2);
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(ChosenVendor, IsShownInTheField)
+{
+    choice.updateVendorField(en1);
+    EXPECT_EQ(field.state().text, maker);
+    choice.updateVendorField(en0);
+    EXPECT_EQ(field.state().text, random);
+    choice.updateVendorField(QStringLiteral("en7"));
+    EXPECT_EQ(field.state().text, random);
+}
+
+TEST_F(ChosenVendor, IsRandomAddressInTheFieldWithoutADevice)
+{
+    select(en1);
+    choice.updateVendorField(std::nullopt);
+    EXPECT_EQ(field.state().text, random);
+}
+
+TEST_F(ChosenVendor, IsSelectedInTheWholeList)
+{
+    list.filter(QStringLiteral("another"));
+    choice.setVendorSelectionForDevice(en1);
+    EXPECT_EQ(list.rowCount(), 3);
+    EXPECT_EQ(field.state().selectedRow, 2);
+    choice.setVendorSelectionForDevice(en0);
+    EXPECT_EQ(field.state().selectedRow, 1);
+    EXPECT_EQ(list.entry(1), random);
+}
+
+TEST_F(ChosenVendor, ThatIsNoLongerInTheListIsStillShownButNotSelected)
+{
+    storeDevice(en0, {{record::vendor, QStringLiteral("Gone Maker (ABCDEF)")}});
+    choice.updateVendorField(en0);
+    choice.setVendorSelectionForDevice(en0);
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+    EXPECT_EQ(field.state().text, QLatin1String("Gone Maker (ABCDEF)"));
+}
+
+TEST_F(ChosenVendor, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
+{
+    select(en1);
+    list.filter(QStringLiteral("another"));
+    loadList();
+    EXPECT_EQ(list.rowCount(), 3);
+    EXPECT_EQ(field.state().selectedRow, 2);
+}
+
+TEST_F(ChosenVendor, IsTheRowOfWhatIsShown)
+{
+    list.filter(QStringLiteral("some"));
+    choice.updateVendorTableSelectionWithRow(0);
+    EXPECT_EQ(stored(en0), maker);
+    EXPECT_EQ(field.state().text, maker);
+}
+
+TEST_F(ChosenVendor, IsNoRowThatIsNotThere)
+{
+    for (const qsizetype row : {-1, 3, 1000}) {
+        choice.updateVendorTableSelectionWithRow(row);
+    }
+    list.filter(QStringLiteral("nothing like that"));
+    choice.updateVendorTableSelectionWithRow(0);
+    EXPECT_EQ(stored(en0), QString());
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+} // namespace
+} // namespace quillon::test

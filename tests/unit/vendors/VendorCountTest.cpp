@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorCount.h"
+
+#include "VendorFolder.h"
+#include "base/SettingsKeys.h"
+#include "fakes/FakeScheduler.h"
+#include "fakes/FakeSettingsStore.h"
+#include "fakes/QtPrinting.h"
+
+#include <gmock/gmock.h>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class CountedVendors : public VendorFolder
+{
+protected:
+    CountedVendors()
+    {
+        QObject::connect(&count, &VendorCount::firstCountBegun, [this] { said << "begun"; });
+        QObject::connect(&count, &VendorCount::additionNoted,
+            [this](const QString &note) { said << "note: " + note; });
+        QObject::connect(&count, &VendorCount::counted,
+            [this](qlonglong value) { said << "count: " + QString::number(value); });
+    }
+
+    QString date() const { return settings.getString(keys::vendorIDUpdatedDate); }
+    void setDate(const QString &text) { settings.set(keys::vendorIDUpdatedDate, text); }
+
+    FakeScheduler scheduler;
+    FakeSettingsStore settings{scheduler};
+    VendorDatabase database{files.liveDatabase()};
+    VendorCount count{settings, scheduler, files, database};
+    QStringList said;
+};
+
+TEST_F(CountedVendors, InstallsTheSeedAndCountsIt)
+{
+    QDir(root.filePath(QStringLiteral("share"))).removeRecursively();
+    makeDatabase(files.seed, registryOf(12));
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_TRUE(readFile(files.liveDatabase()) == readFile(files.seed));
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 12);
+    EXPECT_THAT(said, ElementsAre("begun", "note: (null) (added 12 new Identifiers)", "count: 12"));
+}
+
+TEST_F(CountedVendors, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
+{
+    makeDatabase(files.seed, registryOf(12));
+    QFile::setPermissions(files.seed, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_TRUE(QFile::permissions(files.liveDatabase()).testFlag(QFile::WriteOwner));
+}
+
+TEST_F(CountedVendors, KeepADatabaseThatIsThereEvenIfItIsOlder)
+{
+    makeDatabase(files.seed, registryOf(12));
+    makeLive(registryOf(3));
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 3);
+}
+
+TEST_F(CountedVendors, AreNoneWhenNothingCanBeInstalled)
+{
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_THAT(said, ElementsAre("begun", "count: 0"));
+    EXPECT_FALSE(QFile::exists(files.liveDatabase()));
+
+    // A file where the folder should be.
+    QDir(files.folder).removeRecursively();
+    writeFile(files.folder, "in the way");
+    makeDatabase(files.seed, registryOf(12));
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_THAT(said, ElementsAre("begun", "count: 0", "begun", "count: 0"));
+}
+
+TEST_F(CountedVendors, NoteTheFirstCountWithTheDateThatWasStored)
+{
+    makeLive(registryOf(3));
+    setDate(QStringLiteral("Nov 21, 2026, 2:05 PM"));
+    count.updateVendorCount();
+    EXPECT_EQ(date(), QLatin1String("Nov 21, 2026, 2:05 PM (added 3 new Identifiers)"));
+    EXPECT_THAT(
+        said, ElementsAre("note: Nov 21, 2026, 2:05 PM (added 3 new Identifiers)", "count: 3"));
+}
+
+TEST_F(CountedVendors, ShowTwoBlanksBeforeASecondNote)
+{
+    makeLive(registryOf(8));
+    settings.set(keys::vendorCountValue, 3);
+    setDate(QStringLiteral("Yesterday (added 3 new Identifiers)"));
+    count.updateVendorCount();
+    EXPECT_EQ(date(), QLatin1String("Yesterday  (added 5 new Identifiers)"));
+}
+
+TEST_F(CountedVendors, LoseTheNullMarkerWithTheSecondNote)
+{
+    makeLive(registryOf(3));
+    count.updateVendorCount();
+    EXPECT_EQ(date(), QLatin1String("(null) (added 3 new Identifiers)"));
+    makeLive(registryOf(4));
+    count.updateVendorCount();
+    EXPECT_EQ(date(), QLatin1String(" (added 1 new Identifiers)"));
+}
+
+TEST_F(CountedVendors, NoteNothingWhenTheyAreAsManyOrFewer)
+{
+    makeLive(registryOf(3));
+    setDate(QStringLiteral("Yesterday"));
+    for (const int before : {3, 9}) {
+        settings.set(keys::vendorCountValue, before);
+        count.updateVendorCount();
+        EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 3);
+        EXPECT_EQ(date(), QLatin1String("Yesterday"));
+    }
+    EXPECT_THAT(said, ElementsAre("count: 3", "count: 3"));
+}
+
+TEST_F(CountedVendors, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
+{
+    makeLive(registryOf(8));
+    settings.set(keys::vendorCountValue, 8);
+    setDate(QStringLiteral("Yesterday"));
+    {
+        SQLite::Database other(
+            QFile::encodeName(files.liveDatabase()).constData(), SQLite::OPEN_READWRITE);
+        other.exec("begin exclusive");
+        settings.clearJournal();
+        count.updateVendorCount();
+        scheduler.asBackground([this] { count.updateVendorCount(); });
+        scheduler.runPending();
+    }
+    EXPECT_THAT(settings.journal(), IsEmpty());
+    count.updateVendorCount();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 8);
+    EXPECT_EQ(date(), QLatin1String("Yesterday")) << "none was added";
+    EXPECT_THAT(said, ElementsAre("count: 8", "count: 8", "count: 8"));
+}
+
+TEST_F(CountedVendors, AreNoneWhenTheirFileHasGone)
+{
+    settings.set(keys::vendorCountValue, 8);
+    count.updateVendorCount();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 0);
+    EXPECT_THAT(said, ElementsAre("count: 0"));
+}
+
+TEST_F(CountedVendors, AreFlushedBeforeTheyAreShown)
+{
+    makeLive(registryOf(1));
+    setDate(QStringLiteral("x"));
+    settings.clearJournal();
+    count.updateVendorCount();
+    EXPECT_THAT(settings.journal(),
+        ElementsAre("set vendorCountValue", "set vendorIDUpdatedDate", "synchronize"));
+}
+
+TEST_F(CountedVendors, AreReportedOnTheMainThreadWhoeverAsks)
+{
+    makeLive(registryOf(1));
+    scheduler.asBackground([this] { count.updateVendorCount(); });
+    EXPECT_THAT(said, IsEmpty());
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 1);
+    scheduler.runPending();
+    EXPECT_THAT(said, ElementsAre("note: (null) (added 1 new Identifiers)", "count: 1"));
+}
+
+TEST_F(CountedVendors, AreReportedToNobodyWhoIsGone)
+{
+    makeLive(registryOf(1));
+    auto shortLived = std::make_unique<VendorCount>(settings, scheduler, files, database);
+    scheduler.asBackground([&] { shortLived->updateVendorCount(); });
+    shortLived.reset();
+    scheduler.runPending();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 1);
+}
+
+TEST(ShippedVendorDatabase, IsThatOfTheInstallationElseThatOfTheBuild)
+{
+    const QTemporaryDir root;
+    const QString build = root.filePath(QStringLiteral("data/oui.db"));
+    const QString installed = root.filePath(QStringLiteral("share/quillon4/oui.db"));
+    const QString programs = root.filePath(QStringLiteral("bin"));
+    QDir().mkpath(root.filePath(QStringLiteral("data")));
+    QDir().mkpath(root.filePath(QStringLiteral("share/quillon4")));
+    EXPECT_EQ(shippedVendorDatabase(programs), QString());
+    writeFile(build, "x");
+    EXPECT_EQ(shippedVendorDatabase(programs), build);
+    writeFile(installed, "x");
+    EXPECT_EQ(shippedVendorDatabase(programs), installed);
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorDatabase.h"
+
+#include "VendorFolder.h"
+#include "fakes/LogCapture.h"
+#include "fakes/QtPrinting.h"
+
+#include <gmock/gmock.h>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <atomic>
+#include <future>
+#include <sys/stat.h>
+#include <thread>
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Rewriting = VendorDatabase::Rewriting;
+
+class VendorDatabaseFile : public VendorFolder
+{
+protected:
+    void expectEmptyAnswers() const
+    {
+        EXPECT_EQ(database.count(), 0);
+        EXPECT_FALSE(database.lookup(QStringLiteral("001A2B")));
+        EXPECT_THAT(database.displayStrings(), IsEmpty());
+    }
+
+    VendorDatabase database{files.liveDatabase()};
+};
+
+TEST_F(VendorDatabaseFile, CountsItsRows)
+{
+    makeLive(registryOf(321));
+    EXPECT_EQ(database.count(), 321);
+}
+
+TEST_F(VendorDatabaseFile, FindsTheLastOfSeveralRows)
+{
+    makeLive(
+        registryOf({{"080030", "One"}, {"001A2B", "Two"}, {"080030", "Three"}, {"1", "Four"}}));
+    const auto found = database.lookup(QStringLiteral("080030"));
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->organizationName, QStringLiteral("Three"));
+    EXPECT_EQ(found->organizationAddress, QStringLiteral("1 Long Road, Town"));
+    EXPECT_EQ(found->assignment, QStringLiteral("080030"));
+    EXPECT_EQ(found->registry, QStringLiteral("MA-L"));
+    EXPECT_FALSE(database.lookup(QStringLiteral("08003")));
+}
+
+TEST_F(VendorDatabaseFile, ComparesIdentifiersExactly)
+{
+    makeLive(registryOf({{"00aa2b", "Lower"}}));
+    EXPECT_FALSE(database.lookup(QStringLiteral("00AA2B")));
+    EXPECT_FALSE(database.lookup(QStringLiteral("' or ''='")));
+    EXPECT_TRUE(database.lookup(QStringLiteral("00aa2b")));
+}
+
+TEST_F(VendorDatabaseFile, ListsDisplayStringsInTheOrderOfTheTable)
+{
+    makeLive(registryOf({{"080030", "Zeta"}, {"001A2B", " \t Alpha \r\n"}, {"080030", "Zeta"}}));
+    EXPECT_THAT(database.displayStrings(),
+        ElementsAre("Zeta (080030)", "Alpha \r\n (001A2B)", "Zeta (080030)"));
+}
+
+TEST_F(VendorDatabaseFile, ShowsTheNullMarkerForWhatIsMissing)
+{
+    makeLive("Assignment\n001A2B\n");
+    EXPECT_THAT(database.displayStrings(), ElementsAre("(null) (001A2B)"));
+    EXPECT_EQ(vendorDisplayString({}, {}), QStringLiteral("(null) ((null))"));
+}
+
+TEST_F(VendorDatabaseFile, ReadsBytesThatAreNoTextAsReplacementCharacters)
+{
+    makeLive("Assignment,Organization Name\n001A2B,M\xFCller\n");
+    EXPECT_THAT(
+        database.displayStrings(), ElementsAre(QString::fromUtf8("M\xEF\xBF\xBDller (001A2B)")));
+}
+
+TEST_F(VendorDatabaseFile, CutsTextsThatAreTooLongAtACharacter)
+{
+    const QByteArray smiley = "\xF0\x9F\x98\x80"; // a surrogate pair in UTF-16
+    const QByteArray sharp = "\xC3\x9F";
+    makeLive(registryOf({{"000001", QByteArray(4096, 'x')}, {"000002", QByteArray(4097, 'x')},
+        {"000003", QByteArray(4095, 'x') + smiley.repeated(100'000)},
+        {"000004", QByteArray(4094, 'x') + smiley}, {"000005", smiley.repeated(100'000)},
+        {"000006", sharp.repeated(5000)}, {"000007", QByteArray(4095, 'x') + sharp}}));
+    const auto name = [this](const char *assignment) {
+        return database.lookup(QString::fromLatin1(assignment))->organizationName.value();
+    };
+    EXPECT_EQ(name("000001"), QString(4096, QLatin1Char('x')));
+    EXPECT_EQ(name("000002"), QString(4096, QLatin1Char('x')));
+    EXPECT_EQ(name("000003"), QString(4095, QLatin1Char('x')));
+    EXPECT_EQ(name("000004"), QString(4094, QLatin1Char('x')) + QString::fromUtf8(smiley));
+    EXPECT_EQ(name("000005"), QString::fromUtf8(smiley).repeated(2048));
+    EXPECT_EQ(name("000006"), QString::fromUtf8(sharp).repeated(4096));
+    EXPECT_EQ(name("000007"), QString(4095, QLatin1Char('x')) + QString::fromUtf8(sharp));
+    EXPECT_EQ(database.displayStrings().at(1), name("000001") + QLatin1String(" (000002)"));
+}
+
+TEST_F(VendorDatabaseFile, TellsACountOfNothingFromNoAnswer)
+{
+    bool wasRead = false;
+    EXPECT_EQ(database.count(&wasRead), 0);
+    EXPECT_TRUE(wasRead) << "missing";
+    for (const QByteArray &content : {QByteArray(), QByteArray(100'000, 'x')}) {
+        writeFile(database.path(), content);
+        EXPECT_EQ(database.count(&wasRead), 0);
+        EXPECT_TRUE(wasRead) << "no database, of bytes: " << content.size();
+    }
+    makeLive(registryOf(5000));
+    EXPECT_EQ(database.count(&wasRead), 5000);
+    EXPECT_TRUE(wasRead);
+    {
+        SQLite::Database other(
+            QFile::encodeName(database.path()).constData(), SQLite::OPEN_READWRITE);
+        other.exec("begin exclusive");
+        EXPECT_EQ(database.count(&wasRead), 0);
+        EXPECT_FALSE(wasRead) << "locked";
+    }
+    QFile file(database.path());
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    EXPECT_EQ(database.count(&wasRead), 0);
+    EXPECT_TRUE(wasRead) << "cut short";
+    file.remove();
+    QDir().mkdir(database.path());
+    EXPECT_EQ(database.count(&wasRead), 0);
+    EXPECT_FALSE(wasRead) << "cannot be opened";
+}
+
+TEST_F(VendorDatabaseFile, IsNotMadeByAQuestion)
+{
+    expectEmptyAnswers();
+    EXPECT_THAT(QDir(files.folder).entryList(QDir::Files | QDir::Hidden), IsEmpty());
+    QDir(files.folder).removeRecursively();
+    expectEmptyAnswers();
+}
+
+TEST_F(VendorDatabaseFile, AnswersNothingWhenItIsEmptyJunkOrAFolder)
+{
+    writeFile(database.path(), {});
+    expectEmptyAnswers();
+    writeFile(database.path(), QByteArray(100'000, 'x'));
+    expectEmptyAnswers();
+    QFile::remove(database.path());
+    QDir().mkdir(database.path());
+    expectEmptyAnswers();
+}
+
+TEST_F(VendorDatabaseFile, AnswersNothingWhenItIsCutShort)
+{
+    makeLive(registryOf(5000));
+    QFile file(database.path());
+    ASSERT_TRUE(file.resize(file.size() / 2));
+    EXPECT_EQ(database.count(), 0);
+    EXPECT_THAT(database.displayStrings(), IsEmpty());
+}
+
+TEST_F(VendorDatabaseFile, AnswersNothingWithoutItsTable)
+{
+    SQLite::Database(QFile::encodeName(database.path()).constData(),
+        SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+        .exec("create table other (id integer)");
+    expectEmptyAnswers();
+}
+
+TEST_F(VendorDatabaseFile, KeepsItsIdentityWhenItIsRewritten)
+{
+    makeLive(registryOf(5000));
+    makeDatabase(files.newDatabase(), registryOf(7));
+    struct stat before = {};
+    ASSERT_EQ(stat(QFile::encodeName(database.path()).constData(), &before), 0);
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Done);
+    struct stat after = {};
+    ASSERT_EQ(stat(QFile::encodeName(database.path()).constData(), &after), 0);
+    EXPECT_EQ(before.st_ino, after.st_ino);
+    EXPECT_TRUE(readFile(database.path()) == readFile(files.newDatabase()));
+    EXPECT_EQ(database.count(), 7);
+    EXPECT_THAT(
+        QDir(files.folder).entryList(QDir::Files | QDir::Hidden), ElementsAre("oui.db", "temp.db"));
+}
+
+TEST_F(VendorDatabaseFile, IsRewrittenThoughItIsNoDatabase)
+{
+    makeDatabase(files.newDatabase(), registryOf(7));
+    for (const QByteArray &before : {QByteArray(), QByteArray(9000, 'x')}) {
+        writeFile(database.path(), before);
+        EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Done);
+        EXPECT_EQ(database.count(), 7);
+    }
+}
+
+TEST_F(VendorDatabaseFile, IsNotMadeByRewriting)
+{
+    makeDatabase(files.newDatabase(), registryOf(7));
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::FileMissing);
+    EXPECT_FALSE(QFile::exists(database.path()));
+}
+
+TEST_F(VendorDatabaseFile, StaysAsItIsWithoutASource)
+{
+    makeLive(registryOf(5));
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
+    EXPECT_EQ(database.count(), 5);
+}
+
+TEST_F(VendorDatabaseFile, IsNotWrittenWhereThereIsNoRoom)
+{
+    const LogCapture log;
+    makeDatabase(files.newDatabase(), registryOf(7));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), database.path()));
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
+    EXPECT_THAT(LogCapture::taken().join(QLatin1Char('\n')).toStdString(),
+        ::testing::HasSubstr("No space left on device"));
+}
+
+TEST_F(VendorDatabaseFile, IsLeftAloneWhileSomebodyReadsIt)
+{
+    const LogCapture log;
+    makeLive(registryOf(5));
+    makeDatabase(files.newDatabase(), registryOf(7));
+    {
+        const SQLite::Database other(QFile::encodeName(database.path()).constData());
+        SQLite::Statement reading(other, "select * from vendor");
+        ASSERT_TRUE(reading.executeStep());
+        EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
+        EXPECT_EQ(LogCapture::taken(),
+            QStringList("quillon.vendors: Vendor database is locked by another program"));
+    }
+    EXPECT_EQ(database.count(), 5);
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Done);
+    EXPECT_EQ(database.count(), 7);
+}
+
+TEST_F(VendorDatabaseFile, AnswersWhileARewritingWaitsForSomebodyWhoReadsIt)
+{
+    const LogCapture log;
+    makeLive(registryOf(5));
+    makeDatabase(files.newDatabase(), registryOf(7));
+    const SQLite::Database other(QFile::encodeName(database.path()).constData());
+    SQLite::Statement reading(other, "select * from vendor");
+    ASSERT_TRUE(reading.executeStep());
+    auto rewriting =
+        std::async(std::launch::async, [&] { return database.rewriteFrom(files.newDatabase()); });
+    int answers = 0;
+    while (rewriting.wait_for(std::chrono::milliseconds(5)) == std::future_status::timeout) {
+        EXPECT_EQ(database.count(), 5);
+        ++answers;
+    }
+    EXPECT_EQ(rewriting.get(), Rewriting::Failed);
+    EXPECT_GT(answers, 10) << "questions waited together with the rewriting";
+}
+
+TEST_F(VendorDatabaseFile, IsRewrittenOnceSomebodyHasReadIt)
+{
+    makeLive(registryOf(5));
+    makeDatabase(files.newDatabase(), registryOf(7));
+    const SQLite::Database other(QFile::encodeName(database.path()).constData());
+    SQLite::Statement reading(other, "select * from vendor");
+    ASSERT_TRUE(reading.executeStep());
+    auto rewriting =
+        std::async(std::launch::async, [&] { return database.rewriteFrom(files.newDatabase()); });
+    EXPECT_EQ(rewriting.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+    reading.reset();
+    EXPECT_EQ(rewriting.get(), Rewriting::Done);
+    EXPECT_EQ(database.count(), 7);
+}
+
+TEST_F(VendorDatabaseFile, AnswersNothingWhileSomebodyWritesToIt)
+{
+    makeLive(registryOf(5));
+    SQLite::Database other(QFile::encodeName(database.path()).constData(), SQLite::OPEN_READWRITE);
+    other.exec("begin exclusive");
+    EXPECT_EQ(database.count(), 0);
+    other.exec("rollback");
+    EXPECT_EQ(database.count(), 5);
+}
+
+TEST_F(VendorDatabaseFile, LetsQuestionsWaitForARewritingThatTakesItsTime)
+{
+    makeLive(registryOf(5));
+    makeDatabase(root.filePath(QStringLiteral("large.db")), registryOf(3000));
+    const QByteArray bytes = readFile(root.filePath(QStringLiteral("large.db")));
+    // A source that gives what the test lets it give.
+    const QByteArray pipe = QFile::encodeName(root.filePath(QStringLiteral("pipe")));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    auto rewriting = std::async(
+        std::launch::async, [&] { return database.rewriteFrom(QFile::decodeName(pipe)); });
+    QFile source(QFile::decodeName(pipe));
+    ASSERT_TRUE(source.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    ASSERT_EQ(source.write(bytes.constData(), bytes.size() / 2), bytes.size() / 2);
+    // The file is cut short now. Longer than SQLite would be patient for:
+    auto asking = std::async(std::launch::async, [&] { return database.count(); });
+    EXPECT_EQ(asking.wait_for(std::chrono::milliseconds(600)), std::future_status::timeout);
+    EXPECT_GT(
+        source.write(bytes.constData() + bytes.size() / 2, bytes.size() - bytes.size() / 2), 0);
+    source.close();
+    EXPECT_EQ(rewriting.get(), Rewriting::Done);
+    EXPECT_EQ(asking.get(), 3000);
+}
+
+TEST_F(VendorDatabaseFile, GivesWholeAnswersWhileItIsRewritten)
+{
+    // Copies of one handle, as the components have them.
+    constexpr int fewer = 700;
+    constexpr int more = 3000;
+    const QString small = root.filePath(QStringLiteral("small.db"));
+    const QString large = root.filePath(QStringLiteral("large.db"));
+    makeDatabase(small, registryOf(fewer));
+    makeDatabase(large, registryOf(more));
+    makeLive(registryOf(fewer));
+
+    std::atomic<bool> ending = false;
+    std::atomic<int> answers = 0;
+    std::atomic<int> broken = 0;
+    const auto question = [&, copy = database] {
+        while (!ending) {
+            const qlonglong count = copy.count();
+            const qsizetype listed = copy.displayStrings().size();
+            const auto found = copy.lookup(QStringLiteral("000001"));
+            const bool whole = (count == fewer || count == more) &&
+                               (listed == fewer || listed == more) && found &&
+                               found->organizationName == QStringLiteral("Maker 000001");
+            broken += whole ? 0 : 1;
+            ++answers;
+        }
+    };
+    std::thread first(question);
+    std::thread second(question);
+    int rewritten = 0;
+    while (rewritten < 25 || answers < 50) {
+        const QString &source = rewritten % 2 == 0 ? large : small;
+        ASSERT_EQ(database.rewriteFrom(source), Rewriting::Done);
+        ++rewritten;
+    }
+    ending = true;
+    first.join();
+    second.join();
+    EXPECT_EQ(broken, 0) << "of " << answers << " answers";
+}
+
+} // namespace
+} // namespace quillon::test

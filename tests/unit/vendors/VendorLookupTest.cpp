@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorLookup.h"
+
+#include "VendorMachine.h"
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class VendorOfAnAddress : public VendorMachine
+{
+protected:
+    VendorOfAnAddress()
+    {
+        makeLive(registryOf({{"001A2B", "  Some Maker \r\n"}, {"080030", "One"}, {"080030", "Two"},
+            {"NO-HEX", "Odd"}}));
+        QObject::connect(
+            &lookup, &VendorLookup::vendorButtonShown, [this](bool shown) { button << shown; });
+    }
+
+    /// Name, address, identifier, registry.
+    QStringList data() const
+    {
+        const QVariantMap stored = settings.getDictionary(keys::currentVendorData);
+        return {stored.value(vendordata::vendorCurrentString).toString(),
+            stored.value(vendordata::vendorCurrentAddress).toString(),
+            stored.value(vendordata::vendorCurrentAssignment).toString(),
+            stored.value(vendordata::vendorCurrentRegistry).toString()};
+    }
+
+    QList<bool> button;
+};
+
+TEST_F(VendorOfAnAddress, IsLookedUpByItsFirstThreeOctetsInUpperCase)
+{
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    EXPECT_THAT(data(), ElementsAre("Some Maker", "1 Long Road, Town", "001A2B", "MA-L"));
+    EXPECT_THAT(button, ElementsAre(true));
+}
+
+TEST_F(VendorOfAnAddress, IsTheLastOfSeveral)
+{
+    lookup.updateVendor(QStringLiteral("08:00:30:00:00:01"));
+    EXPECT_EQ(data().first(), QLatin1String("Two"));
+}
+
+TEST_F(VendorOfAnAddress, IsNotKnownWithoutARow)
+{
+    lookup.updateVendor(QStringLiteral("ab:cd:ef:33:44:55"));
+    EXPECT_THAT(data(),
+        ElementsAre("No Vendor Information available...", "Unknown...", "ABCDEF", "Unknown..."));
+    EXPECT_THAT(button, ElementsAre(false));
+}
+
+TEST_F(VendorOfAnAddress, IsNotKnownWithoutADatabase)
+{
+    QFile::remove(files.liveDatabase());
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    EXPECT_EQ(data().first(), QLatin1String("No Vendor Information available..."));
+    EXPECT_FALSE(QFile::exists(files.liveDatabase()));
+}
+
+TEST_F(VendorOfAnAddress, StaysPendingForATextThatIsTooShort)
+{
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    button.clear();
+    for (const char *const text : {"", "00:1a"}) {
+        lookup.updateVendor(QString::fromLatin1(text));
+        EXPECT_THAT(data(), ElementsAre("Getting Vendor infomation...", "", "", ""));
+    }
+    EXPECT_THAT(button, IsEmpty());
+    EXPECT_EQ(settings.journal().last(), QLatin1String("synchronize"));
+}
+
+TEST_F(VendorOfAnAddress, IsLookedUpByWhateverStandsThere)
+{
+    lookup.updateVendor(QStringLiteral("no-hex and more"));
+    EXPECT_THAT(data(), ElementsAre("Odd", "1 Long Road, Town", "NO-HEX", "MA-L"));
+    lookup.updateVendor(QStringLiteral("00-1a-2b-33-44-55"));
+    EXPECT_EQ(data().at(2), QLatin1String("00-1A-"));
+    lookup.updateVendor(QStringLiteral(":1:2:3"));
+    EXPECT_EQ(data().at(2), QLatin1String("123"));
+}
+
+TEST_F(VendorOfAnAddress, LeavesOtherKeysOfTheRecordAlone)
+{
+    settings.set(
+        keys::currentVendorData, QVariantMap{{QStringLiteral("other"), QStringLiteral("kept")}});
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    EXPECT_EQ(settings.getDictionary(keys::currentVendorData).value(QStringLiteral("other")),
+        QStringLiteral("kept"));
+}
+
+TEST_F(VendorOfAnAddress, MayHaveARowThatHoldsNothing)
+{
+    makeLive("Assignment\n001A2B\n");
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    EXPECT_THAT(data(), ElementsAre("", "", "001A2B", ""));
+    EXPECT_THAT(button, ElementsAre(true));
+}
+
+TEST_F(VendorOfAnAddress, MayHaveARowWhoseTextsAreFarTooLong)
+{
+    const QByteArray long1(5'000'000, 'x');
+    makeLive("Assignment,Organization Name,Organization Address,Registry\n001A2B," + long1 + ',' +
+             long1 + ',' + long1 + '\n');
+    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    const QString cut(4096, QLatin1Char('x'));
+    EXPECT_TRUE(data() == (QStringList{cut, cut, QStringLiteral("001A2B"), cut}))
+        << "lengths " << data().at(0).size() << ' ' << data().at(1).size() << ' '
+        << data().at(3).size();
+}
+
+TEST_F(VendorOfAnAddress, IsShownOnTheMainThreadWhoeverAsks)
+{
+    scheduler.asBackground([this] { lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55")); });
+    EXPECT_EQ(data().first(), QLatin1String("Some Maker"));
+    EXPECT_THAT(button, IsEmpty());
+    scheduler.runPending();
+    EXPECT_THAT(button, ElementsAre(true));
+    EXPECT_TRUE(field.state().vendorButtonVisible);
+}
+
+} // namespace
+} // namespace quillon::test
