@@ -76,15 +76,15 @@ class MainWindowTest(ProgramTest):
 
     def drag(self, x, y):
         xdotool("mousemove", x, y, "mousedown", 1)
-        # In steps, as a hand does it.
+        # In steps, as a hand does it; upwards, where the screen goes on.
         for step in range(1, 6):
-            xdotool("mousemove", x + 12 * step, y + 8 * step)
+            xdotool("mousemove", x + 12 * step, y - 8 * step)
         xdotool("mouseup", 1)
 
     def test_the_window_is_moved_by_its_ground(self):
         left, top, width, height = self.window.extents
         self.drag(left + 8, top + height // 2)
-        wait_until(lambda: self.window.extents == (left + 60, top + 40, width, height),
+        wait_until(lambda: self.window.extents == (left + 60, top - 40, width, height),
                    lambda: f"it was at {left}, {top} and is at {self.window.extents}")
         # The press that began it is over: a click does what it always does.
         self.button("Randomise address").click()

@@ -1,0 +1,165 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Manufacturers: their registry is refreshed over the web, one is chosen, and its prefix is in the kernel."""
+import csv
+import os
+import re
+import shutil
+import unittest
+
+from program import ProgramTest, kernel_addresses, wait_until, xdotool
+from webserver import REGISTRY, REGISTRY_FILE, Web
+
+FOLDER = os.path.expanduser("~/.local/share/Quillon")
+FIELD = "Manufacturer of random addresses"
+SETTINGS = os.path.expanduser("~/.config/Quillon")
+# A locale's date and time, whichever it is: with digits, and short.
+LAST_UPDATED = r"^Last Updated: \S.*\d\d"
+
+
+def registry():
+    """Identifier and name of each row, as the public registry has them."""
+    with open(REGISTRY_FILE, newline="", encoding="utf-8") as file:
+        return [(row["Assignment"], row["Organization Name"].strip()) for row in csv.DictReader(file)]
+
+
+class VendorTest(ProgramTest):
+    def setUp(self):
+        self.web = Web()
+        self.addCleanup(self.web.end)
+        for folder in (FOLDER, SETTINGS):
+            shutil.rmtree(folder, ignore_errors=True)
+        super().setUp()
+
+    def label(self, pattern):
+        """The label whose whole text fits; None when there is none."""
+        for control in self.window.all("label"):
+            if re.search(pattern, control.name):
+                return control
+        return None
+
+    def expect_label(self, pattern):
+        return wait_until(lambda: self.label(pattern),
+                          lambda: f"no label “{pattern}”; there is {self.window.overview()}")
+
+    def rows(self):
+        """What the list of manufacturers shows; other lists of the window have no identifiers in them."""
+        return [item for item in self.window.all("list item") if item.name.endswith(")")]
+
+
+class RefreshTest(VendorTest):
+    def setUp(self):
+        super().setUp()
+        self.count = len(registry())
+        self.button("Vendor Data").press()
+        self.expect_label(rf"^{self.count} Vendor Identifiers$")
+
+    def test_the_first_start_counts_the_seed(self):
+        self.expect_label(rf"^\(null\) \(added {self.count} new Identifiers\)$")
+
+    def test_the_registry_is_downloaded_and_counted(self):
+        with open(REGISTRY_FILE, encoding="utf-8") as file:
+            text = file.read()
+        more = 'MA-L,FEED01,"Quoted, ""Maker""","1 Long Road"\r\nMA-L,FEED02,Another Maker,"2 Long Road"\r\n'
+        path = os.path.join(self.web.folder, "longer.csv")
+        with open(path, "w", encoding="utf-8", newline="") as file:
+            file.write(text.rstrip("\n") + "\n" + more)
+        # Slowly enough that a person sees how far it is.
+        self.web.serve({REGISTRY: {"file": path, "piece": 262144, "pause": 0.2}})
+        self.button("Update database").press()
+        self.expect_label(r"^Downloading\.\.\. \d+\.\d{3}% of 3\.0MB$")
+        self.button("Cancel download...")
+        self.expect_label(r"^\S.* \(added 2 new Identifiers\)$")
+        self.expect_label(rf"^{self.count + 2} Vendor Identifiers$")
+        self.button("Update database")
+        request = self.web.requests(REGISTRY)[0]
+        self.assertTrue(request["secure"])
+
+        field = self.window.find("entry", FIELD)
+        field.type("quoted")
+        wait_until(lambda: [row.name for row in self.rows()] == ['Quoted, "Maker" (FEED01)'],
+                   lambda: f"the list shows {[row.name for row in self.rows()]}")
+
+    def test_the_same_registry_again_tells_the_date_alone(self):
+        self.web.serve({REGISTRY: {"file": REGISTRY_FILE}})
+        self.button("Update database").press()
+        self.expect_label(LAST_UPDATED)
+        self.expect_label(rf"^{self.count} Vendor Identifiers$")
+
+    def test_a_download_is_cancelled(self):
+        self.web.serve({REGISTRY: {"file": REGISTRY_FILE, "cut": 500000, "then": "stall"}})
+        self.button("Update database").press()
+        self.expect_label(r"^Downloading\.\.\. ")
+        self.button("Cancel download...").press()
+        self.button("Update database")
+        self.expect_label(r"^Download cancelled\.\.\.$")
+        self.expect_label(rf"^{self.count} Vendor Identifiers$")
+
+    def test_without_an_answer_the_pane_stays_usable(self):
+        self.web.end()
+        self.button("Update database").press()
+        self.expect_label(r"^Getting download information\.\.\.$")
+        self.button("Cancel download...").press()
+        self.expect_label(r"^Download cancelled\.\.\.$")
+        self.button("Update database")
+
+    def test_what_is_no_registry_fails_and_changes_nothing(self):
+        self.web.serve({REGISTRY: {"status": 404, "body": "Not found\n"}})
+        self.button("Update database").press()
+        self.expect_label(r"^Parsing file failed\.\.\.$")
+        self.expect_label(rf"^{self.count} Vendor Identifiers$")
+
+
+class ChoiceTest(VendorTest):
+    def test_a_chosen_manufacturers_prefix_is_in_the_kernel(self):
+        device = self.selector.name
+        field = self.window.find("entry", FIELD)
+        wait_until(lambda: field.text == "Random Address", "the field names no choice")
+        field.type("appl")
+        wait_until(lambda: self.rows() and all(row.name.lower().startswith("appl") for row in self.rows()),
+                   lambda: f"the list shows {[row.name for row in self.rows()]}")
+        known = {f"{name} ({identifier})" for identifier, name in registry()}
+        self.assertLessEqual({row.name for row in self.rows()}, known)
+
+        xdotool("key", "Down", "Down")
+        chosen = self.rows()[1].name
+        wait_until(lambda: field.text == chosen, lambda: f"{field.text} was chosen")
+        xdotool("key", "Return")
+        wait_until(lambda: not self.rows(), "the list stayed open")
+        wait_until(lambda: field.focused, "the field did not get the keyboard back")
+
+        self.button("Randomise address").press()
+        new = self.expect_only_changed(device)
+        self.assertEqual(new.replace(":", "")[:6], chosen[-7:-1])
+        self.expect_shown(new)
+
+    def test_the_choice_belongs_to_the_interface(self):
+        selected = self.selector.name
+        other = next(name for name in ("enp2s0", "enp1s0") if name != selected)
+        field = self.window.find("entry", FIELD)
+        field.type("appl")
+        xdotool("key", "Down")
+        wait_until(lambda: field.text.endswith(")"), "nothing was chosen")
+        chosen = field.text
+        xdotool("key", "Escape")
+        self.selector.choose(other)
+        wait_until(lambda: field.text == "Random Address", lambda: f"{other} shows {field.text}")
+        self.selector.choose(selected)
+        wait_until(lambda: field.text == chosen, lambda: f"{selected} shows {field.text}")
+        self.assertEqual(kernel_addresses(), self.addresses, "choosing changes no address")
+
+    def test_the_list_is_used_with_the_pointer(self):
+        field = self.window.find("entry", FIELD)
+        size = self.window.extents[2:]
+        self.button("Show manufacturers").click()
+        row = wait_until(lambda: self.rows() and self.rows()[2], "the list stayed closed")
+        self.assertEqual(self.window.extents[2:], size, "the window keeps its size")
+        chosen = row.name
+        row.click()
+        wait_until(lambda: field.text == chosen, lambda: f"{field.text} was chosen instead of {chosen}")
+        self.button("Hide manufacturers").click()
+        wait_until(lambda: not self.rows(), "the list stayed open")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/app/ComposedProgram.h"
+
+#include "base/SettingsKeys.h"
+#include "platform/qt/PropertyListFile.h"
+
+#include <stdexcept>
+
+namespace quillon::test {
+
+namespace {
+
+// Nobody listens there: the external address stays unknown, at once.
+const QString nobody = QStringLiteral("https://127.0.0.1:9/");
+
+QVariantMap packagedDefaults()
+{
+    const auto defaults = readPropertyListFile(QStringLiteral(QUILLON_DEFAULTS));
+    if (!defaults) {
+        throw std::runtime_error(defaults.error().message.toStdString());
+    }
+    return defaults.value();
+}
+
+} // namespace
+
+ComposedProgram::ComposedProgram(const QString &folder, int speed)
+    : m_scheduler(m_real, speed)
+    , settings(folder + QStringLiteral("/settings.plist"), m_real, {})
+    , groupSettings(folder + QStringLiteral("/group-settings.plist"), m_real, {})
+{
+    QuillonAppDelegate::initialize(settings, packagedDefaults());
+    m_delegate = std::make_unique<QuillonAppDelegate>(
+        Platform{m_scheduler, settings, groupSettings, m_notifications, m_distributedNotifications,
+            userNotifications, alerts, m_network, m_interfaceAddresses, m_networkChanges,
+            m_reachability, wifi, m_location, m_systemSettings, m_http, helperLink, m_random,
+            m_runningApplications, {folder, QString(), QUrl(nobody), QUrl(nobody)}});
+}
+
+ComposedProgram::~ComposedProgram()
+{
+    m_delegate->launch().applicationWillTerminate();
+    m_real.shutDown();
+}
+
+void ComposedProgram::launch()
+{
+    LaunchSequence &launch = m_delegate->launch();
+    launch.awakeFromNib();
+    launch.applicationWillFinishLaunching();
+    launch.applicationDidFinishLaunching();
+}
+
+QString ComposedProgram::recordsPath(const QString &folder)
+{
+    return folder + QStringLiteral("/Quillon.sqlite");
+}
+
+QVariantMap ComposedProgram::devices() const
+{
+    return settings.getDictionary(keys::deviceDict);
+}
+
+QVariantMap ComposedProgram::record(const QString &device) const
+{
+    return devices().value(device).toMap();
+}
+
+QStringList ComposedProgram::messages(const QString &title) const
+{
+    QStringList bodies;
+    for (const UserNotificationRequest &message : userNotifications.everShown) {
+        if (message.title == title) {
+            bodies.append(message.body);
+        }
+    }
+    return bodies;
+}
+
+QStringList ComposedProgram::messageTitles() const
+{
+    QStringList titles;
+    for (const UserNotificationRequest &message : userNotifications.everShown) {
+        titles.append(message.title);
+    }
+    return titles;
+}
+
+} // namespace quillon::test

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/QuillonAppDelegate.h"
+#include "fakes/FakeAlertPresenter.h"
+#include "fakes/FakeSystemSettings.h"
+#include "fakes/FakeUserNotificationCenter.h"
+#include "fakes/FakeWiFiClient.h"
+#include "integration/app/FastScheduler.h"
+#include "integration/app/WatchedHelperLink.h"
+#include "platform/NotificationCenter.h"
+#include "platform/linux/BusRunningApplications.h"
+#include "platform/linux/DBusHelperLink.h"
+#include "platform/linux/GetifaddrsAddresses.h"
+#include "platform/linux/GetrandomSource.h"
+#include "platform/linux/NetlinkChangeSource.h"
+#include "platform/linux/NetlinkHost.h"
+#include "platform/linux/Nl80211LocationAuthorization.h"
+#include "platform/linux/RouteReachability.h"
+#include "platform/linux/SessionBusNotificationCenter.h"
+#include "platform/qt/NetworkHttpClient.h"
+#include "platform/qt/PlistSettingsStore.h"
+#include "platform/qt/QtScheduler.h"
+
+#include <QString>
+
+namespace quillon::test {
+
+/// The program without windows, put together as main() does it on the real kernel, buses, helper
+/// and files. Its own clock runs fast; what it stands on keeps to the real one. Messages to the
+/// user are kept, not shown, and the Wi-Fi joins what a test tells it to: there is no radio.
+class ComposedProgram
+{
+public:
+    /// `folder` holds its settings and its data, as a user's home does. `speed` is how many times
+    /// faster its clock runs.
+    explicit ComposedProgram(const QString &folder, int speed = 60);
+    /// Ends in order.
+    ~ComposedProgram();
+    ComposedProgram(const ComposedProgram &) = delete;
+    ComposedProgram &operator=(const ComposedProgram &) = delete;
+
+    void launch();
+
+    static QString recordsPath(const QString &folder);
+
+    QuillonAppDelegate &delegate() { return *m_delegate; }
+    /// By the program's clock.
+    QDateTime now() const { return m_scheduler.now(); }
+    /// What the program knows about a device.
+    QVariantMap record(const QString &device) const;
+    QVariantMap devices() const;
+    /// The bodies of the messages with that title that the user has got so far.
+    QStringList messages(const QString &title) const;
+    QStringList messageTitles() const;
+
+private:
+    QtScheduler m_real;
+    FastScheduler m_scheduler;
+
+public:
+    PlistSettingsStore settings;
+    PlistSettingsStore groupSettings;
+    FakeUserNotificationCenter userNotifications{m_scheduler};
+    FakeAlertPresenter alerts;
+    FakeWiFiClient wifi;
+
+private:
+    NotificationCenter m_notifications;
+    SessionBusNotificationCenter m_distributedNotifications;
+    NetlinkHost m_network;
+    GetifaddrsAddresses m_interfaceAddresses;
+    NetlinkChangeSource m_networkChanges{m_real};
+    RouteReachability m_reachability;
+    Nl80211LocationAuthorization m_location{m_real};
+    FakeSystemSettings m_systemSettings;
+    NetworkHttpClient m_http;
+    GetrandomSource m_random;
+    DBusHelperLink m_helperLink{m_random};
+
+public:
+    WatchedHelperLink helperLink{m_helperLink, m_scheduler};
+
+private:
+    BusRunningApplications m_runningApplications;
+    std::unique_ptr<QuillonAppDelegate> m_delegate;
+};
+
+} // namespace quillon::test

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The road of one event: from the cable to the changed address, its history and its message.
+#include "base/SettingsKeys.h"
+#include "integration/app/RoadTest.h"
+#include "store/QuillonModel.h"
+
+namespace quillon::test {
+
+using namespace std::chrono_literals;
+
+class PlugInTest : public RoadTest
+{
+protected:
+    // Once there is one more than that, the helper's answer has been handled to its end.
+    bool changeIsRecorded(qsizetype before = 0)
+    {
+        return eventually([&] { return savedHistory(records).size() > before; });
+    }
+
+    void expectOneChange()
+    {
+        const QString now = kernelAddress();
+        EXPECT_NE(now, factoryAddress);
+        EXPECT_EQ(addressesSeen(), (QStringList{factoryAddress, now}));
+        ASSERT_EQ(program->helperLink.changes.size(), 1);
+        EXPECT_EQ(program->helperLink.changes.first().device, card);
+        EXPECT_EQ(program->record(card).value(record::current), now);
+
+        const auto history = savedHistory(records);
+        ASSERT_EQ(history.size(), 1);
+        EXPECT_EQ(history.first().value(model::connection::device), card);
+        EXPECT_EQ(history.first().value(model::connection::interface), QStringLiteral("Ethernet"));
+        EXPECT_EQ(history.first()
+                      .value(model::connection::address)
+                      .toString()
+                      .compare(now, Qt::CaseInsensitive),
+            0);
+        EXPECT_EQ(history.first().value(model::connection::ssid), QString());
+        EXPECT_EQ(history.first().value(model::connection::bssid), QString());
+        EXPECT_TRUE(history.first().value(model::connection::date).toDateTime().isValid());
+
+        EXPECT_EQ(program->messages(changedTitle),
+            QStringList{QStringLiteral("Your new MAC Address is: ") + now});
+        EXPECT_EQ(program->messages(notChangedTitle), QStringList());
+    }
+};
+
+TEST_F(PlugInTest, APluggedInterfaceThatReachesTheInternetChangesItsAddressOnceByItself)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    EXPECT_EQ(status(), QStringLiteral("active"));
+    EXPECT_EQ(kernelAddress(), factoryAddress) << "nothing leads to the internet yet";
+
+    giveLease(true);
+    ASSERT_TRUE(changeIsRecorded());
+    settle();
+    // Were the change's own events taken for news, it would never end.
+    letPass(5min);
+    settle();
+    expectOneChange();
+    EXPECT_EQ(hasRule(), 1);
+}
+
+TEST_F(PlugInTest, WithoutAWayToTheInternetOnlyTheStatusIsUpdated)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(false);
+    settle();
+    letPass(5min);
+
+    EXPECT_EQ(status(), QStringLiteral("active"));
+    EXPECT_EQ(program->record(card).value(record::ipAddress), QStringLiteral("198.51.100.5"));
+    EXPECT_EQ(hasRule(), 1);
+    EXPECT_EQ(ruleInForce().value(model::rule::name), QStringLiteral("New address for eth5"));
+    EXPECT_EQ(kernelAddress(), factoryAddress);
+    EXPECT_TRUE(program->helperLink.changes.isEmpty());
+    EXPECT_TRUE(savedHistory(records).isEmpty());
+    EXPECT_TRUE(program->messages(changedTitle).isEmpty());
+}
+
+TEST_F(PlugInTest, ALinkThatGoesDownWithTheChangeDoesNotCauseTheNextOne)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    // Slow enough that the cable is back while the program still expects it.
+    startProgram(3);
+    plugCable();
+    settle();
+    // As a card whose driver restarts the link for a new address.
+    administrator().start(
+        QStringLiteral("changes=0\n"
+                       "last=$(cat /sys/class/net/%1/address)\n"
+                       "while [ -e /sys/class/net/%1 ]; do\n"
+                       "  now=$(cat /sys/class/net/%1/address)\n"
+                       "  if [ $now != $last ]; then\n"
+                       "    last=$now\n"
+                       "    ip link set far-%1 down; sleep 0.3; ip link set far-%1 up\n"
+                       "    touch /tmp/link-restarted\n"
+                       "  fi\n"
+                       "  sleep 0.01\n"
+                       "done")
+            .arg(card));
+    giveLease(true);
+    ASSERT_TRUE(changeIsRecorded());
+    ASSERT_TRUE(eventually([] { return QFile::exists(QStringLiteral("/tmp/link-restarted")); }));
+    letPass(12s);
+    settle();
+    EXPECT_EQ(status(), QStringLiteral("active"));
+    expectOneChange();
+}
+
+TEST_F(PlugInTest, ANewStayIsANewChange)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(true);
+    ASSERT_TRUE(changeIsRecorded());
+    const QString first = kernelAddress();
+    // Longer than the link may be down because of the change.
+    letPass(1min);
+    pullCable();
+    settle();
+    EXPECT_EQ(status(), QStringLiteral("inactive"));
+    EXPECT_EQ(kernelAddress(), first);
+    plugCable();
+    ASSERT_TRUE(changeIsRecorded(1));
+    settle();
+    letPass(2min);
+    EXPECT_EQ(addressesSeen().size(), 3);
+    EXPECT_EQ(program->messages(changedTitle).size(), 2);
+}
+
+TEST_F(PlugInTest, ADisabledRuleChangesNothing)
+{
+    QVariantMap rule = randomOnceRule(card);
+    rule[model::rule::enabled] = false;
+    ASSERT_TRUE(addRule(records, rule));
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(true);
+    settle();
+    letPass(2min);
+    EXPECT_EQ(hasRule(), 2);
+    EXPECT_EQ(kernelAddress(), factoryAddress);
+}
+
+TEST_F(PlugInTest, OtherInterfacesAreLeftAlone)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    const auto before = kernelAddresses();
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(true);
+    ASSERT_TRUE(changeIsRecorded());
+    letPass(1min);
+    auto after = kernelAddresses();
+    EXPECT_NE(after.take(card), factoryAddress);
+    EXPECT_EQ(after.size(), before.size() - 1);
+    for (auto link = after.cbegin(); link != after.cend(); ++link) {
+        EXPECT_EQ(link.value(), before.value(link.key())) << qPrintable(link.key());
+    }
+}
+
+} // namespace quillon::test

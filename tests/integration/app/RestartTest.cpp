@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/SettingsKeys.h"
+#include "integration/app/RoadTest.h"
+#include "networks/SavedAddresses.h"
+#include "networks/SavedNetworks.h"
+
+namespace quillon::test {
+
+class RestartTest : public RoadTest
+{
+protected:
+    void saveNetwork(const QString &ssid, const QString &bssid)
+    {
+        WiFiInterface network;
+        network.device = QStringLiteral("wlan0");
+        network.ssid = ssid;
+        network.bssid = bssid;
+        program->wifi.join(network);
+        program->delegate().networks().savedNetworks.addCurrentNetworkToSavedList();
+    }
+
+    void restart()
+    {
+        program.reset();
+        startProgram();
+    }
+};
+
+TEST_F(RestartTest, SavedNetworksAndAddressesAreThereAgain)
+{
+    startProgram();
+    program->delegate().changeInterfacefromPopup(card);
+    saveNetwork(QStringLiteral("Harbour Café"), QStringLiteral("06:00:5E:00:00:01"));
+    saveNetwork(QStringLiteral("Library"), QStringLiteral("06:00:5e:00:00:02"));
+    SavedAddresses &addresses = program->delegate().networks().savedAddresses;
+    addresses.addCurrentAddressToSavedList();
+    ASSERT_TRUE(addresses.isCurrentAddressSaved());
+    const QVariant networks = program->settings.get(keys::savedNetworks);
+    const QVariant saved = program->settings.get(keys::savedAddresses);
+    ASSERT_EQ(networks.toMap().size(), 2);
+    ASSERT_EQ(saved.toMap().size(), 1);
+
+    restart();
+    EXPECT_EQ(program->settings.get(keys::savedNetworks), networks);
+    EXPECT_EQ(program->settings.get(keys::savedAddresses), saved);
+    EXPECT_EQ(ssidForNetworkName(program->settings, QStringLiteral("Harbour Café")),
+        QStringLiteral("Harbour Café"));
+    EXPECT_EQ(bssidForNetworkName(program->settings, QStringLiteral("Harbour Café"))
+                  .compare(QLatin1String("06:00:5e:00:00:01"), Qt::CaseInsensitive),
+        0);
+    EXPECT_EQ(bssidForNetworkName(program->settings, QStringLiteral("Library")),
+        QStringLiteral("06:00:5e:00:00:02"));
+    const QString name = saved.toMap().first().toMap().value(QStringLiteral("name")).toString();
+    EXPECT_EQ(addressForAddressName(program->settings, name), saved.toMap().firstKey());
+    EXPECT_TRUE(program->delegate().networks().savedAddresses.isCurrentAddressSaved());
+}
+
+TEST_F(RestartTest, TheHistoryIsThereAgainAndGrows)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    plugCable();
+    startProgram();
+    ASSERT_TRUE(eventually([this] { return savedHistory(records).size() == 1; }));
+    const auto first = savedHistory(records).first();
+    restart();
+    ASSERT_TRUE(eventually([this] { return savedHistory(records).size() == 2; }));
+    EXPECT_EQ(savedHistory(records).first(), first);
+    EXPECT_EQ(savedRules(records).size(), 1);
+}
+
+} // namespace quillon::test
