@@ -4,14 +4,12 @@
 // Started as the ordinary user. Requests: name; change, direct DEVICE ADDRESS; connect; version;
 // ports; refresh.
 #include "bench/LinkUnderTest.h"
+#include "bench/ServeInLoop.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QSocketNotifier>
 
-#include <array>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
@@ -54,31 +52,6 @@ int main(int argc, char **argv)
         return 2;
     }
     LinkUnderTest link(QString::fromLocal8Bit(argv[1]));
-    // Between requests the event loop turns, as the program's does: departures are noticed.
-    std::string unread;
-    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
-    bool isServing = false;
-    QObject::connect(&input, &QSocketNotifier::activated, [&] {
-        if (isServing) {
-            return;
-        }
-        isServing = true;
-        std::array<char, 4096> piece{};
-        const ssize_t size = read(STDIN_FILENO, piece.data(), piece.size());
-        if (size <= 0) {
-            QCoreApplication::quit();
-        }
-        unread.append(piece.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
-        for (std::size_t end = 0; (end = unread.find('\n')) != std::string::npos;) {
-            const Words request = wordsOf(unread.substr(0, end));
-            unread.erase(0, end + 1);
-            try {
-                answer(handle(link, request));
-            } catch (const std::exception &error) {
-                answerError(error.what());
-            }
-        }
-        isServing = false;
-    });
-    return QCoreApplication::exec();
+    // Between requests departures of the other programs are noticed.
+    return serveInLoop([&link](const Words &request) { return handle(link, request); });
 }

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Measures everything, as root inside one sandbox, and prints the table. Started by tools/bench.
 
-usage: bench/measure.py BUILD SETTINGS-FOLDER ROUNDS STARTS IDLE-SECONDS
+usage: bench/measure.py BUILD SETTINGS-FOLDER ROUNDS STARTS IDLE-SECONDS PART
 """
 import json
 import os
@@ -13,9 +13,13 @@ import signal
 import statistics
 import subprocess
 import sys
+import tempfile
 import time
 
 import idle
+import records
+import road
+import vendors
 from report import Report
 from workers import USER, Failed, Worker, in_turns, processes_of
 
@@ -30,9 +34,10 @@ def address():
 
 
 class Bench:
-    def __init__(self, build, settings, rounds, starts, idle_seconds):
+    def __init__(self, build, settings, rounds, starts, idle_seconds, part):
         self.build, self.settings = build, settings
         self.rounds, self.starts, self.idle_seconds = int(rounds), int(starts), int(idle_seconds)
+        self.part = part
         self.folder = os.path.join(build, "bench")
         self.report = Report()
         self.ip = shutil.which("ip")
@@ -43,10 +48,16 @@ class Bench:
         return Worker(self.folder, program, *arguments, user=USER, log=subprocess.DEVNULL)
 
     def run(self):
-        self.change()
-        self.start_and_idle()
-        self.many_interfaces()
-        self.in_process()
+        parts = {
+            "change": self.change,
+            "start": self.start_and_idle,
+            "interfaces": self.many_interfaces,
+            "history": self.history,
+            "vendors": self.vendors,
+            "in-process": self.in_process,
+        }
+        for measure in parts.values() if self.part == "all" else (parts[self.part],):
+            measure()
         self.report.print()
 
     # One address change
@@ -119,6 +130,13 @@ class Bench:
         report.times("cold: service and helper are started", cold)
         report.row("the very first, polkit not running either", f"{first[0]:.2f} ms")
 
+    # The road of one event
+
+    def road(self):
+        with tempfile.TemporaryDirectory(dir=self.settings) as folder:
+            shutil.chown(folder, USER, USER)
+            road.measure(self.report, self.user_worker, self.build, folder, max(10, self.rounds // 4))
+
     # Many interfaces
 
     def many_interfaces(self):
@@ -153,6 +171,24 @@ class Bench:
         theirs = self.report.times("ip -j addr, a process", taken["ip"])
         self.report.goal("our call / ip -j addr", ours / theirs, 0.5)
         self.report.times("updateNetWorkInterfaces(), settings on disk", refreshes["refresh"])
+
+    # A long history
+
+    def history(self):
+        command = Worker(self.folder, "measure-command")
+        with tempfile.TemporaryDirectory(dir=self.settings) as folder:
+            records.measure(self.report, lambda path: Worker(self.folder, "measure-records", path),
+                            command, folder, max(5, self.rounds // 20))
+        command.end()
+
+    # The vendor registry
+
+    def vendors(self):
+        command = Worker(self.folder, "measure-command")
+        with tempfile.TemporaryDirectory(dir=self.settings) as folder:
+            vendors.measure(self.report, lambda path: Worker(self.folder, "measure-vendors", path),
+                            command, folder, max(10, self.rounds // 4))
+        command.end()
 
     def in_process(self):
         answer = subprocess.run([os.path.join(self.folder, "in-process"), "--benchmark_format=json"],
