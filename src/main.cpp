@@ -157,7 +157,9 @@ int main(int argc, char **argv)
     QObject::connect(
         &instance, &SessionInstance::activated, [&] { launch.applicationShouldHandleReopen(); });
     Termination termination(delegate.records().saving);
-    QObject::connect(&termination, &Termination::granted, &application, &QCoreApplication::quit);
+    // Not quit(): that asks the windows first, and ours answers with a wish of its own to end.
+    QObject::connect(
+        &termination, &Termination::granted, &application, [] { QCoreApplication::exit(0); });
     QObject::connect(
         &delegate.presence(), &Presence::terminated, &termination, &Termination::terminate);
     const TerminationSignals signals([&termination] { termination.terminate(); });

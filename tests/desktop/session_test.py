@@ -62,6 +62,10 @@ class LateTrayHostTest(ProgramTest):
         trayclient.only_item().click("Quit Quillon")
         self.assertEqual(self.program.wait(DEADLINE), 0)
 
+    def test_without_a_tray_host_it_ends_when_it_is_told_to(self):
+        self.program.terminate()
+        self.assertEqual(self.program.wait(DEADLINE), 0)
+
     def test_without_a_tray_host_closing_ends_the_program(self):
         self.field.click()
         wait_until(lambda: self.field.focused, "the window did not get the keyboard")

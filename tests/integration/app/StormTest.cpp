@@ -123,7 +123,7 @@ TEST_F(StormTest, TheLastStateIsRightAndTheMemoryFlat)
     const long before = residentKilobytes();
     Heartbeat heartbeat;
 
-    const long events = storm(2s);
+    const long events = storm(10s);
     const auto expected = kernelState(stormy);
     EXPECT_EQ(
         expected.value(stormy.at(3)), (QStringList{QStringLiteral("02:57:00:00:00:03"),
