@@ -50,6 +50,7 @@ class Bench:
     def run(self):
         parts = {
             "change": self.change,
+            "road": self.road,
             "start": self.start_and_idle,
             "interfaces": self.many_interfaces,
             "history": self.history,
