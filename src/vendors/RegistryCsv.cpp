@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t noColumn = std::numeric_limits<std::size_t>::max();
 /// The parser's buffer grows by so much at a time.
-constexpr std::size_t bufferStep = std::size_t{4} * 1024;
+constexpr std::size_t bufferStep = std::size_t{64} * 1024;
 
 constexpr std::array<std::string_view, registryFieldCount> columnNames = {
     "Assignment", "Organization Address", "Organization Name", "Registry"};
