@@ -3,11 +3,11 @@
 // Pieces of the program that are measured within one process.
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
-#include "platform/linux/GetifaddrsAddresses.h"
 #include "platform/linux/GetrandomSource.h"
-#include "platform/linux/NetlinkHost.h"
-#include "platform/qt/PlistSettingsStore.h"
+#include "platform/linux/netlink/GetifaddrsAddresses.h"
+#include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/settings/PlistSettingsStore.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

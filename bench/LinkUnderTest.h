@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "XPCMethods.h"
 #include "base/Notifier.h"
 #include "bench/TimedHost.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/NotificationCenter.h"
-#include "platform/linux/DBusHelperLink.h"
-#include "platform/linux/GetifaddrsAddresses.h"
 #include "platform/linux/GetrandomSource.h"
-#include "platform/linux/NetlinkHost.h"
-#include "platform/qt/PlistSettingsStore.h"
+#include "platform/linux/bus/DBusHelperLink.h"
+#include "platform/linux/netlink/GetifaddrsAddresses.h"
+#include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/settings/PlistSettingsStore.h"
 
 #include <optional>
 

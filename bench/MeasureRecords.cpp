@@ -10,9 +10,9 @@
 //   memory          kilobytes resident now, and at most so far
 #include "bench/Request.h"
 #include "platform/qt/QtScheduler.h"
-#include "store/FetchedRecords.h"
 #include "store/PersistentContainer.h"
-#include "store/QuillonModel.h"
+#include "store/graph/FetchedRecords.h"
+#include "store/model/QuillonModel.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

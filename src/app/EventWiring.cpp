@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/EventWiring.h"
 
-#include "XPCMethods.h"
-#include "app/AdvancedPreferencesModel.h"
-#include "app/MainWindowModel.h"
-#include "app/Presence.h"
-#include "app/StatusMenuModel.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/NetworkChangeSource.h"
+#include "presentation/menu/StatusMenuModel.h"
+#include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/window/MainWindowModel.h"
+#include "presentation/window/Presence.h"
 
 #include <QPointer>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/Platform.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
 #include "platform/SettingsStore.h"
 
 #include <QObject>

@@ -2,18 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LaunchSequence.h"
 
-#include "XPCMethods.h"
 #include "app/EventWiring.h"
-#include "app/MainWindowModel.h"
-#include "app/Presence.h"
 #include "app/UserNotifications.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "helperlink/XPCMethods.h"
 #include "networks/ExternalIPAddress.h"
 #include "platform/RunningApplications.h"
 #include "platform/SettingsStore.h"
+#include "presentation/window/MainWindowModel.h"
+#include "presentation/window/Presence.h"
 
 #include <QPointer>
 

@@ -2,23 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "XPCMethods.h"
-#include "app/AdvancedPreferencesModel.h"
 #include "app/EventWiring.h"
 #include "app/LaunchSequence.h"
-#include "app/MainWindowModel.h"
-#include "app/NetworkRoom.h"
-#include "app/Platform.h"
-#include "app/Presence.h"
-#include "app/RecordRoom.h"
-#include "app/RuleRoom.h"
-#include "app/StatusMenuModel.h"
 #include "app/UserNotifications.h"
-#include "app/VendorRoom.h"
+#include "app/features/HistoryFeature.h"
+#include "app/features/NetworkFeature.h"
+#include "app/features/RuleFeature.h"
+#include "app/features/VendorFeature.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
+#include "helperlink/XPCMethods.h"
+#include "platform/Platform.h"
+#include "presentation/menu/StatusMenuModel.h"
+#include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/window/MainWindowModel.h"
+#include "presentation/window/Presence.h"
 
 namespace quillon {
 
@@ -37,10 +37,10 @@ public:
     StatusMenuModel &statusMenu() { return m_statusMenu; }
     AdvancedPreferencesModel &advancedPreferences() { return m_advancedPreferences; }
     Presence &presence() { return m_presence; }
-    RecordRoom &records() { return m_records; }
-    NetworkRoom &networks() { return m_networks; }
-    RuleRoom &rules() { return m_rules; }
-    VendorRoom &vendors() { return m_vendors; }
+    HistoryFeature &records() { return m_records; }
+    NetworkFeature &networks() { return m_networks; }
+    RuleFeature &rules() { return m_rules; }
+    VendorFeature &vendors() { return m_vendors; }
     Notifier &userNotifications() { return m_userNotifications; }
     EventWiring &wiring() { return m_wiring; }
 
@@ -58,10 +58,10 @@ private:
     CurrentInterface m_currentInterface;
     AddressChanger m_addressChanger;
     RandomAddress m_randomAddress;
-    RecordRoom m_records;
-    NetworkRoom m_networks;
-    RuleRoom m_rules;
-    VendorRoom m_vendors;
+    HistoryFeature m_records;
+    NetworkFeature m_networks;
+    RuleFeature m_rules;
+    VendorFeature m_vendors;
     MainWindowModel m_mainWindow;
     StatusMenuModel m_statusMenu;
     AdvancedPreferencesModel m_advancedPreferences;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Termination.h"
 
-#include "store/RecordSaving.h"
+#include "app/RecordSaving.h"
 
 #include <QScopedValueRollback>
 

@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-// One category per room, named quillon.<room>; warnings and worse are on by default.
+// One category per module, named quillon.<module>; warnings and worse are on by default.
 Q_DECLARE_LOGGING_CATEGORY(logApp)
 Q_DECLARE_LOGGING_CATEGORY(logDevices)
 Q_DECLARE_LOGGING_CATEGORY(logHelperLink)

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/AddressChanger.h"
 
-#include "XPCMethods.h"
 #include "base/Localized.h"
 #include "base/NotificationNames.h"
 #include "base/Notifier.h"
@@ -12,6 +11,7 @@
 #include "devices/DeviceTable.h"
 #include "devices/MenuItem.h"
 #include "devices/RandomAddress.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/NetworkHost.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Scheduler.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/FetchRequest.h"
-#include "store/ManagedObject.h"
+#include "store/graph/ManagedObject.h"
+#include "store/model/FetchRequest.h"
 
 #include <QDateTime>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/ManagedObject.h"
+#include "store/graph/ManagedObject.h"
 
 #include <memory>
 

@@ -10,9 +10,9 @@
 #include "networks/WiFiNetwork.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-#include "store/FetchFailure.h"
-#include "store/QuillonModel.h"
 #include "store/RecordStore.h"
+#include "store/graph/FetchFailure.h"
+#include "store/model/QuillonModel.h"
 
 #include <QPointer>
 

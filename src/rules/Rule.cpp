@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/Rule.h"
 
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 #include <utility>
 

@@ -5,7 +5,7 @@
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "rules/Rule.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 namespace quillon {
 

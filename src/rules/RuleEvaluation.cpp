@@ -18,9 +18,9 @@
 #include "platform/SettingsStore.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleActions.h"
-#include "store/QuillonModel.h"
-#include "store/RecordInvariants.h"
+#include "rules/RuleInvariants.h"
 #include "store/RecordStore.h"
+#include "store/model/QuillonModel.h"
 
 #include <QPointer>
 
@@ -119,7 +119,7 @@ void RuleEvaluation::rulesWereChanged()
 void RuleEvaluation::evaluate(const QStringList &devices, Change change)
 {
     // The flags written here follow from the rules: nobody has to look after them.
-    const RecordInvariants::Suspension suspension(m_with.invariants);
+    const RuleInvariants::Suspension suspension(m_with.invariants);
     for (const QString &device : devices) {
         evaluateDevice(device, change);
     }

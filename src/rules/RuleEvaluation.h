@@ -19,7 +19,7 @@ class ExternalIPAddress;
 class NotificationCenter;
 class RandomAddress;
 class Reachability;
-class RecordInvariants;
+class RuleInvariants;
 class Scheduler;
 class WiFiNetwork;
 struct RuleAction;
@@ -44,7 +44,7 @@ public:
         RandomAddress &randomAddress;
         AddressChanger &addressChanger;
         RecordStore &store;
-        RecordInvariants &invariants;
+        RuleInvariants &invariants;
         const RuleQueries &queries;
         CountdownTimers &timers;
         /// True for a launch at login until the first evaluation of all devices has ended.

@@ -9,9 +9,9 @@
 #include "networks/SavedNetworks.h"
 #include "networks/SpecialNetworks.h"
 #include "platform/SettingsStore.h"
-#include "store/FetchFailure.h"
-#include "store/QuillonModel.h"
 #include "store/RecordStore.h"
+#include "store/graph/FetchFailure.h"
+#include "store/model/QuillonModel.h"
 
 namespace quillon {
 

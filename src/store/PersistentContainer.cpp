@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/PersistentContainer.h"
 
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
 
 #include <utility>
 

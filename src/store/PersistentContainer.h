@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Result.h"
-#include "store/ManagedObjectContext.h"
+#include "store/graph/ManagedObjectContext.h"
 
 #include <memory>
 

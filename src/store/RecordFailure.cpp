@@ -3,7 +3,7 @@
 #include "store/RecordFailure.h"
 
 #include "base/Localized.h"
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
 
 namespace quillon {
 

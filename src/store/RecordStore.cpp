@@ -7,9 +7,9 @@
 #include "base/SettingsKeys.h"
 #include "platform/AlertPresenter.h"
 #include "platform/SettingsStore.h"
-#include "store/QuillonModel.h"
 #include "store/RecordFailure.h"
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
+#include "store/model/QuillonModel.h"
 
 #include <QDir>
 #include <QFileInfo>

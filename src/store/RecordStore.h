@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/ManagedObjectContext.h"
 #include "store/PersistentContainer.h"
+#include "store/graph/ManagedObjectContext.h"
 
 #include <QObject>
 

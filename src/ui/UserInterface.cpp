@@ -3,9 +3,9 @@
 #include "ui/UserInterface.h"
 
 #include "platform/ColorSchemeSource.h"
-#include "ui/InterfaceDetails.h"
-#include "ui/VendorChooser.h"
-#include "ui/VendorDataCard.h"
+#include "ui/vendors/VendorChooser.h"
+#include "ui/vendors/VendorDataCard.h"
+#include "ui/window/InterfaceDetails.h"
 
 #include <QApplication>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ui/MainWindow.h"
-#include "ui/StatusItem.h"
-#include "ui/StatusRows.h"
-#include "ui/Theme.h"
+#include "ui/menu/StatusItem.h"
+#include "ui/theme/Theme.h"
+#include "ui/window/MainWindow.h"
+#include "ui/window/StatusRows.h"
 
 namespace quillon {
 

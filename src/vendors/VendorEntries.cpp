@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorEntries.h"
 
-#include "store/Predicate.h"
+#include "store/model/Predicate.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/Platform.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeHelper.h"
@@ -20,6 +19,7 @@
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
 #include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
 
 #include <QTemporaryDir>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/Require.h"
-#include "platform/linux/WiFiReading.h"
-#include "platform/linux/WiFiSecurity.h"
+#include "platform/linux/wifi/WiFiReading.h"
+#include "platform/linux/wifi/WiFiSecurity.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/Require.h"
-#include "platform/linux/LinkMessages.h"
+#include "platform/linux/netlink/LinkMessages.h"
 
 #include <cstdint>
 #include <linux/netlink.h>

@@ -38,10 +38,11 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/platform/Scheduler.h", '#include "base/Error.h"')
         self.write("src/platform/linux/Clock.cpp", '#include "platform/Scheduler.h"', "#include <sys/timerfd.h>")
         self.write("src/devices/Table.cpp", '#include "platform/Scheduler.h"', "#include <vector>")
-        self.write("src/ui/Window.cpp", "#include <QWidget>", '#include "devices/Table.h"')
+        self.write("src/presentation/window/Model.h", '#include "devices/Table.h"')
+        self.write("src/ui/window/Window.cpp", "#include <QWidget>", '#include "presentation/window/Model.h"')
         self.write("src/devices/Table.h")
-        self.write("src/main.cpp", '#include "ui/Window.h"', '#include "platform/linux/Clock.h"')
-        self.write("src/ui/Window.h")
+        self.write("src/main.cpp", '#include "ui/window/Window.h"', '#include "platform/linux/Clock.h"')
+        self.write("src/ui/window/Window.h")
         self.write("src/platform/linux/Clock.h")
         self.assertEqual(self.problems(), [])
 
@@ -57,7 +58,7 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/app/Platform.h", '#include "platform/linux/Netlink.h"')
         self.assert_only_problem("src/app/Platform.h:1: app must not include platform/linux")
 
-    def test_refuses_rooms_in_the_helper(self):
+    def test_refuses_the_program_in_the_helper(self):
         self.write("contract/Names.h")
         self.write("helper/main.cpp", '#include "contract/Names.h"', '#include "base/Error.h"')
         self.assert_only_problem("helper/main.cpp:2: helper must not include base")
@@ -71,23 +72,44 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/app/Model.cpp", '#include "contract/Names.h"')
         self.assert_only_problem("src/app/Model.cpp:1: app must not include contract")
 
+    def test_refuses_a_model_that_looks_sideways(self):
+        self.write("src/presentation/rules/ListModel.h")
+        self.write("src/presentation/window/Model.cpp", '#include "presentation/rules/ListModel.h"')
+        self.assert_only_problem("src/presentation/window/Model.cpp:1: presentation/window must not include "
+                                 "presentation/rules")
+
+    def test_refuses_a_window_that_sees_another_windows_widgets(self):
+        self.write("src/ui/menu/StatusItem.h")
+        self.write("src/ui/window/Window.cpp", '#include "ui/menu/StatusItem.h"')
+        self.assert_only_problem("src/ui/window/Window.cpp:1: ui/window must not include ui/menu")
+
+    def test_refuses_a_window_that_sees_the_composition(self):
+        self.write("src/app/EventWiring.h")
+        self.write("src/ui/window/Window.cpp", '#include "app/EventWiring.h"')
+        self.assert_only_problem("src/ui/window/Window.cpp:1: ui/window must not include app")
+
+    def test_refuses_a_folder_by_the_name_of_the_one_above(self):
+        self.write("src/store/file/RecordFile.h")
+        self.write("src/rules/Rule.cpp", '#include "store/file/RecordFile.h"')
+        self.assert_only_problem("src/rules/Rule.cpp:1: rules must not include store/file")
+
     def test_refuses_widgets_below_the_user_interface(self):
         self.write("src/app/Model.cpp", "#include <QObject>", "#include <QWidget>")
         self.assert_only_problem("src/app/Model.cpp:2: app must not use QtWidgets")
 
     def test_refuses_d_bus_in_a_feature(self):
-        self.write("src/XPCMethods.cpp", "#include <QDBusConnection>")
-        self.assert_only_problem("src/XPCMethods.cpp:1: XPCMethods must not use QtDBus")
+        self.write("src/helperlink/XPCMethods.cpp", "#include <QDBusConnection>")
+        self.assert_only_problem("src/helperlink/XPCMethods.cpp:1: helperlink must not use QtDBus")
 
-    def test_refuses_a_circle_within_a_room(self):
+    def test_refuses_a_circle_within_a_folder(self):
         self.write("src/app/One.h", '#include "app/Two.h"')
         self.write("src/app/Two.h", '#include "Three.h"')
         self.write("src/app/Three.h", "", '#include "app/One.h"')
         self.assert_only_problem("src/app/Three.h:2: includes src/app/One.h, which includes it")
 
-    def test_refuses_a_room_that_the_table_does_not_know(self):
+    def test_refuses_a_folder_that_the_table_does_not_know(self):
         self.write("src/utilities/Strings.h", '#include "base/Error.h"')
-        self.assert_only_problem("src/utilities/Strings.h:1: the room utilities is not in the table")
+        self.assert_only_problem("src/utilities/Strings.h:1: the folder utilities is not in the table")
 
     def test_refuses_a_file_that_does_not_exist(self):
         self.write("src/app/Model.cpp", '#include "app/Missing.h"')

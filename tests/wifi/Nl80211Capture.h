@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/Nl80211Exchange.h"
+#include "platform/linux/wifi/Nl80211Exchange.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/linux/Nl80211Socket.h"
-#include "platform/linux/WiFiReading.h"
+#include "platform/linux/wifi/Nl80211Socket.h"
+#include "platform/linux/wifi/WiFiReading.h"
 #include "wifi/Nl80211Capture.h"
 
 #include <QFile>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "integration/app/Administrator.h"
-#include "integration/linux/Waiting.h"
+#include "integration/platform/linux/Waiting.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -3,7 +3,7 @@
 #include "integration/app/ComposedProgram.h"
 
 #include "base/SettingsKeys.h"
-#include "platform/qt/PropertyListFile.h"
+#include "platform/qt/settings/PropertyListFile.h"
 
 #include <stdexcept>
 

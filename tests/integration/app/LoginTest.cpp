@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
 #include "integration/app/RoadTest.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 #include <QDBusConnection>
 

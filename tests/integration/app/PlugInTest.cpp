@@ -3,7 +3,7 @@
 // The road of one event: from the cable to the changed address, its history and its message.
 #include "base/SettingsKeys.h"
 #include "integration/app/RoadTest.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 namespace quillon::test {
 

@@ -7,7 +7,7 @@
 #include "rules/Rule.h"
 #include "rules/RuleActions.h"
 #include "store/PersistentContainer.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 namespace quillon::test {
 

@@ -3,7 +3,7 @@
 #include "integration/app/RoadTest.h"
 
 #include "base/SettingsKeys.h"
-#include "integration/linux/Commands.h"
+#include "integration/platform/linux/Commands.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

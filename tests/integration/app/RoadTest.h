@@ -7,7 +7,7 @@
 #include "integration/app/Administrator.h"
 #include "integration/app/ComposedProgram.h"
 #include "integration/app/RecordsFile.h"
-#include "integration/linux/Waiting.h"
+#include "integration/platform/linux/Waiting.h"
 
 #include <QMap>
 #include <QTemporaryDir>

@@ -3,7 +3,7 @@
 #include "base/SettingsKeys.h"
 #include "integration/app/Heartbeat.h"
 #include "integration/app/RoadTest.h"
-#include "integration/linux/Commands.h"
+#include "integration/platform/linux/Commands.h"
 
 #include <QFile>
 #include <QJsonArray>

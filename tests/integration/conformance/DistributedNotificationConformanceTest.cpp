@@ -3,9 +3,9 @@
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/QtPrinting.h"
-#include "integration/linux/PrivateBus.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/SessionBusNotificationCenter.h"
+#include "integration/platform/linux/Waiting.h"
+#include "integration/platform/linux/bus/PrivateBus.h"
+#include "platform/linux/bus/SessionBusNotificationCenter.h"
 #include "platform/qt/QtScheduler.h"
 
 #include <QStringList>

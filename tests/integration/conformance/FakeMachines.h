@@ -3,9 +3,9 @@
 #pragma once
 
 #include "BenchMachine.h"
-#include "devices/TextualHost.h"
 #include "fakes/FakeNetworkHost.h"
 #include "platform/CommandRunner.h"
+#include "platform/textual/TextualHost.h"
 
 namespace quillon::test {
 

@@ -5,10 +5,10 @@
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/QtPrinting.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/DBusHelperLink.h"
+#include "integration/platform/linux/Waiting.h"
 #include "platform/linux/GetrandomSource.h"
-#include "platform/linux/NetlinkHost.h"
+#include "platform/linux/bus/DBusHelperLink.h"
+#include "platform/linux/netlink/NetlinkHost.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

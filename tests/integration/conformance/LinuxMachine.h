@@ -3,9 +3,9 @@
 #pragma once
 
 #include "BenchMachine.h"
-#include "integration/linux/Commands.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/NetlinkHost.h"
+#include "integration/platform/linux/Commands.h"
+#include "integration/platform/linux/Waiting.h"
+#include "platform/linux/netlink/NetlinkHost.h"
 
 #include <QProcess>
 #include <QStringList>

@@ -3,9 +3,9 @@
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/QtPrinting.h"
-#include "integration/linux/NotificationServer.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/FreedesktopNotifications.h"
+#include "integration/platform/linux/Waiting.h"
+#include "integration/platform/linux/bus/NotificationServer.h"
+#include "platform/linux/bus/FreedesktopNotifications.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

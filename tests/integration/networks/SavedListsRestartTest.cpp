@@ -7,7 +7,7 @@
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeWiFiClient.h"
 #include "fakes/QtPrinting.h"
-#include "integration/settings/SettingsFileTest.h"
+#include "integration/platform/qt/settings/SettingsFileTest.h"
 #include "networks/SavedAddresses.h"
 #include "networks/SavedNetworks.h"
 #include "networks/WiFiNetwork.h"

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
-#include "integration/linux/FakePeer.h"
-#include "integration/linux/PrivateBus.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/DBusHelperLink.h"
+#include "integration/platform/linux/Waiting.h"
+#include "integration/platform/linux/bus/FakePeer.h"
+#include "integration/platform/linux/bus/PrivateBus.h"
 #include "platform/linux/GetrandomSource.h"
+#include "platform/linux/bus/DBusHelperLink.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
-#include "integration/linux/Commands.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/BusRunningApplications.h"
-#include "platform/linux/SessionBusNotificationCenter.h"
+#include "integration/platform/linux/Commands.h"
+#include "integration/platform/linux/Waiting.h"
+#include "platform/linux/bus/BusRunningApplications.h"
+#include "platform/linux/bus/SessionBusNotificationCenter.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

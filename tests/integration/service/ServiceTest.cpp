@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
-#include "integration/linux/Commands.h"
-#include "integration/linux/Waiting.h"
+#include "integration/platform/linux/Commands.h"
+#include "integration/platform/linux/Waiting.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
-#include "integration/linux/Waiting.h"
-#include "platform/linux/DBusHelperLink.h"
+#include "integration/platform/linux/Waiting.h"
 #include "platform/linux/GetrandomSource.h"
-#include "platform/linux/NetlinkHost.h"
+#include "platform/linux/bus/DBusHelperLink.h"
+#include "platform/linux/netlink/NetlinkHost.h"
 
 #include <gtest/gtest.h>
 

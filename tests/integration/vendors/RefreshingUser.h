@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/VendorFieldModel.h"
-#include "app/VendorPaneModel.h"
-#include "app/VendorWiring.h"
+#include "app/features/VendorWiring.h"
 #include "base/SettingsKeys.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
-#include "integration/http/WebServer.h"
+#include "integration/platform/qt/web/WebServer.h"
 #include "platform/NotificationCenter.h"
-#include "platform/qt/NetworkHttpClient.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/web/NetworkHttpClient.h"
+#include "presentation/vendors/VendorFieldModel.h"
+#include "presentation/vendors/VendorPaneModel.h"
 #include "vendors/DateStamp.h"
 #include "vendors/RegistryDownload.h"
 #include "vendors/RegistryImport.h"

@@ -11,7 +11,7 @@
 #include "networks/SpecialNetworks.h"
 #include "rules/Rule.h"
 #include "store/PersistentContainer.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 #include <gmock/gmock.h>
 

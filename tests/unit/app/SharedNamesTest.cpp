@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's rooms and the programs without Qt write the same names down separately.
-#include "XPCMethods.h"
 #include "base/NotificationNames.h"
 #include "contract/Names.h"
+#include "helperlink/XPCMethods.h"
 
 #include <gtest/gtest.h>
 

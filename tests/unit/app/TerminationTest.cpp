@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Termination.h"
 
+#include "app/RecordSaving.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
-#include "store/QuillonModel.h"
-#include "store/RecordSaving.h"
 #include "store/RecordStore.h"
+#include "store/model/QuillonModel.h"
 #include "unit/store/RefusingFile.h"
 
 #include <QTemporaryDir>

@@ -3,12 +3,12 @@
 #pragma once
 
 #include "DeviceMachine.h"
-#include "XPCMethods.h"
 #include "base/NotificationNames.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeNotifier.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/NotificationCenter.h"
 
 #include <memory>

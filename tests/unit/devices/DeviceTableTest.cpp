@@ -3,8 +3,8 @@
 #include "devices/DeviceTable.h"
 
 #include "DeviceMachine.h"
-#include "devices/TextualHost.h"
 #include "fakes/FakeCommandRunner.h"
+#include "platform/textual/TextualHost.h"
 
 #include <QCoreApplication>
 #include <QFile>

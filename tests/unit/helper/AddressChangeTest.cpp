@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/AddressChange.h"
 
-#include "tests/fakes/FakeKernelLink.h"
+#include "fakes/FakeKernelLink.h"
 
 #include <gmock/gmock.h>
 

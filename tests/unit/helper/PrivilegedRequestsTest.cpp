@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/PrivilegedRequests.h"
 
-#include "tests/fakes/FakeAuthority.h"
-#include "tests/fakes/FakeCallers.h"
+#include "fakes/FakeAuthority.h"
+#include "fakes/FakeCallers.h"
 
 #include <gmock/gmock.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "NetworkEditing.h"
 #include "fakes/LogCapture.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 #include <QUndoStack>
 

@@ -227,7 +227,7 @@ TEST_F(Evaluation, IsNotWatchedAndLeavesNothingToUndo)
     scheduler.runPending();
     int stale = 0;
     int corrections = 0;
-    QObject::connect(&invariants, &RecordInvariants::ruleTableStale, [&] { ++stale; });
+    QObject::connect(&invariants, &RuleInvariants::ruleTableStale, [&] { ++stale; });
     notifications.addObserver(notifications::ruleTable, [&](const auto &) { ++corrections; });
     const int steps = context().undoManager().count();
     evaluate(en0, false);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "XPCMethods.h"
 #include "base/NetworkKeys.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
@@ -23,15 +22,16 @@
 #include "fakes/FakeWiFiClient.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
+#include "helperlink/XPCMethods.h"
 #include "networks/ExternalIPAddress.h"
 #include "networks/SpecialNetworks.h"
 #include "networks/WiFiNetwork.h"
 #include "platform/NotificationCenter.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleEvaluation.h"
+#include "rules/RuleInvariants.h"
 #include "rules/RuleQueries.h"
 #include "rules/RuleSwitches.h"
-#include "store/RecordInvariants.h"
 #include "store/RecordStore.h"
 
 #include <QTemporaryDir>
@@ -73,8 +73,8 @@ protected:
             &RuleEvaluation::addressChangeBegan);
         QObject::connect(&changer, &AddressChanger::changeEnded, &evaluation,
             &RuleEvaluation::addressChangeEnded);
-        QObject::connect(&store, &RecordStore::objectsDidChange, &invariants,
-            &RecordInvariants::contextDidChange);
+        QObject::connect(
+            &store, &RecordStore::objectsDidChange, &invariants, &RuleInvariants::contextDidChange);
         notifications.addObserver(notifications::updateOverview, [this](const auto &posted) {
             if (posted.object != &timers) {
                 overviews.append(posted);
@@ -220,7 +220,7 @@ protected:
     FakeAlertPresenter alerts;
     RecordStore store{{settings, scheduler, alerts}, folder.path()};
     RuleQueries queries{store, settings, table};
-    RecordInvariants invariants{
+    RuleInvariants invariants{
         {store, scheduler, notifications, [this] { return queries.namesArray(); }}};
     CountdownTimers timers{{scheduler, notifications, notifier, table, randomAddress}};
     bool startedFromLogin = false;

@@ -3,7 +3,7 @@
 #include "store/RecordFailure.h"
 
 #include "fakes/QtPrinting.h"
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
 
 #include "fakes/QtPrinting.h"
-#include "store/QuillonModel.h"
+#include "store/model/QuillonModel.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,8 +6,8 @@
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/QtPrinting.h"
-#include "store/QuillonModel.h"
 #include "store/RecordStore.h"
+#include "store/model/QuillonModel.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

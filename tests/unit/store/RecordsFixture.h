@@ -4,10 +4,10 @@
 
 #include "fakes/FakeScheduler.h"
 #include "fakes/QtPrinting.h"
-#include "store/FetchedRecords.h"
 #include "store/PersistentContainer.h"
-#include "store/QuillonModel.h"
-#include "store/RecordFile.h"
+#include "store/file/RecordFile.h"
+#include "store/graph/FetchedRecords.h"
+#include "store/model/QuillonModel.h"
 
 #include <QTemporaryDir>
 #include <QUndoStack>

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/MainWindowModel.h"
-#include "app/Presence.h"
-#include "app/StatusMenuModel.h"
 #include "base/SettingsKeys.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
@@ -14,6 +11,9 @@
 #include "fakes/QtPrinting.h"
 #include "platform/TaskBar.h"
 #include "platform/TrayHost.h"
+#include "presentation/menu/StatusMenuModel.h"
+#include "presentation/window/MainWindowModel.h"
+#include "presentation/window/Presence.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

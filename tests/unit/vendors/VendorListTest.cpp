@@ -3,7 +3,7 @@
 #include "vendors/VendorList.h"
 
 #include "VendorMachine.h"
-#include "store/Predicate.h"
+#include "store/model/Predicate.h"
 
 namespace quillon::test {
 namespace {

@@ -3,14 +3,14 @@
 #pragma once
 
 #include "VendorFolder.h"
-#include "app/VendorFieldModel.h"
-#include "app/VendorPaneModel.h"
-#include "app/VendorWiring.h"
+#include "app/features/VendorWiring.h"
 #include "base/SettingsKeys.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/QtPrinting.h"
 #include "platform/NotificationCenter.h"
+#include "presentation/vendors/VendorFieldModel.h"
+#include "presentation/vendors/VendorPaneModel.h"
 #include "vendors/RegistryDownload.h"
 #include "vendors/RegistryImport.h"
 #include "vendors/VendorChoice.h"

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "networks/ExternalIPAddress.h"
+#include "networks/LocationPermission.h"
+#include "networks/SavedAddressEditing.h"
+#include "networks/SavedAddresses.h"
+#include "networks/SavedNetworkEditing.h"
+#include "networks/SavedNetworks.h"
+#include "networks/WiFiNetwork.h"
+#include "presentation/networks/ExternalAddressModel.h"
+#include "presentation/networks/NetworkInfoModel.h"
+#include "presentation/networks/SavedEntryPopoverModel.h"
+#include "presentation/networks/SavedListsModel.h"
+
+namespace quillon {
+
+class DeviceTable;
+class EventWiring;
+class LaunchSequence;
+class Presence;
+struct Platform;
+
+/// Everything about networks, put together: the Wi-Fi record, the saved lists, the external
+/// address, and what the window shows of them.
+struct NetworkFeature
+{
+    NetworkFeature(const Platform &platform, const DeviceTable &devices, RecordStore &records);
+
+    /// Connections only; they end with `wiring`.
+    void connectTo(EventWiring &wiring, LaunchSequence &launch, Presence &presence);
+
+    WiFiNetwork wifi;
+    LocationPermission locationPermission;
+    SavedNetworks savedNetworks;
+    SavedAddresses savedAddresses;
+    SavedNetworkEditing networkEditing;
+    SavedAddressEditing addressEditing;
+    ExternalIPAddress externalAddress;
+
+    NetworkInfoModel info;
+    SavedListsModel savedLists;
+    SavedEntryPopoverModel savedEntryPopover;
+    ExternalAddressModel externalAddressShown;
+};
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "presentation/vendors/VendorFieldModel.h"
+#include "presentation/vendors/VendorPaneModel.h"
+#include "vendors/RegistryDownload.h"
+#include "vendors/RegistryImport.h"
+#include "vendors/VendorChoice.h"
+#include "vendors/VendorCount.h"
+#include "vendors/VendorDatabase.h"
+#include "vendors/VendorFiles.h"
+#include "vendors/VendorList.h"
+#include "vendors/VendorLookup.h"
+
+namespace quillon {
+
+class EventWiring;
+class LaunchSequence;
+struct Platform;
+
+/// Everything about manufacturers, put together: their database and its refresh, the lookup, the
+/// list to choose from, and what the window shows of them.
+struct VendorFeature
+{
+    explicit VendorFeature(const Platform &platform);
+
+    /// Connections only; they end with `wiring`.
+    void connectTo(EventWiring &wiring, LaunchSequence &launch);
+
+    VendorFiles files;
+    VendorDatabase database;
+    VendorCount count;
+    VendorList list;
+    VendorLookup lookup;
+    VendorChoice choice;
+    RegistryImport import;
+    RegistryDownload download;
+
+    VendorPaneModel pane;
+    VendorFieldModel field;
+};
+
+} // namespace quillon

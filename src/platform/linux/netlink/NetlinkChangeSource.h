@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/NetworkChangeSource.h"
+#include "platform/linux/netlink/BurstCollector.h"
+
+#include <QSocketNotifier>
+
+#include <memory>
+
+struct nl_sock;
+
+namespace quillon {
+
+class Scheduler;
+
+/// The rtnetlink(7) groups for links, IPv4 addresses and IPv4 routes. One action of a person or a
+/// network manager gives several messages within milliseconds: they are one change, told when it
+/// has been quiet for 100 ms, at the latest after one second. Main thread.
+class NetlinkChangeSource : public NetworkChangeSource
+{
+public:
+    explicit NetlinkChangeSource(Scheduler &scheduler);
+    ~NetlinkChangeSource() override;
+
+    void start(std::function<void()> changed) override;
+
+private:
+    struct Free
+    {
+        void operator()(nl_sock *socket) const;
+    };
+
+    bool open();
+    void read();
+
+    Scheduler &m_scheduler;
+    std::unique_ptr<nl_sock, Free> m_socket;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::unique_ptr<BurstCollector> m_burst;
+};
+
+} // namespace quillon

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/NetworkHost.h"
+#include "platform/linux/netlink/LinkMessages.h"
+#include "platform/linux/netlink/PortClassifier.h"
+
+namespace quillon {
+
+/// The kernel's own word through rtnetlink(7): one dump of the links, one of the IPv4 addresses,
+/// and a look into sysfs for interfaces with hardware behind them. Each call has a socket of its
+/// own, so that nothing of an earlier conversation is left in it.
+class NetlinkHost : public NetworkHost
+{
+public:
+    /// `sysfs` is where the kernel shows its interfaces.
+    explicit NetlinkHost(QString sysfs = QStringLiteral("/sys/class/net"));
+
+    QList<PortRecord> ports() override;
+    InterfaceInfo info(const QString &device) override;
+
+private:
+    HardwareFacts hardwareFacts(const LinkFacts &link) const;
+
+    QString m_sysfs;
+};
+
+} // namespace quillon

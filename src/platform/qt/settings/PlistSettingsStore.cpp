@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/settings/PlistSettingsStore.h"
+
+#include "base/Log.h"
+#include "platform/qt/settings/FileWatch.h"
+#include "platform/qt/settings/SettingsFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <atomic>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Several writes in a row make one flush.
+constexpr auto flushDelay = 200ms;
+// An editor may empty the file before it fills it.
+constexpr auto settlingTime = 1s;
+
+} // namespace
+
+/// When the values and the file meet: soon after a write, on demand, when the file changed.
+class PlistSettingsStore::Core : public std::enable_shared_from_this<Core>
+{
+public:
+    Core(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem)
+        : observers(scheduler)
+        , values(observers)
+        , m_scheduler(scheduler)
+        , m_problem(std::move(problem))
+        , m_file(path, values)
+    {
+    }
+
+    void load();
+    bool save();
+    void saveSoon();
+    void fileChanged();
+
+    SettingsObservers observers;
+    SettingsValues values;
+
+private:
+    void read(SettingsFile::Patience patience);
+    void readAgainLater();
+    void tell();
+    template <typename Function>
+    void inBackground(Function function);
+
+    Scheduler &m_scheduler;
+    const SettingsProblem::Handler m_problem;
+    SettingsFile m_file;
+    std::atomic<bool> m_savePlanned = false;
+    std::atomic<bool> m_readPlanned = false;
+    std::atomic<bool> m_secondLookPlanned = false;
+};
+
+/// Runs it unless the store has been destroyed by then.
+template <typename Function>
+void PlistSettingsStore::Core::inBackground(Function function)
+{
+    m_scheduler.inBackground([weak = weak_from_this(), function] {
+        if (const auto core = weak.lock()) {
+            function(*core);
+        }
+    });
+}
+
+void PlistSettingsStore::Core::load()
+{
+    m_file.read(SettingsFile::Patience::None);
+    tell();
+}
+
+bool PlistSettingsStore::Core::save()
+{
+    const bool saved = m_file.save();
+    tell();
+    return saved;
+}
+
+void PlistSettingsStore::Core::saveSoon()
+{
+    if (m_savePlanned.exchange(true)) {
+        return;
+    }
+    m_scheduler.onMainAfter(flushDelay, [weak = weak_from_this()] {
+        if (const auto core = weak.lock()) {
+            core->m_savePlanned = false;
+            // The disk may be slow; the windows must not wait for it.
+            if (core->values.unsaved()) {
+                core->inBackground([](Core &self) { self.save(); });
+            }
+        }
+    });
+}
+
+void PlistSettingsStore::Core::fileChanged()
+{
+    if (!m_readPlanned.exchange(true)) {
+        inBackground([](Core &self) {
+            self.m_readPlanned = false;
+            self.read(SettingsFile::Patience::Some);
+        });
+    }
+}
+
+void PlistSettingsStore::Core::read(SettingsFile::Patience patience)
+{
+    if (m_file.read(patience) == SettingsFile::Outcome::NotYet) {
+        readAgainLater();
+    }
+    tell();
+    if (patience == SettingsFile::Patience::None && values.unsaved()) {
+        save();
+    }
+}
+
+void PlistSettingsStore::Core::readAgainLater()
+{
+    if (m_secondLookPlanned.exchange(true)) {
+        return;
+    }
+    m_scheduler.onMainAfter(settlingTime, [weak = weak_from_this()] {
+        if (const auto core = weak.lock()) {
+            core->m_secondLookPlanned = false;
+            core->inBackground([](Core &self) { self.read(SettingsFile::Patience::None); });
+        }
+    });
+}
+
+/// Tells the observers and the problem handler what came of it. Not under a lock: they may call
+/// back.
+void PlistSettingsStore::Core::tell()
+{
+    observers.deliver();
+    for (const SettingsProblem &problem : m_file.takeProblems()) {
+        m_scheduler.onMain([weak = weak_from_this(), problem] {
+            const auto core = weak.lock();
+            if (core && core->m_problem) {
+                core->m_problem(problem);
+            }
+        });
+    }
+}
+
+PlistSettingsStore::PlistSettingsStore(
+    const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem)
+    : m_core(std::make_shared<Core>(path, scheduler, std::move(problem)))
+{
+    // A folder that is there can be watched.
+    QDir().mkpath(QFileInfo(path).path());
+    // Watching before reading: what is written in between is not missed.
+    m_watch = std::make_unique<FileWatch>(path, [core = m_core.get()] { core->fileChanged(); });
+    m_core->load();
+}
+
+PlistSettingsStore::~PlistSettingsStore()
+{
+    m_watch.reset();
+    if (m_core->values.unsaved() && !m_core->save()) {
+        qCWarning(logSettings) << "The last changes of the settings are lost";
+    }
+}
+
+QVariant PlistSettingsStore::get(const QString &key) const
+{
+    return m_core->values.get(key);
+}
+
+void PlistSettingsStore::set(const QString &key, const QVariant &value)
+{
+    if (value.isValid() && !isPropertyList(value)) {
+        qCWarning(logSettings) << "Refused a value that is not property-list data for" << key;
+        return;
+    }
+    // Held here, because an observer may destroy the store.
+    const std::shared_ptr<Core> core = m_core;
+    if (core->values.set(key, normalizedPropertyList(value))) {
+        core->saveSoon();
+        core->observers.deliver();
+    }
+}
+
+void PlistSettingsStore::registerDefaults(const QVariantMap &defaults)
+{
+    const std::shared_ptr<Core> core = m_core;
+    core->values.registerDefaults(defaults);
+    core->observers.deliver();
+}
+
+bool PlistSettingsStore::synchronize()
+{
+    const std::shared_ptr<Core> core = m_core;
+    return core->save();
+}
+
+SettingsStore::Token PlistSettingsStore::addObserver(const QString &key, Observer observer)
+{
+    return m_core->observers.add(key, std::move(observer));
+}
+
+void PlistSettingsStore::removeObserver(Token token)
+{
+    m_core->observers.remove(token);
+}
+
+} // namespace quillon

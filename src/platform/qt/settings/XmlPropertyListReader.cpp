@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/settings/XmlPropertyList.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <cmath>
+#include <limits>
+
+namespace quillon {
+
+namespace {
+
+/// One walk over the text. Problems are raised in the stream reader, which then stops.
+class XmlPropertyListReader
+{
+public:
+    explicit XmlPropertyListReader(const QByteArray &text)
+        : m_xml(text)
+    {
+    }
+
+    Result<QVariant> read();
+
+private:
+    bool nextChild();
+    QVariant value(int depth);
+    QVariantMap dictionary(int depth);
+    QVariantList array(int depth);
+    QVariant boolean(bool value);
+    QVariant integer(const QString &text);
+    QVariant real(const QString &text);
+    QVariant date(const QString &text);
+    QVariant data(const QString &text);
+    QVariant fail(const QString &what);
+
+    QXmlStreamReader m_xml;
+};
+
+Result<QVariant> XmlPropertyListReader::read()
+{
+    QVariant result;
+    if (m_xml.readNextStartElement() && m_xml.name() != QLatin1String("plist")) {
+        fail(QStringLiteral("not a property list"));
+    } else if (!m_xml.hasError() && !nextChild()) {
+        fail(QStringLiteral("an empty property list"));
+    } else {
+        // One more level than the value of a key: the dictionary of all keys.
+        result = value(propertyListDepthLimit + 1);
+        if (nextChild()) {
+            fail(QStringLiteral("more than one value"));
+        }
+    }
+    while (!m_xml.atEnd()) {
+        m_xml.readNext();
+    }
+    if (m_xml.hasError()) {
+        return Error{propertyListErrorDomain, static_cast<int>(m_xml.error()),
+            QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString())};
+    }
+    return result;
+}
+
+/// To the next element in this one, or, with false, to its end. Text in between is an error, which
+/// QXmlStreamReader's own function would skip.
+bool XmlPropertyListReader::nextChild()
+{
+    while (!m_xml.atEnd()) {
+        m_xml.readNext();
+        if (m_xml.isStartElement() || m_xml.isEndElement()) {
+            return m_xml.isStartElement();
+        }
+        if (m_xml.isCharacters() && !m_xml.isWhitespace()) {
+            fail(QStringLiteral("text outside of a value"));
+        }
+    }
+    return false;
+}
+
+QVariant XmlPropertyListReader::value(int depth)
+{
+    const QString name = m_xml.name().toString();
+    if (name == QLatin1String("dict") || name == QLatin1String("array")) {
+        if (depth == 0) {
+            return fail(QStringLiteral("nested too deeply"));
+        }
+        return name == QLatin1String("dict") ? QVariant(dictionary(depth - 1))
+                                             : QVariant(array(depth - 1));
+    }
+    if (name == QLatin1String("true") || name == QLatin1String("false")) {
+        return boolean(name == QLatin1String("true"));
+    }
+    const QString text = m_xml.readElementText();
+    if (name == QLatin1String("string")) {
+        return text;
+    }
+    if (name == QLatin1String("integer")) {
+        return integer(text.trimmed());
+    }
+    if (name == QLatin1String("real")) {
+        return real(text.trimmed());
+    }
+    if (name == QLatin1String("date")) {
+        return date(text.trimmed());
+    }
+    if (name == QLatin1String("data")) {
+        return data(text);
+    }
+    return fail(QStringLiteral("unknown element \"%1\"").arg(name));
+}
+
+QVariantMap XmlPropertyListReader::dictionary(int depth)
+{
+    QVariantMap result;
+    while (nextChild()) {
+        if (m_xml.name() != QLatin1String("key")) {
+            fail(QStringLiteral("a value without a key"));
+            break;
+        }
+        const QString key = m_xml.readElementText();
+        if (!nextChild() || m_xml.name() == QLatin1String("key")) {
+            fail(QStringLiteral("key \"%1\" without a value").arg(key));
+            break;
+        }
+        result.insert(key, value(depth));
+    }
+    return result;
+}
+
+QVariantList XmlPropertyListReader::array(int depth)
+{
+    QVariantList result;
+    while (nextChild()) {
+        result.append(value(depth));
+    }
+    return result;
+}
+
+QVariant XmlPropertyListReader::boolean(bool value)
+{
+    return m_xml.readElementText().isEmpty() ? QVariant(value)
+                                             : fail(QStringLiteral("a boolean with content"));
+}
+
+QVariant XmlPropertyListReader::integer(const QString &text)
+{
+    static const QRegularExpression decimal(QStringLiteral("^[+-]?[0-9]+$"));
+    static const QRegularExpression hexadecimal(QStringLiteral("^[+-]?0[xX][0-9a-fA-F]+$"));
+    bool ok = false;
+    qlonglong number = 0;
+    if (decimal.match(text).hasMatch()) {
+        number = text.toLongLong(&ok, 10);
+    } else if (hexadecimal.match(text).hasMatch()) {
+        number = text.toLongLong(&ok, 16);
+    }
+    return ok ? QVariant(number) : fail(QStringLiteral("bad integer \"%1\"").arg(text));
+}
+
+QVariant XmlPropertyListReader::real(const QString &text)
+{
+    static const QRegularExpression infinite(
+        QStringLiteral("^([+-]?)inf(inity)?$"), QRegularExpression::CaseInsensitiveOption);
+    if (text.compare(QLatin1String("nan"), Qt::CaseInsensitive) == 0) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+    if (const auto match = infinite.match(text); match.hasMatch()) {
+        const double infinity = std::numeric_limits<double>::infinity();
+        return match.captured(1) == QLatin1String("-") ? -infinity : infinity;
+    }
+    bool ok = false;
+    const double number = text.toDouble(&ok);
+    return ok ? QVariant(number) : fail(QStringLiteral("bad number \"%1\"").arg(text));
+}
+
+QVariant XmlPropertyListReader::date(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z$"));
+    if (form.match(text).hasMatch()) {
+        const QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
+        if (propertyListType(moment) == PropertyListType::Date) {
+            return moment.toUTC();
+        }
+    }
+    return fail(QStringLiteral("bad date \"%1\"").arg(text));
+}
+
+QVariant XmlPropertyListReader::data(const QString &text)
+{
+    QByteArray packed = text.toLatin1();
+    packed.removeIf([](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+    const auto bytes =
+        QByteArray::fromBase64Encoding(packed, QByteArray::AbortOnBase64DecodingErrors);
+    return bytes && packed.size() % 4 == 0 ? QVariant(*bytes) : fail(QStringLiteral("bad data"));
+}
+
+QVariant XmlPropertyListReader::fail(const QString &what)
+{
+    if (!m_xml.hasError()) {
+        m_xml.raiseError(what);
+    }
+    return {};
+}
+
+} // namespace
+
+Result<QVariant> readXmlPropertyList(const QByteArray &text)
+{
+    return XmlPropertyListReader(text).read();
+}
+
+} // namespace quillon

@@ -1,0 +1,282 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/web/HttpTransfer.h"
+
+#include "platform/HttpClient.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QScopedValueRollback>
+#include <QSslConfiguration>
+#include <QStringList>
+
+#include <cerrno>
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+constexpr QLatin1StringView http("http");
+constexpr QLatin1StringView https("https");
+constexpr int mostRedirects = 10;
+constexpr qint64 pieceBytes = 64 * 1024;
+/// What Qt keeps for us before it lets the sender wait.
+constexpr qint64 bufferBytes = 4 * pieceBytes;
+
+Error posixError(int number, const char *message)
+{
+    return {posixErrorDomain, number, QString::fromLatin1(message)};
+}
+
+bool isWebAddress(const QUrl &url)
+{
+    const QString scheme = url.scheme();
+    return url.isValid() && !url.host().isEmpty() && (scheme == http || scheme == https);
+}
+
+} // namespace
+
+HttpTransfer::HttpTransfer(Limits limits, Sink sink)
+    : m_limits(limits)
+    , m_sink(std::move(sink))
+{
+    m_silence.setSingleShot(true);
+    m_silence.setInterval(m_limits.silence);
+    connect(&m_silence, &QTimer::timeout, this,
+        [this] { end(posixError(ETIMEDOUT, "the server was silent for too long")); });
+}
+
+HttpTransfer::~HttpTransfer() = default;
+
+void HttpTransfer::start(const QUrl &url)
+{
+    if (!isWebAddress(url)) {
+        failSoon({httpErrorDomain, QNetworkReply::ProtocolUnknownError,
+            QStringLiteral("only http and https addresses can be asked")});
+        return;
+    }
+    // One for each request. A shared one would keep cookies and connections, and a connection that
+    // was made before the address changed leads nowhere. It would also send some requests twice.
+    m_network = new QNetworkAccessManager(this);
+    m_reply = m_network->get(request(url));
+    m_reply->setReadBufferSize(bufferBytes);
+    connectReply();
+    m_silence.start();
+}
+
+QNetworkRequest HttpTransfer::request(const QUrl &url) const
+{
+    QNetworkRequest request(url);
+    request.setAttribute(
+        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    request.setAttribute(
+        QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+    // Or a password that stands in the address would be sent to whoever asks for one.
+    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    // The same from everybody: by default Qt tells the user's language. A name alone is turned away
+    // by servers that expect a browser.
+    request.setRawHeader("User-Agent", "Mozilla/5.0 (compatible; Quillon)");
+    request.setRawHeader("Accept-Language", "*");
+    // A packed body could unfold to any length.
+    request.setRawHeader("Accept-Encoding", "identity");
+    QSslConfiguration security = QSslConfiguration::defaultConfiguration();
+    security.setProtocol(QSsl::TlsV1_2OrLater);
+    security.setPeerVerifyMode(QSslSocket::VerifyPeer);
+    request.setSslConfiguration(security);
+    return request;
+}
+
+void HttpTransfer::connectReply()
+{
+    const auto moved = [this] { m_silence.start(); };
+    connect(m_reply, &QNetworkReply::socketStartedConnecting, this, moved);
+    connect(m_reply, &QNetworkReply::encrypted, this, moved);
+    connect(m_reply, &QNetworkReply::requestSent, this, moved);
+    // They are not ignored, so the transfer fails; here we only learn why.
+    connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError> &errors) {
+        QStringList texts;
+        for (const QSslError &error : errors) {
+            texts << error.errorString();
+        }
+        m_certificateProblems = texts.join(QStringLiteral("; "));
+    });
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpTransfer::readHead);
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::readBody);
+    connect(m_reply, &QNetworkReply::finished, this, &HttpTransfer::replyFinished);
+}
+
+void HttpTransfer::readHead()
+{
+    if (m_over) {
+        return;
+    }
+    m_silence.start();
+    if (isRedirect()) {
+        follow();
+        return;
+    }
+    const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
+    if (!encoding.isEmpty() && encoding != "identity") {
+        end({httpErrorDomain, QNetworkReply::ProtocolFailure,
+            QStringLiteral("the body came packed, which was not asked for")});
+        return;
+    }
+    bool isNumber = false;
+    const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
+    const bool inChunks = m_reply->rawHeader("Transfer-Encoding").toLower().contains("chunked");
+    m_expected = isNumber && length >= 0 && !inChunks ? length : -1;
+    if (m_expected > m_limits.bodyLength) {
+        end(posixError(EFBIG, "the body is longer than allowed"));
+    }
+}
+
+bool HttpTransfer::isRedirect() const
+{
+    static const QList<int> redirects{301, 302, 303, 307, 308};
+    return redirects.contains(status()) && m_reply->hasRawHeader("Location");
+}
+
+/// Goes on at the address that the server names. What else it says is not read.
+void HttpTransfer::follow()
+{
+    const QUrl here = m_reply->url();
+    const QUrl there = here.resolved(QUrl::fromEncoded(m_reply->rawHeader("Location")));
+    const auto refuse = [this](QNetworkReply::NetworkError code, const char *why) {
+        end({httpErrorDomain, code, QString::fromLatin1(why)});
+    };
+    if (!isWebAddress(there)) {
+        refuse(QNetworkReply::ProtocolUnknownError, "a redirect to what is no web address");
+    } else if (here.scheme() == https && there.scheme() != https) {
+        refuse(QNetworkReply::InsecureRedirectError, "a redirect from https to http");
+    } else if (++m_redirects > mostRedirects) {
+        refuse(QNetworkReply::TooManyRedirectsError, "too many redirects");
+    } else {
+        leave();
+        start(there);
+    }
+}
+
+void HttpTransfer::readBody()
+{
+    while (!m_over && m_reply->bytesAvailable() > 0) {
+        m_silence.start();
+        const QByteArray bytes = m_reply->read(pieceBytes);
+        if (bytes.isEmpty()) {
+            return;
+        }
+        m_received += bytes.size();
+        if (m_received > m_limits.bodyLength) {
+            end(posixError(EFBIG, "the body is longer than allowed"));
+            return;
+        }
+        const QScopedValueRollback inside(m_insideSink, m_insideSink + 1);
+        const std::optional<Error> problem = m_sink.take(bytes, m_expected);
+        if (problem && !m_over) {
+            end(*problem);
+        }
+    }
+}
+
+void HttpTransfer::replyFinished()
+{
+    if (m_over) {
+        return;
+    }
+    readBody();
+    if (m_over) {
+        return;
+    }
+    if (const std::optional<Error> error = failure()) {
+        end(*error);
+        return;
+    }
+    const int finalStatus = status();
+    stop();
+    deleteLater();
+    m_sink.finish(finalStatus);
+}
+
+int HttpTransfer::status() const
+{
+    return m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+/// Whether the server answered, be it with a bad status: Qt gives those as errors too.
+bool HttpTransfer::isAnswer() const
+{
+    const QNetworkReply::NetworkError error = m_reply->error();
+    if (error == QNetworkReply::NoError) {
+        return status() > 0;
+    }
+    const bool isStatus = (error >= QNetworkReply::ContentAccessDenied &&
+                              error <= QNetworkReply::UnknownContentError &&
+                              error != QNetworkReply::ContentReSendError) ||
+                          (error >= QNetworkReply::InternalServerError &&
+                              error <= QNetworkReply::UnknownServerError) ||
+                          error == QNetworkReply::ProtocolInvalidOperationError;
+    return isStatus && status() >= 400;
+}
+
+std::optional<Error> HttpTransfer::failure() const
+{
+    if (isAnswer()) {
+        return std::nullopt;
+    }
+    QString message = m_reply->errorString();
+    if (!m_certificateProblems.isEmpty()) {
+        message += QStringLiteral(" (%1)").arg(m_certificateProblems);
+    }
+    return Error{httpErrorDomain, m_reply->error(), message};
+}
+
+void HttpTransfer::failSoon(const Error &error)
+{
+    QMetaObject::invokeMethod(
+        this, [this, error] { end(error); }, Qt::QueuedConnection);
+}
+
+void HttpTransfer::end(const Error &error)
+{
+    if (m_over) {
+        return;
+    }
+    stop();
+    deleteLater();
+    m_sink.fail(error);
+}
+
+void HttpTransfer::stop()
+{
+    m_over = true;
+    m_silence.stop();
+    if (m_reply) {
+        leave();
+    }
+}
+
+/// Ends the request in hand. It goes later, because this may be called by one of its own signals.
+void HttpTransfer::leave()
+{
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply = nullptr;
+    m_network->deleteLater();
+}
+
+void HttpTransfer::dispose()
+{
+    if (m_over) {
+        return; // it is already on its way out
+    }
+    stop();
+    if (m_insideSink > 0) {
+        deleteLater();
+    } else {
+        delete this;
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/menu/StatusMenuModel.h"
+
+#include "base/Localized.h"
+#include "base/SettingsKeys.h"
+#include "devices/CurrentInterface.h"
+#include "devices/DeviceTable.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+const QString indent = QStringLiteral("    ");
+
+MenuEntry separator()
+{
+    return {};
+}
+
+void appendItems(MenuItem &menu, const std::vector<MenuEntry> &entries)
+{
+    for (const MenuEntry &entry : entries) {
+        appendItems(menu.append(entry.title), entry.submenu);
+    }
+}
+
+} // namespace
+
+StatusMenuModel::StatusMenuModel(SettingsStore &settings, DeviceTable &devices,
+    const CurrentInterface &currentInterface, std::function<bool()> isHelperInstalled)
+    : m_devices(devices)
+    , m_currentInterface(currentInterface)
+    , m_displayCase(settings)
+    , m_isHelperInstalled(std::move(isHelperInstalled))
+{
+}
+
+void StatusMenuModel::menuWillOpen()
+{
+    m_devices.updateNetWorkInterfaces();
+    menuNeedsUpdate();
+}
+
+void StatusMenuModel::menuNeedsUpdate()
+{
+    Q_EMIT rebuildStarted();
+
+    std::vector<MenuEntry> entries;
+    entries.push_back({localized("Open Quillon"), MenuEntry::Action::OpenWindow, false, {}});
+    entries.push_back(separator());
+    const QStringList devices = m_devices.sortedDevicesArray();
+    for (const QString &device : devices) {
+        for (MenuEntry &entry : sectionForDevice(device)) {
+            entries.push_back(std::move(entry));
+        }
+        entries.push_back(separator());
+    }
+    entries.push_back(separator());
+    entries.push_back({localized("Quit Quillon"), MenuEntry::Action::Quit, false, {}});
+
+    if (entries != m_entries) {
+        m_entries = std::move(entries);
+        Q_EMIT changed();
+    }
+}
+
+std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) const
+{
+    const QVariantMap record = m_devices.record(device);
+    const QString hardware =
+        m_displayCase.transformedValue(record.value(record::hardware).toString());
+    const QString current =
+        m_displayCase.transformedValue(record.value(record::current).toString());
+    QString interface = record.value(record::interface).toString();
+    if (isWifiRecord(record)) {
+        interface = localized(interface);
+    }
+
+    MenuEntry deviceEntry;
+    deviceEntry.title = filled(QStringLiteral("%@ \u00B7 %@"), {interface, device});
+    deviceEntry.action = MenuEntry::Action::ChangeInterface;
+    deviceEntry.checked = device == m_currentInterface.device();
+
+    MenuEntry hardwareEntry;
+    hardwareEntry.title = filled(localized("%@Hardware Address \u00B7 %@"), {indent, hardware});
+    MenuEntry currentEntry;
+    currentEntry.title = filled(localized("%@Current Address \u00B7 %@"), {indent, current});
+    if (m_isHelperInstalled()) {
+        const auto restore =
+            current == hardware ? MenuEntry::Action::None : MenuEntry::Action::RestoreAddress;
+        hardwareEntry.submenu.push_back({localized("Restore"), restore, false, {}});
+        currentEntry.submenu.push_back(
+            {localized("Randomize"), MenuEntry::Action::RandomizeAddress, false, {}});
+    }
+    return {deviceEntry, hardwareEntry, currentEntry};
+}
+
+void StatusMenuModel::activate(const QList<int> &path)
+{
+    // A copy: what an action starts may rebuild the menu under the sender.
+    const std::vector<MenuEntry> entries = m_entries;
+    MenuItem menu{QString()};
+    appendItems(menu, entries);
+
+    const MenuItem *item = &menu;
+    const std::vector<MenuEntry> *level = &entries;
+    MenuEntry::Action action = MenuEntry::Action::None;
+    for (const int index : path) {
+        if (index < 0 || static_cast<size_t>(index) >= level->size()) {
+            return;
+        }
+        const MenuEntry &entry = (*level)[static_cast<size_t>(index)];
+        item = item->items()[static_cast<size_t>(index)].get();
+        action = entry.action;
+        level = &entry.submenu;
+    }
+
+    switch (action) {
+    case MenuEntry::Action::None:
+        break;
+    case MenuEntry::Action::OpenWindow:
+        Q_EMIT openWindowChosen();
+        break;
+    case MenuEntry::Action::ChangeInterface:
+        Q_EMIT interfaceChosen(item->title());
+        break;
+    case MenuEntry::Action::RestoreAddress:
+        Q_EMIT restoreChosen(*item);
+        break;
+    case MenuEntry::Action::RandomizeAddress:
+        Q_EMIT randomizeChosen(*item);
+        break;
+    case MenuEntry::Action::Quit:
+        Q_EMIT quitChosen();
+        break;
+    }
+}
+
+} // namespace quillon

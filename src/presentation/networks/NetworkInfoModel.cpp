@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/networks/NetworkInfoModel.h"
+
+#include "base/Localized.h"
+#include "base/NetworkKeys.h"
+#include "base/SettingsKeys.h"
+#include "base/StoredText.h"
+#include "networks/SavedNetworks.h"
+#include "networks/WiFiNetwork.h"
+
+#include <QPointer>
+
+namespace quillon {
+
+namespace {
+
+constexpr std::chrono::milliseconds refreshInterval{3000};
+
+struct Detail
+{
+    const char *label;
+    const QString &key;
+    /// The value is a word of ours, not something that the network says.
+    bool isText = false;
+};
+
+QList<NetworkInfoModel::Row> detailsOf(const QVariantMap &record)
+{
+    const bool associated = !record.value(wifirecord::BSSID).toString().isEmpty();
+    const Detail details[] = {
+        {"Network", wifirecord::name, !associated},
+        {"SSID", wifirecord::SSID},
+        {"BSSID", wifirecord::BSSID},
+        {"IP Address", wifirecord::ipAddress},
+        {"Security", wifirecord::security, true},
+        {"Channel", wifirecord::channel},
+        {"Country Code", wifirecord::country},
+        {"RSSI", wifirecord::RSSI},
+        {"Noise", wifirecord::noise},
+        {"Transmit Rate", wifirecord::txRate},
+        {"PHY Mode", wifirecord::phyMode, true},
+        {"MCS Index", wifirecord::mcs},
+    };
+    QList<NetworkInfoModel::Row> rows;
+    for (const Detail &detail : details) {
+        const QString value = storedText(record, detail.key).value_or(QString());
+        rows.append({localized(detail.label),
+            detail.isText && !value.isEmpty() ? localized(value) : value});
+    }
+    return rows;
+}
+
+} // namespace
+
+NetworkInfoModel::NetworkInfoModel(const Collaborators &collaborators)
+    : m_with(collaborators)
+{
+    m_observed.push_back(m_with.settings.addObserver(keys::currentWiFiDict, [this](const auto &) {
+        showDetails();
+        updateFavNetworkButton();
+    }));
+    m_observed.push_back(m_with.settings.addObserver(
+        keys::savedNetworks, [this](const auto &) { updateFavNetworkButton(); }));
+    showDetails();
+    updateFavNetworkButton();
+}
+
+NetworkInfoModel::~NetworkInfoModel()
+{
+    stopNetworkTimer();
+    for (const auto token : m_observed) {
+        m_with.settings.removeObserver(token);
+    }
+}
+
+void NetworkInfoModel::showNetworkButton(bool shown)
+{
+    State state = m_state;
+    state.buttonVisible = shown;
+    update(state);
+}
+
+void NetworkInfoModel::toggleNetworkInfoPopover()
+{
+    if (m_state.popoverShown) {
+        popoverWillClose();
+        return;
+    }
+    m_with.wifi.updateWiFiNetwork();
+    startNetworkTimer();
+    popoverWillShow();
+}
+
+void NetworkInfoModel::popoverWillShow()
+{
+    updateFavNetworkButton();
+    State state = m_state;
+    state.popoverShown = true;
+    update(state);
+}
+
+void NetworkInfoModel::popoverWillClose()
+{
+    stopNetworkTimer();
+    State state = m_state;
+    state.popoverShown = false;
+    update(state);
+}
+
+void NetworkInfoModel::startNetworkTimer()
+{
+    stopNetworkTimer();
+    m_networkTimer = m_with.scheduler.repeat(refreshInterval, [self = QPointer(this)] {
+        if (auto *const that = self.data()) {
+            that->m_with.wifi.updateWiFiNetwork();
+        }
+    });
+}
+
+void NetworkInfoModel::stopNetworkTimer()
+{
+    if (m_networkTimer) {
+        m_with.scheduler.cancel(*m_networkTimer);
+        m_networkTimer.reset();
+    }
+}
+
+void NetworkInfoModel::updateFavNetworkButton()
+{
+    State state = m_state;
+    state.favourite = favouriteNetworkButton(m_with.savedNetworks.isCurrentNetworkSaved());
+    update(state);
+}
+
+void NetworkInfoModel::chooseFavouriteButton()
+{
+    if (m_state.favourite.removes) {
+        m_with.savedNetworks.removeCurrentNetworkFromSavedList();
+    } else {
+        m_with.savedNetworks.addCurrentNetworkToSavedList();
+    }
+}
+
+void NetworkInfoModel::showDetails()
+{
+    State state = m_state;
+    state.rows = detailsOf(m_with.settings.getDictionary(keys::currentWiFiDict));
+    update(state);
+}
+
+void NetworkInfoModel::update(const State &state)
+{
+    if (state == m_state) {
+        return;
+    }
+    m_state = state;
+    Q_EMIT changed();
+}
+
+} // namespace quillon

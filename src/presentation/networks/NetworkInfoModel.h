@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Scheduler.h"
+#include "platform/SettingsStore.h"
+#include "presentation/networks/FavouriteButton.h"
+
+#include <QList>
+#include <QObject>
+
+#include <optional>
+#include <vector>
+
+namespace quillon {
+
+class SavedNetworks;
+class WiFiNetwork;
+
+/// The network-information button of the main window and its popover: the details of the current
+/// Wi-Fi network, refreshed every three seconds while the popover is open, and the button that
+/// keeps the network among the saved ones. Main thread.
+class NetworkInfoModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Row
+    {
+        QString label;
+        QString value;
+
+        bool operator==(const Row &) const = default;
+    };
+    struct State
+    {
+        bool buttonVisible = false;
+        bool popoverShown = false;
+        QList<Row> rows; ///< the network's name first; one row for each detail, also an empty one
+        FavouriteButton favourite;
+
+        bool operator==(const State &) const = default;
+    };
+    struct Collaborators
+    {
+        SettingsStore &settings;
+        Scheduler &scheduler;
+        WiFiNetwork &wifi;
+        SavedNetworks &savedNetworks;
+    };
+
+    explicit NetworkInfoModel(const Collaborators &collaborators);
+    ~NetworkInfoModel() override;
+
+    const State &state() const { return m_state; }
+
+    /// The button follows the association.
+    void showNetworkButton(bool shown);
+    /// The button was chosen: opens the popover on fresh details, or closes it.
+    void toggleNetworkInfoPopover();
+    /// However it is closed. The refreshing ends with it.
+    void popoverWillClose();
+
+    void startNetworkTimer();
+    void stopNetworkTimer();
+
+    void updateFavNetworkButton();
+    /// The favourite button was chosen: does what it says.
+    void chooseFavouriteButton();
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+
+private:
+    void popoverWillShow();
+    void showDetails();
+    void update(const State &state);
+
+    Collaborators m_with;
+    State m_state;
+    std::optional<Scheduler::Token> m_networkTimer;
+    std::vector<SettingsStore::Token> m_observed;
+};
+
+} // namespace quillon

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/networks/SavedEntryPopoverModel.h"
+
+#include "base/NetworkKeys.h"
+#include "networks/SavedAddressEditing.h"
+#include "networks/SavedNetworkEditing.h"
+#include "platform/Scheduler.h"
+
+#include <QPointer>
+
+namespace quillon {
+
+namespace {
+
+constexpr qreal anchorSize = 5;
+
+QRectF anchorAt(const QPointF &position)
+{
+    QRectF anchor(0, 0, anchorSize, anchorSize);
+    anchor.moveCenter(position);
+    return anchor;
+}
+
+QString textIn(const QVariantMap &entry, const QString &key)
+{
+    return entry.value(key).toString();
+}
+
+} // namespace
+
+SavedEntryPopoverModel::SavedEntryPopoverModel(
+    SavedNetworkEditing &networks, SavedAddressEditing &addresses, Scheduler &scheduler)
+    : m_networks(networks)
+    , m_addresses(addresses)
+    , m_scheduler(scheduler)
+{
+}
+
+void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
+    TokenField field, const QVariantMap &entry, const QPointF &position)
+{
+    if (!tokenFieldHasMenuForRepresentedObject(field)) {
+        return;
+    }
+    closeBoth();
+    const bool isNetwork = field == TokenField::SavedNetworks;
+    if (isNetwork) {
+        m_networks.beginEditing(entry);
+    } else {
+        m_addresses.beginEditing(entry);
+    }
+    // The token field finishes its own event first.
+    m_scheduler.onMain([self = QPointer(this), choice = m_choice, isNetwork, position] {
+        auto *const that = self.data();
+        if (that && that->m_choice == choice) {
+            that->open(isNetwork ? Popover::Network : Popover::Address, position);
+        }
+    });
+}
+
+void SavedEntryPopoverModel::closeBoth()
+{
+    ++m_choice;
+    m_networks.endEditing();
+    m_addresses.endEditing();
+    update({});
+}
+
+void SavedEntryPopoverModel::open(Popover popover, const QPointF &position)
+{
+    State state;
+    state.open = popover;
+    state.anchor = anchorAt(position);
+    fill(state);
+    update(state);
+}
+
+void SavedEntryPopoverModel::fill(State &state) const
+{
+    if (const auto &network = m_networks.editingNetworkDict()) {
+        state.name = textIn(*network, savedentry::name);
+        state.ssid = textIn(*network, savedentry::SSID);
+        state.bssid = textIn(*network, savedentry::BSSID);
+        fixButtonActions(state);
+    } else if (const auto &address = m_addresses.editingAddressDict()) {
+        state.name = textIn(*address, savedentry::name);
+        state.address = textIn(*address, savedentry::address);
+    }
+    state.nameEnabled = true;
+    state.removeEnabled = true;
+}
+
+void SavedEntryPopoverModel::fixButtonActions(State &state) const
+{
+    const bool bySsid = m_networks.isSsidDefined();
+    state.ssidTickButton = {.on = bySsid, .hasAction = !bySsid};
+    state.bssidTickButton = {.on = !bySsid, .hasAction = bySsid};
+}
+
+void SavedEntryPopoverModel::controlTextDidEndEditing(const QString &typed)
+{
+    if (m_state.open == Popover::Network) {
+        m_networks.changeSavedNetworkName(typed);
+    } else if (m_state.open == Popover::Address) {
+        m_addresses.changeSavedAddressName(typed);
+    }
+}
+
+void SavedEntryPopoverModel::removeEntry()
+{
+    if (m_state.open == Popover::Network) {
+        m_networks.removeSavedNetwork();
+    } else if (m_state.open == Popover::Address) {
+        m_addresses.removeSavedAddress();
+    }
+}
+
+void SavedEntryPopoverModel::chooseSsidTickButton()
+{
+    if (m_state.ssidTickButton.hasAction) {
+        m_networks.updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+    }
+}
+
+void SavedEntryPopoverModel::chooseBssidTickButton()
+{
+    if (m_state.bssidTickButton.hasAction) {
+        m_networks.updateNetworkDefinition(QStringLiteral("bssidbutton"));
+    }
+}
+
+void SavedEntryPopoverModel::showNetworkDefinition()
+{
+    const auto &network = m_networks.editingNetworkDict();
+    if (m_state.open != Popover::Network || !network) {
+        return;
+    }
+    State state = m_state;
+    state.bssid = textIn(*network, savedentry::BSSID);
+    fixButtonActions(state);
+    update(state);
+}
+
+void SavedEntryPopoverModel::closeNetworkPopover()
+{
+    if (m_state.open == Popover::Network) {
+        closeBoth();
+    }
+}
+
+void SavedEntryPopoverModel::closeAddressPopover()
+{
+    if (m_state.open == Popover::Address) {
+        closeBoth();
+    }
+}
+
+void SavedEntryPopoverModel::update(const State &state)
+{
+    if (state == m_state) {
+        return;
+    }
+    m_state = state;
+    Q_EMIT changed();
+}
+
+} // namespace quillon

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "presentation/networks/SavedListsModel.h"
+
+#include <QObject>
+#include <QRectF>
+
+#include <optional>
+
+namespace quillon {
+
+class SavedAddressEditing;
+class SavedNetworkEditing;
+class Scheduler;
+
+/// The two popovers that edit one saved network or one saved address. At most one is open. Main
+/// thread.
+class SavedEntryPopoverModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Popover
+    {
+        None,
+        Network,
+        Address,
+    };
+    /// One of the pair of tick buttons, which behaves as two radio buttons.
+    struct TickButton
+    {
+        bool on = false;
+        bool hasAction = false; ///< without one, choosing it does nothing
+
+        bool operator==(const TickButton &) const = default;
+    };
+    struct State
+    {
+        Popover open = Popover::None;
+        /// The popover is shown at the lower edge of this rectangle, 5 by 5 around the place where
+        /// the token was chosen and in its coordinates.
+        QRectF anchor;
+        QString name;
+        QString ssid;    ///< network only
+        QString bssid;   ///< network only
+        QString address; ///< address only
+        bool nameEnabled = false;
+        bool removeEnabled = false;
+        TickButton ssidTickButton;  ///< network only
+        TickButton bssidTickButton; ///< network only
+
+        bool operator==(const State &) const = default;
+    };
+
+    SavedEntryPopoverModel(
+        SavedNetworkEditing &networks, SavedAddressEditing &addresses, Scheduler &scheduler);
+
+    const State &state() const { return m_state; }
+
+    /// A token was chosen with the pointer at `position`. What was open closes at once; where the
+    /// field's tokens have a menu, the token's popover opens in the next turn of the main loop.
+    void tokenFieldMenuForRepresentedObject(
+        TokenField field, const QVariantMap &entry, const QPointF &position);
+    /// Editing of the open popover's name field ended. To be told before the popover closes.
+    void controlTextDidEndEditing(const QString &typed);
+    /// The remove button was chosen.
+    void removeEntry();
+    void chooseSsidTickButton();
+    void chooseBssidTickButton();
+
+    /// The edited network changed its mode: shows it.
+    void showNetworkDefinition();
+    /// However they are closed; what is not open stays as it is.
+    void closeNetworkPopover();
+    void closeAddressPopover();
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+
+private:
+    void closeBoth();
+    void open(Popover popover, const QPointF &position);
+    void fill(State &state) const;
+    void fixButtonActions(State &state) const;
+    void update(const State &state);
+
+    SavedNetworkEditing &m_networks;
+    SavedAddressEditing &m_addresses;
+    Scheduler &m_scheduler;
+    State m_state;
+    quint64 m_choice = 0; ///< counts chosen tokens; an older one no longer opens anything
+};
+
+} // namespace quillon

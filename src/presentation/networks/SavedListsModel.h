@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/SettingsStore.h"
+#include "presentation/networks/FavouriteButton.h"
+
+#include <QList>
+#include <QObject>
+#include <QVariantMap>
+
+#include <vector>
+
+namespace quillon {
+
+class SavedAddresses;
+
+/// The fields that show saved entries as tokens; Other stands for any other token field.
+enum class TokenField
+{
+    SavedNetworks,
+    SavedAddresses,
+    QuickAddresses,
+    Other,
+};
+
+/// A token's text: its entry's name; the word "name" in a field that shows no saved entries.
+QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const QVariantMap &entry);
+/// Whether choosing a token of the field opens something.
+bool tokenFieldHasMenuForRepresentedObject(TokenField field);
+
+/// What the token fields hold, and the button that keeps the current address among the saved ones.
+/// Main thread.
+class SavedListsModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Token
+    {
+        QVariantMap entry; ///< its "BSSID" or "address" is the key under which it is saved
+        QString text;
+
+        bool operator==(const Token &) const = default;
+    };
+    struct State
+    {
+        QList<Token> networks; ///< in the order of their BSSIDs
+        QList<Token> addresses;
+        QList<Token> quickAddresses; ///< in the order of their addresses, ignoring case
+        bool softwarePopoverShown = false;
+        FavouriteButton favourite;
+
+        bool operator==(const State &) const = default;
+    };
+
+    SavedListsModel(SettingsStore &settings, SavedAddresses &savedAddresses);
+    ~SavedListsModel() override;
+
+    const State &state() const { return m_state; }
+
+    /// Refills the quick addresses. At the start, and whenever `savedAddresses` changes.
+    void updateQuickAddressesField();
+
+    /// The button of the saved addresses was chosen: opens their popover or closes it.
+    void toggleSoftwarePopover();
+    void softwarePopoverWillClose();
+
+    void updateFavAddressButton();
+    /// The favourite button was chosen: does what it says.
+    void chooseFavouriteButton();
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+
+private:
+    void refillSavedFields();
+    void update(const State &state);
+
+    SettingsStore &m_settings;
+    SavedAddresses &m_savedAddresses;
+    State m_state;
+    std::vector<SettingsStore::Token> m_observed;
+};
+
+} // namespace quillon

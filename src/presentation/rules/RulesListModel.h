@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "store/model/Predicate.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+namespace quillon {
+
+class CurrentInterface;
+class NotificationCenter;
+class RuleQueries;
+class SettingsStore;
+struct ObjectsDidChange;
+
+/// The list of the rules that apply to the selected interface on the network that it is on: exactly
+/// those that evaluation considers. Enabled rules stand first, each group by name. Main thread.
+class RulesListModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Row
+    {
+        QString objID; ///< the rule's identity
+        QString name;
+        bool enabled = false;
+        bool active = false;
+
+        bool operator==(const Row &) const = default;
+    };
+    struct State
+    {
+        Predicate filter; ///< which rules are shown; all before the first filtering
+        QString symbol;   ///< of the header: "network" or "wifi"
+        QString title;    ///< of the header
+        QList<Row> rows;
+        qsizetype selectedRow = -1; ///< -1 in an empty list
+
+        bool operator==(const State &) const = default;
+    };
+    struct Collaborators
+    {
+        const SettingsStore &settings;
+        NotificationCenter &notifications;
+        const CurrentInterface &currentInterface;
+        const RuleQueries &queries;
+    };
+
+    explicit RulesListModel(const Collaborators &collaborators);
+
+    const State &state() const { return m_state; }
+
+    /// Points list and header at the selected interface.
+    void filterRulesArrayController();
+    /// Rules changed: the same filter again.
+    void reload();
+    /// Records changed: the same, when there is a rule among them.
+    void reloadAfter(const ObjectsDidChange &change);
+    void selectRow(qsizetype row);
+    /// The check box of a row was used. Broadcasts "toggleCheckbox"; the row follows the rule.
+    void toggle(qsizetype row, bool enabled);
+
+Q_SIGNALS:
+    /// Something in state() changed.
+    void changed();
+
+private:
+    void update(State state);
+    QList<Row> rows(const Predicate &filter) const;
+
+    Collaborators m_with;
+    State m_state;
+};
+
+} // namespace quillon

@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/vendors/VendorPaneModel.h"
+
+#include "base/Localized.h"
+#include "base/SettingsKeys.h"
+#include "platform/SettingsStore.h"
+#include "vendors/RegistryDownload.h"
+#include "vendors/VendorCount.h"
+
+namespace quillon {
+
+namespace {
+
+constexpr double bytesPerMegabyte = 1'000'000;
+
+QString megabytes(qint64 bytes)
+{
+    return QString::asprintf("%.01f", static_cast<double>(bytes) / bytesPerMegabyte);
+}
+
+/// In single precision. An empty download has no share to speak of.
+float share(qint64 received, qint64 expected)
+{
+    return expected == 0
+               ? 0.0F
+               : static_cast<float>(static_cast<double>(received) / static_cast<double>(expected));
+}
+
+} // namespace
+
+VendorPaneModel::VendorPaneModel(const SettingsStore &settings, RegistryDownload &download)
+    : m_settings(settings)
+    , m_download(download)
+{
+    m_state.buttonTitle = localized("Update database");
+}
+
+void VendorPaneModel::pressButton()
+{
+    switch (m_state.action) {
+    case Action::StartDownload:
+        m_download.startDownload();
+        break;
+    case Action::CancelDownload:
+        m_download.cancelDownload();
+        break;
+    }
+}
+
+void VendorPaneModel::showStoredTexts()
+{
+    showCount(m_settings.getInteger(keys::vendorCountValue));
+    showDownloadCompleted(storedUpdateDate(m_settings));
+}
+
+void VendorPaneModel::showDownloadBegun()
+{
+    State state = m_state;
+    state.updatedLabel = localized("Getting download information...");
+    state.vendorCount = localized("Updating Vendor Identifier count...");
+    state.action = Action::CancelDownload;
+    state.buttonTitle = localized("Cancel download...");
+    update(state);
+}
+
+void VendorPaneModel::showProgress(qint64 chunk, qint64 received, qint64 expected)
+{
+    State state = m_state;
+    state.progress = share(received, expected);
+    state.progressShown = true;
+    if (expected == -1) {
+        // The size of the latest piece: all that can be said without knowing the whole.
+        state.updatedLabel = filled(localized("Downloading... %@MB"), {megabytes(chunk)});
+    } else {
+        const QString percentage =
+            QString::asprintf("%.03f", static_cast<double>(state.progress * 100.0F));
+        state.updatedLabel =
+            filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)});
+    }
+    update(state);
+}
+
+void VendorPaneModel::showDownloadCancelled()
+{
+    updateLabel(localized("Download cancelled..."));
+}
+
+void VendorPaneModel::showProcessingBegun()
+{
+    updateLabel(localized("Processing data..."));
+}
+
+void VendorPaneModel::showParsingFailed()
+{
+    updateLabel(localized("Parsing file failed..."));
+}
+
+void VendorPaneModel::showDownloadCompleted(const QString &date)
+{
+    updateLabel(filled(localized("Last Updated: %@"), {date}));
+}
+
+void VendorPaneModel::resetDownloadButton()
+{
+    State state = m_state;
+    state.action = Action::StartDownload;
+    state.buttonTitle = localized("Update database");
+    state.progress = 0;
+    state.progressShown = false;
+    update(state);
+}
+
+void VendorPaneModel::showFirstCountBegun()
+{
+    updateCount(localized("Getting Vendor Identifier count..."));
+}
+
+void VendorPaneModel::showAdditionNoted(const QString &note)
+{
+    updateLabel(note);
+}
+
+void VendorPaneModel::showCount(qlonglong count)
+{
+    updateCount(filled(localized("%@ Vendor Identifiers"), {QString::number(count)}));
+}
+
+void VendorPaneModel::updateLabel(const QString &text)
+{
+    State state = m_state;
+    state.updatedLabel = text;
+    update(state);
+}
+
+void VendorPaneModel::updateCount(const QString &text)
+{
+    State state = m_state;
+    state.vendorCount = text;
+    update(state);
+}
+
+void VendorPaneModel::update(const State &state)
+{
+    if (state == m_state) {
+        return;
+    }
+    m_state = state;
+    Q_EMIT changed();
+}
+
+} // namespace quillon

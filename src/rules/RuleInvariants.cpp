@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rules/RuleInvariants.h"
+
+#include "base/NotificationNames.h"
+#include "base/UniqueName.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Scheduler.h"
+#include "store/RecordStore.h"
+#include "store/model/QuillonModel.h"
+
+#include <QPointer>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+/// True when there was a value to write again.
+bool reassertSsidDefined(ManagedObject &rule)
+{
+    const QVariant value = rule.value(model::rule::ssidDefined);
+    if (value.isValid()) {
+        rule.setPrimitiveValue(model::rule::ssidDefined, value);
+    }
+    return value.isValid();
+}
+
+/// Gives a renamed rule a name that `taken` does not hold, and adds it there: two rules may be
+/// renamed in one turn. True when the rule was renamed.
+bool makeNameUnique(ManagedObject &rule, QStringList &taken)
+{
+    const QVariant name = rule.value(model::rule::name);
+    const QVariant previous = rule.changedValuesForCurrentEvent().value(model::rule::name);
+    if (!name.isValid() || !previous.isValid() || previous == name) {
+        return false;
+    }
+    const QString unique = getOriginalNameFromArray(name.toString(), taken);
+    rule.setPrimitiveValue(model::rule::name, unique);
+    taken.append(unique);
+    return true;
+}
+
+bool isConnection(const ManagedObjectPtr &object)
+{
+    return object->entity().name() == model::Connection;
+}
+
+} // namespace
+
+RuleInvariants::Suspension::Suspension(RuleInvariants &invariants)
+    : m_invariants(invariants)
+{
+    m_invariants.processPendingChanges();
+    ++m_invariants.m_suspended;
+}
+
+RuleInvariants::Suspension::~Suspension()
+{
+    m_invariants.processPendingChanges();
+    --m_invariants.m_suspended;
+}
+
+RuleInvariants::RuleInvariants(const Collaborators &collaborators)
+    : m_with(collaborators)
+{
+}
+
+void RuleInvariants::contextDidChange(const ObjectsDidChange &change)
+{
+    if (m_suspended > 0) {
+        return;
+    }
+    // What is corrected here must not be looked at again.
+    const QScopedValueRollback unobserved(m_suspended, m_suspended + 1);
+    if (correctRules(change.updated)) {
+        tellOfCorrectedRules();
+    }
+    if (std::ranges::any_of(change.inserted, isConnection)) {
+        m_with.store.managedObjectContext().processPendingChanges();
+    }
+}
+
+bool RuleInvariants::correctRules(const ManagedObjectList &updated)
+{
+    bool corrected = false;
+    QStringList taken;
+    for (const ManagedObjectPtr &object : updated) {
+        if (object->entity().name() != model::Rule) {
+            continue;
+        }
+        if (taken.isEmpty()) {
+            taken = m_with.namesArray();
+        }
+        const bool reasserted = reassertSsidDefined(*object);
+        const bool renamed = makeNameUnique(*object, taken);
+        corrected = corrected || reasserted || renamed;
+    }
+    return corrected;
+}
+
+void RuleInvariants::tellOfCorrectedRules()
+{
+    m_with.scheduler.onMain([self = QPointer(this)] {
+        auto *const that = self.data();
+        if (!that) {
+            return;
+        }
+        that->processPendingChanges();
+        Q_EMIT that->ruleTableStale();
+        that->m_with.notifications.post(notifications::ruleTable, that);
+        that->m_with.notifications.post(notifications::updateNamesArray, that);
+    });
+}
+
+void RuleInvariants::processPendingChanges()
+{
+    // Without a context there is nothing pending, and no reason to make one.
+    if (m_with.store.hasManagedObjectContext()) {
+        m_with.store.managedObjectContext().processPendingChanges();
+    }
+}
+
+} // namespace quillon

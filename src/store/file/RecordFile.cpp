@@ -1,0 +1,272 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/file/RecordFile.h"
+
+#include "store/file/RecordFileOpening.h"
+#include "store/file/SqlPredicate.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+#include <map>
+#include <tuple>
+#include <utility>
+
+namespace quillon {
+
+Error recordFileError(RecordFileError code, const QString &message)
+{
+    return {recordFileErrorDomain, static_cast<int>(code), message};
+}
+
+bool isFileOfANewerVersion(const Error &error)
+{
+    return error.domain == recordFileErrorDomain &&
+           error.code == static_cast<int>(RecordFileError::Newer);
+}
+
+namespace {
+
+qint64 commitsOfOthers(SQLite::Database &database)
+{
+    return database.execAndGet("PRAGMA data_version").getInt64();
+}
+
+/// What `work` gives; no exception passes this edge of the component.
+template <typename T, typename Work>
+Result<T> attempt(const Work &work)
+{
+    try {
+        return work();
+    } catch (const RefusedFile &refused) {
+        return refused.error;
+    } catch (const SQLite::Exception &exception) {
+        return errorOf(exception);
+    }
+}
+
+/// `text` once for each of `count`, with commas between.
+std::string repeated(const std::string &text, qsizetype count)
+{
+    std::string all;
+    for (qsizetype index = 0; index < count; ++index) {
+        all += (index > 0 ? "," : "") + text;
+    }
+    return all;
+}
+
+std::string columnNames(const Entity &entity)
+{
+    std::string names = "pk, uuid";
+    for (const Attribute &attribute : entity.attributes()) {
+        names += ", " + quotedName(attribute.name);
+    }
+    return names;
+}
+
+std::string selection(const Entity &entity)
+{
+    return "SELECT " + columnNames(entity) + " FROM " + quotedName(entity.name());
+}
+
+QList<RecordRow> allRows(SQLite::Statement &statement, const Entity &entity)
+{
+    QList<RecordRow> rows;
+    while (statement.executeStep()) {
+        rows << rowOf(statement, entity);
+    }
+    return rows;
+}
+
+/// Writes rows, each statement prepared once. SQLite::Exception as SQLiteCpp throws it.
+class RowWriter
+{
+public:
+    explicit RowWriter(SQLite::Database &database)
+        : m_database(database)
+    {
+    }
+
+    qint64 write(const RowChange &change)
+    {
+        switch (change.kind) {
+        case RowChange::Kind::Insert:
+            return insert(change);
+        case RowChange::Kind::Update:
+            return update(change) ? change.row.key : insert(change);
+        case RowChange::Kind::Delete:
+            remove(change);
+            return change.row.key;
+        }
+        return 0;
+    }
+
+private:
+    /// Making the text costs more than running it, so that is done once too.
+    SQLite::Statement &statement(const RowChange &change, RowChange::Kind kind)
+    {
+        const Key key(kind, change.entity.name(), change.columns);
+        auto found = m_statements.find(key);
+        if (found == m_statements.end()) {
+            found = m_statements.try_emplace(key, m_database, text(change, kind)).first;
+        }
+        found->second.reset();
+        return found->second;
+    }
+
+    static std::string text(const RowChange &change, RowChange::Kind kind)
+    {
+        const Entity &entity = change.entity;
+        const std::string table = quotedName(entity.name());
+        std::string set;
+        switch (kind) {
+        case RowChange::Kind::Insert:
+            for (const Attribute &attribute : entity.attributes()) {
+                const std::string name = quotedName(attribute.name);
+                set += (set.empty() ? "" : ", ") + name + " = excluded." + name;
+            }
+            // A record that another program has brought back already keeps its row.
+            return "INSERT INTO " + table + " (" + columnNames(entity) + ") VALUES (" +
+                   repeated("?", 2 + entity.attributes().size()) +
+                   ") ON CONFLICT (uuid) DO UPDATE SET " + set + " RETURNING pk";
+        case RowChange::Kind::Update:
+            for (const qsizetype column : change.columns) {
+                set += (set.empty() ? "" : ", ") + quotedName(entity.attributes()[column].name) +
+                       " = ?";
+            }
+            return "UPDATE " + table + " SET " + set + " WHERE uuid = ?";
+        case RowChange::Kind::Delete:
+            return "DELETE FROM " + table + " WHERE uuid = ?";
+        }
+        return {};
+    }
+
+    qint64 insert(const RowChange &change)
+    {
+        auto &sql = statement(change, RowChange::Kind::Insert);
+        if (change.row.key == 0) {
+            sql.bind(1);
+        } else {
+            sql.bind(1, int64_t{change.row.key});
+        }
+        bindId(sql, 2, change.row.id);
+        int index = 3;
+        for (const QVariant &value : change.row.values) {
+            bindValue(sql, index++, value);
+        }
+        sql.executeStep();
+        const qint64 key = sql.getColumn(0).getInt64();
+        sql.executeStep();
+        return key;
+    }
+
+    bool update(const RowChange &change)
+    {
+        auto &sql = statement(change, RowChange::Kind::Update);
+        int index = 1;
+        for (const qsizetype column : change.columns) {
+            bindValue(sql, index++, change.row.values[column]);
+        }
+        bindId(sql, index, change.row.id);
+        return sql.exec() > 0;
+    }
+
+    void remove(const RowChange &change)
+    {
+        auto &sql = statement(change, RowChange::Kind::Delete);
+        bindId(sql, 1, change.row.id);
+        sql.exec();
+    }
+
+    using Key = std::tuple<RowChange::Kind, QString, QList<qsizetype>>;
+
+    SQLite::Database &m_database;
+    std::map<Key, SQLite::Statement> m_statements;
+};
+
+} // namespace
+
+Result<std::unique_ptr<RecordFile>> RecordFile::open(
+    const Model &model, const QString &path, const RecordSchema &schema)
+{
+    return attempt<std::unique_ptr<RecordFile>>([&] {
+        return std::unique_ptr<RecordFile>(new RecordFile(openedDatabase(model, path, schema)));
+    });
+}
+
+RecordFile::RecordFile(std::unique_ptr<SQLite::Database> database)
+    : m_database(std::move(database))
+    , m_version(commitsOfOthers(*m_database))
+{
+}
+
+RecordFile::~RecordFile() = default;
+
+Result<std::vector<qint64>> RecordFile::keys(
+    const Entity &entity, const FetchRequest &request) const
+{
+    const auto condition = sqlCondition(entity, request.predicate.value_or(Predicate::all({})));
+    const auto order = sqlOrder(entity, request.order);
+    if (!condition || !order) {
+        return condition ? order.error() : condition.error();
+    }
+    const std::string sql = "SELECT pk FROM " + quotedName(entity.name()) + " WHERE " +
+                            condition.value().text + " ORDER BY " + order.value();
+    return attempt<std::vector<qint64>>([&] {
+        SQLite::Statement statement(*m_database, sql);
+        int index = 1;
+        for (const QVariant &value : condition.value().values) {
+            bindValue(statement, index++, value);
+        }
+        std::vector<qint64> keys;
+        while (statement.executeStep()) {
+            keys.push_back(statement.getColumn(0).getInt64());
+        }
+        return keys;
+    });
+}
+
+Result<QList<RecordRow>> RecordFile::rows(const Entity &entity, const QList<qint64> &keys) const
+{
+    return attempt<QList<RecordRow>>([&] {
+        SQLite::Statement statement(
+            *m_database, selection(entity) + " WHERE pk IN (" + repeated("?", keys.size()) + ")");
+        int index = 1;
+        for (const qint64 key : keys) {
+            statement.bind(index++, int64_t{key});
+        }
+        return allRows(statement, entity);
+    });
+}
+
+Result<QList<RecordRow>> RecordFile::row(const Entity &entity, const QUuid &id) const
+{
+    return attempt<QList<RecordRow>>([&] {
+        SQLite::Statement statement(*m_database, selection(entity) + " WHERE uuid = ?");
+        bindId(statement, 1, id);
+        return allRows(statement, entity);
+    });
+}
+
+Result<RecordFile::Written> RecordFile::write(const QList<RowChange> &changes)
+{
+    return attempt<Written>([&] {
+        SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+        Written written{{}, commitsOfOthers(*m_database) != m_version};
+        {
+            RowWriter writer(*m_database);
+            for (const RowChange &change : changes) {
+                written.keys << writer.write(change);
+            }
+        }
+        transaction.commit();
+        return written;
+    });
+}
+
+Result<qint64> RecordFile::versionOfOthers() const
+{
+    return attempt<qint64>([&] { return commitsOfOthers(*m_database); });
+}
+
+} // namespace quillon

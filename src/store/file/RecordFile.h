@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/Result.h"
+#include "store/file/RecordRow.h"
+#include "store/file/RecordSchema.h"
+#include "store/model/FetchRequest.h"
+
+#include <memory>
+#include <vector>
+
+namespace SQLite {
+class Database;
+} // namespace SQLite
+
+namespace quillon {
+
+inline const QString recordFileErrorDomain = QStringLiteral("RecordFileErrorDomain");
+
+/// The codes of recordFileErrorDomain.
+enum class RecordFileError
+{
+    CannotOpen = 1, ///< no such folder, no permission, not a file
+    NotARecordFile, ///< it belongs to something else
+    Damaged,
+    Newer,       ///< written by a later version of the program
+    Locked,      ///< another program keeps it for longer than the second that we wait
+    Full,        ///< the disk is
+    InputOutput, ///< the disk fails
+    UnknownName, ///< a fetch names an entity or attribute that the model does not have
+    Failed,      ///< anything else that SQLite says
+};
+
+Error recordFileError(RecordFileError code, const QString &message);
+bool isFileOfANewerVersion(const Error &error);
+
+/// The SQLite file of a store: rows by entity, read in part and written in whole transactions. What
+/// write() reported as done survives a kill and a power cut. Other programs may read and write the
+/// file meanwhile. Main thread.
+class RecordFile
+{
+public:
+    /// Opens the file, makes it, for its owner alone, when it is missing, and brings an older one
+    /// up to date in one transaction. A file that is refused, whatever the reason, keeps its bytes.
+    static Result<std::unique_ptr<RecordFile>> open(
+        const Model &model, const QString &path, const RecordSchema &schema = quillonSchema());
+    ~RecordFile();
+
+    /// Of the matching rows, in the order asked for.
+    Result<std::vector<qint64>> keys(const Entity &entity, const FetchRequest &request) const;
+    /// In no certain order; a key that the file does not have is left out.
+    Result<QList<RecordRow>> rows(const Entity &entity, const QList<qint64> &keys) const;
+    /// None or one.
+    Result<QList<RecordRow>> row(const Entity &entity, const QUuid &id) const;
+
+    struct Written
+    {
+        QList<qint64> keys; ///< of each change's row
+        /// Another program wrote since the file was opened, or since the version acknowledged last.
+        bool othersWrote = false;
+    };
+    /// All or nothing: on an Error the file is as it was.
+    Result<Written> write(const QList<RowChange> &changes);
+    /// Changes with every commit of another program.
+    Result<qint64> versionOfOthers() const;
+    /// All that others had written at that version was read.
+    void acknowledgeOthers(qint64 version) { m_version = version; }
+
+private:
+    explicit RecordFile(std::unique_ptr<SQLite::Database> database);
+
+    std::unique_ptr<SQLite::Database> m_database;
+    qint64 m_version; ///< of the others' commits, as far as they were read
+};
+
+} // namespace quillon

@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/file/RecordFileOpening.h"
+
+#include "store/file/RecordFile.h"
+#include "store/file/SqlPredicate.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+#include <array>
+#include <cstring>
+#include <optional>
+#include <sqlite3.h>
+
+namespace quillon {
+
+namespace {
+
+constexpr int applicationId = 0x51756c6e; // "Quln", in the header that SQLite leaves to programs
+constexpr int busyTimeoutMs = 1000;
+// Reading a larger file whole would hold up the launch; its damage shows when the page is read.
+constexpr qint64 largestQuickCheck = 16LL * 1024 * 1024;
+
+[[noreturn]] void refuse(RecordFileError code, const QString &message)
+{
+    throw RefusedFile{recordFileError(code, message)};
+}
+
+int number(SQLite::Database &database, const std::string &query)
+{
+    return database.execAndGet(query).getInt();
+}
+
+/// Closing any descriptor of a file ends all locks that the process has on it, also those of an
+/// older connection. So a file that exists is opened by SQLite alone, which knows of that; only a
+/// new one, which nobody has open, is made here. An empty one is new too: a program that died right
+/// after making it leaves that.
+void makeWhenMissing(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo::exists(path) &&
+        !file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
+        !QFileInfo::exists(path)) {
+        refuse(RecordFileError::CannotOpen,
+            QStringLiteral("The file \"%1\" cannot be opened: %2").arg(path, file.errorString()));
+    }
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable()) {
+        refuse(RecordFileError::CannotOpen,
+            QStringLiteral("The file \"%1\" cannot be opened: %2")
+                .arg(path, info.isFile() ? QStringLiteral("it may not be read")
+                                         : QStringLiteral("it is not a file")));
+    }
+}
+
+using FileHeader = std::array<unsigned char, 100>;
+
+/// As it is in the file itself, read by SQLite's own descriptor: a log or journal beside it counts
+/// only once we know whose it is. Nothing while the file is empty.
+std::optional<FileHeader> headerOf(SQLite::Database &database, const QString &path)
+{
+    const qint64 size = QFileInfo(path).size();
+    if (size == 0) {
+        return std::nullopt;
+    }
+    FileHeader header{};
+    sqlite3_file *file = nullptr;
+    // SQLite takes a file of one byte for an empty one.
+    const bool isRead =
+        size >= qint64{header.size()} &&
+        sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) ==
+            SQLITE_OK &&
+        file->pMethods &&
+        file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0) == SQLITE_OK;
+    if (!isRead || std::memcmp(header.data(), "SQLite format 3", 16) != 0) {
+        refuse(RecordFileError::NotARecordFile,
+            QStringLiteral("The file \"%1\" is not a database.").arg(path));
+    }
+    return header;
+}
+
+[[noreturn]] void refuseForeign(const QString &path)
+{
+    refuse(RecordFileError::NotARecordFile,
+        QStringLiteral("The database \"%1\" does not hold records of Quillon.").arg(path));
+}
+
+[[noreturn]] void refuseNewer(const QString &path, int version, int knownVersion)
+{
+    refuse(RecordFileError::Newer,
+        QStringLiteral("The records in \"%1\" were written by a newer version of Quillon "
+                       "(version %2 of the file; this program knows versions up to %3).")
+            .arg(path)
+            .arg(version)
+            .arg(knownVersion));
+}
+
+/// Before SQLite looks at log and journal: to undo what another program left half done is not up to
+/// us.
+void refuseByHeader(SQLite::Database &database, const QString &path, int knownVersion)
+{
+    const auto header = headerOf(database, path);
+    if (!header) {
+        return;
+    }
+    const int version = qFromBigEndian<qint32>(header->data() + 60);
+    const int owner = qFromBigEndian<qint32>(header->data() + 68);
+    const QString journal = QFile::decodeName(
+        sqlite3_filename_journal(sqlite3_db_filename(database.getHandle(), "main")));
+    if (owner != applicationId && (owner != 0 || QFileInfo(journal).size() > 0)) {
+        refuseForeign(path);
+    }
+    if (owner == applicationId && version > knownVersion) {
+        refuseNewer(path, version, knownVersion);
+    }
+}
+
+void registerFolding(SQLite::Database &database)
+{
+    const auto fold = [](sqlite3_context *context, int, sqlite3_value **values) {
+        if (sqlite3_value_type(values[0]) != SQLITE_TEXT) {
+            return;
+        }
+        const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(values[0]));
+        const QByteArray folded =
+            foldedText(QString::fromUtf8(text, sqlite3_value_bytes(values[0]))).toUtf8();
+        sqlite3_result_text(
+            context, folded.constData(), static_cast<int>(folded.size()), SQLITE_TRANSIENT);
+    };
+    database.createFunction(foldedFunction, 1, true, nullptr, fold);
+}
+
+/// Whether the file has nothing in it yet; refuses what is not ours, or not for us.
+bool looksNew(SQLite::Database &database, const QString &path, int knownVersion)
+{
+    const int version = number(database, "PRAGMA user_version");
+    const int owner = number(database, "PRAGMA application_id");
+    if (owner == 0 && version == 0 && number(database, "SELECT count(*) FROM sqlite_master") == 0) {
+        return true;
+    }
+    if (owner != applicationId || version < 1) {
+        refuseForeign(path);
+    }
+    if (version > knownVersion) {
+        refuseNewer(path, version, knownVersion);
+    }
+    return false;
+}
+
+void checkTables(SQLite::Database &database, const Model &model, const QString &path)
+{
+    for (const Entity &entity : model.entities) {
+        QStringList missing{QStringLiteral("pk"), QStringLiteral("uuid")};
+        for (const Attribute &attribute : entity.attributes()) {
+            missing << attribute.name;
+        }
+        SQLite::Statement columns(database, "SELECT name FROM pragma_table_info(?)");
+        columns.bind(1, entity.name().toStdString());
+        while (columns.executeStep()) {
+            missing.removeAll(QString::fromStdString(columns.getColumn(0).getString()));
+        }
+        if (!missing.isEmpty()) {
+            refuse(RecordFileError::Damaged,
+                QStringLiteral("The records in \"%1\" are damaged: \"%2\" lacks \"%3\".")
+                    .arg(path, entity.name(), missing.join(QStringLiteral("\", \""))));
+        }
+    }
+}
+
+void checkPages(SQLite::Database &database, const QString &path)
+{
+    if (QFileInfo(path).size() > largestQuickCheck) {
+        return;
+    }
+    const auto verdict =
+        QString::fromStdString(database.execAndGet("PRAGMA quick_check(1)").getString());
+    if (verdict != QStringLiteral("ok")) {
+        refuse(RecordFileError::Damaged,
+            QStringLiteral("The records in \"%1\" are damaged: %2").arg(path, verdict));
+    }
+}
+
+/// All missing steps in one transaction; looks again inside it, as another program may be doing the
+/// same.
+void migrate(
+    SQLite::Database &database, const Model &model, const QString &path, const RecordSchema &schema)
+{
+    SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
+    looksNew(database, path, schema.version());
+    for (int from = number(database, "PRAGMA user_version"); from < schema.version(); ++from) {
+        database.exec(schema.steps[from]);
+    }
+    database.exec("PRAGMA user_version = " + std::to_string(schema.version()));
+    database.exec("PRAGMA application_id = " + std::to_string(applicationId));
+    checkTables(database, model, path);
+    transaction.commit();
+}
+
+} // namespace
+
+std::unique_ptr<SQLite::Database> openedDatabase(
+    const Model &model, const QString &path, const RecordSchema &schema)
+{
+    makeWhenMissing(path);
+    auto database = std::make_unique<SQLite::Database>(
+        QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE, busyTimeoutMs);
+    // A file that is refused keeps its bytes: closing must not move its log into it.
+    sqlite3_db_config(
+        database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, static_cast<int *>(nullptr));
+    refuseByHeader(*database, path, schema.version());
+    // Functions that a foreign hand put into the schema do not run.
+    database->exec("PRAGMA trusted_schema = OFF");
+    database->exec("PRAGMA synchronous = FULL");
+    database->exec("PRAGMA foreign_keys = OFF");
+    registerFolding(*database);
+    const bool isNew = looksNew(*database, path, schema.version());
+    checkPages(*database, path);
+    if (isNew || number(*database, "PRAGMA user_version") < schema.version()) {
+        migrate(*database, model, path, schema);
+    } else {
+        checkTables(*database, model, path);
+    }
+    database->exec("PRAGMA journal_mode = WAL");
+    sqlite3_db_config(
+        database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, static_cast<int *>(nullptr));
+    return database;
+}
+
+Error errorOf(const SQLite::Exception &exception)
+{
+    const auto code = [&exception] {
+        // The index of the log is a file too, and the first that finds no room.
+        if (exception.getExtendedErrorCode() == SQLITE_IOERR_SHMSIZE) {
+            return RecordFileError::Full;
+        }
+        switch (exception.getErrorCode()) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return RecordFileError::Locked;
+        case SQLITE_FULL:
+            return RecordFileError::Full;
+        case SQLITE_IOERR:
+            return RecordFileError::InputOutput;
+        case SQLITE_NOTADB:
+            return RecordFileError::NotARecordFile;
+        case SQLITE_CORRUPT:
+            return RecordFileError::Damaged;
+        case SQLITE_CANTOPEN:
+        case SQLITE_PERM:
+        case SQLITE_AUTH:
+        case SQLITE_READONLY:
+            return RecordFileError::CannotOpen;
+        default:
+            return RecordFileError::Failed;
+        }
+    };
+    return recordFileError(code(), QStringLiteral("%1 (SQLite %2)")
+                                       .arg(QString::fromUtf8(exception.what()))
+                                       .arg(exception.getExtendedErrorCode()));
+}
+
+} // namespace quillon

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "store/file/RecordRow.h"
+
+#include "store/model/ValueComparison.h"
+
+#include <QDateTime>
+
+#include <SQLiteCpp/Column.h>
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+
+namespace quillon {
+
+void bindValue(SQLite::Statement &statement, int index, const QVariant &value)
+{
+    const QVariant stored = comparableValue(value);
+    switch (stored.typeId()) {
+    case QMetaType::LongLong:
+        statement.bind(index, static_cast<int64_t>(stored.toLongLong()));
+        break;
+    case QMetaType::QString:
+        statement.bind(index, stored.toString().toStdString());
+        break;
+    case QMetaType::QDateTime:
+        statement.bind(index, static_cast<int64_t>(stored.toDateTime().toMSecsSinceEpoch()));
+        break;
+    default:
+        statement.bind(index);
+    }
+}
+
+void bindId(SQLite::Statement &statement, int index, const QUuid &id)
+{
+    const QByteArray bytes = id.toRfc4122();
+    statement.bind(index, bytes.constData(), static_cast<int>(bytes.size()));
+}
+
+namespace {
+
+QVariant valueOf(const SQLite::Column &column, AttributeType type)
+{
+    const bool isText = type == AttributeType::String;
+    if (column.getType() != (isText ? SQLite::TEXT : SQLite::INTEGER)) {
+        return {};
+    }
+    switch (type) {
+    case AttributeType::Integer16:
+        return QVariant(qlonglong{column.getInt64()});
+    case AttributeType::Boolean:
+        return column.getInt64() != 0;
+    case AttributeType::String:
+        return QString::fromUtf8(column.getText(), column.getBytes());
+    case AttributeType::Date:
+        return QDateTime::fromMSecsSinceEpoch(column.getInt64(), Qt::UTC);
+    }
+    return {};
+}
+
+} // namespace
+
+RecordRow rowOf(SQLite::Statement &statement, const Entity &entity)
+{
+    const SQLite::Column id = statement.getColumn(1);
+    RecordRow row{statement.getColumn(0).getInt64(),
+        QUuid::fromRfc4122(QByteArrayView(static_cast<const char *>(id.getBlob()), id.getBytes())),
+        {}};
+    int column = 2;
+    for (const Attribute &attribute : entity.attributes()) {
+        row.values << valueOf(statement.getColumn(column++), attribute.type);
+    }
+    return row;
+}
+
+} // namespace quillon

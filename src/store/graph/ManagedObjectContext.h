@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/Result.h"
+#include "store/graph/ChangeSet.h"
+#include "store/graph/ManagedObject.h"
+#include "store/model/FetchRequest.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+class QUndoStack;
+
+namespace quillon {
+
+class FetchedRecords;
+class RecordFile;
+class Scheduler;
+struct RecordRow;
+
+/// What one turn of the main loop did to the records of a context.
+struct ObjectsDidChange
+{
+    ManagedObjectList inserted;
+    ManagedObjectList updated; ///< changedValuesForCurrentEvent() tells the previous values
+    ManagedObjectList deleted;
+};
+
+/// The records as the program sees them: what the file holds, with everything changed since over
+/// it. Changes are grouped by turns of the main loop; nothing reaches the file before save(). Main
+/// thread.
+class ManagedObjectContext : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Something that holds an edit not yet in the context (an open text field).
+    class Editor
+    {
+    public:
+        virtual ~Editor() = default;
+        /// False when the edit cannot be taken as it is.
+        virtual bool commitEditing() = 0;
+    };
+
+    /// While one exists, changes are not registered for undo: facts and derived flags are not
+    /// edits.
+    class [[nodiscard]] UndoDisabled
+    {
+    public:
+        explicit UndoDisabled(ManagedObjectContext &context);
+        ~UndoDisabled();
+        UndoDisabled(const UndoDisabled &) = delete;
+        UndoDisabled &operator=(const UndoDisabled &) = delete;
+
+    private:
+        ManagedObjectContext &m_context;
+    };
+
+    ManagedObjectContext(const Model &model, RecordFile &file, Scheduler &scheduler);
+    ~ManagedObjectContext() override;
+
+    /// A new record with every attribute empty. An unknown entity is a programming error.
+    ManagedObjectPtr insertNewObject(const QString &entity);
+    void deleteObject(const ManagedObjectPtr &object);
+
+    /// The matching records, unsaved changes taken into account. An entity that the model does not
+    /// have, or a file that cannot be read, is an Error.
+    Result<ManagedObjectList> fetch(const FetchRequest &request);
+    /// The same as a list that reads its records page by page as they are looked at.
+    Result<FetchedRecords> fetchLazily(const FetchRequest &request);
+    /// Null when the text is not the identity of a record that exists.
+    ManagedObjectPtr objectWithURI(const QString &uri);
+
+    /// Ends the current group of changes: tells objectsDidChange, and makes the group one step of
+    /// undo. Happens by itself at the end of each turn that changed something.
+    void processPendingChanges();
+    bool hasChanges() const;
+    /// Writes every change in one transaction. On an Error nothing was written and every change
+    /// stays pending. Where another program changed the same record, our changed attributes win and
+    /// its others are taken over. An observer that ends the context meanwhile ends the save as
+    /// well.
+    std::optional<Error> save();
+    /// Takes over what others wrote to the file; attributes changed here keep our value. What
+    /// cannot be read is logged and tried again by the next save.
+    void mergeChangesFromStore();
+
+    /// Undo and redo of edits, one step for each turn. Never deletes what it needs on save.
+    QUndoStack &undoManager();
+
+    void addEditor(Editor &editor);
+    void removeEditor(Editor &editor);
+    /// Asks every editor; false at the first that refuses.
+    bool commitEditing();
+
+Q_SIGNALS:
+    void objectsDidChange(const quillon::ObjectsDidChange &change);
+    /// Records were merged from the file: lists are to be fetched anew.
+    void recordsMerged();
+    void saved();
+
+private:
+    friend class ManagedObject;
+    friend class FetchedRecords;
+    friend class UndoStep;
+
+    // The two ways in which a record changes; both note what was before.
+    void assign(const ManagedObjectPtr &object, qsizetype attribute, const QVariant &value,
+        ManagedObject::Change kind);
+    void setPresent(const ManagedObjectPtr &object, bool present);
+    /// Puts back what `edits` hold, and leaves there what it found.
+    void exchange(ChangeSet &edits);
+    ChangeSet &openStep();
+    void noteUnsaved(const ManagedObjectPtr &object);
+    void scheduleProcessing();
+    QVariantMap previousValues(const ManagedObject &object) const;
+
+    using Identity = std::pair<QString, QUuid>;
+    static Identity identityOf(const ManagedObject &object);
+    ManagedObjectPtr registered(const Entity &entity, const QUuid &id) const;
+    ManagedObjectPtr registerNew(const Entity &entity, const QUuid &id);
+    /// Deleted, and saved so or never saved.
+    static bool isGone(const ManagedObjectPtr &object);
+    /// The object of a row of the file.
+    ManagedObjectPtr objectOf(const Entity &entity, const RecordRow &row);
+
+    /// Of one entity, in the order of creation.
+    ManagedObjectList unsaved(const Entity *entity = nullptr) const;
+    static bool isCreatedBefore(const ManagedObjectPtr &left, const ManagedObjectPtr &right);
+    /// `entries` and `shown` as FetchedRecords keeps them.
+    std::optional<Error> layUnsavedOver(const Entity &entity, const FetchRequest &request,
+        std::vector<qint64> &entries, ManagedObjectList &shown);
+    void takeOver(const ManagedObjectPtr &object, const RecordRow *row);
+
+    const Model m_model;
+    RecordFile &m_file;
+    Scheduler &m_scheduler;
+    QHash<Identity, ManagedObject *> m_registered; ///< while they live
+    QHash<const ManagedObject *, ManagedObjectPtr> m_unsaved;
+    qint64 m_lastSequence = 0;
+
+    ChangeSet m_pending;               ///< this turn's
+    const ChangeSet *m_told = nullptr; ///< those that objectsDidChange tells at this moment
+    bool m_isScheduled = false;
+
+    std::unique_ptr<QUndoStack> m_undoManager;
+    int m_undoDisabled = 0;
+    // Shared with the step on the stack, which somebody may clear meanwhile.
+    std::shared_ptr<ChangeSet> m_openStep; ///< this turn's edits
+    std::shared_ptr<ChangeSet> m_toldStep; ///< those of m_told
+
+    QList<Editor *> m_editors;
+};
+
+} // namespace quillon

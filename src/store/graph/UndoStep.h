@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "store/graph/ChangeSet.h"
+
+#include <QPointer>
+#include <QUndoCommand>
+
+#include <memory>
+
+namespace quillon {
+
+class ManagedObjectContext;
+
+/// The edits of one turn as one step of undo. It keeps what was before them; undoing exchanges that
+/// with what is there now, so that redoing brings back what undoing found, corrections included.
+class UndoStep : public QUndoCommand
+{
+public:
+    /// `edits` may grow until the turn ends.
+    UndoStep(ManagedObjectContext &context, std::shared_ptr<ChangeSet> edits);
+
+    void undo() override;
+    /// The first call comes from the stack that takes the step, when the edits are there already.
+    void redo() override;
+
+private:
+    QPointer<ManagedObjectContext> m_context;
+    std::shared_ptr<ChangeSet> m_edits;
+    bool m_isDone = false;
+};
+
+} // namespace quillon

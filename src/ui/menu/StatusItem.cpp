@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/menu/StatusItem.h"
+
+#include "platform/TrayHost.h"
+#include "presentation/menu/StatusMenuModel.h"
+#include "presentation/window/Presence.h"
+#include "ui/menu/StatusMenu.h"
+#include "ui/theme/Theme.h"
+
+#include <QSystemTrayIcon>
+
+namespace quillon {
+
+StatusItem::StatusItem(
+    StatusMenuModel &model, Presence &presence, TrayHost &host, const Theme &theme)
+    : m_model(model)
+    , m_presence(presence)
+    , m_theme(theme)
+{
+    connect(&m_presence, &Presence::statusItemShownChanged, this, &StatusItem::follow);
+    host.watch([this](bool available) { hostChanged(available); });
+}
+
+StatusItem::~StatusItem() = default;
+
+void StatusItem::hostChanged(bool available)
+{
+    m_hostAvailable = available;
+    m_hostWasThere = m_hostWasThere || available;
+    m_presence.setStatusItemAvailable(available);
+    follow();
+}
+
+void StatusItem::follow()
+{
+    const bool wanted = m_presence.isStatusItemShown();
+    if (!wanted) {
+        m_icon.reset();
+        m_menu.reset();
+    } else if (m_hostWasThere && m_icon == nullptr) {
+        // A host that goes away and comes back finds the same item again.
+        m_menu = std::make_unique<StatusMenu>(m_model);
+        m_icon = std::make_unique<QSystemTrayIcon>(
+            m_theme.icon(QStringLiteral("menu"), Theme::Ink::Tray));
+        m_icon->setToolTip(QStringLiteral("Quillon"));
+        m_icon->setContextMenu(m_menu.get());
+        connect(m_icon.get(), &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                if (reason == QSystemTrayIcon::Trigger) {
+                    m_presence.openWindow();
+                }
+            });
+        m_icon->show();
+    }
+    if (isShown() != m_reportedShown) {
+        m_reportedShown = isShown();
+        Q_EMIT shownChanged(m_reportedShown);
+    }
+}
+
+} // namespace quillon

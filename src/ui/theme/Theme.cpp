@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/theme/Theme.h"
+
+#include "ui/theme/SymbolicIcon.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QRegularExpression>
+#include <QStyleFactory>
+
+#include <utility>
+
+// The resources stand in a static library: without this the linker would leave them out. It must be
+// called outside of any namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(ui);
+}
+
+namespace quillon {
+
+namespace {
+
+// Without a desktop's own settings Qt asks for these names, which stand for no font in particular.
+bool isGenericFamily(const QString &family)
+{
+    return family.isEmpty() || family == QLatin1String("Sans Serif") ||
+           family == QLatin1String("Sans");
+}
+
+QHash<QString, QString> namedColors(const ThemeColors &colors)
+{
+    const std::pair<const char *, QColor> table[] = {
+        {"window", colors.window},
+        {"surface", colors.surface},
+        {"surfaceBorder", colors.surfaceBorder},
+        {"control", colors.control},
+        {"controlHover", colors.controlHover},
+        {"controlPressed", colors.controlPressed},
+        {"controlBorder", colors.controlBorder},
+        {"text", colors.text},
+        {"mutedText", colors.mutedText},
+        {"disabledText", colors.disabledText},
+        {"accent", colors.accent},
+        {"accentHover", colors.accentHover},
+        {"accentPressed", colors.accentPressed},
+        {"onAccent", colors.onAccent},
+        {"disabledFill", colors.disabledFill},
+        {"positive", colors.positive},
+        {"notice", colors.notice},
+        {"noticeSurface", colors.noticeSurface},
+        {"hint", colors.hint},
+        {"hintText", colors.hintText},
+        {"hintBody", colors.hintBody},
+        {"hintButton", colors.hintButton},
+        {"hintButtonHover", colors.hintButtonHover},
+        {"onHintButton", colors.onHintButton},
+    };
+    QHash<QString, QString> names;
+    for (const auto &[name, color] : table) {
+        names.insert(QString::fromLatin1(name), color.name());
+    }
+    return names;
+}
+
+} // namespace
+
+Theme::Theme(ColorScheme scheme)
+    : m_scheme(scheme)
+    , m_colors(ThemeColors::forScheme(scheme))
+{
+    initialiseResources();
+}
+
+QColor Theme::ink(Ink ink) const
+{
+    switch (ink) {
+    case Ink::Text:
+        return m_colors.text;
+    case Ink::Muted:
+        return m_colors.mutedText;
+    case Ink::Accent:
+        return m_colors.accent;
+    case Ink::OnAccent:
+        return m_colors.onAccent;
+    case Ink::Positive:
+        return m_colors.positive;
+    case Ink::Notice:
+        return m_colors.notice;
+    case Ink::Hint:
+        return m_colors.hintText;
+    case Ink::OnHintButton:
+        return m_colors.onHintButton;
+    case Ink::Tray:
+        return QColor(0x4a80f0);
+    }
+    Q_UNREACHABLE();
+}
+
+void Theme::apply()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font = QApplication::font();
+    const QString preferred = QStringLiteral("Inter");
+    if (isGenericFamily(font.family()) && QFontDatabase::families().contains(preferred)) {
+        font.setFamily(preferred);
+        font.setPointSizeF(10);
+        QApplication::setFont(font);
+    }
+    QApplication::setPalette(m_colors.palette());
+    QFile file(QStringLiteral(":/ui/theme.qss"));
+    if (file.open(QIODevice::ReadOnly)) {
+        const QString sheet = styleSheet(QString::fromUtf8(file.readAll()), m_colors, m_scheme);
+        qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(sheet);
+    }
+}
+
+void Theme::setScheme(ColorScheme scheme)
+{
+    if (scheme == m_scheme) {
+        return;
+    }
+    m_scheme = scheme;
+    m_colors = ThemeColors::forScheme(scheme);
+    apply();
+    Q_EMIT changed();
+}
+
+QIcon Theme::icon(const QString &name, Ink ink) const
+{
+    return QIcon(new SymbolicIcon(*this, name, ink));
+}
+
+QFont Theme::addressFont(double scale)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    font.setPointSizeF(QApplication::font().pointSizeF() * scale);
+    return font;
+}
+
+QFont Theme::textFont(double scale, QFont::Weight weight)
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setWeight(weight);
+    return font;
+}
+
+QString Theme::styleSheet(const QString &pattern, const ThemeColors &colors, ColorScheme scheme)
+{
+    QHash<QString, QString> names = namedColors(colors);
+    names.insert(QStringLiteral("chevron"), scheme == ColorScheme::Dark
+                                                ? QStringLiteral("chevron-dark.svg")
+                                                : QStringLiteral("chevron-light.svg"));
+    static const QRegularExpression name(QStringLiteral("@([A-Za-z]+)"));
+    QString sheet;
+    qsizetype copied = 0;
+    auto matches = name.globalMatch(pattern);
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        sheet += pattern.mid(copied, match.capturedStart() - copied);
+        sheet += names.value(match.captured(1), match.captured());
+        copied = match.capturedEnd();
+    }
+    return sheet + pattern.mid(copied);
+}
+
+} // namespace quillon

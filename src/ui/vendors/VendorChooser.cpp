@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/vendors/VendorChooser.h"
+
+#include "base/Localized.h"
+#include "presentation/vendors/VendorFieldModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/vendors/VendorTableView.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace quillon {
+
+VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent)
+    : QFrame(parent)
+    , m_model(model)
+    , m_field(new QLineEdit)
+    , m_toggle(new QToolButton)
+    , m_table(new VendorTableView(model, this))
+{
+    setProperty("look", QStringLiteral("card"));
+    setObjectName(QStringLiteral("vendorFieldView"));
+    makeField();
+    makeToggle(theme);
+    m_table->hide();
+    m_table->installEventFilter(this);
+    auto *caption = new QLabel(localized("&Manufacturer of random addresses"));
+    caption->setProperty("look", QStringLiteral("caption"));
+    caption->setBuddy(m_field);
+
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(
+        Theme::cardMargin, Theme::unit + 4, Theme::cardMargin, Theme::cardMargin);
+    grid->setVerticalSpacing(6);
+    grid->addWidget(caption, 0, 0);
+    grid->addWidget(m_field, 1, 0);
+    // Inside the field, as in any box that opens a list.
+    grid->addWidget(m_toggle, 1, 0, Qt::AlignRight | Qt::AlignVCenter);
+    m_field->setTextMargins(0, 0, m_toggle->sizeHint().width() - Theme::unit / 2, 0);
+    connectModel();
+    refresh();
+}
+
+void VendorChooser::makeField()
+{
+    m_field->setObjectName(QStringLiteral("vendorTextfield"));
+    m_field->setProperty("look", QStringLiteral("field"));
+    m_field->setAccessibleName(localized("Manufacturer of random addresses"));
+    m_field->setAccessibleDescription(
+        localized("Type the beginning of a name, then choose from the list"));
+    m_field->installEventFilter(this);
+}
+
+void VendorChooser::makeToggle(const Theme &theme)
+{
+    m_toggle->setObjectName(QStringLiteral("vendorToggle"));
+    m_toggle->setProperty("look", QStringLiteral("row"));
+    m_toggle->setIcon(theme.icon(QStringLiteral("expand"), Theme::Ink::Muted));
+    m_toggle->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
+    // The keyboard opens the list from the field.
+    m_toggle->setFocusPolicy(Qt::NoFocus);
+    m_toggle->setCursor(Qt::ArrowCursor);
+}
+
+void VendorChooser::connectModel()
+{
+    connect(&m_model, &VendorFieldModel::changed, this, &VendorChooser::refresh);
+    connect(&m_model, &VendorFieldModel::rowsChanged, this, &VendorChooser::refresh);
+    connect(&m_model, &VendorFieldModel::insertionPointDue, this, [this] {
+        m_field->selectAll();
+        m_field->end(false);
+    });
+    connect(&m_model, &VendorFieldModel::listFocusDue, this, [this] { m_table->setFocus(); });
+    connect(m_field, &QLineEdit::textEdited, &m_model, &VendorFieldModel::controlTextDidChange);
+    connect(m_toggle, &QToolButton::clicked, this, [this] { m_model.toggleVendorViewPopover(); });
+}
+
+void VendorChooser::refresh()
+{
+    const auto &state = m_model.state();
+    if (m_field->text() != state.text) {
+        m_field->setText(state.text);
+        // The beginning of a name says more than its end.
+        m_field->setCursorPosition(0);
+    }
+    m_field->setToolTip(state.text);
+    const QString toggles =
+        state.popoverShown ? localized("Hide manufacturers") : localized("Show manufacturers");
+    m_toggle->setAccessibleName(toggles);
+    m_toggle->setToolTip(toggles);
+    if (state.popoverShown && m_table->isHidden()) {
+        openList();
+    } else if (!state.popoverShown && !m_table->isHidden()) {
+        if (m_table->hasFocus()) {
+            m_field->setFocus();
+        }
+        m_table->hide();
+    }
+    m_table->refresh();
+}
+
+void VendorChooser::openList()
+{
+    if (m_table->parentWidget() != window()) {
+        m_table->setParent(window());
+        setTabOrder(m_field, m_table);
+        window()->installEventFilter(this);
+    }
+    placeList();
+    m_table->show();
+    m_table->raise();
+}
+
+void VendorChooser::placeList()
+{
+    const QPoint corner = m_field->mapTo(window(), QPoint(0, m_field->height() + Theme::unit / 2));
+    const int room = window()->height() - corner.y() - Theme::unit;
+    const int height = std::min(m_table->sizeHint().height(), room);
+    m_table->setGeometry(corner.x(), corner.y(), m_field->width(), height);
+}
+
+void VendorChooser::moveEvent(QMoveEvent *event)
+{
+    QFrame::moveEvent(event);
+    placeList();
+}
+
+bool VendorChooser::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        return takesKey(watched, static_cast<QKeyEvent *>(event)->key());
+    }
+    if (event->type() == QEvent::FocusOut) {
+        // Who has the keyboard next is known only after this event.
+        QMetaObject::invokeMethod(this, &VendorChooser::closeWhenLeft, Qt::QueuedConnection);
+    } else if (event->type() == QEvent::MouseButtonPress && watched == window()) {
+        close();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+bool VendorChooser::takesKey(QObject *watched, int key)
+{
+    using Command = VendorFieldModel::Command;
+    const bool inField = watched == m_field;
+    if (key == Qt::Key_Escape && m_model.state().popoverShown && (inField || watched == m_table)) {
+        close();
+        return true;
+    }
+    return inField && m_model.controlDoCommandBySelector(
+                          key == Qt::Key_Down ? Command::MoveDown : Command::Other);
+}
+
+void VendorChooser::close()
+{
+    if (m_model.state().popoverShown) {
+        m_model.closeVendorViewPopover();
+    }
+}
+
+void VendorChooser::closeWhenLeft()
+{
+    const QWidget *focus = QApplication::focusWidget();
+    if (focus != nullptr && focus != m_field && focus != m_table) {
+        close();
+    }
+}
+
+} // namespace quillon

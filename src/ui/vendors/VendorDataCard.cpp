@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/vendors/VendorDataCard.h"
+
+#include "base/Localized.h"
+#include "presentation/vendors/VendorPaneModel.h"
+#include "ui/theme/Theme.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr int progressSteps = 1000;
+/// How far the title's picture stands from its left edge.
+constexpr int titleInset = 10;
+
+} // namespace
+
+VendorDataCard::VendorDataCard(VendorPaneModel &model, const Theme &theme, QWidget *parent)
+    : QFrame(parent)
+    , m_model(model)
+    , m_theme(theme)
+    , m_title(new QToolButton)
+    , m_content(makeContent())
+{
+    setProperty("look", QStringLiteral("card"));
+    m_title->setObjectName(QStringLiteral("vendorDataTitle"));
+    m_title->setProperty("look", QStringLiteral("flat"));
+    m_title->setText(localized("Vendor Data"));
+    m_title->setAccessibleName(localized("Vendor Data"));
+    m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(m_title, &QToolButton::clicked, this, [this] { fold(!m_content->isHidden()); });
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(
+        Theme::cardMargin - titleInset, Theme::unit - 2, Theme::cardMargin, Theme::unit - 2);
+    column->setSpacing(0);
+    column->addWidget(m_title, 0, Qt::AlignLeft);
+    column->addWidget(m_content);
+    connect(&m_model, &VendorPaneModel::changed, this, &VendorDataCard::refresh);
+    fold(true);
+    refresh();
+}
+
+QWidget *VendorDataCard::makeContent()
+{
+    auto *content = new QWidget;
+    m_updated = new QLabel;
+    m_updated->setObjectName(QStringLiteral("updatedLabel"));
+    m_updated->setTextFormat(Qt::PlainText);
+    m_updated->setWordWrap(true);
+    m_count = new QLabel;
+    m_count->setObjectName(QStringLiteral("vendorCount"));
+    m_count->setProperty("look", QStringLiteral("caption"));
+    m_progress = new QProgressBar;
+    m_progress->setObjectName(QStringLiteral("progressBar"));
+    m_progress->setAccessibleName(localized("Progress of the download"));
+    m_progress->setRange(0, progressSteps);
+    m_progress->setTextVisible(false);
+    m_button = new QPushButton;
+    m_button->setObjectName(QStringLiteral("downloadButton"));
+    m_button->setAutoDefault(true);
+    connect(m_button, &QPushButton::clicked, this, [this] { m_model.pressButton(); });
+    // The bar comes and goes; the card keeps its height.
+    QSizePolicy kept = m_progress->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    m_progress->setSizePolicy(kept);
+
+    auto *grid = new QGridLayout(content);
+    grid->setContentsMargins(titleInset, 2, 0, Theme::unit);
+    grid->setHorizontalSpacing(Theme::spacing);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(0, 1);
+    grid->addWidget(m_updated, 0, 0, 1, 2);
+    grid->addWidget(m_count, 1, 0);
+    grid->addWidget(m_button, 1, 1);
+    grid->addWidget(m_progress, 2, 0, 1, 2);
+    return content;
+}
+
+void VendorDataCard::fold(bool folded)
+{
+    m_content->setVisible(!folded);
+    m_title->setIcon(m_theme.icon(
+        folded ? QStringLiteral("collapsed") : QStringLiteral("expand"), Theme::Ink::Muted));
+    m_title->setAccessibleDescription(folded ? localized("Folded") : localized("Unfolded"));
+}
+
+void VendorDataCard::refresh()
+{
+    const auto &state = m_model.state();
+    const auto show = [](QLabel &label, const QString &text) {
+        label.setText(text);
+        label.setAccessibleName(text);
+    };
+    show(*m_updated, state.updatedLabel);
+    show(*m_count, state.vendorCount);
+    m_button->setText(state.buttonTitle);
+    m_button->setAccessibleName(state.buttonTitle);
+    m_progress->setVisible(state.progressShown);
+    // Below 0 while nobody knows how long the whole is: an empty bar.
+    m_progress->setValue(static_cast<int>(std::clamp(state.progress, 0.0F, 1.0F) * progressSteps));
+}
+
+} // namespace quillon

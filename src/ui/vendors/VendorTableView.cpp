@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/vendors/VendorTableView.h"
+
+#include "base/Localized.h"
+#include "presentation/vendors/VendorFieldModel.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace quillon {
+
+namespace {
+
+constexpr int shownRows = 6;
+
+VendorFieldModel::Key keyOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return VendorFieldModel::Key::Return;
+    case Qt::Key_Down:
+        return VendorFieldModel::Key::Down;
+    case Qt::Key_Up:
+        return VendorFieldModel::Key::Up;
+    default:
+        return VendorFieldModel::Key::Other;
+    }
+}
+
+} // namespace
+
+VendorListRows::VendorListRows(VendorFieldModel &model, QObject *parent)
+    : QAbstractListModel(parent)
+    , m_model(model)
+{
+    connect(&m_model, &VendorFieldModel::rowsChanged, this, [this] {
+        beginResetModel();
+        endResetModel();
+    });
+}
+
+int VendorListRows::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_model.rowCount());
+}
+
+QVariant VendorListRows::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_model.rowCount()) {
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return m_model.rowText(index.row());
+    case Qt::ToolTipRole:
+        return m_model.rowToolTip(index.row());
+    default:
+        return {};
+    }
+}
+
+VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
+    : QListView(parent)
+    , m_model(model)
+{
+    setObjectName(QStringLiteral("vendorTable"));
+    setAccessibleName(localized("Manufacturers"));
+    // Tens of thousands of rows are laid out by the first one's height.
+    setUniformItemSizes(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideMiddle);
+    setTabKeyNavigation(false);
+    const QScopedValueRollback mirrors(m_mirrors, true);
+    setModel(new VendorListRows(model, this));
+    connect(&m_model, &VendorFieldModel::rowsChanged, this, &QListView::scrollToTop);
+    connect(&m_model, &VendorFieldModel::scrollDue, this, [this](qsizetype row) {
+        scrollTo(this->model()->index(static_cast<int>(row), 0), QAbstractItemView::EnsureVisible);
+    });
+}
+
+void VendorTableView::refresh()
+{
+    const QScopedValueRollback mirrors(m_mirrors, true);
+    const auto &row = m_model.state().selectedRow;
+    const QModelIndex wanted = row ? model()->index(static_cast<int>(*row), 0) : QModelIndex();
+    if (currentIndex() != wanted) {
+        setCurrentIndex(wanted);
+    }
+    if (!wanted.isValid()) {
+        clearSelection();
+    }
+}
+
+QSize VendorTableView::sizeHint() const
+{
+    const int row = std::max(sizeHintForRow(0), fontMetrics().height() + 8);
+    return {QListView::sizeHint().width(), shownRows * row + 2 * frameWidth()};
+}
+
+void VendorTableView::keyPressEvent(QKeyEvent *event)
+{
+    if (m_model.tableKeyDown(keyOf(event->key()))) {
+        QListView::keyPressEvent(event);
+    } else {
+        event->accept();
+    }
+}
+
+void VendorTableView::mousePressEvent(QMouseEvent *event)
+{
+    const QPersistentModelIndex before = currentIndex();
+    QListView::mousePressEvent(event);
+    // The row that is selected already is chosen too: the field may hold another text.
+    if (before.isValid() && indexAt(event->position().toPoint()) == before) {
+        m_model.tableViewShouldSelectRow(before.row());
+    }
+}
+
+void VendorTableView::focusInEvent(QFocusEvent *event)
+{
+    {
+        // A list that gets the keyboard without a current row takes the first; nobody chose it.
+        const QScopedValueRollback mirrors(m_mirrors, true);
+        QListView::focusInEvent(event);
+    }
+    refresh();
+}
+
+void VendorTableView::showEvent(QShowEvent *event)
+{
+    QListView::showEvent(event);
+    if (currentIndex().isValid()) {
+        scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter);
+    }
+}
+
+void VendorTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListView::currentChanged(current, previous);
+    if (!m_mirrors && current.isValid()) {
+        m_model.tableViewShouldSelectRow(current.row());
+    }
+}
+
+} // namespace quillon

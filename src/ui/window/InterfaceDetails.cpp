@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/InterfaceDetails.h"
+
+#include "base/Localized.h"
+#include "presentation/window/MainWindowModel.h"
+#include "ui/theme/Theme.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int columns = 3;
+constexpr int rowSpacing = 4;
+
+QFrame *makeRule()
+{
+    auto *rule = new QFrame;
+    rule->setProperty("look", QStringLiteral("rule"));
+    return rule;
+}
+
+} // namespace
+
+InterfaceDetails::InterfaceDetails(MainWindowModel &model, QWidget *parent)
+    : QFrame(parent)
+    , m_model(model)
+    , m_grid(new QGridLayout(this))
+    , m_current(makeValue(QStringLiteral("currentAddress")))
+    , m_factory(makeValue(QStringLiteral("hardwareAddress")))
+    , m_ipAddress(makeValue(QStringLiteral("ipAddress")))
+    , m_changed(new QLabel(localized("Changed")))
+{
+    setProperty("look", QStringLiteral("card"));
+    m_grid->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::cardMargin, Theme::unit);
+    m_grid->setHorizontalSpacing(3 * Theme::unit);
+    m_grid->setVerticalSpacing(rowSpacing);
+    m_grid->setColumnStretch(1, 1);
+
+    m_changed->setObjectName(QStringLiteral("hardwareIndicator"));
+    m_changed->setProperty("look", QStringLiteral("notice"));
+    m_changed->setToolTip(localized("The address in use is not the factory address"));
+    m_changed->setAccessibleName(localized("The address in use is not the factory address"));
+    m_changed->setFont(Theme::textFont(0.9, QFont::DemiBold));
+    addRow(localized("Current address"), m_current, {nullptr, m_changed});
+    addRow(localized("Factory address"), m_factory);
+    addRow(localized("IPv4 address"), m_ipAddress);
+    refresh();
+}
+
+void InterfaceDetails::addRow(const QString &caption, QWidget *value, const Beside &beside)
+{
+    if (m_grid->count() > 0) {
+        m_grid->addWidget(makeRule(), m_grid->rowCount(), 0, 1, columns);
+    }
+    auto *name = new QLabel(caption);
+    name->setProperty("look", QStringLiteral("caption"));
+    // What stands beside the value comes and goes; the rows keep their height, all the same.
+    name->setMinimumHeight(Theme::rowHeight);
+    // Both are children of this: a screen reader finds a name beside its value only.
+    name->setBuddy(value);
+    const int row = m_grid->rowCount();
+    m_grid->addWidget(name, row, 0);
+    auto *cell = new QHBoxLayout;
+    cell->setSpacing(Theme::unit);
+    if (beside.before != nullptr) {
+        cell->addWidget(beside.before);
+    }
+    cell->addWidget(value, 1);
+    m_grid->addLayout(cell, row, 1);
+    if (beside.end != nullptr) {
+        m_grid->addWidget(beside.end, row, 2, Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+QWidget *InterfaceDetails::addWideRow(QWidget *content)
+{
+    auto *row = new QWidget;
+    auto *column = new QVBoxLayout(row);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(rowSpacing);
+    column->addWidget(makeRule());
+    column->addWidget(content);
+    content->setMinimumHeight(Theme::rowHeight);
+    m_grid->addWidget(row, m_grid->rowCount(), 0, 1, columns);
+    return row;
+}
+
+QLabel *InterfaceDetails::makeValue(const QString &name)
+{
+    auto *value = new QLabel;
+    value->setObjectName(name);
+    value->setProperty("look", QStringLiteral("value"));
+    value->setTextFormat(Qt::PlainText);
+    value->setFont(Theme::addressFont(1.0));
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setCursor(Qt::IBeamCursor);
+    return value;
+}
+
+void InterfaceDetails::showValue(QLabel &label, const QString &text)
+{
+    label.setText(text.isEmpty() ? QStringLiteral("–") : text);
+    label.setAccessibleName(text.isEmpty() ? localized("None") : text);
+}
+
+void InterfaceDetails::refresh()
+{
+    const auto &state = m_model.state();
+    showValue(*m_current, state.currentAddress);
+    showValue(*m_factory, state.hardwareAddress);
+    showValue(*m_ipAddress, state.ipAddress);
+    m_changed->setVisible(state.hardwareIndicatorVisible);
+}
+
+} // namespace quillon

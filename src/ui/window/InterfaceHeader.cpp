@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/InterfaceHeader.h"
+
+#include "base/Localized.h"
+#include "presentation/window/MainWindowModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/window/InterfaceSelector.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+namespace {
+
+constexpr int portIconSize = 32;
+constexpr int linkDotSize = 10;
+
+} // namespace
+
+InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_theme(theme)
+    , m_selector(new InterfaceSelector(model))
+    , m_selectorCaption(new QLabel(localized("&Interface")))
+    , m_portIcon(new QLabel)
+    , m_portName(new QLabel)
+    , m_linkDot(new QLabel)
+    , m_linkText(new QLabel)
+{
+    setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
+    m_portIcon->setFixedSize(portIconSize, portIconSize);
+    m_selectorCaption->setProperty("look", QStringLiteral("caption"));
+    m_selectorCaption->setBuddy(m_selector);
+    m_portName->setObjectName(QStringLiteral("portName"));
+    m_portName->setFont(Theme::textFont(1.0, QFont::DemiBold));
+    m_linkDot->setFixedSize(linkDotSize, linkDotSize);
+    m_linkText->setObjectName(QStringLiteral("linkState"));
+
+    auto *link = new QHBoxLayout;
+    link->setSpacing(6);
+    link->addWidget(m_linkDot);
+    link->addWidget(m_linkText);
+    auto *port = new QVBoxLayout;
+    port->setSpacing(2);
+    port->addWidget(m_portName);
+    port->addLayout(link);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Theme::unit + Theme::unit / 2);
+    row->addWidget(m_portIcon);
+    row->addLayout(port);
+    row->addStretch(1);
+    row->addWidget(m_selectorCaption);
+    row->addWidget(m_selector);
+    connect(&m_theme, &Theme::changed, this, &InterfaceHeader::refreshLink);
+    refresh();
+}
+
+void InterfaceHeader::refresh()
+{
+    const auto &state = m_model.state();
+    m_selector->refresh();
+    m_selectorCaption->setVisible(state.selectionVisible);
+    m_portName->setText(state.interfaceName);
+    refreshLink();
+}
+
+void InterfaceHeader::refreshLink()
+{
+    const auto &state = m_model.state();
+    const bool known = !state.interfaceName.isEmpty();
+    const bool active = state.linkActive;
+    const auto picture = [this](const QString &name, Theme::Ink ink, int size) {
+        return m_theme.icon(name, ink).pixmap(QSize(size, size), devicePixelRatioF());
+    };
+    m_linkDot->setVisible(known);
+    m_linkDot->setPixmap(
+        active ? picture(QStringLiteral("link-active"), Theme::Ink::Positive, linkDotSize)
+               : picture(QStringLiteral("link-inactive"), Theme::Ink::Muted, linkDotSize));
+    m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
+    m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
+    m_linkText->setProperty("look", active ? QStringLiteral("active") : QStringLiteral("inactive"));
+    style()->unpolish(m_linkText);
+    style()->polish(m_linkText);
+    const bool wireless = state.interfaceName == localized("Wi-Fi");
+    m_portIcon->setPixmap(picture(wireless ? QStringLiteral("wireless") : QStringLiteral("wired"),
+        Theme::Ink::Accent, portIconSize));
+}
+
+} // namespace quillon

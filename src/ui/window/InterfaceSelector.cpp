@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/InterfaceSelector.h"
+
+#include "base/Localized.h"
+#include "presentation/window/MainWindowModel.h"
+
+#include <QHoverEvent>
+#include <QSignalBlocker>
+#include <QStyledItemDelegate>
+
+namespace quillon {
+
+InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
+    : QComboBox(parent)
+    , m_model(model)
+{
+    setObjectName(QStringLiteral("deviceSelectionButton"));
+    setAccessibleName(localized("Interface"));
+    setAccessibleDescription(localized("The network interface whose address is shown and changed"));
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The list's look comes from the style sheet, which the default delegate of a combo box
+    // disregards.
+    setItemDelegate(new QStyledItemDelegate(this));
+    connect(this, &QComboBox::textActivated, this, [this](const QString &title) {
+        Q_EMIT interfacePicked(title);
+        refresh();
+    });
+    refresh();
+}
+
+void InterfaceSelector::refresh()
+{
+    const auto &state = m_model.state();
+    QStringList shown;
+    for (int index = 0; index < count(); ++index) {
+        shown.append(itemText(index));
+    }
+    {
+        const QSignalBlocker blocker(this);
+        if (shown != state.devices) {
+            clear();
+            addItems(state.devices);
+        }
+        setCurrentIndex(static_cast<int>(state.devices.indexOf(state.selectedDevice)));
+    }
+    setVisible(state.selectionVisible);
+}
+
+void InterfaceSelector::showPopup()
+{
+    Q_EMIT selectionPopupShown();
+    QComboBox::showPopup();
+}
+
+void InterfaceSelector::hidePopup()
+{
+    QComboBox::hidePopup();
+    resetEmphasis();
+}
+
+void InterfaceSelector::resetEmphasis()
+{
+    // The pointer may have left while the list had it; nothing says so any more.
+    setAttribute(Qt::WA_UnderMouse, false);
+    QHoverEvent leave(QEvent::HoverLeave, QPointF(-1, -1), QPointF(-1, -1), QPointF(-1, -1));
+    QComboBox::event(&leave);
+    update();
+}
+
+} // namespace quillon

@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/bus/FreedesktopNotifications.h"
+
+#include "fakes/FakeScheduler.h"
+#include "integration/platform/linux/Commands.h"
+#include "integration/platform/linux/Waiting.h"
+#include "integration/platform/linux/bus/NotificationServer.h"
+#include "integration/platform/linux/bus/PrivateBus.h"
+
+#include <QDBusArgument>
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace quillon::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+UserNotificationRequest request(const char *body, std::chrono::milliseconds delay = 1000ms)
+{
+    return {QStringLiteral("id"), QStringLiteral("Quillon"), QString::fromUtf8(body), true, delay};
+}
+
+} // namespace
+
+class FreedesktopNotificationsTest : public ::testing::Test
+{
+protected:
+    struct Reply
+    {
+        int count = 0;
+        std::optional<Error> error;
+    };
+
+    void add(const UserNotificationRequest &wanted)
+    {
+        center.add(wanted, [this](const std::optional<Error> &error) {
+            ++reply.count;
+            reply.error = error;
+        });
+    }
+    void addAndShow(const char *body)
+    {
+        const int before = reply.count;
+        add(request(body));
+        scheduler.advance(1000ms);
+        ASSERT_TRUE(eventually([&] { return reply.count == before + 1; }));
+        ASSERT_FALSE(reply.error) << qPrintable(reply.error->message);
+    }
+
+    // Whatever the server and the bus said before has arrived when their answer has.
+    void hearTheServerOut()
+    {
+        bool answered = false;
+        center.requestAlertAuthorization(
+            [&](bool, const std::optional<Error> &) { answered = true; });
+        ASSERT_TRUE(eventually([&] { return answered; }));
+    }
+
+    PrivateBus bus;
+    FakeScheduler scheduler;
+    FreedesktopNotifications center{scheduler, bus.connect()};
+    Reply reply;
+};
+
+TEST_F(FreedesktopNotificationsTest, AMessageIsShownAfterItsDelay)
+{
+    NotificationServer server(bus);
+    add(request("It worked"));
+    scheduler.advance(999ms);
+    EXPECT_FALSE(eventually([&] { return !server.notified.empty(); }, 100ms));
+    scheduler.advance(1ms);
+    EXPECT_EQ(reply.count, 0) << "in a later turn";
+    ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
+    EXPECT_FALSE(reply.error);
+
+    ASSERT_EQ(server.notified.size(), 1U);
+    EXPECT_EQ(server.notified[0].signature(), QStringLiteral("susssasa{sv}i"));
+    const QVariantList arguments = server.notified[0].arguments();
+    EXPECT_EQ(arguments[0], QStringLiteral("Quillon"));
+    EXPECT_EQ(arguments[1], 0U);
+    EXPECT_EQ(arguments[2], QStringLiteral("com.orvandel.Quillon4"));
+    EXPECT_EQ(arguments[3], QStringLiteral("Quillon"));
+    EXPECT_EQ(arguments[4], QStringLiteral("It worked"));
+    EXPECT_TRUE(arguments[5].toStringList().isEmpty());
+    const auto hints = qdbus_cast<QVariantMap>(arguments[6]);
+    EXPECT_EQ(hints[QStringLiteral("desktop-entry")], QStringLiteral("com.orvandel.Quillon4"));
+    EXPECT_EQ(hints[QStringLiteral("sound-name")], QStringLiteral("message-new-instant"));
+    EXPECT_EQ(arguments[7], -1);
+}
+
+TEST_F(FreedesktopNotificationsTest, WithoutSoundTheServerIsToldSo)
+{
+    NotificationServer server(bus);
+    UserNotificationRequest silent = request("psst", 0ms);
+    silent.defaultSound = false;
+    add(silent);
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
+    const auto hints = qdbus_cast<QVariantMap>(server.notified[0].arguments()[6]);
+    EXPECT_EQ(hints[QStringLiteral("suppress-sound")], true);
+    EXPECT_FALSE(hints.contains(QStringLiteral("sound-name")));
+}
+
+TEST_F(FreedesktopNotificationsTest, MarkupIsShownAsItIsWritten)
+{
+    {
+        NotificationServer plain(bus, {QStringLiteral("body")});
+        addAndShow("<b>a & b</b>");
+        EXPECT_EQ(plain.onScreen.first(), QStringLiteral("<b>a & b</b>"));
+    }
+    NotificationServer rich(bus, {QStringLiteral("body"), QStringLiteral("body-markup")});
+    hearTheServerOut();
+    addAndShow("<b>a & b</b>");
+    EXPECT_EQ(rich.onScreen.first(), QStringLiteral("&lt;b&gt;a &amp; b&lt;/b&gt;"))
+        << "also when the server was exchanged meanwhile";
+}
+
+TEST_F(FreedesktopNotificationsTest, ARequestWhoseDelayHasNotPassedIsDropped)
+{
+    NotificationServer server(bus);
+    add(request("never"));
+    center.removePending(QStringLiteral("unknown"));
+    center.removePending(QStringLiteral("id"));
+    scheduler.advance(5s);
+    EXPECT_FALSE(eventually([&] { return !server.notified.empty(); }, 100ms));
+    EXPECT_EQ(reply.count, 0);
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(FreedesktopNotificationsTest, ANewerRequestTakesThePlaceOfAPendingOne)
+{
+    NotificationServer server(bus);
+    add(request("first"));
+    scheduler.advance(500ms);
+    addAndShow("second");
+    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+}
+
+TEST_F(FreedesktopNotificationsTest, ADeliveredMessageIsTakenAway)
+{
+    NotificationServer server(bus);
+    addAndShow("old");
+    center.removeDelivered(QStringLiteral("unknown"));
+    center.removeDelivered(QStringLiteral("id"));
+    EXPECT_TRUE(eventually([&] { return server.onScreen.isEmpty(); }));
+    addAndShow("new");
+    EXPECT_EQ(server.notified[1].arguments()[1], 0U) << "a closed message cannot be replaced";
+    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("new")});
+}
+
+TEST_F(FreedesktopNotificationsTest, ANewerMessageReplacesTheOneOnTheScreen)
+{
+    NotificationServer server(bus);
+    addAndShow("first");
+    addAndShow("second");
+    EXPECT_EQ(server.notified[1].arguments()[1], 41U);
+    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+}
+
+TEST_F(FreedesktopNotificationsTest, AMessageThatThePersonClosedIsNotReplaced)
+{
+    NotificationServer server(bus);
+    addAndShow("first");
+    server.close(41);
+    hearTheServerOut();
+    addAndShow("second");
+    addAndShow("third");
+    EXPECT_EQ(server.notified[1].arguments()[1], 0U);
+    EXPECT_EQ(server.notified[2].arguments()[1], 42U);
+}
+
+TEST_F(FreedesktopNotificationsTest, TwoInQuickSuccessionLeaveTheSecond)
+{
+    NotificationServer server(bus);
+    server.holdsBack = true;
+    add(request("first", 0ms));
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return server.notified.size() == 1; }));
+    center.removePending(QStringLiteral("id"));
+    center.removeDelivered(QStringLiteral("id"));
+    add(request("second", 0ms));
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return server.notified.size() == 2; }));
+    server.answerHeld();
+    ASSERT_TRUE(eventually([&] { return reply.count == 2; }));
+    EXPECT_TRUE(eventually([&] { return server.onScreen.size() == 1; }));
+    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+}
+
+TEST_F(FreedesktopNotificationsTest, AMessageRemovedOnItsWayIsTakenAwayWhenItArrives)
+{
+    NotificationServer server(bus);
+    server.holdsBack = true;
+    add(request("late", 0ms));
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return server.notified.size() == 1; }));
+    center.removeDelivered(QStringLiteral("id"));
+    server.answerHeld();
+    EXPECT_TRUE(eventually([&] { return server.onScreen.isEmpty(); }));
+}
+
+TEST_F(FreedesktopNotificationsTest, ANewServerIsNotAskedToCloseWhatAnOlderOneShowed)
+{
+    {
+        NotificationServer old(bus);
+        addAndShow("old");
+    }
+    NotificationServer server(bus);
+    hearTheServerOut();
+    addAndShow("other"); // has the number that the old server gave
+    EXPECT_EQ(server.notified[0].arguments()[1], 0U);
+    EXPECT_TRUE(server.closed.empty());
+    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("other")});
+}
+
+TEST_F(FreedesktopNotificationsTest, ARefusalIsReported)
+{
+    NotificationServer server(bus);
+    server.refuses = true;
+    add(request("too much", 0ms));
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
+    ASSERT_TRUE(reply.error);
+    EXPECT_EQ(reply.error->domain,
+        QStringLiteral("org.freedesktop.Notifications.Error.ExcessNotificationGeneration"));
+}
+
+TEST_F(FreedesktopNotificationsTest, WithoutAServerTheFailureIsReported)
+{
+    add(request("nobody shows it", 0ms));
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
+    ASSERT_TRUE(reply.error);
+}
+
+TEST_F(FreedesktopNotificationsTest, AlertsAreGrantedWhereThereIsAServer)
+{
+    std::optional<bool> granted;
+    std::optional<Error> problem;
+    const auto answer = [&](bool allowed, const std::optional<Error> &error) {
+        granted = allowed;
+        problem = error;
+    };
+    center.requestAlertAuthorization(answer);
+    EXPECT_FALSE(granted) << "in a later turn";
+    ASSERT_TRUE(eventually([&] { return granted.has_value(); }));
+    EXPECT_FALSE(*granted);
+    EXPECT_TRUE(problem) << "that there is none now is no refusal";
+
+    NotificationServer server(bus);
+    granted.reset();
+    center.requestAlertAuthorization(answer);
+    ASSERT_TRUE(eventually([&] { return granted.has_value(); }));
+    EXPECT_TRUE(*granted);
+    EXPECT_FALSE(problem);
+}
+
+TEST(FreedesktopNotificationsWithoutASession, ReportTheirFailureInALaterTurn)
+{
+    FakeScheduler scheduler;
+    FreedesktopNotifications center(scheduler, QDBusConnection(QStringLiteral("no connection")));
+    int replies = 0;
+    center.requestAlertAuthorization([&](bool granted, const std::optional<Error> &error) {
+        EXPECT_FALSE(granted);
+        EXPECT_TRUE(error);
+        ++replies;
+    });
+    center.add(request("lost", 0ms), [&](const std::optional<Error> &error) {
+        EXPECT_TRUE(error);
+        ++replies;
+    });
+    scheduler.advance(0ms);
+    EXPECT_EQ(replies, 0);
+    EXPECT_TRUE(eventually([&] { return replies == 2; }));
+}
+
+/// dunst on a display of its own.
+class Dunst : public FreedesktopNotificationsTest
+{
+protected:
+    void SetUp() override
+    {
+        display.setProgram(QStringLiteral("Xvfb"));
+        display.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1")});
+        display.setStandardErrorFile(QProcess::nullDevice());
+        display.start(QIODevice::ReadOnly);
+        ASSERT_TRUE(eventually([this] { return display.canReadLine(); }));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DISPLAY"),
+            QLatin1Char(':') + QString::fromUtf8(display.readLine()).trimmed());
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        dunst.setProcessEnvironment(environment);
+        dunst.setStandardErrorFile(QProcess::nullDevice());
+        dunst.start(QStringLiteral("dunst"), QStringList());
+        const QDBusConnection watcher = bus.connect();
+        ASSERT_TRUE(eventually([&] {
+            return watcher.interface()->isServiceRegistered(NotificationServer::name).value();
+        }));
+    }
+
+    void TearDown() override
+    {
+        for (QProcess *process : {&dunst, &display}) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
+
+    QString count(const char *which)
+    {
+        QProcess ask;
+        ask.setProcessEnvironment(dunst.processEnvironment());
+        ask.start(QStringLiteral("dunstctl"), {QStringLiteral("count"), QLatin1String(which)});
+        ask.waitForFinished();
+        return QString::fromUtf8(ask.readAllStandardOutput()).trimmed();
+    }
+
+    QProcess display;
+    QProcess dunst;
+};
+
+TEST_F(Dunst, ShowsOneMessagePerIdentifier)
+{
+    addAndShow("first");
+    addAndShow("second");
+    center.removePending(QStringLiteral("id"));
+    center.removeDelivered(QStringLiteral("id"));
+    addAndShow("third");
+    EXPECT_TRUE(eventually([this] { return count("displayed") == QLatin1String("1"); }))
+        << count("displayed").toStdString();
+    center.removeDelivered(QStringLiteral("id"));
+    EXPECT_TRUE(eventually([this] { return count("displayed") == QLatin1String("0"); }));
+}
+
+} // namespace quillon::test

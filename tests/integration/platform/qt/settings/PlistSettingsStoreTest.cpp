@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SettingsFileTest.h"
+#include "base/SettingsKeys.h"
+#include "unit/platform/qt/settings/EveryKindOfValue.h"
+
+#include <plist/plist.h>
+
+#include <sys/stat.h>
+
+namespace quillon {
+namespace {
+
+using namespace std::chrono_literals;
+
+using PlistSettingsStoreTest = test::SettingsFileTest;
+
+ino_t fileNumber(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+QByteArray asBinary(const QVariantMap &values)
+{
+    const QByteArray text = xmlPropertyList(values);
+    plist_t root = nullptr;
+    plist_from_xml(text.constData(), static_cast<uint32_t>(text.size()), &root);
+    char *bytes = nullptr;
+    uint32_t length = 0;
+    plist_to_bin(root, &bytes, &length);
+    const QByteArray result(bytes, static_cast<qsizetype>(length));
+    plist_to_bin_free(bytes);
+    plist_free(root);
+    return result;
+}
+
+TEST_F(PlistSettingsStoreTest, EveryKindOfValueOutlivesTheProgram)
+{
+    openStore();
+    const QVariantMap values = test::everyKindOfValue();
+    for (const QString &key : values.keys()) {
+        store->set(key, values.value(key));
+    }
+    reopenStore();
+    for (const QString &key : values.keys()) {
+        EXPECT_TRUE(isSamePropertyList(store->get(key), values.value(key))) << key.toStdString();
+    }
+    EXPECT_TRUE(problems.empty());
+}
+
+TEST_F(PlistSettingsStoreTest, TheFileIsAnXmlPropertyListOfTheUserAlone)
+{
+    openStore();
+    store->setBool(keys::hideDock, true);
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_TRUE(read(path).startsWith("<?xml"));
+    EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther),
+        QFile::Permissions());
+    EXPECT_TRUE(others().isEmpty());
+}
+
+TEST_F(PlistSettingsStoreTest, TheRightsThatTheUserGaveTheFileStay)
+{
+    openStore();
+    store->setBool(keys::hideDock, true);
+    ASSERT_TRUE(store->synchronize());
+    const auto rights = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
+    ASSERT_TRUE(QFile::setPermissions(path, rights));
+    store->setBool(keys::hideDock, false);
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_TRUE(QFile::permissions(path) & QFile::ReadGroup);
+}
+
+TEST_F(PlistSettingsStoreTest, DefaultsAreNeverWritten)
+{
+    openStore();
+    store->registerDefaults({{keys::showInMenu, true}});
+    store->setBool(keys::hideDock, true);
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+}
+
+TEST_F(PlistSettingsStoreTest, WithoutAnythingToStoreThereIsNoFile)
+{
+    openStore();
+    store->registerDefaults({{keys::showInMenu, true}});
+    EXPECT_TRUE(store->synchronize());
+    store.reset();
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(PlistSettingsStoreTest, ItsFolderIsMadeWhenMissing)
+{
+    path = folder.filePath(QStringLiteral("new/folder/settings.plist"));
+    openStore();
+    store->setBool(keys::hideDock, true);
+    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(content().value(keys::hideDock).toBool());
+}
+
+TEST_F(PlistSettingsStoreTest, SeveralWritesMakeOneFlushAMomentLaterAndNothingRunsWhenIdle)
+{
+    openStore();
+    store->setBool(keys::hideDock, true);
+    store->setBool(keys::loginStart, true);
+    scheduler.advance(100ms);
+    EXPECT_FALSE(QFile::exists(path));
+    scheduler.advance(100ms);
+    EXPECT_EQ(content().size(), 2);
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(PlistSettingsStoreTest, AnEqualValueIsNotWrittenAgain)
+{
+    openStore();
+    store->set(keys::defaultTimerMinutes, 5);
+    ASSERT_TRUE(store->synchronize());
+    scheduler.advance(1s);
+    const ino_t number = fileNumber(path);
+    store->set(keys::defaultTimerMinutes, 5LL);
+    EXPECT_FALSE(scheduler.hasTimers());
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_EQ(fileNumber(path), number);
+}
+
+TEST_F(PlistSettingsStoreTest, TheLastWritesAreFlushedWhenItIsDestroyed)
+{
+    openStore();
+    store->setBool(keys::hideDock, true);
+    store.reset();
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+    scheduler.advance(1s);
+}
+
+TEST_F(PlistSettingsStoreTest, CharactersThatTheFileCannotCarryReadAlikeBeforeAndAfter)
+{
+    openStore();
+    const QString name = QString::fromLatin1("caf\x07", 4);
+    store->set(keys::currentWiFiDict, QVariantMap{{QStringLiteral("ssid"), name}});
+    const QVariant before = store->get(keys::currentWiFiDict);
+    reopenStore();
+    EXPECT_EQ(store->get(keys::currentWiFiDict), before);
+    EXPECT_EQ(before.toMap().value(QStringLiteral("ssid")).toString(),
+        QStringLiteral("caf") + QChar::ReplacementCharacter);
+}
+
+TEST_F(PlistSettingsStoreTest, KeysThatNobodyKnowsAreKept)
+{
+    replacedByAnother({{QStringLiteral("somebody else's"), QVariantList{1, QVariantMap()}}});
+    openStore();
+    store->setBool(keys::hideDock, true);
+    store.reset();
+    EXPECT_EQ(content().value(QStringLiteral("somebody else's")),
+        QVariant(QVariantList{1LL, QVariantMap()}));
+}
+
+TEST_F(PlistSettingsStoreTest, ABinaryFileIsReadAndBecomesXmlAtTheNextWrite)
+{
+    ASSERT_TRUE(write(path, asBinary({{keys::defaultTimerMinutes, 7}})));
+    openStore();
+    EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 7);
+    store->setBool(keys::hideDock, true);
+    store.reset();
+    EXPECT_TRUE(read(path).startsWith("<?xml"));
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(7LL));
+}
+
+TEST_F(PlistSettingsStoreTest, ChangesOfDifferentKeysHereAndElsewhereBothStand)
+{
+    replacedByAnother({{keys::hideDock, true}, {keys::externalIPAddress, QStringLiteral("old")}});
+    openStore();
+    store->set(keys::defaultTimerMinutes, 5);
+    replacedByAnother({{keys::hideDock, false}});
+    ASSERT_TRUE(store->synchronize());
+    const QVariantMap both{{keys::hideDock, false}, {keys::defaultTimerMinutes, 5LL}};
+    EXPECT_EQ(content(), both);
+    EXPECT_FALSE(store->get(keys::externalIPAddress).isValid());
+}
+
+TEST_F(PlistSettingsStoreTest, OfTheSameKeyTheUnsavedWriteHereWinsAndTheSavedOneYields)
+{
+    openStore();
+    store->set(keys::defaultTimerMinutes, 5);
+    replacedByAnother({{keys::defaultTimerMinutes, 9}});
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
+    replacedByAnother({{keys::defaultTimerMinutes, 9}});
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 9);
+}
+
+TEST_F(PlistSettingsStoreTest, ARemovalHereAlsoWinsUntilItIsSaved)
+{
+    replacedByAnother({{keys::editingRuleNetwork, QStringLiteral("a")}});
+    openStore();
+    store->set(keys::editingRuleNetwork, QVariant());
+    replacedByAnother({{keys::editingRuleNetwork, QStringLiteral("b")}});
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_FALSE(content().contains(keys::editingRuleNetwork));
+}
+
+TEST_F(PlistSettingsStoreTest, AFileWrittenInPlaceByAnotherProgramIsTakenOver)
+{
+    replacedByAnother({{keys::defaultTimerMinutes, 1}});
+    openStore();
+    ASSERT_TRUE(write(path, xmlPropertyList({{keys::defaultTimerMinutes, 2}})));
+    EXPECT_TRUE(storeSoonHas(keys::defaultTimerMinutes, 2LL));
+    ASSERT_TRUE(write(path, xmlPropertyList({{keys::defaultTimerMinutes, 3}})));
+    EXPECT_TRUE(storeSoonHas(keys::defaultTimerMinutes, 3LL));
+}
+
+TEST_F(PlistSettingsStoreTest, AFileReplacedAgainAndAgainIsTakenOverEveryTime)
+{
+    openStore();
+    for (qlonglong round = 1; round <= 5; ++round) {
+        replacedByAnother({{keys::defaultTimerMinutes, round}});
+        EXPECT_TRUE(storeSoonHas(keys::defaultTimerMinutes, round)) << round;
+    }
+}
+
+TEST_F(PlistSettingsStoreTest, AFileThatWasReplacedIsStillWatched)
+{
+    openStore();
+    replacedByAnother({{keys::defaultTimerMinutes, 1}});
+    ASSERT_TRUE(storeSoonHas(keys::defaultTimerMinutes, 1LL));
+    ASSERT_TRUE(write(path, xmlPropertyList({{keys::defaultTimerMinutes, 2}})));
+    EXPECT_TRUE(storeSoonHas(keys::defaultTimerMinutes, 2LL));
+}
+
+TEST_F(PlistSettingsStoreTest, AFileInTheMiddleOfBeingWrittenIsWaitedFor)
+{
+    replacedByAnother({{keys::defaultTimerMinutes, 1}, {keys::hideDock, true}});
+    openStore();
+    const QByteArray whole =
+        xmlPropertyList({{keys::defaultTimerMinutes, 2}, {keys::hideDock, true}});
+    ASSERT_TRUE(write(path, whole.left(whole.size() / 2)));
+    ASSERT_TRUE(test::holdsSoon(
+        [this] { return scheduler.hasTimers(); }, [this] { scheduler.runPending(); }));
+    EXPECT_TRUE(store->getBool(keys::hideDock));
+    ASSERT_TRUE(write(path, whole));
+    scheduler.advance(1s);
+    EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 2);
+    EXPECT_TRUE(problems.empty());
+    EXPECT_TRUE(others().isEmpty());
+}
+
+TEST_F(PlistSettingsStoreTest, AFileThatStaysDamagedIsSetAsideAndTheValuesAreWrittenAgain)
+{
+    replacedByAnother({{keys::hideDock, true}});
+    openStore();
+    ASSERT_TRUE(write(path, "scribble"));
+    ASSERT_TRUE(test::holdsSoon(
+        [this] { return scheduler.hasTimers(); }, [this] { scheduler.runPending(); }));
+    scheduler.advance(1s);
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+    ASSERT_TRUE(problemIs(SettingsProblem::Kind::Damaged));
+    EXPECT_EQ(read(problems.front().keptPath), "scribble");
+}
+
+TEST_F(PlistSettingsStoreTest, AFileThatDisappearsIsWrittenAgain)
+{
+    replacedByAnother({{keys::hideDock, true}});
+    openStore();
+    ASSERT_TRUE(QFile::remove(path));
+    ASSERT_TRUE(test::holdsSoon(
+        [this] { return scheduler.hasTimers(); }, [this] { scheduler.runPending(); }));
+    EXPECT_TRUE(store->getBool(keys::hideDock));
+    scheduler.advance(1s);
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+    EXPECT_TRUE(problems.empty());
+}
+
+TEST_F(PlistSettingsStoreTest, ALinkToTheFileStaysALink)
+{
+    const QString target = folder.filePath(QStringLiteral("elsewhere.plist"));
+    ASSERT_TRUE(write(target, xmlPropertyList({{keys::defaultTimerMinutes, 1}})));
+    ASSERT_TRUE(QFile::link(target, path));
+    openStore();
+    store->set(keys::defaultTimerMinutes, 2);
+    ASSERT_TRUE(store->synchronize());
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    EXPECT_EQ(readPropertyListFile(target).value().value(keys::defaultTimerMinutes), QVariant(2LL));
+}
+
+TEST_F(PlistSettingsStoreTest, AnObserverMayDestroyIt)
+{
+    openStore();
+    store->addObserver(keys::hideDock, [this](const auto &) { store.reset(); });
+    store->setBool(keys::hideDock, true);
+    EXPECT_EQ(store, nullptr);
+    EXPECT_TRUE(content().value(keys::hideDock).toBool());
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/platform/qt/web/HttpTest.h"
+
+#include <QDir>
+
+namespace quillon::test {
+namespace {
+
+constexpr int manyBytes = 100'000'000;
+const QString tenDigits = QStringLiteral("0123456789");
+
+class Download : public HttpTest
+{
+protected:
+    Download() { useFolder(folder.path()); }
+
+    void useFolder(const QString &path, qint64 longest = qint64(1) << 30)
+    {
+        HttpClientOptions options;
+        options.folder = path;
+        options.longestDownload = longest;
+        options.silence = 500ms;
+        client.emplace(options);
+    }
+    void expectNothingLeft() const
+    {
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+    }
+    static void expectStepsAddUp(const Downloaded &result, qint64 expected)
+    {
+        qint64 received = 0;
+        for (const HttpClient::Progress &step : result.steps) {
+            EXPECT_GT(step.chunk, 0);
+            received += step.chunk;
+            EXPECT_EQ(step.received, received);
+            EXPECT_EQ(step.expected, expected);
+        }
+        EXPECT_EQ(received, result.body.value_or(QByteArray()).size());
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(Download, BringsTheBodyIntoAFileThatIsOursAlone)
+{
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    const Downloaded result = download(WebServer::secure("/page"));
+    EXPECT_EQ(result.body, QByteArray("0123456789"));
+    EXPECT_EQ(QFileInfo(result.path).path(), folder.path());
+    const QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner;
+    EXPECT_EQ(result.rights & ~(QFile::ReadUser | QFile::WriteUser), owner);
+    EXPECT_FALSE(QFile::exists(result.path)) << "it is gone afterwards";
+    expectNothingLeft();
+}
+
+TEST_F(Download, GoesToTheTemporaryFolderWhenNoneIsNamed)
+{
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    client.emplace();
+    EXPECT_EQ(QFileInfo(download(WebServer::secure("/page")).path).path(), QDir::tempPath());
+}
+
+TEST_F(Download, OfAHundredMegabytesIsReportedStepByStepAndFlatInMemory)
+{
+    web.serve("/page", {{QStringLiteral("size"), manyBytes}});
+    qint64 received = 0;
+    int steps = 0;
+    int endings = 0;
+    const qint64 before = peakMemory();
+    HttpClient::DownloadHandler handler;
+    handler.didWriteData = [&](const HttpClient::Progress &step) {
+        received += step.chunk;
+        ++steps;
+        EXPECT_EQ(step.received, received);
+        EXPECT_EQ(step.expected, manyBytes);
+    };
+    handler.didFinishDownloading = [&](const QString &path) {
+        EXPECT_EQ(QFileInfo(path).size(), manyBytes);
+        ++endings;
+    };
+    client->download(WebServer::secure("/page"), handler);
+    ASSERT_TRUE(eventually([&] { return endings > 0; }));
+    EXPECT_EQ(received, manyBytes);
+    EXPECT_GT(steps, 100);
+    EXPECT_LT(peakMemory() - before, muchMemory);
+    expectNothingLeft();
+}
+
+TEST_F(Download, OfUnknownLengthSaysSoInEveryStep)
+{
+    for (const char *framing : {"chunked", "close"}) {
+        web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 3},
+                               {QStringLiteral("pause"), 0.05},
+                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        const Downloaded result = download(WebServer::secure("/page"));
+        EXPECT_EQ(result.body, QByteArray("0123456789"));
+        EXPECT_GT(result.steps.size(), 1);
+        expectStepsAddUp(result, -1);
+    }
+}
+
+TEST_F(Download, OfKnownLengthSaysItInEveryStep)
+{
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 3},
+                           {QStringLiteral("pause"), 0.05}});
+    const Downloaded result = download(WebServer::secure("/page"));
+    EXPECT_GT(result.steps.size(), 1);
+    expectStepsAddUp(result, 10);
+}
+
+TEST_F(Download, OfAnEmptyBodyEndsWithAnEmptyFile)
+{
+    web.serve("/page", {});
+    const Downloaded result = download(WebServer::secure("/page"));
+    EXPECT_EQ(result.body, QByteArray());
+    EXPECT_TRUE(result.steps.isEmpty());
+}
+
+TEST_F(Download, OfAPageThatIsNotThereEndsWithWhatTheServerSays)
+{
+    web.serve("/page",
+        {{QStringLiteral("status"), 404}, {QStringLiteral("body"), QStringLiteral("gone")}});
+    EXPECT_EQ(download(WebServer::secure("/page")).body, QByteArray("gone"));
+}
+
+TEST_F(Download, FollowsRedirectsAndTakesOnlyTheLastBody)
+{
+    web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("/page")},
+                           {QStringLiteral("body"), QStringLiteral("moved")}});
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    const Downloaded result = download(WebServer::secure("/away"));
+    EXPECT_EQ(result.body, QByteArray("0123456789"));
+    expectStepsAddUp(result, 10);
+}
+
+TEST_F(Download, FailsWhenTheBodyIsShorterThanAnnounced)
+{
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("length"), 11}});
+    for (const QUrl &url : {WebServer::plain("/page"), WebServer::secure("/page")}) {
+        const Downloaded result = download(url);
+        EXPECT_TRUE(result.error);
+        EXPECT_FALSE(result.body);
+    }
+    expectNothingLeft();
+}
+
+TEST_F(Download, FailsWhenTheServerFallsSilentInTheMiddle)
+{
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
+                           {QStringLiteral("then"), QStringLiteral("stall")}});
+    const Downloaded result = download(WebServer::secure("/page"));
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(outcome(*result.error), systemFailure(ETIMEDOUT));
+    EXPECT_EQ(result.steps.size(), 1);
+    expectNothingLeft();
+}
+
+TEST_F(Download, FailsWhenThereIsNoServerAndWhenItIsNotTrusted)
+{
+    EXPECT_TRUE(download(WebServer::secure("/page", "untrusted.test")).error);
+    web.stop();
+    EXPECT_TRUE(download(WebServer::secure("/page")).error);
+    expectNothingLeft();
+}
+
+TEST_F(Download, FailsWhenThereIsNoFolder)
+{
+    useFolder(folder.filePath(QStringLiteral("missing")));
+    const Downloaded result = download(WebServer::secure("/page"));
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(outcome(*result.error), systemFailure(ENOENT));
+    EXPECT_TRUE(web.log().isEmpty());
+}
+
+TEST_F(Download, WithoutEndIsGivenUp)
+{
+    useFolder(folder.path(), 3'000'000);
+    web.serve("/page", {{QStringLiteral("size"), QStringLiteral("endless")},
+                           {QStringLiteral("framing"), QStringLiteral("chunked")}});
+    const Downloaded result = download(WebServer::secure("/page"));
+    ASSERT_TRUE(result.error);
+    EXPECT_EQ(outcome(*result.error), systemFailure(EFBIG));
+    expectNothingLeft();
+}
+
+} // namespace
+} // namespace quillon::test

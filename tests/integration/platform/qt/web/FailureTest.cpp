@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/platform/qt/web/HttpTest.h"
+
+#include <QElapsedTimer>
+
+namespace quillon::test {
+namespace {
+
+const QString tenDigits = QStringLiteral("0123456789");
+
+class Failure : public HttpTest
+{
+};
+
+TEST_F(Failure, NobodyListens)
+{
+    web.stop();
+    const Answer answer = get(WebServer::secure("/page"));
+    EXPECT_EQ(outcome(answer), failure(QNetworkReply::ConnectionRefusedError));
+    EXPECT_EQ(answer.error().message, QStringLiteral("Connection refused"));
+}
+
+TEST_F(Failure, TheHostDoesNotExist)
+{
+    EXPECT_EQ(outcome(get(QUrl(QStringLiteral("https://nowhere.test/")))),
+        failure(QNetworkReply::HostNotFoundError));
+}
+
+TEST_F(Failure, TheConnectionBreaksInTheMiddle)
+{
+    for (const char *end : {"reset", "close"}) {
+        for (const char *framing : {"length", "chunked"}) {
+            web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
+                                   {QStringLiteral("then"), QString::fromLatin1(end)},
+                                   {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+            for (const QUrl &url : {WebServer::plain("/page"), WebServer::secure("/page")}) {
+                const Answer answer = get(url);
+                ASSERT_FALSE(answer) << end << ' ' << framing << ": " << outcome(answer);
+                EXPECT_EQ(answer.error().domain, httpErrorDomain);
+                EXPECT_FALSE(answer.error().message.isEmpty());
+            }
+        }
+    }
+}
+
+TEST_F(Failure, TheBodyOfABadStatusIsShorterThanAnnounced)
+{
+    web.serve("/page", {{QStringLiteral("status"), 503}, {QStringLiteral("body"), tenDigits},
+                           {QStringLiteral("length"), 20}});
+    EXPECT_FALSE(get(WebServer::secure("/page")));
+    EXPECT_FALSE(get(WebServer::plain("/page")));
+}
+
+TEST_F(Failure, TheAnswerIsNotHttp)
+{
+    web.serve("/page", {{QStringLiteral("raw"), QStringLiteral("220 mail.example ESMTP\r\n")}});
+    EXPECT_FALSE(get(WebServer::plain("/page")));
+    web.serve("/page", {{QStringLiteral("raw"), QString()}});
+    EXPECT_FALSE(get(WebServer::plain("/page")));
+}
+
+TEST_F(Failure, TheServerFallsSilentAtAnyPoint)
+{
+    useSilence(300ms);
+    web.serve("/head", {{QStringLiteral("delay"), 1000}});
+    web.serve("/start", {{QStringLiteral("raw"), QStringLiteral("HTTP/1.1 200 OK\r\nContent-")},
+                            {QStringLiteral("repeat"), QString()}});
+    for (const char *framing : {"length", "chunked", "close"}) {
+        web.serve("/body", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
+                               {QStringLiteral("then"), QStringLiteral("stall")},
+                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        EXPECT_EQ(outcome(get(WebServer::secure("/body"))), systemFailure(ETIMEDOUT)) << framing;
+    }
+    EXPECT_EQ(outcome(get(WebServer::secure("/head"))), systemFailure(ETIMEDOUT));
+    EXPECT_EQ(outcome(get(WebServer::plain("/start"))), systemFailure(ETIMEDOUT));
+}
+
+TEST_F(Failure, TheConnectionIsNeverMade)
+{
+    useSilence(300ms);
+    // Nobody has this address on the wire that it is looked for on.
+    EXPECT_EQ(outcome(get(QUrl(QStringLiteral("https://192.0.2.77/")))), systemFailure(ETIMEDOUT));
+}
+
+TEST_F(Failure, ASlowServerIsNotASilentOne)
+{
+    useSilence(500ms);
+    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 1},
+                           {QStringLiteral("pause"), 0.15}});
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 0123456789");
+    EXPECT_GT(time.elapsed(), 1000);
+}
+
+/// What never ends must not fill the memory until it is given up.
+class Flood : public HttpTest
+{
+protected:
+    void expectBounded(const QVariantMap &rule)
+    {
+        useSilence(1500ms);
+        web.serve("/page", rule);
+        const qint64 before = peakMemory();
+        const Answer answer = get(WebServer::plain("/page"));
+        EXPECT_FALSE(answer) << outcome(answer).substr(0, 100);
+        EXPECT_LT(peakMemory() - before, muchMemory);
+    }
+};
+
+TEST_F(Flood, OfARedirect)
+{
+    expectBounded({{QStringLiteral("redirect"), QStringLiteral("/page")},
+        {QStringLiteral("size"), QStringLiteral("endless")},
+        {QStringLiteral("framing"), QStringLiteral("chunked")}});
+}
+
+TEST_F(Flood, OfAPlainBody)
+{
+    expectBounded({{QStringLiteral("size"), QStringLiteral("endless")}});
+}
+
+} // namespace
+} // namespace quillon::test

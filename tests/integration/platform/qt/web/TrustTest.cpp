@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/platform/qt/web/HttpTest.h"
+
+namespace quillon::test {
+namespace {
+
+using ::testing::HasSubstr;
+
+/// Who is believed to be the one that was asked for.
+class Trust : public HttpTest
+{
+protected:
+    /// What the log would say; the server must not have seen the request.
+    std::string refusal(const char *host)
+    {
+        web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
+        const Answer answer = get(WebServer::secure("/page", host));
+        if (answer) {
+            return outcome(answer);
+        }
+        for (const QJsonObject &entry : web.log()) {
+            EXPECT_FALSE(entry.contains(QStringLiteral("path"))) << "the request was sent";
+        }
+        EXPECT_EQ(outcome(answer), failure(QNetworkReply::SslHandshakeFailedError));
+        return answer.error().message.toStdString();
+    }
+};
+
+TEST_F(Trust, AServerForWhomTheSystemsAuthoritySignsIsBelieved)
+{
+    web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
+    EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 here");
+}
+
+TEST_F(Trust, AServerOfAnotherNameIsNot)
+{
+    EXPECT_THAT(refusal("wrong-name.test"), HasSubstr("host name did not match"));
+}
+
+TEST_F(Trust, AnExpiredCertificateIsNot)
+{
+    EXPECT_THAT(refusal("expired.test"), HasSubstr("expired"));
+}
+
+TEST_F(Trust, AnUnknownAuthorityIsNot)
+{
+    EXPECT_THAT(refusal("untrusted.test"), HasSubstr("issuer certificate"));
+}
+
+TEST_F(Trust, AServerThatIsReachedByARedirectMustBeTrustedToo)
+{
+    web.serve(
+        "/away", {{QStringLiteral("redirect"), QStringLiteral("https://untrusted.test/page")}});
+    EXPECT_EQ(
+        outcome(get(WebServer::secure("/away"))), failure(QNetworkReply::SslHandshakeFailedError));
+}
+
+TEST_F(Trust, AServerWithoutEncryptionWhereItShouldBeIsAFailedTransfer)
+{
+    const Answer answer = get(QUrl(QStringLiteral("https://trusted.test:80/page")));
+    ASSERT_FALSE(answer);
+    EXPECT_EQ(answer.error().domain, httpErrorDomain);
+    EXPECT_FALSE(answer.error().message.isEmpty());
+}
+
+} // namespace
+} // namespace quillon::test

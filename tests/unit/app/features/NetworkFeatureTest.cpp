@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/features/NetworkFeature.h"
+
+#include "unit/app/ProgramOnFakes.h"
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+class NetworkFeatureTest : public ProgramOnFakes
+{
+protected:
+    void saveAddress(const QString &name)
+    {
+        machine.settings.set(keys::savedAddresses,
+            QVariantMap{{QStringLiteral("02:00:00:00:00:AA"),
+                QVariantMap{{savedentry::name, name},
+                    {savedentry::address, QStringLiteral("02:00:00:00:00:AA")}}}});
+    }
+    QStringList quickAddresses()
+    {
+        QStringList texts;
+        for (const auto &token : program->networks().savedLists.state().quickAddresses) {
+            texts << token.text;
+        }
+        return texts;
+    }
+    QVariantMap saveNetwork()
+    {
+        const QVariantMap network{{savedentry::name, QStringLiteral("Home")},
+            {savedentry::SSID, QStringLiteral("home-net")},
+            {savedentry::BSSID, QStringLiteral("0a:0b:0c:0d:0e:0f")}};
+        machine.settings.set(
+            keys::savedNetworks, QVariantMap{{QStringLiteral("0a:0b:0c:0d:0e:0f"), network}});
+        return network;
+    }
+    SavedEntryPopoverModel &popover() { return program->networks().savedEntryPopover; }
+};
+
+TEST_F(NetworkFeatureTest, TheNetworkIsReadWhenTheWindowIsPrepared)
+{
+    create();
+    at(&LaunchSequence::mainWindowPrepared, [this] { EXPECT_EQ(machine.wifi.reads, 1); });
+    program->launch().awakeFromNib();
+    EXPECT_EQ(stepsSeen, 1);
+}
+
+TEST_F(NetworkFeatureTest, TheQuickAddressesAreFilledAtTheirStep)
+{
+    saveAddress(QStringLiteral("Mine"));
+    create();
+    at(&LaunchSequence::vendorCountDue, [this] { EXPECT_EQ(quickAddresses(), QStringList()); });
+    at(&LaunchSequence::quickAddressesDue,
+        [this] { EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Mine"))); });
+    start();
+    EXPECT_EQ(stepsSeen, 2);
+}
+
+TEST_F(NetworkFeatureTest, TheQuickAddressesFollowTheSavedOnes)
+{
+    run();
+    saveAddress(QStringLiteral("Another"));
+    EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Another")));
+}
+
+TEST_F(NetworkFeatureTest, ThePermissionIsAskedForAfterTheStart)
+{
+    create();
+    at(&LaunchSequence::cloudCheckDue,
+        [this] { EXPECT_FALSE(machine.location.delegate.didChangeAuthorization); });
+    start();
+    EXPECT_EQ(machine.location.requests, 0);
+    machine.scheduler.advance(2s);
+    EXPECT_EQ(machine.location.requests, 1);
+}
+
+TEST_F(NetworkFeatureTest, SwitchedOffLocationServicesBringTheWindowToTheUser)
+{
+    machine.location.enabled = false;
+    create();
+    start();
+    int opened = 0;
+    QObject::connect(&program->presence(), &Presence::windowOpened, [&] { ++opened; });
+    machine.scheduler.advance(2s);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForAtItsStepWhenThatIsWanted)
+{
+    machine.settings.setBool(keys::shouldUpdateExternalIP, true);
+    create();
+    at(&LaunchSequence::locationPermissionDue,
+        [this] { EXPECT_TRUE(machine.http.requests().isEmpty()); });
+    at(&LaunchSequence::externalAddressDue,
+        [this] { EXPECT_EQ(machine.http.requests().size(), 1); });
+    start();
+    EXPECT_EQ(stepsSeen, 2);
+    EXPECT_EQ(machine.http.requests().first().host(), QStringLiteral("address.example"));
+}
+
+TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForWhenTheUserSwitchesItOn)
+{
+    machine.settings.setBool(keys::shouldUpdateExternalIP, false);
+    run();
+    const auto before = machine.http.requests().size();
+    EXPECT_EQ(before, 0);
+    machine.settings.setBool(keys::shouldUpdateExternalIP, true);
+    EXPECT_EQ(machine.http.requests().size(), 1);
+}
+
+TEST_F(NetworkFeatureTest, TheNetworkButtonFollowsTheAssociation)
+{
+    run();
+    EXPECT_FALSE(program->networks().info.state().buttonVisible);
+    WiFiInterface radio;
+    radio.device = QStringLiteral("wlp3s0");
+    radio.ssid = QStringLiteral("home-net");
+    radio.bssid = QStringLiteral("0a:0b:0c:0d:0e:0f");
+    machine.wifi.join(radio);
+    program->networks().wifi.updateWiFiNetwork();
+    EXPECT_TRUE(program->networks().info.state().buttonVisible);
+    machine.wifi.leave();
+    program->networks().wifi.updateWiFiNetwork();
+    EXPECT_FALSE(program->networks().info.state().buttonVisible);
+}
+
+TEST_F(NetworkFeatureTest, TheNetworksPopoverShowsItsModeAndClosesWhenItIsDone)
+{
+    run();
+    popover().tokenFieldMenuForRepresentedObject(TokenField::SavedNetworks, saveNetwork(), {});
+    machine.scheduler.runPending();
+    ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Network);
+    popover().chooseSsidTickButton();
+    EXPECT_TRUE(popover().state().ssidTickButton.on);
+    EXPECT_FALSE(popover().state().bssidTickButton.on);
+    popover().controlTextDidEndEditing(QStringLiteral("Office"));
+    machine.scheduler.runPending();
+    EXPECT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::None);
+}
+
+TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
+{
+    run();
+    saveAddress(QStringLiteral("Mine"));
+    const QVariantMap entry = machine.settings.getDictionary(keys::savedAddresses).first().toMap();
+    popover().tokenFieldMenuForRepresentedObject(TokenField::SavedAddresses, entry, {});
+    machine.scheduler.runPending();
+    ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Address);
+    popover().removeEntry();
+    machine.scheduler.runPending();
+    EXPECT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::None);
+    EXPECT_EQ(quickAddresses(), QStringList());
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/netlink/DefaultRoute.h"
+
+#include "unit/platform/linux/netlink/NetlinkBytes.h"
+#include "unit/platform/linux/wifi/ElementBytes.h"
+
+#include <gtest/gtest.h>
+
+#include <linux/rtnetlink.h>
+
+namespace quillon::test {
+
+namespace {
+
+struct Route
+{
+    quint8 prefix = 0;
+    quint8 type = RTN_UNICAST;
+    quint8 table = RT_TABLE_MAIN;
+    quint32 flags = 0;
+};
+
+QByteArray number(quint32 value)
+{
+    return {reinterpret_cast<const char *>(&value), sizeof value};
+}
+
+QByteArray message(const Route &route, std::initializer_list<std::pair<int, QByteArray>> list)
+{
+    rtmsg header{};
+    header.rtm_dst_len = route.prefix;
+    header.rtm_type = route.type;
+    header.rtm_table = route.table;
+    header.rtm_flags = route.flags;
+    NetlinkBytes bytes;
+    for (const auto &[type, value] : list) {
+        bytes.attribute(static_cast<quint16>(type), value);
+    }
+    return QByteArray(reinterpret_cast<const char *>(&header), sizeof header) + bytes.payload();
+}
+
+std::optional<DefaultRoute> read(
+    const Route &route, std::initializer_list<std::pair<int, QByteArray>> list)
+{
+    return defaultRoute(spanOf(message(route, list)));
+}
+
+QByteArray nextHop(int index, quint8 flags = 0)
+{
+    NetlinkBytes gateway;
+    gateway.attribute(RTA_GATEWAY, QByteArray(4, '\1'));
+    rtnexthop hop{};
+    hop.rtnh_len = static_cast<unsigned short>(sizeof hop + gateway.size());
+    hop.rtnh_flags = flags;
+    hop.rtnh_ifindex = index;
+    return QByteArray(reinterpret_cast<const char *>(&hop), sizeof hop) + gateway.payload();
+}
+
+} // namespace
+
+TEST(DefaultRoute, LeadsThroughAnInterface)
+{
+    EXPECT_EQ(read({}, {{RTA_OIF, number(3)}})->interfaces, QList<int>{3});
+    EXPECT_FALSE(read({}, {{RTA_OIF, number(3)}})->leadsToObject);
+}
+
+TEST(DefaultRoute, RoutesToSomewhereOnlyAreNone)
+{
+    EXPECT_FALSE(read({.prefix = 1}, {{RTA_OIF, number(3)}}));
+    EXPECT_FALSE(read({.prefix = 24}, {{RTA_OIF, number(3)}}));
+}
+
+TEST(DefaultRoute, RoutesThatLeadNowhereAreNone)
+{
+    for (const quint8 type :
+        {RTN_BLACKHOLE, RTN_UNREACHABLE, RTN_PROHIBIT, RTN_THROW, RTN_LOCAL, RTN_BROADCAST}) {
+        EXPECT_FALSE(read({.type = type}, {{RTA_OIF, number(1)}})) << int(type);
+    }
+}
+
+TEST(DefaultRoute, OnlyTheTablesOfOrdinaryTrafficCount)
+{
+    EXPECT_TRUE(read({.table = RT_TABLE_DEFAULT}, {{RTA_OIF, number(3)}}));
+    EXPECT_FALSE(read({.table = RT_TABLE_LOCAL}, {{RTA_OIF, number(3)}}));
+    EXPECT_FALSE(read({.table = RT_TABLE_UNSPEC}, {{RTA_OIF, number(3)}}));
+    EXPECT_FALSE(
+        read({.table = RT_TABLE_COMPAT}, {{RTA_OIF, number(3)}, {RTA_TABLE, number(51820)}}));
+    EXPECT_TRUE(read(
+        {.table = RT_TABLE_COMPAT}, {{RTA_TABLE, number(RT_TABLE_MAIN)}, {RTA_OIF, number(3)}}));
+}
+
+TEST(DefaultRoute, DeadHopsAreNoHops)
+{
+    EXPECT_TRUE(read({.flags = RTNH_F_LINKDOWN}, {{RTA_OIF, number(3)}})->interfaces.isEmpty());
+    EXPECT_TRUE(read({.flags = RTNH_F_DEAD}, {{RTA_OIF, number(3)}})->interfaces.isEmpty());
+    EXPECT_EQ(read({.flags = RTNH_F_ONLINK}, {{RTA_OIF, number(3)}})->interfaces, QList<int>{3});
+    EXPECT_EQ(
+        read({}, {{RTA_MULTIPATH, nextHop(3) + nextHop(4, RTNH_F_DEAD) + nextHop(5)}})->interfaces,
+        (QList<int>{3, 5}));
+}
+
+TEST(DefaultRoute, HopsThatAreAnObjectAreNotSeen)
+{
+    EXPECT_TRUE(read({}, {{RTA_NH_ID, number(7)}})->leadsToObject);
+    EXPECT_FALSE(read({}, {{RTA_NH_ID, number(7)}, {RTA_OIF, number(3)}})->leadsToObject);
+    EXPECT_FALSE(read({.flags = RTNH_F_DEAD}, {{RTA_NH_ID, number(7)}})->leadsToObject);
+    EXPECT_FALSE(read({}, {})->leadsToObject);
+}
+
+TEST(DefaultRoute, CutShortAnywhereItHasNoHopOfItsOwnMaking)
+{
+    const QByteArray whole =
+        message({}, {{RTA_MULTIPATH, nextHop(3) + nextHop(5)}, {RTA_OIF, number(9)}});
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+        QByteArray cut(whole.constData(), size);
+        cut.squeeze();
+        const auto route = defaultRoute(spanOf(cut));
+        EXPECT_EQ(route.has_value(), size >= qsizetype{sizeof(rtmsg)}) << size;
+        for (const int index : route.value_or(DefaultRoute{}).interfaces) {
+            EXPECT_TRUE(index == 3 || index == 5) << size;
+        }
+    }
+    for (const int lie : {0, 7, 9, 0xffff}) {
+        QByteArray hops = nextHop(3);
+        hops.replace(0, 2, littleEndian(lie));
+        const auto route = read({}, {{RTA_MULTIPATH, hops}});
+        EXPECT_LE(route->interfaces.size(), 2) << lie;
+    }
+}
+
+} // namespace quillon::test

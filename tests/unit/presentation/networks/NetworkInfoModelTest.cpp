@@ -1,0 +1,214 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/networks/NetworkInfoModel.h"
+
+#include "networks/SavedNetworks.h"
+#include "unit/networks/NetworkMachine.h"
+
+#include <memory>
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+class NetworkInfo : public NetworkMachine
+{
+protected:
+    NetworkInfo()
+    {
+        QObject::connect(&network, &WiFiNetwork::networkButtonShown, model.get(),
+            &NetworkInfoModel::showNetworkButton);
+        QObject::connect(model.get(), &NetworkInfoModel::changed, [this] { ++changes; });
+    }
+
+    QString shown(const char *label) const
+    {
+        for (const NetworkInfoModel::Row &row : model->state().rows) {
+            if (row.label == QLatin1String(label)) {
+                return row.value;
+            }
+        }
+        return QStringLiteral("no such row");
+    }
+    const FavouriteButton &heart() const { return model->state().favourite; }
+
+    SavedNetworks saved{settings, network};
+    std::unique_ptr<NetworkInfoModel> model = std::make_unique<NetworkInfoModel>(
+        NetworkInfoModel::Collaborators{settings, scheduler, network, saved});
+    int changes = 0;
+};
+
+TEST_F(NetworkInfo, HasAButtonWhileThereIsANetwork)
+{
+    EXPECT_FALSE(model->state().buttonVisible);
+    network.updateWiFiNetwork();
+    EXPECT_TRUE(model->state().buttonVisible);
+    radio.leave();
+    network.updateWiFiNetwork();
+    EXPECT_FALSE(model->state().buttonVisible);
+}
+
+TEST_F(NetworkInfo, ShowsEveryDetail)
+{
+    network.updateWiFiNetwork();
+    const QList<NetworkInfoModel::Row> expected = {
+        {QStringLiteral("Network"), QStringLiteral("Home")},
+        {QStringLiteral("SSID"), QStringLiteral("Home")},
+        {QStringLiteral("BSSID"), homeBssid},
+        {QStringLiteral("IP Address"), QStringLiteral("198.51.100.7")},
+        {QStringLiteral("Security"), QStringLiteral("WPA2 Personal")},
+        {QStringLiteral("Channel"), QStringLiteral("36 (5 GHz, 80 MHz)")},
+        {QStringLiteral("Country Code"), QStringLiteral("DE")},
+        {QStringLiteral("RSSI"), QStringLiteral("-54 dBm")},
+        {QStringLiteral("Noise"), QStringLiteral("-92 dBm")},
+        {QStringLiteral("Transmit Rate"), QStringLiteral("866.7 Mbps")},
+        {QStringLiteral("PHY Mode"), QStringLiteral("802.11ac")},
+        {QStringLiteral("MCS Index"), QStringLiteral("9")},
+    };
+    EXPECT_EQ(model->state().rows, expected);
+}
+
+TEST_F(NetworkInfo, ShowsThatThereIsNoNetwork)
+{
+    radio.leave();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(shown("Network"), QStringLiteral("Not currently connected..."));
+    EXPECT_EQ(shown("Security"), QString());
+    EXPECT_EQ(model->state().rows.size(), 12);
+}
+
+TEST_F(NetworkInfo, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
+{
+    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, QStringLiteral("Before")},
+                                            {wifirecord::BSSID, officeBssid}});
+    const NetworkInfoModel later({settings, scheduler, network, saved});
+    EXPECT_EQ(later.state().rows.first().value, QStringLiteral("Before"));
+}
+
+TEST_F(NetworkInfo, IsRefreshedBeforeItOpens)
+{
+    model->toggleNetworkInfoPopover();
+    EXPECT_TRUE(model->state().popoverShown);
+    EXPECT_EQ(radio.reads, 1);
+    EXPECT_EQ(shown("SSID"), QStringLiteral("Home"));
+}
+
+TEST_F(NetworkInfo, IsRefreshedEveryThreeSecondsWhileItIsOpen)
+{
+    model->toggleNetworkInfoPopover();
+    radio.interface->rssi = -60;
+    scheduler.advance(2999ms);
+    EXPECT_EQ(radio.reads, 1);
+    scheduler.advance(1ms);
+    EXPECT_EQ(radio.reads, 2);
+    EXPECT_EQ(shown("RSSI"), QStringLiteral("-60 dBm"));
+    scheduler.advance(9s);
+    EXPECT_EQ(radio.reads, 5);
+}
+
+TEST_F(NetworkInfo, IsNoLongerRefreshedOnceItIsClosed)
+{
+    model->toggleNetworkInfoPopover();
+    model->popoverWillClose();
+    EXPECT_FALSE(model->state().popoverShown);
+    scheduler.advance(10s);
+    EXPECT_EQ(radio.reads, 1);
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(NetworkInfo, IsClosedByItsButtonToo)
+{
+    model->toggleNetworkInfoPopover();
+    model->toggleNetworkInfoPopover();
+    EXPECT_FALSE(model->state().popoverShown);
+    EXPECT_EQ(radio.reads, 1) << "closing refreshes nothing";
+    EXPECT_FALSE(scheduler.hasTimers());
+    model->toggleNetworkInfoPopover();
+    EXPECT_TRUE(model->state().popoverShown);
+}
+
+TEST_F(NetworkInfo, HasOneTimerHoweverOftenItIsStarted)
+{
+    model->startNetworkTimer();
+    scheduler.advance(2s);
+    model->startNetworkTimer();
+    scheduler.advance(2999ms);
+    EXPECT_EQ(radio.reads, 0);
+    scheduler.advance(1ms);
+    EXPECT_EQ(radio.reads, 1);
+    model->stopNetworkTimer();
+    model->stopNetworkTimer();
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(NetworkInfo, OffersToAddANetworkThatIsNotSaved)
+{
+    network.updateWiFiNetwork();
+    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Add Network to Favorites"));
+    model->chooseFavouriteButton();
+    EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).contains(homeBssid));
+    EXPECT_EQ(heart().symbol, QStringLiteral("heart.fill"));
+    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Remove Network from Favorites"));
+}
+
+TEST_F(NetworkInfo, OffersToRemoveANetworkThatIsSaved)
+{
+    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
+    radio.interface->bssid = homeBssid.toUpper();
+    model->toggleNetworkInfoPopover();
+    EXPECT_EQ(heart().symbol, QStringLiteral("heart.fill"));
+    model->chooseFavouriteButton();
+    EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
+    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+}
+
+TEST_F(NetworkInfo, OffersToAddWhereThereIsNoNetwork)
+{
+    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+    radio.leave();
+    model->chooseFavouriteButton();
+    EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
+}
+
+TEST_F(NetworkInfo, FollowsAListThatIsChangedElsewhere)
+{
+    network.updateWiFiNetwork();
+    settings.changeFromOutside(keys::savedNetworks,
+        QVariantMap{
+            {homeBssid, networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"))}});
+    scheduler.runPending();
+    EXPECT_TRUE(heart().removes);
+}
+
+TEST_F(NetworkInfo, SaysOnlyWhatChanged)
+{
+    network.updateWiFiNetwork();
+    changes = 0;
+    network.updateWiFiNetwork();
+    model->updateFavNetworkButton();
+    model->popoverWillClose();
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(NetworkInfo, PassesOverValuesThatAreNoTexts)
+{
+    settings.set(
+        keys::currentWiFiDict, QVariantMap{{wifirecord::SSID, 5},
+                                   {wifirecord::BSSID, QVariantList{1}}, {wifirecord::name, true}});
+    EXPECT_EQ(shown("SSID"), QString());
+    EXPECT_EQ(shown("BSSID"), QString());
+    EXPECT_EQ(shown("Network"), QString());
+}
+
+TEST_F(NetworkInfo, LeavesNothingBehind)
+{
+    model->toggleNetworkInfoPopover();
+    model.reset();
+    EXPECT_FALSE(scheduler.hasTimers());
+    EXPECT_FALSE(settings.hasObservers());
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/networks/SavedEntryPopoverModel.h"
+
+#include "networks/SavedAddressEditing.h"
+#include "unit/networks/NetworkEditing.h"
+
+#include <memory>
+
+namespace quillon::test {
+namespace {
+
+using Popover = SavedEntryPopoverModel::Popover;
+using TickButton = SavedEntryPopoverModel::TickButton;
+
+class EntryPopover : public NetworkEditing
+{
+protected:
+    EntryPopover()
+    {
+        editing->endEditing();
+        saveAddress(address, QStringLiteral("Printer"));
+        model = std::make_unique<SavedEntryPopoverModel>(*editing, addressEditing, scheduler);
+        QObject::connect(editing.get(), &SavedNetworkEditing::networkDefinitionChanged, model.get(),
+            &SavedEntryPopoverModel::showNetworkDefinition);
+        QObject::connect(editing.get(), &SavedNetworkEditing::editingFinished, model.get(),
+            &SavedEntryPopoverModel::closeNetworkPopover);
+        QObject::connect(&addressEditing, &SavedAddressEditing::editingFinished, model.get(),
+            &SavedEntryPopoverModel::closeAddressPopover);
+    }
+
+    void choose(TokenField field, const QVariantMap &entry)
+    {
+        model->tokenFieldMenuForRepresentedObject(field, entry, {100, 40});
+    }
+    void openNetwork()
+    {
+        choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+        scheduler.runPending();
+    }
+    void openAddress()
+    {
+        choose(TokenField::SavedAddresses, savedAddress(address));
+        scheduler.runPending();
+    }
+    const SavedEntryPopoverModel::State &state() const { return model->state(); }
+
+    const QString address = QStringLiteral("a4:83:e7:01:02:03");
+    SavedAddressEditing addressEditing{settings, scheduler};
+    std::unique_ptr<SavedEntryPopoverModel> model;
+};
+
+TEST_F(EntryPopover, OpensInTheNextTurnAroundThePointer)
+{
+    choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+    EXPECT_EQ(state().open, Popover::None);
+    EXPECT_EQ(editing->editingNetworkDict(), savedNetwork(homeBssid));
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::Network);
+    EXPECT_EQ(state().anchor, QRectF(97.5, 37.5, 5, 5));
+}
+
+TEST_F(EntryPopover, ShowsTheNetwork)
+{
+    openNetwork();
+    EXPECT_EQ(state().name, QStringLiteral("Home"));
+    EXPECT_EQ(state().ssid, QStringLiteral("Home"));
+    EXPECT_EQ(state().bssid, homeBssid);
+    EXPECT_EQ(state().address, QString());
+    EXPECT_TRUE(state().nameEnabled);
+    EXPECT_TRUE(state().removeEnabled);
+}
+
+TEST_F(EntryPopover, ShowsTheAddress)
+{
+    openAddress();
+    EXPECT_EQ(state().open, Popover::Address);
+    EXPECT_EQ(state().name, QStringLiteral("Printer"));
+    EXPECT_EQ(state().address, address);
+    EXPECT_EQ(state().bssid, QString());
+    EXPECT_TRUE(state().nameEnabled);
+    EXPECT_TRUE(state().removeEnabled);
+}
+
+TEST_F(EntryPopover, OpensFromNoOtherField)
+{
+    choose(TokenField::QuickAddresses, savedAddress(address));
+    choose(TokenField::Other, savedAddress(address));
+    scheduler.runPending();
+    EXPECT_EQ(state(), SavedEntryPopoverModel::State());
+    EXPECT_FALSE(addressEditing.editingAddressDict());
+}
+
+TEST_F(EntryPopover, GivesWayAtOnceToTheNextChosenToken)
+{
+    openNetwork();
+    choose(TokenField::SavedAddresses, savedAddress(address));
+    EXPECT_EQ(state().open, Popover::None);
+    EXPECT_FALSE(editing->editingNetworkDict());
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::Address);
+}
+
+TEST_F(EntryPopover, OpensForTheLastOfTwoTokensChosenInOneTurn)
+{
+    choose(TokenField::SavedAddresses, savedAddress(address));
+    choose(TokenField::SavedNetworks, savedNetwork(officeBssid));
+    QList<Popover> opened;
+    QObject::connect(
+        model.get(), &SavedEntryPopoverModel::changed, [&] { opened << state().open; });
+    scheduler.runPending();
+    EXPECT_EQ(opened, QList<Popover>{Popover::Network});
+    EXPECT_EQ(state().name, QStringLiteral("Office"));
+}
+
+TEST_F(EntryPopover, TakesTheNameAndClosesInTheNextTurn)
+{
+    openNetwork();
+    model->controlTextDidEndEditing(QStringLiteral("Office"));
+    EXPECT_EQ(name(), QStringLiteral("Office (3)"));
+    EXPECT_EQ(state().open, Popover::Network);
+    scheduler.runPending();
+    EXPECT_EQ(state(), SavedEntryPopoverModel::State());
+    EXPECT_FALSE(editing->editingNetworkDict());
+}
+
+TEST_F(EntryPopover, TakesTheNameOfAnAddressAndClosesInTheNextTurn)
+{
+    openAddress();
+    model->controlTextDidEndEditing(QStringLiteral("Scanner"));
+    EXPECT_EQ(savedAddress(address).value(savedentry::name).toString(), QStringLiteral("Scanner"));
+    EXPECT_EQ(state().open, Popover::Address);
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::None);
+    EXPECT_FALSE(addressEditing.editingAddressDict());
+}
+
+TEST_F(EntryPopover, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
+{
+    openNetwork();
+    model->controlTextDidEndEditing(QStringLiteral("Our house"));
+    choose(TokenField::SavedNetworks, savedNetwork(officeBssid));
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::Network);
+    EXPECT_EQ(state().name, QStringLiteral("Office"));
+    EXPECT_EQ(name(), QStringLiteral("Our house"));
+}
+
+TEST_F(EntryPopover, IgnoresANameThatEndsAfterIt)
+{
+    openNetwork();
+    model->closeNetworkPopover();
+    settings.clearJournal();
+    model->controlTextDidEndEditing(QStringLiteral("Late"));
+    model->removeEntry();
+    EXPECT_TRUE(settings.journal().isEmpty());
+}
+
+TEST_F(EntryPopover, RemovesItsNetwork)
+{
+    openNetwork();
+    model->removeEntry();
+    EXPECT_FALSE(settings.getDictionary(keys::savedNetworks).contains(homeBssid));
+    EXPECT_EQ(state().open, Popover::Network);
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::None);
+}
+
+TEST_F(EntryPopover, RemovesItsAddress)
+{
+    openAddress();
+    model->removeEntry();
+    EXPECT_TRUE(settings.getDictionary(keys::savedAddresses).isEmpty());
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::None);
+}
+
+TEST_F(EntryPopover, ClosesOnlyWhatIsOpen)
+{
+    openNetwork();
+    model->closeAddressPopover();
+    EXPECT_EQ(state().open, Popover::Network);
+    model->closeNetworkPopover();
+    EXPECT_EQ(state().open, Popover::None);
+    EXPECT_FALSE(editing->editingNetworkDict());
+}
+
+TEST_F(EntryPopover, TicksOneOfTwoButtonsAndActsOnTheOther)
+{
+    openNetwork();
+    EXPECT_EQ(state().bssidTickButton, (TickButton{.on = true, .hasAction = false}));
+    EXPECT_EQ(state().ssidTickButton, (TickButton{.on = false, .hasAction = true}));
+
+    settings.clearJournal();
+    model->chooseBssidTickButton();
+    EXPECT_TRUE(settings.journal().isEmpty()) << "it is on already";
+
+    model->chooseSsidTickButton();
+    EXPECT_EQ(state().ssidTickButton, (TickButton{.on = true, .hasAction = false}));
+    EXPECT_EQ(state().bssidTickButton, (TickButton{.on = false, .hasAction = true}));
+    EXPECT_TRUE(savedNetwork(homeBssid).contains(savedentry::ssidDefined));
+    EXPECT_EQ(rulesChanged, 1);
+    EXPECT_EQ(state().bssid, homeBssid);
+
+    model->chooseSsidTickButton();
+    EXPECT_EQ(rulesChanged, 1) << "it is on already";
+
+    model->chooseBssidTickButton();
+    EXPECT_EQ(state().bssidTickButton, (TickButton{.on = true, .hasAction = false}));
+    EXPECT_FALSE(savedNetwork(homeBssid).contains(savedentry::ssidDefined));
+    EXPECT_EQ(rulesChanged, 2);
+}
+
+TEST_F(EntryPopover, OpensWithTheModeThatIsSaved)
+{
+    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"), true);
+    openNetwork();
+    EXPECT_TRUE(state().ssidTickButton.on);
+    EXPECT_FALSE(state().bssidTickButton.on);
+}
+
+TEST_F(EntryPopover, HasNoTickButtonsForAnAddress)
+{
+    openAddress();
+    model->chooseSsidTickButton();
+    model->chooseBssidTickButton();
+    model->showNetworkDefinition();
+    EXPECT_EQ(state().ssidTickButton, TickButton());
+    EXPECT_EQ(state().bssidTickButton, TickButton());
+    EXPECT_EQ(rulesChanged, 0);
+}
+
+TEST_F(EntryPopover, MayBeGoneWhenItsTurnComes)
+{
+    choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+    model.reset();
+    scheduler.runPending();
+    EXPECT_TRUE(editing->editingNetworkDict());
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/preferences/AdvancedPreferencesModel.h"
+
+#include "fakes/FakePlatform.h"
+#include "helperlink/XPCMethods.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+class AdvancedPreferencesModelTest : public ::testing::Test
+{
+protected:
+    AdvancedPreferencesModelTest()
+    {
+        QObject::connect(&pane, &AdvancedPreferencesModel::appKeyWanted, [this] { ++fronts; });
+        for (const char *key : {"success", "device", "version", "other"}) {
+            machine.groupSettings.set(QString::fromLatin1(key), QStringLiteral("x"));
+        }
+    }
+
+    void readStatus()
+    {
+        helper.updateHelperInstalledStatus();
+        machine.scheduler.runPending();
+        pane.checkButtonStatus();
+    }
+
+    FakePlatform machine;
+    XPCMethods helper{machine.helper, machine.scheduler, machine.notifications};
+    AdvancedPreferencesModel pane{helper, machine.groupSettings, machine.scheduler};
+    int fronts = 0;
+};
+
+TEST_F(AdvancedPreferencesModelTest, WithTheHelperOnlyUninstallIsOffered)
+{
+    readStatus();
+    EXPECT_FALSE(pane.isInstallEnabled());
+    EXPECT_TRUE(pane.isUninstallEnabled());
+}
+
+TEST_F(AdvancedPreferencesModelTest, WithoutTheHelperOnlyInstallIsOffered)
+{
+    machine.helper.installed = false;
+    readStatus();
+    EXPECT_TRUE(pane.isInstallEnabled());
+    EXPECT_FALSE(pane.isUninstallEnabled());
+}
+
+TEST_F(AdvancedPreferencesModelTest, OnLoadInstallWaitsForTheHelpersAnswer)
+{
+    machine.helper.version = QStringLiteral("1.9");
+    pane.load();
+    EXPECT_FALSE(pane.isInstallEnabled());
+    machine.scheduler.runPending();
+    EXPECT_TRUE(pane.isInstallEnabled()) << "a helper of version 1.9 counts as not installed";
+}
+
+TEST_F(AdvancedPreferencesModelTest, OnLoadWithTheRightHelperInstallStaysDisabled)
+{
+    pane.load();
+    machine.scheduler.runPending();
+    EXPECT_FALSE(pane.isInstallEnabled());
+}
+
+TEST_F(AdvancedPreferencesModelTest, InstallReadsTheStatusAgainAndBringsTheWindowsToTheFront)
+{
+    pane.installHelper();
+    machine.scheduler.runPending();
+    EXPECT_TRUE(helper.isHelperInstalled());
+    EXPECT_EQ(fronts, 1);
+}
+
+TEST_F(AdvancedPreferencesModelTest, AFailedInstallOnlyBringsTheWindowsToTheFront)
+{
+    machine.helper.installFails = true;
+    pane.installHelper();
+    machine.scheduler.runPending();
+    EXPECT_FALSE(machine.helper.journal().contains(QStringLiteral("version")));
+    EXPECT_EQ(fronts, 1);
+}
+
+TEST_F(
+    AdvancedPreferencesModelTest, UninstallThroughAConnectionThatDropsSucceedsAndPurgesTheGroupKeys)
+{
+    machine.helper.mood = FakeHelper::Mood::Dropping;
+    machine.groupSettings.clearJournal();
+    pane.uninstallHelper();
+    machine.scheduler.runPending();
+    EXPECT_EQ(machine.groupSettings.stored().keys(), QStringList{QStringLiteral("other")});
+    EXPECT_EQ(machine.groupSettings.journal().last(), QStringLiteral("synchronize"));
+    EXPECT_EQ(fronts, 1);
+}
+
+TEST_F(AdvancedPreferencesModelTest, ARefusedUninstallKeepsTheGroupKeys)
+{
+    machine.helper.mood = FakeHelper::Mood::Refusing;
+    pane.uninstallHelper();
+    machine.scheduler.runPending();
+    EXPECT_EQ(machine.groupSettings.stored().size(), 4);
+    EXPECT_EQ(fronts, 1);
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/vendors/VendorFieldModel.h"
+
+#include "base/NotificationNames.h"
+#include "unit/vendors/VendorMachine.h"
+
+namespace quillon::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using Command = VendorFieldModel::Command;
+using Key = VendorFieldModel::Key;
+
+class VendorField : public VendorMachine
+{
+protected:
+    VendorField()
+    {
+        makeLive(registryOf({{"000001", "Apple"}, {"000002", "Apply"}, {"000003", "Sam"}}));
+        storeDevice(QStringLiteral("en0"), {});
+        select(QStringLiteral("en0"));
+        loadList();
+        QObject::connect(
+            &field, &VendorFieldModel::insertionPointDue, [this] { said << "insertion point"; });
+        QObject::connect(&field, &VendorFieldModel::listFocusDue, [this] { said << "focus"; });
+        QObject::connect(&field, &VendorFieldModel::scrollDue,
+            [this](qsizetype row) { said << "scroll " + QString::number(row); });
+        QObject::connect(&field, &VendorFieldModel::rowsChanged, [this] { said << "rows"; });
+    }
+
+    QString stored() const
+    {
+        return settings.getDictionary(keys::deviceDict)
+            .value(QStringLiteral("en0"))
+            .toMap()
+            .value(record::vendor)
+            .toString();
+    }
+
+    QStringList said;
+};
+
+TEST_F(VendorField, OpensThePopoverAtTheFirstLetter)
+{
+    field.controlTextDidChange(QStringLiteral("a"));
+    EXPECT_TRUE(field.state().popoverShown);
+    EXPECT_THAT(said, ElementsAre("insertion point", "rows"));
+    EXPECT_EQ(field.rowCount(), 2);
+    said.clear();
+    field.controlTextDidChange(QStringLiteral("apple"));
+    EXPECT_THAT(said, ElementsAre("rows"));
+    EXPECT_EQ(field.rowCount(), 1);
+    EXPECT_EQ(field.state().text, QLatin1String("apple"));
+    EXPECT_EQ(stored(), QString());
+}
+
+TEST_F(VendorField, ShowsAllWhenItIsCleared)
+{
+    field.controlTextDidChange(QStringLiteral("app"));
+    field.controlTextDidChange({});
+    EXPECT_EQ(field.rowCount(), 4);
+    EXPECT_TRUE(field.state().popoverShown);
+}
+
+TEST_F(VendorField, GoesToTheFirstRowByTheDownArrowAndChoosesIt)
+{
+    field.controlTextDidChange(QStringLiteral("appl"));
+    field.closeVendorViewPopover();
+    said.clear();
+    EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
+    EXPECT_TRUE(field.state().popoverShown);
+    EXPECT_THAT(said, ElementsAre("focus", "scroll 0"));
+    EXPECT_EQ(field.state().selectedRow, 0);
+    EXPECT_EQ(stored(), QLatin1String("Apple (000001)"));
+    EXPECT_EQ(field.state().text, QLatin1String("Apple (000001)"));
+}
+
+TEST_F(VendorField, ChoosesNothingByTheDownArrowWhenNothingIsShown)
+{
+    field.controlTextDidChange(QStringLiteral("nothing like that"));
+    EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+    EXPECT_EQ(stored(), QString());
+}
+
+TEST_F(VendorField, LeavesOtherCommandsToItself)
+{
+    EXPECT_FALSE(field.controlDoCommandBySelector(Command::Other));
+    EXPECT_FALSE(field.state().popoverShown);
+    EXPECT_THAT(said, IsEmpty());
+}
+
+TEST_F(VendorField, TakesTheRowThatIsSelected)
+{
+    EXPECT_TRUE(field.tableViewShouldSelectRow(3));
+    EXPECT_EQ(stored(), QLatin1String("Sam (000003)"));
+    EXPECT_EQ(field.state().text, QLatin1String("Sam (000003)"));
+    EXPECT_EQ(field.state().selectedRow, 3);
+    EXPECT_TRUE(field.tableViewShouldSelectRow(77));
+    EXPECT_EQ(field.state().selectedRow, 3);
+}
+
+TEST_F(VendorField, KeepsTheSelectedEntryWhenOtherRowsAreShown)
+{
+    field.tableViewShouldSelectRow(3);
+    field.controlTextDidChange(QStringLiteral("s"));
+    EXPECT_EQ(field.state().selectedRow, 0);
+    field.controlTextDidChange(QStringLiteral("a"));
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+}
+
+TEST_F(VendorField, LetsOnlyTheArrowsReachTheList)
+{
+    EXPECT_TRUE(field.tableKeyDown(Key::Down));
+    EXPECT_TRUE(field.tableKeyDown(Key::Up));
+    EXPECT_FALSE(field.tableKeyDown(Key::Other));
+}
+
+TEST_F(VendorField, AsksByReturnThatThePopoverBeClosed)
+{
+    int posted = 0;
+    notifications.addObserver(notifications::closeVendorViewPopover,
+        [&posted](const NotificationCenter::Notification &) { ++posted; });
+    EXPECT_FALSE(field.tableKeyDown(Key::Return));
+    EXPECT_EQ(posted, 1);
+}
+
+TEST_F(VendorField, TogglesThePopover)
+{
+    field.toggleVendorViewPopover();
+    EXPECT_TRUE(field.state().popoverShown);
+    field.toggleVendorViewPopover();
+    EXPECT_FALSE(field.state().popoverShown);
+}
+
+TEST_F(VendorField, TellsTheWholeTextOfARow)
+{
+    EXPECT_EQ(field.rowText(2), QLatin1String("Random Address"));
+    EXPECT_EQ(field.rowToolTip(3), QLatin1String("Sam (000003)"));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/window/MainWindowModel.h"
+
+#include "base/SettingsKeys.h"
+#include "devices/CurrentInterface.h"
+#include "devices/DeviceTable.h"
+#include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeScheduler.h"
+#include "fakes/FakeSettingsStore.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+class MainWindowModelTest : public ::testing::Test
+{
+protected:
+    MainWindowModelTest()
+    {
+        host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp1s0"),
+            QStringLiteral("3c:22:fb:00:00:01"), QStringLiteral("3c:22:fb:00:00:01"),
+            {QStringLiteral("192.0.2.10")}});
+        host.plug({QStringLiteral("Wi-Fi"), QStringLiteral("wlp2s0"),
+            QStringLiteral("3c:22:fb:00:00:02"), QStringLiteral("3c:22:fb:00:00:02"), {}, false});
+        devices.updateNetWorkInterfaces();
+        select(QStringLiteral("enp1s0"));
+        model.prepareWindow();
+        model.setHelperInstalled(true);
+    }
+
+    void select(const QString &device)
+    {
+        current.updateCurrentInterfaceDict(device);
+        scheduler.runPending();
+        model.populateSelectionButton();
+        model.populateHexField();
+        scheduler.runPending();
+    }
+
+    const MainWindowModel::State &shown() const { return model.state(); }
+
+    FakeScheduler scheduler;
+    FakeSettingsStore settings{scheduler};
+    FakeNetworkHost host;
+    FakeInterfaceAddresses addresses{host};
+    DeviceTable devices{settings, host, addresses};
+    CurrentInterface current{settings, scheduler, devices};
+    MainWindowModel model{settings, scheduler, devices, current};
+};
+
+TEST_F(MainWindowModelTest, TheSelectionButtonListsTheDevicesInTheirOrderWithTheSelectedOne)
+{
+    EXPECT_EQ(shown().devices, (QStringList{QStringLiteral("wlp2s0"), QStringLiteral("enp1s0")}));
+    EXPECT_EQ(shown().selectedDevice, QStringLiteral("enp1s0"));
+    EXPECT_TRUE(shown().selectionVisible);
+}
+
+TEST_F(MainWindowModelTest, TheSelectionButtonFollowsWhoeverSelectsAnInterface)
+{
+    current.updateCurrentInterfaceDict(QStringLiteral("wlp2s0"));
+    scheduler.runPending();
+    model.showPlaceholder(current.record().value(record::current).toString());
+    EXPECT_EQ(shown().selectedDevice, QStringLiteral("wlp2s0"));
+}
+
+TEST_F(MainWindowModelTest, WithoutADeviceTheSelectionButtonIsHidden)
+{
+    settings.set(keys::deviceDict, QVariant());
+    model.populateSelectionButton();
+    EXPECT_FALSE(shown().selectionVisible);
+}
+
+TEST_F(MainWindowModelTest, AClickOnTheSelectionButtonReadsTheDevicesAgain)
+{
+    host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp9s0"), {},
+        QStringLiteral("3c:22:fb:00:00:09"), {}});
+    devices.updateNetWorkInterfaces();
+    model.popupButtonClicked();
+    EXPECT_TRUE(shown().devices.contains(QStringLiteral("enp9s0")));
+}
+
+TEST_F(MainWindowModelTest, TheDetailsAreThoseOfTheSelectedInterface)
+{
+    EXPECT_EQ(shown().interfaceName, QStringLiteral("Ethernet"));
+    EXPECT_EQ(shown().hardwareAddress, QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(shown().ipAddress, QStringLiteral("192.0.2.10"));
+    EXPECT_TRUE(shown().linkActive);
+
+    select(QStringLiteral("wlp2s0"));
+    EXPECT_EQ(shown().interfaceName, QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(shown().ipAddress, QString());
+    EXPECT_FALSE(shown().linkActive);
+}
+
+TEST_F(MainWindowModelTest, WithoutTheHelperTheFieldIsDisabledAndTheHintIsShown)
+{
+    model.setHelperInstalled(false);
+    EXPECT_FALSE(shown().fieldEnabled);
+    EXPECT_FALSE(shown().randomiseEnabled);
+    EXPECT_FALSE(shown().restoreEnabled);
+    EXPECT_TRUE(shown().readMeVisible);
+
+    model.setHelperInstalled(true);
+    EXPECT_TRUE(shown().fieldEnabled);
+    EXPECT_TRUE(shown().randomiseEnabled);
+    EXPECT_FALSE(shown().readMeVisible);
+}
+
+TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryOne)
+{
+    EXPECT_FALSE(shown().hardwareIndicatorVisible);
+    EXPECT_FALSE(shown().restoreEnabled);
+    EXPECT_TRUE(shown().softwareButtonVisible);
+
+    host.giveAddress(QStringLiteral("enp1s0"), QStringLiteral("02:00:00:00:00:01"));
+    devices.updateNetWorkInterfaces();
+    select(QStringLiteral("enp1s0"));
+    EXPECT_TRUE(shown().hardwareIndicatorVisible);
+    EXPECT_TRUE(shown().restoreEnabled);
+    EXPECT_TRUE(shown().softwareButtonVisible);
+}
+
+TEST_F(MainWindowModelTest, ApplyIsOfferedForAWholeValidAddressThatIsNotInUse)
+{
+    EXPECT_TRUE(model.editField(QStringLiteral("02:11:22:33:44:55")));
+    EXPECT_TRUE(shown().updateEnabled);
+    model.editField(QStringLiteral("02:11:22:33:44:5"));
+    EXPECT_FALSE(shown().updateEnabled);
+    model.editField(QString());
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, TheAddressInUseInTheOtherCaseIsNotOffered)
+{
+    model.editField(QStringLiteral("3c:22:fb:00:00:01"));
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, AWholeAddressIsShownInDisplayCaseAndShorterTextsAsTyped)
+{
+    model.editField(QStringLiteral("a1:b2"));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("a1:b2"));
+    model.editField(QStringLiteral("a2:b2:c3:d4:e5:f6"));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("A2:B2:C3:D4:E5:F6"));
+}
+
+TEST_F(MainWindowModelTest, TwelveBareDigitsAreShownInDisplayCaseButNotOffered)
+{
+    model.editField(QStringLiteral("a2b2c3d4e5f6"));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("A2B2C3D4E5F6"));
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, SeventeenCharactersThatAreNoAddressAreNotOffered)
+{
+    model.editField(QStringLiteral("02:11:22:33:44::5"));
+    EXPECT_EQ(shown().fieldText.size(), 17);
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, ARefusedKeystrokeLeavesTheFieldAsItWas)
+{
+    model.editField(QStringLiteral("02:11"));
+    int restored = 0;
+    QObject::connect(&model, &MainWindowModel::fieldRestored, [&] { ++restored; });
+    EXPECT_FALSE(model.editField(QStringLiteral("02:11g")));
+    EXPECT_FALSE(model.editField(QStringLiteral("0211223344556")));
+    EXPECT_FALSE(model.editField(QStringLiteral("02:11:22:33:44:556")));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("02:11"));
+    EXPECT_EQ(restored, 3);
+}
+
+TEST_F(MainWindowModelTest, WithoutTheHelperTheApplyButtonIsNeverReEvaluated)
+{
+    model.setHelperInstalled(false);
+    model.setFieldText(QStringLiteral("02:11:22:33:44:55"));
+    model.checkUpdateButton();
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, TheApplyButtonIsEvaluatedOnTheMainThread)
+{
+    model.setFieldText(QStringLiteral("02:11:22:33:44:55"));
+    scheduler.asBackground([&] { model.checkUpdateButton(); });
+    EXPECT_FALSE(shown().updateEnabled);
+    scheduler.runPending();
+    EXPECT_TRUE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, SelectingAnotherInterfaceOffersNothingUntilAnAddressIsTyped)
+{
+    select(QStringLiteral("wlp2s0"));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("3C:22:FB:00:00:02"));
+    EXPECT_FALSE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, ADroppedAddressIsShownInDisplayCaseAndOffered)
+{
+    settings.setBool(keys::lowerCaseHEX, true);
+    EXPECT_TRUE(model.draggingEntered(QStringLiteral("AA:BB:CC:DD:EE:FF")));
+    EXPECT_TRUE(model.performDragOperation());
+    model.concludeDragOperation(QStringLiteral("AA:BB:CC:DD:EE:FF"));
+    EXPECT_EQ(shown().fieldText, QStringLiteral("aa:bb:cc:dd:ee:ff"));
+    EXPECT_TRUE(shown().updateEnabled);
+}
+
+TEST_F(MainWindowModelTest, DroppedTextThatIsNoAddressIsRefused)
+{
+    const QString before = shown().fieldText;
+    EXPECT_FALSE(model.draggingEntered(QStringLiteral("hello")));
+    model.concludeDragOperation(QStringLiteral("hello"));
+    model.populateHexFieldFromDrop(QStringLiteral("AABBCCDDEEFF"));
+    EXPECT_EQ(shown().fieldText, before);
+}
+
+TEST_F(MainWindowModelTest, ADropOnTheDisabledFieldIsRefused)
+{
+    model.setHelperInstalled(false);
+    const QString before = shown().fieldText;
+    EXPECT_FALSE(model.draggingEntered(QStringLiteral("02:11:22:33:44:55")));
+    EXPECT_FALSE(model.performDragOperation());
+    model.concludeDragOperation(QStringLiteral("02:11:22:33:44:55"));
+    EXPECT_EQ(shown().fieldText, before);
+}
+
+TEST_F(MainWindowModelTest, NothingIsAnnouncedWhenNothingChanges)
+{
+    int changes = 0;
+    QObject::connect(&model, &MainWindowModel::changed, [&] { ++changes; });
+    model.populateSelectionButton();
+    model.setHelperInstalled(true);
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(MainWindowModelTest, TheHintIsBoldBlueAndFourteenPointsLarge)
+{
+    const MainWindowModel::ReadMeStyle style = MainWindowModel::readMeStyle();
+    EXPECT_EQ(style.pointSize, 14);
+    EXPECT_DOUBLE_EQ(style.red, 0.43);
+    EXPECT_DOUBLE_EQ(style.green, 0.61);
+    EXPECT_DOUBLE_EQ(style.blue, 0.99);
+    EXPECT_DOUBLE_EQ(style.alpha, 1.0);
+}
+
+} // namespace
+} // namespace quillon::test

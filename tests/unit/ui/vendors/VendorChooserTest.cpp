@@ -1,0 +1,350 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/vendors/VendorChooser.h"
+
+#include "base/NotificationNames.h"
+#include "ui/theme/Theme.h"
+#include "ui/vendors/VendorTableView.h"
+#include "unit/ui/WindowMachine.h"
+#include "unit/vendors/VendorMachine.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace quillon::test {
+namespace {
+
+const QString device = QStringLiteral("enp1s0");
+
+/// The chooser in a window, above another field, with five manufacturers to choose from.
+class VendorChooserTest : public VendorMachine
+{
+protected:
+    VendorChooserTest()
+    {
+        token = notifications.addObserver(notifications::closeVendorViewPopover,
+            [this](const auto &) { field.closeVendorViewPopover(); });
+        theme.apply();
+        storeDevice(device, {});
+        select(device);
+        offer(registryOf({{"00000A", "Appian"}, {"00000B", "Apricot"}, {"00000C", "apple"},
+            {"00000D", "Zebra"}, {"00000E", "Mango"}}));
+        choice.updateVendorField({});
+
+        auto *column = new QVBoxLayout(&window);
+        auto *chooser = new VendorChooser(field, theme);
+        column->addWidget(chooser);
+        column->addWidget(other);
+        column->addStretch();
+        window.resize(460, 600);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        text = window.findChild<QLineEdit *>(QStringLiteral("vendorTextfield"));
+        toggle = window.findChild<QToolButton *>(QStringLiteral("vendorToggle"));
+        table = window.findChild<VendorTableView *>();
+        text->setFocus();
+    }
+    ~VendorChooserTest() override { notifications.removeObserver(token); }
+
+    void offer(const QByteArray &vendors)
+    {
+        makeLive(vendors);
+        loadList();
+    }
+    static void press(QWidget &widget, int key, const QString &typed = {})
+    {
+        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
+        QCoreApplication::sendEvent(&widget, &down);
+    }
+    void type(const QString &typed)
+    {
+        text->selectAll();
+        for (const QChar character : typed) {
+            press(*text, Qt::Key_unknown, QString(character));
+        }
+    }
+    static void click(QWidget &widget, const QPoint &place)
+    {
+        QMouseEvent down(QEvent::MouseButtonPress, place, widget.mapToGlobal(place), Qt::LeftButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &down);
+        QMouseEvent up(QEvent::MouseButtonRelease, place, widget.mapToGlobal(place), Qt::LeftButton,
+            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &up);
+    }
+    QStringList rows() const
+    {
+        QStringList rows;
+        for (int row = 0; row < table->model()->rowCount(); ++row) {
+            rows << table->model()->index(row, 0).data().toString();
+        }
+        return rows;
+    }
+    QString selected() const { return table->currentIndex().data().toString(); }
+    QString saved() const
+    {
+        return settings.getDictionary(keys::deviceDict)
+            .value(device)
+            .toMap()
+            .value(record::vendor)
+            .toString();
+    }
+
+    NotificationCenter::Token token = 0;
+    Theme theme;
+    QWidget window;
+    QLineEdit *other = new QLineEdit;
+    QLineEdit *text = nullptr;
+    QToolButton *toggle = nullptr;
+    VendorTableView *table = nullptr;
+};
+
+TEST_F(VendorChooserTest, ShowsTheChoiceAndKeepsItsListToItself)
+{
+    EXPECT_EQ(text->text(), QStringLiteral("Random Address"));
+    EXPECT_FALSE(table->isVisible());
+}
+
+TEST_F(VendorChooserTest, TypingOpensTheListOnWhatBeginsSo)
+{
+    type(QStringLiteral("app"));
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_EQ(
+        rows(), (QStringList{QStringLiteral("Appian (00000A)"), QStringLiteral("apple (00000C)")}));
+    EXPECT_EQ(text->text(), QStringLiteral("app"));
+    EXPECT_EQ(text->cursorPosition(), 3);
+    EXPECT_FALSE(text->hasSelectedText());
+    EXPECT_TRUE(text->hasFocus());
+    EXPECT_EQ(saved(), QString()) << "typing is no choice";
+}
+
+TEST_F(VendorChooserTest, AnEmptyFieldShowsAll)
+{
+    type(QStringLiteral("zeb"));
+    ASSERT_EQ(rows().size(), 1);
+    text->selectAll();
+    press(*text, Qt::Key_Backspace);
+    EXPECT_EQ(rows().size(), 6);
+}
+
+TEST_F(VendorChooserTest, DownMovesIntoTheListAndChoosesItsFirstRow)
+{
+    type(QStringLiteral("app"));
+    press(*text, Qt::Key_Down);
+    EXPECT_TRUE(table->hasFocus());
+    EXPECT_EQ(selected(), QStringLiteral("Appian (00000A)"));
+    EXPECT_EQ(saved(), QStringLiteral("Appian (00000A)"));
+    EXPECT_EQ(text->text(), QStringLiteral("Appian (00000A)"));
+}
+
+TEST_F(VendorChooserTest, DownOpensAListThatIsClosed)
+{
+    press(*text, Qt::Key_Down);
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(table->hasFocus());
+    EXPECT_EQ(table->currentIndex().row(), 0);
+}
+
+TEST_F(VendorChooserTest, DownInAnEmptyListChoosesNothing)
+{
+    type(QStringLiteral("nobody"));
+    press(*text, Qt::Key_Down);
+    EXPECT_FALSE(table->currentIndex().isValid());
+    EXPECT_EQ(saved(), QString());
+}
+
+TEST_F(VendorChooserTest, ArrowsInTheListChoose)
+{
+    type(QStringLiteral("ap"));
+    press(*text, Qt::Key_Down);
+    press(*table, Qt::Key_Down);
+    EXPECT_EQ(saved(), selected());
+    EXPECT_EQ(table->currentIndex().row(), 1);
+    press(*table, Qt::Key_Up);
+    EXPECT_EQ(table->currentIndex().row(), 0);
+    EXPECT_EQ(saved(), QStringLiteral("Appian (00000A)"));
+    EXPECT_EQ(rows().size(), 3) << "the choice keeps what was typed for";
+}
+
+TEST_F(VendorChooserTest, ReturnClosesTheListAndGivesTheKeyboardBack)
+{
+    press(*text, Qt::Key_Down);
+    press(*table, Qt::Key_Return);
+    EXPECT_FALSE(table->isVisible());
+    EXPECT_TRUE(text->hasFocus());
+    press(*text, Qt::Key_Down);
+    press(*table, Qt::Key_Enter);
+    EXPECT_FALSE(table->isVisible());
+}
+
+TEST_F(VendorChooserTest, OtherKeysDoNothingInTheList)
+{
+    press(*text, Qt::Key_Down);
+    const QString before = selected();
+    for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Right,
+             Qt::Key_Delete, Qt::Key_F2}) {
+        press(*table, key);
+        EXPECT_EQ(selected(), before) << key;
+    }
+    press(*table, Qt::Key_Z, QStringLiteral("z"));
+    EXPECT_EQ(selected(), before);
+    EXPECT_EQ(saved(), before);
+    EXPECT_TRUE(table->isVisible());
+}
+
+TEST_F(VendorChooserTest, ThePointerChooses)
+{
+    click(*toggle, toggle->rect().center());
+    const auto row = rows().indexOf(QStringLiteral("Zebra (00000D)"));
+    const QModelIndex zebra = table->model()->index(static_cast<int>(row), 0);
+    click(*table->viewport(), table->visualRect(zebra).center());
+    EXPECT_EQ(saved(), QStringLiteral("Zebra (00000D)"));
+    EXPECT_EQ(text->text(), QStringLiteral("Zebra (00000D)"));
+}
+
+TEST_F(VendorChooserTest, ThePointerChoosesTheSelectedRowToo)
+{
+    const QString zebra = QStringLiteral("Zebra (00000D)");
+    storeDevice(device, {{record::vendor, zebra}});
+    choice.setVendorSelectionForDevice(device);
+    type(QStringLiteral("zeb"));
+    ASSERT_EQ(selected(), zebra);
+    click(*table->viewport(), table->visualRect(table->currentIndex()).center());
+    EXPECT_EQ(text->text(), zebra);
+}
+
+TEST_F(VendorChooserTest, WhatTheProgramSelectsIsNoChoice)
+{
+    storeDevice(device, {{record::vendor, QStringLiteral("Zebra (00000D)")}});
+    int announced = 0;
+    const auto told =
+        notifications.addObserver(notifications::vendorUpdated, [&](const auto &) { ++announced; });
+    choice.setVendorSelectionForDevice(device);
+    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    click(*toggle, toggle->rect().center());
+    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    offer(registryOf({{"00000D", "Zebra"}, {"00000A", "Appian"}}));
+    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    notifications.removeObserver(told);
+    EXPECT_EQ(announced, 0);
+}
+
+TEST_F(VendorChooserTest, AListThatGetsTheKeyboardWithoutASelectionChoosesNothing)
+{
+    type(QStringLiteral("m"));
+    table->setFocus();
+    ASSERT_TRUE(table->hasFocus());
+    EXPECT_EQ(saved(), QString());
+    EXPECT_FALSE(table->currentIndex().isValid());
+    press(*table, Qt::Key_Down);
+    EXPECT_EQ(saved(), QStringLiteral("Mango (00000E)"));
+}
+
+TEST_F(VendorChooserTest, EscapeClosesTheListWhereverTheKeyboardIs)
+{
+    type(QStringLiteral("a"));
+    press(*text, Qt::Key_Escape);
+    EXPECT_FALSE(table->isVisible());
+    press(*text, Qt::Key_Down);
+    press(*table, Qt::Key_Escape);
+    EXPECT_FALSE(table->isVisible());
+    EXPECT_TRUE(text->hasFocus());
+}
+
+TEST_F(VendorChooserTest, TurningToAnotherControlClosesTheList)
+{
+    type(QStringLiteral("a"));
+    table->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(table->isVisible());
+    other->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(table->isVisible());
+    EXPECT_TRUE(other->hasFocus());
+}
+
+TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
+{
+    type(QStringLiteral("a"));
+    click(window, QPoint(4, window.height() - 4));
+    EXPECT_FALSE(table->isVisible());
+}
+
+TEST_F(VendorChooserTest, TheButtonInTheFieldOpensAndClosesAndSaysWhich)
+{
+    EXPECT_EQ(toggle->accessibleName(), QStringLiteral("Show manufacturers"));
+    click(*toggle, toggle->rect().center());
+    EXPECT_TRUE(table->isVisible());
+    EXPECT_EQ(toggle->accessibleName(), QStringLiteral("Hide manufacturers"));
+    EXPECT_TRUE(text->hasFocus()) << "the button does not take the keyboard";
+    click(*toggle, toggle->rect().center());
+    EXPECT_FALSE(table->isVisible());
+    EXPECT_TRUE(text->rect().contains(
+        toggle->mapTo(text->window(), QPoint()) - text->mapTo(text->window(), QPoint())));
+}
+
+TEST_F(VendorChooserTest, TheListLiesOverTheWindowAndLeavesItsSizeAlone)
+{
+    // The style is settled once the window has been laid out.
+    QCoreApplication::processEvents();
+    const QSize size = window.size();
+    const QSize wanted = window.sizeHint();
+    press(*text, Qt::Key_Down);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), size);
+    EXPECT_EQ(window.sizeHint(), wanted);
+    EXPECT_TRUE(window.rect().contains(table->geometry()));
+    EXPECT_GT(table->geometry().top(), text->mapTo(&window, text->rect().bottomLeft()).y());
+    EXPECT_EQ(table->width(), text->width());
+    EXPECT_TRUE(
+        table->geometry().intersects(QRect(other->mapTo(&window, QPoint()), other->size())));
+    EXPECT_EQ(window.childAt(table->geometry().center())->parentWidget(), table);
+}
+
+TEST_F(VendorChooserTest, ALongNameShowsItsBeginningAndTellsTheRest)
+{
+    const QByteArray name(120, 'W');
+    offer(registryOf({{"00000F", name}}));
+    type(QStringLiteral("w"));
+    press(*text, Qt::Key_Down);
+    const QString entry = QString::fromLatin1(name) + QStringLiteral(" (00000F)");
+    EXPECT_EQ(text->text(), entry);
+    EXPECT_EQ(text->cursorPosition(), 0);
+    EXPECT_EQ(text->toolTip(), entry);
+    EXPECT_EQ(table->model()->index(0, 0).data(Qt::ToolTipRole).toString(), entry);
+    EXPECT_EQ(table->textElideMode(), Qt::ElideMiddle) << "the identifier stays in sight";
+    EXPECT_EQ(window.width(), 460);
+}
+
+TEST_F(VendorChooserTest, TensOfThousandsOfRowsAreShownAndNarrowed)
+{
+    offer(registryOf(40'000));
+    click(*toggle, toggle->rect().center());
+    ASSERT_EQ(table->model()->rowCount(), 40'001);
+    EXPECT_EQ(selected(), QStringLiteral("Random Address"));
+    EXPECT_EQ(table->currentIndex().row(), 40'000);
+    EXPECT_GT(table->verticalScrollBar()->value(), 1000) << "the choice is in sight";
+    EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->currentIndex())));
+    type(QStringLiteral("maker 0001"));
+    EXPECT_EQ(table->model()->rowCount(), 256);
+    EXPECT_EQ(table->verticalScrollBar()->value(), 0) << "the best match is in sight";
+}
+
+TEST_F(VendorChooserTest, ToAssistiveTechnologyFieldAndListHaveNames)
+{
+    EXPECT_EQ(text->accessibleName(), QStringLiteral("Manufacturer of random addresses"));
+    EXPECT_FALSE(text->accessibleDescription().isEmpty());
+    press(*text, Qt::Key_Down);
+    QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(table);
+    ASSERT_NE(shown, nullptr);
+    EXPECT_EQ(shown->role(), QAccessible::List);
+    EXPECT_EQ(shown->text(QAccessible::Name), QStringLiteral("Manufacturers"));
+}
+
+} // namespace
+} // namespace quillon::test

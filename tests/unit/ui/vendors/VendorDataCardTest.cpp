@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/vendors/VendorDataCard.h"
+
+#include "ui/theme/Theme.h"
+#include "unit/vendors/VendorMachine.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace quillon::test {
+namespace {
+
+class VendorDataCardTest : public VendorMachine
+{
+protected:
+    VendorDataCardTest()
+    {
+        theme.apply();
+        makeLive(registryOf(3));
+        card = std::make_unique<VendorDataCard>(pane, theme);
+        card->show();
+    }
+
+    template <typename T>
+    T *part(const char *name) const
+    {
+        return card->findChild<T *>(QString::fromLatin1(name));
+    }
+    void unfold() { part<QToolButton>("vendorDataTitle")->click(); }
+
+    Theme theme;
+    std::unique_ptr<VendorDataCard> card;
+};
+
+TEST_F(VendorDataCardTest, IsFoldedUntilItsTitleIsChosen)
+{
+    auto *title = part<QToolButton>("vendorDataTitle");
+    EXPECT_EQ(title->text(), QStringLiteral("Vendor Data"));
+    EXPECT_EQ(title->accessibleDescription(), QStringLiteral("Folded"));
+    EXPECT_FALSE(part<QPushButton>("downloadButton")->isVisible());
+    title->click();
+    EXPECT_TRUE(part<QPushButton>("downloadButton")->isVisible());
+    EXPECT_EQ(title->accessibleDescription(), QStringLiteral("Unfolded"));
+    title->click();
+    EXPECT_FALSE(part<QPushButton>("downloadButton")->isVisible());
+}
+
+TEST_F(VendorDataCardTest, ShowsTheTextsOfThePane)
+{
+    settings.set(keys::vendorIDUpdatedDate, QStringLiteral("Nov 21, 2026, 2:37 PM"));
+    settings.set(keys::vendorCountValue, 32530);
+    pane.showStoredTexts();
+    EXPECT_EQ(part<QLabel>("updatedLabel")->text(),
+        QStringLiteral("Last Updated: Nov 21, 2026, 2:37 PM"));
+    EXPECT_EQ(part<QLabel>("updatedLabel")->accessibleName(), part<QLabel>("updatedLabel")->text());
+    EXPECT_EQ(part<QLabel>("vendorCount")->text(), QStringLiteral("32530 Vendor Identifiers"));
+    EXPECT_EQ(part<QPushButton>("downloadButton")->text(), QStringLiteral("Update database"));
+}
+
+TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
+{
+    unfold();
+    count.updateVendorCount();
+    scheduler.runPending();
+    auto *button = part<QPushButton>("downloadButton");
+    button->click();
+    EXPECT_EQ(http.requests(), QList<QUrl>{registry});
+    EXPECT_EQ(button->text(), QStringLiteral("Cancel download..."));
+    EXPECT_EQ(button->accessibleName(), QStringLiteral("Cancel download..."));
+    button->click();
+    EXPECT_EQ(http.cancelled().size(), 1);
+    EXPECT_EQ(button->text(), QStringLiteral("Update database"));
+    EXPECT_EQ(part<QLabel>("updatedLabel")->text(), QStringLiteral("Download cancelled..."));
+}
+
+TEST_F(VendorDataCardTest, TheBarFollowsTheDownload)
+{
+    unfold();
+    auto *bar = part<QProgressBar>("progressBar");
+    EXPECT_FALSE(bar->isVisible());
+    pane.showProgress(16384, 250'000, 1'000'000);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(bar->value() * 4, bar->maximum());
+    pane.resetDownloadButton();
+    EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(VendorDataCardTest, ADownloadOfUnknownSizeHasAnEmptyBar)
+{
+    unfold();
+    pane.showProgress(16384, 250'000, 1'000'000);
+    pane.showProgress(16384, 300'000, -1);
+    ASSERT_LT(pane.state().progress, 0.0F);
+    EXPECT_TRUE(part<QProgressBar>("progressBar")->isVisible());
+    EXPECT_EQ(part<QProgressBar>("progressBar")->value(), 0);
+}
+
+TEST_F(VendorDataCardTest, MoreThanTheWholeIsAFullBar)
+{
+    pane.showProgress(1, 3'000'000, 1'000'000);
+    EXPECT_EQ(
+        part<QProgressBar>("progressBar")->value(), part<QProgressBar>("progressBar")->maximum());
+}
+
+TEST_F(VendorDataCardTest, KeepsItsSizeWhileTheBarComesAndGoes)
+{
+    unfold();
+    constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;
+    pane.showStoredTexts();
+    const int before = card->heightForWidth(width);
+    pane.showProgress(1, 1, 2);
+    ASSERT_FALSE(part<QProgressBar>("progressBar")->isHidden());
+    EXPECT_EQ(card->heightForWidth(width), before);
+}
+
+TEST_F(VendorDataCardTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
+{
+    unfold();
+    constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;
+    for (const char *date :
+        {"(null)", "Wednesday, September 30, 2026, 12:37:59 PM (added 1 new)"}) {
+        pane.showAdditionNoted(
+            QString::fromLatin1(date) + QStringLiteral(" (added 32530 new Identifiers)"));
+        EXPECT_LE(card->minimumSizeHint().width(), width) << date;
+    }
+    pane.showDownloadBegun();
+    EXPECT_LE(card->minimumSizeHint().width(), width);
+    card->resize(width, card->heightForWidth(width));
+    QCoreApplication::processEvents();
+    auto *label = part<QLabel>("updatedLabel");
+    EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/DetailsArea.h"
+
+#include "ui/theme/Theme.h"
+#include "ui/window/InterfaceDetails.h"
+#include "ui/window/MainWindow.h"
+#include "unit/ui/WindowMachine.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QScrollBar>
+
+namespace quillon::test {
+namespace {
+
+/// The main window with a section under its details.
+class DetailsAreaTest : public WindowMachine
+{
+protected:
+    DetailsAreaTest()
+    {
+        theme.apply();
+        view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+        presence.openWindow();
+        area = view->findChild<DetailsArea *>();
+        section->setFixedHeight(20);
+        view->addDetails(section);
+        settle();
+    }
+
+    /// What grows makes what it is in grow, one after the other.
+    static void settle()
+    {
+        for (int round = 0; round < 5; ++round) {
+            QCoreApplication::processEvents();
+        }
+    }
+    void makeSection(int height)
+    {
+        section->setFixedHeight(height);
+        settle();
+    }
+    bool scrolls() const { return area->verticalScrollBar()->maximum() > 0; }
+
+    Theme theme;
+    FakeTaskBar taskBar;
+    std::unique_ptr<MainWindow> view;
+    DetailsArea *area = nullptr;
+    QLabel *section = new QLabel(QStringLiteral("last"));
+};
+
+TEST_F(DetailsAreaTest, TheWindowGrowsAndShrinksWithItsSections)
+{
+    const int before = view->height();
+    makeSection(120);
+    EXPECT_EQ(view->height(), before + 100);
+    EXPECT_FALSE(scrolls());
+    makeSection(20);
+    EXPECT_EQ(view->height(), before);
+}
+
+TEST_F(DetailsAreaTest, OnASmallScreenItScrollsAndTheWindowStaysOnTheScreen)
+{
+    makeSection(3000);
+    EXPECT_LE(view->frameGeometry().height(), view->screen()->availableGeometry().height());
+    EXPECT_TRUE(scrolls());
+    EXPECT_EQ(view->width(), Theme::windowWidth);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    makeSection(20);
+    EXPECT_FALSE(scrolls());
+}
+
+TEST_F(DetailsAreaTest, TheHintTakesItsRoomFromTheDetails)
+{
+    makeSection(3000);
+    const int before = area->height();
+    window.setHelperInstalled(false);
+    settle();
+    EXPECT_LT(area->height(), before);
+    EXPECT_LE(view->height(), view->screen()->availableGeometry().height());
+    window.setHelperInstalled(true);
+    settle();
+    EXPECT_EQ(area->height(), before);
+}
+
+TEST_F(DetailsAreaTest, AFewRowsStayInSight)
+{
+    area->setTallest(1);
+    settle();
+    EXPECT_GE(area->sizeHint().height(), 4 * Theme::rowHeight);
+}
+
+TEST_F(DetailsAreaTest, TakesNoKeyboardForItself)
+{
+    EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
+    EXPECT_TRUE(area->isAncestorOf(&view->details()));
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/AddressField.h"
+
+#include "ui/window/TextFieldBackgroundView.h"
+#include "unit/ui/WindowMachine.h"
+
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace quillon::test {
+namespace {
+
+class AddressFieldTest : public WindowMachine
+{
+protected:
+    AddressFieldTest()
+    {
+        QObject::connect(&window, &MainWindowModel::changed, &field, [this] { field.refresh(); });
+        QObject::connect(
+            &window, &MainWindowModel::fieldRestored, &field, [this] { field.refresh(); });
+    }
+
+    void paste(const QString &text)
+    {
+        QGuiApplication::clipboard()->setText(text);
+        field.paste();
+    }
+
+    AddressField field{window};
+};
+
+TEST_F(AddressFieldTest, ShowsTheAddressOfTheSelectedInterface)
+{
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, TakesWhatIsTyped)
+{
+    field.selectAll();
+    type(field, QStringLiteral("a"));
+    EXPECT_EQ(field.text(), QStringLiteral("a"));
+    EXPECT_EQ(window.state().fieldText, QStringLiteral("a"));
+}
+
+TEST_F(AddressFieldTest, ARefusedKeystrokeLeavesTextAndCursorAsTheyWere)
+{
+    field.setCursorPosition(4);
+    type(field, QStringLiteral("z"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(field.cursorPosition(), 4);
+    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, AnEighteenthCharacterIsRefused)
+{
+    field.setCursorPosition(17);
+    type(field, QStringLiteral("f"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, ARefusedPasteLeavesTextAndCursorAsTheyWere)
+{
+    field.setCursorPosition(2);
+    paste(QStringLiteral("not an address"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(field.cursorPosition(), 2);
+}
+
+TEST_F(AddressFieldTest, ARefusedPasteOverASelectionKeepsWhatWasSelected)
+{
+    field.selectAll();
+    paste(QStringLiteral("??"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, TwelveDigitsGetTheDisplayCaseAndTheCursorKeepsItsPlace)
+{
+    field.selectAll();
+    type(field, QStringLiteral("aabbccddeef"));
+    EXPECT_EQ(field.text(), QStringLiteral("aabbccddeef"));
+    field.setCursorPosition(1);
+    type(field, QStringLiteral("f"));
+    EXPECT_EQ(field.text(), QStringLiteral("AFABBCCDDEEF"));
+    EXPECT_EQ(field.cursorPosition(), 2);
+}
+
+TEST_F(AddressFieldTest, APastedAddressIsShownInDisplayCaseAndCanBeApplied)
+{
+    field.selectAll();
+    paste(QStringLiteral("02:00:5e:10:ab:cd"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:5E:10:AB:CD"));
+    EXPECT_TRUE(window.state().updateEnabled);
+}
+
+TEST_F(AddressFieldTest, WhatUndoBringsBackIsWhatTheModelHolds)
+{
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:0"));
+    field.undo();
+    EXPECT_EQ(field.text(), window.state().fieldText);
+}
+
+TEST_F(AddressFieldTest, AProgramThatWritesPastTheKeyboardIsHeldToTheRulesToo)
+{
+    field.setText(QStringLiteral("garbage!"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, FollowsTheSelectedInterface)
+{
+    select(QStringLiteral("wlp2s0"));
+    EXPECT_EQ(field.text(), QStringLiteral("3C:22:FB:00:00:02"));
+}
+
+TEST_F(AddressFieldTest, AFieldLeftEmptyShowsTheCurrentAddressAgain)
+{
+    field.selectAll();
+    press(field, Qt::Key_Backspace);
+    scheduler.runPending();
+    ASSERT_EQ(field.text(), QString()) << "not before the user is done with it";
+    QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&field, &left);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, ReturnInAnEmptyFieldShowsTheCurrentAddressAgain)
+{
+    field.selectAll();
+    press(field, Qt::Key_Backspace);
+    press(field, Qt::Key_Return);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(AddressFieldTest, WhatIsLeftUnfinishedStays)
+{
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&field, &left);
+    scheduler.runPending();
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:0"));
+}
+
+class DropOnTheFieldTest : public AddressFieldTest
+{
+protected:
+    bool enter(const QString &text)
+    {
+        data.setText(text);
+        QDragEnterEvent event({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QCoreApplication::sendEvent(&view, &event);
+        action = event.dropAction();
+        return event.isAccepted();
+    }
+
+    bool drop(const QString &text)
+    {
+        data.setText(text);
+        QDropEvent event({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QCoreApplication::sendEvent(&view, &event);
+        return event.isAccepted();
+    }
+
+    QMimeData data;
+    Qt::DropAction action = Qt::IgnoreAction;
+    TextFieldBackgroundView view{window};
+};
+
+TEST_F(DropOnTheFieldTest, AnAddressIsTakenAsACopyAndFillsTheField)
+{
+    EXPECT_TRUE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_EQ(action, Qt::CopyAction);
+    EXPECT_TRUE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:5E:10:AB:CD"));
+    EXPECT_TRUE(window.state().updateEnabled);
+}
+
+TEST_F(DropOnTheFieldTest, WhatIsNoAddressIsRefused)
+{
+    EXPECT_FALSE(enter(QStringLiteral("hello")));
+    drop(QStringLiteral("hello"));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(DropOnTheFieldTest, ADisabledFieldRefusesEverything)
+{
+    window.setHelperInstalled(false);
+    EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_FALSE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+}
+
+TEST_F(DropOnTheFieldTest, OnlyTheViewOfTheAddressFieldTakesDrops)
+{
+    view.setObjectName(QStringLiteral("anotherView"));
+    EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_FALSE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
+}
+
+TEST_F(DropOnTheFieldTest, SomethingElseThanTextIsRefused)
+{
+    data.clear();
+    data.setData(QStringLiteral("image/png"), QByteArray("x"));
+    QDragEnterEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    event.ignore();
+    QCoreApplication::sendEvent(&view, &event);
+    EXPECT_FALSE(event.isAccepted());
+}
+
+TEST_F(DropOnTheFieldTest, TheFieldItselfLeavesDropsToItsView)
+{
+    EXPECT_FALSE(field.acceptDrops());
+    EXPECT_TRUE(view.acceptDrops());
+}
+
+} // namespace
+} // namespace quillon::test

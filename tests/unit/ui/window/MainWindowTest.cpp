@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/MainWindow.h"
+
+#include "ui/theme/Theme.h"
+#include "unit/ui/WindowMachine.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyleOptionComboBox>
+#include <QTranslator>
+
+namespace quillon::test {
+namespace {
+
+/// A language in which everything takes half as much room again.
+class WordyLanguage : public QTranslator
+{
+public:
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        const QString english = QString::fromUtf8(text);
+        return english + QString(english.size() / 2 + 1, u'n');
+    }
+    bool isEmpty() const override { return false; }
+};
+
+class MainWindowTest : public WindowMachine
+{
+protected:
+    MainWindowTest()
+    {
+        theme.apply();
+        QObject::connect(&presence, &Presence::terminated, [this] { ++terminations; });
+        makeView();
+    }
+
+    void makeView()
+    {
+        view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+        QObject::connect(view.get(), &MainWindow::applyPressed, [this] { ++applied; });
+        presence.openWindow();
+    }
+
+    template <typename T>
+    T *named(const char *accessibleName) const
+    {
+        for (T *widget : view->findChildren<T *>()) {
+            if (widget->accessibleName() == QLatin1String(accessibleName)) {
+                return widget;
+            }
+        }
+        ADD_FAILURE() << "nothing is called " << accessibleName;
+        return nullptr;
+    }
+
+    void trigger(const QKeySequence &keys)
+    {
+        for (QAction *action : view->actions()) {
+            if (action->shortcut() == keys) {
+                action->trigger();
+                return;
+            }
+        }
+        ADD_FAILURE() << "no such shortcut";
+    }
+
+    Theme theme;
+    FakeTaskBar taskBar;
+    int terminations = 0;
+    int applied = 0;
+    std::unique_ptr<MainWindow> view;
+};
+
+TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
+{
+    for (QWidget *widget : view->findChildren<QWidget *>()) {
+        const bool isControl = widget->focusPolicy() != Qt::NoFocus &&
+                               (qobject_cast<QPushButton *>(widget) != nullptr ||
+                                   qobject_cast<QLineEdit *>(widget) != nullptr ||
+                                   qobject_cast<QComboBox *>(widget) != nullptr);
+        if (isControl) {
+            const auto *button = qobject_cast<QPushButton *>(widget);
+            const QString name = button == nullptr ? widget->accessibleName()
+                                                   : button->accessibleName() + button->text();
+            EXPECT_FALSE(name.isEmpty()) << widget->metaObject()->className();
+            EXPECT_FALSE(widget->accessibleDescription().isEmpty()) << name.toStdString();
+        }
+    }
+    for (const char *name :
+        {"Apply address", "Randomise address", "Restore factory address", "Install helper"}) {
+        named<QPushButton>(name);
+    }
+    named<QLineEdit>("Address");
+    named<QComboBox>("Interface");
+    named<QLabel>("Helper hint");
+}
+
+TEST_F(MainWindowTest, ShowsTheSelectedInterface)
+{
+    EXPECT_EQ(named<QComboBox>("Interface")->currentText(), QStringLiteral("enp1s0"));
+    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("currentAddress"))->text(),
+        QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("hardwareAddress"))->text(),
+        QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("ipAddress"))->text(),
+        QStringLiteral("192.0.2.10"));
+    EXPECT_TRUE(view->findChild<QLabel *>(QStringLiteral("hardwareIndicator"))->isVisible());
+    EXPECT_EQ(
+        view->findChild<QLabel *>(QStringLiteral("portName"))->text(), QStringLiteral("Ethernet"));
+    EXPECT_EQ(
+        view->findChild<QLabel *>(QStringLiteral("linkState"))->text(), QStringLiteral("Active"));
+
+    select(QStringLiteral("wlp2s0"));
+    EXPECT_EQ(named<QComboBox>("Interface")->currentText(), QStringLiteral("wlp2s0"));
+    EXPECT_FALSE(view->findChild<QLabel *>(QStringLiteral("hardwareIndicator"))->isVisible());
+    EXPECT_EQ(
+        view->findChild<QLabel *>(QStringLiteral("linkState"))->text(), QStringLiteral("Inactive"));
+    EXPECT_FALSE(named<QPushButton>("Restore factory address")->isEnabled());
+}
+
+TEST_F(MainWindowTest, AChoiceIsReportedAndOnlyTheModelChangesTheSelection)
+{
+    QString picked;
+    QObject::connect(
+        view.get(), &MainWindow::interfacePicked, [&](const QString &title) { picked = title; });
+    auto *selector = named<QComboBox>("Interface");
+    selector->setCurrentIndex(0);
+    Q_EMIT selector->textActivated(QStringLiteral("wlp2s0"));
+    EXPECT_EQ(picked, QStringLiteral("wlp2s0"));
+    EXPECT_EQ(selector->currentText(), QStringLiteral("enp1s0"));
+}
+
+QStyle::State stateOf(const QComboBox &selector)
+{
+    // What a style is told of a button is protected.
+    struct Told : QComboBox
+    {
+        using QComboBox::initStyleOption;
+    };
+    QStyleOptionComboBox told;
+    (selector.*&Told::initStyleOption)(&told);
+    return told.state;
+}
+
+TEST_F(MainWindowTest, TheSelectorLosesItsEmphasisWhenTheModelSaysSo)
+{
+    auto *selector = named<QComboBox>("Interface");
+    selector->setAttribute(Qt::WA_UnderMouse);
+    ASSERT_TRUE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+    window.resetInfoButtons();
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+}
+
+TEST_F(MainWindowTest, TheSelectorLosesItsEmphasisWhenItsListCloses)
+{
+    auto *selector = named<QComboBox>("Interface");
+    selector->setAttribute(Qt::WA_UnderMouse);
+    selector->showPopup();
+    ASSERT_TRUE(stateOf(*selector).testFlag(QStyle::State_On));
+    selector->hidePopup();
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_On));
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_MouseOver));
+    EXPECT_FALSE(stateOf(*selector).testFlag(QStyle::State_Sunken));
+}
+
+TEST_F(MainWindowTest, OnlyItsGroundIsForMovingIt)
+{
+    const auto moves = [this](const QPoint &place, Qt::MouseButton button = Qt::LeftButton) {
+        QMouseEvent press(QEvent::MouseButtonPress, place, view->mapToGlobal(place), button, button,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(view.get(), &press);
+        return press.isAccepted();
+    };
+    const auto middleOf = [this](const QWidget *widget) {
+        return widget->mapTo(view.get(), widget->rect().center());
+    };
+    EXPECT_TRUE(moves(QPoint(4, 4)));
+    EXPECT_TRUE(moves(middleOf(view->findChild<QLabel *>(QStringLiteral("portName")))));
+    EXPECT_FALSE(moves(QPoint(4, 4), Qt::RightButton));
+    ASSERT_FALSE(named<QPushButton>("Apply address")->isEnabled());
+    for (const char *name : {"Apply address", "Randomise address"}) {
+        EXPECT_FALSE(moves(middleOf(named<QPushButton>(name)))) << name;
+    }
+    EXPECT_FALSE(moves(middleOf(named<QLineEdit>("Address"))));
+}
+
+TEST_F(MainWindowTest, ToAssistiveTechnologyItIsAWindow)
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(view.get());
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->role(), QAccessible::Window);
+    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Quillon"));
+}
+
+TEST_F(MainWindowTest, TheHintIsDrawnInTheModelsStyle)
+{
+    window.setHelperInstalled(false);
+    const auto *hint = named<QLabel>("Helper hint");
+    const auto look = MainWindowModel::readMeStyle();
+    EXPECT_EQ(look.pointSize, 14);
+    EXPECT_EQ(hint->font().pointSize(), look.pointSize);
+    EXPECT_TRUE(hint->font().bold());
+    EXPECT_TRUE(hint->alignment().testFlag(Qt::AlignLeft));
+    const QColor color = hint->palette().color(QPalette::WindowText);
+    EXPECT_NEAR(color.redF(), look.red, 0.005);
+    EXPECT_NEAR(color.greenF(), look.green, 0.005);
+    EXPECT_NEAR(color.blueF(), look.blue, 0.005);
+    EXPECT_NEAR(color.alphaF(), look.alpha, 0.005);
+}
+
+TEST_F(MainWindowTest, ButtonsReportWhatTheUserDoes)
+{
+    QStringList pressed;
+    QObject::connect(
+        view.get(), &MainWindow::randomisePressed, [&] { pressed << QStringLiteral("randomise"); });
+    QObject::connect(
+        view.get(), &MainWindow::restorePressed, [&] { pressed << QStringLiteral("restore"); });
+    named<QPushButton>("Randomise address")->click();
+    named<QPushButton>("Restore factory address")->click();
+    EXPECT_EQ(pressed, (QStringList{QStringLiteral("randomise"), QStringLiteral("restore")}));
+}
+
+TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
+{
+    auto *field = named<QLineEdit>("Address");
+    press(*field, Qt::Key_Return);
+    EXPECT_EQ(applied, 0);
+    window.editField(QStringLiteral("02:00:5e:10:ab:cd"));
+    EXPECT_TRUE(named<QPushButton>("Apply address")->isEnabled());
+    press(*field, Qt::Key_Return);
+    EXPECT_EQ(applied, 1);
+}
+
+TEST_F(MainWindowTest, WithoutTheHelperItOffersToInstallIt)
+{
+    int installs = 0;
+    QObject::connect(view.get(), &MainWindow::installPressed, [&] { ++installs; });
+    auto *install = named<QPushButton>("Install helper");
+    EXPECT_FALSE(install->isVisible());
+    window.setHelperInstalled(false);
+    EXPECT_TRUE(install->isVisible());
+    EXPECT_TRUE(named<QLabel>("Helper hint")->isVisible());
+    EXPECT_FALSE(named<QLineEdit>("Address")->isEnabled());
+    install->click();
+    EXPECT_EQ(installs, 1);
+    window.setInstalling(true);
+    EXPECT_FALSE(install->isEnabled());
+}
+
+TEST_F(MainWindowTest, TheHelperIsExplainedOnDemand)
+{
+    window.setHelperInstalled(false);
+    auto *explanation = named<QLabel>("About the helper");
+    EXPECT_FALSE(explanation->isVisible());
+    for (auto *button : view->findChildren<QPushButton *>()) {
+        if (button->isCheckable()) {
+            button->click();
+        }
+    }
+    EXPECT_TRUE(explanation->isVisible());
+    EXPECT_EQ(explanation->text(), MainWindowModel::readMeText());
+}
+
+TEST_F(MainWindowTest, ClosedWithTheStatusItemInSightItOnlyHides)
+{
+    view->setReachableWhenClosed(true);
+    trigger(Qt::CTRL | Qt::Key_W);
+    EXPECT_FALSE(view->isVisible());
+    EXPECT_EQ(terminations, 0);
+    presence.openWindow();
+    EXPECT_TRUE(view->isVisible());
+}
+
+TEST_F(MainWindowTest, ClosedWithNothingElseInSightItEndsTheProgram)
+{
+    view->close();
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(MainWindowTest, TheQuitCommandEndsTheProgram)
+{
+    view->setReachableWhenClosed(true);
+    trigger(Qt::CTRL | Qt::Key_Q);
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(MainWindowTest, WithTheDockIconHiddenQuittingOnlyHides)
+{
+    settings.set(keys::hideDock, true);
+    presence.showMenuBarItem(true);
+    presence.setStatusItemAvailable(true);
+    trigger(Qt::CTRL | Qt::Key_Q);
+    EXPECT_EQ(terminations, 0);
+    EXPECT_FALSE(view->isVisible());
+}
+
+TEST_F(MainWindowTest, ItsTaskBarEntryFollowsTheDockIcon)
+{
+    presence.showMenuBarItem(true);
+    presence.setStatusItemAvailable(true);
+    EXPECT_FALSE(taskBar.skipped);
+    settings.set(keys::hideDock, true);
+    presence.updateDock();
+    EXPECT_TRUE(taskBar.skipped);
+    taskBar.skipped = false;
+    presence.hideWindow();
+    presence.openWindow();
+    EXPECT_TRUE(taskBar.skipped) << "said again each time that the window is shown";
+    presence.setStatusItemAvailable(false);
+    EXPECT_FALSE(taskBar.skipped);
+}
+
+TEST_F(MainWindowTest, NothingIsCutOffInAWordyLanguage)
+{
+    WordyLanguage language;
+    QCoreApplication::installTranslator(&language);
+    window.setHelperInstalled(false);
+    makeView();
+    QCoreApplication::removeTranslator(&language);
+    QCoreApplication::processEvents();
+    for (QWidget *widget : view->findChildren<QWidget *>()) {
+        const bool hasText = qobject_cast<QLabel *>(widget) != nullptr ||
+                             qobject_cast<QPushButton *>(widget) != nullptr;
+        if (!hasText || !widget->isVisible()) {
+            continue;
+        }
+        const auto *label = qobject_cast<QLabel *>(widget);
+        if (label != nullptr && label->wordWrap()) {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                << label->text().toStdString();
+        } else {
+            EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
+                << widget->accessibleName().toStdString();
+            EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
+        }
+    }
+}
+
+TEST_F(MainWindowTest, TheTabKeyGoesFromTopToBottom)
+{
+    window.editField(QStringLiteral("02:00:5e:10:ab:cd"));
+    QList<QPoint> places;
+    QWidget *first = named<QComboBox>("Interface");
+    QWidget *widget = first;
+    do {
+        if (widget->isEnabled() && widget->isVisible() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+            (qobject_cast<QPushButton *>(widget) ||
+                widget->parentWidget() == first->parentWidget() ||
+                qobject_cast<QLineEdit *>(widget))) {
+            places.append(widget->mapTo(view.get(), QPoint(0, widget->height() / 2)));
+        }
+        widget = widget->nextInFocusChain();
+    } while (widget != first);
+    ASSERT_EQ(places.size(), 5);
+    for (qsizetype index = 1; index < places.size(); ++index) {
+        const QPoint before = places.at(index - 1);
+        const QPoint after = places.at(index);
+        EXPECT_TRUE(after.y() > before.y() + 4 || after.x() > before.x());
+    }
+}
+
+} // namespace
+} // namespace quillon::test

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/window/StatusRows.h"
+
+#include "devices/RandomAddress.h"
+#include "fakes/FakeHttpClient.h"
+#include "fakes/FakeNotifier.h"
+#include "fakes/FakeRandomSource.h"
+#include "networks/ExternalIPAddress.h"
+#include "platform/NotificationCenter.h"
+#include "presentation/networks/ExternalAddressModel.h"
+#include "presentation/rules/CountdownModel.h"
+#include "presentation/rules/RuleStatusModel.h"
+#include "rules/CountdownTimers.h"
+#include "ui/theme/Theme.h"
+#include "ui/window/InterfaceDetails.h"
+#include "unit/ui/WindowMachine.h"
+
+#include <QLabel>
+#include <QToolButton>
+
+namespace quillon::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString wired = QStringLiteral("enp1s0");
+const QString wifi = QStringLiteral("wlp2s0");
+
+class StatusRowsTest : public WindowMachine
+{
+protected:
+    StatusRowsTest()
+    {
+        theme.apply();
+        details = std::make_unique<InterfaceDetails>(window);
+        new StatusRows({externalAddressShown, status, countdown}, theme, *details);
+        details->resize(Theme::windowWidth - 2 * Theme::windowMargin, 300);
+        details->show();
+        QObject::connect(&timers, &CountdownTimers::ticked, &countdown,
+            [this](const QString &device, const QString &text, bool isPaused) {
+                countdown.showCountdown(device, text, isPaused);
+            });
+        QObject::connect(&timers, &CountdownTimers::timerLabelStale, &countdown,
+            [this] { countdown.hideTimerLabel(); });
+    }
+
+    template <typename T>
+    T *part(const char *name) const
+    {
+        return details->findChild<T *>(QString::fromLatin1(name));
+    }
+    void setRecord(const QString &device, const QString &key, const QVariant &value)
+    {
+        QVariantMap table = settings.getDictionary(keys::deviceDict);
+        QVariantMap changed = table.value(device).toMap();
+        changed[key] = value;
+        table[device] = changed;
+        settings.set(keys::deviceDict, table);
+    }
+    void startCountdown(const QString &device)
+    {
+        setRecord(device, record::rule, QVariantMap{{QStringLiteral("timerMinutes"), 5}});
+        timers.startCountDownTimer(device);
+        scheduler.advance(1s);
+    }
+
+    Theme theme;
+    NotificationCenter notifications;
+    FakeHttpClient http{scheduler};
+    ExternalIPAddress externalAddress{http, settings, QUrl(QStringLiteral("https://ip.test"))};
+    ExternalAddressModel externalAddressShown{settings, externalAddress};
+    RuleStatusModel status{devices};
+    FakeNotifier notifier;
+    FakeRandomSource random;
+    RandomAddress randomAddress{random, devices, [](const QString &, const QString &) {}};
+    CountdownTimers timers{{scheduler, notifications, notifier, devices, randomAddress}};
+    CountdownModel countdown{timers, current};
+    std::unique_ptr<InterfaceDetails> details;
+};
+
+TEST_F(StatusRowsTest, AnExternalAddressThatNobodyKnowsIsADash)
+{
+    EXPECT_EQ(part<QLabel>("externalAddress")->text(), QStringLiteral("–"));
+    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), QStringLiteral("None"));
+}
+
+TEST_F(StatusRowsTest, FollowsTheExternalAddress)
+{
+    settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    EXPECT_EQ(part<QLabel>("externalAddress")->text(), QStringLiteral("198.51.100.7"));
+    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), QStringLiteral("198.51.100.7"));
+}
+
+TEST_F(StatusRowsTest, ItsButtonAsksForTheExternalAddress)
+{
+    auto *button = part<QToolButton>("refreshExternalIP");
+    EXPECT_EQ(button->accessibleName(), QStringLiteral("Refresh external address"));
+    button->click();
+    EXPECT_EQ(http.requests().size(), 1);
+}
+
+TEST_F(StatusRowsTest, TellsWhetherARuleIsInForce)
+{
+    const auto shownFor = [this](int hasRule) {
+        setRecord(wired, record::hasRule, hasRule);
+        status.updateRuleStatusForDevice(wired);
+        return part<QLabel>("rulesLabel")->text();
+    };
+    EXPECT_EQ(part<QLabel>("rulesLabel")->text(), QStringLiteral("No rules"));
+    EXPECT_EQ(shownFor(1), QStringLiteral("Active rule"));
+    EXPECT_EQ(part<QLabel>("rulesLabel")->toolTip(), QStringLiteral("has an Active rule"));
+    EXPECT_EQ(shownFor(2), QStringLiteral("No active rules"));
+    EXPECT_EQ(part<QLabel>("rulesLabel")->accessibleName(), QStringLiteral("No active rules"));
+    EXPECT_EQ(shownFor(0), QStringLiteral("No rules"));
+}
+
+TEST_F(StatusRowsTest, TheCountdownComesAndGoes)
+{
+    auto *label = part<QLabel>("timerLabel");
+    EXPECT_FALSE(label->isVisible());
+    const int without = details->sizeHint().height();
+    startCountdown(wired);
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_EQ(label->text(), QStringLiteral("...changing MAC Address in 00:04:59"));
+    EXPECT_TRUE(part<QToolButton>("pauseButton")->isVisible());
+    EXPECT_GT(details->sizeHint().height(), without);
+    timers.stopCountdownTimer(wired);
+    EXPECT_FALSE(label->isVisible());
+    EXPECT_FALSE(part<QToolButton>("resumeButton")->isVisible());
+    EXPECT_EQ(details->sizeHint().height(), without);
+}
+
+TEST_F(StatusRowsTest, TheCountdownOfAnotherInterfaceIsNotShown)
+{
+    startCountdown(wifi);
+    EXPECT_FALSE(part<QLabel>("timerLabel")->isVisible());
+}
+
+TEST_F(StatusRowsTest, OneOfPauseAndResumeCanBePressed)
+{
+    startCountdown(wired);
+    auto *pause = part<QToolButton>("pauseButton");
+    auto *resume = part<QToolButton>("resumeButton");
+    EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{true, false}));
+    pause->click();
+    EXPECT_FALSE(pause->isEnabled());
+    scheduler.advance(2s);
+    EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{false, true}));
+    const QString paused = part<QLabel>("timerLabel")->text();
+    EXPECT_TRUE(paused.contains(QStringLiteral("(paused)")));
+    scheduler.advance(5s);
+    EXPECT_EQ(part<QLabel>("timerLabel")->text(), paused);
+    resume->click();
+    EXPECT_FALSE(resume->isEnabled());
+    scheduler.advance(2s);
+    EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{true, false}));
+    EXPECT_FALSE(part<QLabel>("timerLabel")->text().contains(QStringLiteral("(paused)")));
+}
+
+TEST_F(StatusRowsTest, ItsButtonsSayWhatTheyDo)
+{
+    EXPECT_EQ(part<QToolButton>("pauseButton")->accessibleName(), QStringLiteral("Pause"));
+    EXPECT_EQ(part<QToolButton>("resumeButton")->accessibleName(), QStringLiteral("Resume"));
+    for (const char *name : {"pauseButton", "resumeButton", "refreshExternalIP"}) {
+        EXPECT_NE(part<QToolButton>(name)->focusPolicy() & Qt::TabFocus, 0) << name;
+    }
+}
+
+TEST_F(StatusRowsTest, AllRowsAreOfOneHeightAndTheirValuesInOneColumn)
+{
+    settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    details->adjustSize();
+    QCoreApplication::processEvents();
+    QList<int> middles, lefts;
+    for (const char *name : {"currentAddress", "hardwareAddress", "ipAddress", "externalAddress"}) {
+        const auto *label = part<QLabel>(name);
+        middles << label->mapTo(details.get(), label->rect().center()).y();
+        lefts << label->mapTo(details.get(), QPoint()).x();
+    }
+    EXPECT_EQ(lefts, QList<int>(4, lefts.first()));
+    for (qsizetype row = 2; row < middles.size(); ++row) {
+        EXPECT_EQ(middles[row] - middles[row - 1], middles[1] - middles[0]) << row;
+    }
+}
+
+TEST_F(StatusRowsTest, ACountdownDoesNotWidenTheWindow)
+{
+    const QString text = QStringLiteral("...changing MAC Address in 166:39:59 (paused)");
+    countdown.showCountdown(wired, text + text, true);
+    EXPECT_LE(details->minimumSizeHint().width(), Theme::windowWidth - 2 * Theme::windowMargin);
+}
+
+} // namespace
+} // namespace quillon::test
