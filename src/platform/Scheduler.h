@@ -7,6 +7,8 @@
 #include <chrono>
 #include <functional>
 
+class QObject;
+
 namespace quillon {
 
 /// Time and threads. No other code calls a timer, a thread or the clock directly.
@@ -29,6 +31,10 @@ public:
     virtual void onMain(Task task) = 0;
     /// The same after `delay`; the token cancels it until it has begun.
     virtual Token onMainAfter(std::chrono::milliseconds delay, Task task) = 0;
+    /// The same two for a task of `context`: it does not run when `context` has been destroyed by
+    /// then. `context` is alive at the call and is destroyed on the main thread.
+    void onMain(const QObject *context, Task task);
+    Token onMainAfter(std::chrono::milliseconds delay, const QObject *context, Task task);
     /// Runs `task` on the main thread every `interval`, first after one interval, until cancelled;
     /// also while a menu is open.
     virtual Token repeat(std::chrono::milliseconds interval, Task task) = 0;

@@ -16,6 +16,8 @@ class FakeScheduler : public Scheduler
 public:
     QDateTime now() const override { return m_now.addMSecs(m_clockIsAhead.count()); }
     bool isMainThread() const override { return m_onMainThread; }
+    using Scheduler::onMain;
+    using Scheduler::onMainAfter;
     void onMain(Task task) override;
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
     Token repeat(std::chrono::milliseconds interval, Task task) override;

@@ -26,6 +26,8 @@ public:
 
     QDateTime now() const override;
     bool isMainThread() const override;
+    using Scheduler::onMain;
+    using Scheduler::onMainAfter;
     void onMain(Task task) override;
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
     Token repeat(std::chrono::milliseconds interval, Task task) override;

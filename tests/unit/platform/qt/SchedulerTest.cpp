@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <future>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -141,6 +142,44 @@ TYPED_TEST(SchedulerConformance, ARepeatedTaskComesEveryIntervalFirstAfterOneUnt
     EXPECT_EQ(runs, 3);
 }
 
+TYPED_TEST(SchedulerConformance, ATaskOfAnObjectRunsWhileTheObjectIsThere)
+{
+    QStringList done;
+    const QObject context;
+    this->scheduler.onMain([&] { done << QStringLiteral("a"); });
+    this->scheduler.onMain(&context, [&] {
+        EXPECT_TRUE(this->scheduler.isMainThread());
+        done << QStringLiteral("b");
+    });
+    this->scheduler.onMain([&] { done << QStringLiteral("c"); });
+    this->scheduler.onMainAfter(30ms, &context, [&] { done << QStringLiteral("d"); });
+    EXPECT_TRUE(done.isEmpty());
+    this->clock.pass(10ms);
+    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
+    this->clock.pass(100ms);
+    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c d"));
+}
+
+TYPED_TEST(SchedulerConformance, ATaskOfAnObjectThatIsDestroyedBeforeItsTimeNeverRuns)
+{
+    int runs = 0;
+    auto context = std::make_unique<QObject>();
+    this->scheduler.onMain([&] { context.reset(); });
+    this->scheduler.onMain(context.get(), [&] { ++runs; });
+    this->scheduler.onMainAfter(10ms, context.get(), [&] { ++runs; });
+    this->clock.pass(60ms);
+    EXPECT_EQ(runs, 0);
+}
+
+TYPED_TEST(SchedulerConformance, ADelayedTaskOfAnObjectCanBeCancelled)
+{
+    int runs = 0;
+    const QObject context;
+    this->scheduler.cancel(this->scheduler.onMainAfter(10ms, &context, [&] { ++runs; }));
+    this->clock.pass(60ms);
+    EXPECT_EQ(runs, 0);
+}
+
 TYPED_TEST(SchedulerConformance, ATaskMayCancelAnotherThatIsDueAtTheSameTime)
 {
     int runs = 0;
@@ -158,7 +197,7 @@ TYPED_TEST(SchedulerConformance, ATaskMayCancelAnotherThatIsDueAtTheSameTime)
     EXPECT_EQ(runs, 1);
 }
 
-TEST(QtScheduler, ARepeatedTaskAlsoComesWhileItsOwnCallHoldsALoopOpen)
+TEST(SchedulerOnQt, ARepeatedTaskAlsoComesWhileItsOwnCallHoldsALoopOpen)
 {
     RealClock clock;
     int runs = 0;
@@ -171,7 +210,7 @@ TEST(QtScheduler, ARepeatedTaskAlsoComesWhileItsOwnCallHoldsALoopOpen)
     EXPECT_GE(runs, 3);
 }
 
-TEST(QtScheduler, TokensCanBeCancelledFromAnotherThread)
+TEST(SchedulerOnQt, TokensCanBeCancelledFromAnotherThread)
 {
     RealClock clock;
     int runs = 0;
@@ -181,7 +220,7 @@ TEST(QtScheduler, TokensCanBeCancelledFromAnotherThread)
     EXPECT_EQ(runs, 0);
 }
 
-TEST(QtScheduler, TheDelayCountsFromTheCallEvenWhenTheMainThreadIsBusy)
+TEST(SchedulerOnQt, TheDelayCountsFromTheCallEvenWhenTheMainThreadIsBusy)
 {
     RealClock clock;
     bool ran = false;
@@ -191,7 +230,7 @@ TEST(QtScheduler, TheDelayCountsFromTheCallEvenWhenTheMainThreadIsBusy)
     EXPECT_TRUE(ran);
 }
 
-TEST(QtScheduler, ANegativeDelayIsNone)
+TEST(SchedulerOnQt, ANegativeDelayIsNone)
 {
     RealClock clock;
     bool ran = false;
@@ -201,7 +240,7 @@ TEST(QtScheduler, ANegativeDelayIsNone)
     EXPECT_TRUE(ran);
 }
 
-TEST(QtScheduler, ADelayOfMonthsIsNotCutShort)
+TEST(SchedulerOnQt, ADelayOfMonthsIsNotCutShort)
 {
     RealClock clock;
     int runs = 0;
@@ -213,7 +252,7 @@ TEST(QtScheduler, ADelayOfMonthsIsNotCutShort)
     EXPECT_EQ(runs, 0);
 }
 
-TEST(QtScheduler, ShutDownWaitsForWhatHasBegunAndDropsWhatWaits)
+TEST(SchedulerOnQt, ShutDownWaitsForWhatHasBegunAndDropsWhatWaits)
 {
     RealClock clock;
     std::atomic<bool> finished = false;
@@ -242,7 +281,7 @@ TEST(QtScheduler, ShutDownWaitsForWhatHasBegunAndDropsWhatWaits)
     EXPECT_EQ(dropped, 0);
 }
 
-TEST(QtScheduler, ManyThreadsMayGiveTasksAtOnce)
+TEST(SchedulerOnQt, ManyThreadsMayGiveTasksAtOnce)
 {
     RealClock clock;
     int onMain = 0;
