@@ -121,7 +121,7 @@ struct Outcome
     }
 };
 
-template <typename Machine>
+template <typename Fixture>
 class HelperLinkConformance : public ::testing::Test
 {
 protected:
@@ -182,13 +182,13 @@ protected:
 
     const QString device = QStringLiteral("enp2s0");
     const QString address = QStringLiteral("02:00:00:00:be:0f");
-    Machine machine;
+    Fixture machine;
     HelperLink &link = machine.link;
     QByteArray authorization;
 };
 
-using Machines = ::testing::Types<MadeUp, Installed>;
-TYPED_TEST_SUITE(HelperLinkConformance, Machines);
+using Fixtures = ::testing::Types<MadeUp, Installed>;
+TYPED_TEST_SUITE(HelperLinkConformance, Fixtures);
 
 TYPED_TEST(HelperLinkConformance, AnAuthorizationIsThirtyTwoBytesFreshEachTime)
 {

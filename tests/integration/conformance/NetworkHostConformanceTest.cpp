@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "FakeMachines.h"
-#include "LinuxMachine.h"
+#include "FakeHostFixtures.h"
+#include "LinuxHostFixture.h"
 #include "fakes/QtPrinting.h"
 
 #include <QSet>
@@ -12,7 +12,7 @@ namespace quillon::test {
 namespace {
 
 /// What every host tells of the same machine, whatever else is plugged into it.
-template <typename Machine>
+template <typename Fixture>
 class NetworkHostConformance : public ::testing::Test
 {
 protected:
@@ -55,13 +55,13 @@ protected:
     const QSet<QString> tested{card, second, renamed, bridge, containerEnd};
     const QString address = QStringLiteral("3c:22:fb:00:00:07");
     const QString other = QStringLiteral("3c:22:fb:00:00:08");
-    Machine made;
-    BenchMachine &machine = made;
+    Fixture made;
+    HostFixture &machine = made;
     NetworkHost &host = machine.host();
 };
 
-using Machines = ::testing::Types<FakeMachine, TextualMachine, LinuxMachine>;
-TYPED_TEST_SUITE(NetworkHostConformance, Machines);
+using Fixtures = ::testing::Types<FakeHostFixture, TextualHostFixture, LinuxHostFixture>;
+TYPED_TEST_SUITE(NetworkHostConformance, Fixtures);
 
 TYPED_TEST(NetworkHostConformance, APluggedCardIsAPortWithItsFacts)
 {

@@ -16,7 +16,7 @@ using testing::IsEmpty;
 
 constexpr contract::LinkLayerAddress wanted{0x02, 0x11, 0x22, 0x33, 0x44, 0x55};
 
-class AnAddressChange : public testing::Test
+class AddressChangeTest : public testing::Test
 {
 protected:
     Outcome change(const std::string &device, bool wifi = false)
@@ -31,7 +31,7 @@ protected:
     FakeKernelLink kernel;
 };
 
-TEST_F(AnAddressChange, isMadeLiveWhereTheDriverAllows)
+TEST_F(AddressChangeTest, isMadeLiveWhereTheDriverAllows)
 {
     kernel.add("enp1s0");
     EXPECT_EQ(errorOf(change("enp1s0")), "done");
@@ -39,7 +39,7 @@ TEST_F(AnAddressChange, isMadeLiveWhereTheDriverAllows)
     EXPECT_EQ(kernel.named("enp1s0").state.address, wanted);
 }
 
-TEST_F(AnAddressChange, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEverythingBack)
+TEST_F(AddressChangeTest, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEverythingBack)
 {
     for (int refusal : {EBUSY, EOPNOTSUPP}) {
         kernel = {};
@@ -57,14 +57,14 @@ TEST_F(AnAddressChange, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEveryth
     }
 }
 
-TEST_F(AnAddressChange, ofAWiFiInterfaceLeavesTheNetworkWithoutTryingLive)
+TEST_F(AddressChangeTest, ofAWiFiInterfaceLeavesTheNetworkWithoutTryingLive)
 {
     kernel.add("wlp2s0");
     EXPECT_EQ(errorOf(change("wlp2s0", true)), "done");
     EXPECT_THAT(kernel.steps, ElementsAre("read", "down", "set while down", "up", "put back"));
 }
 
-TEST_F(AnAddressChange, leavesAnInterfaceDownThatWasDown)
+TEST_F(AddressChangeTest, leavesAnInterfaceDownThatWasDown)
 {
     kernel.add("wlp2s0", 0);
     kernel.add("enp1s0", 0);
@@ -74,7 +74,7 @@ TEST_F(AnAddressChange, leavesAnInterfaceDownThatWasDown)
     EXPECT_EQ(kernel.named("enp1s0").state.flags & IFF_UP, 0U);
 }
 
-TEST_F(AnAddressChange, thatFailsWhileDownStillBringsTheInterfaceBack)
+TEST_F(AddressChangeTest, thatFailsWhileDownStillBringsTheInterfaceBack)
 {
     auto &interface = kernel.add("enp1s0");
     interface.refusesAlways = EOPNOTSUPP;
@@ -87,7 +87,7 @@ TEST_F(AnAddressChange, thatFailsWhileDownStillBringsTheInterfaceBack)
     EXPECT_EQ(interface.configuration.addresses.size(), 1U);
 }
 
-TEST_F(AnAddressChange, doesNotTakeDownWhatItCouldNotPutBack)
+TEST_F(AddressChangeTest, doesNotTakeDownWhatItCouldNotPutBack)
 {
     kernel.add("enp1s0").refusesWhileUp = EBUSY;
     kernel.failsToRead = EINTR;
@@ -95,7 +95,7 @@ TEST_F(AnAddressChange, doesNotTakeDownWhatItCouldNotPutBack)
     EXPECT_THAT(kernel.steps, ElementsAre("set while up", "read"));
 }
 
-TEST_F(AnAddressChange, saysWhichStepFailed)
+TEST_F(AddressChangeTest, saysWhichStepFailed)
 {
     kernel.add("wlp2s0");
     kernel.failsToGoDown = EPERM;
@@ -109,26 +109,26 @@ TEST_F(AnAddressChange, saysWhichStepFailed)
     EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("putting addresses and routes back"));
 }
 
-TEST_F(AnAddressChange, isNotRetriedForAnAddressThatTheKernelRefuses)
+TEST_F(AddressChangeTest, isNotRetriedForAnAddressThatTheKernelRefuses)
 {
     kernel.add("enp1s0").refusesAlways = EADDRNOTAVAIL;
     EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
     EXPECT_THAT(kernel.steps, ElementsAre("set while up"));
 }
 
-TEST_F(AnAddressChange, isAnErrorUnlessItTook)
+TEST_F(AddressChangeTest, isAnErrorUnlessItTook)
 {
     kernel.add("enp1s0").ignoresAddress = true;
     EXPECT_EQ(errorOf(change("enp1s0")), contract::error::addressDidNotTake.name);
 }
 
-TEST_F(AnAddressChange, ofAnInterfaceThatVanishesMeanwhileIsAnError)
+TEST_F(AddressChangeTest, ofAnInterfaceThatVanishesMeanwhileIsAnError)
 {
     kernel.add("enp1s0").vanishesAfterwards = true;
     EXPECT_EQ(errorOf(change("enp1s0")), contract::error::addressDidNotTake.name);
 }
 
-TEST_F(AnAddressChange, needsAnInterfaceOfExactlyThisName)
+TEST_F(AddressChangeTest, needsAnInterfaceOfExactlyThisName)
 {
     kernel.add("enp1s0");
     kernel.alternativeNames["lan"] = "enp1s0";
@@ -137,7 +137,7 @@ TEST_F(AnAddressChange, needsAnInterfaceOfExactlyThisName)
     EXPECT_THAT(kernel.steps, IsEmpty());
 }
 
-TEST_F(AnAddressChange, leavesLoopbackAndOtherKindsOfLinkAlone)
+TEST_F(AddressChangeTest, leavesLoopbackAndOtherKindsOfLinkAlone)
 {
     kernel.add("lo", IFF_UP | IFF_LOOPBACK, ARPHRD_LOOPBACK);
     kernel.add("odd", IFF_UP | IFF_LOOPBACK, ARPHRD_ETHER);

@@ -9,14 +9,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class AnIdlePeriod : public testing::Test
+class IdlePeriodTest : public testing::Test
 {
 protected:
     IdlePeriod::Time start{1000s};
     IdlePeriod idle{30s, start};
 };
 
-TEST_F(AnIdlePeriod, isOverAfterItsLength)
+TEST_F(IdlePeriodTest, isOverAfterItsLength)
 {
     EXPECT_FALSE(idle.isOver(start));
     EXPECT_FALSE(idle.isOver(start + 29s));
@@ -24,14 +24,14 @@ TEST_F(AnIdlePeriod, isOverAfterItsLength)
     EXPECT_TRUE(idle.isOver(start + 30s));
 }
 
-TEST_F(AnIdlePeriod, beginsAnewWithEveryUse)
+TEST_F(IdlePeriodTest, beginsAnewWithEveryUse)
 {
     idle.used(start + 29s);
     EXPECT_FALSE(idle.isOver(start + 58s));
     EXPECT_TRUE(idle.isOver(start + 59s));
 }
 
-TEST_F(AnIdlePeriod, neverHasLessThanNothingLeft)
+TEST_F(IdlePeriodTest, neverHasLessThanNothingLeft)
 {
     EXPECT_EQ(idle.left(start + 1h), 0s);
 }

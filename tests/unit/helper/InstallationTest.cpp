@@ -19,10 +19,10 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 
 /// A small system in a folder of its own, in which the test's user stands for root.
-class AnInstallation : public testing::Test
+class InstallationTest : public testing::Test
 {
 protected:
-    AnInstallation()
+    InstallationTest()
     {
         std::string name = fs::temp_directory_path() / "quillon-installation-XXXXXX";
         root = mkdtemp(name.data());
@@ -33,7 +33,7 @@ protected:
         write("/tool", "the program");
         layout = helperLayout();
     }
-    ~AnInstallation() override { fs::remove_all(root); }
+    ~InstallationTest() override { fs::remove_all(root); }
 
     static void makeFolders(const fs::path &path)
     {
@@ -90,7 +90,7 @@ protected:
     InstallationLayout layout;
 };
 
-TEST_F(AnInstallation, putsTheProgramAndItsFilesInPlace)
+TEST_F(InstallationTest, putsTheProgramAndItsFilesInPlace)
 {
     ASSERT_EQ(messageOf(install()), "done");
     EXPECT_EQ(read(tool), "the program");
@@ -110,7 +110,7 @@ TEST_F(AnInstallation, putsTheProgramAndItsFilesInPlace)
     EXPECT_EQ(status.st_mode & 07777U, 0644U);
 }
 
-TEST_F(AnInstallation, andItsRemovalLeaveNothingBehind)
+TEST_F(InstallationTest, andItsRemovalLeaveNothingBehind)
 {
     const auto before = listing();
     ASSERT_EQ(messageOf(install()), "done");
@@ -119,7 +119,7 @@ TEST_F(AnInstallation, andItsRemovalLeaveNothingBehind)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, removesOnlyFoldersThatItMade)
+TEST_F(InstallationTest, removesOnlyFoldersThatItMade)
 {
     makeFolders(root + "/usr/local/libexec");
     const auto before = listing();
@@ -128,7 +128,7 @@ TEST_F(AnInstallation, removesOnlyFoldersThatItMade)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, keepsAFolderThatIsInUseByOthersMeanwhile)
+TEST_F(InstallationTest, keepsAFolderThatIsInUseByOthersMeanwhile)
 {
     ASSERT_EQ(messageOf(install()), "done");
     write("/usr/local/libexec/other", "another program");
@@ -137,7 +137,7 @@ TEST_F(AnInstallation, keepsAFolderThatIsInUseByOthersMeanwhile)
     EXPECT_FALSE(fs::exists(root + "/usr/local/libexec/quillon4"));
 }
 
-TEST_F(AnInstallation, replacesAnOlderOneAndStillRemembersItsFolders)
+TEST_F(InstallationTest, replacesAnOlderOneAndStillRemembersItsFolders)
 {
     const auto before = listing();
     ASSERT_EQ(messageOf(install()), "done");
@@ -150,7 +150,7 @@ TEST_F(AnInstallation, replacesAnOlderOneAndStillRemembersItsFolders)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, leavesARunningOlderProgramItsFile)
+TEST_F(InstallationTest, leavesARunningOlderProgramItsFile)
 {
     ASSERT_EQ(messageOf(install()), "done");
     const Descriptor running{open((root + tool).c_str(), O_RDONLY)};
@@ -161,7 +161,7 @@ TEST_F(AnInstallation, leavesARunningOlderProgramItsFile)
     EXPECT_EQ(text, "the program");
 }
 
-TEST_F(AnInstallation, cleansUpAfterOneThatWasKilled)
+TEST_F(InstallationTest, cleansUpAfterOneThatWasKilled)
 {
     const auto before = listing();
     write(std::string{unit} + ".new", "half");
@@ -171,14 +171,14 @@ TEST_F(AnInstallation, cleansUpAfterOneThatWasKilled)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, thatIsNotThereIsRemovedAlready)
+TEST_F(InstallationTest, thatIsNotThereIsRemovedAlready)
 {
     const auto before = listing();
     EXPECT_EQ(messageOf(installation().uninstall()), "done");
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, refusesAFolderThatOthersCanWrite)
+TEST_F(InstallationTest, refusesAFolderThatOthersCanWrite)
 {
     for (const char *folder :
         {"/usr/local", "/etc/dbus-1/system.d", "/usr/share/polkit-1", "/etc"}) {
@@ -195,7 +195,7 @@ TEST_F(AnInstallation, refusesAFolderThatOthersCanWrite)
     }
 }
 
-TEST_F(AnInstallation, refusesAFolderThatIsALink)
+TEST_F(InstallationTest, refusesAFolderThatIsALink)
 {
     makeFolders(root + "/home/mallory/libexec");
     fs::create_directory_symlink(root + "/home/mallory/libexec", root + "/usr/local/libexec");
@@ -204,7 +204,7 @@ TEST_F(AnInstallation, refusesAFolderThatIsALink)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, refusesAFolderOfSomebodyElse)
+TEST_F(InstallationTest, refusesAFolderOfSomebodyElse)
 {
     const auto before = listing();
     const Descriptor program{open((root + "/tool").c_str(), O_RDONLY)};
@@ -214,7 +214,7 @@ TEST_F(AnInstallation, refusesAFolderOfSomebodyElse)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, refusesToReplaceALinkOrAFolderInAFilesPlace)
+TEST_F(InstallationTest, refusesToReplaceALinkOrAFolderInAFilesPlace)
 {
     write("/home/mallory/target", "precious");
     fs::create_symlink(root + "/home/mallory/target", root + policy);
@@ -226,7 +226,7 @@ TEST_F(AnInstallation, refusesToReplaceALinkOrAFolderInAFilesPlace)
     EXPECT_THAT(messageOf(install()), HasSubstr("refusing to replace it"));
 }
 
-TEST_F(AnInstallation, thatFailsHalfwayOverAnOlderOneLeavesTheOlderOne)
+TEST_F(InstallationTest, thatFailsHalfwayOverAnOlderOneLeavesTheOlderOne)
 {
     ASSERT_EQ(messageOf(install()), "done");
     const auto before = listing();
@@ -236,7 +236,7 @@ TEST_F(AnInstallation, thatFailsHalfwayOverAnOlderOneLeavesTheOlderOne)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, ofAPackageIsNotRemoved)
+TEST_F(InstallationTest, ofAPackageIsNotRemoved)
 {
     write(layout.packagedTool, "packaged");
     write(layout.packagedUnit, "packaged");
@@ -248,7 +248,7 @@ TEST_F(AnInstallation, ofAPackageIsNotRemoved)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, besideAPackageLeavesThePackagesFilesWhenItIsRemoved)
+TEST_F(InstallationTest, besideAPackageLeavesThePackagesFilesWhenItIsRemoved)
 {
     ASSERT_EQ(messageOf(install()), "done");
     write(layout.packagedTool, "packaged");
@@ -260,7 +260,7 @@ TEST_F(AnInstallation, besideAPackageLeavesThePackagesFilesWhenItIsRemoved)
     EXPECT_FALSE(fs::exists(root + unit));
 }
 
-TEST_F(AnInstallation, isRemovedEntirelyOrNotAtAll)
+TEST_F(InstallationTest, isRemovedEntirelyOrNotAtAll)
 {
     ASSERT_EQ(messageOf(install()), "done");
     chmod((root + "/usr/share/polkit-1").c_str(), 0777);
@@ -269,7 +269,7 @@ TEST_F(AnInstallation, isRemovedEntirelyOrNotAtAll)
     EXPECT_EQ(listing(), before);
 }
 
-TEST_F(AnInstallation, believesNoRecordThatNamesOtherFolders)
+TEST_F(InstallationTest, believesNoRecordThatNamesOtherFolders)
 {
     ASSERT_EQ(messageOf(install()), "done");
     makeFolders(root + "/srv/empty");

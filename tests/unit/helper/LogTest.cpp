@@ -7,13 +7,13 @@
 namespace quillon {
 namespace {
 
-TEST(HarmlessText, keepsWhatIsHarmless)
+TEST(LogTest, keepsWhatIsHarmless)
 {
     EXPECT_EQ(harmless("enp1s0"), "\"enp1s0\"");
     EXPECT_EQ(harmless(""), "\"\"");
 }
 
-TEST(HarmlessText, cannotForgeALine)
+TEST(LogTest, cannotForgeALine)
 {
     EXPECT_EQ(harmless("a\nroot: done"), "\"a\\x0aroot: done\"");
     EXPECT_EQ(harmless(std::string_view{"a\0b", 3}), "\"a\\x00b\"");
@@ -22,7 +22,7 @@ TEST(HarmlessText, cannotForgeALine)
     EXPECT_EQ(harmless("\xc3\xa9"), "\"\\xc3\\xa9\"");
 }
 
-TEST(HarmlessText, cannotFillTheLog)
+TEST(LogTest, cannotFillTheLog)
 {
     EXPECT_EQ(harmless(std::string(1 << 20, 'x')), '"' + std::string(64, 'x') + "\"...");
 }

@@ -15,7 +15,7 @@ NetlinkMessage end()
     return NetlinkMessage{nlmsg_alloc_simple(NLMSG_DONE, NLM_F_MULTI)};
 }
 
-TEST(TheEndOfATable, tellsThatItBrokeOff)
+TEST(NetlinkSocketTest, tellsThatItBrokeOff)
 {
     const NetlinkMessage message = end();
     int status = -ENOBUFS;
@@ -23,7 +23,7 @@ TEST(TheEndOfATable, tellsThatItBrokeOff)
     EXPECT_EQ(failureOfTable(nlmsg_hdr(message.get())), ENOBUFS);
 }
 
-TEST(TheEndOfATable, isGoodWithStatusZeroOrWithoutOne)
+TEST(NetlinkSocketTest, isGoodWithStatusZeroOrWithoutOne)
 {
     const NetlinkMessage message = end();
     EXPECT_EQ(failureOfTable(nlmsg_hdr(message.get())), 0);

@@ -18,10 +18,13 @@ using testing::IsEmpty;
 constexpr std::uint32_t quillonUser = 1000;
 constexpr std::uint32_t malloryUser = 1001;
 
-class APrivilegedRequest : public testing::Test
+class PrivilegedRequestsTest : public testing::Test
 {
 protected:
-    APrivilegedRequest() { callers.connections = {{":1.1", quillonUser}, {":1.2", malloryUser}}; }
+    PrivilegedRequestsTest()
+    {
+        callers.connections = {{":1.1", quillonUser}, {":1.2", malloryUser}};
+    }
 
     void ask(const std::string &caller)
     {
@@ -55,7 +58,7 @@ protected:
     std::vector<int> answers;
 };
 
-TEST_F(APrivilegedRequest, isCarriedOutAfterAYes)
+TEST_F(PrivilegedRequestsTest, isCarriedOutAfterAYes)
 {
     ask(":1.1");
     EXPECT_THAT(carriedOut, IsEmpty());
@@ -65,14 +68,14 @@ TEST_F(APrivilegedRequest, isCarriedOutAfterAYes)
     EXPECT_EQ(requests.waiting(), 0U);
 }
 
-TEST_F(APrivilegedRequest, isDecidedAboutItsSenderAndItsAction)
+TEST_F(PrivilegedRequestsTest, isDecidedAboutItsSenderAndItsAction)
 {
     ask(":1.2");
     EXPECT_EQ(authority.prompts.at(0).caller, ":1.2");
     EXPECT_EQ(authority.prompts.at(0).action, contract::actionChange);
 }
 
-TEST_F(APrivilegedRequest, isRefusedAfterANo)
+TEST_F(PrivilegedRequestsTest, isRefusedAfterANo)
 {
     ask(":1.1");
     authority.prompts.at(0).answer(false);
@@ -80,14 +83,14 @@ TEST_F(APrivilegedRequest, isRefusedAfterANo)
     EXPECT_THAT(answers, ElementsAre(notAuthorized));
 }
 
-TEST_F(APrivilegedRequest, worksWithAnAuthorityThatAnswersAtOnce)
+TEST_F(PrivilegedRequestsTest, worksWithAnAuthorityThatAnswersAtOnce)
 {
     authority.answersAtOnce = true;
     ask(":1.1");
     EXPECT_THAT(answers, ElementsAre(done));
 }
 
-TEST_F(APrivilegedRequest, handsTheOperationsErrorOn)
+TEST_F(PrivilegedRequestsTest, handsTheOperationsErrorOn)
 {
     operationOutcome = Refusal{contract::error::noSuchDevice, "none"};
     ask(":1.1");
@@ -95,7 +98,7 @@ TEST_F(APrivilegedRequest, handsTheOperationsErrorOn)
     EXPECT_THAT(answers, ElementsAre(contract::error::noSuchDevice.code));
 }
 
-TEST_F(APrivilegedRequest, ofACallerWhoLeftDuringThePromptTakesThePromptAway)
+TEST_F(PrivilegedRequestsTest, ofACallerWhoLeftDuringThePromptTakesThePromptAway)
 {
     ask(":1.1");
     leave(":1.1");
@@ -106,7 +109,7 @@ TEST_F(APrivilegedRequest, ofACallerWhoLeftDuringThePromptTakesThePromptAway)
     EXPECT_THAT(answers, ElementsAre(notAuthorized));
 }
 
-TEST_F(APrivilegedRequest, ofACallerWhoseDepartureIsStillOnItsWayIsRefused)
+TEST_F(PrivilegedRequestsTest, ofACallerWhoseDepartureIsStillOnItsWayIsRefused)
 {
     ask(":1.1");
     callers.connections.erase(":1.1");
@@ -115,14 +118,14 @@ TEST_F(APrivilegedRequest, ofACallerWhoseDepartureIsStillOnItsWayIsRefused)
     EXPECT_THAT(answers, ElementsAre(notAuthorized));
 }
 
-TEST_F(APrivilegedRequest, ofACallerWhoIsGoneAlreadyAsksNobody)
+TEST_F(PrivilegedRequestsTest, ofACallerWhoIsGoneAlreadyAsksNobody)
 {
     ask(":1.9");
     EXPECT_THAT(authority.prompts, IsEmpty());
     EXPECT_THAT(answers, ElementsAre(notAuthorized));
 }
 
-TEST_F(APrivilegedRequest, isNotTouchedByAnotherCallersDeparture)
+TEST_F(PrivilegedRequestsTest, isNotTouchedByAnotherCallersDeparture)
 {
     ask(":1.1");
     leave(":1.2");
@@ -131,7 +134,7 @@ TEST_F(APrivilegedRequest, isNotTouchedByAnotherCallersDeparture)
     EXPECT_THAT(answers, ElementsAre(done));
 }
 
-TEST_F(APrivilegedRequest, hasANameThatNobodyCanGuess)
+TEST_F(PrivilegedRequestsTest, hasANameThatNobodyCanGuess)
 {
     std::set<std::string> names;
     for (int i = 0; i < 100; ++i) {
@@ -145,7 +148,7 @@ TEST_F(APrivilegedRequest, hasANameThatNobodyCanGuess)
     }
 }
 
-TEST_F(APrivilegedRequest, answeredTwiceIsCarriedOutOnce)
+TEST_F(PrivilegedRequestsTest, answeredTwiceIsCarriedOutOnce)
 {
     ask(":1.1");
     ask(":1.1");
@@ -155,7 +158,7 @@ TEST_F(APrivilegedRequest, answeredTwiceIsCarriedOutOnce)
     EXPECT_EQ(requests.waiting(), 1U);
 }
 
-TEST_F(APrivilegedRequest, isOneOfFourPerCaller)
+TEST_F(PrivilegedRequestsTest, isOneOfFourPerCaller)
 {
     for (int i = 0; i < 5; ++i) {
         ask(":1.2");
@@ -166,7 +169,7 @@ TEST_F(APrivilegedRequest, isOneOfFourPerCaller)
     EXPECT_EQ(authority.prompts.size(), 5U);
 }
 
-TEST_F(APrivilegedRequest, isOneOfEightPerUserWhateverHisConnections)
+TEST_F(PrivilegedRequestsTest, isOneOfEightPerUserWhateverHisConnections)
 {
     for (int i = 10; i < 100; ++i) {
         connect(":1." + std::to_string(i), malloryUser);
@@ -179,7 +182,7 @@ TEST_F(APrivilegedRequest, isOneOfEightPerUserWhateverHisConnections)
     EXPECT_THAT(carriedOut, ElementsAre(":1.1"));
 }
 
-TEST_F(APrivilegedRequest, isOneOfThirtyTwoInAll)
+TEST_F(PrivilegedRequestsTest, isOneOfThirtyTwoInAll)
 {
     for (int i = 10; i < 60; ++i) {
         connect(":1." + std::to_string(i), 2000U + static_cast<unsigned>(i));
@@ -189,7 +192,7 @@ TEST_F(APrivilegedRequest, isOneOfThirtyTwoInAll)
     EXPECT_EQ(answers, std::vector<int>(18, tooMany));
 }
 
-TEST_F(APrivilegedRequest, makesRoomWhenItIsDecided)
+TEST_F(PrivilegedRequestsTest, makesRoomWhenItIsDecided)
 {
     for (int i = 0; i < 4; ++i) {
         ask(":1.2");
@@ -199,7 +202,7 @@ TEST_F(APrivilegedRequest, makesRoomWhenItIsDecided)
     EXPECT_EQ(authority.prompts.size(), 5U);
 }
 
-TEST_F(APrivilegedRequest, isRefusedWhenTheHelperEnds)
+TEST_F(PrivilegedRequestsTest, isRefusedWhenTheHelperEnds)
 {
     ask(":1.1");
     ask(":1.2");

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BenchMachine.h"
+#include "HostFixture.h"
 #include "integration/platform/linux/Commands.h"
 #include "integration/platform/linux/Waiting.h"
 #include "platform/linux/netlink/NetlinkHost.h"
@@ -15,10 +15,10 @@
 namespace quillon::test {
 
 /// The kernel of this network namespace, changed with ip(8). A card is one end of a virtual cable.
-class LinuxMachine : public BenchMachine
+class LinuxHostFixture : public HostFixture
 {
 public:
-    ~LinuxMachine() override
+    ~LinuxHostFixture() override
     {
         for (const QString &device : std::as_const(m_plugged)) {
             command(QStringLiteral("ip link del %1").arg(device));

@@ -8,11 +8,11 @@
 
 namespace quillon::test {
 
-/// A machine on the bench, whose interfaces a test plugs and changes while a host reads them.
-class BenchMachine
+/// A machine whose interfaces a test plugs and changes while a host reads them.
+class HostFixture
 {
 public:
-    virtual ~BenchMachine() = default;
+    virtual ~HostFixture() = default;
 
     virtual NetworkHost &host() = 0;
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "BenchMachine.h"
+#include "HostFixture.h"
 #include "fakes/FakeNetworkHost.h"
 #include "platform/CommandRunner.h"
 #include "platform/textual/TextualHost.h"
@@ -10,7 +10,7 @@
 namespace quillon::test {
 
 /// The machine that the program's own tests use.
-class FakeMachine : public BenchMachine
+class FakeHostFixture : public HostFixture
 {
 public:
     NetworkHost &host() override { return m_model; }
@@ -58,7 +58,7 @@ private:
 };
 
 /// The same machine, known only by what its two commands print.
-class TextualMachine : public FakeMachine
+class TextualHostFixture : public FakeHostFixture
 {
 public:
     NetworkHost &host() override { return m_host; }
