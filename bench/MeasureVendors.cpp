@@ -5,8 +5,8 @@
 //   rewrite            writes that over the live one and waits for the disk: nanoseconds
 //   lookup ASSIGNMENT  one lookup in the live database: nanoseconds, 1 when it was found
 //   count              counts the live database's rows: nanoseconds, rows
-//   list               reads the live database and builds the list to choose from: nanoseconds,
-//   entries grow COUNT         makes the list that long, with entries of its own kind: entries
+//   list               reads the live database, builds the list to choose from: nanoseconds, entries
+//   grow COUNT         makes the list that long, with entries of its own kind: entries
 //   keystroke TEXT     narrows the list by the text: nanoseconds, entries that are left
 //   memory             kilobytes resident at most so far
 #include "bench/Request.h"
@@ -18,7 +18,8 @@
 #include <QFile>
 
 #include <fstream>
-#include <stdexcept>#include <utility>
+#include <stdexcept>
+#include <utility>
 
 namespace {
 

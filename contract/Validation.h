@@ -20,8 +20,7 @@ using LinkLayerAddress = std::array<std::uint8_t, 6>;
 inline constexpr std::size_t longestDeviceName = 15;
 
 /// Whether `name` may be looked up in the kernel: 1 to 15 bytes of ASCII letters, digits, ".", "_"
-/// and
-/// "-", not beginning with "-", and neither "." nor "..". Narrower than the kernel, which would
+/// and "-", not beginning with "-", and neither "." nor "..". Narrower than the kernel, which would
 /// take nearly any byte.
 bool isValidDeviceName(std::string_view name);
 

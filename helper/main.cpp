@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Quillon4HelperTool            serves on the system bus (started by the bus or the service
-// manager) Quillon4HelperTool install    puts this very program and what it needs into the system
-// Quillon4HelperTool uninstall  takes it away again
+// usage:
+//   Quillon4HelperTool            serves on the system bus; the bus or systemd starts it
+//   Quillon4HelperTool install    puts this very program and what it needs into the system
+//   Quillon4HelperTool uninstall  takes it away again
 // Exit codes: 0 done, 1 failed (the reason is on standard error), 2 wrong use, 3 not root.
 #include "helper/HelperDaemon.h"
 #include "helper/Installation.h"
