@@ -86,8 +86,8 @@ LinkUnderTest::Reached LinkUnderTest::reach()
 {
     const QDBusMessage reply = call(QDBusConnection::sessionBus(),
         QDBusMessage::createMethodCall(QLatin1String(contract::serviceName),
-            QLatin1String(contract::servicePath), QLatin1String(contract::serviceInterface),
-            QStringLiteral("ConnectWithEndpointAndAuthorization")));
+            QLatin1String(contract::service::path), QLatin1String(contract::service::interface),
+            QLatin1String(contract::service::connectWithEndpointAndAuthorization.name)));
     return {reply.arguments().at(0).toString(), reply.arguments().at(1).toByteArray()};
 }
 
@@ -98,10 +98,11 @@ Words LinkUnderTest::connectThroughService()
     return {word(Clock::now() - begin)};
 }
 
-Words LinkUnderTest::callHelper(const QString &method, const QVariantList &arguments)
+Words LinkUnderTest::callHelper(const contract::Method &method, const QVariantList &arguments)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(m_reached.endpoint,
-        QLatin1String(contract::helperPath), QLatin1String(contract::helperInterface), method);
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(m_reached.endpoint, QLatin1String(contract::helper::path),
+            QLatin1String(contract::helper::interface), QLatin1String(method.name));
     message.setArguments(arguments);
     const Clock::time_point begin = Clock::now();
     call(QDBusConnection::systemBus(), message);
@@ -110,13 +111,13 @@ Words LinkUnderTest::callHelper(const QString &method, const QVariantList &argum
 
 Words LinkUnderTest::versionOfHelper()
 {
-    return callHelper(QStringLiteral("GetVersion"), {});
+    return callHelper(contract::helper::getVersion, {});
 }
 
 Words LinkUnderTest::changeByHelper(const QString &device, const QString &address)
 {
     return callHelper(
-        QStringLiteral("ChangeAddressOfDevice"), {device, address, false, m_reached.authorization});
+        contract::helper::changeAddressOfDevice, {device, address, false, m_reached.authorization});
 }
 
 } // namespace quillon::bench

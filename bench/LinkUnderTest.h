@@ -4,6 +4,7 @@
 
 #include "base/Notifier.h"
 #include "bench/TimedHost.h"
+#include "contract/Interfaces.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
@@ -50,7 +51,7 @@ private:
 
     void sendNotificationWithBody(const QString &title, const QString &body) override;
     Reached reach();
-    Words callHelper(const QString &method, const QVariantList &arguments);
+    Words callHelper(const contract::Method &method, const QVariantList &arguments);
     QDBusMessage call(const QDBusConnection &bus, const QDBusMessage &message);
 
     QtScheduler m_scheduler;

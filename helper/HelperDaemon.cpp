@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/HelperDaemon.h"
 
+#include "contract/Interfaces.h"
 #include "contract/Names.h"
 #include "contract/Validation.h"
 #include "helper/Log.h"
@@ -54,7 +55,7 @@ bool isAuthorizationSized(const std::vector<std::uint8_t> &authorization)
     return authorization.size() == contract::authorizationSize;
 }
 
-constexpr char wrongSize[] = "The authorisation is not 32 bytes long.";
+constexpr char wrongSize[] = "The authorization is not 32 bytes long.";
 
 } // namespace
 
@@ -67,7 +68,7 @@ HelperDaemon::HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel,
     , m_authority{connection}
     , m_requests{m_callers, m_authority, {}}
     , m_idle{idlePeriod, now()}
-    , m_object{sdbus::createObject(connection, contract::helperPath)}
+    , m_object{sdbus::createObject(connection, contract::helper::path)}
 {
     registerMethods();
     m_departures = connection.addMatch(departuresMatch, [this](sdbus::Message &message) {
@@ -79,23 +80,26 @@ HelperDaemon::HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel,
 
 void HelperDaemon::registerMethods()
 {
-    const auto text = [this](const std::string &method, const std::string &result,
-                          const std::function<std::string()> &value) {
-        m_object->registerMethod(contract::helperInterface, method, "", {}, "s", {result},
-            [this, value](const sdbus::MethodCall &call) {
-                m_idle.used(now());
-                auto reply = call.createReply();
-                reply << value();
-                reply.send();
-            });
+    const auto offer = [this](const contract::Method &method, sdbus::method_callback callback) {
+        m_object->registerMethod(contract::helper::interface, method.name, method.inputSignature,
+            {method.inputNames.begin(), method.inputNames.end()}, method.outputSignature,
+            {method.outputNames.begin(), method.outputNames.end()}, std::move(callback));
     };
-    text("ConnectWithEndpoint", "endpoint", [this] { return m_connection.getUniqueName(); });
-    text("GetVersion", "version", [] { return std::string{contract::helperVersion}; });
-    m_object->registerMethod(contract::helperInterface, "ChangeAddressOfDevice", "ssbay",
-        {"device", "address", "deviceIsWiFi", "authorization"}, "", {},
+    const auto text = [this](const std::function<std::string()> &value) {
+        return [this, value](const sdbus::MethodCall &call) {
+            m_idle.used(now());
+            auto reply = call.createReply();
+            reply << value();
+            reply.send();
+        };
+    };
+    offer(contract::helper::connectWithEndpoint,
+        text([this] { return m_connection.getUniqueName(); }));
+    offer(contract::helper::getVersion, text([] { return std::string{contract::helperVersion}; }));
+    offer(contract::helper::changeAddressOfDevice,
         [this](sdbus::MethodCall call) { changeAddress(std::move(call)); });
-    m_object->registerMethod(contract::helperInterface, "Uninstall", "ay", {"authorization"}, "",
-        {}, [this](sdbus::MethodCall call) { uninstall(std::move(call)); });
+    offer(contract::helper::uninstall,
+        [this](sdbus::MethodCall call) { uninstall(std::move(call)); });
     m_object->finishRegistration();
 }
 

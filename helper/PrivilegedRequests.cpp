@@ -115,7 +115,7 @@ void PrivilegedRequests::decided(Number number, bool authorized)
     }
     place->second.asked = false;
     if (!authorized) {
-        finish(number, notAuthorized("The caller is not authorised to do this."));
+        finish(number, notAuthorized("The caller is not authorized to do this."));
         return;
     }
     // The decision was about a caller who may have left since: what he asked for is no longer

@@ -84,9 +84,9 @@ int main()
         const auto bus = sdbus::createSessionBusConnection();
         bool told = false;
         const std::string match = std::string("type='signal',interface='") +
-                                  contract::distributedInterface + "',member='" +
-                                  contract::distributedSignal + "',path='" +
-                                  contract::distributedPath + "'";
+                                  contract::distributed::interface + "',member='" +
+                                  contract::distributed::posted.name + "',path='" +
+                                  contract::distributed::path + "'";
         const auto listening = bus->addMatch(
             match, [&told](sdbus::Message &signal) { told = told || isTold(signal); });
         // The name comes before the program, which looks for it as soon as it starts.

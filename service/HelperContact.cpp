@@ -42,7 +42,7 @@ HelperContact::~HelperContact()
 void HelperContact::askEndpoint(TextReply reply)
 {
     ask(
-        "ConnectWithEndpoint",
+        contract::helper::connectWithEndpoint,
         [](const std::string &text, const std::string &sender) { return text == sender; },
         std::move(reply));
 }
@@ -50,7 +50,7 @@ void HelperContact::askEndpoint(TextReply reply)
 void HelperContact::askVersion(TextReply reply)
 {
     ask(
-        "GetVersion", [](const std::string &, const std::string &) { return true; },
+        contract::helper::getVersion, [](const std::string &, const std::string &) { return true; },
         std::move(reply));
 }
 
@@ -64,7 +64,7 @@ bool HelperContact::connect()
     m_lost = false;
     try {
         m_bus = sdbus::createSystemBusConnection();
-        m_helper = sdbus::createProxy(*m_bus, contract::helperName, contract::helperPath);
+        m_helper = sdbus::createProxy(*m_bus, contract::helperName, contract::helper::path);
     } catch (const sdbus::Error &error) {
         std::fprintf(stderr, "No system bus: %s\n", error.what());
         m_helper.reset();
@@ -75,14 +75,14 @@ bool HelperContact::connect()
     return true;
 }
 
-void HelperContact::ask(const char *method, Accept accept, TextReply reply)
+void HelperContact::ask(const contract::Method &method, Accept accept, TextReply reply)
 {
     if (!connect()) {
         reply({});
         return;
     }
     try {
-        const auto call = m_helper->createMethodCall(contract::helperInterface, method);
+        const auto call = m_helper->createMethodCall(contract::helper::interface, method.name);
         m_helper->callMethod(
             call,
             [accept = std::move(accept), reply](

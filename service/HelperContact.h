@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "contract/Interfaces.h"
+
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <functional>
@@ -31,7 +33,7 @@ public:
 private:
     using Accept = std::function<bool(const std::string &text, const std::string &sender)>;
 
-    void ask(const char *method, Accept accept, TextReply reply);
+    void ask(const contract::Method &method, Accept accept, TextReply reply);
     bool connect();
 
     PollLoop &m_loop;

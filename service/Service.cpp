@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/Service.h"
 
+#include "contract/Interfaces.h"
 #include "contract/Names.h"
 
 #include <cerrno>
@@ -43,20 +44,24 @@ void send(const Reply &reply)
 Service::Service(PollLoop &loop, sdbus::IConnection &sessionBus, std::string tool)
     : m_helper(loop)
     , m_installation(loop, std::move(tool))
-    , m_object(sdbus::createObject(sessionBus, contract::servicePath))
-    , m_notifications(sdbus::createObject(sessionBus, contract::distributedPath))
+    , m_object(sdbus::createObject(sessionBus, contract::service::path))
+    , m_notifications(sdbus::createObject(sessionBus, contract::distributed::path))
 {
-    const std::string interface = contract::serviceInterface;
-    m_object->registerMethod(interface, "InstallHelperTool", "", "",
+    const auto offer = [this](const contract::Method &method, sdbus::method_callback callback) {
+        m_object->registerMethod(contract::service::interface, method.name, method.inputSignature,
+            {method.inputNames.begin(), method.inputNames.end()}, method.outputSignature,
+            {method.outputNames.begin(), method.outputNames.end()}, std::move(callback));
+    };
+    offer(contract::service::installHelperTool,
         [this](sdbus::MethodCall call) { installHelperTool(std::move(call)); });
-    m_object->registerMethod(interface, "SetupAuthorizationRights", "", "",
+    offer(contract::service::setupAuthorizationRights,
         [this](sdbus::MethodCall call) { setupAuthorizationRights(std::move(call)); });
-    m_object->registerMethod(interface, "ConnectWithEndpointAndAuthorization", "", {}, "say",
-        {"endpoint", "authorization"},
+    offer(contract::service::connectWithEndpointAndAuthorization,
         [this](sdbus::MethodCall call) { connectWithEndpointAndAuthorization(std::move(call)); });
     m_object->finishRegistration();
-    m_notifications->registerSignal(
-        contract::distributedInterface, contract::distributedSignal, "ss", {"name", "object"});
+    const contract::Signal &posted = contract::distributed::posted;
+    m_notifications->registerSignal(contract::distributed::interface, posted.name, posted.signature,
+        {posted.names.begin(), posted.names.end()});
     m_notifications->finishRegistration();
     sessionBus.requestName(contract::serviceName);
 }
@@ -145,8 +150,8 @@ void Service::connectWithEndpointAndAuthorization(sdbus::MethodCall call)
 
 void Service::announceHelperUpdated()
 {
-    auto signal =
-        m_notifications->createSignal(contract::distributedInterface, contract::distributedSignal);
+    auto signal = m_notifications->createSignal(
+        contract::distributed::interface, contract::distributed::posted.name);
     signal << std::string(contract::helperUpdated) << std::string(contract::helperUpdatedObject);
     m_notifications->emitSignal(signal);
 }

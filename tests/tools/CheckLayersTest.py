@@ -115,6 +115,17 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/app/Model.cpp", '#include "app/Missing.h"')
         self.assert_only_problem('src/app/Model.cpp:1: "app/Missing.h" is not a file of ours')
 
+    def test_knows_a_header_that_the_build_makes(self):
+        self.write("service/Service.cpp", '#include "contract/Interfaces.h"')
+        self.assert_only_problem('service/Service.cpp:1: "contract/Interfaces.h" is not a file of ours')
+        self.write("contract/generate-interfaces")
+        self.assertEqual(self.problems(), [])
+
+    def test_refuses_a_header_that_the_build_makes_where_its_folder_is_not_allowed(self):
+        self.write("contract/generate-interfaces")
+        self.write("src/devices/Table.cpp", '#include "contract/Interfaces.h"')
+        self.assert_only_problem("src/devices/Table.cpp:1: devices must not include contract")
+
     def test_refuses_real_time_outside_the_platform(self):
         self.write("src/app/Model.cpp", "// a QTimer would be wrong here", "",
                    "auto now = QDateTime::currentDateTimeUtc();")

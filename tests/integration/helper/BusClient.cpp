@@ -3,7 +3,7 @@
 #include "integration/helper/BusClient.h"
 
 #include "contract/Names.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 
 #include <chrono>
 #include <numeric>
@@ -39,7 +39,7 @@ std::vector<std::uint8_t> someAuthorization()
 
 BusClient::BusClient(const std::string &user)
     : m_connection{connectAs(user)}
-    , m_helper{sdbus::createProxy(*m_connection, contract::helperName, contract::helperPath)}
+    , m_helper{sdbus::createProxy(*m_connection, contract::helperName, contract::helper::path)}
     , m_bus{sdbus::createProxy(*m_connection, "org.freedesktop.DBus", "/org/freedesktop/DBus")}
 {
 }
@@ -67,27 +67,31 @@ std::string BusClient::send(sdbus::MethodCall &call)
 
 std::string BusClient::version()
 {
-    auto call = m_helper->createMethodCall(contract::helperInterface, "GetVersion");
+    auto call =
+        m_helper->createMethodCall(contract::helper::interface, contract::helper::getVersion.name);
     return send(call);
 }
 
 std::string BusClient::endpoint()
 {
-    auto call = m_helper->createMethodCall(contract::helperInterface, "ConnectWithEndpoint");
+    auto call = m_helper->createMethodCall(
+        contract::helper::interface, contract::helper::connectWithEndpoint.name);
     return send(call);
 }
 
 std::string BusClient::change(const std::string &device, const std::string &address,
     bool deviceIsWiFi, const std::vector<std::uint8_t> &authorization)
 {
-    auto call = m_helper->createMethodCall(contract::helperInterface, "ChangeAddressOfDevice");
+    auto call = m_helper->createMethodCall(
+        contract::helper::interface, contract::helper::changeAddressOfDevice.name);
     call << device << address << deviceIsWiFi << authorization;
     return send(call);
 }
 
 std::string BusClient::uninstall(const std::vector<std::uint8_t> &authorization)
 {
-    auto call = m_helper->createMethodCall(contract::helperInterface, "Uninstall");
+    auto call =
+        m_helper->createMethodCall(contract::helper::interface, contract::helper::uninstall.name);
     call << authorization;
     return send(call);
 }
@@ -115,7 +119,8 @@ void BusClient::changeLater(const std::string &device, const std::string &addres
         m_connection->enterEventLoopAsync();
         m_loops = true;
     }
-    auto call = m_helper->createMethodCall(contract::helperInterface, "ChangeAddressOfDevice");
+    auto call = m_helper->createMethodCall(
+        contract::helper::interface, contract::helper::changeAddressOfDevice.name);
     call << device << address << false << someAuthorization();
     m_helper->callMethod(
         call,

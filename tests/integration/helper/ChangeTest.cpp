@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
 #include <gmock/gmock.h>
@@ -31,26 +31,26 @@ std::string configuration()
         "sed 's/expires [0-9]*sec/expires some/' | sort");
 }
 
-class AChange : public testing::Test
+class ChangeTest : public testing::Test
 {
 protected:
     BusClient quillon{"quillon"};
 };
 
-TEST_F(AChange, reachesTheKernel)
+TEST_F(ChangeTest, reachesTheKernel)
 {
     ASSERT_NE(kernelAddress("enp1s0"), newAddress);
     EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
 }
 
-TEST_F(AChange, takesOneDigitOctets)
+TEST_F(ChangeTest, takesOneDigitOctets)
 {
     EXPECT_EQ(quillon.change("enp1s0", "2:1:a:B:0:f"), BusClient::done);
     EXPECT_EQ(kernelAddress("enp1s0"), "02:01:0a:0b:00:0f");
 }
 
-TEST_F(AChange, worksOnABridgeAndOnAnInterfaceWithoutAddresses)
+TEST_F(ChangeTest, worksOnABridgeAndOnAnInterfaceWithoutAddresses)
 {
     EXPECT_EQ(quillon.change("br0", newAddress), BusClient::done);
     EXPECT_EQ(kernelAddress("br0"), newAddress);
@@ -58,14 +58,15 @@ TEST_F(AChange, worksOnABridgeAndOnAnInterfaceWithoutAddresses)
     EXPECT_EQ(kernelAddress("enp2s0"), "02:11:22:33:44:56");
 }
 
-TEST_F(AChange, throughTheEndpointWorksLikeThroughTheName)
+TEST_F(ChangeTest, throughTheEndpointWorksLikeThroughTheName)
 {
     const auto endpoint = quillon.endpoint();
-    EXPECT_EQ(quillon.call(endpoint, contract::helperPath, contract::helperInterface, "GetVersion"),
+    EXPECT_EQ(quillon.call(endpoint, contract::helper::path, contract::helper::interface,
+                  contract::helper::getVersion.name),
         "2.0");
 }
 
-TEST_F(AChange, ofAWiFiInterfacePutsAddressesAndRoutesBack)
+TEST_F(ChangeTest, ofAWiFiInterfacePutsAddressesAndRoutesBack)
 {
     outputOf(
         "ip addr add 198.51.100.7/24 dev enp1s0 label enp1s0:1 valid_lft 4000 preferred_lft 3000;"
@@ -98,7 +99,7 @@ TEST_F(AChange, ofAWiFiInterfacePutsAddressesAndRoutesBack)
     EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), HasSubstr("fe80::11:22ff:fe33:4455"));
 }
 
-TEST_F(AChange, waitsForASourceAddressThatIsStillBeingChecked)
+TEST_F(ChangeTest, waitsForASourceAddressThatIsStillBeingChecked)
 {
     outputOf(
         "ip -6 route add fd00:db8:5::/64 via fd00:db8::1 dev enp1s0 src fd00:db8::10 2>/dev/null ||"
@@ -108,7 +109,7 @@ TEST_F(AChange, waitsForASourceAddressThatIsStillBeingChecked)
         HasSubstr("fd00:db8:5::/64 via fd00:db8::1 src fd00:db8::10"));
 }
 
-TEST_F(AChange, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
+TEST_F(ChangeTest, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
 {
     const auto old = outputOf("ip -6 addr show dev enp1s0 scope link");
     ASSERT_THAT(old, HasSubstr("fe80::200:5eff:fe00:5301"));
@@ -117,7 +118,7 @@ TEST_F(AChange, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
     EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), Not(HasSubstr("fe80::200:5eff:fe00:5301")));
 }
 
-TEST_F(AChange, thatTheDriverRefusesLeavesTheInterfaceAtWork)
+TEST_F(ChangeTest, thatTheDriverRefusesLeavesTheInterfaceAtWork)
 {
     outputOf("ip link add ifb9 type ifb && ip addr add 198.51.100.9/24 dev ifb9 && ip link set "
              "ifb9 up &&"
@@ -130,7 +131,7 @@ TEST_F(AChange, thatTheDriverRefusesLeavesTheInterfaceAtWork)
     EXPECT_THAT(outputOf("ip route show dev ifb9"), HasSubstr("198.18.9.0/24 via 198.51.100.1"));
 }
 
-TEST_F(AChange, needsAnInterfaceThatIsThereAndSuitable)
+TEST_F(ChangeTest, needsAnInterfaceThatIsThereAndSuitable)
 {
     outputOf("ip link add link enp2s0 name mv0 type macvlan 2>/dev/null; ip link property add dev "
              "enp1s0 altname lan0");
@@ -140,7 +141,7 @@ TEST_F(AChange, needsAnInterfaceThatIsThereAndSuitable)
     EXPECT_NE(kernelAddress("enp1s0"), newAddress);
 }
 
-TEST_F(AChange, ofManyAtOnceLeavesOneOfTheAddressesAndAllRoutes)
+TEST_F(ChangeTest, ofManyAtOnceLeavesOneOfTheAddressesAndAllRoutes)
 {
     const auto routes = outputOf("ip route show dev enp1s0");
     std::vector<std::unique_ptr<BusClient>> clients;

@@ -3,7 +3,7 @@
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +21,7 @@ using testing::Contains;
 using testing::HasSubstr;
 
 /// The sandbox has installed the helper; these tests begin without it.
-class AnInstallationOfTheSystem : public testing::Test
+class InstallTest : public testing::Test
 {
 protected:
     void SetUp() override
@@ -36,7 +36,7 @@ protected:
     std::vector<std::string> clean;
 };
 
-TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedByHand)
+TEST_F(InstallTest, leavesNothingBehindWhenItIsRemovedByHand)
 {
     outputOf(builtTool() + " install");
     EXPECT_NE(installedThings(), clean);
@@ -44,7 +44,7 @@ TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedByHand)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedOverTheBus)
+TEST_F(InstallTest, leavesNothingBehindWhenItIsRemovedOverTheBus)
 {
     outputOf(builtTool() + " install");
     BusClient administrator{"root"};
@@ -58,7 +58,7 @@ TEST_F(AnInstallationOfTheSystem, leavesNothingBehindWhenItIsRemovedOverTheBus)
     EXPECT_EQ(administrator.version(), "org.freedesktop.DBus.Error.ServiceUnknown");
 }
 
-TEST_F(AnInstallationOfTheSystem, isUsableAtOnce)
+TEST_F(InstallTest, isUsableAtOnce)
 {
     outputOf(builtTool() + " install");
     BusClient quillon{"quillon"};
@@ -68,7 +68,7 @@ TEST_F(AnInstallationOfTheSystem, isUsableAtOnce)
         [&] { return quillon.change("enp1s0", "02:11:22:33:44:55") == BusClient::done; }));
 }
 
-TEST_F(AnInstallationOfTheSystem, overAnOlderOneLetsTheRunningHelperFinish)
+TEST_F(InstallTest, overAnOlderOneLetsTheRunningHelperFinish)
 {
     outputOf(builtTool() + " install");
     BusClient quillon{"quillon"};
@@ -81,7 +81,7 @@ TEST_F(AnInstallationOfTheSystem, overAnOlderOneLetsTheRunningHelperFinish)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AnInstallationOfTheSystem, copiesTheProgramThatRunsAndNotWhatLiesInItsPlace)
+TEST_F(InstallTest, copiesTheProgramThatRunsAndNotWhatLiesInItsPlace)
 {
     outputOf("cp " + builtTool() + " /tmp/tool");
     // The file is exchanged after the start: the shell holds the old one open and executes it.
@@ -89,7 +89,7 @@ TEST_F(AnInstallationOfTheSystem, copiesTheProgramThatRunsAndNotWhatLiesInItsPla
     EXPECT_EQ(outputOf("cmp " + builtTool() + ' ' + test::installedTool), "");
 }
 
-TEST_F(AnInstallationOfTheSystem, isRefusedToOrdinaryUsers)
+TEST_F(InstallTest, isRefusedToOrdinaryUsers)
 {
     EXPECT_EQ(run("runuser -u mallory -- " + builtTool() + " install").exitCode, 3);
     EXPECT_EQ(run("runuser -u mallory -- " + builtTool() + " uninstall").exitCode, 3);
@@ -97,7 +97,7 @@ TEST_F(AnInstallationOfTheSystem, isRefusedToOrdinaryUsers)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AnInstallationOfTheSystem, acceptsNoPathAndNoOption)
+TEST_F(InstallTest, acceptsNoPathAndNoOption)
 {
     for (const char *arguments : {"install /tmp", "--install", "install --prefix=/tmp", "/tmp",
              "''", "--help", "uninstall install", "serve"}) {
@@ -106,7 +106,7 @@ TEST_F(AnInstallationOfTheSystem, acceptsNoPathAndNoOption)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AnInstallationOfTheSystem, goesIntoNoFolderThatAnOrdinaryUserControls)
+TEST_F(InstallTest, goesIntoNoFolderThatAnOrdinaryUserControls)
 {
     const struct
     {
@@ -138,7 +138,7 @@ TEST_F(AnInstallationOfTheSystem, goesIntoNoFolderThatAnOrdinaryUserControls)
     }
 }
 
-TEST_F(AnInstallationOfTheSystem, onAReadOnlySystemSaysSoAndChangesNothing)
+TEST_F(InstallTest, onAReadOnlySystemSaysSoAndChangesNothing)
 {
     outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
     clean = installedThings();
@@ -149,7 +149,7 @@ TEST_F(AnInstallationOfTheSystem, onAReadOnlySystemSaysSoAndChangesNothing)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AnInstallationOfTheSystem, thatCannotBeRemovedEntirelyStaysEntirely)
+TEST_F(InstallTest, thatCannotBeRemovedEntirelyStaysEntirely)
 {
     outputOf(builtTool() + " install");
     outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
@@ -161,12 +161,12 @@ TEST_F(AnInstallationOfTheSystem, thatCannotBeRemovedEntirelyStaysEntirely)
 }
 
 /// As the distribution's package would put it.
-class APackagedHelper : public AnInstallationOfTheSystem
+class InstallTestWithPackage : public InstallTest
 {
 protected:
     void SetUp() override
     {
-        AnInstallationOfTheSystem::SetUp();
+        InstallTest::SetUp();
         const auto files = std::string{QUILLON_BUILD} + "/data/helper/packaged/";
         outputOf("for folder in /usr/libexec /usr/lib/systemd/system; do mount -t tmpfs -o "
                  "mode=0755 none $folder; done;"
@@ -191,7 +191,7 @@ protected:
     std::vector<std::string> packaged;
 };
 
-TEST_F(APackagedHelper, isNeverRemovedOverTheBus)
+TEST_F(InstallTestWithPackage, isNeverRemovedOverTheBus)
 {
     BusClient administrator{"root"};
     EXPECT_EQ(administrator.version(), "2.0");
@@ -200,7 +200,7 @@ TEST_F(APackagedHelper, isNeverRemovedOverTheBus)
     EXPECT_EQ(installedThings(), packaged);
 }
 
-TEST_F(APackagedHelper, isNeverRemovedByHand)
+TEST_F(InstallTestWithPackage, isNeverRemovedByHand)
 {
     for (const auto &tool :
         {builtTool(), std::string{"/usr/libexec/quillon4/Quillon4HelperTool"}}) {
@@ -211,7 +211,7 @@ TEST_F(APackagedHelper, isNeverRemovedByHand)
     }
 }
 
-TEST_F(APackagedHelper, removesNothingElseEither)
+TEST_F(InstallTestWithPackage, removesNothingElseEither)
 {
     // Left from before the package came.
     outputOf("install -D " + builtTool() + ' ' + test::installedTool);
@@ -220,7 +220,7 @@ TEST_F(APackagedHelper, removesNothingElseEither)
     EXPECT_EQ(installedThings(), both);
 }
 
-TEST_F(APackagedHelper, needsNoInstallation)
+TEST_F(InstallTestWithPackage, needsNoInstallation)
 {
     const auto result = run(builtTool() + " install");
     EXPECT_EQ(result.exitCode, 0);

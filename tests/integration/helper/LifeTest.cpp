@@ -5,7 +5,7 @@
 #include "helper/NetlinkKernelLink.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
 #include <gmock/gmock.h>
@@ -30,10 +30,10 @@ using testing::HasSubstr;
 constexpr char newAddress[] = "02:11:22:33:44:55";
 
 /// The daemon's class in this process, with an idle period that a test can wait for.
-class ADaemonOfShortPatience : public testing::Test
+class LifeTestInProcess : public testing::Test
 {
 protected:
-    ADaemonOfShortPatience()
+    LifeTestInProcess()
         : thread{[this] {
             daemon.run(stop);
             ended = true;
@@ -41,7 +41,7 @@ protected:
     {
         started = waitUntil([this] { return root.hasOwner(contract::helperName); });
     }
-    ~ADaemonOfShortPatience() override
+    ~LifeTestInProcess() override
     {
         eventfd_write(stop, 1);
         thread.join();
@@ -65,14 +65,14 @@ protected:
     std::thread thread;
 };
 
-TEST_F(ADaemonOfShortPatience, endsWhenNobodyAsksAnything)
+TEST_F(LifeTestInProcess, endsWhenNobodyAsksAnything)
 {
     ASSERT_TRUE(started);
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
     EXPECT_FALSE(root.hasOwner(contract::helperName));
 }
 
-TEST_F(ADaemonOfShortPatience, staysWhileItIsAsked)
+TEST_F(LifeTestInProcess, staysWhileItIsAsked)
 {
     ASSERT_TRUE(started);
     for (int i = 0; i < 10; ++i) {
@@ -82,7 +82,7 @@ TEST_F(ADaemonOfShortPatience, staysWhileItIsAsked)
     }
 }
 
-TEST_F(ADaemonOfShortPatience, waitsForAPersonWhoThinks)
+TEST_F(LifeTestInProcess, waitsForAPersonWhoThinks)
 {
     ASSERT_TRUE(started);
     FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
@@ -99,7 +99,7 @@ TEST_F(ADaemonOfShortPatience, waitsForAPersonWhoThinks)
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
 }
 
-TEST_F(ADaemonOfShortPatience, refusesOpenRequestsWhenItIsStopped)
+TEST_F(LifeTestInProcess, refusesOpenRequestsWhenItIsStopped)
 {
     ASSERT_TRUE(started);
     FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
@@ -112,13 +112,13 @@ TEST_F(ADaemonOfShortPatience, refusesOpenRequestsWhenItIsStopped)
     EXPECT_TRUE(waitUntil([&] { return polkit.cancelled().size() == 1; }));
 }
 
-class AHelperProcess : public testing::Test
+class LifeTest : public testing::Test
 {
 protected:
     BusClient quillon{"quillon"};
 };
 
-TEST_F(AHelperProcess, isStartedByTheFirstCallAndStartsCleanAfterACrash)
+TEST_F(LifeTest, isStartedByTheFirstCallAndStartsCleanAfterACrash)
 {
     ASSERT_FALSE(quillon.hasOwner(contract::helperName));
     ASSERT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
@@ -130,7 +130,7 @@ TEST_F(AHelperProcess, isStartedByTheFirstCallAndStartsCleanAfterACrash)
     EXPECT_NE(quillon.processOf(contract::helperName), first);
 }
 
-TEST_F(AHelperProcess, thatIsKilledDuringAPromptAnswersWithAnErrorAndForgetsTheRequest)
+TEST_F(LifeTest, thatIsKilledDuringAPromptAnswersWithAnErrorAndForgetsTheRequest)
 {
     FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
     const auto before = kernelAddress("enp1s0");
@@ -145,14 +145,14 @@ TEST_F(AHelperProcess, thatIsKilledDuringAPromptAnswersWithAnErrorAndForgetsTheR
     EXPECT_EQ(kernelAddress("enp1s0"), before);
 }
 
-TEST_F(AHelperProcess, endsPolitelyWhenItIsAskedTo)
+TEST_F(LifeTest, endsPolitelyWhenItIsAskedTo)
 {
     ASSERT_EQ(quillon.version(), "2.0");
     kill(quillon.processOf(contract::helperName), SIGTERM);
     EXPECT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
 }
 
-TEST_F(AHelperProcess, holdsOneCapabilityAndCanGainNone)
+TEST_F(LifeTest, holdsOneCapabilityAndCanGainNone)
 {
     ASSERT_EQ(quillon.version(), "2.0");
     const auto status = outputOf(
@@ -166,7 +166,7 @@ TEST_F(AHelperProcess, holdsOneCapabilityAndCanGainNone)
     EXPECT_THAT(status, HasSubstr("NoNewPrivs:\t1\n"));
 }
 
-TEST_F(AHelperProcess, takesNoBusFromItsEnvironment)
+TEST_F(LifeTest, takesNoBusFromItsEnvironment)
 {
     outputOf("env DBUS_SYSTEM_BUS_ADDRESS=unix:path=/tmp/false-bus "
              "DBUS_STARTER_ADDRESS=unix:path=/tmp/false-bus " +
@@ -175,7 +175,7 @@ TEST_F(AHelperProcess, takesNoBusFromItsEnvironment)
     EXPECT_EQ(quillon.version(), "2.0");
 }
 
-TEST_F(AHelperProcess, startsNoOtherProcess)
+TEST_F(LifeTest, startsNoOtherProcess)
 {
     ASSERT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
     const auto helper = std::to_string(quillon.processOf(contract::helperName));

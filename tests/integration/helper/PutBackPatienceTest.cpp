@@ -38,7 +38,7 @@ LinkConfiguration::Message hopelessRoute(int index, std::uint8_t number)
     return {body, body + nlmsg_datalen(start)};
 }
 
-TEST(PuttingBack, waitsThreeSecondsForAllRoutesTogether)
+TEST(PutBackPatienceTest, waitsThreeSecondsForAllRoutesTogether)
 {
     NetlinkKernelLink kernel;
     LinkState link;

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the real helper refuses, one class of mistakes after another, asked by users who have no
-// rights
-// ("mallory") or who have ("quillon").
+// rights ("mallory") or who have ("quillon").
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +41,7 @@ const std::string invalidDevice = contract::error::invalidDevice.name;
 const std::string invalidAddress = contract::error::invalidAddress.name;
 const std::string tooManyRequests = contract::error::tooManyRequests.name;
 
-class AHelperThatTrustsNobody : public testing::Test
+class RefusalTest : public testing::Test
 {
 protected:
     void TearDown() override
@@ -74,17 +73,19 @@ protected:
     BusClient quillon{"quillon"};
 };
 
-TEST_F(AHelperThatTrustsNobody, refusesEveryPrivilegedMethodToAnUnauthorisedUser)
+TEST_F(RefusalTest, refusesEveryPrivilegedMethodToAnUnauthorizedUser)
 {
-    const auto xml = mallory.call(contract::helperName, contract::helperPath,
+    const auto xml = mallory.call(contract::helperName, contract::helper::path,
         "org.freedesktop.DBus.Introspectable", "Introspect");
     const auto ours =
-        xml.substr(xml.find(std::string{"<interface name=\""} + contract::helperInterface));
+        xml.substr(xml.find(std::string{"<interface name=\""} + contract::helper::interface));
     const std::regex method{"<method name=\"(\\w+)\""};
-    const std::set<std::string> open{"ConnectWithEndpoint", "GetVersion"};
+    const std::set<std::string> open{
+        contract::helper::connectWithEndpoint.name, contract::helper::getVersion.name};
     const std::map<std::string, std::function<std::string()>> privileged{
-        {"ChangeAddressOfDevice", [&] { return mallory.change("enp1s0", newAddress); }},
-        {"Uninstall", [&] { return mallory.uninstall(); }}};
+        {contract::helper::changeAddressOfDevice.name,
+            [&] { return mallory.change("enp1s0", newAddress); }},
+        {contract::helper::uninstall.name, [&] { return mallory.uninstall(); }}};
     int refused = 0;
     const auto end = ours.substr(0, ours.find("</interface>"));
     for (std::sregex_iterator match{end.begin(), end.end(), method};
@@ -100,7 +101,7 @@ TEST_F(AHelperThatTrustsNobody, refusesEveryPrivilegedMethodToAnUnauthorisedUser
     EXPECT_EQ(refused, 2);
 }
 
-TEST_F(AHelperThatTrustsNobody, namesTheSenderToPolkitAndNeverAProcess)
+TEST_F(RefusalTest, namesTheSenderToPolkitAndNeverAProcess)
 {
     FakePolkit polkit{always(FakePolkit::Answer::No)};
     EXPECT_EQ(mallory.change("enp1s0", newAddress), notAuthorized);
@@ -115,7 +116,7 @@ TEST_F(AHelperThatTrustsNobody, namesTheSenderToPolkitAndNeverAProcess)
     EXPECT_EQ(questions[1].action, contract::actionUninstall);
 }
 
-TEST_F(AHelperThatTrustsNobody, believesNothingThatACallerSaysOfHimself)
+TEST_F(RefusalTest, believesNothingThatACallerSaysOfHimself)
 {
     FakePolkit polkit{[this](const FakePolkit::Question &question) {
         return question.subject.at("name") == quillon.uniqueName() ? FakePolkit::Answer::Yes
@@ -133,7 +134,7 @@ TEST_F(AHelperThatTrustsNobody, believesNothingThatACallerSaysOfHimself)
     }
 }
 
-TEST_F(AHelperThatTrustsNobody, gainsNothingFromReplayedAuthorisationBytes)
+TEST_F(RefusalTest, gainsNothingFromReplayedAuthorizationBytes)
 {
     changeIsExpected = true;
     const auto bytes = test::someAuthorization();
@@ -142,7 +143,7 @@ TEST_F(AHelperThatTrustsNobody, gainsNothingFromReplayedAuthorisationBytes)
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesAuthorisationBytesOfAnyOtherSizeBeforePolkitIsAsked)
+TEST_F(RefusalTest, refusesAuthorizationBytesOfAnyOtherSizeBeforePolkitIsAsked)
 {
     FakePolkit polkit{always(FakePolkit::Answer::Yes)};
     for (std::size_t size : {0U, 1U, 31U, 33U, 64U, 1U << 20U}) {
@@ -153,7 +154,7 @@ TEST_F(AHelperThatTrustsNobody, refusesAuthorisationBytesOfAnyOtherSizeBeforePol
     EXPECT_THAT(polkit.questions(), IsEmpty());
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesNamesThatNoInterfaceMayHaveBeforePolkitIsAsked)
+TEST_F(RefusalTest, refusesNamesThatNoInterfaceMayHaveBeforePolkitIsAsked)
 {
     FakePolkit polkit{always(FakePolkit::Answer::Yes)};
     for (const std::string name : {"", ".", "..", "-a", "--help", "../enp1s0", "/enp1s0", "a/b",
@@ -165,14 +166,14 @@ TEST_F(AHelperThatTrustsNobody, refusesNamesThatNoInterfaceMayHaveBeforePolkitIs
     EXPECT_THAT(polkit.questions(), IsEmpty());
 }
 
-TEST_F(AHelperThatTrustsNobody, judgesANameCutAtAZeroByteAsTheNameThatIsLeft)
+TEST_F(RefusalTest, judgesANameCutAtAZeroByteAsTheNameThatIsLeft)
 {
     // The bus protocol has no text with a zero byte inside: client libraries cut it there, and what
     // is left is judged as the name that it is.
     EXPECT_EQ(mallory.change(std::string{"enp1s0\0/../x", 12}, newAddress), notAuthorized);
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesAddressesThatNoInterfaceMayHaveBeforePolkitIsAsked)
+TEST_F(RefusalTest, refusesAddressesThatNoInterfaceMayHaveBeforePolkitIsAsked)
 {
     FakePolkit polkit{always(FakePolkit::Answer::Yes)};
     for (const std::string address : {"", "00:00:00:00:00:00", "ff:ff:ff:ff:ff:ff",
@@ -183,7 +184,7 @@ TEST_F(AHelperThatTrustsNobody, refusesAddressesThatNoInterfaceMayHaveBeforePolk
     EXPECT_THAT(polkit.questions(), IsEmpty());
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitIsAbsent)
+TEST_F(RefusalTest, refusesWhenPolkitIsAbsent)
 {
     outputOf("rm -f /usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service");
     test::reloadBus();
@@ -193,7 +194,7 @@ TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitIsAbsent)
     EXPECT_FALSE(quillon.hasOwner("org.freedesktop.PolicyKit1"));
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitFailsOrIsNotUnderstood)
+TEST_F(RefusalTest, refusesWhenPolkitFailsOrIsNotUnderstood)
 {
     for (auto answer :
         {FakePolkit::Answer::Error, FakePolkit::Answer::Nonsense, FakePolkit::Answer::No}) {
@@ -203,7 +204,7 @@ TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitFailsOrIsNotUnderstood)
     }
 }
 
-TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitDiesDuringThePrompt)
+TEST_F(RefusalTest, refusesWhenPolkitDiesDuringThePrompt)
 {
     auto polkit = std::make_unique<FakePolkit>(always(FakePolkit::Answer::LeaveOpen));
     quillon.changeLater("enp1s0", newAddress);
@@ -212,7 +213,7 @@ TEST_F(AHelperThatTrustsNobody, refusesWhenPolkitDiesDuringThePrompt)
     EXPECT_TRUE(waitUntil([&] { return quillon.answers()[notAuthorized] == 1; }));
 }
 
-TEST_F(AHelperThatTrustsNobody, doesNothingForACallerWhoVanishedDuringThePrompt)
+TEST_F(RefusalTest, doesNothingForACallerWhoVanishedDuringThePrompt)
 {
     FakePolkit polkit{always(FakePolkit::Answer::LeaveOpen)};
     auto caller = std::make_unique<BusClient>("quillon");
@@ -227,7 +228,7 @@ TEST_F(AHelperThatTrustsNobody, doesNothingForACallerWhoVanishedDuringThePrompt)
     EXPECT_EQ(kernelAddress("enp1s0"), original);
 }
 
-TEST_F(AHelperThatTrustsNobody, takesTheRealPromptAwayWhenItsCallerVanishes)
+TEST_F(RefusalTest, takesTheRealPromptAwayWhenItsCallerVanishes)
 {
     // A person who never answers sits in front of this process, and with it in front of its
     // clients.
@@ -247,7 +248,7 @@ TEST_F(AHelperThatTrustsNobody, takesTheRealPromptAwayWhenItsCallerVanishes)
     EXPECT_TRUE(waitUntil([&] { return log().find("cancelled") != std::string::npos; })) << log();
 }
 
-TEST_F(AHelperThatTrustsNobody, givesEveryRequestANameThatNobodyCanGuessOrCancel)
+TEST_F(RefusalTest, givesEveryRequestANameThatNobodyCanGuessOrCancel)
 {
     changeIsExpected = true;
     FakePolkit polkit{always(FakePolkit::Answer::LeaveOpen)};
@@ -273,7 +274,7 @@ TEST_F(AHelperThatTrustsNobody, givesEveryRequestANameThatNobodyCanGuessOrCancel
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
 }
 
-TEST_F(AHelperThatTrustsNobody, staysSmallAndServesOthersDuringAFlood)
+TEST_F(RefusalTest, staysSmallAndServesOthersDuringAFlood)
 {
     changeIsExpected = true;
     std::set<std::string> quillons{quillon.uniqueName()};
@@ -321,7 +322,7 @@ TEST_F(AHelperThatTrustsNobody, staysSmallAndServesOthersDuringAFlood)
     EXPECT_EQ(quillon.processOf(contract::helperName), helper);
 }
 
-TEST_F(AHelperThatTrustsNobody, cannotBeReplacedOnTheBus)
+TEST_F(RefusalTest, cannotBeReplacedOnTheBus)
 {
     EXPECT_EQ(test::run("runuser -u mallory -- gdbus call --system --dest org.freedesktop.DBus "
                         "--object-path / --method org.freedesktop.DBus.RequestName "
@@ -330,15 +331,16 @@ TEST_F(AHelperThatTrustsNobody, cannotBeReplacedOnTheBus)
         1);
 }
 
-TEST_F(AHelperThatTrustsNobody, offersNothingElseOnTheBus)
+TEST_F(RefusalTest, offersNothingElseOnTheBus)
 {
-    EXPECT_THAT(mallory.call(contract::helperName, contract::helperPath,
+    EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
                     "org.freedesktop.DBus.Properties", "GetAll"),
         "org.freedesktop.DBus.Error.AccessDenied");
-    EXPECT_THAT(mallory.call(contract::helperName, contract::helperPath,
+    EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
                     "org.freedesktop.DBus.ObjectManager", "GetManagedObjects"),
         "org.freedesktop.DBus.Error.AccessDenied");
-    EXPECT_THAT(mallory.call(contract::helperName, "/", contract::helperInterface, "GetVersion"),
+    EXPECT_THAT(mallory.call(contract::helperName, "/", contract::helper::interface,
+                    contract::helper::getVersion.name),
         HasSubstr("org.freedesktop.DBus.Error.Unknown"));
 }
 

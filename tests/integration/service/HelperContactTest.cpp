@@ -43,7 +43,7 @@ protected:
     void helperIs(FakePeer::Answer answer)
     {
         helper.reset(); // one object per path
-        helper = std::make_unique<FakePeer>(helperBus, contract::helperPath, std::move(answer));
+        helper = std::make_unique<FakePeer>(helperBus, contract::helper::path, std::move(answer));
         QDBusConnection(helperBus).registerService(QLatin1String(contract::helperName));
     }
 

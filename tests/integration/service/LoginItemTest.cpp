@@ -102,9 +102,9 @@ TEST_F(LoginItem, StaysForEveryOtherBroadcast)
     center.post(QLatin1String(contract::helperUpdated),
         QLatin1String(contract::terminateLoginHelperObject));
     command(QStringLiteral("dbus-send --session --type=signal %1 %2.%3 int32:1")
-                .arg(QLatin1String(contract::distributedPath),
-                    QLatin1String(contract::distributedInterface),
-                    QLatin1String(contract::distributedSignal)));
+                .arg(QLatin1String(contract::distributed::path),
+                    QLatin1String(contract::distributed::interface),
+                    QLatin1String(contract::distributed::posted.name)));
     EXPECT_FALSE(eventually([this] { return hasEnded(); }, 500ms));
     EXPECT_TRUE(running.isRunning(itsName));
 }

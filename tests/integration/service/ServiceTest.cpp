@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
+#include "integration/helper/Introspection.h"
 #include "integration/platform/linux/Commands.h"
 #include "integration/platform/linux/Waiting.h"
 
@@ -62,19 +63,20 @@ QStringList asUser(const QStringList &command)
            command;
 }
 
-std::unique_ptr<Running> calling(const QString &operation)
+std::unique_ptr<Running> calling(const contract::Method &method)
 {
     return std::make_unique<Running>(QStringLiteral("runuser"),
         asUser({QStringLiteral("gdbus"), QStringLiteral("call"), QStringLiteral("--session"),
             QStringLiteral("--timeout"), QStringLiteral("60"), QStringLiteral("--dest"),
             QLatin1String(contract::serviceName), QStringLiteral("--object-path"),
-            QLatin1String(contract::servicePath), QStringLiteral("--method"),
-            QLatin1String(contract::serviceInterface) + QLatin1Char('.') + operation}));
+            QLatin1String(contract::service::path), QStringLiteral("--method"),
+            QLatin1String(contract::service::interface) + QLatin1Char('.') +
+                QLatin1String(method.name)}));
 }
 
-Call call(const QString &operation)
+Call call(const contract::Method &method)
 {
-    const auto process = calling(operation);
+    const auto process = calling(method);
     EXPECT_TRUE(eventually([&] { return process->ended(); }));
     return {process->exitCode() == 0, process->output()};
 }
@@ -140,7 +142,7 @@ protected:
     // Starts the service if it does not run.
     static int serviceProcess()
     {
-        EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+        EXPECT_TRUE(call(contract::service::setupAuthorizationRights).succeeded);
         const QByteArray answer =
             command(QStringLiteral("runuser -u quillon -- gdbus call --session --dest "
                                    "org.freedesktop.DBus --object-path / "
@@ -164,7 +166,7 @@ protected:
     {
         listener = std::make_unique<Running>(QStringLiteral("runuser"),
             asUser({QStringLiteral("dbus-monitor"), QStringLiteral("--session"),
-                QStringLiteral("interface=") + QLatin1String(contract::distributedInterface)}));
+                QStringLiteral("interface=") + QLatin1String(contract::distributed::interface)}));
         ASSERT_TRUE(eventually(
             [this] { return listener->output().contains(QLatin1String("NameAcquired")); }));
     }
@@ -181,9 +183,20 @@ protected:
     std::unique_ptr<Running> listener;
 };
 
+TEST_F(ServiceTest, OffersWhatItsDescriptionSays)
+{
+    const auto documented = documentedMembersOf(contract::service::interface);
+    EXPECT_EQ(documented.size(), 3U);
+    const QByteArray offered = command(
+        QStringLiteral("runuser -u quillon -- gdbus introspect --session --xml --dest %1 "
+                       "--object-path %2")
+            .arg(QLatin1String(contract::serviceName), QLatin1String(contract::service::path)));
+    EXPECT_EQ(membersOf(contract::service::interface, offered), documented);
+}
+
 TEST_F(ServiceTest, GivesTheHelpersUniqueNameAndThirtyTwoBytes)
 {
-    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
     const QByteArray owner = command(
         QStringLiteral("gdbus call --system --dest org.freedesktop.DBus --object-path / --method "
@@ -196,17 +209,17 @@ TEST_F(ServiceTest, GivesTheHelpersUniqueNameAndThirtyTwoBytes)
 
 TEST_F(ServiceTest, SetupMakesTheAuthorizationAnew)
 {
-    const QString connect = QStringLiteral("ConnectWithEndpointAndAuthorization");
+    const contract::Method &connect = contract::service::connectWithEndpointAndAuthorization;
     const Call first = call(connect);
     EXPECT_EQ(call(connect).text, first.text);
-    EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+    EXPECT_TRUE(call(contract::service::setupAuthorizationRights).succeeded);
     EXPECT_NE(call(connect).text, first.text);
 }
 
 TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
 {
     removeHelper();
-    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
     EXPECT_EQ(endpointIn(connected), QString());
     EXPECT_EQ(authorizationBytesIn(connected), 32);
@@ -215,7 +228,7 @@ TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
 TEST_F(ServiceTest, WithoutASystemBusThereIsNoEndpoint)
 {
     QFile::rename(QStringLiteral("/run/dbus/system_bus_socket"), QStringLiteral("/run/dbus/gone"));
-    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
     EXPECT_EQ(endpointIn(connected), QString());
 }
@@ -223,7 +236,7 @@ TEST_F(ServiceTest, WithoutASystemBusThereIsNoEndpoint)
 TEST_F(ServiceTest, AHelperThatIsThereIsNotInstalledAgain)
 {
     atThePrompt("grant");
-    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    const Call installed = call(contract::service::installHelperTool);
     EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
     EXPECT_EQ(promptLog(), QByteArray());
 }
@@ -233,12 +246,12 @@ TEST_F(ServiceTest, InstallsAfterOnePromptAndAnnouncesIt)
     removeHelper();
     atThePrompt("grant");
     listen();
-    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    const Call installed = call(contract::service::installHelperTool);
     EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
     EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
     EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
 
-    const Call connected = call(QStringLiteral("ConnectWithEndpointAndAuthorization"));
+    const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     EXPECT_FALSE(endpointIn(connected).isEmpty()) << connected.text.toStdString();
 }
 
@@ -248,20 +261,20 @@ TEST_F(ServiceTest, ARefusedPromptInstallsNothing)
     listen();
     for (const char *answer : {"refuse", "dismiss"}) {
         atThePrompt(answer);
-        const Call installed = call(QStringLiteral("InstallHelperTool"));
+        const Call installed = call(contract::service::installHelperTool);
         EXPECT_TRUE(isError(installed, contract::error::notAuthorized))
             << answer << ": " << installed.text.toStdString();
         EXPECT_TRUE(promptLog().contains(answer));
         agent.reset();
     }
-    EXPECT_EQ(endpointIn(call(QStringLiteral("ConnectWithEndpointAndAuthorization"))), QString());
+    EXPECT_EQ(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
     EXPECT_FALSE(heardHelperUpdated());
 }
 
 TEST_F(ServiceTest, WithoutAnybodyToAskInstallsNothing)
 {
     removeHelper();
-    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    const Call installed = call(contract::service::installHelperTool);
     EXPECT_TRUE(isError(installed, contract::error::notAuthorized)) << installed.text.toStdString();
 }
 
@@ -269,12 +282,12 @@ TEST_F(ServiceTest, OneInstallationAtATimeAndTheServiceGoesOnMeanwhile)
 {
     removeHelper();
     atThePrompt("hang");
-    const auto first = calling(QStringLiteral("InstallHelperTool"));
+    const auto first = calling(contract::service::installHelperTool);
     ASSERT_TRUE(eventually([this] { return promptLog().contains("hang"); }));
 
-    const Call second = call(QStringLiteral("InstallHelperTool"));
+    const Call second = call(contract::service::installHelperTool);
     EXPECT_TRUE(isError(second, contract::error::installFailed)) << second.text.toStdString();
-    EXPECT_TRUE(call(QStringLiteral("SetupAuthorizationRights")).succeeded);
+    EXPECT_TRUE(call(contract::service::setupAuthorizationRights).succeeded);
     EXPECT_FALSE(first->ended());
 
     agent.reset(); // the person's session goes, and the prompt with it
@@ -291,7 +304,7 @@ TEST_F(ServiceTest, ToldWhyTheToolFailed)
                            "com.orvandel.Quillon4HelperTool.service/in-the-way"));
     atThePrompt("grant");
     listen();
-    const Call installed = call(QStringLiteral("InstallHelperTool"));
+    const Call installed = call(contract::service::installHelperTool);
     EXPECT_TRUE(isError(installed, contract::error::installFailed)) << installed.text.toStdString();
     EXPECT_TRUE(installed.text.contains(QLatin1String("system-services")))
         << installed.text.toStdString();

@@ -23,16 +23,16 @@ std::string nameOf(const testing::TestParamInfo<Sample> &info)
     return info.param.name;
 }
 
-class AcceptedDevice : public testing::TestWithParam<Sample>
+class ValidationAcceptedDevice : public testing::TestWithParam<Sample>
 {
 };
 
-TEST_P(AcceptedDevice, mayBeLookedUp)
+TEST_P(ValidationAcceptedDevice, mayBeLookedUp)
 {
     EXPECT_TRUE(isValidDeviceName(GetParam().text));
 }
 
-INSTANTIATE_TEST_SUITE_P(, AcceptedDevice,
+INSTANTIATE_TEST_SUITE_P(, ValidationAcceptedDevice,
     testing::Values(Sample{"wired", "enp3s0"}, Sample{"wireless", "wlp2s0"},
         Sample{"bridge", "br0"}, Sample{"oneLetter", "e"},
         Sample{"fifteenBytes", "abcdefghijklmno"}, Sample{"vlanWithPoint", "eth0.100"},
@@ -40,16 +40,16 @@ INSTANTIATE_TEST_SUITE_P(, AcceptedDevice,
         Sample{"threePoints", "..."}, Sample{"capitals", "EthZ9"}),
     nameOf);
 
-class RefusedDevice : public testing::TestWithParam<Sample>
+class ValidationRefusedDevice : public testing::TestWithParam<Sample>
 {
 };
 
-TEST_P(RefusedDevice, isNeverLookedUp)
+TEST_P(ValidationRefusedDevice, isNeverLookedUp)
 {
     EXPECT_FALSE(isValidDeviceName(GetParam().text));
 }
 
-INSTANTIATE_TEST_SUITE_P(, RefusedDevice,
+INSTANTIATE_TEST_SUITE_P(, ValidationRefusedDevice,
     testing::Values(Sample{"empty", ""}, Sample{"point", "."}, Sample{"twoPoints", ".."},
         Sample{"argument", "-a"}, Sample{"longArgument", "--help"}, Sample{"traversal", "../x"},
         Sample{"slash", "a/b"}, Sample{"sixteenBytes", "abcdefghijklmnop"},
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(, RefusedDevice,
         Sample{"equals", "a=b"}, Sample{"atSign", "eth0@if3"}),
     nameOf);
 
-TEST(DeviceName, everyByteIsEitherSafeOrRefused)
+TEST(ValidationDeviceName, everyByteIsEitherSafeOrRefused)
 {
     const std::string safe = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789._-";
     for (int byte = 0; byte < 256; ++byte) {
@@ -74,21 +74,21 @@ TEST(DeviceName, everyByteIsEitherSafeOrRefused)
     }
 }
 
-TEST(DeviceName, aMegabyteIsRefused)
+TEST(ValidationDeviceName, aMegabyteIsRefused)
 {
     EXPECT_FALSE(isValidDeviceName(std::string(1 << 20, 'a')));
 }
 
-class RefusedAddress : public testing::TestWithParam<Sample>
+class ValidationRefusedAddress : public testing::TestWithParam<Sample>
 {
 };
 
-TEST_P(RefusedAddress, isNone)
+TEST_P(ValidationRefusedAddress, isNone)
 {
     EXPECT_EQ(unicastAddress(GetParam().text), std::nullopt);
 }
 
-INSTANTIATE_TEST_SUITE_P(, RefusedAddress,
+INSTANTIATE_TEST_SUITE_P(, ValidationRefusedAddress,
     testing::Values(Sample{"empty", ""}, Sample{"zero", "00:00:00:00:00:00"},
         Sample{"shortZero", "0:0:0:0:0:0"}, Sample{"broadcast", "ff:ff:ff:ff:ff:ff"},
         Sample{"multicast", "01:00:5e:00:00:01"}, Sample{"oneDigitMulticast", "1:2:3:4:5:6"},
@@ -105,19 +105,19 @@ INSTANTIATE_TEST_SUITE_P(, RefusedAddress,
         Sample{"fullwidthDigit", "02:00:00:00:00:\xef\xbc\x91"}, Sample{"words", "not an address"}),
     nameOf);
 
-TEST(Address, aMegabyteIsRefused)
+TEST(ValidationAddress, aMegabyteIsRefused)
 {
     EXPECT_EQ(unicastAddress(std::string(1 << 20, ':')), std::nullopt);
     EXPECT_EQ(unicastAddress(std::string(1 << 20, '0')), std::nullopt);
 }
 
-TEST(Address, octetsMayHaveOneOrTwoDigitsInEitherCase)
+TEST(ValidationAddress, octetsMayHaveOneOrTwoDigitsInEitherCase)
 {
     EXPECT_EQ(unicastAddress("2:0:a:B:0c:Ff"), (LinkLayerAddress{2, 0, 10, 11, 12, 255}));
     EXPECT_EQ(unicastAddress("F0:18:98:00:00:01"), (LinkLayerAddress{0xf0, 0x18, 0x98, 0, 0, 1}));
 }
 
-TEST(Address, everyEvenFirstOctetIsUnicastAndEveryOddOneRefused)
+TEST(ValidationAddress, everyEvenFirstOctetIsUnicastAndEveryOddOneRefused)
 {
     for (unsigned octet = 0; octet < 256; ++octet) {
         const LinkLayerAddress address{static_cast<std::uint8_t>(octet), 1, 2, 3, 4, 5};
@@ -125,7 +125,7 @@ TEST(Address, everyEvenFirstOctetIsUnicastAndEveryOddOneRefused)
     }
 }
 
-TEST(Address, isWrittenWithTwoDigitsInLowerCase)
+TEST(ValidationAddress, isWrittenWithTwoDigitsInLowerCase)
 {
     EXPECT_EQ(addressText({2, 0, 10, 11, 12, 255}), "02:00:0a:0b:0c:ff");
 }

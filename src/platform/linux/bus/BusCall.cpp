@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/bus/BusCall.h"
 
-#include "contract/Names.h"
+#include "contract/Interfaces.h"
 
 #include <QDBusError>
 #include <QDBusPendingCall>

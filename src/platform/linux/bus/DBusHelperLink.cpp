@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/bus/DBusHelperLink.h"
 
+#include "contract/Interfaces.h"
 #include "contract/Names.h"
 #include "platform/RandomSource.h"
 #include "platform/linux/bus/BusPeer.h"
@@ -31,10 +32,10 @@ bool isUniqueName(const QString &name)
     return name.size() <= longestName && unique.match(name).hasMatch();
 }
 
-bool isAnswer(const QDBusMessage &message, const char *signature)
+bool isAnswer(const QDBusMessage &message, const contract::Method &method)
 {
     return message.type() == QDBusMessage::ReplyMessage &&
-           message.signature() == QLatin1String(signature);
+           message.signature() == QLatin1String(method.outputSignature);
 }
 
 Error transportError(const QDBusMessage &message)
@@ -42,21 +43,6 @@ Error transportError(const QDBusMessage &message)
     return message.type() == QDBusMessage::ErrorMessage
                ? busError(message)
                : Error{busErrorDomain, 0, QStringLiteral("The answer is not as agreed")};
-}
-
-// For operations whose answer is nothing or an error of their own.
-BusReply outcome(ErrorReply reply, ErrorHandler errorHandler)
-{
-    return [reply = std::move(reply), errorHandler = std::move(errorHandler)](
-               const QDBusMessage &answer) {
-        if (isAnswer(answer, "")) {
-            reply(std::nullopt);
-        } else if (isContractError(answer)) {
-            reply(busError(answer));
-        } else {
-            errorHandler(transportError(answer));
-        }
-    };
 }
 
 /// What both connections do alike.
@@ -77,7 +63,28 @@ public:
     void resume() override { m_peer->resume(); }
 
 protected:
-    BusPeer &peer() { return *m_peer; }
+    void call(const contract::Method &method, const QVariantList &arguments, milliseconds limit,
+        BusReply reply)
+    {
+        m_peer->call(QLatin1String(method.name), arguments, limit, std::move(reply));
+    }
+
+    /// An operation whose answer is nothing or an error of its own. It may open a prompt.
+    void carryOut(const contract::Method &method, const QVariantList &arguments, ErrorReply reply,
+        ErrorHandler errorHandler)
+    {
+        call(method, arguments, promptLimit,
+            [&method, reply = std::move(reply), errorHandler = std::move(errorHandler)](
+                const QDBusMessage &answer) {
+                if (isAnswer(answer, method)) {
+                    reply(std::nullopt);
+                } else if (isContractError(answer)) {
+                    reply(busError(answer));
+                } else {
+                    errorHandler(transportError(answer));
+                }
+            });
+    }
 
 private:
     const std::shared_ptr<BusPeer> m_peer;
@@ -90,13 +97,13 @@ public:
 
     void installHelperToolWithReply(ErrorReply reply, ErrorHandler errorHandler) override
     {
-        peer().call(QStringLiteral("InstallHelperTool"), {}, promptLimit,
-            outcome(std::move(reply), std::move(errorHandler)));
+        carryOut(
+            contract::service::installHelperTool, {}, std::move(reply), std::move(errorHandler));
     }
 
     void setupAuthorizationRights() override
     {
-        peer().call(QStringLiteral("SetupAuthorizationRights"), {}, answerLimit,
+        call(contract::service::setupAuthorizationRights, {}, answerLimit,
             [](const QDBusMessage &) {});
     }
 
@@ -104,7 +111,7 @@ public:
         std::function<void(const std::optional<QString> &, const QByteArray &)> reply,
         ErrorHandler errorHandler) override
     {
-        peer().call(QStringLiteral("ConnectWithEndpointAndAuthorization"), {}, answerLimit,
+        call(contract::service::connectWithEndpointAndAuthorization, {}, answerLimit,
             [reply = std::move(reply), errorHandler = std::move(errorHandler)](
                 const QDBusMessage &answer) { readEndpoint(answer, reply, errorHandler); });
     }
@@ -114,7 +121,7 @@ private:
     static void readEndpoint(
         const QDBusMessage &answer, const Reply &reply, const ErrorHandler &errorHandler)
     {
-        if (!isAnswer(answer, "say")) {
+        if (!isAnswer(answer, contract::service::connectWithEndpointAndAuthorization)) {
             errorHandler(transportError(answer));
             return;
         }
@@ -138,11 +145,12 @@ public:
     void getVersionWithReply(
         std::function<void(const QString &)> reply, ErrorHandler errorHandler) override
     {
-        peer().call(QStringLiteral("GetVersion"), {}, answerLimit,
+        call(contract::helper::getVersion, {}, answerLimit,
             [reply = std::move(reply), errorHandler = std::move(errorHandler)](
                 const QDBusMessage &answer) {
-                const QString version =
-                    isAnswer(answer, "s") ? answer.arguments().at(0).toString() : QString();
+                const QString version = isAnswer(answer, contract::helper::getVersion)
+                                            ? answer.arguments().at(0).toString()
+                                            : QString();
                 if (version.isEmpty() || version.size() > longestVersion) {
                     errorHandler(transportError(answer));
                 } else {
@@ -155,16 +163,16 @@ public:
         const QString &address, bool deviceIsWiFi, const QByteArray &authorization,
         ErrorReply reply, ErrorHandler errorHandler) override
     {
-        peer().call(QStringLiteral("ChangeAddressOfDevice"),
-            {device, address, deviceIsWiFi, authorization}, promptLimit,
-            outcome(std::move(reply), std::move(errorHandler)));
+        carryOut(contract::helper::changeAddressOfDevice,
+            {device, address, deviceIsWiFi, authorization}, std::move(reply),
+            std::move(errorHandler));
     }
 
     void uninstallWithAuthorizationAndReply(
         const QByteArray &authorization, ErrorReply reply, ErrorHandler errorHandler) override
     {
-        peer().call(QStringLiteral("Uninstall"), {authorization}, promptLimit,
-            outcome(std::move(reply), std::move(errorHandler)));
+        carryOut(contract::helper::uninstall, {authorization}, std::move(reply),
+            std::move(errorHandler));
     }
 };
 
@@ -190,16 +198,16 @@ Result<QByteArray> DBusHelperLink::createAuthorization()
 std::shared_ptr<XPCServiceConnection> DBusHelperLink::connectToService(const QString &serviceName)
 {
     return std::make_shared<ServiceConnection>(
-        BusPeer::make(m_sessionBus, {serviceName, QLatin1String(contract::servicePath),
-                                        QLatin1String(contract::serviceInterface)}));
+        BusPeer::make(m_sessionBus, {serviceName, QLatin1String(contract::service::path),
+                                        QLatin1String(contract::service::interface)}));
 }
 
 std::shared_ptr<HelperToolConnection> DBusHelperLink::connectToListenerEndpoint(
     const QString &endpoint)
 {
     return std::make_shared<ToolConnection>(BusPeer::make(m_systemBus,
-        {isUniqueName(endpoint) ? endpoint : QString(), QLatin1String(contract::helperPath),
-            QLatin1String(contract::helperInterface)}));
+        {isUniqueName(endpoint) ? endpoint : QString(), QLatin1String(contract::helper::path),
+            QLatin1String(contract::helper::interface)}));
 }
 
 } // namespace quillon

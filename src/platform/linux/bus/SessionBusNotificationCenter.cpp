@@ -3,7 +3,7 @@
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
 
 #include "base/Log.h"
-#include "contract/Names.h"
+#include "contract/Interfaces.h"
 
 #include <QDBusMessage>
 
@@ -15,9 +15,11 @@ namespace quillon {
 SessionBusNotificationCenter::SessionBusNotificationCenter(QDBusConnection bus)
     : m_bus(std::move(bus))
 {
-    const bool listening = m_bus.connect(QString(), QLatin1String(contract::distributedPath),
-        QLatin1String(contract::distributedInterface), QLatin1String(contract::distributedSignal),
-        QStringLiteral("ss"), this, SLOT(received(QString, QString)));
+    const bool listening = m_bus.connect(QString(), QLatin1String(contract::distributed::path),
+        QLatin1String(contract::distributed::interface),
+        QLatin1String(contract::distributed::posted.name),
+        QLatin1String(contract::distributed::posted.signature), this,
+        SLOT(received(QString, QString)));
     if (!listening) {
         qCWarning(logPlatform, "Broadcasts of the session cannot be heard");
     }
@@ -27,8 +29,9 @@ SessionBusNotificationCenter::~SessionBusNotificationCenter() = default;
 
 void SessionBusNotificationCenter::post(const QString &name, const QString &object)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(contract::distributedPath),
-        QLatin1String(contract::distributedInterface), QLatin1String(contract::distributedSignal));
+    QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(contract::distributed::path),
+        QLatin1String(contract::distributed::interface),
+        QLatin1String(contract::distributed::posted.name));
     signal << name << object;
     if (!m_bus.send(signal)) {
         qCWarning(logPlatform, "Broadcast %ls was not sent", qUtf16Printable(name));

@@ -116,7 +116,7 @@ protected:
 
     FakePeer peerWith(FakePeer::Answer answer)
     {
-        return {peerBus, contract::helperPath, std::move(answer)};
+        return {peerBus, contract::helper::path, std::move(answer)};
     }
 
     // Nothing more comes for a call that has ended.
@@ -175,7 +175,7 @@ TEST_F(DBusHelperLinkTest, AChangeTravelsAsTheContractSays)
     EXPECT_EQ(outcome.replies, 1);
     EXPECT_FALSE(outcome.error);
     ASSERT_EQ(peer.calls.size(), 1U);
-    EXPECT_EQ(peer.calls[0].interface(), QLatin1String(contract::helperInterface));
+    EXPECT_EQ(peer.calls[0].interface(), QLatin1String(contract::helper::interface));
     EXPECT_EQ(peer.calls[0].member(), QStringLiteral("ChangeAddressOfDevice"));
     EXPECT_EQ(peer.calls[0].signature(), QStringLiteral("ssbay"));
     EXPECT_EQ(peer.calls[0].arguments(), (QVariantList{QStringLiteral("wlp2s0"),
@@ -406,7 +406,7 @@ TEST_F(DBusHelperLinkTest, TheBusItselfMayGo)
 
 TEST_F(DBusHelperLinkTest, TheServiceGivesEndpointAndAuthorization)
 {
-    FakePeer peer(peerBus, contract::servicePath, saying({QStringLiteral(":1.42"), bytes32}));
+    FakePeer peer(peerBus, contract::service::path, saying({QStringLiteral(":1.42"), bytes32}));
     Outcome outcome;
     const auto connection = service();
     connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
@@ -417,7 +417,7 @@ TEST_F(DBusHelperLinkTest, TheServiceGivesEndpointAndAuthorization)
 
 TEST_F(DBusHelperLinkTest, AnEmptyEndpointIsNone)
 {
-    FakePeer peer(peerBus, contract::servicePath, saying({QString(), bytes32}));
+    FakePeer peer(peerBus, contract::service::path, saying({QString(), bytes32}));
     Outcome outcome;
     const auto connection = service();
     connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
@@ -434,7 +434,7 @@ TEST_F(DBusHelperLinkTest, AServiceThatAnswersSomethingElseFails)
             QVariantList{QStringLiteral(":1.42"), QByteArray(31, '\7')},
             QVariantList{QStringLiteral(":1.42"), QByteArray(10'000'000, '\7')},
             QVariantList{QLatin1Char(':') + QString(10'000'000, QLatin1Char('1')), bytes32}}) {
-        FakePeer peer(peerBus, contract::servicePath, saying(answer));
+        FakePeer peer(peerBus, contract::service::path, saying(answer));
         Outcome outcome;
         const auto connection = service();
         connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
@@ -456,7 +456,7 @@ TEST_F(DBusHelperLinkTest, WithoutAServiceItsCallsFail)
 
 TEST_F(DBusHelperLinkTest, InstallAndSetupReachTheService)
 {
-    FakePeer peer(peerBus, contract::servicePath, success);
+    FakePeer peer(peerBus, contract::service::path, success);
     Outcome outcome;
     const auto connection = service();
     connection->setupAuthorizationRights();

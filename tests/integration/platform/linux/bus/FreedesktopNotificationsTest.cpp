@@ -279,7 +279,7 @@ TEST(FreedesktopNotificationsWithoutASession, ReportTheirFailureInALaterTurn)
 }
 
 /// dunst on a display of its own.
-class Dunst : public FreedesktopNotificationsTest
+class FreedesktopNotificationsOnDunst : public FreedesktopNotificationsTest
 {
 protected:
     void SetUp() override
@@ -324,7 +324,7 @@ protected:
     QProcess dunst;
 };
 
-TEST_F(Dunst, ShowsOneMessagePerIdentifier)
+TEST_F(FreedesktopNotificationsOnDunst, ShowsOneMessagePerIdentifier)
 {
     addAndShow("first");
     addAndShow("second");

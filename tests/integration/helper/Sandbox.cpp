@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 
 #include "contract/Validation.h"
 

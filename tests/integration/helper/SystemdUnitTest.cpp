@@ -3,7 +3,7 @@
 // The service manager's restrictions are narrow, but leave the helper what it needs.
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
-#include "integration/helper/Machine.h"
+#include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
 #include <gmock/gmock.h>
@@ -22,7 +22,7 @@ constexpr char newAddress[] = "02:11:22:33:44:55";
 constexpr char activation[] =
     "/usr/local/share/dbus-1/system-services/com.orvandel.Quillon4HelperTool.service";
 
-class AHelperUnderItsUnit : public testing::Test
+class SystemdUnitTest : public testing::Test
 {
 protected:
     /// From now on the bus starts the helper as the service manager would for `unit`.
@@ -55,7 +55,7 @@ protected:
     BusClient quillon{"quillon"};
 };
 
-TEST_F(AHelperUnderItsUnit, changesAddressesAndCanRemoveItself)
+TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
 {
     outputOf(test::builtTool() + " uninstall");
     const auto clean = installedThings();
@@ -67,7 +67,7 @@ TEST_F(AHelperUnderItsUnit, changesAddressesAndCanRemoveItself)
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(AHelperUnderItsUnit, ofThePackageChangesAddressesAndCanWriteNothing)
+TEST_F(SystemdUnitTest, ofThePackageChangesAddressesAndCanWriteNothing)
 {
     const auto unit = std::string{QUILLON_BUILD} + "/data/helper/packaged/quillon4-helper.service";
     // The package's unit, with the program where this sandbox has it.
