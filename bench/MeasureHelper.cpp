@@ -69,7 +69,7 @@ private:
         return {word(end - begin)};
     }
 
-    /// The bus's word on who calls, before the decision, and on whether he is still there, after.
+    /// What the bus says of who calls, before the decision, and whether he is still there, after.
     Words callers(const std::string &caller)
     {
         bool answered = false;

@@ -16,9 +16,9 @@ import sys
 import tempfile
 import time
 
+import end_to_end
 import idle
 import records
-import road
 import vendors
 from report import Report
 from workers import USER, Failed, Worker, in_turns, processes_of
@@ -50,7 +50,7 @@ class Bench:
     def run(self):
         parts = {
             "change": self.change,
-            "road": self.road,
+            "end-to-end": self.end_to_end,
             "start": self.start_and_idle,
             "interfaces": self.many_interfaces,
             "history": self.history,
@@ -125,18 +125,18 @@ class Bench:
         report.times("helper: GetVersion, there and back", taken["version"])
         report.times("helper: ChangeAddressOfDevice, same way", taken["direct"])
         report.times("  of it polkit's CheckAuthorization", taken["authorize"])
-        report.times("  of it the bus's two words on the caller", taken["callers"])
+        report.times("  of it the bus's two answers on the caller", taken["callers"])
         report.times("  of it the kernel: find, set, read back", taken["kernel"])
         report.times("request to saved on disk and announced", taken["whole"])
         report.times("cold: service and helper are started", cold)
         report.row("the very first, polkit not running either", f"{first[0]:.2f} ms")
 
-    # The road of one event
+    # End to end
 
-    def road(self):
+    def end_to_end(self):
         with tempfile.TemporaryDirectory(dir=self.settings) as folder:
             shutil.chown(folder, USER, USER)
-            road.measure(self.report, self.user_worker, self.build, folder, max(10, self.rounds // 4))
+            end_to_end.measure(self.report, self.user_worker, self.build, folder, max(10, self.rounds // 4))
 
     # Many interfaces
 

@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// usage: measure-road FOLDER DEVICE
+// usage: measure-end-to-end FOLDER DEVICE
 // Started as the ordinary user. Runs the program without windows, in FOLDER, with a rule that gives
 // DEVICE a random address once whenever it joins a network. Its own clock runs fast, so that a stay
 // on a network needs no minutes; nothing that is measured waits for that clock. Requests:
-//   status TEXT     waits until the program knows DEVICE as TEXT, and whatever was under way is
-//   over:
+//   status TEXT     waits until the program knows DEVICE as TEXT and nothing is under way any more:
 //                   the number of changes asked of the helper so far
 //   latency COUNT   waits for the change after COUNT of them to be done: nanoseconds from the
-//                   kernel's word of the last default route to the helper's request
+//                   kernel's report of the last default route to the helper's request
 //   watch           begins to watch the main thread and the memory
 //   watched         nanoseconds of the longest stall since then, and kilobytes resident then, now
-//   and
-//                   at most ever
+//                   and at most ever
 //   table           device, link address, status and IPv4 address of every device in the table
 #include "base/SettingsKeys.h"
 #include "bench/ServeInLoop.h"
@@ -99,10 +97,10 @@ std::string kilobytes(const QByteArray &name)
     throw std::runtime_error("no " + name.toStdString());
 }
 
-class Road
+class ProgramUnderTest
 {
 public:
-    Road(const QString &folder, QString device)
+    ProgramUnderTest(const QString &folder, QString device)
         : m_program(folder, speed)
         , m_device(std::move(device))
     {
@@ -200,6 +198,6 @@ int main(int argc, char **argv)
     if (!test::addRule(test::ComposedProgram::recordsPath(folder), test::randomOnceRule(device))) {
         return 1;
     }
-    Road road(folder, device);
-    return serveInLoop([&road](const Words &request) { return road.handle(request); });
+    ProgramUnderTest program(folder, device);
+    return serveInLoop([&program](const Words &request) { return program.handle(request); });
 }

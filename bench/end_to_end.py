@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The road of one event: from the kernel's word to the helper's request, and what a storm of events does."""
+"""End to end: from the kernel's report of an event to the helper's request, and what a storm of events does."""
 import json
 import os
 import subprocess
@@ -32,19 +32,19 @@ def connect(name):
     ip(f"link set far-{name} up")
 
 
-def latency(report, road, rounds):
+def latency(report, program, rounds):
     taken = []
     for _ in range(rounds):
         pull(CARD)
-        road.ask("status", "inactive")
+        program.ask("status", "inactive")
         connect(CARD)
-        changes = road.ask("status", "active")[0]
+        changes = program.ask("status", "active")[0]
         ip(f"addr add 198.51.100.5/24 dev {CARD}", f"route add default via 198.51.100.1 dev {CARD}")
-        taken.append(road.times("latency", changes)[0])
+        taken.append(program.times("latency", changes)[0])
         # A link that goes while a change settles is not taken for a network that was left.
-        road.ask("status", "active")
+        program.ask("status", "active")
         ip(f"addr flush dev {CARD}")
-    report.section("From the kernel's word to the helper's request",
+    report.section("From the kernel's report to the helper's request",
                    f"a lease comes to an interface with a rule, {rounds} times; {ON_DISK}")
     report.times("default route told to change requested", taken)
     report.times(f"  of it beyond the {QUIET} ms that end a burst", [time - QUIET for time in taken])
@@ -59,32 +59,32 @@ def kernel_table():
             for link in links if link["ifname"] in STORMY}
 
 
-def program_table(road):
-    words = road.ask("table")
+def program_table(program):
+    words = program.ask("table")
     entries = {words[place]: words[place + 1:place + 4] for place in range(0, len(words), 4)}
     return {name: entry for name, entry in entries.items() if name in STORMY}
 
 
-def blow(program, seconds):
+def blow(link_storm, seconds):
     """Milliseconds, and how many messages of links, addresses and routes the kernel sent meanwhile."""
-    answer = subprocess.run([program, str(EVENTS_PER_SECOND), str(seconds), *STORMY], check=True,
+    answer = subprocess.run([link_storm, str(EVENTS_PER_SECOND), str(seconds), *STORMY], check=True,
                             capture_output=True, text=True)
     milliseconds, _requests, links, addresses, routes, lost = map(int, answer.stdout.split())
     return milliseconds, links + addresses, routes, lost
 
 
-def storm(report, road, program):
-    blow(program, 1)  # what grows only once has grown then
+def storm(report, program, link_storm):
+    blow(link_storm, 1)  # what grows only once has grown then
     time.sleep(1)
-    road.ask("watch")
-    milliseconds, events, routes, lost = blow(program, STORM_SECONDS)
+    program.ask("watch")
+    milliseconds, events, routes, lost = blow(link_storm, STORM_SECONDS)
     ended = time.monotonic()
     right = kernel_table()
-    while program_table(road) != right and time.monotonic() - ended < RIGHT_WITHIN:
+    while program_table(program) != right and time.monotonic() - ended < RIGHT_WITHIN:
         time.sleep(0.01)
-    is_right = program_table(road) == right
+    is_right = program_table(program) == right
     until_right = time.monotonic() - ended
-    stall, before, after, peak = road.ask("watched")
+    stall, before, after, peak = program.ask("watched")
     report.section(f"A storm of {STORM_SECONDS} s over {len(STORMY)} interfaces",
                    f"messages of links and IPv4 addresses; those of routes come on top; {ON_DISK}",
                    columns=("", "", ""))
@@ -104,12 +104,12 @@ def measure(report, make_worker, build, folder, rounds):
     subprocess.run(["ip", "route", "flush", "exact", "default"], check=True)
     for name in (CARD, *STORMY):
         plug(name)
-    road = make_worker("measure-road", folder, CARD)
-    latency(report, road, rounds)
+    program = make_worker("measure-end-to-end", folder, CARD)
+    latency(report, program, rounds)
     for name in STORMY:
         connect(name)
-    storm(report, road, os.path.join(build, "tests", "integration", "app", "link-storm"))
-    road.end()
+    storm(report, program, os.path.join(build, "tests", "integration", "app", "link-storm"))
+    program.end()
     for name in (CARD, *STORMY):
         ip(f"link del {name}")
     if before.stdout.strip():
