@@ -9,8 +9,8 @@
 
 /// How the measuring programs are asked: one line on standard input is one request, its words
 /// separated by tabs; one line on standard output is the answer, its words separated by tabs, the
-/// first "error" where it failed. So whoever asks can let them take turns, and none of its own time
-/// is in the figures, which are taken in here.
+/// first "error" where it failed. So several programs can be measured in turns; times are taken
+/// inside them, without the time of whoever asks.
 namespace quillon::bench {
 
 using Clock = std::chrono::steady_clock;

@@ -96,7 +96,7 @@ Outcome AddressChange::setWhileDown(
         return changeFailed(link, "taking the interface down", error);
     }
     const int setError = m_kernel.setAddress(link.index, address);
-    // Whatever came of it, the interface goes back to work.
+    // Whatever the outcome, the interface is brought up again.
     const int upError = m_kernel.setUp(link.index, true);
     const int putBackError = upError == 0 ? m_kernel.putBack(configuration) : 0;
     if (setError != 0) {

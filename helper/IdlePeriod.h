@@ -7,7 +7,7 @@
 
 namespace quillon {
 
-/// How long nobody has wanted anything. Told the time, so that it needs no clock.
+/// How long there has been no request. The time is an argument, so that it needs no clock.
 class IdlePeriod
 {
 public:

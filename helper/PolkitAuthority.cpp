@@ -73,7 +73,7 @@ void PolkitAuthority::cancel(const std::string &check)
     try {
         auto call = m_polkit->createMethodCall(polkitInterface, "CancelCheckAuthorization");
         call << check;
-        // That there is nothing left to cancel is no news.
+        // An error only means that there was nothing left to cancel.
         m_polkit->callMethod(
             call, [](sdbus::MethodReply &, const sdbus::Error *) {}, decisionTime);
     } catch (const sdbus::Error &error) {

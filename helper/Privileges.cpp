@@ -102,7 +102,7 @@ std::optional<std::string> closeInheritedDescriptors()
 
 std::optional<std::string> keepNetworkAdministrationOnly()
 {
-    // Before libraries read it: the environment is whoever's started us, and could name another
+    // Before libraries read it: whoever started us chose the environment, which could name another
     // bus.
     if (clearenv() != 0) {
         return failure("cannot clear the environment");

@@ -56,7 +56,7 @@ void announceChangedFiles(sdbus::IConnection &connection)
 {
     tell(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
         "ReloadConfig");
-    // Asking would start it, where the bus knows how to.
+    // A call would start it where the bus can, and it would be running for nothing.
     if (isThere(connection, "org.freedesktop.systemd1")) {
         tell(connection, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
             "org.freedesktop.systemd1.Manager", "Reload");

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "contract/Interfaces.h"
 #include "contract/Names.h"
 
 #include <sdbus-c++/sdbus-c++.h>
@@ -55,8 +56,8 @@ int startProgram()
     return static_cast<int>(syscall(SYS_pidfd_open, program, 0));
 }
 
-// Until the program says that it has seen us, or has ended without a word. Throws when the bus
-// goes.
+// Until the program says that it has seen us, or has ended without saying so. Throws when the
+// bus is gone.
 void waitFor(sdbus::IConnection &bus, const bool &told, int program)
 {
     while (!told) {

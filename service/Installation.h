@@ -19,7 +19,7 @@ public:
     {
         Installed,
         NotAuthorized, ///< the prompt was refused, dismissed or could not be shown
-        Failed,        ///< with the tool's own words
+        Failed,        ///< with what the tool printed
     };
     using Reply = std::function<void(Outcome outcome, const std::string &message)>;
 
@@ -29,7 +29,8 @@ public:
     Installation(const Installation &) = delete;
     Installation &operator=(const Installation &) = delete;
 
-    /// Called when none runs. `reply` is called once, as late as the person at the prompt likes.
+    /// Called when none runs. `reply` is called once, after as long as a person at the prompt
+    /// needs.
     void start(Reply reply);
 
 private:

@@ -74,7 +74,7 @@ bool PollLoop::waitOnce(std::optional<std::chrono::milliseconds> limit)
     for (const auto &[bus, lost] : m_buses) {
         const auto data = bus->getEventLoopPollData();
         entries.push_back({data.fd, data.events, 0});
-        // The bus also wants to be called when the time of one of its calls is over.
+        // The bus must be processed also when the time limit of one of its calls is over.
         if (const int busTimeout = data.getPollTimeout(); busTimeout >= 0) {
             timeout = timeout < 0 ? busTimeout : std::min(timeout, busTimeout);
         }

@@ -51,6 +51,11 @@ BusClient::~BusClient()
     }
 }
 
+sdbus::MethodCall BusClient::callOf(const contract::Method &method)
+{
+    return m_helper->createMethodCall(contract::helper::interface, method.name);
+}
+
 std::string BusClient::send(sdbus::MethodCall &call)
 {
     try {
@@ -67,31 +72,27 @@ std::string BusClient::send(sdbus::MethodCall &call)
 
 std::string BusClient::version()
 {
-    auto call =
-        m_helper->createMethodCall(contract::helper::interface, contract::helper::getVersion.name);
+    auto call = callOf(contract::helper::getVersion);
     return send(call);
 }
 
 std::string BusClient::endpoint()
 {
-    auto call = m_helper->createMethodCall(
-        contract::helper::interface, contract::helper::connectWithEndpoint.name);
+    auto call = callOf(contract::helper::connectWithEndpoint);
     return send(call);
 }
 
 std::string BusClient::change(const std::string &device, const std::string &address,
     bool deviceIsWiFi, const std::vector<std::uint8_t> &authorization)
 {
-    auto call = m_helper->createMethodCall(
-        contract::helper::interface, contract::helper::changeAddressOfDevice.name);
+    auto call = callOf(contract::helper::changeAddressOfDevice);
     call << device << address << deviceIsWiFi << authorization;
     return send(call);
 }
 
 std::string BusClient::uninstall(const std::vector<std::uint8_t> &authorization)
 {
-    auto call =
-        m_helper->createMethodCall(contract::helper::interface, contract::helper::uninstall.name);
+    auto call = callOf(contract::helper::uninstall);
     call << authorization;
     return send(call);
 }
@@ -119,8 +120,7 @@ void BusClient::changeLater(const std::string &device, const std::string &addres
         m_connection->enterEventLoopAsync();
         m_loops = true;
     }
-    auto call = m_helper->createMethodCall(
-        contract::helper::interface, contract::helper::changeAddressOfDevice.name);
+    auto call = callOf(contract::helper::changeAddressOfDevice);
     call << device << address << false << someAuthorization();
     m_helper->callMethod(
         call,

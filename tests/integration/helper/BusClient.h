@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "contract/Interfaces.h"
+
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <cstdint>
@@ -56,6 +58,7 @@ public:
     pid_t processOf(const std::string &name);
 
 private:
+    sdbus::MethodCall callOf(const contract::Method &method);
     std::string send(sdbus::MethodCall &call);
 
     std::unique_ptr<sdbus::IConnection> m_connection;

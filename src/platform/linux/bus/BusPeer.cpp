@@ -24,7 +24,7 @@ const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
 
 std::shared_ptr<BusPeer> BusPeer::make(QDBusConnection bus, Address address)
 {
-    // The last reference may go inside one of its own handlers, or on another thread.
+    // The last reference may be dropped inside one of its own handlers, or on another thread.
     return {new BusPeer(std::move(bus), std::move(address)),
         [](BusPeer *peer) { peer->deleteLater(); }};
 }

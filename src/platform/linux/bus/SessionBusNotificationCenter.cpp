@@ -12,14 +12,14 @@
 
 namespace quillon {
 
+namespace distributed = contract::distributed;
+
 SessionBusNotificationCenter::SessionBusNotificationCenter(QDBusConnection bus)
     : m_bus(std::move(bus))
 {
-    const bool listening = m_bus.connect(QString(), QLatin1String(contract::distributed::path),
-        QLatin1String(contract::distributed::interface),
-        QLatin1String(contract::distributed::posted.name),
-        QLatin1String(contract::distributed::posted.signature), this,
-        SLOT(received(QString, QString)));
+    const bool listening = m_bus.connect(QString(), QLatin1String(distributed::path),
+        QLatin1String(distributed::interface), QLatin1String(distributed::posted.name),
+        QLatin1String(distributed::posted.signature), this, SLOT(received(QString, QString)));
     if (!listening) {
         qCWarning(logPlatform, "Broadcasts of the session cannot be heard");
     }
@@ -29,9 +29,8 @@ SessionBusNotificationCenter::~SessionBusNotificationCenter() = default;
 
 void SessionBusNotificationCenter::post(const QString &name, const QString &object)
 {
-    QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(contract::distributed::path),
-        QLatin1String(contract::distributed::interface),
-        QLatin1String(contract::distributed::posted.name));
+    QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(distributed::path),
+        QLatin1String(distributed::interface), QLatin1String(distributed::posted.name));
     signal << name << object;
     if (!m_bus.send(signal)) {
         qCWarning(logPlatform, "Broadcast %ls was not sent", qUtf16Printable(name));

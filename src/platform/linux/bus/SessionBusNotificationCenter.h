@@ -11,9 +11,10 @@
 
 namespace quillon {
 
-/// Broadcasts as the signal Posted(name, object) of contract/Names.h on the session bus. Every
-/// program of the session may send it, so it carries no more than its two texts, and nothing that
-/// needs trust may hang on it. A program hears its own posts too. Main thread.
+/// Broadcasts as the signal Posted of contract/com.orvandel.Quillon4.DistributedNotifications.xml
+/// on the session bus. Every program of the session may send it, so it carries no more than its two
+/// texts, and nothing that needs trust may depend on it. A program hears its own posts too. Main
+/// thread.
 class SessionBusNotificationCenter : public QObject, public DistributedNotificationCenter
 {
     Q_OBJECT

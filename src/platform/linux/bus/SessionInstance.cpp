@@ -64,8 +64,8 @@ QVariantMap platformData()
     return data;
 }
 
-/// Where Qt's Wayland plug-in looks when a window asks to be activated. A token holds for one
-/// activation: without one, an old one is no use either.
+/// Where Qt's Wayland plug-in looks when a window asks to be activated. A token is valid for one
+/// activation: without a new one, the old one is removed.
 void offerToWindows(const QString &token)
 {
     constexpr const char *variable = "XDG_ACTIVATION_TOKEN";
