@@ -111,6 +111,7 @@ bool LaunchSequence::applicationShouldHandleReopen()
 void LaunchSequence::applicationWillTerminate()
 {
     m_with.externalAddress.saveExternalIPAddress(localized("Unknown..."));
+    m_with.settings.flush();
 }
 
 bool LaunchSequence::startupCheck()

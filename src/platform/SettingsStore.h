@@ -38,9 +38,13 @@ public:
     /// Values that reads fall back to; never written to the store. A second call replaces the
     /// first.
     virtual void registerDefaults(const QVariantMap &defaults) = 0;
-    /// Flushes: on return with true all writes so far are durable. False when they could not be
-    /// written; they are kept and tried again at the next flush.
-    virtual bool synchronize() = 0;
+    /// Has all writes so far made durable soon, in the background: the caller never waits for the
+    /// disk. At most one write is under way and one waits, however often this is called; what could
+    /// not be written is kept and tried again with the next call.
+    virtual void synchronize() = 0;
+    /// Before the process ends: on return with true all writes so far are durable. Waits for the
+    /// disk. False when they could not be written.
+    virtual bool flush() = 0;
 
     /// `observer` is called on the main thread for every change of `key`'s visible value, whoever
     /// made it: before set() returns when the main thread made it, else in a later turn of the main

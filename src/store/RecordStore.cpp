@@ -127,7 +127,7 @@ void RecordStore::endProcess(const Error &error, const QString &path)
 {
     qCWarning(logRecords, "%s", qUtf8Printable(logLine(error, path)));
     // Nothing else is to be lost by this.
-    m_with.settings.synchronize();
+    m_with.settings.flush();
     m_with.alerts.runModal(alertFor(error, path));
     if (isFileOfANewerVersion(error)) {
         std::_Exit(EXIT_FAILURE);

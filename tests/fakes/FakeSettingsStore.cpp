@@ -84,11 +84,17 @@ void FakeSettingsStore::registerDefaults(const QVariantMap &defaults)
     m_observers.deliver();
 }
 
-bool FakeSettingsStore::synchronize()
+void FakeSettingsStore::synchronize()
 {
     const std::lock_guard lock(m_mutex);
     m_journal << QStringLiteral("synchronize");
-    return !m_failing;
+}
+
+bool FakeSettingsStore::flush()
+{
+    const std::lock_guard lock(m_mutex);
+    m_journal << QStringLiteral("flush");
+    return true;
 }
 
 SettingsStore::Token FakeSettingsStore::addObserver(const QString &key, Observer observer)
@@ -132,12 +138,6 @@ QVariantMap FakeSettingsStore::stored() const
 {
     const std::lock_guard lock(m_mutex);
     return m_stored;
-}
-
-void FakeSettingsStore::failSynchronize(bool fails)
-{
-    const std::lock_guard lock(m_mutex);
-    m_failing = fails;
 }
 
 } // namespace quillon::test

@@ -21,14 +21,15 @@ public:
     QVariant get(const QString &key) const override;
     void set(const QString &key, const QVariant &value) override;
     void registerDefaults(const QVariantMap &defaults) override;
-    bool synchronize() override;
+    void synchronize() override;
+    bool flush() override;
     Token addObserver(const QString &key, Observer observer) override;
     void removeObserver(Token token) override;
 
     /// The accepted set() calls for `key`, also those that changed nothing.
     int writeCount(const QString &key) const;
     int synchronizeCount() const;
-    /// What was done, in order: "set <key>", "remove <key>", "synchronize".
+    /// What was done, in order: "set <key>", "remove <key>", "synchronize", "flush".
     QStringList journal() const;
     /// Forgets the journal, and with it the counts.
     void clearJournal();
@@ -39,8 +40,6 @@ public:
     /// later turn of the main loop.
     void changeFromOutside(const QString &key, const QVariant &value);
     bool hasObservers() const { return m_observerCount > 0; }
-    /// From now on synchronize() fails, or no longer.
-    void failSynchronize(bool fails);
 
 private:
     QVariant visible(const QString &key) const;
@@ -51,7 +50,6 @@ private:
     QVariantMap m_stored;
     QVariantMap m_defaults;
     QStringList m_journal;
-    bool m_failing = false;
     int m_observerCount = 0;
     SettingsObservers m_observers;
 };

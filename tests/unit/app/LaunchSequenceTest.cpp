@@ -266,7 +266,7 @@ TEST_F(LaunchSequenceTest, QuittingForgetsTheExternalAddressDurably)
     machine.settings.clearJournal();
     delegate->launch().applicationWillTerminate();
     EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("Unknown..."));
-    EXPECT_EQ(machine.settings.journal().last(), QStringLiteral("synchronize"));
+    EXPECT_EQ(machine.settings.journal().last(), QStringLiteral("flush"));
 }
 
 TEST_F(LaunchSequenceTest, ASecondStartOpensTheWindow)

@@ -192,6 +192,31 @@ TEST_F(RecordStoreDeathTest, ADamagedFileEndsTheProcessAndIsLeftAsItIs)
     EXPECT_EQ(read(path), scribble);
 }
 
+TEST_F(RecordStoreDeathTest, TheSettingsAreOnTheDiskBeforeTheUserIsAsked)
+{
+    class JournalOnStandardError : public AlertsOnStandardError
+    {
+    public:
+        explicit JournalOnStandardError(const test::FakeSettingsStore &store)
+            : m_store(store)
+        {
+        }
+        int runModal(const Alert &) override
+        {
+            std::fprintf(stderr, "JOURNAL %s\n", qUtf8Printable(m_store.journal().join(u',')));
+            return 0;
+        }
+
+    private:
+        const test::FakeSettingsStore &m_store;
+    };
+    ASSERT_TRUE(write(path, "scribble"));
+    settings.clearJournal();
+    JournalOnStandardError shown(settings);
+    EXPECT_EXIT(RecordStore({settings, scheduler, shown}, folder.path()).managedObjectContext(),
+        ::testing::KilledBySignal(SIGABRT), "JOURNAL flush\n");
+}
+
 TEST_F(RecordStoreDeathTest, AFolderThatCannotBeReadEndsTheProcess)
 {
     const auto openAsSomebodyElse = [this] {

@@ -3,6 +3,7 @@
 #include "platform/qt/settings/PlistSettingsStore.h"
 
 #include "base/Log.h"
+#include "platform/SerialQueue.h"
 #include "platform/qt/settings/FileWatch.h"
 #include "platform/qt/settings/SettingsFile.h"
 
@@ -18,14 +19,14 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Several writes in a row make one flush.
-constexpr auto flushDelay = 200ms;
+// Several changes in a row make one write.
+constexpr auto writeDelay = 50ms;
 // An editor may empty the file before it fills it.
 constexpr auto settlingTime = 1s;
 
 } // namespace
 
-/// When the values and the file meet: soon after a write, on demand, when the file changed.
+/// When the values and the file meet: soon after a change, on demand, when the file changed.
 class PlistSettingsStore::Core : public std::enable_shared_from_this<Core>
 {
 public:
@@ -35,6 +36,7 @@ public:
         , m_scheduler(scheduler)
         , m_problem(std::move(problem))
         , m_file(path, values)
+        , m_queue(scheduler)
     {
     }
 
@@ -56,6 +58,7 @@ private:
     Scheduler &m_scheduler;
     const SettingsProblem::Handler m_problem;
     SettingsFile m_file;
+    SerialQueue m_queue; ///< a slow disk holds up one thread of the pool, not all
     std::atomic<bool> m_savePlanned = false;
     std::atomic<bool> m_readPlanned = false;
     std::atomic<bool> m_secondLookPlanned = false;
@@ -65,7 +68,7 @@ private:
 template <typename Function>
 void PlistSettingsStore::Core::inBackground(Function function)
 {
-    m_scheduler.inBackground([weak = weak_from_this(), function] {
+    m_queue.add([weak = weak_from_this(), function] {
         if (const auto core = weak.lock()) {
             function(*core);
         }
@@ -90,13 +93,13 @@ void PlistSettingsStore::Core::saveSoon()
     if (m_savePlanned.exchange(true)) {
         return;
     }
-    m_scheduler.onMainAfter(flushDelay, [weak = weak_from_this()] {
+    m_scheduler.onMainAfter(writeDelay, [weak = weak_from_this()] {
         if (const auto core = weak.lock()) {
-            core->m_savePlanned = false;
-            // The disk may be slow; the windows must not wait for it.
-            if (core->values.unsaved()) {
-                core->inBackground([](Core &self) { self.save(); });
-            }
+            core->inBackground([](Core &self) {
+                // What is set from here on needs another write.
+                self.m_savePlanned = false;
+                self.save();
+            });
         }
     });
 }
@@ -195,7 +198,12 @@ void PlistSettingsStore::registerDefaults(const QVariantMap &defaults)
     core->observers.deliver();
 }
 
-bool PlistSettingsStore::synchronize()
+void PlistSettingsStore::synchronize()
+{
+    m_core->saveSoon();
+}
+
+bool PlistSettingsStore::flush()
 {
     const std::shared_ptr<Core> core = m_core;
     return core->save();

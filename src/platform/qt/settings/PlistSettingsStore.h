@@ -12,13 +12,15 @@ namespace quillon {
 
 class FileWatch;
 
-/// The settings in one property-list file, which is replaced whole, at one stroke. Where this
-/// process and another program changed different keys, both stand; where they changed the same one,
-/// what was set here since the last flush wins. Keys that nobody here knows are kept.
+/// The settings in one property-list file, which is replaced whole, atomically. Where this process
+/// and another program changed different keys, both stand; where they changed the same one, what
+/// was set here since the last write wins. Keys that nobody here knows are kept.
 ///
-/// A write reaches the file within a moment, at synchronize(), and when the store is destroyed. No
-/// value is lost to a failing file: it stays in memory and goes out with the next flush that
-/// succeeds. A file that disappears while the program runs is written again.
+/// The first change, or call of synchronize(), after a write has begun starts the next one 50 ms
+/// later, in the background, on one thread. So a process that is killed loses at most the changes
+/// of its last 50 ms and of the time that the disk takes for two writes; flush() and the destructor
+/// leave nothing. No value is lost to a failing file: it stays in memory and goes out with the next
+/// write that succeeds. A file that disappears while the program runs is written again.
 ///
 /// Made and destroyed on the main thread; safe from every thread in between.
 class PlistSettingsStore : public SettingsStore
@@ -32,7 +34,8 @@ public:
     QVariant get(const QString &key) const override;
     void set(const QString &key, const QVariant &value) override;
     void registerDefaults(const QVariantMap &defaults) override;
-    bool synchronize() override;
+    void synchronize() override;
+    bool flush() override;
     Token addObserver(const QString &key, Observer observer) override;
     void removeObserver(Token token) override;
 

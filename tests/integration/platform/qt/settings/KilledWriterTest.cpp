@@ -9,7 +9,8 @@
 namespace quillon {
 namespace {
 
-/// A program that does nothing but save; it says through `report` what it has durably saved.
+/// A program that does nothing but save, by turns in the background and by flushing; it says
+/// through `report` what it has durably saved.
 [[noreturn]] void saveForever(const QString &path, qlonglong from, int report)
 {
     test::FakeScheduler scheduler;
@@ -19,7 +20,13 @@ namespace {
         store.set(QStringLiteral("first"), round);
         store.set(QStringLiteral("filling"), filling + QString::number(round));
         store.set(QStringLiteral("second"), round);
-        if (!store.synchronize() || ::write(report, &round, sizeof round) != sizeof round) {
+        if (round % 2 == 0) {
+            store.synchronize();
+            scheduler.advance(std::chrono::milliseconds(50));
+        } else if (!store.flush()) {
+            ::_exit(1);
+        }
+        if (::write(report, &round, sizeof round) != sizeof round) {
             ::_exit(1);
         }
     }

@@ -53,7 +53,7 @@ TEST_F(PlistSettingsStoreTest, TheFileIsAnXmlPropertyListOfTheUserAlone)
 {
     openStore();
     store->setBool(keys::hideDock, true);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_TRUE(read(path).startsWith("<?xml"));
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther | QFile::WriteOther),
         QFile::Permissions());
@@ -64,11 +64,11 @@ TEST_F(PlistSettingsStoreTest, TheRightsThatTheUserGaveTheFileStay)
 {
     openStore();
     store->setBool(keys::hideDock, true);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     const auto rights = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     ASSERT_TRUE(QFile::setPermissions(path, rights));
     store->setBool(keys::hideDock, false);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_TRUE(QFile::permissions(path) & QFile::ReadGroup);
 }
 
@@ -77,7 +77,7 @@ TEST_F(PlistSettingsStoreTest, DefaultsAreNeverWritten)
     openStore();
     store->registerDefaults({{keys::showInMenu, true}});
     store->setBool(keys::hideDock, true);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
 }
 
@@ -85,7 +85,7 @@ TEST_F(PlistSettingsStoreTest, WithoutAnythingToStoreThereIsNoFile)
 {
     openStore();
     store->registerDefaults({{keys::showInMenu, true}});
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     store.reset();
     EXPECT_FALSE(QFile::exists(path));
 }
@@ -95,36 +95,66 @@ TEST_F(PlistSettingsStoreTest, ItsFolderIsMadeWhenMissing)
     path = folder.filePath(QStringLiteral("new/folder/settings.plist"));
     openStore();
     store->setBool(keys::hideDock, true);
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     EXPECT_TRUE(content().value(keys::hideDock).toBool());
 }
 
-TEST_F(PlistSettingsStoreTest, SeveralWritesMakeOneFlushAMomentLaterAndNothingRunsWhenIdle)
+TEST_F(PlistSettingsStoreTest, SeveralChangesMakeOneWriteAMomentLaterAndNothingRunsWhenIdle)
 {
     openStore();
     store->setBool(keys::hideDock, true);
     store->setBool(keys::loginStart, true);
-    scheduler.advance(100ms);
+    scheduler.advance(49ms);
     EXPECT_FALSE(QFile::exists(path));
-    scheduler.advance(100ms);
+    scheduler.advance(1ms);
     EXPECT_EQ(content().size(), 2);
     EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(PlistSettingsStoreTest, SeveralCallsOfSynchronizeMakeOneWriteAMomentLater)
+{
+    replacedByAnother({{keys::defaultTimerMinutes, 0}});
+    openStore();
+    const ino_t number = fileNumber(path);
+    for (int minutes = 1; minutes <= 5; ++minutes) {
+        store->set(keys::defaultTimerMinutes, minutes);
+        store->synchronize();
+        EXPECT_EQ(fileNumber(path), number);
+        scheduler.advance(9ms);
+    }
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(0LL));
+    scheduler.advance(5ms);
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(PlistSettingsStoreTest, SynchronizeTakesOverWhatAnotherProgramWrote)
+{
+    openStore();
+    store->set(keys::defaultTimerMinutes, 5);
+    replacedByAnother({{keys::hideDock, true}});
+    store->synchronize();
+    EXPECT_FALSE(store->getBool(keys::hideDock));
+    scheduler.advance(50ms);
+    EXPECT_TRUE(store->getBool(keys::hideDock));
+    const QVariantMap both{{keys::hideDock, true}, {keys::defaultTimerMinutes, 5LL}};
+    EXPECT_EQ(content(), both);
 }
 
 TEST_F(PlistSettingsStoreTest, AnEqualValueIsNotWrittenAgain)
 {
     openStore();
     store->set(keys::defaultTimerMinutes, 5);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     scheduler.advance(1s);
     const ino_t number = fileNumber(path);
     store->set(keys::defaultTimerMinutes, 5LL);
     EXPECT_FALSE(scheduler.hasTimers());
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_EQ(fileNumber(path), number);
 }
 
-TEST_F(PlistSettingsStoreTest, TheLastWritesAreFlushedWhenItIsDestroyed)
+TEST_F(PlistSettingsStoreTest, TheLastChangesAreWrittenWhenItIsDestroyed)
 {
     openStore();
     store->setBool(keys::hideDock, true);
@@ -172,7 +202,7 @@ TEST_F(PlistSettingsStoreTest, ChangesOfDifferentKeysHereAndElsewhereBothStand)
     openStore();
     store->set(keys::defaultTimerMinutes, 5);
     replacedByAnother({{keys::hideDock, false}});
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     const QVariantMap both{{keys::hideDock, false}, {keys::defaultTimerMinutes, 5LL}};
     EXPECT_EQ(content(), both);
     EXPECT_FALSE(store->get(keys::externalIPAddress).isValid());
@@ -183,10 +213,10 @@ TEST_F(PlistSettingsStoreTest, OfTheSameKeyTheUnsavedWriteHereWinsAndTheSavedOne
     openStore();
     store->set(keys::defaultTimerMinutes, 5);
     replacedByAnother({{keys::defaultTimerMinutes, 9}});
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
     replacedByAnother({{keys::defaultTimerMinutes, 9}});
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 9);
 }
 
@@ -196,7 +226,7 @@ TEST_F(PlistSettingsStoreTest, ARemovalHereAlsoWinsUntilItIsSaved)
     openStore();
     store->set(keys::editingRuleNetwork, QVariant());
     replacedByAnother({{keys::editingRuleNetwork, QStringLiteral("b")}});
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_FALSE(content().contains(keys::editingRuleNetwork));
 }
 
@@ -278,7 +308,7 @@ TEST_F(PlistSettingsStoreTest, ALinkToTheFileStaysALink)
     ASSERT_TRUE(QFile::link(target, path));
     openStore();
     store->set(keys::defaultTimerMinutes, 2);
-    ASSERT_TRUE(store->synchronize());
+    ASSERT_TRUE(store->flush());
     EXPECT_TRUE(QFileInfo(path).isSymLink());
     EXPECT_EQ(readPropertyListFile(target).value().value(keys::defaultTimerMinutes), QVariant(2LL));
 }

@@ -60,7 +60,7 @@ TEST_F(SettingsFailure, ADamagedFileIsKeptBesideAndTheDefaultsServe)
     EXPECT_EQ(problems.front().error.domain, propertyListErrorDomain);
     EXPECT_TRUE(store->getBool(keys::showInMenu));
     store->setBool(keys::hideDock, true);
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
     EXPECT_EQ(read(problems.front().keptPath), "scribble");
 }
@@ -114,12 +114,12 @@ TEST_F(SettingsFailure, ADamagedFileThatCannotBeSetAsideIsNotReplaced)
     EXPECT_TRUE(problems.at(0).keptPath.isEmpty());
     EXPECT_EQ(problems.at(1).kind, Kind::NotWritable);
     store->setBool(keys::hideDock, true);
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
     EXPECT_EQ(read(path), "scribble");
     EXPECT_TRUE(store->getBool(keys::hideDock));
 
     setRights(folder.path(), 0700);
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     scheduler.runPending();
     ASSERT_EQ(problems.size(), 3U);
     EXPECT_EQ(read(problems.at(2).keptPath), "scribble");
@@ -138,7 +138,7 @@ TEST_F(SettingsFailure, AFileThatCannotBeReadIsNeverOverwritten)
     EXPECT_EQ(problems.front().error.code, EACCES);
     EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 30);
     store->setBool(keys::hideDock, false);
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
     scheduler.advance(10s);
     EXPECT_EQ(problems.size(), 1U) << "told once until it is over";
     EXPECT_TRUE(others().isEmpty());
@@ -147,12 +147,12 @@ TEST_F(SettingsFailure, AFileThatCannotBeReadIsNeverOverwritten)
     setRights(path, 0600);
     EXPECT_EQ(read(path), bytes);
     EXPECT_TRUE(storeSoonHas(keys::defaultTimerMinutes, 5LL)) << "its becoming readable is noticed";
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     const QVariantMap merged{{keys::defaultTimerMinutes, 5LL}, {keys::hideDock, false}};
     EXPECT_EQ(content(), merged);
 
     setRights(path, 0);
-    store->synchronize();
+    store->flush();
     scheduler.runPending();
     EXPECT_EQ(problems.size(), 2U) << "a new problem of the same kind is told again";
     setRights(path, 0600);
@@ -165,8 +165,8 @@ TEST_F(SettingsFailure, AReadOnlyFolderKeepsTheOldFileAndTheValuesWaitInMemory)
     setRights(folder.path(), 0500);
     openStore();
     store->set(keys::defaultTimerMinutes, 6);
-    EXPECT_FALSE(store->synchronize());
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
+    EXPECT_FALSE(store->flush());
     scheduler.advance(10s);
     ASSERT_TRUE(problemIs(Kind::NotWritable));
     EXPECT_EQ(problems.front().error.code, EACCES);
@@ -174,8 +174,26 @@ TEST_F(SettingsFailure, AReadOnlyFolderKeepsTheOldFileAndTheValuesWaitInMemory)
     EXPECT_EQ(read(path), before);
 
     setRights(folder.path(), 0700);
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(6LL));
+}
+
+TEST_F(SettingsFailure, WhatCannotBeWrittenInTheBackgroundIsToldAndGoesOutWithTheNextCall)
+{
+    replacedByAnother({{keys::defaultTimerMinutes, 5}});
+    openStore();
+    setRights(folder.path(), 0500);
+    store->set(keys::defaultTimerMinutes, 6);
+    store->synchronize();
+    EXPECT_TRUE(problems.empty());
+    scheduler.advance(50ms);
+    EXPECT_TRUE(problemIs(Kind::NotWritable));
+    EXPECT_FALSE(scheduler.hasTimers()) << "it is not tried for ever";
+    setRights(folder.path(), 0700);
+    store->synchronize();
+    scheduler.advance(50ms);
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(6LL));
+    EXPECT_EQ(problems.size(), 1U);
 }
 
 TEST_F(SettingsFailure, AReadOnlyFileIsRespected)
@@ -184,7 +202,7 @@ TEST_F(SettingsFailure, AReadOnlyFileIsRespected)
     setRights(path, 0400);
     openStore();
     store->set(keys::defaultTimerMinutes, 6);
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
     scheduler.runPending();
     EXPECT_TRUE(problemIs(Kind::NotWritable));
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
@@ -197,7 +215,7 @@ TEST_F(SettingsFailure, AFolderInTheFilesPlaceIsLeftAlone)
     ASSERT_TRUE(problemIs(Kind::Unreadable));
     EXPECT_EQ(problems.front().error.code, EISDIR);
     store->setBool(keys::hideDock, true);
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
     EXPECT_TRUE(QFileInfo(path + QStringLiteral("/inside")).isDir());
 }
 
@@ -207,7 +225,7 @@ TEST_F(SettingsFailure, APipeInTheFilesPlaceDoesNotHoldUpTheProgram)
     openStore();
     EXPECT_TRUE(problemIs(Kind::Unreadable));
     store->setBool(keys::hideDock, true);
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
 }
 
 TEST_F(SettingsFailure, MoreThanTheFileMayHoldIsNotWritten)
@@ -215,12 +233,12 @@ TEST_F(SettingsFailure, MoreThanTheFileMayHoldIsNotWritten)
     replacedByAnother({{keys::defaultTimerMinutes, 5}});
     openStore();
     store->set(QStringLiteral("giant"), QByteArray(propertyListFileLimit, 'x'));
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
     scheduler.runPending();
     ASSERT_TRUE(problemIs(Kind::NotWritable));
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
     store->set(QStringLiteral("giant"), QVariant());
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
 }
 
 TEST_F(SettingsFailure, AFullDiskKeepsTheOldFileAndTheValuesWaitInMemory)
@@ -239,8 +257,8 @@ TEST_F(SettingsFailure, AFullDiskKeepsTheOldFileAndTheValuesWaitInMemory)
     filler.close();
 
     store->set(keys::defaultTimerMinutes, 6);
-    EXPECT_FALSE(store->synchronize());
-    EXPECT_FALSE(store->synchronize());
+    EXPECT_FALSE(store->flush());
+    EXPECT_FALSE(store->flush());
     scheduler.runPending();
     ASSERT_TRUE(problemIs(Kind::DiskFull));
     EXPECT_EQ(problems.front().error.code, ENOSPC);
@@ -249,7 +267,7 @@ TEST_F(SettingsFailure, AFullDiskKeepsTheOldFileAndTheValuesWaitInMemory)
     EXPECT_EQ(others(), QStringList({QStringLiteral("ballast")})) << "nothing half-written is left";
 
     ASSERT_TRUE(QFile::remove(ballast));
-    EXPECT_TRUE(store->synchronize());
+    EXPECT_TRUE(store->flush());
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(6LL));
     store.reset();
     user.reset();

@@ -28,6 +28,8 @@ struct InMemory
         scheduler.runPending();
         return condition();
     }
+    /// What the next start would find.
+    QVariantMap stored() const { return store.stored(); }
 };
 
 struct OnFile
@@ -39,7 +41,7 @@ struct OnFile
 
     void changeFromOutside(const QString &key, const QVariant &value)
     {
-        ASSERT_TRUE(store.synchronize());
+        ASSERT_TRUE(store.flush());
         const Result<QVariantMap> before = readPropertyListFile(path);
         QVariantMap values = before ? before.value() : QVariantMap();
         values.remove(key);
@@ -50,6 +52,11 @@ struct OnFile
     }
     void offMainThread(const std::function<void()> &task) { std::thread(task).join(); }
     bool soon(const std::function<bool()> &condition) { return test::holdsSoon(condition); }
+    QVariantMap stored() const
+    {
+        const Result<QVariantMap> values = readPropertyListFile(path);
+        return values ? values.value() : QVariantMap();
+    }
 };
 
 template <typename Kind>
@@ -251,11 +258,26 @@ TYPED_TEST(SettingsStoreConformance, AnObserverMaySetOtherKeysAndItsOwn)
     EXPECT_TRUE(this->store.getBool(keys::showInMenu));
 }
 
-TYPED_TEST(SettingsStoreConformance, AnObserverMaySynchronize)
+TYPED_TEST(SettingsStoreConformance, WhatIsSynchronizedIsStoredSoonAndWhatIsFlushedIsStored)
+{
+    this->store.registerDefaults({{keys::showInMenu, true}});
+    this->store.set(keys::defaultTimerMinutes, 5);
+    this->store.synchronize();
+    const QVariantMap first{{keys::defaultTimerMinutes, 5LL}};
+    EXPECT_TRUE(this->kind.soon([&] { return this->kind.stored() == first; }));
+    this->store.set(keys::defaultTimerMinutes, 6);
+    EXPECT_TRUE(this->store.flush());
+    const QVariantMap second{{keys::defaultTimerMinutes, 6LL}};
+    EXPECT_EQ(this->kind.stored(), second);
+}
+
+TYPED_TEST(SettingsStoreConformance, AnObserverMaySynchronizeAndFlush)
 {
     bool flushed = false;
-    this->store.addObserver(
-        keys::hideDock, [&](const auto &) { flushed = this->store.synchronize(); });
+    this->store.addObserver(keys::hideDock, [&](const auto &) {
+        this->store.synchronize();
+        flushed = this->store.flush();
+    });
     this->store.setBool(keys::hideDock, true);
     EXPECT_TRUE(flushed);
 }
@@ -319,8 +341,9 @@ TYPED_TEST(SettingsStoreConformance, ManyThreadsMayReadAndWriteAtOnce)
             for (int round = 1; round <= 100; ++round) {
                 this->store.set(own, round);
                 EXPECT_EQ(this->store.getInteger(own), round);
+                this->store.synchronize();
                 if (round % 50 == 0) {
-                    EXPECT_TRUE(this->store.synchronize());
+                    EXPECT_TRUE(this->store.flush());
                 }
             }
         });
