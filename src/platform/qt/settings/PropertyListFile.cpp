@@ -3,7 +3,6 @@
 #include "platform/qt/settings/PropertyListFile.h"
 
 #include "base/PropertyList.h"
-#include "platform/qt/settings/BinaryPropertyList.h"
 #include "platform/qt/settings/XmlPropertyList.h"
 
 #include <QDir>
@@ -60,8 +59,7 @@ Error saveError(const QSaveFile &file, const QString &path)
 
 Result<QVariantMap> readPropertyList(const QByteArray &bytes)
 {
-    const Result<QVariant> value =
-        isBinaryPropertyList(bytes) ? readBinaryPropertyList(bytes) : readXmlPropertyList(bytes);
+    const Result<QVariant> value = readXmlPropertyList(bytes);
     if (!value) {
         return value.error();
     }

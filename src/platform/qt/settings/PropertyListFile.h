@@ -15,7 +15,7 @@ namespace quillon {
 /// Files beyond this are refused, both ways.
 inline constexpr qint64 propertyListFileLimit = 16 * 1024 * 1024;
 
-/// The dictionary in `bytes`, XML or binary, normalised. Anything else is an error of
+/// The dictionary in `bytes`, an XML property list, normalised. Anything else is an error of
 /// propertyListErrorDomain.
 Result<QVariantMap> readPropertyList(const QByteArray &bytes);
 

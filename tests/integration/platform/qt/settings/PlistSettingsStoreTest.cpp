@@ -185,15 +185,33 @@ TEST_F(PlistSettingsStoreTest, KeysThatNobodyKnowsAreKept)
         QVariant(QVariantList{1LL, QVariantMap()}));
 }
 
-TEST_F(PlistSettingsStoreTest, ABinaryFileIsReadAndBecomesXmlAtTheNextWrite)
+TEST_F(PlistSettingsStoreTest, ABinaryPropertyListIsADamagedFile)
 {
-    ASSERT_TRUE(write(path, asBinary({{keys::defaultTimerMinutes, 7}})));
+    const QByteArray binary = asBinary({{keys::defaultTimerMinutes, 7}});
+    ASSERT_TRUE(binary.startsWith("bplist00"));
+    ASSERT_TRUE(write(path, binary));
     openStore();
-    EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 7);
+    store->registerDefaults({{keys::defaultTimerMinutes, 30}});
+    ASSERT_TRUE(problemIs(SettingsProblem::Kind::Damaged));
+    EXPECT_EQ(problems.front().error.domain, propertyListErrorDomain);
+    EXPECT_EQ(read(problems.front().keptPath), binary);
+    EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 30);
     store->setBool(keys::hideDock, true);
     store.reset();
-    EXPECT_TRUE(read(path).startsWith("<?xml"));
-    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(7LL));
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+}
+
+TEST_F(PlistSettingsStoreTest, ABinaryPropertyListInTheFilesPlaceLosesNothing)
+{
+    replacedByAnother({{keys::hideDock, true}});
+    openStore();
+    const QByteArray binary = asBinary({{keys::hideDock, false}});
+    ASSERT_TRUE(write(path, binary));
+    ASSERT_TRUE(store->flush());
+    scheduler.runPending();
+    EXPECT_EQ(content(), QVariantMap({{keys::hideDock, true}}));
+    ASSERT_TRUE(problemIs(SettingsProblem::Kind::Damaged));
+    EXPECT_EQ(read(problems.front().keptPath), binary);
 }
 
 TEST_F(PlistSettingsStoreTest, ChangesOfDifferentKeysHereAndElsewhereBothStand)

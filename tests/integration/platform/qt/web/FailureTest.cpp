@@ -95,7 +95,7 @@ TEST_F(Failure, ASlowServerIsNotASilentOne)
 }
 
 /// What never ends must not fill the memory until it is given up.
-class Flood : public HttpTest
+class FailureFlood : public HttpTest
 {
 protected:
     void expectBounded(const QVariantMap &rule)
@@ -109,14 +109,14 @@ protected:
     }
 };
 
-TEST_F(Flood, OfARedirect)
+TEST_F(FailureFlood, OfARedirect)
 {
     expectBounded({{QStringLiteral("redirect"), QStringLiteral("/page")},
         {QStringLiteral("size"), QStringLiteral("endless")},
         {QStringLiteral("framing"), QStringLiteral("chunked")}});
 }
 
-TEST_F(Flood, OfAPlainBody)
+TEST_F(FailureFlood, OfAPlainBody)
 {
     expectBounded({{QStringLiteral("size"), QStringLiteral("endless")}});
 }

@@ -72,7 +72,7 @@ TEST_F(PackagedDefaults, TheProgramCanBeSeenAndSpeaks)
     EXPECT_EQ(defaults.value(keys::defaultTimerMinutes), QVariant(30LL));
 }
 
-TEST(MissingDefaults, AreAnErrorOfTheSystem)
+TEST(PackagedDefaultsMissing, AreAnErrorOfTheSystem)
 {
     const auto resource = readPropertyListFile(QStringLiteral(":/Missing.plist"));
     ASSERT_FALSE(resource);

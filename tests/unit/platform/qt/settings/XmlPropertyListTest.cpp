@@ -23,6 +23,35 @@ QByteArray nested(int levels)
     return QByteArray("<array>").repeated(levels) + QByteArray("</array>").repeated(levels);
 }
 
+/// The same values as another library writes them.
+QByteArray madeByAnotherLibrary(const QVariantMap &values)
+{
+    const QByteArray text = xmlPropertyList(values);
+    plist_t root = nullptr;
+    plist_from_xml(text.constData(), static_cast<uint32_t>(text.size()), &root);
+    char *bytes = nullptr;
+    uint32_t length = 0;
+    plist_to_xml(root, &bytes, &length);
+    QByteArray result(bytes, static_cast<qsizetype>(length));
+    plist_to_xml_free(bytes);
+    plist_free(root);
+    return result;
+}
+
+/// What the other library can carry.
+QVariantMap plainValues()
+{
+    QVariantMap values = test::everyKindOfValue();
+    values.remove(QStringLiteral("dates"));
+    values.insert(QStringLiteral("reals"), QVariantList{0.0, -0.5, 1024.25});
+    values.insert(QStringLiteral("strings"),
+        QVariantList{QStringLiteral("plain"), QString::fromUtf8("Caf\u00e9 \u6f22 \U0001F600"),
+            QString(200, u'x')});
+    values.insert(QStringLiteral("date"), QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC));
+    values.insert(QStringLiteral("before"), QDateTime(QDate(1975, 3, 1), QTime(12, 0, 1), Qt::UTC));
+    return values;
+}
+
 TEST(XmlPropertyList, WhatIsWrittenIsReadBackTheSame)
 {
     const QVariantMap written = test::everyKindOfValue();
@@ -71,6 +100,19 @@ TEST(XmlPropertyList, AnotherLibraryReadsWhatIsWritten)
     plist_free(root);
 }
 
+TEST(XmlPropertyList, WhatAnotherLibraryWroteIsRead)
+{
+    const QVariantMap values = plainValues();
+    const QByteArray text = madeByAnotherLibrary(values);
+    ASSERT_NE(text, xmlPropertyList(values)) << "nothing is compared";
+    const Result<QVariant> read = readXmlPropertyList(text);
+    ASSERT_TRUE(read) << read.error().message.toStdString();
+    for (const QString &key : values.keys()) {
+        EXPECT_TRUE(isSamePropertyList(read.value().toMap().value(key), values.value(key)))
+            << key.toStdString();
+    }
+}
+
 TEST(XmlPropertyList, FormsOfOtherWritersAreRead)
 {
     const Result<QVariant> read =
@@ -115,11 +157,11 @@ void PrintTo(const Damage &damage, std::ostream *out)
     *out << damage.name;
 }
 
-class DamagedXmlPropertyList : public ::testing::TestWithParam<Damage>
+class XmlPropertyListDamaged : public ::testing::TestWithParam<Damage>
 {
 };
 
-TEST_P(DamagedXmlPropertyList, IsAnErrorAndNeverAnotherValue)
+TEST_P(XmlPropertyListDamaged, IsAnErrorAndNeverAnotherValue)
 {
     const Result<QVariant> read = readBody(GetParam().body);
     ASSERT_FALSE(read);
@@ -128,7 +170,7 @@ TEST_P(DamagedXmlPropertyList, IsAnErrorAndNeverAnotherValue)
         << read.error().message.toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(Damages, DamagedXmlPropertyList,
+INSTANTIATE_TEST_SUITE_P(Damages, XmlPropertyListDamaged,
     ::testing::Values(Damage{"Nothing", ""}, Damage{"OnlyText", "text"},
         Damage{"BadInteger", "<integer>12a</integer>"}, Damage{"EmptyInteger", "<integer/>"},
         Damage{"IntegerOutOfRange", "<integer>9223372036854775808</integer>"},
