@@ -3,6 +3,7 @@
 #include "base/Localized.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace quillon {
 
@@ -18,15 +19,18 @@ QString localized(const char *english)
 
 QString filled(const QString &text, const QStringList &values)
 {
-    QStringList pieces = text.split(QStringLiteral("%@"));
-    QString result = pieces.takeFirst();
-    qsizetype next = 0;
-    for (const QString &piece : pieces) {
-        result += next < values.size() ? values.at(next) : QStringLiteral("%@");
-        result += piece;
-        ++next;
+    static const QRegularExpression placeholder(QStringLiteral("%[@d]"));
+    QString result;
+    qsizetype end = 0;
+    for (const QString &value : values) {
+        const QRegularExpressionMatch match = placeholder.match(text, end);
+        if (!match.hasMatch()) {
+            break;
+        }
+        result += text.mid(end, match.capturedStart() - end) + value;
+        end = match.capturedEnd();
     }
-    return result;
+    return result + text.mid(end);
 }
 
 } // namespace quillon

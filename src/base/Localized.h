@@ -9,13 +9,12 @@ namespace quillon {
 
 /// The user's language for an English text, which is the key of the table. Unknown texts come back
 /// as they are. Stored values stay English, except the two that are kept for display only (a
-/// record's `localizedInterface`, the external address before it is known). Placeholders are "%@",
-/// filled by filled().
+/// record's `localizedInterface`, the external address before it is known).
 QString localized(const QString &english);
 QString localized(const char *english);
 
-/// `text` with its "%@" placeholders replaced, in order, by `values`. A value that itself contains
-/// "%@" is not filled again.
+/// `text` with its placeholders "%@" and "%d" replaced, in order, by `values`. A value that itself
+/// contains one is not filled again; placeholders without a value stay.
 QString filled(const QString &text, const QStringList &values);
 
 } // namespace quillon

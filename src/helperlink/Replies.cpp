@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helperlink/Replies.h"
 
+#include "base/Localized.h"
 #include "base/Log.h"
 #include "platform/Scheduler.h"
 
@@ -9,27 +10,9 @@
 
 namespace quillon {
 
-QString formatted(const QString &format, const QStringList &values)
-{
-    QString text;
-    qsizetype next = 0;
-    for (qsizetype i = 0; i < format.size(); ++i) {
-        const bool isPlaceholder =
-            format.at(i) == QLatin1Char('%') && i + 1 < format.size() &&
-            (format.at(i + 1) == QLatin1Char('@') || format.at(i + 1) == QLatin1Char('d'));
-        if (isPlaceholder && next < values.size()) {
-            text += values.at(next++);
-            ++i;
-        } else {
-            text += format.at(i);
-        }
-    }
-    return text;
-}
-
 QString errorText(const Error &error)
 {
-    return formatted(errorLogFormat, {error.domain, QString::number(error.code)});
+    return filled(errorLogFormat, {error.domain, QString::number(error.code)});
 }
 
 void logOnMain(Scheduler &scheduler, const QString &text)

@@ -5,7 +5,6 @@
 #include "platform/HelperLink.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <atomic>
 #include <functional>
@@ -21,8 +20,6 @@ class Scheduler;
 /// How an error stands in the log: domain and code.
 inline const QString errorLogFormat = QStringLiteral("error %@ / %d\n");
 
-/// `format` with its "%@" and "%d" replaced, in order, by `values`.
-QString formatted(const QString &format, const QStringList &values);
 QString errorText(const Error &error);
 /// To the system log, in a later turn of the main loop.
 void logOnMain(Scheduler &scheduler, const QString &text);

@@ -3,6 +3,7 @@
 #include "XPCMethods.h"
 
 #include "base/Assertion.h"
+#include "base/Localized.h"
 #include "base/NotificationNames.h"
 #include "helperlink/Replies.h"
 #include "platform/HelperLink.h"
@@ -269,7 +270,7 @@ void XPCMethods::logText(const QString &text)
 void XPCMethods::logWithFormat(const QString &format, const QStringList &values)
 {
     QUILLON_REQUIRE(!format.isNull(), "logWithFormat:", "format != nil");
-    logText(formatted(format, values));
+    logText(filled(format, values));
 }
 
 void XPCMethods::logError(const std::optional<Error> &error)

@@ -14,25 +14,27 @@ TEST(Localized, AnUnknownTextComesBackAsItIs)
     EXPECT_EQ(localized(QString::fromUtf8("Größe “%@”")), QString::fromUtf8("Größe “%@”"));
 }
 
-TEST(Filled, PlaceholdersAreFilledInOrder)
+TEST(LocalizedFilled, PlaceholdersAreFilledInOrder)
 {
     EXPECT_EQ(
         filled(QStringLiteral("%@ now has %@."), {QStringLiteral("en0"), QStringLiteral("00:11")}),
         QStringLiteral("en0 now has 00:11."));
+    EXPECT_EQ(filled(QStringLiteral("%d of %@%"), {QStringLiteral("1"), QStringLiteral("2")}),
+        QStringLiteral("1 of 2%"));
 }
 
-TEST(Filled, AValueIsNotFilledAgain)
+TEST(LocalizedFilled, AValueIsNotFilledAgain)
 {
-    EXPECT_EQ(filled(QStringLiteral("%@ and %@"), {QStringLiteral("%@"), QStringLiteral("b")}),
-        QStringLiteral("%@ and b"));
+    EXPECT_EQ(filled(QStringLiteral("%@ and %@"), {QStringLiteral("%@%d"), QStringLiteral("b")}),
+        QStringLiteral("%@%d and b"));
 }
 
-TEST(Filled, MissingValuesLeaveThePlaceholderAndExtraOnesAreIgnored)
+TEST(LocalizedFilled, MissingValuesLeaveThePlaceholderAndExtraOnesAreIgnored)
 {
     EXPECT_EQ(
         filled(QStringLiteral("%@ and %@"), {QStringLiteral("a")}), QStringLiteral("a and %@"));
     EXPECT_EQ(
-        filled(QStringLiteral("plain %d"), {QStringLiteral("a")}), QStringLiteral("plain %d"));
+        filled(QStringLiteral("plain %s %"), {QStringLiteral("a")}), QStringLiteral("plain %s %"));
     EXPECT_EQ(filled(QString(), {}), QString());
 }
 
