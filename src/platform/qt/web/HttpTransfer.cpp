@@ -91,6 +91,7 @@ QNetworkRequest HttpTransfer::request(const QUrl &url) const
 
 void HttpTransfer::connectReply()
 {
+    // Qt's own time-out only counts bytes of the body as progress and would end a slow start.
     const auto moved = [this] { m_silence.start(); };
     connect(m_reply, &QNetworkReply::socketStartedConnecting, this, moved);
     connect(m_reply, &QNetworkReply::encrypted, this, moved);
@@ -139,7 +140,8 @@ bool HttpTransfer::isRedirect() const
     return redirects.contains(status()) && m_reply->hasRawHeader("Location");
 }
 
-/// Goes on at the address that the server names. What else it says is not read.
+/// Goes on at the address that the server names. What else it says is not read. Not left to Qt:
+/// where it follows redirects, 6.4 sends many requests twice, over connections that it kept.
 void HttpTransfer::follow()
 {
     const QUrl here = m_reply->url();

@@ -3,6 +3,9 @@
 #include "integration/platform/qt/web/HttpTest.h"
 
 #include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
 
 namespace quillon::test {
 namespace {
@@ -92,6 +95,24 @@ TEST_F(Failure, ASlowServerIsNotASilentOne)
     time.start();
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 0123456789");
     EXPECT_GT(time.elapsed(), 1000);
+}
+
+TEST_F(Failure, ASlowStartIsNotSilence)
+{
+    useSilence(1s);
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    QObject::connect(&server, &QTcpServer::newConnection, &server, [&server] {
+        QTcpSocket *const peer = server.nextPendingConnection();
+        const auto say = [peer](std::chrono::milliseconds after, const char *bytes) {
+            QTimer::singleShot(after, peer, [peer, bytes] { peer->write(bytes); });
+        };
+        say(600ms, "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\n");
+        say(1200ms, "here");
+    });
+    EXPECT_EQ(
+        outcome(get(QUrl(QStringLiteral("http://127.0.0.1:%1/page").arg(server.serverPort())))),
+        "200 here");
 }
 
 /// What never ends must not fill the memory until it is given up.
