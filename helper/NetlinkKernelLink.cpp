@@ -3,12 +3,11 @@
 #include "helper/NetlinkKernelLink.h"
 
 #include "helper/PutBack.h"
-
-#include <netlink/attr.h>
-#include <netlink/msg.h>
+#include "netlink/NetlinkAttributes.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <poll.h>
@@ -17,45 +16,35 @@ namespace quillon {
 
 namespace {
 
-constexpr int attempts = 8;
 // Duplicate address detection takes a second by default; until then a route may not name the
 // address.
 constexpr int detectionPauses = 60;
 constexpr int detectionPauseMilliseconds = 50;
 
-NetlinkMessage linkMessage(int type, int index)
+NetlinkMessage linkMessage(int type, int index, unsigned change = 0, unsigned flags = 0)
 {
-    NetlinkMessage message{nlmsg_alloc_simple(type, NLM_F_REQUEST)};
     ifinfomsg header{};
-    header.ifi_family = AF_UNSPEC;
     header.ifi_index = index;
-    if (!message || nlmsg_append(message.get(), &header, sizeof header, NLMSG_ALIGNTO) < 0) {
-        return nullptr;
-    }
-    return message;
+    header.ifi_change = change;
+    header.ifi_flags = flags;
+    return netlinkMessage(type, 0, header);
 }
 
-bool readLink(const nlmsghdr *message, LinkState &state)
+bool readLink(const nlmsghdr &message, LinkState &state)
 {
-    if (message->nlmsg_type != RTM_NEWLINK) {
+    const auto link = headerOf<ifinfomsg>(message);
+    const NetlinkAttributes<IFLA_MAX> attributes(attributesOf<ifinfomsg>(message));
+    if (message.nlmsg_type != RTM_NEWLINK || !link || !attributes.has(IFLA_IFNAME)) {
         return false;
     }
-    nlattr *attributes[IFLA_MAX + 1];
-    auto *header = const_cast<nlmsghdr *>(message);
-    if (nlmsg_parse(header, sizeof(ifinfomsg), attributes, IFLA_MAX, nullptr) < 0 ||
-        attributes[IFLA_IFNAME] == nullptr) {
-        return false;
-    }
-    const auto *link = static_cast<const ifinfomsg *>(nlmsg_data(message));
     state.index = link->ifi_index;
     state.type = link->ifi_type;
     state.flags = link->ifi_flags;
-    state.name = nla_get_string(attributes[IFLA_IFNAME]);
-    const nlattr *address = attributes[IFLA_ADDRESS];
+    state.name = attributes.text(IFLA_IFNAME);
     state.address = {};
-    if (address != nullptr && nla_len(address) == static_cast<int>(state.address.size())) {
-        std::copy_n(static_cast<const std::uint8_t *>(nla_data(address)), state.address.size(),
-            state.address.begin());
+    if (const ByteSpan address = attributes.bytes(IFLA_ADDRESS);
+        address.size() == state.address.size()) {
+        std::memcpy(state.address.data(), address.data(), address.size());
     }
     return true;
 }
@@ -72,15 +61,15 @@ void restoreOrder(std::vector<LinkConfiguration::Message> &addresses)
 
 int NetlinkKernelLink::find(int index, const std::string &name, LinkState &state)
 {
-    auto message = linkMessage(RTM_GETLINK, index);
+    const auto message = linkMessage(RTM_GETLINK, index);
     if (!message ||
         (!name.empty() && nla_put_string(message.get(), IFLA_IFNAME, name.c_str()) < 0)) {
         return ENOMEM;
     }
     bool found = false;
-    const int error = m_socket.request(
-        message.get(), [&](const nlmsghdr *answer) { found = readLink(answer, state) || found; });
-    return error == 0 && !found ? ENODEV : error;
+    const NetlinkAnswer answer = m_socket.request(
+        message, [&](const nlmsghdr &part) { found = readLink(part, state) || found; });
+    return answer.error == 0 && !found ? ENODEV : answer.error;
 }
 
 int NetlinkKernelLink::findByName(const std::string &name, LinkState &state)
@@ -95,57 +84,40 @@ int NetlinkKernelLink::findByIndex(int index, LinkState &state)
 
 int NetlinkKernelLink::setAddress(int index, const contract::LinkLayerAddress &address)
 {
-    auto message = linkMessage(RTM_SETLINK, index);
+    const auto message = linkMessage(RTM_SETLINK, index);
     if (!message || nla_put(message.get(), IFLA_ADDRESS, static_cast<int>(address.size()),
                         address.data()) < 0) {
         return ENOMEM;
     }
-    return m_socket.request(message.get());
+    return m_socket.request(message).error;
 }
 
 int NetlinkKernelLink::setUp(int index, bool up)
 {
-    auto message = linkMessage(RTM_SETLINK, index);
-    if (!message) {
-        return ENOMEM;
-    }
-    auto *header = static_cast<ifinfomsg *>(nlmsg_data(nlmsg_hdr(message.get())));
-    header->ifi_change = IFF_UP;
-    header->ifi_flags = up ? static_cast<unsigned>(IFF_UP) : 0U;
-    return m_socket.request(message.get());
+    const unsigned flags = up ? static_cast<unsigned>(IFF_UP) : 0U;
+    return m_socket.request(linkMessage(RTM_SETLINK, index, IFF_UP, flags)).error;
 }
 
-int NetlinkKernelLink::readTable(int type, const NetlinkSocket::Answer &answer)
+int NetlinkKernelLink::readTable(int type, ToPutBack *toPutBack, const LinkState &link,
+    std::vector<LinkConfiguration::Message> &table)
 {
-    NetlinkMessage message{nlmsg_alloc_simple(type, NLM_F_REQUEST | NLM_F_DUMP)};
     // Addresses and routes begin with the family; a dump takes the rest of the header as no filter.
-    rtmsg header{};
-    header.rtm_family = AF_UNSPEC;
-    if (!message || nlmsg_append(message.get(), &header, sizeof header, NLMSG_ALIGNTO) < 0) {
-        return ENOMEM;
-    }
-    return m_socket.request(message.get(), answer);
+    const NetlinkAnswer answer = m_socket.readTable(
+        netlinkMessage(type, NLM_F_DUMP, rtmsg{}), [&] { table.clear(); },
+        [&](const nlmsghdr &part) {
+            if (auto body = toPutBack(&part, link)) {
+                table.push_back(std::move(*body));
+            }
+        });
+    return answer.error == 0 && answer.interrupted ? EINTR : answer.error;
 }
 
 int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguration &configuration)
 {
-    int error = EINTR;
-    // A table that changed while it was read is read again, but not for ever.
-    for (int attempt = 0; error == EINTR && attempt < attempts; ++attempt) {
-        configuration = {};
-        error = readTable(RTM_GETADDR, [&](const nlmsghdr *answer) {
-            if (auto address = addressToPutBack(answer, link)) {
-                configuration.addresses.push_back(std::move(*address));
-            }
-        });
-        if (error != 0) {
-            continue;
-        }
-        error = readTable(RTM_GETROUTE, [&](const nlmsghdr *answer) {
-            if (auto route = routeToPutBack(answer, link)) {
-                configuration.routes.push_back(std::move(*route));
-            }
-        });
+    configuration = {};
+    int error = readTable(RTM_GETADDR, addressToPutBack, link, configuration.addresses);
+    if (error == 0) {
+        error = readTable(RTM_GETROUTE, routeToPutBack, link, configuration.routes);
     }
     restoreOrder(configuration.addresses);
     std::stable_partition(configuration.routes.begin(), configuration.routes.end(),
@@ -155,9 +127,9 @@ int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguratio
 
 int NetlinkKernelLink::create(int type, const LinkConfiguration::Message &body)
 {
-    NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
+    const NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
     if (!message || nlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, type, 0,
-                        NLM_F_REQUEST | NLM_F_CREATE | NLM_F_EXCL) == nullptr) {
+                        NLM_F_CREATE | NLM_F_EXCL) == nullptr) {
         return ENOMEM;
     }
     // The body is what the kernel would have sent after the header.
@@ -165,7 +137,7 @@ int NetlinkKernelLink::create(int type, const LinkConfiguration::Message &body)
     if (nlmsg_append(message.get(), data, body.size(), NLMSG_ALIGNTO) < 0) {
         return ENOMEM;
     }
-    const int error = m_socket.request(message.get());
+    const int error = m_socket.request(message).error;
     return error == EEXIST ? 0 : error;
 }
 

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "helper/KernelLink.h"
-#include "helper/NetlinkSocket.h"
+#include "netlink/NetlinkSocket.h"
+
+#include <optional>
 
 namespace quillon {
 
@@ -20,12 +22,16 @@ public:
     int putBack(const LinkConfiguration &configuration) override;
 
 private:
+    using ToPutBack = std::optional<LinkConfiguration::Message>(
+        const nlmsghdr *, const LinkState &);
+
     int find(int index, const std::string &name, LinkState &state);
-    int readTable(int type, const NetlinkSocket::Answer &answer);
+    int readTable(int type, ToPutBack *toPutBack, const LinkState &link,
+        std::vector<LinkConfiguration::Message> &table);
     int create(int type, const LinkConfiguration::Message &message);
     int createPatiently(const LinkConfiguration::Message &route, int &pausesLeft);
 
-    NetlinkSocket m_socket;
+    NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};
 };
 
 } // namespace quillon

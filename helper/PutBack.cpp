@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/PutBack.h"
 
-#include <netlink/attr.h>
-#include <netlink/msg.h>
+#include "netlink/NetlinkAttributes.h"
+#include "netlink/NextHops.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +18,8 @@ namespace quillon {
 namespace {
 
 using Message = LinkConfiguration::Message;
+using AddressAttributes = NetlinkAttributes<IFA_MAX>;
+using RouteAttributes = NetlinkAttributes<RTA_MAX>;
 
 // Of all address flags these are requests; the others are the kernel's findings.
 constexpr std::uint32_t settableAddressFlags =
@@ -50,97 +52,73 @@ void appendNumber(Message &body, int type, std::uint32_t value)
     append(body, &value, sizeof value);
 }
 
-bool isFormedFromLinkAddress(const nlattr *address, const contract::LinkLayerAddress &link)
+bool isFormedFromLinkAddress(ByteSpan address, const contract::LinkLayerAddress &link)
 {
     // RFC 4291, appendix A: the interface identifier of an EUI-48.
     const std::array<std::uint8_t, 8> identifier{static_cast<std::uint8_t>(link[0] ^ 2U), link[1],
         link[2], 0xff, 0xfe, link[3], link[4], link[5]};
-    return address != nullptr && nla_len(address) == 16 &&
-           std::memcmp(static_cast<const std::uint8_t *>(nla_data(address)) + 8, identifier.data(),
-               identifier.size()) == 0;
+    return address.size() == 16 &&
+           std::memcmp(address.data() + 8, identifier.data(), identifier.size()) == 0;
 }
 
-bool kernelMakesAddress(
-    const ifaddrmsg *header, nlattr *const *attributes, std::uint32_t flags, const LinkState &link)
+bool kernelMakesAddress(const ifaddrmsg &header, const AddressAttributes &attributes,
+    std::uint32_t flags, const LinkState &link)
 {
-    if (header->ifa_family != AF_INET6) {
+    if (header.ifa_family != AF_INET6) {
         return false;
     }
     // Kernels since 5.18 say which are their own, also those of an earlier link-layer address.
-    const unsigned origin = attributes[IFA_PROTO] != nullptr ? nla_get_u8(attributes[IFA_PROTO])
-                                                             : unsigned{IFAPROT_UNSPEC};
+    const auto origin = attributes.value<std::uint8_t>(IFA_PROTO).value_or(IFAPROT_UNSPEC);
     const bool declared = origin == IFAPROT_KERNEL_RA || origin == IFAPROT_KERNEL_LL;
     const bool derived = (flags & (IFA_F_TEMPORARY | IFA_F_STABLE_PRIVACY)) != 0;
-    return declared || derived || isFormedFromLinkAddress(attributes[IFA_ADDRESS], link.address);
+    return declared || derived ||
+           isFormedFromLinkAddress(attributes.bytes(IFA_ADDRESS), link.address);
 }
 
 /// Where the route goes out by `index`, alone or among several.
-bool goesThrough(nlattr *const *attributes, int index)
+bool goesThrough(const RouteAttributes &attributes, int index)
 {
-    if (attributes[RTA_OIF] != nullptr) {
-        return static_cast<int>(nla_get_u32(attributes[RTA_OIF])) == index;
+    if (const auto interface = attributes.value<int>(RTA_OIF)) {
+        return *interface == index;
     }
-    if (attributes[RTA_MULTIPATH] == nullptr) {
-        return false;
+    bool found = false;
+    if (nlattr *const hops = attributes.find(RTA_MULTIPATH)) {
+        forEachNextHop(
+            hops, [&](const rtnexthop &hop) { found = found || hop.rtnh_ifindex == index; });
     }
-    const auto *hop = static_cast<const rtnexthop *>(nla_data(attributes[RTA_MULTIPATH]));
-    int left = nla_len(attributes[RTA_MULTIPATH]);
-    while (left >= static_cast<int>(sizeof *hop) && hop->rtnh_len >= sizeof *hop &&
-           hop->rtnh_len <= left) {
-        if (hop->rtnh_ifindex == index) {
-            return true;
-        }
-        left -= static_cast<int>(NLMSG_ALIGN(hop->rtnh_len));
-        hop = RTNH_NEXT(hop);
-    }
-    return false;
+    return found;
 }
 
-bool isLinkLocal(const nlattr *destination)
+bool isLinkLocal(ByteSpan destination)
 {
-    if (destination == nullptr || nla_len(destination) != 16) {
-        return false;
-    }
-    const auto *bytes = static_cast<const std::uint8_t *>(nla_data(destination));
-    return bytes[0] == 0xfe && (bytes[1] & 0xc0U) == 0x80;
+    return destination.size() == 16 && destination[0] == std::byte{0xfe} &&
+           (destination[1] & std::byte{0xc0}) == std::byte{0x80};
 }
 
-std::uint32_t expiry(nlattr *const *attributes)
+std::uint32_t expiry(const RouteAttributes &attributes)
 {
-    const nlattr *attribute = attributes[RTA_CACHEINFO];
-    if (attribute == nullptr || nla_len(attribute) < static_cast<int>(sizeof(rta_cacheinfo))) {
-        return 0;
-    }
-    rta_cacheinfo info{};
-    std::memcpy(&info, nla_data(attribute), sizeof info);
+    const auto info = attributes.value<rta_cacheinfo>(RTA_CACHEINFO).value_or(rta_cacheinfo{});
     const auto ticks = static_cast<std::uint32_t>(sysconf(_SC_CLK_TCK));
     return info.rta_expires <= 0 ? 0 : static_cast<std::uint32_t>(info.rta_expires) / ticks + 1;
 }
 
-bool othersMakeRoute(const rtmsg *header, nlattr *const *attributes)
+bool othersMakeRoute(const rtmsg &header, const RouteAttributes &attributes)
 {
-    if (header->rtm_type != RTN_UNICAST || (header->rtm_flags & RTM_F_CLONED) != 0 ||
-        header->rtm_protocol == RTPROT_REDIRECT || header->rtm_protocol == RTPROT_RA) {
+    if (header.rtm_type != RTN_UNICAST || (header.rtm_flags & RTM_F_CLONED) != 0 ||
+        header.rtm_protocol == RTPROT_REDIRECT || header.rtm_protocol == RTPROT_RA) {
         return true;
     }
     // Prefix routes: managers add them under the kernel's name too, so only those stay away that
     // depend on an address which the kernel forms anew.
-    return header->rtm_family == AF_INET6 && header->rtm_protocol == RTPROT_KERNEL &&
-           (isLinkLocal(attributes[RTA_DST]) || expiry(attributes) != 0);
+    return header.rtm_family == AF_INET6 && header.rtm_protocol == RTPROT_KERNEL &&
+           (isLinkLocal(attributes.bytes(RTA_DST)) || expiry(attributes) != 0);
 }
 
 /// The hops' states are the kernel's findings, and it refuses to take them back.
 void clearHopStates(Message &body, std::size_t from)
 {
-    auto *attribute = reinterpret_cast<nlattr *>(body.data() + from);
-    auto *hop = static_cast<rtnexthop *>(nla_data(attribute));
-    int left = nla_len(attribute);
-    while (left >= static_cast<int>(sizeof *hop) && hop->rtnh_len >= sizeof *hop &&
-           hop->rtnh_len <= left) {
-        hop->rtnh_flags &= RTNH_F_ONLINK;
-        left -= static_cast<int>(NLMSG_ALIGN(hop->rtnh_len));
-        hop = RTNH_NEXT(hop);
-    }
+    forEachNextHop(reinterpret_cast<nlattr *>(body.data() + from),
+        [](rtnexthop &hop) { hop.rtnh_flags &= RTNH_F_ONLINK; });
 }
 
 bool hasAttribute(const Message &route, int type)
@@ -155,27 +133,24 @@ bool hasAttribute(const Message &route, int type)
 
 std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState &link)
 {
-    nlattr *attributes[IFA_MAX + 1];
-    if (message->nlmsg_type != RTM_NEWADDR ||
-        nlmsg_parse(
-            const_cast<nlmsghdr *>(message), sizeof(ifaddrmsg), attributes, IFA_MAX, nullptr) < 0) {
+    auto header = headerOf<ifaddrmsg>(*message);
+    if (message->nlmsg_type != RTM_NEWADDR || !header ||
+        static_cast<int>(header->ifa_index) != link.index) {
         return std::nullopt;
     }
-    ifaddrmsg header = *static_cast<const ifaddrmsg *>(nlmsg_data(message));
-    const std::uint32_t flags =
-        attributes[IFA_FLAGS] != nullptr ? nla_get_u32(attributes[IFA_FLAGS]) : header.ifa_flags;
-    if (static_cast<int>(header.ifa_index) != link.index ||
-        kernelMakesAddress(&header, attributes, flags, link)) {
+    const AddressAttributes attributes(attributesOf<ifaddrmsg>(*message));
+    const auto flags = attributes.value<std::uint32_t>(IFA_FLAGS).value_or(header->ifa_flags);
+    if (kernelMakesAddress(*header, attributes, flags, link)) {
         return std::nullopt;
     }
-    header.ifa_flags = static_cast<std::uint8_t>(flags & settableAddressFlags);
+    header->ifa_flags = static_cast<std::uint8_t>(flags & settableAddressFlags);
     Message body;
-    append(body, &header, sizeof header);
+    append(body, &*header, sizeof *header);
     // The lifetimes (IFA_CACHEINFO) are what is left of them.
     for (int type : {IFA_ADDRESS, IFA_LOCAL, IFA_LABEL, IFA_BROADCAST, IFA_CACHEINFO,
              IFA_RT_PRIORITY, IFA_PROTO}) {
-        if (attributes[type] != nullptr) {
-            appendAttribute(body, attributes[type]);
+        if (attributes.has(type)) {
+            appendAttribute(body, attributes.find(type));
         }
     }
     appendNumber(body, IFA_FLAGS, flags & settableAddressFlags);
@@ -184,26 +159,24 @@ std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState
 
 std::optional<Message> routeToPutBack(const nlmsghdr *message, const LinkState &link)
 {
-    nlattr *attributes[RTA_MAX + 1];
-    if (message->nlmsg_type != RTM_NEWROUTE ||
-        nlmsg_parse(const_cast<nlmsghdr *>(message), sizeof(rtmsg), attributes, RTA_MAX, nullptr) <
-            0) {
+    auto header = headerOf<rtmsg>(*message);
+    if (message->nlmsg_type != RTM_NEWROUTE || !header) {
         return std::nullopt;
     }
-    rtmsg header = *static_cast<const rtmsg *>(nlmsg_data(message));
-    if (!goesThrough(attributes, link.index) || othersMakeRoute(&header, attributes)) {
+    const RouteAttributes attributes(attributesOf<rtmsg>(*message));
+    if (!goesThrough(attributes, link.index) || othersMakeRoute(*header, attributes)) {
         return std::nullopt;
     }
-    header.rtm_flags &= RTNH_F_ONLINK;
+    header->rtm_flags &= RTNH_F_ONLINK;
     Message body;
-    append(body, &header, sizeof header);
+    append(body, &*header, sizeof *header);
     for (int type = 1; type <= RTA_MAX; ++type) {
         // A nexthop object goes down with its interface; the route carries the hop itself as well.
-        if (attributes[type] == nullptr || type == RTA_CACHEINFO || type == RTA_NH_ID) {
+        if (!attributes.has(type) || type == RTA_CACHEINFO || type == RTA_NH_ID) {
             continue;
         }
         const auto start = body.size();
-        appendAttribute(body, attributes[type]);
+        appendAttribute(body, attributes.find(type));
         if (type == RTA_MULTIPATH) {
             clearHopStates(body, start);
         }

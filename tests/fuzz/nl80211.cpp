@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/Require.h"
+#include "netlink/NetlinkAnswer.h"
 #include "platform/linux/wifi/WiFiReading.h"
 #include "platform/linux/wifi/WiFiSecurity.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 // The bytes are taken as the kernel's messages that answer every question about Wi-Fi, and once
 // more as the information elements of a beacon.
@@ -62,13 +64,16 @@ void readAsElements(ByteSpan bytes)
 
 void readAsMessages(ByteSpan bytes)
 {
+    // In memory of its own, aligned as a socket's buffer is.
+    const std::vector<std::byte> copy(bytes.begin(), bytes.end());
     Nl80211Messages messages;
-    messages.add(bytes, family, sequence);
+    NetlinkAnswer answer{.sequence = sequence};
+    answer.add(copy, [&](const nlmsghdr &message) { messages.add(message, family); });
     const auto records = messages.interfaces.size() + messages.networks.size() +
                          messages.stations.size() + messages.noises.size();
     require(static_cast<std::size_t>(records) <= bytes.size() / sizeof(nlmsghdr),
         "every record is a message at least");
-    require(messages.error >= 0 && messages.error < 4096, "an error is an errno");
+    require(answer.error >= 0 && answer.error < 4096, "an error is an errno");
     SameAnswerToAll exchange(std::move(messages));
     const auto wifi = readWiFi(exchange);
     if (!wifi) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/Require.h"
+#include "netlink/NetlinkAnswer.h"
 #include "platform/linux/netlink/LinkMessages.h"
 
 #include <cstdint>
@@ -23,13 +24,14 @@ void requireAddress(const QString &address)
 void read(std::span<const std::byte> bytes)
 {
     LinkMessages messages;
-    messages.add(bytes, sequence);
+    NetlinkAnswer answer{.sequence = sequence};
+    answer.add(bytes, [&](const nlmsghdr &message) { messages.add(message); });
     tellsOfChange(bytes);
     const auto records = messages.links.size() + messages.addresses.size() + messages.routes.size();
     require(static_cast<std::size_t>(records) <= bytes.size() / sizeof(nlmsghdr),
         "every record is a message at least");
-    require(messages.error >= 0 && messages.error < 4096, "an error is an errno");
-    for (const LinkFacts &link : messages.links) {
+    require(answer.error >= 0 && answer.error < 4096, "an error is an errno");
+    for (const LinkInfo &link : messages.links) {
         require(link.name.size() < 16, "a name fits its field");
         require(link.kind.size() < 64 && link.parentBus.size() < 64, "texts are bounded");
         requireAddress(link.address);

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wifi/Nl80211Capture.h"
 
+#include "netlink/NetlinkAnswer.h"
+
 #include <algorithm>
 #include <cerrno>
-#include <cstddef>
+#include <cstring>
 #include <utility>
 
 namespace quillon::test {
@@ -130,16 +132,19 @@ Nl80211Messages Nl80211Capture::ask(const Nl80211Request &request)
         return messages;
     }
     for (const QByteArray &datagram : std::as_const(answer->datagrams)) {
-        const ByteSpan bytes = bytesOf(datagram);
-        messages.add(bytes, m_family, sequenceOf(bytes));
+        NetlinkAnswer part{.sequence = sequenceOf(bytesOf(datagram))};
+        part.add(
+            bytesOf(datagram), [&](const nlmsghdr &message) { messages.add(message, m_family); });
+        messages.error = part.error;
     }
     return messages;
 }
 
 quint32 Nl80211Capture::sequenceOf(ByteSpan datagram)
 {
-    constexpr std::size_t place = offsetof(nlmsghdr, nlmsg_seq);
-    return hostNumber<quint32>(datagram.subspan(std::min(place, datagram.size()))).value_or(0);
+    nlmsghdr first{};
+    std::memcpy(&first, datagram.data(), std::min(sizeof first, datagram.size()));
+    return first.nlmsg_seq;
 }
 
 Nl80211Capture::Answer &Nl80211Capture::answerTo(const Nl80211Request &request)

@@ -17,8 +17,8 @@ namespace quillon::test {
 ///     # a remark
 ///     family 28                  the number that this kernel gave to nl80211
 ///     ask networks 3             a request: table, and index of the interface or radio
-///     datagram                   what the socket gave at once, as hexadecimal octets in any number
-///       0c0000001c000200…        of lines; blanks do not count
+///     datagram                   one message or several, as hexadecimal octets in any number of
+///       0c0000001c000200…        lines; blanks do not count
 ///
 /// Played back, it answers the same requests by the parser that reads the kernel; a request that
 /// was not recorded fails with ENODATA.

@@ -49,8 +49,9 @@ int show(const QString &path, QTextStream &out)
 int record(QTextStream &out)
 {
     std::optional<test::Nl80211Capture> capture;
-    Nl80211Socket socket(
-        [&](const Nl80211Request &request, ByteSpan datagram) { capture->add(request, datagram); });
+    Nl80211Socket socket([&](const Nl80211Request &request, const nlmsghdr &message) {
+        capture->add(request, {reinterpret_cast<const std::byte *>(&message), message.nlmsg_len});
+    });
     if (socket.access() != WiFiAccess::Granted) {
         out << "# this kernel has no nl80211, or it may not be asked\n";
         return 1;

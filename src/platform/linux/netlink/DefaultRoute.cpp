@@ -2,64 +2,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/netlink/DefaultRoute.h"
 
+#include "netlink/NetlinkAttributes.h"
+#include "netlink/NextHops.h"
+
 #include <linux/rtnetlink.h>
 
 namespace quillon {
 
 namespace {
 
-constexpr unsigned int deadFlags = RTNH_F_DEAD | RTNH_F_LINKDOWN;
+bool isDead(unsigned int flags)
+{
+    return (flags & (RTNH_F_DEAD | RTNH_F_LINKDOWN)) != 0;
+}
 
 bool isForOrdinaryTraffic(quint32 table)
 {
     return table == RT_TABLE_MAIN || table == RT_TABLE_DEFAULT;
 }
 
-// Several next hops come as a list of rtnexthop, each with attributes of its own.
-void addNextHops(DefaultRoute &route, ByteSpan hops)
-{
-    rtnexthop hop{};
-    while (hops.size() >= sizeof hop) {
-        std::memcpy(&hop, hops.data(), sizeof hop);
-        if (hop.rtnh_len < sizeof hop || hop.rtnh_len > hops.size()) {
-            return;
-        }
-        if (!(hop.rtnh_flags & deadFlags)) {
-            route.interfaces.append(hop.rtnh_ifindex);
-        }
-        hops = afterPadded(hops, hop.rtnh_len);
-    }
-}
-
 } // namespace
 
-std::optional<DefaultRoute> defaultRoute(ByteSpan payload)
+std::optional<DefaultRoute> defaultRoute(const nlmsghdr &message)
 {
-    rtmsg about{};
-    if (payload.size() < sizeof about) {
+    const auto about = headerOf<rtmsg>(message);
+    if (!about || about->rtm_dst_len != 0 || about->rtm_type != RTN_UNICAST) {
         return std::nullopt;
     }
-    std::memcpy(&about, payload.data(), sizeof about);
-    quint32 table = about.rtm_table;
-    bool hasObject = false;
+    const NetlinkAttributes<RTA_MAX> attributes(attributesOf<rtmsg>(message));
+    if (!isForOrdinaryTraffic(attributes.value<quint32>(RTA_TABLE).value_or(about->rtm_table))) {
+        return std::nullopt;
+    }
     DefaultRoute route;
-    forEachAttribute(payload.subspan(sizeof about), [&](int type, ByteSpan value) {
-        if (type == RTA_TABLE) {
-            table = hostNumber<quint32>(value).value_or(table);
-        } else if (type == RTA_OIF && !(about.rtm_flags & deadFlags)) {
-            if (const auto index = hostNumber<quint32>(value)) {
-                route.interfaces.append(static_cast<int>(*index));
-            }
-        } else if (type == RTA_MULTIPATH) {
-            addNextHops(route, value);
-        } else if (type == RTA_NH_ID) {
-            hasObject = true;
-        }
-    });
-    if (about.rtm_dst_len != 0 || about.rtm_type != RTN_UNICAST || !isForOrdinaryTraffic(table)) {
-        return std::nullopt;
+    if (const auto index = attributes.value<int>(RTA_OIF); index && !isDead(about->rtm_flags)) {
+        route.interfaces.append(*index);
     }
-    route.leadsToObject = hasObject && route.interfaces.isEmpty() && !(about.rtm_flags & deadFlags);
+    if (nlattr *const hops = attributes.find(RTA_MULTIPATH)) {
+        forEachNextHop(hops, [&](const rtnexthop &hop) {
+            if (!isDead(hop.rtnh_flags)) {
+                route.interfaces.append(hop.rtnh_ifindex);
+            }
+        });
+    }
+    route.leadsToObject =
+        attributes.has(RTA_NH_ID) && route.interfaces.isEmpty() && !isDead(about->rtm_flags);
     return route;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/netlink/MessageBytes.h"
+#include "netlink/NetlinkMessage.h"
 
 #include <QList>
 
@@ -21,9 +21,9 @@ struct DefaultRoute
     bool operator==(const DefaultRoute &) const = default;
 };
 
-/// The route that a message's payload tells of; none when it is no default route for ordinary
-/// traffic: one with a prefix, one that rejects or stays on this machine, or one in a table that
-/// only special traffic is led to (any but "main" and "default").
-std::optional<DefaultRoute> defaultRoute(ByteSpan payload);
+/// The route that a message tells of; none when it is no default route for ordinary traffic: one
+/// with a prefix, one that rejects or stays on this machine, or one in a table that only special
+/// traffic is led to (any but "main" and "default").
+std::optional<DefaultRoute> defaultRoute(const nlmsghdr &message);
 
 } // namespace quillon

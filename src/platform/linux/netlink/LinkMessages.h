@@ -7,15 +7,12 @@
 #include <QList>
 #include <QString>
 
-#include <cstddef>
-#include <optional>
-#include <span>
 #include <string>
 
 namespace quillon {
 
 /// What one RTM_NEWLINK message of rtnetlink(7) tells about an interface.
-struct LinkFacts
+struct LinkInfo
 {
     int index = 0;
     unsigned short type = 0;            ///< ARPHRD_… of <linux/if_arp.h>
@@ -27,47 +24,43 @@ struct LinkFacts
     std::string kind;         ///< "veth", "bridge" …; empty for hardware
     std::string parentBus;    ///< "pci", "usb", "thunderbolt" …; empty when there is none
 
-    bool operator==(const LinkFacts &) const = default;
+    bool operator==(const LinkInfo &) const = default;
 };
 
 /// What one RTM_NEWADDR message tells of an IPv4 address.
-struct AddressFacts
+struct AddressInfo
 {
     int index = 0;
     QString ipv4; ///< dotted decimal
 
-    bool operator==(const AddressFacts &) const = default;
+    bool operator==(const AddressInfo &) const = default;
 };
 
-/// The answers to one request, collected from its datagrams.
+/// What the messages of an answer tell.
 struct LinkMessages
 {
-    QList<LinkFacts> links;
-    QList<AddressFacts> addresses;
+    QList<LinkInfo> links;
+    QList<AddressInfo> addresses;
     QList<DefaultRoute> routes; ///< other routes are left out
-    bool finished = false;      ///< the last message of the answer was seen
-    bool interrupted = false;   ///< the tables changed while they were read (NLM_F_DUMP_INTR)
-    int error = 0;              ///< errno of a refusal or of a table that broke off, else 0
+    int error = 0;              ///< errno of an answer that failed, else 0
 
-    /// Adds the messages of one datagram that answer the request `sequence`. The bytes must be
-    /// aligned as nlmsghdr. Whatever is truncated or malformed is left out; nothing is read beyond
-    /// the span.
-    void add(std::span<const std::byte> datagram, quint32 sequence);
+    /// Whatever is truncated or malformed is left out.
+    void add(const nlmsghdr &message);
 };
 
 /// Whether a datagram of the LINK, IPV4_IFADDR and IPV4_ROUTE groups tells of a change. Wireless
 /// events (scan finished and the like, IFLA_WIRELESS) are none: they come every few seconds and
-/// carry no state of the link. An unreadable datagram counts as a change.
-bool tellsOfChange(std::span<const std::byte> datagram);
+/// carry no state of the link. An unreadable datagram counts as a change. Aligned as nlmsghdr.
+bool tellsOfChange(ByteSpan datagram);
 
 /// Whether the link can carry traffic. IF_OPER_UNKNOWN, which drivers without operational state
 /// report all the time, counts as up when the carrier is there.
-bool isActive(const LinkFacts &link);
+bool isActive(const LinkInfo &link);
 
 /// "active" when the link can carry traffic, else "inactive".
-QString statusText(const LinkFacts &link);
+QString statusText(const LinkInfo &link);
 
 /// Lower-case octets separated by ":"; empty unless it is six octets.
-QString addressText(std::span<const unsigned char> octets);
+QString addressText(ByteSpan octets);
 
 } // namespace quillon

@@ -5,14 +5,9 @@
 #include "base/Log.h"
 #include "platform/linux/netlink/LinkMessages.h"
 
-#include <netlink/netlink.h>
-#include <netlink/socket.h>
-
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <linux/rtnetlink.h>
-#include <sys/socket.h>
 #include <utility>
 
 namespace quillon {
@@ -23,19 +18,15 @@ using namespace std::chrono_literals;
 
 constexpr auto quietTime = 100ms;
 constexpr auto longestBurst = 1s;
-// Room for the messages of a few hundred interfaces that come and go while the main thread is busy.
-constexpr int receiveBuffer = 1024 * 1024;
-constexpr std::size_t readSize = 64 * 1024;
+// A burst that is longer is read on at the main loop's next turn.
+constexpr int datagramsAtOnce = 1000;
 
 } // namespace
 
-void NetlinkChangeSource::Free::operator()(nl_sock *socket) const
-{
-    nl_socket_free(socket);
-}
-
 NetlinkChangeSource::NetlinkChangeSource(Scheduler &scheduler)
     : m_scheduler(scheduler)
+    , m_socket({.protocol = NETLINK_ROUTE,
+          .groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV4_ROUTE})
 {
 }
 
@@ -45,63 +36,30 @@ void NetlinkChangeSource::start(std::function<void()> changed)
 {
     m_burst =
         std::make_unique<BurstCollector>(m_scheduler, quietTime, longestBurst, std::move(changed));
-    if (!open()) {
-        qCWarning(logPlatform, "Network changes will not be noticed");
+    if (const int error = m_socket.open(); error != 0) {
+        qCWarning(logPlatform, "Network changes will not be noticed: %s", std::strerror(error));
         return;
     }
-    m_notifier =
-        std::make_unique<QSocketNotifier>(nl_socket_get_fd(m_socket.get()), QSocketNotifier::Read);
+    m_notifier = std::make_unique<QSocketNotifier>(m_socket.descriptor(), QSocketNotifier::Read);
     QObject::connect(
         m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [this] { read(); });
 }
 
-bool NetlinkChangeSource::open()
-{
-    m_socket.reset(nl_socket_alloc());
-    if (!m_socket) {
-        return false;
-    }
-    nl_socket_disable_seq_check(m_socket.get());
-    if (const int result = nl_connect(m_socket.get(), NETLINK_ROUTE); result < 0) {
-        qCWarning(logPlatform, "No routing socket: %s", nl_geterror(result));
-        return false;
-    }
-    const int result = nl_socket_add_memberships(
-        m_socket.get(), RTNLGRP_LINK, RTNLGRP_IPV4_IFADDR, RTNLGRP_IPV4_ROUTE, 0);
-    if (result < 0) {
-        qCWarning(logPlatform, "No routing groups: %s", nl_geterror(result));
-        return false;
-    }
-    nl_socket_set_buffer_size(m_socket.get(), receiveBuffer, 0);
-    return nl_socket_set_nonblocking(m_socket.get()) == 0;
-}
-
 void NetlinkChangeSource::read()
 {
-    alignas(nlmsghdr) static thread_local std::array<std::byte, readSize> buffer;
     bool changed = false;
-    for (;;) {
-        sockaddr_nl sender{};
-        socklen_t senderSize = sizeof sender;
-        const ssize_t size = recvfrom(nl_socket_get_fd(m_socket.get()), buffer.data(),
-            buffer.size(), 0, reinterpret_cast<sockaddr *>(&sender), &senderSize);
-        if (size > 0) {
-            // Any process may send to a netlink socket; the kernel's port is 0.
-            changed = changed || (sender.nl_pid == 0 && tellsOfChange(std::span(buffer).first(
-                                                            static_cast<std::size_t>(size))));
-            continue;
-        }
-        const int error = size < 0 ? errno : EPIPE;
-        if (error == ENOBUFS) {
-            // Messages were lost: something changed, and the socket goes on with the next message.
-            changed = true;
-        } else if (error == EAGAIN) {
-            break;
-        } else if (error != EINTR) {
-            qCWarning(logPlatform, "Network changes end: %s", std::strerror(error));
-            m_notifier->setEnabled(false);
-            break;
-        }
+    int error = 0;
+    for (int left = datagramsAtOnce; left > 0 && error == 0; --left) {
+        ByteSpan datagram;
+        error = m_socket.receive(datagram);
+        // Messages that were lost told of something, and the socket goes on with the next one.
+        const bool lost = error == ENOBUFS || error == EMSGSIZE;
+        error = lost ? 0 : error;
+        changed = changed || lost || tellsOfChange(datagram);
+    }
+    if (error != 0 && error != EAGAIN) {
+        qCWarning(logPlatform, "Network changes end: %s", std::strerror(error));
+        m_notifier->setEnabled(false);
     }
     if (changed) {
         m_burst->happened();

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "netlink/NetlinkSocket.h"
 #include "platform/NetworkChangeSource.h"
 #include "platform/linux/netlink/BurstCollector.h"
 
 #include <QSocketNotifier>
 
 #include <memory>
-
-struct nl_sock;
 
 namespace quillon {
 
@@ -27,16 +26,10 @@ public:
     void start(std::function<void()> changed) override;
 
 private:
-    struct Free
-    {
-        void operator()(nl_sock *socket) const;
-    };
-
-    bool open();
     void read();
 
     Scheduler &m_scheduler;
-    std::unique_ptr<nl_sock, Free> m_socket;
+    NetlinkSocket m_socket;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<BurstCollector> m_burst;
 };

@@ -20,10 +20,10 @@ namespace {
 
 constexpr qint64 longestUevent = 4096;
 
-QHash<int, QString> firstAddresses(const QList<AddressFacts> &addresses)
+QHash<int, QString> firstAddresses(const QList<AddressInfo> &addresses)
 {
     QHash<int, QString> first;
-    for (const AddressFacts &address : addresses) {
+    for (const AddressInfo &address : addresses) {
         if (!first.contains(address.index)) {
             first.insert(address.index, address.ipv4);
         }
@@ -31,14 +31,16 @@ QHash<int, QString> firstAddresses(const QList<AddressFacts> &addresses)
     return first;
 }
 
-InterfaceInfo interfaceInfo(const LinkFacts &link, const QString &ipv4)
+InterfaceInfo interfaceInfo(const LinkInfo &link, const QString &ipv4)
 {
     return {ipv4, link.address, statusText(link)};
 }
 
 void logFailure(const char *what, int error)
 {
-    qCWarning(logPlatform, "%s could not be read: %s", what, std::strerror(error));
+    if (error != 0) {
+        qCWarning(logPlatform, "%s could not be read: %s", what, std::strerror(error));
+    }
 }
 
 } // namespace
@@ -52,19 +54,17 @@ QList<PortRecord> NetlinkHost::ports()
 {
     RouteSocket socket;
     const LinkMessages links = socket.links();
+    logFailure("Interfaces", links.error);
     if (links.error != 0) {
-        logFailure("Interfaces", links.error);
         return {};
     }
     const LinkMessages addresses = socket.addresses();
-    if (addresses.error != 0) {
-        logFailure("IPv4 addresses", addresses.error);
-    }
+    logFailure("IPv4 addresses", addresses.error);
     const QHash<int, QString> ipv4 = firstAddresses(addresses.addresses);
     QList<PortRecord> ports;
-    for (const LinkFacts &link : links.links) {
+    for (const LinkInfo &link : links.links) {
         const QString name =
-            portName(link, hasHardware(link) ? hardwareFacts(link) : HardwareFacts{});
+            portName(link, hasHardware(link) ? hardwareInfo(link) : HardwareInfo{});
         if (!name.isEmpty()) {
             ports.append({name, link.name, link.permanentAddress,
                 interfaceInfo(link, ipv4.value(link.index))});
@@ -81,32 +81,30 @@ InterfaceInfo NetlinkHost::info(const QString &device)
     }
     RouteSocket socket;
     const LinkMessages links = socket.link(name);
+    logFailure("Interface", links.error == ENODEV ? 0 : links.error);
     if (links.links.isEmpty() || links.links.first().name != device) {
-        if (links.error != 0 && links.error != ENODEV) {
-            logFailure("Interface", links.error);
-        }
         return {};
     }
-    const LinkFacts &link = links.links.first();
-    const LinkMessages addresses = socket.addresses(link.index);
-    return interfaceInfo(link, firstAddresses(addresses.addresses).value(link.index));
+    const LinkInfo &link = links.links.first();
+    const QList<AddressInfo> addresses = socket.addresses(link.index).addresses;
+    return interfaceInfo(link, firstAddresses(addresses).value(link.index));
 }
 
-HardwareFacts NetlinkHost::hardwareFacts(const LinkFacts &link) const
+HardwareInfo NetlinkHost::hardwareInfo(const LinkInfo &link) const
 {
     const QString folder = m_sysfs + QLatin1Char('/') + link.name;
     QFile uevent(folder + QLatin1String("/uevent"));
     if (!uevent.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return {};
     }
-    auto facts = hardwareFactsFromUevent(uevent.read(longestUevent), link.index);
-    if (!facts) {
+    auto hardware = hardwareInfoFromUevent(uevent.read(longestUevent), link.index);
+    if (!hardware) {
         return {};
     }
     // Some drivers outside the kernel's tree name no device type.
-    facts->hasWirelessPhy =
-        facts->deviceType.isEmpty() && QFileInfo::exists(folder + QLatin1String("/phy80211"));
-    return *facts;
+    hardware->hasWirelessPhy =
+        hardware->deviceType.isEmpty() && QFileInfo::exists(folder + QLatin1String("/phy80211"));
+    return *hardware;
 }
 
 } // namespace quillon

@@ -8,9 +8,8 @@
 
 namespace quillon {
 
-/// The kernel's own word through rtnetlink(7): one dump of the links, one of the IPv4 addresses,
-/// and a look into sysfs for interfaces with hardware behind them. Each call has a socket of its
-/// own, so that nothing of an earlier conversation is left in it.
+/// What the kernel reports through rtnetlink(7): one dump of the links, one of the IPv4 addresses,
+/// and a look into sysfs for interfaces with hardware behind them.
 class NetlinkHost : public NetworkHost
 {
 public:
@@ -21,7 +20,7 @@ public:
     InterfaceInfo info(const QString &device) override;
 
 private:
-    HardwareFacts hardwareFacts(const LinkFacts &link) const;
+    HardwareInfo hardwareInfo(const LinkInfo &link) const;
 
     QString m_sysfs;
 };

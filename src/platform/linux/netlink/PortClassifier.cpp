@@ -42,7 +42,7 @@ bool isNamedAsNetworkCard(const QString &name)
     return name.startsWith(QLatin1String("en")) || name.startsWith(QLatin1String("eth"));
 }
 
-QString softwarePortName(const LinkFacts &link)
+QString softwarePortName(const LinkInfo &link)
 {
     if (link.kind == "bridge") {
         return isMadeByAPerson(link.name) ? QStringLiteral("Bridge") : QString();
@@ -54,7 +54,7 @@ QString softwarePortName(const LinkFacts &link)
     return link.kind == "dsa" ? QStringLiteral("Ethernet") : QString();
 }
 
-QString hardwarePortName(const LinkFacts &link, const HardwareFacts &hardware)
+QString hardwarePortName(const LinkInfo &link, const HardwareInfo &hardware)
 {
     if (hardware.deviceType == QLatin1String("wlan") || hardware.hasWirelessPhy) {
         return QStringLiteral("Wi-Fi");
@@ -74,12 +74,12 @@ QString hardwarePortName(const LinkFacts &link, const HardwareFacts &hardware)
 
 } // namespace
 
-bool hasHardware(const LinkFacts &link)
+bool hasHardware(const LinkInfo &link)
 {
     return link.type == ARPHRD_ETHER && !(link.flags & IFF_LOOPBACK) && link.kind.empty();
 }
 
-QString portName(const LinkFacts &link, const HardwareFacts &hardware)
+QString portName(const LinkInfo &link, const HardwareInfo &hardware)
 {
     if (link.type != ARPHRD_ETHER || (link.flags & IFF_LOOPBACK)) {
         return {};
@@ -87,19 +87,19 @@ QString portName(const LinkFacts &link, const HardwareFacts &hardware)
     return link.kind.empty() ? hardwarePortName(link, hardware) : softwarePortName(link);
 }
 
-std::optional<HardwareFacts> hardwareFactsFromUevent(const QByteArray &uevent, int index)
+std::optional<HardwareInfo> hardwareInfoFromUevent(const QByteArray &uevent, int index)
 {
-    HardwareFacts facts;
+    HardwareInfo hardware;
     bool isThisInterface = false;
     const QList<QByteArray> lines = uevent.split('\n');
     for (const QByteArray &line : lines) {
         if (line.startsWith("DEVTYPE=")) {
-            facts.deviceType = QString::fromLatin1(line.mid(8));
+            hardware.deviceType = QString::fromLatin1(line.mid(8));
         } else if (line.startsWith("IFINDEX=")) {
             isThisInterface = line.mid(8).toInt() == index;
         }
     }
-    return isThisInterface ? std::optional(facts) : std::nullopt;
+    return isThisInterface ? std::optional(hardware) : std::nullopt;
 }
 
 } // namespace quillon

@@ -11,22 +11,22 @@
 namespace quillon {
 
 /// What sysfs tells of an interface that has hardware behind it.
-struct HardwareFacts
+struct HardwareInfo
 {
     QString deviceType; ///< DEVTYPE of its uevent: "wlan", "wwan", "bluetooth" …; often empty
     bool hasWirelessPhy = false; ///< it hangs on a radio of cfg80211
 };
 
-/// Whether portName() needs HardwareFacts for this link: Ethernet-like and not made by software.
-bool hasHardware(const LinkFacts &link);
+/// Whether portName() needs HardwareInfo for this link: Ethernet-like and not made by software.
+bool hasHardware(const LinkInfo &link);
 
 /// The name of the hardware port that an interface is ("Wi-Fi", "Ethernet", "USB Ethernet",
 /// "Thunderbolt Ethernet", "Bluetooth PAN", "Bridge"), or empty when it is none: loopback, tunnels,
 /// mobile broadband, and whatever containers, virtual machines or stacked interfaces bring along.
-QString portName(const LinkFacts &link, const HardwareFacts &hardware);
+QString portName(const LinkInfo &link, const HardwareInfo &hardware);
 
-/// The facts in a uevent file of /sys/class/net, or none when it is about another interface: /sys
+/// What a uevent file of /sys/class/net tells, or none when it is about another interface: /sys
 /// may have been mounted in another network namespace.
-std::optional<HardwareFacts> hardwareFactsFromUevent(const QByteArray &uevent, int index);
+std::optional<HardwareInfo> hardwareInfoFromUevent(const QByteArray &uevent, int index);
 
 } // namespace quillon

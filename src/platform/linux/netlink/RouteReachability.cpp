@@ -14,10 +14,10 @@ namespace quillon {
 
 namespace {
 
-QSet<int> activeLinks(const QList<LinkFacts> &links)
+QSet<int> activeLinks(const QList<LinkInfo> &links)
 {
     QSet<int> active;
-    for (const LinkFacts &link : links) {
+    for (const LinkInfo &link : links) {
         if (isActive(link) && !(link.flags & IFF_LOOPBACK)) {
             active.insert(link.index);
         }

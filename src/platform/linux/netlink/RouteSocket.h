@@ -2,23 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "netlink/NetlinkSocket.h"
 #include "platform/linux/netlink/LinkMessages.h"
-
-#include <functional>
-#include <memory>
-
-struct nl_msg;
-struct nl_sock;
 
 namespace quillon {
 
-/// A socket of the kernel's routing family for questions and answers; moves, never shared.
+/// Questions to the kernel about links, addresses and routes (rtnetlink(7)).
 class RouteSocket
 {
 public:
-    /// Unusable (all answers empty, with a log line) when the kernel gives none.
-    RouteSocket();
-
     /// All links, without their statistics.
     LinkMessages links();
     /// One link by name; no link and ENODEV when there is none.
@@ -29,15 +21,10 @@ public:
     LinkMessages defaultRoutes(int family);
 
 private:
-    struct Free
-    {
-        void operator()(nl_sock *socket) const;
-    };
+    LinkMessages read(const NetlinkMessage &message);
 
-    LinkMessages ask(nl_msg *message);
-    LinkMessages askForTable(const std::function<nl_msg *()> &message);
-
-    std::unique_ptr<nl_sock, Free> m_socket;
+    // Strict: for the index of an address request and the type of a route request.
+    NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE, .strict = true}};
 };
 
 } // namespace quillon

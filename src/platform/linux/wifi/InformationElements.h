@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/netlink/MessageBytes.h"
+#include "netlink/ByteSpan.h"
 #include "platform/linux/wifi/ProtectionSuites.h"
 
 #include <QByteArray>

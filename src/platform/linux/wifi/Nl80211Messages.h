@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/netlink/MessageBytes.h"
+#include "netlink/NetlinkMessage.h"
 #include "platform/linux/wifi/Nl80211Records.h"
 
 #include <QList>
@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// The answers to one request, collected from its datagrams.
+/// What the messages of an answer tell.
 struct Nl80211Messages
 {
     QList<StationInterface> interfaces;
@@ -18,13 +18,11 @@ struct Nl80211Messages
     QList<RemoteStation> stations;
     QList<ChannelNoise> noises;
     QString countryCode;
-    bool finished = false;    ///< the last message of the answer was seen
-    bool interrupted = false; ///< the tables changed while they were read (NLM_F_DUMP_INTR)
-    int error = 0;            ///< errno of a refusal or of a table that broke off, else 0
+    int error = 0; ///< errno of an answer that failed, else 0
 
-    /// Adds the messages of one datagram that answer the request `sequence`; `family` is the number
-    /// that the kernel gave "nl80211". Whatever is truncated or malformed is left out.
-    void add(ByteSpan datagram, quint16 family, quint32 sequence);
+    /// `family` is the number that the kernel gave "nl80211"; messages of others are left out, and
+    /// whatever is truncated or malformed.
+    void add(const nlmsghdr &message, quint16 family);
 };
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/wifi/Nl80211Records.h"
 
+#include "netlink/NetlinkAttributes.h"
 #include "platform/linux/netlink/LinkMessages.h"
 
 #include <algorithm>
@@ -15,34 +16,7 @@ namespace {
 
 constexpr std::size_t longestSsid = 32;
 
-quint32 number(ByteSpan value)
-{
-    return hostNumber<quint32>(value).value_or(0);
-}
-
-// Levels in dBm travel as one octet, in two's complement.
-std::optional<int> level(ByteSpan value)
-{
-    const auto octet = hostNumber<quint8>(value);
-    return octet ? std::optional(static_cast<int>(static_cast<qint8>(*octet))) : std::nullopt;
-}
-
-QString address(ByteSpan value)
-{
-    return addressText({reinterpret_cast<const unsigned char *>(value.data()), value.size()});
-}
-
-QByteArray octets(ByteSpan value)
-{
-    return {reinterpret_cast<const char *>(value.data()), static_cast<qsizetype>(value.size())};
-}
-
-// Up to the terminating zero.
-QString text(ByteSpan value)
-{
-    const auto end = std::ranges::find(value, std::byte{0});
-    return QString::fromUtf8(reinterpret_cast<const char *>(value.data()), end - value.begin());
-}
+using MessageAttributes = NetlinkAttributes<NL80211_ATTR_MAX>;
 
 int widthOf(quint32 channelWidth)
 {
@@ -70,220 +44,132 @@ int widthOfType(quint32 channelType)
     return channelType == NL80211_CHAN_HT40MINUS || channelType == NL80211_CHAN_HT40PLUS ? 40 : 20;
 }
 
-ByteSpan attribute(ByteSpan attributes, int wanted)
-{
-    ByteSpan found;
-    forEachAttribute(attributes, [&](int type, ByteSpan value) {
-        if (type == wanted) {
-            found = value;
-        }
-    });
-    return found;
-}
+// Of the marks for generations and widths a rate has one each.
+constexpr std::pair<int, WiFiGeneration> generations[] = {
+    {NL80211_RATE_INFO_MCS, WiFiGeneration::HighThroughput},
+    {NL80211_RATE_INFO_VHT_MCS, WiFiGeneration::VeryHighThroughput},
+    {NL80211_RATE_INFO_HE_MCS, WiFiGeneration::HighEfficiency},
+    {NL80211_RATE_INFO_EHT_MCS, WiFiGeneration::ExtremelyHighThroughput},
+};
+constexpr std::pair<int, int> widths[] = {
+    {NL80211_RATE_INFO_40_MHZ_WIDTH, 40},
+    {NL80211_RATE_INFO_80_MHZ_WIDTH, 80},
+    {NL80211_RATE_INFO_80P80_MHZ_WIDTH, 160},
+    {NL80211_RATE_INFO_160_MHZ_WIDTH, 160},
+    {NL80211_RATE_INFO_320_MHZ_WIDTH, 320},
+};
 
-Rate rate(ByteSpan info)
+Rate rate(ByteSpan bytes)
 {
+    const NetlinkAttributes<NL80211_RATE_INFO_MAX> info(bytes);
     Rate found;
-    const auto index = [&](WiFiGeneration generation, ByteSpan value) {
-        if (const auto octet = hostNumber<quint8>(value)) {
+    found.hundredKilobits = info.value<quint32>(NL80211_RATE_INFO_BITRATE32).value_or(0);
+    if (found.hundredKilobits == 0) { // the narrow one serves slow rates alone
+        found.hundredKilobits = info.value<quint16>(NL80211_RATE_INFO_BITRATE).value_or(0);
+    }
+    for (const auto &[type, generation] : generations) {
+        if (const auto index = info.value<quint8>(type)) {
             found.generation = generation;
-            found.mcs = *octet;
+            found.mcs = *index;
         }
-    };
-    forEachAttribute(info, [&](int type, ByteSpan value) {
-        switch (type) {
-        case NL80211_RATE_INFO_BITRATE: // too narrow for fast rates, which then have the other
-            if (found.hundredKilobits == 0) {
-                found.hundredKilobits = hostNumber<quint16>(value).value_or(0);
-            }
-            break;
-        case NL80211_RATE_INFO_BITRATE32:
-            found.hundredKilobits = number(value);
-            break;
-        case NL80211_RATE_INFO_MCS:
-            index(WiFiGeneration::HighThroughput, value);
-            break;
-        case NL80211_RATE_INFO_VHT_MCS:
-            index(WiFiGeneration::VeryHighThroughput, value);
-            break;
-        case NL80211_RATE_INFO_HE_MCS:
-            index(WiFiGeneration::HighEfficiency, value);
-            break;
-        case NL80211_RATE_INFO_EHT_MCS:
-            index(WiFiGeneration::ExtremelyHighThroughput, value);
-            break;
-        case NL80211_RATE_INFO_40_MHZ_WIDTH:
-            found.width = 40;
-            break;
-        case NL80211_RATE_INFO_80_MHZ_WIDTH:
-            found.width = 80;
-            break;
-        case NL80211_RATE_INFO_80P80_MHZ_WIDTH:
-        case NL80211_RATE_INFO_160_MHZ_WIDTH:
-            found.width = 160;
-            break;
-        case NL80211_RATE_INFO_320_MHZ_WIDTH:
-            found.width = 320;
-            break;
-        default:
-            break;
+    }
+    for (const auto &[type, width] : widths) {
+        if (info.has(type)) {
+            found.width = width;
         }
-    });
+    }
     return found;
 }
 
 } // namespace
 
-std::optional<StationInterface> stationInterface(ByteSpan attributes)
+std::optional<StationInterface> stationInterface(ByteSpan bytes)
 {
+    const MessageAttributes attributes(bytes);
     StationInterface found;
-    quint32 kind = NL80211_IFTYPE_UNSPECIFIED;
-    std::optional<quint32> width;
-    std::optional<quint32> channelType;
-    forEachAttribute(attributes, [&](int type, ByteSpan value) {
-        switch (type) {
-        case NL80211_ATTR_IFINDEX:
-            found.index = number(value);
-            break;
-        case NL80211_ATTR_WIPHY:
-            found.radio = number(value);
-            break;
-        case NL80211_ATTR_IFNAME:
-            found.name = text(value.first(std::min<std::size_t>(value.size(), IFNAMSIZ - 1)));
-            break;
-        case NL80211_ATTR_IFTYPE:
-            kind = number(value);
-            break;
-        case NL80211_ATTR_SSID:
-            found.ssid = octets(value.first(std::min(value.size(), longestSsid)));
-            break;
-        case NL80211_ATTR_WIPHY_FREQ:
-            found.frequency = number(value);
-            break;
-        case NL80211_ATTR_CHANNEL_WIDTH:
-            width = hostNumber<quint32>(value);
-            break;
-        case NL80211_ATTR_WIPHY_CHANNEL_TYPE:
-            channelType = hostNumber<quint32>(value);
-            break;
-        default:
-            break;
-        }
-    });
-    if (kind != NL80211_IFTYPE_STATION || found.index == 0 || found.name.isEmpty()) {
+    found.index = attributes.value<quint32>(NL80211_ATTR_IFINDEX).value_or(0);
+    found.radio = attributes.value<quint32>(NL80211_ATTR_WIPHY).value_or(0);
+    found.name = QString::fromUtf8(attributes.text(NL80211_ATTR_IFNAME).substr(0, IFNAMSIZ - 1));
+    const ByteSpan ssid = attributes.bytes(NL80211_ATTR_SSID);
+    found.ssid = QByteArray(reinterpret_cast<const char *>(ssid.data()),
+        static_cast<qsizetype>(std::min(ssid.size(), longestSsid)));
+    found.frequency = attributes.value<quint32>(NL80211_ATTR_WIPHY_FREQ).value_or(0);
+    if (attributes.value<quint32>(NL80211_ATTR_IFTYPE) != NL80211_IFTYPE_STATION ||
+        found.index == 0 || found.name.isEmpty()) {
         return std::nullopt;
     }
-    if (width) {
+    if (const auto width = attributes.value<quint32>(NL80211_ATTR_CHANNEL_WIDTH)) {
         found.width = widthOf(*width);
         found.legacyChannel = *width == NL80211_CHAN_WIDTH_20_NOHT;
-    } else if (channelType) {
-        found.width = widthOfType(*channelType);
-        found.legacyChannel = *channelType == NL80211_CHAN_NO_HT;
+    } else if (const auto type = attributes.value<quint32>(NL80211_ATTR_WIPHY_CHANNEL_TYPE)) {
+        found.width = widthOfType(*type);
+        found.legacyChannel = *type == NL80211_CHAN_NO_HT;
     }
     return found;
 }
 
-std::optional<JoinedNetwork> joinedNetwork(ByteSpan attributes)
+std::optional<JoinedNetwork> joinedNetwork(ByteSpan bytes)
 {
     constexpr quint16 privacyBit = 0x0010;
+    const MessageAttributes attributes(bytes);
+    const NetlinkAttributes<NL80211_BSS_MAX> bss(attributes.bytes(NL80211_ATTR_BSS));
     JoinedNetwork found;
-    std::optional<quint32> status;
-    ByteSpan elements;
-    ByteSpan beaconElements;
-    forEachAttribute(attribute(attributes, NL80211_ATTR_BSS), [&](int type, ByteSpan value) {
-        switch (type) {
-        case NL80211_BSS_BSSID:
-            found.bssid = address(value);
-            break;
-        case NL80211_BSS_MLD_ADDR:
-            found.linkDevice = address(value);
-            break;
-        case NL80211_BSS_FREQUENCY:
-            found.frequency = number(value);
-            break;
-        case NL80211_BSS_CAPABILITY:
-            if (const auto capability = hostNumber<quint16>(value)) {
-                found.privacy = *capability & privacyBit;
-            }
-            break;
-        case NL80211_BSS_STATUS:
-            status = hostNumber<quint32>(value);
-            break;
-        case NL80211_BSS_SIGNAL_MBM:
-            if (const auto signal = hostNumber<quint32>(value)) {
-                found.signal = static_cast<qint32>(*signal) / 100;
-            }
-            break;
-        case NL80211_BSS_INFORMATION_ELEMENTS:
-            elements = value;
-            break;
-        case NL80211_BSS_BEACON_IES:
-            beaconElements = value;
-            break;
-        default:
-            break;
-        }
-    });
-    if (status != NL80211_BSS_STATUS_ASSOCIATED || found.bssid.isEmpty()) {
+    found.bssid = addressText(bss.bytes(NL80211_BSS_BSSID));
+    if (bss.value<quint32>(NL80211_BSS_STATUS) != NL80211_BSS_STATUS_ASSOCIATED ||
+        found.bssid.isEmpty()) {
         return std::nullopt;
     }
-    found.elements = informationElements(elements.empty() ? beaconElements : elements);
+    found.linkDevice = addressText(bss.bytes(NL80211_BSS_MLD_ADDR));
+    found.frequency = bss.value<quint32>(NL80211_BSS_FREQUENCY).value_or(0);
+    if (const auto capability = bss.value<quint16>(NL80211_BSS_CAPABILITY)) {
+        found.privacy = *capability & privacyBit;
+    }
+    if (const auto signal = bss.value<qint32>(NL80211_BSS_SIGNAL_MBM)) {
+        found.signal = *signal / 100;
+    }
+    const ByteSpan elements = bss.bytes(NL80211_BSS_INFORMATION_ELEMENTS);
+    found.elements =
+        informationElements(elements.empty() ? bss.bytes(NL80211_BSS_BEACON_IES) : elements);
     return found;
 }
 
-std::optional<RemoteStation> remoteStation(ByteSpan attributes)
+std::optional<RemoteStation> remoteStation(ByteSpan bytes)
 {
+    const MessageAttributes attributes(bytes);
+    const NetlinkAttributes<NL80211_STA_INFO_MAX> info(attributes.bytes(NL80211_ATTR_STA_INFO));
     RemoteStation found;
-    found.address = address(attribute(attributes, NL80211_ATTR_MAC));
-    std::optional<int> average;
-    forEachAttribute(attribute(attributes, NL80211_ATTR_STA_INFO), [&](int type, ByteSpan value) {
-        switch (type) {
-        case NL80211_STA_INFO_SIGNAL:
-            found.signal = level(value);
-            break;
-        case NL80211_STA_INFO_SIGNAL_AVG:
-            average = level(value);
-            break;
-        case NL80211_STA_INFO_TX_BITRATE:
-            found.transmit = rate(value);
-            break;
-        case NL80211_STA_INFO_RX_BITRATE:
-            found.receive = rate(value);
-            break;
-        default:
-            break;
-        }
-    });
-    if (!found.signal) {
-        found.signal = average;
-    }
-    return found.address.isEmpty() ? std::nullopt : std::optional(std::move(found));
-}
-
-std::optional<ChannelNoise> channelNoise(ByteSpan attributes)
-{
-    ChannelNoise found;
-    std::optional<int> noise;
-    forEachAttribute(
-        attribute(attributes, NL80211_ATTR_SURVEY_INFO), [&](int type, ByteSpan value) {
-            if (type == NL80211_SURVEY_INFO_FREQUENCY) {
-                found.frequency = number(value);
-            } else if (type == NL80211_SURVEY_INFO_NOISE) {
-                noise = level(value);
-            } else if (type == NL80211_SURVEY_INFO_IN_USE) {
-                found.inUse = true;
-            }
-        });
-    if (found.frequency == 0 || !noise) {
+    found.address = addressText(attributes.bytes(NL80211_ATTR_MAC));
+    if (found.address.isEmpty()) {
         return std::nullopt;
     }
-    found.noise = *noise;
+    // Levels travel as one octet, in two's complement.
+    for (const int type : {NL80211_STA_INFO_SIGNAL_AVG, NL80211_STA_INFO_SIGNAL}) {
+        if (const auto level = info.value<qint8>(type)) {
+            found.signal = *level;
+        }
+    }
+    found.transmit = rate(info.bytes(NL80211_STA_INFO_TX_BITRATE));
+    found.receive = rate(info.bytes(NL80211_STA_INFO_RX_BITRATE));
     return found;
 }
 
-QString regulatoryCountry(ByteSpan attributes)
+std::optional<ChannelNoise> channelNoise(ByteSpan bytes)
 {
-    const QString code = text(attribute(attributes, NL80211_ATTR_REG_ALPHA2));
+    const MessageAttributes attributes(bytes);
+    const NetlinkAttributes<NL80211_SURVEY_INFO_MAX> info(
+        attributes.bytes(NL80211_ATTR_SURVEY_INFO));
+    const auto frequency = info.value<quint32>(NL80211_SURVEY_INFO_FREQUENCY).value_or(0);
+    const auto noise = info.value<qint8>(NL80211_SURVEY_INFO_NOISE);
+    if (frequency == 0 || !noise) {
+        return std::nullopt;
+    }
+    return ChannelNoise{
+        .frequency = frequency, .noise = *noise, .inUse = info.has(NL80211_SURVEY_INFO_IN_USE)};
+}
+
+QString regulatoryCountry(ByteSpan bytes)
+{
+    const QString code = QString::fromUtf8(MessageAttributes(bytes).text(NL80211_ATTR_REG_ALPHA2));
     const auto isCapital = [](QChar letter) { return letter >= u'A' && letter <= u'Z'; };
     return code.size() == 2 && std::ranges::all_of(code, isCapital) ? code : QString();
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/linux/netlink/MessageBytes.h"
+#include "netlink/ByteSpan.h"
 #include "platform/linux/wifi/InformationElements.h"
 
 #include <QByteArray>
@@ -71,7 +71,8 @@ struct ChannelNoise
     bool operator==(const ChannelNoise &) const = default;
 };
 
-// Each from the attributes of one message; none when what makes it one is missing.
+// Each from the attributes of one message, aligned as nlattr; none when what makes it one is
+// missing.
 
 /// None also for an interface of another kind: access point, monitor, mesh …
 std::optional<StationInterface> stationInterface(ByteSpan attributes);

@@ -2,14 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "netlink/NetlinkSocket.h"
 #include "platform/linux/wifi/Nl80211Exchange.h"
 
 #include <functional>
-#include <memory>
-
-class QDeadlineTimer;
-struct nl_msg;
-struct nl_sock;
 
 namespace quillon {
 
@@ -28,8 +24,8 @@ enum class WiFiAccess
 class Nl80211Socket : public Nl80211Exchange
 {
 public:
-    /// Gets each datagram of an answer as it came.
-    using Listener = std::function<void(const Nl80211Request &, ByteSpan)>;
+    /// Gets each message of an answer as it came.
+    using Listener = std::function<void(const Nl80211Request &, const nlmsghdr &)>;
 
     explicit Nl80211Socket(Listener listener = {});
 
@@ -41,18 +37,10 @@ public:
     Nl80211Messages ask(const Nl80211Request &request) override;
 
 private:
-    struct Free
-    {
-        void operator()(nl_sock *socket) const;
-    };
-
     WiFiAccess connect();
-    Nl80211Messages askOnce(const Nl80211Request &request, const QDeadlineTimer &deadline);
-    Nl80211Messages receive(
-        const Nl80211Request &request, quint32 sequence, const QDeadlineTimer &deadline);
 
     Listener m_listener;
-    std::unique_ptr<nl_sock, Free> m_socket;
+    NetlinkSocket m_socket{{.protocol = NETLINK_GENERIC, .patience = std::chrono::seconds(2)}};
     quint16 m_family = 0;
     WiFiAccess m_access = WiFiAccess::Broken;
 };

@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// The kernel's own word through nl80211. Each call has a socket of its own, so that nothing of an
-/// earlier conversation is left in it. Without a wireless kernel, or in a sandbox that hides it,
+/// What the kernel reports through nl80211. Each call has a socket of its own, so that nothing of
+/// an earlier conversation is left in it. Without a wireless kernel, or in a sandbox that hides it,
 /// there is no interface, and the log is silent about it.
 class Nl80211WiFiClient : public WiFiClient
 {

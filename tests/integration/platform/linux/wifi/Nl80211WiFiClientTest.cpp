@@ -81,17 +81,18 @@ TEST(Nl80211WiFiClient, TheSocketKnowsWhetherTheKernelIsWireless)
 }
 
 // How sandboxes refuse: a filter of system calls, a security module, a list of address families.
-class RefusedWiFi : public ::testing::TestWithParam<int>
+class Nl80211WiFiClientRefused : public ::testing::TestWithParam<int>
 {
 };
 
-TEST_P(RefusedWiFi, IsSeenAndNotLogged)
+TEST_P(Nl80211WiFiClientRefused, IsSeenAndNotLogged)
 {
     EXPECT_EXIT(std::_Exit(isRefusedSilently(NETLINK_GENERIC, GetParam())),
         ::testing::ExitedWithCode(1), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Sandboxes, RefusedWiFi, ::testing::Values(EPERM, EACCES, EAFNOSUPPORT));
+INSTANTIATE_TEST_SUITE_P(
+    Sandboxes, Nl80211WiFiClientRefused, ::testing::Values(EPERM, EACCES, EAFNOSUPPORT));
 
 TEST(Nl80211WiFiClient, RefusalOfAnotherFacilityIsNotOurs)
 {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "netlink/NetlinkAnswer.h"
 #include "platform/linux/netlink/LinkMessages.h"
-#include "unit/platform/linux/netlink/NetlinkBytes.h"
+#include "unit/netlink/NetlinkBytes.h"
 
 #include <gtest/gtest.h>
 
@@ -127,7 +128,7 @@ private:
     std::mt19937 m_numbers{20260101};
 };
 
-bool isPlausible(const LinkFacts &link)
+bool isPlausible(const LinkInfo &link)
 {
     const auto isAddress = [](const QString &text) { return text.isEmpty() || text.size() == 17; };
     return link.name.size() < 16 && isAddress(link.address) && isAddress(link.permanentAddress) &&
@@ -136,7 +137,7 @@ bool isPlausible(const LinkFacts &link)
 
 } // namespace
 
-TEST(LinkMessages, SurvivesAHundredThousandDamagedTables)
+TEST(LinkMessagesMutation, SurvivesAHundredThousandDamagedTables)
 {
     const std::array tables{linkTable(), addressTable(), refusal()};
     Damage damage;
@@ -145,10 +146,11 @@ TEST(LinkMessages, SurvivesAHundredThousandDamagedTables)
     for (int i = 0; i < 100'000; ++i) {
         const Bytes damaged = damage.to(tables[static_cast<std::size_t>(i) % tables.size()]);
         LinkMessages messages;
-        messages.add(damaged, NetlinkBytes::sequence);
+        NetlinkAnswer answer{.sequence = NetlinkBytes::sequence};
+        answer.add(damaged, [&](const nlmsghdr &message) { messages.add(message); });
         tellsOfChange(damaged);
         unharmed += messages.links.size() == 2 || messages.addresses.size() == 2;
-        for (const LinkFacts &link : std::as_const(messages.links)) {
+        for (const LinkInfo &link : std::as_const(messages.links)) {
             implausible += !isPlausible(link);
         }
         // A message is at least its header, whatever it says of its length.

@@ -11,9 +11,9 @@ namespace quillon::test {
 
 namespace {
 
-LinkFacts link(const char *name, const char *kind = "", const char *bus = "")
+LinkInfo link(const char *name, const char *kind = "", const char *bus = "")
 {
-    LinkFacts facts;
+    LinkInfo facts;
     facts.index = 2;
     facts.type = ARPHRD_ETHER;
     facts.name = QLatin1String(name);
@@ -22,7 +22,7 @@ LinkFacts link(const char *name, const char *kind = "", const char *bus = "")
     return facts;
 }
 
-HardwareFacts deviceType(const char *type)
+HardwareInfo deviceType(const char *type)
 {
     return {QLatin1String(type), false};
 }
@@ -33,8 +33,8 @@ TEST(PortClassifier, HardwareIsNamedByItsTypeAndBus)
 {
     struct Case
     {
-        LinkFacts link;
-        HardwareFacts hardware;
+        LinkInfo link;
+        HardwareInfo hardware;
         const char *name;
     };
     const Case cases[]{
@@ -89,36 +89,36 @@ TEST(PortClassifier, WhatSoftwareStacksUpIsNoPort)
 
 TEST(PortClassifier, OnlyEthernetFramesCount)
 {
-    LinkFacts loopback = link("lo");
+    LinkInfo loopback = link("lo");
     loopback.type = ARPHRD_LOOPBACK;
     loopback.flags = IFF_LOOPBACK;
-    LinkFacts monitor = link("wlan0mon");
+    LinkInfo monitor = link("wlan0mon");
     monitor.type = ARPHRD_IEEE80211_RADIOTAP;
-    LinkFacts infiniband = link("ib0", "", "pci");
+    LinkInfo infiniband = link("ib0", "", "pci");
     infiniband.type = ARPHRD_INFINIBAND;
-    LinkFacts ethernetLoop = link("loop0");
+    LinkInfo ethernetLoop = link("loop0");
     ethernetLoop.flags = IFF_LOOPBACK;
-    for (const LinkFacts &none : {loopback, monitor, infiniband, ethernetLoop}) {
+    for (const LinkInfo &none : {loopback, monitor, infiniband, ethernetLoop}) {
         EXPECT_EQ(portName(none, deviceType("wlan")), QString()) << qPrintable(none.name);
         EXPECT_FALSE(hasHardware(none)) << qPrintable(none.name);
     }
     EXPECT_TRUE(hasHardware(link("enp3s0", "", "pci")));
 }
 
-TEST(HardwareFacts, ReadFromTheUeventOfThatInterface)
+TEST(HardwareInfo, ReadFromTheUeventOfThatInterface)
 {
     const QByteArray uevent = "DEVTYPE=wlan\nINTERFACE=wlp2s0\nIFINDEX=2\n";
-    const auto facts = hardwareFactsFromUevent(uevent, 2);
+    const auto facts = hardwareInfoFromUevent(uevent, 2);
     ASSERT_TRUE(facts);
     EXPECT_EQ(facts->deviceType, QStringLiteral("wlan"));
-    EXPECT_EQ(hardwareFactsFromUevent("INTERFACE=eth0\nIFINDEX=2\n", 2)->deviceType, QString());
+    EXPECT_EQ(hardwareInfoFromUevent("INTERFACE=eth0\nIFINDEX=2\n", 2)->deviceType, QString());
 }
 
-TEST(HardwareFacts, AnotherNetworkNamespacesUeventSaysNothing)
+TEST(HardwareInfo, AnotherNetworkNamespacesUeventSaysNothing)
 {
-    EXPECT_FALSE(hardwareFactsFromUevent("DEVTYPE=wlan\nINTERFACE=eth0\nIFINDEX=12\n", 2));
-    EXPECT_FALSE(hardwareFactsFromUevent("", 2));
-    EXPECT_FALSE(hardwareFactsFromUevent("DEVTYPE=wlan\n", 2));
+    EXPECT_FALSE(hardwareInfoFromUevent("DEVTYPE=wlan\nINTERFACE=eth0\nIFINDEX=12\n", 2));
+    EXPECT_FALSE(hardwareInfoFromUevent("", 2));
+    EXPECT_FALSE(hardwareInfoFromUevent("DEVTYPE=wlan\n", 2));
 }
 
 } // namespace quillon::test

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "netlink/NetlinkAnswer.h"
 #include "platform/linux/wifi/WiFiReading.h"
 #include "wifi/Nl80211Capture.h"
 
@@ -47,8 +48,9 @@ public:
         for (std::size_t i = 0; i < m_answers.size(); ++i) {
             const Recorded &answer = m_answers[i];
             if (answer.request == request) {
-                messages.add(
-                    i == m_replaced ? m_bytes : answer.bytes, answer.family, answer.sequence);
+                NetlinkAnswer whole{.sequence = answer.sequence};
+                whole.add(i == m_replaced ? m_bytes : answer.bytes,
+                    [&](const nlmsghdr &message) { messages.add(message, answer.family); });
             }
         }
         return messages;

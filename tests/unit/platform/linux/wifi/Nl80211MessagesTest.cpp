@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-
 namespace quillon::test {
 
 namespace {
@@ -18,7 +16,8 @@ const QByteArray bssid = QByteArray::fromHex("021122AABBC0");
 Nl80211Messages read(const NetlinkBytes &bytes)
 {
     Nl80211Messages messages;
-    messages.add(bytes.span(), wirelessFamily, NetlinkBytes::sequence);
+    forEachMessage(
+        bytes.span(), [&](const nlmsghdr &message) { messages.add(message, wirelessFamily); });
     return messages;
 }
 
@@ -69,7 +68,6 @@ TEST(Nl80211Messages, TellsEverythingOfAnInterface)
     EXPECT_EQ(found.frequency, 5180U);
     EXPECT_EQ(found.width, 80);
     EXPECT_FALSE(found.legacyChannel);
-    EXPECT_FALSE(messages.finished);
 }
 
 TEST(Nl80211Messages, WidthsOfChannels)
@@ -242,46 +240,16 @@ TEST(Nl80211Messages, CountriesAreTwoLetters)
     }
 }
 
-TEST(Nl80211Messages, AnAnswerEndsWithDoneOrRefusalOrByItself)
+TEST(Nl80211Messages, OtherFamiliesAndCommandsAreNotOurs)
 {
-    NetlinkBytes done;
-    done.message(NLMSG_DONE, int{0});
-    EXPECT_TRUE(read(done).finished);
-    EXPECT_EQ(read(done).error, 0);
-    NetlinkBytes broken;
-    broken.message(NLMSG_DONE, int{-ENODEV});
-    EXPECT_EQ(read(broken).error, ENODEV);
-    NetlinkBytes refused;
-    nlmsgerr refusal{};
-    refusal.error = -EPERM;
-    refused.message(NLMSG_ERROR, refusal, 0);
-    EXPECT_EQ(read(refused).error, EPERM);
-    EXPECT_TRUE(read(refused).finished);
-    for (const int status : {1, -4096}) {
-        NetlinkBytes nonsense;
-        nonsense.message(NLMSG_DONE, status);
-        EXPECT_EQ(read(nonsense).error, EBADMSG) << status;
-    }
-    EXPECT_TRUE(read(wireless(NL80211_CMD_GET_REG, {}, 0)).finished);
-}
-
-TEST(Nl80211Messages, OtherQuestionsFamiliesAndCommandsAreNotOurs)
-{
+    const QByteArray country("UZ");
     NetlinkBytes bytes;
-    bytes.message(quint16{29}, genlmsghdr{NL80211_CMD_GET_REG, 1, 0});
-    bytes.message(wirelessFamily, genlmsghdr{NL80211_CMD_GET_REG, 1, 0}, 0, 8);
-    addWireless(bytes, NL80211_CMD_NEW_KEY, {});
-    const Nl80211Messages messages = read(bytes);
-    EXPECT_FALSE(messages.finished);
-    EXPECT_TRUE(read(wireless(NL80211_CMD_GET_REG, {}, NLM_F_MULTI | NLM_F_DUMP_INTR)).interrupted);
-}
-
-TEST(Nl80211Messages, NothingComesAfterTheEnd)
-{
-    NetlinkBytes bytes;
-    bytes.message(NLMSG_DONE, int{0});
-    addWireless(bytes, NL80211_CMD_GET_REG, {{NL80211_ATTR_REG_ALPHA2, "UZ"}});
+    bytes.message(quint16{wirelessFamily + 1}, genlmsghdr{NL80211_CMD_GET_REG, 1, 0})
+        .attribute(NL80211_ATTR_REG_ALPHA2, country);
+    addWireless(bytes, NL80211_CMD_NEW_KEY, {{NL80211_ATTR_REG_ALPHA2, country}});
     EXPECT_EQ(read(bytes).countryCode, QString());
+    addWireless(bytes, NL80211_CMD_GET_REG, {{NL80211_ATTR_REG_ALPHA2, country}});
+    EXPECT_EQ(read(bytes).countryCode, QStringLiteral("UZ"));
 }
 
 TEST(Nl80211Messages, LyingLengthsEndTheReading)
@@ -299,7 +267,8 @@ TEST(Nl80211Messages, LyingLengthsEndTheReading)
         QByteArray all = bytes.payload();
         all.replace(all.size() - 4, 4, header);
         Nl80211Messages messages;
-        messages.add(spanOf(all), wirelessFamily, NetlinkBytes::sequence);
+        forEachMessage(
+            spanOf(all), [&](const nlmsghdr &message) { messages.add(message, wirelessFamily); });
         ASSERT_EQ(messages.interfaces.size(), 1) << length;
         EXPECT_EQ(messages.interfaces.first().ssid, "") << length;
     }

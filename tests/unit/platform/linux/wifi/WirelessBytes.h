@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "unit/platform/linux/netlink/NetlinkBytes.h"
+#include "unit/netlink/NetlinkBytes.h"
 
 #include <QByteArray>
 
