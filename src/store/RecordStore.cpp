@@ -42,7 +42,7 @@ QString logLine(const Error &error, const QString &path)
 Alert alertFor(const Error &error, const QString &path)
 {
     const QStringList buttons{localized("Quit")};
-    if (isFileOfANewerVersion(error)) {
+    if (isRecordFileError(error, RecordFileError::Newer)) {
         return {localized("The records were written by a newer version of Quillon"),
             filled(localized("They are left untouched; please install that version again to use "
                              "them: %@"),
@@ -129,7 +129,7 @@ void RecordStore::endProcess(const Error &error, const QString &path)
     // Nothing else is to be lost by this.
     m_with.settings.flush();
     m_with.alerts.runModal(alertFor(error, path));
-    if (isFileOfANewerVersion(error)) {
+    if (isRecordFileError(error, RecordFileError::Newer)) {
         std::_Exit(EXIT_FAILURE);
     }
     std::abort();

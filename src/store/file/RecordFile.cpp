@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordFile.h"
 
+#include "store/file/FetchSql.h"
 #include "store/file/RecordFileOpening.h"
-#include "store/file/SqlPredicate.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -13,17 +13,6 @@
 #include <utility>
 
 namespace quillon {
-
-Error recordFileError(RecordFileError code, const QString &message)
-{
-    return {recordFileErrorDomain, static_cast<int>(code), message};
-}
-
-bool isFileOfANewerVersion(const Error &error)
-{
-    return error.domain == recordFileErrorDomain &&
-           error.code == static_cast<int>(RecordFileError::Newer);
-}
 
 namespace {
 
@@ -76,6 +65,33 @@ QList<RecordRow> allRows(SQLite::Statement &statement, const Entity &entity)
         rows << rowOf(statement, entity);
     }
     return rows;
+}
+
+/// Fills overlayTable() for as long as the transaction lives: it is never committed, and the table
+/// is empty before and after it. Nothing of the file is written or locked.
+std::unique_ptr<SQLite::Transaction> overlaid(
+    SQLite::Database &database, const Entity &entity, const QList<RowChange> &changes)
+{
+    const std::string table = overlayTable(entity);
+    std::string columns = "pk INTEGER PRIMARY KEY, isDeleted";
+    for (const Attribute &attribute : entity.attributes()) {
+        columns += ", " + quotedName(attribute.name);
+    }
+    database.exec("CREATE TABLE IF NOT EXISTS " + table + " (" + columns + ")");
+    auto transaction = std::make_unique<SQLite::Transaction>(database);
+    SQLite::Statement insertion(database,
+        "INSERT INTO " + table + " VALUES (" + repeated("?", 2 + entity.attributes().size()) + ")");
+    for (const RowChange &change : changes) {
+        insertion.bind(1, int64_t{change.row.key});
+        insertion.bind(2, change.kind == RowChange::Kind::Delete ? 1 : 0);
+        int index = 3;
+        for (const QVariant &value : change.row.values) {
+            bindValue(insertion, index++, value);
+        }
+        insertion.exec();
+        insertion.reset();
+    }
+    return transaction;
 }
 
 /// Writes rows, each statement prepared once. SQLite::Exception as SQLiteCpp throws it.
@@ -144,10 +160,10 @@ private:
     qint64 insert(const RowChange &change)
     {
         auto &sql = statement(change, RowChange::Kind::Insert);
-        if (change.row.key == 0) {
-            sql.bind(1);
-        } else {
+        if (change.row.key < firstUnsavedKey) {
             sql.bind(1, int64_t{change.row.key});
+        } else {
+            sql.bind(1);
         }
         bindId(sql, 2, change.row.id);
         int index = 3;
@@ -203,19 +219,17 @@ RecordFile::RecordFile(std::unique_ptr<SQLite::Database> database)
 RecordFile::~RecordFile() = default;
 
 Result<std::vector<qint64>> RecordFile::keys(
-    const Entity &entity, const FetchRequest &request) const
+    const Entity &entity, const FetchRequest &request, const QList<RowChange> &changes) const
 {
-    const auto condition = sqlCondition(entity, request.predicate.value_or(Predicate::all({})));
-    const auto order = sqlOrder(entity, request.order);
-    if (!condition || !order) {
-        return condition ? order.error() : condition.error();
+    const auto sql = fetchSql(entity, request, !changes.isEmpty());
+    if (!sql) {
+        return sql.error();
     }
-    const std::string sql = "SELECT pk FROM " + quotedName(entity.name()) + " WHERE " +
-                            condition.value().text + " ORDER BY " + order.value();
     return attempt<std::vector<qint64>>([&] {
-        SQLite::Statement statement(*m_database, sql);
+        const auto overlay = changes.isEmpty() ? nullptr : overlaid(*m_database, entity, changes);
+        SQLite::Statement statement(*m_database, sql.value().text);
         int index = 1;
-        for (const QVariant &value : condition.value().values) {
+        for (const QVariant &value : sql.value().values) {
             bindValue(statement, index++, value);
         }
         std::vector<qint64> keys;

@@ -6,6 +6,7 @@
 #include "store/file/RecordRow.h"
 #include "store/file/RecordSchema.h"
 #include "store/model/FetchRequest.h"
+#include "store/model/RecordFileError.h"
 
 #include <memory>
 #include <vector>
@@ -15,25 +16,6 @@ class Database;
 } // namespace SQLite
 
 namespace quillon {
-
-inline const QString recordFileErrorDomain = QStringLiteral("RecordFileErrorDomain");
-
-/// The codes of recordFileErrorDomain.
-enum class RecordFileError
-{
-    CannotOpen = 1, ///< no such folder, no permission, not a file
-    NotARecordFile, ///< it belongs to something else
-    Damaged,
-    Newer,       ///< written by a later version of the program
-    Locked,      ///< another program keeps it for longer than the second that we wait
-    Full,        ///< the disk is
-    InputOutput, ///< the disk fails
-    UnknownName, ///< a fetch names an entity or attribute that the model does not have
-    Failed,      ///< anything else that SQLite says
-};
-
-Error recordFileError(RecordFileError code, const QString &message);
-bool isFileOfANewerVersion(const Error &error);
 
 /// The SQLite file of a store: rows by entity, read in part and written in whole transactions. What
 /// write() reported as done survives a kill and a power cut. Other programs may read and write the
@@ -47,8 +29,10 @@ public:
         const Model &model, const QString &path, const RecordSchema &schema = quillonSchema());
     ~RecordFile();
 
-    /// Of the matching rows, in the order asked for.
-    Result<std::vector<qint64>> keys(const Entity &entity, const FetchRequest &request) const;
+    /// Of the matching rows, in the order asked for, as if `changes`, which are all of this entity,
+    /// were written.
+    Result<std::vector<qint64>> keys(const Entity &entity, const FetchRequest &request,
+        const QList<RowChange> &changes = {}) const;
     /// In no certain order; a key that the file does not have is left out.
     Result<QList<RecordRow>> rows(const Entity &entity, const QList<qint64> &keys) const;
     /// None or one.

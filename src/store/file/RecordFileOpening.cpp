@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordFileOpening.h"
 
+#include "store/file/FetchSql.h"
 #include "store/file/RecordFile.h"
-#include "store/file/SqlPredicate.h"
 
 #include <QFile>
 #include <QFileInfo>

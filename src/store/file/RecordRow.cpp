@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordRow.h"
 
-#include "store/model/ValueComparison.h"
-
 #include <QDateTime>
 
 #include <SQLiteCpp/Column.h>
@@ -14,19 +12,18 @@ namespace quillon {
 
 void bindValue(SQLite::Statement &statement, int index, const QVariant &value)
 {
-    const QVariant stored = comparableValue(value);
-    switch (stored.typeId()) {
-    case QMetaType::LongLong:
-        statement.bind(index, static_cast<int64_t>(stored.toLongLong()));
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        statement.bind(index);
         break;
     case QMetaType::QString:
-        statement.bind(index, stored.toString().toStdString());
+        statement.bind(index, value.toString().toStdString());
         break;
     case QMetaType::QDateTime:
-        statement.bind(index, static_cast<int64_t>(stored.toDateTime().toMSecsSinceEpoch()));
+        statement.bind(index, int64_t{value.toDateTime().toMSecsSinceEpoch()});
         break;
     default:
-        statement.bind(index);
+        statement.bind(index, int64_t{value.toLongLong()});
     }
 }
 

@@ -13,10 +13,13 @@ class Statement;
 
 namespace quillon {
 
+/// Keys from here on stand for records that never were in the file; saving gives them others.
+constexpr qint64 firstUnsavedKey = qint64{1} << 62;
+
 /// One record as the file holds it.
 struct RecordRow
 {
-    qint64 key = 0; ///< its place in the order of creation; 0 until it was in the file
+    qint64 key = firstUnsavedKey; ///< its place in the order of creation
     QUuid id;
     QVariantList values; ///< in the order of the entity's attributes
 };
@@ -40,7 +43,7 @@ struct RowChange
 // Values cross into SQLite and back here and nowhere else; SQLite::Exception as SQLiteCpp throws
 // it.
 
-/// `index` counts from 1.
+/// A value as Entity::converted() gives it, or a number or Boolean; `index` counts from 1.
 void bindValue(SQLite::Statement &statement, int index, const QVariant &value);
 void bindId(SQLite::Statement &statement, int index, const QUuid &id);
 /// Of a statement that selects `pk`, `uuid` and the entity's attributes.

@@ -8,7 +8,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <tuple>
 
 namespace quillon {
 
@@ -18,25 +17,17 @@ constexpr qsizetype rowsAtOnce = 100;
 
 } // namespace
 
-bool ManagedObjectContext::isCreatedBefore(
-    const ManagedObjectPtr &left, const ManagedObjectPtr &right)
+RowChange ManagedObjectContext::changeOf(const ManagedObject &object)
 {
-    const auto place = [](const ManagedObjectPtr &object) {
-        return std::tuple(object->m_key == 0, object->m_key, object->m_sequence);
-    };
-    return place(left) < place(right);
-}
-
-ManagedObjectList ManagedObjectContext::unsaved(const Entity *entity) const
-{
-    ManagedObjectList objects;
-    for (const ManagedObjectPtr &object : m_unsaved) {
-        if (!entity || object->m_entity.name() == entity->name()) {
-            objects << object;
+    using enum RowChange::Kind;
+    RowChange change{object.m_isDeleted ? Delete : (object.m_isInFile ? Update : Insert),
+        object.m_entity, {object.m_key, object.m_id, object.m_values}, {}};
+    for (qsizetype index = 0; change.kind == Update && index < object.m_values.size(); ++index) {
+        if (object.m_values[index] != object.m_stored[index]) {
+            change.columns << index;
         }
     }
-    std::sort(objects.begin(), objects.end(), isCreatedBefore);
-    return objects;
+    return change;
 }
 
 std::optional<Error> ManagedObjectContext::save()
@@ -46,22 +37,14 @@ std::optional<Error> ManagedObjectContext::save()
     if (!self) {
         return std::nullopt;
     }
-    const ManagedObjectList objects = unsaved();
-    if (objects.isEmpty()) {
+    if (m_unsaved.isEmpty()) {
         return std::nullopt;
     }
+    ManagedObjectList objects = m_unsaved.values();
+    std::ranges::sort(objects, {}, [](const ManagedObjectPtr &object) { return object->m_key; });
     QList<RowChange> changes;
-    for (const ManagedObjectPtr &object : objects) {
-        using enum RowChange::Kind;
-        RowChange change{object->m_isDeleted ? Delete : (object->m_isInFile ? Update : Insert),
-            object->m_entity, {object->m_key, object->m_id, object->m_values}, {}};
-        for (qsizetype index = 0; change.kind == Update && index < object->m_values.size();
-             ++index) {
-            if (object->m_values[index] != object->m_stored[index]) {
-                change.columns << index;
-            }
-        }
-        changes << change;
+    for (const ManagedObjectPtr &object : std::as_const(objects)) {
+        changes << changeOf(*object);
     }
     const auto written = m_file.write(changes);
     if (!written) {

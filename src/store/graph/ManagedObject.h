@@ -61,7 +61,6 @@ private:
     QVariantList m_values;
     QVariantList m_stored; ///< as the file has them, when it has the record
     qint64 m_key = 0;      ///< RecordRow::key, kept when the record is deleted
-    qint64 m_sequence = 0; ///< the order of insertion among those that have no key yet
     bool m_isInFile = false;
     bool m_isDeleted = false;
 };

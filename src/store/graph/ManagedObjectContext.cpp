@@ -30,6 +30,7 @@ ManagedObjectContext::ManagedObjectContext(
     : m_model(model)
     , m_file(file)
     , m_scheduler(scheduler)
+    , m_nextKey(firstUnsavedKey)
     , m_undoManager(std::make_unique<QUndoStack>())
 {
 }
@@ -86,7 +87,7 @@ ManagedObjectPtr ManagedObjectContext::insertNewObject(const QString &entity)
         "the model has the entity");
     Q_ASSUME(found != nullptr);
     auto object = registerNew(*found, QUuid::createUuid());
-    object->m_sequence = ++m_lastSequence;
+    object->m_key = m_nextKey++;
     object->m_isDeleted = true;
     setPresent(object, true);
     return object;
@@ -165,9 +166,9 @@ void ManagedObjectContext::setPresent(const ManagedObjectPtr &object, bool prese
 void ManagedObjectContext::noteUnsaved(const ManagedObjectPtr &object)
 {
     if (object->hasChanges()) {
-        m_unsaved.insert(object.get(), object);
+        m_unsaved.insert(object);
     } else {
-        m_unsaved.remove(object.get());
+        m_unsaved.remove(object);
     }
 }
 

@@ -9,11 +9,11 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 
 class QUndoStack;
 
@@ -23,6 +23,7 @@ class FetchedRecords;
 class RecordFile;
 class Scheduler;
 struct RecordRow;
+struct RowChange;
 
 /// What one turn of the main loop did to the records of a context.
 struct ObjectsDidChange
@@ -130,20 +131,16 @@ private:
     /// The object of a row of the file.
     ManagedObjectPtr objectOf(const Entity &entity, const RecordRow &row);
 
-    /// Of one entity, in the order of creation.
-    ManagedObjectList unsaved(const Entity *entity = nullptr) const;
-    static bool isCreatedBefore(const ManagedObjectPtr &left, const ManagedObjectPtr &right);
-    /// `entries` and `shown` as FetchedRecords keeps them.
-    std::optional<Error> layUnsavedOver(const Entity &entity, const FetchRequest &request,
-        std::vector<qint64> &entries, ManagedObjectList &shown);
+    /// What a save does to the row of an object with changes.
+    static RowChange changeOf(const ManagedObject &object);
     void takeOver(const ManagedObjectPtr &object, const RecordRow *row);
 
     const Model m_model;
     RecordFile &m_file;
     Scheduler &m_scheduler;
     QHash<Identity, ManagedObject *> m_registered; ///< while they live
-    QHash<const ManagedObject *, ManagedObjectPtr> m_unsaved;
-    qint64 m_lastSequence = 0;
+    QSet<ManagedObjectPtr> m_unsaved;
+    qint64 m_nextKey;
 
     ChangeSet m_pending;               ///< this turn's
     const ChangeSet *m_told = nullptr; ///< those that objectsDidChange tells at this moment

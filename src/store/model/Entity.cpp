@@ -14,6 +14,20 @@ QString wellFormedText(const QString &text)
     return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
 }
 
+bool isNumber(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Short:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return true;
+    default:
+        return false;
+    }
+}
+
 Entity::Entity(QString name, QList<Attribute> attributes)
     : m_name(std::move(name))
     , m_attributes(std::move(attributes))
@@ -31,20 +45,6 @@ qsizetype Entity::indexOf(const QString &attribute) const
 }
 
 namespace {
-
-bool isNumber(const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::Short:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return true;
-    default:
-        return false;
-    }
-}
 
 std::optional<QVariant> integer16(const QVariant &value)
 {

@@ -12,6 +12,8 @@ namespace quillon {
 
 /// `text` as a file can hold it: halves of surrogate pairs that stand alone are replaced.
 QString wellFormedText(const QString &text);
+/// Whether `value` is an integer of any size.
+bool isNumber(const QVariant &value);
 
 /// What an attribute holds, and as what it is read: Integer16 as qlonglong, Boolean as bool, String
 /// as QString, Date as QDateTime (UTC, milliseconds). Every attribute may also hold nothing, which

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/model/Predicate.h"
 
-#include "store/model/ValueComparison.h"
-
 #include <QDateTime>
 #include <QStringList>
 
@@ -46,35 +44,6 @@ Predicate Predicate::any(const QList<Predicate> &parts)
     Predicate predicate = all(parts);
     predicate.m_kind = Kind::Or;
     return predicate;
-}
-
-bool Predicate::evaluate(const Values &values) const
-{
-    const auto holds = [&values](const Predicate &part) { return part.evaluate(values); };
-    switch (m_kind) {
-    case Kind::And:
-        return std::all_of(m_parts.begin(), m_parts.end(), holds);
-    case Kind::Or:
-        return std::any_of(m_parts.begin(), m_parts.end(), holds);
-    case Kind::Equal:
-    case Kind::Contains:
-    case Kind::BeginsWith:
-        break;
-    }
-    const QVariant present = comparableValue(values(m_attribute));
-    const QVariant wanted = comparableValue(m_value);
-    if (!present.isValid() || present.typeId() != wanted.typeId()) {
-        return false;
-    }
-    if (m_kind == Kind::Equal) {
-        return compareValues(present, wanted) == 0;
-    }
-    if (present.typeId() != QMetaType::QString) {
-        return false;
-    }
-    return m_kind == Kind::Contains
-               ? present.toString().contains(wanted.toString())
-               : foldedText(present.toString()).startsWith(foldedText(wanted.toString()));
 }
 
 namespace {

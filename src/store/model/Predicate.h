@@ -6,14 +6,11 @@
 #include <QString>
 #include <QVariant>
 
-#include <functional>
-#include <memory>
-
 namespace quillon {
 
-/// A condition on a record's attributes: composable, comparable in memory and by the store with the
-/// same answer. An attribute that holds nothing satisfies no comparison. Texts compare exactly
-/// unless the operator says otherwise.
+/// A condition on a record's attributes; SQLite evaluates it (store/file/FetchSql.h). An attribute
+/// that holds nothing satisfies no comparison. Texts compare exactly unless the operator says
+/// otherwise.
 class Predicate
 {
 public:
@@ -32,9 +29,6 @@ public:
     static Predicate all(const QList<Predicate> &parts);
     static Predicate any(const QList<Predicate> &parts);
 
-    /// Gives an attribute's value.
-    using Values = std::function<QVariant(const QString &attribute)>;
-    bool evaluate(const Values &values) const;
     /// In the usual notation: texts in single quotes, Booleans as YES and NO, "&&" and "||" between
     /// parentheses, "CONTAINS", "BEGINSWITH[cd]".
     QString format() const;

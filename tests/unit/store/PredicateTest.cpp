@@ -1,28 +1,41 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "store/model/Predicate.h"
-
-#include "fakes/QtPrinting.h"
+#include "RecordsFixture.h"
 
 #include <QDateTime>
-#include <QVariantMap>
-#include <gtest/gtest.h>
 
 namespace quillon::test {
 
 namespace {
-
-bool holds(const Predicate &predicate, const QVariantMap &record)
-{
-    return predicate.evaluate([&record](const QString &name) { return record.value(name); });
-}
 
 const QString ssid = QStringLiteral("ssid");
 const QString device = QStringLiteral("device");
 
 } // namespace
 
-TEST(Predicate, EqualComparesTextsExactly)
+class PredicateTest : public RecordsTest
+{
+protected:
+    /// Whether a fetch finds a rule of these values: new, saved, and changed after that.
+    bool holds(const Predicate &predicate, const QVariantMap &values)
+    {
+        const auto record = context().insertNewObject(model::Rule);
+        for (auto value = values.begin(); value != values.end(); ++value) {
+            record->setValue(value.key(), value.value());
+        }
+        const auto isFound = [&] {
+            return context().fetch({model::Rule, predicate, {}}).value().contains(record);
+        };
+        const bool whileNew = isFound();
+        save();
+        EXPECT_EQ(isFound(), whileNew) << "saved: " << predicate.format().toStdString();
+        record->setValue(model::rule::vendor, QStringLiteral("another"));
+        EXPECT_EQ(isFound(), whileNew) << "changed: " << predicate.format().toStdString();
+        return whileNew;
+    }
+};
+
+TEST_F(PredicateTest, EqualComparesTextsExactly)
 {
     const Predicate isHome = Predicate::equal(ssid, QStringLiteral("Home"));
     EXPECT_TRUE(holds(isHome, {{ssid, QStringLiteral("Home")}}));
@@ -30,20 +43,25 @@ TEST(Predicate, EqualComparesTextsExactly)
     EXPECT_FALSE(holds(isHome, {{ssid, QStringLiteral("Home ")}}));
 }
 
-TEST(Predicate, ABooleanEqualsTheNumberThatItIsStoredAs)
+TEST_F(PredicateTest, ABooleanEqualsTheNumberThatItIsStoredAs)
 {
-    EXPECT_TRUE(holds(Predicate::equal(device, 1), {{device, true}}));
-    EXPECT_TRUE(holds(Predicate::equal(device, true), {{device, qlonglong{1}}}));
-    EXPECT_FALSE(holds(Predicate::equal(device, true), {{device, false}}));
+    const QString minutes = model::rule::timerMins;
+    EXPECT_TRUE(holds(Predicate::equal(model::rule::enabled, 1), {{model::rule::enabled, true}}));
+    EXPECT_TRUE(holds(Predicate::equal(minutes, true), {{minutes, 1}}));
+    EXPECT_FALSE(holds(Predicate::equal(minutes, true), {{minutes, 0}}));
+    EXPECT_FALSE(
+        holds(Predicate::equal(model::rule::enabled, true), {{model::rule::enabled, false}}));
 }
 
-TEST(Predicate, ANumberIsNotTheTextThatShowsIt)
+TEST_F(PredicateTest, ANumberIsNotTheTextThatShowsIt)
 {
+    const QString minutes = model::rule::timerMins;
     EXPECT_FALSE(holds(Predicate::equal(device, 1), {{device, QStringLiteral("1")}}));
-    EXPECT_FALSE(holds(Predicate::contains(device, QStringLiteral("1")), {{device, 1}}));
+    EXPECT_FALSE(holds(Predicate::equal(minutes, QStringLiteral("1")), {{minutes, 1}}));
+    EXPECT_FALSE(holds(Predicate::contains(minutes, QStringLiteral("1")), {{minutes, 1}}));
 }
 
-TEST(Predicate, WhatHoldsNothingSatisfiesNoComparison)
+TEST_F(PredicateTest, WhatHoldsNothingSatisfiesNoComparison)
 {
     const QVariantMap empty;
     EXPECT_FALSE(holds(Predicate::equal(ssid, QString()), empty));
@@ -52,7 +70,7 @@ TEST(Predicate, WhatHoldsNothingSatisfiesNoComparison)
     EXPECT_FALSE(holds(Predicate::beginsWith(ssid, QString()), empty));
 }
 
-TEST(Predicate, ContainsDistinguishesCapitals)
+TEST_F(PredicateTest, ContainsDistinguishesCapitals)
 {
     const QVariantMap record{{ssid, QStringLiteral("Café Central")}};
     EXPECT_TRUE(holds(Predicate::contains(ssid, QStringLiteral("Cent")), record));
@@ -60,7 +78,7 @@ TEST(Predicate, ContainsDistinguishesCapitals)
     EXPECT_FALSE(holds(Predicate::contains(ssid, QStringLiteral("Cafe")), record));
 }
 
-TEST(Predicate, BeginsWithIgnoresCaseAndDiacritics)
+TEST_F(PredicateTest, BeginsWithIgnoresCaseAndDiacritics)
 {
     const QVariantMap record{{ssid, QStringLiteral("Éclair Ünlimited")}};
     EXPECT_TRUE(holds(Predicate::beginsWith(ssid, QStringLiteral("eCL")), record));
@@ -70,13 +88,13 @@ TEST(Predicate, BeginsWithIgnoresCaseAndDiacritics)
         holds(Predicate::beginsWith(ssid, QStringLiteral("ΌΣ")), {{ssid, QStringLiteral("ος")}}));
 }
 
-TEST(Predicate, OfNoPartsAllIsTrueAndAnyIsFalse)
+TEST_F(PredicateTest, OfNoPartsAllIsTrueAndAnyIsFalse)
 {
     EXPECT_TRUE(holds(Predicate::all({}), {}));
     EXPECT_FALSE(holds(Predicate::any({}), {}));
 }
 
-TEST(Predicate, PartsCombine)
+TEST_F(PredicateTest, PartsCombine)
 {
     const auto isHome = Predicate::equal(ssid, QStringLiteral("Home"));
     const auto isWired = Predicate::equal(device, QStringLiteral("eth0"));

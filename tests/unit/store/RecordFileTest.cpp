@@ -53,7 +53,7 @@ protected:
         const Entity &rule = quillonModel().entities.first();
         QVariantList values(rule.attributes().size());
         values[rule.indexOf(model::rule::name)] = QStringLiteral("Home");
-        const RecordRow row{0, QUuid::createUuid(), values};
+        const RecordRow row{firstUnsavedKey, QUuid::createUuid(), values};
         ASSERT_TRUE(file.value()->write({{RowChange::Kind::Insert, rule, row, {}}}));
     }
     static RecordSchema withStep(const std::string &script)
@@ -69,7 +69,8 @@ protected:
         EXPECT_EQ(opened.error().code, static_cast<int>(code));
         EXPECT_TRUE(opened.error().message.contains(message))
             << opened.error().message.toStdString();
-        EXPECT_EQ(isFileOfANewerVersion(opened.error()), code == RecordFileError::Newer);
+        EXPECT_EQ(isRecordFileError(opened.error(), RecordFileError::Newer),
+            code == RecordFileError::Newer);
     }
 
     /// From now on the file is as a program leaves it that was killed while it filled "Notes": the
