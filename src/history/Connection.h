@@ -4,8 +4,9 @@
 
 #include "store/graph/ManagedObject.h"
 #include "store/model/FetchRequest.h"
+#include "store/model/QuillonModel.h"
 
-#include <QDateTime>
+#include <utility>
 
 namespace quillon {
 
@@ -16,28 +17,39 @@ class Connection
 {
 public:
     /// All records, without an order.
-    static FetchRequest fetchRequest();
+    static FetchRequest fetchRequest() { return {model::Connection, {}, {}}; }
 
     /// `record` is a live record of the entity "Connection".
-    explicit Connection(ManagedObjectPtr record);
+    explicit Connection(ManagedObjectPtr record)
+        : m_record(std::move(record))
+    {
+    }
 
     const ManagedObjectPtr &record() const { return m_record; }
 
-    QDateTime date() const; ///< when the record was made, UTC
-    QString device() const;
-    QString interface() const; ///< the hardware port's name
-    QString address() const;   ///< the new address, as it was asked for
-    QString ssid() const;      ///< "" unless the port is Wi-Fi
-    QString bssid() const;     ///< lower case; "" unless the port is Wi-Fi
-    QString notes() const;
+    /// When the record was made, UTC.
+    QDateTime date() const { return m_record->get(model::connection::date); }
+    QString device() const { return m_record->get(model::connection::device); }
+    /// The hardware port's name.
+    QString interface() const { return m_record->get(model::connection::interface); }
+    /// The new address, as it was asked for.
+    QString address() const { return m_record->get(model::connection::address); }
+    /// "" unless the port is Wi-Fi.
+    QString ssid() const { return m_record->get(model::connection::ssid); }
+    /// Lower case; "" unless the port is Wi-Fi.
+    QString bssid() const { return m_record->get(model::connection::bssid); }
+    QString notes() const { return m_record->get(model::connection::notes); }
 
-    void setDate(const QDateTime &date);
-    void setDevice(const QString &device);
-    void setInterface(const QString &interface);
-    void setAddress(const QString &address);
-    void setSsid(const QString &ssid);
-    void setBssid(const QString &bssid);
-    void setNotes(const QString &notes);
+    void setDate(const QDateTime &date) { m_record->set(model::connection::date, date); }
+    void setDevice(const QString &device) { m_record->set(model::connection::device, device); }
+    void setInterface(const QString &interface)
+    {
+        m_record->set(model::connection::interface, interface);
+    }
+    void setAddress(const QString &address) { m_record->set(model::connection::address, address); }
+    void setSsid(const QString &ssid) { m_record->set(model::connection::ssid, ssid); }
+    void setBssid(const QString &bssid) { m_record->set(model::connection::bssid, bssid); }
+    void setNotes(const QString &notes) { m_record->set(model::connection::notes, notes); }
 
 private:
     ManagedObjectPtr m_record;

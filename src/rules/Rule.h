@@ -4,6 +4,9 @@
 
 #include "store/graph/ManagedObject.h"
 #include "store/model/FetchRequest.h"
+#include "store/model/QuillonModel.h"
+
+#include <utility>
 
 namespace quillon {
 
@@ -22,51 +25,67 @@ public:
     /// `action` and `changeAction` of login rules.
     static constexpr int notChosen = -1;
 
-    static FetchRequest fetchRequest();
+    static FetchRequest fetchRequest() { return {model::Rule, {}, {}}; }
 
     Rule() = default;
-    explicit Rule(ManagedObjectPtr object);
+    explicit Rule(ManagedObjectPtr object)
+        : m_object(std::move(object))
+    {
+    }
 
     bool isNull() const { return m_object == nullptr; }
     const ManagedObjectPtr &object() const { return m_object; }
     /// The record's identity as text ("objID"), "" for a null handle.
-    QString objID() const;
+    QString objID() const { return m_object ? m_object->uriRepresentation() : QString(); }
 
-    int action() const;
-    bool active() const; ///< in force for the current network; set by evaluation only
-    QString address() const;
-    int changeAction() const;
-    QString device() const;
-    bool enabled() const;
-    bool isLogin() const;
-    QString name() const;
+    int action() const { return get(model::rule::action); }
+    /// In force for the current network; set by evaluation only.
+    bool active() const { return get(model::rule::active); }
+    QString address() const { return get(model::rule::address); }
+    int changeAction() const { return get(model::rule::changeAction); }
+    QString device() const { return get(model::rule::device); }
+    bool enabled() const { return get(model::rule::enabled); }
+    bool isLogin() const { return get(model::rule::isLogin); }
+    QString name() const { return get(model::rule::name); }
     /// A saved network's BSSID, one of networks/SpecialNetworks.h, or "" for login rules.
-    QString network() const;
-    QString ssid() const;
-    bool ssidDefined() const; ///< the network is recognised by its SSID
-    int timerMins() const;    ///< minutes
-    QString vendor() const;
+    QString network() const { return get(model::rule::network); }
+    QString ssid() const { return get(model::rule::ssid); }
+    /// The network is recognised by its SSID.
+    bool ssidDefined() const { return get(model::rule::ssidDefined); }
+    /// Minutes.
+    int timerMins() const { return get(model::rule::timerMins); }
+    QString vendor() const { return get(model::rule::vendor); }
 
-    void setAction(int action) const;
-    void setActive(bool active) const;
-    void setAddress(const QString &address) const;
-    void setChangeAction(int changeAction) const;
-    void setDevice(const QString &device) const;
-    void setEnabled(bool enabled) const;
-    void setIsLogin(bool isLogin) const;
-    void setName(const QString &name) const;
-    void setNetwork(const QString &network) const;
-    void setSsid(const QString &ssid) const;
-    void setSsidDefined(bool ssidDefined) const;
-    void setTimerMins(int timerMins) const;
-    void setVendor(const QString &vendor) const;
+    void setAction(int action) const { set(model::rule::action, action); }
+    void setActive(bool active) const { set(model::rule::active, active); }
+    void setAddress(const QString &address) const { set(model::rule::address, address); }
+    void setChangeAction(int changeAction) const { set(model::rule::changeAction, changeAction); }
+    void setDevice(const QString &device) const { set(model::rule::device, device); }
+    void setEnabled(bool enabled) const { set(model::rule::enabled, enabled); }
+    void setIsLogin(bool isLogin) const { set(model::rule::isLogin, isLogin); }
+    void setName(const QString &name) const { set(model::rule::name, name); }
+    void setNetwork(const QString &network) const { set(model::rule::network, network); }
+    void setSsid(const QString &ssid) const { set(model::rule::ssid, ssid); }
+    void setSsidDefined(bool ssidDefined) const { set(model::rule::ssidDefined, ssidDefined); }
+    void setTimerMins(int timerMins) const { set(model::rule::timerMins, timerMins); }
+    void setVendor(const QString &vendor) const { set(model::rule::vendor, vendor); }
 
     /// Whether both are the same record.
     bool operator==(const Rule &) const = default;
 
 private:
-    QVariant value(const QString &attribute) const;
-    void setValue(const QString &attribute, const QVariant &value) const;
+    template <typename T>
+    T get(const AttributeOf<T> &attribute) const
+    {
+        return m_object ? m_object->get(attribute) : T();
+    }
+    template <typename T>
+    void set(const AttributeOf<T> &attribute, const std::type_identity_t<T> &value) const
+    {
+        if (m_object) {
+            m_object->set(attribute, value);
+        }
+    }
 
     ManagedObjectPtr m_object;
 };

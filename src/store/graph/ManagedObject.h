@@ -9,6 +9,7 @@
 #include <QVariantMap>
 
 #include <memory>
+#include <type_traits>
 
 namespace quillon {
 
@@ -32,6 +33,18 @@ public:
     void setValue(const QString &attribute, const QVariant &value);
     /// A correction: saved like any change, but neither told nor undone by itself.
     void setPrimitiveValue(const QString &attribute, const QVariant &value);
+
+    /// value() and setValue() in the attribute's own type; what holds nothing reads as T().
+    template <typename T>
+    T get(const AttributeOf<T> &attribute) const
+    {
+        return value(attribute).template value<T>();
+    }
+    template <typename T>
+    void set(const AttributeOf<T> &attribute, const std::type_identity_t<T> &value)
+    {
+        setValue(attribute, value);
+    }
 
     /// The attributes changed since the last objectsDidChange, with their previous values.
     QVariantMap changedValuesForCurrentEvent() const;

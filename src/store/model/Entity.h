@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDateTime>
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -30,6 +31,28 @@ struct Attribute
 {
     QString name;
     AttributeType type = AttributeType::String;
+};
+
+/// What holds values of that C++ type.
+template <typename T>
+inline constexpr AttributeType attributeType = AttributeType::String;
+template <>
+inline constexpr AttributeType attributeType<int> = AttributeType::Integer16;
+template <>
+inline constexpr AttributeType attributeType<bool> = AttributeType::Boolean;
+template <>
+inline constexpr AttributeType attributeType<QDateTime> = AttributeType::Date;
+
+/// An attribute that is read and written as T: int, bool, QString or QDateTime. It stands for its
+/// name wherever a name is wanted.
+template <typename T>
+struct AttributeOf : Attribute
+{
+    explicit AttributeOf(const QString &attributeName)
+        : Attribute{attributeName, attributeType<T>}
+    {
+    }
+    operator const QString &() const { return name; }
 };
 
 /// One kind of record: its name and its attributes, in order.

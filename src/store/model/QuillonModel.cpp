@@ -4,38 +4,26 @@
 
 namespace quillon {
 
+namespace {
+
+Entity ruleEntity()
+{
+    using namespace model::rule;
+    return {model::Rule, {action, active, address, changeAction, device, enabled, isLogin, name,
+                             network, ssid, ssidDefined, timerMins, vendor}};
+}
+
+Entity connectionEntity()
+{
+    using namespace model::connection;
+    return {model::Connection, {date, device, interface, address, ssid, bssid, notes}};
+}
+
+} // namespace
+
 const Model &quillonModel()
 {
-    using enum AttributeType;
-    static const Model quillon{
-        QStringLiteral("Quillon"), {
-                                       Entity(model::Rule,
-                                           {
-                                               {model::rule::action, Integer16},
-                                               {model::rule::active, Boolean},
-                                               {model::rule::address, String},
-                                               {model::rule::changeAction, Integer16},
-                                               {model::rule::device, String},
-                                               {model::rule::enabled, Boolean},
-                                               {model::rule::isLogin, Boolean},
-                                               {model::rule::name, String},
-                                               {model::rule::network, String},
-                                               {model::rule::ssid, String},
-                                               {model::rule::ssidDefined, Boolean},
-                                               {model::rule::timerMins, Integer16},
-                                               {model::rule::vendor, String},
-                                           }),
-                                       Entity(model::Connection,
-                                           {
-                                               {model::connection::date, Date},
-                                               {model::connection::device, String},
-                                               {model::connection::interface, String},
-                                               {model::connection::address, String},
-                                               {model::connection::ssid, String},
-                                               {model::connection::bssid, String},
-                                               {model::connection::notes, String},
-                                           }),
-                                   }};
+    static const Model quillon{QStringLiteral("Quillon"), {ruleEntity(), connectionEntity()}};
     return quillon;
 }
 

@@ -9,8 +9,7 @@ namespace quillon {
 /// The model "Quillon": rules and history records.
 const Model &quillonModel();
 
-/// Names of the model's entities and attributes, for whoever reads records without the classes that
-/// wrap them.
+/// The model's entities, by name, and their attributes.
 namespace model {
 
 inline const QString Rule = QStringLiteral("Rule");
@@ -18,31 +17,31 @@ inline const QString Connection = QStringLiteral("Connection");
 
 } // namespace model
 
-#define QUILLON_ATTRIBUTE(name) inline const QString name = QStringLiteral(#name)
+#define QUILLON_ATTRIBUTE(type, name) inline const AttributeOf<type> name(QStringLiteral(#name))
 namespace model::rule {
-QUILLON_ATTRIBUTE(action);
-QUILLON_ATTRIBUTE(active);
-QUILLON_ATTRIBUTE(address);
-QUILLON_ATTRIBUTE(changeAction);
-QUILLON_ATTRIBUTE(device);
-QUILLON_ATTRIBUTE(enabled);
-QUILLON_ATTRIBUTE(isLogin);
-QUILLON_ATTRIBUTE(name);
-QUILLON_ATTRIBUTE(network);
-QUILLON_ATTRIBUTE(ssid);
-QUILLON_ATTRIBUTE(ssidDefined);
-QUILLON_ATTRIBUTE(timerMins);
-QUILLON_ATTRIBUTE(vendor);
+QUILLON_ATTRIBUTE(int, action);
+QUILLON_ATTRIBUTE(bool, active);
+QUILLON_ATTRIBUTE(QString, address);
+QUILLON_ATTRIBUTE(int, changeAction);
+QUILLON_ATTRIBUTE(QString, device);
+QUILLON_ATTRIBUTE(bool, enabled);
+QUILLON_ATTRIBUTE(bool, isLogin);
+QUILLON_ATTRIBUTE(QString, name);
+QUILLON_ATTRIBUTE(QString, network);
+QUILLON_ATTRIBUTE(QString, ssid);
+QUILLON_ATTRIBUTE(bool, ssidDefined);
+QUILLON_ATTRIBUTE(int, timerMins);
+QUILLON_ATTRIBUTE(QString, vendor);
 } // namespace model::rule
 
 namespace model::connection {
-QUILLON_ATTRIBUTE(date);
-QUILLON_ATTRIBUTE(device);
-QUILLON_ATTRIBUTE(interface);
-QUILLON_ATTRIBUTE(address);
-QUILLON_ATTRIBUTE(ssid);
-QUILLON_ATTRIBUTE(bssid);
-QUILLON_ATTRIBUTE(notes);
+QUILLON_ATTRIBUTE(QDateTime, date);
+QUILLON_ATTRIBUTE(QString, device);
+QUILLON_ATTRIBUTE(QString, interface);
+QUILLON_ATTRIBUTE(QString, address);
+QUILLON_ATTRIBUTE(QString, ssid);
+QUILLON_ATTRIBUTE(QString, bssid);
+QUILLON_ATTRIBUTE(QString, notes);
 } // namespace model::connection
 #undef QUILLON_ATTRIBUTE
 
