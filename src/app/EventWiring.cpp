@@ -2,17 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/EventWiring.h"
 
+#include "app/Termination.h"
+#include "app/features/Features.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
-#include "devices/AddressChanger.h"
-#include "devices/CurrentInterface.h"
-#include "devices/DeviceTable.h"
-#include "helperlink/XPCMethods.h"
 #include "platform/NetworkChangeSource.h"
-#include "presentation/menu/StatusMenuModel.h"
-#include "presentation/preferences/AdvancedPreferencesModel.h"
-#include "presentation/window/MainWindowModel.h"
-#include "presentation/window/Presence.h"
+#include "platform/Platform.h"
 
 #include <QPointer>
 
@@ -26,15 +21,27 @@ constexpr std::chrono::milliseconds terminateLoginHelperDelay{1000};
 
 } // namespace
 
-EventWiring::EventWiring(const Platform &platform, const Components &components)
+EventWiring::EventWiring(const Platform &platform, Features &features, Termination &termination)
     : m_platform(platform)
-    , m_with(components)
+    , m_features(features)
+    , m_termination(termination)
+    , m_networkChange({features.networks.externalAddress, features.devices.table,
+          features.networks.wifi, features.devices.currentInterface, platform.reachability,
+          features.rules.execution, features.rules.evaluation, features.rules.list})
 {
+    connectHelper();
+    connectSelection();
+    connectAddressChange();
+    connectRules();
+    connectRecords();
+    connectNetworks();
+    connectVendorData();
+    connectVendorField();
+    connectProgram();
 }
 
 EventWiring::~EventWiring()
 {
-    Q_EMIT cloudObserversStopped();
     for (const auto token : m_notificationTokens) {
         m_platform.notifications.removeObserver(token);
     }
@@ -46,107 +53,176 @@ EventWiring::~EventWiring()
     }
 }
 
-void EventWiring::connectComponents()
+void EventWiring::connectHelper()
 {
-    connectHelperStatus();
-    connectCurrentInterface();
-    connectAddressChange();
-    connectMenu();
+    Features &f = m_features;
+    on(f.helper, &XPCMethods::helperStatusRead, [&f](bool installed) {
+        f.mainWindow.setHelperInstalled(installed);
+        f.mainWindow.readMeReset();
+        f.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices, RuleChange::None);
+        f.mainWindow.resetInfoButtons();
+        f.devices.currentInterface.updateHexValues();
+        f.devices.table.updateNetWorkInterfaces();
+        f.mainWindow.renewHexFormatter();
+        f.mainWindow.populateSelectionButton();
+    });
+    on(f.helper, &XPCMethods::helperInstalledFromMainWindow, [&f] {
+        f.mainWindow.hideReadMe();
+        f.mainWindow.resetInfoButtons();
+        f.devices.currentInterface.updateHexValues();
+        f.devices.table.updateNetWorkInterfaces();
+        f.mainWindow.renewHexFormatter();
+        f.mainWindow.populateSelectionButton();
+        f.presence.openWindow();
+    });
+    on(f.helper, &XPCMethods::helperInstallationStarted,
+        [&f] { f.mainWindow.setInstalling(true); });
+    on(f.helper, &XPCMethods::helperInstallationEnded, [&f] { f.mainWindow.setInstalling(false); });
 }
 
-void EventWiring::connectHelperStatus()
+void EventWiring::connectSelection()
 {
-    XPCMethods &helper = m_with.helper;
-    MainWindowModel &window = m_with.mainWindow;
-
-    const auto onStatus = [&](auto reaction) {
-        connect(&helper, &XPCMethods::helperStatusRead, this, reaction);
-    };
-    onStatus([&window](bool installed) { window.setHelperInstalled(installed); });
-    onStatus([&window] { window.readMeReset(); });
-    onStatus([this] { Q_EMIT ruleEvaluationDue(); });
-    onStatus([&window] { window.resetInfoButtons(); });
-    onStatus([this] { m_with.currentInterface.updateHexValues(); });
-    onStatus([this] { m_with.devices.updateNetWorkInterfaces(); });
-    onStatus([&window] { window.renewHexFormatter(); });
-    onStatus([&window] { window.populateSelectionButton(); });
-
-    const auto onInstall = [&](auto reaction) {
-        connect(&helper, &XPCMethods::helperInstalledFromMainWindow, this, reaction);
-    };
-    onInstall([&window] { window.hideReadMe(); });
-    onInstall([&window] { window.resetInfoButtons(); });
-    onInstall([this] { m_with.currentInterface.updateHexValues(); });
-    onInstall([this] { m_with.devices.updateNetWorkInterfaces(); });
-    onInstall([&window] { window.renewHexFormatter(); });
-    onInstall([&window] { window.populateSelectionButton(); });
-    onInstall([this] { m_with.presence.openWindow(); });
-
-    connect(&helper, &XPCMethods::helperInstallationStarted, this,
-        [&window] { window.setInstalling(true); });
-    connect(&helper, &XPCMethods::helperInstallationEnded, this,
-        [&window] { window.setInstalling(false); });
-
-    connect(&m_with.advancedPreferences, &AdvancedPreferencesModel::appKeyWanted, this,
-        [this] { m_with.presence.openWindow(); });
-}
-
-void EventWiring::connectCurrentInterface()
-{
-    CurrentInterface &current = m_with.currentInterface;
-    MainWindowModel &window = m_with.mainWindow;
-
-    connect(&current, &CurrentInterface::interfaceSelected, this,
-        [&window] { window.populateSelectionButton(); });
-    connect(
-        &current, &CurrentInterface::interfaceSelected, this, &EventWiring::vendorSelectionStale);
-
-    connect(&current, &CurrentInterface::rebuildStarted, this, &EventWiring::countdownLabelStale);
-
-    const auto onUpdate = [&](auto reaction) {
-        connect(&current, &CurrentInterface::currentInterfaceUpdated, this, reaction);
-    };
-    onUpdate(
-        [&window](const QString &, const QString &address) { window.showPlaceholder(address); });
-    onUpdate(
-        [this](const QString &, const QString &address) { Q_EMIT currentVendorStale(address); });
-    onUpdate([&window] { window.checkUpdateButton(); });
-    onUpdate([this](const QString &device) { Q_EMIT vendorFieldStale(device); });
-    onUpdate([this](const QString &device) { Q_EMIT ruleStatusStale(device); });
-    onUpdate([this] { m_with.statusMenu.menuNeedsUpdate(); });
-
-    connect(&current, &CurrentInterface::hexValuesUpdated, this,
-        [&window] { window.populateHexField(); });
+    Features &f = m_features;
+    CurrentInterface &current = f.devices.currentInterface;
+    on(current, &CurrentInterface::interfaceSelected, [&f](const QString &device) {
+        f.mainWindow.populateSelectionButton();
+        f.vendors.choice.setVendorSelectionForDevice(device);
+    });
+    // Whatever the rebuild finds: the label told of the interface before.
+    on(current, &CurrentInterface::rebuildStarted, [&f] { f.rules.countdown.hideTimerLabel(); });
+    on(current, &CurrentInterface::currentInterfaceUpdated,
+        [&f](const QString &device, const QString &address) {
+            f.mainWindow.showPlaceholder(address);
+            f.vendors.lookup.updateVendor(address);
+            f.mainWindow.checkUpdateButton();
+            f.vendors.choice.updateVendorField(device);
+            f.rules.status.updateRuleStatusForDevice(device);
+            f.statusMenu.menuNeedsUpdate();
+        });
+    on(current, &CurrentInterface::hexValuesUpdated, [&f] { f.mainWindow.populateHexField(); });
+    // The lists of interfaces in menu and window never differ.
+    on(f.statusMenu, &StatusMenuModel::rebuildStarted,
+        [&f] { f.mainWindow.populateSelectionButton(); });
 }
 
 void EventWiring::connectAddressChange()
 {
-    connect(&m_with.addressChanger, &AddressChanger::restoreRequested, this,
-        &EventWiring::hardwarePopoverClosed);
+    Features &f = m_features;
+    AddressChanger &changer = f.devices.addressChanger;
+    on(changer, &AddressChanger::changeBegan,
+        [&f](const QString &device) { f.rules.execution.addressChangeBegan(device); });
     // Direct: the history is written between the user's message and the broadcast, on their thread.
-    connect(&m_with.addressChanger, &AddressChanger::addressChanged, this,
-        &EventWiring::historyRecordDue, Qt::DirectConnection);
+    connect(
+        &changer, &AddressChanger::addressChanged, this,
+        [&f](const QString &device, const QString &address) {
+            f.history.history.addHistoryItemForDeviceWithNewAddress(device, address);
+        },
+        Qt::DirectConnection);
+    on(changer, &AddressChanger::changeEnded,
+        [&f](const QString &device) { f.rules.execution.addressChangeEnded(device); });
 }
 
-void EventWiring::connectMenu()
+void EventWiring::connectRules()
 {
-    StatusMenuModel &menu = m_with.statusMenu;
-    AddressChanger &changer = m_with.addressChanger;
+    RuleFeature &rules = m_features.rules;
+    on(rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
+        [&rules](const QString &device) { rules.status.updateRuleStatusForDevice(device); });
+    on(rules.switches, &RuleSwitches::ruleSwitched, [&rules] { rules.list.reload(); });
+    on(rules.switches, &RuleSwitches::ruleToggled,
+        [&rules] { rules.list.filterRulesArrayController(); });
 
-    connect(&menu, &StatusMenuModel::rebuildStarted, this,
-        [this] { m_with.mainWindow.populateSelectionButton(); });
-    connect(
-        &menu, &StatusMenuModel::openWindowChosen, this, [this] { m_with.presence.openWindow(); });
-    connect(
-        &menu, &StatusMenuModel::quitChosen, this, [this] { m_with.presence.quitFromSysMenu(); });
-    connect(&menu, &StatusMenuModel::interfaceChosen, this,
-        [this](const QString &title) { m_with.currentInterface.changeInterface(title); });
-    connect(
-        &menu, &StatusMenuModel::randomizeChosen, this, [this, &changer](const MenuItem &sender) {
-            changer.randomizeAddress(sender, m_with.randomAddress);
+    on(rules.timers, &CountdownTimers::ticked,
+        [&rules](const QString &device, const QString &text, bool isPaused) {
+            rules.countdown.showCountdown(device, text, isPaused);
         });
-    connect(&menu, &StatusMenuModel::restoreChosen, this,
-        [&changer](const MenuItem &sender) { changer.restoreDefaultAddress(sender); });
+    on(rules.timers, &CountdownTimers::stopped, [&rules] { rules.countdown.hideTimerLabel(); });
+    on(rules.timers, &CountdownTimers::pauseOrResumeRequested,
+        [&rules] { rules.countdown.resetTimerButtons(); });
+}
+
+void EventWiring::connectRecords()
+{
+    RuleFeature &rules = m_features.rules;
+    RecordStore &store = m_features.history.store;
+    on(store, &RecordStore::objectsDidChange, [&rules](const ObjectsDidChange &change) {
+        rules.invariants.contextDidChange(change);
+        rules.list.reloadAfter(change);
+    });
+    on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
+    onBroadcast(notifications::updateNamesArray,
+        [&rules](const auto &) { rules.queries.updateNamesArray(); });
+    const auto showOtherRecords = [&rules] {
+        rules.queries.updateNamesArray();
+        rules.list.reload();
+    };
+    on(store, &RecordStore::recordsMerged, showOtherRecords);
+    on(store, &RecordStore::managedObjectContextReplaced, showOtherRecords);
+}
+
+void EventWiring::connectNetworks()
+{
+    Features &f = m_features;
+    NetworkFeature &networks = f.networks;
+    on(networks.wifi, &WiFiNetwork::networkButtonShown,
+        [&networks](bool shown) { networks.info.showNetworkButton(shown); });
+    on(networks.locationPermission, &LocationPermission::servicesFoundDisabled,
+        [&f] { f.presence.openWindow(); });
+    on(networks.networkEditing, &SavedNetworkEditing::networkDefinitionChanged,
+        [&networks] { networks.savedEntryPopover.showNetworkDefinition(); });
+    on(networks.networkEditing, &SavedNetworkEditing::rulesChanged,
+        [&f] { f.rules.evaluation.rulesWereChanged(); });
+    on(networks.networkEditing, &SavedNetworkEditing::editingFinished,
+        [&networks] { networks.savedEntryPopover.closeNetworkPopover(); });
+    on(networks.addressEditing, &SavedAddressEditing::editingFinished,
+        [&networks] { networks.savedEntryPopover.closeAddressPopover(); });
+}
+
+void EventWiring::connectVendorData()
+{
+    VendorFeature &vendors = m_features.vendors;
+    VendorPaneModel &pane = vendors.pane;
+    on(vendors.count, &VendorCount::firstCountBegun, [&pane] { pane.showFirstCountBegun(); });
+    on(vendors.count, &VendorCount::additionNoted,
+        [&pane](const QString &note) { pane.showAdditionNoted(note); });
+    on(vendors.count, &VendorCount::counted, [&pane](qlonglong count) { pane.showCount(count); });
+
+    on(vendors.download, &RegistryDownload::downloadBegun, [&pane] { pane.showDownloadBegun(); });
+    on(vendors.download, &RegistryDownload::progressed,
+        [&pane](qint64 chunk, qint64 received, qint64 expected) {
+            pane.showProgress(chunk, received, expected);
+        });
+    on(vendors.download, &RegistryDownload::downloadCancelled,
+        [&pane] { pane.showDownloadCancelled(); });
+    on(vendors.download, &RegistryDownload::downloadButtonReset,
+        [&pane] { pane.resetDownloadButton(); });
+
+    on(vendors.import, &RegistryImport::processingBegun, [&pane] { pane.showProcessingBegun(); });
+    on(vendors.import, &RegistryImport::parsingFailed, [&pane] { pane.showParsingFailed(); });
+    on(vendors.import, &RegistryImport::downloadCompleted,
+        [&pane](const QString &date) { pane.showDownloadCompleted(date); });
+    // Every refresh ends so, whatever became of it.
+    on(vendors.import, &RegistryImport::ended,
+        [&vendors] { vendors.download.resetDownloadButton(); });
+}
+
+void EventWiring::connectVendorField()
+{
+    VendorFeature &vendors = m_features.vendors;
+    VendorFieldModel &field = vendors.field;
+    on(vendors.list, &VendorList::rearranged, [&field] { field.rearrange(); });
+    on(vendors.list, &VendorList::rebuilt,
+        [&vendors] { vendors.choice.setVendorSelectionForCurrentDevice(); });
+    on(vendors.choice, &VendorChoice::vendorFieldUpdated,
+        [&field](const QString &text) { field.showText(text); });
+    on(vendors.choice, &VendorChoice::vendorSelected,
+        [&field](const std::optional<qsizetype> &row) { field.selectRow(row); });
+    on(vendors.lookup, &VendorLookup::vendorButtonShown,
+        [&field](bool shown) { field.showVendorButton(shown); });
+}
+
+void EventWiring::connectProgram()
+{
+    on(m_features.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }
 
 void EventWiring::setupNotifications()
@@ -155,8 +231,8 @@ void EventWiring::setupNotifications()
     observeBroadcasts();
     // The source outlives this.
     m_platform.networkChanges.start([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->m_platform.notifications.post(notifications::networkChanged);
+        if (self) {
+            self->m_platform.notifications.post(notifications::networkChanged);
         }
     });
     // A login item that started us has done its work.
@@ -165,68 +241,56 @@ void EventWiring::setupNotifications()
 
 void EventWiring::observeSettings()
 {
-    observe(keys::lowerCaseHEX, [this] { m_with.currentInterface.updateHexValues(); });
-    observe(keys::currentInterfaceDict, [this] { m_with.mainWindow.populateHexField(); });
-    observe(keys::loginStart, [this] {
-        Q_EMIT loginStartChanged();
-        m_platform.scheduler.onMainAfter(terminateLoginHelperDelay, [self = QPointer(this)] {
-            if (auto *const that = self.data()) {
-                that->postTerminateLoginHelper();
-            }
-        });
+    Features &f = m_features;
+    onSetting(keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
+    onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
+    onSetting(keys::loginStart, [this] {
+        m_platform.scheduler.onMainAfter(
+            terminateLoginHelperDelay, this, [this] { postTerminateLoginHelper(); });
     });
-    observe(keys::showInMenu, [this] { m_with.presence.updateMenu(); });
-    observe(keys::hideDock, [this] { m_with.presence.updateDock(); });
-    observe(keys::showKeyEnabled, [this] { Q_EMIT showKeyChanged(); });
-    observe(keys::randomKeyEnabled, [this] { Q_EMIT randomKeyChanged(); });
-    observe(keys::updateKeyEnabled, [] {});
-    observe(keys::savedAddresses, [this] { Q_EMIT savedAddressesChanged(); });
-    observe(keys::shouldUpdateExternalIP, [this] { Q_EMIT externalAddressWanted(); });
-    observe(keys::iCloudSync, [this] { Q_EMIT cloudSyncSwitched(); });
+    onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
+    onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
+    onSetting(keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
+    onSetting(keys::shouldUpdateExternalIP,
+        [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });
+    onSetting(keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
 }
 
 void EventWiring::observeBroadcasts()
 {
-    observe(notifications::cloudContainerChanged,
-        [this](const auto &) { Q_EMIT cloudContainerChanged(); });
-    observe(notifications::networkChanged, [this](const auto &) {
-        Q_EMIT networkChanged();
-        m_with.statusMenu.menuNeedsUpdate();
+    Features &f = m_features;
+    onBroadcast(notifications::networkChanged, [this](const auto &) {
+        m_networkChange.networkChanged();
+        m_features.statusMenu.menuNeedsUpdate();
     });
-    observe(notifications::addressUpdated, [this](const auto &) {
-        m_platform.scheduler.onMain([self = QPointer(this)] {
-            if (auto *const that = self.data()) {
-                that->m_with.statusMenu.menuNeedsUpdate();
-            }
-        });
+    onBroadcast(notifications::addressUpdated, [this](const auto &) {
+        m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
     });
-    observe(notifications::helperStatusChanged, [this](const auto &) {
-        m_with.advancedPreferences.checkButtonStatus();
-        m_with.statusMenu.menuNeedsUpdate();
+    onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
+        f.advancedPreferences.checkButtonStatus();
+        f.statusMenu.menuNeedsUpdate();
     });
-    observe(notifications::closeVendorViewPopover,
-        [this](const auto &) { Q_EMIT vendorViewPopoverClosed(); });
-    observe(notifications::toggleCheckbox,
-        [this](const auto &toggled) { Q_EMIT ruleToggled(toggled.userInfo); });
+    onBroadcast(notifications::closeVendorViewPopover,
+        [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
+    onBroadcast(notifications::toggleCheckbox,
+        [&f](const auto &toggled) { f.rules.switches.toggleRule(toggled.userInfo); });
 
-    m_distributedTokens.push_back(m_platform.distributedNotifications.addObserver(
-        notifications::helperUpdated, notifications::helperUpdatedObject,
-        [this] { m_with.helper.updateHelperInstalledStatus(); }));
+    m_distributedTokens.push_back(
+        m_platform.distributedNotifications.addObserver(notifications::helperUpdated,
+            notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); }));
 }
 
-void EventWiring::observe(const QString &key, std::function<void()> reaction)
+void EventWiring::onSetting(const QString &key, std::function<void()> reactions)
 {
     m_settingsTokens.push_back(m_platform.settings.addObserver(
-        key, [this, reaction = std::move(reaction)](const SettingsStore::Change &change) {
-            reaction();
-            Q_EMIT observedSettingChanged(change.key);
-        }));
+        key, [reactions = std::move(reactions)](const SettingsStore::Change &) { reactions(); }));
 }
 
-void EventWiring::observe(
-    const QString &name, std::function<void(const NotificationCenter::Notification &)> reaction)
+void EventWiring::onBroadcast(
+    const QString &name, std::function<void(const NotificationCenter::Notification &)> reactions)
 {
-    m_notificationTokens.push_back(m_platform.notifications.addObserver(name, std::move(reaction)));
+    m_notificationTokens.push_back(
+        m_platform.notifications.addObserver(name, std::move(reactions)));
 }
 
 void EventWiring::postTerminateLoginHelper()

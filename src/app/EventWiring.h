@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/NetworkChange.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/NotificationCenter.h"
-#include "platform/Platform.h"
 #include "platform/SettingsStore.h"
 
 #include <QObject>
@@ -14,90 +14,50 @@
 
 namespace quillon {
 
-class AddressChanger;
-class AdvancedPreferencesModel;
-class CurrentInterface;
-class DeviceTable;
-class MainWindowModel;
-class Presence;
-class RandomAddress;
-class StatusMenuModel;
-class XPCMethods;
+class Termination;
+struct Features;
+struct Platform;
 
-/// Which fact leads to which reaction, in which order. Connections only: what a reaction does is
-/// its component's. A row that belongs to a feature is a signal,
-/// which the feature's room connects to.
+/// Which fact leads to which reactions, in which order: the whole table, in one place. What a
+/// reaction does is its component's. Main thread; destroyed before what it connects.
 class EventWiring : public QObject
 {
     Q_OBJECT
 
 public:
-    struct Components
-    {
-        XPCMethods &helper;
-        DeviceTable &devices;
-        CurrentInterface &currentInterface;
-        RandomAddress &randomAddress;
-        AddressChanger &addressChanger;
-        MainWindowModel &mainWindow;
-        StatusMenuModel &statusMenu;
-        AdvancedPreferencesModel &advancedPreferences;
-        Presence &presence;
-    };
-
-    EventWiring(const Platform &platform, const Components &components);
+    EventWiring(const Platform &platform, Features &features, Termination &termination);
     ~EventWiring() override;
 
-    /// What components say to each other. Once, before the launch.
-    void connectComponents();
     /// The event sources: settings, broadcasts, the system. Once, from startup.
     void setupNotifications();
 
-Q_SIGNALS:
-    // Observed settings.
-    void loginStartChanged();
-    void showKeyChanged();
-    void randomKeyChanged();
-    void savedAddressesChanged();
-    void externalAddressWanted();
-    void cloudSyncSwitched();
-    /// After the reactions to every observed key.
-    void observedSettingChanged(const QString &key);
-    // Broadcasts.
-    void cloudContainerChanged();
-    void networkChanged();
-    void vendorViewPopoverClosed();
-    void ruleToggled(const QVariantMap &userInfo);
-    // Follow-ups of a new current interface, in this order around checkUpdateButton.
-    void countdownLabelStale();
-    void currentVendorStale(const QString &address);
-    void vendorFieldStale(const QString &device);
-    void ruleStatusStale(const QString &device);
-    /// A device was selected: its vendor choice is to be shown.
-    void vendorSelectionStale(const QString &device);
-    /// The helper's status was read: rules are to be evaluated without changing anything.
-    void ruleEvaluationDue();
-    /// The factory-address popover is to close.
-    void hardwarePopoverClosed();
-    /// An address was changed: it belongs into the history.
-    void historyRecordDue(const QString &device, const QString &address);
-    /// The wiring ends: what observes the cloud account is to stop.
-    void cloudObserversStopped();
-
 private:
-    void connectHelperStatus();
-    void connectCurrentInterface();
-    void connectMenu();
+    void connectHelper();
+    void connectSelection();
     void connectAddressChange();
+    void connectRules();
+    void connectRecords();
+    void connectNetworks();
+    void connectVendorData();
+    void connectVendorField();
+    void connectProgram();
     void observeSettings();
     void observeBroadcasts();
-    void observe(const QString &key, std::function<void()> reaction);
-    void observe(const QString &name,
-        std::function<void(const NotificationCenter::Notification &)> reaction);
+
+    template <typename From, typename Signal, typename Reactions>
+    void on(From &from, Signal signal, Reactions reactions)
+    {
+        connect(&from, signal, this, reactions);
+    }
+    void onSetting(const QString &key, std::function<void()> reactions);
+    void onBroadcast(const QString &name,
+        std::function<void(const NotificationCenter::Notification &)> reactions);
     void postTerminateLoginHelper();
 
-    Platform m_platform;
-    Components m_with;
+    const Platform &m_platform;
+    Features &m_features;
+    Termination &m_termination;
+    NetworkChange m_networkChange;
     std::vector<SettingsStore::Token> m_settingsTokens;
     std::vector<NotificationCenter::Token> m_notificationTokens;
     std::vector<DistributedNotificationCenter::Token> m_distributedTokens;

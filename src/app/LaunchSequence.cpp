@@ -4,18 +4,13 @@
 
 #include "app/EventWiring.h"
 #include "app/UserNotifications.h"
+#include "app/features/Features.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
-#include "devices/CurrentInterface.h"
-#include "devices/DeviceTable.h"
-#include "helperlink/XPCMethods.h"
-#include "networks/ExternalIPAddress.h"
+#include "platform/Platform.h"
 #include "platform/RunningApplications.h"
+#include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-#include "presentation/window/MainWindowModel.h"
-#include "presentation/window/Presence.h"
-
-#include <QPointer>
 
 namespace quillon {
 
@@ -26,97 +21,104 @@ const QString loginHelperIdentifier = QStringLiteral("com.orvandel.Quillon4Helpe
 
 } // namespace
 
-LaunchSequence::LaunchSequence(const Collaborators &collaborators)
-    : m_with(collaborators)
+LaunchSequence::LaunchSequence(const Platform &platform, Features &features,
+    UserNotifications &userNotifications, EventWiring &wiring)
+    : m_platform(platform)
+    , m_features(features)
+    , m_userNotifications(userNotifications)
+    , m_wiring(wiring)
 {
 }
 
 void LaunchSequence::awakeFromNib()
 {
-    m_with.mainWindow.prepareWindow();
+    m_features.mainWindow.prepareWindow();
     m_windowPrepared = true;
-    Q_EMIT mainWindowPrepared();
+    m_features.networks.wifi.updateWiFiNetwork();
+    m_features.vendors.pane.showStoredTexts();
 }
 
 void LaunchSequence::applicationWillFinishLaunching()
 {
-    m_with.presence.hideWindow();
-    Q_EMIT vendorDatabaseDue();
-    m_with.helper.authorizeHelperTool(m_windowPrepared);
-    m_with.helper.updateHelperInstalledStatus();
-    m_with.mainWindow.disableRandomise();
+    m_features.presence.hideWindow();
+    m_features.vendors.count.createSupportFolderAndVendorDatabase();
+    m_features.helper.authorizeHelperTool(m_windowPrepared);
+    m_features.helper.updateHelperInstalledStatus();
+    m_features.mainWindow.disableRandomise();
 }
 
 void LaunchSequence::applicationDidFinishLaunching()
 {
-    Q_EMIT recordStoreDue();
-    m_with.presence.updateDock();
-    if (!m_with.settings.get(keys::externalIPAddress).isValid()) {
-        m_with.externalAddress.saveExternalIPAddress(localized("Unknown..."));
+    const SettingsStore &settings = m_platform.settings;
+    openRecords();
+    m_features.presence.updateDock();
+    if (!settings.get(keys::externalIPAddress).isValid()) {
+        m_features.networks.externalAddress.saveExternalIPAddress(localized("Unknown..."));
     }
-    m_with.presence.showMenuBarItem(m_with.settings.getBool(keys::showInMenu));
-    if (m_with.settings.getBool(keys::loginStart)) {
-        Q_EMIT loginItemDue();
-    }
-    m_with.userNotifications.setupNotificationCenter();
+    m_features.presence.showMenuBarItem(settings.getBool(keys::showInMenu));
+    m_userNotifications.setupNotificationCenter();
 
-    const bool hideOnLaunch = m_with.settings.getBool(keys::hideOnLaunch);
-    if (startupCheck()) {
-        m_startedFromLogin = true;
-        if (hideOnLaunch) {
-            startup();
-            return;
-        }
+    const bool hideOnLaunch = settings.getBool(keys::hideOnLaunch);
+    m_startedFromLogin = startupCheck();
+    if (!m_startedFromLogin || !hideOnLaunch) {
+        m_features.presence.openWindow();
     }
-    m_with.presence.openWindow();
     startup();
+}
+
+void LaunchSequence::openRecords()
+{
+    m_features.history.store.managedObjectContext();
+    m_features.rules.queries.updateNamesArray();
+    m_features.rules.list.filterRulesArrayController();
 }
 
 void LaunchSequence::startup()
 {
-    m_with.mainWindow.disableUpdate();
-    Q_EMIT countdownLabelDue();
+    Features &f = m_features;
+    f.mainWindow.disableUpdate();
+    f.rules.countdown.hideTimerLabel();
 
-    Q_EMIT hotKeysDue();
-    Q_EMIT vendorCountDue();
-    Q_EMIT quickAddressesDue();
-    m_with.mainWindow.resetInfoButtons();
+    f.vendors.count.updateVendorCount();
+    f.vendors.list.loadVendorField();
+    f.networks.savedLists.updateQuickAddressesField();
+    f.mainWindow.resetInfoButtons();
 
-    m_with.devices.updateNetWorkInterfaces();
-    m_with.currentInterface.selectInitialDevice();
-    m_with.currentInterface.updateHexValues();
-    Q_EMIT vendorFieldDue();
-    m_with.mainWindow.renewHexFormatter();
-    m_with.mainWindow.populateSelectionButton();
+    f.devices.table.updateNetWorkInterfaces();
+    f.devices.currentInterface.selectInitialDevice();
+    f.devices.currentInterface.updateHexValues();
+    f.vendors.choice.updateVendorField({});
+    f.mainWindow.renewHexFormatter();
+    f.mainWindow.populateSelectionButton();
 
-    m_with.wiring.setupNotifications();
-    Q_EMIT cloudCheckDue();
-    Q_EMIT locationPermissionDue();
-    Q_EMIT externalAddressDue();
+    m_wiring.setupNotifications();
+    f.networks.locationPermission.requestNetworkPermissions();
+    f.networks.externalAddress.updateExternalIPAddress(false);
+    m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });
+}
 
-    m_with.scheduler.onMainAfter(firstRuleCheckDelay, [self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            Q_EMIT that->firstRuleCheckDue();
-            that->m_startedFromLogin = false;
-        }
-    });
+void LaunchSequence::checkRules()
+{
+    m_features.rules.evaluation.checkDeviceForCurrentRuleAndChange(
+        allDevices, m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::NetworkRule);
+    m_startedFromLogin = false;
 }
 
 bool LaunchSequence::applicationShouldHandleReopen()
 {
-    m_with.presence.openWindow();
+    m_features.presence.openWindow();
     return true;
 }
 
 void LaunchSequence::applicationWillTerminate()
 {
-    m_with.externalAddress.saveExternalIPAddress(localized("Unknown..."));
-    m_with.settings.flush();
+    m_features.networks.externalAddress.saveExternalIPAddress(localized("Unknown..."));
+    m_platform.settings.flush();
 }
 
 bool LaunchSequence::startupCheck()
 {
-    return m_with.runningApplications.isRunning(loginHelperIdentifier);
+    return m_platform.runningApplications.isRunning(loginHelperIdentifier);
 }
 
 } // namespace quillon

@@ -65,9 +65,15 @@ AddressChanger::~AddressChanger()
     m_life->alive = false;
 }
 
-void AddressChanger::randomizeAddress(RandomAddress &random)
+void AddressChanger::genRandomMacAddressWithVendor(
+    const QString &device, const std::optional<QString> &vendor)
 {
-    random.genRandomMacAddressWithVendor(m_with.currentInterface.device());
+    updateMacAddressWithAddress(device, m_with.random.addressForDevice(device, vendor));
+}
+
+void AddressChanger::randomizeAddress()
+{
+    genRandomMacAddressWithVendor(m_with.currentInterface.device());
 }
 
 QString AddressChanger::changeMacAddress(const QString &fieldText)
@@ -85,11 +91,11 @@ void AddressChanger::restoreDefaultAddress()
         current.value(record::device).toString(), current.value(record::hardware).toString());
 }
 
-void AddressChanger::randomizeAddress(const MenuItem &sender, RandomAddress &random)
+void AddressChanger::randomizeAddress(const MenuItem &sender)
 {
     const QString device = valueInTitle(itemAboveParent(sender, 2));
     if (m_with.devices.contains(device)) {
-        random.genRandomMacAddressWithVendor(device);
+        genRandomMacAddressWithVendor(device);
     }
 }
 

@@ -41,6 +41,7 @@ public:
         XPCMethods &helper;
         DeviceTable &devices;
         CurrentInterface &currentInterface;
+        const RandomAddress &random;
     };
 
     explicit AddressChanger(const Collaborators &collaborators);
@@ -52,15 +53,21 @@ public:
     /// thread.
     void updateMacAddressWithAddress(const QString &device, const QString &address);
 
+    /// The same with a random address, made now. Without `vendor` inside the prefix of the
+    /// manufacturer that was chosen for the device, if any; "" for none. When no random number can
+    /// be had the address is empty, and the outcome says so. Any thread.
+    void genRandomMacAddressWithVendor(
+        const QString &device, const std::optional<QString> &vendor = std::nullopt);
+
     /// The main window's buttons: they act on the current interface.
-    void randomizeAddress(RandomAddress &random);
+    void randomizeAddress();
     /// Puts `fieldText` into display case, requests it, and returns it for the field.
     QString changeMacAddress(const QString &fieldText);
     void restoreDefaultAddress();
 
     /// The items of a menu's per-interface section: they find their device and address by the
     /// titles around them, and do nothing when what they find is unknown or malformed.
-    void randomizeAddress(const MenuItem &sender, RandomAddress &random);
+    void randomizeAddress(const MenuItem &sender);
     void restoreDefaultAddress(const MenuItem &sender);
 
 Q_SIGNALS:

@@ -46,12 +46,18 @@ void CurrentInterface::selectInitialDevice()
 
 void CurrentInterface::updateInterface(const QString &device)
 {
-    if (device.isEmpty()) {
-        return;
+    if (!device.isEmpty()) {
+        m_devices.updateNetWorkInterfaces();
+        selectInterface(device);
     }
-    m_devices.updateNetWorkInterfaces();
-    updateCurrentInterfaceDict(device);
-    Q_EMIT interfaceSelected(device);
+}
+
+void CurrentInterface::selectInterface(const QString &device)
+{
+    if (!device.isEmpty()) {
+        updateCurrentInterfaceDict(device);
+        Q_EMIT interfaceSelected(device);
+    }
 }
 
 void CurrentInterface::changeInterface(const QString &menuItemTitle)

@@ -29,8 +29,10 @@ public:
     /// nothing. At once, so that the steps of the launch that follow find it. Main thread.
     void selectInitialDevice();
 
-    /// Makes `device` current; an empty name is ignored.
+    /// Reads the interfaces anew and makes `device` current; an empty name is ignored.
     void updateInterface(const QString &device);
+    /// The same with the table as it is.
+    void selectInterface(const QString &device);
     /// A menu item's title, "label · device".
     void changeInterface(const QString &menuItemTitle);
     /// The popup button's selected title, a device name.
@@ -43,7 +45,7 @@ public:
     void updateHexValues();
 
 Q_SIGNALS:
-    /// updateInterface() has asked for the rebuild.
+    /// The rebuild has been asked for.
     void interfaceSelected(const QString &device);
     /// A rebuild begins; whatever it finds, the countdown label is out of date.
     void rebuildStarted();

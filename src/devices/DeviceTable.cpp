@@ -61,6 +61,11 @@ bool isWifiRecord(const QVariantMap &record)
     return record.value(record::interface).toString() == wifiPortName;
 }
 
+bool isUp(const QVariantMap &record)
+{
+    return record.value(record::status).toString() == QLatin1String("active");
+}
+
 QString firstChangedDevice(const QVariantMap &before, const QVariantMap &now)
 {
     for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {

@@ -17,6 +17,8 @@ struct InterfaceInfo;
 
 /// A device is Wi-Fi when its record's `interface` is exactly "Wi-Fi".
 bool isWifiRecord(const QVariantMap &record);
+/// The link is up when its record's `status` is exactly "active".
+bool isUp(const QVariantMap &record);
 
 /// The first device, in key order, whose record is not the same in both tables; "" when none
 /// differs. Devices that only `now` holds do not count.

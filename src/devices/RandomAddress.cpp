@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <utility>
 
 namespace quillon {
 
@@ -55,24 +54,20 @@ QString addressWithPrefix(const QString &prefix, const QString &address)
            address.mid(afterPrefix);
 }
 
-RandomAddress::RandomAddress(RandomSource &random, const DeviceTable &devices, Change change)
+RandomAddress::RandomAddress(RandomSource &random, const DeviceTable &devices)
     : m_random(random)
     , m_devices(devices)
-    , m_change(std::move(change))
 {
 }
 
-void RandomAddress::genRandomMacAddressWithVendor(
-    const QString &device, const std::optional<QString> &vendor)
+QString RandomAddress::addressForDevice(
+    const QString &device, const std::optional<QString> &vendor) const
 {
     const QString choice =
         vendor ? *vendor : m_devices.record(device).value(record::vendor).toString();
     const std::optional<QString> prefix = vendorPrefix(choice);
-    QString address = randomAddressText(m_random.bytes(randomByteCount));
-    if (prefix && !address.isEmpty()) {
-        address = addressWithPrefix(*prefix, address);
-    }
-    m_change(device, address);
+    const QString address = randomAddressText(m_random.bytes(randomByteCount));
+    return prefix && !address.isEmpty() ? addressWithPrefix(*prefix, address) : address;
 }
 
 } // namespace quillon

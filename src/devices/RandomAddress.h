@@ -5,7 +5,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -32,25 +31,20 @@ std::optional<QString> vendorPrefix(const QString &vendorChoice);
 /// lacks), and is refused by the address test of the helper.
 QString addressWithPrefix(const QString &prefix, const QString &address);
 
-/// Makes random addresses, plain or inside the prefix of the device's chosen manufacturer, and
-/// hands them to the change operation. Any thread.
+/// Makes random addresses, plain or inside the prefix of the device's chosen manufacturer. Any
+/// thread.
 class RandomAddress
 {
 public:
-    /// Receives device and address.
-    using Change = std::function<void(const QString &device, const QString &address)>;
+    RandomAddress(RandomSource &random, const DeviceTable &devices);
 
-    RandomAddress(RandomSource &random, const DeviceTable &devices, Change change);
-
-    /// Without `vendor` the device record's own choice applies. When the random source fails the
-    /// address is empty, and the change operation says so.
-    void genRandomMacAddressWithVendor(
-        const QString &device, const std::optional<QString> &vendor = std::nullopt);
+    /// Inside the prefix of `vendor`, "" for none; without `vendor` the device record's own choice
+    /// applies. Empty when the random source fails.
+    QString addressForDevice(const QString &device, const std::optional<QString> &vendor) const;
 
 private:
     RandomSource &m_random;
     const DeviceTable &m_devices;
-    Change m_change;
 };
 
 } // namespace quillon

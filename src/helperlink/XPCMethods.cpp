@@ -114,29 +114,23 @@ void XPCMethods::connectAndExecuteCommandBlock(ConnectedBlock block)
     m_helperToolConnection.reset();
     connectToXPCService();
     const FirstAnswer answer;
+    const auto use = m_scheduler.replyOnMain<std::optional<QString>, QByteArray>(this,
+        [this, block](const std::optional<QString> &endpoint, const QByteArray &authorization) {
+            useEndpoint(endpoint, authorization, block);
+        });
+    const auto fail =
+        m_scheduler.replyOnMain<Error>(this, [block](const Error &error) { block(error); });
     m_xpcServiceConnection->connectWithEndpointAndAuthorizationReply(
-        [self = QPointer(this), &scheduler = m_scheduler, answer, block,
-            keep = m_xpcServiceConnection](
+        [answer, use, keep = m_xpcServiceConnection](
             const std::optional<QString> &endpoint, const QByteArray &authorization) {
-            if (answer.taken()) {
-                return;
+            if (!answer.taken()) {
+                use(endpoint, authorization);
             }
-            scheduler.onMain([self, endpoint, authorization, block] {
-                if (self) {
-                    self->useEndpoint(endpoint, authorization, block);
-                }
-            });
         },
-        [self = QPointer(this), &scheduler = m_scheduler, answer, block,
-            keep = m_xpcServiceConnection](const Error &error) {
-            if (answer.taken()) {
-                return;
+        [answer, fail, keep = m_xpcServiceConnection](const Error &error) {
+            if (!answer.taken()) {
+                fail(error);
             }
-            scheduler.onMain([self, error, block] {
-                if (self) {
-                    block(error);
-                }
-            });
         });
 }
 
@@ -217,24 +211,12 @@ void XPCMethods::uninstallHelperToolwithReply(SuccessReply reply)
 
 void XPCMethods::updateHelperInstalledStatus()
 {
-    const auto ask = [self = QPointer(this)] {
-        if (!self) {
-            return;
-        }
-        self->getVersionOfHelperToolwithReply(
-            [self, &scheduler = self->m_scheduler](const QString &version) {
-                scheduler.onMain([self, version] {
-                    if (self) {
-                        self->announceStatus(version == helperToolVersion());
-                    }
-                });
-            });
-    };
-    if (m_scheduler.isMainThread()) {
-        ask();
-    } else {
-        m_scheduler.onMain(ask);
+    if (!m_scheduler.isMainThread()) {
+        m_scheduler.onMain(this, [this] { updateHelperInstalledStatus(); });
+        return;
     }
+    getVersionOfHelperToolwithReply(m_scheduler.replyOnMain<QString>(
+        this, [this](const QString &version) { announceStatus(version == helperToolVersion()); }));
 }
 
 void XPCMethods::announceStatus(bool installed)
@@ -247,18 +229,13 @@ void XPCMethods::announceStatus(bool installed)
 void XPCMethods::installHelper()
 {
     Q_EMIT helperInstallationStarted();
-    installHelperToolwithReply([self = QPointer(this), &scheduler = m_scheduler](bool success) {
-        scheduler.onMain([self, success] {
-            if (!self) {
-                return;
-            }
-            if (success) {
-                self->updateHelperInstalledStatus();
-                Q_EMIT self->helperInstalledFromMainWindow();
-            }
-            Q_EMIT self->helperInstallationEnded();
-        });
-    });
+    installHelperToolwithReply(m_scheduler.replyOnMain<bool>(this, [this](bool success) {
+        if (success) {
+            updateHelperInstalledStatus();
+            Q_EMIT helperInstalledFromMainWindow();
+        }
+        Q_EMIT helperInstallationEnded();
+    }));
 }
 
 void XPCMethods::logText(const QString &text)

@@ -3,11 +3,11 @@
 #pragma once
 
 #include <QDateTime>
+#include <QPointer>
 
 #include <chrono>
 #include <functional>
-
-class QObject;
+#include <utility>
 
 namespace quillon {
 
@@ -35,6 +35,19 @@ public:
     /// then. `context` is alive at the call and is destroyed on the main thread.
     void onMain(const QObject *context, Task task);
     Token onMainAfter(std::chrono::milliseconds delay, const QObject *context, Task task);
+    /// A callback for a reply that may come on any thread, and after `context` has gone: it hands
+    /// what it is given to `task`, as a task of `context`. The scheduler outlives it.
+    template <typename... Values, typename Reply>
+    std::function<void(Values...)> replyOnMain(const QObject *context, Reply reply)
+    {
+        return [this, context = QPointer(context), reply = std::move(reply)](Values... values) {
+            onMain([context, reply, values...] {
+                if (context) {
+                    reply(values...);
+                }
+            });
+        };
+    }
     /// Runs `task` on the main thread every `interval`, first after one interval, until cancelled;
     /// also while a menu is open.
     virtual Token repeat(std::chrono::milliseconds interval, Task task) = 0;

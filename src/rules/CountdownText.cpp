@@ -20,6 +20,11 @@ QString countdownTime(qint64 seconds)
         (seconds / secondsInMinute) % secondsInMinute, seconds % secondsInMinute);
 }
 
+QString countdownMenuTitle(const QString &displayString)
+{
+    return QStringLiteral("    ") + displayString;
+}
+
 CountdownText generateTimerCountdownStringForStartDateAndInterval(
     const QDateTime &startDate, int interval, const QDateTime &now)
 {

@@ -19,6 +19,9 @@ struct CountdownText
 /// Hours, minutes and seconds, two digits each or more. Every part of a negative time is negative.
 QString countdownTime(qint64 seconds);
 
+/// The title of the menu item that shows `displayString`.
+QString countdownMenuTitle(const QString &displayString);
+
 /// What is left at `now` of a countdown of `interval` minutes that began at `startDate`; fractions
 /// of a second are cut off towards zero.
 CountdownText generateTimerCountdownStringForStartDateAndInterval(

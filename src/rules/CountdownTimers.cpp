@@ -6,13 +6,11 @@
 #include "base/NotificationNames.h"
 #include "base/Notifier.h"
 #include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
 #include "devices/DeviceTable.h"
-#include "devices/RandomAddress.h"
 #include "platform/NotificationCenter.h"
 #include "rules/CountdownText.h"
 #include "rules/RuleQueries.h"
-
-#include <QPointer>
 
 #include <algorithm>
 #include <limits>
@@ -25,7 +23,6 @@ namespace {
 constexpr std::chrono::milliseconds tickInterval{1000};
 constexpr qint64 secondsInMinute = 60;
 constexpr int warnedInterval = 1;
-const QString menuIndentation = QStringLiteral("    ");
 
 namespace key {
 
@@ -49,14 +46,14 @@ QString markedAsPaused(const QString &text)
 } // namespace
 
 CountdownTimers::CountdownTimers(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
 CountdownTimers::~CountdownTimers()
 {
     for (const Countdown &countdown : std::as_const(m_timers)) {
-        m_with.scheduler.cancel(countdown.timer);
+        m_deps.scheduler.cancel(countdown.timer);
     }
 }
 
@@ -64,25 +61,24 @@ void CountdownTimers::startCountDownTimer(const QString &device)
 {
     stopCountdownTimer(device);
     Countdown countdown;
-    countdown.startDate = m_with.scheduler.now();
+    countdown.startDate = m_deps.scheduler.now();
     countdown.interval = minutesOfRule(device);
-    countdown.timer = m_with.scheduler.repeat(tickInterval, [self = QPointer(this), device] {
-        if (auto *const that = self.data()) {
-            that->checkCountdownTimer(device);
-        }
+    countdown.timer = m_deps.scheduler.repeat(tickInterval, [this, device] {
+        // The destructor ends the ticking.
+        checkCountdownTimer(device);
     });
     m_timers[device] = countdown;
     // By now the start has passed, if by less than the clock tells.
     const QDateTime soon = countdown.startDate.addMSecs(1);
     const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
-        countdown.startDate, countdown.interval, std::max(soon, m_with.scheduler.now()));
-    m_with.notifier.sendNotificationWithBody(
+        countdown.startDate, countdown.interval, std::max(soon, m_deps.scheduler.now()));
+    m_deps.notifier.sendNotificationWithBody(
         localized("Quillon Timer started"), text.displayString);
 }
 
 int CountdownTimers::minutesOfRule(const QString &device) const
 {
-    const QVariantMap rule = m_with.devices.record(device).value(record::rule).toMap();
+    const QVariantMap rule = m_deps.devices.record(device).value(record::rule).toMap();
     // As many as a rule can hold, whatever the settings say.
     using Minutes = std::numeric_limits<qint16>;
     return static_cast<int>(std::clamp<qlonglong>(
@@ -92,31 +88,31 @@ int CountdownTimers::minutesOfRule(const QString &device) const
 void CountdownTimers::stopCountdownTimer(const QString &device)
 {
     const auto found = m_timers.constFind(device);
-    if (found != m_timers.constEnd()) {
-        m_with.scheduler.cancel(found->timer);
+    const bool wasRunning = found != m_timers.constEnd();
+    if (wasRunning) {
+        m_deps.scheduler.cancel(found->timer);
         m_timers.erase(found);
-        Q_EMIT timerLabelStale();
     }
-    if (m_timers.isEmpty()) {
-        Q_EMIT timerLabelStale();
+    if (wasRunning || m_timers.isEmpty()) {
+        Q_EMIT stopped();
     }
     postOverview();
 }
 
 void CountdownTimers::pauseCountdownTimer(const QString &device)
 {
-    Q_EMIT timerButtonsStale();
+    Q_EMIT pauseOrResumeRequested();
     const auto found = m_timers.find(device);
     if (found != m_timers.end()) {
         found->pausedRemaining = generateTimerCountdownStringForStartDateAndInterval(
-            found->startDate, found->interval, m_with.scheduler.now())
+            found->startDate, found->interval, m_deps.scheduler.now())
                                      .remaining;
     }
 }
 
 void CountdownTimers::resumeCountdownTimer(const QString &device)
 {
-    Q_EMIT timerButtonsStale();
+    Q_EMIT pauseOrResumeRequested();
     const auto found = m_timers.find(device);
     if (found != m_timers.end()) {
         found->pausedRemaining.reset();
@@ -129,19 +125,16 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
     if (found == m_timers.end()) {
         return;
     }
-    const QDateTime now = m_with.scheduler.now();
+    const QDateTime now = m_deps.scheduler.now();
     const CountdownText text =
         generateTimerCountdownStringForStartDateAndInterval(found->startDate, found->interval, now);
     showTime(*found, text.displayString, now);
     const bool warns = takeMinuteWarning(*found, text.remaining);
     // A copy: whoever hears of the tick may end or restart the countdown.
     const Countdown countdown = *found;
-    if (countdown.menuTitle) {
-        Q_EMIT menuItemTitled(device, *countdown.menuTitle);
-    }
     Q_EMIT ticked(device, *countdown.display, countdown.pausedRemaining.has_value());
     if (warns) {
-        m_with.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
+        m_deps.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
     }
     if (isRunning(device, countdown.timer)) {
         actOnRemaining(device, countdown, text.remaining);
@@ -158,9 +151,6 @@ void CountdownTimers::showTime(Countdown &countdown, const QString &text, const 
         countdown.startDate = now.addSecs(*paused - countdown.interval * secondsInMinute + 1);
     }
     countdown.display = shown;
-    if (countdown.menuTitle) {
-        countdown.menuTitle = menuIndentation + shown;
-    }
 }
 
 bool CountdownTimers::takeMinuteWarning(Countdown &countdown, qint64 remaining)
@@ -189,11 +179,8 @@ void CountdownTimers::actOnRemaining(
         startCountDownTimer(device);
     } else if (remaining == 0) {
         // The change comes after all that belongs to this tick.
-        m_with.scheduler.onMain([self = QPointer(this), device, timer = countdown.timer] {
-            if (auto *const that = self.data()) {
-                that->expire(device, timer);
-            }
-        });
+        m_deps.scheduler.onMain(
+            this, [this, device, timer = countdown.timer] { expire(device, timer); });
     }
 }
 
@@ -201,7 +188,7 @@ void CountdownTimers::expire(const QString &device, Scheduler::Token timer)
 {
     // It may have been stopped or restarted since, and two ticks may have met the same zero.
     if (isRunning(device, timer)) {
-        m_with.randomAddress.genRandomMacAddressWithVendor(device);
+        m_deps.addressChanger.genRandomMacAddressWithVendor(device);
         startCountDownTimer(device);
     }
 }
@@ -209,12 +196,8 @@ void CountdownTimers::expire(const QString &device, Scheduler::Token timer)
 void CountdownTimers::setMenuItemShown(const QString &device, bool shown)
 {
     const auto found = m_timers.find(device);
-    if (found == m_timers.end()) {
-        return;
-    }
-    found->menuTitle.reset();
-    if (shown) {
-        found->menuTitle = menuIndentation + found->display.value_or(QString());
+    if (found != m_timers.end()) {
+        found->hasMenuItem = shown;
     }
 }
 
@@ -242,8 +225,8 @@ QVariantMap CountdownTimers::asPropertyList(const QString &device, const Countdo
     if (countdown.display) {
         label[key::display] = *countdown.display;
     }
-    if (countdown.menuTitle) {
-        label[key::menu] = *countdown.menuTitle;
+    if (countdown.hasMenuItem) {
+        label[key::menu] = countdownMenuTitle(countdown.display.value_or(QString()));
     }
     if (!label.isEmpty()) {
         entry[key::label] = label;
@@ -253,7 +236,7 @@ QVariantMap CountdownTimers::asPropertyList(const QString &device, const Countdo
 
 void CountdownTimers::postOverview()
 {
-    m_with.notifications.post(notifications::updateOverview, this, timers());
+    m_deps.notifications.post(notifications::updateOverview, this, timers());
 }
 
 } // namespace quillon

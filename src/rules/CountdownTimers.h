@@ -12,10 +12,10 @@
 
 namespace quillon {
 
+class AddressChanger;
 class DeviceTable;
 class NotificationCenter;
 class Notifier;
-class RandomAddress;
 
 /// The countdowns of rules that change an address again and again: one for each device, ticking
 /// once a second. Every tick computes what is left from the wall clock, so late ticks never add
@@ -31,7 +31,7 @@ public:
         NotificationCenter &notifications;
         Notifier &notifier;
         const DeviceTable &devices;
-        RandomAddress &randomAddress;
+        AddressChanger &addressChanger;
     };
 
     explicit CountdownTimers(const Collaborators &collaborators);
@@ -55,18 +55,17 @@ public:
     /// tick on, holding "display" and, while the menu shows the countdown, "menu", the title of its
     /// item.
     QVariantMap timers() const;
-    /// The menu has an item that shows the countdown of `device`, or no longer.
+    /// The menu has an item that shows the countdown of `device`, or no longer. Its title follows
+    /// the ticks; every start takes it away.
     void setMenuItemShown(const QString &device, bool shown);
 
 Q_SIGNALS:
     /// Every second, for each device; `text` tells what is left.
     void ticked(const QString &device, const QString &text, bool isPaused);
-    /// The title of the countdown's menu item, where it has one.
-    void menuItemTitled(const QString &device, const QString &title);
-    /// The window's countdown label is to be emptied and its buttons hidden.
-    void timerLabelStale();
-    /// Pause or resume was asked for: the window's buttons are to look normal.
-    void timerButtonsStale();
+    /// A countdown was stopped, or none is running.
+    void stopped();
+    /// Pause or resume was asked for, of whatever device; it follows.
+    void pauseOrResumeRequested();
 
 private:
     struct Countdown
@@ -76,7 +75,7 @@ private:
         Scheduler::Token timer = 0;
         std::optional<qint64> pausedRemaining; ///< seconds; while paused
         std::optional<QString> display;
-        std::optional<QString> menuTitle; ///< while the menu has an item
+        bool hasMenuItem = false;
         bool minuteWarningGiven = false;
     };
 
@@ -90,7 +89,7 @@ private:
     void expire(const QString &device, Scheduler::Token timer);
     void postOverview();
 
-    Collaborators m_with;
+    Collaborators m_deps;
     QHash<QString, Countdown> m_timers;
 };
 

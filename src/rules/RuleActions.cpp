@@ -3,7 +3,6 @@
 #include "rules/RuleActions.h"
 
 #include "base/Localized.h"
-#include "base/SettingsKeys.h"
 #include "rules/Rule.h"
 #include "store/model/QuillonModel.h"
 
@@ -13,21 +12,19 @@ namespace {
 
 using Kind = RuleAction::Kind;
 
-const QString linkIsUp = QStringLiteral("active");
-
-bool isRandom(const QVariantMap &rule)
+bool isRandom(const Rule &rule)
 {
-    return rule.value(model::rule::address).toString() == randomAddressTitle();
+    return rule.address() == randomAddressTitle();
 }
 
-RuleAction addressChange(const QVariantMap &rule)
+RuleAction addressChange(const Rule &rule)
 {
     if (isRandom(rule)) {
-        const QVariant vendor = rule.value(model::rule::vendor);
-        const bool isText = vendor.typeId() == QMetaType::QString;
-        return {Kind::RandomAddress, {}, isText ? std::optional(vendor.toString()) : std::nullopt};
+        const QVariant vendor = rule.object()->value(model::rule::vendor);
+        return {Kind::RandomAddress, {},
+            vendor.isValid() ? std::optional(vendor.toString()) : std::nullopt};
     }
-    return {Kind::FixedAddress, rule.value(model::rule::address).toString(), {}};
+    return {Kind::FixedAddress, rule.address(), {}};
 }
 
 } // namespace
@@ -37,29 +34,25 @@ QString randomAddressTitle()
     return localized("Random Address");
 }
 
-QList<RuleAction> actionsOfLoginRule(const QVariantMap &deviceRecord)
+QList<RuleAction> actionsOfLoginRule(const Rule &rule)
 {
-    const QVariantMap rule = deviceRecord.value(record::loginRule).toMap();
-    return rule.isEmpty() ? QList<RuleAction>() : QList{addressChange(rule)};
+    return rule.isNull() ? QList<RuleAction>() : QList{addressChange(rule)};
 }
 
-QList<RuleAction> actionsOfNetworkRule(const QVariantMap &deviceRecord)
+QList<RuleAction> actionsOfNetworkRule(const Rule &rule, bool linkIsUp)
 {
-    const QVariantMap rule = deviceRecord.value(record::rule).toMap();
-    QList<RuleAction> actions;
-    if (rule.isEmpty()) {
+    if (rule.isNull()) {
         return {{Kind::StopCountdown, {}, {}}};
     }
-    if (deviceRecord.value(record::status).toString() != linkIsUp ||
-        rule.value(model::rule::active).toInt() != 1) {
+    if (!linkIsUp || !rule.active()) {
         return {};
     }
-    actions.append({Kind::StopCountdown, {}, {}});
-    if (rule.value(model::rule::action).toInt() != Rule::changeAddress) {
+    QList<RuleAction> actions{{Kind::StopCountdown, {}, {}}};
+    if (rule.action() != Rule::changeAddress) {
         return actions;
     }
     // A fixed address is given once, however often the rule says.
-    if (isRandom(rule) && rule.value(model::rule::changeAction).toInt() == Rule::every) {
+    if (isRandom(rule) && rule.changeAction() == Rule::every) {
         actions.append({Kind::StartCountdown, {}, {}});
     } else {
         actions.append(addressChange(rule));

@@ -4,11 +4,12 @@
 
 #include <QList>
 #include <QString>
-#include <QVariantMap>
 
 #include <optional>
 
 namespace quillon {
+
+class Rule;
 
 /// One thing to be done to a device when its rules are carried out.
 struct RuleAction
@@ -30,11 +31,10 @@ struct RuleAction
     bool operator==(const RuleAction &) const = default;
 };
 
-/// What a device record asks for, in order: its login rule's change, only when the program was
-/// started by the login item, then what its network rule wants. Values of unexpected types read as
-/// nothing.
-QList<RuleAction> actionsOfLoginRule(const QVariantMap &deviceRecord);
-QList<RuleAction> actionsOfNetworkRule(const QVariantMap &deviceRecord);
+/// What a login rule asks for: its change. Nothing for a null rule.
+QList<RuleAction> actionsOfLoginRule(const Rule &rule);
+/// What the network rule in force asks for, in order. A null rule, that is none, ends a countdown.
+QList<RuleAction> actionsOfNetworkRule(const Rule &rule, bool linkIsUp);
 
 /// The text that stands for a random address where a rule holds an address.
 QString randomAddressTitle();

@@ -6,10 +6,10 @@
 #include "base/UniqueName.h"
 #include "platform/NotificationCenter.h"
 #include "platform/Scheduler.h"
+#include "rules/RuleQueries.h"
 #include "store/RecordStore.h"
 #include "store/model/QuillonModel.h"
 
-#include <QPointer>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -64,7 +64,7 @@ RuleInvariants::Suspension::~Suspension()
 }
 
 RuleInvariants::RuleInvariants(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
@@ -79,7 +79,7 @@ void RuleInvariants::contextDidChange(const ObjectsDidChange &change)
         tellOfCorrectedRules();
     }
     if (std::ranges::any_of(change.inserted, isConnection)) {
-        m_with.store.managedObjectContext().processPendingChanges();
+        m_deps.store.managedObjectContext().processPendingChanges();
     }
 }
 
@@ -92,7 +92,7 @@ bool RuleInvariants::correctRules(const ManagedObjectList &updated)
             continue;
         }
         if (taken.isEmpty()) {
-            taken = m_with.namesArray();
+            taken = m_deps.queries.namesArray();
         }
         const bool reasserted = reassertSsidDefined(*object);
         const bool renamed = makeNameUnique(*object, taken);
@@ -103,23 +103,19 @@ bool RuleInvariants::correctRules(const ManagedObjectList &updated)
 
 void RuleInvariants::tellOfCorrectedRules()
 {
-    m_with.scheduler.onMain([self = QPointer(this)] {
-        auto *const that = self.data();
-        if (!that) {
-            return;
-        }
-        that->processPendingChanges();
-        Q_EMIT that->ruleTableStale();
-        that->m_with.notifications.post(notifications::ruleTable, that);
-        that->m_with.notifications.post(notifications::updateNamesArray, that);
+    m_deps.scheduler.onMain(this, [this] {
+        processPendingChanges();
+        Q_EMIT rulesCorrected();
+        m_deps.notifications.post(notifications::ruleTable, this);
+        m_deps.notifications.post(notifications::updateNamesArray, this);
     });
 }
 
 void RuleInvariants::processPendingChanges()
 {
     // Without a context there is nothing pending, and no reason to make one.
-    if (m_with.store.hasManagedObjectContext()) {
-        m_with.store.managedObjectContext().processPendingChanges();
+    if (m_deps.store.hasManagedObjectContext()) {
+        m_deps.store.managedObjectContext().processPendingChanges();
     }
 }
 

@@ -6,12 +6,11 @@
 
 #include <QObject>
 
-#include <functional>
-
 namespace quillon {
 
 class NotificationCenter;
 class RecordStore;
+class RuleQueries;
 class Scheduler;
 
 /// Keeps two promises about rules whenever records change: names stay unique, and `ssidDefined` is
@@ -26,8 +25,7 @@ public:
         RecordStore &store;
         Scheduler &scheduler;
         NotificationCenter &notifications;
-        /// The names of all rules, as last collected.
-        std::function<QStringList()> namesArray;
+        const RuleQueries &queries;
     };
 
     /// While one exists, changes of records are not looked at. What changed before is: the guard
@@ -50,16 +48,15 @@ public:
     void contextDidChange(const ObjectsDidChange &change);
 
 Q_SIGNALS:
-    /// A rule was corrected: the table of rules is to be shown anew. Before "ruleTable" and
-    /// "updateNamesArray" are posted.
-    void ruleTableStale();
+    /// Before "ruleTable" and "updateNamesArray" are posted.
+    void rulesCorrected();
 
 private:
     bool correctRules(const ManagedObjectList &updated);
     void tellOfCorrectedRules();
     void processPendingChanges();
 
-    Collaborators m_with;
+    Collaborators m_deps;
     int m_suspended = 0;
 };
 

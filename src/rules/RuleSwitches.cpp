@@ -19,7 +19,7 @@ const QString stateKey = QStringLiteral("state");
 } // namespace
 
 RuleSwitches::RuleSwitches(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
@@ -29,20 +29,20 @@ void RuleSwitches::toggleRule(const QVariantMap &userInfo)
         return;
     }
     updateEnabledWithID(userInfo.value(stateKey).toBool(), userInfo.value(objIDKey).toString());
-    Q_EMIT rulesListStale();
+    Q_EMIT ruleToggled();
 }
 
 void RuleSwitches::updateEnabledWithID(bool enabled, const QString &objID)
 {
-    const Rule rule = m_with.queries.ruleWithID(objID);
+    const Rule rule = m_deps.queries.ruleWithID(objID);
     if (rule.isNull()) {
         return;
     }
     rule.setEnabled(enabled);
-    m_with.store.managedObjectContext().processPendingChanges();
+    m_deps.store.managedObjectContext().processPendingChanges();
     enabledStatusChanged(rule);
-    Q_EMIT rulesTableStale();
-    if (m_with.store.managedObjectContext().save()) {
+    Q_EMIT ruleSwitched();
+    if (m_deps.store.managedObjectContext().save()) {
         qCWarning(logRules) << "Rule not updated...";
     }
 }
@@ -50,9 +50,9 @@ void RuleSwitches::updateEnabledWithID(bool enabled, const QString &objID)
 void RuleSwitches::enabledStatusChanged(const Rule &rule)
 {
     const bool switchedOff = switchOffOthers(rule);
-    m_with.evaluation.checkDeviceForCurrentRuleAndChange(rule.device(), true);
+    m_deps.evaluation.checkDeviceForCurrentRuleAndChange(rule.device(), RuleChange::NetworkRule);
     if (switchedOff) {
-        m_with.notifications.post(notifications::showNetworkWarning, this);
+        m_deps.notifications.post(notifications::showNetworkWarning, this);
     }
 }
 
@@ -61,7 +61,7 @@ bool RuleSwitches::switchOffOthers(const Rule &rule)
     const QString device = rule.device();
     const QString network = rule.network();
     bool switchedOff = false;
-    const RuleList rules = m_with.queries.managedRuleArrayForDevice(device);
+    const RuleList rules = m_deps.queries.managedRuleArrayForDevice(device);
     for (const Rule &other : rules) {
         if (other != rule && other.enabled() && other.network() == network &&
             other.device() == device) {
@@ -74,13 +74,13 @@ bool RuleSwitches::switchOffOthers(const Rule &rule)
 
 void RuleSwitches::disableAllRules()
 {
-    const RuleList rules = m_with.queries.managedRuleArrayForDevice(allDevices);
+    const RuleList rules = m_deps.queries.managedRuleArrayForDevice(allDevices);
     for (const Rule &rule : rules) {
         if (rule.enabled()) {
             rule.setEnabled(false);
         }
     }
-    m_with.store.managedObjectContext().processPendingChanges();
+    m_deps.store.managedObjectContext().processPendingChanges();
 }
 
 } // namespace quillon

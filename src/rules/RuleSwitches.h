@@ -43,15 +43,15 @@ public:
     void disableAllRules();
 
 Q_SIGNALS:
-    /// The table of rules is to be shown anew. Before the records are saved.
-    void rulesTableStale();
-    /// The rules that apply to the selected device may be other ones.
-    void rulesListStale();
+    /// A rule was switched, and what is in force evaluated; nothing is saved yet.
+    void ruleSwitched();
+    /// The user's check box is done with.
+    void ruleToggled();
 
 private:
     bool switchOffOthers(const Rule &rule);
 
-    Collaborators m_with;
+    Collaborators m_deps;
 };
 
 } // namespace quillon

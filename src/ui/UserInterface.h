@@ -36,9 +36,6 @@ public:
 
     UserInterface(const Models &models, const Desktop &desktop);
 
-    /// Its signals are what the user does.
-    MainWindow &mainWindow() { return m_mainWindow; }
-
 private:
     Theme m_theme;
     MainWindow m_mainWindow;

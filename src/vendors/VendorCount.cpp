@@ -10,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPointer>
 
 #include <utility>
 
@@ -72,11 +71,7 @@ void VendorCount::onMain(std::function<void(VendorCount &)> report)
         report(*this);
         return;
     }
-    m_scheduler.onMain([self = QPointer(this), report = std::move(report)] {
-        if (auto *const that = self.data()) {
-            report(*that);
-        }
-    });
+    m_scheduler.onMain(this, [this, report = std::move(report)] { report(*this); });
 }
 
 QString storedUpdateDate(const SettingsStore &settings)

@@ -41,11 +41,30 @@ struct FakePlatform
 
     Platform platform()
     {
-        return {scheduler, settings, groupSettings, notifications, distributed, userNotifications,
-            alerts, host, addresses, networkChanges, reachability, wifi, location, systemSettings,
-            http, helper, random, runningApplications,
-            {data.path(), QString(), QUrl(QStringLiteral("https://address.example")),
-                QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))}};
+        return {
+            .scheduler = scheduler,
+            .settings = settings,
+            .groupSettings = groupSettings,
+            .notifications = notifications,
+            .distributedNotifications = distributed,
+            .userNotifications = userNotifications,
+            .alerts = alerts,
+            .network = host,
+            .interfaceAddresses = addresses,
+            .networkChanges = networkChanges,
+            .reachability = reachability,
+            .wifi = wifi,
+            .location = location,
+            .systemSettings = systemSettings,
+            .http = http,
+            .helperLink = helper,
+            .random = random,
+            .runningApplications = runningApplications,
+            .places = {.supportFolder = data.path(),
+                .shippedVendorDatabase = {},
+                .externalAddressService = QUrl(QStringLiteral("https://address.example")),
+                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))},
+        };
     }
 
     QTemporaryDir data;

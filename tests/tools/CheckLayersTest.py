@@ -107,6 +107,25 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/app/Three.h", "", '#include "app/One.h"')
         self.assert_only_problem("src/app/Three.h:2: includes src/app/One.h, which includes it")
 
+    def test_refuses_a_circle_through_a_function_object(self):
+        self.write("src/devices/Maker.h", "class Maker {};")
+        self.write("src/devices/Changer.h", "class Maker;", "class Changer {};")
+        self.write("src/app/Delegate.h", '#include "devices/Changer.h"', '#include "devices/Maker.h"',
+                   "    Changer m_changer;", "    Maker m_maker;")
+        self.write("src/app/Delegate.cpp", '#include "app/Delegate.h"', "Delegate::Delegate(int random)",
+                   "    : m_changer(random)", "    , m_maker(random,",
+                   "          [this](int address) { m_changer.change(address); })")
+        self.assert_only_problem("src/app/Delegate.cpp:4: Maker is given a function of Changer, which knows Maker")
+
+    def test_allows_a_function_object_that_closes_no_circle(self):
+        self.write("src/devices/Maker.h", "class Maker {};")
+        self.write("src/devices/Changer.h", "class Changer {};")
+        self.write("src/app/Delegate.h", '#include "devices/Changer.h"', '#include "devices/Maker.h"',
+                   "    Changer m_changer;", "    Maker m_maker;")
+        self.write("src/app/Delegate.cpp", '#include "app/Delegate.h"', "Delegate::Delegate()",
+                   "    : m_changer()", "    , m_maker([this](int address) { m_changer.change(address); })")
+        self.assertEqual(self.problems(), [])
+
     def test_refuses_a_folder_that_the_table_does_not_know(self):
         self.write("src/utilities/Strings.h", '#include "base/Error.h"')
         self.assert_only_problem("src/utilities/Strings.h:1: the folder utilities is not in the table")

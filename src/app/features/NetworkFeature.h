@@ -17,9 +17,6 @@
 namespace quillon {
 
 class DeviceTable;
-class EventWiring;
-class LaunchSequence;
-class Presence;
 struct Platform;
 
 /// Everything about networks, put together: the Wi-Fi record, the saved lists, the external
@@ -27,9 +24,6 @@ struct Platform;
 struct NetworkFeature
 {
     NetworkFeature(const Platform &platform, const DeviceTable &devices, RecordStore &records);
-
-    /// Connections only; they end with `wiring`.
-    void connectTo(EventWiring &wiring, LaunchSequence &launch, Presence &presence);
 
     WiFiNetwork wifi;
     LocationPermission locationPermission;

@@ -15,8 +15,6 @@
 
 namespace quillon {
 
-class EventWiring;
-class LaunchSequence;
 struct Platform;
 
 /// Everything about manufacturers, put together: their database and its refresh, the lookup, the
@@ -24,9 +22,6 @@ struct Platform;
 struct VendorFeature
 {
     explicit VendorFeature(const Platform &platform);
-
-    /// Connections only; they end with `wiring`.
-    void connectTo(EventWiring &wiring, LaunchSequence &launch);
 
     VendorFiles files;
     VendorDatabase database;

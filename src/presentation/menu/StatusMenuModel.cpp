@@ -4,8 +4,12 @@
 
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "devices/MenuItem.h"
+#include "helperlink/XPCMethods.h"
+#include "presence/Presence.h"
 
 #include <utility>
 
@@ -29,18 +33,15 @@ void appendItems(MenuItem &menu, const std::vector<MenuEntry> &entries)
 
 } // namespace
 
-StatusMenuModel::StatusMenuModel(SettingsStore &settings, DeviceTable &devices,
-    const CurrentInterface &currentInterface, std::function<bool()> isHelperInstalled)
-    : m_devices(devices)
-    , m_currentInterface(currentInterface)
-    , m_displayCase(settings)
-    , m_isHelperInstalled(std::move(isHelperInstalled))
+StatusMenuModel::StatusMenuModel(const Collaborators &collaborators)
+    : m_deps(collaborators)
+    , m_displayCase(collaborators.settings)
 {
 }
 
 void StatusMenuModel::menuWillOpen()
 {
-    m_devices.updateNetWorkInterfaces();
+    m_deps.devices.updateNetWorkInterfaces();
     menuNeedsUpdate();
 }
 
@@ -51,7 +52,7 @@ void StatusMenuModel::menuNeedsUpdate()
     std::vector<MenuEntry> entries;
     entries.push_back({localized("Open Quillon"), MenuEntry::Action::OpenWindow, false, {}});
     entries.push_back(separator());
-    const QStringList devices = m_devices.sortedDevicesArray();
+    const QStringList devices = m_deps.devices.sortedDevicesArray();
     for (const QString &device : devices) {
         for (MenuEntry &entry : sectionForDevice(device)) {
             entries.push_back(std::move(entry));
@@ -69,7 +70,7 @@ void StatusMenuModel::menuNeedsUpdate()
 
 std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) const
 {
-    const QVariantMap record = m_devices.record(device);
+    const QVariantMap record = m_deps.devices.record(device);
     const QString hardware =
         m_displayCase.transformedValue(record.value(record::hardware).toString());
     const QString current =
@@ -82,13 +83,13 @@ std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) 
     MenuEntry deviceEntry;
     deviceEntry.title = filled(QStringLiteral("%@ \u00B7 %@"), {interface, device});
     deviceEntry.action = MenuEntry::Action::ChangeInterface;
-    deviceEntry.checked = device == m_currentInterface.device();
+    deviceEntry.checked = device == m_deps.currentInterface.device();
 
     MenuEntry hardwareEntry;
     hardwareEntry.title = filled(localized("%@Hardware Address \u00B7 %@"), {indent, hardware});
     MenuEntry currentEntry;
     currentEntry.title = filled(localized("%@Current Address \u00B7 %@"), {indent, current});
-    if (m_isHelperInstalled()) {
+    if (m_deps.helper.isHelperInstalled()) {
         const auto restore =
             current == hardware ? MenuEntry::Action::None : MenuEntry::Action::RestoreAddress;
         hardwareEntry.submenu.push_back({localized("Restore"), restore, false, {}});
@@ -118,23 +119,28 @@ void StatusMenuModel::activate(const QList<int> &path)
         level = &entry.submenu;
     }
 
+    act(action, *item);
+}
+
+void StatusMenuModel::act(MenuEntry::Action action, const MenuItem &sender)
+{
     switch (action) {
     case MenuEntry::Action::None:
         break;
     case MenuEntry::Action::OpenWindow:
-        Q_EMIT openWindowChosen();
+        m_deps.presence.openWindow();
         break;
     case MenuEntry::Action::ChangeInterface:
-        Q_EMIT interfaceChosen(item->title());
+        m_deps.currentInterface.changeInterface(sender.title());
         break;
     case MenuEntry::Action::RestoreAddress:
-        Q_EMIT restoreChosen(*item);
+        m_deps.addressChanger.restoreDefaultAddress(sender);
         break;
     case MenuEntry::Action::RandomizeAddress:
-        Q_EMIT randomizeChosen(*item);
+        m_deps.addressChanger.randomizeAddress(sender);
         break;
     case MenuEntry::Action::Quit:
-        Q_EMIT quitChosen();
+        m_deps.presence.quitFromSysMenu();
         break;
     }
 }

@@ -3,18 +3,20 @@
 #pragma once
 
 #include "devices/HexValueTransformer.h"
-#include "devices/MenuItem.h"
 
 #include <QList>
 #include <QObject>
 
-#include <functional>
 #include <vector>
 
 namespace quillon {
 
+class AddressChanger;
 class CurrentInterface;
 class DeviceTable;
+class MenuItem;
+class Presence;
+class XPCMethods;
 
 /// One line of a menu as it is shown.
 struct MenuEntry
@@ -46,8 +48,17 @@ class StatusMenuModel : public QObject
     Q_OBJECT
 
 public:
-    StatusMenuModel(SettingsStore &settings, DeviceTable &devices,
-        const CurrentInterface &currentInterface, std::function<bool()> isHelperInstalled);
+    struct Collaborators
+    {
+        const SettingsStore &settings;
+        DeviceTable &devices;
+        CurrentInterface &currentInterface;
+        AddressChanger &addressChanger;
+        const XPCMethods &helper;
+        Presence &presence;
+    };
+
+    explicit StatusMenuModel(const Collaborators &collaborators);
 
     const std::vector<MenuEntry> &entries() const { return m_entries; }
 
@@ -65,20 +76,12 @@ Q_SIGNALS:
     /// The menu is being rebuilt; lists of devices elsewhere follow first.
     void rebuildStarted();
 
-    void openWindowChosen();
-    void interfaceChosen(const QString &title);
-    /// `sender` is valid during the emission.
-    void randomizeChosen(const quillon::MenuItem &sender);
-    void restoreChosen(const quillon::MenuItem &sender);
-    void quitChosen();
-
 private:
     std::vector<MenuEntry> sectionForDevice(const QString &device) const;
+    void act(MenuEntry::Action action, const MenuItem &sender);
 
-    DeviceTable &m_devices;
-    const CurrentInterface &m_currentInterface;
+    Collaborators m_deps;
     HexValueTransformer m_displayCase;
-    std::function<bool()> m_isHelperInstalled;
     std::vector<MenuEntry> m_entries;
 };
 

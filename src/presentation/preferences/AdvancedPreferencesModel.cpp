@@ -5,14 +5,14 @@
 #include "helperlink/XPCMethods.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-
-#include <QPointer>
+#include "presence/Presence.h"
 
 namespace quillon {
 
 AdvancedPreferencesModel::AdvancedPreferencesModel(
-    XPCMethods &helper, SettingsStore &groupSettings, Scheduler &scheduler)
+    XPCMethods &helper, Presence &presence, SettingsStore &groupSettings, Scheduler &scheduler)
     : m_helper(helper)
+    , m_presence(presence)
     , m_groupSettings(groupSettings)
     , m_scheduler(scheduler)
 {
@@ -23,13 +23,9 @@ void AdvancedPreferencesModel::load()
     checkButtonStatus();
     set(false, m_uninstallEnabled);
     m_helper.getVersionOfHelperToolwithReply(
-        [self = QPointer(this), &scheduler = m_scheduler](const QString &version) {
-            scheduler.onMain([self, version] {
-                if (auto *const that = self.data()) {
-                    that->set(version != XPCMethods::helperToolVersion(), that->m_uninstallEnabled);
-                }
-            });
-        });
+        m_scheduler.replyOnMain<QString>(this, [this](const QString &version) {
+            set(version != XPCMethods::helperToolVersion(), m_uninstallEnabled);
+        }));
 }
 
 void AdvancedPreferencesModel::checkButtonStatus()
@@ -40,37 +36,23 @@ void AdvancedPreferencesModel::checkButtonStatus()
 
 void AdvancedPreferencesModel::installHelper()
 {
-    m_helper.installHelperToolwithReply(
-        [self = QPointer(this), &scheduler = m_scheduler](bool success) {
-            scheduler.onMain([self, success] {
-                auto *const that = self.data();
-                if (that == nullptr) {
-                    return;
-                }
-                if (success) {
-                    that->m_helper.updateHelperInstalledStatus();
-                }
-                Q_EMIT that->appKeyWanted();
-            });
-        });
+    m_helper.installHelperToolwithReply(m_scheduler.replyOnMain<bool>(this, [this](bool success) {
+        if (success) {
+            m_helper.updateHelperInstalledStatus();
+        }
+        m_presence.openWindow();
+    }));
 }
 
 void AdvancedPreferencesModel::uninstallHelper()
 {
-    m_helper.uninstallHelperToolwithReply(
-        [self = QPointer(this), &scheduler = m_scheduler](bool success) {
-            scheduler.onMain([self, success] {
-                auto *const that = self.data();
-                if (that == nullptr) {
-                    return;
-                }
-                if (success) {
-                    that->purgeGroupDefaults();
-                    that->m_helper.updateHelperInstalledStatus();
-                }
-                Q_EMIT that->appKeyWanted();
-            });
-        });
+    m_helper.uninstallHelperToolwithReply(m_scheduler.replyOnMain<bool>(this, [this](bool success) {
+        if (success) {
+            purgeGroupDefaults();
+            m_helper.updateHelperInstalledStatus();
+        }
+        m_presence.openWindow();
+    }));
 }
 
 void AdvancedPreferencesModel::purgeGroupDefaults()

@@ -6,6 +6,7 @@
 
 namespace quillon {
 
+class Presence;
 class Scheduler;
 class SettingsStore;
 class XPCMethods;
@@ -19,7 +20,7 @@ class AdvancedPreferencesModel : public QObject
 public:
     /// `groupSettings` is the store shared with the helper programs.
     AdvancedPreferencesModel(
-        XPCMethods &helper, SettingsStore &groupSettings, Scheduler &scheduler);
+        XPCMethods &helper, Presence &presence, SettingsStore &groupSettings, Scheduler &scheduler);
 
     bool isInstallEnabled() const { return m_installEnabled; }
     bool isUninstallEnabled() const { return m_uninstallEnabled; }
@@ -28,6 +29,7 @@ public:
     void load();
     /// Also on every appearance of the pane and on "helperStatusChanged".
     void checkButtonStatus();
+    /// The program comes to the front when either has ended: a prompt stood before it.
     void installHelper();
     void uninstallHelper();
     /// Removes the keys that the helper programs left in the shared settings.
@@ -35,13 +37,12 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The program's windows are to come to the front.
-    void appKeyWanted();
 
 private:
     void set(bool installEnabled, bool uninstallEnabled);
 
     XPCMethods &m_helper;
+    Presence &m_presence;
     SettingsStore &m_groupSettings;
     Scheduler &m_scheduler;
     bool m_installEnabled = false;

@@ -13,33 +13,25 @@ CountdownModel::CountdownModel(CountdownTimers &timers, const CurrentInterface &
 {
 }
 
-void CountdownModel::update(const State &state)
-{
-    if (state != m_state) {
-        m_state = state;
-        Q_EMIT changed();
-    }
-}
-
 void CountdownModel::showCountdown(const QString &device, const QString &text, bool isPaused)
 {
     if (device != m_currentInterface.device()) {
         return;
     }
-    State state = m_state;
-    state.label = text;
-    state.buttonsVisible = true;
-    state.identifier = device;
-    update(state);
+    m_state.update([&](State &state) {
+        state.label = text;
+        state.buttonsVisible = true;
+        state.identifier = device;
+    });
     setTimerButtonStateIsPaused(isPaused);
 }
 
 void CountdownModel::hideTimerLabel()
 {
-    State state = m_state;
-    state.label.clear();
-    state.buttonsVisible = false;
-    update(state);
+    m_state.update([&](State &state) {
+        state.label.clear();
+        state.buttonsVisible = false;
+    });
 }
 
 void CountdownModel::resetTimerButtons()
@@ -49,26 +41,22 @@ void CountdownModel::resetTimerButtons()
 
 void CountdownModel::setTimerButtonStateIsPaused(bool isPaused)
 {
-    State state = m_state;
-    state.pauseEnabled = !isPaused;
-    state.resumeEnabled = isPaused;
-    update(state);
+    m_state.update([&](State &state) {
+        state.pauseEnabled = !isPaused;
+        state.resumeEnabled = isPaused;
+    });
 }
 
 void CountdownModel::pauseCountdownTimer()
 {
-    State state = m_state;
-    state.pauseEnabled = false;
-    update(state);
-    m_timers.pauseCountdownTimer(m_state.identifier);
+    m_state.update([&](State &state) { state.pauseEnabled = false; });
+    m_timers.pauseCountdownTimer(m_state->identifier);
 }
 
 void CountdownModel::resumeCountdownTimer()
 {
-    State state = m_state;
-    state.resumeEnabled = false;
-    update(state);
-    m_timers.resumeCountdownTimer(m_state.identifier);
+    m_state.update([&](State &state) { state.resumeEnabled = false; });
+    m_timers.resumeCountdownTimer(m_state->identifier);
 }
 
 } // namespace quillon

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
+
 #include <QObject>
 #include <QString>
 
@@ -30,7 +32,7 @@ public:
 
     CountdownModel(CountdownTimers &timers, const CurrentInterface &currentInterface);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     /// A countdown ticked: shown when it is that of the selected interface.
     void showCountdown(const QString &device, const QString &text, bool isPaused);
@@ -49,11 +51,9 @@ Q_SIGNALS:
     void timerButtonsReset();
 
 private:
-    void update(const State &state);
-
     CountdownTimers &m_timers;
     const CurrentInterface &m_currentInterface;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

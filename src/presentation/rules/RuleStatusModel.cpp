@@ -17,26 +17,23 @@ RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
 void RuleStatusModel::updateRuleStatusForDevice(const QString &device)
 {
     const int hasRule = m_devices.record(device).value(record::hasRule).toInt();
-    State state{.image = QStringLiteral("NSStatusNone"),
+    State now{.image = QStringLiteral("NSStatusNone"),
         .toolTip = localized("no rules have been configured"),
         .activeRuleStruckThrough = true,
         .noActiveRulesStruckThrough = true,
         .noRulesStruckThrough = true};
     if (hasRule == static_cast<int>(RuleStatus::Active)) {
-        state.image = QStringLiteral("NSStatusAvailable");
-        state.toolTip = localized("has an Active rule");
-        state.activeRuleStruckThrough = false;
+        now.image = QStringLiteral("NSStatusAvailable");
+        now.toolTip = localized("has an Active rule");
+        now.activeRuleStruckThrough = false;
     } else if (hasRule == static_cast<int>(RuleStatus::NotActive)) {
-        state.image = QStringLiteral("NSStatusPartiallyAvailable");
-        state.toolTip = localized("no rules are currently Active");
-        state.noActiveRulesStruckThrough = false;
+        now.image = QStringLiteral("NSStatusPartiallyAvailable");
+        now.toolTip = localized("no rules are currently Active");
+        now.noActiveRulesStruckThrough = false;
     } else {
-        state.noRulesStruckThrough = false;
+        now.noRulesStruckThrough = false;
     }
-    if (state != m_state) {
-        m_state = state;
-        Q_EMIT changed();
-    }
+    m_state.update([&now](State &state) { state = now; });
 }
 
 } // namespace quillon

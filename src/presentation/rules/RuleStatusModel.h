@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
+
 #include <QObject>
 #include <QString>
 
@@ -31,7 +33,7 @@ public:
 
     explicit RuleStatusModel(const DeviceTable &devices);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     void updateRuleStatusForDevice(const QString &device);
 
@@ -41,7 +43,7 @@ Q_SIGNALS:
 
 private:
     const DeviceTable &m_devices;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

@@ -15,35 +15,35 @@
 #include "store/model/QuillonModel.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace quillon {
 
 RulesListModel::RulesListModel(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
 void RulesListModel::filterRulesArrayController()
 {
-    const QVariantMap current = m_with.currentInterface.record();
-    const QString device = m_with.currentInterface.device();
-    State state = m_state;
-    state.filter = m_with.queries.filterPredicateForDevice(device);
-    if (isWifiRecord(current)) {
-        const QVariantMap wifi = m_with.settings.getDictionary(keys::currentWiFiDict);
-        state.symbol = QStringLiteral("wifi");
-        state.title = wifi.value(wifirecord::name).toString();
-    } else {
-        state.symbol = QStringLiteral("network");
-        state.title = current.value(record::interface).toString() + titleSeparator + device;
-    }
-    update(std::move(state));
+    const QVariantMap current = m_deps.currentInterface.record();
+    const QString device = m_deps.currentInterface.device();
+    m_state.update([&](State &state) {
+        state.filter = m_deps.queries.filterPredicateForDevice(device);
+        if (isWifiRecord(current)) {
+            const QVariantMap wifi = m_deps.settings.getDictionary(keys::currentWiFiDict);
+            state.symbol = QStringLiteral("wifi");
+            state.title = wifi.value(wifirecord::name).toString();
+        } else {
+            state.symbol = QStringLiteral("network");
+            state.title = current.value(record::interface).toString() + titleSeparator + device;
+        }
+        fillRows(state);
+    });
 }
 
 void RulesListModel::reload()
 {
-    update(m_state);
+    m_state.update([this](State &state) { fillRows(state); });
 }
 
 void RulesListModel::reloadAfter(const ObjectsDidChange &change)
@@ -57,45 +57,33 @@ void RulesListModel::reloadAfter(const ObjectsDidChange &change)
     }
 }
 
-void RulesListModel::update(State state)
+void RulesListModel::fillRows(State &state) const
 {
-    const Row selected = m_state.rows.value(m_state.selectedRow);
-    state.rows = rows(state.filter);
+    const Row selected = state.rows.value(state.selectedRow);
+    state.rows.clear();
+    const RuleList rules = m_deps.queries.rules(
+        state.filter, {{model::rule::enabled, false}, {model::rule::name, true}});
+    for (const Rule &rule : rules) {
+        state.rows.append({rule.objID(), rule.name(), rule.enabled(), rule.active()});
+    }
     const auto same = std::find_if(state.rows.begin(), state.rows.end(),
         [&selected](const Row &row) { return row.objID == selected.objID; });
     const qsizetype first = state.rows.isEmpty() ? -1 : 0;
     state.selectedRow = same == state.rows.end() ? first : same - state.rows.begin();
-    if (state != m_state) {
-        m_state = std::move(state);
-        Q_EMIT changed();
-    }
-}
-
-QList<RulesListModel::Row> RulesListModel::rows(const Predicate &filter) const
-{
-    const RuleList rules =
-        m_with.queries.rules(filter, {{model::rule::enabled, false}, {model::rule::name, true}});
-    QList<Row> rows;
-    rows.reserve(rules.size());
-    for (const Rule &rule : rules) {
-        rows.append({rule.objID(), rule.name(), rule.enabled(), rule.active()});
-    }
-    return rows;
 }
 
 void RulesListModel::selectRow(qsizetype row)
 {
-    if (row >= 0 && row < m_state.rows.size() && row != m_state.selectedRow) {
-        m_state.selectedRow = row;
-        Q_EMIT changed();
+    if (row >= 0 && row < m_state->rows.size()) {
+        m_state.update([row](State &state) { state.selectedRow = row; });
     }
 }
 
 void RulesListModel::toggle(qsizetype row, bool enabled)
 {
-    if (row >= 0 && row < m_state.rows.size()) {
-        m_with.notifications.post(notifications::toggleCheckbox, this,
-            {{QStringLiteral("objID"), m_state.rows.at(row).objID},
+    if (row >= 0 && row < m_state->rows.size()) {
+        m_deps.notifications.post(notifications::toggleCheckbox, this,
+            {{QStringLiteral("objID"), m_state->rows.at(row).objID},
                 {QStringLiteral("state"), enabled}});
     }
 }

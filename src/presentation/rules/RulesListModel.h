@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
 #include "store/model/Predicate.h"
 
 #include <QList>
@@ -52,7 +53,7 @@ public:
 
     explicit RulesListModel(const Collaborators &collaborators);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     /// Points list and header at the selected interface.
     void filterRulesArrayController();
@@ -69,11 +70,11 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void update(State state);
-    QList<Row> rows(const Predicate &filter) const;
+    /// Fills the rows by the filter; the selection stays on its rule.
+    void fillRows(State &state) const;
 
-    Collaborators m_with;
-    State m_state;
+    Collaborators m_deps;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

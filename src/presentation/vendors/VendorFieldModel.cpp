@@ -30,9 +30,9 @@ QString VendorFieldModel::rowText(qsizetype row) const
 void VendorFieldModel::controlTextDidChange(const QString &text)
 {
     showText(text);
-    if (!m_state.popoverShown) {
+    if (!m_state->popoverShown) {
         showVendorViewPopover();
-        Q_EMIT insertionPointDue();
+        Q_EMIT openedByTyping();
     }
     m_list.filter(text);
 }
@@ -42,7 +42,7 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
     switch (command) {
     case Command::MoveDown:
         showVendorViewPopover();
-        Q_EMIT listFocusDue();
+        Q_EMIT listEntered();
         if (rowCount() > 0) {
             selectRow(0);
             m_choice.updateVendorTableSelectionWithRow(0);
@@ -80,7 +80,7 @@ bool VendorFieldModel::tableKeyDown(Key key)
 
 void VendorFieldModel::toggleVendorViewPopover()
 {
-    if (m_state.popoverShown) {
+    if (m_state->popoverShown) {
         closeVendorViewPopover();
     } else {
         showVendorViewPopover();
@@ -89,61 +89,42 @@ void VendorFieldModel::toggleVendorViewPopover()
 
 void VendorFieldModel::showVendorViewPopover()
 {
-    State state = m_state;
-    state.popoverShown = true;
-    update(state);
+    m_state.update([&](State &state) { state.popoverShown = true; });
 }
 
 void VendorFieldModel::closeVendorViewPopover()
 {
-    State state = m_state;
-    state.popoverShown = false;
-    update(state);
+    m_state.update([&](State &state) { state.popoverShown = false; });
 }
 
 void VendorFieldModel::showText(const QString &text)
 {
-    State state = m_state;
-    state.text = text;
-    update(state);
+    m_state.update([&](State &state) { state.text = text; });
 }
 
 void VendorFieldModel::selectRow(const std::optional<qsizetype> &row)
 {
-    State state = m_state;
-    state.selectedRow = row;
     m_selectedEntry = row ? m_list.entry(*row) : QString();
-    update(state);
+    m_state.update([&](State &state) { state.selectedRow = row; });
     if (row) {
-        Q_EMIT scrollDue(*row);
+        Q_EMIT rowSelected(*row);
     }
 }
 
 void VendorFieldModel::showVendorButton(bool shown)
 {
-    State state = m_state;
-    state.vendorButtonVisible = shown;
-    update(state);
+    m_state.update([&](State &state) { state.vendorButtonVisible = shown; });
 }
 
 void VendorFieldModel::rearrange()
 {
     Q_EMIT rowsChanged();
-    State state = m_state;
-    if (state.selectedRow) {
-        const qsizetype row = m_list.rowOf(m_selectedEntry);
-        state.selectedRow = row >= 0 ? std::optional(row) : std::nullopt;
-        update(state);
-    }
-}
-
-void VendorFieldModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
+    m_state.update([&](State &state) {
+        if (state.selectedRow) {
+            const qsizetype row = m_list.rowOf(m_selectedEntry);
+            state.selectedRow = row >= 0 ? std::optional(row) : std::nullopt;
+        }
+    });
 }
 
 } // namespace quillon

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
+
 #include <QObject>
 
 #include <optional>
@@ -46,7 +48,7 @@ public:
 
     VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
     qsizetype rowCount() const;
     /// The text of a row that is there.
     QString rowText(qsizetype row) const;
@@ -76,20 +78,18 @@ Q_SIGNALS:
     void changed();
     /// Other rows are shown than before.
     void rowsChanged();
-    /// The field's text is to be selected, and the insertion point then put behind it.
-    void insertionPointDue();
-    /// The list is to take the keyboard.
-    void listFocusDue();
-    /// The list is to show `row`, scrolling if need be.
-    void scrollDue(qsizetype row);
+    /// Typing opened the popover: the typed text stays, and typing goes on behind it.
+    void openedByTyping();
+    /// The user went from the field into the list.
+    void listEntered();
+    /// A row was selected, maybe one out of sight.
+    void rowSelected(qsizetype row);
 
 private:
-    void update(const State &state);
-
     VendorChoice &m_choice;
     VendorList &m_list;
     NotificationCenter &m_notifications;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
     /// What the selected row holds, by which it is found again when the rows change.
     QString m_selectedEntry;
 };

@@ -33,12 +33,12 @@ VendorPaneModel::VendorPaneModel(const SettingsStore &settings, RegistryDownload
     : m_settings(settings)
     , m_download(download)
 {
-    m_state.buttonTitle = localized("Update database");
+    m_state.update([](State &state) { state.buttonTitle = localized("Update database"); });
 }
 
 void VendorPaneModel::pressButton()
 {
-    switch (m_state.action) {
+    switch (m_state->action) {
     case Action::StartDownload:
         m_download.startDownload();
         break;
@@ -56,29 +56,29 @@ void VendorPaneModel::showStoredTexts()
 
 void VendorPaneModel::showDownloadBegun()
 {
-    State state = m_state;
-    state.updatedLabel = localized("Getting download information...");
-    state.vendorCount = localized("Updating Vendor Identifier count...");
-    state.action = Action::CancelDownload;
-    state.buttonTitle = localized("Cancel download...");
-    update(state);
+    m_state.update([&](State &state) {
+        state.updatedLabel = localized("Getting download information...");
+        state.vendorCount = localized("Updating Vendor Identifier count...");
+        state.action = Action::CancelDownload;
+        state.buttonTitle = localized("Cancel download...");
+    });
 }
 
 void VendorPaneModel::showProgress(qint64 chunk, qint64 received, qint64 expected)
 {
-    State state = m_state;
-    state.progress = share(received, expected);
-    state.progressShown = true;
-    if (expected == -1) {
-        // The size of the latest piece: all that can be said without knowing the whole.
-        state.updatedLabel = filled(localized("Downloading... %@MB"), {megabytes(chunk)});
-    } else {
-        const QString percentage =
-            QString::asprintf("%.03f", static_cast<double>(state.progress * 100.0F));
-        state.updatedLabel =
-            filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)});
-    }
-    update(state);
+    m_state.update([&](State &state) {
+        state.progress = share(received, expected);
+        state.progressShown = true;
+        if (expected == -1) {
+            // The size of the latest piece: all that can be said without knowing the whole.
+            state.updatedLabel = filled(localized("Downloading... %@MB"), {megabytes(chunk)});
+        } else {
+            const QString percentage =
+                QString::asprintf("%.03f", static_cast<double>(state.progress * 100.0F));
+            state.updatedLabel =
+                filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)});
+        }
+    });
 }
 
 void VendorPaneModel::showDownloadCancelled()
@@ -103,12 +103,12 @@ void VendorPaneModel::showDownloadCompleted(const QString &date)
 
 void VendorPaneModel::resetDownloadButton()
 {
-    State state = m_state;
-    state.action = Action::StartDownload;
-    state.buttonTitle = localized("Update database");
-    state.progress = 0;
-    state.progressShown = false;
-    update(state);
+    m_state.update([&](State &state) {
+        state.action = Action::StartDownload;
+        state.buttonTitle = localized("Update database");
+        state.progress = 0;
+        state.progressShown = false;
+    });
 }
 
 void VendorPaneModel::showFirstCountBegun()
@@ -128,25 +128,12 @@ void VendorPaneModel::showCount(qlonglong count)
 
 void VendorPaneModel::updateLabel(const QString &text)
 {
-    State state = m_state;
-    state.updatedLabel = text;
-    update(state);
+    m_state.update([&](State &state) { state.updatedLabel = text; });
 }
 
 void VendorPaneModel::updateCount(const QString &text)
 {
-    State state = m_state;
-    state.vendorCount = text;
-    update(state);
-}
-
-void VendorPaneModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
+    m_state.update([&](State &state) { state.vendorCount = text; });
 }
 
 } // namespace quillon

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
+
 #include <QObject>
 
 namespace quillon {
@@ -36,7 +38,7 @@ public:
 
     VendorPaneModel(const SettingsStore &settings, RegistryDownload &download);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
     /// The user pressed the button: what state().action says.
     void pressButton();
 
@@ -60,13 +62,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void update(const State &state);
     void updateLabel(const QString &text);
     void updateCount(const QString &text);
 
     const SettingsStore &m_settings;
     RegistryDownload &m_download;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

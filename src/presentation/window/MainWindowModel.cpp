@@ -4,14 +4,15 @@
 
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
 #include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 
 namespace quillon {
 
@@ -22,13 +23,9 @@ constexpr qsizetype fullLength = 17;
 
 } // namespace
 
-MainWindowModel::MainWindowModel(SettingsStore &settings, Scheduler &scheduler,
-    const DeviceTable &devices, const CurrentInterface &currentInterface)
-    : m_settings(settings)
-    , m_scheduler(scheduler)
-    , m_devices(devices)
-    , m_currentInterface(currentInterface)
-    , m_displayCase(settings)
+MainWindowModel::MainWindowModel(const Collaborators &collaborators)
+    : m_deps(collaborators)
+    , m_displayCase(collaborators.settings)
 {
 }
 
@@ -42,37 +39,33 @@ QString MainWindowModel::readMeText()
 
 void MainWindowModel::prepareWindow()
 {
-    State state = m_state;
-    state.randomiseEnabled = false;
-    state.restoreEnabled = false;
-    state.fieldEnabled = false;
-    state.readMeVisible = false;
-    const QString version = QCoreApplication::applicationVersion();
-    state.versionLabel = filled(QStringLiteral("v%@"), {version});
-    update(state);
+    m_state.update([&](State &state) {
+        state.randomiseEnabled = false;
+        state.restoreEnabled = false;
+        state.fieldEnabled = false;
+        state.readMeVisible = false;
+        const QString version = QCoreApplication::applicationVersion();
+        state.versionLabel = filled(QStringLiteral("v%@"), {version});
+    });
 }
 
 void MainWindowModel::disableRandomise()
 {
-    State state = m_state;
-    state.randomiseEnabled = false;
-    update(state);
+    m_state.update([&](State &state) { state.randomiseEnabled = false; });
 }
 
 void MainWindowModel::disableUpdate()
 {
-    State state = m_state;
-    state.updateEnabled = false;
-    update(state);
+    m_state.update([&](State &state) { state.updateEnabled = false; });
 }
 
 void MainWindowModel::populateSelectionButton()
 {
-    State state = m_state;
-    state.devices = m_devices.sortedDevicesArray();
-    state.selectionVisible = !state.devices.isEmpty();
-    fillInterfaceDetails(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state.devices = m_deps.devices.sortedDevicesArray();
+        state.selectionVisible = !state.devices.isEmpty();
+        fillInterfaceDetails(state);
+    });
 }
 
 void MainWindowModel::resetInfoButtons()
@@ -88,37 +81,33 @@ void MainWindowModel::readMeReset()
 void MainWindowModel::setHelperInstalled(bool installed)
 {
     m_helperInstalled = installed;
-    State state = m_state;
-    state.fieldEnabled = installed;
-    state.readMeVisible = !installed;
-    state.randomiseEnabled = installed;
-    if (!installed) {
-        state.updateEnabled = false;
-    }
-    fillInterfaceDetails(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state.fieldEnabled = installed;
+        state.readMeVisible = !installed;
+        state.randomiseEnabled = installed;
+        if (!installed) {
+            state.updateEnabled = false;
+        }
+        fillInterfaceDetails(state);
+    });
 }
 
 void MainWindowModel::hideReadMe()
 {
-    State state = m_state;
-    state.readMeVisible = false;
-    update(state);
+    m_state.update([&](State &state) { state.readMeVisible = false; });
 }
 
 void MainWindowModel::setInstalling(bool installing)
 {
-    State state = m_state;
-    state.installing = installing;
-    update(state);
+    m_state.update([&](State &state) { state.installing = installing; });
 }
 
 void MainWindowModel::showPlaceholder(const QString &address)
 {
-    State state = m_state;
-    state.fieldPlaceholder = address;
-    fillInterfaceDetails(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state.fieldPlaceholder = address;
+        fillInterfaceDetails(state);
+    });
 }
 
 void MainWindowModel::renewHexFormatter()
@@ -128,21 +117,17 @@ void MainWindowModel::renewHexFormatter()
 
 void MainWindowModel::populateHexField()
 {
-    m_scheduler.onMain([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->showCurrentAddress();
-        }
-    });
+    m_deps.scheduler.onMain(this, [this] { showCurrentAddress(); });
 }
 
 void MainWindowModel::showCurrentAddress()
 {
-    State state = m_state;
-    state.fieldText = m_displayCase.transformedValue(
-        m_currentInterface.record().value(record::current).toString());
-    state.softwareButtonVisible = true;
-    fillInterfaceDetails(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state.fieldText = m_displayCase.transformedValue(
+            m_deps.currentInterface.record().value(record::current).toString());
+        state.softwareButtonVisible = true;
+        fillInterfaceDetails(state);
+    });
     checkUpdateButton();
 }
 
@@ -157,34 +142,48 @@ void MainWindowModel::populateHexFieldFromDrop(const QString &text)
 
 void MainWindowModel::checkUpdateButton()
 {
-    if (!m_scheduler.isMainThread()) {
-        m_scheduler.onMain([self = QPointer(this)] {
-            if (auto *const that = self.data()) {
-                that->checkUpdateButton();
-            }
-        });
+    if (!m_deps.scheduler.isMainThread()) {
+        m_deps.scheduler.onMain(this, [this] { checkUpdateButton(); });
         return;
     }
     if (!m_helperInstalled) {
         return;
     }
-    State state = m_state;
-    if (state.fieldText.isEmpty()) {
-        state.updateEnabled = false;
-        update(state);
-        return;
-    }
-    const QString shown = m_displayCase.transformedValue(state.fieldText);
-    if (state.fieldText.size() == bareDigits && !shown.contains(u':')) {
-        state.fieldText = shown;
-    }
-    if (state.fieldText.size() == fullLength) {
-        state.fieldText = shown;
-    }
-    const QString current = m_currentInterface.record().value(record::current).toString();
-    state.updateEnabled = state.fieldText.size() == fullLength && isStringValidHEX(shown) &&
-                          shown.compare(current, Qt::CaseInsensitive) != 0;
-    update(state);
+    const QString current = m_deps.currentInterface.record().value(record::current).toString();
+    m_state.update([&](State &state) {
+        const QString shown = m_displayCase.transformedValue(state.fieldText);
+        const bool isBare = state.fieldText.size() == bareDigits && !shown.contains(u':');
+        if (isBare || state.fieldText.size() == fullLength) {
+            state.fieldText = shown;
+        }
+        state.updateEnabled = state.fieldText.size() == fullLength && isStringValidHEX(shown) &&
+                              shown.compare(current, Qt::CaseInsensitive) != 0;
+    });
+}
+
+void MainWindowModel::randomizeAddress()
+{
+    m_deps.addressChanger.randomizeAddress();
+}
+
+void MainWindowModel::changeMacAddress()
+{
+    setFieldText(m_deps.addressChanger.changeMacAddress(m_state->fieldText));
+}
+
+void MainWindowModel::restoreDefaultAddress()
+{
+    m_deps.addressChanger.restoreDefaultAddress();
+}
+
+void MainWindowModel::installHelper()
+{
+    m_deps.helper.installHelper();
+}
+
+void MainWindowModel::changeInterfacefromPopup(const QString &title)
+{
+    m_deps.currentInterface.changeInterfacefromPopup(title);
 }
 
 bool MainWindowModel::editField(const QString &text)
@@ -200,26 +199,24 @@ bool MainWindowModel::editField(const QString &text)
 
 void MainWindowModel::endEditing()
 {
-    if (m_state.fieldText.isEmpty()) {
+    if (m_state->fieldText.isEmpty()) {
         populateHexField();
     }
 }
 
 void MainWindowModel::setFieldText(const QString &text)
 {
-    State state = m_state;
-    state.fieldText = text;
-    update(state);
+    m_state.update([&](State &state) { state.fieldText = text; });
 }
 
 bool MainWindowModel::draggingEntered(const QString &text) const
 {
-    return m_state.fieldEnabled && isStringValidHEX(text);
+    return m_state->fieldEnabled && isStringValidHEX(text);
 }
 
 bool MainWindowModel::performDragOperation() const
 {
-    return m_state.fieldEnabled;
+    return m_state->fieldEnabled;
 }
 
 void MainWindowModel::concludeDragOperation(const QString &text)
@@ -231,9 +228,9 @@ void MainWindowModel::concludeDragOperation(const QString &text)
 
 void MainWindowModel::fillInterfaceDetails(State &state) const
 {
-    const QString device = m_currentInterface.device();
+    const QString device = m_deps.currentInterface.device();
     state.selectedDevice = state.devices.contains(device) ? device : QString();
-    const QVariantMap record = m_currentInterface.record();
+    const QVariantMap record = m_deps.currentInterface.record();
     state.interfaceName = record.value(record::localizedInterface).toString();
     state.currentAddress = m_displayCase.transformedValue(record.value(record::current).toString());
     state.hardwareAddress =
@@ -243,15 +240,6 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
     state.restoreEnabled =
         m_helperInstalled && !state.hardwareAddress.isEmpty() && state.hardwareIndicatorVisible;
-}
-
-void MainWindowModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
 }
 
 } // namespace quillon

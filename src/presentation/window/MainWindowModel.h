@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
 #include "devices/HexFormatter.h"
 #include "devices/HexValueTransformer.h"
 
@@ -10,10 +11,12 @@
 
 namespace quillon {
 
+class AddressChanger;
 class CurrentInterface;
 class DeviceTable;
 class Scheduler;
 class SettingsStore;
+class XPCMethods;
 
 /// What the main window shows, as plain state that widgets mirror, and the rules by which it
 /// changes. Main thread, except where an operation says that it moves there by itself.
@@ -66,10 +69,19 @@ public:
         double alpha = 1.0;
     };
 
-    MainWindowModel(SettingsStore &settings, Scheduler &scheduler, const DeviceTable &devices,
-        const CurrentInterface &currentInterface);
+    struct Collaborators
+    {
+        const SettingsStore &settings;
+        Scheduler &scheduler;
+        const DeviceTable &devices;
+        CurrentInterface &currentInterface;
+        AddressChanger &addressChanger;
+        XPCMethods &helper;
+    };
 
-    const State &state() const { return m_state; }
+    explicit MainWindowModel(const Collaborators &collaborators);
+
+    const State &state() const { return m_state.get(); }
     static ReadMeStyle readMeStyle() { return {}; }
     /// A text that explains the helper, shown on demand beside the hint.
     static QString readMeText();
@@ -103,6 +115,14 @@ public:
     /// thread.
     void checkUpdateButton();
 
+    // The window's buttons and its selection button.
+    void randomizeAddress();
+    /// Requests the address in the field, which then shows it in display case.
+    void changeMacAddress();
+    void restoreDefaultAddress();
+    void installHelper();
+    void changeInterfacefromPopup(const QString &title);
+
     /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
     /// what it had.
     bool editField(const QString &text);
@@ -126,18 +146,14 @@ Q_SIGNALS:
     void readMeStyleReset();
 
 private:
-    void update(const State &state);
     void showCurrentAddress();
     void fillInterfaceDetails(State &state) const;
 
-    SettingsStore &m_settings;
-    Scheduler &m_scheduler;
-    const DeviceTable &m_devices;
-    const CurrentInterface &m_currentInterface;
+    Collaborators m_deps;
     HexValueTransformer m_displayCase;
     HexFormatter m_hexFormatter;
     bool m_helperInstalled = false;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

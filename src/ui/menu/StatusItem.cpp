@@ -3,8 +3,8 @@
 #include "ui/menu/StatusItem.h"
 
 #include "platform/TrayHost.h"
+#include "presence/Presence.h"
 #include "presentation/menu/StatusMenuModel.h"
-#include "presentation/window/Presence.h"
 #include "ui/menu/StatusMenu.h"
 #include "ui/theme/Theme.h"
 

@@ -73,11 +73,11 @@ void VendorChooser::connectModel()
 {
     connect(&m_model, &VendorFieldModel::changed, this, &VendorChooser::refresh);
     connect(&m_model, &VendorFieldModel::rowsChanged, this, &VendorChooser::refresh);
-    connect(&m_model, &VendorFieldModel::insertionPointDue, this, [this] {
+    connect(&m_model, &VendorFieldModel::openedByTyping, this, [this] {
         m_field->selectAll();
         m_field->end(false);
     });
-    connect(&m_model, &VendorFieldModel::listFocusDue, this, [this] { m_table->setFocus(); });
+    connect(&m_model, &VendorFieldModel::listEntered, this, [this] { m_table->setFocus(); });
     connect(m_field, &QLineEdit::textEdited, &m_model, &VendorFieldModel::controlTextDidChange);
     connect(m_toggle, &QToolButton::clicked, this, [this] { m_model.toggleVendorViewPopover(); });
 }

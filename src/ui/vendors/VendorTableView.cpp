@@ -79,7 +79,7 @@ VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
     const QScopedValueRollback mirrors(m_mirrors, true);
     setModel(new VendorListRows(model, this));
     connect(&m_model, &VendorFieldModel::rowsChanged, this, &QListView::scrollToTop);
-    connect(&m_model, &VendorFieldModel::scrollDue, this, [this](qsizetype row) {
+    connect(&m_model, &VendorFieldModel::rowSelected, this, [this](qsizetype row) {
         scrollTo(this->model()->index(static_cast<int>(row), 0), QAbstractItemView::EnsureVisible);
     });
 }

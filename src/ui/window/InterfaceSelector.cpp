@@ -23,7 +23,7 @@ InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
     // disregards.
     setItemDelegate(new QStyledItemDelegate(this));
     connect(this, &QComboBox::textActivated, this, [this](const QString &title) {
-        Q_EMIT interfacePicked(title);
+        m_model.changeInterfacefromPopup(title);
         refresh();
     });
     refresh();
@@ -49,7 +49,7 @@ void InterfaceSelector::refresh()
 
 void InterfaceSelector::showPopup()
 {
-    Q_EMIT selectionPopupShown();
+    m_model.popupButtonClicked();
     QComboBox::showPopup();
 }
 

@@ -8,8 +8,8 @@ namespace quillon {
 
 class MainWindowModel;
 
-/// The device selection button: mirrors the model's titles. The user's choice is only reported;
-/// what is selected then is the model's word.
+/// The device selection button: mirrors the model's titles. What is
+/// selected after the user's choice is what the model says then.
 class InterfaceSelector : public QComboBox
 {
     Q_OBJECT
@@ -22,11 +22,6 @@ public:
     void hidePopup() override;
     /// Takes the look of a button that is pointed at or pressed away until it is pointed at anew.
     void resetEmphasis();
-
-Q_SIGNALS:
-    void interfacePicked(const QString &title);
-    /// Just before the list opens.
-    void selectionPopupShown();
 
 private:
     MainWindowModel &m_model;

@@ -4,8 +4,8 @@
 
 #include "base/Localized.h"
 #include "platform/TaskBar.h"
+#include "presence/Presence.h"
 #include "presentation/window/MainWindowModel.h"
-#include "presentation/window/Presence.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/DetailsArea.h"
 #include "ui/window/AddressField.h"
@@ -176,19 +176,10 @@ void MainWindow::makeShortcuts()
     add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
         [this] { m_presence.quit(); });
 
-    InterfaceSelector *const selector = &m_header->selector();
-    connect(selector, &InterfaceSelector::interfacePicked, this, &MainWindow::interfacePicked);
-    connect(
-        selector, &InterfaceSelector::selectionPopupShown, this, &MainWindow::selectionPopupShown);
-    connect(m_apply, &QPushButton::clicked, this, &MainWindow::applyPressed);
-    connect(m_randomise, &QPushButton::clicked, this, &MainWindow::randomisePressed);
-    connect(m_restore, &QPushButton::clicked, this, &MainWindow::restorePressed);
-    connect(m_readMe, &ReadMeHint::installPressed, this, &MainWindow::installPressed);
-    connect(m_field, &QLineEdit::returnPressed, this, [this] {
-        if (m_model.state().updateEnabled) {
-            Q_EMIT applyPressed();
-        }
-    });
+    connect(m_apply, &QPushButton::clicked, &m_model, &MainWindowModel::changeMacAddress);
+    connect(m_randomise, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
+    connect(m_restore, &QPushButton::clicked, &m_model, &MainWindowModel::restoreDefaultAddress);
+    connect(m_field, &QLineEdit::returnPressed, m_apply, &QPushButton::click);
 }
 
 void MainWindow::connectModel()

@@ -20,8 +20,8 @@ class ReadMeHint;
 class TaskBar;
 class Theme;
 
-/// The window on one selected interface. It mirrors MainWindowModel, follows Presence, and reports
-/// what the user does; it decides nothing. Main thread.
+/// The window on one selected interface. It mirrors MainWindowModel and calls it for what the user
+/// does, and follows Presence; it decides nothing. Main thread.
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -39,14 +39,6 @@ public:
     void addDetails(QWidget *section);
     /// What is known of the selected interface; rows can be added.
     InterfaceDetails &details() { return *m_details; }
-
-Q_SIGNALS:
-    void randomisePressed();
-    void applyPressed();
-    void restorePressed();
-    void installPressed();
-    void interfacePicked(const QString &title);
-    void selectionPopupShown();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

@@ -66,7 +66,7 @@ ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *pare
     row->addWidget(shield, 0, Qt::AlignTop);
     row->addLayout(texts, 1);
 
-    connect(m_install, &QPushButton::clicked, this, &ReadMeHint::installPressed);
+    connect(m_install, &QPushButton::clicked, &m_model, &MainWindowModel::installHelper);
     connect(m_disclose, &QPushButton::toggled, this, &ReadMeHint::showExplanation);
     connect(&m_model, &MainWindowModel::readMeStyleReset, this, &ReadMeHint::resetStyle);
     resetStyle();

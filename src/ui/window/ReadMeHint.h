@@ -23,9 +23,6 @@ public:
 
     void refresh();
 
-Q_SIGNALS:
-    void installPressed();
-
 private:
     void showExplanation(bool shown);
     void resetStyle();

@@ -31,11 +31,30 @@ ComposedProgram::ComposedProgram(const QString &folder, int speed)
     , groupSettings(folder + QStringLiteral("/group-settings.plist"), m_real, {})
 {
     QuillonAppDelegate::initialize(settings, packagedDefaults());
-    m_delegate = std::make_unique<QuillonAppDelegate>(
-        Platform{m_scheduler, settings, groupSettings, m_notifications, m_distributedNotifications,
-            userNotifications, alerts, m_network, m_interfaceAddresses, m_networkChanges,
-            m_reachability, wifi, m_location, m_systemSettings, m_http, helperLink, m_random,
-            m_runningApplications, {folder, QString(), QUrl(nobody), QUrl(nobody)}});
+    m_delegate = std::make_unique<QuillonAppDelegate>(Platform{
+        .scheduler = m_scheduler,
+        .settings = settings,
+        .groupSettings = groupSettings,
+        .notifications = notifications,
+        .distributedNotifications = m_distributedNotifications,
+        .userNotifications = userNotifications,
+        .alerts = alerts,
+        .network = m_network,
+        .interfaceAddresses = m_interfaceAddresses,
+        .networkChanges = m_networkChanges,
+        .reachability = m_reachability,
+        .wifi = wifi,
+        .location = m_location,
+        .systemSettings = m_systemSettings,
+        .http = m_http,
+        .helperLink = helperLink,
+        .random = m_random,
+        .runningApplications = m_runningApplications,
+        .places = {.supportFolder = folder,
+            .shippedVendorDatabase = {},
+            .externalAddressService = QUrl(nobody),
+            .vendorRegistry = QUrl(nobody)},
+    });
 }
 
 ComposedProgram::~ComposedProgram()

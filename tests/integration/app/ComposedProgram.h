@@ -62,12 +62,12 @@ private:
 public:
     PlistSettingsStore settings;
     PlistSettingsStore groupSettings;
+    NotificationCenter notifications;
     FakeUserNotificationCenter userNotifications{m_scheduler};
     FakeAlertPresenter alerts;
     FakeWiFiClient wifi;
 
 private:
-    NotificationCenter m_notifications;
     SessionBusNotificationCenter m_distributedNotifications;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;

@@ -27,7 +27,7 @@ protected:
     /// When the running countdown was started; invalid when none runs.
     QDateTime countdown() const
     {
-        const QVariantMap timers = program->delegate().rules().timers.timers();
+        const QVariantMap timers = program->delegate().features().rules.timers.timers();
         return timers.value(card).toMap().value(QStringLiteral("startDate")).toDateTime();
     }
 

@@ -17,7 +17,7 @@ protected:
         network.ssid = ssid;
         network.bssid = bssid;
         program->wifi.join(network);
-        program->delegate().networks().savedNetworks.addCurrentNetworkToSavedList();
+        program->delegate().features().networks.savedNetworks.addCurrentNetworkToSavedList();
     }
 
     void restart()
@@ -30,10 +30,10 @@ protected:
 TEST_F(RestartTest, SavedNetworksAndAddressesAreThereAgain)
 {
     startProgram();
-    program->delegate().changeInterfacefromPopup(card);
+    program->delegate().features().mainWindow.changeInterfacefromPopup(card);
     saveNetwork(QStringLiteral("Harbour Café"), QStringLiteral("06:00:5E:00:00:01"));
     saveNetwork(QStringLiteral("Library"), QStringLiteral("06:00:5e:00:00:02"));
-    SavedAddresses &addresses = program->delegate().networks().savedAddresses;
+    SavedAddresses &addresses = program->delegate().features().networks.savedAddresses;
     addresses.addCurrentAddressToSavedList();
     ASSERT_TRUE(addresses.isCurrentAddressSaved());
     const QVariant networks = program->settings.get(keys::savedNetworks);
@@ -53,7 +53,7 @@ TEST_F(RestartTest, SavedNetworksAndAddressesAreThereAgain)
         QStringLiteral("06:00:5e:00:00:02"));
     const QString name = saved.toMap().first().toMap().value(QStringLiteral("name")).toString();
     EXPECT_EQ(addressForAddressName(program->settings, name), saved.toMap().firstKey());
-    EXPECT_TRUE(program->delegate().networks().savedAddresses.isCurrentAddressSaved());
+    EXPECT_TRUE(program->delegate().features().networks.savedAddresses.isCurrentAddressSaved());
 }
 
 TEST_F(RestartTest, TheHistoryIsThereAgainAndGrows)

@@ -2,24 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/features/VendorWiring.h"
+#include "app/QuillonAppDelegate.h"
 #include "base/SettingsKeys.h"
-#include "fakes/FakeSettingsStore.h"
+#include "fakes/FakePlatform.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
 #include "integration/platform/qt/web/WebServer.h"
-#include "platform/NotificationCenter.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/web/NetworkHttpClient.h"
-#include "presentation/vendors/VendorFieldModel.h"
-#include "presentation/vendors/VendorPaneModel.h"
 #include "vendors/DateStamp.h"
-#include "vendors/RegistryDownload.h"
-#include "vendors/RegistryImport.h"
-#include "vendors/VendorChoice.h"
-#include "vendors/VendorCount.h"
-#include "vendors/VendorList.h"
-#include "vendors/VendorLookup.h"
 #include "vendors/VendorTable.h"
 
 #include <QDir>
@@ -29,8 +20,8 @@ namespace quillon::test {
 
 using namespace std::chrono_literals;
 
-/// Somebody who refreshes the vendor database of a folder over the web, with everything real but
-/// the settings.
+/// Somebody who refreshes the vendor database of a folder over the web, in a program of which the
+/// files, the web and the threads are real.
 class RefreshingUser
 {
 public:
@@ -39,7 +30,6 @@ public:
     {
         // What is there is known.
         count.updateVendorCount();
-        connectVendors(&context, {count, list, lookup, choice, import, download, pane, field});
         QObject::connect(&pane, &VendorPaneModel::changed, [this] {
             const QString &label = pane.state().updatedLabel;
             if (labels.isEmpty() || labels.last() != label) {
@@ -76,20 +66,48 @@ public:
 
     VendorFiles files;
     QtScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    NotificationCenter notifications;
     NetworkHttpClient http{HttpClientOptions{500ms, {}, qint64(1) << 30}};
-    VendorDatabase database{files.liveDatabase()};
-    VendorCount count{settings, scheduler, files, database};
-    VendorList list{scheduler, database};
-    VendorLookup lookup{settings, scheduler, database};
-    VendorChoice choice{settings, notifications, list};
-    RegistryImport import{scheduler, settings, files, database};
-    RegistryDownload download{http, WebServer::secure("/oui/oui.csv"), import, count, list};
-    VendorPaneModel pane{settings, download};
-    VendorFieldModel field{choice, list, notifications};
-    QObject context;
+    FakeSettingsStore settings{scheduler};
+    FakePlatform machine;
+    QuillonAppDelegate program{platform()};
+    VendorFeature &feature = program.features().vendors;
+    VendorDatabase &database = feature.database;
+    VendorCount &count = feature.count;
+    VendorList &list = feature.list;
+    VendorLookup &lookup = feature.lookup;
+    RegistryImport &import = feature.import;
+    VendorPaneModel &pane = feature.pane;
     QStringList labels;
+
+private:
+    Platform platform()
+    {
+        const Platform fakes = machine.platform();
+        return {
+            .scheduler = scheduler,
+            .settings = settings,
+            .groupSettings = fakes.groupSettings,
+            .notifications = fakes.notifications,
+            .distributedNotifications = fakes.distributedNotifications,
+            .userNotifications = fakes.userNotifications,
+            .alerts = fakes.alerts,
+            .network = fakes.network,
+            .interfaceAddresses = fakes.interfaceAddresses,
+            .networkChanges = fakes.networkChanges,
+            .reachability = fakes.reachability,
+            .wifi = fakes.wifi,
+            .location = fakes.location,
+            .systemSettings = fakes.systemSettings,
+            .http = http,
+            .helperLink = fakes.helperLink,
+            .random = fakes.random,
+            .runningApplications = fakes.runningApplications,
+            .places = {.supportFolder = files.folder,
+                .shippedVendorDatabase = files.seed,
+                .externalAddressService = {},
+                .vendorRegistry = WebServer::secure("/oui/oui.csv")},
+        };
+    }
 };
 
 /// A folder, a web server, and the user of both.

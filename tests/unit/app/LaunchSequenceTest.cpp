@@ -1,171 +1,212 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/QuillonAppDelegate.h"
-#include "base/NotificationNames.h"
-#include "base/SettingsKeys.h"
-#include "fakes/FakePlatform.h"
+#include "app/LaunchSequence.h"
 
-#include <gmock/gmock.h>
+#include "unit/app/ProgramOnFakes.h"
+#include "unit/app/StateOrder.h"
+#include "unit/vendors/VendorFolder.h"
 
 namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
-using ::testing::ElementsAre;
-using ::testing::ElementsAreArray;
 
 const QString loginHelper = QStringLiteral("com.orvandel.Quillon4Helper");
+const QString chosenVendor = QStringLiteral("Zebra (00000D)");
 
-class LaunchSequenceTest : public ::testing::Test
+class LaunchSequenceTest : public ProgramOnFakes
 {
 protected:
-    void note(const char *step) { journal.append(QString::fromLatin1(step)); }
-
-    template <typename Signal>
-    void noteWhen(Signal signal, const char *step)
+    /// A vendor database that the program is shipped with.
+    QString shippedVendors() const
     {
-        QObject::connect(&delegate->launch(), signal, [this, step] { note(step); });
+        const QString path = machine.data.filePath(QStringLiteral("shipped.db"));
+        fillVendors(path, 2);
+        return path;
     }
-
-    /// Makes the delegate and notes every step that can be seen from outside.
-    void create()
+    void fillVendors(const QString &path, int count) const
     {
-        QuillonAppDelegate::initialize(
-            machine.settings, {{keys::displayNotifications, true}, {keys::showInMenu, true}});
-        delegate.emplace(machine.platform());
-        noteWhen(&LaunchSequence::mainWindowPrepared, "window prepared");
-        noteWhen(&LaunchSequence::vendorDatabaseDue, "vendor database");
-        noteWhen(&LaunchSequence::recordStoreDue, "record store");
-        noteWhen(&LaunchSequence::loginItemDue, "login item");
-        noteWhen(&LaunchSequence::countdownLabelDue, "countdown label");
-        noteWhen(&LaunchSequence::hotKeysDue, "hot keys");
-        noteWhen(&LaunchSequence::vendorCountDue, "vendor count");
-        noteWhen(&LaunchSequence::quickAddressesDue, "quick addresses");
-        noteWhen(&LaunchSequence::vendorFieldDue, "vendor field");
-        noteWhen(&LaunchSequence::cloudCheckDue, "cloud check");
-        noteWhen(&LaunchSequence::locationPermissionDue, "location permission");
-        noteWhen(&LaunchSequence::externalAddressDue, "external address");
-        noteWhen(&LaunchSequence::firstRuleCheckDue, "first rule check");
-        Presence &presence = delegate->presence();
-        QObject::connect(&presence, &Presence::windowOpened, [this] { note("window opened"); });
-        QObject::connect(
-            &presence, &Presence::windowHidden, [this] { note("application hidden"); });
-        QObject::connect(
-            &presence, &Presence::dockIconHiddenChanged, [this] { note("Dock icon"); });
-        QObject::connect(
-            &presence, &Presence::statusItemShownChanged, [this] { note("status item"); });
-        QObject::connect(&delegate->mainWindow(), &MainWindowModel::infoButtonsReset,
-            [this] { note("info buttons reset"); });
-        machine.host.clearJournal();
+        const QString csv = machine.data.filePath(QStringLiteral("vendors.csv"));
+        writeFile(csv, registryOf(count));
+        EXPECT_TRUE(fillVendorTable(csv, path));
     }
-
-    void launch()
+    void saveAddress() { setSaved(QStringLiteral("02:00:00:00:00:AA"), QStringLiteral("Mine")); }
+    void setSaved(const QString &address, const QString &name)
     {
+        machine.settings.set(keys::savedAddresses,
+            QVariantMap{
+                {address, QVariantMap{{savedentry::name, name}, {savedentry::address, address}}}});
+    }
+    /// What an earlier start left behind.
+    void selectAtAnEarlierStart(const QString &device)
+    {
+        machine.settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, device}});
+    }
+    int windowsOpenedByStart()
+    {
+        int opened = 0;
         create();
-        delegate->launch().awakeFromNib();
-        delegate->launch().applicationWillFinishLaunching();
-        delegate->launch().applicationDidFinishLaunching();
+        QObject::connect(&features().presence, &Presence::windowOpened, [&] { ++opened; });
+        start();
+        return opened;
     }
-
-    FakePlatform machine;
-    std::optional<QuillonAppDelegate> delegate;
-    QStringList journal;
+    /// The helper never answers what it is asked, so that nothing follows from its status.
+    void silenceHelper() { machine.helper.mood = FakeHelper::Mood::Hanging; }
 };
+
+TEST_F(LaunchSequenceTest, TheWindowComesBeforeTheNetworkAndTheVendorTexts)
+{
+    create();
+    StateOrder order;
+    order.expect(QStringLiteral("window"), [this] { return !window().versionLabel.isEmpty(); });
+    order.expectSignal(
+        QStringLiteral("network"), features().networks.wifi, &WiFiNetwork::networkButtonShown);
+    order.expect(QStringLiteral("vendor texts"),
+        [this] { return !features().vendors.pane.state().updatedLabel.isEmpty(); });
+    order.follow(features().mainWindow, &MainWindowModel::changed);
+    order.follow(features().vendors.pane, &VendorPaneModel::changed);
+    program->launch().awakeFromNib();
+    EXPECT_EQ(order.seen(), order.expected());
+    EXPECT_EQ(machine.wifi.reads, 1);
+}
+
+TEST_F(LaunchSequenceTest, BeforeTheEndOfTheLaunchTheDatabaseIsInPlaceAndTheHelperIsAsked)
+{
+    create(shippedVendors());
+    program->launch().awakeFromNib();
+    StateOrder order;
+    order.expectSignal(
+        QStringLiteral("application hidden"), features().presence, &Presence::windowHidden);
+    order.expect(QStringLiteral("vendors counted"), [this] {
+        return features().vendors.pane.state().vendorCount ==
+               QStringLiteral("2 Vendor Identifiers");
+    });
+    order.expect(
+        QStringLiteral("helper asked"), [this] { return !machine.helper.journal().isEmpty(); });
+    order.follow(features().vendors.pane, &VendorPaneModel::changed);
+    program->launch().applicationWillFinishLaunching();
+    order.look();
+    EXPECT_EQ(order.seen(), order.expected());
+}
 
 TEST_F(LaunchSequenceTest, TheStepsComeInTheirOrder)
 {
-    launch();
-    EXPECT_THAT(journal,
-        ElementsAre(QStringLiteral("window prepared"), QStringLiteral("application hidden"),
-            QStringLiteral("vendor database"), QStringLiteral("record store"),
-            QStringLiteral("Dock icon"), QStringLiteral("status item"), QStringLiteral("Dock icon"),
-            QStringLiteral("window opened"), QStringLiteral("countdown label"),
-            QStringLiteral("hot keys"), QStringLiteral("vendor count"),
-            QStringLiteral("quick addresses"), QStringLiteral("info buttons reset"),
-            QStringLiteral("vendor field"), QStringLiteral("cloud check"),
-            QStringLiteral("location permission"), QStringLiteral("external address")));
-}
+    saveAddress();
+    machine.settings.set(
+        keys::deviceDict, QVariantMap{{enp1s0, QVariantMap{{record::vendor, chosenVendor}}}});
+    silenceHelper();
+    create(shippedVendors());
+    program->launch().awakeFromNib();
+    program->launch().applicationWillFinishLaunching();
+    // What the steps have to put right.
+    features().mainWindow.setHelperInstalled(true);
+    features().mainWindow.editField(QStringLiteral("02:00:00:00:00:01"));
+    features().rules.countdown.showCountdown({}, QStringLiteral("of the last start"), false);
 
-TEST_F(LaunchSequenceTest, EachStepFindsWhatTheStepsBeforeItDidAndNothingMore)
-{
-    machine.settings.setBool(keys::loginStart, true);
-    create();
-    LaunchSequence &launch = delegate->launch();
-    int checked = 0;
-    const auto at = [&](auto signal, auto check) {
-        QObject::connect(&launch, signal, [&checked, check] {
-            check();
-            ++checked;
-        });
-    };
-    at(&LaunchSequence::vendorDatabaseDue,
-        [&] { EXPECT_TRUE(machine.helper.journal().isEmpty()); });
-    at(&LaunchSequence::recordStoreDue, [&] {
-        EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("authorize")));
-        EXPECT_FALSE(machine.settings.get(keys::externalIPAddress).isValid());
+    StateOrder order;
+    order.expect(QStringLiteral("records open and rules listed"), [this] {
+        return features().history.store.hasManagedObjectContext() &&
+               !features().rules.list.state().symbol.isEmpty();
     });
-    at(&LaunchSequence::loginItemDue, [&] {
-        EXPECT_TRUE(delegate->presence().isStatusItemShown());
-        EXPECT_EQ(machine.userNotifications.authorizationRequests, 0);
+    order.expectSignal(
+        QStringLiteral("Dock icon"), features().presence, &Presence::dockIconHiddenChanged);
+    order.expect(QStringLiteral("external address unknown"), [this] {
+        return machine.settings.getString(keys::externalIPAddress) == QStringLiteral("Unknown...");
     });
-    QObject::connect(&delegate->presence(), &Presence::statusItemShownChanged, [&] {
-        EXPECT_TRUE(machine.settings.get(keys::externalIPAddress).isValid());
-        ++checked;
+    order.expectSignal(
+        QStringLiteral("status item"), features().presence, &Presence::statusItemShownChanged);
+    order.expect(QStringLiteral("leave to notify asked for"),
+        [this] { return machine.userNotifications.authorizationRequests == 1; });
+    order.expectSignal(
+        QStringLiteral("window opened"), features().presence, &Presence::windowOpened);
+    order.expect(QStringLiteral("nothing to apply"), [this] { return !window().updateEnabled; });
+    order.expect(QStringLiteral("no countdown"),
+        [this] { return features().rules.countdown.state().label.isEmpty(); });
+    order.expect(QStringLiteral("vendors counted again"), [this] {
+        return features().vendors.pane.state().vendorCount ==
+               QStringLiteral("3 Vendor Identifiers");
     });
-    at(&LaunchSequence::countdownLabelDue,
-        [&] { EXPECT_EQ(machine.userNotifications.authorizationRequests, 1); });
-    at(&LaunchSequence::quickAddressesDue,
-        [&] { EXPECT_FALSE(machine.host.journal().contains(QStringLiteral("ports"))); });
-    at(&LaunchSequence::vendorFieldDue, [&] {
-        EXPECT_TRUE(machine.host.journal().contains(QStringLiteral("ports")));
-        EXPECT_FALSE(machine.networkChanges.isStarted());
+    order.expect(QStringLiteral("quick addresses"),
+        [this] { return !features().networks.savedLists.state().quickAddresses.isEmpty(); });
+    order.expectSignal(
+        QStringLiteral("buttons"), features().mainWindow, &MainWindowModel::infoButtonsReset);
+    order.expect(QStringLiteral("interfaces read"),
+        [this] { return features().devices.table.contains(enp2s0); });
+    order.expect(QStringLiteral("interface selected"),
+        [this] { return features().devices.currentInterface.device() == enp1s0; });
+    order.expect(QStringLiteral("vendor field"), [this] {
+        return features().vendors.field.state().text == QStringLiteral("Random Address");
     });
-    at(&LaunchSequence::cloudCheckDue, [&] {
-        EXPECT_TRUE(delegate->mainWindow().state().selectionVisible);
-        EXPECT_TRUE(machine.networkChanges.isStarted());
-    });
-    launch.awakeFromNib();
-    launch.applicationWillFinishLaunching();
-    launch.applicationDidFinishLaunching();
-    EXPECT_EQ(checked, 8);
+    order.expect(QStringLiteral("network changes followed"),
+        [this] { return machine.networkChanges.isStarted(); });
+
+    order.follow(features().rules.list, &RulesListModel::changed);
+    order.follow(features().mainWindow, &MainWindowModel::changed);
+    order.follow(features().rules.countdown, &CountdownModel::changed);
+    order.follow(features().vendors.pane, &VendorPaneModel::changed);
+    order.follow(features().vendors.field, &VendorFieldModel::changed);
+    order.follow(features().networks.savedLists, &SavedListsModel::changed);
+    for (const QString &key :
+        {keys::externalIPAddress, keys::deviceDict, keys::currentInterfaceDict}) {
+        order.followSetting(machine.settings, key);
+    }
+    // Counted again means: what changed since the first count is seen.
+    QObject::connect(&features().presence, &Presence::windowOpened,
+        [this] { fillVendors(machine.data.filePath(QStringLiteral("oui.db")), 3); });
+
+    program->launch().applicationDidFinishLaunching();
+    order.look();
+    EXPECT_EQ(order.seen(), order.expected());
 }
 
 TEST_F(LaunchSequenceTest, DefaultsAreRegisteredBeforeTheFirstComponentAndFlushed)
 {
-    QuillonAppDelegate::initialize(machine.settings, {{keys::showInMenu, true}});
-    EXPECT_TRUE(machine.settings.getBool(keys::showInMenu));
-    EXPECT_TRUE(machine.settings.stored().isEmpty()) << "defaults are never stored";
-    EXPECT_EQ(machine.settings.synchronizeCount(), 1);
+    FakePlatform other;
+    QuillonAppDelegate::initialize(other.settings, {{keys::showInMenu, true}});
+    EXPECT_TRUE(other.settings.getBool(keys::showInMenu));
+    EXPECT_TRUE(other.settings.stored().isEmpty()) << "defaults are never stored";
+    EXPECT_EQ(other.settings.synchronizeCount(), 1);
 }
 
 TEST_F(LaunchSequenceTest, WithoutPackagedDefaultsReadsFallBackToNothingAndTheLaunchGoesOn)
 {
-    QuillonAppDelegate::initialize(machine.settings, {});
-    delegate.emplace(machine.platform());
-    delegate->launch().awakeFromNib();
-    delegate->launch().applicationWillFinishLaunching();
-    delegate->launch().applicationDidFinishLaunching();
-    machine.scheduler.advance(1s);
+    FakePlatform other;
+    QuillonAppDelegate::initialize(other.settings, {});
+    QuillonAppDelegate second(other.platform());
+    second.launch().awakeFromNib();
+    second.launch().applicationWillFinishLaunching();
+    second.launch().applicationDidFinishLaunching();
+    other.scheduler.advance(1s);
 
-    EXPECT_FALSE(delegate->presence().isStatusItemShown());
-    EXPECT_EQ(machine.userNotifications.authorizationRequests, 0);
-    EXPECT_EQ(delegate->mainWindow().state().selectedDevice, QStringLiteral("enp1s0"));
+    EXPECT_FALSE(second.features().presence.isStatusItemShown());
+    EXPECT_EQ(other.userNotifications.authorizationRequests, 0);
+    EXPECT_EQ(second.features().mainWindow.state().selectedDevice, enp1s0);
+}
+
+TEST_F(LaunchSequenceTest, RandomizingIsNotOfferedUntilTheHelperIsAsked)
+{
+    create();
+    program->launch().awakeFromNib();
+    features().mainWindow.setHelperInstalled(true);
+    program->launch().applicationWillFinishLaunching();
+    EXPECT_FALSE(window().randomiseEnabled) << "whatever enabled it before";
 }
 
 TEST_F(LaunchSequenceTest, BeforeTheHelperAnsweredNothingCanBeChanged)
 {
-    launch();
-    const MainWindowModel::State &window = delegate->mainWindow().state();
-    EXPECT_FALSE(window.randomiseEnabled);
-    EXPECT_FALSE(window.restoreEnabled);
-    EXPECT_FALSE(window.updateEnabled);
-    EXPECT_FALSE(window.fieldEnabled);
-    EXPECT_FALSE(window.readMeVisible);
+    create();
+    start();
+    EXPECT_FALSE(window().randomiseEnabled);
+    EXPECT_FALSE(window().restoreEnabled);
+    EXPECT_FALSE(window().updateEnabled);
+    EXPECT_FALSE(window().fieldEnabled);
+    EXPECT_FALSE(window().readMeVisible);
 }
 
-TEST_F(LaunchSequenceTest, TheHelperIsAuthorisedBeforeItsVersionIsAsked)
+TEST_F(LaunchSequenceTest, TheHelperIsAuthorizedBeforeItsVersionIsAsked)
 {
-    launch();
+    create();
+    start();
     machine.scheduler.runPending();
     const QStringList asked = machine.helper.journal();
     EXPECT_EQ(asked.indexOf(QStringLiteral("authorize")), 0);
@@ -173,128 +214,92 @@ TEST_F(LaunchSequenceTest, TheHelperIsAuthorisedBeforeItsVersionIsAsked)
     EXPECT_TRUE(asked.contains(QStringLiteral("version")));
 }
 
+TEST_F(LaunchSequenceTest, WithoutTheServiceTheHintIsShownAndTheFieldStaysDisabled)
+{
+    machine.helper.serviceExists = false;
+    run();
+    EXPECT_TRUE(window().readMeVisible);
+    EXPECT_FALSE(window().fieldEnabled);
+    EXPECT_FALSE(window().randomiseEnabled);
+}
+
 TEST_F(LaunchSequenceTest, TheDevicesAreReadAndTheAddressFieldIsFilled)
 {
-    launch();
+    silenceHelper();
+    create();
+    start();
     machine.scheduler.runPending();
-    const MainWindowModel::State &window = delegate->mainWindow().state();
-    EXPECT_EQ(window.devices, (QStringList{QStringLiteral("enp1s0"), QStringLiteral("enp2s0")}));
-    EXPECT_EQ(window.fieldText, QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(window().devices, (QStringList{enp1s0, enp2s0}));
+    EXPECT_EQ(window().fieldText, QStringLiteral("3C:22:FB:00:00:01"));
 }
 
-TEST_F(LaunchSequenceTest, TheFirstRuleCheckComesOneSecondAfterStartup)
+TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
 {
-    launch();
-    machine.scheduler.advance(999ms);
-    EXPECT_FALSE(journal.contains(QStringLiteral("first rule check")));
-    machine.scheduler.advance(1ms);
-    EXPECT_TRUE(journal.contains(QStringLiteral("first rule check")));
+    selectAtAnEarlierStart(enp2s0);
+    silenceHelper();
+    create();
+    StateOrder order;
+    order.expect(QStringLiteral("devices offered"), [this] {
+        return window().devices == QStringList{enp1s0, enp2s0};
+    });
+    order.expect(QStringLiteral("network changes followed"),
+        [this] { return machine.networkChanges.isStarted(); });
+    order.follow(features().mainWindow, &MainWindowModel::changed);
+    start();
+    order.look();
+    EXPECT_EQ(order.seen(), order.expected());
+    machine.scheduler.runPending();
+    EXPECT_EQ(window().selectedDevice, enp2s0);
+    EXPECT_EQ(window().fieldText, QStringLiteral("3C:22:FB:00:00:02"));
 }
 
-TEST_F(LaunchSequenceTest, StartedByTheUserTheWindowOpensBeforeStartup)
-{
-    launch();
-    EXPECT_LT(journal.indexOf(QStringLiteral("window opened")),
-        journal.indexOf(QStringLiteral("hot keys")));
-    EXPECT_FALSE(delegate->launch().startedFromLogin());
-}
-
-TEST_F(LaunchSequenceTest, StartedAtLoginAndHiddenNoWindowOpensButDevicesAreReadAndRulesChecked)
+TEST_F(LaunchSequenceTest, StartedAtLoginAndHiddenNoWindowOpensButDevicesAreRead)
 {
     machine.runningApplications.running.insert(loginHelper);
     machine.settings.setBool(keys::hideOnLaunch, true);
-    launch();
-    machine.scheduler.advance(1s);
-
-    EXPECT_FALSE(journal.contains(QStringLiteral("window opened")));
+    EXPECT_EQ(windowsOpenedByStart(), 0);
     EXPECT_TRUE(machine.host.journal().contains(QStringLiteral("ports")));
-    EXPECT_EQ(journal.count(QStringLiteral("first rule check")), 1);
+    EXPECT_TRUE(program->launch().startupCheck());
 }
 
 TEST_F(LaunchSequenceTest, StartedAtLoginWithoutHidingTheWindowOpens)
 {
     machine.runningApplications.running.insert(loginHelper);
-    launch();
-    EXPECT_TRUE(journal.contains(QStringLiteral("window opened")));
-    EXPECT_TRUE(delegate->launch().startedFromLogin());
+    EXPECT_EQ(windowsOpenedByStart(), 1);
 }
 
 TEST_F(LaunchSequenceTest, StartedByTheUserHidingDoesNotApply)
 {
     machine.settings.setBool(keys::hideOnLaunch, true);
-    launch();
-    EXPECT_TRUE(journal.contains(QStringLiteral("window opened")));
+    EXPECT_EQ(windowsOpenedByStart(), 1);
+    EXPECT_FALSE(program->launch().startupCheck());
 }
 
-TEST_F(LaunchSequenceTest, TheLoginStartIsKnownUntilTheFirstRuleCheckHasRun)
+TEST_F(LaunchSequenceTest, AKnownExternalAddressIsKept)
 {
-    machine.runningApplications.running.insert(loginHelper);
-    launch();
-    bool knownAtTheCheck = false;
-    QObject::connect(&delegate->launch(), &LaunchSequence::firstRuleCheckDue,
-        [&] { knownAtTheCheck = delegate->launch().startedFromLogin(); });
-    machine.scheduler.advance(1s);
-
-    EXPECT_TRUE(knownAtTheCheck);
-    EXPECT_FALSE(delegate->launch().startedFromLogin());
-}
-
-TEST_F(LaunchSequenceTest, TheLoginItemIsPreparedOnlyWhenTheProgramStartsAtLogin)
-{
-    machine.settings.setBool(keys::loginStart, true);
-    launch();
-    EXPECT_EQ(journal.indexOf(QStringLiteral("login item")),
-        journal.indexOf(QStringLiteral("window opened")) - 1);
-}
-
-TEST_F(LaunchSequenceTest, AnUnsetExternalAddressIsStoredAsUnknownAndASetOneIsKept)
-{
-    launch();
-    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("Unknown..."));
-
-    FakePlatform other;
-    other.settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
-    QuillonAppDelegate second(other.platform());
-    second.launch().applicationDidFinishLaunching();
-    EXPECT_EQ(other.settings.getString(keys::externalIPAddress), QStringLiteral("198.51.100.7"));
+    machine.settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    create();
+    start();
+    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("198.51.100.7"));
 }
 
 TEST_F(LaunchSequenceTest, QuittingForgetsTheExternalAddressDurably)
 {
-    launch();
+    run();
     machine.settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
     machine.settings.clearJournal();
-    delegate->launch().applicationWillTerminate();
+    program->launch().applicationWillTerminate();
     EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("Unknown..."));
     EXPECT_EQ(machine.settings.journal().last(), QStringLiteral("flush"));
 }
 
 TEST_F(LaunchSequenceTest, ASecondStartOpensTheWindow)
 {
-    launch();
-    journal.clear();
-    EXPECT_TRUE(delegate->launch().applicationShouldHandleReopen());
-    EXPECT_THAT(journal, ElementsAre(QStringLiteral("window opened")));
-}
-
-TEST_F(LaunchSequenceTest, ALoginItemStillRunningIsToldToQuit)
-{
-    launch();
-    EXPECT_TRUE(machine.distributed.posted.contains(
-        {notifications::terminateLoginHelper, notifications::applicationObject}));
-}
-
-TEST_F(LaunchSequenceTest, AfterTheProgramsEndNothingObservesAnyMore)
-{
-    launch();
-    machine.scheduler.advance(1s);
-    delegate.reset();
-    EXPECT_FALSE(machine.distributed.hasObservers());
-    EXPECT_FALSE(machine.settings.hasObservers());
-    EXPECT_FALSE(machine.notifications.hasObservers());
-    machine.settings.setBool(keys::lowerCaseHEX, true);
-    machine.notifications.post(notifications::networkChanged);
-    machine.scheduler.runPending();
+    run();
+    int opened = 0;
+    QObject::connect(&features().presence, &Presence::windowOpened, [&] { ++opened; });
+    EXPECT_TRUE(program->launch().applicationShouldHandleReopen());
+    EXPECT_EQ(opened, 1);
 }
 
 } // namespace

@@ -20,11 +20,16 @@
 namespace quillon::test {
 
 /// The whole program on a machine of fakes, not started yet: what a test puts into files and
-/// settings is there from the beginning.
+/// settings is there from the beginning. Not started, the program follows no setting, broadcast or
+/// change of the network.
 class ProgramOnFakes : public ::testing::Test
 {
 protected:
-    ProgramOnFakes() { machine.settings.registerDefaults({{keys::displayNotifications, true}}); }
+    ProgramOnFakes()
+    {
+        machine.settings.registerDefaults(
+            {{keys::displayNotifications, true}, {keys::showInMenu, true}});
+    }
 
     /// Puts the program together; nothing has happened yet.
     void create(const QString &shippedVendorDatabase = {})
@@ -48,16 +53,23 @@ protected:
         machine.scheduler.advance(std::chrono::seconds(2));
         machine.helper.clearJournal();
     }
-    /// Runs `check` at the launch's step, after what the program does there.
-    template <typename Step, typename Check>
-    void at(Step step, Check check)
+    /// Chooses the interface in the window, and lets follow what follows.
+    void select(const QString &device)
     {
-        QObject::connect(&program->launch(), step, [this, check] {
-            ++stepsSeen;
-            check();
-        });
+        features().mainWindow.changeInterfacefromPopup(device);
+        machine.scheduler.runPending();
     }
 
+    Features &features() const { return program->features(); }
+    const MainWindowModel::State &window() const { return features().mainWindow.state(); }
+    QStringList menuTitles() const
+    {
+        QStringList titles;
+        for (const MenuEntry &entry : features().statusMenu.entries()) {
+            titles << entry.title;
+        }
+        return titles;
+    }
     QString recordsPath() const { return machine.data.filePath(QStringLiteral("Quillon.sqlite")); }
     /// An enabled rule that gives `device` a random address once, on any network.
     static QVariantMap randomOnce(const QString &device, const QString &name)
@@ -97,9 +109,9 @@ protected:
         const auto container =
             PersistentContainer::load(quillonModel(), recordsPath(), machine.scheduler);
         ASSERT_TRUE(container);
-        ManagedObjectContext &context = container.value()->viewContext();
-        fill(*context.insertNewObject(model::Rule), values);
-        ASSERT_FALSE(context.save());
+        ManagedObjectContext &records = container.value()->viewContext();
+        fill(*records.insertNewObject(model::Rule), values);
+        ASSERT_FALSE(records.save());
     }
     /// A rule that the program itself got.
     ManagedObjectPtr insertRule(const QVariantMap &values)
@@ -109,7 +121,7 @@ protected:
         context().processPendingChanges();
         return rule;
     }
-    ManagedObjectContext &context() { return program->records().store.managedObjectContext(); }
+    ManagedObjectContext &context() { return features().history.store.managedObjectContext(); }
     ManagedObjectList history()
     {
         const auto records = context().fetch({model::Connection, {}, {}});
@@ -138,8 +150,7 @@ protected:
     FakePlatform machine;
     const QHash<QString, QString> factory{
         {enp1s0, machine.host.addressOf(enp1s0)}, {enp2s0, machine.host.addressOf(enp2s0)}};
-    std::optional<QuillonAppDelegate> program;
-    int stepsSeen = 0;
+    mutable std::optional<QuillonAppDelegate> program;
 };
 
 } // namespace quillon::test

@@ -6,8 +6,10 @@
 #include "base/NotificationNames.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
+#include "devices/RandomAddress.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeNotifier.h"
+#include "fakes/FakeRandomSource.h"
 #include "helperlink/XPCMethods.h"
 #include "platform/NotificationCenter.h"
 
@@ -32,7 +34,7 @@ protected:
         select(en1);
         // The program asserts its main thread: the first connection is made on it.
         changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{
-            settings, scheduler, notifications, notifier, xpc, table, current});
+            settings, scheduler, notifications, notifier, xpc, table, current, randomAddress});
         QObject::connect(changer.get(), &AddressChanger::addressChanged,
             [this](const QString &device, const QString &requested) {
                 order << QStringLiteral("history %1 %2").arg(device, requested);
@@ -70,6 +72,8 @@ protected:
     FakeNotifier notifier;
     FakeHelper helper{scheduler, host};
     XPCMethods xpc{helper, scheduler, notifications};
+    FakeRandomSource random;
+    RandomAddress randomAddress{random, table};
     CurrentInterface current{settings, scheduler, table};
     std::unique_ptr<AddressChanger> changer;
     QStringList order;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AddressChangeFixture.h"
 #include "devices/MenuItem.h"
-#include "devices/RandomAddress.h"
-#include "fakes/FakeRandomSource.h"
 
 namespace quillon::test {
 namespace {
@@ -17,11 +15,6 @@ protected:
         deviceItem->append(QStringLiteral("unused"));
     }
 
-    FakeRandomSource random;
-    RandomAddress randomAddress{
-        random, table, [this](const QString &device, const QString &address) {
-            changer->updateMacAddressWithAddress(device, address);
-        }};
     // Device, factory address, current address, as they stand in the menu one above the other.
     MenuItem menu{QString()};
     MenuItem *deviceItem = &menu.append(QStringLiteral("Ethernet \u00B7 en0"));
@@ -33,7 +26,7 @@ protected:
 
 TEST_F(EntryPoints, RandomizeActsOnTheCurrentInterface)
 {
-    changer->randomizeAddress(randomAddress);
+    changer->randomizeAddress();
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en1), QLatin1String("c2:ab:cd:ef:00:09"));
 }
@@ -43,7 +36,7 @@ TEST_F(EntryPoints, RandomizeFollowsTheVendorOfTheDevice)
     QVariantMap record = table.record(en1);
     record[record::vendor] = QStringLiteral("Some Maker Inc. (A2B2C3)");
     storeRecord(en1, record);
-    changer->randomizeAddress(randomAddress);
+    changer->randomizeAddress();
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en1), QLatin1String("a2:b2:c3:ef:00:09"));
 }
@@ -52,7 +45,7 @@ TEST_F(EntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
 {
     random.fail();
     helper.mood = FakeHelper::Mood::Refusing;
-    changer->randomizeAddress(randomAddress);
+    changer->randomizeAddress();
     scheduler.runPending();
     EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Wi-Fi Address was not Changed"));
 }
@@ -83,7 +76,7 @@ TEST_F(EntryPoints, RestoreGivesTheCurrentInterfaceItsFactoryAddress)
 
 TEST_F(EntryPoints, AMenuRandomizesTheDeviceTwoPlacesAboveItsParent)
 {
-    changer->randomizeAddress(randomize, randomAddress);
+    changer->randomizeAddress(randomize);
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en0), QLatin1String("c2:ab:cd:ef:00:09"));
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
@@ -96,7 +89,7 @@ TEST_F(EntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
     plain.append(QStringLiteral("anything"));
     const MenuItem &action =
         plain.append(QStringLiteral("address")).append(QStringLiteral("Randomize"));
-    changer->randomizeAddress(action, randomAddress);
+    changer->randomizeAddress(action);
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en0), QLatin1String("c2:ab:cd:ef:00:09"));
 }
@@ -106,7 +99,7 @@ TEST_F(EntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
     QVariantMap devices = table.devices();
     devices.remove(en0);
     store(devices);
-    changer->randomizeAddress(randomize, randomAddress);
+    changer->randomizeAddress(randomize);
     scheduler.runPending();
     EXPECT_TRUE(helper.journal().isEmpty());
     EXPECT_TRUE(notifier.messages().isEmpty());
@@ -143,8 +136,8 @@ TEST_F(EntryPoints, AMenuRestoreOfAnUnknownDeviceDoesNothing)
 
 TEST_F(EntryPoints, AMenuItemInTheWrongPlaceDoesNothing)
 {
-    changer->randomizeAddress(*deviceItem, randomAddress);
-    changer->randomizeAddress(restore, randomAddress);
+    changer->randomizeAddress(*deviceItem);
+    changer->randomizeAddress(restore);
     changer->restoreDefaultAddress(*deviceItem);
     changer->restoreDefaultAddress(menu);
     scheduler.runPending();

@@ -25,12 +25,12 @@ TEST_F(CountdownClock, ThatJumpsBeyondTheEndStartsAgainWithoutAChange)
     scheduler.setClock(8h);
     pass(1s);
     EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("-7:-58:-11"));
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 2);
     pass(119s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     pass(1s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
 }
 
 TEST_F(CountdownClock, ThatJumpsOntoTheEndChangesOnce)
@@ -39,10 +39,10 @@ TEST_F(CountdownClock, ThatJumpsOntoTheEndChangesOnce)
     pass(10s);
     scheduler.setClock(109s);
     pass(1s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     EXPECT_EQ(started(), 2);
     pass(119s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
 }
 
 TEST_F(CountdownClock, ThatIsASecondLateAtTheEndStartsAgainWithoutAChange)
@@ -51,7 +51,7 @@ TEST_F(CountdownClock, ThatIsASecondLateAtTheEndStartsAgainWithoutAChange)
     pass(119s);
     scheduler.setClock(1s);
     pass(1s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 2);
 }
 
@@ -61,7 +61,7 @@ TEST_F(CountdownClock, ThatIsLessThanASecondLateStillChanges)
     pass(119s);
     scheduler.setClock(999ms);
     pass(1s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
 }
 
 TEST_F(CountdownClock, ThatIsSetBackMakesTheCountdownLonger)
@@ -72,9 +72,9 @@ TEST_F(CountdownClock, ThatIsSetBackMakesTheCountdownLonger)
     pass(1s);
     EXPECT_EQ(display(en0), in + QStringLiteral("03:00:59"));
     pass(3h);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     pass(59s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
 }
 
 TEST_F(CountdownClock, ThatIsSetBackOverTheMinuteWarnsAgainWhenItPassesItAgain)
@@ -88,7 +88,7 @@ TEST_F(CountdownClock, ThatIsSetBackOverTheMinuteWarnsAgainWhenItPassesItAgain)
     EXPECT_EQ(warnings(), 1);
     pass(1s);
     EXPECT_EQ(warnings(), 2);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
 }
 
 TEST_F(CountdownClock, NeverMakesTwoChangesAtOnceWhateverItDoes)
@@ -97,19 +97,19 @@ TEST_F(CountdownClock, NeverMakesTwoChangesAtOnceWhateverItDoes)
     timers->startCountDownTimer(en0);
     const std::chrono::milliseconds jumps[] = {
         1s, -1s, 59s, -59s, 60s, -60s, 61s, 999ms, -999ms, 8h, -8h, 365 * 24h, -365 * 24h};
-    for (const std::chrono::milliseconds before : {0ms, 1000ms, 30'000ms, 58'000ms, 59'000ms}) {
+    for (const std::chrono::milliseconds wait : {0ms, 1000ms, 30'000ms, 58'000ms, 59'000ms}) {
         for (const auto jump : jumps) {
             timers->startCountDownTimer(en0);
-            pass(before);
-            changes.clear();
+            pass(wait);
+            const auto before = changes().size();
             scheduler.setClock(jump);
             pass(1s);
-            EXPECT_LE(changes.size(), 1);
-            const auto soFar = changes.size();
+            const auto soFar = changes().size();
+            EXPECT_LE(soFar, before + 1);
             pass(1s);
-            EXPECT_LE(changes.size(), 1) << before.count() << " " << jump.count();
+            EXPECT_LE(changes().size(), before + 1) << wait.count() << " " << jump.count();
             EXPECT_EQ(timers->timers().size(), 1);
-            EXPECT_GE(changes.size(), soFar);
+            EXPECT_GE(changes().size(), soFar);
         }
     }
 }
@@ -143,7 +143,7 @@ private:
 TEST_F(CountdownClock, LetsTwoTicksMeetOneZeroAndStillChangesOnce)
 {
     HeldUpScheduler slow;
-    CountdownTimers late({slow, notifications, notifier, table, randomAddress});
+    CountdownTimers late({slow, notifications, notifier, table, changer});
     late.startCountDownTimer(en0);
     slow.setClock(500ms);
     slow.isHeldUp = true;
@@ -153,9 +153,10 @@ TEST_F(CountdownClock, LetsTwoTicksMeetOneZeroAndStillChangesOnce)
     });
     slow.advance(120s);
     EXPECT_EQ(zeros, 2);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     slow.goOn();
-    EXPECT_EQ(changes.size(), 1);
+    scheduler.runPending();
+    EXPECT_EQ(changes().size(), 1);
     EXPECT_EQ(started(), 2);
 }
 
@@ -168,7 +169,7 @@ TEST_F(CountdownClock, IsNotAskedForALengthThatIsNotThere)
         const int before = started();
         pass(5s);
         EXPECT_EQ(started() - before, 5) << "it starts again at every tick";
-        EXPECT_TRUE(changes.isEmpty());
+        EXPECT_TRUE(changes().isEmpty());
     }
 }
 
@@ -178,7 +179,7 @@ TEST_F(CountdownClock, OfACountdownWithoutLengthMayTickEarly)
     timers->startCountDownTimer(en0);
     scheduler.setClock(-3ms);
     pass(1s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 2);
 }
 
@@ -200,7 +201,7 @@ TEST_F(CountdownClock, MayFindARecordThatIsNone)
     settings.set(keys::deviceDict, QStringLiteral("text"));
     timers->startCountDownTimer(QString());
     pass(3s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
 }
 
 /// Three years of countdowns of sixteen hours and a bit. What lies between the last seconds of one
@@ -214,9 +215,9 @@ TEST_F(CountdownClock, OfThreeYearsGivesEveryChangeAtItsTime)
     for (int round = 1; round <= rounds; ++round) {
         scheduler.setClock(999min - 5s);
         pass(4s);
-        ASSERT_EQ(changes.size(), round - 1);
+        ASSERT_EQ(changes().size(), round - 1);
         pass(1s);
-        ASSERT_EQ(changes.size(), round);
+        ASSERT_EQ(changes().size(), round);
     }
     EXPECT_EQ(begin.secsTo(scheduler.now()), rounds * 999LL * 60);
     EXPECT_EQ(started(), rounds + 1);
@@ -228,7 +229,7 @@ TEST_F(CountdownClock, OfAWholeDayTicksEverySecondWithoutDrift)
     timers->startCountDownTimer(en0);
     pass(24h);
     EXPECT_EQ(ticks, 86'400);
-    EXPECT_EQ(changes.size(), 288);
+    EXPECT_EQ(changes().size(), 288);
 }
 
 } // namespace

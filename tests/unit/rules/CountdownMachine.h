@@ -4,8 +4,11 @@
 
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
+#include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
+#include "fakes/FakeHelper.h"
 #include "fakes/FakeInterfaceAddresses.h"
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeNotifier.h"
@@ -13,11 +16,13 @@
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/QtPrinting.h"
+#include "helperlink/XPCMethods.h"
 #include "platform/NotificationCenter.h"
 #include "rules/CountdownTimers.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace quillon::test {
@@ -28,8 +33,23 @@ inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
     PrintTo(message.body, out);
 }
 
-/// Two interfaces whose rules say how long a countdown takes, and a list of the changes that
-/// countdowns asked for.
+/// Gives what was put into it, then other bytes every time.
+class CountingRandomSource : public FakeRandomSource
+{
+public:
+    QByteArray bytes(int count) override
+    {
+        ++made;
+        const QByteArray given = FakeRandomSource::bytes(count);
+        const bool isSpent = given.count('\0') == count;
+        return isSpent ? QByteArray::number(made).rightJustified(count, '0') : given;
+    }
+
+    int made = 0; ///< random addresses asked for
+};
+
+/// Two interfaces whose rules say how long a countdown takes, and a helper that
+/// changes nothing, so that each asked for change is another one.
 class CountdownMachine : public ::testing::Test
 {
 protected:
@@ -37,14 +57,16 @@ protected:
     {
         table.updateNetWorkInterfaces();
         ruleSays(en0, 2);
+        helper.mood = FakeHelper::Mood::Lying;
         QObject::connect(timers.get(), &CountdownTimers::ticked,
             [this](const QString &device, const QString &text, bool isPaused) {
                 ++ticks;
                 shown = device + QStringLiteral(": ") + text;
                 shownAsPaused = isPaused;
             });
-        QObject::connect(timers.get(), &CountdownTimers::timerLabelStale, [this] { ++hidden; });
-        QObject::connect(timers.get(), &CountdownTimers::timerButtonsStale, [this] { ++reset; });
+        QObject::connect(timers.get(), &CountdownTimers::stopped, [this] { ++hidden; });
+        QObject::connect(
+            timers.get(), &CountdownTimers::pauseOrResumeRequested, [this] { ++reset; });
     }
 
     void ruleSays(const QString &device, const QVariant &minutes)
@@ -70,15 +92,22 @@ protected:
         const QVariantMap label = timer(device).value(QStringLiteral("label")).toMap();
         return label.value(QStringLiteral("display")).toString();
     }
-    int started() const
+    /// What the helper was asked, in order: device, blank, address.
+    QStringList changes() const
     {
-        int count = 0;
-        for (const FakeNotifier::Message &message : notifier.messages()) {
-            count += message.title == QStringLiteral("Quillon Timer started");
+        QStringList asked;
+        for (const FakeHelper::Change &change : helper.changes()) {
+            asked << change.device + QLatin1Char(' ') + change.address;
         }
-        return count;
+        return asked;
     }
-    int warnings() const { return static_cast<int>(notifier.messages().size()) - started(); }
+    int told(const QString &title) const
+    {
+        return static_cast<int>(std::ranges::count(notifier.messages(), title,
+            [](const FakeNotifier::Message &one) { return one.title; }));
+    }
+    int started() const { return told(QStringLiteral("Quillon Timer started")); }
+    int warnings() const { return told(QStringLiteral("Quillon")); }
 
     const QString en0 = QStringLiteral("en0");
     const QString en1 = QStringLiteral("en1");
@@ -89,14 +118,15 @@ protected:
     DeviceTable table{settings, host, addresses};
     NotificationCenter notifications;
     FakeNotifier notifier;
-    FakeRandomSource random;
-    QStringList changes;
-    RandomAddress randomAddress{
-        random, table, [this](const QString &device, const QString &address) {
-            changes << device + QLatin1Char(' ') + address;
-        }};
+    CountingRandomSource random;
+    RandomAddress randomAddress{random, table};
+    FakeHelper helper{scheduler, host};
+    XPCMethods xpc{helper, scheduler, notifications};
+    CurrentInterface current{settings, scheduler, table};
+    AddressChanger changer{
+        {settings, scheduler, notifications, notifier, xpc, table, current, randomAddress}};
     std::unique_ptr<CountdownTimers> timers = std::make_unique<CountdownTimers>(
-        CountdownTimers::Collaborators{scheduler, notifications, notifier, table, randomAddress});
+        CountdownTimers::Collaborators{scheduler, notifications, notifier, table, changer});
     int ticks = 0;
     int hidden = 0;
     int reset = 0;

@@ -52,14 +52,14 @@ TEST_F(Countdown, ChangesTheAddressAtZeroAndStartsAgain)
     random.put(QByteArray::fromHex("3f0102030405"));
     timers->startCountDownTimer(en0);
     pass(119s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 1);
     pass(1s);
-    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
     EXPECT_EQ(started(), 2);
     EXPECT_EQ(timer(en0).value(QStringLiteral("startDate")).toDateTime(), scheduler.now());
     pass(120s);
-    EXPECT_EQ(changes.size(), 2);
+    EXPECT_EQ(changes().size(), 2);
     EXPECT_EQ(started(), 3);
 }
 
@@ -68,7 +68,7 @@ TEST_F(Countdown, ChangesAfterTheTickHasDoneItsBookkeeping)
     timers->startCountDownTimer(en0);
     QStringList order;
     notifications.addObserver(notifications::updateOverview,
-        [&](const auto &) { order << QString::number(changes.size()); });
+        [&](const auto &) { order << QString::number(random.made); });
     pass(119s);
     order.clear();
     pass(1s);
@@ -81,7 +81,7 @@ TEST_F(Countdown, GivesARandomAddressWhateverTheVendorOfTheRule)
     random.put(QByteArray::fromHex("3f0102030405"));
     timers->startCountDownTimer(en0);
     pass(120s);
-    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
 }
 
 TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
@@ -94,7 +94,7 @@ TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
     settings.set(keys::deviceDict, devices);
     timers->startCountDownTimer(en0);
     pass(120s);
-    EXPECT_EQ(changes, QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});
 }
 
 TEST_F(Countdown, TakesItsLengthFromTheRuleInForceAtEachStart)
@@ -102,12 +102,12 @@ TEST_F(Countdown, TakesItsLengthFromTheRuleInForceAtEachStart)
     timers->startCountDownTimer(en0);
     ruleSays(en0, 5);
     pass(120s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     EXPECT_EQ(timer(en0).value(QStringLiteral("interval")), QVariant(5));
     pass(299s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     pass(1s);
-    EXPECT_EQ(changes.size(), 2);
+    EXPECT_EQ(changes().size(), 2);
 }
 
 TEST_F(Countdown, OfEachInterfaceRunsOnItsOwn)
@@ -118,9 +118,9 @@ TEST_F(Countdown, OfEachInterfaceRunsOnItsOwn)
     timers->startCountDownTimer(en1);
     EXPECT_EQ(timers->timers().keys(), (QStringList{en0, en1}));
     pass(90s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     pass(90s);
-    EXPECT_EQ(changes.last().left(3), en1);
+    EXPECT_EQ(changes().last().left(3), en1);
 }
 
 TEST_F(Countdown, RestartedLeavesOneTimer)
@@ -132,9 +132,9 @@ TEST_F(Countdown, RestartedLeavesOneTimer)
     pass(10s);
     EXPECT_EQ(ticks, 10);
     pass(109s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     pass(1s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
 }
 
 TEST_F(Countdown, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
@@ -147,7 +147,7 @@ TEST_F(Countdown, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
     pass(58s);
     EXPECT_EQ(warnings(), 1);
     pass(2s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     EXPECT_EQ(warnings(), 2) << "the next minute has begun";
 }
 
@@ -156,26 +156,23 @@ TEST_F(Countdown, OfMoreMinutesChangesWithoutWarning)
     ruleSays(en0, 5);
     timers->startCountDownTimer(en0);
     pass(301s);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes().size(), 1);
     EXPECT_EQ(warnings(), 0);
 }
 
 TEST_F(Countdown, IsShownInItsMenuItemBehindFourBlanks)
 {
-    QStringList titles;
-    QObject::connect(timers.get(), &CountdownTimers::menuItemTitled,
-        [&titles](const QString &device, const QString &title) { titles << device + title; });
+    const auto title = [this] {
+        return timer(en0).value(QStringLiteral("label")).toMap().value(QStringLiteral("menu"));
+    };
     timers->startCountDownTimer(en0);
     pass(1s);
-    EXPECT_TRUE(titles.isEmpty());
+    EXPECT_FALSE(title().isValid());
     timers->setMenuItemShown(en0, true);
     pass(1s);
-    EXPECT_EQ(titles, QStringList{en0 + QStringLiteral("    ") + in + QStringLiteral("00:01:58")});
-    EXPECT_EQ(timer(en0).value(QStringLiteral("label")).toMap().value(QStringLiteral("menu")),
-        QVariant(QStringLiteral("    ") + in + QStringLiteral("00:01:58")));
+    EXPECT_EQ(title(), QVariant(QStringLiteral("    ") + in + QStringLiteral("00:01:58")));
     timers->setMenuItemShown(en0, false);
-    pass(1s);
-    EXPECT_EQ(titles.size(), 1);
+    EXPECT_FALSE(title().isValid());
     timers->setMenuItemShown(en1, true);
 }
 
@@ -233,7 +230,7 @@ TEST_F(StoppedCountdown, TicksNoMore)
     EXPECT_FALSE(scheduler.hasTimers());
     pass(10min);
     EXPECT_EQ(ticks, 0);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
     EXPECT_TRUE(timers->timers().isEmpty());
 }
 
@@ -248,20 +245,20 @@ TEST_F(StoppedCountdown, HidesTheLabel)
     timers->stopCountdownTimer(QStringLiteral("en7"));
     EXPECT_EQ(hidden, 1) << "another one runs";
     timers->stopCountdownTimer(en1);
-    EXPECT_EQ(hidden, 3) << "its own, and that of the last one";
+    EXPECT_EQ(hidden, 2);
     timers->stopCountdownTimer(en1);
-    EXPECT_EQ(hidden, 4);
+    EXPECT_EQ(hidden, 3) << "none is running";
 }
 
 TEST_F(StoppedCountdown, BetweenItsZeroAndTheChangeMakesNone)
 {
+    int late = 0;
     timers->startCountDownTimer(en0);
-    const auto token =
-        notifications.addObserver(notifications::updateOverview, [this](const auto &) {
-            if (display(en0).endsWith(QStringLiteral("00:00:00"))) {
-                scheduler.onMain([this] { changes << QStringLiteral("late"); });
-            }
-        });
+    const auto token = notifications.addObserver(notifications::updateOverview, [&](const auto &) {
+        if (display(en0).endsWith(QStringLiteral("00:00:00"))) {
+            scheduler.onMain([&] { ++late; });
+        }
+    });
     QObject::connect(
         timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
             if (text.endsWith(QStringLiteral("00:00:00"))) {
@@ -270,7 +267,8 @@ TEST_F(StoppedCountdown, BetweenItsZeroAndTheChangeMakesNone)
         });
     pass(125s);
     notifications.removeObserver(token);
-    EXPECT_EQ(changes, QStringList{QStringLiteral("late")});
+    EXPECT_EQ(late, 1);
+    EXPECT_EQ(changes(), QStringList());
     EXPECT_TRUE(timers->timers().isEmpty());
 }
 
@@ -293,7 +291,7 @@ TEST_F(StoppedCountdown, WithTheProgramLeavesNoTimer)
     timers.reset();
     EXPECT_FALSE(scheduler.hasTimers());
     pass(10min);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
 }
 
 TEST_F(StoppedCountdown, WithTheProgramDropsAChangeThatIsQueued)
@@ -306,7 +304,7 @@ TEST_F(StoppedCountdown, WithTheProgramDropsAChangeThatIsQueued)
             }
         });
     pass(125s);
-    EXPECT_TRUE(changes.isEmpty());
+    EXPECT_TRUE(changes().isEmpty());
 }
 
 } // namespace

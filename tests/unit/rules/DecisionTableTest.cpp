@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "RuleMachine.h"
+#include "unit/rules/RuleMachine.h"
 
 #include <QFile>
 #include <QMap>
@@ -77,6 +77,8 @@ protected:
         saveNetwork(QStringLiteral("Office"), QStringLiteral("Office"),
             QStringLiteral("02:00:00:00:cc:01"), false);
         select(QStringLiteral("bridge0"));
+        // Nothing changes, whatever is asked for.
+        helper.mood = FakeHelper::Mood::Lying;
         for (int slot = 0; slot < kinds.size(); ++slot) {
             m_rules.append(addRule({.name = QString()}));
         }
@@ -87,20 +89,11 @@ protected:
         const QString device = situation.isWifi ? en1 : en0;
         arrangeRules(situation, device);
         arrangeMachine(situation, device);
-        carriedOut.clear();
-        RuleEvaluation fresh({settings, scheduler, notifications, table, current, wifi,
-            externalAddress, reachability, recorder, changer, store, invariants, queries, timers,
-            [&situation] { return situation.launchedAtLogin; }});
-        if (situation.asked == Asked::Event) {
-            giveLease(device);
-            fresh.networkChanged();
-        } else {
-            const bool isForAll = situation.asked == Asked::Change;
-            fresh.checkDeviceForCurrentRuleAndChange(
-                isForAll ? allDevices : device, situation.asked != Asked::Status);
-        }
-        Verdict verdict{
-            hasRule(device).toInt(), ruleInForce(device), loginRuleInForce(device), carriedOut, {}};
+        const qsizetype asked = helper.changes().size();
+        ask(situation, device);
+        scheduler.runPending();
+        Verdict verdict{hasRule(device).toInt(), ruleInForce(device), loginRuleInForce(device),
+            carriedOutSince(asked), {}};
         for (const QString &kind : kinds) {
             const Rule &rule = m_rules.at(situation.order.indexOf(kind));
             if (rule.device() == device && rule.active()) {
@@ -111,6 +104,41 @@ protected:
     }
 
 private:
+    /// Of a program that has carried out nothing yet.
+    void ask(const Situation &situation, const QString &device)
+    {
+        RuleExecution fresh({scheduler, table, changer, timers});
+        RuleEvaluation evaluator(
+            {settings, notifications, table, current, store, invariants, queries, fresh});
+        switch (situation.asked) {
+        case Asked::Event:
+            giveLease(device);
+            NetworkChange(
+                {externalAddress, table, wifi, current, reachability, fresh, evaluator, list})
+                .networkChanged();
+            break;
+        case Asked::Status:
+            evaluator.checkDeviceForCurrentRuleAndChange(device, RuleChange::None);
+            break;
+        case Asked::Switch:
+            evaluator.checkDeviceForCurrentRuleAndChange(device, RuleChange::NetworkRule);
+            break;
+        case Asked::Change:
+            evaluator.checkDeviceForCurrentRuleAndChange(
+                allDevices, situation.launchedAtLogin ? RuleChange::LoginAndNetworkRule
+                                                      : RuleChange::NetworkRule);
+            break;
+        }
+    }
+    QStringList carriedOutSince(qsizetype asked) const
+    {
+        QStringList done;
+        for (qsizetype index = asked; index < helper.changes().size(); ++index) {
+            done << kinds.value(helper.changes().at(index).address.mid(7, 1).toInt());
+        }
+        return done;
+    }
+
     void arrangeRules(const Situation &situation, const QString &device)
     {
         const ManagedObjectContext::UndoDisabled undoDisabled(context());
@@ -158,10 +186,6 @@ private:
     }
 
     QList<Rule> m_rules;
-    QStringList carriedOut;
-    RandomAddress recorder{random, table, [this](const QString &, const QString &address) {
-                               carriedOut << kinds.value(address.mid(7, 1).toInt());
-                           }};
 };
 
 Verdict expectedVerdict(const QStringList &columns)

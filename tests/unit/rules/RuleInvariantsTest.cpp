@@ -3,13 +3,16 @@
 #include "rules/RuleInvariants.h"
 
 #include "base/NotificationNames.h"
+#include "devices/DeviceTable.h"
+#include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeNetworkHost.h"
 #include "platform/NotificationCenter.h"
+#include "rules/RuleQueries.h"
 #include "unit/store/RecordStoreFixture.h"
 
 #include <QUndoStack>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 
 namespace quillon {
@@ -23,14 +26,14 @@ protected:
     {
         QObject::connect(&store, &RecordStore::objectsDidChange, invariants.get(),
             [this](const ObjectsDidChange &change) { invariants->contextDidChange(change); });
-        QObject::connect(invariants.get(), &RuleInvariants::ruleTableStale,
+        QObject::connect(invariants.get(), &RuleInvariants::rulesCorrected,
             [this] { journal << QStringLiteral("table reloaded"); });
         for (const QString &name : {notifications::ruleTable, notifications::updateNamesArray}) {
             center.addObserver(name, [this](const NotificationCenter::Notification &posted) {
                 journal << posted.name;
                 posters << posted.object;
                 if (posted.name == notifications::updateNamesArray) {
-                    names = namesIn(context());
+                    queries.updateNamesArray();
                 }
             });
         }
@@ -43,7 +46,7 @@ protected:
         }
         endTurn();
         ASSERT_FALSE(context().save().has_value());
-        names = given;
+        queries.updateNamesArray();
         journal.clear();
     }
     static QString nameOf(const ManagedObjectPtr &rule)
@@ -60,12 +63,15 @@ protected:
     const QStringList refreshed{QStringLiteral("table reloaded"), notifications::ruleTable,
         notifications::updateNamesArray};
     NotificationCenter center;
-    QStringList names;
+    test::FakeNetworkHost host;
+    test::FakeInterfaceAddresses addresses{host};
+    DeviceTable devices{settings, host, addresses};
+    RuleQueries queries{store, settings, devices};
     ManagedObjectList rules;
     QStringList journal;
     QList<const void *> posters;
     std::unique_ptr<RuleInvariants> invariants = std::make_unique<RuleInvariants>(
-        RuleInvariants::Collaborators{store, scheduler, center, [this] { return names; }});
+        RuleInvariants::Collaborators{store, scheduler, center, queries});
 };
 
 TEST_F(RuleInvariantsTest, ARuleRenamedToAnothersNameGetsAUniqueOne)
@@ -160,7 +166,7 @@ TEST_F(RuleInvariantsTest, ACorrectedRuleIsToldInALaterTurnAndInOrder)
     EXPECT_EQ(whileTold, QStringList()) << "not within the change itself";
     EXPECT_EQ(journal, refreshed);
     EXPECT_EQ(posters, QList<const void *>(2, invariants.get()));
-    EXPECT_EQ(names, QStringList({QStringLiteral("Office (2)"), office}));
+    EXPECT_EQ(queries.namesArray(), QStringList({QStringLiteral("Office (2)"), office}));
 }
 
 TEST_F(RuleInvariantsTest, WhatIsPendingThenIsProcessedBeforeItIsTold)
@@ -169,7 +175,7 @@ TEST_F(RuleInvariantsTest, WhatIsPendingThenIsProcessedBeforeItIsTold)
     int changes = 0;
     int changesWhenTold = 0;
     QObject::connect(&store, &RecordStore::objectsDidChange, &store, [&] { ++changes; });
-    QObject::connect(invariants.get(), &RuleInvariants::ruleTableStale, &store,
+    QObject::connect(invariants.get(), &RuleInvariants::rulesCorrected, &store,
         [&] { changesWhenTold = changes; });
     rename(0, office);
     // A later turn, but before the one in which the correction is told.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/NetworkChange.h"
 #include "base/NetworkKeys.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
@@ -27,8 +28,10 @@
 #include "networks/SpecialNetworks.h"
 #include "networks/WiFiNetwork.h"
 #include "platform/NotificationCenter.h"
+#include "presentation/rules/RulesListModel.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleEvaluation.h"
+#include "rules/RuleExecution.h"
 #include "rules/RuleInvariants.h"
 #include "rules/RuleQueries.h"
 #include "rules/RuleSwitches.h"
@@ -69,10 +72,10 @@ protected:
                                        "3c1b1c1d1e1f"));
         table.updateNetWorkInterfaces();
         select(en0);
-        QObject::connect(&changer, &AddressChanger::changeBegan, &evaluation,
-            &RuleEvaluation::addressChangeBegan);
-        QObject::connect(&changer, &AddressChanger::changeEnded, &evaluation,
-            &RuleEvaluation::addressChangeEnded);
+        QObject::connect(
+            &changer, &AddressChanger::changeBegan, &execution, &RuleExecution::addressChangeBegan);
+        QObject::connect(
+            &changer, &AddressChanger::changeEnded, &execution, &RuleExecution::addressChangeEnded);
         QObject::connect(
             &store, &RecordStore::objectsDidChange, &invariants, &RuleInvariants::contextDidChange);
         notifications.addObserver(notifications::updateOverview, [this](const auto &posted) {
@@ -152,10 +155,10 @@ protected:
     /// The system tells of a change, and everything that follows happens.
     void networkEvent()
     {
-        evaluation.networkChanged();
+        networkChange.networkChanged();
         scheduler.runPending();
     }
-    void evaluate(const QString &device, bool change)
+    void evaluate(const QString &device, RuleChange change)
     {
         evaluation.checkDeviceForCurrentRuleAndChange(device, change);
         scheduler.runPending();
@@ -206,12 +209,10 @@ protected:
     FakeHelper helper{scheduler, host};
     XPCMethods xpc{helper, scheduler, notifications};
     CurrentInterface current{settings, scheduler, table};
-    AddressChanger changer{{settings, scheduler, notifications, notifier, xpc, table, current}};
     FakeRandomSource random;
-    RandomAddress randomAddress{
-        random, table, [this](const QString &device, const QString &address) {
-            changer.updateMacAddressWithAddress(device, address);
-        }};
+    RandomAddress randomAddress{random, table};
+    AddressChanger changer{
+        {settings, scheduler, notifications, notifier, xpc, table, current, randomAddress}};
     FakeWiFiClient radio;
     WiFiNetwork wifi{settings, radio, table};
     FakeHttpClient http{scheduler};
@@ -220,14 +221,15 @@ protected:
     FakeAlertPresenter alerts;
     RecordStore store{{settings, scheduler, alerts}, folder.path()};
     RuleQueries queries{store, settings, table};
-    RuleInvariants invariants{
-        {store, scheduler, notifications, [this] { return queries.namesArray(); }}};
-    CountdownTimers timers{{scheduler, notifications, notifier, table, randomAddress}};
-    bool startedFromLogin = false;
-    RuleEvaluation evaluation{{settings, scheduler, notifications, table, current, wifi,
-        externalAddress, reachability, randomAddress, changer, store, invariants, queries, timers,
-        [this] { return startedFromLogin; }}};
+    RuleInvariants invariants{{store, scheduler, notifications, queries}};
+    CountdownTimers timers{{scheduler, notifications, notifier, table, changer}};
+    RuleExecution execution{{scheduler, table, changer, timers}};
+    RuleEvaluation evaluation{
+        {settings, notifications, table, current, store, invariants, queries, execution}};
     RuleSwitches switches{{store, notifications, queries, evaluation}};
+    RulesListModel list{{settings, notifications, current, queries}};
+    NetworkChange networkChange{
+        {externalAddress, table, wifi, current, reachability, execution, evaluation, list}};
     /// What evaluation told the overview; countdowns tell it more.
     QList<NotificationCenter::Notification> overviews;
     int leases = 0;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "RuleMachine.h"
 #include "networks/SavedNetworks.h"
+#include "unit/rules/RuleMachine.h"
 
 #include <QRegularExpression>
 
@@ -180,7 +180,7 @@ TEST_F(RuleQuery, LogsAFetchThatFailsAndFindsNothing)
                     .match(lines.at(1))
                     .hasMatch())
         << lines.at(1).toStdString();
-    evaluate(en0, true);
+    evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(hasRule(en0), QVariant(0)) << "as if no rule matched";
 }
 

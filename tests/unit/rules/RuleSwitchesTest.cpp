@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "RuleMachine.h"
+#include "unit/rules/RuleMachine.h"
 
 #include <SQLiteCpp/Database.h>
 
@@ -15,8 +15,8 @@ protected:
     Switches()
     {
         QObject::connect(
-            &switches, &RuleSwitches::rulesListStale, [this] { order << QStringLiteral("list"); });
-        QObject::connect(&switches, &RuleSwitches::rulesTableStale, [this] {
+            &switches, &RuleSwitches::ruleToggled, [this] { order << QStringLiteral("list"); });
+        QObject::connect(&switches, &RuleSwitches::ruleSwitched, [this] {
             order << (context().hasChanges() ? QStringLiteral("table before saving")
                                              : QStringLiteral("table"));
         });
@@ -159,7 +159,7 @@ TEST_F(Switches, CanBeAllSwitchedOffWithoutSavingOrEvaluating)
     const Rule a = addRule({.name = QStringLiteral("a")});
     const Rule b = addRule({.name = QStringLiteral("b"), .device = en1});
     const Rule off = addRule({.name = QStringLiteral("off"), .enabled = false});
-    evaluate(QStringLiteral("all"), false);
+    evaluate(QStringLiteral("all"), RuleChange::None);
     ASSERT_FALSE(context().save());
     overviews.clear();
     switches.disableAllRules();

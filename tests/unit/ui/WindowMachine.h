@@ -2,40 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "base/SettingsKeys.h"
-#include "devices/CurrentInterface.h"
-#include "devices/DeviceTable.h"
-#include "fakes/FakeInterfaceAddresses.h"
-#include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
-#include "fakes/QtPrinting.h"
 #include "platform/TaskBar.h"
 #include "platform/TrayHost.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/window/MainWindowModel.h"
-#include "presentation/window/Presence.h"
+#include "unit/presentation/DeviceModelsFixture.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWidget>
-#include <gmock/gmock.h>
 
 namespace quillon::test {
 
 /// A machine with a wired and a Wi-Fi interface, the wired one selected and with an address that is
 /// not its factory address, and the models that windows show.
-class WindowMachine : public ::testing::Test
+class WindowMachine : public DeviceModelsFixture
 {
 protected:
     WindowMachine()
     {
-        host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp1s0"),
-            QStringLiteral("3c:22:fb:00:00:01"), QStringLiteral("02:00:00:00:00:01"),
-            {QStringLiteral("192.0.2.10")}});
-        host.plug({QStringLiteral("Wi-Fi"), QStringLiteral("wlp2s0"),
-            QStringLiteral("3c:22:fb:00:00:02"), QStringLiteral("3c:22:fb:00:00:02"), {}, false});
+        host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
         devices.updateNetWorkInterfaces();
-        select(QStringLiteral("enp1s0"));
+        select(wired);
         window.prepareWindow();
         window.setHelperInstalled(true);
         menu.menuWillOpen();
@@ -66,16 +54,8 @@ protected:
         }
     }
 
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    FakeNetworkHost host;
-    FakeInterfaceAddresses addresses{host};
-    DeviceTable devices{settings, host, addresses};
-    CurrentInterface current{settings, scheduler, devices};
-    bool helperInstalled = true;
-    MainWindowModel window{settings, scheduler, devices, current};
-    StatusMenuModel menu{settings, devices, current, [this] { return helperInstalled; }};
-    Presence presence{settings};
+    MainWindowModel window{{settings, scheduler, devices, current, changer, helper}};
+    StatusMenuModel menu{{settings, devices, current, changer, helper, presence}};
 };
 
 /// A task bar that remembers.

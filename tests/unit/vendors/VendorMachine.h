@@ -3,20 +3,10 @@
 #pragma once
 
 #include "VendorFolder.h"
-#include "app/features/VendorWiring.h"
+#include "app/QuillonAppDelegate.h"
 #include "base/SettingsKeys.h"
-#include "fakes/FakeHttpClient.h"
-#include "fakes/FakeSettingsStore.h"
+#include "fakes/FakePlatform.h"
 #include "fakes/QtPrinting.h"
-#include "platform/NotificationCenter.h"
-#include "presentation/vendors/VendorFieldModel.h"
-#include "presentation/vendors/VendorPaneModel.h"
-#include "vendors/RegistryDownload.h"
-#include "vendors/RegistryImport.h"
-#include "vendors/VendorChoice.h"
-#include "vendors/VendorCount.h"
-#include "vendors/VendorList.h"
-#include "vendors/VendorLookup.h"
 
 #include <gmock/gmock.h>
 
@@ -24,13 +14,12 @@
 
 namespace quillon::test {
 
-/// The vendor components and their models, put together as the program does it.
+/// The vendor components and their models in a program that is put together and not started.
 class VendorMachine : public VendorFolder
 {
 protected:
     VendorMachine()
     {
-        connectVendors(&context, {count, list, lookup, choice, import, download, pane, field});
         QObject::connect(&pane, &VendorPaneModel::changed, [this] {
             const auto &state = pane.state();
             if (labels.isEmpty() || labels.last() != state.updatedLabel) {
@@ -72,23 +61,35 @@ protected:
         return rows;
     }
 
-    const QUrl registry{QStringLiteral("https://registry.test/oui/oui.csv")};
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    NotificationCenter notifications;
-    FakeHttpClient http{scheduler};
-    VendorDatabase database{files.liveDatabase()};
-    VendorCount count{settings, scheduler, files, database};
-    VendorList list{scheduler, database};
-    VendorLookup lookup{settings, scheduler, database};
-    VendorChoice choice{settings, notifications, list};
-    RegistryImport import{scheduler, settings, files, database};
-    RegistryDownload download{http, registry, import, count, list};
-    VendorPaneModel pane{settings, download};
-    VendorFieldModel field{choice, list, notifications};
-    QObject context;
+    const QUrl registry{QStringLiteral("https://registry.example/oui/oui.csv")};
+    FakePlatform machine;
+    FakeScheduler &scheduler = machine.scheduler;
+    FakeSettingsStore &settings = machine.settings;
+    NotificationCenter &notifications = machine.notifications;
+    FakeHttpClient &http = machine.http;
+    QuillonAppDelegate program{platform()};
+    VendorFeature &feature = program.features().vendors;
+    VendorDatabase &database = feature.database;
+    VendorCount &count = feature.count;
+    VendorList &list = feature.list;
+    VendorLookup &lookup = feature.lookup;
+    VendorChoice &choice = feature.choice;
+    RegistryImport &import = feature.import;
+    RegistryDownload &download = feature.download;
+    VendorPaneModel &pane = feature.pane;
+    VendorFieldModel &field = feature.field;
     QStringList labels;
     QStringList counts;
+
+private:
+    Platform platform()
+    {
+        Platform platform = machine.platform();
+        platform.places.supportFolder = files.folder;
+        platform.places.shippedVendorDatabase = files.seed;
+        platform.places.vendorRegistry = registry;
+        return platform;
+    }
 };
 
 } // namespace quillon::test

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <thread>
+
 namespace quillon::test {
 namespace {
 
@@ -13,17 +15,15 @@ class HistoryFeatureTest : public ProgramOnFakes
 {
 };
 
-TEST_F(HistoryFeatureTest, TheRecordsAreOpenedAtTheirStepAndNotBefore)
+TEST_F(HistoryFeatureTest, TheRecordsAreOpenedAtTheEndOfTheLaunchAndNotBefore)
 {
     create();
-    const auto isOpen = [this] { return program->records().store.hasManagedObjectContext(); };
-    at(&LaunchSequence::vendorDatabaseDue, [&] { EXPECT_FALSE(isOpen()); });
-    at(&LaunchSequence::recordStoreDue, [&] {
-        EXPECT_TRUE(isOpen());
-        EXPECT_TRUE(QFile::exists(recordsPath()));
-    });
-    start();
-    EXPECT_EQ(stepsSeen, 2);
+    program->launch().awakeFromNib();
+    program->launch().applicationWillFinishLaunching();
+    EXPECT_FALSE(features().history.store.hasManagedObjectContext());
+    program->launch().applicationDidFinishLaunching();
+    EXPECT_TRUE(features().history.store.hasManagedObjectContext());
+    EXPECT_TRUE(QFile::exists(recordsPath()));
 }
 
 TEST_F(HistoryFeatureTest, SwitchingTheCloudReplacesTheContainer)
@@ -31,7 +31,7 @@ TEST_F(HistoryFeatureTest, SwitchingTheCloudReplacesTheContainer)
     run();
     int replaced = 0;
     QObject::connect(
-        &program->records().store, &RecordStore::managedObjectContextReplaced, [&] { ++replaced; });
+        &features().history.store, &RecordStore::managedObjectContextReplaced, [&] { ++replaced; });
     machine.settings.setBool(keys::iCloudSync, true);
     EXPECT_EQ(replaced, 1);
     machine.settings.setBool(keys::iCloudSync, false);
@@ -41,7 +41,7 @@ TEST_F(HistoryFeatureTest, SwitchingTheCloudReplacesTheContainer)
 TEST_F(HistoryFeatureTest, AChangeIsOneRecordInTheFile)
 {
     run();
-    program->randomizeAddress();
+    features().mainWindow.randomizeAddress();
     machine.scheduler.advance(std::chrono::seconds(5));
     const ManagedObjectList records = history();
     ASSERT_EQ(records.size(), 1);
@@ -55,7 +55,8 @@ TEST_F(HistoryFeatureTest, TheRecordIsWrittenBeforeTheChangeIsBroadcast)
 {
     run();
     // What comes next on this thread is the broadcast.
-    Q_EMIT program->wiring().historyRecordDue(enp2s0, QStringLiteral("02:00:00:00:00:01"));
+    Q_EMIT features().devices.addressChanger.addressChanged(
+        enp2s0, QStringLiteral("02:00:00:00:00:01"));
     EXPECT_EQ(history().size(), 1);
     EXPECT_FALSE(context().hasChanges());
 }
@@ -64,9 +65,13 @@ TEST_F(HistoryFeatureTest, AChangeOnAnotherThreadIsRecordedWithTheFactsOfItsMome
 {
     run();
     const QDateTime moment = machine.scheduler.now();
-    machine.scheduler.asBackground([this] {
-        Q_EMIT program->wiring().historyRecordDue(enp2s0, QStringLiteral("02:00:00:00:00:01"));
+    std::thread other([this] {
+        machine.scheduler.asBackground([this] {
+            Q_EMIT features().devices.addressChanger.addressChanged(
+                enp2s0, QStringLiteral("02:00:00:00:00:01"));
+        });
     });
+    other.join();
     EXPECT_TRUE(history().isEmpty());
     machine.scheduler.setClock(std::chrono::minutes(1));
     machine.scheduler.runPending();

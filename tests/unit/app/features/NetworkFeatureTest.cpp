@@ -22,7 +22,7 @@ protected:
     QStringList quickAddresses()
     {
         QStringList texts;
-        for (const auto &token : program->networks().savedLists.state().quickAddresses) {
+        for (const auto &token : features().networks.savedLists.state().quickAddresses) {
             texts << token.text;
         }
         return texts;
@@ -36,26 +36,16 @@ protected:
             keys::savedNetworks, QVariantMap{{QStringLiteral("0a:0b:0c:0d:0e:0f"), network}});
         return network;
     }
-    SavedEntryPopoverModel &popover() { return program->networks().savedEntryPopover; }
+    SavedEntryPopoverModel &popover() { return features().networks.savedEntryPopover; }
 };
 
-TEST_F(NetworkFeatureTest, TheNetworkIsReadWhenTheWindowIsPrepared)
-{
-    create();
-    at(&LaunchSequence::mainWindowPrepared, [this] { EXPECT_EQ(machine.wifi.reads, 1); });
-    program->launch().awakeFromNib();
-    EXPECT_EQ(stepsSeen, 1);
-}
-
-TEST_F(NetworkFeatureTest, TheQuickAddressesAreFilledAtTheirStep)
+TEST_F(NetworkFeatureTest, TheQuickAddressesAreFilledAtTheStart)
 {
     saveAddress(QStringLiteral("Mine"));
     create();
-    at(&LaunchSequence::vendorCountDue, [this] { EXPECT_EQ(quickAddresses(), QStringList()); });
-    at(&LaunchSequence::quickAddressesDue,
-        [this] { EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Mine"))); });
+    EXPECT_EQ(quickAddresses(), QStringList());
     start();
-    EXPECT_EQ(stepsSeen, 2);
+    EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Mine")));
 }
 
 TEST_F(NetworkFeatureTest, TheQuickAddressesFollowTheSavedOnes)
@@ -68,9 +58,8 @@ TEST_F(NetworkFeatureTest, TheQuickAddressesFollowTheSavedOnes)
 TEST_F(NetworkFeatureTest, ThePermissionIsAskedForAfterTheStart)
 {
     create();
-    at(&LaunchSequence::cloudCheckDue,
-        [this] { EXPECT_FALSE(machine.location.delegate.didChangeAuthorization); });
     start();
+    EXPECT_FALSE(machine.location.delegate.didChangeAuthorization);
     EXPECT_EQ(machine.location.requests, 0);
     machine.scheduler.advance(2s);
     EXPECT_EQ(machine.location.requests, 1);
@@ -82,21 +71,17 @@ TEST_F(NetworkFeatureTest, SwitchedOffLocationServicesBringTheWindowToTheUser)
     create();
     start();
     int opened = 0;
-    QObject::connect(&program->presence(), &Presence::windowOpened, [&] { ++opened; });
+    QObject::connect(&features().presence, &Presence::windowOpened, [&] { ++opened; });
     machine.scheduler.advance(2s);
     EXPECT_EQ(opened, 1);
 }
 
-TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForAtItsStepWhenThatIsWanted)
+TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForAtTheStartWhenThatIsWanted)
 {
     machine.settings.setBool(keys::shouldUpdateExternalIP, true);
     create();
-    at(&LaunchSequence::locationPermissionDue,
-        [this] { EXPECT_TRUE(machine.http.requests().isEmpty()); });
-    at(&LaunchSequence::externalAddressDue,
-        [this] { EXPECT_EQ(machine.http.requests().size(), 1); });
     start();
-    EXPECT_EQ(stepsSeen, 2);
+    ASSERT_EQ(machine.http.requests().size(), 1);
     EXPECT_EQ(machine.http.requests().first().host(), QStringLiteral("address.example"));
 }
 
@@ -113,17 +98,17 @@ TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForWhenTheUserSwitchesItOn)
 TEST_F(NetworkFeatureTest, TheNetworkButtonFollowsTheAssociation)
 {
     run();
-    EXPECT_FALSE(program->networks().info.state().buttonVisible);
+    EXPECT_FALSE(features().networks.info.state().buttonVisible);
     WiFiInterface radio;
     radio.device = QStringLiteral("wlp3s0");
     radio.ssid = QStringLiteral("home-net");
     radio.bssid = QStringLiteral("0a:0b:0c:0d:0e:0f");
     machine.wifi.join(radio);
-    program->networks().wifi.updateWiFiNetwork();
-    EXPECT_TRUE(program->networks().info.state().buttonVisible);
+    features().networks.wifi.updateWiFiNetwork();
+    EXPECT_TRUE(features().networks.info.state().buttonVisible);
     machine.wifi.leave();
-    program->networks().wifi.updateWiFiNetwork();
-    EXPECT_FALSE(program->networks().info.state().buttonVisible);
+    features().networks.wifi.updateWiFiNetwork();
+    EXPECT_FALSE(features().networks.info.state().buttonVisible);
 }
 
 TEST_F(NetworkFeatureTest, TheNetworksPopoverShowsItsModeAndClosesWhenItIsDone)

@@ -25,8 +25,8 @@ protected:
         start();
         machine.scheduler.advance(2s);
     }
-    VendorFieldModel &field() { return program->vendors().field; }
-    const VendorPaneModel::State &pane() { return program->vendors().pane.state(); }
+    VendorFieldModel &field() { return features().vendors.field; }
+    const VendorPaneModel::State &pane() { return features().vendors.pane.state(); }
     QString live() const { return machine.data.filePath(QStringLiteral("oui.db")); }
 
     const QString seed = machine.data.filePath(QStringLiteral("seed.db"));
@@ -43,50 +43,33 @@ TEST_F(VendorFeatureTest, ThePaneShowsWhatIsStoredWhenTheWindowIsPrepared)
     EXPECT_EQ(pane().updatedLabel, QStringLiteral("Last Updated: yesterday"));
 }
 
-TEST_F(VendorFeatureTest, TheDatabaseIsInPlaceAndCountedBeforeTheHelperIsAuthorised)
+TEST_F(VendorFeatureTest, TheShippedDatabaseIsPutInPlaceAndCounted)
 {
     create(seed);
-    at(&LaunchSequence::vendorDatabaseDue, [this] {
-        EXPECT_TRUE(QFile::exists(live()));
-        EXPECT_TRUE(machine.helper.journal().isEmpty());
-    });
     start();
-    EXPECT_EQ(stepsSeen, 1);
-    machine.scheduler.runPending();
+    EXPECT_TRUE(QFile::exists(live()));
     EXPECT_EQ(pane().vendorCount, QStringLiteral("2 Vendor Identifiers"));
     EXPECT_EQ(pane().updatedLabel, QStringLiteral("(null) (added 2 new Identifiers)"));
 }
 
-TEST_F(VendorFeatureTest, TheListIsReadAtItsStep)
+TEST_F(VendorFeatureTest, TheListIsReadAtTheStart)
 {
     create(seed);
-    at(&LaunchSequence::hotKeysDue, [this] {
-        machine.scheduler.runPending();
-        EXPECT_EQ(field().rowCount(), 0);
-    });
     start();
+    EXPECT_EQ(field().rowCount(), 0);
     machine.scheduler.runPending();
-    EXPECT_EQ(stepsSeen, 1);
     EXPECT_EQ(field().rowCount(), 3);
 }
 
-TEST_F(VendorFeatureTest, TheIdentifiersAreCountedAgainAtTheirStep)
+TEST_F(VendorFeatureTest, TheChoiceIsSelectedOnceTheListIsRead)
 {
-    create(seed);
-    at(&LaunchSequence::hotKeysDue, [this] {
-        machine.scheduler.runPending();
-        EXPECT_EQ(pane().vendorCount, QStringLiteral("2 Vendor Identifiers"));
-        const QString csv = machine.data.filePath(QStringLiteral("more.csv"));
-        writeFile(csv, registryOf(3));
-        EXPECT_TRUE(fillVendorTable(csv, live()));
-    });
-    start();
-    machine.scheduler.runPending();
-    EXPECT_EQ(stepsSeen, 1);
-    EXPECT_EQ(pane().vendorCount, QStringLiteral("3 Vendor Identifiers"));
+    setDeviceRecord(enp1s0, record::vendor, zebra);
+    startWithSeed();
+    ASSERT_TRUE(field().state().selectedRow);
+    EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
 }
 
-TEST_F(VendorFeatureTest, TheFieldIsFilledAtItsStepForNoDeviceInParticular)
+TEST_F(VendorFeatureTest, TheFieldIsFilledAtTheStartForNoDeviceInParticular)
 {
     setDeviceRecord(enp1s0, record::vendor, zebra);
     create(seed);
@@ -98,8 +81,7 @@ TEST_F(VendorFeatureTest, TheFieldIsFilledAtItsStepForNoDeviceInParticular)
 TEST_F(VendorFeatureTest, WhoMadeTheSelectedInterfaceIsLookedUp)
 {
     startWithSeed();
-    program->changeInterfacefromPopup(enp2s0);
-    machine.scheduler.runPending();
+    select(enp2s0);
     EXPECT_TRUE(machine.settings.getDictionary(keys::currentVendorData)
                     .values()
                     .contains(QStringLiteral("Appian")));
@@ -110,23 +92,13 @@ TEST_F(VendorFeatureTest, TheFieldAndTheListShowTheChoiceOfTheSelectedInterface)
 {
     startWithSeed();
     setDeviceRecord(enp2s0, record::vendor, zebra);
-    program->changeInterfacefromPopup(enp2s0);
-    machine.scheduler.runPending();
+    select(enp2s0);
     EXPECT_EQ(field().state().text, zebra);
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
-    program->changeInterfacefromPopup(enp1s0);
-    machine.scheduler.runPending();
+    select(enp1s0);
     EXPECT_EQ(field().state().text, QStringLiteral("Random Address"));
     EXPECT_EQ(field().rowText(*field().state().selectedRow), QStringLiteral("Random Address"));
-}
-
-TEST_F(VendorFeatureTest, ReturnInTheListClosesIt)
-{
-    startWithSeed();
-    field().showVendorViewPopover();
-    field().tableKeyDown(VendorFieldModel::Key::Return);
-    EXPECT_FALSE(field().state().popoverShown);
 }
 
 TEST_F(VendorFeatureTest, AChosenManufacturersPrefixIsInTheNextRandomAddress)
@@ -135,7 +107,7 @@ TEST_F(VendorFeatureTest, AChosenManufacturersPrefixIsInTheNextRandomAddress)
     field().controlTextDidChange(QStringLiteral("zeb"));
     field().tableViewShouldSelectRow(0);
     EXPECT_EQ(deviceRecord(enp1s0).value(record::vendor), zebra);
-    program->randomizeAddress();
+    features().mainWindow.randomizeAddress();
     machine.scheduler.advance(2s);
     EXPECT_TRUE(isChanged(enp1s0));
     EXPECT_TRUE(machine.host.addressOf(enp1s0).toUpper().startsWith(QStringLiteral("00:00:0D:")))
@@ -147,7 +119,7 @@ TEST_F(VendorFeatureTest, ARefreshAsksTheRegistryAndShowsWhatCame)
     startWithSeed();
     machine.http.serve(QUrl(QStringLiteral("https://registry.example/oui/oui.csv")),
         registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}, {"00000E", "Mango"}}));
-    program->vendors().pane.pressButton();
+    features().vendors.pane.pressButton();
     EXPECT_EQ(pane().buttonTitle, QStringLiteral("Cancel download..."));
     machine.scheduler.advance(1s);
     EXPECT_EQ(pane().buttonTitle, QStringLiteral("Update database"));

@@ -152,11 +152,11 @@ TYPED_TEST(SchedulerConformance, ATaskOfAnObjectRunsWhileTheObjectIsThere)
         done << QStringLiteral("b");
     });
     this->scheduler.onMain([&] { done << QStringLiteral("c"); });
-    this->scheduler.onMainAfter(30ms, &context, [&] { done << QStringLiteral("d"); });
+    this->scheduler.onMainAfter(200ms, &context, [&] { done << QStringLiteral("d"); });
     EXPECT_TRUE(done.isEmpty());
     this->clock.pass(10ms);
     EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
-    this->clock.pass(100ms);
+    this->clock.pass(300ms);
     EXPECT_EQ(done.join(u' '), QStringLiteral("a b c d"));
 }
 
@@ -178,6 +178,39 @@ TYPED_TEST(SchedulerConformance, ADelayedTaskOfAnObjectCanBeCancelled)
     this->scheduler.cancel(this->scheduler.onMainAfter(10ms, &context, [&] { ++runs; }));
     this->clock.pass(60ms);
     EXPECT_EQ(runs, 0);
+}
+
+TYPED_TEST(SchedulerConformance, AReplyThatComesOnAnyThreadIsTakenOnTheMainOneInALaterTurn)
+{
+    QStringList taken;
+    const QObject context;
+    const std::function<void(QString, int)> callback =
+        this->scheduler.template replyOnMain<QString, int>(
+            &context, [&](const QString &text, int number) {
+                EXPECT_TRUE(this->scheduler.isMainThread());
+                taken << text + QString::number(number);
+            });
+    callback(QStringLiteral("main "), 1);
+    EXPECT_TRUE(taken.isEmpty());
+    this->clock.pass(10ms);
+    EXPECT_EQ(taken.join(u','), QStringLiteral("main 1"));
+    this->scheduler.inBackground([callback] { callback(QStringLiteral("background "), 2); });
+    this->clock.pass(60ms);
+    EXPECT_EQ(taken.join(u','), QStringLiteral("main 1,background 2"));
+}
+
+TYPED_TEST(SchedulerConformance, AReplyToAnObjectThatIsDestroyedIsTakenByNobody)
+{
+    int taken = 0;
+    auto context = std::make_unique<QObject>();
+    const std::function<void()> callback =
+        this->scheduler.template replyOnMain<>(context.get(), [&] { ++taken; });
+    callback();
+    context.reset();
+    callback();
+    this->scheduler.inBackground(callback);
+    this->clock.pass(60ms);
+    EXPECT_EQ(taken, 0);
 }
 
 TYPED_TEST(SchedulerConformance, ATaskMayCancelAnotherThatIsDueAtTheSameTime)

@@ -2,32 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/menu/StatusMenuModel.h"
 
-#include "base/SettingsKeys.h"
-#include "devices/CurrentInterface.h"
-#include "devices/DeviceTable.h"
-#include "fakes/FakeInterfaceAddresses.h"
-#include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
-
-#include <gmock/gmock.h>
+#include "unit/presentation/DeviceModelsFixture.h"
 
 namespace quillon::test {
 namespace {
 
 using ::testing::ElementsAre;
 
-class StatusMenuModelTest : public ::testing::Test
+class StatusMenuModelTest : public DeviceModelsFixture
 {
 protected:
     StatusMenuModelTest()
     {
-        host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp1s0"),
-            QStringLiteral("3c:22:fb:00:00:01"), QStringLiteral("02:00:00:00:00:01"), {}});
-        host.plug({QStringLiteral("Wi-Fi"), QStringLiteral("wlp2s0"),
-            QStringLiteral("3c:22:fb:00:00:02"), QStringLiteral("3c:22:fb:00:00:02"), {}});
-        devices.updateNetWorkInterfaces();
-        current.updateCurrentInterfaceDict(QStringLiteral("enp1s0"));
-        scheduler.runPending();
+        host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
         menu.menuWillOpen();
     }
 
@@ -45,14 +32,7 @@ protected:
         return menu.entries().at(static_cast<size_t>(index));
     }
 
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    FakeNetworkHost host;
-    FakeInterfaceAddresses addresses{host};
-    DeviceTable devices{settings, host, addresses};
-    CurrentInterface current{settings, scheduler, devices};
-    bool helperInstalled = true;
-    StatusMenuModel menu{settings, devices, current, [this] { return helperInstalled; }};
+    StatusMenuModel menu{{settings, devices, current, changer, helper, presence}};
 };
 
 TEST_F(StatusMenuModelTest, EachInterfaceHasItsSectionInTheOrderOfEveryList)
@@ -82,7 +62,7 @@ TEST_F(StatusMenuModelTest, RestoreIsDisabledWhileTheAddressIsTheFactoryOne)
     EXPECT_TRUE(entry(7).submenu.at(0).isEnabled());
 }
 
-TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomise)
+TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomize)
 {
     for (const int row : {4, 8}) {
         ASSERT_EQ(entry(row).submenu.size(), 1U);
@@ -93,7 +73,8 @@ TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomise)
 
 TEST_F(StatusMenuModelTest, WithoutTheHelperTheAddressesAreShownWithoutTheirSubmenus)
 {
-    helperInstalled = false;
+    machine.helper.installed = false;
+    readHelperStatus();
     menu.menuNeedsUpdate();
     EXPECT_TRUE(entry(7).submenu.empty());
     EXPECT_TRUE(entry(8).submenu.empty());
@@ -111,7 +92,7 @@ TEST_F(StatusMenuModelTest, WithNoInterfacesOnlyFixedItemsSeparatorsAndQuitRemai
 
 TEST_F(StatusMenuModelTest, OpeningTheMenuReadsTheInterfacesAnew)
 {
-    host.giveAddress(QStringLiteral("enp1s0"), QStringLiteral("02:00:00:00:00:42"));
+    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:42"));
     menu.menuWillOpen();
     EXPECT_EQ(entry(8).title, QStringLiteral("    Current Address · 02:00:00:00:00:42"));
 }
@@ -129,59 +110,64 @@ TEST_F(StatusMenuModelTest, AnUnchangedMenuIsNotAnnounced)
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(StatusMenuModelTest, AChosenInterfaceIsToldByItsTitle)
+TEST_F(StatusMenuModelTest, AChosenInterfaceIsSelected)
 {
-    QString chosen;
-    QObject::connect(
-        &menu, &StatusMenuModel::interfaceChosen, [&](const QString &title) { chosen = title; });
     menu.activate({2});
-    EXPECT_EQ(chosen, QStringLiteral("Wi-Fi · wlp2s0"));
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), wifi);
 }
 
-TEST_F(StatusMenuModelTest, AClickedItemKnowsWhatStandsAboveItsParent)
+TEST_F(StatusMenuModelTest, AnAddressIsRandomizedAndRestoredInItsOwnSection)
 {
-    QString aboveRandomise, aboveRestore;
-    QObject::connect(&menu, &StatusMenuModel::randomizeChosen, [&](const MenuItem &sender) {
-        aboveRandomise = sender.parentItem()->itemAbove(2)->title();
-    });
-    QObject::connect(&menu, &StatusMenuModel::restoreChosen,
-        [&](const MenuItem &sender) { aboveRestore = sender.parentItem()->itemAbove(1)->title(); });
-    menu.activate({8, 0});
+    menu.activate({4, 0});
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wifi), QStringLiteral("AA:01:02:03:04:05"));
+    EXPECT_EQ(addressOf(wired), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(current.device(), wired);
+
     menu.activate({7, 0});
-    EXPECT_EQ(aboveRandomise, QStringLiteral("Ethernet · enp1s0"));
-    EXPECT_EQ(aboveRestore, QStringLiteral("Ethernet · enp1s0"));
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(addressOf(wifi), QStringLiteral("AA:01:02:03:04:05"));
 }
 
 TEST_F(StatusMenuModelTest, ADisabledOrMissingItemDoesNothing)
 {
-    int actions = 0;
-    QObject::connect(&menu, &StatusMenuModel::restoreChosen, [&] { ++actions; });
-    QObject::connect(&menu, &StatusMenuModel::interfaceChosen, [&] { ++actions; });
+    int windowActions = 0;
+    QObject::connect(&presence, &Presence::windowOpened, [&] { ++windowActions; });
+    QObject::connect(&presence, &Presence::terminated, [&] { ++windowActions; });
     for (const QList<int> &path : {QList<int>{}, {-1}, {99}, {3}, {3, 0}, {2, 0}, {3, 7}}) {
         menu.activate(path);
+        scheduler.runPending();
     }
-    EXPECT_EQ(actions, 0);
+    EXPECT_EQ(windowActions, 0);
+    EXPECT_TRUE(machine.helper.changes().isEmpty());
+    EXPECT_EQ(current.device(), wired);
 }
 
 TEST_F(StatusMenuModelTest, TheMenuMayBeRebuiltByTheActionThatItStarted)
 {
-    QObject::connect(&menu, &StatusMenuModel::randomizeChosen, [&](const MenuItem &sender) {
+    // The menu is empty by the time at which the action finds its interface.
+    QObject::connect(&changer, &AddressChanger::restoreRequested, [&] {
+        const QVariant table = settings.get(keys::deviceDict);
         settings.set(keys::deviceDict, QVariant());
         menu.menuNeedsUpdate();
-        EXPECT_EQ(sender.title(), QStringLiteral("Randomize"));
+        settings.set(keys::deviceDict, table);
     });
-    menu.activate({8, 0});
+    menu.activate({7, 0});
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
 }
 
-TEST_F(StatusMenuModelTest, OpenAndQuitAreTold)
+TEST_F(StatusMenuModelTest, OpenAndQuitActOnTheProgram)
 {
     int opened = 0, quit = 0;
-    QObject::connect(&menu, &StatusMenuModel::openWindowChosen, [&] { ++opened; });
-    QObject::connect(&menu, &StatusMenuModel::quitChosen, [&] { ++quit; });
+    QObject::connect(&presence, &Presence::windowOpened, [&] { ++opened; });
+    QObject::connect(&presence, &Presence::terminated, [&] { ++quit; });
     menu.activate({0});
+    EXPECT_EQ((QList<int>{opened, quit}), (QList<int>{1, 0}));
     menu.activate({11});
-    EXPECT_EQ(opened, 1);
-    EXPECT_EQ(quit, 1);
+    EXPECT_EQ((QList<int>{opened, quit}), (QList<int>{1, 1}));
 }
 
 } // namespace

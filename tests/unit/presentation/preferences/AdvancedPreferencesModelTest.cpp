@@ -4,6 +4,7 @@
 
 #include "fakes/FakePlatform.h"
 #include "helperlink/XPCMethods.h"
+#include "presence/Presence.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@ class AdvancedPreferencesModelTest : public ::testing::Test
 protected:
     AdvancedPreferencesModelTest()
     {
-        QObject::connect(&pane, &AdvancedPreferencesModel::appKeyWanted, [this] { ++fronts; });
+        QObject::connect(&presence, &Presence::windowOpened, [this] { ++fronts; });
         for (const char *key : {"success", "device", "version", "other"}) {
             machine.groupSettings.set(QString::fromLatin1(key), QStringLiteral("x"));
         }
@@ -30,7 +31,8 @@ protected:
 
     FakePlatform machine;
     XPCMethods helper{machine.helper, machine.scheduler, machine.notifications};
-    AdvancedPreferencesModel pane{helper, machine.groupSettings, machine.scheduler};
+    Presence presence{machine.settings};
+    AdvancedPreferencesModel pane{helper, presence, machine.groupSettings, machine.scheduler};
     int fronts = 0;
 };
 

@@ -13,20 +13,21 @@ using ::testing::IsEmpty;
 using Command = VendorFieldModel::Command;
 using Key = VendorFieldModel::Key;
 
-class VendorField : public VendorMachine
+class VendorFieldModelTest : public VendorMachine
 {
 protected:
-    VendorField()
+    VendorFieldModelTest()
     {
         makeLive(registryOf({{"000001", "Apple"}, {"000002", "Apply"}, {"000003", "Sam"}}));
         storeDevice(QStringLiteral("en0"), {});
         select(QStringLiteral("en0"));
         loadList();
         QObject::connect(
-            &field, &VendorFieldModel::insertionPointDue, [this] { said << "insertion point"; });
-        QObject::connect(&field, &VendorFieldModel::listFocusDue, [this] { said << "focus"; });
-        QObject::connect(&field, &VendorFieldModel::scrollDue,
-            [this](qsizetype row) { said << "scroll " + QString::number(row); });
+            &field, &VendorFieldModel::openedByTyping, [this] { said << "opened by typing"; });
+        QObject::connect(
+            &field, &VendorFieldModel::listEntered, [this] { said << "list entered"; });
+        QObject::connect(&field, &VendorFieldModel::rowSelected,
+            [this](qsizetype row) { said << "row " + QString::number(row); });
         QObject::connect(&field, &VendorFieldModel::rowsChanged, [this] { said << "rows"; });
     }
 
@@ -42,11 +43,11 @@ protected:
     QStringList said;
 };
 
-TEST_F(VendorField, OpensThePopoverAtTheFirstLetter)
+TEST_F(VendorFieldModelTest, OpensThePopoverAtTheFirstLetter)
 {
     field.controlTextDidChange(QStringLiteral("a"));
     EXPECT_TRUE(field.state().popoverShown);
-    EXPECT_THAT(said, ElementsAre("insertion point", "rows"));
+    EXPECT_THAT(said, ElementsAre("opened by typing", "rows"));
     EXPECT_EQ(field.rowCount(), 2);
     said.clear();
     field.controlTextDidChange(QStringLiteral("apple"));
@@ -56,7 +57,7 @@ TEST_F(VendorField, OpensThePopoverAtTheFirstLetter)
     EXPECT_EQ(stored(), QString());
 }
 
-TEST_F(VendorField, ShowsAllWhenItIsCleared)
+TEST_F(VendorFieldModelTest, ShowsAllWhenItIsCleared)
 {
     field.controlTextDidChange(QStringLiteral("app"));
     field.controlTextDidChange({});
@@ -64,20 +65,20 @@ TEST_F(VendorField, ShowsAllWhenItIsCleared)
     EXPECT_TRUE(field.state().popoverShown);
 }
 
-TEST_F(VendorField, GoesToTheFirstRowByTheDownArrowAndChoosesIt)
+TEST_F(VendorFieldModelTest, GoesToTheFirstRowByTheDownArrowAndChoosesIt)
 {
     field.controlTextDidChange(QStringLiteral("appl"));
     field.closeVendorViewPopover();
     said.clear();
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
     EXPECT_TRUE(field.state().popoverShown);
-    EXPECT_THAT(said, ElementsAre("focus", "scroll 0"));
+    EXPECT_THAT(said, ElementsAre("list entered", "row 0"));
     EXPECT_EQ(field.state().selectedRow, 0);
     EXPECT_EQ(stored(), QLatin1String("Apple (000001)"));
     EXPECT_EQ(field.state().text, QLatin1String("Apple (000001)"));
 }
 
-TEST_F(VendorField, ChoosesNothingByTheDownArrowWhenNothingIsShown)
+TEST_F(VendorFieldModelTest, ChoosesNothingByTheDownArrowWhenNothingIsShown)
 {
     field.controlTextDidChange(QStringLiteral("nothing like that"));
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
@@ -85,14 +86,14 @@ TEST_F(VendorField, ChoosesNothingByTheDownArrowWhenNothingIsShown)
     EXPECT_EQ(stored(), QString());
 }
 
-TEST_F(VendorField, LeavesOtherCommandsToItself)
+TEST_F(VendorFieldModelTest, LeavesOtherCommandsToItself)
 {
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::Other));
     EXPECT_FALSE(field.state().popoverShown);
     EXPECT_THAT(said, IsEmpty());
 }
 
-TEST_F(VendorField, TakesTheRowThatIsSelected)
+TEST_F(VendorFieldModelTest, TakesTheRowThatIsSelected)
 {
     EXPECT_TRUE(field.tableViewShouldSelectRow(3));
     EXPECT_EQ(stored(), QLatin1String("Sam (000003)"));
@@ -102,7 +103,7 @@ TEST_F(VendorField, TakesTheRowThatIsSelected)
     EXPECT_EQ(field.state().selectedRow, 3);
 }
 
-TEST_F(VendorField, KeepsTheSelectedEntryWhenOtherRowsAreShown)
+TEST_F(VendorFieldModelTest, KeepsTheSelectedEntryWhenOtherRowsAreShown)
 {
     field.tableViewShouldSelectRow(3);
     field.controlTextDidChange(QStringLiteral("s"));
@@ -111,14 +112,14 @@ TEST_F(VendorField, KeepsTheSelectedEntryWhenOtherRowsAreShown)
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
 }
 
-TEST_F(VendorField, LetsOnlyTheArrowsReachTheList)
+TEST_F(VendorFieldModelTest, LetsOnlyTheArrowsReachTheList)
 {
     EXPECT_TRUE(field.tableKeyDown(Key::Down));
     EXPECT_TRUE(field.tableKeyDown(Key::Up));
     EXPECT_FALSE(field.tableKeyDown(Key::Other));
 }
 
-TEST_F(VendorField, AsksByReturnThatThePopoverBeClosed)
+TEST_F(VendorFieldModelTest, AsksByReturnThatThePopoverBeClosed)
 {
     int posted = 0;
     notifications.addObserver(notifications::closeVendorViewPopover,
@@ -127,7 +128,7 @@ TEST_F(VendorField, AsksByReturnThatThePopoverBeClosed)
     EXPECT_EQ(posted, 1);
 }
 
-TEST_F(VendorField, TogglesThePopover)
+TEST_F(VendorFieldModelTest, TogglesThePopover)
 {
     field.toggleVendorViewPopover();
     EXPECT_TRUE(field.state().popoverShown);
@@ -135,7 +136,7 @@ TEST_F(VendorField, TogglesThePopover)
     EXPECT_FALSE(field.state().popoverShown);
 }
 
-TEST_F(VendorField, TellsTheWholeTextOfARow)
+TEST_F(VendorFieldModelTest, TellsTheWholeTextOfARow)
 {
     EXPECT_EQ(field.rowText(2), QLatin1String("Random Address"));
     EXPECT_EQ(field.rowToolTip(3), QLatin1String("Sam (000003)"));

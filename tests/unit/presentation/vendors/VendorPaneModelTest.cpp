@@ -7,16 +7,16 @@ namespace {
 
 using ::testing::ElementsAre;
 
-using VendorPane = VendorMachine;
+using VendorPaneModelTest = VendorMachine;
 
-TEST_F(VendorPane, IsIdleAtFirst)
+TEST_F(VendorPaneModelTest, IsIdleAtFirst)
 {
     EXPECT_EQ(pane.state().action, VendorPaneModel::Action::StartDownload);
     EXPECT_EQ(pane.state().buttonTitle, QLatin1String("Update database"));
     EXPECT_FALSE(pane.state().progressShown);
 }
 
-TEST_F(VendorPane, ShowsWhatTheSettingsRemember)
+TEST_F(VendorPaneModelTest, ShowsWhatTheSettingsRemember)
 {
     settings.set(keys::vendorCountValue, 32530);
     settings.set(keys::vendorIDUpdatedDate, QStringLiteral("Yesterday (added 3 new Identifiers)"));
@@ -26,7 +26,7 @@ TEST_F(VendorPane, ShowsWhatTheSettingsRemember)
         QLatin1String("Last Updated: Yesterday (added 3 new Identifiers)"));
 }
 
-TEST_F(VendorPane, ShowsTheNullMarkerForADateThatIsNotThere)
+TEST_F(VendorPaneModelTest, ShowsTheNullMarkerForADateThatIsNotThere)
 {
     pane.showStoredTexts();
     EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
@@ -36,7 +36,7 @@ TEST_F(VendorPane, ShowsTheNullMarkerForADateThatIsNotThere)
     EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Last Updated: (null)"));
 }
 
-TEST_F(VendorPane, ShowsTheFirstCountAsItGoes)
+TEST_F(VendorPaneModelTest, ShowsTheFirstCountAsItGoes)
 {
     makeDatabase(files.seed, registryOf(3));
     count.createSupportFolderAndVendorDatabase();
@@ -45,7 +45,7 @@ TEST_F(VendorPane, ShowsTheFirstCountAsItGoes)
     EXPECT_EQ(pane.state().updatedLabel, QLatin1String("(null) (added 3 new Identifiers)"));
 }
 
-TEST_F(VendorPane, SaysNothingWhenNothingChanges)
+TEST_F(VendorPaneModelTest, SaysNothingWhenNothingChanges)
 {
     pane.showStoredTexts();
     int changes = 0;

@@ -2,30 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/window/MainWindowModel.h"
 
-#include "base/SettingsKeys.h"
-#include "devices/CurrentInterface.h"
-#include "devices/DeviceTable.h"
-#include "fakes/FakeInterfaceAddresses.h"
-#include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
-
-#include <gtest/gtest.h>
+#include "unit/presentation/DeviceModelsFixture.h"
 
 namespace quillon::test {
 namespace {
 
-class MainWindowModelTest : public ::testing::Test
+class MainWindowModelTest : public DeviceModelsFixture
 {
 protected:
     MainWindowModelTest()
     {
-        host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp1s0"),
-            QStringLiteral("3c:22:fb:00:00:01"), QStringLiteral("3c:22:fb:00:00:01"),
-            {QStringLiteral("192.0.2.10")}});
-        host.plug({QStringLiteral("Wi-Fi"), QStringLiteral("wlp2s0"),
-            QStringLiteral("3c:22:fb:00:00:02"), QStringLiteral("3c:22:fb:00:00:02"), {}, false});
-        devices.updateNetWorkInterfaces();
-        select(QStringLiteral("enp1s0"));
+        select(wired);
         model.prepareWindow();
         model.setHelperInstalled(true);
     }
@@ -41,28 +28,22 @@ protected:
 
     const MainWindowModel::State &shown() const { return model.state(); }
 
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    FakeNetworkHost host;
-    FakeInterfaceAddresses addresses{host};
-    DeviceTable devices{settings, host, addresses};
-    CurrentInterface current{settings, scheduler, devices};
-    MainWindowModel model{settings, scheduler, devices, current};
+    MainWindowModel model{{settings, scheduler, devices, current, changer, helper}};
 };
 
 TEST_F(MainWindowModelTest, TheSelectionButtonListsTheDevicesInTheirOrderWithTheSelectedOne)
 {
-    EXPECT_EQ(shown().devices, (QStringList{QStringLiteral("wlp2s0"), QStringLiteral("enp1s0")}));
-    EXPECT_EQ(shown().selectedDevice, QStringLiteral("enp1s0"));
+    EXPECT_EQ(shown().devices, (QStringList{wifi, wired}));
+    EXPECT_EQ(shown().selectedDevice, wired);
     EXPECT_TRUE(shown().selectionVisible);
 }
 
 TEST_F(MainWindowModelTest, TheSelectionButtonFollowsWhoeverSelectsAnInterface)
 {
-    current.updateCurrentInterfaceDict(QStringLiteral("wlp2s0"));
+    current.updateCurrentInterfaceDict(wifi);
     scheduler.runPending();
     model.showPlaceholder(current.record().value(record::current).toString());
-    EXPECT_EQ(shown().selectedDevice, QStringLiteral("wlp2s0"));
+    EXPECT_EQ(shown().selectedDevice, wifi);
 }
 
 TEST_F(MainWindowModelTest, WithoutADeviceTheSelectionButtonIsHidden)
@@ -88,7 +69,7 @@ TEST_F(MainWindowModelTest, TheDetailsAreThoseOfTheSelectedInterface)
     EXPECT_EQ(shown().ipAddress, QStringLiteral("192.0.2.10"));
     EXPECT_TRUE(shown().linkActive);
 
-    select(QStringLiteral("wlp2s0"));
+    select(wifi);
     EXPECT_EQ(shown().interfaceName, QStringLiteral("Wi-Fi"));
     EXPECT_EQ(shown().ipAddress, QString());
     EXPECT_FALSE(shown().linkActive);
@@ -114,9 +95,9 @@ TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryO
     EXPECT_FALSE(shown().restoreEnabled);
     EXPECT_TRUE(shown().softwareButtonVisible);
 
-    host.giveAddress(QStringLiteral("enp1s0"), QStringLiteral("02:00:00:00:00:01"));
+    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
     devices.updateNetWorkInterfaces();
-    select(QStringLiteral("enp1s0"));
+    select(wired);
     EXPECT_TRUE(shown().hardwareIndicatorVisible);
     EXPECT_TRUE(shown().restoreEnabled);
     EXPECT_TRUE(shown().softwareButtonVisible);
@@ -191,7 +172,7 @@ TEST_F(MainWindowModelTest, TheApplyButtonIsEvaluatedOnTheMainThread)
 
 TEST_F(MainWindowModelTest, SelectingAnotherInterfaceOffersNothingUntilAnAddressIsTyped)
 {
-    select(QStringLiteral("wlp2s0"));
+    select(wifi);
     EXPECT_EQ(shown().fieldText, QStringLiteral("3C:22:FB:00:00:02"));
     EXPECT_FALSE(shown().updateEnabled);
 }
@@ -223,6 +204,45 @@ TEST_F(MainWindowModelTest, ADropOnTheDisabledFieldIsRefused)
     EXPECT_FALSE(model.performDragOperation());
     model.concludeDragOperation(QStringLiteral("02:11:22:33:44:55"));
     EXPECT_EQ(shown().fieldText, before);
+}
+
+TEST_F(MainWindowModelTest, TheButtonsChangeTheAddressOfTheSelectedInterface)
+{
+    model.randomizeAddress();
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), QStringLiteral("AA:01:02:03:04:05"));
+
+    model.editField(QStringLiteral("02:11:22:33:44:55"));
+    model.changeMacAddress();
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), QStringLiteral("02:11:22:33:44:55"));
+
+    model.restoreDefaultAddress();
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(addressOf(wifi), QStringLiteral("3C:22:FB:00:00:02"));
+}
+
+TEST_F(MainWindowModelTest, AnAppliedAddressIsShownInDisplayCase)
+{
+    model.setFieldText(QStringLiteral("02:aa:bb:cc:dd:ee"));
+    model.changeMacAddress();
+    EXPECT_EQ(shown().fieldText, QStringLiteral("02:AA:BB:CC:DD:EE"));
+}
+
+TEST_F(MainWindowModelTest, TheInstallButtonAsksTheService)
+{
+    machine.helper.clearJournal();
+    model.installHelper();
+    scheduler.runPending();
+    EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("install")));
+}
+
+TEST_F(MainWindowModelTest, AChosenInterfaceIsSelected)
+{
+    model.changeInterfacefromPopup(wifi);
+    scheduler.runPending();
+    EXPECT_EQ(current.device(), wifi);
 }
 
 TEST_F(MainWindowModelTest, NothingIsAnnouncedWhenNothingChanges)

@@ -16,15 +16,15 @@ using ::testing::DoubleNear;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-class InEachScheme : public ::testing::TestWithParam<ColorScheme>
+class ThemeInEachScheme : public ::testing::TestWithParam<ColorScheme>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Theme, InEachScheme,
+INSTANTIATE_TEST_SUITE_P(Theme, ThemeInEachScheme,
     ::testing::Values(ColorScheme::Light, ColorScheme::Dark),
     [](const auto &scheme) { return scheme.param == ColorScheme::Dark ? "Dark" : "Light"; });
 
-TEST_P(InEachScheme, WhatCarriesMeaningIsLegible)
+TEST_P(ThemeInEachScheme, WhatCarriesMeaningIsLegible)
 {
     const auto pairs = meaningfulPairs(ThemeColors::forScheme(GetParam()));
     ASSERT_GT(pairs.size(), 20);
@@ -33,7 +33,7 @@ TEST_P(InEachScheme, WhatCarriesMeaningIsLegible)
     }
 }
 
-TEST_P(InEachScheme, TheStatusItemIsVisibleOnEveryPanel)
+TEST_P(ThemeInEachScheme, TheStatusItemIsVisibleOnEveryPanel)
 {
     const Theme theme(GetParam());
     const QColor ink = theme.ink(Theme::Ink::Tray);
@@ -41,12 +41,12 @@ TEST_P(InEachScheme, TheStatusItemIsVisibleOnEveryPanel)
     EXPECT_GE(contrastRatio(ink, QColor(0x1e1e1e)), 3.0);
 }
 
-TEST_P(InEachScheme, ThePaletteSaysWhichSchemeItIs)
+TEST_P(ThemeInEachScheme, ThePaletteSaysWhichSchemeItIs)
 {
     EXPECT_EQ(schemeOf(ThemeColors::forScheme(GetParam()).palette()), GetParam());
 }
 
-TEST_P(InEachScheme, TheStyleSheetKnowsEveryNameThatItUses)
+TEST_P(ThemeInEachScheme, TheStyleSheetKnowsEveryNameThatItUses)
 {
     const Theme theme;
     QFile file(QStringLiteral(":/ui/theme.qss"));
@@ -58,14 +58,14 @@ TEST_P(InEachScheme, TheStyleSheetKnowsEveryNameThatItUses)
     EXPECT_THAT(sheet.toStdString(), Not(HasSubstr("@")));
 }
 
-TEST(Contrast, IsThatOfTheAccessibilityGuidelines)
+TEST(ThemeContrast, IsThatOfTheAccessibilityGuidelines)
 {
     EXPECT_THAT(contrastRatio(Qt::black, Qt::white), DoubleNear(21.0, 0.001));
     EXPECT_THAT(contrastRatio(Qt::white, Qt::white), DoubleNear(1.0, 0.001));
     EXPECT_THAT(contrastRatio(QColor(0x777777), Qt::white), DoubleNear(4.48, 0.01));
 }
 
-TEST(StyleSheet, FillsInColoursByName)
+TEST(ThemeStyleSheet, FillsInColoursByName)
 {
     const auto colors = ThemeColors::forScheme(ColorScheme::Light);
     EXPECT_EQ(
@@ -80,7 +80,7 @@ QColor middleOf(const QIcon &icon, int size, QIcon::Mode mode = QIcon::Normal)
     return icon.pixmap(QSize(size, size), 1.0, mode).toImage().pixelColor(size / 2, size / 2);
 }
 
-TEST(SymbolicIcons, AreDrawnInTheInkThatTheyWereGiven)
+TEST(ThemeSymbolicIcons, AreDrawnInTheInkThatTheyWereGiven)
 {
     const Theme theme;
     const QIcon dot = theme.icon(QStringLiteral("link-active"), Theme::Ink::Positive);
@@ -88,7 +88,7 @@ TEST(SymbolicIcons, AreDrawnInTheInkThatTheyWereGiven)
     EXPECT_EQ(middleOf(dot, 20, QIcon::Disabled), theme.colors().disabledText);
 }
 
-TEST(SymbolicIcons, FollowTheScheme)
+TEST(ThemeSymbolicIcons, FollowTheScheme)
 {
     Theme theme;
     const QIcon dot = theme.icon(QStringLiteral("link-active"), Theme::Ink::Positive);
@@ -96,7 +96,7 @@ TEST(SymbolicIcons, FollowTheScheme)
     EXPECT_EQ(middleOf(dot, 20), ThemeColors::forScheme(ColorScheme::Dark).positive);
 }
 
-TEST(SymbolicIcons, AreAsSharpAsTheScreen)
+TEST(ThemeSymbolicIcons, AreAsSharpAsTheScreen)
 {
     const Theme theme;
     const QPixmap picture =
@@ -105,7 +105,7 @@ TEST(SymbolicIcons, AreAsSharpAsTheScreen)
     EXPECT_EQ(picture.devicePixelRatio(), 2.0);
 }
 
-TEST(SymbolicIcons, OfAnUnknownNameAreEmpty)
+TEST(ThemeSymbolicIcons, OfAnUnknownNameAreEmpty)
 {
     const Theme theme;
     const QIcon icon = theme.icon(QStringLiteral("no-such-icon"), Theme::Ink::Text);

@@ -149,7 +149,7 @@ TEST_F(AddressFieldTest, WhatIsLeftUnfinishedStays)
     EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:0"));
 }
 
-class DropOnTheFieldTest : public AddressFieldTest
+class AddressFieldDropTest : public AddressFieldTest
 {
 protected:
     bool enter(const QString &text)
@@ -176,7 +176,7 @@ protected:
     TextFieldBackgroundView view{window};
 };
 
-TEST_F(DropOnTheFieldTest, AnAddressIsTakenAsACopyAndFillsTheField)
+TEST_F(AddressFieldDropTest, AnAddressIsTakenAsACopyAndFillsTheField)
 {
     EXPECT_TRUE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
     EXPECT_EQ(action, Qt::CopyAction);
@@ -185,14 +185,14 @@ TEST_F(DropOnTheFieldTest, AnAddressIsTakenAsACopyAndFillsTheField)
     EXPECT_TRUE(window.state().updateEnabled);
 }
 
-TEST_F(DropOnTheFieldTest, WhatIsNoAddressIsRefused)
+TEST_F(AddressFieldDropTest, WhatIsNoAddressIsRefused)
 {
     EXPECT_FALSE(enter(QStringLiteral("hello")));
     drop(QStringLiteral("hello"));
     EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
 }
 
-TEST_F(DropOnTheFieldTest, ADisabledFieldRefusesEverything)
+TEST_F(AddressFieldDropTest, ADisabledFieldRefusesEverything)
 {
     window.setHelperInstalled(false);
     EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
@@ -200,14 +200,14 @@ TEST_F(DropOnTheFieldTest, ADisabledFieldRefusesEverything)
     EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
 }
 
-TEST_F(DropOnTheFieldTest, OnlyTheViewOfTheAddressFieldTakesDrops)
+TEST_F(AddressFieldDropTest, OnlyTheViewOfTheAddressFieldTakesDrops)
 {
     view.setObjectName(QStringLiteral("anotherView"));
     EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
     EXPECT_FALSE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
 }
 
-TEST_F(DropOnTheFieldTest, SomethingElseThanTextIsRefused)
+TEST_F(AddressFieldDropTest, SomethingElseThanTextIsRefused)
 {
     data.clear();
     data.setData(QStringLiteral("image/png"), QByteArray("x"));
@@ -217,7 +217,7 @@ TEST_F(DropOnTheFieldTest, SomethingElseThanTextIsRefused)
     EXPECT_FALSE(event.isAccepted());
 }
 
-TEST_F(DropOnTheFieldTest, TheFieldItselfLeavesDropsToItsView)
+TEST_F(AddressFieldDropTest, TheFieldItselfLeavesDropsToItsView)
 {
     EXPECT_FALSE(field.acceptDrops());
     EXPECT_TRUE(view.acceptDrops());

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/window/StatusRows.h"
 
-#include "devices/RandomAddress.h"
-#include "fakes/FakeHttpClient.h"
-#include "fakes/FakeNotifier.h"
-#include "fakes/FakeRandomSource.h"
 #include "networks/ExternalIPAddress.h"
-#include "platform/NotificationCenter.h"
 #include "presentation/networks/ExternalAddressModel.h"
 #include "presentation/rules/CountdownModel.h"
 #include "presentation/rules/RuleStatusModel.h"
@@ -24,9 +19,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString wired = QStringLiteral("enp1s0");
-const QString wifi = QStringLiteral("wlp2s0");
-
 class StatusRowsTest : public WindowMachine
 {
 protected:
@@ -41,8 +33,8 @@ protected:
             [this](const QString &device, const QString &text, bool isPaused) {
                 countdown.showCountdown(device, text, isPaused);
             });
-        QObject::connect(&timers, &CountdownTimers::timerLabelStale, &countdown,
-            [this] { countdown.hideTimerLabel(); });
+        QObject::connect(
+            &timers, &CountdownTimers::stopped, &countdown, [this] { countdown.hideTimerLabel(); });
     }
 
     template <typename T>
@@ -66,15 +58,11 @@ protected:
     }
 
     Theme theme;
-    NotificationCenter notifications;
-    FakeHttpClient http{scheduler};
+    FakeHttpClient &http = machine.http;
     ExternalIPAddress externalAddress{http, settings, QUrl(QStringLiteral("https://ip.test"))};
     ExternalAddressModel externalAddressShown{settings, externalAddress};
     RuleStatusModel status{devices};
-    FakeNotifier notifier;
-    FakeRandomSource random;
-    RandomAddress randomAddress{random, devices, [](const QString &, const QString &) {}};
-    CountdownTimers timers{{scheduler, notifications, notifier, devices, randomAddress}};
+    CountdownTimers timers{{scheduler, notifications, notifier, devices, changer}};
     CountdownModel countdown{timers, current};
     std::unique_ptr<InterfaceDetails> details;
 };

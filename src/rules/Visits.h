@@ -12,24 +12,24 @@
 
 namespace quillon {
 
-/// Remembers, for each device, which rule was carried out since it joined its network. A change of
-/// the address takes the link down and up and brings another lease, and the system reports each of
-/// these as news of the device. Were a rule that changes the address once carried out again for
-/// them, it would cause the next ones, for ever.
-class CarriedOutRules
+/// Remembers, for each device, which rule was carried out on its visit to the network that it is
+/// on: a rule that changes the address once does so once per visit. A change of the address takes
+/// the link down and up and brings another lease, and the system reports each of these as news of
+/// the device. Were the rule carried out again for them, it would cause the next ones, for ever.
+class Visits
 {
 public:
     /// What was carried out, and where.
-    struct Occasion
+    struct Act
     {
         QVariantMap rule; ///< the flattened copy
         QString ssid;     ///< "" for a device that is not Wi-Fi
 
-        bool operator==(const Occasion &) const = default;
+        bool operator==(const Act &) const = default;
     };
 
-    void carryOut(const QString &device, const Occasion &occasion);
-    bool isCarriedOut(const QString &device, const Occasion &occasion) const;
+    void carryOut(const QString &device, const Act &act);
+    bool isCarriedOut(const QString &device, const Act &act) const;
     /// The devices for which something is remembered.
     QStringList devices() const;
 
@@ -40,24 +40,24 @@ public:
     /// after that, or when the clock was set back, it is down by itself.
     void changeSettled(const QString &device, bool linkIsUp, const QDateTime &now);
 
-    /// The device was seen on its network, or off it. Being off it by itself ends its stay: what is
-    /// remembered is forgotten.
+    /// The device was seen on its network, or off it. Being off it by itself ends its visit: what
+    /// is remembered is forgotten.
     void sawOnNetwork(const QString &device, const QDateTime &now);
     void sawOffNetwork(const QString &device, const QDateTime &now);
     /// The device was taken away.
     void sawGone(const QString &device);
 
 private:
-    struct Stay
+    struct Visit
     {
-        std::optional<Occasion> occasion;
+        std::optional<Act> act;
         int changesUnderWay = 0;
         std::optional<QDateTime> downSince; ///< settled with the link down, not seen up since
 
         bool isExpectedBack(const QDateTime &now) const;
     };
 
-    QHash<QString, Stay> m_stays;
+    QHash<QString, Visit> m_visits;
 };
 
 } // namespace quillon

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "presentation/window/Presence.h"
+#include "presence/Presence.h"
 
 #include "base/SettingsKeys.h"
 #include "fakes/FakeScheduler.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rules/CarriedOutRules.h"
+#include "rules/Visits.h"
 
 #include <gtest/gtest.h>
 
@@ -9,11 +9,11 @@ namespace {
 
 const QString en0 = QStringLiteral("en0");
 const QString en1 = QStringLiteral("en1");
-const CarriedOutRules::Occasion home{
+const Visits::Act home{
     {{QStringLiteral("address"), QStringLiteral("Random Address")}}, QStringLiteral("Home")};
-const CarriedOutRules::Occasion office{home.rule, QStringLiteral("Office")};
+const Visits::Act office{home.rule, QStringLiteral("Office")};
 
-class CarriedOut : public ::testing::Test
+class VisitsTest : public ::testing::Test
 {
 protected:
     /// The change has settled now and left the link down.
@@ -25,11 +25,11 @@ protected:
         rules.changeSettled(en0, false, now);
     }
 
-    CarriedOutRules rules;
+    Visits rules;
     const QDateTime now = QDateTime::fromSecsSinceEpoch(1'750'000'000, Qt::UTC);
 };
 
-TEST_F(CarriedOut, IsRememberedForItsDeviceRuleAndNetwork)
+TEST_F(VisitsTest, IsRememberedForItsDeviceRuleAndNetwork)
 {
     rules.carryOut(en0, home);
     EXPECT_TRUE(rules.isCarriedOut(en0, home));
@@ -39,7 +39,7 @@ TEST_F(CarriedOut, IsRememberedForItsDeviceRuleAndNetwork)
     EXPECT_EQ(rules.devices(), QStringList{en0});
 }
 
-TEST_F(CarriedOut, IsForgottenWhenTheLinkGoesByItself)
+TEST_F(VisitsTest, IsForgottenWhenTheLinkGoesByItself)
 {
     rules.carryOut(en0, home);
     rules.sawOnNetwork(en0, now);
@@ -49,7 +49,7 @@ TEST_F(CarriedOut, IsForgottenWhenTheLinkGoesByItself)
     EXPECT_TRUE(rules.devices().isEmpty());
 }
 
-TEST_F(CarriedOut, OutlivesALinkThatGoesDuringAChange)
+TEST_F(VisitsTest, OutlivesALinkThatGoesDuringAChange)
 {
     rules.carryOut(en0, home);
     rules.changeBegan(en0);
@@ -62,7 +62,7 @@ TEST_F(CarriedOut, OutlivesALinkThatGoesDuringAChange)
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, OutlivesALinkThatComesBackAfterTheChange)
+TEST_F(VisitsTest, OutlivesALinkThatComesBackAfterTheChange)
 {
     rules.carryOut(en0, home);
     rules.changeBegan(en0);
@@ -76,7 +76,7 @@ TEST_F(CarriedOut, OutlivesALinkThatComesBackAfterTheChange)
     EXPECT_FALSE(rules.isCarriedOut(en0, home)) << "the next loss is none of ours";
 }
 
-TEST_F(CarriedOut, OutlivesALinkThatComesBackWithinAMinute)
+TEST_F(VisitsTest, OutlivesALinkThatComesBackWithinAMinute)
 {
     settleDown();
     rules.sawOffNetwork(en0, now.addSecs(60));
@@ -84,28 +84,28 @@ TEST_F(CarriedOut, OutlivesALinkThatComesBackWithinAMinute)
     EXPECT_TRUE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, IsForgottenWhenTheLinkComesBackAfterAMinute)
+TEST_F(VisitsTest, IsForgottenWhenTheLinkComesBackAfterAMinute)
 {
     settleDown();
     rules.sawOnNetwork(en0, now.addSecs(61));
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, IsForgottenWhenTheLinkIsStillDownAfterAMinute)
+TEST_F(VisitsTest, IsForgottenWhenTheLinkIsStillDownAfterAMinute)
 {
     settleDown();
     rules.sawOffNetwork(en0, now.addSecs(61));
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, IsForgottenWhenTheClockWasSetBackWhileTheLinkWasDown)
+TEST_F(VisitsTest, IsForgottenWhenTheClockWasSetBackWhileTheLinkWasDown)
 {
     settleDown();
     rules.sawOnNetwork(en0, now.addSecs(-1));
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, OutlivesALinkThatComesBackLateDuringAnotherChange)
+TEST_F(VisitsTest, OutlivesALinkThatComesBackLateDuringAnotherChange)
 {
     settleDown();
     rules.changeBegan(en0);
@@ -113,7 +113,7 @@ TEST_F(CarriedOut, OutlivesALinkThatComesBackLateDuringAnotherChange)
     EXPECT_TRUE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, AnewIsNotForgottenForALinkThatWasDownBefore)
+TEST_F(VisitsTest, AnewIsNotForgottenForALinkThatWasDownBefore)
 {
     settleDown();
     rules.carryOut(en0, office);
@@ -121,7 +121,7 @@ TEST_F(CarriedOut, AnewIsNotForgottenForALinkThatWasDownBefore)
     EXPECT_TRUE(rules.isCarriedOut(en0, office));
 }
 
-TEST_F(CarriedOut, WaitsForTheLastOfSeveralChanges)
+TEST_F(VisitsTest, WaitsForTheLastOfSeveralChanges)
 {
     rules.carryOut(en0, home);
     rules.changeBegan(en0);
@@ -131,7 +131,7 @@ TEST_F(CarriedOut, WaitsForTheLastOfSeveralChanges)
     EXPECT_TRUE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, IsForgottenWithTheDeviceEvenDuringAChange)
+TEST_F(VisitsTest, IsForgottenWithTheDeviceEvenDuringAChange)
 {
     rules.carryOut(en0, home);
     rules.changeBegan(en0);
@@ -144,7 +144,7 @@ TEST_F(CarriedOut, IsForgottenWithTheDeviceEvenDuringAChange)
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
-TEST_F(CarriedOut, ToleratesWhatItNeverHeardOf)
+TEST_F(VisitsTest, ToleratesWhatItNeverHeardOf)
 {
     rules.sawOnNetwork(en0, now);
     rules.sawOffNetwork(en0, now);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "RuleMachine.h"
+#include "unit/rules/RuleMachine.h"
 
 using namespace std::chrono_literals;
 
@@ -337,9 +337,9 @@ TEST_F(AnotherEvent, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
 TEST_F(AnotherEvent, IsNotNeededWhereTheUserAsksForAChange)
 {
     plugInAndSettle(en0);
-    evaluate(en0, true);
+    evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(changesOf(en0).size(), 2);
-    evaluate(en0, true);
+    evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(changesOf(en0).size(), 3);
 }
 
@@ -369,9 +369,8 @@ TEST_F(AnotherEvent, OfARuleThatRepeatsRestartsItsCountdownAndEachCountdownMakes
 
 TEST_F(AnotherEvent, ThatComesWhenTheProgramEndsDoesNoHarm)
 {
-    auto brief = std::make_unique<RuleEvaluation>(RuleEvaluation::Collaborators{settings, scheduler,
-        notifications, table, current, wifi, externalAddress, reachability, randomAddress, changer,
-        store, invariants, queries, timers, [] { return false; }});
+    auto brief = std::make_unique<RuleExecution>(
+        RuleExecution::Collaborators{scheduler, table, changer, timers});
     brief->addressChangeBegan(en0);
     brief->addressChangeEnded(en0);
     brief.reset();

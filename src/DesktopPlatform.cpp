@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "DesktopPlatform.h"
+
+#include "app/SettingsProblemMessage.h"
+#include "base/Notifier.h"
+#include "vendors/VendorFiles.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+namespace quillon {
+
+namespace {
+
+/// A folder of its own, so that watching it does not wake us for everybody else's settings.
+QString settingsPath(const QString &name)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return folder + QStringLiteral("/Quillon/") + name;
+}
+
+Places places()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return {
+        .supportFolder = data + QStringLiteral("/Quillon"),
+        .shippedVendorDatabase = shippedVendorDatabase(QCoreApplication::applicationDirPath()),
+        .externalAddressService = QUrl(QStringLiteral("https://" QUILLON_EXTERNAL_ADDRESS_HOST)),
+        .vendorRegistry = QUrl(QStringLiteral(QUILLON_REGISTRY_URL)),
+    };
+}
+
+} // namespace
+
+DesktopPlatform::DesktopPlatform()
+    : m_settings(settingsPath(QStringLiteral("com.orvandel.Quillon4.plist")), m_scheduler,
+          [this](const SettingsProblem &problem) { tellOfSettings(problem); })
+    , m_groupSettings(settingsPath(QStringLiteral("orvandel.com.orvandel.Quillon4.plist")),
+          m_scheduler, [this](const SettingsProblem &problem) { tellOfSettings(problem); })
+    , m_userNotifications(m_scheduler)
+    , m_networkChanges(m_scheduler)
+    , m_location(m_scheduler)
+    , m_helperLink(m_random)
+{
+}
+
+Platform DesktopPlatform::platform()
+{
+    return {
+        .scheduler = m_scheduler,
+        .settings = m_settings,
+        .groupSettings = m_groupSettings,
+        .notifications = m_notifications,
+        .distributedNotifications = m_distributedNotifications,
+        .userNotifications = m_userNotifications,
+        .alerts = m_alerts,
+        .network = m_network,
+        .interfaceAddresses = m_interfaceAddresses,
+        .networkChanges = m_networkChanges,
+        .reachability = m_reachability,
+        .wifi = m_wifi,
+        .location = m_location,
+        .systemSettings = m_systemSettings,
+        .http = m_http,
+        .helperLink = m_helperLink,
+        .random = m_random,
+        .runningApplications = m_runningApplications,
+        .places = places(),
+    };
+}
+
+void DesktopPlatform::shutDown()
+{
+    m_scheduler.shutDown();
+    m_notifier = nullptr;
+}
+
+void DesktopPlatform::tellOfSettings(const SettingsProblem &problem) const
+{
+    if (m_notifier) {
+        const SettingsProblemMessage message = settingsProblemMessage(problem);
+        m_notifier->sendNotificationWithBody(message.title, message.body);
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/NotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/linux/GetrandomSource.h"
+#include "platform/linux/bus/BusRunningApplications.h"
+#include "platform/linux/bus/DBusHelperLink.h"
+#include "platform/linux/bus/FreedesktopNotifications.h"
+#include "platform/linux/bus/SessionBusNotificationCenter.h"
+#include "platform/linux/desktop/DesktopSystemSettings.h"
+#include "platform/linux/netlink/GetifaddrsAddresses.h"
+#include "platform/linux/netlink/NetlinkChangeSource.h"
+#include "platform/linux/netlink/NetlinkHost.h"
+#include "platform/linux/netlink/RouteReachability.h"
+#include "platform/linux/wifi/Nl80211LocationAuthorization.h"
+#include "platform/linux/wifi/Nl80211WiFiClient.h"
+#include "platform/qt/QtScheduler.h"
+#include "platform/qt/settings/PlistSettingsStore.h"
+#include "platform/qt/web/NetworkHttpClient.h"
+#include "ui/widgets/MessageAlerts.h"
+
+namespace quillon {
+
+class Notifier;
+
+/// The Linux desktop behind the seams: owns one implementation of each, made from the ground up and
+/// destroyed in the opposite order. Main thread, after the QApplication.
+class DesktopPlatform
+{
+public:
+    DesktopPlatform();
+
+    Platform platform();
+    /// Who tells the user that the settings cannot be read or written; until then nobody does.
+    void setNotifier(Notifier *notifier) { m_notifier = notifier; }
+    /// Background work ends before the components that it uses, and nobody is left to be told.
+    void shutDown();
+
+private:
+    void tellOfSettings(const SettingsProblem &problem) const;
+
+    Notifier *m_notifier = nullptr;
+    QtScheduler m_scheduler;
+    PlistSettingsStore m_settings;
+    PlistSettingsStore m_groupSettings;
+    NotificationCenter m_notifications;
+    SessionBusNotificationCenter m_distributedNotifications;
+    FreedesktopNotifications m_userNotifications;
+    MessageAlerts m_alerts;
+    NetlinkHost m_network;
+    GetifaddrsAddresses m_interfaceAddresses;
+    NetlinkChangeSource m_networkChanges;
+    RouteReachability m_reachability;
+    Nl80211WiFiClient m_wifi;
+    Nl80211LocationAuthorization m_location;
+    DesktopSystemSettings m_systemSettings;
+    NetworkHttpClient m_http;
+    GetrandomSource m_random;
+    DBusHelperLink m_helperLink;
+    BusRunningApplications m_runningApplications;
+};
+
+} // namespace quillon

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/features/Features.h"
+
+#include "platform/Platform.h"
+
+namespace quillon {
+
+Features::Features(const Platform &platform, Notifier &notifier)
+    : presence(platform.settings)
+    , helper(platform.helperLink, platform.scheduler, platform.notifications)
+    , devices(platform, notifier, helper)
+    , history(platform)
+    , networks(platform, devices.table, history.store)
+    , rules(platform, notifier, devices, history.store)
+    , vendors(platform)
+    , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
+          devices.addressChanger, helper})
+    , statusMenu({platform.settings, devices.table, devices.currentInterface,
+          devices.addressChanger, helper, presence})
+    , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
+{
+}
+
+} // namespace quillon

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/features/DeviceFeature.h"
+#include "app/features/HistoryFeature.h"
+#include "app/features/NetworkFeature.h"
+#include "app/features/RuleFeature.h"
+#include "app/features/VendorFeature.h"
+#include "helperlink/XPCMethods.h"
+#include "presence/Presence.h"
+#include "presentation/menu/StatusMenuModel.h"
+#include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/window/MainWindowModel.h"
+
+namespace quillon {
+
+/// Every feature of the program, each made of the ones before it. They do not call upwards: what
+/// one fact leads to elsewhere stands in EventWiring, the order of the start in LaunchSequence, and
+/// only these two and their owner see the whole.
+struct Features
+{
+    Features(const Platform &platform, Notifier &notifier);
+
+    Presence presence;
+    XPCMethods helper;
+    DeviceFeature devices;
+    HistoryFeature history;
+    NetworkFeature networks;
+    RuleFeature rules;
+    VendorFeature vendors;
+
+    MainWindowModel mainWindow;
+    StatusMenuModel statusMenu;
+    AdvancedPreferencesModel advancedPreferences;
+};
+
+} // namespace quillon

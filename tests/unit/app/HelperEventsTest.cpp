@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What follows when the helper's status is read, and when it is installed.
+#include "unit/app/ProgramOnFakes.h"
+#include "unit/app/StateOrder.h"
+
+namespace quillon::test {
+namespace {
+
+const QString newDevice = QStringLiteral("enp9s0");
+
+class HelperEventsTest : public ProgramOnFakes
+{
+protected:
+    HelperEventsTest() { run(); }
+
+    void deliverHelperUpdated()
+    {
+        machine.distributed.deliver(
+            notifications::helperUpdated, notifications::helperUpdatedObject);
+        machine.scheduler.runPending();
+    }
+    void removeHelper()
+    {
+        machine.helper.installed = false;
+        deliverHelperUpdated();
+    }
+    void installFromWindow()
+    {
+        features().mainWindow.installHelper();
+        machine.scheduler.runPending();
+    }
+    /// The selected interface has lost its address in the table, and there is another interface.
+    void makeTableStale()
+    {
+        QVariantMap table = machine.settings.getDictionary(keys::deviceDict);
+        QVariantMap record = table.value(enp1s0).toMap();
+        record.remove(record::current);
+        table[enp1s0] = record;
+        machine.settings.set(keys::deviceDict, table);
+        m_isStale = true;
+        machine.host.plug(
+            {QStringLiteral("Ethernet"), newDevice, {}, QStringLiteral("3c:22:fb:00:00:09"), {}});
+    }
+    /// The steps that put right what makeTableStale() did.
+    void expectRefresh(StateOrder &order)
+    {
+        order.expectSignal(
+            QStringLiteral("buttons"), features().mainWindow, &MainWindowModel::infoButtonsReset);
+        order.expect(QStringLiteral("hex values"),
+            [this] { return m_isStale && deviceRecord(enp1s0).contains(record::current); });
+        order.expect(QStringLiteral("interfaces"),
+            [this] { return features().devices.table.contains(newDevice); });
+        order.expect(
+            QStringLiteral("selection"), [this] { return window().devices.contains(newDevice); });
+        order.followSetting(machine.settings, keys::deviceDict);
+        order.follow(features().mainWindow, &MainWindowModel::changed);
+    }
+    bool menuOffersChanges() const
+    {
+        for (const MenuEntry &entry : features().statusMenu.entries()) {
+            if (!entry.submenu.empty()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+private:
+    bool m_isStale = false;
+};
+
+TEST_F(HelperEventsTest, AnUpdatedHelperIsAskedForItsVersion)
+{
+    removeHelper();
+    EXPECT_TRUE(window().readMeVisible);
+    EXPECT_FALSE(window().fieldEnabled);
+
+    machine.helper.installed = true;
+    deliverHelperUpdated();
+    EXPECT_FALSE(window().readMeVisible);
+    EXPECT_TRUE(window().fieldEnabled);
+}
+
+TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
+{
+    machine.distributed.deliver(notifications::helperUpdated, QStringLiteral("somebody.else"));
+    machine.scheduler.runPending();
+    EXPECT_TRUE(machine.helper.journal().isEmpty());
+}
+
+TEST_F(HelperEventsTest, ItsStatusIsFollowedInItsOrder)
+{
+    StateOrder order;
+    order.expect(QStringLiteral("field and hint"),
+        [this] { return window().readMeVisible && !window().fieldEnabled; });
+    order.expectSignal(
+        QStringLiteral("hint style"), features().mainWindow, &MainWindowModel::readMeStyleReset);
+    order.expectSignal(
+        QStringLiteral("rules"), features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated);
+    QObject::connect(&features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
+        [this] { makeTableStale(); });
+    expectRefresh(order);
+    order.expectBroadcast(
+        QStringLiteral("broadcast"), machine.notifications, notifications::helperStatusChanged);
+
+    machine.helper.version = QStringLiteral("1.9");
+    deliverHelperUpdated();
+    EXPECT_EQ(order.seen(), order.expected());
+}
+
+TEST_F(HelperEventsTest, AnInstallationFromTheWindowIsFollowedInItsOrder)
+{
+    removeHelper();
+    // Nothing follows from a status that is never read.
+    machine.helper.mood = FakeHelper::Mood::Hanging;
+    makeTableStale();
+
+    StateOrder order;
+    order.expect(QStringLiteral("hint hidden"), [this] { return !window().readMeVisible; });
+    expectRefresh(order);
+    order.expectSignal(
+        QStringLiteral("window opened"), features().presence, &Presence::windowOpened);
+    installFromWindow();
+    EXPECT_EQ(order.seen(), order.expected());
+    EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("version")));
+}
+
+TEST_F(HelperEventsTest, AFailedInstallationChangesNothing)
+{
+    removeHelper();
+    int fronts = 0;
+    QObject::connect(&features().presence, &Presence::windowOpened, [&] { ++fronts; });
+    machine.helper.installFails = true;
+    installFromWindow();
+    EXPECT_EQ(fronts, 0);
+    EXPECT_TRUE(window().readMeVisible);
+}
+
+TEST_F(HelperEventsTest, TheInstallButtonIsBusyUntilTheInstallationHasEnded)
+{
+    for (const bool fails : {true, false}) {
+        machine.helper.installFails = fails;
+        features().mainWindow.installHelper();
+        EXPECT_TRUE(window().installing);
+        machine.scheduler.runPending();
+        EXPECT_FALSE(window().installing);
+    }
+    EXPECT_FALSE(window().readMeVisible);
+}
+
+TEST_F(HelperEventsTest, PreferencesAndMenuFollowItsStatusWithTheBroadcast)
+{
+    ASSERT_TRUE(menuOffersChanges());
+    bool seen = false;
+    const auto token =
+        machine.notifications.addObserver(notifications::helperStatusChanged, [&](const auto &) {
+            EXPECT_TRUE(features().advancedPreferences.isInstallEnabled());
+            EXPECT_FALSE(features().advancedPreferences.isUninstallEnabled());
+            EXPECT_FALSE(menuOffersChanges());
+            seen = true;
+        });
+    removeHelper();
+    EXPECT_TRUE(seen);
+    machine.notifications.removeObserver(token);
+}
+
+} // namespace
+} // namespace quillon::test
