@@ -10,8 +10,8 @@
 //   memory          kilobytes resident now, and at most so far
 #include "bench/Request.h"
 #include "platform/qt/QtScheduler.h"
-#include "store/PersistentContainer.h"
 #include "store/graph/FetchedRecords.h"
+#include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
 
 #include <QCoreApplication>
@@ -106,7 +106,7 @@ public:
         }
         if (what == "open") {
             auto answer = keep();
-            m_container.reset();
+            m_context.reset();
             return answer;
         }
         if (what == "keep") {
@@ -129,15 +129,15 @@ public:
 private:
     void load()
     {
-        auto opened = PersistentContainer::load(quillonModel(), m_path, m_scheduler);
+        auto opened = ManagedObjectContext::open(quillonModel(), m_path, m_scheduler);
         valueOf(opened);
-        m_container = std::move(opened.value());
+        m_context = std::move(opened.value());
     }
-    ManagedObjectContext &context() { return m_container->viewContext(); }
+    ManagedObjectContext &context() { return *m_context; }
 
     Words keep()
     {
-        m_container.reset();
+        m_context.reset();
         const auto begin = Clock::now();
         load();
         const Words read = firstPage({model::Connection, {}, {}});
@@ -172,7 +172,7 @@ private:
                 }
             }
         }
-        m_container.reset();
+        m_context.reset();
         return word(Clock::now() - begin);
     }
 
@@ -204,7 +204,7 @@ private:
 
     QString m_path;
     QtScheduler m_scheduler;
-    std::unique_ptr<PersistentContainer> m_container;
+    std::unique_ptr<ManagedObjectContext> m_context;
     int m_saved = 0;
 };
 

@@ -6,7 +6,8 @@
 
 namespace quillon {
 
-class RecordSaving;
+class AlertPresenter;
+class RecordStore;
 
 /// The program's wish to end, from wherever it comes: it ends once its records are saved, or the
 /// user does without. Main thread.
@@ -15,7 +16,7 @@ class Termination : public QObject
     Q_OBJECT
 
 public:
-    explicit Termination(RecordSaving &saving);
+    Termination(RecordStore &store, AlertPresenter &alerts);
 
     /// While the user is asked, further wishes wait for the same answer.
     void terminate();
@@ -25,7 +26,12 @@ Q_SIGNALS:
     void granted();
 
 private:
-    RecordSaving &m_saving;
+    /// Whether the program may end: saves first, and asks when that fails.
+    bool applicationShouldTerminate();
+    bool quitAnyway();
+
+    RecordStore &m_store;
+    AlertPresenter &m_alerts;
     bool m_asking = false;
 };
 

@@ -4,11 +4,6 @@
 
 #include "base/Localized.h"
 #include "base/Log.h"
-#include "base/SettingsKeys.h"
-#include "platform/AlertPresenter.h"
-#include "platform/SettingsStore.h"
-#include "store/RecordFailure.h"
-#include "store/file/RecordFile.h"
 #include "store/model/QuillonModel.h"
 
 #include <QDir>
@@ -39,100 +34,58 @@ QString logLine(const Error &error, const QString &path)
                             .arg(QString::number(error.code), error.domain, path)});
 }
 
-Alert alertFor(const Error &error, const QString &path)
-{
-    const QStringList buttons{localized("Quit")};
-    if (isRecordFileError(error, RecordFileError::Newer)) {
-        return {localized("The records were written by a newer version of Quillon"),
-            filled(localized("They are left untouched; please install that version again to use "
-                             "them: %@"),
-                {path}),
-            buttons};
-    }
-    return {localized("The records cannot be opened"),
-        filled(localized("%@\n\nRules and history are in this file, which is left as it is: %@"),
-            {reasonOf(error), path}),
-        buttons};
-}
-
 } // namespace
 
-RecordStore::RecordStore(const Collaborators &collaborators, QString folder)
-    : m_with(collaborators)
+RecordStore::RecordStore(Scheduler &scheduler, QString folder, OpenFailure openFailure)
+    : m_scheduler(scheduler)
     , m_folder(std::move(folder))
+    , m_openFailure(std::move(openFailure))
 {
 }
 
 RecordStore::~RecordStore() = default;
 
-PersistentContainer &RecordStore::persistentContainer()
-{
-    if (!m_container) {
-        use(opened());
-    }
-    return *m_container;
-}
-
 ManagedObjectContext &RecordStore::managedObjectContext()
 {
-    return persistentContainer().viewContext();
+    if (!m_context) {
+        replaceContext();
+    }
+    return *m_context;
 }
 
 void RecordStore::refreshPersistentContainer()
 {
-    if (m_container) {
-        if (const auto error = m_container->viewContext().save()) {
+    if (m_context) {
+        if (const auto error = m_context->save()) {
             qCWarning(logRecords, "Changes are lost, as they could not be saved: %s",
                 qUtf8Printable(error->message));
         }
     }
     // The old one stays until everybody has turned to the new one.
-    const auto old = use(opened());
+    const auto old = replaceContext();
     Q_EMIT managedObjectContextReplaced();
 }
 
-std::unique_ptr<PersistentContainer> RecordStore::use(
-    std::unique_ptr<PersistentContainer> container)
-{
-    if (m_container) {
-        m_container->viewContext().disconnect(this);
-    }
-    ManagedObjectContext &context = container->viewContext();
-    connect(
-        &context, &ManagedObjectContext::objectsDidChange, this, &RecordStore::objectsDidChange);
-    connect(&context, &ManagedObjectContext::recordsMerged, this, &RecordStore::recordsMerged);
-    return std::exchange(m_container, std::move(container));
-}
-
-std::unique_ptr<PersistentContainer> RecordStore::opened()
+std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
     makeFolder(m_folder);
     const QString path = QDir(m_folder).filePath(QStringLiteral("Quillon.sqlite"));
-    auto container = load(m_with.settings.getBool(keys::iCloudSync), path);
-    if (!container) {
-        endProcess(container.error(), path);
+    auto opened = ManagedObjectContext::open(quillonModel(), path, m_scheduler);
+    if (!opened) {
+        qCWarning(logRecords, "%s", qUtf8Printable(logLine(opened.error(), path)));
+        if (m_openFailure) {
+            m_openFailure(opened.error(), path);
+        }
+        std::abort();
     }
-    return std::move(container.value());
-}
-
-Result<std::unique_ptr<PersistentContainer>> RecordStore::load(
-    [[maybe_unused]] bool cloudMirrored, const QString &path)
-{
-    // Which container it is to be is decided here and nowhere else. A mirrored one would keep the
-    // records in the same file, so that switching loses none; for now both are that file alone.
-    return PersistentContainer::load(quillonModel(), path, m_with.scheduler);
-}
-
-void RecordStore::endProcess(const Error &error, const QString &path)
-{
-    qCWarning(logRecords, "%s", qUtf8Printable(logLine(error, path)));
-    // Nothing else is to be lost by this.
-    m_with.settings.flush();
-    m_with.alerts.runModal(alertFor(error, path));
-    if (isRecordFileError(error, RecordFileError::Newer)) {
-        std::_Exit(EXIT_FAILURE);
+    if (m_context) {
+        m_context->disconnect(this);
     }
-    std::abort();
+    ManagedObjectContext &context = *opened.value();
+    connect(
+        &context, &ManagedObjectContext::objectsDidChange, this, &RecordStore::objectsDidChange);
+    connect(&context, &ManagedObjectContext::recordsMerged, this, &RecordStore::recordsMerged);
+    return std::exchange(m_context, std::move(opened.value()));
 }
 
 } // namespace quillon

@@ -4,13 +4,16 @@
 
 #include "platform/Platform.h"
 
+#include <utility>
+
 namespace quillon {
 
-Features::Features(const Platform &platform, Notifier &notifier)
+Features::Features(
+    const Platform &platform, Notifier &notifier, RecordStore::OpenFailure openFailure)
     : presence(platform.settings)
     , helper(platform.helperLink, platform.scheduler, platform.notifications)
     , devices(platform, notifier, helper)
-    , history(platform)
+    , history(platform, std::move(openFailure))
     , networks(platform, devices.table, history.store)
     , rules(platform, notifier, devices, history.store)
     , vendors(platform)

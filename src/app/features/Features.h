@@ -20,7 +20,7 @@ namespace quillon {
 /// only these two and their owner see the whole.
 struct Features
 {
-    Features(const Platform &platform, Notifier &notifier);
+    Features(const Platform &platform, Notifier &notifier, RecordStore::OpenFailure openFailure);
 
     Presence presence;
     XPCMethods helper;

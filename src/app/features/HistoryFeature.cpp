@@ -4,10 +4,12 @@
 
 #include "platform/Platform.h"
 
+#include <utility>
+
 namespace quillon {
 
-HistoryFeature::HistoryFeature(const Platform &platform)
-    : store({platform.settings, platform.scheduler, platform.alerts}, platform.places.supportFolder)
+HistoryFeature::HistoryFeature(const Platform &platform, RecordStore::OpenFailure openFailure)
+    : store(platform.scheduler, platform.places.supportFolder, std::move(openFailure))
     , history(store, platform.settings, platform.scheduler)
 {
 }

@@ -12,7 +12,7 @@ struct Platform;
 /// What the program remembers, put together: the records of rules and changes, and the history.
 struct HistoryFeature
 {
-    explicit HistoryFeature(const Platform &platform);
+    HistoryFeature(const Platform &platform, RecordStore::OpenFailure openFailure);
 
     RecordStore store;
     HistoryRecords history;

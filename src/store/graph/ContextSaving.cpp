@@ -46,7 +46,7 @@ std::optional<Error> ManagedObjectContext::save()
     for (const ManagedObjectPtr &object : std::as_const(objects)) {
         changes << changeOf(*object);
     }
-    const auto written = m_file.write(changes);
+    const auto written = m_file->write(changes);
     if (!written) {
         return written.error();
     }
@@ -69,7 +69,7 @@ std::optional<Error> ManagedObjectContext::save()
 void ManagedObjectContext::mergeChangesFromStore()
 {
     // What comes while we read is for the next time.
-    const auto version = m_file.versionOfOthers();
+    const auto version = m_file->versionOfOthers();
     QHash<QString, ManagedObjectList> known;
     for (ManagedObject *const object : std::as_const(m_registered)) {
         if (object->m_isInFile) {
@@ -83,7 +83,7 @@ void ManagedObjectContext::mergeChangesFromStore()
             for (const ManagedObjectPtr &object : some) {
                 keys << object->m_key;
             }
-            const auto rows = m_file.rows(some.first()->m_entity, keys);
+            const auto rows = m_file->rows(some.first()->m_entity, keys);
             if (!rows) {
                 qCWarning(logRecords, "Changes of other programs cannot be read: %s",
                     qUtf8Printable(rows.error().message));
@@ -99,7 +99,7 @@ void ManagedObjectContext::mergeChangesFromStore()
         }
     }
     if (version) {
-        m_file.acknowledgeOthers(version.value());
+        m_file->acknowledgeOthers(version.value());
     }
     Q_EMIT recordsMerged();
 }

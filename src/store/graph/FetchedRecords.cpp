@@ -50,7 +50,7 @@ Result<ManagedObjectList> FetchedRecords::State::read(qsizetype page) const
             inFile << keys[index];
         }
     }
-    const auto rows = context->m_file.rows(entity, inFile);
+    const auto rows = context->m_file->rows(entity, inFile);
     if (!rows) {
         return rows.error();
     }
@@ -111,7 +111,7 @@ Result<FetchedRecords> ManagedObjectContext::fetchLazily(const FetchRequest &req
             unsaved.insert(object->m_key, object);
         }
     }
-    auto keys = m_file.keys(*entity, request, changes);
+    auto keys = m_file->keys(*entity, request, changes);
     if (!keys) {
         return keys.error();
     }

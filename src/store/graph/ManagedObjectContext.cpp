@@ -25,10 +25,21 @@ ManagedObjectContext::UndoDisabled::~UndoDisabled()
     --m_context.m_undoDisabled;
 }
 
+Result<std::unique_ptr<ManagedObjectContext>> ManagedObjectContext::open(
+    const Model &model, const QString &path, Scheduler &scheduler)
+{
+    auto file = RecordFile::open(model, path);
+    if (!file) {
+        return file.error();
+    }
+    return std::unique_ptr<ManagedObjectContext>(
+        new ManagedObjectContext(model, std::move(file.value()), scheduler));
+}
+
 ManagedObjectContext::ManagedObjectContext(
-    const Model &model, RecordFile &file, Scheduler &scheduler)
+    const Model &model, std::unique_ptr<RecordFile> file, Scheduler &scheduler)
     : m_model(model)
-    , m_file(file)
+    , m_file(std::move(file))
     , m_scheduler(scheduler)
     , m_nextKey(firstUnsavedKey)
     , m_undoManager(std::make_unique<QUndoStack>())
@@ -110,7 +121,7 @@ ManagedObjectPtr ManagedObjectContext::objectWithURI(const QString &uri)
     const QUuid id = QUuid::fromString(parts.value(4));
     ManagedObjectPtr object = registered(*entity, id);
     if (!object || isGone(object)) {
-        const auto rows = m_file.row(*entity, id);
+        const auto rows = m_file->row(*entity, id);
         object =
             rows && !rows.value().isEmpty() ? objectOf(*entity, rows.value().first()) : nullptr;
     }

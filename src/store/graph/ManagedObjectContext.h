@@ -64,7 +64,9 @@ public:
         ManagedObjectContext &m_context;
     };
 
-    ManagedObjectContext(const Model &model, RecordFile &file, Scheduler &scheduler);
+    /// Of the file at `path`, as RecordFile::open() opens it. Error: recordFileErrorDomain.
+    static Result<std::unique_ptr<ManagedObjectContext>> open(
+        const Model &model, const QString &path, Scheduler &scheduler);
     ~ManagedObjectContext() override;
 
     /// A new record with every attribute empty. An unknown entity is a programming error.
@@ -111,6 +113,9 @@ private:
     friend class FetchedRecords;
     friend class UndoStep;
 
+    ManagedObjectContext(
+        const Model &model, std::unique_ptr<RecordFile> file, Scheduler &scheduler);
+
     // The two ways in which a record changes; both note what was before.
     void assign(const ManagedObjectPtr &object, qsizetype attribute, const QVariant &value,
         ManagedObject::Change kind);
@@ -136,7 +141,7 @@ private:
     void takeOver(const ManagedObjectPtr &object, const RecordRow *row);
 
     const Model m_model;
-    RecordFile &m_file;
+    std::unique_ptr<RecordFile> m_file;
     Scheduler &m_scheduler;
     QHash<Identity, ManagedObject *> m_registered; ///< while they live
     QSet<ManagedObjectPtr> m_unsaved;

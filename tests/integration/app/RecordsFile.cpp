@@ -6,7 +6,7 @@
 #include "platform/qt/QtScheduler.h"
 #include "rules/Rule.h"
 #include "rules/RuleActions.h"
-#include "store/PersistentContainer.h"
+#include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
 
 namespace quillon::test {
@@ -25,12 +25,12 @@ QVariantMap attributes(const ManagedObject &object)
 QList<QVariantMap> saved(const QString &path, const QString &entity)
 {
     QtScheduler scheduler;
-    const auto container = PersistentContainer::load(quillonModel(), path, scheduler);
-    if (!container) {
+    const auto opened = ManagedObjectContext::open(quillonModel(), path, scheduler);
+    if (!opened) {
         return {};
     }
     QList<QVariantMap> records;
-    const auto fetched = container.value()->viewContext().fetch({entity, {}, {}});
+    const auto fetched = opened.value()->fetch({entity, {}, {}});
     for (const ManagedObjectPtr &object : fetched ? fetched.value() : ManagedObjectList()) {
         records.append(attributes(*object));
     }
@@ -75,11 +75,11 @@ QVariantMap randomLoginRule(const QString &device)
 bool addRule(const QString &path, const QVariantMap &values)
 {
     QtScheduler scheduler;
-    const auto container = PersistentContainer::load(quillonModel(), path, scheduler);
-    if (!container) {
+    const auto opened = ManagedObjectContext::open(quillonModel(), path, scheduler);
+    if (!opened) {
         return false;
     }
-    ManagedObjectContext &context = container.value()->viewContext();
+    ManagedObjectContext &context = *opened.value();
     const ManagedObjectPtr rule = context.insertNewObject(model::Rule);
     for (auto value = values.begin(); value != values.end(); ++value) {
         rule->setValue(value.key(), value.value());

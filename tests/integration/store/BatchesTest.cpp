@@ -15,18 +15,18 @@ class BatchesTest : public ::testing::Test
 protected:
     void SetUp() override
     {
-        auto opened = test::openedContainer(path, scheduler);
+        auto opened = test::openedContext(path, scheduler);
         ASSERT_TRUE(opened);
-        container = std::move(opened.value());
-        batches = std::make_unique<test::Batches>(container->viewContext());
+        owned = std::move(opened.value());
+        batches = std::make_unique<test::Batches>(*owned);
         for (qint64 batch = 1; batch <= last; ++batch) {
             batches->change(batch);
-            ASSERT_FALSE(container->viewContext().save().has_value());
+            ASSERT_FALSE(owned->save().has_value());
         }
     }
     ManagedObjectList all(const QString &entity)
     {
-        const auto objects = container->viewContext().fetch({entity, {}, {}});
+        const auto objects = owned->fetch({entity, {}, {}});
         return objects ? objects.value() : ManagedObjectList();
     }
     bool isSeen()
@@ -38,7 +38,7 @@ protected:
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
     test::FakeScheduler scheduler;
-    std::unique_ptr<PersistentContainer> container;
+    std::unique_ptr<ManagedObjectContext> owned;
     std::unique_ptr<test::Batches> batches;
 };
 
@@ -51,7 +51,7 @@ TEST_F(BatchesTest, WholeBatchesAreAsExpected)
 
 TEST_F(BatchesTest, AMissingRecordIsSeen)
 {
-    container->viewContext().deleteObject(all(model::Connection).last());
+    owned->deleteObject(all(model::Connection).last());
     EXPECT_TRUE(isSeen());
 }
 
@@ -63,14 +63,14 @@ TEST_F(BatchesTest, ALostChangeIsSeen)
 
 TEST_F(BatchesTest, ARecordTooManyIsSeen)
 {
-    container->viewContext().insertNewObject(model::Connection);
+    owned->insertNewObject(model::Connection);
     EXPECT_TRUE(isSeen());
 }
 
 TEST_F(BatchesTest, ALostMarkerIsSeen)
 {
     for (const auto &rule : all(model::Rule)) {
-        container->viewContext().deleteObject(rule);
+        owned->deleteObject(rule);
     }
     EXPECT_TRUE(isSeen());
 }
@@ -88,7 +88,7 @@ TEST_F(BatchesTest, ATrialSeesThatASaveWasLost)
     EXPECT_EQ(trial.counts().kills, 6);
     EXPECT_GT(trial.counts().savesReported, 0);
 
-    container.reset();
+    owned.reset();
     ASSERT_TRUE(QFile::remove(place));
     trial.check();
     EXPECT_EQ(trial.faults().size(), 1) << trial.faults().join(u'\n').toStdString();

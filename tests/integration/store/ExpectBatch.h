@@ -15,9 +15,9 @@ namespace quillon::test {
 inline void expectBatch(const QString &path, qint64 last)
 {
     FakeScheduler another;
-    auto container = openedContainer(path, another);
-    ASSERT_TRUE(container) << container.error().message.toStdString();
-    Batches batches(container.value()->viewContext());
+    auto opened = openedContext(path, another);
+    ASSERT_TRUE(opened) << opened.error().message.toStdString();
+    Batches batches(*opened.value());
     EXPECT_EQ(batches.last(), last);
     EXPECT_EQ(batches.found(), Batches::expected(last));
     EXPECT_EQ(integrityOf(path), "ok");

@@ -48,9 +48,9 @@ TEST_F(FullDisk, ASaveSucceedsWholeOrFailsWholeAndSucceedsWhenThereIsRoom)
     qint64 saved = 0;
     int refused = 0;
     for (int spare = 0; spare <= mostSpare; ++spare) {
-        auto container = test::openedContainer(path, scheduler);
-        ASSERT_TRUE(container) << container.error().message.toStdString();
-        ManagedObjectContext &context = container.value()->viewContext();
+        auto opened = test::openedContext(path, scheduler);
+        ASSERT_TRUE(opened) << opened.error().message.toStdString();
+        ManagedObjectContext &context = *opened.value();
         test::Batches batches(context);
         // Whatever the journal already holds is room that need not be asked for.
         batches.change(++saved);
@@ -80,9 +80,9 @@ TEST_F(FullDisk, ASaveSucceedsWholeOrFailsWholeAndSucceedsWhenThereIsRoom)
 
 TEST_F(FullDisk, ChangesMadeAfterTheRefusalAreSavedWithTheRest)
 {
-    auto container = test::openedContainer(path, scheduler);
-    ASSERT_TRUE(container);
-    ManagedObjectContext &context = container.value()->viewContext();
+    auto opened = test::openedContext(path, scheduler);
+    ASSERT_TRUE(opened);
+    ManagedObjectContext &context = *opened.value();
     test::Batches batches(context);
     fill(0);
     qint64 last = 0;
@@ -103,29 +103,29 @@ TEST_F(FullDisk, ANewFileThatFindsNoRoomIsAnError)
 {
     fill(0);
     {
-        const auto container = test::openedContainer(path, scheduler);
-        ASSERT_FALSE(container);
-        EXPECT_EQ(container.error().code, static_cast<int>(RecordFileError::Full));
+        const auto opened = test::openedContext(path, scheduler);
+        ASSERT_FALSE(opened);
+        EXPECT_EQ(opened.error().code, static_cast<int>(RecordFileError::Full));
     }
     makeRoom();
-    const auto container = test::openedContainer(path, scheduler);
-    EXPECT_TRUE(container) << "what the first attempt left is no obstacle";
+    const auto opened = test::openedContext(path, scheduler);
+    EXPECT_TRUE(opened) << "what the first attempt left is no obstacle";
 }
 
 TEST_F(FullDisk, AnExistingFileCannotBeOpenedAndIsLeftAsItIs)
 {
     {
-        auto container = test::openedContainer(path, scheduler);
-        ASSERT_TRUE(container);
-        test::Batches batches(container.value()->viewContext());
+        auto opened = test::openedContext(path, scheduler);
+        ASSERT_TRUE(opened);
+        test::Batches batches(*opened.value());
         batches.change(1);
-        ASSERT_FALSE(container.value()->viewContext().save().has_value());
+        ASSERT_FALSE(opened.value()->save().has_value());
     }
     fill(0);
     {
-        const auto container = test::openedContainer(path, scheduler);
-        ASSERT_FALSE(container);
-        EXPECT_EQ(container.error().code, static_cast<int>(RecordFileError::Full));
+        const auto opened = test::openedContext(path, scheduler);
+        ASSERT_FALSE(opened);
+        EXPECT_EQ(opened.error().code, static_cast<int>(RecordFileError::Full));
     }
     makeRoom();
     test::expectBatch(path, 1);

@@ -85,13 +85,13 @@ void KillTrial::killOneWriter()
 void KillTrial::write(const QString &path, int report)
 {
     FakeScheduler scheduler;
-    auto container = openedContainer(path, scheduler);
-    if (!container) {
-        std::fprintf(stderr, "not opened: %s\n", qUtf8Printable(container.error().message));
+    auto opened = openedContext(path, scheduler);
+    if (!opened) {
+        std::fprintf(stderr, "not opened: %s\n", qUtf8Printable(opened.error().message));
         tell(report, Message::Kind::Failed, 0);
         std::_Exit(1);
     }
-    ManagedObjectContext &context = container.value()->viewContext();
+    ManagedObjectContext &context = *opened.value();
     Batches batches(context);
     qint64 last = batches.last();
     const bool whole = last >= 0 && batches.found() == Batches::expected(last);
@@ -158,12 +158,12 @@ void KillTrial::check()
 {
     {
         FakeScheduler scheduler;
-        auto container = openedContainer(m_path, scheduler);
-        if (!container) {
-            m_faults << QStringLiteral("Not opened: ") + container.error().message;
+        auto opened = openedContext(m_path, scheduler);
+        if (!opened) {
+            m_faults << QStringLiteral("Not opened: ") + opened.error().message;
             return;
         }
-        Batches batches(container.value()->viewContext());
+        Batches batches(*opened.value());
         const qint64 last = batches.last();
         if (last < 0 || batches.found() != Batches::expected(last)) {
             m_faults << QStringLiteral("The records are not those of batch %1").arg(last);

@@ -67,26 +67,26 @@ protected:
     void SetUp() override
     {
         {
-            auto first = test::openedContainer(path, scheduler);
+            auto first = test::openedContext(path, scheduler);
             ASSERT_TRUE(first);
-            test::Batches batches(first.value()->viewContext());
+            test::Batches batches(*first.value());
             batches.change(1);
-            ASSERT_FALSE(first.value()->viewContext().save().has_value());
+            ASSERT_FALSE(first.value()->save().has_value());
         }
         // A fork has to come before we open the file: a connection does not outlive one.
     }
     void open()
     {
-        auto opened = test::openedContainer(path, scheduler);
+        auto opened = test::openedContext(path, scheduler);
         ASSERT_TRUE(opened) << opened.error().message.toStdString();
-        container = std::move(opened.value());
+        owned = std::move(opened.value());
     }
-    ManagedObjectContext &context() { return container->viewContext(); }
+    ManagedObjectContext &context() { return *owned; }
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
     test::FakeScheduler scheduler;
-    std::unique_ptr<PersistentContainer> container;
+    std::unique_ptr<ManagedObjectContext> owned;
 };
 
 TEST_F(LockedFile, ASaveGivesUpInBoundedTimeAndSucceedsLater)

@@ -2,18 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "store/PersistentContainer.h"
+#include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace quillon::test {
 
-using LoadedContainer = Result<std::unique_ptr<PersistentContainer>>;
+using OpenedContext = Result<std::unique_ptr<ManagedObjectContext>>;
 
-inline LoadedContainer openedContainer(const QString &path, Scheduler &scheduler)
+inline OpenedContext openedContext(const QString &path, Scheduler &scheduler)
 {
-    return PersistentContainer::load(quillonModel(), path, scheduler);
+    return ManagedObjectContext::open(quillonModel(), path, scheduler);
 }
 
 /// SQLite's own verdict on the file: "ok", or what is wrong.

@@ -3,9 +3,7 @@
 // Another process opens the file and closes it while we use it. Whoever closes a file that nobody
 // else has locked takes the log away: our locks have to be there.
 #include "RecordsOnDisk.h"
-#include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
 #include "fakes/QtPrinting.h"
 #include "store/RecordStore.h"
 #include "store/file/RecordFile.h"
@@ -97,9 +95,7 @@ protected:
     Visitor first{path};
     Visitor second{path};
     test::FakeScheduler scheduler;
-    test::FakeSettingsStore settings{scheduler};
-    test::FakeAlertPresenter alerts;
-    RecordStore store{{settings, scheduler, alerts}, folder.path()};
+    RecordStore store{scheduler, folder.path()};
 };
 
 TEST_F(VisitedFile, KeepsItsLogWhileWeHaveItOpen)

@@ -10,7 +10,7 @@
 #include "fakes/QtPrinting.h"
 #include "networks/SpecialNetworks.h"
 #include "rules/Rule.h"
-#include "store/PersistentContainer.h"
+#include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
 
 #include <gmock/gmock.h>
@@ -106,10 +106,10 @@ protected:
     /// A rule that is in the file, whatever the program has open.
     void saveRule(const QVariantMap &values)
     {
-        const auto container =
-            PersistentContainer::load(quillonModel(), recordsPath(), machine.scheduler);
-        ASSERT_TRUE(container);
-        ManagedObjectContext &records = container.value()->viewContext();
+        const auto opened =
+            ManagedObjectContext::open(quillonModel(), recordsPath(), machine.scheduler);
+        ASSERT_TRUE(opened);
+        ManagedObjectContext &records = *opened.value();
         fill(*records.insertNewObject(model::Rule), values);
         ASSERT_FALSE(records.save());
     }

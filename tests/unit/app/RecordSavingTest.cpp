@@ -2,47 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/RecordSaving.h"
 
+#include "fakes/FakeAlertPresenter.h"
 #include "fakes/LogCapture.h"
+#include "unit/app/OpenField.h"
 #include "unit/store/RecordStoreFixture.h"
 #include "unit/store/RefusingFile.h"
-
-#include <QFile>
 
 #include <optional>
 
 namespace quillon {
 namespace {
-
-using enum RecordSaving::TerminateReply;
-
-/// A text field that is being edited.
-class OpenField : public ManagedObjectContext::Editor
-{
-public:
-    explicit OpenField(ManagedObjectContext &context)
-        : m_context(context)
-    {
-        m_context.addEditor(*this);
-    }
-    ~OpenField() override { m_context.removeEditor(*this); }
-    OpenField(const OpenField &) = delete;
-    OpenField &operator=(const OpenField &) = delete;
-
-    bool commitEditing() override
-    {
-        if (accepts && rule) {
-            rule->setValue(model::rule::name, text);
-        }
-        return accepts;
-    }
-
-    bool accepts = true;
-    ManagedObjectPtr rule;
-    QString text;
-
-private:
-    ManagedObjectContext &m_context;
-};
 
 class RecordSavingTest : public test::RecordStoreTest
 {
@@ -55,10 +24,7 @@ protected:
     }
 
     const QString home = QStringLiteral("Home");
-    const Alert quitAnyway{QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-        QStringLiteral(
-            "Quitting now will lose any changes you have made since the last successful save"),
-        {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}};
+    test::FakeAlertPresenter alerts;
     RecordSaving saving{store, alerts};
     std::optional<test::RefusingFile> refusal;
 };
@@ -74,7 +40,7 @@ TEST_F(RecordSavingTest, SavesWhatChanged)
 
 TEST_F(RecordSavingTest, TakesAnOpenEditBeforeItSaves)
 {
-    OpenField field(context());
+    test::OpenField field(context());
     field.rule = insertRule(home);
     field.text = QStringLiteral("Office");
     saving.saveAction();
@@ -92,7 +58,7 @@ TEST_F(RecordSavingTest, WithoutChangesNothingIsWritten)
 TEST_F(RecordSavingTest, AnEditThatCannotBeTakenIsLoggedAndTheRestIsSaved)
 {
     insertRule(home);
-    OpenField field(context());
+    test::OpenField field(context());
     field.accepts = false;
     const test::LogCapture log;
     saving.saveAction();
@@ -115,91 +81,6 @@ TEST_F(RecordSavingTest, AFailureIsPresentedOnceAndEverythingStaysPending)
     saving.saveAction();
     EXPECT_EQ(savedNames(), QStringList(home));
     EXPECT_EQ(alerts.errors.size(), 1);
-}
-
-TEST_F(RecordSavingTest, QuitsAtOnceWhenNobodyUsedTheRecords)
-{
-    EXPECT_EQ(saving.applicationShouldTerminate(), Now);
-    EXPECT_FALSE(store.hasManagedObjectContext()) << "no file is opened for quitting";
-    EXPECT_FALSE(QFile::exists(path));
-}
-
-TEST_F(RecordSavingTest, QuitsAtOnceWithoutChanges)
-{
-    context();
-    refuse();
-    EXPECT_EQ(saving.applicationShouldTerminate(), Now);
-    EXPECT_TRUE(alerts.errors.isEmpty());
-}
-
-TEST_F(RecordSavingTest, DoesNotQuitWhileAnEditCannotBeTaken)
-{
-    insertRule(home);
-    OpenField field(context());
-    field.accepts = false;
-    const test::LogCapture log;
-    EXPECT_EQ(saving.applicationShouldTerminate(), Cancel);
-    EXPECT_EQ(log.taken(), QStringList(QStringLiteral(
-                               "quillon.records: QuillonAppDelegate:applicationShouldTerminate: "
-                               "unable to commit editing to terminate")));
-    EXPECT_EQ(savedNames(), QStringList()) << "nothing is saved then";
-    EXPECT_TRUE(alerts.errors.isEmpty());
-}
-
-TEST_F(RecordSavingTest, SavesAndQuits)
-{
-    OpenField field(context());
-    field.rule = insertRule(home);
-    field.text = QStringLiteral("Office");
-    EXPECT_EQ(saving.applicationShouldTerminate(), Now);
-    EXPECT_EQ(savedNames(), QStringList(QStringLiteral("Office")));
-    EXPECT_TRUE(alerts.alerts.isEmpty());
-}
-
-TEST_F(RecordSavingTest, DoesNotQuitWhenTheUserResolvedTheFailure)
-{
-    insertRule(home);
-    refuse();
-    alerts.resolvesErrors = true;
-    EXPECT_EQ(saving.applicationShouldTerminate(), Cancel);
-    EXPECT_TRUE(isRefusalPresented());
-    EXPECT_TRUE(alerts.alerts.isEmpty()) << "no second question";
-    EXPECT_TRUE(context().hasChanges());
-}
-
-TEST_F(RecordSavingTest, QuitsWithUnsavedChangesWhenTheUserSaysSo)
-{
-    insertRule(home);
-    refuse();
-    alerts.answer = 0;
-    EXPECT_EQ(saving.applicationShouldTerminate(), Now);
-    EXPECT_TRUE(isRefusalPresented());
-    EXPECT_EQ(alerts.alerts, QList<Alert>{quitAnyway});
-}
-
-TEST_F(RecordSavingTest, CancelKeepsTheProgramAndTheChanges)
-{
-    insertRule(home);
-    refuse();
-    alerts.answer = 1;
-    EXPECT_EQ(saving.applicationShouldTerminate(), Cancel);
-    EXPECT_TRUE(isRefusalPresented());
-    EXPECT_EQ(alerts.alerts, QList<Alert>{quitAnyway});
-    EXPECT_TRUE(context().hasChanges());
-    EXPECT_EQ(namesIn(context()), QStringList(home));
-    refusal.reset();
-    EXPECT_EQ(saving.applicationShouldTerminate(), Now);
-    EXPECT_EQ(savedNames(), QStringList(home));
-}
-
-TEST_F(RecordSavingTest, AContextReplacedWhileTheUserReadsIsNotTouched)
-{
-    insertRule(home);
-    refuse();
-    alerts.answer = 1;
-    alerts.whileShown = [this] { store.refreshPersistentContainer(); };
-    EXPECT_EQ(saving.applicationShouldTerminate(), Cancel);
-    EXPECT_FALSE(context().hasChanges());
 }
 
 } // namespace

@@ -2,56 +2,79 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Termination.h"
 
-#include "app/RecordSaving.h"
 #include "fakes/FakeAlertPresenter.h"
-#include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
-#include "store/RecordStore.h"
-#include "store/model/QuillonModel.h"
+#include "fakes/LogCapture.h"
+#include "unit/app/OpenField.h"
+#include "unit/store/RecordStoreFixture.h"
 #include "unit/store/RefusingFile.h"
 
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include <QFile>
+
+#include <optional>
 
 namespace quillon::test {
 namespace {
 
-class TerminationTest : public ::testing::Test
+class TerminationTest : public RecordStoreTest
 {
 protected:
     TerminationTest()
     {
         QObject::connect(&termination, &Termination::granted, [this] { ++granted; });
     }
-    void changeSomething() { store.managedObjectContext().insertNewObject(model::Rule); }
+    /// Whether one more wish to end is granted at once.
+    bool isGranted()
+    {
+        const int before = granted;
+        termination.terminate();
+        return granted == before + 1;
+    }
 
-    static constexpr int quitAnyway = 0;
-    static constexpr int cancel = 1;
-
-    QTemporaryDir folder;
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
+    const QString home = QStringLiteral("Home");
     FakeAlertPresenter alerts;
-    RecordStore store{{settings, scheduler, alerts}, folder.path()};
-    RecordSaving saving{store, alerts};
-    Termination termination{saving};
+    Termination termination{store, alerts};
     int granted = 0;
 };
 
-TEST_F(TerminationTest, IsGrantedAtOnceWhenThereIsNothingToSave)
+TEST_F(TerminationTest, IsGrantedAtOnceWhenNobodyUsedTheRecords)
 {
-    termination.terminate();
-    EXPECT_EQ(granted, 1);
+    EXPECT_TRUE(isGranted());
     EXPECT_TRUE(alerts.alerts.isEmpty());
+    EXPECT_FALSE(store.hasManagedObjectContext()) << "no file is opened for quitting";
+    EXPECT_FALSE(QFile::exists(path));
 }
 
-TEST_F(TerminationTest, SavesBeforeItIsGranted)
+TEST_F(TerminationTest, IsGrantedAtOnceWithoutChanges)
 {
-    changeSomething();
+    context();
+    const RefusingFile refusal(path);
+    EXPECT_TRUE(isGranted());
+    EXPECT_TRUE(alerts.errors.isEmpty());
+}
+
+TEST_F(TerminationTest, IsNotGrantedWhileAnEditCannotBeTaken)
+{
+    insertRule(home);
+    OpenField field(context());
+    field.accepts = false;
+    const LogCapture log;
+    EXPECT_FALSE(isGranted());
+    EXPECT_EQ(log.taken(), QStringList(QStringLiteral(
+                               "quillon.records: QuillonAppDelegate:applicationShouldTerminate: "
+                               "unable to commit editing to terminate")));
+    EXPECT_EQ(savedNames(), QStringList()) << "nothing is saved then";
+    EXPECT_TRUE(alerts.errors.isEmpty());
+}
+
+TEST_F(TerminationTest, TakesOpenEditsAndSavesBeforeItIsGranted)
+{
+    OpenField field(context());
+    field.rule = insertRule(home);
+    field.text = QStringLiteral("Office");
     QObject::connect(&termination, &Termination::granted,
-        [this] { EXPECT_FALSE(store.managedObjectContext().hasChanges()); });
-    termination.terminate();
-    EXPECT_EQ(granted, 1);
+        [this] { EXPECT_EQ(savedNames(), QStringList(QStringLiteral("Office"))); });
+    EXPECT_TRUE(isGranted());
+    EXPECT_TRUE(alerts.alerts.isEmpty());
 }
 
 class TerminationThatCannotSave : public TerminationTest
@@ -59,33 +82,62 @@ class TerminationThatCannotSave : public TerminationTest
 protected:
     TerminationThatCannotSave()
     {
-        store.managedObjectContext();
-        refusal.emplace(folder.filePath(QStringLiteral("Quillon.sqlite")));
-        changeSomething();
+        insertRule(home);
+        refusal.emplace(path);
+    }
+    bool isRefusalPresented() const
+    {
+        return alerts.errors.size() == 1 &&
+               alerts.errors.first().message.contains(QStringLiteral("refused by the file"));
     }
 
+    static constexpr int quitAnyway = 0;
+    static constexpr int cancel = 1;
+    const Alert question{QStringLiteral("Could not save changes while quitting. Quit anyway?"),
+        QStringLiteral(
+            "Quitting now will lose any changes you have made since the last successful save"),
+        {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}};
     std::optional<RefusingFile> refusal;
 };
 
-TEST_F(TerminationThatCannotSave, KeepsTheProgramRunningWhenTheUserCancels)
+TEST_F(TerminationThatCannotSave, IsNotGrantedWhenTheUserResolvedTheFailure)
 {
-    alerts.answer = cancel;
-    termination.terminate();
-    EXPECT_EQ(alerts.alerts.size(), 1);
-    EXPECT_EQ(granted, 0);
-    EXPECT_TRUE(store.managedObjectContext().hasChanges());
-
-    refusal.reset();
-    termination.terminate();
-    EXPECT_EQ(granted, 1) << "the next wish is asked anew";
-    EXPECT_EQ(alerts.alerts.size(), 1);
+    alerts.resolvesErrors = true;
+    EXPECT_FALSE(isGranted());
+    EXPECT_TRUE(isRefusalPresented());
+    EXPECT_TRUE(alerts.alerts.isEmpty()) << "no second question";
+    EXPECT_TRUE(context().hasChanges());
 }
 
 TEST_F(TerminationThatCannotSave, IsGrantedWhenTheUserDoesWithout)
 {
     alerts.answer = quitAnyway;
-    termination.terminate();
-    EXPECT_EQ(granted, 1);
+    EXPECT_TRUE(isGranted());
+    EXPECT_TRUE(isRefusalPresented());
+    EXPECT_EQ(alerts.alerts, QList<Alert>{question});
+}
+
+TEST_F(TerminationThatCannotSave, KeepsTheProgramAndTheChangesWhenTheUserCancels)
+{
+    alerts.answer = cancel;
+    EXPECT_FALSE(isGranted());
+    EXPECT_TRUE(isRefusalPresented());
+    EXPECT_EQ(alerts.alerts, QList<Alert>{question});
+    EXPECT_TRUE(context().hasChanges());
+    EXPECT_EQ(namesIn(context()), QStringList(home));
+
+    refusal.reset();
+    EXPECT_TRUE(isGranted()) << "the next wish is asked anew";
+    EXPECT_EQ(alerts.alerts.size(), 1);
+    EXPECT_EQ(savedNames(), QStringList(home));
+}
+
+TEST_F(TerminationThatCannotSave, DoesNotTouchAContextThatWasReplacedWhileTheUserReads)
+{
+    alerts.answer = cancel;
+    alerts.whileShown = [this] { store.refreshPersistentContainer(); };
+    EXPECT_FALSE(isGranted());
+    EXPECT_FALSE(context().hasChanges());
 }
 
 TEST_F(TerminationThatCannotSave, TakesFurtherWishesForTheSameOneWhileTheUserIsAsked)
@@ -95,14 +147,12 @@ TEST_F(TerminationThatCannotSave, TakesFurtherWishesForTheSameOneWhileTheUserIsA
         termination.terminate();
         termination.terminate();
     };
-    termination.terminate();
+    EXPECT_FALSE(isGranted());
     EXPECT_EQ(alerts.alerts.size(), 1);
-    EXPECT_EQ(granted, 0);
 
     alerts.answer = quitAnyway;
-    termination.terminate();
+    EXPECT_TRUE(isGranted());
     EXPECT_EQ(alerts.alerts.size(), 2);
-    EXPECT_EQ(granted, 1);
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "base/NetworkKeys.h"
-#include "fakes/FakeAlertPresenter.h"
 #include "history/Connection.h"
 #include "history/HistoryRecords.h"
 #include "store/RecordStore.h"
@@ -51,9 +50,7 @@ protected:
     const QString wifi = QStringLiteral("wlp2s0");
     const QString address = QStringLiteral("02:AA:bb:CC:dd:01");
     QTemporaryDir folder;
-    FakeAlertPresenter alerts;
-    std::unique_ptr<RecordStore> records = std::make_unique<RecordStore>(
-        RecordStore::Collaborators{settings, scheduler, alerts}, folder.path());
+    std::unique_ptr<RecordStore> records = std::make_unique<RecordStore>(scheduler, folder.path());
     std::unique_ptr<HistoryRecords> history =
         std::make_unique<HistoryRecords>(*records, settings, scheduler);
 };

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/NetworkKeys.h"
-#include "fakes/FakeAlertPresenter.h"
 #include "history/Connection.h"
 #include "history/HistoryRecords.h"
 #include "store/RecordStore.h"
@@ -31,7 +30,7 @@ protected:
 
     QList<Connection> recordsInFile()
     {
-        RecordStore other({settings, scheduler, alerts}, folder.path());
+        RecordStore other(scheduler, folder.path());
         const Result<ManagedObjectList> fetched =
             other.managedObjectContext().fetch(Connection::fetchRequest());
         EXPECT_TRUE(fetched);
@@ -45,8 +44,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    FakeAlertPresenter alerts;
-    RecordStore records{{settings, scheduler, alerts}, folder.path()};
+    RecordStore records{scheduler, folder.path()};
     HistoryRecords history{records, settings, scheduler};
 };
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "NetworkMachine.h"
-#include "fakes/FakeAlertPresenter.h"
 #include "networks/SavedNetworkEditing.h"
 #include "store/RecordStore.h"
 
@@ -35,8 +34,7 @@ protected:
     QString name() const { return savedNetwork(homeBssid).value(savedentry::name).toString(); }
 
     QTemporaryDir folder;
-    FakeAlertPresenter alerts;
-    RecordStore records{{settings, scheduler, alerts}, folder.path()};
+    RecordStore records{scheduler, folder.path()};
     std::unique_ptr<SavedNetworkEditing> editing;
     int finished = 0;
     int rulesChanged = 0;

@@ -6,6 +6,7 @@
 #include "devices/DeviceTable.h"
 #include "fakes/FakeInterfaceAddresses.h"
 #include "fakes/FakeNetworkHost.h"
+#include "fakes/FakeSettingsStore.h"
 #include "platform/NotificationCenter.h"
 #include "rules/RuleQueries.h"
 #include "unit/store/RecordStoreFixture.h"
@@ -63,6 +64,7 @@ protected:
     const QStringList refreshed{QStringLiteral("table reloaded"), notifications::ruleTable,
         notifications::updateNamesArray};
     NotificationCenter center;
+    test::FakeSettingsStore settings{scheduler};
     test::FakeNetworkHost host;
     test::FakeInterfaceAddresses addresses{host};
     DeviceTable devices{settings, host, addresses};

@@ -10,7 +10,6 @@
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
-#include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
@@ -218,8 +217,7 @@ protected:
     FakeHttpClient http{scheduler};
     ExternalIPAddress externalAddress{http, settings, QUrl(QStringLiteral("https://ip.example"))};
     FakeReachability reachability;
-    FakeAlertPresenter alerts;
-    RecordStore store{{settings, scheduler, alerts}, folder.path()};
+    RecordStore store{scheduler, folder.path()};
     RuleQueries queries{store, settings, table};
     RuleInvariants invariants{{store, scheduler, notifications, queries}};
     CountdownTimers timers{{scheduler, notifications, notifier, table, changer}};

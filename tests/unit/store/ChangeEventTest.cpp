@@ -210,7 +210,7 @@ TEST_F(ChangeEvents, AnObserverMayDropTheStore)
 {
     observe();
     rule("Home"_s);
-    reaction = [&](const ObjectsDidChange &) { program().container.reset(); };
+    reaction = [&](const ObjectsDidChange &) { program().owned.reset(); };
     endTurn();
     EXPECT_EQ(events.size(), 1);
 }
@@ -219,7 +219,7 @@ TEST_F(ChangeEvents, ATurnThatEndsAfterItsStoreTellsNothing)
 {
     observe();
     rule("Home"_s);
-    program().container.reset();
+    program().owned.reset();
     endTurn();
     EXPECT_TRUE(events.isEmpty());
 }

@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
 #include "fakes/QtPrinting.h"
 #include "store/RecordStore.h"
 #include "store/model/QuillonModel.h"
@@ -14,8 +12,7 @@
 
 namespace quillon::test {
 
-/// A record store in a folder of its own, with a clock that has hands and a user who answers as
-/// told.
+/// A record store in a folder of its own, with a clock that has hands.
 class RecordStoreTest : public ::testing::Test
 {
 protected:
@@ -32,11 +29,11 @@ protected:
     QStringList savedNames() const
     {
         FakeScheduler another;
-        auto container = PersistentContainer::load(quillonModel(), path, another);
-        if (!container) {
-            return {container.error().message};
+        auto opened = ManagedObjectContext::open(quillonModel(), path, another);
+        if (!opened) {
+            return {opened.error().message};
         }
-        return namesIn(container.value()->viewContext());
+        return namesIn(*opened.value());
     }
     static QStringList namesIn(ManagedObjectContext &context)
     {
@@ -51,9 +48,7 @@ protected:
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
     FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    FakeAlertPresenter alerts;
-    RecordStore store{{settings, scheduler, alerts}, folder.path()};
+    RecordStore store{scheduler, folder.path()};
 };
 
 } // namespace quillon::test

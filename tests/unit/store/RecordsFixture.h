@@ -4,9 +4,9 @@
 
 #include "fakes/FakeScheduler.h"
 #include "fakes/QtPrinting.h"
-#include "store/PersistentContainer.h"
 #include "store/file/RecordFile.h"
 #include "store/graph/FetchedRecords.h"
+#include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
 
 #include <QTemporaryDir>
@@ -24,17 +24,17 @@ protected:
     {
         explicit Program(const QString &path)
         {
-            auto loaded = PersistentContainer::load(quillonModel(), path, scheduler);
+            auto loaded = ManagedObjectContext::open(quillonModel(), path, scheduler);
             if (!loaded) {
                 ADD_FAILURE() << loaded.error().message.toStdString();
                 return;
             }
-            container = std::move(loaded.value());
+            owned = std::move(loaded.value());
         }
-        ManagedObjectContext &context() const { return container->viewContext(); }
+        ManagedObjectContext &context() const { return *owned; }
 
         FakeScheduler scheduler;
-        std::unique_ptr<PersistentContainer> container;
+        std::unique_ptr<ManagedObjectContext> owned;
     };
 
     Program &program()

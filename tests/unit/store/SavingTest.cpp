@@ -251,10 +251,9 @@ TEST(SavingDeathTest, ARecordOfAnUnknownEntityEndsTheProgram)
 {
     const QTemporaryDir folder;
     FakeScheduler scheduler;
-    const auto container = PersistentContainer::load(
+    const auto opened = ManagedObjectContext::open(
         quillonModel(), folder.filePath(QStringLiteral("Quillon.sqlite")), scheduler);
-    EXPECT_DEATH(
-        container.value()->viewContext().insertNewObject("History"_s), "the model has the entity");
+    EXPECT_DEATH(opened.value()->insertNewObject("History"_s), "the model has the entity");
 }
 
 // MARK: editors

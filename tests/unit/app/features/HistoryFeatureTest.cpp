@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <SQLiteCpp/Database.h>
+#include <cstdio>
 #include <thread>
 
 namespace quillon::test {
@@ -24,6 +26,19 @@ TEST_F(HistoryFeatureTest, TheRecordsAreOpenedAtTheEndOfTheLaunchAndNotBefore)
     program->launch().applicationDidFinishLaunching();
     EXPECT_TRUE(features().history.store.hasManagedObjectContext());
     EXPECT_TRUE(QFile::exists(recordsPath()));
+}
+
+TEST_F(HistoryFeatureTest, RecordsOfANewerVersionEndTheProgramWithAnAlert)
+{
+    saveRule({});
+    SQLite::Database(recordsPath().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("PRAGMA user_version = 99");
+    create();
+    machine.alerts.whileShown = [this] {
+        std::fprintf(stderr, "%s", qUtf8Printable(machine.alerts.alerts.last().message));
+    };
+    EXPECT_EXIT(features().history.store.managedObjectContext(),
+        ::testing::ExitedWithCode(EXIT_FAILURE), "written by a newer version of Quillon$");
 }
 
 TEST_F(HistoryFeatureTest, SwitchingTheCloudReplacesTheContainer)
