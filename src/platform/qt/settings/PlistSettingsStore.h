@@ -17,10 +17,11 @@ class FileWatch;
 /// was set here since the last write wins. Keys that nobody here knows are kept.
 ///
 /// The first change, or call of synchronize(), after a write has begun starts the next one 50 ms
-/// later, in the background, on one thread. So a process that is killed loses at most the changes
-/// of its last 50 ms and of the time that the disk takes for two writes; flush() and the destructor
-/// leave nothing. No value is lost to a failing file: it stays in memory and goes out with the next
-/// write that succeeds. A file that disappears while the program runs is written again.
+/// later (or when the main loop turns again), in the background, on one thread. So a process that
+/// is killed loses at most the changes of that time and of the two writes that the disk may be busy
+/// with; flush() and the destructor leave nothing. No value is lost to a failing file: it stays in
+/// memory and goes out with the next write that succeeds. A file that disappears while the program
+/// runs is written again.
 ///
 /// Made and destroyed on the main thread; safe from every thread in between.
 class PlistSettingsStore : public SettingsStore

@@ -12,11 +12,11 @@ namespace quillon::test {
 
 namespace {
 
-class SettingsOfTheDesktop : public ::testing::Test
+class DesktopSystemSettingsTest : public ::testing::Test
 {
 protected:
-    SettingsOfTheDesktop() { qputenv("PATH", programs.path().toLocal8Bit()); }
-    ~SettingsOfTheDesktop() override
+    DesktopSystemSettingsTest() { qputenv("PATH", programs.path().toLocal8Bit()); }
+    ~DesktopSystemSettingsTest() override
     {
         qputenv("PATH", path);
         qputenv("XDG_CURRENT_DESKTOP", desktop);
@@ -55,7 +55,7 @@ const QStringList gnomeLocation{QStringLiteral("gnome-control-center"), QStringL
 
 } // namespace
 
-TEST_F(SettingsOfTheDesktop, OpenAtThePageForLocation)
+TEST_F(DesktopSystemSettingsTest, OpenAtThePageForLocation)
 {
     install("gnome-control-center");
     install("budgie-control-center");
@@ -70,13 +70,13 @@ TEST_F(SettingsOfTheDesktop, OpenAtThePageForLocation)
     EXPECT_EQ(opened("KDE"), QStringList{QStringLiteral("systemsettings")});
 }
 
-TEST_F(SettingsOfTheDesktop, ANameFurtherOffServesWhereTheNearestHasNoProgram)
+TEST_F(DesktopSystemSettingsTest, ANameFurtherOffServesWhereTheNearestHasNoProgram)
 {
     install("gnome-control-center");
     EXPECT_EQ(opened("Budgie:GNOME"), gnomeLocation);
 }
 
-TEST_F(SettingsOfTheDesktop, AreNotOpenedWhereNoneIsKnownOrInstalled)
+TEST_F(DesktopSystemSettingsTest, AreNotOpenedWhereNoneIsKnownOrInstalled)
 {
     EXPECT_TRUE(opened("GNOME").isEmpty()) << "not installed";
     install("gnome-control-center");
@@ -86,7 +86,7 @@ TEST_F(SettingsOfTheDesktop, AreNotOpenedWhereNoneIsKnownOrInstalled)
     EXPECT_TRUE(opened("KDE").isEmpty()) << "another desktop's program is there";
 }
 
-TEST_F(SettingsOfTheDesktop, AProgramThatCannotBeStartedIsNotOpened)
+TEST_F(DesktopSystemSettingsTest, AProgramThatCannotBeStartedIsNotOpened)
 {
     install("gnome-control-center");
     qputenv("XDG_CURRENT_DESKTOP", "GNOME");
@@ -94,7 +94,7 @@ TEST_F(SettingsOfTheDesktop, AProgramThatCannotBeStartedIsNotOpened)
     EXPECT_FALSE(broken.openLocationServices());
 }
 
-TEST_F(SettingsOfTheDesktop, AreStartedForReal)
+TEST_F(DesktopSystemSettingsTest, AreStartedForReal)
 {
     install("systemsettings");
     qputenv("XDG_CURRENT_DESKTOP", "KDE");

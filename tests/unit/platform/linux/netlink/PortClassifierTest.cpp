@@ -105,7 +105,7 @@ TEST(PortClassifier, OnlyEthernetFramesCount)
     EXPECT_TRUE(hasHardware(link("enp3s0", "", "pci")));
 }
 
-TEST(HardwareInfo, ReadFromTheUeventOfThatInterface)
+TEST(PortClassifierHardware, ReadFromTheUeventOfThatInterface)
 {
     const QByteArray uevent = "DEVTYPE=wlan\nINTERFACE=wlp2s0\nIFINDEX=2\n";
     const auto facts = hardwareInfoFromUevent(uevent, 2);
@@ -114,7 +114,7 @@ TEST(HardwareInfo, ReadFromTheUeventOfThatInterface)
     EXPECT_EQ(hardwareInfoFromUevent("INTERFACE=eth0\nIFINDEX=2\n", 2)->deviceType, QString());
 }
 
-TEST(HardwareInfo, AnotherNetworkNamespacesUeventSaysNothing)
+TEST(PortClassifierHardware, AnotherNetworkNamespacesUeventSaysNothing)
 {
     EXPECT_FALSE(hardwareInfoFromUevent("DEVTYPE=wlan\nINTERFACE=eth0\nIFINDEX=12\n", 2));
     EXPECT_FALSE(hardwareInfoFromUevent("", 2));

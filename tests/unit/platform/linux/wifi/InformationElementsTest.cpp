@@ -108,50 +108,7 @@ TEST(InformationElements, VendorElementsThatAreTooShortOrForeignSayNothing)
     EXPECT_EQ(read(element(255, {})).generation, WiFiGeneration::Legacy);
 }
 
-TEST(ProtectionSuites, FieldsLeftOutHaveTheStandardsDefaults)
-{
-    const QByteArray whole = Rsn{.keys = {2}, .capabilities = 0x40}.content();
-    const ProtectionSuites full = rsnSuites(spanOf(whole));
-    EXPECT_TRUE(full.intact);
-    EXPECT_TRUE(full.frameProtectionRequired);
-    for (const qsizetype end : {2, 6, 12, 18}) {
-        const QByteArray shorter = whole.left(end);
-        EXPECT_TRUE(rsnSuites(spanOf(shorter)).intact) << end;
-        EXPECT_FALSE(rsnSuites(spanOf(shorter)).frameProtectionRequired) << end;
-    }
-    const ProtectionSuites least = rsnSuites(spanOf(whole.left(2)));
-    EXPECT_EQ(least.groupCipher, 0x000FAC04U);
-    EXPECT_EQ(least.pairwiseCiphers, QList<quint32>{0x000FAC04});
-    EXPECT_EQ(least.authentication, QList<quint32>{0x000FAC01});
-    const ProtectionSuites leastWpa = wpaSuites(spanOf(littleEndian(1)));
-    EXPECT_TRUE(leastWpa.intact);
-    EXPECT_EQ(leastWpa.authentication, QList<quint32>{0x0050F201});
-}
-
-TEST(ProtectionSuites, AFieldCutInTheMiddleIsNotIntact)
-{
-    const QByteArray whole = Rsn{.keys = {2}}.content();
-    int intact = 0;
-    for (qsizetype size = 0; size <= whole.size(); ++size) {
-        QByteArray cut(whole.constData(), size);
-        cut.squeeze();
-        intact += rsnSuites(spanOf(cut)).intact;
-    }
-    EXPECT_EQ(intact, 5) << "at the ends of the five fields";
-    EXPECT_FALSE(rsnSuites({}).intact) << "without a version";
-    EXPECT_FALSE(rsnSuites(spanOf(Rsn{.keys = {2}, .version = 2}.content())).intact);
-}
-
-TEST(ProtectionSuites, CountsThatPromiseTooMuchAreNotBelieved)
-{
-    const QByteArray lie = QByteArray::fromHex("0100 000fac04 ffff 000fac04 0100");
-    const ProtectionSuites suites = rsnSuites(spanOf(lie));
-    EXPECT_FALSE(suites.intact);
-    EXPECT_EQ(suites.pairwiseCiphers, QList<quint32>{0x000FAC04}) << "what was there";
-    EXPECT_TRUE(suites.authentication.isEmpty()) << "no default where something was lost";
-}
-
-TEST(NetworkName, IsUtf8WhereItIsUtf8AndLatin1ElseAndNeverEmptyForOctets)
+TEST(InformationElementsNetworkName, IsUtf8WhereItIsUtf8AndLatin1ElseAndNeverEmptyForOctets)
 {
     EXPECT_EQ(networkName("Zukunft \xc3\xbc"), QStringLiteral("Zukunft ü"));
     EXPECT_EQ(networkName("\xf0\x9f\x8f\xa0 home"), QString::fromUtf8("\xf0\x9f\x8f\xa0 home"));
@@ -163,7 +120,7 @@ TEST(NetworkName, IsUtf8WhereItIsUtf8AndLatin1ElseAndNeverEmptyForOctets)
     EXPECT_EQ(networkName(" padded "), QStringLiteral(" padded "));
 }
 
-TEST(NetworkName, ControlCharactersBecomeVisible)
+TEST(InformationElementsNetworkName, ControlCharactersBecomeVisible)
 {
     EXPECT_EQ(networkName(QByteArray("a\0b", 3)), QString::fromUtf8("a\xe2\x90\x80"
                                                                     "b"));
@@ -173,14 +130,14 @@ TEST(NetworkName, ControlCharactersBecomeVisible)
         << "no text, and no property list can hold it";
 }
 
-TEST(NetworkName, ZerosAreAHiddenName)
+TEST(InformationElementsNetworkName, ZerosAreAHiddenName)
 {
     EXPECT_EQ(networkName({}), QString());
     EXPECT_EQ(networkName(QByteArray(32, '\0')), QString());
     EXPECT_EQ(networkName(QByteArray(1, '\0')), QString());
 }
 
-TEST(NetworkName, DifferentOctetsStayDifferentNames)
+TEST(InformationElementsNetworkName, DifferentOctetsStayDifferentNames)
 {
     EXPECT_NE(networkName("caf\xe9"), networkName("caf\xe8"));
     EXPECT_NE(networkName(QByteArray("a\0", 2)), networkName("a"));

@@ -15,10 +15,10 @@ namespace {
 
 using Status = LocationAuthorization::Status;
 
-class LocationPermission : public ::testing::Test
+class Nl80211LocationAuthorizationTest : public ::testing::Test
 {
 protected:
-    LocationPermission()
+    Nl80211LocationAuthorizationTest()
     {
         authorization = std::make_unique<Nl80211LocationAuthorization>(scheduler, [this] {
             ++asked;
@@ -48,7 +48,7 @@ protected:
 
 } // namespace
 
-TEST_F(LocationPermission, IsThereUnlessTheProcessIsKeptFromAsking)
+TEST_F(Nl80211LocationAuthorizationTest, IsThereUnlessTheProcessIsKeptFromAsking)
 {
     EXPECT_EQ(answer(WiFiAccess::Granted), Status::Authorized);
     EXPECT_EQ(answer(WiFiAccess::NoWireless), Status::Authorized) << "a machine without Wi-Fi";
@@ -59,7 +59,7 @@ TEST_F(LocationPermission, IsThereUnlessTheProcessIsKeptFromAsking)
     EXPECT_TRUE(authorization->servicesEnabled());
 }
 
-TEST_F(LocationPermission, IsToldInALaterTurn)
+TEST_F(Nl80211LocationAuthorizationTest, IsToldInALaterTurn)
 {
     authorization->requestWhenInUseAuthorization();
     EXPECT_EQ(asked, 0);
@@ -68,7 +68,7 @@ TEST_F(LocationPermission, IsToldInALaterTurn)
     EXPECT_EQ(heard, QList<Status>{Status::Authorized});
 }
 
-TEST_F(LocationPermission, IsToldToNobodyAfterItsEnd)
+TEST_F(Nl80211LocationAuthorizationTest, IsToldToNobodyAfterItsEnd)
 {
     authorization->requestWhenInUseAuthorization();
     authorization.reset();
@@ -77,7 +77,7 @@ TEST_F(LocationPermission, IsToldToNobodyAfterItsEnd)
     EXPECT_EQ(asked, 0);
 }
 
-TEST_F(LocationPermission, NeedsNoDelegate)
+TEST_F(Nl80211LocationAuthorizationTest, NeedsNoDelegate)
 {
     authorization->setDelegate({});
     authorization->requestWhenInUseAuthorization();
@@ -85,7 +85,7 @@ TEST_F(LocationPermission, NeedsNoDelegate)
     EXPECT_EQ(asked, 1);
 }
 
-TEST_F(LocationPermission, TheDelegateMayTakeItsLeaveWhileItHears)
+TEST_F(Nl80211LocationAuthorizationTest, TheDelegateMayTakeItsLeaveWhileItHears)
 {
     authorization->setDelegate({.didChangeAuthorization =
                                     [this](Status status) {
