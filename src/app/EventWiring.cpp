@@ -169,8 +169,10 @@ void EventWiring::connectNetworks()
         [&f] { f.presence.openWindow(); });
     on(networks.networkEditing, &SavedNetworkEditing::networkDefinitionChanged,
         [&networks] { networks.savedEntryPopover.showNetworkDefinition(); });
-    on(networks.networkEditing, &SavedNetworkEditing::rulesChanged,
-        [&f] { f.rules.evaluation.rulesWereChanged(); });
+    on(networks.networkEditing, &SavedNetworkEditing::networkDefinitionSaved,
+        [&f](const QString &bssid, bool ssidDefined) {
+            f.rules.networkRules.updateSsidDefinedForRulesWithNetwork(ssidDefined, bssid);
+        });
     on(networks.networkEditing, &SavedNetworkEditing::editingFinished,
         [&networks] { networks.savedEntryPopover.closeNetworkPopover(); });
     on(networks.addressEditing, &SavedAddressEditing::editingFinished,

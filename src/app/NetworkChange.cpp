@@ -21,7 +21,7 @@ NetworkChange::NetworkChange(const Collaborators &collaborators)
 void NetworkChange::networkChanged()
 {
     m_deps.externalAddress.updateExternalIPAddress(false);
-    const QVariantMap before = m_deps.devices.devices();
+    const DeviceRecords before = m_deps.devices.devices();
     m_deps.devices.updateNetWorkInterfaces();
     const QString changed = firstChangedDevice(before, m_deps.devices.devices());
     m_deps.execution.followVisits();

@@ -86,9 +86,9 @@ QString AddressChanger::changeMacAddress(const QString &fieldText)
 void AddressChanger::restoreDefaultAddress()
 {
     Q_EMIT restoreRequested();
-    const QVariantMap current = m_with.currentInterface.record();
+    const DeviceRecord current = m_with.currentInterface.record();
     updateMacAddressWithAddress(
-        current.value(record::device).toString(), current.value(record::hardware).toString());
+        current.device.value_or(QString()), current.hardware.value_or(QString()));
 }
 
 void AddressChanger::randomizeAddress(const MenuItem &sender)
@@ -132,15 +132,16 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
 {
     const QString current = m_with.currentInterface.device();
     const QString device = requestedDevice.isEmpty() ? current : requestedDevice;
-    const QVariantMap record = m_with.devices.record(device);
+    const DeviceRecord record = m_with.devices.record(device);
     const Request request{
         .device = device,
         .isCurrent = device == current,
-        .interface = record.value(record::interface).toString(),
-        .oldAddress = record.value(record::current).toString(),
+        .isWifi = record.isWifi(),
+        .interface = record.interface.value_or(QString()),
+        .oldAddress = record.current.value_or(QString()),
         .address = address,
     };
-    if (record.contains(record::current) && address == request.oldAddress) {
+    if (record.current == address) {
         tellNotChanged(request.interface, "The new Address and the old Address are identical");
         return;
     }
@@ -154,9 +155,8 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
 void AddressChanger::askHelper(const Request &request)
 {
     Q_EMIT changeBegan(request.device);
-    const bool isWifi = isWifiRecord({{record::interface, request.interface}});
-    m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
-        request.device, request.address, isWifi, [this, life = m_life, request](bool success) {
+    m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(request.device,
+        request.address, request.isWifi, [this, life = m_life, request](bool success) {
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
                 finish(request, success);
@@ -172,14 +172,11 @@ void AddressChanger::finish(const Request &request, bool success)
         // The interface has gone: there is nothing true to say about its address.
         return;
     }
-    QVariantMap table = m_with.devices.devices();
-    QVariantMap record = table.value(request.device).toMap();
-    record[record::current] = now.macAddress;
-    record[record::ipAddress] = now.ipAddress;
-    record[record::status] = now.status;
-    table[request.device] = record;
-    m_with.settings.set(keys::deviceDict, table);
-    m_with.settings.synchronize();
+    m_with.devices.update(request.device, [&now](DeviceRecord &record) {
+        record.current = now.macAddress;
+        record.ipAddress = now.ipAddress;
+        record.status = now.status;
+    });
     if (request.isCurrent) {
         m_with.currentInterface.updateCurrentInterfaceDict(request.device);
     }

@@ -90,6 +90,7 @@ private:
     {
         QString device;
         bool isCurrent = false;
+        bool isWifi = false;
         QString interface;
         QString oldAddress;
         QString address;

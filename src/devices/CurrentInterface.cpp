@@ -24,12 +24,12 @@ CurrentInterface::CurrentInterface(
 
 QString CurrentInterface::device() const
 {
-    return record().value(record::device).toString();
+    return record().device.value_or(QString());
 }
 
-QVariantMap CurrentInterface::record() const
+DeviceRecord CurrentInterface::record() const
 {
-    return m_settings.getDictionary(keys::currentInterfaceDict);
+    return DeviceRecord::fromPropertyList(m_settings.get(keys::currentInterfaceDict));
 }
 
 void CurrentInterface::selectInitialDevice()
@@ -82,15 +82,15 @@ void CurrentInterface::updateCurrentInterfaceDict(const QString &device)
 void CurrentInterface::rebuild(const QString &device)
 {
     Q_EMIT rebuildStarted();
-    QVariantMap record = m_devices.record(device);
-    record[record::device] = device;
+    DeviceRecord record = m_devices.record(device);
+    record.device = device;
     const QString address =
-        HexValueTransformer(m_settings).transformedValue(record.value(record::current).toString());
+        HexValueTransformer(m_settings).transformedValue(record.current.value_or(QString()));
     if (!isStringValidHEX(address)) {
         return;
     }
-    record[record::current] = address;
-    m_settings.set(keys::currentInterfaceDict, record);
+    record.current = address;
+    m_settings.set(keys::currentInterfaceDict, record.toPropertyList());
     m_settings.synchronize();
     Q_EMIT currentInterfaceUpdated(device, address);
 }
@@ -98,21 +98,17 @@ void CurrentInterface::rebuild(const QString &device)
 void CurrentInterface::updateHexValues()
 {
     const QString device = this->device();
-    QVariantMap table = m_devices.devices();
-    if (table.isEmpty()) {
+    if (m_devices.names().isEmpty()) {
         return;
     }
-    if (table.contains(device)) {
-        QVariantMap record = table.value(device).toMap();
-        const QString hardware = record.value(record::hardware).toString();
-        const QString current = record.value(record::current, hardware).toString();
-        if (isStringValidHEX(current)) {
-            record[record::current] = current;
-            record[record::hardware] = hardware;
-            table[device] = record;
-            m_settings.set(keys::deviceDict, table);
-            m_settings.synchronize();
-        }
+    const DeviceRecord known = m_devices.record(device);
+    const QString hardware = known.hardware.value_or(QString());
+    const QString address = known.current.value_or(hardware);
+    if (isStringValidHEX(address)) {
+        m_devices.update(device, [&hardware, &address](DeviceRecord &record) {
+            record.current = address;
+            record.hardware = hardware;
+        });
     }
     updateCurrentInterfaceDict(device);
     m_scheduler.onMain([self = QPointer(this)] {

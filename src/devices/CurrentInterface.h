@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "base/PropertyList.h"
+#include "devices/DeviceRecord.h"
 
 #include <QObject>
 
@@ -24,7 +24,7 @@ public:
 
     /// The selected device's name, "" before the first selection.
     QString device() const;
-    QVariantMap record() const;
+    DeviceRecord record() const;
     /// Before the first selection ever: selects the Wi-Fi device, else the first device. Otherwise
     /// nothing. At once, so that the steps of the launch that follow find it. Main thread.
     void selectInitialDevice();

@@ -15,29 +15,24 @@ namespace quillon {
 
 namespace {
 
-const QString wifiPortName = QStringLiteral("Wi-Fi");
-
 /// The factory address: what the host tells, else what was known, else the address first seen.
-QString factoryAddress(const PortRecord &port, const QVariantMap &stored)
+QString factoryAddress(const PortRecord &port, const DeviceRecord &stored)
 {
     if (!port.hardware.isEmpty()) {
         return port.hardware;
     }
-    const QString known = stored.value(record::hardware).toString();
+    const QString known = stored.hardware.value_or(QString());
     return known.isEmpty() ? port.info.macAddress : known;
 }
 
-QVariantMap refreshedRecord(QVariantMap record, const PortRecord &port)
+void refresh(DeviceRecord &record, const PortRecord &port)
 {
-    const QString hardware = factoryAddress(port, record);
-    record[record::interface] = port.interface;
-    record[record::localizedInterface] =
-        port.interface == wifiPortName ? localized(wifiPortName) : port.interface;
-    record[record::hardware] = hardware;
-    record[record::current] = port.info.macAddress;
-    record[record::status] = port.info.status;
-    record[record::ipAddress] = port.info.ipAddress;
-    return record;
+    record.hardware = factoryAddress(port, record);
+    record.interface = port.interface;
+    record.localizedInterface = record.isWifi() ? localized(port.interface) : port.interface;
+    record.current = port.info.macAddress;
+    record.status = port.info.status;
+    record.ipAddress = port.info.ipAddress;
 }
 
 bool comesBefore(const QString &a, const QString &b)
@@ -47,34 +42,7 @@ bool comesBefore(const QString &a, const QString &b)
     return aIsEthernet != bIsEthernet ? aIsEthernet : a < b;
 }
 
-QString firstWifiDevice(const QVariantMap &devices)
-{
-    const auto wifi = std::find_if(devices.begin(), devices.end(),
-        [](const QVariant &record) { return isWifiRecord(record.toMap()); });
-    return wifi == devices.end() ? QString() : wifi.key();
-}
-
 } // namespace
-
-bool isWifiRecord(const QVariantMap &record)
-{
-    return record.value(record::interface).toString() == wifiPortName;
-}
-
-bool isUp(const QVariantMap &record)
-{
-    return record.value(record::status).toString() == QLatin1String("active");
-}
-
-QString firstChangedDevice(const QVariantMap &before, const QVariantMap &now)
-{
-    for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
-        if (entry.value() != now.value(entry.key())) {
-            return entry.key();
-        }
-    }
-    return {};
-}
 
 DeviceTable::DeviceTable(
     SettingsStore &settings, NetworkHost &host, const InterfaceAddresses &addresses)
@@ -90,15 +58,33 @@ void DeviceTable::updateNetWorkInterfaces()
         const std::lock_guard lock(m_hostMutex);
         return m_host.ports();
     }();
-    QVariantMap table = devices();
+    QVariantMap table = stored();
+    bool isRefreshed = false;
     for (const PortRecord &port : ports) {
         if (port.device.isEmpty() || isSkippedPortName(port.interface)) {
             continue;
         }
-        table[port.device] = refreshedRecord(table.value(port.device).toMap(), port);
+        DeviceRecord record = DeviceRecord::fromPropertyList(table.value(port.device));
+        refresh(record, port);
+        table[port.device] = record.toPropertyList();
+        isRefreshed = true;
+    }
+    if (isRefreshed) {
         m_settings.set(keys::deviceDict, table);
     }
     m_settings.synchronize();
+}
+
+DeviceRecord DeviceTable::update(
+    const QString &device, const std::function<void(DeviceRecord &)> &change)
+{
+    QVariantMap table = stored();
+    DeviceRecord record = DeviceRecord::fromPropertyList(table.value(device));
+    change(record);
+    table[device] = record.toPropertyList();
+    m_settings.set(keys::deviceDict, table);
+    m_settings.synchronize();
+    return record;
 }
 
 InterfaceInfo DeviceTable::getInfoForDevice(const QString &device) const
@@ -119,36 +105,53 @@ QString DeviceTable::ipAddressForDevice(const QString &device) const
     return address;
 }
 
-QVariantMap DeviceTable::devices() const
+QVariantMap DeviceTable::stored() const
 {
     return m_settings.getDictionary(keys::deviceDict);
 }
 
-QVariantMap DeviceTable::record(const QString &device) const
+DeviceRecords DeviceTable::devices() const
 {
-    return devices().value(device).toMap();
+    const QVariantMap table = stored();
+    DeviceRecords records;
+    for (auto entry = table.cbegin(); entry != table.cend(); ++entry) {
+        records.insert(records.cend(), entry.key(), DeviceRecord::fromPropertyList(*entry));
+    }
+    return records;
+}
+
+QStringList DeviceTable::names() const
+{
+    return stored().keys();
+}
+
+DeviceRecord DeviceTable::record(const QString &device) const
+{
+    return DeviceRecord::fromPropertyList(stored().value(device));
 }
 
 bool DeviceTable::contains(const QString &device) const
 {
-    return devices().contains(device);
+    return stored().contains(device);
 }
 
 bool DeviceTable::isDeviceWifi(const QString &device) const
 {
-    return isWifiRecord(record(device));
+    return record(device).isWifi();
 }
 
 QString DeviceTable::getWifiDevice() const
 {
-    return firstWifiDevice(devices());
+    const QVariantMap table = stored();
+    const auto wifi = std::find_if(table.cbegin(), table.cend(),
+        [](const QVariant &record) { return DeviceRecord::fromPropertyList(record).isWifi(); });
+    return wifi == table.cend() ? QString() : wifi.key();
 }
 
 QStringList DeviceTable::sortedDevicesArray() const
 {
-    const QVariantMap table = devices();
-    QStringList names = table.keys();
-    const QString wifi = firstWifiDevice(table);
+    QStringList names = this->names();
+    const QString wifi = getWifiDevice();
     const bool hasWifi = !wifi.isNull() && names.removeOne(wifi);
     std::sort(names.begin(), names.end(), comesBefore);
     if (hasWifi) {

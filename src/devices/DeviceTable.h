@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "base/PropertyList.h"
+#include "devices/DeviceRecord.h"
 
 #include <QStringList>
 
+#include <functional>
 #include <mutex>
 
 namespace quillon {
@@ -15,33 +16,30 @@ class NetworkHost;
 class SettingsStore;
 struct InterfaceInfo;
 
-/// A device is Wi-Fi when its record's `interface` is exactly "Wi-Fi".
-bool isWifiRecord(const QVariantMap &record);
-/// The link is up when its record's `status` is exactly "active".
-bool isUp(const QVariantMap &record);
-
-/// The first device, in key order, whose record is not the same in both tables; "" when none
-/// differs. Devices that only `now` holds do not count.
-QString firstChangedDevice(const QVariantMap &before, const QVariantMap &now);
-
 /// The table of known network interfaces, kept in the settings under `deviceDict`: device name to
 /// device record. It never shrinks, and keys of a record that others set survive every refresh.
-/// The table is read from the settings at every call. Calls block while the host answers. Any
-/// thread: the host is asked by one caller at a time.
+/// Nobody else writes it. The table is read from the settings at every call. Calls block while the
+/// host answers. Any thread: the host is asked by one caller at a time.
 class DeviceTable
 {
 public:
     DeviceTable(SettingsStore &settings, NetworkHost &host, const InterfaceAddresses &addresses);
 
-    /// Reads the ports of the host into the table, writing it once per kept port, and flushes.
+    /// Reads the ports of the host into the table, which is written once, and flushes.
     void updateNetWorkInterfaces();
+    /// Changes the record of `device`, a new one when the table has none, flushes, and returns it.
+    DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change);
     /// Reads one interface back from the host; nothing is stored.
     InterfaceInfo getInfoForDevice(const QString &device) const;
     /// The device's IPv4 address listed last, "" when none.
     QString ipAddressForDevice(const QString &device) const;
 
-    QVariantMap devices() const;
-    QVariantMap record(const QString &device) const;
+    /// The whole table; what is no record reads as an empty one.
+    DeviceRecords devices() const;
+    /// The names of all devices, in key order.
+    QStringList names() const;
+    /// Empty for a device that is not in the table.
+    DeviceRecord record(const QString &device) const;
     bool contains(const QString &device) const;
 
     bool isDeviceWifi(const QString &device) const;
@@ -53,6 +51,8 @@ public:
     QStringList sortedDevicesArray() const;
 
 private:
+    QVariantMap stored() const;
+
     SettingsStore &m_settings;
     NetworkHost &m_host;
     const InterfaceAddresses &m_addresses;

@@ -63,8 +63,7 @@ RandomAddress::RandomAddress(RandomSource &random, const DeviceTable &devices)
 QString RandomAddress::addressForDevice(
     const QString &device, const std::optional<QString> &vendor) const
 {
-    const QString choice =
-        vendor ? *vendor : m_devices.record(device).value(record::vendor).toString();
+    const QString choice = vendor ? *vendor : m_devices.record(device).vendor.value_or(QString());
     const std::optional<QString> prefix = vendorPrefix(choice);
     const QString address = randomAddressText(m_random.bytes(randomByteCount));
     return prefix && !address.isEmpty() ? addressWithPrefix(*prefix, address) : address;

@@ -3,13 +3,10 @@
 #include "history/HistoryRecords.h"
 
 #include "base/Log.h"
-#include "base/NetworkKeys.h"
-#include "base/SettingsKeys.h"
-#include "base/StoredText.h"
 #include "devices/DeviceTable.h"
 #include "history/Connection.h"
+#include "networks/WiFiRecord.h"
 #include "platform/Scheduler.h"
-#include "platform/SettingsStore.h"
 #include "store/RecordStore.h"
 #include "store/graph/FetchFailure.h"
 #include "store/model/QuillonModel.h"
@@ -22,9 +19,9 @@ namespace {
 const QString historyEntity = QStringLiteral("History");
 
 /// Never null, so that it is stored as an empty text.
-QString textIn(const QVariantMap &dictionary, const QString &key)
+QString notNull(const QString &text)
 {
-    return storedText(dictionary, key).value_or(QStringLiteral(""));
+    return text.isNull() ? QStringLiteral("") : text;
 }
 
 } // namespace
@@ -40,8 +37,10 @@ struct HistoryRecords::Fact
     QString bssid = QStringLiteral("");
 };
 
-HistoryRecords::HistoryRecords(RecordStore &records, SettingsStore &settings, Scheduler &scheduler)
+HistoryRecords::HistoryRecords(RecordStore &records, const DeviceTable &devices,
+    const SettingsStore &settings, Scheduler &scheduler)
     : m_records(records)
+    , m_devices(devices)
     , m_settings(settings)
     , m_scheduler(scheduler)
     , m_life(std::make_shared<const bool>(true))
@@ -65,18 +64,17 @@ void HistoryRecords::addHistoryItemForDeviceWithNewAddress(
 
 HistoryRecords::Fact HistoryRecords::factNow(const QString &device, const QString &address) const
 {
-    const QVariantMap deviceRecord =
-        m_settings.getDictionary(keys::deviceDict).value(device).toMap();
+    const DeviceRecord deviceRecord = m_devices.record(device);
     Fact fact{
         .date = m_scheduler.now(),
         .device = device,
-        .interface = textIn(deviceRecord, record::interface),
+        .interface = notNull(deviceRecord.interface.value_or(QString())),
         .address = address,
     };
-    if (isWifiRecord(deviceRecord)) {
-        const QVariantMap wifi = m_settings.getDictionary(keys::currentWiFiDict);
-        fact.ssid = textIn(wifi, wifirecord::SSID);
-        fact.bssid = textIn(wifi, wifirecord::BSSID).toLower();
+    if (deviceRecord.isWifi()) {
+        const WiFiRecord wifi = WiFiRecord::stored(m_settings);
+        fact.ssid = notNull(wifi.ssid);
+        fact.bssid = notNull(wifi.bssid.toLower());
     }
     return fact;
 }

@@ -8,6 +8,7 @@
 
 namespace quillon {
 
+class DeviceTable;
 class RecordStore;
 class Scheduler;
 class SettingsStore;
@@ -17,7 +18,8 @@ class SettingsStore;
 class HistoryRecords
 {
 public:
-    HistoryRecords(RecordStore &records, SettingsStore &settings, Scheduler &scheduler);
+    HistoryRecords(RecordStore &records, const DeviceTable &devices, const SettingsStore &settings,
+        Scheduler &scheduler);
 
     /// Records that `device` was given `address`, with the network of the last Wi-Fi refresh when
     /// its port is Wi-Fi, and saves at once. A record that cannot be saved is logged and waits for
@@ -35,7 +37,8 @@ private:
     void record(const Fact &fact);
 
     RecordStore &m_records;
-    SettingsStore &m_settings;
+    const DeviceTable &m_devices;
+    const SettingsStore &m_settings;
     Scheduler &m_scheduler;
     std::shared_ptr<const bool> m_life; ///< expires with this, on the main thread
 };

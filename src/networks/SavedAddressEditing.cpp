@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedAddressEditing.h"
 
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
-#include "base/StoredText.h"
 #include "networks/SavedEntries.h"
 #include "platform/Scheduler.h"
-#include "platform/SettingsStore.h"
-
-#include <QPointer>
 
 namespace quillon {
 
@@ -19,7 +14,7 @@ SavedAddressEditing::SavedAddressEditing(SettingsStore &settings, Scheduler &sch
 {
 }
 
-void SavedAddressEditing::beginEditing(const QVariantMap &entry)
+void SavedAddressEditing::beginEditing(const SavedEntry &entry)
 {
     m_editingAddressDict = entry;
 }
@@ -34,15 +29,13 @@ void SavedAddressEditing::changeSavedAddressName(const QString &typed)
     if (!m_editingAddressDict) {
         return;
     }
-    QVariantMap entry = *m_editingAddressDict;
-    if (storedText(entry, savedentry::name) != typed) {
-        const QString address = entry.value(savedentry::address).toString();
-        QVariantMap list = m_settings.getDictionary(keys::savedAddresses);
-        entry[savedentry::name] = distinctName(typed, namesOfOthers(list, address), address);
+    SavedEntry entry = *m_editingAddressDict;
+    if (entry.name != typed) {
+        const QString address = entry.address.value_or(QString());
+        entry.name =
+            distinctName(savedEntries(m_settings, keys::savedAddresses), address, typed, address);
         m_editingAddressDict = entry;
-        list[address] = entry;
-        m_settings.set(keys::savedAddresses, list);
-        m_settings.synchronize();
+        saveEntry(m_settings, keys::savedAddresses, address, entry);
     }
     finishInNextTurn();
 }
@@ -52,10 +45,8 @@ void SavedAddressEditing::removeSavedAddress()
     if (!m_editingAddressDict) {
         return;
     }
-    QVariantMap list = m_settings.getDictionary(keys::savedAddresses);
-    list.remove(m_editingAddressDict->value(savedentry::address).toString());
-    m_settings.set(keys::savedAddresses, list);
-    m_settings.synchronize();
+    removeEntry(
+        m_settings, keys::savedAddresses, m_editingAddressDict->address.value_or(QString()));
     m_editingAddressDict.reset();
     finishInNextTurn();
 }
@@ -63,11 +54,7 @@ void SavedAddressEditing::removeSavedAddress()
 void SavedAddressEditing::finishInNextTurn()
 {
     // The name field handles its own event first.
-    m_scheduler.onMain([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            Q_EMIT that->editingFinished();
-        }
-    });
+    m_scheduler.onMain(this, [this] { Q_EMIT editingFinished(); });
 }
 
 } // namespace quillon

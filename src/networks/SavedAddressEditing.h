@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "networks/SavedEntry.h"
+
 #include <QObject>
-#include <QVariantMap>
 
 #include <optional>
 
@@ -23,8 +24,8 @@ public:
     SavedAddressEditing(SettingsStore &settings, Scheduler &scheduler);
 
     /// None while no popover is open.
-    const std::optional<QVariantMap> &editingAddressDict() const { return m_editingAddressDict; }
-    void beginEditing(const QVariantMap &entry);
+    const std::optional<SavedEntry> &editingAddressDict() const { return m_editingAddressDict; }
+    void beginEditing(const SavedEntry &entry);
     void endEditing();
 
     /// The name was edited to `typed`; a name that another address has gets a suffix.
@@ -40,7 +41,7 @@ private:
 
     SettingsStore &m_settings;
     Scheduler &m_scheduler;
-    std::optional<QVariantMap> m_editingAddressDict;
+    std::optional<SavedEntry> m_editingAddressDict;
 };
 
 } // namespace quillon

@@ -3,9 +3,8 @@
 #include "networks/SavedAddresses.h"
 
 #include "base/Localized.h"
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
-#include "base/StoredText.h"
+#include "devices/DeviceRecord.h"
 #include "networks/SavedEntries.h"
 #include "platform/SettingsStore.h"
 
@@ -13,8 +12,8 @@ namespace quillon {
 
 QString addressForAddressName(const SettingsStore &settings, const QString &name)
 {
-    const QVariantMap list = settings.getDictionary(keys::savedAddresses);
-    const auto address = fieldOfNamed(list, name, savedentry::address);
+    const SavedEntries addresses = savedEntries(settings, keys::savedAddresses);
+    const auto address = fieldOfNamed(addresses, name, &SavedEntry::address);
     return address ? *address : localized("Random Address");
 }
 
@@ -26,36 +25,29 @@ SavedAddresses::SavedAddresses(SettingsStore &settings)
 void SavedAddresses::addCurrentAddressToSavedList()
 {
     const QString address = currentAddress();
-    QVariantMap list = m_settings.getDictionary(keys::savedAddresses);
-    if (address.isEmpty() || list.contains(address)) {
-        return;
+    if (!address.isEmpty() && !isSaved(m_settings, keys::savedAddresses, address)) {
+        saveEntry(m_settings, keys::savedAddresses, address, {.name = address, .address = address});
     }
-    list[address] = QVariantMap{{savedentry::address, address}, {savedentry::name, address}};
-    m_settings.set(keys::savedAddresses, list);
-    m_settings.synchronize();
 }
 
 void SavedAddresses::removeCurrentAddressFromSavedList()
 {
-    const QString address = currentAddress();
-    QVariantMap list = m_settings.getDictionary(keys::savedAddresses);
-    if (address.isEmpty() || list.remove(address) == 0) {
-        return;
+    if (isCurrentAddressSaved()) {
+        removeEntry(m_settings, keys::savedAddresses, currentAddress());
     }
-    m_settings.set(keys::savedAddresses, list);
-    m_settings.synchronize();
 }
 
 bool SavedAddresses::isCurrentAddressSaved() const
 {
     const QString address = currentAddress();
-    return !address.isEmpty() && m_settings.getDictionary(keys::savedAddresses).contains(address);
+    return !address.isEmpty() && isSaved(m_settings, keys::savedAddresses, address);
 }
 
 QString SavedAddresses::currentAddress() const
 {
-    const QVariantMap current = m_settings.getDictionary(keys::currentInterfaceDict);
-    return storedText(current, record::current).value_or(QString()).toLower();
+    const auto selected =
+        DeviceRecord::fromPropertyList(m_settings.get(keys::currentInterfaceDict));
+    return selected.current.value_or(QString()).toLower();
 }
 
 } // namespace quillon

@@ -2,48 +2,74 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedEntries.h"
 
-#include "base/NetworkKeys.h"
-#include "base/StoredText.h"
+#include "base/PropertyList.h"
 #include "base/UniqueName.h"
+#include "platform/SettingsStore.h"
 
 namespace quillon {
 
-QStringList fieldOfEach(const QVariantMap &list, const QString &field)
+SavedEntries savedEntries(const SettingsStore &settings, const QString &list)
 {
-    QStringList fields;
-    for (const QVariant &entry : list) {
-        if (const auto text = storedText(entry.toMap(), field)) {
-            fields.append(*text);
+    const auto stored = settings.getDictionary(list);
+    SavedEntries entries;
+    for (auto entry = stored.cbegin(); entry != stored.cend(); ++entry) {
+        if (propertyListType(*entry) == PropertyListType::Dictionary) {
+            entries.insert(entries.cend(), entry.key(), SavedEntry::fromPropertyList(*entry));
         }
     }
-    return fields;
+    return entries;
+}
+
+bool isSaved(const SettingsStore &settings, const QString &list, const QString &key)
+{
+    return settings.getDictionary(list).contains(key);
+}
+
+void saveEntry(
+    SettingsStore &settings, const QString &list, const QString &key, const SavedEntry &entry)
+{
+    auto stored = settings.getDictionary(list);
+    stored[key] = entry.toPropertyList();
+    settings.set(list, stored);
+    settings.synchronize();
+}
+
+void removeEntry(SettingsStore &settings, const QString &list, const QString &key)
+{
+    auto stored = settings.getDictionary(list);
+    stored.remove(key);
+    settings.set(list, stored);
+    settings.synchronize();
+}
+
+QStringList fieldOfEach(const SavedEntries &entries, SavedField field)
+{
+    QStringList texts;
+    for (const SavedEntry &entry : entries) {
+        if (const auto &text = entry.*field) {
+            texts.append(*text);
+        }
+    }
+    return texts;
 }
 
 std::optional<QString> fieldOfNamed(
-    const QVariantMap &list, const QString &name, const QString &field)
+    const SavedEntries &entries, const QString &name, SavedField field)
 {
     std::optional<QString> found;
-    for (const QVariant &value : list) {
-        const QVariantMap entry = value.toMap();
-        if (storedText(entry, savedentry::name) != name) {
-            continue;
-        }
-        if (const auto text = storedText(entry, field)) {
-            found = text;
+    for (const SavedEntry &entry : entries) {
+        if (entry.name == name && entry.*field) {
+            found = entry.*field;
         }
     }
     return found;
 }
 
-QStringList namesOfOthers(const QVariantMap &list, const QString &key)
+QString distinctName(
+    SavedEntries entries, const QString &key, const QString &typed, const QString &fallback)
 {
-    QVariantMap others = list;
-    others.remove(key);
-    return fieldOfEach(others, savedentry::name);
-}
-
-QString distinctName(const QString &typed, const QStringList &others, const QString &fallback)
-{
+    entries.remove(key);
+    const QStringList others = fieldOfEach(entries, &SavedEntry::name);
     if (!others.contains(typed)) {
         return typed;
     }

@@ -2,26 +2,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QStringList>
-#include <QVariantMap>
+#include "networks/SavedEntry.h"
 
-#include <optional>
+#include <QMap>
+#include <QStringList>
 
 namespace quillon {
 
-// The two saved lists are dictionaries of entries, stored whole. They may have been edited by hand
-// or come from another computer: what is no entry is passed over, never removed.
+class SettingsStore;
+
+// The two saved lists are dictionaries of entries, stored whole under the settings key `list`. They
+// may have been edited by hand or come from another computer: what is no entry is passed over,
+// never removed.
+
+using SavedEntries = QMap<QString, SavedEntry>;
+using SavedField = std::optional<QString> SavedEntry::*;
+
+SavedEntries savedEntries(const SettingsStore &settings, const QString &list);
+/// Whether anything is saved under `key`.
+bool isSaved(const SettingsStore &settings, const QString &list, const QString &key);
+/// These two write the list and flush.
+void saveEntry(
+    SettingsStore &settings, const QString &list, const QString &key, const SavedEntry &entry);
+void removeEntry(SettingsStore &settings, const QString &list, const QString &key);
 
 /// The `field` of every entry that has one, in the list's key order.
-QStringList fieldOfEach(const QVariantMap &list, const QString &field);
-/// The `field` of the entry whose "name" is exactly `name`. Where several share the name, the last
+QStringList fieldOfEach(const SavedEntries &entries, SavedField field);
+/// The `field` of the entry whose name is exactly `name`. Where several share the name, the last
 /// one in the list's key order answers.
 std::optional<QString> fieldOfNamed(
-    const QVariantMap &list, const QString &name, const QString &field);
-/// The names of all entries but the one under `key`.
-QStringList namesOfOthers(const QVariantMap &list, const QString &key);
-/// The name that an entry gets when the user typed `typed`: distinct from `others`, else
-/// `fallback`.
-QString distinctName(const QString &typed, const QStringList &others, const QString &fallback);
+    const SavedEntries &entries, const QString &name, SavedField field);
+/// The name that the entry under `key` gets when the user typed `typed`: distinct from those of the
+/// other entries, else `fallback`.
+QString distinctName(
+    SavedEntries entries, const QString &key, const QString &typed, const QString &fallback);
 
 } // namespace quillon

@@ -2,27 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedNetworkEditing.h"
 
-#include "base/Log.h"
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
-#include "base/StoredText.h"
 #include "networks/SavedEntries.h"
 #include "networks/WiFiNetwork.h"
 #include "platform/Scheduler.h"
-#include "platform/SettingsStore.h"
-#include "store/RecordStore.h"
-#include "store/graph/FetchFailure.h"
-#include "store/model/QuillonModel.h"
-
-#include <QPointer>
 
 namespace quillon {
 
 namespace {
 
-QString bssidOf(const QVariantMap &entry)
+QString bssidOf(const SavedEntry &entry)
 {
-    return entry.value(savedentry::BSSID).toString();
+    return entry.bssid.value_or(QString());
 }
 
 } // namespace
@@ -34,7 +25,7 @@ SavedNetworkEditing::SavedNetworkEditing(const Collaborators &collaborators)
 {
 }
 
-void SavedNetworkEditing::beginEditing(const QVariantMap &entry)
+void SavedNetworkEditing::beginEditing(const SavedEntry &entry)
 {
     m_editingNetworkDict = entry;
 }
@@ -46,7 +37,7 @@ void SavedNetworkEditing::endEditing()
 
 bool SavedNetworkEditing::isSsidDefined() const
 {
-    return m_editingNetworkDict && m_editingNetworkDict->contains(savedentry::ssidDefined);
+    return m_editingNetworkDict && m_editingNetworkDict->isSsidDefined();
 }
 
 void SavedNetworkEditing::changeSavedNetworkName(const QString &typed)
@@ -54,14 +45,12 @@ void SavedNetworkEditing::changeSavedNetworkName(const QString &typed)
     if (!m_editingNetworkDict) {
         return;
     }
-    QVariantMap entry = *m_editingNetworkDict;
-    if (storedText(entry, savedentry::name) != typed) {
-        const QStringList others =
-            namesOfOthers(m_with.settings.getDictionary(keys::savedNetworks), bssidOf(entry));
-        entry[savedentry::name] =
-            distinctName(typed, others, entry.value(savedentry::SSID).toString());
+    SavedEntry entry = *m_editingNetworkDict;
+    if (entry.name != typed) {
+        entry.name = distinctName(savedEntries(m_with.settings, keys::savedNetworks),
+            bssidOf(entry), typed, entry.ssid.value_or(QString()));
         m_editingNetworkDict = entry;
-        storeEntry(entry);
+        saveEntry(m_with.settings, keys::savedNetworks, bssidOf(entry), entry);
         // The Wi-Fi record shows the new name.
         m_with.wifi.updateWiFiNetwork();
     }
@@ -73,10 +62,7 @@ void SavedNetworkEditing::removeSavedNetwork()
     if (!m_editingNetworkDict) {
         return;
     }
-    QVariantMap list = m_with.settings.getDictionary(keys::savedNetworks);
-    list.remove(bssidOf(*m_editingNetworkDict));
-    m_with.settings.set(keys::savedNetworks, list);
-    m_with.settings.synchronize();
+    removeEntry(m_with.settings, keys::savedNetworks, bssidOf(*m_editingNetworkDict));
     m_editingNetworkDict.reset();
     finishInNextTurn();
     m_with.wifi.updateWiFiNetwork();
@@ -87,56 +73,18 @@ void SavedNetworkEditing::updateNetworkDefinition(const QString &senderIdentifie
     if (!m_editingNetworkDict) {
         return;
     }
-    QVariantMap entry = *m_editingNetworkDict;
-    entry.remove(savedentry::ssidDefined);
-    if (senderIdentifier == ssidButton) {
-        entry[savedentry::ssidDefined] = true;
-    }
+    SavedEntry entry = *m_editingNetworkDict;
+    entry.setSsidDefined(senderIdentifier == ssidButton);
     m_editingNetworkDict = entry;
     Q_EMIT networkDefinitionChanged();
-    storeEntry(entry);
-    updateSsidDefinedForRulesWithNetwork(entry.contains(savedentry::ssidDefined), bssidOf(entry));
-}
-
-void SavedNetworkEditing::updateSsidDefinedForRulesWithNetwork(
-    bool ssidDefined, const QString &bssid)
-{
-    ManagedObjectContext &context = m_with.records.managedObjectContext();
-    const Result<ManagedObjectList> rules =
-        context.fetch({.entity = model::Rule, .predicate = {}, .order = {}});
-    if (!rules) {
-        logFetchFailure(logNetworks, rules.error());
-        return;
-    }
-    {
-        // The flag follows from the saved network, which no undo brings back.
-        const ManagedObjectContext::UndoDisabled undoDisabled(context);
-        for (const ManagedObjectPtr &rule : rules.value()) {
-            if (rule->value(model::rule::network) == bssid) {
-                rule->setValue(model::rule::ssidDefined, ssidDefined);
-            }
-        }
-    }
-    context.processPendingChanges();
-    Q_EMIT rulesChanged();
-}
-
-void SavedNetworkEditing::storeEntry(const QVariantMap &entry)
-{
-    QVariantMap list = m_with.settings.getDictionary(keys::savedNetworks);
-    list[bssidOf(entry)] = entry;
-    m_with.settings.set(keys::savedNetworks, list);
-    m_with.settings.synchronize();
+    saveEntry(m_with.settings, keys::savedNetworks, bssidOf(entry), entry);
+    Q_EMIT networkDefinitionSaved(bssidOf(entry), entry.isSsidDefined());
 }
 
 void SavedNetworkEditing::finishInNextTurn()
 {
     // The name field handles its own event first.
-    m_with.scheduler.onMain([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            Q_EMIT that->editingFinished();
-        }
-    });
+    m_with.scheduler.onMain(this, [this] { Q_EMIT editingFinished(); });
 }
 
 } // namespace quillon

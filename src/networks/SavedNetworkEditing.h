@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "networks/SavedEntry.h"
+
 #include <QObject>
-#include <QVariantMap>
 
 #include <optional>
 
 namespace quillon {
 
-class RecordStore;
 class Scheduler;
 class SettingsStore;
 class WiFiNetwork;
@@ -27,7 +27,6 @@ public:
         SettingsStore &settings;
         Scheduler &scheduler;
         WiFiNetwork &wifi;
-        RecordStore &records;
     };
 
     /// The identifier of the button that chooses recognition by SSID.
@@ -36,8 +35,8 @@ public:
     explicit SavedNetworkEditing(const Collaborators &collaborators);
 
     /// None while no popover is open.
-    const std::optional<QVariantMap> &editingNetworkDict() const { return m_editingNetworkDict; }
-    void beginEditing(const QVariantMap &entry);
+    const std::optional<SavedEntry> &editingNetworkDict() const { return m_editingNetworkDict; }
+    void beginEditing(const SavedEntry &entry);
     void endEditing();
     /// Whether the network is recognised by its SSID.
     bool isSsidDefined() const;
@@ -46,28 +45,22 @@ public:
     void changeSavedNetworkName(const QString &typed);
     void removeSavedNetwork();
     /// A tick button was chosen: ssidButton recognises the network by its SSID, any other by its
-    /// BSSID. The network's rules follow.
+    /// BSSID.
     void updateNetworkDefinition(const QString &senderIdentifier);
-
-    /// Writes the mode into every rule of the network. When the rules cannot be read, that is
-    /// logged and nothing changes.
-    void updateSsidDefinedForRulesWithNetwork(bool ssidDefined, const QString &bssid);
 
 Q_SIGNALS:
     /// The edited network changed its mode: the popover shows it anew. Before it is stored.
     void networkDefinitionChanged();
+    /// The mode is stored; the rules of the network follow it.
+    void networkDefinitionSaved(const QString &bssid, bool ssidDefined);
     /// In the turn after a rename or a removal: the popover has done its work.
     void editingFinished();
-    /// Rules are in the context with their new mode: they are to be evaluated without changing an
-    /// address.
-    void rulesChanged();
 
 private:
-    void storeEntry(const QVariantMap &entry);
     void finishInNextTurn();
 
     Collaborators m_with;
-    std::optional<QVariantMap> m_editingNetworkDict;
+    std::optional<SavedEntry> m_editingNetworkDict;
 };
 
 } // namespace quillon

@@ -3,10 +3,10 @@
 #include "networks/WiFiNetwork.h"
 
 #include "base/Localized.h"
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
-#include "base/StoredText.h"
 #include "devices/DeviceTable.h"
+#include "networks/SavedEntries.h"
+#include "networks/WiFiRecord.h"
 #include "networks/WiFiStrings.h"
 #include "platform/SettingsStore.h"
 #include "platform/WiFiClient.h"
@@ -35,30 +35,21 @@ QString channelText(const WiFiInterface::Channel &channel)
             widthStringForChannel(channel.width)});
 }
 
-void writeNotAssociated(QVariantMap &record)
+WiFiRecord associatedRecord(const WiFiInterface &wifi)
 {
-    for (const QString &key : {wifirecord::SSID, wifirecord::BSSID, wifirecord::ipAddress,
-             wifirecord::noise, wifirecord::RSSI, wifirecord::security, wifirecord::txRate,
-             wifirecord::channel, wifirecord::country, wifirecord::phyMode, wifirecord::mcs}) {
-        record[key] = QString();
-    }
-    record[wifirecord::name] = QStringLiteral("Not currently connected...");
-}
-
-void writeAssociated(QVariantMap &record, const WiFiInterface &wifi, const QString &ipAddress)
-{
-    record[wifirecord::name] = wifi.ssid;
-    record[wifirecord::SSID] = wifi.ssid;
-    record[wifirecord::BSSID] = wifi.bssid.toLower();
-    record[wifirecord::ipAddress] = ipAddress;
-    record[wifirecord::noise] = decibels(wifi.noise);
-    record[wifirecord::RSSI] = decibels(wifi.rssi);
-    record[wifirecord::security] = securityStringForNetwork(wifi.security);
-    record[wifirecord::txRate] = rateText(wifi.transmitRate);
-    record[wifirecord::channel] = channelText(wifi.channel);
-    record[wifirecord::country] = wifi.countryCode;
-    record[wifirecord::phyMode] = phyModeStringForInterface(wifi.activePHYMode);
-    record[wifirecord::mcs] = getValueFromobjectForKey(wifi, QStringLiteral("mcsIndex")).toString();
+    return {
+        .name = wifi.ssid,
+        .ssid = wifi.ssid,
+        .bssid = wifi.bssid.toLower(),
+        .noise = decibels(wifi.noise),
+        .rssi = decibels(wifi.rssi),
+        .security = securityStringForNetwork(wifi.security),
+        .txRate = rateText(wifi.transmitRate),
+        .channel = channelText(wifi.channel),
+        .country = wifi.countryCode,
+        .phyMode = phyModeStringForInterface(wifi.activePHYMode),
+        .mcs = getValueFromobjectForKey(wifi, QStringLiteral("mcsIndex")).toString(),
+    };
 }
 
 } // namespace
@@ -70,33 +61,24 @@ WiFiNetwork::WiFiNetwork(SettingsStore &settings, WiFiClient &client, const Devi
 {
 }
 
-QVariantMap WiFiNetwork::updateWiFiNetwork()
+std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
 {
     const WiFiInterface wifi = m_client.firstInterface().value_or(WiFiInterface());
     const QString ipAddress = m_devices.ipAddressForDevice(m_devices.getWifiDevice());
-    QVariantMap record = m_settings.getDictionary(keys::currentWiFiDict);
-    QVariantMap network;
     const bool associated = !wifi.bssid.isEmpty() && !wifi.ssid.isEmpty();
-    if (associated) {
-        network[wifirecord::BSSID] = wifi.bssid.toLower();
-        network[wifirecord::SSID] = wifi.ssid;
-    }
     Q_EMIT networkButtonShown(associated);
+    WiFiRecord record{.name = QStringLiteral("Not currently connected...")};
     if (associated) {
-        writeAssociated(record, wifi, ipAddress);
+        record = associatedRecord(wifi);
+        record.ipAddress = ipAddress;
         // By the BSSID exactly as read: a saved network is found here only where the platform
         // writes octets in lower case, as saved networks do.
-        const QVariantMap saved =
-            m_settings.getDictionary(keys::savedNetworks).value(wifi.bssid).toMap();
-        if (const auto name = storedText(saved, savedentry::name)) {
-            record[wifirecord::name] = *name;
-        }
-    } else {
-        writeNotAssociated(record);
+        const SavedEntry saved = savedEntries(m_settings, keys::savedNetworks).value(wifi.bssid);
+        record.name = saved.name.value_or(wifi.ssid);
     }
-    m_settings.set(keys::currentWiFiDict, record);
+    record.store(m_settings);
     m_settings.synchronize();
-    return network;
+    return associated ? std::optional(Identity{record.ssid, record.bssid}) : std::nullopt;
 }
 
 } // namespace quillon

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QObject>
-#include <QVariantMap>
+#include <QString>
+
+#include <optional>
 
 namespace quillon {
 
@@ -18,12 +20,18 @@ class WiFiNetwork : public QObject
     Q_OBJECT
 
 public:
+    /// Neither is empty.
+    struct Identity
+    {
+        QString ssid;
+        QString bssid; ///< in lower case
+    };
+
     WiFiNetwork(SettingsStore &settings, WiFiClient &client, const DeviceTable &devices);
 
     /// Reads the radio, rewrites the record whole (keys that are not ours survive) and flushes.
-    /// Returns the network's "BSSID", in lower case, and "SSID"; nothing when there is no
-    /// association, no Wi-Fi, or no permission to see the network.
-    QVariantMap updateWiFiNetwork();
+    /// Returns none when there is no association, no Wi-Fi, or no permission to see the network.
+    std::optional<Identity> updateWiFiNetwork();
 
 Q_SIGNALS:
     /// Before the record is stored: the network-information button is shown exactly while the

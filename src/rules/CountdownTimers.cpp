@@ -78,7 +78,7 @@ void CountdownTimers::startCountDownTimer(const QString &device)
 
 int CountdownTimers::minutesOfRule(const QString &device) const
 {
-    const QVariantMap rule = m_deps.devices.record(device).value(record::rule).toMap();
+    const auto rule = m_deps.devices.record(device).rule.value_or(QVariantMap());
     // As many as a rule can hold, whatever the settings say.
     using Minutes = std::numeric_limits<qint16>;
     return static_cast<int>(std::clamp<qlonglong>(

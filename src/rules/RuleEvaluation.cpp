@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/RuleEvaluation.h"
 
-#include "base/NetworkKeys.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "networks/WiFiRecord.h"
 #include "platform/NotificationCenter.h"
-#include "platform/SettingsStore.h"
 #include "rules/RuleExecution.h"
 #include "rules/RuleInvariants.h"
 #include "store/RecordStore.h"
@@ -42,7 +41,7 @@ void RuleEvaluation::checkDeviceForCurrentRuleAndChange(const QString &device, R
     // The flags written here follow from the rules: nobody has to look after them.
     const RuleInvariants::Suspension suspension(m_deps.invariants);
     const QStringList devices =
-        device == allDevices ? QStringList(m_deps.devices.devices().keys()) : QStringList{device};
+        device == allDevices ? m_deps.devices.names() : QStringList{device};
     for (const QString &one : devices) {
         evaluateDevice(one, change);
     }
@@ -77,11 +76,10 @@ RuleOutcome RuleEvaluation::decide(const QString &device)
     outcome.status = decision.status;
     outcome.networkRule = decision.networkRule ? selected.at(*decision.networkRule) : Rule();
     outcome.loginRule = decision.loginRule ? selected.at(*decision.loginRule) : Rule();
-    const QVariantMap record = m_deps.devices.record(device);
-    outcome.linkIsUp = isUp(record);
-    if (isWifiRecord(record)) {
-        outcome.ssid =
-            m_deps.settings.getDictionary(keys::currentWiFiDict).value(wifirecord::SSID).toString();
+    const DeviceRecord record = m_deps.devices.record(device);
+    outcome.linkIsUp = record.isUp();
+    if (record.isWifi()) {
+        outcome.ssid = WiFiRecord::stored(m_deps.settings).ssid;
     }
     markActive(
         m_deps.queries.managedRuleArrayForDevice(device), {outcome.loginRule, outcome.networkRule});
@@ -103,23 +101,19 @@ void RuleEvaluation::markActive(const RuleList &rules, const RuleList &inForce)
 
 void RuleEvaluation::store(const QString &device, const RuleOutcome &outcome)
 {
-    QVariantMap table = m_deps.devices.devices();
-    QVariantMap record = table.value(device).toMap();
-    record[record::hasRule] = static_cast<qlonglong>(outcome.status);
-    record[record::rule] = updateRuledictWithRule({}, outcome.networkRule);
-    record[record::loginRule] = updateRuledictWithRule({}, outcome.loginRule);
-    table[device] = record;
-    m_deps.settings.set(keys::deviceDict, table);
-    m_deps.settings.synchronize();
+    m_deps.devices.update(device, [&outcome](DeviceRecord &record) {
+        record.hasRule = static_cast<qlonglong>(outcome.status);
+        record.rule = updateRuledictWithRule({}, outcome.networkRule);
+        record.loginRule = updateRuledictWithRule({}, outcome.loginRule);
+    });
 }
 
 void RuleEvaluation::postOverview(const QString &device, const RuleOutcome &outcome)
 {
-    const QVariantMap wifi = m_deps.settings.getDictionary(keys::currentWiFiDict);
     const QVariantMap entry{
         {record::hasRule, static_cast<qlonglong>(outcome.status)},
-        {record::status, m_deps.devices.record(device).value(record::status).toString()},
-        {networkKey, wifi.value(wifirecord::name).toString()},
+        {record::status, m_deps.devices.record(device).status.value_or(QString())},
+        {networkKey, WiFiRecord::stored(m_deps.settings).name},
     };
     m_deps.notifications.post(notifications::updateOverview, this, {{device, entry}});
 }

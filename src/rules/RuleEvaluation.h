@@ -24,7 +24,7 @@ class RuleEvaluation : public QObject
 public:
     struct Collaborators
     {
-        SettingsStore &settings;
+        const SettingsStore &settings;
         NotificationCenter &notifications;
         DeviceTable &devices;
         const CurrentInterface &currentInterface;

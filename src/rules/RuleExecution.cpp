@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/RuleExecution.h"
 
-#include "base/SettingsKeys.h"
 #include "devices/AddressChanger.h"
 #include "devices/DeviceTable.h"
 #include "platform/NetworkHost.h"
@@ -105,7 +104,7 @@ void RuleExecution::followVisits()
         // The table keeps the last record of a device that was taken away.
         if (m_deps.devices.getInfoForDevice(device).macAddress.isEmpty()) {
             m_visits.sawGone(device);
-        } else if (isUp(m_deps.devices.record(device))) {
+        } else if (m_deps.devices.record(device).isUp()) {
             m_visits.sawOnNetwork(device, now);
         } else {
             m_visits.sawOffNetwork(device, now);
@@ -121,7 +120,7 @@ void RuleExecution::addressChangeBegan(const QString &device)
 void RuleExecution::addressChangeEnded(const QString &device)
 {
     m_deps.scheduler.onMainAfter(settlingTime, this, [this, device] {
-        m_visits.changeSettled(device, isUp(m_deps.devices.record(device)), m_deps.scheduler.now());
+        m_visits.changeSettled(device, m_deps.devices.record(device).isUp(), m_deps.scheduler.now());
     });
 }
 

@@ -3,12 +3,10 @@
 #include "rules/RuleQueries.h"
 
 #include "base/Log.h"
-#include "base/NetworkKeys.h"
-#include "base/SettingsKeys.h"
 #include "devices/DeviceTable.h"
 #include "networks/SavedNetworks.h"
 #include "networks/SpecialNetworks.h"
-#include "platform/SettingsStore.h"
+#include "networks/WiFiRecord.h"
 #include "store/RecordStore.h"
 #include "store/graph/FetchFailure.h"
 #include "store/model/QuillonModel.h"
@@ -55,20 +53,19 @@ Predicate RuleQueries::filterPredicateForDevice(const QString &device) const
     if (!m_devices.isDeviceWifi(device)) {
         return ofDevice;
     }
-    const QVariantMap wifi = m_settings.getDictionary(keys::currentWiFiDict);
-    const QString bssid = wifi.value(wifirecord::BSSID).toString().toLower();
-    const QString ssid = wifi.value(wifirecord::SSID).toString();
+    const WiFiRecord wifi = WiFiRecord::stored(m_settings);
+    const QString bssid = wifi.bssid.toLower();
     if (bssid.isEmpty()) {
         return Predicate::equal(model::rule::network, noNetwork);
     }
     QList<Predicate> networks = {
         Predicate::equal(model::rule::network, bssid),
         Predicate::equal(model::rule::network, anyNetwork),
-        Predicate::all({Predicate::equal(model::rule::ssid, ssid),
+        Predicate::all({Predicate::equal(model::rule::ssid, wifi.ssid),
             Predicate::equal(model::rule::ssidDefined, true)}),
     };
     if (!favouriteNetworks(m_settings).contains(bssid) &&
-        !ssidFavouriteNetworks(m_settings).contains(ssid)) {
+        !ssidFavouriteNetworks(m_settings).contains(wifi.ssid)) {
         networks.append(Predicate::equal(model::rule::network, anUnknownNetwork));
     }
     return Predicate::all({ofDevice, Predicate::any(networks)});

@@ -4,25 +4,17 @@
 
 #include "base/Localized.h"
 #include "base/NotificationNames.h"
-#include "base/SettingsKeys.h"
+#include "devices/CurrentInterface.h"
+#include "devices/DeviceTable.h"
 #include "platform/NotificationCenter.h"
-#include "platform/SettingsStore.h"
 #include "vendors/VendorList.h"
 
 namespace quillon {
 
-namespace {
-
-QString currentDevice(const SettingsStore &settings)
-{
-    return settings.getDictionary(keys::currentInterfaceDict).value(record::device).toString();
-}
-
-} // namespace
-
-VendorChoice::VendorChoice(
-    SettingsStore &settings, NotificationCenter &notifications, VendorList &list)
-    : m_settings(settings)
+VendorChoice::VendorChoice(DeviceTable &devices, const CurrentInterface &currentInterface,
+    NotificationCenter &notifications, VendorList &list)
+    : m_devices(devices)
+    , m_currentInterface(currentInterface)
     , m_notifications(notifications)
     , m_list(list)
 {
@@ -30,25 +22,18 @@ VendorChoice::VendorChoice(
 
 QString VendorChoice::shownChoice(const QString &device) const
 {
-    const QVariantMap stored = m_settings.getDictionary(keys::deviceDict).value(device).toMap();
-    const QString choice = stored.value(record::vendor, randomAddressChoice).toString();
+    const QString choice = m_devices.record(device).vendor.value_or(randomAddressChoice);
     return choice == randomAddressChoice ? localized(randomAddressChoice) : choice;
 }
 
 void VendorChoice::saveVendorSelection(const QString &choice)
 {
-    const QString device = currentDevice(m_settings);
-    QVariantMap table = m_settings.getDictionary(keys::deviceDict);
-    const auto found = table.find(device);
-    if (found == table.end()) {
+    const QString device = m_currentInterface.device();
+    if (!m_devices.contains(device)) {
         return;
     }
     const QString stored = choice == localized(randomAddressChoice) ? randomAddressChoice : choice;
-    QVariantMap deviceRecord = found->toMap();
-    deviceRecord[record::vendor] = stored;
-    *found = deviceRecord;
-    m_settings.set(keys::deviceDict, table);
-    m_settings.synchronize();
+    m_devices.update(device, [&stored](DeviceRecord &record) { record.vendor = stored; });
     m_notifications.post(notifications::vendorUpdated, nullptr,
         {{QStringLiteral("device"), device}, {QStringLiteral("newVendor"), stored}});
 }
@@ -67,7 +52,7 @@ void VendorChoice::setVendorSelectionForDevice(const QString &device)
 
 void VendorChoice::setVendorSelectionForCurrentDevice()
 {
-    setVendorSelectionForDevice(currentDevice(m_settings));
+    setVendorSelectionForDevice(m_currentInterface.device());
 }
 
 void VendorChoice::updateVendorTableSelectionWithRow(qsizetype row)

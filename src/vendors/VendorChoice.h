@@ -8,8 +8,9 @@
 
 namespace quillon {
 
+class CurrentInterface;
+class DeviceTable;
 class NotificationCenter;
-class SettingsStore;
 class VendorList;
 
 /// Which manufacturer's prefix random addresses of a device take: the key `vendor` of its record.
@@ -19,7 +20,8 @@ class VendorChoice : public QObject
     Q_OBJECT
 
 public:
-    VendorChoice(SettingsStore &settings, NotificationCenter &notifications, VendorList &list);
+    VendorChoice(DeviceTable &devices, const CurrentInterface &currentInterface,
+        NotificationCenter &notifications, VendorList &list);
 
     /// The device's choice as it is shown; "Random Address", in the user's language, when it has
     /// made none.
@@ -45,7 +47,8 @@ Q_SIGNALS:
     void vendorSelected(const std::optional<qsizetype> &row);
 
 private:
-    SettingsStore &m_settings;
+    DeviceTable &m_devices;
+    const CurrentInterface &m_currentInterface;
     NotificationCenter &m_notifications;
     VendorList &m_list;
 };

@@ -13,10 +13,10 @@ Features::Features(
     : presence(platform.settings)
     , helper(platform.helperLink, platform.scheduler, platform.notifications)
     , devices(platform, notifier, helper)
-    , history(platform, std::move(openFailure))
-    , networks(platform, devices.table, history.store)
+    , history(platform, devices.table, std::move(openFailure))
+    , networks(platform, devices.table)
     , rules(platform, notifier, devices, history.store)
-    , vendors(platform)
+    , vendors(platform, devices.table, devices.currentInterface)
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
           devices.addressChanger, helper})
     , statusMenu({platform.settings, devices.table, devices.currentInterface,

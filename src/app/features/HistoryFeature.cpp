@@ -8,9 +8,10 @@
 
 namespace quillon {
 
-HistoryFeature::HistoryFeature(const Platform &platform, RecordStore::OpenFailure openFailure)
+HistoryFeature::HistoryFeature(
+    const Platform &platform, const DeviceTable &devices, RecordStore::OpenFailure openFailure)
     : store(platform.scheduler, platform.places.supportFolder, std::move(openFailure))
-    , history(store, platform.settings, platform.scheduler)
+    , history(store, devices, platform.settings, platform.scheduler)
 {
 }
 

@@ -6,14 +6,13 @@
 
 namespace quillon {
 
-NetworkFeature::NetworkFeature(
-    const Platform &platform, const DeviceTable &devices, RecordStore &records)
+NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devices)
     : wifi(platform.settings, platform.wifi, devices)
     , locationPermission(
           {platform.scheduler, platform.location, platform.alerts, platform.systemSettings, wifi})
     , savedNetworks(platform.settings, wifi)
     , savedAddresses(platform.settings)
-    , networkEditing({platform.settings, platform.scheduler, wifi, records})
+    , networkEditing({platform.settings, platform.scheduler, wifi})
     , addressEditing(platform.settings, platform.scheduler)
     , externalAddress(platform.http, platform.settings, platform.places.externalAddressService)
     , info({platform.settings, platform.scheduler, wifi, savedNetworks})

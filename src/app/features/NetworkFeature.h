@@ -23,7 +23,7 @@ struct Platform;
 /// address, and what the window shows of them.
 struct NetworkFeature
 {
-    NetworkFeature(const Platform &platform, const DeviceTable &devices, RecordStore &records);
+    NetworkFeature(const Platform &platform, const DeviceTable &devices);
 
     WiFiNetwork wifi;
     LocationPermission locationPermission;

@@ -17,6 +17,7 @@ RuleFeature::RuleFeature(
     , evaluation({platform.settings, platform.notifications, devices.table,
           devices.currentInterface, store, invariants, queries, execution})
     , switches({store, platform.notifications, queries, evaluation})
+    , networkRules(store, evaluation)
     , status(devices.table)
     , list({platform.settings, platform.notifications, devices.currentInterface, queries})
     , countdown(timers, devices.currentInterface)

@@ -6,6 +6,7 @@
 #include "presentation/rules/RuleStatusModel.h"
 #include "presentation/rules/RulesListModel.h"
 #include "rules/CountdownTimers.h"
+#include "rules/NetworkRules.h"
 #include "rules/RuleEvaluation.h"
 #include "rules/RuleExecution.h"
 #include "rules/RuleInvariants.h"
@@ -31,6 +32,7 @@ struct RuleFeature
     RuleExecution execution;
     RuleEvaluation evaluation;
     RuleSwitches switches;
+    NetworkRules networkRules;
 
     RuleStatusModel status;
     RulesListModel list;

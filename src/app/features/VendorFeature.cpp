@@ -6,13 +6,14 @@
 
 namespace quillon {
 
-VendorFeature::VendorFeature(const Platform &platform)
+VendorFeature::VendorFeature(
+    const Platform &platform, DeviceTable &devices, const CurrentInterface &currentInterface)
     : files{platform.places.supportFolder, platform.places.shippedVendorDatabase}
     , database(files.liveDatabase())
     , count(platform.settings, platform.scheduler, files, database)
     , list(platform.scheduler, database)
     , lookup(platform.settings, platform.scheduler, database)
-    , choice(platform.settings, platform.notifications, list)
+    , choice(devices, currentInterface, platform.notifications, list)
     , import(platform.scheduler, platform.settings, files, database)
     , download(platform.http, platform.places.vendorRegistry, import, count, list)
     , pane(platform.settings, download)

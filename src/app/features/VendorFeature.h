@@ -15,13 +15,16 @@
 
 namespace quillon {
 
+class CurrentInterface;
+class DeviceTable;
 struct Platform;
 
 /// Everything about manufacturers, put together: their database and its refresh, the lookup, the
 /// list to choose from, and what the window shows of them.
 struct VendorFeature
 {
-    explicit VendorFeature(const Platform &platform);
+    VendorFeature(
+        const Platform &platform, DeviceTable &devices, const CurrentInterface &currentInterface);
 
     VendorFiles files;
     VendorDatabase database;

@@ -3,7 +3,6 @@
 #include "presentation/menu/StatusMenuModel.h"
 
 #include "base/Localized.h"
-#include "base/SettingsKeys.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
@@ -70,13 +69,11 @@ void StatusMenuModel::menuNeedsUpdate()
 
 std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) const
 {
-    const QVariantMap record = m_deps.devices.record(device);
-    const QString hardware =
-        m_displayCase.transformedValue(record.value(record::hardware).toString());
-    const QString current =
-        m_displayCase.transformedValue(record.value(record::current).toString());
-    QString interface = record.value(record::interface).toString();
-    if (isWifiRecord(record)) {
+    const DeviceRecord record = m_deps.devices.record(device);
+    const QString hardware = m_displayCase.transformedValue(record.hardware.value_or(QString()));
+    const QString current = m_displayCase.transformedValue(record.current.value_or(QString()));
+    QString interface = record.interface.value_or(QString());
+    if (record.isWifi()) {
         interface = localized(interface);
     }
 

@@ -3,11 +3,10 @@
 #include "presentation/networks/NetworkInfoModel.h"
 
 #include "base/Localized.h"
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
-#include "base/StoredText.h"
 #include "networks/SavedNetworks.h"
 #include "networks/WiFiNetwork.h"
+#include "networks/WiFiRecord.h"
 
 #include <QPointer>
 
@@ -20,33 +19,33 @@ constexpr std::chrono::milliseconds refreshInterval{3000};
 struct Detail
 {
     const char *label;
-    const QString &key;
+    QString WiFiRecord::*text;
     /// The value is a word of ours, not something that the network says.
-    bool isText = false;
+    bool isWord = false;
 };
 
-QList<NetworkInfoModel::Row> detailsOf(const QVariantMap &record)
+QList<NetworkInfoModel::Row> detailsOf(const WiFiRecord &record)
 {
-    const bool associated = !record.value(wifirecord::BSSID).toString().isEmpty();
+    const bool associated = !record.bssid.isEmpty();
     const Detail details[] = {
-        {"Network", wifirecord::name, !associated},
-        {"SSID", wifirecord::SSID},
-        {"BSSID", wifirecord::BSSID},
-        {"IP Address", wifirecord::ipAddress},
-        {"Security", wifirecord::security, true},
-        {"Channel", wifirecord::channel},
-        {"Country Code", wifirecord::country},
-        {"RSSI", wifirecord::RSSI},
-        {"Noise", wifirecord::noise},
-        {"Transmit Rate", wifirecord::txRate},
-        {"PHY Mode", wifirecord::phyMode, true},
-        {"MCS Index", wifirecord::mcs},
+        {"Network", &WiFiRecord::name, !associated},
+        {"SSID", &WiFiRecord::ssid},
+        {"BSSID", &WiFiRecord::bssid},
+        {"IP Address", &WiFiRecord::ipAddress},
+        {"Security", &WiFiRecord::security, true},
+        {"Channel", &WiFiRecord::channel},
+        {"Country Code", &WiFiRecord::country},
+        {"RSSI", &WiFiRecord::rssi},
+        {"Noise", &WiFiRecord::noise},
+        {"Transmit Rate", &WiFiRecord::txRate},
+        {"PHY Mode", &WiFiRecord::phyMode, true},
+        {"MCS Index", &WiFiRecord::mcs},
     };
     QList<NetworkInfoModel::Row> rows;
     for (const Detail &detail : details) {
-        const QString value = storedText(record, detail.key).value_or(QString());
+        const QString value = record.*detail.text;
         rows.append({localized(detail.label),
-            detail.isText && !value.isEmpty() ? localized(value) : value});
+            detail.isWord && !value.isEmpty() ? localized(value) : value});
     }
     return rows;
 }
@@ -145,7 +144,7 @@ void NetworkInfoModel::chooseFavouriteButton()
 void NetworkInfoModel::showDetails()
 {
     State state = m_state;
-    state.rows = detailsOf(m_with.settings.getDictionary(keys::currentWiFiDict));
+    state.rows = detailsOf(WiFiRecord::stored(m_with.settings));
     update(state);
 }
 

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/networks/SavedEntryPopoverModel.h"
 
-#include "base/NetworkKeys.h"
 #include "networks/SavedAddressEditing.h"
 #include "networks/SavedNetworkEditing.h"
 #include "platform/Scheduler.h"
-
-#include <QPointer>
 
 namespace quillon {
 
@@ -22,11 +19,6 @@ QRectF anchorAt(const QPointF &position)
     return anchor;
 }
 
-QString textIn(const QVariantMap &entry, const QString &key)
-{
-    return entry.value(key).toString();
-}
-
 } // namespace
 
 SavedEntryPopoverModel::SavedEntryPopoverModel(
@@ -38,7 +30,7 @@ SavedEntryPopoverModel::SavedEntryPopoverModel(
 }
 
 void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
-    TokenField field, const QVariantMap &entry, const QPointF &position)
+    TokenField field, const SavedEntry &entry, const QPointF &position)
 {
     if (!tokenFieldHasMenuForRepresentedObject(field)) {
         return;
@@ -51,10 +43,9 @@ void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
         m_addresses.beginEditing(entry);
     }
     // The token field finishes its own event first.
-    m_scheduler.onMain([self = QPointer(this), choice = m_choice, isNetwork, position] {
-        auto *const that = self.data();
-        if (that && that->m_choice == choice) {
-            that->open(isNetwork ? Popover::Network : Popover::Address, position);
+    m_scheduler.onMain(this, [this, choice = m_choice, isNetwork, position] {
+        if (m_choice == choice) {
+            open(isNetwork ? Popover::Network : Popover::Address, position);
         }
     });
 }
@@ -79,13 +70,13 @@ void SavedEntryPopoverModel::open(Popover popover, const QPointF &position)
 void SavedEntryPopoverModel::fill(State &state) const
 {
     if (const auto &network = m_networks.editingNetworkDict()) {
-        state.name = textIn(*network, savedentry::name);
-        state.ssid = textIn(*network, savedentry::SSID);
-        state.bssid = textIn(*network, savedentry::BSSID);
+        state.name = network->name.value_or(QString());
+        state.ssid = network->ssid.value_or(QString());
+        state.bssid = network->bssid.value_or(QString());
         fixButtonActions(state);
     } else if (const auto &address = m_addresses.editingAddressDict()) {
-        state.name = textIn(*address, savedentry::name);
-        state.address = textIn(*address, savedentry::address);
+        state.name = address->name.value_or(QString());
+        state.address = address->address.value_or(QString());
     }
     state.nameEnabled = true;
     state.removeEnabled = true;
@@ -137,7 +128,7 @@ void SavedEntryPopoverModel::showNetworkDefinition()
         return;
     }
     State state = m_state;
-    state.bssid = textIn(*network, savedentry::BSSID);
+    state.bssid = network->bssid.value_or(QString());
     fixButtonActions(state);
     update(state);
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/networks/SavedListsModel.h"
 
-#include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
 #include "networks/SavedAddresses.h"
+#include "networks/SavedEntries.h"
 
 #include <algorithm>
 
@@ -12,35 +12,34 @@ namespace quillon {
 
 namespace {
 
-/// What is no dictionary is no token.
 QList<SavedListsModel::Token> tokensOf(
-    const QVariantMap &list, const QString &keyField, TokenField field)
+    const SavedEntries &entries, SavedField keyField, TokenField field)
 {
     QList<SavedListsModel::Token> tokens;
-    for (auto saved = list.begin(); saved != list.end(); ++saved) {
-        if (propertyListType(saved.value()) != PropertyListType::Dictionary) {
-            continue;
-        }
-        QVariantMap entry = saved.value().toMap();
+    for (auto saved = entries.cbegin(); saved != entries.cend(); ++saved) {
+        SavedEntry entry = *saved;
         // What is done to an entry is done under this key, whatever the entry says of itself.
-        entry[keyField] = saved.key();
+        entry.*keyField = saved.key();
         tokens.append({entry, tokenFieldDisplayStringForRepresentedObject(field, entry)});
     }
     return tokens;
 }
 
+QList<SavedListsModel::Token> addressTokens(const SettingsStore &settings, TokenField field)
+{
+    return tokensOf(savedEntries(settings, keys::savedAddresses), &SavedEntry::address, field);
+}
+
 bool isBeforeIgnoringCase(const SavedListsModel::Token &a, const SavedListsModel::Token &b)
 {
-    return a.entry.value(savedentry::address)
-               .toString()
-               .compare(b.entry.value(savedentry::address).toString(), Qt::CaseInsensitive) < 0;
+    return a.entry.address->compare(*b.entry.address, Qt::CaseInsensitive) < 0;
 }
 
 } // namespace
 
-QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const QVariantMap &entry)
+QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const SavedEntry &entry)
 {
-    return field == TokenField::Other ? savedentry::name : entry.value(savedentry::name).toString();
+    return field == TokenField::Other ? QStringLiteral("name") : entry.name.value_or(QString());
 }
 
 bool tokenFieldHasMenuForRepresentedObject(TokenField field)
@@ -74,18 +73,16 @@ SavedListsModel::~SavedListsModel()
 void SavedListsModel::refillSavedFields()
 {
     State state = m_state;
-    state.networks = tokensOf(m_settings.getDictionary(keys::savedNetworks), savedentry::BSSID,
+    state.networks = tokensOf(savedEntries(m_settings, keys::savedNetworks), &SavedEntry::bssid,
         TokenField::SavedNetworks);
-    state.addresses = tokensOf(m_settings.getDictionary(keys::savedAddresses), savedentry::address,
-        TokenField::SavedAddresses);
+    state.addresses = addressTokens(m_settings, TokenField::SavedAddresses);
     update(state);
 }
 
 void SavedListsModel::updateQuickAddressesField()
 {
     State state = m_state;
-    state.quickAddresses = tokensOf(m_settings.getDictionary(keys::savedAddresses),
-        savedentry::address, TokenField::QuickAddresses);
+    state.quickAddresses = addressTokens(m_settings, TokenField::QuickAddresses);
     std::stable_sort(
         state.quickAddresses.begin(), state.quickAddresses.end(), isBeforeIgnoringCase);
     update(state);

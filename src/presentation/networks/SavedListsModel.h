@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "networks/SavedEntry.h"
 #include "platform/SettingsStore.h"
 #include "presentation/networks/FavouriteButton.h"
 
 #include <QList>
 #include <QObject>
-#include <QVariantMap>
 
 #include <vector>
 
@@ -25,7 +25,7 @@ enum class TokenField
 };
 
 /// A token's text: its entry's name; the word "name" in a field that shows no saved entries.
-QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const QVariantMap &entry);
+QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const SavedEntry &entry);
 /// Whether choosing a token of the field opens something.
 bool tokenFieldHasMenuForRepresentedObject(TokenField field);
 
@@ -38,7 +38,7 @@ class SavedListsModel : public QObject
 public:
     struct Token
     {
-        QVariantMap entry; ///< its "BSSID" or "address" is the key under which it is saved
+        SavedEntry entry; ///< its BSSID or address is the key under which it is saved
         QString text;
 
         bool operator==(const Token &) const = default;

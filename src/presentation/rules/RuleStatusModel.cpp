@@ -3,7 +3,6 @@
 #include "presentation/rules/RuleStatusModel.h"
 
 #include "base/Localized.h"
-#include "base/SettingsKeys.h"
 #include "devices/DeviceTable.h"
 #include "rules/RuleDecision.h"
 
@@ -16,17 +15,17 @@ RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
 
 void RuleStatusModel::updateRuleStatusForDevice(const QString &device)
 {
-    const int hasRule = m_devices.record(device).value(record::hasRule).toInt();
+    const qlonglong hasRule = m_devices.record(device).hasRule.value_or(0);
     State now{.image = QStringLiteral("NSStatusNone"),
         .toolTip = localized("no rules have been configured"),
         .activeRuleStruckThrough = true,
         .noActiveRulesStruckThrough = true,
         .noRulesStruckThrough = true};
-    if (hasRule == static_cast<int>(RuleStatus::Active)) {
+    if (hasRule == static_cast<qlonglong>(RuleStatus::Active)) {
         now.image = QStringLiteral("NSStatusAvailable");
         now.toolTip = localized("has an Active rule");
         now.activeRuleStruckThrough = false;
-    } else if (hasRule == static_cast<int>(RuleStatus::NotActive)) {
+    } else if (hasRule == static_cast<qlonglong>(RuleStatus::NotActive)) {
         now.image = QStringLiteral("NSStatusPartiallyAvailable");
         now.toolTip = localized("no rules are currently Active");
         now.noActiveRulesStruckThrough = false;

@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/RulesListModel.h"
 
-#include "base/NetworkKeys.h"
 #include "base/NotificationNames.h"
-#include "base/SettingsKeys.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/MenuItem.h"
+#include "networks/WiFiRecord.h"
 #include "platform/NotificationCenter.h"
-#include "platform/SettingsStore.h"
 #include "rules/RuleQueries.h"
 #include "store/graph/ManagedObjectContext.h"
 #include "store/model/QuillonModel.h"
@@ -25,17 +23,16 @@ RulesListModel::RulesListModel(const Collaborators &collaborators)
 
 void RulesListModel::filterRulesArrayController()
 {
-    const QVariantMap current = m_deps.currentInterface.record();
+    const DeviceRecord current = m_deps.currentInterface.record();
     const QString device = m_deps.currentInterface.device();
     m_state.update([&](State &state) {
         state.filter = m_deps.queries.filterPredicateForDevice(device);
-        if (isWifiRecord(current)) {
-            const QVariantMap wifi = m_deps.settings.getDictionary(keys::currentWiFiDict);
+        if (current.isWifi()) {
             state.symbol = QStringLiteral("wifi");
-            state.title = wifi.value(wifirecord::name).toString();
+            state.title = WiFiRecord::stored(m_deps.settings).name;
         } else {
             state.symbol = QStringLiteral("network");
-            state.title = current.value(record::interface).toString() + titleSeparator + device;
+            state.title = current.interface.value_or(QString()) + titleSeparator + device;
         }
         fillRows(state);
     });

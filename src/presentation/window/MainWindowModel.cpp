@@ -3,7 +3,6 @@
 #include "presentation/window/MainWindowModel.h"
 
 #include "base/Localized.h"
-#include "base/SettingsKeys.h"
 #include "devices/AddressChanger.h"
 #include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
@@ -124,7 +123,7 @@ void MainWindowModel::showCurrentAddress()
 {
     m_state.update([&](State &state) {
         state.fieldText = m_displayCase.transformedValue(
-            m_deps.currentInterface.record().value(record::current).toString());
+            m_deps.currentInterface.record().current.value_or(QString()));
         state.softwareButtonVisible = true;
         fillInterfaceDetails(state);
     });
@@ -149,7 +148,7 @@ void MainWindowModel::checkUpdateButton()
     if (!m_helperInstalled) {
         return;
     }
-    const QString current = m_deps.currentInterface.record().value(record::current).toString();
+    const QString current = m_deps.currentInterface.record().current.value_or(QString());
     m_state.update([&](State &state) {
         const QString shown = m_displayCase.transformedValue(state.fieldText);
         const bool isBare = state.fieldText.size() == bareDigits && !shown.contains(u':');
@@ -230,13 +229,12 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
 {
     const QString device = m_deps.currentInterface.device();
     state.selectedDevice = state.devices.contains(device) ? device : QString();
-    const QVariantMap record = m_deps.currentInterface.record();
-    state.interfaceName = record.value(record::localizedInterface).toString();
-    state.currentAddress = m_displayCase.transformedValue(record.value(record::current).toString());
-    state.hardwareAddress =
-        m_displayCase.transformedValue(record.value(record::hardware).toString());
-    state.ipAddress = record.value(record::ipAddress).toString();
-    state.linkActive = record.value(record::status).toString() == QLatin1String("active");
+    const DeviceRecord record = m_deps.currentInterface.record();
+    state.interfaceName = record.localizedInterface.value_or(QString());
+    state.currentAddress = m_displayCase.transformedValue(record.current.value_or(QString()));
+    state.hardwareAddress = m_displayCase.transformedValue(record.hardware.value_or(QString()));
+    state.ipAddress = record.ipAddress.value_or(QString());
+    state.linkActive = record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
     state.restoreEnabled =
         m_helperInstalled && !state.hardwareAddress.isEmpty() && state.hardwareIndicatorVisible;

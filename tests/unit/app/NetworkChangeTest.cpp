@@ -33,7 +33,7 @@ TEST_F(NetworkChangeTest, WithoutAChangedRecordEvaluatesNothing)
     networkEvent();
     EXPECT_TRUE(overviews.isEmpty());
     EXPECT_EQ(reachability.questions, 0);
-    EXPECT_FALSE(table.record(en0).contains(record::hasRule));
+    EXPECT_FALSE(table.record(en0).hasRule);
 }
 
 TEST_F(NetworkChangeTest, AlwaysFinishesWithTheListOfRules)
@@ -126,8 +126,7 @@ TEST_F(NetworkChangeTest, OfTheSelectedInterfaceRefreshesTheSelectionBeforeTheIn
     giveLease(en1);
     networkEvent();
     EXPECT_EQ(order, QStringList{en0});
-    EXPECT_EQ(
-        current.record().value(record::ipAddress), table.record(en0).value(record::ipAddress));
+    EXPECT_EQ(current.record().ipAddress, table.record(en0).ipAddress);
 }
 
 TEST_F(NetworkChangeTest, ThatLeavesTheWifiNetworkEndsTheCountdown)

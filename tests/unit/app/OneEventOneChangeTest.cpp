@@ -52,7 +52,7 @@ TEST_F(OneEvent, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
 {
     plugIn(en0);
     networkEvent();
-    EXPECT_EQ(table.record(en0).value(record::current).toString(), host.addressOf(en0));
+    EXPECT_EQ(storedRecord(en0).value(record::current).toString(), host.addressOf(en0));
     networkEvent();
     pass(1s);
     networkEvent();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "DeviceMachine.h"
+#include "DeviceFixture.h"
 #include "base/NotificationNames.h"
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
@@ -25,7 +25,7 @@ inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
 
 /// The whole road of a change, with a helper that keeps its addresses on the machine. en1, the
 /// Wi-Fi device, is selected.
-class AddressChange : public DeviceMachine
+class AddressChange : public DeviceFixture
 {
 protected:
     AddressChange()

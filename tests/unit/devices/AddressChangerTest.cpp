@@ -17,7 +17,7 @@ TEST_F(AddressChange, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
     change(en1, wanted);
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
     EXPECT_EQ(recorded(en1, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
-    EXPECT_EQ(current.record().value(record::current).toString(), wanted);
+    EXPECT_EQ(storedSelection().value(record::current).toString(), wanted);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
     EXPECT_EQ(order, (QStringList{QStringLiteral("history en1 02:AA:BB:CC:DD:01"),
@@ -73,17 +73,17 @@ TEST_F(AddressChange, OfAnEmptyDeviceIsThatOfTheCurrentInterface)
 {
     change(QString(), wanted);
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
-    EXPECT_EQ(current.record().value(record::current).toString(), wanted);
+    EXPECT_EQ(storedSelection().value(record::current).toString(), wanted);
 }
 
 TEST_F(AddressChange, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
 {
-    const QVariantMap before = current.record();
+    const QVariantMap before = storedSelection();
     change(en0, wanted);
     EXPECT_EQ(recorded(en0, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
     EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Ethernet Address Changed"));
     EXPECT_EQ(current.device(), en1);
-    QVariantMap after = current.record();
+    QVariantMap after = storedSelection();
     EXPECT_EQ(after.value(record::current).toString().toLower(), before.value(record::current));
     EXPECT_EQ(order,
         (QStringList{QStringLiteral("history en0 02:AA:BB:CC:DD:01"), QStringLiteral("posted en0"),
@@ -119,11 +119,11 @@ TEST_F(AddressChange, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
 
 TEST_F(AddressChange, OfAnInterfaceThatVanishedEndsInSilence)
 {
-    const QVariantMap before = table.devices();
+    const QVariantMap before = storedTable();
     host.unplug(en1);
     change(en1, wanted);
     EXPECT_TRUE(notifier.messages().isEmpty());
-    EXPECT_EQ(table.devices(), before);
+    EXPECT_EQ(storedTable(), before);
     EXPECT_TRUE(settings.journal().isEmpty());
     EXPECT_TRUE(order.isEmpty());
 }
@@ -152,7 +152,7 @@ TEST_F(AddressChange, KeepsWhatOthersWroteWhileTheHelperWorked)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change(en1, wanted);
-    QVariantMap record = table.record(en0);
+    QVariantMap record = storedRecord(en0);
     record[record::vendor] = QStringLiteral("Maker (A1B2C3)");
     storeRecord(en0, record);
     helper.timeOut();

@@ -33,7 +33,7 @@ TEST_F(EntryPoints, RandomizeActsOnTheCurrentInterface)
 
 TEST_F(EntryPoints, RandomizeFollowsTheVendorOfTheDevice)
 {
-    QVariantMap record = table.record(en1);
+    QVariantMap record = storedRecord(en1);
     record[record::vendor] = QStringLiteral("Some Maker Inc. (A2B2C3)");
     storeRecord(en1, record);
     changer->randomizeAddress();
@@ -96,7 +96,7 @@ TEST_F(EntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
 
 TEST_F(EntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
 {
-    QVariantMap devices = table.devices();
+    QVariantMap devices = storedTable();
     devices.remove(en0);
     store(devices);
     changer->randomizeAddress(randomize);
@@ -126,7 +126,7 @@ TEST_F(EntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
 
 TEST_F(EntryPoints, AMenuRestoreOfAnUnknownDeviceDoesNothing)
 {
-    QVariantMap devices = table.devices();
+    QVariantMap devices = storedTable();
     devices.remove(en0);
     store(devices);
     changer->restoreDefaultAddress(restore);

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/CurrentInterface.h"
 
-#include "DeviceMachine.h"
+#include "DeviceFixture.h"
 
 #include <memory>
 
 namespace quillon::test {
 namespace {
 
-class Selection : public DeviceMachine
+class Selection : public DeviceFixture
 {
 protected:
     Selection()
@@ -44,7 +44,7 @@ protected:
 TEST_F(Selection, IsNoneAtFirst)
 {
     EXPECT_EQ(current.device(), QString());
-    EXPECT_TRUE(current.record().isEmpty());
+    EXPECT_TRUE(storedSelection().isEmpty());
 }
 
 TEST_F(Selection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
@@ -60,7 +60,7 @@ TEST_F(Selection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
         {record::vendor, QStringLiteral("Maker (A1B2C3)")},
         {record::device, en1},
     };
-    EXPECT_EQ(current.record(), expected);
+    EXPECT_EQ(storedSelection(), expected);
     EXPECT_EQ(current.device(), en1);
     EXPECT_EQ(recorded(en1, record::current), QLatin1String("aa:bb:cc:dd:ee:ff"));
 }
@@ -93,23 +93,23 @@ TEST_F(Selection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
 TEST_F(Selection, OfADeviceWithoutAddressLeavesThePreviousOneInForce)
 {
     select(en0);
-    const QVariantMap before = current.record();
+    const QVariantMap before = storedSelection();
     host.at(en1).broken = true;
     current.updateInterface(en1);
     scheduler.runPending();
-    EXPECT_EQ(current.record(), before);
+    EXPECT_EQ(storedSelection(), before);
     EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild")}));
 }
 
 TEST_F(Selection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
 {
     select(en0);
-    const QVariantMap before = current.record();
+    const QVariantMap before = storedSelection();
     storeRecord(en1, {{record::current, QStringLiteral("02:16:3e:44:55:66 ")}});
     settings.clearJournal();
     current.updateCurrentInterfaceDict(en1);
     scheduler.runPending();
-    EXPECT_EQ(current.record(), before);
+    EXPECT_EQ(storedSelection(), before);
     EXPECT_TRUE(settings.journal().isEmpty());
     EXPECT_EQ(heard, QStringList{QStringLiteral("rebuild")});
 }
@@ -180,7 +180,7 @@ TEST_F(Selection, OfTheFirstStartIsTheWifiDeviceAtOnce)
 
 TEST_F(Selection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
 {
-    QVariantMap devices = table.devices();
+    QVariantMap devices = storedTable();
     devices.remove(en1);
     store(devices);
     current.selectInitialDevice();
@@ -202,7 +202,7 @@ TEST_F(Selection, OfADeviceThatVanishedStays)
     settings.set(keys::currentInterfaceDict, stored);
     current.selectInitialDevice();
     scheduler.runPending();
-    EXPECT_EQ(current.record(), stored);
+    EXPECT_EQ(storedSelection(), stored);
     EXPECT_TRUE(heard.isEmpty());
 }
 
@@ -257,7 +257,7 @@ TEST_F(HexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
     EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
     scheduler.runPending();
     EXPECT_EQ(
-        current.record().value(record::current).toString(), QLatin1String("00:16:3E:44:55:66"));
+        storedSelection().value(record::current).toString(), QLatin1String("00:16:3E:44:55:66"));
 }
 
 TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
@@ -270,7 +270,7 @@ TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
         settings.clearJournal();
         current.updateHexValues();
         scheduler.runPending();
-        EXPECT_EQ(table.record(en1), record);
+        EXPECT_EQ(storedRecord(en1), record);
         EXPECT_TRUE(settings.journal().isEmpty());
         EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
     }
@@ -279,10 +279,10 @@ TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
 TEST_F(HexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
 {
     settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, QStringLiteral("en8")}});
-    const QVariantMap before = table.devices();
+    const QVariantMap before = storedTable();
     current.updateHexValues();
     scheduler.runPending();
-    EXPECT_EQ(table.devices(), before);
+    EXPECT_EQ(storedTable(), before);
     EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
 }
 

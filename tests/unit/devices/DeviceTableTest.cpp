@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/DeviceTable.h"
 
-#include "DeviceMachine.h"
+#include "DeviceFixture.h"
 #include "fakes/FakeCommandRunner.h"
 #include "platform/textual/TextualHost.h"
 
@@ -27,14 +27,14 @@ QVariantMap wired()
     return {{record::interface, QStringLiteral("Ethernet")}};
 }
 
-class DeviceTableRefresh : public DeviceMachine
+class DeviceTableRefresh : public DeviceFixture
 {
 };
 
 TEST_F(DeviceTableRefresh, KeepsEthernetWifiAndTheThunderboltBridgeOnly)
 {
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(table.devices().keys(),
+    EXPECT_EQ(table.names(),
         (QStringList{QStringLiteral("bridge0"), QStringLiteral("en0"), QStringLiteral("en1")}));
 }
 
@@ -49,39 +49,38 @@ TEST_F(DeviceTableRefresh, FillsEveryKeyOfARecord)
         {record::status, QStringLiteral("active")},
         {record::ipAddress, QStringLiteral("198.51.100.7")},
     };
-    EXPECT_EQ(table.record(QStringLiteral("en1")), expected);
+    EXPECT_EQ(storedRecord(QStringLiteral("en1")), expected);
     EXPECT_EQ(recorded(QStringLiteral("bridge0"), record::ipAddress), QString());
     EXPECT_EQ(recorded(QStringLiteral("bridge0"), record::status), QLatin1String("inactive"));
 }
 
-TEST_F(DeviceTableRefresh, WritesTheTableOncePerKeptPortAndFlushesOnce)
+TEST_F(DeviceTableRefresh, WritesTheTableOnceAndFlushesOnce)
 {
     table.updateNetWorkInterfaces();
-    const QString write = QStringLiteral("set deviceDict");
-    EXPECT_EQ(
-        settings.journal(), (QStringList{write, write, write, QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(),
+        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
 }
 
 TEST_F(DeviceTableRefresh, OfAMachineWithoutPortsFlushesAndKeepsTheTable)
 {
     table.updateNetWorkInterfaces();
-    const QVariantMap before = table.devices();
+    const QVariantMap before = storedTable();
     for (const QString &device : before.keys()) {
         host.unplug(device);
     }
     settings.clearJournal();
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(table.devices(), before);
+    EXPECT_EQ(storedTable(), before);
     EXPECT_EQ(settings.journal(), QStringList{QStringLiteral("synchronize")});
 }
 
 TEST_F(DeviceTableRefresh, NeverForgetsADeviceThatWasUnplugged)
 {
     table.updateNetWorkInterfaces();
-    const QVariantMap last = table.record(QStringLiteral("en0"));
+    const QVariantMap last = storedRecord(QStringLiteral("en0"));
     host.unplug(QStringLiteral("en0"));
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(table.record(QStringLiteral("en0")), last);
+    EXPECT_EQ(storedRecord(QStringLiteral("en0")), last);
 }
 
 TEST_F(DeviceTableRefresh, LeavesWhatOthersKeepInTheRecord)
@@ -93,7 +92,7 @@ TEST_F(DeviceTableRefresh, LeavesWhatOthersKeepInTheRecord)
             {QStringLiteral("future"), QStringLiteral("kept")},
             {record::current, QStringLiteral("stale")}});
     table.updateNetWorkInterfaces();
-    const QVariantMap record = table.record(QStringLiteral("en0"));
+    const QVariantMap record = storedRecord(QStringLiteral("en0"));
     EXPECT_EQ(record.value(record::vendor).toString(), QLatin1String("Maker (A1B2C3)"));
     EXPECT_EQ(record.value(record::hasRule).toString(), QLatin1String("1"));
     EXPECT_EQ(record.value(record::rule).toMap(), rule);
@@ -106,7 +105,7 @@ TEST_F(DeviceTableRefresh, RecordsADeviceThatAnswersNothingWithoutAddress)
 {
     host.at(QStringLiteral("en0")).broken = true;
     table.updateNetWorkInterfaces();
-    const QVariantMap record = table.record(QStringLiteral("en0"));
+    const QVariantMap record = storedRecord(QStringLiteral("en0"));
     EXPECT_EQ(record.value(record::current), QVariant(QString()));
     EXPECT_EQ(record.value(record::hardware).toString(), QLatin1String("00:16:3e:11:22:33"));
 }
@@ -143,11 +142,11 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
         recorded(QStringLiteral("en0"), record::localizedInterface), QLatin1String("Ethernet"));
 }
 
-class FactoryAddressUntold : public DeviceMachine
+class FactoryAddressUntold : public DeviceFixture
 {
 protected:
     FactoryAddressUntold()
-        : DeviceMachine(QStringLiteral("laptop"))
+        : DeviceFixture(QStringLiteral("laptop"))
     {
     }
     const QString bridge = QStringLiteral("br0");
@@ -173,7 +172,7 @@ TEST_F(FactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
     EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
 }
 
-class DevicesOfATextualHost : public DeviceMachine
+class DevicesOfATextualHost : public DeviceFixture
 {
 protected:
     DevicesOfATextualHost()
@@ -194,7 +193,7 @@ protected:
 TEST_F(DevicesOfATextualHost, FillTheSameRecords)
 {
     textualTable.updateNetWorkInterfaces();
-    EXPECT_EQ(textualTable.devices().keys(),
+    EXPECT_EQ(textualTable.names(),
         (QStringList{QStringLiteral("bridge0"), QStringLiteral("en0"), QStringLiteral("en1")}));
     const QVariantMap expected = {
         {record::interface, QStringLiteral("Wi-Fi")},
@@ -204,7 +203,7 @@ TEST_F(DevicesOfATextualHost, FillTheSameRecords)
         {record::status, QStringLiteral("active")},
         {record::ipAddress, QStringLiteral("198.51.100.7")},
     };
-    EXPECT_EQ(textualTable.record(QStringLiteral("en0")), expected);
+    EXPECT_EQ(storedRecord(QStringLiteral("en0")), expected);
 }
 
 TEST_F(DevicesOfATextualHost, En10OverwritesTheRecordOfEn1)
@@ -215,14 +214,14 @@ TEST_F(DevicesOfATextualHost, En10OverwritesTheRecordOfEn1)
                   "Hardware Port: USB LAN\nDevice: en10\nEthernet Address: 00:16:3e:00:00:10\n\n"));
     storeRecord(QStringLiteral("en1"), {{record::vendor, QStringLiteral("Maker (A1B2C3)")}});
     textualTable.updateNetWorkInterfaces();
-    EXPECT_EQ(textualTable.devices().keys(), QStringList{QStringLiteral("en1")});
+    EXPECT_EQ(textualTable.names(), QStringList{QStringLiteral("en1")});
     EXPECT_EQ(recorded(QStringLiteral("en1"), record::interface), QLatin1String("USB LAN"));
     EXPECT_EQ(
         recorded(QStringLiteral("en1"), record::hardware), QLatin1String("00:16:3e:00:00:10"));
     EXPECT_EQ(recorded(QStringLiteral("en1"), record::vendor), QLatin1String("Maker (A1B2C3)"));
 }
 
-class DeviceQueries : public DeviceMachine
+class DeviceQueries : public DeviceFixture
 {
 };
 
@@ -339,19 +338,34 @@ TEST_F(DeviceQueries, FromManyThreadsReachTheHostOneAtATime)
     EXPECT_FALSE(touchy.wasCrowded());
 }
 
-TEST(FirstChangedDevice, IsTheFirstByNameWhoseRecordDiffers)
+class DeviceTableUpdate : public DeviceFixture
 {
-    const QVariantMap one{{record::status, QStringLiteral("active")}};
-    const QVariantMap other{{record::status, QStringLiteral("inactive")}};
+protected:
     const QString en0 = QStringLiteral("en0");
-    const QString en1 = QStringLiteral("en1");
-    EXPECT_EQ(firstChangedDevice({}, {}), QString());
-    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, one}}), QString());
-    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, other}}), en1);
-    EXPECT_EQ(firstChangedDevice({{en1, one}, {en0, one}}, {{en0, other}, {en1, other}}), en0);
-    EXPECT_EQ(firstChangedDevice({{en0, one}}, {}), en0);
-    EXPECT_EQ(firstChangedDevice({{en0, one}}, {{en0, one}, {en1, one}}), QString())
-        << "a device that is new has not changed";
+};
+
+TEST_F(DeviceTableUpdate, ChangesOneRecordAndFlushes)
+{
+    const QVariantMap other = wifi();
+    store({{en0, wired()}, {QStringLiteral("en1"), other},
+        {QStringLiteral("en2"), QStringLiteral("text")}});
+    settings.clearJournal();
+    const DeviceRecord changed = table.update(
+        en0, [](DeviceRecord &record) { record.vendor = QStringLiteral("Maker (A1B2C3)"); });
+    QVariantMap expected = wired();
+    expected[record::vendor] = QStringLiteral("Maker (A1B2C3)");
+    EXPECT_EQ(storedRecord(en0), expected);
+    EXPECT_EQ(changed, table.record(en0));
+    EXPECT_EQ(storedRecord(QStringLiteral("en1")), other);
+    EXPECT_EQ(storedTable().value(QStringLiteral("en2")), QVariant(QStringLiteral("text")));
+    EXPECT_EQ(settings.journal(),
+        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+}
+
+TEST_F(DeviceTableUpdate, MakesTheRecordOfADeviceThatHadNone)
+{
+    table.update(en0, [](DeviceRecord &record) { record.status = QStringLiteral("active"); });
+    EXPECT_EQ(storedRecord(en0), (QVariantMap{{record::status, QStringLiteral("active")}}));
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/RandomAddress.h"
 
-#include "DeviceMachine.h"
+#include "DeviceFixture.h"
 #include "devices/AddressText.h"
 #include "fakes/FakeRandomSource.h"
 
@@ -122,7 +122,7 @@ TEST(AddressWithPrefix, SurvivesTextsThatAreTooShort)
     EXPECT_EQ(addressWithPrefix(QString(), QString()), QLatin1String("::"));
 }
 
-class RandomAddressOfDevice : public DeviceMachine
+class RandomAddressOfDevice : public DeviceFixture
 {
 protected:
     RandomAddressOfDevice() { random.put(QByteArray::fromHex("c0abcdef0009")); }

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/Connection.h"
 
-#include "HistoryMachine.h"
+#include "HistoryFixture.h"
 
 namespace quillon::test {
 namespace {
 
-class OneConnection : public HistoryMachine
+class OneConnection : public HistoryFixture
 {
 protected:
     ManagedObjectPtr record = context().insertNewObject(QStringLiteral("Connection"));

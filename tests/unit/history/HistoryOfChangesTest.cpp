@@ -45,7 +45,7 @@ protected:
 
     QTemporaryDir folder;
     RecordStore records{scheduler, folder.path()};
-    HistoryRecords history{records, settings, scheduler};
+    HistoryRecords history{records, table, settings, scheduler};
 };
 
 TEST_F(HistoryOfChanges, HasOneRecordForEachThatWasMade)

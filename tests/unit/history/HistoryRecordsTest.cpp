@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/HistoryRecords.h"
 
-#include "HistoryMachine.h"
+#include "HistoryFixture.h"
 #include "fakes/LogCapture.h"
 
 #include <QUndoStack>
@@ -12,7 +12,7 @@
 namespace quillon::test {
 namespace {
 
-class History : public HistoryMachine
+class History : public HistoryFixture
 {
 protected:
     Connection onlyRecord()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/LocationPermission.h"
 
-#include "NetworkMachine.h"
+#include "NetworkFixture.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeLocationAuthorization.h"
 #include "fakes/FakeSystemSettings.h"
@@ -16,7 +16,7 @@ namespace {
 using Status = LocationAuthorization::Status;
 using namespace std::chrono_literals;
 
-class Permission : public NetworkMachine
+class Permission : public NetworkFixture
 {
 protected:
     Permission()

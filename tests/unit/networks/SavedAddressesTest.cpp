@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedAddresses.h"
 
-#include "NetworkMachine.h"
+#include "NetworkFixture.h"
 #include "networks/SavedAddressEditing.h"
 
 #include <memory>
@@ -10,7 +10,7 @@
 namespace quillon::test {
 namespace {
 
-class AddressBook : public NetworkMachine
+class AddressBook : public NetworkFixture
 {
 protected:
     AddressBook() { wear(QStringLiteral("A4:83:E7:01:02:03")); }
@@ -132,7 +132,7 @@ protected:
     {
         saveAddress(address, QStringLiteral("Printer"));
         saveAddress(otherAddress, QStringLiteral("Scanner"));
-        editing->beginEditing(savedAddress(address));
+        editing->beginEditing(savedAddressEntry(address));
         QObject::connect(
             editing.get(), &SavedAddressEditing::editingFinished, [this] { ++finished; });
         settings.clearJournal();
@@ -206,8 +206,7 @@ TEST_F(EditedAddress, IsNoneAfterTheEnd)
 TEST_F(EditedAddress, IsACopyOfTheListsEntry)
 {
     saveAddress(address, QStringLiteral("Changed elsewhere"));
-    EXPECT_EQ(editing->editingAddressDict()->value(savedentry::name).toString(),
-        QStringLiteral("Printer"));
+    EXPECT_EQ(editing->editingAddressDict()->name, QStringLiteral("Printer"));
 }
 
 TEST_F(EditedAddress, MayBeGoneWhenItsTurnComes)

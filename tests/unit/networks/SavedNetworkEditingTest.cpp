@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedNetworkEditing.h"
 
-#include "NetworkEditing.h"
+#include "NetworkEditingFixture.h"
 
 namespace quillon::test {
 namespace {
 
-using EditedNetwork = NetworkEditing;
+using EditedNetwork = NetworkEditingFixture;
 
 TEST_F(EditedNetwork, GetsTheTypedName)
 {
@@ -49,7 +49,7 @@ TEST_F(EditedNetwork, GetsTheNextFreeSuffixForTheNameOfAnother)
 
 TEST_F(EditedNetwork, GetsTwoForTheNameOfOneOther)
 {
-    editing->beginEditing(savedNetwork(cafeBssid));
+    editing->beginEditing(savedNetworkEntry(cafeBssid));
     editing->changeSavedNetworkName(QStringLiteral("Home"));
     EXPECT_EQ(
         savedNetwork(cafeBssid).value(savedentry::name).toString(), QStringLiteral("Home (2)"));
@@ -77,7 +77,7 @@ TEST_F(EditedNetwork, MayHaveNoNameWhenNoOtherHasNone)
     editing->changeSavedNetworkName(QString());
     EXPECT_EQ(name(), QString());
     EXPECT_TRUE(savedNetwork(homeBssid).contains(savedentry::name));
-    editing->beginEditing(savedNetwork(officeBssid));
+    editing->beginEditing(savedNetworkEntry(officeBssid));
     editing->changeSavedNetworkName(QString());
     EXPECT_EQ(savedNetwork(officeBssid).value(savedentry::name).toString(), QStringLiteral(" (2)"));
 }
@@ -130,15 +130,14 @@ TEST_F(EditedNetwork, IsNoneAfterTheEnd)
     scheduler.runPending();
     EXPECT_TRUE(settings.journal().isEmpty());
     EXPECT_EQ(finished, 0);
-    EXPECT_EQ(rulesChanged, 0);
+    EXPECT_TRUE(modes.isEmpty());
     EXPECT_FALSE(editing->isSsidDefined());
 }
 
 TEST_F(EditedNetwork, IsACopyOfTheListsEntry)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Changed elsewhere"));
-    EXPECT_EQ(
-        editing->editingNetworkDict()->value(savedentry::name).toString(), QStringLiteral("Home"));
+    EXPECT_EQ(editing->editingNetworkDict()->name, QStringLiteral("Home"));
 }
 
 TEST_F(EditedNetwork, IsRecognisedBySSIDOnceItsButtonIsChosen)
@@ -147,7 +146,7 @@ TEST_F(EditedNetwork, IsRecognisedBySSIDOnceItsButtonIsChosen)
     QVariantMap expected = networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
     expected[QStringLiteral("ssidDefined")] = true;
     EXPECT_EQ(savedNetwork(homeBssid), expected);
-    EXPECT_EQ(editing->editingNetworkDict(), expected);
+    EXPECT_EQ(editing->editingNetworkDict(), SavedEntry::fromPropertyList(expected));
     EXPECT_TRUE(editing->isSsidDefined());
     EXPECT_EQ(settings.journal(),
         (QStringList{QStringLiteral("set savedNetworks"), QStringLiteral("synchronize")}));
@@ -171,6 +170,14 @@ TEST_F(EditedNetwork, ShowsItsModeBeforeItIsStored)
     });
     editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     EXPECT_EQ(heard, (QStringList{QStringLiteral("ssid"), QStringLiteral("0")}));
+}
+
+TEST_F(EditedNetwork, SaysItsModeOnceItIsStored)
+{
+    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+    editing->updateNetworkDefinition(QStringLiteral("bssidbutton"));
+    EXPECT_EQ(modes,
+        (QStringList{homeBssid + QStringLiteral(" ssid"), homeBssid + QStringLiteral(" bssid")}));
 }
 
 TEST_F(EditedNetwork, KeepsItsModeWhenItIsRenamed)

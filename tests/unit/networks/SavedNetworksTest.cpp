@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/SavedNetworks.h"
 
-#include "NetworkMachine.h"
+#include "NetworkFixture.h"
 
 namespace quillon::test {
 namespace {
 
-class Favourites : public NetworkMachine
+class Favourites : public NetworkFixture
 {
 protected:
     SavedNetworks saved{settings, network};

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/WiFiNetwork.h"
 
-#include "NetworkMachine.h"
+#include "NetworkFixture.h"
 
 #include <limits>
 
 namespace quillon::test {
 namespace {
 
-class CurrentNetwork : public NetworkMachine
+class CurrentNetwork : public NetworkFixture
 {
 protected:
     CurrentNetwork()
@@ -37,7 +37,7 @@ protected:
     }
     void expectNotAssociated()
     {
-        EXPECT_TRUE(network.updateWiFiNetwork().isEmpty());
+        EXPECT_FALSE(network.updateWiFiNetwork());
         EXPECT_EQ(settings.getDictionary(keys::currentWiFiDict), notAssociated());
         EXPECT_EQ(buttonShown, QList<bool>{false});
     }
@@ -70,9 +70,10 @@ TEST_F(CurrentNetwork, IsReturnedAsItsTwoNamesOnly)
     WiFiInterface wifi = home();
     wifi.bssid = wifi.bssid.toUpper();
     radio.join(wifi);
-    const QVariantMap expected = {
-        {QStringLiteral("BSSID"), homeBssid}, {QStringLiteral("SSID"), QStringLiteral("Home")}};
-    EXPECT_EQ(network.updateWiFiNetwork(), expected);
+    const auto joined = network.updateWiFiNetwork();
+    ASSERT_TRUE(joined);
+    EXPECT_EQ(joined->bssid, homeBssid);
+    EXPECT_EQ(joined->ssid, QStringLiteral("Home"));
     EXPECT_EQ(current(wifirecord::BSSID), homeBssid);
 }
 

@@ -71,7 +71,7 @@ protected:
 
     void ruleSays(const QString &device, const QVariant &minutes)
     {
-        QVariantMap devices = table.devices();
+        QVariantMap devices = settings.getDictionary(keys::deviceDict);
         QVariantMap record = devices.value(device).toMap();
         QVariantMap rule{{QStringLiteral("vendor"), QStringLiteral("Maker (A1B2C3)")}};
         if (minutes.isValid()) {

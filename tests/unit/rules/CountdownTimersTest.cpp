@@ -87,11 +87,8 @@ TEST_F(Countdown, GivesARandomAddressWhateverTheVendorOfTheRule)
 TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
 {
     random.put(QByteArray::fromHex("3f0102030405"));
-    QVariantMap devices = table.devices();
-    QVariantMap record = devices.value(en0).toMap();
-    record[record::vendor] = QStringLiteral("Another (3C22FB)");
-    devices[en0] = record;
-    settings.set(keys::deviceDict, devices);
+    table.update(
+        en0, [](DeviceRecord &record) { record.vendor = QStringLiteral("Another (3C22FB)"); });
     timers->startCountDownTimer(en0);
     pass(120s);
     EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});

@@ -15,8 +15,8 @@ TEST_F(RuleEvaluationTest, WithoutRulesSaysThereIsNone)
 {
     evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(hasRule(en0), QVariant(0));
-    EXPECT_EQ(table.record(en0).value(record::rule), QVariant(QVariantMap()));
-    EXPECT_EQ(table.record(en0).value(record::loginRule), QVariant(QVariantMap()));
+    EXPECT_EQ(storedRecord(en0).value(record::rule), QVariant(QVariantMap()));
+    EXPECT_EQ(storedRecord(en0).value(record::loginRule), QVariant(QVariantMap()));
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
@@ -168,7 +168,7 @@ TEST_F(RuleEvaluationTest, OfAllTakesEveryInterfaceInTheOrderOfTheTable)
     for (const auto &posted : overviews) {
         devices << posted.userInfo.keys();
     }
-    EXPECT_EQ(devices, table.devices().keys());
+    EXPECT_EQ(devices, table.names());
     EXPECT_EQ(hasRule(en0), QVariant(1));
     EXPECT_EQ(hasRule(en1), QVariant(0));
 }
@@ -217,7 +217,7 @@ TEST_F(RuleEvaluationTest, KeepsWhatOthersWroteIntoTheRecord)
 {
     setRecord(en0, record::vendor, QStringLiteral("Maker (A1B2C3)"));
     evaluate(en0, RuleChange::None);
-    EXPECT_EQ(table.record(en0).value(record::vendor), QVariant(QStringLiteral("Maker (A1B2C3)")));
+    EXPECT_EQ(storedRecord(en0).value(record::vendor), QVariant(QStringLiteral("Maker (A1B2C3)")));
 }
 
 TEST_F(RuleEvaluationTest, IsNotWatchedAndLeavesNothingToUndo)
@@ -267,7 +267,7 @@ TEST_F(RuleEvaluationTest, OfARuleThatWasEditedFollowsWithoutAChange)
 TEST_F(RuleEvaluationTest, OfADeviceThatIsNotOneOfThisComputerAddsNoRecord)
 {
     const Rule rule = addRule({.name = QStringLiteral("there"), .device = QStringLiteral("en9")});
-    const QVariantMap before = table.devices();
+    const DeviceRecords before = table.devices();
     evaluate(QStringLiteral("en9"), RuleChange::NetworkRule);
     EXPECT_EQ(table.devices(), before);
     EXPECT_TRUE(rule.active());

@@ -88,13 +88,13 @@ protected:
 
     void select(const QString &device)
     {
-        QVariantMap selection = table.record(device);
+        QVariantMap selection = storedRecord(device);
         selection[record::device] = device;
         settings.set(keys::currentInterfaceDict, selection);
     }
     void setRecord(const QString &device, const QString &key, const QVariant &value)
     {
-        QVariantMap devices = table.devices();
+        QVariantMap devices = settings.getDictionary(keys::deviceDict);
         QVariantMap record = devices.value(device).toMap();
         record.remove(key);
         if (value.isValid()) {
@@ -163,9 +163,13 @@ protected:
         scheduler.runPending();
     }
 
+    QVariantMap storedRecord(const QString &device) const
+    {
+        return settings.getDictionary(keys::deviceDict).value(device).toMap();
+    }
     QVariantMap recordedRule(const QString &device) const
     {
-        return table.record(device).value(record::rule).toMap();
+        return storedRecord(device).value(record::rule).toMap();
     }
     QString ruleInForce(const QString &device) const
     {
@@ -173,12 +177,12 @@ protected:
     }
     QString loginRuleInForce(const QString &device) const
     {
-        const QVariantMap rule = table.record(device).value(record::loginRule).toMap();
+        const QVariantMap rule = storedRecord(device).value(record::loginRule).toMap();
         return rule.value(QStringLiteral("name")).toString();
     }
     QVariant hasRule(const QString &device) const
     {
-        return table.record(device).value(record::hasRule);
+        return storedRecord(device).value(record::hasRule);
     }
     /// The addresses that the helper was asked to set on `device`, in order.
     QStringList changesOf(const QString &device) const

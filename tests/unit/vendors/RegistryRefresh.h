@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "VendorMachine.h"
+#include "VendorFixture.h"
 #include "vendors/DateStamp.h"
 
 namespace quillon::test {
 
 /// Somebody with ten vendors, who presses the button and reads the two lines.
-class RegistryRefresh : public VendorMachine
+class RegistryRefresh : public VendorFixture
 {
 protected:
     RegistryRefresh()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorChoice.h"
 
-#include "VendorMachine.h"
+#include "VendorFixture.h"
 #include "base/NotificationNames.h"
 #include "devices/RandomAddress.h"
 
@@ -12,7 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class ChosenVendor : public VendorMachine
+class ChosenVendor : public VendorFixture
 {
 protected:
     ChosenVendor()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorList.h"
 
-#include "VendorMachine.h"
+#include "VendorFixture.h"
 #include "store/model/Predicate.h"
 
 namespace quillon::test {
@@ -11,7 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class VendorsToChooseFrom : public VendorMachine
+class VendorsToChooseFrom : public VendorFixture
 {
 protected:
     VendorsToChooseFrom()

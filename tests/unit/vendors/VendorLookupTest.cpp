@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorLookup.h"
 
-#include "VendorMachine.h"
+#include "VendorFixture.h"
 
 namespace quillon::test {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class VendorOfAnAddress : public VendorMachine
+class VendorOfAnAddress : public VendorFixture
 {
 protected:
     VendorOfAnAddress()

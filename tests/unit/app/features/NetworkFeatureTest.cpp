@@ -27,14 +27,14 @@ protected:
         }
         return texts;
     }
-    QVariantMap saveNetwork()
+    SavedEntry saveNetwork()
     {
         const QVariantMap network{{savedentry::name, QStringLiteral("Home")},
             {savedentry::SSID, QStringLiteral("home-net")},
             {savedentry::BSSID, QStringLiteral("0a:0b:0c:0d:0e:0f")}};
         machine.settings.set(
             keys::savedNetworks, QVariantMap{{QStringLiteral("0a:0b:0c:0d:0e:0f"), network}});
-        return network;
+        return SavedEntry::fromPropertyList(network);
     }
     SavedEntryPopoverModel &popover() { return features().networks.savedEntryPopover; }
 };
@@ -129,7 +129,8 @@ TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
 {
     run();
     saveAddress(QStringLiteral("Mine"));
-    const QVariantMap entry = machine.settings.getDictionary(keys::savedAddresses).first().toMap();
+    const auto entry =
+        SavedEntry::fromPropertyList(machine.settings.getDictionary(keys::savedAddresses).first());
     popover().tokenFieldMenuForRepresentedObject(TokenField::SavedAddresses, entry, {});
     machine.scheduler.runPending();
     ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Address);

@@ -142,9 +142,11 @@ TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
     insertRule(randomOnce(enp2s0, home));
     ASSERT_EQ(status(enp2s0), 0);
     const QString bssid = QStringLiteral("0a:0b:0c:0d:0e:0f");
-    const QVariantMap network{
-        {savedentry::name, home}, {savedentry::SSID, home}, {savedentry::BSSID, bssid}};
-    machine.settings.set(keys::savedNetworks, QVariantMap{{bssid, network}});
+    SavedEntry network;
+    network.name = home;
+    network.ssid = home;
+    network.bssid = bssid;
+    machine.settings.set(keys::savedNetworks, QVariantMap{{bssid, network.toPropertyList()}});
     SavedEntryPopoverModel &popover = features().networks.savedEntryPopover;
     popover.tokenFieldMenuForRepresentedObject(TokenField::SavedNetworks, network, {});
     machine.scheduler.runPending();

@@ -3,7 +3,7 @@
 #include "presentation/networks/NetworkInfoModel.h"
 
 #include "networks/SavedNetworks.h"
-#include "unit/networks/NetworkMachine.h"
+#include "unit/networks/NetworkFixture.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class NetworkInfo : public NetworkMachine
+class NetworkInfo : public NetworkFixture
 {
 protected:
     NetworkInfo()

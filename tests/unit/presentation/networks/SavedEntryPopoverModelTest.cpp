@@ -3,7 +3,7 @@
 #include "presentation/networks/SavedEntryPopoverModel.h"
 
 #include "networks/SavedAddressEditing.h"
-#include "unit/networks/NetworkEditing.h"
+#include "unit/networks/NetworkEditingFixture.h"
 
 #include <memory>
 
@@ -13,7 +13,7 @@ namespace {
 using Popover = SavedEntryPopoverModel::Popover;
 using TickButton = SavedEntryPopoverModel::TickButton;
 
-class EntryPopover : public NetworkEditing
+class EntryPopover : public NetworkEditingFixture
 {
 protected:
     EntryPopover()
@@ -29,18 +29,18 @@ protected:
             &SavedEntryPopoverModel::closeAddressPopover);
     }
 
-    void choose(TokenField field, const QVariantMap &entry)
+    void choose(TokenField field, const SavedEntry &entry)
     {
         model->tokenFieldMenuForRepresentedObject(field, entry, {100, 40});
     }
     void openNetwork()
     {
-        choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+        choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
         scheduler.runPending();
     }
     void openAddress()
     {
-        choose(TokenField::SavedAddresses, savedAddress(address));
+        choose(TokenField::SavedAddresses, savedAddressEntry(address));
         scheduler.runPending();
     }
     const SavedEntryPopoverModel::State &state() const { return model->state(); }
@@ -52,9 +52,9 @@ protected:
 
 TEST_F(EntryPopover, OpensInTheNextTurnAroundThePointer)
 {
-    choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+    choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
     EXPECT_EQ(state().open, Popover::None);
-    EXPECT_EQ(editing->editingNetworkDict(), savedNetwork(homeBssid));
+    EXPECT_EQ(editing->editingNetworkDict(), savedNetworkEntry(homeBssid));
     scheduler.runPending();
     EXPECT_EQ(state().open, Popover::Network);
     EXPECT_EQ(state().anchor, QRectF(97.5, 37.5, 5, 5));
@@ -84,8 +84,8 @@ TEST_F(EntryPopover, ShowsTheAddress)
 
 TEST_F(EntryPopover, OpensFromNoOtherField)
 {
-    choose(TokenField::QuickAddresses, savedAddress(address));
-    choose(TokenField::Other, savedAddress(address));
+    choose(TokenField::QuickAddresses, savedAddressEntry(address));
+    choose(TokenField::Other, savedAddressEntry(address));
     scheduler.runPending();
     EXPECT_EQ(state(), SavedEntryPopoverModel::State());
     EXPECT_FALSE(addressEditing.editingAddressDict());
@@ -94,7 +94,7 @@ TEST_F(EntryPopover, OpensFromNoOtherField)
 TEST_F(EntryPopover, GivesWayAtOnceToTheNextChosenToken)
 {
     openNetwork();
-    choose(TokenField::SavedAddresses, savedAddress(address));
+    choose(TokenField::SavedAddresses, savedAddressEntry(address));
     EXPECT_EQ(state().open, Popover::None);
     EXPECT_FALSE(editing->editingNetworkDict());
     scheduler.runPending();
@@ -103,8 +103,8 @@ TEST_F(EntryPopover, GivesWayAtOnceToTheNextChosenToken)
 
 TEST_F(EntryPopover, OpensForTheLastOfTwoTokensChosenInOneTurn)
 {
-    choose(TokenField::SavedAddresses, savedAddress(address));
-    choose(TokenField::SavedNetworks, savedNetwork(officeBssid));
+    choose(TokenField::SavedAddresses, savedAddressEntry(address));
+    choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
     QList<Popover> opened;
     QObject::connect(
         model.get(), &SavedEntryPopoverModel::changed, [&] { opened << state().open; });
@@ -139,7 +139,7 @@ TEST_F(EntryPopover, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
 {
     openNetwork();
     model->controlTextDidEndEditing(QStringLiteral("Our house"));
-    choose(TokenField::SavedNetworks, savedNetwork(officeBssid));
+    choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
     scheduler.runPending();
     EXPECT_EQ(state().open, Popover::Network);
     EXPECT_EQ(state().name, QStringLiteral("Office"));
@@ -199,16 +199,16 @@ TEST_F(EntryPopover, TicksOneOfTwoButtonsAndActsOnTheOther)
     EXPECT_EQ(state().ssidTickButton, (TickButton{.on = true, .hasAction = false}));
     EXPECT_EQ(state().bssidTickButton, (TickButton{.on = false, .hasAction = true}));
     EXPECT_TRUE(savedNetwork(homeBssid).contains(savedentry::ssidDefined));
-    EXPECT_EQ(rulesChanged, 1);
+    EXPECT_EQ(modes.size(), 1);
     EXPECT_EQ(state().bssid, homeBssid);
 
     model->chooseSsidTickButton();
-    EXPECT_EQ(rulesChanged, 1) << "it is on already";
+    EXPECT_EQ(modes.size(), 1) << "it is on already";
 
     model->chooseBssidTickButton();
     EXPECT_EQ(state().bssidTickButton, (TickButton{.on = true, .hasAction = false}));
     EXPECT_FALSE(savedNetwork(homeBssid).contains(savedentry::ssidDefined));
-    EXPECT_EQ(rulesChanged, 2);
+    EXPECT_EQ(modes.size(), 2);
 }
 
 TEST_F(EntryPopover, OpensWithTheModeThatIsSaved)
@@ -227,12 +227,12 @@ TEST_F(EntryPopover, HasNoTickButtonsForAnAddress)
     model->showNetworkDefinition();
     EXPECT_EQ(state().ssidTickButton, TickButton());
     EXPECT_EQ(state().bssidTickButton, TickButton());
-    EXPECT_EQ(rulesChanged, 0);
+    EXPECT_TRUE(modes.isEmpty());
 }
 
 TEST_F(EntryPopover, MayBeGoneWhenItsTurnComes)
 {
-    choose(TokenField::SavedNetworks, savedNetwork(homeBssid));
+    choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
     model.reset();
     scheduler.runPending();
     EXPECT_TRUE(editing->editingNetworkDict());

@@ -3,14 +3,14 @@
 #include "presentation/networks/SavedListsModel.h"
 
 #include "networks/SavedAddresses.h"
-#include "unit/networks/NetworkMachine.h"
+#include "unit/networks/NetworkFixture.h"
 
 #include <memory>
 
 namespace quillon::test {
 namespace {
 
-class SavedLists : public NetworkMachine
+class SavedLists : public NetworkFixture
 {
 protected:
     SavedLists()
@@ -47,8 +47,8 @@ TEST_F(SavedLists, ShowEntriesByTheirNames)
     EXPECT_EQ(texts(model->state().networks),
         (QStringList{QStringLiteral("Our house"), QStringLiteral("Work")}));
     EXPECT_EQ(texts(model->state().addresses), QStringList{QStringLiteral("Printer")});
-    EXPECT_EQ(model->state().networks.first().entry, savedNetwork(homeBssid));
-    EXPECT_EQ(model->state().addresses.first().entry, savedAddress(address));
+    EXPECT_EQ(model->state().networks.first().entry, savedNetworkEntry(homeBssid));
+    EXPECT_EQ(model->state().addresses.first().entry, savedAddressEntry(address));
 }
 
 TEST_F(SavedLists, ShowAtOnceWhatWasSavedBefore)
@@ -60,7 +60,7 @@ TEST_F(SavedLists, ShowAtOnceWhatWasSavedBefore)
 
 TEST_F(SavedLists, ShowTheWordNameInAnyOtherField)
 {
-    const QVariantMap entry = networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("X"));
+    const SavedEntry entry{.name = QStringLiteral("X"), .bssid = homeBssid};
     EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, entry),
         QStringLiteral("name"));
     EXPECT_EQ(
@@ -152,9 +152,9 @@ TEST_F(SavedLists, GiveEntriesTheKeyUnderWhichTheyAreSaved)
             {officeBssid, networkEntry(cafeBssid, QStringLiteral("S"), QStringLiteral("N"))}});
     const QList<SavedListsModel::Token> tokens = model->state().networks;
     ASSERT_EQ(tokens.size(), 2);
-    EXPECT_EQ(tokens.at(0).entry.value(savedentry::BSSID).toString(), homeBssid);
+    EXPECT_EQ(tokens.at(0).entry.bssid, homeBssid);
     EXPECT_EQ(tokens.at(0).text, QString());
-    EXPECT_EQ(tokens.at(1).entry.value(savedentry::BSSID).toString(), officeBssid);
+    EXPECT_EQ(tokens.at(1).entry.bssid, officeBssid);
 }
 
 TEST_F(SavedLists, SayOnlyWhatChanged)

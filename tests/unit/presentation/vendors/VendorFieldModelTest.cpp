@@ -3,7 +3,7 @@
 #include "presentation/vendors/VendorFieldModel.h"
 
 #include "base/NotificationNames.h"
-#include "unit/vendors/VendorMachine.h"
+#include "unit/vendors/VendorFixture.h"
 
 namespace quillon::test {
 namespace {
@@ -13,7 +13,7 @@ using ::testing::IsEmpty;
 using Command = VendorFieldModel::Command;
 using Key = VendorFieldModel::Key;
 
-class VendorFieldModelTest : public VendorMachine
+class VendorFieldModelTest : public VendorFixture
 {
 protected:
     VendorFieldModelTest()

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/vendors/VendorMachine.h"
+#include "unit/vendors/VendorFixture.h"
 
 namespace quillon::test {
 namespace {
 
 using ::testing::ElementsAre;
 
-using VendorPaneModelTest = VendorMachine;
+using VendorPaneModelTest = VendorFixture;
 
 TEST_F(VendorPaneModelTest, IsIdleAtFirst)
 {

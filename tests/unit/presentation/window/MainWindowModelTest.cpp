@@ -42,7 +42,7 @@ TEST_F(MainWindowModelTest, TheSelectionButtonFollowsWhoeverSelectsAnInterface)
 {
     current.updateCurrentInterfaceDict(wifi);
     scheduler.runPending();
-    model.showPlaceholder(current.record().value(record::current).toString());
+    model.showPlaceholder(*current.record().current);
     EXPECT_EQ(shown().selectedDevice, wifi);
 }
 

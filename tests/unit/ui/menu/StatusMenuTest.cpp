@@ -131,7 +131,7 @@ TEST_F(StatusMenuTest, AnInterfaceThatGoesTakesItsSubmenusAlong)
     const QPointer<QAction> item = titled(wiredCurrent);
     const QPointer<QAction> randomize = insideOf(wiredCurrent);
     host.unplug(wired);
-    QVariantMap known = devices.devices();
+    QVariantMap known = settings.getDictionary(keys::deviceDict);
     known.remove(wired);
     settings.set(keys::deviceDict, known);
     menu.menuWillOpen();

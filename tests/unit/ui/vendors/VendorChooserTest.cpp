@@ -6,7 +6,7 @@
 #include "ui/theme/Theme.h"
 #include "ui/vendors/VendorTableView.h"
 #include "unit/ui/WindowMachine.h"
-#include "unit/vendors/VendorMachine.h"
+#include "unit/vendors/VendorFixture.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -22,7 +22,7 @@ namespace {
 const QString device = QStringLiteral("enp1s0");
 
 /// The chooser in a window, above another field, with five manufacturers to choose from.
-class VendorChooserTest : public VendorMachine
+class VendorChooserTest : public VendorFixture
 {
 protected:
     VendorChooserTest()

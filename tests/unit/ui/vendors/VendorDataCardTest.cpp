@@ -3,7 +3,7 @@
 #include "ui/vendors/VendorDataCard.h"
 
 #include "ui/theme/Theme.h"
-#include "unit/vendors/VendorMachine.h"
+#include "unit/vendors/VendorFixture.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -14,7 +14,7 @@
 namespace quillon::test {
 namespace {
 
-class VendorDataCardTest : public VendorMachine
+class VendorDataCardTest : public VendorFixture
 {
 protected:
     VendorDataCardTest()

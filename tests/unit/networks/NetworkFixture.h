@@ -4,17 +4,18 @@
 
 #include "base/NetworkKeys.h"
 #include "fakes/FakeWiFiClient.h"
+#include "networks/SavedEntry.h"
 #include "networks/WiFiNetwork.h"
-#include "unit/devices/DeviceMachine.h"
+#include "unit/devices/DeviceFixture.h"
 
 namespace quillon::test {
 
 /// A laptop at home: on the network "Home", which is not saved yet.
-class NetworkMachine : public DeviceMachine
+class NetworkFixture : public DeviceFixture
 {
 protected:
-    NetworkMachine()
-        : DeviceMachine(QStringLiteral("laptop"))
+    NetworkFixture()
+        : DeviceFixture(QStringLiteral("laptop"))
     {
         table.updateNetWorkInterfaces();
         radio.join(home());
@@ -63,6 +64,10 @@ protected:
     {
         return settings.getDictionary(keys::savedNetworks).value(bssid).toMap();
     }
+    SavedEntry savedNetworkEntry(const QString &bssid) const
+    {
+        return SavedEntry::fromPropertyList(savedNetwork(bssid));
+    }
     void saveAddress(const QString &address, const QString &name)
     {
         QVariantMap list = settings.getDictionary(keys::savedAddresses);
@@ -72,6 +77,11 @@ protected:
     QVariantMap savedAddress(const QString &address) const
     {
         return settings.getDictionary(keys::savedAddresses).value(address).toMap();
+    }
+
+    SavedEntry savedAddressEntry(const QString &address) const
+    {
+        return SavedEntry::fromPropertyList(savedAddress(address));
     }
 
     const QString homeBssid = QStringLiteral("a4:2b:b0:11:22:33");

@@ -6,7 +6,7 @@
 #include "history/Connection.h"
 #include "history/HistoryRecords.h"
 #include "store/RecordStore.h"
-#include "unit/devices/DeviceMachine.h"
+#include "unit/devices/DeviceFixture.h"
 
 #include <QTemporaryDir>
 
@@ -15,11 +15,11 @@
 namespace quillon::test {
 
 /// A laptop on the network "Home" whose changes are recorded in a real store.
-class HistoryMachine : public DeviceMachine
+class HistoryFixture : public DeviceFixture
 {
 protected:
-    HistoryMachine()
-        : DeviceMachine(QStringLiteral("laptop"))
+    HistoryFixture()
+        : DeviceFixture(QStringLiteral("laptop"))
     {
         table.updateNetWorkInterfaces();
         join(QStringLiteral("Home"), QStringLiteral("a4:2b:b0:11:22:33"));
@@ -52,7 +52,7 @@ protected:
     QTemporaryDir folder;
     std::unique_ptr<RecordStore> records = std::make_unique<RecordStore>(scheduler, folder.path());
     std::unique_ptr<HistoryRecords> history =
-        std::make_unique<HistoryRecords>(*records, settings, scheduler);
+        std::make_unique<HistoryRecords>(*records, table, settings, scheduler);
 };
 
 } // namespace quillon::test

@@ -15,10 +15,10 @@
 namespace quillon::test {
 
 /// The vendor components and their models in a program that is put together and not started.
-class VendorMachine : public VendorFolder
+class VendorFixture : public VendorFolder
 {
 protected:
-    VendorMachine()
+    VendorFixture()
     {
         QObject::connect(&pane, &VendorPaneModel::changed, [this] {
             const auto &state = pane.state();
@@ -31,7 +31,7 @@ protected:
         });
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     }
-    ~VendorMachine() override { QLocale::setDefault(QLocale::c()); }
+    ~VendorFixture() override { QLocale::setDefault(QLocale::c()); }
 
     /// What the texts have been since the last call, each once in a row.
     QStringList takeLabels() { return std::exchange(labels, {}); }

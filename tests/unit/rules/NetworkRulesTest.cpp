@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "NetworkEditing.h"
+#include "rules/NetworkRules.h"
+
+#include "RuleMachine.h"
 #include "fakes/LogCapture.h"
 #include "store/model/QuillonModel.h"
 
@@ -11,25 +13,31 @@
 namespace quillon::test {
 namespace {
 
-/// The rules of saved networks follow how their network is recognised.
-class RulesOfNetworks : public NetworkEditing
+class NetworkRulesTest : public RuleMachine
 {
 protected:
-    ManagedObjectPtr rule(const QVariant &networkValue, const QVariant &ssidDefined = false)
+    ManagedObjectPtr rule(const QVariant &network, const QVariant &ssidDefined = false)
     {
         ManagedObjectPtr rule = context().insertNewObject(model::Rule);
-        rule->setValue(model::rule::network, networkValue);
+        rule->setValue(model::rule::network, network);
         rule->setValue(model::rule::ssidDefined, ssidDefined);
         return rule;
     }
-    ManagedObjectContext &context() { return records.managedObjectContext(); }
+    void recognize(bool bySsid)
+    {
+        networkRules.updateSsidDefinedForRulesWithNetwork(bySsid, homeBssid);
+    }
     static QVariant mode(const ManagedObjectPtr &rule)
     {
         return rule->value(model::rule::ssidDefined);
     }
+
+    const QString homeBssid = QStringLiteral("a4:2b:b0:11:22:33");
+    const QString officeBssid = QStringLiteral("b8:27:eb:44:55:66");
+    NetworkRules networkRules{store, evaluation};
 };
 
-TEST_F(RulesOfNetworks, FollowTheirNetworkAndNoOther)
+TEST_F(NetworkRulesTest, FollowTheirNetworkAndNoOther)
 {
     const auto home1 = rule(homeBssid);
     const auto home2 = rule(homeBssid);
@@ -40,7 +48,7 @@ TEST_F(RulesOfNetworks, FollowTheirNetworkAndNoOther)
     const auto empty = rule({}, {});
     ASSERT_FALSE(context().save());
 
-    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+    recognize(true);
     EXPECT_EQ(mode(home1), QVariant(true));
     EXPECT_EQ(mode(home2), QVariant(true));
     for (const auto &other : {office, upper, any, login}) {
@@ -50,51 +58,44 @@ TEST_F(RulesOfNetworks, FollowTheirNetworkAndNoOther)
     EXPECT_FALSE(mode(empty).isValid());
     EXPECT_FALSE(empty->hasChanges());
 
-    editing->updateNetworkDefinition(QStringLiteral("bssidbutton"));
+    recognize(false);
     EXPECT_EQ(mode(home1), QVariant(false));
     EXPECT_EQ(mode(home2), QVariant(false));
 }
 
-TEST_F(RulesOfNetworks, AreToldOfWithoutWaitingForTheTurnToEnd)
+TEST_F(NetworkRulesTest, AreEvaluatedWithTheirNewModeWithoutAChangeOfAnAddress)
 {
     const auto home = rule(homeBssid);
     context().processPendingChanges();
     QStringList heard;
-    QObject::connect(&records, &RecordStore::objectsDidChange, [&](const ObjectsDidChange &change) {
+    QObject::connect(&store, &RecordStore::objectsDidChange, [&](const ObjectsDidChange &change) {
         heard << QStringLiteral("changed %1").arg(change.updated.size());
     });
-    QObject::connect(editing.get(), &SavedNetworkEditing::rulesChanged,
-        [&] { heard << QStringLiteral("rules changed"); });
-    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("changed 1"), QStringLiteral("rules changed")}));
+    QObject::connect(&evaluation, &RuleEvaluation::ruleStatusEvaluated,
+        [&](const QString &device) { heard << QStringLiteral("evaluated ") + device; });
+    recognize(true);
+    EXPECT_EQ(heard, (QStringList{QStringLiteral("changed 1"), QStringLiteral("evaluated en0")}));
+    scheduler.runPending();
+    EXPECT_TRUE(helper.changes().isEmpty());
 }
 
-TEST_F(RulesOfNetworks, FollowWithoutAStepOfUndo)
+TEST_F(NetworkRulesTest, FollowWithoutAStepOfUndo)
 {
     const auto home = rule(homeBssid);
     context().processPendingChanges();
     const int steps = context().undoManager().count();
-    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+    recognize(true);
     EXPECT_EQ(mode(home), QVariant(true));
     EXPECT_EQ(context().undoManager().count(), steps) << "the mode belongs to the network";
 }
 
-TEST_F(RulesOfNetworks, AreChangedAlsoWhenThereIsNone)
+TEST_F(NetworkRulesTest, AreEvaluatedAlsoWhenNoneIsOfTheNetwork)
 {
-    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
-    EXPECT_EQ(rulesChanged, 1);
+    recognize(true);
+    EXPECT_EQ(overviews.size(), table.names().size());
 }
 
-TEST_F(RulesOfNetworks, FollowAnyNetworkThatIsNamed)
-{
-    const auto office = rule(officeBssid);
-    editing->endEditing();
-    editing->updateSsidDefinedForRulesWithNetwork(true, officeBssid);
-    EXPECT_EQ(mode(office), QVariant(true));
-    EXPECT_EQ(rulesChanged, 1);
-}
-
-TEST_F(RulesOfNetworks, StayWhenTheyCannotBeRead)
+TEST_F(NetworkRulesTest, StayWhenTheyCannotBeRead)
 {
     const auto home = rule(homeBssid);
     ASSERT_FALSE(context().save());
@@ -104,17 +105,14 @@ TEST_F(RulesOfNetworks, StayWhenTheyCannotBeRead)
         file.exec("DROP TABLE Rule");
     }
     const LogCapture log;
-    editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+    recognize(true);
     const QStringList lines = LogCapture::taken();
-    ASSERT_GE(lines.size(), 2);
-    EXPECT_EQ(lines.at(lines.size() - 2),
-        QStringLiteral("quillon.networks: Unable to execute fetch request."));
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines.first(), QStringLiteral("quillon.networks: Unable to execute fetch request."));
     EXPECT_TRUE(lines.last().startsWith(QStringLiteral("quillon.networks: ")));
     EXPECT_TRUE(lines.last().contains(QStringLiteral(", ")));
     EXPECT_EQ(mode(home), QVariant(false));
-    EXPECT_EQ(rulesChanged, 0);
-    EXPECT_TRUE(savedNetwork(homeBssid).contains(savedentry::ssidDefined))
-        << "the network itself has its new mode";
+    EXPECT_TRUE(overviews.isEmpty());
 }
 
 } // namespace

@@ -15,28 +15,37 @@
 namespace quillon::test {
 
 /// A machine, the settings, and the device table between them.
-class DeviceMachine : public ::testing::Test
+class DeviceFixture : public ::testing::Test
 {
 protected:
-    explicit DeviceMachine(const QString &machine = QStringLiteral("desk"))
+    explicit DeviceFixture(const QString &machine = QStringLiteral("desk"))
         : host(machine)
     {
     }
 
+    QVariantMap storedTable() const { return settings.getDictionary(keys::deviceDict); }
+    QVariantMap storedRecord(const QString &device) const
+    {
+        return storedTable().value(device).toMap();
+    }
+    QVariantMap storedSelection() const
+    {
+        return settings.getDictionary(keys::currentInterfaceDict);
+    }
     void store(const QVariantMap &devices) { settings.set(keys::deviceDict, devices); }
     void storeRecord(const QString &device, const QVariantMap &record)
     {
-        QVariantMap devices = table.devices();
+        QVariantMap devices = storedTable();
         devices[device] = record;
         store(devices);
     }
     QString recorded(const QString &device, const QString &key) const
     {
-        return table.record(device).value(key).toString();
+        return storedRecord(device).value(key).toString();
     }
     void select(const QString &device)
     {
-        QVariantMap selection = table.record(device);
+        QVariantMap selection = storedRecord(device);
         selection[record::device] = device;
         settings.set(keys::currentInterfaceDict, selection);
     }

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+class SettingsStore;
+
+/// The Wi-Fi network that the computer was on at the last refresh, as texts to be shown; "" is what
+/// is not known. Stored under `currentWiFiDict`.
+struct WiFiRecord
+{
+    QString name = {}; ///< the saved network's name, else the SSID
+    QString ssid = {};
+    QString bssid = {}; ///< in lower case
+    QString ipAddress = {};
+    QString noise = {};
+    QString rssi = {};
+    QString security = {};
+    QString txRate = {};
+    QString channel = {};
+    QString country = {};
+    QString phyMode = {};
+    QString mcs = {};
+
+    /// What is no text reads as "".
+    static WiFiRecord stored(const SettingsStore &settings);
+    /// Rewrites the stored record; keys that are not ours survive.
+    void store(SettingsStore &settings) const;
+};
+
+} // namespace quillon
