@@ -40,8 +40,7 @@ void RuleEvaluation::checkDeviceForCurrentRuleAndChange(const QString &device, R
 {
     // The flags written here follow from the rules: nobody has to look after them.
     const RuleInvariants::Suspension suspension(m_deps.invariants);
-    const QStringList devices =
-        device == allDevices ? m_deps.devices.names() : QStringList{device};
+    const QStringList devices = device == allDevices ? m_deps.devices.names() : QStringList{device};
     for (const QString &one : devices) {
         evaluateDevice(one, change);
     }

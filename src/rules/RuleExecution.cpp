@@ -120,7 +120,8 @@ void RuleExecution::addressChangeBegan(const QString &device)
 void RuleExecution::addressChangeEnded(const QString &device)
 {
     m_deps.scheduler.onMainAfter(settlingTime, this, [this, device] {
-        m_visits.changeSettled(device, m_deps.devices.record(device).isUp(), m_deps.scheduler.now());
+        m_visits.changeSettled(
+            device, m_deps.devices.record(device).isUp(), m_deps.scheduler.now());
     });
 }
 

@@ -12,8 +12,8 @@ struct Platform;
 /// What the program remembers, put together: the records of rules and changes, and the history.
 struct HistoryFeature
 {
-    HistoryFeature(const Platform &platform, const DeviceTable &devices,
-        RecordStore::OpenFailure openFailure);
+    HistoryFeature(
+        const Platform &platform, const DeviceTable &devices, RecordStore::OpenFailure openFailure);
 
     RecordStore store;
     HistoryRecords history;

@@ -16,11 +16,6 @@ namespace quillon {
 
 namespace {
 
-qint64 commitsOfOthers(SQLite::Database &database)
-{
-    return database.execAndGet("PRAGMA data_version").getInt64();
-}
-
 /// What `work` gives; no exception passes this edge of the component.
 template <typename T, typename Work>
 Result<T> attempt(const Work &work)
@@ -212,7 +207,6 @@ Result<std::unique_ptr<RecordFile>> RecordFile::open(
 
 RecordFile::RecordFile(std::unique_ptr<SQLite::Database> database)
     : m_database(std::move(database))
-    , m_version(commitsOfOthers(*m_database))
 {
 }
 
@@ -262,25 +256,26 @@ Result<QList<RecordRow>> RecordFile::row(const Entity &entity, const QUuid &id) 
     });
 }
 
-Result<RecordFile::Written> RecordFile::write(const QList<RowChange> &changes)
+Result<QList<qint64>> RecordFile::write(const QList<RowChange> &changes)
 {
-    return attempt<Written>([&] {
+    return attempt<QList<qint64>>([&] {
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
-        Written written{{}, commitsOfOthers(*m_database) != m_version};
+        QList<qint64> keys;
         {
             RowWriter writer(*m_database);
             for (const RowChange &change : changes) {
-                written.keys << writer.write(change);
+                keys << writer.write(change);
             }
         }
         transaction.commit();
-        return written;
+        return keys;
     });
 }
 
 Result<qint64> RecordFile::versionOfOthers() const
 {
-    return attempt<qint64>([&] { return commitsOfOthers(*m_database); });
+    return attempt<qint64>(
+        [&] { return m_database->execAndGet("PRAGMA data_version").getInt64(); });
 }
 
 } // namespace quillon

@@ -38,24 +38,15 @@ public:
     /// None or one.
     Result<QList<RecordRow>> row(const Entity &entity, const QUuid &id) const;
 
-    struct Written
-    {
-        QList<qint64> keys; ///< of each change's row
-        /// Another program wrote since the file was opened, or since the version acknowledged last.
-        bool othersWrote = false;
-    };
-    /// All or nothing: on an Error the file is as it was.
-    Result<Written> write(const QList<RowChange> &changes);
-    /// Changes with every commit of another program.
+    /// All or nothing: on an Error the file is as it was. Gives the key of each change's row.
+    Result<QList<qint64>> write(const QList<RowChange> &changes);
+    /// A number that changes with every commit of another program, and with no other.
     Result<qint64> versionOfOthers() const;
-    /// All that others had written at that version was read.
-    void acknowledgeOthers(qint64 version) { m_version = version; }
 
 private:
     explicit RecordFile(std::unique_ptr<SQLite::Database> database);
 
     std::unique_ptr<SQLite::Database> m_database;
-    qint64 m_version; ///< of the others' commits, as far as they were read
 };
 
 } // namespace quillon

@@ -226,6 +226,8 @@ std::unique_ptr<SQLite::Database> openedDatabase(
         checkTables(*database, model, path);
     }
     database->exec("PRAGMA journal_mode = WAL");
+    // The first read makes the log and its index: a disk without room for them shows here.
+    number(*database, "PRAGMA data_version");
     sqlite3_db_config(
         database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, static_cast<int *>(nullptr));
     return database;

@@ -4,29 +4,29 @@
 
 namespace quillon {
 
-ChangeSet::Touched &ChangeSet::touch(const ManagedObjectPtr &object)
+ChangeSet::Change &ChangeSet::add(const ManagedObjectPtr &object)
 {
     const auto place = m_places.constFind(object.get());
     if (place != m_places.cend()) {
-        return m_touched[*place];
+        return m_changes[*place];
     }
-    m_places.insert(object.get(), m_touched.size());
-    return m_touched.emplace_back(Touched{object, !object->isDeleted(), {}});
+    m_places.insert(object.get(), m_changes.size());
+    return m_changes.emplace_back(Change{object, !object->isDeleted(), {}});
 }
 
-void ChangeSet::touchValue(
+void ChangeSet::addValue(
     const ManagedObjectPtr &object, qsizetype attribute, const QVariant &before)
 {
-    auto &values = touch(object).before;
+    auto &values = add(object).before;
     if (!values.contains(attribute)) {
         values.insert(attribute, before);
     }
 }
 
-const ChangeSet::Touched *ChangeSet::find(const ManagedObject &object) const
+const ChangeSet::Change *ChangeSet::find(const ManagedObject &object) const
 {
     const auto place = m_places.constFind(&object);
-    return place == m_places.cend() ? nullptr : &m_touched[*place];
+    return place == m_places.cend() ? nullptr : &m_changes[*place];
 }
 
 } // namespace quillon

@@ -11,11 +11,11 @@
 
 namespace quillon {
 
-/// Which records a stretch of time touched, in order, and what they were before it.
+/// The records that changed in a stretch of time, in order, and what they were before it.
 class ChangeSet
 {
 public:
-    struct Touched
+    struct Change
     {
         ManagedObjectPtr object;
         bool wasPresent = true;           ///< a record that was neither new nor deleted
@@ -23,18 +23,18 @@ public:
     };
 
     /// Call before the change; only the first call for an object keeps its presence.
-    Touched &touch(const ManagedObjectPtr &object);
+    Change &add(const ManagedObjectPtr &object);
     /// Call before the change; only the first call for an attribute keeps its value.
-    void touchValue(const ManagedObjectPtr &object, qsizetype attribute, const QVariant &before);
+    void addValue(const ManagedObjectPtr &object, qsizetype attribute, const QVariant &before);
 
-    /// Null when it was not touched.
-    const Touched *find(const ManagedObject &object) const;
-    bool isEmpty() const { return m_touched.empty(); }
-    std::vector<Touched>::const_iterator begin() const { return m_touched.begin(); }
-    std::vector<Touched>::const_iterator end() const { return m_touched.end(); }
+    /// Null when it did not change.
+    const Change *find(const ManagedObject &object) const;
+    bool isEmpty() const { return m_changes.empty(); }
+    std::vector<Change>::const_iterator begin() const { return m_changes.begin(); }
+    std::vector<Change>::const_iterator end() const { return m_changes.end(); }
 
 private:
-    std::vector<Touched> m_touched;
+    std::vector<Change> m_changes;
     QHash<const ManagedObject *, std::size_t> m_places;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The part of ManagedObjectContext that exchanges changes with the file.
+// The part of ManagedObjectContext that writes changes to the file and merges those of others.
 #include "base/Log.h"
 #include "store/file/RecordFile.h"
 #include "store/graph/ManagedObjectContext.h"
@@ -10,12 +10,6 @@
 #include <algorithm>
 
 namespace quillon {
-
-namespace {
-
-constexpr qsizetype rowsAtOnce = 100;
-
-} // namespace
 
 RowChange ManagedObjectContext::changeOf(const ManagedObject &object)
 {
@@ -46,18 +40,19 @@ std::optional<Error> ManagedObjectContext::save()
     for (const ManagedObjectPtr &object : std::as_const(objects)) {
         changes << changeOf(*object);
     }
-    const auto written = m_file->write(changes);
-    if (!written) {
-        return written.error();
+    const auto keys = m_file->write(changes);
+    if (!keys) {
+        return keys.error();
     }
     for (qsizetype index = 0; index < objects.size(); ++index) {
         ManagedObject &object = *objects[index];
-        object.m_key = written.value().keys[index];
+        object.m_key = keys.value()[index];
         object.m_isInFile = !object.m_isDeleted;
         object.m_stored = object.m_values;
     }
     m_unsaved.clear();
-    if (written.value().othersWrote) {
+    const auto version = m_file->versionOfOthers();
+    if (!version || version.value() != m_mergedVersion) {
         mergeChangesFromStore();
     }
     if (self) {
@@ -70,43 +65,31 @@ void ManagedObjectContext::mergeChangesFromStore()
 {
     // What comes while we read is for the next time.
     const auto version = m_file->versionOfOthers();
-    QHash<QString, ManagedObjectList> known;
+    ManagedObjectList inFile;
     for (ManagedObject *const object : std::as_const(m_registered)) {
         if (object->m_isInFile) {
-            known[object->m_entity.name()] << object->shared_from_this();
+            inFile << object->shared_from_this();
         }
     }
-    for (const ManagedObjectList &objects : std::as_const(known)) {
-        for (qsizetype first = 0; first < objects.size(); first += rowsAtOnce) {
-            const ManagedObjectList some = objects.mid(first, rowsAtOnce);
-            QList<qint64> keys;
-            for (const ManagedObjectPtr &object : some) {
-                keys << object->m_key;
-            }
-            const auto rows = m_file->rows(some.first()->m_entity, keys);
-            if (!rows) {
-                qCWarning(logRecords, "Changes of other programs cannot be read: %s",
-                    qUtf8Printable(rows.error().message));
-                return;
-            }
-            QHash<QUuid, const RecordRow *> byId;
-            for (const RecordRow &row : rows.value()) {
-                byId.insert(row.id, &row);
-            }
-            for (const ManagedObjectPtr &object : some) {
-                takeOver(object, byId.value(object->m_id));
-            }
+    for (const ManagedObjectPtr &object : std::as_const(inFile)) {
+        const auto rows = m_file->row(object->m_entity, object->m_id);
+        if (!rows) {
+            qCWarning(logRecords, "Changes of other programs cannot be read: %s",
+                qUtf8Printable(rows.error().message));
+            return;
         }
+        merge(object, rows.value().isEmpty() ? nullptr : &rows.value().first());
     }
     if (version) {
-        m_file->acknowledgeOthers(version.value());
+        m_mergedVersion = version.value();
     }
     Q_EMIT recordsMerged();
 }
 
-void ManagedObjectContext::takeOver(const ManagedObjectPtr &object, const RecordRow *row)
+void ManagedObjectContext::merge(const ManagedObjectPtr &object, const RecordRow *row)
 {
     if (row) {
+        object->m_key = row->key;
         for (qsizetype index = 0; index < row->values.size(); ++index) {
             if (object->m_values[index] == object->m_stored[index]) {
                 object->m_values[index] = row->values[index];

@@ -32,16 +32,21 @@ Result<std::unique_ptr<ManagedObjectContext>> ManagedObjectContext::open(
     if (!file) {
         return file.error();
     }
+    const auto version = file.value()->versionOfOthers();
+    if (!version) {
+        return version.error();
+    }
     return std::unique_ptr<ManagedObjectContext>(
-        new ManagedObjectContext(model, std::move(file.value()), scheduler));
+        new ManagedObjectContext(model, std::move(file.value()), version.value(), scheduler));
 }
 
 ManagedObjectContext::ManagedObjectContext(
-    const Model &model, std::unique_ptr<RecordFile> file, Scheduler &scheduler)
+    const Model &model, std::unique_ptr<RecordFile> file, qint64 version, Scheduler &scheduler)
     : m_model(model)
     , m_file(std::move(file))
     , m_scheduler(scheduler)
     , m_nextKey(firstUnsavedKey)
+    , m_mergedVersion(version)
     , m_undoManager(std::make_unique<QUndoStack>())
 {
 }
@@ -140,9 +145,9 @@ void ManagedObjectContext::assign(const ManagedObjectPtr &object, qsizetype attr
     }
     switch (kind) {
     case ManagedObject::Change::Edit:
-        m_pending.touchValue(object, attribute, before);
+        m_pending.addValue(object, attribute, before);
         if (m_undoDisabled == 0) {
-            openStep().touchValue(object, attribute, before);
+            openStep().addValue(object, attribute, before);
         }
         scheduleProcessing();
         break;
@@ -150,7 +155,7 @@ void ManagedObjectContext::assign(const ManagedObjectPtr &object, qsizetype attr
         // It belongs to the edit that caused it: undoing that undoes this.
         for (const auto &step : {m_toldStep, m_openStep}) {
             if (step && step->find(*object)) {
-                step->touchValue(object, attribute, before);
+                step->addValue(object, attribute, before);
                 break;
             }
         }
@@ -165,9 +170,9 @@ void ManagedObjectContext::setPresent(const ManagedObjectPtr &object, bool prese
     if (object->m_isDeleted != present) {
         return;
     }
-    m_pending.touch(object);
+    m_pending.add(object);
     if (m_undoDisabled == 0) {
-        openStep().touch(object);
+        openStep().add(object);
     }
     object->m_isDeleted = !present;
     noteUnsaved(object);
@@ -207,12 +212,12 @@ void ManagedObjectContext::processPendingChanges()
     const auto outerStep = std::exchange(m_toldStep, std::exchange(m_openStep, nullptr));
 
     ObjectsDidChange change;
-    for (const ChangeSet::Touched &touched : told) {
-        const bool isPresent = !touched.object->m_isDeleted;
-        if (touched.wasPresent != isPresent) {
-            (isPresent ? change.inserted : change.deleted) << touched.object;
-        } else if (isPresent && !touched.before.isEmpty()) {
-            change.updated << touched.object;
+    for (const ChangeSet::Change &changed : told) {
+        const bool isPresent = !changed.object->m_isDeleted;
+        if (changed.wasPresent != isPresent) {
+            (isPresent ? change.inserted : change.deleted) << changed.object;
+        } else if (isPresent && !changed.before.isEmpty()) {
+            change.updated << changed.object;
         }
     }
     const QPointer self(this);
@@ -227,10 +232,10 @@ void ManagedObjectContext::processPendingChanges()
 
 QVariantMap ManagedObjectContext::previousValues(const ManagedObject &object) const
 {
-    const auto *const touched = (m_told ? *m_told : m_pending).find(object);
+    const auto *const changed = (m_told ? *m_told : m_pending).find(object);
     QVariantMap previous;
-    if (touched) {
-        for (auto it = touched->before.begin(); it != touched->before.end(); ++it) {
+    if (changed) {
+        for (auto it = changed->before.begin(); it != changed->before.end(); ++it) {
             previous.insert(object.m_entity.attributes()[it.key()].name, it.value());
         }
     }
@@ -258,16 +263,16 @@ ChangeSet &ManagedObjectContext::openStep()
     return *m_openStep;
 }
 
-void ManagedObjectContext::exchange(ChangeSet &edits)
+void ManagedObjectContext::swap(ChangeSet &edits)
 {
     const UndoDisabled isNoEdit(*this);
     m_openStep.reset();
     ChangeSet present;
-    for (const ChangeSet::Touched &was : edits) {
-        present.touch(was.object);
+    for (const ChangeSet::Change &was : edits) {
+        present.add(was.object);
         setPresent(was.object, was.wasPresent);
         for (auto it = was.before.begin(); it != was.before.end(); ++it) {
-            present.touchValue(was.object, it.key(), was.object->m_values[it.key()]);
+            present.addValue(was.object, it.key(), was.object->m_values[it.key()]);
             assign(was.object, it.key(), it.value(), ManagedObject::Change::Edit);
         }
     }

@@ -114,14 +114,14 @@ private:
     friend class UndoStep;
 
     ManagedObjectContext(
-        const Model &model, std::unique_ptr<RecordFile> file, Scheduler &scheduler);
+        const Model &model, std::unique_ptr<RecordFile> file, qint64 version, Scheduler &scheduler);
 
     // The two ways in which a record changes; both note what was before.
     void assign(const ManagedObjectPtr &object, qsizetype attribute, const QVariant &value,
         ManagedObject::Change kind);
     void setPresent(const ManagedObjectPtr &object, bool present);
     /// Puts back what `edits` hold, and leaves there what it found.
-    void exchange(ChangeSet &edits);
+    void swap(ChangeSet &edits);
     ChangeSet &openStep();
     void noteUnsaved(const ManagedObjectPtr &object);
     void scheduleProcessing();
@@ -138,14 +138,16 @@ private:
 
     /// What a save does to the row of an object with changes.
     static RowChange changeOf(const ManagedObject &object);
-    void takeOver(const ManagedObjectPtr &object, const RecordRow *row);
+    /// `row` is null when the file has none.
+    void merge(const ManagedObjectPtr &object, const RecordRow *row);
 
     const Model m_model;
     std::unique_ptr<RecordFile> m_file;
     Scheduler &m_scheduler;
     QHash<Identity, ManagedObject *> m_registered; ///< while they live
     QSet<ManagedObjectPtr> m_unsaved;
-    qint64 m_nextKey;
+    qint64 m_nextKey;       ///< of the next new record
+    qint64 m_mergedVersion; ///< of what others wrote to the file
 
     ChangeSet m_pending;               ///< this turn's
     const ChangeSet *m_told = nullptr; ///< those that objectsDidChange tells at this moment

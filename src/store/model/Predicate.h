@@ -29,10 +29,6 @@ public:
     static Predicate all(const QList<Predicate> &parts);
     static Predicate any(const QList<Predicate> &parts);
 
-    /// In the usual notation: texts in single quotes, Booleans as YES and NO, "&&" and "||" between
-    /// parentheses, "CONTAINS", "BEGINSWITH[cd]".
-    QString format() const;
-
     Kind kind() const { return m_kind; }
     const QString &attribute() const { return m_attribute; }
     const QVariant &value() const { return m_value; }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/PredicateFormat.h"
 #include "networks/SavedNetworks.h"
 #include "unit/rules/RuleMachine.h"
 
@@ -72,7 +73,7 @@ TEST_F(RuleQuery, OfAWiredInterfaceSelectsAllOfItsRulesLoginRulesIncluded)
     addRule({.name = QStringLiteral("any")});
     addRule({.name = QStringLiteral("login"), .isLogin = true});
     addRule({.name = QStringLiteral("x"), .device = en1});
-    EXPECT_EQ(queries.filterPredicateForDevice(en0).format(), QStringLiteral("device == 'en0'"));
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en0)), QStringLiteral("device == 'en0'"));
     EXPECT_EQ(selected(en0),
         (QStringList{QStringLiteral("home"), QStringLiteral("any"), QStringLiteral("login")}));
 }
@@ -80,17 +81,17 @@ TEST_F(RuleQuery, OfAWiredInterfaceSelectsAllOfItsRulesLoginRulesIncluded)
 TEST_F(RuleQuery, OfAWifiInterfaceThatIsOnNoNetworkIsABareConditionThatNoRuleMeets)
 {
     addRuleOfEachKind();
-    EXPECT_EQ(queries.filterPredicateForDevice(en1).format(), QStringLiteral("network == 'empty'"));
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("network == 'empty'"));
     EXPECT_TRUE(selected(en1).isEmpty());
     beOn(QStringLiteral("Home"), QString());
-    EXPECT_EQ(queries.filterPredicateForDevice(en1).format(), QStringLiteral("network == 'empty'"));
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("network == 'empty'"));
 }
 
 TEST_F(RuleQuery, OfAWifiInterfaceOnASavedNetworkIsPrintedInTheUsualNotation)
 {
     saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
     beOn(QStringLiteral("Home"), homeBssid.toUpper());
-    EXPECT_EQ(queries.filterPredicateForDevice(en1).format().toStdString(),
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en1)).toStdString(),
         "(device == 'en1') && ((network == '02:00:00:00:aa:01') || (network == 'Any Network') || "
         "((ssid == 'Home') && (ssidDefined == YES)))");
 }
@@ -98,7 +99,7 @@ TEST_F(RuleQuery, OfAWifiInterfaceOnASavedNetworkIsPrintedInTheUsualNotation)
 TEST_F(RuleQuery, OfAWifiInterfaceOnAnUnknownNetworkIsPrintedInTheUsualNotation)
 {
     beOn(QStringLiteral("Cafe"), QStringLiteral("02:00:00:00:cc:01"));
-    EXPECT_EQ(queries.filterPredicateForDevice(en1).format().toStdString(),
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en1)).toStdString(),
         "(device == 'en1') && ((network == '02:00:00:00:cc:01') || (network == 'Any Network') || "
         "((ssid == 'Cafe') && (ssidDefined == YES)) || (network == 'An Unknown Network'))");
 }
@@ -156,12 +157,12 @@ TEST_F(RuleQuery, ReadsSettingsThatAreNoneAsNothing)
              QVariant(QVariantMap{{wifirecord::BSSID, QVariantMap()}}), QVariant()}) {
         settings.set(keys::currentWiFiDict, record);
         EXPECT_EQ(
-            queries.filterPredicateForDevice(en1).format(), QStringLiteral("network == 'empty'"));
+            format(queries.filterPredicateForDevice(en1)), QStringLiteral("network == 'empty'"));
     }
     beOn(QStringLiteral("Home"), homeBssid);
     EXPECT_EQ(selected(en1).size(), 3);
     settings.set(keys::deviceDict, QStringLiteral("text"));
-    EXPECT_EQ(queries.filterPredicateForDevice(en1).format(), QStringLiteral("device == 'en1'"));
+    EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("device == 'en1'"));
 }
 
 TEST_F(RuleQuery, LogsAFetchThatFailsAndFindsNothing)

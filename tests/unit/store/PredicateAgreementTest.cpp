@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecordsFixture.h"
+#include "fakes/PredicateFormat.h"
 
 #include <QDateTime>
 
@@ -184,14 +185,14 @@ TEST_F(PredicateAgreement, RecordsAreFoundByWhatTheConditionMeansBeforeAndAfterS
         unsaved.append({request, found(context(), request)});
         QStringList sorted = unsaved.last().second;
         sorted.sort();
-        ASSERT_EQ(sorted, expected(request)) << request.predicate->format().toStdString();
+        ASSERT_EQ(sorted, expected(request)) << format(*request.predicate).toStdString();
         matches += static_cast<int>(sorted.size());
     }
     save();
     const auto other = another();
     for (const auto &[request, before] : unsaved) {
         ASSERT_EQ(found(other->context(), request), before)
-            << request.predicate->format().toStdString();
+            << format(*request.predicate).toStdString();
     }
     EXPECT_GT(matches, 5000) << "the predicates select too little to tell anything";
 }
@@ -227,7 +228,7 @@ TEST_F(PredicateAgreement, ChangesOverTheFileGiveTheSameAnswerAsTheFileAfterSavi
         const auto other = another();
         for (const auto &[request, expected] : before) {
             ASSERT_EQ(found(other->context(), request), expected)
-                << request.predicate->format().toStdString();
+                << format(*request.predicate).toStdString();
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "RecordsFixture.h"
+#include "fakes/PredicateFormat.h"
 
 #include <QDateTime>
 
@@ -28,9 +29,9 @@ protected:
         };
         const bool whileNew = isFound();
         save();
-        EXPECT_EQ(isFound(), whileNew) << "saved: " << predicate.format().toStdString();
+        EXPECT_EQ(isFound(), whileNew) << "saved: " << format(predicate).toStdString();
         record->setValue(model::rule::vendor, QStringLiteral("another"));
-        EXPECT_EQ(isFound(), whileNew) << "changed: " << predicate.format().toStdString();
+        EXPECT_EQ(isFound(), whileNew) << "changed: " << format(predicate).toStdString();
         return whileNew;
     }
 };
@@ -106,22 +107,21 @@ TEST_F(PredicateTest, PartsCombine)
 
 TEST(PredicateFormat, IsTheUsualNotation)
 {
-    EXPECT_EQ(Predicate::equal(device, QStringLiteral("en0")).format(),
-        QStringLiteral("device == 'en0'"));
-    EXPECT_EQ(Predicate::equal(QStringLiteral("isLogin"), true).format(),
+    EXPECT_EQ(
+        format(Predicate::equal(device, QStringLiteral("en0"))), QStringLiteral("device == 'en0'"));
+    EXPECT_EQ(format(Predicate::equal(QStringLiteral("isLogin"), true)),
         QStringLiteral("isLogin == YES"));
-    EXPECT_EQ(Predicate::equal(QStringLiteral("isLogin"), false).format(),
+    EXPECT_EQ(format(Predicate::equal(QStringLiteral("isLogin"), false)),
         QStringLiteral("isLogin == NO"));
-    EXPECT_EQ(Predicate::equal(QStringLiteral("timerMins"), 30).format(),
+    EXPECT_EQ(format(Predicate::equal(QStringLiteral("timerMins"), 30)),
         QStringLiteral("timerMins == 30"));
-    EXPECT_EQ(Predicate::equal(device, QVariant()).format(), QStringLiteral("device == nil"));
-    EXPECT_EQ(Predicate::contains(ssid, QStringLiteral("ome")).format(),
+    EXPECT_EQ(format(Predicate::equal(device, QVariant())), QStringLiteral("device == nil"));
+    EXPECT_EQ(format(Predicate::contains(ssid, QStringLiteral("ome"))),
         QStringLiteral("ssid CONTAINS 'ome'"));
-    EXPECT_EQ(Predicate::beginsWith(ssid, QStringLiteral("ho")).format(),
+    EXPECT_EQ(format(Predicate::beginsWith(ssid, QStringLiteral("ho"))),
         QStringLiteral("ssid BEGINSWITH[cd] 'ho'"));
-    EXPECT_EQ(Predicate::equal(QStringLiteral("date"),
-                  QDateTime::fromMSecsSinceEpoch(1'750'000'000'125, Qt::UTC))
-                  .format(),
+    EXPECT_EQ(format(Predicate::equal(QStringLiteral("date"),
+                  QDateTime::fromMSecsSinceEpoch(1'750'000'000'125, Qt::UTC))),
         QStringLiteral("date == 2025-06-15T15:06:40.125Z"));
 }
 
@@ -131,18 +131,18 @@ TEST(PredicateFormat, PutsPartsIntoParentheses)
     const auto either = Predicate::any({Predicate::equal(network, QStringLiteral("aa:bb")),
         Predicate::all({Predicate::equal(ssid, QStringLiteral("Home")),
             Predicate::equal(QStringLiteral("ssidDefined"), true)})});
-    EXPECT_EQ(Predicate::all({Predicate::equal(device, QStringLiteral("en0")), either}).format(),
+    EXPECT_EQ(format(Predicate::all({Predicate::equal(device, QStringLiteral("en0")), either})),
         QStringLiteral("(device == 'en0') && ((network == 'aa:bb') || ((ssid == 'Home') && "
                        "(ssidDefined == YES)))"));
-    EXPECT_EQ(Predicate::all({Predicate::equal(ssid, QStringLiteral("x"))}).format(),
+    EXPECT_EQ(format(Predicate::all({Predicate::equal(ssid, QStringLiteral("x"))})),
         QStringLiteral("ssid == 'x'"));
-    EXPECT_EQ(Predicate::all({}).format(), QStringLiteral("TRUEPREDICATE"));
-    EXPECT_EQ(Predicate::any({}).format(), QStringLiteral("FALSEPREDICATE"));
+    EXPECT_EQ(format(Predicate::all({})), QStringLiteral("TRUEPREDICATE"));
+    EXPECT_EQ(format(Predicate::any({})), QStringLiteral("FALSEPREDICATE"));
 }
 
 TEST(PredicateFormat, EscapesQuotes)
 {
-    EXPECT_EQ(Predicate::equal(ssid, QStringLiteral("Joe's \\ net %1")).format(),
+    EXPECT_EQ(format(Predicate::equal(ssid, QStringLiteral("Joe's \\ net %1"))),
         QStringLiteral("ssid == 'Joe\\'s \\\\ net %1'"));
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/RulesListModel.h"
 
+#include "fakes/PredicateFormat.h"
 #include "unit/rules/RuleMachine.h"
 
 namespace quillon::test {
@@ -60,7 +61,7 @@ TEST_F(RulesListModelTest, OfTheWifiInterfaceStandUnderTheNetworksName)
     model.filterRulesArrayController();
     EXPECT_EQ(model.state().symbol, QStringLiteral("wifi"));
     EXPECT_EQ(model.state().title, QStringLiteral("Home"));
-    EXPECT_EQ(model.state().filter.format(), QStringLiteral("network == 'empty'"));
+    EXPECT_EQ(format(model.state().filter), QStringLiteral("network == 'empty'"));
 }
 
 TEST_F(RulesListModelTest, StandEnabledFirstAndByName)
