@@ -34,7 +34,7 @@ struct ProgramRun
     SavedAddresses savedAddresses{settings};
 };
 
-class SavedListsInTheFile : public SettingsFileTest
+class SavedListsRestartTest : public SettingsFileTest
 {
 protected:
     void join(const QString &ssid, const QString &bssid)
@@ -52,7 +52,7 @@ protected:
     FakeWiFiClient radio;
 };
 
-TEST_F(SavedListsInTheFile, SurviveARestart)
+TEST_F(SavedListsRestartTest, SurviveARestart)
 {
     openStore();
     {
@@ -79,7 +79,7 @@ TEST_F(SavedListsInTheFile, SurviveARestart)
     EXPECT_TRUE(second.savedAddresses.isCurrentAddressSaved());
 }
 
-TEST_F(SavedListsInTheFile, KeepANetworkWhoseNameNoFileCanHold)
+TEST_F(SavedListsRestartTest, KeepANetworkWhoseNameNoFileCanHold)
 {
     const QString ssid = QStringLiteral("Bell\a and \x01 more");
     openStore();

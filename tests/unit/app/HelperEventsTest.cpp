@@ -30,7 +30,8 @@ protected:
         features().mainWindow.installHelper();
         machine.scheduler.runPending();
     }
-    /// The selected interface has lost its address in the table, and there is another interface.
+    /// The selected interface has lost its address in the table and is away, so that reading the
+    /// interfaces does not tell it; and there is another interface.
     void makeTableStale()
     {
         QVariantMap table = machine.settings.getDictionary(keys::deviceDict);
@@ -39,6 +40,7 @@ protected:
         table[enp1s0] = record;
         machine.settings.set(keys::deviceDict, table);
         m_isStale = true;
+        machine.host.unplug(enp1s0);
         machine.host.plug(
             {QStringLiteral("Ethernet"), newDevice, {}, QStringLiteral("3c:22:fb:00:00:09"), {}});
     }
@@ -101,6 +103,8 @@ TEST_F(HelperEventsTest, ItsStatusIsFollowedInItsOrder)
     QObject::connect(&features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
         [this] { makeTableStale(); });
     expectRefresh(order);
+    order.expectSignal(
+        QStringLiteral("all of it"), features().helper, &XPCMethods::helperStatusRead);
     order.expectBroadcast(
         QStringLiteral("broadcast"), machine.notifications, notifications::helperStatusChanged);
 

@@ -30,17 +30,11 @@ protected:
         writeFile(csv, registryOf(count));
         EXPECT_TRUE(fillVendorTable(csv, path));
     }
-    void saveAddress() { setSaved(QStringLiteral("02:00:00:00:00:AA"), QStringLiteral("Mine")); }
-    void setSaved(const QString &address, const QString &name)
+    void saveAddress()
     {
-        machine.settings.set(keys::savedAddresses,
-            QVariantMap{
-                {address, QVariantMap{{savedentry::name, name}, {savedentry::address, address}}}});
-    }
-    /// What an earlier start left behind.
-    void selectAtAnEarlierStart(const QString &device)
-    {
-        machine.settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, device}});
+        machine.settings.set(
+            keys::savedAddresses, QVariantMap{{QStringLiteral("02:00:00:00:00:AA"),
+                                      QVariantMap{{savedentry::name, QStringLiteral("Mine")}}}});
     }
     int windowsOpenedByStart()
     {
@@ -235,7 +229,7 @@ TEST_F(LaunchSequenceTest, TheDevicesAreReadAndTheAddressFieldIsFilled)
 
 TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
 {
-    selectAtAnEarlierStart(enp2s0);
+    machine.settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, enp2s0}});
     silenceHelper();
     create();
     StateOrder order;

@@ -14,10 +14,10 @@ inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
 
 /// An interface gets its network, the rule changes the address, and the change makes news itself:
 /// the link goes and comes, leases are lost and given. None of it may change the address again.
-class OneEvent : public RuleMachine
+class OneEventOneChangeTest : public RuleMachine
 {
 protected:
-    OneEvent()
+    OneEventOneChangeTest()
     {
         addRule({.name = QStringLiteral("once")});
         addRule({.name = QStringLiteral("once"), .device = en1});
@@ -48,7 +48,7 @@ protected:
     void pass(std::chrono::milliseconds time) { scheduler.advance(time); }
 };
 
-TEST_F(OneEvent, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
 {
     plugIn(en0);
     networkEvent();
@@ -59,7 +59,7 @@ TEST_F(OneEvent, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhenItIsReportedAfterTheAnswer)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenItIsReportedAfterTheAnswer)
 {
     plugIn(en0);
     pass(1s);
@@ -69,7 +69,7 @@ TEST_F(OneEvent, MakesOneChangeWhenItIsReportedAfterTheAnswer)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesAndComesBeforeTheAnswer)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenTheLinkGoesAndComesBeforeTheAnswer)
 {
     plugIn(en0);
     linkGoes(en0);
@@ -78,7 +78,7 @@ TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesAndComesBeforeTheAnswer)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhenTheLinkComesBackLongAfterTheAnswer)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenTheLinkComesBackLongAfterTheAnswer)
 {
     plugIn(en0);
     linkGoes(en0);
@@ -88,7 +88,7 @@ TEST_F(OneEvent, MakesOneChangeWhenTheLinkComesBackLongAfterTheAnswer)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesSoonAfterTheAnswer)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenTheLinkGoesSoonAfterTheAnswer)
 {
     plugIn(en0);
     pass(600ms);
@@ -98,7 +98,7 @@ TEST_F(OneEvent, MakesOneChangeWhenTheLinkGoesSoonAfterTheAnswer)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhenTheLinkIsAwayForTwentySeconds)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhenTheLinkIsAwayForTwentySeconds)
 {
     plugIn(en0);
     pass(600ms);
@@ -109,7 +109,7 @@ TEST_F(OneEvent, MakesOneChangeWhenTheLinkIsAwayForTwentySeconds)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeHoweverLateAnotherLeaseComes)
+TEST_F(OneEventOneChangeTest, MakesOneChangeHoweverLateAnotherLeaseComes)
 {
     plugIn(en0);
     for (const auto wait : {100ms, 1000ms, 60'000ms, 3'600'000ms}) {
@@ -120,7 +120,7 @@ TEST_F(OneEvent, MakesOneChangeHoweverLateAnotherLeaseComes)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
+TEST_F(OneEventOneChangeTest, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
 {
     joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
     plugIn(en1);
@@ -138,7 +138,7 @@ TEST_F(OneEvent, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
     EXPECT_EQ(changesOf(en1).size(), 1);
 }
 
-TEST_F(OneEvent, MakesOneChangeWhereAnotherProgramPutsTheAddressBack)
+TEST_F(OneEventOneChangeTest, MakesOneChangeWhereAnotherProgramPutsTheAddressBack)
 {
     plugIn(en0);
     pass(10s);
@@ -150,7 +150,7 @@ TEST_F(OneEvent, MakesOneChangeWhereAnotherProgramPutsTheAddressBack)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, DoesNotFeedItselfWhateverEachChangeBringsAbout)
+TEST_F(OneEventOneChangeTest, DoesNotFeedItselfWhateverEachChangeBringsAbout)
 {
     // The world answers every change of the address with all of it, at several paces.
     for (const auto pace : {0ms, 100ms, 400ms, 700ms, 3000ms}) {
@@ -175,7 +175,7 @@ TEST_F(OneEvent, DoesNotFeedItselfWhateverEachChangeBringsAbout)
     }
 }
 
-TEST_F(OneEvent, OfAFixedAddressIsToldOnce)
+TEST_F(OneEventOneChangeTest, OfAFixedAddressIsToldOnce)
 {
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
         rule.setAddress(fixedAddress);
@@ -190,7 +190,7 @@ TEST_F(OneEvent, OfAFixedAddressIsToldOnce)
             QStringLiteral("Your new MAC Address is: ") + fixedAddress}}));
 }
 
-TEST_F(OneEvent, ThatFailsIsNotTriedAgainByItsOwnNews)
+TEST_F(OneEventOneChangeTest, ThatFailsIsNotTriedAgainByItsOwnNews)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     plugIn(en0);
@@ -200,7 +200,7 @@ TEST_F(OneEvent, ThatFailsIsNotTriedAgainByItsOwnNews)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(OneEvent, LeavesAnAddressThatTheUserChoseAlone)
+TEST_F(OneEventOneChangeTest, LeavesAnAddressThatTheUserChoseAlone)
 {
     plugIn(en0);
     pass(10s);
@@ -213,7 +213,7 @@ TEST_F(OneEvent, LeavesAnAddressThatTheUserChoseAlone)
     EXPECT_EQ(host.addressOf(en0), fixedAddress);
 }
 
-class AnotherEvent : public OneEvent
+class OneEventOneChangeUntil : public OneEventOneChangeTest
 {
 protected:
     void plugInAndSettle(const QString &device)
@@ -224,7 +224,7 @@ protected:
     }
 };
 
-TEST_F(AnotherEvent, OfAPlugThatIsPulledAndPutBackIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, OfAPlugThatIsPulledAndPutBackIsCarriedOut)
 {
     plugInAndSettle(en0);
     linkGoes(en0);
@@ -232,7 +232,7 @@ TEST_F(AnotherEvent, OfAPlugThatIsPulledAndPutBackIsCarriedOut)
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, OfAPlugThatWasPulledRightAfterTheChangeAndPutElsewhereIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, OfAPlugThatWasPulledRightAfterTheChangeAndPutElsewhereIsCarriedOut)
 {
     plugIn(en0);
     pass(600ms);
@@ -242,7 +242,7 @@ TEST_F(AnotherEvent, OfAPlugThatWasPulledRightAfterTheChangeAndPutElsewhereIsCar
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsCarriedOut)
 {
     plugIn(en0);
     pass(600ms);
@@ -253,7 +253,7 @@ TEST_F(AnotherEvent, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsCarriedOut)
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
+TEST_F(OneEventOneChangeUntil, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
 {
     joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
     plugInAndSettle(en1);
@@ -265,7 +265,7 @@ TEST_F(AnotherEvent, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
     EXPECT_EQ(changesOf(en1).size(), 2);
 }
 
-TEST_F(AnotherEvent, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedOut)
 {
     plugInAndSettle(en0);
     const FakeNetworkHost::Interface taken = host.at(en0);
@@ -277,7 +277,7 @@ TEST_F(AnotherEvent, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedOut)
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenToGo)
+TEST_F(OneEventOneChangeUntil, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenToGo)
 {
     joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
     plugInAndSettle(en1);
@@ -291,7 +291,7 @@ TEST_F(AnotherEvent, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenTo
     EXPECT_EQ(changesOf(en1).size(), 3);
 }
 
-TEST_F(AnotherEvent, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
+TEST_F(OneEventOneChangeUntil, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
 {
     joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
     plugInAndSettle(en1);
@@ -306,7 +306,7 @@ TEST_F(AnotherEvent, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
     EXPECT_EQ(changesOf(en1).size(), 2);
 }
 
-TEST_F(AnotherEvent, AfterTheRuleWasEditedIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, AfterTheRuleWasEditedIsCarriedOut)
 {
     plugInAndSettle(en0);
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
@@ -323,7 +323,7 @@ TEST_F(AnotherEvent, AfterTheRuleWasEditedIsCarriedOut)
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
+TEST_F(OneEventOneChangeUntil, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
 {
     reachability.reachable = false;
     giveLease(en0);
@@ -334,7 +334,7 @@ TEST_F(AnotherEvent, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
-TEST_F(AnotherEvent, IsNotNeededWhereTheUserAsksForAChange)
+TEST_F(OneEventOneChangeUntil, IsNotNeededWhereTheUserAsksForAChange)
 {
     plugInAndSettle(en0);
     evaluate(en0, RuleChange::NetworkRule);
@@ -343,7 +343,7 @@ TEST_F(AnotherEvent, IsNotNeededWhereTheUserAsksForAChange)
     EXPECT_EQ(changesOf(en0).size(), 3);
 }
 
-TEST_F(AnotherEvent, OfARuleThatRepeatsRestartsItsCountdownAndEachCountdownMakesOneChange)
+TEST_F(OneEventOneChangeUntil, OfARuleThatRepeatsRestartsItsCountdownAndEachCountdownMakesOneChange)
 {
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
         rule.setChangeAction(Rule::every);
@@ -367,7 +367,7 @@ TEST_F(AnotherEvent, OfARuleThatRepeatsRestartsItsCountdownAndEachCountdownMakes
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
-TEST_F(AnotherEvent, ThatComesWhenTheProgramEndsDoesNoHarm)
+TEST_F(OneEventOneChangeUntil, ThatComesWhenTheProgramEndsDoesNoHarm)
 {
     auto brief = std::make_unique<RuleExecution>(
         RuleExecution::Collaborators{scheduler, table, changer, timers});

@@ -25,10 +25,10 @@ inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
 
 /// The whole road of a change, with a helper that keeps its addresses on the machine. en1, the
 /// Wi-Fi device, is selected.
-class AddressChange : public DeviceFixture
+class AddressChangeFixture : public DeviceFixture
 {
 protected:
-    AddressChange()
+    AddressChangeFixture()
     {
         table.updateNetWorkInterfaces();
         select(en1);

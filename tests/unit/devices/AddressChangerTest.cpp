@@ -12,7 +12,9 @@ namespace quillon::test {
 
 namespace {
 
-TEST_F(AddressChange, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
+using AddressChangerTest = AddressChangeFixture;
+
+TEST_F(AddressChangerTest, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
 {
     change(en1, wanted);
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
@@ -26,7 +28,7 @@ TEST_F(AddressChange, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
     EXPECT_EQ(messagesBeforeHistory, 1);
 }
 
-TEST_F(AddressChange, HandsTheHelperDeviceAddressAndWhetherItIsWifi)
+TEST_F(AddressChangerTest, HandsTheHelperDeviceAddressAndWhetherItIsWifi)
 {
     change(en1, wanted);
     change(en0, wanted);
@@ -38,20 +40,20 @@ TEST_F(AddressChange, HandsTheHelperDeviceAddressAndWhetherItIsWifi)
     EXPECT_FALSE(helper.changes().at(1).deviceIsWiFi);
 }
 
-TEST_F(AddressChange, ReturnsAtOnceAndTestsOnTheQueue)
+TEST_F(AddressChangerTest, ReturnsAtOnceAndTestsOnTheQueue)
 {
     changer->updateMacAddressWithAddress(en1, wanted);
     EXPECT_TRUE(helper.journal().isEmpty());
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
 }
 
-TEST_F(AddressChange, IsFinishedOnTheThreadOfTheReply)
+TEST_F(AddressChangerTest, IsFinishedOnTheThreadOfTheReply)
 {
     change(en1, wanted);
     EXPECT_FALSE(historyOnMainThread);
 }
 
-TEST_F(AddressChange, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
+TEST_F(AddressChangerTest, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
 {
     change(en1, QStringLiteral("02:16:3e:44:55:66"));
     EXPECT_EQ(notifier.messages(),
@@ -61,7 +63,7 @@ TEST_F(AddressChange, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
     EXPECT_TRUE(order.isEmpty());
 }
 
-TEST_F(AddressChange, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
+TEST_F(AddressChangerTest, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
 {
     change(en1, QStringLiteral("02:16:3E:44:55:66"));
     EXPECT_EQ(helper.changes().size(), 1);
@@ -69,14 +71,14 @@ TEST_F(AddressChange, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
         told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled"));
 }
 
-TEST_F(AddressChange, OfAnEmptyDeviceIsThatOfTheCurrentInterface)
+TEST_F(AddressChangerTest, OfAnEmptyDeviceIsThatOfTheCurrentInterface)
 {
     change(QString(), wanted);
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
     EXPECT_EQ(storedSelection().value(record::current).toString(), wanted);
 }
 
-TEST_F(AddressChange, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
+TEST_F(AddressChangerTest, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
 {
     const QVariantMap before = storedSelection();
     change(en0, wanted);
@@ -90,7 +92,7 @@ TEST_F(AddressChange, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
             QStringLiteral("updated en1"), QStringLiteral("hex values")}));
 }
 
-TEST_F(AddressChange, ThatTheHelperRefusesSaysSo)
+TEST_F(AddressChangerTest, ThatTheHelperRefusesSaysSo)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     change(en1, wanted);
@@ -100,7 +102,7 @@ TEST_F(AddressChange, ThatTheHelperRefusesSaysSo)
                          QStringLiteral("hex values")}));
 }
 
-TEST_F(AddressChange, WithoutHelperSaysSo)
+TEST_F(AddressChangerTest, WithoutHelperSaysSo)
 {
     helper.installed = false;
     change(en1, wanted);
@@ -108,7 +110,7 @@ TEST_F(AddressChange, WithoutHelperSaysSo)
                                        "Please make sure you have installed the HelperTool"));
 }
 
-TEST_F(AddressChange, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
+TEST_F(AddressChangerTest, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
 {
     host.at(en1).keepsAddress = true;
     change(en1, wanted);
@@ -117,7 +119,7 @@ TEST_F(AddressChange, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
     EXPECT_FALSE(order.contains(QStringLiteral("posted en1")));
 }
 
-TEST_F(AddressChange, OfAnInterfaceThatVanishedEndsInSilence)
+TEST_F(AddressChangerTest, OfAnInterfaceThatVanishedEndsInSilence)
 {
     const QVariantMap before = storedTable();
     host.unplug(en1);
@@ -128,7 +130,7 @@ TEST_F(AddressChange, OfAnInterfaceThatVanishedEndsInSilence)
     EXPECT_TRUE(order.isEmpty());
 }
 
-TEST_F(AddressChange, KeepsWhatWasReadBackAlsoAfterAFailure)
+TEST_F(AddressChangerTest, KeepsWhatWasReadBackAlsoAfterAFailure)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     host.giveAddress(en1, QStringLiteral("02:00:00:00:00:99"));
@@ -141,14 +143,14 @@ TEST_F(AddressChange, KeepsWhatWasReadBackAlsoAfterAFailure)
     EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
 }
 
-TEST_F(AddressChange, WritesTheTableAndFlushesIt)
+TEST_F(AddressChangerTest, WritesTheTableAndFlushesIt)
 {
     change(en0, wanted);
     EXPECT_EQ(settings.journal().mid(0, 2),
         (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
 }
 
-TEST_F(AddressChange, KeepsWhatOthersWroteWhileTheHelperWorked)
+TEST_F(AddressChangerTest, KeepsWhatOthersWroteWhileTheHelperWorked)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change(en1, wanted);
@@ -160,7 +162,7 @@ TEST_F(AddressChange, KeepsWhatOthersWroteWhileTheHelperWorked)
     EXPECT_EQ(recorded(en0, record::vendor), QLatin1String("Maker (A1B2C3)"));
 }
 
-TEST_F(AddressChange, OfAnUnknownDeviceDoesNoHarm)
+TEST_F(AddressChangerTest, OfAnUnknownDeviceDoesNoHarm)
 {
     change(QStringLiteral("en9"), wanted);
     EXPECT_TRUE(notifier.messages().isEmpty());
@@ -174,14 +176,14 @@ TEST_F(AddressChange, OfAnUnknownDeviceDoesNoHarm)
         told(" Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
 }
 
-TEST_F(AddressChange, WithoutAnySelectionDoesNoHarm)
+TEST_F(AddressChangerTest, WithoutAnySelectionDoesNoHarm)
 {
     settings.set(keys::currentInterfaceDict, QVariant());
     change(QString(), QString());
     EXPECT_TRUE(notifier.messages().isEmpty());
 }
 
-TEST_F(AddressChange, ToAnEmptyAddressIsReportedInItsOwnWords)
+TEST_F(AddressChangerTest, ToAnEmptyAddressIsReportedInItsOwnWords)
 {
     host.at(en1).keepsAddress = true;
     helper.mood = FakeHelper::Mood::Refusing;
@@ -190,7 +192,7 @@ TEST_F(AddressChange, ToAnEmptyAddressIsReportedInItsOwnWords)
                                        "Please make sure you have installed the HelperTool"));
 }
 
-TEST_F(AddressChange, IsTakenInTheOrderOfTheRequests)
+TEST_F(AddressChangerTest, IsTakenInTheOrderOfTheRequests)
 {
     changer->updateMacAddressWithAddress(en1, QStringLiteral("02:00:00:00:00:01"));
     changer->updateMacAddressWithAddress(en0, QStringLiteral("02:00:00:00:00:02"));
@@ -204,7 +206,7 @@ TEST_F(AddressChange, IsTakenInTheOrderOfTheRequests)
         asked, (QStringList{QStringLiteral("01"), QStringLiteral("02"), QStringLiteral("03")}));
 }
 
-TEST_F(AddressChange, MayStartBeforeTheReplyToThePreviousOneCame)
+TEST_F(AddressChangerTest, MayStartBeforeTheReplyToThePreviousOneCame)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change(en1, wanted);
@@ -217,7 +219,7 @@ TEST_F(AddressChange, MayStartBeforeTheReplyToThePreviousOneCame)
     EXPECT_EQ(notifier.messages().value(1).title, QLatin1String("Wi-Fi Address was not Changed"));
 }
 
-TEST_F(AddressChange, IsToldOnceWhenAPeerAnswersTwice)
+TEST_F(AddressChangerTest, IsToldOnceWhenAPeerAnswersTwice)
 {
     helper.answersTwice = true;
     change(en1, wanted);
@@ -225,7 +227,7 @@ TEST_F(AddressChange, IsToldOnceWhenAPeerAnswersTwice)
     EXPECT_EQ(helper.changes().size(), 1);
 }
 
-TEST_F(AddressChange, OutlivedByItsReplyDoesNoHarm)
+TEST_F(AddressChangerTest, OutlivedByItsReplyDoesNoHarm)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change(en1, wanted);
@@ -237,7 +239,7 @@ TEST_F(AddressChange, OutlivedByItsReplyDoesNoHarm)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(AddressChange, IsDroppedWhenTheProgramEndsBeforeTheQueueRan)
+TEST_F(AddressChangerTest, IsDroppedWhenTheProgramEndsBeforeTheQueueRan)
 {
     changer->updateMacAddressWithAddress(en1, wanted);
     changer.reset();
@@ -245,7 +247,7 @@ TEST_F(AddressChange, IsDroppedWhenTheProgramEndsBeforeTheQueueRan)
     EXPECT_TRUE(helper.journal().isEmpty());
 }
 
-TEST_F(AddressChange, TellsWhenItBeginsAndWhenItHasEndedHoweverItWent)
+TEST_F(AddressChangerTest, TellsWhenItBeginsAndWhenItHasEndedHoweverItWent)
 {
     QStringList course;
     QObject::connect(changer.get(), &AddressChanger::changeBegan, [&](const QString &device) {
@@ -260,7 +262,7 @@ TEST_F(AddressChange, TellsWhenItBeginsAndWhenItHasEndedHoweverItWent)
     EXPECT_EQ(recorded(en1, record::current), wanted.toLower());
 }
 
-TEST_F(AddressChange, ThatFailsHasEndedToo)
+TEST_F(AddressChangerTest, ThatFailsHasEndedToo)
 {
     int began = 0;
     int ended = 0;
@@ -279,7 +281,7 @@ TEST_F(AddressChange, ThatFailsHasEndedToo)
     EXPECT_EQ(ended, 4);
 }
 
-TEST_F(AddressChange, ToTheAddressInUseNeverBegins)
+TEST_F(AddressChangerTest, ToTheAddressInUseNeverBegins)
 {
     int news = 0;
     QObject::connect(changer.get(), &AddressChanger::changeBegan, [&] { ++news; });
@@ -308,7 +310,7 @@ private:
     std::atomic_bool m_done{false};
 };
 
-class AddressChangeAtTheEnd : public AddressChange
+class AddressChangerAtTheEnd : public AddressChangeFixture
 {
 protected:
     /// Ends the changer while another thread tells the user of the change to `address`.
@@ -331,18 +333,18 @@ protected:
     }
 };
 
-TEST_F(AddressChangeAtTheEnd, WaitsForAReplyThatIsBeingHandled)
+TEST_F(AddressChangerAtTheEnd, WaitsForAReplyThatIsBeingHandled)
 {
     endWhileTelling(wanted);
 }
 
-TEST_F(AddressChangeAtTheEnd, WaitsForATestOnTheQueue)
+TEST_F(AddressChangerAtTheEnd, WaitsForATestOnTheQueue)
 {
     endWhileTelling(QStringLiteral("02:16:3e:44:55:66"));
 }
 
 /// A user who switched notifications off: the notifier says nothing.
-TEST_F(AddressChange, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesIt)
+TEST_F(AddressChangerTest, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesIt)
 {
     class Silent : public Notifier
     {

@@ -6,10 +6,10 @@
 namespace quillon::test {
 namespace {
 
-class EntryPoints : public AddressChange
+class AddressEntryPoints : public AddressChangeFixture
 {
 protected:
-    EntryPoints()
+    AddressEntryPoints()
     {
         random.put(QByteArray::fromHex("c0abcdef0009"));
         deviceItem->append(QStringLiteral("unused"));
@@ -24,14 +24,14 @@ protected:
     const MenuItem &randomize = currentItem->append(QStringLiteral("Randomize"));
 };
 
-TEST_F(EntryPoints, RandomizeActsOnTheCurrentInterface)
+TEST_F(AddressEntryPoints, RandomizeActsOnTheCurrentInterface)
 {
     changer->randomizeAddress();
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en1), QLatin1String("c2:ab:cd:ef:00:09"));
 }
 
-TEST_F(EntryPoints, RandomizeFollowsTheVendorOfTheDevice)
+TEST_F(AddressEntryPoints, RandomizeFollowsTheVendorOfTheDevice)
 {
     QVariantMap record = storedRecord(en1);
     record[record::vendor] = QStringLiteral("Some Maker Inc. (A2B2C3)");
@@ -41,7 +41,7 @@ TEST_F(EntryPoints, RandomizeFollowsTheVendorOfTheDevice)
     EXPECT_EQ(host.addressOf(en1), QLatin1String("a2:b2:c3:ef:00:09"));
 }
 
-TEST_F(EntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
+TEST_F(AddressEntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
 {
     random.fail();
     helper.mood = FakeHelper::Mood::Refusing;
@@ -50,7 +50,7 @@ TEST_F(EntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
     EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Wi-Fi Address was not Changed"));
 }
 
-TEST_F(EntryPoints, ATypedAddressGoesOutInDisplayCaseAndBackIntoTheField)
+TEST_F(AddressEntryPoints, ATypedAddressGoesOutInDisplayCaseAndBackIntoTheField)
 {
     EXPECT_EQ(changer->changeMacAddress(QStringLiteral("02:aa:bb:cc:dd:01")), wanted);
     scheduler.runPending();
@@ -59,7 +59,7 @@ TEST_F(EntryPoints, ATypedAddressGoesOutInDisplayCaseAndBackIntoTheField)
     EXPECT_EQ(helper.changes().at(0).device, en1);
 }
 
-TEST_F(EntryPoints, ATypedAddressIsNotTestedHere)
+TEST_F(AddressEntryPoints, ATypedAddressIsNotTestedHere)
 {
     EXPECT_EQ(changer->changeMacAddress(QStringLiteral("a1b2")), QLatin1String("A1B2"));
     scheduler.runPending();
@@ -67,14 +67,14 @@ TEST_F(EntryPoints, ATypedAddressIsNotTestedHere)
     EXPECT_EQ(helper.changes().at(0).address, QLatin1String("A1B2"));
 }
 
-TEST_F(EntryPoints, RestoreGivesTheCurrentInterfaceItsFactoryAddress)
+TEST_F(AddressEntryPoints, RestoreGivesTheCurrentInterfaceItsFactoryAddress)
 {
     changer->restoreDefaultAddress();
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en1), QLatin1String("00:16:3e:44:55:66"));
 }
 
-TEST_F(EntryPoints, AMenuRandomizesTheDeviceTwoPlacesAboveItsParent)
+TEST_F(AddressEntryPoints, AMenuRandomizesTheDeviceTwoPlacesAboveItsParent)
 {
     changer->randomizeAddress(randomize);
     scheduler.runPending();
@@ -82,7 +82,7 @@ TEST_F(EntryPoints, AMenuRandomizesTheDeviceTwoPlacesAboveItsParent)
     EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
 }
 
-TEST_F(EntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
+TEST_F(AddressEntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
 {
     MenuItem plain{QString()};
     plain.append(en0);
@@ -94,7 +94,7 @@ TEST_F(EntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
     EXPECT_EQ(host.addressOf(en0), QLatin1String("c2:ab:cd:ef:00:09"));
 }
 
-TEST_F(EntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
+TEST_F(AddressEntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
 {
     QVariantMap devices = storedTable();
     devices.remove(en0);
@@ -105,14 +105,14 @@ TEST_F(EntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
     EXPECT_TRUE(notifier.messages().isEmpty());
 }
 
-TEST_F(EntryPoints, AMenuRestoresTheAddressOfItsParentOnTheDeviceAboveIt)
+TEST_F(AddressEntryPoints, AMenuRestoresTheAddressOfItsParentOnTheDeviceAboveIt)
 {
     changer->restoreDefaultAddress(restore);
     scheduler.runPending();
     EXPECT_EQ(host.addressOf(en0), QLatin1String("02:fa:c7:00:00:01"));
 }
 
-TEST_F(EntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
+TEST_F(AddressEntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
 {
     MenuItem odd{QString()};
     odd.append(QStringLiteral("Ethernet \u00B7 en0"));
@@ -124,7 +124,7 @@ TEST_F(EntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
     EXPECT_TRUE(notifier.messages().isEmpty());
 }
 
-TEST_F(EntryPoints, AMenuRestoreOfAnUnknownDeviceDoesNothing)
+TEST_F(AddressEntryPoints, AMenuRestoreOfAnUnknownDeviceDoesNothing)
 {
     QVariantMap devices = storedTable();
     devices.remove(en0);
@@ -134,7 +134,7 @@ TEST_F(EntryPoints, AMenuRestoreOfAnUnknownDeviceDoesNothing)
     EXPECT_TRUE(helper.journal().isEmpty());
 }
 
-TEST_F(EntryPoints, AMenuItemInTheWrongPlaceDoesNothing)
+TEST_F(AddressEntryPoints, AMenuItemInTheWrongPlaceDoesNothing)
 {
     changer->randomizeAddress(*deviceItem);
     changer->randomizeAddress(restore);

@@ -2,12 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/AddressText.h"
 
-#include "base/SettingsKeys.h"
-#include "devices/HexFormatter.h"
-#include "devices/HexValueTransformer.h"
-#include "fakes/FakeScheduler.h"
-#include "fakes/FakeSettingsStore.h"
-
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -82,90 +76,6 @@ TEST(AddressText, KnowsNoLettersAndDigitsBeyondAscii)
     EXPECT_FALSE(isAddress("aa:bb:cc:dd:ee:\u00e4\u00e4"));
     EXPECT_FALSE(isAddress("aa:bb:\u0661\u0662:dd:ee:ff"));
     EXPECT_FALSE(isAddress("aa:bb:cc\uff1add:ee:ff"));
-}
-
-class DisplayCase : public ::testing::Test
-{
-protected:
-    FakeScheduler scheduler;
-    FakeSettingsStore settings{scheduler};
-    HexValueTransformer displayCase{settings};
-};
-
-TEST_F(DisplayCase, IsUpperUnlessTheUserWantsLower)
-{
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0c")), QLatin1String("AA:BB:0C"));
-    settings.setBool(keys::lowerCaseHEX, true);
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0C")), QLatin1String("aa:bb:0c"));
-    settings.setBool(keys::lowerCaseHEX, false);
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0c")), QLatin1String("AA:BB:0C"));
-}
-
-TEST_F(DisplayCase, NeitherTrimsNorInsertsColons)
-{
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral(" a1b2c3d4e5f6\n")),
-        QLatin1String(" A1B2C3D4E5F6\n"));
-    EXPECT_EQ(displayCase.transformedValue(QString()), QString());
-}
-
-bool mayType(const char *text)
-{
-    HexFormatter formatter;
-    return formatter.isPartialStringValid(QString::fromUtf8(text));
-}
-
-TEST(AddressField, TakesTwelveBareDigits)
-{
-    EXPECT_TRUE(mayType("a1b2c3d4e5f6"));
-    EXPECT_TRUE(mayType("A1B2C3D4E5F6"));
-}
-
-TEST(AddressField, RefusesThirteenDigitsWithoutColons)
-{
-    EXPECT_FALSE(mayType("a1b2c3d4e5f60"));
-}
-
-TEST(AddressField, TakesSeventeenCharactersWithColonsAndNoMore)
-{
-    EXPECT_TRUE(mayType("a1:b2:c3:d4:e5:f6"));
-    EXPECT_FALSE(mayType("a1:b2:c3:d4:e5:f6:"));
-    EXPECT_FALSE(mayType("a1:b2:c3:d4:e5:f60"));
-    EXPECT_TRUE(mayType(":a1b2c3d4e5f60718")) << "one colon anywhere makes it seventeen";
-}
-
-TEST(AddressField, RefusesOtherCharactersAtOnce)
-{
-    EXPECT_FALSE(mayType("g"));
-    EXPECT_FALSE(mayType("a1:g"));
-    EXPECT_FALSE(mayType("a1 b2"));
-    EXPECT_FALSE(mayType("\u0661"));
-}
-
-TEST(AddressField, MayBeEmptied)
-{
-    EXPECT_TRUE(mayType(""));
-}
-
-TEST(AddressField, KnowsTheMaximumThatApplied)
-{
-    HexFormatter formatter;
-    EXPECT_EQ(formatter.maximumLength(), 2147483647);
-    formatter.isPartialStringValid(QStringLiteral("a1"));
-    EXPECT_EQ(formatter.maximumLength(), 12);
-    formatter.isPartialStringValid(QStringLiteral("a1:"));
-    EXPECT_EQ(formatter.maximumLength(), 17);
-    formatter.isPartialStringValid(QStringLiteral("g"));
-    EXPECT_EQ(formatter.maximumLength(), 17);
-    formatter.isPartialStringValid(QString());
-    EXPECT_EQ(formatter.maximumLength(), 12);
-}
-
-TEST(AddressField, KeepsTextsAsTheyAre)
-{
-    const HexFormatter formatter;
-    const QString typed = QStringLiteral("a1:B2:c3");
-    EXPECT_EQ(formatter.stringForObjectValue(typed), typed);
-    EXPECT_EQ(formatter.getObjectValueForString(typed), typed);
 }
 
 } // namespace

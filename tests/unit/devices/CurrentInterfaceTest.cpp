@@ -9,10 +9,10 @@
 namespace quillon::test {
 namespace {
 
-class Selection : public DeviceFixture
+class CurrentInterfaceSelection : public DeviceFixture
 {
 protected:
-    Selection()
+    CurrentInterfaceSelection()
     {
         table.updateNetWorkInterfaces();
         QObject::connect(&current, &CurrentInterface::interfaceSelected,
@@ -41,13 +41,13 @@ protected:
     bool onMainThread = true;
 };
 
-TEST_F(Selection, IsNoneAtFirst)
+TEST_F(CurrentInterfaceSelection, IsNoneAtFirst)
 {
     EXPECT_EQ(current.device(), QString());
     EXPECT_TRUE(storedSelection().isEmpty());
 }
 
-TEST_F(Selection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
+TEST_F(CurrentInterfaceSelection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
 {
     storeRecord(en1, {{record::current, QStringLiteral("aa:bb:cc:dd:ee:ff")},
                          {record::hardware, QStringLiteral("aa:bb:cc:00:00:01")},
@@ -65,7 +65,7 @@ TEST_F(Selection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
     EXPECT_EQ(recorded(en1, record::current), QLatin1String("aa:bb:cc:dd:ee:ff"));
 }
 
-TEST_F(Selection, IsStoredAndFlushedBeforeAnybodyHears)
+TEST_F(CurrentInterfaceSelection, IsStoredAndFlushedBeforeAnybodyHears)
 {
     bool flushedBefore = false;
     QObject::connect(&current, &CurrentInterface::currentInterfaceUpdated, [&] {
@@ -80,7 +80,7 @@ TEST_F(Selection, IsStoredAndFlushedBeforeAnybodyHears)
         (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
 }
 
-TEST_F(Selection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
+TEST_F(CurrentInterfaceSelection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
 {
     scheduler.asBackground([this] { current.updateCurrentInterfaceDict(en1); });
     EXPECT_TRUE(heard.isEmpty());
@@ -90,7 +90,7 @@ TEST_F(Selection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
     EXPECT_TRUE(onMainThread);
 }
 
-TEST_F(Selection, OfADeviceWithoutAddressLeavesThePreviousOneInForce)
+TEST_F(CurrentInterfaceSelection, OfADeviceWithoutAddressLeavesThePreviousOneInForce)
 {
     select(en0);
     const QVariantMap before = storedSelection();
@@ -101,7 +101,7 @@ TEST_F(Selection, OfADeviceWithoutAddressLeavesThePreviousOneInForce)
     EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild")}));
 }
 
-TEST_F(Selection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
+TEST_F(CurrentInterfaceSelection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
 {
     select(en0);
     const QVariantMap before = storedSelection();
@@ -114,7 +114,7 @@ TEST_F(Selection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
     EXPECT_EQ(heard, QStringList{QStringLiteral("rebuild")});
 }
 
-TEST_F(Selection, OfAnUnknownDeviceLeavesThePreviousOneInForce)
+TEST_F(CurrentInterfaceSelection, OfAnUnknownDeviceLeavesThePreviousOneInForce)
 {
     select(en0);
     current.updateInterface(QStringLiteral("en9"));
@@ -122,7 +122,7 @@ TEST_F(Selection, OfAnUnknownDeviceLeavesThePreviousOneInForce)
     EXPECT_EQ(current.device(), en0);
 }
 
-TEST_F(Selection, ReadsThePortsThenRebuildsThenSaysSo)
+TEST_F(CurrentInterfaceSelection, ReadsThePortsThenRebuildsThenSaysSo)
 {
     host.giveAddress(en1, QStringLiteral("02:00:00:00:00:01"));
     current.updateInterface(en1);
@@ -133,7 +133,7 @@ TEST_F(Selection, ReadsThePortsThenRebuildsThenSaysSo)
                          QStringLiteral("updated en1 02:00:00:00:00:01")}));
 }
 
-TEST_F(Selection, OfAnEmptyNameDoesNothing)
+TEST_F(CurrentInterfaceSelection, OfAnEmptyNameDoesNothing)
 {
     current.updateInterface(QString());
     current.changeInterfacefromPopup(QString());
@@ -142,7 +142,7 @@ TEST_F(Selection, OfAnEmptyNameDoesNothing)
     EXPECT_TRUE(host.journal().isEmpty());
 }
 
-TEST_F(Selection, FromAMenuIsTheLastPieceOfTheTitle)
+TEST_F(CurrentInterfaceSelection, FromAMenuIsTheLastPieceOfTheTitle)
 {
     current.changeInterface(QStringLiteral("Wi-Fi \u00B7 en1"));
     scheduler.runPending();
@@ -155,7 +155,7 @@ TEST_F(Selection, FromAMenuIsTheLastPieceOfTheTitle)
     EXPECT_EQ(current.device(), en1);
 }
 
-TEST_F(Selection, FromAMenuSplitsAtTheBlanksToo)
+TEST_F(CurrentInterfaceSelection, FromAMenuSplitsAtTheBlanksToo)
 {
     select(en0);
     current.changeInterface(QStringLiteral("Wi-Fi\u00B7en1"));
@@ -163,14 +163,14 @@ TEST_F(Selection, FromAMenuSplitsAtTheBlanksToo)
     EXPECT_EQ(current.device(), en0);
 }
 
-TEST_F(Selection, FromThePopupIsTheTitle)
+TEST_F(CurrentInterfaceSelection, FromThePopupIsTheTitle)
 {
     current.changeInterfacefromPopup(en1);
     scheduler.runPending();
     EXPECT_EQ(current.device(), en1);
 }
 
-TEST_F(Selection, OfTheFirstStartIsTheWifiDeviceAtOnce)
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartIsTheWifiDeviceAtOnce)
 {
     current.selectInitialDevice();
     EXPECT_EQ(current.device(), en1);
@@ -178,7 +178,7 @@ TEST_F(Selection, OfTheFirstStartIsTheWifiDeviceAtOnce)
         (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
 }
 
-TEST_F(Selection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
 {
     QVariantMap devices = storedTable();
     devices.remove(en1);
@@ -187,7 +187,7 @@ TEST_F(Selection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
     EXPECT_EQ(current.device(), en0);
 }
 
-TEST_F(Selection, OfTheFirstStartWithoutDevicesIsNone)
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartWithoutDevicesIsNone)
 {
     store({});
     current.selectInitialDevice();
@@ -195,7 +195,7 @@ TEST_F(Selection, OfTheFirstStartWithoutDevicesIsNone)
     EXPECT_TRUE(heard.isEmpty());
 }
 
-TEST_F(Selection, OfADeviceThatVanishedStays)
+TEST_F(CurrentInterfaceSelection, OfADeviceThatVanishedStays)
 {
     const QVariantMap stored = {{record::device, QStringLiteral("en8")},
         {record::current, QStringLiteral("02:00:00:00:00:08")}};
@@ -206,7 +206,7 @@ TEST_F(Selection, OfADeviceThatVanishedStays)
     EXPECT_TRUE(heard.isEmpty());
 }
 
-TEST_F(Selection, SurvivesItsOwnEndWithWorkAhead)
+TEST_F(CurrentInterfaceSelection, SurvivesItsOwnEndWithWorkAhead)
 {
     auto brief = std::make_unique<CurrentInterface>(settings, scheduler, table);
     brief->updateCurrentInterfaceDict(en1);
@@ -217,17 +217,17 @@ TEST_F(Selection, SurvivesItsOwnEndWithWorkAhead)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-class HexValues : public Selection
+class CurrentInterfaceHexValues : public CurrentInterfaceSelection
 {
 protected:
-    HexValues()
+    CurrentInterfaceHexValues()
     {
         select(en1);
         settings.clearJournal();
     }
 };
 
-TEST_F(HexValues, StopAtAnEmptyTable)
+TEST_F(CurrentInterfaceHexValues, StopAtAnEmptyTable)
 {
     store({});
     settings.clearJournal();
@@ -237,7 +237,7 @@ TEST_F(HexValues, StopAtAnEmptyTable)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(HexValues, WriteTheTableRebuildTheSelectionThenRefillTheField)
+TEST_F(CurrentInterfaceHexValues, WriteTheTableRebuildTheSelectionThenRefillTheField)
 {
     current.updateHexValues();
     EXPECT_EQ(settings.journal(),
@@ -249,7 +249,7 @@ TEST_F(HexValues, WriteTheTableRebuildTheSelectionThenRefillTheField)
                    QStringLiteral("updated en1 02:16:3E:44:55:66"), QStringLiteral("hex values")}));
 }
 
-TEST_F(HexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
+TEST_F(CurrentInterfaceHexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
 {
     storeRecord(en1, {{record::hardware, QStringLiteral("00:16:3e:44:55:66")}});
     current.updateHexValues();
@@ -260,7 +260,7 @@ TEST_F(HexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
         storedSelection().value(record::current).toString(), QLatin1String("00:16:3E:44:55:66"));
 }
 
-TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
+TEST_F(CurrentInterfaceHexValues, LeaveAnEmptyOrMalformedAddressAlone)
 {
     for (const char *address : {"", "malformed"}) {
         const QVariantMap record = {{record::hardware, QStringLiteral("00:16:3e:44:55:66")},
@@ -276,7 +276,7 @@ TEST_F(HexValues, LeaveAnEmptyOrMalformedAddressAlone)
     }
 }
 
-TEST_F(HexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
+TEST_F(CurrentInterfaceHexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
 {
     settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, QStringLiteral("en8")}});
     const QVariantMap before = storedTable();
@@ -286,7 +286,7 @@ TEST_F(HexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
     EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
 }
 
-TEST_F(HexValues, FollowTheDisplayCase)
+TEST_F(CurrentInterfaceHexValues, FollowTheDisplayCase)
 {
     settings.setBool(keys::lowerCaseHEX, true);
     current.updateHexValues();
@@ -294,7 +294,7 @@ TEST_F(HexValues, FollowTheDisplayCase)
     EXPECT_EQ(heard.value(1), QLatin1String("updated en1 02:16:3e:44:55:66"));
 }
 
-TEST_F(HexValues, SpeakOnTheMainThreadOnly)
+TEST_F(CurrentInterfaceHexValues, SpeakOnTheMainThreadOnly)
 {
     scheduler.asBackground([this] { current.updateHexValues(); });
     scheduler.runPending();

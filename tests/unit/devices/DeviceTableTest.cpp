@@ -142,17 +142,17 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
         recorded(QStringLiteral("en0"), record::localizedInterface), QLatin1String("Ethernet"));
 }
 
-class FactoryAddressUntold : public DeviceFixture
+class DeviceTableFactoryAddressUntold : public DeviceFixture
 {
 protected:
-    FactoryAddressUntold()
+    DeviceTableFactoryAddressUntold()
         : DeviceFixture(QStringLiteral("laptop"))
     {
     }
     const QString bridge = QStringLiteral("br0");
 };
 
-TEST_F(FactoryAddressUntold, IsTheAddressFirstSeen)
+TEST_F(DeviceTableFactoryAddressUntold, IsTheAddressFirstSeen)
 {
     table.updateNetWorkInterfaces();
     EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
@@ -162,7 +162,7 @@ TEST_F(FactoryAddressUntold, IsTheAddressFirstSeen)
     EXPECT_EQ(recorded(bridge, record::current), QLatin1String("02:00:00:00:00:01"));
 }
 
-TEST_F(FactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
+TEST_F(DeviceTableFactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
 {
     host.at(bridge).broken = true;
     table.updateNetWorkInterfaces();
@@ -172,10 +172,10 @@ TEST_F(FactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
     EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
 }
 
-class DevicesOfATextualHost : public DeviceFixture
+class DeviceTableOfATextualHost : public DeviceFixture
 {
 protected:
-    DevicesOfATextualHost()
+    DeviceTableOfATextualHost()
     {
         QFile ports(QStringLiteral(QUILLON_TEST_DATA "/commands/listallhardwareports.txt"));
         QFile query(QStringLiteral(QUILLON_TEST_DATA "/commands/ifconfig-en0.txt"));
@@ -190,7 +190,7 @@ protected:
     DeviceTable textualTable{settings, textualHost, addresses};
 };
 
-TEST_F(DevicesOfATextualHost, FillTheSameRecords)
+TEST_F(DeviceTableOfATextualHost, FillTheSameRecords)
 {
     textualTable.updateNetWorkInterfaces();
     EXPECT_EQ(textualTable.names(),
@@ -206,7 +206,7 @@ TEST_F(DevicesOfATextualHost, FillTheSameRecords)
     EXPECT_EQ(storedRecord(QStringLiteral("en0")), expected);
 }
 
-TEST_F(DevicesOfATextualHost, En10OverwritesTheRecordOfEn1)
+TEST_F(DeviceTableOfATextualHost, En10OverwritesTheRecordOfEn1)
 {
     commands.teach(
         list, QStringLiteral(
@@ -221,24 +221,24 @@ TEST_F(DevicesOfATextualHost, En10OverwritesTheRecordOfEn1)
     EXPECT_EQ(recorded(QStringLiteral("en1"), record::vendor), QLatin1String("Maker (A1B2C3)"));
 }
 
-class DeviceQueries : public DeviceFixture
+class DeviceTableQueries : public DeviceFixture
 {
 };
 
-TEST_F(DeviceQueries, ReadBackStoresNothing)
+TEST_F(DeviceTableQueries, ReadBackStoresNothing)
 {
     const InterfaceInfo info = table.getInfoForDevice(QStringLiteral("en1"));
     EXPECT_EQ(info.macAddress, QLatin1String("02:16:3e:44:55:66"));
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(DeviceQueries, OfTwoIpAddressesOneQueryTellsTheLastTheOtherTheFirst)
+TEST_F(DeviceTableQueries, OfTwoIpAddressesOneQueryTellsTheLastTheOtherTheFirst)
 {
     EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en0")), QLatin1String("192.0.2.11"));
     EXPECT_EQ(table.getInfoForDevice(QStringLiteral("en0")).ipAddress, QLatin1String("192.0.2.10"));
 }
 
-TEST_F(DeviceQueries, ADeviceWithoutIpAddressHasAnEmptyOne)
+TEST_F(DeviceTableQueries, ADeviceWithoutIpAddressHasAnEmptyOne)
 {
     EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en3")), QString());
     EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en")), QString()) << "names match whole";
@@ -246,7 +246,7 @@ TEST_F(DeviceQueries, ADeviceWithoutIpAddressHasAnEmptyOne)
     EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en0")), QString());
 }
 
-TEST_F(DeviceQueries, WifiIsWhatIsCalledExactlyThat)
+TEST_F(DeviceTableQueries, WifiIsWhatIsCalledExactlyThat)
 {
     store({{QStringLiteral("a"), wifi()}, {QStringLiteral("b"), wired()},
         {QStringLiteral("c"), QVariantMap{{record::interface, QStringLiteral("Wi-Fi 2")}}},
@@ -258,7 +258,7 @@ TEST_F(DeviceQueries, WifiIsWhatIsCalledExactlyThat)
     EXPECT_FALSE(table.isDeviceWifi(QStringLiteral("unknown")));
 }
 
-TEST_F(DeviceQueries, WithoutWifiTheWifiDeviceIsEmptyAndNothingIsForcedToTheFront)
+TEST_F(DeviceTableQueries, WithoutWifiTheWifiDeviceIsEmptyAndNothingIsForcedToTheFront)
 {
     store({{QStringLiteral("bridge0"), wired()}, {QStringLiteral("en0"), wired()}});
     EXPECT_EQ(table.getWifiDevice(), QString());
@@ -269,7 +269,7 @@ TEST_F(DeviceQueries, WithoutWifiTheWifiDeviceIsEmptyAndNothingIsForcedToTheFron
     EXPECT_TRUE(table.sortedDevicesArray().isEmpty());
 }
 
-TEST_F(DeviceQueries, ListsShowWifiFirstThenEthernetThenBridges)
+TEST_F(DeviceTableQueries, ListsShowWifiFirstThenEthernetThenBridges)
 {
     store({{QStringLiteral("bridge0"), wired()}, {QStringLiteral("en2"), wired()},
         {QStringLiteral("en1"), wifi()}, {QStringLiteral("en0"), wired()}});
@@ -278,7 +278,7 @@ TEST_F(DeviceQueries, ListsShowWifiFirstThenEthernetThenBridges)
                                               QStringLiteral("en2"), QStringLiteral("bridge0")}));
 }
 
-TEST_F(DeviceQueries, ListsSortByCharacterAndPutOneWifiInFront)
+TEST_F(DeviceTableQueries, ListsSortByCharacterAndPutOneWifiInFront)
 {
     store({{QStringLiteral("wlp2s0"), wifi()}, {QStringLiteral("wlp1s0"), wifi()},
         {QStringLiteral("eth0"), wired()}, {QStringLiteral("enp1s0"), wired()},
@@ -319,7 +319,7 @@ private:
     std::atomic_bool m_crowded{false};
 };
 
-TEST_F(DeviceQueries, FromManyThreadsReachTheHostOneAtATime)
+TEST_F(DeviceTableQueries, FromManyThreadsReachTheHostOneAtATime)
 {
     TouchyHost touchy;
     DeviceTable shared(settings, touchy, addresses);

@@ -25,14 +25,14 @@ QString firstOctetByNumerals(int r)
     return QString::asprintf("%X", static_cast<unsigned>(value));
 }
 
-TEST(RandomFirstOctet, FollowsTheNumeralForEveryByte)
+TEST(RandomAddressFirstOctet, FollowsTheNumeralForEveryByte)
 {
     for (int r = 0; r < 256; ++r) {
         EXPECT_EQ(randomFirstOctet(static_cast<quint8>(r)), firstOctetByNumerals(r)) << "r = " << r;
     }
 }
 
-TEST(RandomFirstOctet, IsLocallyAdministeredAndUnicastForEveryByte)
+TEST(RandomAddressFirstOctet, IsLocallyAdministeredAndUnicastForEveryByte)
 {
     for (int r = 0; r < 256; ++r) {
         const int octet = randomFirstOctet(static_cast<quint8>(r)).toInt(nullptr, 16);
@@ -41,7 +41,7 @@ TEST(RandomFirstOctet, IsLocallyAdministeredAndUnicastForEveryByte)
     }
 }
 
-TEST(RandomFirstOctet, IsUnevenByDesign)
+TEST(RandomAddressFirstOctet, IsUnevenByDesign)
 {
     EXPECT_EQ(randomFirstOctet(255), QLatin1String("FE"));
     EXPECT_EQ(randomFirstOctet(128), QLatin1String("82"));
@@ -52,7 +52,7 @@ TEST(RandomFirstOctet, IsUnevenByDesign)
     EXPECT_EQ(randomFirstOctet(4), QLatin1String("12"));
 }
 
-TEST(RandomFirstOctet, IsASingleDigitForTheFourSmallestBytes)
+TEST(RandomAddressFirstOctet, IsASingleDigitForTheFourSmallestBytes)
 {
     EXPECT_EQ(randomFirstOctet(0), QLatin1String("2"));
     EXPECT_EQ(randomFirstOctet(1), QLatin1String("6"));
@@ -80,32 +80,32 @@ TEST(RandomAddressText, NeedsSixBytes)
     EXPECT_EQ(randomAddressText(QByteArray::fromHex("01020304050607")), QString());
 }
 
-TEST(VendorPrefix, IsWhatStandsBetweenTheParentheses)
+TEST(RandomAddressVendorPrefix, IsWhatStandsBetweenTheParentheses)
 {
     EXPECT_EQ(vendorPrefix(QStringLiteral("Some Maker Inc. (A1B2C3)")), QStringLiteral("A1B2C3"));
     EXPECT_EQ(vendorPrefix(QStringLiteral("Some (Old) Maker (a1b2c3)")), QStringLiteral("a1b2c3"));
 }
 
-TEST(VendorPrefix, IsNoneWithoutParenthesis)
+TEST(RandomAddressVendorPrefix, IsNoneWithoutParenthesis)
 {
     EXPECT_EQ(vendorPrefix(QStringLiteral("Random Address")), std::nullopt);
     EXPECT_EQ(vendorPrefix(QString()), std::nullopt);
     EXPECT_EQ(vendorPrefix(QStringLiteral("A1B2C3)")), std::nullopt);
 }
 
-TEST(VendorPrefix, OfAMalformedChoiceIsWhatThereIs)
+TEST(RandomAddressVendorPrefix, OfAMalformedChoiceIsWhatThereIs)
 {
     EXPECT_EQ(vendorPrefix(QStringLiteral("(")), QString());
     EXPECT_EQ(vendorPrefix(QStringLiteral("(A)")), QStringLiteral("(A"));
 }
 
-TEST(AddressWithPrefix, TakesTheAddressFromItsNinthCharacterOn)
+TEST(RandomAddressWithPrefix, TakesTheAddressFromItsNinthCharacterOn)
 {
     EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("C2:AB:CD:EF:00:09")),
         QLatin1String("A1:B2:C3:EF:00:09"));
 }
 
-TEST(AddressWithPrefix, LacksAColonWhenTheAddressHasSixteenCharacters)
+TEST(RandomAddressWithPrefix, LacksAColonWhenTheAddressHasSixteenCharacters)
 {
     const QString malformed =
         addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("2:AB:CD:EF:01:23"));
@@ -114,7 +114,7 @@ TEST(AddressWithPrefix, LacksAColonWhenTheAddressHasSixteenCharacters)
     EXPECT_FALSE(isStringValidHEX(malformed));
 }
 
-TEST(AddressWithPrefix, SurvivesTextsThatAreTooShort)
+TEST(RandomAddressWithPrefix, SurvivesTextsThatAreTooShort)
 {
     EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QString()), QLatin1String("A1:B2:C3"));
     EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("2:AB")),

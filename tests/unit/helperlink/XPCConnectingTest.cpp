@@ -5,17 +5,17 @@
 namespace quillon::test {
 namespace {
 
-class Authorisation : public HelperLinkFixture
+class XPCConnectingAuthorization : public HelperLinkFixture
 {
 };
 
-TEST_F(Authorisation, IsMadeOnceAndTheServiceIsAskedForTheRights)
+TEST_F(XPCConnectingAuthorization, IsMadeOnceAndTheServiceIsAskedForTheRights)
 {
     EXPECT_EQ(journalOf([this] { xpc->authorizeHelperTool(true); }),
         (QStringList{QStringLiteral("authorize"), serviceMade, QStringLiteral("rights")}));
 }
 
-TEST_F(Authorisation, IsReplacedByTheDataThatCameWithTheEndpoint)
+TEST_F(XPCConnectingAuthorization, IsReplacedByTheDataThatCameWithTheEndpoint)
 {
     xpc->authorizeHelperTool(true);
     change();
@@ -29,7 +29,7 @@ TEST_F(Authorisation, IsReplacedByTheDataThatCameWithTheEndpoint)
     EXPECT_NE(helper.changes().at(1).authorization, helper.changes().at(0).authorization);
 }
 
-class Connecting : public HelperLinkFixture
+class XPCConnectingTest : public HelperLinkFixture
 {
 protected:
     void execute()
@@ -42,7 +42,7 @@ protected:
     }
 };
 
-TEST_F(Connecting, ToTheServiceHappensOnce)
+TEST_F(XPCConnectingTest, ToTheServiceHappensOnce)
 {
     EXPECT_EQ(journalOf([this] {
         xpc->connectToXPCService();
@@ -51,7 +51,7 @@ TEST_F(Connecting, ToTheServiceHappensOnce)
         QStringList{serviceMade});
 }
 
-TEST_F(Connecting, ToTheHelperHappensOncePerConnection)
+TEST_F(XPCConnectingTest, ToTheHelperHappensOncePerConnection)
 {
     EXPECT_EQ(journalOf([this] {
         xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
@@ -60,7 +60,7 @@ TEST_F(Connecting, ToTheHelperHappensOncePerConnection)
         QStringList{QStringLiteral("helper :1.7")});
 }
 
-TEST_F(Connecting, GoesThroughTheServiceToTheEndpointAndExecutesOnTheMainThread)
+TEST_F(XPCConnectingTest, GoesThroughTheServiceToTheEndpointAndExecutesOnTheMainThread)
 {
     EXPECT_EQ(journalOf([this] { execute(); }),
         (QStringList{serviceMade, QStringLiteral("endpoint"), QStringLiteral("helper :1.1")}));
@@ -68,7 +68,7 @@ TEST_F(Connecting, GoesThroughTheServiceToTheEndpointAndExecutesOnTheMainThread)
     EXPECT_TRUE(repliedOnMainThread);
 }
 
-TEST_F(Connecting, KeepsTheServiceButMakesAFreshHelperConnectionEveryTime)
+TEST_F(XPCConnectingTest, KeepsTheServiceButMakesAFreshHelperConnectionEveryTime)
 {
     execute();
     scheduler.runPending();
@@ -77,7 +77,7 @@ TEST_F(Connecting, KeepsTheServiceButMakesAFreshHelperConnectionEveryTime)
     EXPECT_EQ(helper.liveHelperConnections(), 1);
 }
 
-TEST_F(Connecting, WithoutEndpointIsPosixError25)
+TEST_F(XPCConnectingTest, WithoutEndpointIsPosixError25)
 {
     helper.installed = false;
     EXPECT_EQ(
@@ -86,7 +86,7 @@ TEST_F(Connecting, WithoutEndpointIsPosixError25)
     EXPECT_TRUE(repliedOnMainThread);
 }
 
-TEST_F(Connecting, WithoutServiceIsTheErrorOfTheConnectionOnTheMainThread)
+TEST_F(XPCConnectingTest, WithoutServiceIsTheErrorOfTheConnectionOnTheMainThread)
 {
     helper.serviceExists = false;
     execute();
@@ -95,7 +95,7 @@ TEST_F(Connecting, WithoutServiceIsTheErrorOfTheConnectionOnTheMainThread)
     EXPECT_TRUE(repliedOnMainThread);
 }
 
-TEST_F(Connecting, ToAServiceThatHangsHangsNobodyAndEndsInAnError)
+TEST_F(XPCConnectingTest, ToAServiceThatHangsHangsNobodyAndEndsInAnError)
 {
     helper.serviceHangs = true;
     execute();
@@ -106,7 +106,7 @@ TEST_F(Connecting, ToAServiceThatHangsHangsNobodyAndEndsInAnError)
     EXPECT_EQ(texts, QStringList{QStringLiteral("BusErrorDomain 0")});
 }
 
-TEST_F(Connecting, ExecutesOnceWhenTheServiceAnswersTwice)
+TEST_F(XPCConnectingTest, ExecutesOnceWhenTheServiceAnswersTwice)
 {
     helper.answersTwice = true;
     execute();
@@ -114,7 +114,7 @@ TEST_F(Connecting, ExecutesOnceWhenTheServiceAnswersTwice)
     EXPECT_EQ(texts.size(), 1);
 }
 
-TEST_F(Connecting, AnewAfterTheServiceWentAndSaysSo)
+TEST_F(XPCConnectingTest, AnewAfterTheServiceWentAndSaysSo)
 {
     xpc->connectToXPCService();
     EXPECT_EQ(logOf([this] { helper.dropService(); }),
@@ -122,7 +122,7 @@ TEST_F(Connecting, AnewAfterTheServiceWentAndSaysSo)
     EXPECT_EQ(journalOf([this] { xpc->connectToXPCService(); }), QStringList{serviceMade});
 }
 
-TEST_F(Connecting, AnewAfterTheHelperWentAndSaysSo)
+TEST_F(XPCConnectingTest, AnewAfterTheHelperWentAndSaysSo)
 {
     xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
     EXPECT_EQ(logOf([this] { helper.dropHelper(); }),
@@ -132,7 +132,7 @@ TEST_F(Connecting, AnewAfterTheHelperWentAndSaysSo)
         QStringList{QStringLiteral("helper :1.8")});
 }
 
-TEST_F(Connecting, IsUndoneOnTheMainThreadOnly)
+TEST_F(XPCConnectingTest, IsUndoneOnTheMainThreadOnly)
 {
     xpc->connectToXPCService();
     helper.dropService();
@@ -141,7 +141,7 @@ TEST_F(Connecting, IsUndoneOnTheMainThreadOnly)
     EXPECT_TRUE(helper.journal().isEmpty()) << "the main loop has not heard of it yet";
 }
 
-TEST_F(Connecting, AConnectionMadeMeanwhileSurvivesTheEndOfTheOldOne)
+TEST_F(XPCConnectingTest, AConnectionMadeMeanwhileSurvivesTheEndOfTheOldOne)
 {
     // A call under way keeps the first connection beyond the second sequence.
     helper.mood = FakeHelper::Mood::Hanging;
@@ -157,7 +157,7 @@ TEST_F(Connecting, AConnectionMadeMeanwhileSurvivesTheEndOfTheOldOne)
         QStringList());
 }
 
-TEST_F(Connecting, DoesNotCutOffACallThatIsUnderWay)
+TEST_F(XPCConnectingTest, DoesNotCutOffACallThatIsUnderWay)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     xpc->getVersionOfHelperToolwithReply(keepText());
@@ -172,7 +172,7 @@ TEST_F(Connecting, DoesNotCutOffACallThatIsUnderWay)
     EXPECT_EQ(helper.liveHelperConnections(), 1);
 }
 
-TEST_F(Connecting, IsForgottenWhenTheLinkGoesMeanwhile)
+TEST_F(XPCConnectingTest, IsForgottenWhenTheLinkGoesMeanwhile)
 {
     execute();
     xpc.reset();
@@ -180,7 +180,7 @@ TEST_F(Connecting, IsForgottenWhenTheLinkGoesMeanwhile)
     EXPECT_TRUE(texts.isEmpty());
 }
 
-TEST_F(Connecting, InvalidatedAfterTheLinkHasGoneDoesNoHarm)
+TEST_F(XPCConnectingTest, InvalidatedAfterTheLinkHasGoneDoesNoHarm)
 {
     xpc->connectToXPCService();
     xpc->installHelperToolwithReply(keepSuccess());

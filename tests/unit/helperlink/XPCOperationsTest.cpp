@@ -5,14 +5,14 @@
 namespace quillon::test {
 namespace {
 
-class Installing : public HelperLinkFixture
+class XPCOperationsInstalling : public HelperLinkFixture
 {
 protected:
-    Installing() { helper.installed = false; }
+    XPCOperationsInstalling() { helper.installed = false; }
     void install() { xpc->installHelperToolwithReply(keepSuccess()); }
 };
 
-TEST_F(Installing, IsToldAndLogged)
+TEST_F(XPCOperationsInstalling, IsToldAndLogged)
 {
     EXPECT_EQ(logOf([this] { install(); }),
         QStringList{line("Quillon4HelperTool successfully installed\n")});
@@ -21,7 +21,7 @@ TEST_F(Installing, IsToldAndLogged)
     EXPECT_EQ(helper.journal(), (QStringList{serviceMade, QStringLiteral("install")}));
 }
 
-TEST_F(Installing, ThatFailsLogsTheError)
+TEST_F(XPCOperationsInstalling, ThatFailsLogsTheError)
 {
     helper.installFails = true;
     EXPECT_EQ(logOf([this] { install(); }),
@@ -29,27 +29,27 @@ TEST_F(Installing, ThatFailsLogsTheError)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Installing, WithoutServiceFails)
+TEST_F(XPCOperationsInstalling, WithoutServiceFails)
 {
     helper.serviceExists = false;
     EXPECT_EQ(logOf([this] { install(); }), QStringList{line("error BusErrorDomain / 0\n")});
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Installing, IsToldOnceWhenTheServiceAnswersTwice)
+TEST_F(XPCOperationsInstalling, IsToldOnceWhenTheServiceAnswersTwice)
 {
     helper.answersTwice = true;
     EXPECT_EQ(logOf([this] { install(); }).size(), 1);
     EXPECT_EQ(successes, QList<bool>{true});
 }
 
-class Version : public HelperLinkFixture
+class XPCOperationsVersion : public HelperLinkFixture
 {
 protected:
     void ask() { xpc->getVersionOfHelperToolwithReply(keepText()); }
 };
 
-TEST_F(Version, IsWhatTheHelperAnswers)
+TEST_F(XPCOperationsVersion, IsWhatTheHelperAnswers)
 {
     EXPECT_EQ(XPCMethods::helperToolVersion(), QLatin1String("2.0"));
     helper.version = QStringLiteral("2.0");
@@ -58,21 +58,21 @@ TEST_F(Version, IsWhatTheHelperAnswers)
     EXPECT_FALSE(repliedOnMainThread);
 }
 
-TEST_F(Version, WithoutServiceIsAnErrorText)
+TEST_F(XPCOperationsVersion, WithoutServiceIsAnErrorText)
 {
     helper.serviceExists = false;
     EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error BusErrorDomain / 0\n")});
     EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
 }
 
-TEST_F(Version, WithoutEndpointIsAnErrorText)
+TEST_F(XPCOperationsVersion, WithoutEndpointIsAnErrorText)
 {
     helper.installed = false;
     EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
     EXPECT_EQ(texts, QStringList{QStringLiteral("error POSIXErrorDomain / 25\n")});
 }
 
-TEST_F(Version, OfAHelperThatHangsIsAnErrorText)
+TEST_F(XPCOperationsVersion, OfAHelperThatHangsIsAnErrorText)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     ask();
@@ -82,7 +82,7 @@ TEST_F(Version, OfAHelperThatHangsIsAnErrorText)
     EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
 }
 
-TEST_F(Version, IsToldOnceWhenTheHelperAnswersTwice)
+TEST_F(XPCOperationsVersion, IsToldOnceWhenTheHelperAnswersTwice)
 {
     helper.answersTwice = true;
     ask();
@@ -90,11 +90,11 @@ TEST_F(Version, IsToldOnceWhenTheHelperAnswersTwice)
     EXPECT_EQ(texts.size(), 1);
 }
 
-class Changing : public HelperLinkFixture
+class XPCOperationsChanging : public HelperLinkFixture
 {
 };
 
-TEST_F(Changing, ReachesTheMachine)
+TEST_F(XPCOperationsChanging, ReachesTheMachine)
 {
     EXPECT_TRUE(logOf([this] { change(); }).isEmpty());
     EXPECT_EQ(successes, QList<bool>{true});
@@ -103,7 +103,7 @@ TEST_F(Changing, ReachesTheMachine)
     EXPECT_TRUE(helper.changes().at(0).deviceIsWiFi);
 }
 
-TEST_F(Changing, ThatTheHelperRefusesIsLoggedAndFails)
+TEST_F(XPCOperationsChanging, ThatTheHelperRefusesIsLoggedAndFails)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     EXPECT_EQ(logOf([this] { change(); }),
@@ -111,7 +111,7 @@ TEST_F(Changing, ThatTheHelperRefusesIsLoggedAndFails)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Changing, WithoutEndpointFailsWithPosixError25)
+TEST_F(XPCOperationsChanging, WithoutEndpointFailsWithPosixError25)
 {
     helper.installed = false;
     EXPECT_EQ(logOf([this] { change(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
@@ -119,7 +119,7 @@ TEST_F(Changing, WithoutEndpointFailsWithPosixError25)
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
-TEST_F(Changing, ThroughAConnectionThatDropsFails)
+TEST_F(XPCOperationsChanging, ThroughAConnectionThatDropsFails)
 {
     helper.mood = FakeHelper::Mood::Dropping;
     const QStringList log = logOf([this] { change(); });
@@ -128,7 +128,7 @@ TEST_F(Changing, ThroughAConnectionThatDropsFails)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Changing, WithAHelperThatHangsFailsInTheEnd)
+TEST_F(XPCOperationsChanging, WithAHelperThatHangsFailsInTheEnd)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change();
@@ -139,7 +139,7 @@ TEST_F(Changing, WithAHelperThatHangsFailsInTheEnd)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Changing, IsToldOnceWhenTheHelperAnswersTwice)
+TEST_F(XPCOperationsChanging, IsToldOnceWhenTheHelperAnswersTwice)
 {
     helper.answersTwice = true;
     change();
@@ -148,7 +148,7 @@ TEST_F(Changing, IsToldOnceWhenTheHelperAnswersTwice)
     EXPECT_EQ(helper.changes().size(), 1);
 }
 
-TEST_F(Changing, IsNotCutOffByTheNextOperation)
+TEST_F(XPCOperationsChanging, IsNotCutOffByTheNextOperation)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change();
@@ -164,7 +164,7 @@ TEST_F(Changing, IsNotCutOffByTheNextOperation)
     EXPECT_EQ(helper.liveHelperConnections(), 1);
 }
 
-TEST_F(Changing, SurvivesTheEndOfTheLinkWhileTheHelperWorks)
+TEST_F(XPCOperationsChanging, SurvivesTheEndOfTheLinkWhileTheHelperWorks)
 {
     helper.mood = FakeHelper::Mood::Hanging;
     change();
@@ -175,13 +175,13 @@ TEST_F(Changing, SurvivesTheEndOfTheLinkWhileTheHelperWorks)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-class Uninstalling : public HelperLinkFixture
+class XPCOperationsUninstalling : public HelperLinkFixture
 {
 protected:
     void uninstall() { xpc->uninstallHelperToolwithReply(keepSuccess()); }
 };
 
-TEST_F(Uninstalling, IsToldAndLogged)
+TEST_F(XPCOperationsUninstalling, IsToldAndLogged)
 {
     EXPECT_EQ(logOf([this] { uninstall(); }),
         QStringList{line("Quillon4HelperTool successfully uninstalled\n")});
@@ -190,7 +190,7 @@ TEST_F(Uninstalling, IsToldAndLogged)
     EXPECT_FALSE(helper.installed);
 }
 
-TEST_F(Uninstalling, ThatTheHelperRefusesIsLoggedAndFails)
+TEST_F(XPCOperationsUninstalling, ThatTheHelperRefusesIsLoggedAndFails)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     EXPECT_EQ(logOf([this] { uninstall(); }),
@@ -198,7 +198,7 @@ TEST_F(Uninstalling, ThatTheHelperRefusesIsLoggedAndFails)
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Uninstalling, ThroughAConnectionThatDropsIsASuccess)
+TEST_F(XPCOperationsUninstalling, ThroughAConnectionThatDropsIsASuccess)
 {
     helper.mood = FakeHelper::Mood::Dropping;
     QStringList log = logOf([this] { uninstall(); });
@@ -208,14 +208,14 @@ TEST_F(Uninstalling, ThroughAConnectionThatDropsIsASuccess)
     EXPECT_EQ(successes, QList<bool>{true});
 }
 
-TEST_F(Uninstalling, WithoutEndpointFails)
+TEST_F(XPCOperationsUninstalling, WithoutEndpointFails)
 {
     helper.installed = false;
     EXPECT_EQ(logOf([this] { uninstall(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
     EXPECT_EQ(successes, QList<bool>{false});
 }
 
-TEST_F(Uninstalling, IsToldOnceWhenTheHelperAnswersTwice)
+TEST_F(XPCOperationsUninstalling, IsToldOnceWhenTheHelperAnswersTwice)
 {
     helper.answersTwice = true;
     EXPECT_EQ(logOf([this] { uninstall(); }).size(), 1);

@@ -7,14 +7,14 @@
 namespace quillon::test {
 namespace {
 
-class OneConnection : public HistoryFixture
+class ConnectionTest : public HistoryFixture
 {
 protected:
     ManagedObjectPtr record = context().insertNewObject(QStringLiteral("Connection"));
     Connection connection{record};
 };
 
-TEST_F(OneConnection, ReadsEmptyBeforeAnythingIsSet)
+TEST_F(ConnectionTest, ReadsEmptyBeforeAnythingIsSet)
 {
     EXPECT_FALSE(connection.date().isValid());
     EXPECT_EQ(connection.device(), QString());
@@ -25,7 +25,7 @@ TEST_F(OneConnection, ReadsEmptyBeforeAnythingIsSet)
     EXPECT_EQ(connection.notes(), QString());
 }
 
-TEST_F(OneConnection, KeepsEachAttributeUnderItsName)
+TEST_F(ConnectionTest, KeepsEachAttributeUnderItsName)
 {
     const QDateTime date = QDateTime::fromMSecsSinceEpoch(1'750'000'000'123, Qt::UTC);
     connection.setDate(date);
@@ -54,7 +54,7 @@ TEST_F(OneConnection, KeepsEachAttributeUnderItsName)
     EXPECT_EQ(connection.notes(), QStringLiteral("notes"));
 }
 
-TEST_F(OneConnection, IsFetchedByItsEntity)
+TEST_F(ConnectionTest, IsFetchedByItsEntity)
 {
     EXPECT_EQ(Connection::fetchRequest().entity, QStringLiteral("Connection"));
     EXPECT_EQ(recordsOf(context()).first().record(), record);

@@ -12,7 +12,7 @@ namespace quillon::test {
 namespace {
 
 /// The road from a request to the file, with the history connected as the program connects it.
-class HistoryOfChanges : public AddressChange
+class HistoryOfChanges : public AddressChangeFixture
 {
 protected:
     HistoryOfChanges()

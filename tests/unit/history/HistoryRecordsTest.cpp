@@ -12,7 +12,7 @@
 namespace quillon::test {
 namespace {
 
-class History : public HistoryFixture
+class HistoryRecordsTest : public HistoryFixture
 {
 protected:
     Connection onlyRecord()
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(History, TellsWhatHappenedOnAWiredPort)
+TEST_F(HistoryRecordsTest, TellsWhatHappenedOnAWiredPort)
 {
     const QDateTime now = scheduler.now();
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
@@ -41,7 +41,7 @@ TEST_F(History, TellsWhatHappenedOnAWiredPort)
     EXPECT_FALSE(made.record()->value(QStringLiteral("notes")).isValid());
 }
 
-TEST_F(History, NeverTellsTheWiFiNetworkOfAWiredPort)
+TEST_F(HistoryRecordsTest, NeverTellsTheWiFiNetworkOfAWiredPort)
 {
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     const Connection made = onlyRecord();
@@ -49,7 +49,7 @@ TEST_F(History, NeverTellsTheWiFiNetworkOfAWiredPort)
     EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
 }
 
-TEST_F(History, TellsTheNetworkOfTheWiFiPort)
+TEST_F(HistoryRecordsTest, TellsTheNetworkOfTheWiFiPort)
 {
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
     const Connection made = onlyRecord();
@@ -58,7 +58,7 @@ TEST_F(History, TellsTheNetworkOfTheWiFiPort)
     EXPECT_EQ(made.bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
 }
 
-TEST_F(History, TellsTheAccessPointInLowerCase)
+TEST_F(HistoryRecordsTest, TellsTheAccessPointInLowerCase)
 {
     join(QStringLiteral("HOME"), QStringLiteral("A4:2B:B0:11:22:33"));
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
@@ -66,7 +66,7 @@ TEST_F(History, TellsTheAccessPointInLowerCase)
     EXPECT_EQ(onlyRecord().ssid(), QStringLiteral("HOME"));
 }
 
-TEST_F(History, TellsNoNetworkWhileTheWiFiPortIsOnNone)
+TEST_F(HistoryRecordsTest, TellsNoNetworkWhileTheWiFiPortIsOnNone)
 {
     join(QString(), QString());
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
@@ -75,7 +75,7 @@ TEST_F(History, TellsNoNetworkWhileTheWiFiPortIsOnNone)
     EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
 }
 
-TEST_F(History, TellsAlsoOfADeviceThatIsNotKnown)
+TEST_F(HistoryRecordsTest, TellsAlsoOfADeviceThatIsNotKnown)
 {
     history->addHistoryItemForDeviceWithNewAddress(QStringLiteral("en9"), address);
     const Connection made = onlyRecord();
@@ -86,7 +86,7 @@ TEST_F(History, TellsAlsoOfADeviceThatIsNotKnown)
     }
 }
 
-TEST_F(History, TakesOnlyThePortThatIsExactlyWiFiForWiFi)
+TEST_F(HistoryRecordsTest, TakesOnlyThePortThatIsExactlyWiFiForWiFi)
 {
     for (const char *port : {"wi-fi", "Wi-Fi 2", "WiFi"}) {
         storeRecord(wifi, {{record::interface, QString::fromLatin1(port)}});
@@ -99,7 +99,7 @@ TEST_F(History, TakesOnlyThePortThatIsExactlyWiFiForWiFi)
     }
 }
 
-TEST_F(History, IsInTheFileAtOnce)
+TEST_F(HistoryRecordsTest, IsInTheFileAtOnce)
 {
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
     EXPECT_FALSE(context().hasChanges());
@@ -112,14 +112,14 @@ TEST_F(History, IsInTheFileAtOnce)
     EXPECT_EQ(found.first().ssid(), QStringLiteral("Home"));
 }
 
-TEST_F(History, SavesWhatElseIsPending)
+TEST_F(HistoryRecordsTest, SavesWhatElseIsPending)
 {
     const ManagedObjectPtr rule = context().insertNewObject(QStringLiteral("Rule"));
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     EXPECT_FALSE(rule->hasChanges());
 }
 
-TEST_F(History, IsNoEditThatCouldBeUndone)
+TEST_F(HistoryRecordsTest, IsNoEditThatCouldBeUndone)
 {
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     context().processPendingChanges();
@@ -134,7 +134,7 @@ TEST_F(History, IsNoEditThatCouldBeUndone)
     EXPECT_EQ(onlyRecord().address(), address);
 }
 
-TEST_F(History, IsToldToThoseWhoShowIt)
+TEST_F(HistoryRecordsTest, IsToldToThoseWhoShowIt)
 {
     qsizetype inserted = 0;
     QObject::connect(records.get(), &RecordStore::objectsDidChange,
@@ -144,7 +144,7 @@ TEST_F(History, IsToldToThoseWhoShowIt)
     EXPECT_EQ(inserted, 1);
 }
 
-TEST_F(History, KeepsARecordThatCannotBeSavedForTheNextTime)
+TEST_F(HistoryRecordsTest, KeepsARecordThatCannotBeSavedForTheNextTime)
 {
     context();
     change("ALTER TABLE Connection RENAME TO Away");
@@ -161,7 +161,7 @@ TEST_F(History, KeepsARecordThatCannotBeSavedForTheNextTime)
     EXPECT_EQ(recordsOf(context()).size(), 2);
 }
 
-TEST_F(History, TakesTheFactsAtOnceOnAnotherThread)
+TEST_F(HistoryRecordsTest, TakesTheFactsAtOnceOnAnotherThread)
 {
     const QDateTime moment = scheduler.now();
     scheduler.asBackground([&] { history->addHistoryItemForDeviceWithNewAddress(wifi, address); });
@@ -177,13 +177,13 @@ TEST_F(History, TakesTheFactsAtOnceOnAnotherThread)
     EXPECT_FALSE(context().hasChanges());
 }
 
-TEST_F(History, RecordsInTheCallersTurnOnTheMainThread)
+TEST_F(HistoryRecordsTest, RecordsInTheCallersTurnOnTheMainThread)
 {
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
     EXPECT_EQ(recordsOf(context()).size(), 1);
 }
 
-TEST_F(History, MayBeGoneWhenAnotherThreadsRecordIsDue)
+TEST_F(HistoryRecordsTest, MayBeGoneWhenAnotherThreadsRecordIsDue)
 {
     scheduler.asBackground([&] { history->addHistoryItemForDeviceWithNewAddress(wifi, address); });
     history.reset();
@@ -191,7 +191,7 @@ TEST_F(History, MayBeGoneWhenAnotherThreadsRecordIsDue)
     EXPECT_TRUE(recordsOf(context()).isEmpty());
 }
 
-TEST_F(History, PassesOverSettingsThatAreNone)
+TEST_F(HistoryRecordsTest, PassesOverSettingsThatAreNone)
 {
     for (const QVariant &hostile : {QVariant(QStringLiteral("text")), QVariant(QVariantList{1}),
              QVariant(QVariantMap{{wifirecord::SSID, 5}, {wifirecord::BSSID, QVariantMap{}}})}) {
@@ -214,7 +214,7 @@ TEST_F(History, PassesOverSettingsThatAreNone)
     EXPECT_EQ(made.last().interface(), QString());
 }
 
-TEST_F(History, AsAnArrayIsAnEntityThatDoesNotExist)
+TEST_F(HistoryRecordsTest, AsAnArrayIsAnEntityThatDoesNotExist)
 {
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     const LogCapture log;

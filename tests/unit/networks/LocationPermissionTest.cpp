@@ -16,10 +16,10 @@ namespace {
 using Status = LocationAuthorization::Status;
 using namespace std::chrono_literals;
 
-class Permission : public NetworkFixture
+class LocationPermissionTest : public NetworkFixture
 {
 protected:
-    Permission()
+    LocationPermissionTest()
         : permission(std::make_unique<LocationPermission>(LocationPermission::Collaborators{
               scheduler, authorization, alerts, systemSettings, network}))
     {
@@ -43,7 +43,7 @@ protected:
     int foundDisabled = 0;
 };
 
-TEST_F(Permission, IsAskedForOneSecondAfterTheStart)
+TEST_F(LocationPermissionTest, IsAskedForOneSecondAfterTheStart)
 {
     permission->requestNetworkPermissions();
     EXPECT_FALSE(authorization.delegate.didChangeAuthorization) << "not in the caller's turn";
@@ -57,7 +57,7 @@ TEST_F(Permission, IsAskedForOneSecondAfterTheStart)
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
 
-TEST_F(Permission, IsAskedForFromTheWindowWhenServicesAreOff)
+TEST_F(LocationPermissionTest, IsAskedForFromTheWindowWhenServicesAreOff)
 {
     authorization.enabled = false;
     ask();
@@ -66,7 +66,7 @@ TEST_F(Permission, IsAskedForFromTheWindowWhenServicesAreOff)
     EXPECT_EQ(authorization.requests, 1);
 }
 
-TEST_F(Permission, RefreshesTheNetworkAtEveryAnswer)
+TEST_F(LocationPermissionTest, RefreshesTheNetworkAtEveryAnswer)
 {
     ask();
     int reads = radio.reads;
@@ -77,7 +77,7 @@ TEST_F(Permission, RefreshesTheNetworkAtEveryAnswer)
     }
 }
 
-TEST_F(Permission, ShowsTheNetworkOnceItIsGiven)
+TEST_F(LocationPermissionTest, ShowsTheNetworkOnceItIsGiven)
 {
     const WiFiInterface visible = *radio.interface;
     radio.leave();
@@ -91,7 +91,7 @@ TEST_F(Permission, ShowsTheNetworkOnceItIsGiven)
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
 
-TEST_F(Permission, ExplainsARefusalOneSecondLater)
+TEST_F(LocationPermissionTest, ExplainsARefusalOneSecondLater)
 {
     ask();
     authorization.answer(Status::Denied);
@@ -108,7 +108,7 @@ TEST_F(Permission, ExplainsARefusalOneSecondLater)
     EXPECT_EQ(alerts.alerts, QList<Alert>{expected});
 }
 
-TEST_F(Permission, ExplainsOnlyARefusal)
+TEST_F(LocationPermissionTest, ExplainsOnlyARefusal)
 {
     ask();
     for (const Status status : {Status::NotDetermined, Status::Restricted, Status::Authorized}) {
@@ -118,7 +118,7 @@ TEST_F(Permission, ExplainsOnlyARefusal)
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
 
-TEST_F(Permission, ExplainsTheFailureThatMeansARefusal)
+TEST_F(LocationPermissionTest, ExplainsTheFailureThatMeansARefusal)
 {
     ask();
     const int reads = radio.reads;
@@ -128,7 +128,7 @@ TEST_F(Permission, ExplainsTheFailureThatMeansARefusal)
     EXPECT_EQ(radio.reads, reads) << "a failure is no change of the authorisation";
 }
 
-TEST_F(Permission, IgnoresOtherFailures)
+TEST_F(LocationPermissionTest, IgnoresOtherFailures)
 {
     ask();
     for (const int code : {-1, 0, 2, 3, 16}) {
@@ -138,7 +138,7 @@ TEST_F(Permission, IgnoresOtherFailures)
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
 
-TEST_F(Permission, DeniedTwiceInARowShowsOneAlert)
+TEST_F(LocationPermissionTest, DeniedTwiceInARowShowsOneAlert)
 {
     ask();
     authorization.answer(Status::Denied);
@@ -149,7 +149,7 @@ TEST_F(Permission, DeniedTwiceInARowShowsOneAlert)
     EXPECT_EQ(alerts.alerts.size(), 1);
 }
 
-TEST_F(Permission, DeniedWhileTheAlertIsOpenShowsNoSecondOne)
+TEST_F(LocationPermissionTest, DeniedWhileTheAlertIsOpenShowsNoSecondOne)
 {
     ask();
     alerts.whileShown = [this] {
@@ -162,7 +162,7 @@ TEST_F(Permission, DeniedWhileTheAlertIsOpenShowsNoSecondOne)
     EXPECT_EQ(alerts.alerts.size(), 1);
 }
 
-TEST_F(Permission, DeniedAgainAfterTheAlertShowsAnother)
+TEST_F(LocationPermissionTest, DeniedAgainAfterTheAlertShowsAnother)
 {
     ask();
     authorization.answer(Status::Denied);
@@ -172,7 +172,7 @@ TEST_F(Permission, DeniedAgainAfterTheAlertShowsAnother)
     EXPECT_EQ(alerts.alerts.size(), 2);
 }
 
-TEST_F(Permission, OpensTheSystemSettingsWhenTheUserWantsThat)
+TEST_F(LocationPermissionTest, OpensTheSystemSettingsWhenTheUserWantsThat)
 {
     ask();
     alerts.answer = open;
@@ -184,7 +184,7 @@ TEST_F(Permission, OpensTheSystemSettingsWhenTheUserWantsThat)
     EXPECT_EQ(systemSettings.locationServicesOpened, 1);
 }
 
-TEST_F(Permission, CancelledOpensNothing)
+TEST_F(LocationPermissionTest, CancelledOpensNothing)
 {
     ask();
     authorization.answer(Status::Denied);
@@ -193,7 +193,7 @@ TEST_F(Permission, CancelledOpensNothing)
     EXPECT_EQ(systemSettings.locationServicesOpened, 0);
 }
 
-TEST_F(Permission, MayGoBeforeItAsks)
+TEST_F(LocationPermissionTest, MayGoBeforeItAsks)
 {
     permission->requestNetworkPermissions();
     permission.reset();
@@ -201,7 +201,7 @@ TEST_F(Permission, MayGoBeforeItAsks)
     EXPECT_EQ(authorization.requests, 0);
 }
 
-TEST_F(Permission, MayGoBeforeItsAlertComes)
+TEST_F(LocationPermissionTest, MayGoBeforeItsAlertComes)
 {
     ask();
     authorization.answer(Status::Denied);
@@ -216,7 +216,7 @@ TEST_F(Permission, MayGoBeforeItsAlertComes)
     EXPECT_EQ(authorization.requests, 0);
 }
 
-TEST_F(Permission, MayGoWhileItsAlertIsOpen)
+TEST_F(LocationPermissionTest, MayGoWhileItsAlertIsOpen)
 {
     ask();
     alerts.answer = open;
@@ -233,7 +233,7 @@ public:
     bool openLocationServices() override { return false; }
 };
 
-TEST_F(Permission, LogsThatThereIsNoSettingsProgram)
+TEST_F(LocationPermissionTest, LogsThatThereIsNoSettingsProgram)
 {
     const LogCapture log;
     NoSystemSettings none;

@@ -3,17 +3,14 @@
 #include "networks/SavedAddresses.h"
 
 #include "NetworkFixture.h"
-#include "networks/SavedAddressEditing.h"
-
-#include <memory>
 
 namespace quillon::test {
 namespace {
 
-class AddressBook : public NetworkFixture
+class SavedAddressesTest : public NetworkFixture
 {
 protected:
-    AddressBook() { wear(QStringLiteral("A4:83:E7:01:02:03")); }
+    SavedAddressesTest() { wear(QStringLiteral("A4:83:E7:01:02:03")); }
 
     void wear(const QString &worn)
     {
@@ -26,7 +23,7 @@ protected:
     SavedAddresses saved{settings};
 };
 
-TEST_F(AddressBook, TakesTheCurrentAddressInLowerCaseAsItsOwnName)
+TEST_F(SavedAddressesTest, TakesTheCurrentAddressInLowerCaseAsItsOwnName)
 {
     saved.addCurrentAddressToSavedList();
     const QVariantMap expected = {{address,
@@ -37,7 +34,7 @@ TEST_F(AddressBook, TakesTheCurrentAddressInLowerCaseAsItsOwnName)
     EXPECT_TRUE(saved.isCurrentAddressSaved());
 }
 
-TEST_F(AddressBook, KeepsTheNameOfAnAddressThatIsAddedAgain)
+TEST_F(SavedAddressesTest, KeepsTheNameOfAnAddressThatIsAddedAgain)
 {
     saveAddress(address, QStringLiteral("Printer"));
     settings.clearJournal();
@@ -46,7 +43,7 @@ TEST_F(AddressBook, KeepsTheNameOfAnAddressThatIsAddedAgain)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(AddressBook, LosesTheCurrentAddress)
+TEST_F(SavedAddressesTest, LosesTheCurrentAddress)
 {
     saveAddress(address, QStringLiteral("Printer"));
     saveAddress(otherAddress, QStringLiteral("Other"));
@@ -58,7 +55,7 @@ TEST_F(AddressBook, LosesTheCurrentAddress)
     EXPECT_FALSE(saved.isCurrentAddressSaved());
 }
 
-TEST_F(AddressBook, LosesNothingWhenTheCurrentAddressIsNotInIt)
+TEST_F(SavedAddressesTest, LosesNothingWhenTheCurrentAddressIsNotInIt)
 {
     saveAddress(otherAddress, QStringLiteral("Other"));
     settings.clearJournal();
@@ -66,7 +63,7 @@ TEST_F(AddressBook, LosesNothingWhenTheCurrentAddressIsNotInIt)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(AddressBook, StaysAsItIsWithoutACurrentAddress)
+TEST_F(SavedAddressesTest, StaysAsItIsWithoutACurrentAddress)
 {
     settings.set(keys::savedAddresses, QVariantMap{{QString(), QVariantMap{}}});
     for (const QVariant &selection :
@@ -80,7 +77,7 @@ TEST_F(AddressBook, StaysAsItIsWithoutACurrentAddress)
     }
 }
 
-TEST_F(AddressBook, KnowsAnAddressOfTheHistoryByItsOwnLettersOnly)
+TEST_F(SavedAddressesTest, KnowsAnAddressOfTheHistoryByItsOwnLettersOnly)
 {
     // Addresses from the history keep their case, and the current one is looked up in lower case.
     saveAddress(address.toUpper(), QStringLiteral("From the history"));
@@ -89,7 +86,7 @@ TEST_F(AddressBook, KnowsAnAddressOfTheHistoryByItsOwnLettersOnly)
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).size(), 2);
 }
 
-TEST_F(AddressBook, FindsAnAddressByItsExactName)
+TEST_F(SavedAddressesTest, FindsAnAddressByItsExactName)
 {
     saveAddress(address, QStringLiteral("Printer"));
     EXPECT_EQ(addressForAddressName(settings, QStringLiteral("Printer")), address);
@@ -98,14 +95,14 @@ TEST_F(AddressBook, FindsAnAddressByItsExactName)
     }
 }
 
-TEST_F(AddressBook, OfOneNameTheLastInTheListAnswers)
+TEST_F(SavedAddressesTest, OfOneNameTheLastInTheListAnswers)
 {
     saveAddress(otherAddress, QStringLiteral("Twin"));
     saveAddress(address, QStringLiteral("Twin"));
     EXPECT_EQ(addressForAddressName(settings, QStringLiteral("Twin")), otherAddress);
 }
 
-TEST_F(AddressBook, PassesOverWhatIsNoEntry)
+TEST_F(SavedAddressesTest, PassesOverWhatIsNoEntry)
 {
     settings.set(keys::savedAddresses,
         QVariantMap{
@@ -123,98 +120,6 @@ TEST_F(AddressBook, PassesOverWhatIsNoEntry)
         addressForAddressName(settings, QStringLiteral("x")), QStringLiteral("Random Address"));
     saved.addCurrentAddressToSavedList();
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).keys(), QStringList{address});
-}
-
-class EditedAddress : public AddressBook
-{
-protected:
-    EditedAddress()
-    {
-        saveAddress(address, QStringLiteral("Printer"));
-        saveAddress(otherAddress, QStringLiteral("Scanner"));
-        editing->beginEditing(savedAddressEntry(address));
-        QObject::connect(
-            editing.get(), &SavedAddressEditing::editingFinished, [this] { ++finished; });
-        settings.clearJournal();
-    }
-
-    QString name() const { return savedAddress(address).value(savedentry::name).toString(); }
-
-    std::unique_ptr<SavedAddressEditing> editing =
-        std::make_unique<SavedAddressEditing>(settings, scheduler);
-    int finished = 0;
-};
-
-TEST_F(EditedAddress, GetsTheTypedName)
-{
-    editing->changeSavedAddressName(QStringLiteral("Old printer"));
-    EXPECT_EQ(name(), QStringLiteral("Old printer"));
-    EXPECT_EQ(savedAddress(address).value(savedentry::address).toString(), address);
-    EXPECT_EQ(
-        savedAddress(otherAddress).value(savedentry::name).toString(), QStringLiteral("Scanner"));
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
-    EXPECT_EQ(radio.reads, 0);
-}
-
-TEST_F(EditedAddress, IsNotWrittenForItsOwnName)
-{
-    editing->changeSavedAddressName(QStringLiteral("Printer"));
-    EXPECT_TRUE(settings.journal().isEmpty());
-    EXPECT_EQ(finished, 0) << "not in the caller's turn";
-    scheduler.runPending();
-    EXPECT_EQ(finished, 1);
-}
-
-TEST_F(EditedAddress, GetsASuffixForTheNameOfAnother)
-{
-    editing->changeSavedAddressName(QStringLiteral("Scanner"));
-    EXPECT_EQ(name(), QStringLiteral("Scanner (2)"));
-    scheduler.runPending();
-    EXPECT_EQ(finished, 1);
-}
-
-TEST_F(EditedAddress, MayHaveNoName)
-{
-    editing->changeSavedAddressName(QString());
-    EXPECT_EQ(name(), QString());
-    EXPECT_TRUE(savedAddress(address).contains(savedentry::name));
-}
-
-TEST_F(EditedAddress, IsRemoved)
-{
-    editing->removeSavedAddress();
-    EXPECT_EQ(settings.getDictionary(keys::savedAddresses).keys(), QStringList{otherAddress});
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
-    EXPECT_FALSE(editing->editingAddressDict());
-    EXPECT_EQ(finished, 0) << "not in the caller's turn";
-    scheduler.runPending();
-    EXPECT_EQ(finished, 1);
-}
-
-TEST_F(EditedAddress, IsNoneAfterTheEnd)
-{
-    editing->endEditing();
-    editing->changeSavedAddressName(QStringLiteral("Late"));
-    editing->removeSavedAddress();
-    scheduler.runPending();
-    EXPECT_TRUE(settings.journal().isEmpty());
-    EXPECT_EQ(finished, 0);
-}
-
-TEST_F(EditedAddress, IsACopyOfTheListsEntry)
-{
-    saveAddress(address, QStringLiteral("Changed elsewhere"));
-    EXPECT_EQ(editing->editingAddressDict()->name, QStringLiteral("Printer"));
-}
-
-TEST_F(EditedAddress, MayBeGoneWhenItsTurnComes)
-{
-    editing->removeSavedAddress();
-    editing.reset();
-    scheduler.runPending();
-    EXPECT_EQ(finished, 0);
 }
 
 } // namespace

@@ -7,9 +7,9 @@
 namespace quillon::test {
 namespace {
 
-using EditedNetwork = NetworkEditingFixture;
+using SavedNetworkEditingTest = NetworkEditingFixture;
 
-TEST_F(EditedNetwork, GetsTheTypedName)
+TEST_F(SavedNetworkEditingTest, GetsTheTypedName)
 {
     editing->changeSavedNetworkName(QStringLiteral("Our house"));
     EXPECT_EQ(savedNetwork(homeBssid),
@@ -24,13 +24,13 @@ TEST_F(EditedNetwork, GetsTheTypedName)
     EXPECT_EQ(finished, 1);
 }
 
-TEST_F(EditedNetwork, ShowsItsNewNameInTheWiFiRecord)
+TEST_F(SavedNetworkEditingTest, ShowsItsNewNameInTheWiFiRecord)
 {
     editing->changeSavedNetworkName(QStringLiteral("Our house"));
     EXPECT_EQ(current(wifirecord::name), QStringLiteral("Our house"));
 }
 
-TEST_F(EditedNetwork, IsNeitherWrittenNorRefreshedForItsOwnName)
+TEST_F(SavedNetworkEditingTest, IsNeitherWrittenNorRefreshedForItsOwnName)
 {
     editing->changeSavedNetworkName(QStringLiteral("Home"));
     EXPECT_TRUE(settings.journal().isEmpty());
@@ -39,7 +39,7 @@ TEST_F(EditedNetwork, IsNeitherWrittenNorRefreshedForItsOwnName)
     EXPECT_EQ(finished, 1) << "the popover closes all the same";
 }
 
-TEST_F(EditedNetwork, GetsTheNextFreeSuffixForTheNameOfAnother)
+TEST_F(SavedNetworkEditingTest, GetsTheNextFreeSuffixForTheNameOfAnother)
 {
     editing->changeSavedNetworkName(QStringLiteral("Office (2)"));
     EXPECT_EQ(name(), QStringLiteral("Office (2) (2)")) << "a suffix is part of a name";
@@ -47,7 +47,7 @@ TEST_F(EditedNetwork, GetsTheNextFreeSuffixForTheNameOfAnother)
     EXPECT_EQ(name(), QStringLiteral("Office (3)")) << "taken both bare and with (2)";
 }
 
-TEST_F(EditedNetwork, GetsTwoForTheNameOfOneOther)
+TEST_F(SavedNetworkEditingTest, GetsTwoForTheNameOfOneOther)
 {
     editing->beginEditing(savedNetworkEntry(cafeBssid));
     editing->changeSavedNetworkName(QStringLiteral("Home"));
@@ -55,7 +55,7 @@ TEST_F(EditedNetwork, GetsTwoForTheNameOfOneOther)
         savedNetwork(cafeBssid).value(savedentry::name).toString(), QStringLiteral("Home (2)"));
 }
 
-TEST_F(EditedNetwork, DoesNotCountItsOwnNameAsTaken)
+TEST_F(SavedNetworkEditingTest, DoesNotCountItsOwnNameAsTaken)
 {
     editing->changeSavedNetworkName(QStringLiteral("Away"));
     editing->changeSavedNetworkName(QStringLiteral("Home"));
@@ -66,13 +66,13 @@ TEST_F(EditedNetwork, DoesNotCountItsOwnNameAsTaken)
     EXPECT_EQ(name(), QStringLiteral("Our house"));
 }
 
-TEST_F(EditedNetwork, ComparesNamesExactly)
+TEST_F(SavedNetworkEditingTest, ComparesNamesExactly)
 {
     editing->changeSavedNetworkName(QStringLiteral("office"));
     EXPECT_EQ(name(), QStringLiteral("office"));
 }
 
-TEST_F(EditedNetwork, MayHaveNoNameWhenNoOtherHasNone)
+TEST_F(SavedNetworkEditingTest, MayHaveNoNameWhenNoOtherHasNone)
 {
     editing->changeSavedNetworkName(QString());
     EXPECT_EQ(name(), QString());
@@ -82,7 +82,7 @@ TEST_F(EditedNetwork, MayHaveNoNameWhenNoOtherHasNone)
     EXPECT_EQ(savedNetwork(officeBssid).value(savedentry::name).toString(), QStringLiteral(" (2)"));
 }
 
-TEST_F(EditedNetwork, IsTakenOnceWhenTheFieldEndsTwice)
+TEST_F(SavedNetworkEditingTest, IsTakenOnceWhenTheFieldEndsTwice)
 {
     editing->changeSavedNetworkName(QStringLiteral("Our house"));
     settings.clearJournal();
@@ -90,7 +90,7 @@ TEST_F(EditedNetwork, IsTakenOnceWhenTheFieldEndsTwice)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(EditedNetwork, IsRenamedBesideWhatIsNoEntry)
+TEST_F(SavedNetworkEditingTest, IsRenamedBesideWhatIsNoEntry)
 {
     QVariantMap list = settings.getDictionary(keys::savedNetworks);
     list[QStringLiteral("zz")] = QStringLiteral("text");
@@ -102,7 +102,7 @@ TEST_F(EditedNetwork, IsRenamedBesideWhatIsNoEntry)
         QStringLiteral("text"));
 }
 
-TEST_F(EditedNetwork, IsRemovedAndTheNetworkRefreshed)
+TEST_F(SavedNetworkEditingTest, IsRemovedAndTheNetworkRefreshed)
 {
     editing->changeSavedNetworkName(QStringLiteral("Our house"));
     scheduler.runPending();
@@ -121,7 +121,7 @@ TEST_F(EditedNetwork, IsRemovedAndTheNetworkRefreshed)
     EXPECT_EQ(finished, 1);
 }
 
-TEST_F(EditedNetwork, IsNoneAfterTheEnd)
+TEST_F(SavedNetworkEditingTest, IsNoneAfterTheEnd)
 {
     editing->endEditing();
     editing->changeSavedNetworkName(QStringLiteral("Late"));
@@ -134,13 +134,13 @@ TEST_F(EditedNetwork, IsNoneAfterTheEnd)
     EXPECT_FALSE(editing->isSsidDefined());
 }
 
-TEST_F(EditedNetwork, IsACopyOfTheListsEntry)
+TEST_F(SavedNetworkEditingTest, IsACopyOfTheListsEntry)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Changed elsewhere"));
     EXPECT_EQ(editing->editingNetworkDict()->name, QStringLiteral("Home"));
 }
 
-TEST_F(EditedNetwork, IsRecognisedBySSIDOnceItsButtonIsChosen)
+TEST_F(SavedNetworkEditingTest, IsRecognisedBySSIDOnceItsButtonIsChosen)
 {
     editing->updateNetworkDefinition(QStringLiteral("ssidbutton"));
     QVariantMap expected = networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
@@ -152,7 +152,7 @@ TEST_F(EditedNetwork, IsRecognisedBySSIDOnceItsButtonIsChosen)
         (QStringList{QStringLiteral("set savedNetworks"), QStringLiteral("synchronize")}));
 }
 
-TEST_F(EditedNetwork, IsRecognisedByBSSIDWithoutAMark)
+TEST_F(SavedNetworkEditingTest, IsRecognisedByBSSIDWithoutAMark)
 {
     editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     editing->updateNetworkDefinition(QStringLiteral("bssidbutton"));
@@ -161,7 +161,7 @@ TEST_F(EditedNetwork, IsRecognisedByBSSIDWithoutAMark)
     EXPECT_FALSE(editing->isSsidDefined());
 }
 
-TEST_F(EditedNetwork, ShowsItsModeBeforeItIsStored)
+TEST_F(SavedNetworkEditingTest, ShowsItsModeBeforeItIsStored)
 {
     QStringList heard;
     QObject::connect(editing.get(), &SavedNetworkEditing::networkDefinitionChanged, [&] {
@@ -172,7 +172,7 @@ TEST_F(EditedNetwork, ShowsItsModeBeforeItIsStored)
     EXPECT_EQ(heard, (QStringList{QStringLiteral("ssid"), QStringLiteral("0")}));
 }
 
-TEST_F(EditedNetwork, SaysItsModeOnceItIsStored)
+TEST_F(SavedNetworkEditingTest, SaysItsModeOnceItIsStored)
 {
     editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     editing->updateNetworkDefinition(QStringLiteral("bssidbutton"));
@@ -180,14 +180,14 @@ TEST_F(EditedNetwork, SaysItsModeOnceItIsStored)
         (QStringList{homeBssid + QStringLiteral(" ssid"), homeBssid + QStringLiteral(" bssid")}));
 }
 
-TEST_F(EditedNetwork, KeepsItsModeWhenItIsRenamed)
+TEST_F(SavedNetworkEditingTest, KeepsItsModeWhenItIsRenamed)
 {
     editing->updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     editing->changeSavedNetworkName(QStringLiteral("Our house"));
     EXPECT_TRUE(savedNetwork(homeBssid).contains(savedentry::ssidDefined));
 }
 
-TEST_F(EditedNetwork, MayBeGoneWhenItsTurnComes)
+TEST_F(SavedNetworkEditingTest, MayBeGoneWhenItsTurnComes)
 {
     editing->removeSavedNetwork();
     editing.reset();

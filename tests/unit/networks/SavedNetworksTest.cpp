@@ -7,20 +7,20 @@
 namespace quillon::test {
 namespace {
 
-class Favourites : public NetworkFixture
+class SavedNetworksTest : public NetworkFixture
 {
 protected:
     SavedNetworks saved{settings, network};
 };
 
-TEST_F(Favourites, AreEmptyAtFirst)
+TEST_F(SavedNetworksTest, AreEmptyAtFirst)
 {
     EXPECT_TRUE(favouriteNetworks(settings).isEmpty());
     EXPECT_TRUE(ssidFavouriteNetworks(settings).isEmpty());
     EXPECT_FALSE(saved.isCurrentNetworkSaved());
 }
 
-TEST_F(Favourites, TakeTheCurrentNetworkUnderItsSSID)
+TEST_F(SavedNetworksTest, TakeTheCurrentNetworkUnderItsSSID)
 {
     radio.interface->bssid = homeBssid.toUpper();
     saved.addCurrentNetworkToSavedList();
@@ -30,7 +30,7 @@ TEST_F(Favourites, TakeTheCurrentNetworkUnderItsSSID)
     EXPECT_TRUE(saved.isCurrentNetworkSaved());
 }
 
-TEST_F(Favourites, AreStoredWholeAndFlushed)
+TEST_F(SavedNetworksTest, AreStoredWholeAndFlushed)
 {
     saved.addCurrentNetworkToSavedList();
     EXPECT_EQ(settings.journal(),
@@ -38,7 +38,7 @@ TEST_F(Favourites, AreStoredWholeAndFlushed)
             QStringLiteral("set savedNetworks"), QStringLiteral("synchronize")}));
 }
 
-TEST_F(Favourites, RefreshTheNetworkBeforeTheyTakeIt)
+TEST_F(SavedNetworksTest, RefreshTheNetworkBeforeTheyTakeIt)
 {
     network.updateWiFiNetwork();
     radio.interface->ssid = QStringLiteral("Office");
@@ -47,7 +47,7 @@ TEST_F(Favourites, RefreshTheNetworkBeforeTheyTakeIt)
     EXPECT_EQ(favouriteNetworks(settings), QStringList{officeBssid});
 }
 
-TEST_F(Favourites, KeepTheNameOfANetworkThatIsAddedAgain)
+TEST_F(SavedNetworksTest, KeepTheNameOfANetworkThatIsAddedAgain)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"), true);
     const QVariant before = settings.get(keys::savedNetworks);
@@ -57,7 +57,7 @@ TEST_F(Favourites, KeepTheNameOfANetworkThatIsAddedAgain)
     EXPECT_EQ(settings.writeCount(keys::savedNetworks), 0);
 }
 
-TEST_F(Favourites, TakeTwoAccessPointsOfOneSSIDUnderTheSameName)
+TEST_F(SavedNetworksTest, TakeTwoAccessPointsOfOneSSIDUnderTheSameName)
 {
     saved.addCurrentNetworkToSavedList();
     radio.interface->bssid = officeBssid;
@@ -66,7 +66,7 @@ TEST_F(Favourites, TakeTwoAccessPointsOfOneSSIDUnderTheSameName)
     EXPECT_EQ(savedNetwork(officeBssid).value(savedentry::name).toString(), QStringLiteral("Home"));
 }
 
-TEST_F(Favourites, TakeNothingWithoutANetwork)
+TEST_F(SavedNetworksTest, TakeNothingWithoutANetwork)
 {
     radio.leave();
     saved.addCurrentNetworkToSavedList();
@@ -77,7 +77,7 @@ TEST_F(Favourites, TakeNothingWithoutANetwork)
     EXPECT_EQ(settings.writeCount(keys::savedNetworks), 0);
 }
 
-TEST_F(Favourites, LoseTheCurrentNetwork)
+TEST_F(SavedNetworksTest, LoseTheCurrentNetwork)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
     saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Office"));
@@ -90,7 +90,7 @@ TEST_F(Favourites, LoseTheCurrentNetwork)
     EXPECT_FALSE(saved.isCurrentNetworkSaved());
 }
 
-TEST_F(Favourites, LoseNothingWhenTheCurrentNetworkIsNotAmongThem)
+TEST_F(SavedNetworksTest, LoseNothingWhenTheCurrentNetworkIsNotAmongThem)
 {
     saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Office"));
     settings.clearJournal();
@@ -100,14 +100,14 @@ TEST_F(Favourites, LoseNothingWhenTheCurrentNetworkIsNotAmongThem)
     EXPECT_EQ(settings.writeCount(keys::savedNetworks), 0);
 }
 
-TEST_F(Favourites, KnowTheCurrentNetworkInAnyLetterCase)
+TEST_F(SavedNetworksTest, KnowTheCurrentNetworkInAnyLetterCase)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
     settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::BSSID, homeBssid.toUpper()}});
     EXPECT_TRUE(saved.isCurrentNetworkSaved());
 }
 
-TEST_F(Favourites, TellTheirBSSIDsAndTheSSIDsThatCount)
+TEST_F(SavedNetworksTest, TellTheirBSSIDsAndTheSSIDsThatCount)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"), true);
@@ -117,7 +117,7 @@ TEST_F(Favourites, TellTheirBSSIDsAndTheSSIDsThatCount)
         (QStringList{QStringLiteral("Office"), QStringLiteral("Cafe")}));
 }
 
-TEST_F(Favourites, AreFoundByTheirExactName)
+TEST_F(SavedNetworksTest, AreFoundByTheirExactName)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"), true);
@@ -132,7 +132,7 @@ TEST_F(Favourites, AreFoundByTheirExactName)
     }
 }
 
-TEST_F(Favourites, OfOneNameTheLastInTheListAnswers)
+TEST_F(SavedNetworksTest, OfOneNameTheLastInTheListAnswers)
 {
     saveNetwork(officeBssid, QStringLiteral("Second"), QStringLiteral("Twin"));
     saveNetwork(homeBssid, QStringLiteral("First"), QStringLiteral("Twin"), true);
@@ -141,7 +141,7 @@ TEST_F(Favourites, OfOneNameTheLastInTheListAnswers)
     EXPECT_TRUE(isNetWorkDefined(settings, QStringLiteral("Twin"))) << "any of them counts";
 }
 
-TEST_F(Favourites, AreRecognisedBySSIDWhateverTheirMarkHolds)
+TEST_F(SavedNetworksTest, AreRecognisedBySSIDWhateverTheirMarkHolds)
 {
     QVariantMap entry = networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
     entry[savedentry::ssidDefined] = false;
@@ -150,7 +150,7 @@ TEST_F(Favourites, AreRecognisedBySSIDWhateverTheirMarkHolds)
     EXPECT_TRUE(isNetWorkDefined(settings, QStringLiteral("Home")));
 }
 
-TEST_F(Favourites, PassOverWhatIsNoEntry)
+TEST_F(SavedNetworksTest, PassOverWhatIsNoEntry)
 {
     settings.set(keys::savedNetworks,
         QVariantMap{
@@ -174,7 +174,7 @@ TEST_F(Favourites, PassOverWhatIsNoEntry)
     EXPECT_EQ(bssidForNetworkName(settings, QString()), QStringLiteral("Any Network"));
 }
 
-TEST_F(Favourites, AddAndRemoveBesideWhatIsNoEntry)
+TEST_F(SavedNetworksTest, AddAndRemoveBesideWhatIsNoEntry)
 {
     const QVariantMap hostile = {{QStringLiteral("zz"), QStringLiteral("text")}};
     settings.set(keys::savedNetworks, hostile);
@@ -185,7 +185,7 @@ TEST_F(Favourites, AddAndRemoveBesideWhatIsNoEntry)
     EXPECT_EQ(settings.getDictionary(keys::savedNetworks), hostile);
 }
 
-TEST_F(Favourites, StartAnewWhenTheListIsNone)
+TEST_F(SavedNetworksTest, StartAnewWhenTheListIsNone)
 {
     settings.set(keys::savedNetworks, QVariantList{1, 2});
     EXPECT_TRUE(favouriteNetworks(settings).isEmpty());
@@ -193,7 +193,7 @@ TEST_F(Favourites, StartAnewWhenTheListIsNone)
     EXPECT_EQ(favouriteNetworks(settings), QStringList{homeBssid});
 }
 
-TEST_F(Favourites, NeverHoldTheAbsentNetwork)
+TEST_F(SavedNetworksTest, NeverHoldTheAbsentNetwork)
 {
     settings.set(keys::savedNetworks, QVariantMap{{QString(), QVariantMap{}}});
     settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::BSSID, 5}});

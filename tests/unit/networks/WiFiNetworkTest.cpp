@@ -9,10 +9,10 @@
 namespace quillon::test {
 namespace {
 
-class CurrentNetwork : public NetworkFixture
+class WiFiNetworkTest : public NetworkFixture
 {
 protected:
-    CurrentNetwork()
+    WiFiNetworkTest()
     {
         QObject::connect(&network, &WiFiNetwork::networkButtonShown,
             [this](bool shown) { buttonShown << shown; });
@@ -45,7 +45,7 @@ protected:
     QList<bool> buttonShown;
 };
 
-TEST_F(CurrentNetwork, IsRecordedAsTexts)
+TEST_F(WiFiNetworkTest, IsRecordedAsTexts)
 {
     network.updateWiFiNetwork();
     const QVariantMap expected = {
@@ -65,7 +65,7 @@ TEST_F(CurrentNetwork, IsRecordedAsTexts)
     EXPECT_EQ(settings.getDictionary(keys::currentWiFiDict), expected);
 }
 
-TEST_F(CurrentNetwork, IsReturnedAsItsTwoNamesOnly)
+TEST_F(WiFiNetworkTest, IsReturnedAsItsTwoNamesOnly)
 {
     WiFiInterface wifi = home();
     wifi.bssid = wifi.bssid.toUpper();
@@ -77,44 +77,44 @@ TEST_F(CurrentNetwork, IsReturnedAsItsTwoNamesOnly)
     EXPECT_EQ(current(wifirecord::BSSID), homeBssid);
 }
 
-TEST_F(CurrentNetwork, ShowsItsButton)
+TEST_F(WiFiNetworkTest, ShowsItsButton)
 {
     network.updateWiFiNetwork();
     EXPECT_EQ(buttonShown, QList<bool>{true});
 }
 
-TEST_F(CurrentNetwork, IsWrittenWholeAndFlushed)
+TEST_F(WiFiNetworkTest, IsWrittenWholeAndFlushed)
 {
     network.updateWiFiNetwork();
     EXPECT_EQ(settings.journal(),
         (QStringList{QStringLiteral("set currentWiFiDict"), QStringLiteral("synchronize")}));
 }
 
-TEST_F(CurrentNetwork, IsNoneWithoutAWiFiInterface)
+TEST_F(WiFiNetworkTest, IsNoneWithoutAWiFiInterface)
 {
     radio.interface.reset();
     expectNotAssociated();
 }
 
-TEST_F(CurrentNetwork, IsNoneWithoutAnAssociation)
+TEST_F(WiFiNetworkTest, IsNoneWithoutAnAssociation)
 {
     radio.leave();
     expectNotAssociated();
 }
 
-TEST_F(CurrentNetwork, IsNoneWhenItHidesItsName)
+TEST_F(WiFiNetworkTest, IsNoneWhenItHidesItsName)
 {
     radio.interface->ssid.clear();
     expectNotAssociated();
 }
 
-TEST_F(CurrentNetwork, IsNoneWithoutAnAccessPoint)
+TEST_F(WiFiNetworkTest, IsNoneWithoutAnAccessPoint)
 {
     radio.interface->bssid.clear();
     expectNotAssociated();
 }
 
-TEST_F(CurrentNetwork, LeavesNothingBehindWhenItIsLeft)
+TEST_F(WiFiNetworkTest, LeavesNothingBehindWhenItIsLeft)
 {
     network.updateWiFiNetwork();
     radio.leave();
@@ -123,7 +123,7 @@ TEST_F(CurrentNetwork, LeavesNothingBehindWhenItIsLeft)
     EXPECT_EQ(buttonShown, (QList<bool>{true, false}));
 }
 
-TEST_F(CurrentNetwork, KeepsKeysOfTheRecordThatAreNotIts)
+TEST_F(WiFiNetworkTest, KeepsKeysOfTheRecordThatAreNotIts)
 {
     settings.set(keys::currentWiFiDict, QVariantMap{{QStringLiteral("spatialStreams"), 2},
                                             {wifirecord::SSID, QStringLiteral("Old")}});
@@ -135,7 +135,7 @@ TEST_F(CurrentNetwork, KeepsKeysOfTheRecordThatAreNotIts)
     EXPECT_EQ(current(QStringLiteral("spatialStreams")), QStringLiteral("2"));
 }
 
-TEST_F(CurrentNetwork, HasTheNameUnderWhichItIsSaved)
+TEST_F(WiFiNetworkTest, HasTheNameUnderWhichItIsSaved)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     network.updateWiFiNetwork();
@@ -143,14 +143,14 @@ TEST_F(CurrentNetwork, HasTheNameUnderWhichItIsSaved)
     EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
 }
 
-TEST_F(CurrentNetwork, HasAnEmptyNameWhenItIsSavedSo)
+TEST_F(WiFiNetworkTest, HasAnEmptyNameWhenItIsSavedSo)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QString());
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::name), QString());
 }
 
-TEST_F(CurrentNetwork, IsNotFoundAmongTheSavedOnesInAnotherLetterCase)
+TEST_F(WiFiNetworkTest, IsNotFoundAmongTheSavedOnesInAnotherLetterCase)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     radio.interface->bssid = homeBssid.toUpper();
@@ -159,7 +159,7 @@ TEST_F(CurrentNetwork, IsNotFoundAmongTheSavedOnesInAnotherLetterCase)
     EXPECT_EQ(current(wifirecord::BSSID), homeBssid);
 }
 
-TEST_F(CurrentNetwork, IsFoundAmongTheSavedOnesInTheLetterCaseThatIsRead)
+TEST_F(WiFiNetworkTest, IsFoundAmongTheSavedOnesInTheLetterCaseThatIsRead)
 {
     saveNetwork(homeBssid.toUpper(), QStringLiteral("Home"), QStringLiteral("Upper"));
     radio.interface->bssid = homeBssid.toUpper();
@@ -167,21 +167,21 @@ TEST_F(CurrentNetwork, IsFoundAmongTheSavedOnesInTheLetterCaseThatIsRead)
     EXPECT_EQ(current(wifirecord::name), QStringLiteral("Upper"));
 }
 
-TEST_F(CurrentNetwork, ShowsTheAddressThatTheDeviceListsLast)
+TEST_F(WiFiNetworkTest, ShowsTheAddressThatTheDeviceListsLast)
 {
     host.at(QStringLiteral("wlp2s0")).ipv4 << QStringLiteral("198.51.100.8");
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::ipAddress), QStringLiteral("198.51.100.8"));
 }
 
-TEST_F(CurrentNetwork, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)
+TEST_F(WiFiNetworkTest, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)
 {
     host.at(QStringLiteral("wlp2s0")).ipv4.clear();
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::ipAddress), QString());
 }
 
-TEST_F(CurrentNetwork, HasAnEmptyAddressWhileNoDeviceIsKnownAsWiFi)
+TEST_F(WiFiNetworkTest, HasAnEmptyAddressWhileNoDeviceIsKnownAsWiFi)
 {
     store({});
     network.updateWiFiNetwork();
@@ -189,7 +189,7 @@ TEST_F(CurrentNetwork, HasAnEmptyAddressWhileNoDeviceIsKnownAsWiFi)
     EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
 }
 
-TEST_F(CurrentNetwork, PrintsUnknownValuesAsTheyAreRead)
+TEST_F(WiFiNetworkTest, PrintsUnknownValuesAsTheyAreRead)
 {
     WiFiInterface wifi;
     wifi.ssid = QStringLiteral("Bare");
@@ -206,7 +206,7 @@ TEST_F(CurrentNetwork, PrintsUnknownValuesAsTheyAreRead)
     EXPECT_EQ(current(wifirecord::mcs), QString());
 }
 
-TEST_F(CurrentNetwork, HasAnEmptyIndexWhereTheDriverTellsNone)
+TEST_F(WiFiNetworkTest, HasAnEmptyIndexWhereTheDriverTellsNone)
 {
     radio.interface->mcsIndex.reset();
     network.updateWiFiNetwork();
@@ -222,23 +222,23 @@ struct Rate
     const char *text;
 };
 
-class TransmitRate : public CurrentNetwork, public ::testing::WithParamInterface<Rate>
+class WiFiNetworkTransmitRate : public WiFiNetworkTest, public ::testing::WithParamInterface<Rate>
 {
 };
 
-TEST_P(TransmitRate, IsPlainDecimalText)
+TEST_P(WiFiNetworkTransmitRate, IsPlainDecimalText)
 {
     radio.interface->transmitRate = GetParam().megabits;
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::txRate), QString::fromLatin1(GetParam().text));
 }
 
-INSTANTIATE_TEST_SUITE_P(Rates, TransmitRate,
+INSTANTIATE_TEST_SUITE_P(Rates, WiFiNetworkTransmitRate,
     ::testing::Values(Rate{144, "144 Mbps"}, Rate{6.5, "6.5 Mbps"}, Rate{14.4, "14.4 Mbps"},
         Rate{1200.9, "1200.9 Mbps"}, Rate{100000, "100000 Mbps"}, Rate{4803000, "4803000 Mbps"},
         Rate{0.1, "0.1 Mbps"}));
 
-TEST_F(CurrentNetwork, FillsNothingIntoANameThatLooksLikeAPlaceholder)
+TEST_F(WiFiNetworkTest, FillsNothingIntoANameThatLooksLikeAPlaceholder)
 {
     radio.interface->ssid = QStringLiteral("%@ %1 <b>");
     network.updateWiFiNetwork();
@@ -246,7 +246,7 @@ TEST_F(CurrentNetwork, FillsNothingIntoANameThatLooksLikeAPlaceholder)
     EXPECT_EQ(current(wifirecord::channel), QStringLiteral("36 (5 GHz, 80 MHz)"));
 }
 
-TEST_F(CurrentNetwork, SurvivesSavedNetworksThatAreNone)
+TEST_F(WiFiNetworkTest, SurvivesSavedNetworksThatAreNone)
 {
     const QVariantList hostile = {QStringLiteral("text"), 5, QVariantList{1, 2},
         QVariantMap{{homeBssid, QStringLiteral("no entry")}},
@@ -260,7 +260,7 @@ TEST_F(CurrentNetwork, SurvivesSavedNetworksThatAreNone)
     }
 }
 
-TEST_F(CurrentNetwork, ReplacesARecordThatIsNone)
+TEST_F(WiFiNetworkTest, ReplacesARecordThatIsNone)
 {
     settings.set(keys::currentWiFiDict, QStringLiteral("text"));
     network.updateWiFiNetwork();

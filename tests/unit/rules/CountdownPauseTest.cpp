@@ -9,11 +9,11 @@ namespace {
 
 const QString in = QStringLiteral("...changing MAC Address in ");
 
-class PausedCountdown : public CountdownMachine
+class CountdownPauseTest : public CountdownMachine
 {
 protected:
     /// Two minutes, paused when 90 seconds are left.
-    PausedCountdown()
+    CountdownPauseTest()
     {
         timers->startCountDownTimer(en0);
         pass(30s);
@@ -28,14 +28,14 @@ protected:
     }
 };
 
-TEST_F(PausedCountdown, RemembersWhatIsLeft)
+TEST_F(CountdownPauseTest, RemembersWhatIsLeft)
 {
     EXPECT_EQ(pausedRemaining(), QVariant(90));
     EXPECT_EQ(timer(en0).value(QStringLiteral("isPaused")).toMap().size(), 1);
     EXPECT_EQ(reset, 1);
 }
 
-TEST_F(PausedCountdown, FreezesTheTextMarkedOnce)
+TEST_F(CountdownPauseTest, FreezesTheTextMarkedOnce)
 {
     for (int second = 0; second < 5; ++second) {
         pass(1s);
@@ -44,7 +44,7 @@ TEST_F(PausedCountdown, FreezesTheTextMarkedOnce)
     }
 }
 
-TEST_F(PausedCountdown, GoesOnFromWhereItWasGiveOrTakeASecond)
+TEST_F(CountdownPauseTest, GoesOnFromWhereItWasGiveOrTakeASecond)
 {
     pass(10min);
     timers->resumeCountdownTimer(en0);
@@ -60,7 +60,7 @@ TEST_F(PausedCountdown, GoesOnFromWhereItWasGiveOrTakeASecond)
     EXPECT_EQ(started(), 2);
 }
 
-TEST_F(PausedCountdown, MovesItsStartWithEveryTick)
+TEST_F(CountdownPauseTest, MovesItsStartWithEveryTick)
 {
     pass(1s);
     const QDateTime moved = timer(en0).value(QStringLiteral("startDate")).toDateTime();
@@ -69,7 +69,7 @@ TEST_F(PausedCountdown, MovesItsStartWithEveryTick)
     EXPECT_EQ(moved.secsTo(timer(en0).value(QStringLiteral("startDate")).toDateTime()), 1);
 }
 
-TEST_F(PausedCountdown, NeitherChangesNorStartsAnewHoweverLong)
+TEST_F(CountdownPauseTest, NeitherChangesNorStartsAnewHoweverLong)
 {
     pass(24h);
     EXPECT_TRUE(changes().isEmpty());
@@ -77,7 +77,7 @@ TEST_F(PausedCountdown, NeitherChangesNorStartsAnewHoweverLong)
     EXPECT_EQ(pausedRemaining(), QVariant(90));
 }
 
-TEST_F(PausedCountdown, StaysPausedThroughASuspension)
+TEST_F(CountdownPauseTest, StaysPausedThroughASuspension)
 {
     pass(1s);
     scheduler.setClock(8h);
@@ -89,7 +89,7 @@ TEST_F(PausedCountdown, StaysPausedThroughASuspension)
     EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
 }
 
-TEST_F(PausedCountdown, StaysPausedWhenTheClockIsSetBack)
+TEST_F(CountdownPauseTest, StaysPausedWhenTheClockIsSetBack)
 {
     scheduler.setClock(-8h);
     pass(2s);
@@ -98,7 +98,7 @@ TEST_F(PausedCountdown, StaysPausedWhenTheClockIsSetBack)
     EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
 }
 
-TEST_F(PausedCountdown, ResumedBeforeATickGoesOnByTheClock)
+TEST_F(CountdownPauseTest, ResumedBeforeATickGoesOnByTheClock)
 {
     pass(400ms);
     timers->resumeCountdownTimer(en0);
@@ -106,7 +106,7 @@ TEST_F(PausedCountdown, ResumedBeforeATickGoesOnByTheClock)
     EXPECT_EQ(display(en0), in + QStringLiteral("00:01:29"));
 }
 
-TEST_F(PausedCountdown, PausedTwiceTellsTheLatterTime)
+TEST_F(CountdownPauseTest, PausedTwiceTellsTheLatterTime)
 {
     pass(10s);
     timers->resumeCountdownTimer(en0);
@@ -116,7 +116,7 @@ TEST_F(PausedCountdown, PausedTwiceTellsTheLatterTime)
     EXPECT_EQ(display(en0), in + QStringLiteral("00:01:01 (paused)"));
 }
 
-TEST_F(PausedCountdown, IsNotPausedAnyMoreWhenItIsStartedAnew)
+TEST_F(CountdownPauseTest, IsNotPausedAnyMoreWhenItIsStartedAnew)
 {
     timers->startCountDownTimer(en0);
     pass(1s);
@@ -124,7 +124,7 @@ TEST_F(PausedCountdown, IsNotPausedAnyMoreWhenItIsStartedAnew)
     EXPECT_FALSE(shownAsPaused);
 }
 
-TEST_F(PausedCountdown, InItsLastSecondWaitsToBeResumed)
+TEST_F(CountdownPauseTest, InItsLastSecondWaitsToBeResumed)
 {
     timers->startCountDownTimer(en0);
     pass(119'500ms);
@@ -137,7 +137,7 @@ TEST_F(PausedCountdown, InItsLastSecondWaitsToBeResumed)
     EXPECT_EQ(changes().size(), 1);
 }
 
-TEST_F(PausedCountdown, BetweenItsZeroAndTheChangeMakesNone)
+TEST_F(CountdownPauseTest, BetweenItsZeroAndTheChangeMakesNone)
 {
     timers->startCountDownTimer(en0);
     QObject::connect(
@@ -151,7 +151,7 @@ TEST_F(PausedCountdown, BetweenItsZeroAndTheChangeMakesNone)
     EXPECT_EQ(pausedRemaining(), QVariant(0));
 }
 
-TEST_F(PausedCountdown, BeforeItsFirstTickShowsTheTime)
+TEST_F(CountdownPauseTest, BeforeItsFirstTickShowsTheTime)
 {
     timers->startCountDownTimer(en0);
     timers->pauseCountdownTimer(en0);
@@ -159,7 +159,7 @@ TEST_F(PausedCountdown, BeforeItsFirstTickShowsTheTime)
     EXPECT_EQ(display(en0), in + QStringLiteral("00:01:59 (paused)"));
 }
 
-TEST_F(PausedCountdown, OfOneMinuteDoesNotWarnWhileItWaits)
+TEST_F(CountdownPauseTest, OfOneMinuteDoesNotWarnWhileItWaits)
 {
     ruleSays(en0, 1);
     timers->startCountDownTimer(en0);
@@ -171,7 +171,7 @@ TEST_F(PausedCountdown, OfOneMinuteDoesNotWarnWhileItWaits)
     EXPECT_EQ(warnings(), 1);
 }
 
-TEST_F(PausedCountdown, OfAnInterfaceWithoutOneOnlyResetsTheButtons)
+TEST_F(CountdownPauseTest, OfAnInterfaceWithoutOneOnlyResetsTheButtons)
 {
     timers->pauseCountdownTimer(en1);
     timers->resumeCountdownTimer(en1);

@@ -9,11 +9,11 @@ namespace {
 
 const QString in = QStringLiteral("...changing MAC Address in ");
 
-class Countdown : public CountdownMachine
+class CountdownTimersTest : public CountdownMachine
 {
 };
 
-TEST_F(Countdown, IsToldWhenItStarts)
+TEST_F(CountdownTimersTest, IsToldWhenItStarts)
 {
     timers->startCountDownTimer(en0);
     EXPECT_EQ(notifier.messages(),
@@ -21,7 +21,7 @@ TEST_F(Countdown, IsToldWhenItStarts)
             {QStringLiteral("Quillon Timer started"), in + QStringLiteral("00:01:59")}}));
 }
 
-TEST_F(Countdown, IsKeptUnderItsDevice)
+TEST_F(CountdownTimersTest, IsKeptUnderItsDevice)
 {
     timers->startCountDownTimer(en0);
     const QVariantMap entry = timer(en0);
@@ -33,7 +33,7 @@ TEST_F(Countdown, IsKeptUnderItsDevice)
     EXPECT_TRUE(isPropertyList(timers->timers()));
 }
 
-TEST_F(Countdown, TicksOnceASecond)
+TEST_F(CountdownTimersTest, TicksOnceASecond)
 {
     timers->startCountDownTimer(en0);
     pass(999ms);
@@ -47,7 +47,7 @@ TEST_F(Countdown, TicksOnceASecond)
     EXPECT_FALSE(shownAsPaused);
 }
 
-TEST_F(Countdown, ChangesTheAddressAtZeroAndStartsAgain)
+TEST_F(CountdownTimersTest, ChangesTheAddressAtZeroAndStartsAgain)
 {
     random.put(QByteArray::fromHex("3f0102030405"));
     timers->startCountDownTimer(en0);
@@ -63,7 +63,7 @@ TEST_F(Countdown, ChangesTheAddressAtZeroAndStartsAgain)
     EXPECT_EQ(started(), 3);
 }
 
-TEST_F(Countdown, ChangesAfterTheTickHasDoneItsBookkeeping)
+TEST_F(CountdownTimersTest, ChangesAfterTheTickHasDoneItsBookkeeping)
 {
     timers->startCountDownTimer(en0);
     QStringList order;
@@ -76,7 +76,7 @@ TEST_F(Countdown, ChangesAfterTheTickHasDoneItsBookkeeping)
         << "the tick first; then the change, and the restart";
 }
 
-TEST_F(Countdown, GivesARandomAddressWhateverTheVendorOfTheRule)
+TEST_F(CountdownTimersTest, GivesARandomAddressWhateverTheVendorOfTheRule)
 {
     random.put(QByteArray::fromHex("3f0102030405"));
     timers->startCountDownTimer(en0);
@@ -84,7 +84,7 @@ TEST_F(Countdown, GivesARandomAddressWhateverTheVendorOfTheRule)
     EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
 }
 
-TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
+TEST_F(CountdownTimersTest, GivesARandomAddressInsideTheVendorChosenForTheInterface)
 {
     random.put(QByteArray::fromHex("3f0102030405"));
     table.update(
@@ -94,7 +94,7 @@ TEST_F(Countdown, GivesARandomAddressInsideTheVendorChosenForTheInterface)
     EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});
 }
 
-TEST_F(Countdown, TakesItsLengthFromTheRuleInForceAtEachStart)
+TEST_F(CountdownTimersTest, TakesItsLengthFromTheRuleInForceAtEachStart)
 {
     timers->startCountDownTimer(en0);
     ruleSays(en0, 5);
@@ -107,7 +107,7 @@ TEST_F(Countdown, TakesItsLengthFromTheRuleInForceAtEachStart)
     EXPECT_EQ(changes().size(), 2);
 }
 
-TEST_F(Countdown, OfEachInterfaceRunsOnItsOwn)
+TEST_F(CountdownTimersTest, OfEachInterfaceRunsOnItsOwn)
 {
     ruleSays(en1, 3);
     timers->startCountDownTimer(en0);
@@ -120,7 +120,7 @@ TEST_F(Countdown, OfEachInterfaceRunsOnItsOwn)
     EXPECT_EQ(changes().last().left(3), en1);
 }
 
-TEST_F(Countdown, RestartedLeavesOneTimer)
+TEST_F(CountdownTimersTest, RestartedLeavesOneTimer)
 {
     timers->startCountDownTimer(en0);
     pass(60s);
@@ -134,7 +134,7 @@ TEST_F(Countdown, RestartedLeavesOneTimer)
     EXPECT_EQ(changes().size(), 1);
 }
 
-TEST_F(Countdown, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
+TEST_F(CountdownTimersTest, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
 {
     ruleSays(en0, 1);
     timers->startCountDownTimer(en0);
@@ -148,7 +148,7 @@ TEST_F(Countdown, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
     EXPECT_EQ(warnings(), 2) << "the next minute has begun";
 }
 
-TEST_F(Countdown, OfMoreMinutesChangesWithoutWarning)
+TEST_F(CountdownTimersTest, OfMoreMinutesChangesWithoutWarning)
 {
     ruleSays(en0, 5);
     timers->startCountDownTimer(en0);
@@ -157,7 +157,7 @@ TEST_F(Countdown, OfMoreMinutesChangesWithoutWarning)
     EXPECT_EQ(warnings(), 0);
 }
 
-TEST_F(Countdown, IsShownInItsMenuItemBehindFourBlanks)
+TEST_F(CountdownTimersTest, IsShownInItsMenuItemBehindFourBlanks)
 {
     const auto title = [this] {
         return timer(en0).value(QStringLiteral("label")).toMap().value(QStringLiteral("menu"));
@@ -173,7 +173,7 @@ TEST_F(Countdown, IsShownInItsMenuItemBehindFourBlanks)
     timers->setMenuItemShown(en1, true);
 }
 
-TEST_F(Countdown, LosesItsMenuItemWithEveryStart)
+TEST_F(CountdownTimersTest, LosesItsMenuItemWithEveryStart)
 {
     timers->startCountDownTimer(en0);
     timers->setMenuItemShown(en0, true);
@@ -181,10 +181,10 @@ TEST_F(Countdown, LosesItsMenuItemWithEveryStart)
     EXPECT_FALSE(timer(en0).contains(QStringLiteral("label")));
 }
 
-class CountdownOverview : public CountdownMachine
+class CountdownTimersOverview : public CountdownMachine
 {
 protected:
-    CountdownOverview()
+    CountdownTimersOverview()
     {
         notifications.addObserver(notifications::updateOverview,
             [this](const auto &posted) { overviews.append(posted); });
@@ -192,7 +192,7 @@ protected:
     QList<NotificationCenter::Notification> overviews;
 };
 
-TEST_F(CountdownOverview, ComesWithEveryTickAndHoldsEveryCountdown)
+TEST_F(CountdownTimersOverview, ComesWithEveryTickAndHoldsEveryCountdown)
 {
     ruleSays(en1, 9);
     timers->startCountDownTimer(en0);
@@ -205,7 +205,7 @@ TEST_F(CountdownOverview, ComesWithEveryTickAndHoldsEveryCountdown)
     EXPECT_EQ(overviews.last().userInfo.keys(), (QStringList{en0, en1}));
 }
 
-TEST_F(CountdownOverview, ComesWithEveryStopAlsoWhenNothingRan)
+TEST_F(CountdownTimersOverview, ComesWithEveryStopAlsoWhenNothingRan)
 {
     timers->startCountDownTimer(en0);
     EXPECT_EQ(overviews.size(), 1) << "a start stops first";
@@ -216,11 +216,11 @@ TEST_F(CountdownOverview, ComesWithEveryStopAlsoWhenNothingRan)
     EXPECT_TRUE(overviews.last().userInfo.isEmpty());
 }
 
-class StoppedCountdown : public CountdownMachine
+class CountdownTimersStopped : public CountdownMachine
 {
 };
 
-TEST_F(StoppedCountdown, TicksNoMore)
+TEST_F(CountdownTimersStopped, TicksNoMore)
 {
     timers->startCountDownTimer(en0);
     timers->stopCountdownTimer(en0);
@@ -231,7 +231,7 @@ TEST_F(StoppedCountdown, TicksNoMore)
     EXPECT_TRUE(timers->timers().isEmpty());
 }
 
-TEST_F(StoppedCountdown, HidesTheLabel)
+TEST_F(CountdownTimersStopped, HidesTheLabel)
 {
     ruleSays(en1, 9);
     timers->startCountDownTimer(en0);
@@ -247,7 +247,7 @@ TEST_F(StoppedCountdown, HidesTheLabel)
     EXPECT_EQ(hidden, 3) << "none is running";
 }
 
-TEST_F(StoppedCountdown, BetweenItsZeroAndTheChangeMakesNone)
+TEST_F(CountdownTimersStopped, BetweenItsZeroAndTheChangeMakesNone)
 {
     int late = 0;
     timers->startCountDownTimer(en0);
@@ -269,7 +269,7 @@ TEST_F(StoppedCountdown, BetweenItsZeroAndTheChangeMakesNone)
     EXPECT_TRUE(timers->timers().isEmpty());
 }
 
-TEST_F(StoppedCountdown, ByWhoeverHearsOfTheTickIsNotBroughtBack)
+TEST_F(CountdownTimersStopped, ByWhoeverHearsOfTheTickIsNotBroughtBack)
 {
     QObject::connect(timers.get(), &CountdownTimers::ticked, timers.get(),
         [this](const QString &device) { timers->stopCountdownTimer(device); });
@@ -280,7 +280,7 @@ TEST_F(StoppedCountdown, ByWhoeverHearsOfTheTickIsNotBroughtBack)
     EXPECT_TRUE(timers->timers().isEmpty());
 }
 
-TEST_F(StoppedCountdown, WithTheProgramLeavesNoTimer)
+TEST_F(CountdownTimersStopped, WithTheProgramLeavesNoTimer)
 {
     ruleSays(en1, 9);
     timers->startCountDownTimer(en0);
@@ -291,7 +291,7 @@ TEST_F(StoppedCountdown, WithTheProgramLeavesNoTimer)
     EXPECT_TRUE(changes().isEmpty());
 }
 
-TEST_F(StoppedCountdown, WithTheProgramDropsAChangeThatIsQueued)
+TEST_F(CountdownTimersStopped, WithTheProgramDropsAChangeThatIsQueued)
 {
     timers->startCountDownTimer(en0);
     QObject::connect(

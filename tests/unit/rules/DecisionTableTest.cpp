@@ -67,10 +67,10 @@ void PrintTo(const Verdict &verdict, std::ostream *out)
 }
 
 /// Evaluates situations. What a rule gives tells which one it was: each has its own manufacturer.
-class Decision : public RuleMachine
+class DecisionTableTest : public RuleMachine
 {
 protected:
-    Decision()
+    DecisionTableTest()
     {
         saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
         saveNetwork(QStringLiteral("Mesh"), QStringLiteral("Mesh"), meshBssid, true);
@@ -229,7 +229,7 @@ Situation situationIn(const QStringList &columns)
     return situation;
 }
 
-TEST_F(Decision, FollowsTheTable)
+TEST_F(DecisionTableTest, FollowsTheTable)
 {
     QFile file(QStringLiteral(QUILLON_TEST_DATA "/rules/decision.txt"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
@@ -297,12 +297,12 @@ Verdict oracle(const Situation &situation)
 }
 
 /// One interface at one place, in every combination of everything else.
-class EveryCombination : public Decision,
+class DecisionTableEveryCombination : public DecisionTableTest,
                          public ::testing::WithParamInterface<std::tuple<bool, QString>>
 {
 };
 
-TEST_P(EveryCombination, IsDecidedAsTheOracleSays)
+TEST_P(DecisionTableEveryCombination, IsDecidedAsTheOracleSays)
 {
     Situation situation;
     std::tie(situation.isWifi, situation.place) = GetParam();
@@ -338,7 +338,7 @@ TEST_P(EveryCombination, IsDecidedAsTheOracleSays)
     EXPECT_EQ(combinations, 243 * 8 * 4);
 }
 
-INSTANTIATE_TEST_SUITE_P(Decisions, EveryCombination,
+INSTANTIATE_TEST_SUITE_P(Decisions, DecisionTableEveryCombination,
     ::testing::Combine(::testing::Bool(), ::testing::ValuesIn(places)), [](const auto &given) {
         return (std::get<0>(given.param) ? "Wifi_" : "Wired_") +
                std::get<1>(given.param).toStdString();

@@ -13,7 +13,7 @@ namespace {
 
 const QString homeBssid = QStringLiteral("02:00:00:00:aa:01");
 
-class RuleQuery : public RuleMachine
+class RuleQueriesTest : public RuleMachine
 {
 protected:
     QStringList selected(const QString &device)
@@ -46,7 +46,7 @@ protected:
     }
 };
 
-TEST_F(RuleQuery, FindsTheRulesOfADeviceInTheOrderOfTheirCreation)
+TEST_F(RuleQueriesTest, FindsTheRulesOfADeviceInTheOrderOfTheirCreation)
 {
     addRule({.name = QStringLiteral("b")});
     addRule({.name = QStringLiteral("x"), .device = en1});
@@ -60,14 +60,14 @@ TEST_F(RuleQuery, FindsTheRulesOfADeviceInTheOrderOfTheirCreation)
     EXPECT_TRUE(queries.managedRuleArrayForDevice(QString()).isEmpty());
 }
 
-TEST_F(RuleQuery, AsksTheStoreForRules)
+TEST_F(RuleQueriesTest, AsksTheStoreForRules)
 {
     EXPECT_EQ(Rule::fetchRequest().entity, QStringLiteral("Rule"));
     EXPECT_FALSE(Rule::fetchRequest().predicate);
     EXPECT_TRUE(Rule::fetchRequest().order.isEmpty());
 }
 
-TEST_F(RuleQuery, OfAWiredInterfaceSelectsAllOfItsRulesLoginRulesIncluded)
+TEST_F(RuleQueriesTest, OfAWiredInterfaceSelectsAllOfItsRulesLoginRulesIncluded)
 {
     addRule({.name = QStringLiteral("home"), .network = homeBssid});
     addRule({.name = QStringLiteral("any")});
@@ -78,7 +78,7 @@ TEST_F(RuleQuery, OfAWiredInterfaceSelectsAllOfItsRulesLoginRulesIncluded)
         (QStringList{QStringLiteral("home"), QStringLiteral("any"), QStringLiteral("login")}));
 }
 
-TEST_F(RuleQuery, OfAWifiInterfaceThatIsOnNoNetworkIsABareConditionThatNoRuleMeets)
+TEST_F(RuleQueriesTest, OfAWifiInterfaceThatIsOnNoNetworkIsABareConditionThatNoRuleMeets)
 {
     addRuleOfEachKind();
     EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("network == 'empty'"));
@@ -87,7 +87,7 @@ TEST_F(RuleQuery, OfAWifiInterfaceThatIsOnNoNetworkIsABareConditionThatNoRuleMee
     EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("network == 'empty'"));
 }
 
-TEST_F(RuleQuery, OfAWifiInterfaceOnASavedNetworkIsPrintedInTheUsualNotation)
+TEST_F(RuleQueriesTest, OfAWifiInterfaceOnASavedNetworkIsPrintedInTheUsualNotation)
 {
     saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
     beOn(QStringLiteral("Home"), homeBssid.toUpper());
@@ -96,7 +96,7 @@ TEST_F(RuleQuery, OfAWifiInterfaceOnASavedNetworkIsPrintedInTheUsualNotation)
         "((ssid == 'Home') && (ssidDefined == YES)))");
 }
 
-TEST_F(RuleQuery, OfAWifiInterfaceOnAnUnknownNetworkIsPrintedInTheUsualNotation)
+TEST_F(RuleQueriesTest, OfAWifiInterfaceOnAnUnknownNetworkIsPrintedInTheUsualNotation)
 {
     beOn(QStringLiteral("Cafe"), QStringLiteral("02:00:00:00:cc:01"));
     EXPECT_EQ(format(queries.filterPredicateForDevice(en1)).toStdString(),
@@ -104,7 +104,7 @@ TEST_F(RuleQuery, OfAWifiInterfaceOnAnUnknownNetworkIsPrintedInTheUsualNotation)
         "((ssid == 'Cafe') && (ssidDefined == YES)) || (network == 'An Unknown Network'))");
 }
 
-TEST_F(RuleQuery, OnASavedNetworkSelectsItsRulesAndThoseForAny)
+TEST_F(RuleQueriesTest, OnASavedNetworkSelectsItsRulesAndThoseForAny)
 {
     addRuleOfEachKind();
     saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
@@ -112,14 +112,14 @@ TEST_F(RuleQuery, OnASavedNetworkSelectsItsRulesAndThoseForAny)
     EXPECT_EQ(selected(en1), (QStringList{QStringLiteral("home"), QStringLiteral("any")}));
 }
 
-TEST_F(RuleQuery, OnANetworkThatIsNotSavedSelectsThoseForUnknownNetworksToo)
+TEST_F(RuleQueriesTest, OnANetworkThatIsNotSavedSelectsThoseForUnknownNetworksToo)
 {
     addRuleOfEachKind();
     beOn(QStringLiteral("Cafe"), QStringLiteral("02:00:00:00:cc:01"));
     EXPECT_EQ(selected(en1), (QStringList{QStringLiteral("any"), QStringLiteral("unknown")}));
 }
 
-TEST_F(RuleQuery, RecognisesANetworkByItsSsidAtAnotherAccessPoint)
+TEST_F(RuleQueriesTest, RecognisesANetworkByItsSsidAtAnotherAccessPoint)
 {
     addRuleOfEachKind();
     saveNetwork(
@@ -128,7 +128,7 @@ TEST_F(RuleQuery, RecognisesANetworkByItsSsidAtAnotherAccessPoint)
     EXPECT_EQ(selected(en1), (QStringList{QStringLiteral("any"), QStringLiteral("mesh")}));
 }
 
-TEST_F(RuleQuery, FindsANetworkSavedInUpperCaseUnknownUnlessItsSsidCounts)
+TEST_F(RuleQueriesTest, FindsANetworkSavedInUpperCaseUnknownUnlessItsSsidCounts)
 {
     addRuleOfEachKind();
     saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid.toUpper(), false);
@@ -140,7 +140,7 @@ TEST_F(RuleQuery, FindsANetworkSavedInUpperCaseUnknownUnlessItsSsidCounts)
     EXPECT_EQ(selected(en1), (QStringList{QStringLiteral("home"), QStringLiteral("any")}));
 }
 
-TEST_F(RuleQuery, ComparesSsidsExactly)
+TEST_F(RuleQueriesTest, ComparesSsidsExactly)
 {
     addRuleOfEachKind();
     saveNetwork(
@@ -149,7 +149,7 @@ TEST_F(RuleQuery, ComparesSsidsExactly)
     EXPECT_EQ(selected(en1), (QStringList{QStringLiteral("any"), QStringLiteral("unknown")}));
 }
 
-TEST_F(RuleQuery, ReadsSettingsThatAreNoneAsNothing)
+TEST_F(RuleQueriesTest, ReadsSettingsThatAreNoneAsNothing)
 {
     addRuleOfEachKind();
     settings.set(keys::savedNetworks, QVariantMap{{homeBssid, QVariant(QStringLiteral("text"))}});
@@ -165,7 +165,7 @@ TEST_F(RuleQuery, ReadsSettingsThatAreNoneAsNothing)
     EXPECT_EQ(format(queries.filterPredicateForDevice(en1)), QStringLiteral("device == 'en1'"));
 }
 
-TEST_F(RuleQuery, LogsAFetchThatFailsAndFindsNothing)
+TEST_F(RuleQueriesTest, LogsAFetchThatFailsAndFindsNothing)
 {
     addRule({.name = QStringLiteral("a")});
     ASSERT_FALSE(context().save());
@@ -185,7 +185,7 @@ TEST_F(RuleQuery, LogsAFetchThatFailsAndFindsNothing)
     EXPECT_EQ(hasRule(en0), QVariant(0)) << "as if no rule matched";
 }
 
-TEST_F(RuleQuery, GivesRulesByTheirIdentity)
+TEST_F(RuleQueriesTest, GivesRulesByTheirIdentity)
 {
     const Rule rule = addRule({.name = QStringLiteral("a")});
     EXPECT_EQ(queries.ruleWithID(rule.objID()), rule);
@@ -201,7 +201,7 @@ TEST_F(RuleQuery, GivesRulesByTheirIdentity)
     EXPECT_TRUE(queries.ruleWithID(rule.objID()).isNull());
 }
 
-TEST_F(RuleQuery, CollectsTheNamesOnRequest)
+TEST_F(RuleQueriesTest, CollectsTheNamesOnRequest)
 {
     addRule({.name = QStringLiteral("b")});
     addRule({.name = QStringLiteral("a"), .device = en1});
@@ -213,7 +213,7 @@ TEST_F(RuleQuery, CollectsTheNamesOnRequest)
     EXPECT_EQ(queries.namesArray(), QStringList{QStringLiteral("a")});
 }
 
-TEST_F(RuleQuery, KeepsEveryAttributeOfARule)
+TEST_F(RuleQueriesTest, KeepsEveryAttributeOfARule)
 {
     const Rule rule(context().insertNewObject(QStringLiteral("Rule")));
     EXPECT_EQ(rule.action(), 0);
@@ -247,7 +247,7 @@ TEST_F(RuleQuery, KeepsEveryAttributeOfARule)
     EXPECT_EQ(rule.vendor(), QStringLiteral("Maker (A1B2C3)"));
 }
 
-TEST_F(RuleQuery, ToleratesARuleThatIsNone)
+TEST_F(RuleQueriesTest, ToleratesARuleThatIsNone)
 {
     const Rule none;
     none.setEnabled(true);
@@ -258,7 +258,7 @@ TEST_F(RuleQuery, ToleratesARuleThatIsNone)
     EXPECT_TRUE(updateRuledictWithRule({}, none).isEmpty());
 }
 
-TEST_F(RuleQuery, FlattensARuleWithItsMinutesUnderTheirOwnKey)
+TEST_F(RuleQueriesTest, FlattensARuleWithItsMinutesUnderTheirOwnKey)
 {
     const Rule rule = addRule({.name = QStringLiteral("a"), .timerMins = 7});
     const QVariantMap flat = updateRuledictWithRule({}, rule);
@@ -273,7 +273,7 @@ TEST_F(RuleQuery, FlattensARuleWithItsMinutesUnderTheirOwnKey)
     EXPECT_TRUE(isPropertyList(flat));
 }
 
-TEST_F(RuleQuery, FlattensIntoADictionaryWhoseOtherKeysStay)
+TEST_F(RuleQueriesTest, FlattensIntoADictionaryWhoseOtherKeysStay)
 {
     const Rule rule(context().insertNewObject(QStringLiteral("Rule")));
     rule.setName(QStringLiteral("a"));

@@ -9,10 +9,10 @@ namespace {
 
 const QString home = QStringLiteral("02:00:00:00:aa:01");
 
-class Switches : public RuleMachine
+class RuleSwitchesTest : public RuleMachine
 {
 protected:
-    Switches()
+    RuleSwitchesTest()
     {
         QObject::connect(
             &switches, &RuleSwitches::ruleToggled, [this] { order << QStringLiteral("list"); });
@@ -35,7 +35,7 @@ protected:
     QStringList order;
 };
 
-TEST_F(Switches, SwitchEvaluateShowAndSave)
+TEST_F(RuleSwitchesTest, SwitchEvaluateShowAndSave)
 {
     const Rule rule = addRule({.name = QStringLiteral("a"), .enabled = false});
     toggle(rule, true);
@@ -46,7 +46,7 @@ TEST_F(Switches, SwitchEvaluateShowAndSave)
     EXPECT_EQ(order, (QStringList{QStringLiteral("table before saving"), QStringLiteral("list")}));
 }
 
-TEST_F(Switches, CarryOutThoughTheInternetCannotBeReached)
+TEST_F(RuleSwitchesTest, CarryOutThoughTheInternetCannotBeReached)
 {
     reachability.reachable = false;
     toggle(addRule({.name = QStringLiteral("a"), .enabled = false}), true);
@@ -54,7 +54,7 @@ TEST_F(Switches, CarryOutThoughTheInternetCannotBeReached)
     EXPECT_EQ(reachability.questions, 0);
 }
 
-TEST_F(Switches, TakeTheStateAsANumberToo)
+TEST_F(RuleSwitchesTest, TakeTheStateAsANumberToo)
 {
     const Rule rule = addRule({.name = QStringLiteral("a"), .enabled = false});
     switches.toggleRule({{QStringLiteral("objID"), rule.objID()}, {QStringLiteral("state"), 1}});
@@ -63,7 +63,7 @@ TEST_F(Switches, TakeTheStateAsANumberToo)
     EXPECT_FALSE(rule.enabled());
 }
 
-TEST_F(Switches, DoNothingWithoutAnIdentity)
+TEST_F(RuleSwitchesTest, DoNothingWithoutAnIdentity)
 {
     addRule({.name = QStringLiteral("a"), .enabled = false});
     switches.toggleRule({{QStringLiteral("state"), true}});
@@ -72,7 +72,7 @@ TEST_F(Switches, DoNothingWithoutAnIdentity)
     EXPECT_TRUE(overviews.isEmpty());
 }
 
-TEST_F(Switches, DoNothingForAnIdentityOfNoRule)
+TEST_F(RuleSwitchesTest, DoNothingForAnIdentityOfNoRule)
 {
     const ManagedObjectPtr connection = context().insertNewObject(QStringLiteral("Connection"));
     for (const QVariant &identity : {QVariant(QStringLiteral("text")), QVariant(7), QVariant(),
@@ -84,7 +84,7 @@ TEST_F(Switches, DoNothingForAnIdentityOfNoRule)
     EXPECT_TRUE(overviews.isEmpty());
 }
 
-TEST_F(Switches, LeaveOneEnabledRuleForAnInterfaceAndANetworkAndWarn)
+TEST_F(RuleSwitchesTest, LeaveOneEnabledRuleForAnInterfaceAndANetworkAndWarn)
 {
     const Rule other = addRule({.name = QStringLiteral("other"), .network = home});
     const Rule elsewhere =
@@ -101,7 +101,7 @@ TEST_F(Switches, LeaveOneEnabledRuleForAnInterfaceAndANetworkAndWarn)
                          QStringLiteral("list")}));
 }
 
-TEST_F(Switches, DoSoAlsoWhenTheRuleIsSwitchedOff)
+TEST_F(RuleSwitchesTest, DoSoAlsoWhenTheRuleIsSwitchedOff)
 {
     const Rule other = addRule({.name = QStringLiteral("other"), .network = home});
     const Rule rule = addRule({.name = QStringLiteral("rule"), .network = home});
@@ -112,14 +112,14 @@ TEST_F(Switches, DoSoAlsoWhenTheRuleIsSwitchedOff)
     EXPECT_TRUE(order.contains(QStringLiteral("warning")));
 }
 
-TEST_F(Switches, DoNotWarnWhenNothingElseWasOn)
+TEST_F(RuleSwitchesTest, DoNotWarnWhenNothingElseWasOn)
 {
     addRule({.name = QStringLiteral("other"), .network = home, .enabled = false});
     toggle(addRule({.name = QStringLiteral("rule"), .network = home, .enabled = false}), true);
     EXPECT_FALSE(order.contains(QStringLiteral("warning")));
 }
 
-TEST_F(Switches, LeaveOneLoginRuleForAnInterface)
+TEST_F(RuleSwitchesTest, LeaveOneLoginRuleForAnInterface)
 {
     const Rule first = addRule({.name = QStringLiteral("first"), .isLogin = true});
     const Rule second =
@@ -129,7 +129,7 @@ TEST_F(Switches, LeaveOneLoginRuleForAnInterface)
     EXPECT_EQ(loginRuleInForce(en0), QStringLiteral("second"));
 }
 
-TEST_F(Switches, EndTheCountdownOfTheRuleThatIsSwitchedOff)
+TEST_F(RuleSwitchesTest, EndTheCountdownOfTheRuleThatIsSwitchedOff)
 {
     const Rule rule =
         addRule({.name = QStringLiteral("every"), .enabled = false, .changeAction = Rule::every});
@@ -139,7 +139,7 @@ TEST_F(Switches, EndTheCountdownOfTheRuleThatIsSwitchedOff)
     EXPECT_FALSE(isCountingDown(en0));
 }
 
-TEST_F(Switches, LogARuleThatCannotBeSaved)
+TEST_F(RuleSwitchesTest, LogARuleThatCannotBeSaved)
 {
     const Rule rule = addRule({.name = QStringLiteral("a"), .enabled = false});
     ASSERT_FALSE(context().save());
@@ -154,7 +154,7 @@ TEST_F(Switches, LogARuleThatCannotBeSaved)
     EXPECT_EQ(changesOf(en0).size(), 1) << "it was evaluated already";
 }
 
-TEST_F(Switches, CanBeAllSwitchedOffWithoutSavingOrEvaluating)
+TEST_F(RuleSwitchesTest, CanBeAllSwitchedOffWithoutSavingOrEvaluating)
 {
     const Rule a = addRule({.name = QStringLiteral("a")});
     const Rule b = addRule({.name = QStringLiteral("b"), .device = en1});

@@ -142,7 +142,7 @@ TEST_F(Fetch, NoTextBecomesSql)
 
 // MARK: lazily
 
-class LazyFetch : public Fetch
+class FetchLazily : public Fetch
 {
 protected:
     void sql(const std::string &script)
@@ -167,7 +167,7 @@ protected:
     }
 };
 
-TEST_F(LazyFetch, KnowsItsLengthAndReadsOnlyThePagesAskedFor)
+TEST_F(FetchLazily, KnowsItsLengthAndReadsOnlyThePagesAskedFor)
 {
     constexpr int all = 100'000;
     fill(all);
@@ -183,7 +183,7 @@ TEST_F(LazyFetch, KnowsItsLengthAndReadsOnlyThePagesAskedFor)
     EXPECT_EQ(records.at(-1), nullptr);
 }
 
-TEST_F(LazyFetch, ForgetsPagesNotUsedForAWhile)
+TEST_F(FetchLazily, ForgetsPagesNotUsedForAWhile)
 {
     fill(2'000);
     const FetchedRecords records = lazily();
@@ -196,7 +196,7 @@ TEST_F(LazyFetch, ForgetsPagesNotUsedForAWhile)
     EXPECT_EQ(nameOf(records.at(0)), "0"_s);
 }
 
-TEST_F(LazyFetch, KeepsThePageThatIsUsed)
+TEST_F(FetchLazily, KeepsThePageThatIsUsed)
 {
     fill(2'000);
     const FetchedRecords records = lazily();
@@ -208,7 +208,7 @@ TEST_F(LazyFetch, KeepsThePageThatIsUsed)
     EXPECT_FALSE(first.expired());
 }
 
-TEST_F(LazyFetch, IsAPictureOfItsMomentInWhichChangesShow)
+TEST_F(FetchLazily, IsAPictureOfItsMomentInWhichChangesShow)
 {
     fill(3);
     const FetchedRecords records = lazily();
@@ -223,7 +223,7 @@ TEST_F(LazyFetch, IsAPictureOfItsMomentInWhichChangesShow)
     EXPECT_EQ(records.size(), 3);
 }
 
-TEST_F(LazyFetch, HoldsUnsavedRecordsInTheirPlaces)
+TEST_F(FetchLazily, HoldsUnsavedRecordsInTheirPlaces)
 {
     fill(300);
     const auto changed = lazily().at(250);
@@ -240,7 +240,7 @@ TEST_F(LazyFetch, HoldsUnsavedRecordsInTheirPlaces)
     EXPECT_EQ(records.at(1), added);
 }
 
-TEST_F(LazyFetch, OutlivedByNothingOfItsContext)
+TEST_F(FetchLazily, OutlivedByNothingOfItsContext)
 {
     fill(3);
     const FetchedRecords records = lazily();

@@ -15,7 +15,7 @@
 
 namespace quillon::test {
 
-class OpeningRecords : public ::testing::Test
+class RecordFileOpeningTest : public ::testing::Test
 {
 protected:
     using Opened = Result<std::unique_ptr<RecordFile>>;
@@ -101,7 +101,7 @@ protected:
     QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
 };
 
-TEST_F(OpeningRecords, MakesAMissingFileForItsOwnerAlone)
+TEST_F(RecordFileOpeningTest, MakesAMissingFileForItsOwnerAlone)
 {
     ASSERT_TRUE(open());
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther |
@@ -113,7 +113,7 @@ TEST_F(OpeningRecords, MakesAMissingFileForItsOwnerAlone)
     EXPECT_EQ(answer("SELECT count(*) FROM Connection"), "0");
 }
 
-TEST_F(OpeningRecords, TheLogBesideTheFileIsForItsOwnerToo)
+TEST_F(RecordFileOpeningTest, TheLogBesideTheFileIsForItsOwnerToo)
 {
     const auto file = open();
     const auto permissions = QFile::permissions(path + QStringLiteral("-wal"));
@@ -121,14 +121,14 @@ TEST_F(OpeningRecords, TheLogBesideTheFileIsForItsOwnerToo)
     EXPECT_FALSE(permissions & (QFile::ReadGroup | QFile::ReadOther));
 }
 
-TEST_F(OpeningRecords, AnEmptyFileIsANewOne)
+TEST_F(RecordFileOpeningTest, AnEmptyFileIsANewOne)
 {
     write({});
     ASSERT_TRUE(open());
     EXPECT_EQ(answer("PRAGMA user_version"), "1");
 }
 
-TEST_F(OpeningRecords, AnOlderFileIsBroughtUpToDate)
+TEST_F(RecordFileOpeningTest, AnOlderFileIsBroughtUpToDate)
 {
     makeWithOneRule();
     RecordSchema later = withStep("ALTER TABLE Rule ADD COLUMN colour TEXT;"
@@ -141,7 +141,7 @@ TEST_F(OpeningRecords, AnOlderFileIsBroughtUpToDate)
     ASSERT_TRUE(open(later)) << "a step runs once";
 }
 
-TEST_F(OpeningRecords, AStepThatFailsLeavesTheFileAsItWas)
+TEST_F(RecordFileOpeningTest, AStepThatFailsLeavesTheFileAsItWas)
 {
     makeWithOneRule();
     const QByteArray before = bytes();
@@ -153,7 +153,7 @@ TEST_F(OpeningRecords, AStepThatFailsLeavesTheFileAsItWas)
     EXPECT_TRUE(open());
 }
 
-TEST_F(OpeningRecords, AStepThatLosesAnAttributeIsTakenBack)
+TEST_F(RecordFileOpeningTest, AStepThatLosesAnAttributeIsTakenBack)
 {
     makeWithOneRule();
     expectRefused(open(withStep("ALTER TABLE Rule DROP COLUMN vendor")), RecordFileError::Damaged,
@@ -161,7 +161,7 @@ TEST_F(OpeningRecords, AStepThatLosesAnAttributeIsTakenBack)
     EXPECT_TRUE(open());
 }
 
-TEST_F(OpeningRecords, AFileOfANewerVersionIsRefusedAndUntouched)
+TEST_F(RecordFileOpeningTest, AFileOfANewerVersionIsRefusedAndUntouched)
 {
     ASSERT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
     const QByteArray before = bytes();
@@ -172,7 +172,7 @@ TEST_F(OpeningRecords, AFileOfANewerVersionIsRefusedAndUntouched)
     EXPECT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
 }
 
-TEST_F(OpeningRecords, WhatANewerProgramLeftInItsLogStaysThere)
+TEST_F(RecordFileOpeningTest, WhatANewerProgramLeftInItsLogStaysThere)
 {
     {
         // As a program leaves it that was killed: the log has what the file does not have yet.
@@ -191,7 +191,7 @@ TEST_F(OpeningRecords, WhatANewerProgramLeftInItsLogStaysThere)
     EXPECT_EQ(answer("SELECT count(*) FROM Extra"), "1");
 }
 
-TEST_F(OpeningRecords, WhatIsNoDatabaseIsRefusedAndUntouched)
+TEST_F(RecordFileOpeningTest, WhatIsNoDatabaseIsRefusedAndUntouched)
 {
     const QByteArray text("Dear diary, this is not a database at all.");
     write(text);
@@ -201,7 +201,7 @@ TEST_F(OpeningRecords, WhatIsNoDatabaseIsRefusedAndUntouched)
     EXPECT_FALSE(open());
 }
 
-TEST_F(OpeningRecords, AFileTooShortForADatabaseIsRefusedAndUntouched)
+TEST_F(RecordFileOpeningTest, AFileTooShortForADatabaseIsRefusedAndUntouched)
 {
     const QByteArray header("SQLite format 3\0", 16);
     for (const QByteArray &text : {QByteArray("x"), QByteArray("scribble"), header.left(1), header,
@@ -212,7 +212,7 @@ TEST_F(OpeningRecords, AFileTooShortForADatabaseIsRefusedAndUntouched)
     }
 }
 
-TEST_F(OpeningRecords, WhatIsNoDatabaseIsNotReadFromALogBesideIt)
+TEST_F(RecordFileOpeningTest, WhatIsNoDatabaseIsNotReadFromALogBesideIt)
 {
     {
         const auto other = open();
@@ -229,21 +229,21 @@ TEST_F(OpeningRecords, WhatIsNoDatabaseIsNotReadFromALogBesideIt)
     EXPECT_EQ(bytes(path + QStringLiteral("-wal")), log);
 }
 
-TEST_F(OpeningRecords, WhatAnotherProgramDidNotFinishIsLeftToIt)
+TEST_F(RecordFileOpeningTest, WhatAnotherProgramDidNotFinishIsLeftToIt)
 {
     sql("CREATE TABLE Notes (text); INSERT INTO Notes VALUES ('before')");
     expectHalfDoneRefused(
         RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
 }
 
-TEST_F(OpeningRecords, WhatANewerProgramDidNotFinishIsLeftToIt)
+TEST_F(RecordFileOpeningTest, WhatANewerProgramDidNotFinishIsLeftToIt)
 {
     ASSERT_TRUE(open(withStep("CREATE TABLE Notes (text)")));
     sql("PRAGMA journal_mode = DELETE");
     expectHalfDoneRefused(RecordFileError::Newer, QStringLiteral("newer version"));
 }
 
-TEST_F(OpeningRecords, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
+TEST_F(RecordFileOpeningTest, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
 {
     sql("CREATE TABLE Rule (x); INSERT INTO Rule VALUES (1)");
     const QByteArray before = bytes();
@@ -255,7 +255,7 @@ TEST_F(OpeningRecords, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
         open(), RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
 }
 
-TEST_F(OpeningRecords, AMissingColumnOrTableIsDamage)
+TEST_F(RecordFileOpeningTest, AMissingColumnOrTableIsDamage)
 {
     makeWithOneRule();
     sql("ALTER TABLE Rule DROP COLUMN ssid");
@@ -266,7 +266,7 @@ TEST_F(OpeningRecords, AMissingColumnOrTableIsDamage)
     expectRefused(open(), RecordFileError::Damaged, QStringLiteral("\"Rule\" lacks \"pk\""));
 }
 
-TEST_F(OpeningRecords, ADamagedPageIsNoticedAndUntouched)
+TEST_F(RecordFileOpeningTest, ADamagedPageIsNoticedAndUntouched)
 {
     makeWithOneRule();
     const QByteArray whole = bytes();
@@ -280,7 +280,7 @@ TEST_F(OpeningRecords, ADamagedPageIsNoticedAndUntouched)
     EXPECT_EQ(bytes(), damaged);
 }
 
-TEST_F(OpeningRecords, ATruncatedFileIsNoticedAndUntouched)
+TEST_F(RecordFileOpeningTest, ATruncatedFileIsNoticedAndUntouched)
 {
     makeWithOneRule();
     const QByteArray part = bytes().left(4096 * 2);
@@ -289,7 +289,7 @@ TEST_F(OpeningRecords, ATruncatedFileIsNoticedAndUntouched)
     EXPECT_EQ(bytes(), part);
 }
 
-TEST_F(OpeningRecords, NoByteThatIsWrongEndsTheProgram)
+TEST_F(RecordFileOpeningTest, NoByteThatIsWrongEndsTheProgram)
 {
     makeWithOneRule();
     const QByteArray whole = bytes();
@@ -302,7 +302,7 @@ TEST_F(OpeningRecords, NoByteThatIsWrongEndsTheProgram)
     }
 }
 
-TEST_F(OpeningRecords, AFileThatSomebodyKeepsIsReportedAsLocked)
+TEST_F(RecordFileOpeningTest, AFileThatSomebodyKeepsIsReportedAsLocked)
 {
     makeWithOneRule();
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
@@ -310,7 +310,7 @@ TEST_F(OpeningRecords, AFileThatSomebodyKeepsIsReportedAsLocked)
     expectRefused(open(), RecordFileError::Locked, QStringLiteral("locked"));
 }
 
-TEST_F(OpeningRecords, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
+TEST_F(RecordFileOpeningTest, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
 {
     makeWithOneRule();
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
@@ -320,7 +320,7 @@ TEST_F(OpeningRecords, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
         QStringLiteral("locked"));
 }
 
-TEST_F(OpeningRecords, AFolderOrAMissingFolderCannotBeOpened)
+TEST_F(RecordFileOpeningTest, AFolderOrAMissingFolderCannotBeOpened)
 {
     QDir(folder.path()).mkdir(QStringLiteral("Quillon.sqlite"));
     expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
@@ -328,13 +328,13 @@ TEST_F(OpeningRecords, AFolderOrAMissingFolderCannotBeOpened)
     expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
 }
 
-TEST_F(OpeningRecords, APipeIsNotWaitedFor)
+TEST_F(RecordFileOpeningTest, APipeIsNotWaitedFor)
 {
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
 }
 
-TEST_F(OpeningRecords, ANameWithAnyCharacterIsAFile)
+TEST_F(RecordFileOpeningTest, ANameWithAnyCharacterIsAFile)
 {
     path = folder.filePath(QStringLiteral("Ä ?mode=memory%41'\".sqlite"));
     ASSERT_TRUE(open());

@@ -275,11 +275,11 @@ public:
     std::function<void()> whenAsked;
 };
 
-class Editors : public RecordsTest
+class SavingEditors : public RecordsTest
 {
 };
 
-TEST_F(Editors, AreAskedUntilOneRefuses)
+TEST_F(SavingEditors, AreAskedUntilOneRefuses)
 {
     EXPECT_TRUE(context().commitEditing());
     OpenField first;
@@ -296,7 +296,7 @@ TEST_F(Editors, AreAskedUntilOneRefuses)
     EXPECT_EQ(third.asked, 1);
 }
 
-TEST_F(Editors, MayEndWhileTheyAreAsked)
+TEST_F(SavingEditors, MayEndWhileTheyAreAsked)
 {
     OpenField first;
     OpenField second;

@@ -12,10 +12,10 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class ChosenVendor : public VendorFixture
+class VendorChoiceTest : public VendorFixture
 {
 protected:
-    ChosenVendor()
+    VendorChoiceTest()
     {
         makeLive(registryOf({{"001A2B", "Some Maker Inc."}, {"080030", "Another (Old) Maker"}}));
         storeDevice(en0, {{record::current, QStringLiteral("00:11:22:33:44:55")}});
@@ -48,7 +48,7 @@ protected:
     QList<QVariantMap> announced;
 };
 
-TEST_F(ChosenVendor, IsStoredForTheSelectedInterfaceAndAnnounced)
+TEST_F(VendorChoiceTest, IsStoredForTheSelectedInterfaceAndAnnounced)
 {
     settings.clearJournal();
     choice.saveVendorSelection(maker);
@@ -60,7 +60,7 @@ TEST_F(ChosenVendor, IsStoredForTheSelectedInterfaceAndAnnounced)
                                {QStringLiteral("newVendor"), maker}}));
 }
 
-TEST_F(ChosenVendor, GivesRandomAddressesItsPrefix)
+TEST_F(VendorChoiceTest, GivesRandomAddressesItsPrefix)
 {
     choice.saveVendorSelection(QStringLiteral("Another (Old) Maker (080030)"));
     EXPECT_EQ(vendorPrefix(stored(en0)), QStringLiteral("080030"));
@@ -68,7 +68,7 @@ TEST_F(ChosenVendor, GivesRandomAddressesItsPrefix)
     EXPECT_EQ(vendorPrefix(stored(en0)), std::nullopt);
 }
 
-TEST_F(ChosenVendor, WithANameThatIsFarTooLongIsStoredCut)
+TEST_F(VendorChoiceTest, WithANameThatIsFarTooLongIsStoredCut)
 {
     makeLive(registryOf({{"001A2B", QByteArray(5'000'000, 'A')}}));
     loadList();
@@ -79,7 +79,7 @@ TEST_F(ChosenVendor, WithANameThatIsFarTooLongIsStoredCut)
     EXPECT_EQ(list.rowOf(stored(en0)), 0);
 }
 
-TEST_F(ChosenVendor, IsNotStoredWithoutAKnownInterface)
+TEST_F(VendorChoiceTest, IsNotStoredWithoutAKnownInterface)
 {
     for (const char *const device : {"", "en7"}) {
         select(QString::fromLatin1(device));
@@ -91,7 +91,7 @@ TEST_F(ChosenVendor, IsNotStoredWithoutAKnownInterface)
     EXPECT_THAT(announced, IsEmpty());
 }
 
-TEST_F(ChosenVendor, IsShownInTheField)
+TEST_F(VendorChoiceTest, IsShownInTheField)
 {
     choice.updateVendorField(en1);
     EXPECT_EQ(field.state().text, maker);
@@ -101,14 +101,14 @@ TEST_F(ChosenVendor, IsShownInTheField)
     EXPECT_EQ(field.state().text, random);
 }
 
-TEST_F(ChosenVendor, IsRandomAddressInTheFieldWithoutADevice)
+TEST_F(VendorChoiceTest, IsRandomAddressInTheFieldWithoutADevice)
 {
     select(en1);
     choice.updateVendorField(std::nullopt);
     EXPECT_EQ(field.state().text, random);
 }
 
-TEST_F(ChosenVendor, IsSelectedInTheWholeList)
+TEST_F(VendorChoiceTest, IsSelectedInTheWholeList)
 {
     list.filter(QStringLiteral("another"));
     choice.setVendorSelectionForDevice(en1);
@@ -119,7 +119,7 @@ TEST_F(ChosenVendor, IsSelectedInTheWholeList)
     EXPECT_EQ(list.entry(1), random);
 }
 
-TEST_F(ChosenVendor, ThatIsNoLongerInTheListIsStillShownButNotSelected)
+TEST_F(VendorChoiceTest, ThatIsNoLongerInTheListIsStillShownButNotSelected)
 {
     storeDevice(en0, {{record::vendor, QStringLiteral("Gone Maker (ABCDEF)")}});
     choice.updateVendorField(en0);
@@ -128,7 +128,7 @@ TEST_F(ChosenVendor, ThatIsNoLongerInTheListIsStillShownButNotSelected)
     EXPECT_EQ(field.state().text, QLatin1String("Gone Maker (ABCDEF)"));
 }
 
-TEST_F(ChosenVendor, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
+TEST_F(VendorChoiceTest, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
 {
     select(en1);
     list.filter(QStringLiteral("another"));
@@ -137,7 +137,7 @@ TEST_F(ChosenVendor, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
     EXPECT_EQ(field.state().selectedRow, 2);
 }
 
-TEST_F(ChosenVendor, IsTheRowOfWhatIsShown)
+TEST_F(VendorChoiceTest, IsTheRowOfWhatIsShown)
 {
     list.filter(QStringLiteral("some"));
     choice.updateVendorTableSelectionWithRow(0);
@@ -145,7 +145,7 @@ TEST_F(ChosenVendor, IsTheRowOfWhatIsShown)
     EXPECT_EQ(field.state().text, maker);
 }
 
-TEST_F(ChosenVendor, IsNoRowThatIsNotThere)
+TEST_F(VendorChoiceTest, IsNoRowThatIsNotThere)
 {
     for (const qsizetype row : {-1, 3, 1000}) {
         choice.updateVendorTableSelectionWithRow(row);

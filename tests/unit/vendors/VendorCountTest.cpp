@@ -18,10 +18,10 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class CountedVendors : public VendorFolder
+class VendorCountTest : public VendorFolder
 {
 protected:
-    CountedVendors()
+    VendorCountTest()
     {
         QObject::connect(&count, &VendorCount::firstCountBegun, [this] { said << "begun"; });
         QObject::connect(&count, &VendorCount::additionNoted,
@@ -40,7 +40,7 @@ protected:
     QStringList said;
 };
 
-TEST_F(CountedVendors, InstallsTheSeedAndCountsIt)
+TEST_F(VendorCountTest, InstallsTheSeedAndCountsIt)
 {
     QDir(root.filePath(QStringLiteral("share"))).removeRecursively();
     makeDatabase(files.seed, registryOf(12));
@@ -50,7 +50,7 @@ TEST_F(CountedVendors, InstallsTheSeedAndCountsIt)
     EXPECT_THAT(said, ElementsAre("begun", "note: (null) (added 12 new Identifiers)", "count: 12"));
 }
 
-TEST_F(CountedVendors, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
+TEST_F(VendorCountTest, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
 {
     makeDatabase(files.seed, registryOf(12));
     QFile::setPermissions(files.seed, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
@@ -58,7 +58,7 @@ TEST_F(CountedVendors, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
     EXPECT_TRUE(QFile::permissions(files.liveDatabase()).testFlag(QFile::WriteOwner));
 }
 
-TEST_F(CountedVendors, KeepADatabaseThatIsThereEvenIfItIsOlder)
+TEST_F(VendorCountTest, KeepADatabaseThatIsThereEvenIfItIsOlder)
 {
     makeDatabase(files.seed, registryOf(12));
     makeLive(registryOf(3));
@@ -66,7 +66,7 @@ TEST_F(CountedVendors, KeepADatabaseThatIsThereEvenIfItIsOlder)
     EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 3);
 }
 
-TEST_F(CountedVendors, AreNoneWhenNothingCanBeInstalled)
+TEST_F(VendorCountTest, AreNoneWhenNothingCanBeInstalled)
 {
     count.createSupportFolderAndVendorDatabase();
     EXPECT_THAT(said, ElementsAre("begun", "count: 0"));
@@ -80,7 +80,7 @@ TEST_F(CountedVendors, AreNoneWhenNothingCanBeInstalled)
     EXPECT_THAT(said, ElementsAre("begun", "count: 0", "begun", "count: 0"));
 }
 
-TEST_F(CountedVendors, NoteTheFirstCountWithTheDateThatWasStored)
+TEST_F(VendorCountTest, NoteTheFirstCountWithTheDateThatWasStored)
 {
     makeLive(registryOf(3));
     setDate(QStringLiteral("Nov 21, 2026, 2:05 PM"));
@@ -90,7 +90,7 @@ TEST_F(CountedVendors, NoteTheFirstCountWithTheDateThatWasStored)
         said, ElementsAre("note: Nov 21, 2026, 2:05 PM (added 3 new Identifiers)", "count: 3"));
 }
 
-TEST_F(CountedVendors, ShowTwoBlanksBeforeASecondNote)
+TEST_F(VendorCountTest, ShowTwoBlanksBeforeASecondNote)
 {
     makeLive(registryOf(8));
     settings.set(keys::vendorCountValue, 3);
@@ -99,7 +99,7 @@ TEST_F(CountedVendors, ShowTwoBlanksBeforeASecondNote)
     EXPECT_EQ(date(), QLatin1String("Yesterday  (added 5 new Identifiers)"));
 }
 
-TEST_F(CountedVendors, LoseTheNullMarkerWithTheSecondNote)
+TEST_F(VendorCountTest, LoseTheNullMarkerWithTheSecondNote)
 {
     makeLive(registryOf(3));
     count.updateVendorCount();
@@ -109,7 +109,7 @@ TEST_F(CountedVendors, LoseTheNullMarkerWithTheSecondNote)
     EXPECT_EQ(date(), QLatin1String(" (added 1 new Identifiers)"));
 }
 
-TEST_F(CountedVendors, NoteNothingWhenTheyAreAsManyOrFewer)
+TEST_F(VendorCountTest, NoteNothingWhenTheyAreAsManyOrFewer)
 {
     makeLive(registryOf(3));
     setDate(QStringLiteral("Yesterday"));
@@ -122,7 +122,7 @@ TEST_F(CountedVendors, NoteNothingWhenTheyAreAsManyOrFewer)
     EXPECT_THAT(said, ElementsAre("count: 3", "count: 3"));
 }
 
-TEST_F(CountedVendors, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
+TEST_F(VendorCountTest, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
 {
     makeLive(registryOf(8));
     settings.set(keys::vendorCountValue, 8);
@@ -143,7 +143,7 @@ TEST_F(CountedVendors, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
     EXPECT_THAT(said, ElementsAre("count: 8", "count: 8", "count: 8"));
 }
 
-TEST_F(CountedVendors, AreNoneWhenTheirFileHasGone)
+TEST_F(VendorCountTest, AreNoneWhenTheirFileHasGone)
 {
     settings.set(keys::vendorCountValue, 8);
     count.updateVendorCount();
@@ -151,7 +151,7 @@ TEST_F(CountedVendors, AreNoneWhenTheirFileHasGone)
     EXPECT_THAT(said, ElementsAre("count: 0"));
 }
 
-TEST_F(CountedVendors, AreFlushedBeforeTheyAreShown)
+TEST_F(VendorCountTest, AreFlushedBeforeTheyAreShown)
 {
     makeLive(registryOf(1));
     setDate(QStringLiteral("x"));
@@ -161,7 +161,7 @@ TEST_F(CountedVendors, AreFlushedBeforeTheyAreShown)
         ElementsAre("set vendorCountValue", "set vendorIDUpdatedDate", "synchronize"));
 }
 
-TEST_F(CountedVendors, AreReportedOnTheMainThreadWhoeverAsks)
+TEST_F(VendorCountTest, AreReportedOnTheMainThreadWhoeverAsks)
 {
     makeLive(registryOf(1));
     scheduler.asBackground([this] { count.updateVendorCount(); });
@@ -171,7 +171,7 @@ TEST_F(CountedVendors, AreReportedOnTheMainThreadWhoeverAsks)
     EXPECT_THAT(said, ElementsAre("note: (null) (added 1 new Identifiers)", "count: 1"));
 }
 
-TEST_F(CountedVendors, AreReportedToNobodyWhoIsGone)
+TEST_F(VendorCountTest, AreReportedToNobodyWhoIsGone)
 {
     makeLive(registryOf(1));
     auto shortLived = std::make_unique<VendorCount>(settings, scheduler, files, database);
@@ -181,7 +181,7 @@ TEST_F(CountedVendors, AreReportedToNobodyWhoIsGone)
     EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 1);
 }
 
-TEST(ShippedVendorDatabase, IsThatOfTheInstallationElseThatOfTheBuild)
+TEST(VendorCountOfTheShippedDatabase, IsThatOfTheInstallationElseThatOfTheBuild)
 {
     const QTemporaryDir root;
     const QString build = root.filePath(QStringLiteral("data/oui.db"));

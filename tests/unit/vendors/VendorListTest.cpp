@@ -3,7 +3,6 @@
 #include "vendors/VendorList.h"
 
 #include "VendorFixture.h"
-#include "store/model/Predicate.h"
 
 namespace quillon::test {
 namespace {
@@ -11,10 +10,10 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class VendorsToChooseFrom : public VendorFixture
+class VendorListTest : public VendorFixture
 {
 protected:
-    VendorsToChooseFrom()
+    VendorListTest()
     {
         makeLive(registryOf(
             {{"000002", "Zeta"}, {"000001", "apple"}, {"000003", "Apple"}, {"000003", "Apple"},
@@ -22,7 +21,7 @@ protected:
     }
 };
 
-TEST_F(VendorsToChooseFrom, StandInPlainOrderWithDuplicatesAndRandomAddressAmongThem)
+TEST_F(VendorListTest, StandInPlainOrderWithDuplicatesAndRandomAddressAmongThem)
 {
     loadList();
     EXPECT_THAT(shown(), ElementsAre("Appl (000006)", "Apple (000003)", "Apple (000003)",
@@ -30,7 +29,7 @@ TEST_F(VendorsToChooseFrom, StandInPlainOrderWithDuplicatesAndRandomAddressAmong
                              QString::fromUtf8("\xC3\x84pfel (000004)")));
 }
 
-TEST_F(VendorsToChooseFrom, AreOnlyRandomAddressWithoutADatabase)
+TEST_F(VendorListTest, AreOnlyRandomAddressWithoutADatabase)
 {
     QFile::remove(files.liveDatabase());
     loadList();
@@ -40,7 +39,7 @@ TEST_F(VendorsToChooseFrom, AreOnlyRandomAddressWithoutADatabase)
     EXPECT_THAT(shown(), ElementsAre("Random Address"));
 }
 
-TEST_F(VendorsToChooseFrom, AreReadInTheBackground)
+TEST_F(VendorListTest, AreReadInTheBackground)
 {
     list.loadVendorField();
     EXPECT_THAT(shown(), IsEmpty());
@@ -48,7 +47,7 @@ TEST_F(VendorsToChooseFrom, AreReadInTheBackground)
     EXPECT_EQ(list.rowCount(), 8);
 }
 
-TEST_F(VendorsToChooseFrom, StayWhatTheyWereUntilTheNewOnesAreThere)
+TEST_F(VendorListTest, StayWhatTheyWereUntilTheNewOnesAreThere)
 {
     loadList();
     makeLive(registryOf(2));
@@ -60,7 +59,7 @@ TEST_F(VendorsToChooseFrom, StayWhatTheyWereUntilTheNewOnesAreThere)
     EXPECT_EQ(before->size(), 8);
 }
 
-TEST_F(VendorsToChooseFrom, AreRebuiltOnceBySeveralCalls)
+TEST_F(VendorListTest, AreRebuiltOnceBySeveralCalls)
 {
     int rebuilt = 0;
     QObject::connect(&list, &VendorList::rebuilt, [&rebuilt] { ++rebuilt; });
@@ -70,7 +69,7 @@ TEST_F(VendorsToChooseFrom, AreRebuiltOnceBySeveralCalls)
     EXPECT_EQ(rebuilt, 1);
 }
 
-TEST_F(VendorsToChooseFrom, AreNarrowedByHowTheyBeginInAnyCase)
+TEST_F(VendorListTest, AreNarrowedByHowTheyBeginInAnyCase)
 {
     loadList();
     list.filter(QStringLiteral("app"));
@@ -82,7 +81,7 @@ TEST_F(VendorsToChooseFrom, AreNarrowedByHowTheyBeginInAnyCase)
     EXPECT_EQ(list.rowCount(), 8);
 }
 
-TEST_F(VendorsToChooseFrom, AreNarrowedWithoutRegardToDiacritics)
+TEST_F(VendorListTest, AreNarrowedWithoutRegardToDiacritics)
 {
     loadList();
     list.filter(QStringLiteral("Apf"));
@@ -91,7 +90,7 @@ TEST_F(VendorsToChooseFrom, AreNarrowedWithoutRegardToDiacritics)
     EXPECT_THAT(shown(), ElementsAre("Apple (000003)", "Apple (000003)", "apple (000001)"));
 }
 
-TEST_F(VendorsToChooseFrom, AreNotFoundByWhatStandsInside)
+TEST_F(VendorListTest, AreNotFoundByWhatStandsInside)
 {
     loadList();
     list.filter(QStringLiteral("pple"));
@@ -100,7 +99,7 @@ TEST_F(VendorsToChooseFrom, AreNotFoundByWhatStandsInside)
     EXPECT_THAT(shown(), ElementsAre("Random Address"));
 }
 
-TEST_F(VendorsToChooseFrom, KeepTheFilterWhenTheyAreRebuilt)
+TEST_F(VendorListTest, KeepTheFilterWhenTheyAreRebuilt)
 {
     // Without the program's wiring, which selects the device's choice then.
     VendorList own(scheduler, database);
@@ -112,7 +111,7 @@ TEST_F(VendorsToChooseFrom, KeepTheFilterWhenTheyAreRebuilt)
     EXPECT_EQ(own.rowCount(), 4);
 }
 
-TEST_F(VendorsToChooseFrom, TellTheirRowFilteredOrNot)
+TEST_F(VendorListTest, TellTheirRowFilteredOrNot)
 {
     loadList();
     EXPECT_EQ(list.rowOf(QStringLiteral("Apple (000003)")), 1);
@@ -124,33 +123,12 @@ TEST_F(VendorsToChooseFrom, TellTheirRowFilteredOrNot)
     EXPECT_EQ(list.rowOf(QStringLiteral("Zz")), -1);
 }
 
-TEST_F(VendorsToChooseFrom, AreReadForNobodyWhoIsGone)
+TEST_F(VendorListTest, AreReadForNobodyWhoIsGone)
 {
     auto shortLived = std::make_unique<VendorList>(scheduler, database);
     shortLived->loadVendorField();
     shortLived.reset();
     scheduler.runPending();
-}
-
-TEST(VendorEntries, AnswerLikeTheFilterOfRecords)
-{
-    const QStringList texts = {QStringLiteral("Zed"), QString::fromUtf8("e\xCC\x81lan"),
-        QString::fromUtf8("\xC3\x89LAN"), QStringLiteral("el"), QStringLiteral("Elan")};
-    const VendorEntries entries(texts);
-    for (const char *const text : {"", "e", "\xC3\xA9", "EL", "e\xCC\x81", "elan", "z", "elanx"}) {
-        const QString wanted = QString::fromUtf8(text);
-        QStringList expected;
-        for (const QString &entry : entries.texts()) {
-            if (foldedText(entry).startsWith(foldedText(wanted))) {
-                expected << entry;
-            }
-        }
-        QStringList found;
-        for (const qsizetype index : entries.beginningWith(wanted)) {
-            found << entries.texts().at(index);
-        }
-        EXPECT_EQ(found, expected) << text;
-    }
 }
 
 } // namespace

@@ -10,10 +10,10 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class VendorOfAnAddress : public VendorFixture
+class VendorLookupTest : public VendorFixture
 {
 protected:
-    VendorOfAnAddress()
+    VendorLookupTest()
     {
         makeLive(registryOf({{"001A2B", "  Some Maker \r\n"}, {"080030", "One"}, {"080030", "Two"},
             {"NO-HEX", "Odd"}}));
@@ -34,20 +34,20 @@ protected:
     QList<bool> button;
 };
 
-TEST_F(VendorOfAnAddress, IsLookedUpByItsFirstThreeOctetsInUpperCase)
+TEST_F(VendorLookupTest, IsLookedUpByItsFirstThreeOctetsInUpperCase)
 {
     lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
     EXPECT_THAT(data(), ElementsAre("Some Maker", "1 Long Road, Town", "001A2B", "MA-L"));
     EXPECT_THAT(button, ElementsAre(true));
 }
 
-TEST_F(VendorOfAnAddress, IsTheLastOfSeveral)
+TEST_F(VendorLookupTest, IsTheLastOfSeveral)
 {
     lookup.updateVendor(QStringLiteral("08:00:30:00:00:01"));
     EXPECT_EQ(data().first(), QLatin1String("Two"));
 }
 
-TEST_F(VendorOfAnAddress, IsNotKnownWithoutARow)
+TEST_F(VendorLookupTest, IsNotKnownWithoutARow)
 {
     lookup.updateVendor(QStringLiteral("ab:cd:ef:33:44:55"));
     EXPECT_THAT(data(),
@@ -55,7 +55,7 @@ TEST_F(VendorOfAnAddress, IsNotKnownWithoutARow)
     EXPECT_THAT(button, ElementsAre(false));
 }
 
-TEST_F(VendorOfAnAddress, IsNotKnownWithoutADatabase)
+TEST_F(VendorLookupTest, IsNotKnownWithoutADatabase)
 {
     QFile::remove(files.liveDatabase());
     lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
@@ -63,7 +63,7 @@ TEST_F(VendorOfAnAddress, IsNotKnownWithoutADatabase)
     EXPECT_FALSE(QFile::exists(files.liveDatabase()));
 }
 
-TEST_F(VendorOfAnAddress, StaysPendingForATextThatIsTooShort)
+TEST_F(VendorLookupTest, StaysPendingForATextThatIsTooShort)
 {
     lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
     button.clear();
@@ -75,7 +75,7 @@ TEST_F(VendorOfAnAddress, StaysPendingForATextThatIsTooShort)
     EXPECT_EQ(settings.journal().last(), QLatin1String("synchronize"));
 }
 
-TEST_F(VendorOfAnAddress, IsLookedUpByWhateverStandsThere)
+TEST_F(VendorLookupTest, IsLookedUpByWhateverStandsThere)
 {
     lookup.updateVendor(QStringLiteral("no-hex and more"));
     EXPECT_THAT(data(), ElementsAre("Odd", "1 Long Road, Town", "NO-HEX", "MA-L"));
@@ -85,7 +85,7 @@ TEST_F(VendorOfAnAddress, IsLookedUpByWhateverStandsThere)
     EXPECT_EQ(data().at(2), QLatin1String("123"));
 }
 
-TEST_F(VendorOfAnAddress, LeavesOtherKeysOfTheRecordAlone)
+TEST_F(VendorLookupTest, LeavesOtherKeysOfTheRecordAlone)
 {
     settings.set(
         keys::currentVendorData, QVariantMap{{QStringLiteral("other"), QStringLiteral("kept")}});
@@ -94,7 +94,7 @@ TEST_F(VendorOfAnAddress, LeavesOtherKeysOfTheRecordAlone)
         QStringLiteral("kept"));
 }
 
-TEST_F(VendorOfAnAddress, MayHaveARowThatHoldsNothing)
+TEST_F(VendorLookupTest, MayHaveARowThatHoldsNothing)
 {
     makeLive("Assignment\n001A2B\n");
     lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
@@ -102,7 +102,7 @@ TEST_F(VendorOfAnAddress, MayHaveARowThatHoldsNothing)
     EXPECT_THAT(button, ElementsAre(true));
 }
 
-TEST_F(VendorOfAnAddress, MayHaveARowWhoseTextsAreFarTooLong)
+TEST_F(VendorLookupTest, MayHaveARowWhoseTextsAreFarTooLong)
 {
     const QByteArray long1(5'000'000, 'x');
     makeLive("Assignment,Organization Name,Organization Address,Registry\n001A2B," + long1 + ',' +
@@ -114,7 +114,7 @@ TEST_F(VendorOfAnAddress, MayHaveARowWhoseTextsAreFarTooLong)
         << data().at(3).size();
 }
 
-TEST_F(VendorOfAnAddress, IsShownOnTheMainThreadWhoeverAsks)
+TEST_F(VendorLookupTest, IsShownOnTheMainThreadWhoeverAsks)
 {
     scheduler.asBackground([this] { lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55")); });
     EXPECT_EQ(data().first(), QLatin1String("Some Maker"));

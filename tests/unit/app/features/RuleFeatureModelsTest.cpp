@@ -144,9 +144,12 @@ TEST_F(RuleFeatureModelsTest, ListAndNamesAreReadAnewWhenRecordsChangedBehindThe
     Q_EMIT rules().switches.ruleSwitched();
     EXPECT_EQ(listed(), QStringList(QStringLiteral("Second")));
     rule->setPrimitiveValue(model::rule::name, QStringLiteral("Third"));
-    Q_EMIT features().history.store.recordsMerged();
+    Q_EMIT rules().invariants.rulesCorrected();
     EXPECT_EQ(listed(), QStringList(QStringLiteral("Third")));
-    EXPECT_EQ(rules().queries.namesArray(), QStringList(QStringLiteral("Third")));
+    rule->setPrimitiveValue(model::rule::name, QStringLiteral("Fourth"));
+    Q_EMIT features().history.store.recordsMerged();
+    EXPECT_EQ(listed(), QStringList(QStringLiteral("Fourth")));
+    EXPECT_EQ(rules().queries.namesArray(), QStringList(QStringLiteral("Fourth")));
 }
 
 class RuleFeatureModelsCountdown : public RuleFeatureModelsTest

@@ -12,10 +12,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class NetworkInfo : public NetworkFixture
+class NetworkInfoModelTest : public NetworkFixture
 {
 protected:
-    NetworkInfo()
+    NetworkInfoModelTest()
     {
         QObject::connect(&network, &WiFiNetwork::networkButtonShown, model.get(),
             &NetworkInfoModel::showNetworkButton);
@@ -39,7 +39,7 @@ protected:
     int changes = 0;
 };
 
-TEST_F(NetworkInfo, HasAButtonWhileThereIsANetwork)
+TEST_F(NetworkInfoModelTest, HasAButtonWhileThereIsANetwork)
 {
     EXPECT_FALSE(model->state().buttonVisible);
     network.updateWiFiNetwork();
@@ -49,7 +49,7 @@ TEST_F(NetworkInfo, HasAButtonWhileThereIsANetwork)
     EXPECT_FALSE(model->state().buttonVisible);
 }
 
-TEST_F(NetworkInfo, ShowsEveryDetail)
+TEST_F(NetworkInfoModelTest, ShowsEveryDetail)
 {
     network.updateWiFiNetwork();
     const QList<NetworkInfoModel::Row> expected = {
@@ -69,7 +69,7 @@ TEST_F(NetworkInfo, ShowsEveryDetail)
     EXPECT_EQ(model->state().rows, expected);
 }
 
-TEST_F(NetworkInfo, ShowsThatThereIsNoNetwork)
+TEST_F(NetworkInfoModelTest, ShowsThatThereIsNoNetwork)
 {
     radio.leave();
     network.updateWiFiNetwork();
@@ -78,7 +78,7 @@ TEST_F(NetworkInfo, ShowsThatThereIsNoNetwork)
     EXPECT_EQ(model->state().rows.size(), 12);
 }
 
-TEST_F(NetworkInfo, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
+TEST_F(NetworkInfoModelTest, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
 {
     settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, QStringLiteral("Before")},
                                             {wifirecord::BSSID, officeBssid}});
@@ -86,7 +86,7 @@ TEST_F(NetworkInfo, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
     EXPECT_EQ(later.state().rows.first().value, QStringLiteral("Before"));
 }
 
-TEST_F(NetworkInfo, IsRefreshedBeforeItOpens)
+TEST_F(NetworkInfoModelTest, IsRefreshedBeforeItOpens)
 {
     model->toggleNetworkInfoPopover();
     EXPECT_TRUE(model->state().popoverShown);
@@ -94,7 +94,7 @@ TEST_F(NetworkInfo, IsRefreshedBeforeItOpens)
     EXPECT_EQ(shown("SSID"), QStringLiteral("Home"));
 }
 
-TEST_F(NetworkInfo, IsRefreshedEveryThreeSecondsWhileItIsOpen)
+TEST_F(NetworkInfoModelTest, IsRefreshedEveryThreeSecondsWhileItIsOpen)
 {
     model->toggleNetworkInfoPopover();
     radio.interface->rssi = -60;
@@ -107,7 +107,7 @@ TEST_F(NetworkInfo, IsRefreshedEveryThreeSecondsWhileItIsOpen)
     EXPECT_EQ(radio.reads, 5);
 }
 
-TEST_F(NetworkInfo, IsNoLongerRefreshedOnceItIsClosed)
+TEST_F(NetworkInfoModelTest, IsNoLongerRefreshedOnceItIsClosed)
 {
     model->toggleNetworkInfoPopover();
     model->popoverWillClose();
@@ -117,7 +117,7 @@ TEST_F(NetworkInfo, IsNoLongerRefreshedOnceItIsClosed)
     EXPECT_FALSE(scheduler.hasTimers());
 }
 
-TEST_F(NetworkInfo, IsClosedByItsButtonToo)
+TEST_F(NetworkInfoModelTest, IsClosedByItsButtonToo)
 {
     model->toggleNetworkInfoPopover();
     model->toggleNetworkInfoPopover();
@@ -128,7 +128,7 @@ TEST_F(NetworkInfo, IsClosedByItsButtonToo)
     EXPECT_TRUE(model->state().popoverShown);
 }
 
-TEST_F(NetworkInfo, HasOneTimerHoweverOftenItIsStarted)
+TEST_F(NetworkInfoModelTest, HasOneTimerHoweverOftenItIsStarted)
 {
     model->startNetworkTimer();
     scheduler.advance(2s);
@@ -142,7 +142,7 @@ TEST_F(NetworkInfo, HasOneTimerHoweverOftenItIsStarted)
     EXPECT_FALSE(scheduler.hasTimers());
 }
 
-TEST_F(NetworkInfo, OffersToAddANetworkThatIsNotSaved)
+TEST_F(NetworkInfoModelTest, OffersToAddANetworkThatIsNotSaved)
 {
     network.updateWiFiNetwork();
     EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
@@ -153,7 +153,7 @@ TEST_F(NetworkInfo, OffersToAddANetworkThatIsNotSaved)
     EXPECT_EQ(heart().accessibilityText, QStringLiteral("Remove Network from Favorites"));
 }
 
-TEST_F(NetworkInfo, OffersToRemoveANetworkThatIsSaved)
+TEST_F(NetworkInfoModelTest, OffersToRemoveANetworkThatIsSaved)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     radio.interface->bssid = homeBssid.toUpper();
@@ -164,7 +164,7 @@ TEST_F(NetworkInfo, OffersToRemoveANetworkThatIsSaved)
     EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
 }
 
-TEST_F(NetworkInfo, OffersToAddWhereThereIsNoNetwork)
+TEST_F(NetworkInfoModelTest, OffersToAddWhereThereIsNoNetwork)
 {
     EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
     radio.leave();
@@ -172,7 +172,7 @@ TEST_F(NetworkInfo, OffersToAddWhereThereIsNoNetwork)
     EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
 }
 
-TEST_F(NetworkInfo, FollowsAListThatIsChangedElsewhere)
+TEST_F(NetworkInfoModelTest, FollowsAListThatIsChangedElsewhere)
 {
     network.updateWiFiNetwork();
     settings.changeFromOutside(keys::savedNetworks,
@@ -182,7 +182,7 @@ TEST_F(NetworkInfo, FollowsAListThatIsChangedElsewhere)
     EXPECT_TRUE(heart().removes);
 }
 
-TEST_F(NetworkInfo, SaysOnlyWhatChanged)
+TEST_F(NetworkInfoModelTest, SaysOnlyWhatChanged)
 {
     network.updateWiFiNetwork();
     changes = 0;
@@ -192,7 +192,7 @@ TEST_F(NetworkInfo, SaysOnlyWhatChanged)
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(NetworkInfo, PassesOverValuesThatAreNoTexts)
+TEST_F(NetworkInfoModelTest, PassesOverValuesThatAreNoTexts)
 {
     settings.set(
         keys::currentWiFiDict, QVariantMap{{wifirecord::SSID, 5},
@@ -202,7 +202,7 @@ TEST_F(NetworkInfo, PassesOverValuesThatAreNoTexts)
     EXPECT_EQ(shown("Network"), QString());
 }
 
-TEST_F(NetworkInfo, LeavesNothingBehind)
+TEST_F(NetworkInfoModelTest, LeavesNothingBehind)
 {
     model->toggleNetworkInfoPopover();
     model.reset();

@@ -13,10 +13,10 @@ namespace {
 using Popover = SavedEntryPopoverModel::Popover;
 using TickButton = SavedEntryPopoverModel::TickButton;
 
-class EntryPopover : public NetworkEditingFixture
+class SavedEntryPopoverModelTest : public NetworkEditingFixture
 {
 protected:
-    EntryPopover()
+    SavedEntryPopoverModelTest()
     {
         editing->endEditing();
         saveAddress(address, QStringLiteral("Printer"));
@@ -50,7 +50,7 @@ protected:
     std::unique_ptr<SavedEntryPopoverModel> model;
 };
 
-TEST_F(EntryPopover, OpensInTheNextTurnAroundThePointer)
+TEST_F(SavedEntryPopoverModelTest, OpensInTheNextTurnAroundThePointer)
 {
     choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
     EXPECT_EQ(state().open, Popover::None);
@@ -60,7 +60,7 @@ TEST_F(EntryPopover, OpensInTheNextTurnAroundThePointer)
     EXPECT_EQ(state().anchor, QRectF(97.5, 37.5, 5, 5));
 }
 
-TEST_F(EntryPopover, ShowsTheNetwork)
+TEST_F(SavedEntryPopoverModelTest, ShowsTheNetwork)
 {
     openNetwork();
     EXPECT_EQ(state().name, QStringLiteral("Home"));
@@ -71,7 +71,7 @@ TEST_F(EntryPopover, ShowsTheNetwork)
     EXPECT_TRUE(state().removeEnabled);
 }
 
-TEST_F(EntryPopover, ShowsTheAddress)
+TEST_F(SavedEntryPopoverModelTest, ShowsTheAddress)
 {
     openAddress();
     EXPECT_EQ(state().open, Popover::Address);
@@ -82,7 +82,7 @@ TEST_F(EntryPopover, ShowsTheAddress)
     EXPECT_TRUE(state().removeEnabled);
 }
 
-TEST_F(EntryPopover, OpensFromNoOtherField)
+TEST_F(SavedEntryPopoverModelTest, OpensFromNoOtherField)
 {
     choose(TokenField::QuickAddresses, savedAddressEntry(address));
     choose(TokenField::Other, savedAddressEntry(address));
@@ -91,7 +91,7 @@ TEST_F(EntryPopover, OpensFromNoOtherField)
     EXPECT_FALSE(addressEditing.editingAddressDict());
 }
 
-TEST_F(EntryPopover, GivesWayAtOnceToTheNextChosenToken)
+TEST_F(SavedEntryPopoverModelTest, GivesWayAtOnceToTheNextChosenToken)
 {
     openNetwork();
     choose(TokenField::SavedAddresses, savedAddressEntry(address));
@@ -101,7 +101,7 @@ TEST_F(EntryPopover, GivesWayAtOnceToTheNextChosenToken)
     EXPECT_EQ(state().open, Popover::Address);
 }
 
-TEST_F(EntryPopover, OpensForTheLastOfTwoTokensChosenInOneTurn)
+TEST_F(SavedEntryPopoverModelTest, OpensForTheLastOfTwoTokensChosenInOneTurn)
 {
     choose(TokenField::SavedAddresses, savedAddressEntry(address));
     choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
@@ -113,7 +113,7 @@ TEST_F(EntryPopover, OpensForTheLastOfTwoTokensChosenInOneTurn)
     EXPECT_EQ(state().name, QStringLiteral("Office"));
 }
 
-TEST_F(EntryPopover, TakesTheNameAndClosesInTheNextTurn)
+TEST_F(SavedEntryPopoverModelTest, TakesTheNameAndClosesInTheNextTurn)
 {
     openNetwork();
     model->controlTextDidEndEditing(QStringLiteral("Office"));
@@ -124,7 +124,7 @@ TEST_F(EntryPopover, TakesTheNameAndClosesInTheNextTurn)
     EXPECT_FALSE(editing->editingNetworkDict());
 }
 
-TEST_F(EntryPopover, TakesTheNameOfAnAddressAndClosesInTheNextTurn)
+TEST_F(SavedEntryPopoverModelTest, TakesTheNameOfAnAddressAndClosesInTheNextTurn)
 {
     openAddress();
     model->controlTextDidEndEditing(QStringLiteral("Scanner"));
@@ -135,7 +135,7 @@ TEST_F(EntryPopover, TakesTheNameOfAnAddressAndClosesInTheNextTurn)
     EXPECT_FALSE(addressEditing.editingAddressDict());
 }
 
-TEST_F(EntryPopover, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
+TEST_F(SavedEntryPopoverModelTest, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
 {
     openNetwork();
     model->controlTextDidEndEditing(QStringLiteral("Our house"));
@@ -146,7 +146,7 @@ TEST_F(EntryPopover, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
     EXPECT_EQ(name(), QStringLiteral("Our house"));
 }
 
-TEST_F(EntryPopover, IgnoresANameThatEndsAfterIt)
+TEST_F(SavedEntryPopoverModelTest, IgnoresANameThatEndsAfterIt)
 {
     openNetwork();
     model->closeNetworkPopover();
@@ -156,7 +156,7 @@ TEST_F(EntryPopover, IgnoresANameThatEndsAfterIt)
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
-TEST_F(EntryPopover, RemovesItsNetwork)
+TEST_F(SavedEntryPopoverModelTest, RemovesItsNetwork)
 {
     openNetwork();
     model->removeEntry();
@@ -166,7 +166,7 @@ TEST_F(EntryPopover, RemovesItsNetwork)
     EXPECT_EQ(state().open, Popover::None);
 }
 
-TEST_F(EntryPopover, RemovesItsAddress)
+TEST_F(SavedEntryPopoverModelTest, RemovesItsAddress)
 {
     openAddress();
     model->removeEntry();
@@ -175,7 +175,7 @@ TEST_F(EntryPopover, RemovesItsAddress)
     EXPECT_EQ(state().open, Popover::None);
 }
 
-TEST_F(EntryPopover, ClosesOnlyWhatIsOpen)
+TEST_F(SavedEntryPopoverModelTest, ClosesOnlyWhatIsOpen)
 {
     openNetwork();
     model->closeAddressPopover();
@@ -185,7 +185,7 @@ TEST_F(EntryPopover, ClosesOnlyWhatIsOpen)
     EXPECT_FALSE(editing->editingNetworkDict());
 }
 
-TEST_F(EntryPopover, TicksOneOfTwoButtonsAndActsOnTheOther)
+TEST_F(SavedEntryPopoverModelTest, TicksOneOfTwoButtonsAndActsOnTheOther)
 {
     openNetwork();
     EXPECT_EQ(state().bssidTickButton, (TickButton{.on = true, .hasAction = false}));
@@ -211,7 +211,7 @@ TEST_F(EntryPopover, TicksOneOfTwoButtonsAndActsOnTheOther)
     EXPECT_EQ(modes.size(), 2);
 }
 
-TEST_F(EntryPopover, OpensWithTheModeThatIsSaved)
+TEST_F(SavedEntryPopoverModelTest, OpensWithTheModeThatIsSaved)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"), true);
     openNetwork();
@@ -219,7 +219,7 @@ TEST_F(EntryPopover, OpensWithTheModeThatIsSaved)
     EXPECT_FALSE(state().bssidTickButton.on);
 }
 
-TEST_F(EntryPopover, HasNoTickButtonsForAnAddress)
+TEST_F(SavedEntryPopoverModelTest, HasNoTickButtonsForAnAddress)
 {
     openAddress();
     model->chooseSsidTickButton();
@@ -230,7 +230,7 @@ TEST_F(EntryPopover, HasNoTickButtonsForAnAddress)
     EXPECT_TRUE(modes.isEmpty());
 }
 
-TEST_F(EntryPopover, MayBeGoneWhenItsTurnComes)
+TEST_F(SavedEntryPopoverModelTest, MayBeGoneWhenItsTurnComes)
 {
     choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
     model.reset();

@@ -10,10 +10,10 @@
 namespace quillon::test {
 namespace {
 
-class SavedLists : public NetworkFixture
+class SavedListsModelTest : public NetworkFixture
 {
 protected:
-    SavedLists()
+    SavedListsModelTest()
     {
         QObject::connect(model.get(), &SavedListsModel::changed, [this] { ++changes; });
         wear(QStringLiteral("A4:83:E7:01:02:03"));
@@ -39,7 +39,7 @@ protected:
     int changes = 0;
 };
 
-TEST_F(SavedLists, ShowEntriesByTheirNames)
+TEST_F(SavedListsModelTest, ShowEntriesByTheirNames)
 {
     saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"));
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
@@ -51,14 +51,14 @@ TEST_F(SavedLists, ShowEntriesByTheirNames)
     EXPECT_EQ(model->state().addresses.first().entry, savedAddressEntry(address));
 }
 
-TEST_F(SavedLists, ShowAtOnceWhatWasSavedBefore)
+TEST_F(SavedListsModelTest, ShowAtOnceWhatWasSavedBefore)
 {
     saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
     const SavedListsModel later(settings, saved);
     EXPECT_EQ(texts(later.state().networks), QStringList{QStringLiteral("Our house")});
 }
 
-TEST_F(SavedLists, ShowTheWordNameInAnyOtherField)
+TEST_F(SavedListsModelTest, ShowTheWordNameInAnyOtherField)
 {
     const SavedEntry entry{.name = QStringLiteral("X"), .bssid = homeBssid};
     EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, entry),
@@ -71,7 +71,7 @@ TEST_F(SavedLists, ShowTheWordNameInAnyOtherField)
     }
 }
 
-TEST_F(SavedLists, OpenSomethingFromTheirTwoFieldsOnly)
+TEST_F(SavedListsModelTest, OpenSomethingFromTheirTwoFieldsOnly)
 {
     EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenField::SavedNetworks));
     EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenField::SavedAddresses));
@@ -79,7 +79,7 @@ TEST_F(SavedLists, OpenSomethingFromTheirTwoFieldsOnly)
     EXPECT_FALSE(tokenFieldHasMenuForRepresentedObject(TokenField::Other));
 }
 
-TEST_F(SavedLists, OrderQuickAddressesByTheirAddressIgnoringCase)
+TEST_F(SavedListsModelTest, OrderQuickAddressesByTheirAddressIgnoringCase)
 {
     saveAddress(QStringLiteral("b4:00:00:00:00:01"), QStringLiteral("first name"));
     saveAddress(QStringLiteral("A4:00:00:00:00:02"), QStringLiteral("zebra"));
@@ -91,7 +91,7 @@ TEST_F(SavedLists, OrderQuickAddressesByTheirAddressIgnoringCase)
             QStringLiteral("middle")}));
 }
 
-TEST_F(SavedLists, RefillQuickAddressesWhenTheyAreTold)
+TEST_F(SavedListsModelTest, RefillQuickAddressesWhenTheyAreTold)
 {
     saveAddress(address, QStringLiteral("Printer"));
     EXPECT_TRUE(model->state().quickAddresses.isEmpty());
@@ -102,7 +102,7 @@ TEST_F(SavedLists, RefillQuickAddressesWhenTheyAreTold)
     EXPECT_TRUE(model->state().quickAddresses.isEmpty());
 }
 
-TEST_F(SavedLists, OfferToAddAnAddressThatIsNotSaved)
+TEST_F(SavedListsModelTest, OfferToAddAnAddressThatIsNotSaved)
 {
     EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
     EXPECT_EQ(heart().accessibilityText, QStringLiteral("Add Address to Favorites"));
@@ -115,7 +115,7 @@ TEST_F(SavedLists, OfferToAddAnAddressThatIsNotSaved)
     EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
 }
 
-TEST_F(SavedLists, OfferWhatFitsTheAddressInUse)
+TEST_F(SavedListsModelTest, OfferWhatFitsTheAddressInUse)
 {
     saveAddress(address, QStringLiteral("Printer"));
     EXPECT_TRUE(heart().removes);
@@ -123,7 +123,7 @@ TEST_F(SavedLists, OfferWhatFitsTheAddressInUse)
     EXPECT_FALSE(heart().removes);
 }
 
-TEST_F(SavedLists, HaveAPopoverThatTheirButtonOpensAndCloses)
+TEST_F(SavedListsModelTest, HaveAPopoverThatTheirButtonOpensAndCloses)
 {
     model->toggleSoftwarePopover();
     EXPECT_TRUE(model->state().softwarePopoverShown);
@@ -134,7 +134,7 @@ TEST_F(SavedLists, HaveAPopoverThatTheirButtonOpensAndCloses)
     EXPECT_FALSE(model->state().softwarePopoverShown);
 }
 
-TEST_F(SavedLists, MakeNoTokensOfWhatIsNoEntry)
+TEST_F(SavedListsModelTest, MakeNoTokensOfWhatIsNoEntry)
 {
     settings.set(keys::savedNetworks,
         QVariantMap{{QStringLiteral("00"), QStringLiteral("text")}, {QStringLiteral("01"), 5}});
@@ -145,7 +145,7 @@ TEST_F(SavedLists, MakeNoTokensOfWhatIsNoEntry)
     EXPECT_TRUE(model->state().quickAddresses.isEmpty());
 }
 
-TEST_F(SavedLists, GiveEntriesTheKeyUnderWhichTheyAreSaved)
+TEST_F(SavedListsModelTest, GiveEntriesTheKeyUnderWhichTheyAreSaved)
 {
     settings.set(keys::savedNetworks,
         QVariantMap{{homeBssid, QVariantMap{}},
@@ -157,7 +157,7 @@ TEST_F(SavedLists, GiveEntriesTheKeyUnderWhichTheyAreSaved)
     EXPECT_EQ(tokens.at(1).entry.bssid, officeBssid);
 }
 
-TEST_F(SavedLists, SayOnlyWhatChanged)
+TEST_F(SavedListsModelTest, SayOnlyWhatChanged)
 {
     saveAddress(address, QStringLiteral("Printer"));
     model->updateQuickAddressesField();
@@ -167,7 +167,7 @@ TEST_F(SavedLists, SayOnlyWhatChanged)
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(SavedLists, LeaveNothingBehind)
+TEST_F(SavedListsModelTest, LeaveNothingBehind)
 {
     model.reset();
     EXPECT_FALSE(settings.hasObservers());

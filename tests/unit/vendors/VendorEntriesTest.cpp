@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorEntries.h"
+
+#include "fakes/QtPrinting.h"
+#include "store/model/Predicate.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+namespace {
+
+TEST(VendorEntries, AnswerLikeTheFilterOfRecords)
+{
+    const QStringList texts = {QStringLiteral("Zed"), QString::fromUtf8("e\xCC\x81lan"),
+        QString::fromUtf8("\xC3\x89LAN"), QStringLiteral("el"), QStringLiteral("Elan")};
+    const VendorEntries entries(texts);
+    for (const char *const text : {"", "e", "\xC3\xA9", "EL", "e\xCC\x81", "elan", "z", "elanx"}) {
+        const QString wanted = QString::fromUtf8(text);
+        QStringList expected;
+        for (const QString &entry : entries.texts()) {
+            if (foldedText(entry).startsWith(foldedText(wanted))) {
+                expected << entry;
+            }
+        }
+        QStringList found;
+        for (const qsizetype index : entries.beginningWith(wanted)) {
+            found << entries.texts().at(index);
+        }
+        EXPECT_EQ(found, expected) << text;
+    }
+}
+
+} // namespace
+} // namespace quillon::test
