@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace quillon;
@@ -24,11 +26,10 @@ public:
     explicit ManyPorts(int count)
     {
         for (int i = 0; i < count; ++i) {
-            const QString address = QStringLiteral("02:00:00:00:%1:%2")
-                                        .arg(i / 256, 2, 16, QLatin1Char('0'))
-                                        .arg(i % 256, 2, 16, QLatin1Char('0'));
-            m_ports.append({QStringLiteral("Ethernet"), QStringLiteral("enp%1s0").arg(i), address,
-                {QStringLiteral("192.0.2.1"), address, QStringLiteral("active")}});
+            const QString address =
+                u"02:00:00:00:%1:%2"_s.arg(i / 256, 2, 16, u'0').arg(i % 256, 2, 16, u'0');
+            m_ports.append({u"Ethernet"_s, u"enp%1s0"_s.arg(i), address,
+                {u"192.0.2.1"_s, address, u"active"_s}});
         }
     }
     QList<PortRecord> ports() override { return m_ports; }
@@ -53,7 +54,7 @@ void readOneInterface(benchmark::State &state)
 {
     NetlinkHost host;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(host.info(QStringLiteral("enp1s0")));
+        benchmark::DoNotOptimize(host.info(u"enp1s0"_s));
     }
 }
 BENCHMARK(readOneInterface)->Unit(benchmark::kMicrosecond);
@@ -71,7 +72,7 @@ void refreshTable(benchmark::State &state)
 {
     const QTemporaryDir folder;
     QtScheduler scheduler;
-    PlistSettingsStore settings(folder.filePath(QStringLiteral("settings.plist")), scheduler, {});
+    PlistSettingsStore settings(folder.filePath(u"settings.plist"_s), scheduler, {});
     ManyPorts host(static_cast<int>(state.range(0)));
     const GetifaddrsAddresses addresses;
     DeviceTable table(settings, host, addresses);

@@ -13,9 +13,11 @@
 
 namespace quillon::bench {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString failureTitle = QStringLiteral("was not Changed");
+const QString failureTitle = u"was not Changed"_s;
 
 } // namespace
 

@@ -30,6 +30,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace quillon;
@@ -85,7 +87,7 @@ private:
 
 std::string kilobytes(const QByteArray &name)
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     if (status.open(QIODevice::ReadOnly)) {
         const QList<QByteArray> lines = status.readAll().split('\n');
         for (const QByteArray &line : lines) {

@@ -21,6 +21,8 @@
 #include <stdexcept>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace quillon;
@@ -54,7 +56,7 @@ public:
             return answered(begin, m_database.count());
         }
         if (what == "list") {
-            QStringList texts{QStringLiteral("Random Address")};
+            QStringList texts{u"Random Address"_s};
             texts += m_database.displayStrings();
             m_entries = VendorEntries(std::move(texts));
             return answered(begin, m_entries.size());
@@ -108,7 +110,7 @@ private:
     Words grow(qsizetype count)
     {
         const QStringList vendors = m_database.displayStrings();
-        QStringList texts{QStringLiteral("Random Address")};
+        QStringList texts{u"Random Address"_s};
         while (texts.size() < count) {
             const QString &vendor = vendors.at(texts.size() % vendors.size());
             texts << (texts.size() < vendors.size()

@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    QLabel window(QStringLiteral("Reference"));
+    QLabel window(u"Reference"_s);
     window.resize(480, 320);
     window.show();
     return QApplication::exec();

@@ -121,7 +121,7 @@ class Bench:
         report.row("helper's share, without that decision", "", f"{rest:.2f} ms")
         report.row("  / ip link set", "", f"{rest / min(taken['ip']):.2f}x")
         report.section("Where it goes", "helper's share: a call of ChangeAddressOfDevice less one of GetVersion")
-        report.times("service: endpoint and authorisation", taken["connect"])
+        report.times("service: endpoint and authorization", taken["connect"])
         report.times("helper: GetVersion, there and back", taken["version"])
         report.times("helper: ChangeAddressOfDevice, same way", taken["direct"])
         report.times("  of it polkit's CheckAuthorization", taken["authorize"])

@@ -3,7 +3,7 @@
 # The helper's system files in two variants from one source: "packaged" is what the distribution's
 # package brings, "installed" what the helper's own `install` writes (its texts are built into the
 # helper). The package's paths are fixed, whatever prefix this build has, so that a helper that was
-# built elsewhere still recognises a packaged one.
+# built elsewhere still recognizes a packaged one.
 set(QUILLON_PACKAGED_TOOL "/usr/libexec/quillon4/Quillon4HelperTool" CACHE STRING
     "Where the distribution's package puts the helper")
 set(QUILLON_PACKAGED_UNIT "/usr/lib/systemd/system/quillon4-helper.service" CACHE STRING

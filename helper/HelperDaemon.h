@@ -22,7 +22,7 @@ namespace quillon {
 class HelperDaemon
 {
 public:
-    /// Carries out an uninstallation that has been authorised.
+    /// Carries out an uninstallation that has been authorized.
     using Uninstallation = std::function<Outcome()>;
 
     /// `connection` to the bus, on which no event loop runs; it outlives the daemon, as `kernel`

@@ -15,7 +15,7 @@
 
 namespace quillon {
 
-/// Something that needs authorisation. Its arguments have been validated.
+/// Something that needs authorization. Its arguments have been validated.
 struct PrivilegedRequest
 {
     /// The sender of the message, as the bus wrote it.

@@ -104,21 +104,22 @@ void Service::installHelperTool(sdbus::MethodCall call)
 
 void Service::runInstallation(const sdbus::MethodCall &call)
 {
-    m_installation.start([this, call](Installation::Outcome outcome, const std::string &message) {
-        m_isInstalling = false;
-        switch (outcome) {
-        case Installation::Outcome::Installed:
-            answer(call);
-            announceHelperUpdated();
-            return;
-        case Installation::Outcome::NotAuthorized:
-            refuse(call, contract::error::notAuthorized.name, message);
-            return;
-        case Installation::Outcome::Failed:
-            refuse(call, contract::error::installFailed.name, message);
-            return;
-        }
-    });
+    m_installation.start(
+        [this, call](HelperInstallation::Outcome outcome, const std::string &message) {
+            m_isInstalling = false;
+            switch (outcome) {
+            case HelperInstallation::Outcome::Installed:
+                answer(call);
+                announceHelperUpdated();
+                return;
+            case HelperInstallation::Outcome::NotAuthorized:
+                refuse(call, contract::error::notAuthorized.name, message);
+                return;
+            case HelperInstallation::Outcome::Failed:
+                refuse(call, contract::error::installFailed.name, message);
+                return;
+            }
+        });
 }
 
 void Service::setupAuthorizationRights(sdbus::MethodCall call)

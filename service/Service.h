@@ -3,7 +3,7 @@
 #pragma once
 
 #include "service/HelperContact.h"
-#include "service/Installation.h"
+#include "service/HelperInstallation.h"
 
 #include <sdbus-c++/sdbus-c++.h>
 
@@ -41,7 +41,7 @@ private:
     void announceHelperUpdated();
 
     HelperContact m_helper;
-    Installation m_installation;
+    HelperInstallation m_installation;
     std::unique_ptr<sdbus::IObject> m_object;
     std::unique_ptr<sdbus::IObject> m_notifications;
     std::vector<std::uint8_t> m_authorization;

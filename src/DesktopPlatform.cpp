@@ -11,20 +11,22 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A folder of its own, so that watching it does not wake us for everybody else's settings.
 QString settingsPath(const QString &name)
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return folder + QStringLiteral("/Quillon/") + name;
+    return folder + u"/Quillon/"_s + name;
 }
 
 Places places()
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return {
-        .supportFolder = data + QStringLiteral("/Quillon"),
+        .supportFolder = data + u"/Quillon"_s,
         .shippedVendorDatabase = shippedVendorDatabase(QCoreApplication::applicationDirPath()),
         .externalAddressService = QUrl(QStringLiteral("https://" QUILLON_EXTERNAL_ADDRESS_HOST)),
         .vendorRegistry = QUrl(QStringLiteral(QUILLON_REGISTRY_URL)),
@@ -34,10 +36,10 @@ Places places()
 } // namespace
 
 DesktopPlatform::DesktopPlatform()
-    : m_settings(settingsPath(QStringLiteral("com.orvandel.Quillon4.plist")), m_scheduler,
+    : m_settings(settingsPath(u"com.orvandel.Quillon4.plist"_s), m_scheduler,
           [this](const SettingsProblem &problem) { tellOfSettings(problem); })
-    , m_groupSettings(settingsPath(QStringLiteral("orvandel.com.orvandel.Quillon4.plist")),
-          m_scheduler, [this](const SettingsProblem &problem) { tellOfSettings(problem); })
+    , m_groupSettings(settingsPath(u"orvandel.com.orvandel.Quillon4.plist"_s), m_scheduler,
+          [this](const SettingsProblem &problem) { tellOfSettings(problem); })
     , m_userNotifications(m_scheduler)
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)

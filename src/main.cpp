@@ -14,13 +14,15 @@
 #include <QApplication>
 #include <QSessionManager>
 
+using namespace Qt::StringLiterals;
+
 using namespace quillon;
 
 namespace {
 
 QVariantMap packagedDefaults()
 {
-    const auto defaults = readPropertyListFile(QStringLiteral(":/Defaults.plist"));
+    const auto defaults = readPropertyListFile(u":/Defaults.plist"_s);
     if (!defaults) {
         qCWarning(logSettings, "the packaged defaults cannot be read: %s",
             qUtf8Printable(defaults.error().message));
@@ -31,9 +33,9 @@ QVariantMap packagedDefaults()
 
 void describe(QApplication &application)
 {
-    application.setApplicationName(QStringLiteral("Quillon"));
+    application.setApplicationName(u"Quillon"_s);
     application.setApplicationVersion(QStringLiteral(QUILLON_VERSION));
-    application.setDesktopFileName(QStringLiteral("com.orvandel.Quillon4"));
+    application.setDesktopFileName(u"com.orvandel.Quillon4"_s);
     application.setQuitOnLastWindowClosed(false);
     // A session that restores its programs would start us beside the login item.
     QObject::connect(&application, &QGuiApplication::saveStateRequest,

@@ -8,16 +8,18 @@
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/Platform.h"
-#include "platform/RunningApplications.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
+#include "platform/desktop/RunningApplications.h"
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr std::chrono::milliseconds firstRuleCheckDelay{1000};
-const QString loginHelperIdentifier = QStringLiteral("com.orvandel.Quillon4Helper");
+const QString loginHelperIdentifier = u"com.orvandel.Quillon4Helper"_s;
 
 } // namespace
 
@@ -44,7 +46,7 @@ void LaunchSequence::applicationWillFinishLaunching()
     m_features.vendors.count.createSupportFolderAndVendorDatabase();
     m_features.helper.authorizeHelperTool(m_windowPrepared);
     m_features.helper.updateHelperInstalledStatus();
-    m_features.mainWindow.disableRandomise();
+    m_features.mainWindow.disableRandomize();
 }
 
 void LaunchSequence::applicationDidFinishLaunching()

@@ -3,8 +3,8 @@
 #include "app/RecordFailure.h"
 
 #include "base/Localized.h"
-#include "platform/AlertPresenter.h"
 #include "platform/SettingsStore.h"
+#include "platform/desktop/AlertPresenter.h"
 #include "store/model/RecordFileError.h"
 
 #include <cstdlib>

@@ -4,7 +4,7 @@
 
 #include "app/RecordFailure.h"
 #include "base/Log.h"
-#include "platform/AlertPresenter.h"
+#include "platform/desktop/AlertPresenter.h"
 #include "store/RecordStore.h"
 
 namespace quillon {

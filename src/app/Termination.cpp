@@ -5,7 +5,7 @@
 #include "app/RecordFailure.h"
 #include "base/Localized.h"
 #include "base/Log.h"
-#include "platform/AlertPresenter.h"
+#include "platform/desktop/AlertPresenter.h"
 #include "store/RecordStore.h"
 
 #include <QScopedValueRollback>

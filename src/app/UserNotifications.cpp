@@ -6,7 +6,7 @@
 #include "base/SettingsKeys.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-#include "platform/UserNotificationCenter.h"
+#include "platform/desktop/UserNotificationCenter.h"
 
 namespace quillon {
 

@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 QString localized(const QString &english)
 {
     return localized(english.toUtf8().constData());
@@ -19,7 +21,7 @@ QString localized(const char *english)
 
 QString filled(const QString &text, const QStringList &values)
 {
-    static const QRegularExpression placeholder(QStringLiteral("%[@d]"));
+    static const QRegularExpression placeholder(u"%[@d]"_s);
     QString result;
     qsizetype end = 0;
     for (const QString &value : values) {

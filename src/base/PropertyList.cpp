@@ -71,7 +71,7 @@ QString carriable(QString text)
     return text;
 }
 
-/// Whether normalising would leave `value` as it is.
+/// Whether normalizing would leave `value` as it is.
 bool isNormalized(const QVariant &value)
 {
     switch (value.typeId()) {

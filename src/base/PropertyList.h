@@ -44,7 +44,7 @@ bool isPropertyList(const QVariant &value);
 /// them.
 QVariant normalizedPropertyList(const QVariant &value);
 
-/// The same type and the same value throughout, for normalised values. Unlike QVariant's own
+/// The same type and the same value throughout, for normalized values. Unlike QVariant's own
 /// comparison, true is not 1 and 1 is not 1.0, and a number that is none (NaN) equals itself.
 bool isSamePropertyList(const QVariant &a, const QVariant &b);
 

@@ -6,12 +6,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 QString getOriginalNameFromArray(const QString &name, const QStringList &taken)
 {
     const QSet<QString> names(taken.begin(), taken.end());
     QString candidate = name;
     for (int suffix = 2; names.contains(candidate); ++suffix) {
-        candidate = name + QStringLiteral(" (%1)").arg(suffix);
+        candidate = name + u" (%1)"_s.arg(suffix);
     }
     return candidate;
 }

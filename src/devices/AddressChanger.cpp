@@ -53,7 +53,7 @@ const MenuItem *itemAboveParent(const MenuItem &sender, int places)
 } // namespace
 
 AddressChanger::AddressChanger(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
     , m_displayCase(collaborators.settings)
     , m_life(std::make_shared<Life>())
 {
@@ -68,25 +68,25 @@ AddressChanger::~AddressChanger()
 void AddressChanger::genRandomMacAddressWithVendor(
     const QString &device, const std::optional<QString> &vendor)
 {
-    updateMacAddressWithAddress(device, m_with.random.addressForDevice(device, vendor));
+    updateMacAddressWithAddress(device, m_deps.random.addressForDevice(device, vendor));
 }
 
 void AddressChanger::randomizeAddress()
 {
-    genRandomMacAddressWithVendor(m_with.currentInterface.device());
+    genRandomMacAddressWithVendor(m_deps.currentInterface.device());
 }
 
 QString AddressChanger::changeMacAddress(const QString &fieldText)
 {
     const QString address = m_displayCase.transformedValue(fieldText);
-    updateMacAddressWithAddress(m_with.currentInterface.device(), address);
+    updateMacAddressWithAddress(m_deps.currentInterface.device(), address);
     return address;
 }
 
 void AddressChanger::restoreDefaultAddress()
 {
     Q_EMIT restoreRequested();
-    const DeviceRecord current = m_with.currentInterface.record();
+    const DeviceRecord current = m_deps.currentInterface.record();
     updateMacAddressWithAddress(
         current.device.value_or(QString()), current.hardware.value_or(QString()));
 }
@@ -94,7 +94,7 @@ void AddressChanger::restoreDefaultAddress()
 void AddressChanger::randomizeAddress(const MenuItem &sender)
 {
     const QString device = valueInTitle(itemAboveParent(sender, 2));
-    if (m_with.devices.contains(device)) {
+    if (m_deps.devices.contains(device)) {
         genRandomMacAddressWithVendor(device);
     }
 }
@@ -104,7 +104,7 @@ void AddressChanger::restoreDefaultAddress(const MenuItem &sender)
     Q_EMIT restoreRequested();
     const QString address = valueInTitle(sender.parentItem());
     const QString device = valueInTitle(itemAboveParent(sender, 1));
-    if (m_with.devices.contains(device) && isStringValidHEX(address)) {
+    if (m_deps.devices.contains(device) && isStringValidHEX(address)) {
         updateMacAddressWithAddress(device, address);
     }
 }
@@ -123,16 +123,16 @@ SerialQueue &AddressChanger::changeAddressQueue()
 {
     const std::lock_guard lock(m_life->queueMutex);
     if (!m_changeAddressQueue) {
-        m_changeAddressQueue.emplace(m_with.scheduler);
+        m_changeAddressQueue.emplace(m_deps.scheduler);
     }
     return *m_changeAddressQueue;
 }
 
 void AddressChanger::requestChange(const QString &requestedDevice, const QString &address)
 {
-    const QString current = m_with.currentInterface.device();
+    const QString current = m_deps.currentInterface.device();
     const QString device = requestedDevice.isEmpty() ? current : requestedDevice;
-    const DeviceRecord record = m_with.devices.record(device);
+    const DeviceRecord record = m_deps.devices.record(device);
     const Request request{
         .device = device,
         .isCurrent = device == current,
@@ -145,7 +145,7 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
         tellNotChanged(request.interface, "The new Address and the old Address are identical");
         return;
     }
-    m_with.scheduler.onMain([self = QPointer(this), request] {
+    m_deps.scheduler.onMain([self = QPointer(this), request] {
         if (self) {
             self->askHelper(request);
         }
@@ -155,7 +155,7 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
 void AddressChanger::askHelper(const Request &request)
 {
     Q_EMIT changeBegan(request.device);
-    m_with.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(request.device,
+    m_deps.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(request.device,
         request.address, request.isWifi, [this, life = m_life, request](bool success) {
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
@@ -167,21 +167,21 @@ void AddressChanger::askHelper(const Request &request)
 
 void AddressChanger::finish(const Request &request, bool success)
 {
-    const InterfaceInfo now = m_with.devices.getInfoForDevice(request.device);
+    const InterfaceInfo now = m_deps.devices.getInfoForDevice(request.device);
     if (now.macAddress.isEmpty()) {
         // The interface has gone: there is nothing true to say about its address.
         return;
     }
-    m_with.devices.update(request.device, [&now](DeviceRecord &record) {
+    m_deps.devices.update(request.device, [&now](DeviceRecord &record) {
         record.current = now.macAddress;
         record.ipAddress = now.ipAddress;
         record.status = now.status;
     });
     if (request.isCurrent) {
-        m_with.currentInterface.updateCurrentInterfaceDict(request.device);
+        m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
     tellOutcome(request, success, now.macAddress);
-    m_with.currentInterface.updateHexValues();
+    m_deps.currentInterface.updateHexValues();
 }
 
 void AddressChanger::tellOutcome(const Request &request, bool success, const QString &readBack)
@@ -194,17 +194,17 @@ void AddressChanger::tellOutcome(const Request &request, bool success, const QSt
         tellNotChanged(request.interface, "Please make sure your Device is enabled");
         return;
     }
-    m_with.notifier.sendNotificationWithBody(
+    m_deps.notifier.sendNotificationWithBody(
         filled(localized("%@ Address Changed"), {request.interface}),
         filled(localized("Your new MAC Address is: %@"), {readBack}));
     Q_EMIT addressChanged(request.device, request.address);
-    m_with.notifications.post(
+    m_deps.notifications.post(
         notifications::addressUpdated, this, {{record::device, request.device}});
 }
 
 void AddressChanger::tellNotChanged(const QString &interface, const char *reason)
 {
-    m_with.notifier.sendNotificationWithBody(
+    m_deps.notifier.sendNotificationWithBody(
         filled(localized("%@ Address was not Changed"), {interface}), localized(reason));
 }
 

@@ -21,11 +21,11 @@ class RandomAddress;
 class SettingsStore;
 class XPCMethods;
 
-/// Every change of an address, whoever asks, ends here: it serialises changes, refuses a change to
+/// Every change of an address, whoever asks, ends here: it serializes changes, refuses a change to
 /// the address in use, has the helper do it, reads the address back, updates the device table,
 /// tells the user and announces it.
 ///
-/// The queue serialises the test and the hand-over to the helper, not the helper's work: a second
+/// The queue serializes the test and the hand-over to the helper, not the helper's work: a second
 /// change may start before the first one's reply has come.
 class AddressChanger : public QObject
 {
@@ -104,7 +104,7 @@ private:
     void tellOutcome(const Request &request, bool success, const QString &readBack);
     void tellNotChanged(const QString &interface, const char *reason);
 
-    Collaborators m_with;
+    Collaborators m_deps;
     HexValueTransformer m_displayCase;
     std::shared_ptr<Life> m_life;
     std::optional<SerialQueue> m_changeAddressQueue;

@@ -6,12 +6,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 bool isStringValidHEX(const QString &text)
 {
     // anchoredPattern ends in \z: a bare $ would let a trailing line break through.
     static const QRegularExpression addressText(QRegularExpression::anchoredPattern(
-        QStringLiteral("[A-Z0-9a-z._%+-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-"
-                       "]+:[A-Za-z0-9.-]{2,4}")));
+        u"[A-Z0-9a-z._%+-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-]+:[A-Za-z0-9.-"
+        "]+:[A-Za-z0-9.-]{2,4}"_s));
     return addressText.match(text).hasMatch();
 }
 

@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Calls `visit(key, type, field)` for every field of `record`.
@@ -58,12 +60,12 @@ QVariantMap DeviceRecord::toPropertyList() const
 
 bool DeviceRecord::isWifi() const
 {
-    return interface == QStringLiteral("Wi-Fi");
+    return interface == u"Wi-Fi"_s;
 }
 
 bool DeviceRecord::isUp() const
 {
-    return status == QStringLiteral("active");
+    return status == u"active"_s;
 }
 
 QString firstChangedDevice(const DeviceRecords &before, const DeviceRecords &now)

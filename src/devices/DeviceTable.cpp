@@ -37,8 +37,8 @@ void refresh(DeviceRecord &record, const PortRecord &port)
 
 bool comesBefore(const QString &a, const QString &b)
 {
-    const bool aIsEthernet = a.startsWith(QLatin1Char('e'));
-    const bool bIsEthernet = b.startsWith(QLatin1Char('e'));
+    const bool aIsEthernet = a.startsWith(u'e');
+    const bool bIsEthernet = b.startsWith(u'e');
     return aIsEthernet != bIsEthernet ? aIsEthernet : a < b;
 }
 
@@ -54,10 +54,7 @@ DeviceTable::DeviceTable(
 
 void DeviceTable::updateNetWorkInterfaces()
 {
-    const QList<PortRecord> ports = [this] {
-        const std::lock_guard lock(m_hostMutex);
-        return m_host.ports();
-    }();
+    const QList<PortRecord> ports = readPorts();
     QVariantMap table = stored();
     bool isRefreshed = false;
     for (const PortRecord &port : ports) {
@@ -73,6 +70,25 @@ void DeviceTable::updateNetWorkInterfaces()
         m_settings.set(keys::deviceDict, table);
     }
     m_settings.synchronize();
+}
+
+QList<PortRecord> DeviceTable::readPorts()
+{
+    const std::lock_guard lock(m_hostMutex);
+    const QList<PortRecord> ports = m_host.ports();
+    m_present.clear();
+    for (const PortRecord &port : ports) {
+        if (!port.info.macAddress.isEmpty()) {
+            m_present.insert(port.device);
+        }
+    }
+    return ports;
+}
+
+bool DeviceTable::isPresent(const QString &device) const
+{
+    const std::lock_guard lock(m_hostMutex);
+    return m_present.contains(device);
 }
 
 DeviceRecord DeviceTable::update(

@@ -4,6 +4,7 @@
 
 #include "devices/DeviceRecord.h"
 
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -15,6 +16,7 @@ class InterfaceAddresses;
 class NetworkHost;
 class SettingsStore;
 struct InterfaceInfo;
+struct PortRecord;
 
 /// The table of known network interfaces, kept in the settings under `deviceDict`: device name to
 /// device record. It never shrinks, and keys of a record that others set survive every refresh.
@@ -29,6 +31,9 @@ public:
     void updateNetWorkInterfaces();
     /// Changes the record of `device`, a new one when the table has none, flushes, and returns it.
     DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change);
+    /// Whether the last refresh found the device, with an address: the table keeps the last record
+    /// of one that was taken away.
+    bool isPresent(const QString &device) const;
     /// Reads one interface back from the host; nothing is stored.
     InterfaceInfo getInfoForDevice(const QString &device) const;
     /// The device's IPv4 address listed last, "" when none.
@@ -51,12 +56,14 @@ public:
     QStringList sortedDevicesArray() const;
 
 private:
+    QList<PortRecord> readPorts();
     QVariantMap stored() const;
 
     SettingsStore &m_settings;
     NetworkHost &m_host;
     const InterfaceAddresses &m_addresses;
     mutable std::mutex m_hostMutex;
+    QSet<QString> m_present; ///< guarded by m_hostMutex
 };
 
 } // namespace quillon

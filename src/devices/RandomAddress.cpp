@@ -34,14 +34,14 @@ QString randomAddressText(const QByteArray &randomBytes)
         return {};
     }
     QString text = randomFirstOctet(static_cast<quint8>(randomBytes.front()));
-    text += QLatin1Char(':');
+    text += u':';
     text += QString::fromLatin1(randomBytes.mid(1).toHex(':')).toUpper();
     return text;
 }
 
 std::optional<QString> vendorPrefix(const QString &vendorChoice)
 {
-    if (!vendorChoice.contains(QLatin1Char('('))) {
+    if (!vendorChoice.contains(u'(')) {
         return std::nullopt;
     }
     return vendorChoice.chopped(1).right(prefixLength);

@@ -22,7 +22,7 @@ QString randomFirstOctet(quint8 r);
 /// Empty unless there are six bytes.
 QString randomAddressText(const QByteArray &randomBytes);
 
-/// The manufacturer's prefix in a vendor choice "organisation (A1B2C3)": the six characters before
+/// The manufacturer's prefix in a vendor choice "organization (A1B2C3)": the six characters before
 /// the last one. None when the choice holds no "(".
 std::optional<QString> vendorPrefix(const QString &vendorChoice);
 

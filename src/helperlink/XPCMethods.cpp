@@ -21,12 +21,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString serviceName = QStringLiteral("com.orvandel.Quillon4XPCService");
-const QString invalidatedText = QStringLiteral("Quillon connection to HelperTool invalidated\n");
-const QString installedText = QStringLiteral("Quillon4HelperTool successfully installed\n");
-const QString uninstalledText = QStringLiteral("Quillon4HelperTool successfully uninstalled\n");
+const QString serviceName = u"com.orvandel.Quillon4XPCService"_s;
+const QString invalidatedText = u"Quillon connection to HelperTool invalidated\n"_s;
+const QString installedText = u"Quillon4HelperTool successfully installed\n"_s;
+const QString uninstalledText = u"Quillon4HelperTool successfully uninstalled\n"_s;
 
 /// Code of the error "the service has no endpoint", in the POSIX domain.
 constexpr int noEndpointCode = 25;
@@ -44,7 +46,7 @@ XPCMethods::~XPCMethods() = default;
 
 QString XPCMethods::helperToolVersion()
 {
-    return QStringLiteral("2.0");
+    return u"2.0"_s;
 }
 
 void XPCMethods::authorizeHelperTool(bool windowExists)

@@ -19,7 +19,7 @@ class NotificationCenter;
 class Scheduler;
 class XPCServiceConnection;
 
-/// The program's side of the link to the privileged helper: authorisation, connecting (program,
+/// The program's side of the link to the privileged helper: authorization, connecting (program,
 /// service, endpoint, helper), the helper's operations, and the log of every failure.
 ///
 /// Operations are called on the main thread, unless they say otherwise. Replies of install,

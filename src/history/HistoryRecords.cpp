@@ -13,15 +13,17 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Deliberately not "Connection": no store has it, so the answer is always empty.
-const QString historyEntity = QStringLiteral("History");
+const QString historyEntity = u"History"_s;
 
 /// Never null, so that it is stored as an empty text.
 QString notNull(const QString &text)
 {
-    return text.isNull() ? QStringLiteral("") : text;
+    return text.isNull() ? u""_s : text;
 }
 
 } // namespace
@@ -33,8 +35,8 @@ struct HistoryRecords::Fact
     QString device;
     QString interface;
     QString address;
-    QString ssid = QStringLiteral("");
-    QString bssid = QStringLiteral("");
+    QString ssid = u""_s;
+    QString bssid = u""_s;
 };
 
 HistoryRecords::HistoryRecords(RecordStore &records, const DeviceTable &devices,

@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int ok = 200;
@@ -24,8 +26,8 @@ constexpr qsizetype longestAddress = 45;
 QUrl questionTo(const QUrl &service)
 {
     QUrl question = service.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
-    question.setPath(QStringLiteral("/"));
-    question.setQuery(QStringLiteral("format=json"));
+    question.setPath(u"/"_s);
+    question.setQuery(u"format=json"_s);
     return question;
 }
 
@@ -35,10 +37,9 @@ QUrl questionTo(const QUrl &service)
 bool isAddress(const QString &text)
 {
     static const QRegularExpression version4(QRegularExpression::anchoredPattern(
-        QStringLiteral("(?:%1\\.){3}%1")
-            .arg(QStringLiteral("(?:25[0-5]|2[0-4][0-9]|1[0-9]{2}|[1-9]?[0-9])"))));
-    static const QRegularExpression version6(QRegularExpression::anchoredPattern(
-        QStringLiteral("[0-9A-Fa-f]{0,4}:[0-9A-Fa-f:.]*:[0-9A-Fa-f.]*")));
+        u"(?:%1\\.){3}%1"_s.arg(u"(?:25[0-5]|2[0-4][0-9]|1[0-9]{2}|[1-9]?[0-9])"_s)));
+    static const QRegularExpression version6(
+        QRegularExpression::anchoredPattern(u"[0-9A-Fa-f]{0,4}:[0-9A-Fa-f:.]*:[0-9A-Fa-f.]*"_s));
     return text.size() <= longestAddress &&
            (version4.match(text).hasMatch() || version6.match(text).hasMatch());
 }
@@ -61,7 +62,7 @@ QString addressIn(const HttpClient::Response &answer)
         qCWarning(logNetworks, "Response is not a valid JSON object");
         return unknown;
     }
-    const QJsonValue address = document.object().value(QLatin1String("ip"));
+    const QJsonValue address = document.object().value("ip"_L1);
     if (!address.isString()) {
         return QString();
     }

@@ -24,7 +24,7 @@ public:
 
     /// Starts one fetch, unless `shouldUpdateExternalIP` is off and `force` is false. A transfer
     /// that fails leaves the stored address as it is; an answer without use replaces it by the
-    /// localised "Unknown...". Both leave a line in the log, as does an "ip" whose text is no
+    /// localized "Unknown...". Both leave a line in the log, as does an "ip" whose text is no
     /// address; that text itself, which comes from outside, is not logged.
     void updateExternalIPAddress(bool force);
     /// Stores the text and flushes the settings. A null string removes the stored one.

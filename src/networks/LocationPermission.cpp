@@ -6,7 +6,7 @@
 #include "base/Log.h"
 #include "networks/WiFiNetwork.h"
 #include "platform/Scheduler.h"
-#include "platform/SystemSettings.h"
+#include "platform/desktop/SystemSettings.h"
 
 #include <QPointer>
 
@@ -21,13 +21,13 @@ constexpr int openButton = 0;
 } // namespace
 
 LocationPermission::LocationPermission(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
 void LocationPermission::requestNetworkPermissions()
 {
-    m_with.scheduler.onMain([self = QPointer(this)] {
+    m_deps.scheduler.onMain([self = QPointer(this)] {
         if (auto *const that = self.data()) {
             that->followAuthorization();
         }
@@ -36,7 +36,7 @@ void LocationPermission::requestNetworkPermissions()
 
 void LocationPermission::followAuthorization()
 {
-    m_with.authorization.setDelegate({
+    m_deps.authorization.setDelegate({
         .didChangeAuthorization =
             [self = QPointer(this)](LocationAuthorization::Status status) {
                 if (auto *const that = self.data()) {
@@ -50,12 +50,12 @@ void LocationPermission::followAuthorization()
                 }
             },
     });
-    if (!m_with.authorization.servicesEnabled()) {
+    if (!m_deps.authorization.servicesEnabled()) {
         Q_EMIT servicesFoundDisabled();
     }
-    m_with.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
+    m_deps.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
         if (auto *const that = self.data()) {
-            that->m_with.authorization.requestWhenInUseAuthorization();
+            that->m_deps.authorization.requestWhenInUseAuthorization();
         }
     });
 }
@@ -65,7 +65,7 @@ void LocationPermission::locationManagerDidChangeAuthorization(LocationAuthoriza
     if (status == LocationAuthorization::Status::Denied) {
         showLocationError();
     }
-    m_with.wifi.updateWiFiNetwork();
+    m_deps.wifi.updateWiFiNetwork();
 }
 
 void LocationPermission::locationManagerDidFailWithError(int code)
@@ -87,7 +87,7 @@ void LocationPermission::showLocationError()
                                      "& Security > Privacy > Location Services"),
         .buttons = {localized("Open"), localized("Cancel")},
     };
-    m_with.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
+    m_deps.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
         if (auto *const that = self.data()) {
             that->runLocationAlert();
         }
@@ -99,7 +99,7 @@ void LocationPermission::runLocationAlert()
     // Events go on while the alert is open: the program may end under it.
     const QPointer self(this);
     const Alert alert = *m_locationAlert;
-    const int answer = m_with.alerts.runModal(alert);
+    const int answer = m_deps.alerts.runModal(alert);
     if (!self) {
         return;
     }
@@ -111,7 +111,7 @@ void LocationPermission::runLocationAlert()
 
 void LocationPermission::openSystemSettings()
 {
-    if (!m_with.systemSettings.openLocationServices()) {
+    if (!m_deps.systemSettings.openLocationServices()) {
         qCWarning(logNetworks, "No settings program found for location services");
     }
 }

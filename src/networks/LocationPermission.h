@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/AlertPresenter.h"
 #include "platform/LocationAuthorization.h"
+#include "platform/desktop/AlertPresenter.h"
 
 #include <QObject>
 
@@ -33,7 +33,7 @@ public:
 
     explicit LocationPermission(const Collaborators &collaborators);
 
-    /// In a later turn of the main loop: follows the authorisation, and asks for it one second
+    /// In a later turn of the main loop: follows the authorization, and asks for it one second
     /// after that.
     void requestNetworkPermissions();
 
@@ -52,7 +52,7 @@ private:
     void followAuthorization();
     void runLocationAlert();
 
-    Collaborators m_with;
+    Collaborators m_deps;
     std::optional<Alert> m_locationAlert; ///< kept until the user has answered it
 };
 

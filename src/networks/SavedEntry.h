@@ -23,7 +23,7 @@ struct SavedEntry
     static SavedEntry fromPropertyList(const QVariant &stored);
     QVariantMap toPropertyList() const;
 
-    /// Whether the network is recognised by its SSID: its mark is there, whatever it holds.
+    /// Whether the network is recognized by its SSID: its mark is there, whatever it holds.
     bool isSsidDefined() const;
     void setSsidDefined(bool defined);
 

@@ -9,6 +9,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString bssidOf(const SavedEntry &entry)
@@ -18,10 +20,10 @@ QString bssidOf(const SavedEntry &entry)
 
 } // namespace
 
-const QString SavedNetworkEditing::ssidButton = QStringLiteral("ssidbutton");
+const QString SavedNetworkEditing::ssidButton = u"ssidbutton"_s;
 
 SavedNetworkEditing::SavedNetworkEditing(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
 }
 
@@ -47,12 +49,12 @@ void SavedNetworkEditing::changeSavedNetworkName(const QString &typed)
     }
     SavedEntry entry = *m_editingNetworkDict;
     if (entry.name != typed) {
-        entry.name = distinctName(savedEntries(m_with.settings, keys::savedNetworks),
+        entry.name = distinctName(savedEntries(m_deps.settings, keys::savedNetworks),
             bssidOf(entry), typed, entry.ssid.value_or(QString()));
         m_editingNetworkDict = entry;
-        saveEntry(m_with.settings, keys::savedNetworks, bssidOf(entry), entry);
+        saveEntry(m_deps.settings, keys::savedNetworks, bssidOf(entry), entry);
         // The Wi-Fi record shows the new name.
-        m_with.wifi.updateWiFiNetwork();
+        m_deps.wifi.updateWiFiNetwork();
     }
     finishInNextTurn();
 }
@@ -62,10 +64,10 @@ void SavedNetworkEditing::removeSavedNetwork()
     if (!m_editingNetworkDict) {
         return;
     }
-    removeEntry(m_with.settings, keys::savedNetworks, bssidOf(*m_editingNetworkDict));
+    removeEntry(m_deps.settings, keys::savedNetworks, bssidOf(*m_editingNetworkDict));
     m_editingNetworkDict.reset();
     finishInNextTurn();
-    m_with.wifi.updateWiFiNetwork();
+    m_deps.wifi.updateWiFiNetwork();
 }
 
 void SavedNetworkEditing::updateNetworkDefinition(const QString &senderIdentifier)
@@ -77,14 +79,14 @@ void SavedNetworkEditing::updateNetworkDefinition(const QString &senderIdentifie
     entry.setSsidDefined(senderIdentifier == ssidButton);
     m_editingNetworkDict = entry;
     Q_EMIT networkDefinitionChanged();
-    saveEntry(m_with.settings, keys::savedNetworks, bssidOf(entry), entry);
+    saveEntry(m_deps.settings, keys::savedNetworks, bssidOf(entry), entry);
     Q_EMIT networkDefinitionSaved(bssidOf(entry), entry.isSsidDefined());
 }
 
 void SavedNetworkEditing::finishInNextTurn()
 {
     // The name field handles its own event first.
-    m_with.scheduler.onMain(this, [this] { Q_EMIT editingFinished(); });
+    m_deps.scheduler.onMain(this, [this] { Q_EMIT editingFinished(); });
 }
 
 } // namespace quillon

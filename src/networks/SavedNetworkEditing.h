@@ -38,13 +38,13 @@ public:
     const std::optional<SavedEntry> &editingNetworkDict() const { return m_editingNetworkDict; }
     void beginEditing(const SavedEntry &entry);
     void endEditing();
-    /// Whether the network is recognised by its SSID.
+    /// Whether the network is recognized by its SSID.
     bool isSsidDefined() const;
 
     /// The name was edited to `typed`; a name that another network has gets a suffix.
     void changeSavedNetworkName(const QString &typed);
     void removeSavedNetwork();
-    /// A tick button was chosen: ssidButton recognises the network by its SSID, any other by its
+    /// A tick button was chosen: ssidButton recognizes the network by its SSID, any other by its
     /// BSSID.
     void updateNetworkDefinition(const QString &senderIdentifier);
 
@@ -59,7 +59,7 @@ Q_SIGNALS:
 private:
     void finishInNextTurn();
 
-    Collaborators m_with;
+    Collaborators m_deps;
     std::optional<SavedEntry> m_editingNetworkDict;
 };
 

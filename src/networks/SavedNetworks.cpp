@@ -21,12 +21,12 @@ SavedEntries savedNetworks(const SettingsStore &settings)
 
 } // namespace
 
-QStringList favouriteNetworks(const SettingsStore &settings)
+QStringList favoriteNetworks(const SettingsStore &settings)
 {
     return fieldOfEach(savedNetworks(settings), &SavedEntry::bssid);
 }
 
-QStringList ssidFavouriteNetworks(const SettingsStore &settings)
+QStringList ssidFavoriteNetworks(const SettingsStore &settings)
 {
     SavedEntries networks = savedNetworks(settings);
     networks.removeIf([](const SavedEntries::iterator &entry) { return !entry->isSsidDefined(); });

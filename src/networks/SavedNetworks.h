@@ -12,9 +12,9 @@ class WiFiNetwork;
 // The list `savedNetworks`: lower-case BSSID to entry. Each of these reads it afresh.
 
 /// The "BSSID" of every saved network.
-QStringList favouriteNetworks(const SettingsStore &settings);
-/// The "SSID" of the saved networks that are recognised by it.
-QStringList ssidFavouriteNetworks(const SettingsStore &settings);
+QStringList favoriteNetworks(const SettingsStore &settings);
+/// The "SSID" of the saved networks that are recognized by it.
+QStringList ssidFavoriteNetworks(const SettingsStore &settings);
 
 // By name, compared exactly; of several with one name the last in the list's order answers.
 
@@ -22,7 +22,7 @@ QStringList ssidFavouriteNetworks(const SettingsStore &settings);
 QString ssidForNetworkName(const SettingsStore &settings, const QString &name);
 /// "Any Network" for an unknown name, as that is the rule editor's choice of no particular network.
 QString bssidForNetworkName(const SettingsStore &settings, const QString &name);
-/// Whether some network of that name is recognised by its SSID.
+/// Whether some network of that name is recognized by its SSID.
 bool isNetWorkDefined(const SettingsStore &settings, const QString &name);
 
 /// The saved networks, as far as they follow the network that the computer is on. Main thread.

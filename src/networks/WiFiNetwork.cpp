@@ -15,24 +15,26 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString decibels(int value)
 {
-    return QString::number(value) + QStringLiteral(" dBm");
+    return QString::number(value) + u" dBm"_s;
 }
 
 /// The shortest decimal text that is this number, never with an exponent.
 QString rateText(double megabits)
 {
-    return QString::number(megabits, 'f', QLocale::FloatingPointShortest) + QStringLiteral(" Mbps");
+    return QString::number(megabits, 'f', QLocale::FloatingPointShortest) + u" Mbps"_s;
 }
 
 QString channelText(const WiFiInterface::Channel &channel)
 {
-    return filled(QStringLiteral("%@ (%@, %@)"),
-        {QString::number(channel.number), bandStringForChannel(channel.band),
-            widthStringForChannel(channel.width)});
+    return filled(
+        u"%@ (%@, %@)"_s, {QString::number(channel.number), bandStringForChannel(channel.band),
+                              widthStringForChannel(channel.width)});
 }
 
 WiFiRecord associatedRecord(const WiFiInterface &wifi)
@@ -48,7 +50,7 @@ WiFiRecord associatedRecord(const WiFiInterface &wifi)
         .channel = channelText(wifi.channel),
         .country = wifi.countryCode,
         .phyMode = phyModeStringForInterface(wifi.activePHYMode),
-        .mcs = getValueFromobjectForKey(wifi, QStringLiteral("mcsIndex")).toString(),
+        .mcs = getValueFromobjectForKey(wifi, u"mcsIndex"_s).toString(),
     };
 }
 
@@ -67,7 +69,7 @@ std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
     const QString ipAddress = m_devices.ipAddressForDevice(m_devices.getWifiDevice());
     const bool associated = !wifi.bssid.isEmpty() && !wifi.ssid.isEmpty();
     Q_EMIT networkButtonShown(associated);
-    WiFiRecord record{.name = QStringLiteral("Not currently connected...")};
+    WiFiRecord record{.name = u"Not currently connected..."_s};
     if (associated) {
         record = associatedRecord(wifi);
         record.ipAddress = ipAddress;

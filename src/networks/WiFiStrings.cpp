@@ -9,6 +9,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr const char *unknown = "Unknown";
@@ -52,7 +54,7 @@ QString phyModeStringForInterface(int activePHYMode)
 
 QVariant getValueFromobjectForKey(const WiFiInterface &interface, const QString &key)
 {
-    if (key == QLatin1String("mcsIndex") && interface.mcsIndex) {
+    if (key == "mcsIndex"_L1 && interface.mcsIndex) {
         return static_cast<qlonglong>(*interface.mcsIndex);
     }
     return QString();

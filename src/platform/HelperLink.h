@@ -39,14 +39,14 @@ class XPCServiceConnection : public XPCConnection
 public:
     virtual void installHelperToolWithReply(ErrorReply reply, ErrorHandler errorHandler) = 0;
     virtual void setupAuthorizationRights() = 0;
-    /// The helper's endpoint, or none when it cannot be reached, and authorisation data.
+    /// The helper's endpoint, or none when it cannot be reached, and authorization data.
     virtual void connectWithEndpointAndAuthorizationReply(
         std::function<void(const std::optional<QString> &endpoint, const QByteArray &authorization)>
             reply,
         ErrorHandler errorHandler) = 0;
 };
 
-/// The privileged helper tool. It decides by who calls, not by the authorisation data.
+/// The privileged helper tool. It decides by who calls, not by the authorization data.
 class HelperToolConnection : public XPCConnection
 {
 public:
@@ -59,13 +59,13 @@ public:
         const QByteArray &authorization, ErrorReply reply, ErrorHandler errorHandler) = 0;
 };
 
-/// Makes connections and the authorisation. Main thread.
+/// Makes connections and the authorization. Main thread.
 class HelperLink
 {
 public:
     virtual ~HelperLink() = default;
 
-    /// The external form of a fresh authorisation without rights: 32 bytes.
+    /// The external form of a fresh authorization without rights: 32 bytes.
     virtual Result<QByteArray> createAuthorization() = 0;
     virtual std::shared_ptr<XPCServiceConnection> connectToService(const QString &serviceName) = 0;
     virtual std::shared_ptr<HelperToolConnection> connectToListenerEndpoint(

@@ -6,6 +6,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 secondsInMinute = 60;
@@ -22,7 +24,7 @@ QString countdownTime(qint64 seconds)
 
 QString countdownMenuTitle(const QString &displayString)
 {
-    return QStringLiteral("    ") + displayString;
+    return u"    "_s + displayString;
 }
 
 CountdownText generateTimerCountdownStringForStartDateAndInterval(

@@ -18,6 +18,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::chrono::milliseconds tickInterval{1000};
@@ -26,21 +28,21 @@ constexpr int warnedInterval = 1;
 
 namespace key {
 
-const QString startDate = QStringLiteral("startDate");
-const QString interval = QStringLiteral("interval");
-const QString timer = QStringLiteral("timer");
-const QString isPaused = QStringLiteral("isPaused");
-const QString remaining = QStringLiteral("remaining");
-const QString label = QStringLiteral("label");
-const QString display = QStringLiteral("display");
-const QString menu = QStringLiteral("menu");
+const QString startDate = u"startDate"_s;
+const QString interval = u"interval"_s;
+const QString timer = u"timer"_s;
+const QString isPaused = u"isPaused"_s;
+const QString remaining = u"remaining"_s;
+const QString label = u"label"_s;
+const QString display = u"display"_s;
+const QString menu = u"menu"_s;
 
 } // namespace key
 
 QString markedAsPaused(const QString &text)
 {
     const QString mark = localized("(paused)");
-    return text.contains(mark) ? text : text + QLatin1Char(' ') + mark;
+    return text.contains(mark) ? text : text + u' ' + mark;
 }
 
 } // namespace

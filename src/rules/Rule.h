@@ -50,7 +50,7 @@ public:
     /// A saved network's BSSID, one of networks/SpecialNetworks.h, or "" for login rules.
     QString network() const { return get(model::rule::network); }
     QString ssid() const { return get(model::rule::ssid); }
-    /// The network is recognised by its SSID.
+    /// The network is recognized by its SSID.
     bool ssidDefined() const { return get(model::rule::ssidDefined); }
     /// Minutes.
     int timerMins() const { return get(model::rule::timerMins); }

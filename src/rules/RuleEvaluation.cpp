@@ -15,9 +15,11 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString networkKey = QStringLiteral("network");
+const QString networkKey = u"network"_s;
 
 QList<RuleFacts> factsOf(const RuleList &rules)
 {

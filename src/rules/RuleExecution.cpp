@@ -4,7 +4,6 @@
 
 #include "devices/AddressChanger.h"
 #include "devices/DeviceTable.h"
-#include "platform/NetworkHost.h"
 #include "platform/Scheduler.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleActions.h"
@@ -101,8 +100,7 @@ void RuleExecution::followVisits()
     const QStringList devices = m_visits.devices();
     const QDateTime now = m_deps.scheduler.now();
     for (const QString &device : devices) {
-        // The table keeps the last record of a device that was taken away.
-        if (m_deps.devices.getInfoForDevice(device).macAddress.isEmpty()) {
+        if (!m_deps.devices.isPresent(device)) {
             m_visits.sawGone(device);
         } else if (m_deps.devices.record(device).isUp()) {
             m_visits.sawOnNetwork(device, now);

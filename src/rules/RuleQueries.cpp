@@ -13,10 +13,12 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A rule's network for a Wi-Fi device that is on none. No rule has it.
-const QString noNetwork = QStringLiteral("empty");
+const QString noNetwork = u"empty"_s;
 
 RuleList asRules(const ManagedObjectList &objects)
 {
@@ -64,8 +66,8 @@ Predicate RuleQueries::filterPredicateForDevice(const QString &device) const
         Predicate::all({Predicate::equal(model::rule::ssid, wifi.ssid),
             Predicate::equal(model::rule::ssidDefined, true)}),
     };
-    if (!favouriteNetworks(m_settings).contains(bssid) &&
-        !ssidFavouriteNetworks(m_settings).contains(wifi.ssid)) {
+    if (!favoriteNetworks(m_settings).contains(bssid) &&
+        !ssidFavoriteNetworks(m_settings).contains(wifi.ssid)) {
         networks.append(Predicate::equal(model::rule::network, anUnknownNetwork));
     }
     return Predicate::all({ofDevice, Predicate::any(networks)});

@@ -11,10 +11,12 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString objIDKey = QStringLiteral("objID");
-const QString stateKey = QStringLiteral("state");
+const QString objIDKey = u"objID"_s;
+const QString stateKey = u"state"_s;
 
 } // namespace
 

@@ -14,9 +14,8 @@ constexpr qsizetype maximumDigits = 3;
 
 bool TimerFormatter::isPartialStringValid(const QString &proposed) const
 {
-    return proposed.size() <= maximumDigits &&
-           std::all_of(proposed.begin(), proposed.end(),
-               [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); });
+    return proposed.size() <= maximumDigits && std::all_of(proposed.begin(), proposed.end(),
+                                                   [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 } // namespace quillon

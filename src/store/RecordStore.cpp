@@ -14,6 +14,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Makes the folder for its owner alone: records tell where somebody has been. What prevents it
@@ -29,9 +31,9 @@ void makeFolder(const QString &folder)
 
 QString logLine(const Error &error, const QString &path)
 {
-    return filled(QStringLiteral("Unresolved error %@, %@"),
-        {error.message, QStringLiteral("{code = %1; domain = %2; path = \"%3\"}")
-                            .arg(QString::number(error.code), error.domain, path)});
+    return filled(u"Unresolved error %@, %@"_s,
+        {error.message, u"{code = %1; domain = %2; path = \"%3\"}"_s.arg(
+                            QString::number(error.code), error.domain, path)});
 }
 
 } // namespace
@@ -69,7 +71,7 @@ void RecordStore::refreshPersistentContainer()
 std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
     makeFolder(m_folder);
-    const QString path = QDir(m_folder).filePath(QStringLiteral("Quillon.sqlite"));
+    const QString path = QDir(m_folder).filePath(u"Quillon.sqlite"_s);
     auto opened = ManagedObjectContext::open(quillonModel(), path, m_scheduler);
     if (!opened) {
         qCWarning(logRecords, "%s", qUtf8Printable(logLine(opened.error(), path)));

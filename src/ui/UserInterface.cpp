@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/UserInterface.h"
 
-#include "platform/ColorSchemeSource.h"
+#include "platform/desktop/ColorSchemeSource.h"
 #include "ui/vendors/VendorChooser.h"
 #include "ui/vendors/VendorDataCard.h"
 #include "ui/window/InterfaceDetails.h"

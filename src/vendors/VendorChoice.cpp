@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 VendorChoice::VendorChoice(DeviceTable &devices, const CurrentInterface &currentInterface,
     NotificationCenter &notifications, VendorList &list)
     : m_devices(devices)
@@ -34,8 +36,8 @@ void VendorChoice::saveVendorSelection(const QString &choice)
     }
     const QString stored = choice == localized(randomAddressChoice) ? randomAddressChoice : choice;
     m_devices.update(device, [&stored](DeviceRecord &record) { record.vendor = stored; });
-    m_notifications.post(notifications::vendorUpdated, nullptr,
-        {{QStringLiteral("device"), device}, {QStringLiteral("newVendor"), stored}});
+    m_notifications.post(
+        notifications::vendorUpdated, nullptr, {{u"device"_s, device}, {u"newVendor"_s, stored}});
 }
 
 void VendorChoice::updateVendorField(const std::optional<QString> &device)

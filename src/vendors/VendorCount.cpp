@@ -55,7 +55,7 @@ void VendorCount::updateVendorCount()
         const bool isText =
             m_settings.get(keys::vendorIDUpdatedDate).typeId() == QMetaType::QString;
         const QString before = storedUpdateDate(m_settings);
-        const QString kept = isText ? before.section(QLatin1Char('('), 0, 0) : before;
+        const QString kept = isText ? before.section(u'(', 0, 0) : before;
         const QString note =
             filled(localized("%@ (added %@ new Identifiers)"), {kept, QString::number(added)});
         m_settings.set(keys::vendorIDUpdatedDate, note);

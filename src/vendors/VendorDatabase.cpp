@@ -18,6 +18,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Questions are asked on the main thread too: another program's lock must not hold it up.
@@ -70,9 +72,9 @@ QString vendorDisplayString(
     const std::optional<QString> &organizationName, const std::optional<QString> &assignment)
 {
     QString text = organizationName.value_or(nullMarker);
-    text += QLatin1String(" (");
+    text += " ("_L1;
     text += assignment.value_or(nullMarker);
-    text += QLatin1Char(')');
+    text += u')';
     return text.trimmed();
 }
 

@@ -21,7 +21,7 @@ struct VendorRecord
     std::optional<QString> registry;
 };
 
-/// "organisation (A1B2C3)", trimmed; what is missing shows as the null marker.
+/// "organization (A1B2C3)", trimmed; what is missing shows as the null marker.
 QString vendorDisplayString(
     const std::optional<QString> &organizationName, const std::optional<QString> &assignment);
 

@@ -10,8 +10,7 @@ namespace quillon {
 QString shippedVendorDatabase(const QString &programFolder)
 {
     for (const char *const place : {"../share/quillon4/oui.db", "../data/oui.db"}) {
-        const QString path =
-            QDir::cleanPath(programFolder + QLatin1Char('/') + QLatin1String(place));
+        const QString path = QDir::cleanPath(programFolder + u'/' + QLatin1String(place));
         if (QFile::exists(path)) {
             return path;
         }

@@ -10,13 +10,15 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype identifierLength = 6;
 
-const QString pending = QStringLiteral("Getting Vendor infomation...");
-const QString unknown = QStringLiteral("Unknown...");
-const QString noInformation = QStringLiteral("No Vendor Information available...");
+const QString pending = u"Getting Vendor infomation..."_s;
+const QString unknown = u"Unknown..."_s;
+const QString noInformation = u"No Vendor Information available..."_s;
 
 } // namespace
 
@@ -36,8 +38,7 @@ void VendorLookup::updateVendor(const QString &address)
     data[vendordata::vendorCurrentAssignment] = QString();
     data[vendordata::vendorCurrentRegistry] = QString();
     if (address.size() >= identifierLength) {
-        const QString key =
-            QString(address).remove(QLatin1Char(':')).toUpper().left(identifierLength);
+        const QString key = QString(address).remove(u':').toUpper().left(identifierLength);
         QString name = noInformation;
         QString organizationAddress = unknown;
         QString registry = unknown;

@@ -31,7 +31,7 @@ class InstallationTest(ProgramTest):
     def test_the_helper_is_installed_from_the_window(self):
         self.window.find("label", "Helper hint")
         self.assertFalse(self.field.enabled)
-        self.assertFalse(self.button("Randomise address").enabled)
+        self.assertFalse(self.button("Randomize address").enabled)
         self.assertFalse(self.button("Apply address").enabled)
 
         self.answer("dismiss")
@@ -47,7 +47,7 @@ class InstallationTest(ProgramTest):
         # Before the first installation polkit knows no action of ours.
         self.assertEqual(self.asked(), ["org.freedesktop.policykit.exec"] * 2)
 
-        self.button("Randomise address").press()
+        self.button("Randomize address").press()
         self.expect_shown(self.expect_only_changed(self.selector.name))
 
 

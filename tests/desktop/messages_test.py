@@ -34,7 +34,7 @@ class MessageTest(ProgramTest):
 class ChangeTest(MessageTest):
     def test_a_change_is_told_with_the_address_that_was_read_back(self):
         device = self.selector.name
-        self.button("Randomise address").press()
+        self.button("Randomize address").press()
         new = self.expect_only_changed(device)
         self.assertEqual(self.expect_message("Ethernet Address Changed"),
                          f"Your new MAC Address is: {new.lower()}")

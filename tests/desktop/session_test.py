@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the session around the program decides: whether there is a tray, and which colours are wanted."""
+"""What the session around the program decides: whether there is a tray, and which colors are wanted."""
 import os
 import signal
 import subprocess

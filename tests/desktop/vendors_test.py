@@ -128,7 +128,7 @@ class ChoiceTest(VendorTest):
         wait_until(lambda: not self.rows(), "the list stayed open")
         wait_until(lambda: field.focused, "the field did not get the keyboard back")
 
-        self.button("Randomise address").press()
+        self.button("Randomize address").press()
         new = self.expect_only_changed(device)
         self.assertEqual(new.replace(":", "")[:6], chosen[-7:-1])
         self.expect_shown(new)

@@ -15,8 +15,8 @@ class MainWindowTest(ProgramTest):
         self.assertIn(self.selected, self.addresses)
         self.factory = self.window.labelled("Factory address", "label").name
 
-    def test_randomise_and_restore(self):
-        self.button("Randomise address").press()
+    def test_randomize_and_restore(self):
+        self.button("Randomize address").press()
         new = self.expect_only_changed(self.selected)
         self.expect_shown(new)
         self.assertIn(int(new[:2], 16) & 3, (2,), "locally administered and unicast")
@@ -55,7 +55,7 @@ class MainWindowTest(ProgramTest):
         other = next(name for name in ("enp2s0", "enp1s0") if name != self.selected)
         self.selector.choose(other)
         self.expect_shown(self.addresses[other])
-        self.button("Randomise address").press()
+        self.button("Randomize address").press()
         self.expect_shown(self.expect_only_changed(other))
         self.button("Restore factory address").press()
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
@@ -87,14 +87,14 @@ class MainWindowTest(ProgramTest):
         wait_until(lambda: self.window.extents == (left + 60, top - 40, width, height),
                    lambda: f"it was at {left}, {top} and is at {self.window.extents}")
         # The press that began it is over: a click does what it always does.
-        self.button("Randomise address").click()
+        self.button("Randomize address").click()
         self.expect_only_changed(self.selected)
 
     def test_the_window_is_not_moved_by_its_controls(self):
         before = self.window.extents
         apply = self.button("Apply address")
         self.assertFalse(apply.enabled)
-        for control in (self.button("Randomise address"), apply, self.field):
+        for control in (self.button("Randomize address"), apply, self.field):
             x, y, width, height = control.extents
             self.drag(x + width // 2, y + height // 2)
         self.field.click()

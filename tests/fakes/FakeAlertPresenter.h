@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/AlertPresenter.h"
+#include "platform/desktop/AlertPresenter.h"
 
 #include <QList>
 

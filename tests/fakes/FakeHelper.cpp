@@ -12,13 +12,15 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int authorizationSize = contract::authorizationSize;
 
 Error gone()
 {
-    return {busErrorDomain, 0, QStringLiteral("the peer is gone")};
+    return {busErrorDomain, 0, u"the peer is gone"_s};
 }
 
 Error refused(const contract::ErrorName &error)
@@ -97,7 +99,7 @@ public:
 
     void installHelperToolWithReply(ErrorReply reply, ErrorHandler errorHandler) override
     {
-        m_peer.m_journal << QStringLiteral("install");
+        m_peer.m_journal << u"install"_s;
         if (!reachable(errorHandler)) {
             return;
         }
@@ -110,19 +112,19 @@ public:
         m_peer.answer([reply, error] { reply(error); });
     }
 
-    void setupAuthorizationRights() override { m_peer.m_journal << QStringLiteral("rights"); }
+    void setupAuthorizationRights() override { m_peer.m_journal << u"rights"_s; }
 
     void connectWithEndpointAndAuthorizationReply(
         std::function<void(const std::optional<QString> &, const QByteArray &)> reply,
         ErrorHandler errorHandler) override
     {
-        m_peer.m_journal << QStringLiteral("endpoint");
+        m_peer.m_journal << u"endpoint"_s;
         if (!reachable(errorHandler)) {
             return;
         }
         std::optional<QString> endpoint;
         if (m_peer.installed) {
-            endpoint = QStringLiteral(":1.%1").arg(++m_peer.m_endpoints);
+            endpoint = u":1.%1"_s.arg(++m_peer.m_endpoints);
         }
         // Fresh bytes each time, so that a test sees which ones were used.
         m_peer.m_givenAuthorization =
@@ -144,7 +146,7 @@ private:
         }
         if (!m_isOurs || !m_peer.serviceExists) {
             m_peer.answer([errorHandler] {
-                errorHandler({busErrorDomain, 0, QStringLiteral("no such service")});
+                errorHandler({busErrorDomain, 0, u"no such service"_s});
             });
             return false;
         }
@@ -172,7 +174,7 @@ public:
     void getVersionWithReply(
         std::function<void(const QString &)> reply, ErrorHandler errorHandler) override
     {
-        m_peer.m_journal << QStringLiteral("version");
+        m_peer.m_journal << u"version"_s;
         if (listens(errorHandler)) {
             m_peer.answer([reply, version = m_peer.version] { reply(version); });
         }
@@ -182,7 +184,7 @@ public:
         const QString &address, bool deviceIsWiFi, const QByteArray &authorization,
         ErrorReply reply, ErrorHandler errorHandler) override
     {
-        m_peer.m_journal << QStringLiteral("change");
+        m_peer.m_journal << u"change"_s;
         if (!listens(errorHandler)) {
             return;
         }
@@ -200,7 +202,7 @@ public:
     void uninstallWithAuthorizationAndReply(
         const QByteArray &, ErrorReply reply, ErrorHandler errorHandler) override
     {
-        m_peer.m_journal << QStringLiteral("uninstall");
+        m_peer.m_journal << u"uninstall"_s;
         const bool refusing = m_peer.mood == Mood::Refusing;
         if (!refusing && m_peer.mood != Mood::Hanging) {
             m_peer.installed = false;
@@ -290,9 +292,7 @@ std::optional<Error> FakeHelper::change(const Change &change)
 void FakeHelper::timeOut()
 {
     for (const ErrorHandler &errorHandler : std::exchange(m_hanging, {})) {
-        answer([errorHandler] {
-            errorHandler({busErrorDomain, 0, QStringLiteral("no answer in time")});
-        });
+        answer([errorHandler] { errorHandler({busErrorDomain, 0, u"no answer in time"_s}); });
     }
 }
 
@@ -325,9 +325,9 @@ int FakeHelper::liveHelperConnections() const
 
 Result<QByteArray> FakeHelper::createAuthorization()
 {
-    m_journal << QStringLiteral("authorize");
+    m_journal << u"authorize"_s;
     if (!authorizes) {
-        return Error{posixErrorDomain, 5, QStringLiteral("no random bytes")};
+        return Error{posixErrorDomain, 5, u"no random bytes"_s};
     }
     // Fresh bytes each time, the first being externalForm().
     return QByteArray(authorizationSize, static_cast<char>('A' + m_authorizations++ % 26));
@@ -335,7 +335,7 @@ Result<QByteArray> FakeHelper::createAuthorization()
 
 std::shared_ptr<XPCServiceConnection> FakeHelper::connectToService(const QString &serviceName)
 {
-    m_journal << QStringLiteral("service ") + serviceName;
+    m_journal << u"service "_s + serviceName;
     auto service = std::make_shared<Service>(*this, serviceName);
     m_services.push_back(service);
     return service;
@@ -343,7 +343,7 @@ std::shared_ptr<XPCServiceConnection> FakeHelper::connectToService(const QString
 
 std::shared_ptr<HelperToolConnection> FakeHelper::connectToListenerEndpoint(const QString &endpoint)
 {
-    m_journal << QStringLiteral("helper ") + endpoint;
+    m_journal << u"helper "_s + endpoint;
     auto tool = std::make_shared<Tool>(*this, m_livingEndpoints.contains(endpoint));
     m_tools.push_back(tool);
     return tool;

@@ -30,7 +30,7 @@ public:
     bool serviceExists = true; ///< else every call to it ends in an error
     bool installed = true;     ///< else the service has no endpoint
     bool installFails = false; ///< the service answers the installation with an error
-    bool authorizes = true;    ///< else the authorisation cannot be created
+    bool authorizes = true;    ///< else the authorization cannot be created
     bool answersTwice = false; ///< a broken helper: every reply comes twice
     QString version = QStringLiteral("2.0");
     /// What the helper does with a call.
@@ -60,7 +60,7 @@ public:
     /// <endpoint>", "version", "change", "uninstall".
     const QStringList &journal() const { return m_journal; }
     void clearJournal() { m_journal.clear(); }
-    /// The authorisation that the service gave out with its latest endpoint.
+    /// The authorization that the service gave out with its latest endpoint.
     const QByteArray &givenAuthorization() const { return m_givenAuthorization; }
     /// The bytes that createAuthorization() gives first.
     static QByteArray externalForm();

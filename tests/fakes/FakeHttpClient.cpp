@@ -8,6 +8,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Error posixError(int number, const char *message)
@@ -47,8 +49,8 @@ HttpClient::Token FakeHttpClient::begin(const QUrl &url, Transfer transfer)
     m_transfers.emplace(token, std::move(transfer));
     m_requests << url;
     const QString scheme = url.scheme();
-    if (scheme != QLatin1String("http") && scheme != QLatin1String("https")) {
-        fail(token, {httpErrorDomain, 0, QStringLiteral("not a web address")});
+    if (scheme != "http"_L1 && scheme != "https"_L1) {
+        fail(token, {httpErrorDomain, 0, u"not a web address"_s});
     } else if (m_sites.contains(url)) {
         const Site site = m_sites.value(url);
         m_scheduler.onMainAfter(site.page.delay, [this, token, site] {

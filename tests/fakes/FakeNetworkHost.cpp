@@ -13,6 +13,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 auto named(const QString &device)
@@ -23,14 +25,14 @@ auto named(const QString &device)
 FakeNetworkHost::Interface described(const QJsonObject &object)
 {
     return {
-        .port = object.value(QLatin1String("port")).toString(),
-        .device = object.value(QLatin1String("device")).toString(),
-        .factory = object.value(QLatin1String("factory")).toString(),
-        .address = object.value(QLatin1String("address")).toString(),
-        .ipv4 = object.value(QLatin1String("ipv4")).toVariant().toStringList(),
-        .active = object.value(QLatin1String("active")).toBool(true),
-        .keepsAddress = object.value(QLatin1String("keepsAddress")).toBool(false),
-        .broken = object.value(QLatin1String("broken")).toBool(false),
+        .port = object.value("port"_L1).toString(),
+        .device = object.value("device"_L1).toString(),
+        .factory = object.value("factory"_L1).toString(),
+        .address = object.value("address"_L1).toString(),
+        .ipv4 = object.value("ipv4"_L1).toVariant().toStringList(),
+        .active = object.value("active"_L1).toBool(true),
+        .keepsAddress = object.value("keepsAddress"_L1).toBool(false),
+        .broken = object.value("broken"_L1).toBool(false),
     };
 }
 
@@ -53,7 +55,7 @@ FakeNetworkHost::FakeNetworkHost(const QString &name)
 
 QList<PortRecord> FakeNetworkHost::ports()
 {
-    m_journal << QStringLiteral("ports");
+    m_journal << u"ports"_s;
     QList<PortRecord> records;
     for (const Interface &each : std::as_const(m_interfaces)) {
         if (!each.port.isEmpty()) {
@@ -65,7 +67,7 @@ QList<PortRecord> FakeNetworkHost::ports()
 
 InterfaceInfo FakeNetworkHost::info(const QString &device)
 {
-    m_journal << QStringLiteral("info ") + device;
+    m_journal << u"info "_s + device;
     const auto found = std::find_if(m_interfaces.cbegin(), m_interfaces.cend(), named(device));
     return found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
 }
@@ -78,7 +80,7 @@ InterfaceInfo FakeNetworkHost::answer(const Interface &interface)
     return {
         .ipAddress = interface.ipv4.value(0),
         .macAddress = interface.address.toLower(),
-        .status = interface.active ? QStringLiteral("active") : QStringLiteral("inactive"),
+        .status = interface.active ? u"active"_s : u"inactive"_s,
     };
 }
 

@@ -8,6 +8,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 FakeSettingsStore::FakeSettingsStore(Scheduler &scheduler)
     : m_scheduler(scheduler)
     , m_observers(scheduler)
@@ -34,7 +36,7 @@ void FakeSettingsStore::set(const QString &key, const QVariant &value)
     }
     {
         const std::lock_guard lock(m_mutex);
-        m_journal << (value.isValid() ? QStringLiteral("set ") : QStringLiteral("remove ")) + key;
+        m_journal << (value.isValid() ? u"set "_s : u"remove "_s) + key;
         replace(key, normalizedPropertyList(value));
     }
     m_observers.deliver();
@@ -87,13 +89,13 @@ void FakeSettingsStore::registerDefaults(const QVariantMap &defaults)
 void FakeSettingsStore::synchronize()
 {
     const std::lock_guard lock(m_mutex);
-    m_journal << QStringLiteral("synchronize");
+    m_journal << u"synchronize"_s;
 }
 
 bool FakeSettingsStore::flush()
 {
     const std::lock_guard lock(m_mutex);
-    m_journal << QStringLiteral("flush");
+    m_journal << u"flush"_s;
     return true;
 }
 
@@ -112,14 +114,13 @@ void FakeSettingsStore::removeObserver(Token token)
 int FakeSettingsStore::writeCount(const QString &key) const
 {
     const std::lock_guard lock(m_mutex);
-    return static_cast<int>(m_journal.count(QStringLiteral("set ") + key) +
-                            m_journal.count(QStringLiteral("remove ") + key));
+    return static_cast<int>(m_journal.count(u"set "_s + key) + m_journal.count(u"remove "_s + key));
 }
 
 int FakeSettingsStore::synchronizeCount() const
 {
     const std::lock_guard lock(m_mutex);
-    return static_cast<int>(m_journal.count(QStringLiteral("synchronize")));
+    return static_cast<int>(m_journal.count(u"synchronize"_s));
 }
 
 QStringList FakeSettingsStore::journal() const

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/SystemSettings.h"
+#include "platform/desktop/SystemSettings.h"
 
 namespace quillon::test {
 

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTextStream>
 
+using namespace Qt::StringLiterals;
+
 // quillon-wifi-capture          writes what this machine's kernel says of its Wi-Fi to standard
 //                               output, as a capture for tests/data/wifi
 // quillon-wifi-capture FILE     shows how the program understands a capture
@@ -27,7 +29,7 @@ void print(const std::optional<WiFiInterface> &wifi, QTextStream &out)
         << ", rate " << wifi->transmitRate << "\n# channel " << wifi->channel.number << ", band "
         << wifi->channel.band << ", width " << wifi->channel.width << ", country "
         << wifi->countryCode << ", mode " << wifi->activePHYMode << ", mcs "
-        << (wifi->mcsIndex ? QString::number(*wifi->mcsIndex) : QStringLiteral("none")) << "\n";
+        << (wifi->mcsIndex ? QString::number(*wifi->mcsIndex) : u"none"_s) << "\n";
 }
 
 int show(const QString &path, QTextStream &out)

@@ -9,6 +9,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QLatin1String portMark("Hardware Port: ");
@@ -30,10 +32,10 @@ QString displayName(QString portName)
 /// The widths are fixed on purpose: the text is not read up to the line's end.
 std::optional<QString> deviceName(const QString &text)
 {
-    if (text.startsWith(QLatin1String("en"))) {
+    if (text.startsWith("en"_L1)) {
         return text.left(enWidth);
     }
-    if (text.startsWith(QLatin1String("bridge"))) {
+    if (text.startsWith("bridge"_L1)) {
         return text.left(bridgeWidth);
     }
     return std::nullopt;
@@ -55,7 +57,7 @@ std::optional<QString> factoryAddress(const QString &chunk)
 std::optional<HardwarePort> portInChunk(const QString &chunk)
 {
     const qsizetype mark = chunk.indexOf(deviceMark);
-    if (chunk == QLatin1String("\n") || mark < 0) {
+    if (chunk == "\n"_L1 || mark < 0) {
         return std::nullopt;
     }
     const QString portName = chunk.left(mark);

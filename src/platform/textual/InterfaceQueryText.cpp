@@ -8,6 +8,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What follows the first `mark`, up to the first character that `ends`, or to the end of the text.
@@ -27,11 +29,11 @@ QString valueAfter(const QString &text, QLatin1String mark, Ends ends)
 
 InterfaceInfo interfaceInfo(const QString &query)
 {
-    const auto isBlank = [](QChar character) { return character == QLatin1Char(' '); };
+    const auto isBlank = [](QChar character) { return character == u' '; };
     return {
-        .ipAddress = valueAfter(query, QLatin1String("inet "), isBlank),
-        .macAddress = valueAfter(query, QLatin1String("ether "), isLineBreak),
-        .status = valueAfter(query, QLatin1String("status: "), isLineBreak),
+        .ipAddress = valueAfter(query, "inet "_L1, isBlank),
+        .macAddress = valueAfter(query, "ether "_L1, isLineBreak),
+        .status = valueAfter(query, "status: "_L1, isLineBreak),
     };
 }
 

@@ -12,12 +12,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Names come from settings and from the port list: anything else could carry a command of its own.
 bool isPlainWord(const QString &device)
 {
-    return !device.isEmpty() && !device.startsWith(QLatin1Char('-')) &&
+    return !device.isEmpty() && !device.startsWith(u'-') &&
            std::all_of(device.begin(), device.end(), [](QChar c) {
                return c.unicode() < 0x80 &&
                       (c.isLetterOrNumber() || QStringView(u"._-").contains(c));
@@ -35,7 +37,7 @@ QList<PortRecord> TextualHost::ports()
 {
     QList<PortRecord> records;
     const QList<HardwarePort> kept =
-        hardwarePorts(m_commands.run(QStringLiteral("networksetup -listallhardwareports")));
+        hardwarePorts(m_commands.run(u"networksetup -listallhardwareports"_s));
     records.reserve(kept.size());
     for (const HardwarePort &port : kept) {
         records.append({port.interface, port.device, port.hardware, info(port.device)});
@@ -49,7 +51,7 @@ InterfaceInfo TextualHost::info(const QString &device)
         qCWarning(logDevices) << "Not an interface name:" << device;
         return {};
     }
-    return interfaceInfo(m_commands.run(filled(QStringLiteral("ifconfig %@"), {device})));
+    return interfaceInfo(m_commands.run(filled(u"ifconfig %@"_s, {device})));
 }
 
 } // namespace quillon

@@ -14,9 +14,11 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString indent = QStringLiteral("    ");
+const QString indent = u"    "_s;
 
 MenuEntry separator()
 {
@@ -78,7 +80,7 @@ std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) 
     }
 
     MenuEntry deviceEntry;
-    deviceEntry.title = filled(QStringLiteral("%@ \u00B7 %@"), {interface, device});
+    deviceEntry.title = filled(u"%@ \u00B7 %@"_s, {interface, device});
     deviceEntry.action = MenuEntry::Action::ChangeInterface;
     deviceEntry.checked = device == m_deps.currentInterface.device();
 

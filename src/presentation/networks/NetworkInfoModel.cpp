@@ -53,13 +53,13 @@ QList<NetworkInfoModel::Row> detailsOf(const WiFiRecord &record)
 } // namespace
 
 NetworkInfoModel::NetworkInfoModel(const Collaborators &collaborators)
-    : m_with(collaborators)
+    : m_deps(collaborators)
 {
-    m_observed.push_back(m_with.settings.addObserver(keys::currentWiFiDict, [this](const auto &) {
+    m_observed.push_back(m_deps.settings.addObserver(keys::currentWiFiDict, [this](const auto &) {
         showDetails();
         updateFavNetworkButton();
     }));
-    m_observed.push_back(m_with.settings.addObserver(
+    m_observed.push_back(m_deps.settings.addObserver(
         keys::savedNetworks, [this](const auto &) { updateFavNetworkButton(); }));
     showDetails();
     updateFavNetworkButton();
@@ -69,7 +69,7 @@ NetworkInfoModel::~NetworkInfoModel()
 {
     stopNetworkTimer();
     for (const auto token : m_observed) {
-        m_with.settings.removeObserver(token);
+        m_deps.settings.removeObserver(token);
     }
 }
 
@@ -86,7 +86,7 @@ void NetworkInfoModel::toggleNetworkInfoPopover()
         popoverWillClose();
         return;
     }
-    m_with.wifi.updateWiFiNetwork();
+    m_deps.wifi.updateWiFiNetwork();
     startNetworkTimer();
     popoverWillShow();
 }
@@ -110,9 +110,9 @@ void NetworkInfoModel::popoverWillClose()
 void NetworkInfoModel::startNetworkTimer()
 {
     stopNetworkTimer();
-    m_networkTimer = m_with.scheduler.repeat(refreshInterval, [self = QPointer(this)] {
+    m_networkTimer = m_deps.scheduler.repeat(refreshInterval, [self = QPointer(this)] {
         if (auto *const that = self.data()) {
-            that->m_with.wifi.updateWiFiNetwork();
+            that->m_deps.wifi.updateWiFiNetwork();
         }
     });
 }
@@ -120,7 +120,7 @@ void NetworkInfoModel::startNetworkTimer()
 void NetworkInfoModel::stopNetworkTimer()
 {
     if (m_networkTimer) {
-        m_with.scheduler.cancel(*m_networkTimer);
+        m_deps.scheduler.cancel(*m_networkTimer);
         m_networkTimer.reset();
     }
 }
@@ -128,23 +128,23 @@ void NetworkInfoModel::stopNetworkTimer()
 void NetworkInfoModel::updateFavNetworkButton()
 {
     State state = m_state;
-    state.favourite = favouriteNetworkButton(m_with.savedNetworks.isCurrentNetworkSaved());
+    state.favorite = favoriteNetworkButton(m_deps.savedNetworks.isCurrentNetworkSaved());
     update(state);
 }
 
-void NetworkInfoModel::chooseFavouriteButton()
+void NetworkInfoModel::chooseFavoriteButton()
 {
-    if (m_state.favourite.removes) {
-        m_with.savedNetworks.removeCurrentNetworkFromSavedList();
+    if (m_state.favorite.removes) {
+        m_deps.savedNetworks.removeCurrentNetworkFromSavedList();
     } else {
-        m_with.savedNetworks.addCurrentNetworkToSavedList();
+        m_deps.savedNetworks.addCurrentNetworkToSavedList();
     }
 }
 
 void NetworkInfoModel::showDetails()
 {
     State state = m_state;
-    state.rows = detailsOf(WiFiRecord::stored(m_with.settings));
+    state.rows = detailsOf(WiFiRecord::stored(m_deps.settings));
     update(state);
 }
 

@@ -4,7 +4,7 @@
 
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-#include "presentation/networks/FavouriteButton.h"
+#include "presentation/networks/FavoriteButton.h"
 
 #include <QList>
 #include <QObject>
@@ -37,7 +37,7 @@ public:
         bool buttonVisible = false;
         bool popoverShown = false;
         QList<Row> rows; ///< the network's name first; one row for each detail, also an empty one
-        FavouriteButton favourite;
+        FavoriteButton favorite;
 
         bool operator==(const State &) const = default;
     };
@@ -65,8 +65,8 @@ public:
     void stopNetworkTimer();
 
     void updateFavNetworkButton();
-    /// The favourite button was chosen: does what it says.
-    void chooseFavouriteButton();
+    /// The favorite button was chosen: does what it says.
+    void chooseFavoriteButton();
 
 Q_SIGNALS:
     /// Something in state() changed.
@@ -77,7 +77,7 @@ private:
     void showDetails();
     void update(const State &state);
 
-    Collaborators m_with;
+    Collaborators m_deps;
     State m_state;
     std::optional<Scheduler::Token> m_networkTimer;
     std::vector<SettingsStore::Token> m_observed;

@@ -8,6 +8,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qreal anchorSize = 5;
@@ -117,7 +119,7 @@ void SavedEntryPopoverModel::chooseSsidTickButton()
 void SavedEntryPopoverModel::chooseBssidTickButton()
 {
     if (m_state.bssidTickButton.hasAction) {
-        m_networks.updateNetworkDefinition(QStringLiteral("bssidbutton"));
+        m_networks.updateNetworkDefinition(u"bssidbutton"_s);
     }
 }
 

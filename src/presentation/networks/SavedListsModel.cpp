@@ -10,6 +10,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QList<SavedListsModel::Token> tokensOf(
@@ -39,7 +41,7 @@ bool isBeforeIgnoringCase(const SavedListsModel::Token &a, const SavedListsModel
 
 QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const SavedEntry &entry)
 {
-    return field == TokenField::Other ? QStringLiteral("name") : entry.name.value_or(QString());
+    return field == TokenField::Other ? u"name"_s : entry.name.value_or(QString());
 }
 
 bool tokenFieldHasMenuForRepresentedObject(TokenField field)
@@ -110,13 +112,13 @@ void SavedListsModel::softwarePopoverWillClose()
 void SavedListsModel::updateFavAddressButton()
 {
     State state = m_state;
-    state.favourite = favouriteAddressButton(m_savedAddresses.isCurrentAddressSaved());
+    state.favorite = favoriteAddressButton(m_savedAddresses.isCurrentAddressSaved());
     update(state);
 }
 
-void SavedListsModel::chooseFavouriteButton()
+void SavedListsModel::chooseFavoriteButton()
 {
-    if (m_state.favourite.removes) {
+    if (m_state.favorite.removes) {
         m_savedAddresses.removeCurrentAddressFromSavedList();
     } else {
         m_savedAddresses.addCurrentAddressToSavedList();

@@ -4,7 +4,7 @@
 
 #include "networks/SavedEntry.h"
 #include "platform/SettingsStore.h"
-#include "presentation/networks/FavouriteButton.h"
+#include "presentation/networks/FavoriteButton.h"
 
 #include <QList>
 #include <QObject>
@@ -49,7 +49,7 @@ public:
         QList<Token> addresses;
         QList<Token> quickAddresses; ///< in the order of their addresses, ignoring case
         bool softwarePopoverShown = false;
-        FavouriteButton favourite;
+        FavoriteButton favorite;
 
         bool operator==(const State &) const = default;
     };
@@ -67,8 +67,8 @@ public:
     void softwarePopoverWillClose();
 
     void updateFavAddressButton();
-    /// The favourite button was chosen: does what it says.
-    void chooseFavouriteButton();
+    /// The favorite button was chosen: does what it says.
+    void chooseFavoriteButton();
 
 Q_SIGNALS:
     /// Something in state() changed.

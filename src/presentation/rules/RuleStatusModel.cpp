@@ -8,6 +8,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
     : m_devices(devices)
 {
@@ -16,17 +18,17 @@ RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
 void RuleStatusModel::updateRuleStatusForDevice(const QString &device)
 {
     const qlonglong hasRule = m_devices.record(device).hasRule.value_or(0);
-    State now{.image = QStringLiteral("NSStatusNone"),
+    State now{.image = u"NSStatusNone"_s,
         .toolTip = localized("no rules have been configured"),
         .activeRuleStruckThrough = true,
         .noActiveRulesStruckThrough = true,
         .noRulesStruckThrough = true};
     if (hasRule == static_cast<qlonglong>(RuleStatus::Active)) {
-        now.image = QStringLiteral("NSStatusAvailable");
+        now.image = u"NSStatusAvailable"_s;
         now.toolTip = localized("has an Active rule");
         now.activeRuleStruckThrough = false;
     } else if (hasRule == static_cast<qlonglong>(RuleStatus::NotActive)) {
-        now.image = QStringLiteral("NSStatusPartiallyAvailable");
+        now.image = u"NSStatusPartiallyAvailable"_s;
         now.toolTip = localized("no rules are currently Active");
         now.noActiveRulesStruckThrough = false;
     } else {

@@ -16,6 +16,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 RulesListModel::RulesListModel(const Collaborators &collaborators)
     : m_deps(collaborators)
 {
@@ -28,10 +30,10 @@ void RulesListModel::filterRulesArrayController()
     m_state.update([&](State &state) {
         state.filter = m_deps.queries.filterPredicateForDevice(device);
         if (current.isWifi()) {
-            state.symbol = QStringLiteral("wifi");
+            state.symbol = u"wifi"_s;
             state.title = WiFiRecord::stored(m_deps.settings).name;
         } else {
-            state.symbol = QStringLiteral("network");
+            state.symbol = u"network"_s;
             state.title = current.interface.value_or(QString()) + titleSeparator + device;
         }
         fillRows(state);
@@ -80,8 +82,7 @@ void RulesListModel::toggle(qsizetype row, bool enabled)
 {
     if (row >= 0 && row < m_state->rows.size()) {
         m_deps.notifications.post(notifications::toggleCheckbox, this,
-            {{QStringLiteral("objID"), m_state->rows.at(row).objID},
-                {QStringLiteral("state"), enabled}});
+            {{u"objID"_s, m_state->rows.at(row).objID}, {u"state"_s, enabled}});
     }
 }
 

@@ -15,6 +15,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype bareDigits = 12;
@@ -39,18 +41,18 @@ QString MainWindowModel::readMeText()
 void MainWindowModel::prepareWindow()
 {
     m_state.update([&](State &state) {
-        state.randomiseEnabled = false;
+        state.randomizeEnabled = false;
         state.restoreEnabled = false;
         state.fieldEnabled = false;
         state.readMeVisible = false;
         const QString version = QCoreApplication::applicationVersion();
-        state.versionLabel = filled(QStringLiteral("v%@"), {version});
+        state.versionLabel = filled(u"v%@"_s, {version});
     });
 }
 
-void MainWindowModel::disableRandomise()
+void MainWindowModel::disableRandomize()
 {
-    m_state.update([&](State &state) { state.randomiseEnabled = false; });
+    m_state.update([&](State &state) { state.randomizeEnabled = false; });
 }
 
 void MainWindowModel::disableUpdate()
@@ -83,7 +85,7 @@ void MainWindowModel::setHelperInstalled(bool installed)
     m_state.update([&](State &state) {
         state.fieldEnabled = installed;
         state.readMeVisible = !installed;
-        state.randomiseEnabled = installed;
+        state.randomizeEnabled = installed;
         if (!installed) {
             state.updateEnabled = false;
         }

@@ -36,7 +36,7 @@ public:
         QString fieldPlaceholder;
         bool fieldEnabled = false;
         bool updateEnabled = false; ///< the apply button
-        bool randomiseEnabled = false;
+        bool randomizeEnabled = false;
         bool restoreEnabled = false;
 
         /// The hint to install the helper, with its install button.
@@ -48,7 +48,7 @@ public:
         bool softwareButtonVisible = false;
 
         // The selected interface, for display; addresses in display case.
-        QString interfaceName; ///< localised port name
+        QString interfaceName; ///< localized port name
         QString currentAddress;
         QString hardwareAddress;
         QString ipAddress; ///< "" when none
@@ -59,7 +59,7 @@ public:
         bool operator==(const State &) const = default;
     };
 
-    /// How the hint is drawn: left-aligned, bold, of this size in points, in this colour (0 to 1).
+    /// How the hint is drawn: left-aligned, bold, of this size in points, in this color (0 to 1).
     struct ReadMeStyle
     {
         int pointSize = 14;
@@ -88,7 +88,7 @@ public:
 
     /// Before the first device is read: everything that needs the helper is disabled.
     void prepareWindow();
-    void disableRandomise();
+    void disableRandomize();
     void disableUpdate();
 
     void populateSelectionButton();
@@ -139,7 +139,7 @@ public:
 Q_SIGNALS:
     /// Something in state() changed.
     void changed();
-    /// The user edited or cleared the field in vain: it has to show state().fieldText again.
+    /// An edit was refused, or the field was left empty: it has to show state().fieldText again.
     void fieldRestored();
     /// Buttons that may be emphasised are to look normal again.
     void infoButtonsReset();

@@ -9,12 +9,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Error unknownAttribute(const Entity &entity, const QString &attribute)
 {
     return recordFileError(RecordFileError::UnknownName,
-        QStringLiteral("The entity \"%1\" has no attribute \"%2\".").arg(entity.name(), attribute));
+        u"The entity \"%1\" has no attribute \"%2\"."_s.arg(entity.name(), attribute));
 }
 
 /// Whether an attribute of that type can equal `value` at all. Booleans are stored as numbers.
@@ -110,13 +112,12 @@ Result<FetchSql> fetchSql(const Entity &entity, const FetchRequest &request, boo
 
 std::string quotedName(const QString &name)
 {
-    return '"' + QString(name).replace(QLatin1Char('"'), QStringLiteral("\"\"")).toStdString() +
-           '"';
+    return '"' + QString(name).replace(u'"', u"\"\""_s).toStdString() + '"';
 }
 
 std::string overlayTable(const Entity &entity)
 {
-    return "temp." + quotedName(QStringLiteral("unsaved ") + entity.name());
+    return "temp." + quotedName(u"unsaved "_s + entity.name());
 }
 
 } // namespace quillon

@@ -19,6 +19,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int applicationId = 0x51756c6e; // "Quln", in the header that SQLite leaves to programs
@@ -47,14 +49,13 @@ void makeWhenMissing(const QString &path)
         !file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
         !QFileInfo::exists(path)) {
         refuse(RecordFileError::CannotOpen,
-            QStringLiteral("The file \"%1\" cannot be opened: %2").arg(path, file.errorString()));
+            u"The file \"%1\" cannot be opened: %2"_s.arg(path, file.errorString()));
     }
     const QFileInfo info(path);
     if (!info.isFile() || !info.isReadable()) {
         refuse(RecordFileError::CannotOpen,
-            QStringLiteral("The file \"%1\" cannot be opened: %2")
-                .arg(path, info.isFile() ? QStringLiteral("it may not be read")
-                                         : QStringLiteral("it is not a file")));
+            u"The file \"%1\" cannot be opened: %2"_s.arg(
+                path, info.isFile() ? u"it may not be read"_s : u"it is not a file"_s));
     }
 }
 
@@ -78,8 +79,7 @@ std::optional<FileHeader> headerOf(SQLite::Database &database, const QString &pa
         file->pMethods &&
         file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0) == SQLITE_OK;
     if (!isRead || std::memcmp(header.data(), "SQLite format 3", 16) != 0) {
-        refuse(RecordFileError::NotARecordFile,
-            QStringLiteral("The file \"%1\" is not a database.").arg(path));
+        refuse(RecordFileError::NotARecordFile, u"The file \"%1\" is not a database."_s.arg(path));
     }
     return header;
 }
@@ -87,15 +87,14 @@ std::optional<FileHeader> headerOf(SQLite::Database &database, const QString &pa
 [[noreturn]] void refuseForeign(const QString &path)
 {
     refuse(RecordFileError::NotARecordFile,
-        QStringLiteral("The database \"%1\" does not hold records of Quillon.").arg(path));
+        u"The database \"%1\" does not hold records of Quillon."_s.arg(path));
 }
 
 [[noreturn]] void refuseNewer(const QString &path, int version, int knownVersion)
 {
     refuse(RecordFileError::Newer,
-        QStringLiteral("The records in \"%1\" were written by a newer version of Quillon "
-                       "(version %2 of the file; this program knows versions up to %3).")
-            .arg(path)
+        u"The records in \"%1\" were written by a newer version of Quillon "
+        "(version %2 of the file; this program knows versions up to %3)."_s.arg(path)
             .arg(version)
             .arg(knownVersion));
 }
@@ -155,7 +154,7 @@ bool looksNew(SQLite::Database &database, const QString &path, int knownVersion)
 void checkTables(SQLite::Database &database, const Model &model, const QString &path)
 {
     for (const Entity &entity : model.entities) {
-        QStringList missing{QStringLiteral("pk"), QStringLiteral("uuid")};
+        QStringList missing{u"pk"_s, u"uuid"_s};
         for (const Attribute &attribute : entity.attributes()) {
             missing << attribute.name;
         }
@@ -166,8 +165,8 @@ void checkTables(SQLite::Database &database, const Model &model, const QString &
         }
         if (!missing.isEmpty()) {
             refuse(RecordFileError::Damaged,
-                QStringLiteral("The records in \"%1\" are damaged: \"%2\" lacks \"%3\".")
-                    .arg(path, entity.name(), missing.join(QStringLiteral("\", \""))));
+                u"The records in \"%1\" are damaged: \"%2\" lacks \"%3\"."_s.arg(
+                    path, entity.name(), missing.join(u"\", \""_s)));
         }
     }
 }
@@ -179,9 +178,9 @@ void checkPages(SQLite::Database &database, const QString &path)
     }
     const auto verdict =
         QString::fromStdString(database.execAndGet("PRAGMA quick_check(1)").getString());
-    if (verdict != QStringLiteral("ok")) {
+    if (verdict != u"ok"_s) {
         refuse(RecordFileError::Damaged,
-            QStringLiteral("The records in \"%1\" are damaged: %2").arg(path, verdict));
+            u"The records in \"%1\" are damaged: %2"_s.arg(path, verdict));
     }
 }
 
@@ -261,8 +260,7 @@ Error errorOf(const SQLite::Exception &exception)
             return RecordFileError::Failed;
         }
     };
-    return recordFileError(code(), QStringLiteral("%1 (SQLite %2)")
-                                       .arg(QString::fromUtf8(exception.what()))
+    return recordFileError(code(), u"%1 (SQLite %2)"_s.arg(QString::fromUtf8(exception.what()))
                                        .arg(exception.getExtendedErrorCode()));
 }
 

@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype recordsOfPage = 100;
@@ -101,7 +103,7 @@ Result<FetchedRecords> ManagedObjectContext::fetchLazily(const FetchRequest &req
     const Entity *const entity = m_model.entity(request.entity);
     if (!entity) {
         return recordFileError(RecordFileError::UnknownName,
-            QStringLiteral("There is no entity named \"%1\".").arg(request.entity));
+            u"There is no entity named \"%1\"."_s.arg(request.entity));
     }
     QList<RowChange> changes;
     QHash<qint64, ManagedObjectPtr> unsaved;

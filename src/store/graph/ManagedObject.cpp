@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 ManagedObject::ManagedObject(ManagedObjectContext &context, const Entity &entity, const QUuid &id)
     : m_context(&context)
     , m_entity(entity)
@@ -24,8 +26,8 @@ ManagedObject::~ManagedObject()
 
 QString ManagedObject::uriRepresentation() const
 {
-    return QStringLiteral("x-quillon-record://Quillon/%1/%2")
-        .arg(m_entity.name(), m_id.toString(QUuid::WithoutBraces));
+    return u"x-quillon-record://Quillon/%1/%2"_s.arg(
+        m_entity.name(), m_id.toString(QUuid::WithoutBraces));
 }
 
 QVariant ManagedObject::value(const QString &attribute) const

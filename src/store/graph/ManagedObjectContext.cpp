@@ -118,7 +118,7 @@ void ManagedObjectContext::deleteObject(const ManagedObjectPtr &object)
 
 ManagedObjectPtr ManagedObjectContext::objectWithURI(const QString &uri)
 {
-    const QStringList parts = uri.split(QLatin1Char('/'));
+    const QStringList parts = uri.split(u'/');
     const Entity *const entity = m_model.entity(parts.value(3));
     if (!entity) {
         return nullptr;

@@ -4,6 +4,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Entity ruleEntity()
@@ -23,7 +25,7 @@ Entity connectionEntity()
 
 const Model &quillonModel()
 {
-    static const Model quillon{QStringLiteral("Quillon"), {ruleEntity(), connectionEntity()}};
+    static const Model quillon{u"Quillon"_s, {ruleEntity(), connectionEntity()}};
     return quillon;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/menu/StatusItem.h"
 
-#include "platform/TrayHost.h"
+#include "platform/desktop/TrayHost.h"
 #include "presence/Presence.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "ui/menu/StatusMenu.h"
@@ -11,6 +11,8 @@
 #include <QSystemTrayIcon>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 StatusItem::StatusItem(
     StatusMenuModel &model, Presence &presence, TrayHost &host, const Theme &theme)
@@ -41,9 +43,8 @@ void StatusItem::follow()
     } else if (m_hostWasThere && m_icon == nullptr) {
         // A host that goes away and comes back finds the same item again.
         m_menu = std::make_unique<StatusMenu>(m_model);
-        m_icon = std::make_unique<QSystemTrayIcon>(
-            m_theme.icon(QStringLiteral("menu"), Theme::Ink::Tray));
-        m_icon->setToolTip(QStringLiteral("Quillon"));
+        m_icon = std::make_unique<QSystemTrayIcon>(m_theme.icon(u"menu"_s, Theme::Ink::Tray));
+        m_icon->setToolTip(u"Quillon"_s);
         m_icon->setContextMenu(m_menu.get());
         connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {

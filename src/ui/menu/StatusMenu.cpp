@@ -6,12 +6,14 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Menus outside of this process mark mnemonics with underscores; none of ours has one.
 QString withoutMnemonics(QString title)
 {
-    return title.replace(u'&', QStringLiteral("&&")).replace(u'_', QStringLiteral("__"));
+    return title.replace(u'&', u"&&"_s).replace(u'_', u"__"_s);
 }
 
 /// A submenu belongs to the menu, not to the action that opens it.
@@ -28,14 +30,14 @@ void dropSubmenu(QAction &action)
 QStringList menuEntryKeys(const std::vector<MenuEntry> &entries)
 {
     QStringList keys;
-    QString section = QStringLiteral("top");
+    QString section = u"top"_s;
     int place = 0;
     for (const MenuEntry &entry : entries) {
         if (entry.action == MenuEntry::Action::ChangeInterface) {
-            section = QStringLiteral("interface ") + entry.title;
+            section = u"interface "_s + entry.title;
             place = 0;
         } else if (entry.action == MenuEntry::Action::Quit) {
-            section = QStringLiteral("quit");
+            section = u"quit"_s;
             place = 0;
         }
         keys.append(section + u'/' + QString::number(place++));

@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 SymbolicIcon::SymbolicIcon(const Theme &theme, QString name, Theme::Ink ink)
     : m_theme(&theme)
     , m_name(std::move(name))
@@ -26,7 +28,7 @@ void SymbolicIcon::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
 
 QPixmap SymbolicIcon::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
 {
-    QFile file(QStringLiteral(":/icons/%1.svg").arg(m_name));
+    QFile file(u":/icons/%1.svg"_s.arg(m_name));
     const Theme *theme = m_theme.data();
     if (theme == nullptr || size.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return {};

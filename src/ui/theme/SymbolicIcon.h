@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// An icon of one colour, drawn from a vector image of the resources at whatever size is asked for,
-/// in the colour that the theme has at that moment.
+/// An icon of one color, drawn from a vector image of the resources at whatever size is asked for,
+/// in the color that the theme has at that moment.
 class SymbolicIcon : public QIconEngine
 {
 public:

@@ -14,20 +14,21 @@
 
 // The resources stand in a static library: without this the linker would leave them out. It must be
 // called outside of any namespace.
-static void initialiseResources()
+static void initializeResources()
 {
     Q_INIT_RESOURCE(ui);
 }
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Without a desktop's own settings Qt asks for these names, which stand for no font in particular.
 bool isGenericFamily(const QString &family)
 {
-    return family.isEmpty() || family == QLatin1String("Sans Serif") ||
-           family == QLatin1String("Sans");
+    return family.isEmpty() || family == "Sans Serif"_L1 || family == "Sans"_L1;
 }
 
 QHash<QString, QString> namedColors(const ThemeColors &colors)
@@ -71,7 +72,7 @@ Theme::Theme(ColorScheme scheme)
     : m_scheme(scheme)
     , m_colors(ThemeColors::forScheme(scheme))
 {
-    initialiseResources();
+    initializeResources();
 }
 
 QColor Theme::ink(Ink ink) const
@@ -101,16 +102,16 @@ QColor Theme::ink(Ink ink) const
 
 void Theme::apply()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QFont font = QApplication::font();
-    const QString preferred = QStringLiteral("Inter");
+    const QString preferred = u"Inter"_s;
     if (isGenericFamily(font.family()) && QFontDatabase::families().contains(preferred)) {
         font.setFamily(preferred);
         font.setPointSizeF(10);
         QApplication::setFont(font);
     }
     QApplication::setPalette(m_colors.palette());
-    QFile file(QStringLiteral(":/ui/theme.qss"));
+    QFile file(u":/ui/theme.qss"_s);
     if (file.open(QIODevice::ReadOnly)) {
         const QString sheet = styleSheet(QString::fromUtf8(file.readAll()), m_colors, m_scheme);
         qobject_cast<QApplication *>(QCoreApplication::instance())->setStyleSheet(sheet);
@@ -152,10 +153,9 @@ QFont Theme::textFont(double scale, QFont::Weight weight)
 QString Theme::styleSheet(const QString &pattern, const ThemeColors &colors, ColorScheme scheme)
 {
     QHash<QString, QString> names = namedColors(colors);
-    names.insert(QStringLiteral("chevron"), scheme == ColorScheme::Dark
-                                                ? QStringLiteral("chevron-dark.svg")
-                                                : QStringLiteral("chevron-light.svg"));
-    static const QRegularExpression name(QStringLiteral("@([A-Za-z]+)"));
+    names.insert(
+        u"chevron"_s, scheme == ColorScheme::Dark ? u"chevron-dark.svg"_s : u"chevron-light.svg"_s);
+    static const QRegularExpression name(u"@([A-Za-z]+)"_s);
     QString sheet;
     qsizetype copied = 0;
     auto matches = name.globalMatch(pattern);

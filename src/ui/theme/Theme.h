@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// The look of all windows: Fusion with colours, measures and icons of our own, light or dark. One
+/// The look of all windows: Fusion with colors, measures and icons of our own, light or dark. One
 /// per program; it outlives the windows and the icons that it made. Main thread.
 class Theme : public QObject
 {
@@ -26,7 +26,7 @@ public:
     static constexpr int windowWidth = 460;
     static constexpr int rowHeight = 26; ///< of a row of details
 
-    /// Which of the theme's colours an icon is drawn in. Disabled icons are drawn as disabled text.
+    /// Which of the theme's colors an icon is drawn in. Disabled icons are drawn as disabled text.
     enum class Ink
     {
         Text,

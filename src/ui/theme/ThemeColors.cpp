@@ -9,7 +9,7 @@ namespace quillon {
 
 namespace {
 
-// The hint has the same colours in both schemes: its blue is given, and legible on dark ground
+// The hint has the same colors in both schemes: its blue is given, and legible on dark ground
 // only.
 void addHintColors(ThemeColors &colors)
 {

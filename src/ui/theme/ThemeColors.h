@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/ColorSchemeSource.h"
+#include "platform/desktop/ColorSchemeSource.h"
 
 #include <QColor>
 #include <QList>
@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-/// Every colour of the program's windows, by what it is for.
+/// Every color of the program's windows, by what it is for.
 struct ThemeColors
 {
     QColor window;        ///< behind everything
@@ -19,7 +19,7 @@ struct ThemeColors
     QColor control;       ///< secondary buttons, selectors
     QColor controlHover;
     QColor controlPressed;
-    QColor controlBorder; ///< the outline by which a control is recognised
+    QColor controlBorder; ///< the outline by which a control is recognized
     QColor text;
     QColor mutedText;
     QColor disabledText;
@@ -46,10 +46,10 @@ struct ThemeColors
 /// is lighter than its windows.
 ColorScheme schemeOf(const QPalette &palette);
 
-/// Contrast of two opaque colours as WCAG 2.1 defines it: 1 to 21.
+/// Contrast of two opaque colors as WCAG 2.1 defines it: 1 to 21.
 double contrastRatio(const QColor &first, const QColor &second);
 
-/// A colour that is drawn on another, and the least contrast that makes it legible: 4.5 for text, 3
+/// A color that is drawn on another, and the least contrast that makes it legible: 4.5 for text, 3
 /// for large text, outlines and symbols.
 struct ColorPair
 {

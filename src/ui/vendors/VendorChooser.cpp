@@ -18,6 +18,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
@@ -25,14 +27,14 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     , m_toggle(new QToolButton)
     , m_table(new VendorTableView(model, this))
 {
-    setProperty("look", QStringLiteral("card"));
-    setObjectName(QStringLiteral("vendorFieldView"));
+    setProperty("look", u"card"_s);
+    setObjectName(u"vendorFieldView"_s);
     makeField();
     makeToggle(theme);
     m_table->hide();
     m_table->installEventFilter(this);
     auto *caption = new QLabel(localized("&Manufacturer of random addresses"));
-    caption->setProperty("look", QStringLiteral("caption"));
+    caption->setProperty("look", u"caption"_s);
     caption->setBuddy(m_field);
 
     auto *grid = new QGridLayout(this);
@@ -50,8 +52,8 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
 
 void VendorChooser::makeField()
 {
-    m_field->setObjectName(QStringLiteral("vendorTextfield"));
-    m_field->setProperty("look", QStringLiteral("field"));
+    m_field->setObjectName(u"vendorTextfield"_s);
+    m_field->setProperty("look", u"field"_s);
     m_field->setAccessibleName(localized("Manufacturer of random addresses"));
     m_field->setAccessibleDescription(
         localized("Type the beginning of a name, then choose from the list"));
@@ -60,9 +62,9 @@ void VendorChooser::makeField()
 
 void VendorChooser::makeToggle(const Theme &theme)
 {
-    m_toggle->setObjectName(QStringLiteral("vendorToggle"));
-    m_toggle->setProperty("look", QStringLiteral("row"));
-    m_toggle->setIcon(theme.icon(QStringLiteral("expand"), Theme::Ink::Muted));
+    m_toggle->setObjectName(u"vendorToggle"_s);
+    m_toggle->setProperty("look", u"row"_s);
+    m_toggle->setIcon(theme.icon(u"expand"_s, Theme::Ink::Muted));
     m_toggle->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     // The keyboard opens the list from the field.
     m_toggle->setFocusPolicy(Qt::NoFocus);

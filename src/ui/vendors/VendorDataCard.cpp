@@ -17,6 +17,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int progressSteps = 1000;
@@ -32,9 +34,9 @@ VendorDataCard::VendorDataCard(VendorPaneModel &model, const Theme &theme, QWidg
     , m_title(new QToolButton)
     , m_content(makeContent())
 {
-    setProperty("look", QStringLiteral("card"));
-    m_title->setObjectName(QStringLiteral("vendorDataTitle"));
-    m_title->setProperty("look", QStringLiteral("flat"));
+    setProperty("look", u"card"_s);
+    m_title->setObjectName(u"vendorDataTitle"_s);
+    m_title->setProperty("look", u"flat"_s);
     m_title->setText(localized("Vendor Data"));
     m_title->setAccessibleName(localized("Vendor Data"));
     m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -55,19 +57,19 @@ QWidget *VendorDataCard::makeContent()
 {
     auto *content = new QWidget;
     m_updated = new QLabel;
-    m_updated->setObjectName(QStringLiteral("updatedLabel"));
+    m_updated->setObjectName(u"updatedLabel"_s);
     m_updated->setTextFormat(Qt::PlainText);
     m_updated->setWordWrap(true);
     m_count = new QLabel;
-    m_count->setObjectName(QStringLiteral("vendorCount"));
-    m_count->setProperty("look", QStringLiteral("caption"));
+    m_count->setObjectName(u"vendorCount"_s);
+    m_count->setProperty("look", u"caption"_s);
     m_progress = new QProgressBar;
-    m_progress->setObjectName(QStringLiteral("progressBar"));
+    m_progress->setObjectName(u"progressBar"_s);
     m_progress->setAccessibleName(localized("Progress of the download"));
     m_progress->setRange(0, progressSteps);
     m_progress->setTextVisible(false);
     m_button = new QPushButton;
-    m_button->setObjectName(QStringLiteral("downloadButton"));
+    m_button->setObjectName(u"downloadButton"_s);
     m_button->setAutoDefault(true);
     connect(m_button, &QPushButton::clicked, this, [this] { m_model.pressButton(); });
     // The bar comes and goes; the card keeps its height.
@@ -90,8 +92,7 @@ QWidget *VendorDataCard::makeContent()
 void VendorDataCard::fold(bool folded)
 {
     m_content->setVisible(!folded);
-    m_title->setIcon(m_theme.icon(
-        folded ? QStringLiteral("collapsed") : QStringLiteral("expand"), Theme::Ink::Muted));
+    m_title->setIcon(m_theme.icon(folded ? u"collapsed"_s : u"expand"_s, Theme::Ink::Muted));
     m_title->setAccessibleDescription(folded ? localized("Folded") : localized("Unfolded"));
 }
 

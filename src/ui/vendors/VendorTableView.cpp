@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int shownRows = 6;
@@ -68,7 +70,7 @@ VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
     : QListView(parent)
     , m_model(model)
 {
-    setObjectName(QStringLiteral("vendorTable"));
+    setObjectName(u"vendorTable"_s);
     setAccessibleName(localized("Manufacturers"));
     // Tens of thousands of rows are laid out by the first one's height.
     setUniformItemSizes(true);

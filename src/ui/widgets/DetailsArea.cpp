@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int fewRows = 5 * Theme::rowHeight;
@@ -21,7 +23,7 @@ DetailsArea::DetailsArea(QWidget *parent)
     : QScrollArea(parent)
     , m_tallest(QWIDGETSIZE_MAX)
 {
-    setObjectName(QStringLiteral("detailsArea"));
+    setObjectName(u"detailsArea"_s);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Its sections take the keyboard, it does not.

@@ -12,6 +12,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int sentenceWidth = 360;
@@ -19,11 +21,11 @@ constexpr int iconSize = 48;
 
 void describe(QMessageBox &box, const QString &message, const QString &informativeText)
 {
-    box.setWindowTitle(QStringLiteral("Quillon"));
+    box.setWindowTitle(u"Quillon"_s);
     box.setTextFormat(Qt::PlainText);
     box.setText(message);
     box.setInformativeText(informativeText);
-    const QIcon icon(QStringLiteral(":/icons/com.orvandel.Quillon4.svg"));
+    const QIcon icon(u":/icons/com.orvandel.Quillon4.svg"_s);
     box.setIconPixmap(icon.pixmap(QSize(iconSize, iconSize), box.devicePixelRatioF()));
 }
 
@@ -61,8 +63,7 @@ int MessageAlerts::runModal(const Alert &alert)
 bool MessageAlerts::presentError(const Error &error)
 {
     QMessageBox box(QApplication::activeWindow());
-    describe(box, error.message,
-        QStringLiteral("%1 (%2)").arg(error.domain, QString::number(error.code)));
+    describe(box, error.message, u"%1 (%2)"_s.arg(error.domain, QString::number(error.code)));
     box.addButton(localized("OK"), QMessageBox::AcceptRole);
     widen(box);
     box.exec();

@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double addressScale = 1.9;
@@ -46,7 +48,7 @@ AddressField::AddressField(MainWindowModel &model, QWidget *parent)
     : QLineEdit(parent)
     , m_model(model)
 {
-    setObjectName(QStringLiteral("hexField"));
+    setObjectName(u"hexField"_s);
     setAccessibleName(localized("Address"));
     setAccessibleDescription(localized(
         "Twelve hexadecimal digits, with or without colons. Return applies the address."));
@@ -62,7 +64,7 @@ AddressField::AddressField(MainWindowModel &model, QWidget *parent)
 
 QSize AddressField::sizeHint() const
 {
-    const QString widest = QStringLiteral("DD:DD:DD:DD:DD:DD");
+    const QString widest = u"DD:DD:DD:DD:DD:DD"_s;
     QSize size = QLineEdit::sizeHint();
     // Room for the text, the cursor, and the frame's padding on both sides.
     size.setWidth(fontMetrics().horizontalAdvance(widest) + 4 * Theme::unit);

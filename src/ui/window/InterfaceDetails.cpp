@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int columns = 3;
@@ -21,7 +23,7 @@ constexpr int rowSpacing = 4;
 QFrame *makeRule()
 {
     auto *rule = new QFrame;
-    rule->setProperty("look", QStringLiteral("rule"));
+    rule->setProperty("look", u"rule"_s);
     return rule;
 }
 
@@ -31,19 +33,19 @@ InterfaceDetails::InterfaceDetails(MainWindowModel &model, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
     , m_grid(new QGridLayout(this))
-    , m_current(makeValue(QStringLiteral("currentAddress")))
-    , m_factory(makeValue(QStringLiteral("hardwareAddress")))
-    , m_ipAddress(makeValue(QStringLiteral("ipAddress")))
+    , m_current(makeValue(u"currentAddress"_s))
+    , m_factory(makeValue(u"hardwareAddress"_s))
+    , m_ipAddress(makeValue(u"ipAddress"_s))
     , m_changed(new QLabel(localized("Changed")))
 {
-    setProperty("look", QStringLiteral("card"));
+    setProperty("look", u"card"_s);
     m_grid->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::cardMargin, Theme::unit);
     m_grid->setHorizontalSpacing(3 * Theme::unit);
     m_grid->setVerticalSpacing(rowSpacing);
     m_grid->setColumnStretch(1, 1);
 
-    m_changed->setObjectName(QStringLiteral("hardwareIndicator"));
-    m_changed->setProperty("look", QStringLiteral("notice"));
+    m_changed->setObjectName(u"hardwareIndicator"_s);
+    m_changed->setProperty("look", u"notice"_s);
     m_changed->setToolTip(localized("The address in use is not the factory address"));
     m_changed->setAccessibleName(localized("The address in use is not the factory address"));
     m_changed->setFont(Theme::textFont(0.9, QFont::DemiBold));
@@ -59,7 +61,7 @@ void InterfaceDetails::addRow(const QString &caption, QWidget *value, const Besi
         m_grid->addWidget(makeRule(), m_grid->rowCount(), 0, 1, columns);
     }
     auto *name = new QLabel(caption);
-    name->setProperty("look", QStringLiteral("caption"));
+    name->setProperty("look", u"caption"_s);
     // What stands beside the value comes and goes; the rows keep their height, all the same.
     name->setMinimumHeight(Theme::rowHeight);
     // Both are children of this: a screen reader finds a name beside its value only.
@@ -95,7 +97,7 @@ QLabel *InterfaceDetails::makeValue(const QString &name)
 {
     auto *value = new QLabel;
     value->setObjectName(name);
-    value->setProperty("look", QStringLiteral("value"));
+    value->setProperty("look", u"value"_s);
     value->setTextFormat(Qt::PlainText);
     value->setFont(Theme::addressFont(1.0));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -105,7 +107,7 @@ QLabel *InterfaceDetails::makeValue(const QString &name)
 
 void InterfaceDetails::showValue(QLabel &label, const QString &text)
 {
-    label.setText(text.isEmpty() ? QStringLiteral("–") : text);
+    label.setText(text.isEmpty() ? u"–"_s : text);
     label.setAccessibleName(text.isEmpty() ? localized("None") : text);
 }
 

@@ -14,6 +14,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int portIconSize = 32;
@@ -34,12 +36,12 @@ InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWi
 {
     setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
     m_portIcon->setFixedSize(portIconSize, portIconSize);
-    m_selectorCaption->setProperty("look", QStringLiteral("caption"));
+    m_selectorCaption->setProperty("look", u"caption"_s);
     m_selectorCaption->setBuddy(m_selector);
-    m_portName->setObjectName(QStringLiteral("portName"));
+    m_portName->setObjectName(u"portName"_s);
     m_portName->setFont(Theme::textFont(1.0, QFont::DemiBold));
     m_linkDot->setFixedSize(linkDotSize, linkDotSize);
-    m_linkText->setObjectName(QStringLiteral("linkState"));
+    m_linkText->setObjectName(u"linkState"_s);
 
     auto *link = new QHBoxLayout;
     link->setSpacing(6);
@@ -80,17 +82,16 @@ void InterfaceHeader::refreshLink()
         return m_theme.icon(name, ink).pixmap(QSize(size, size), devicePixelRatioF());
     };
     m_linkDot->setVisible(known);
-    m_linkDot->setPixmap(
-        active ? picture(QStringLiteral("link-active"), Theme::Ink::Positive, linkDotSize)
-               : picture(QStringLiteral("link-inactive"), Theme::Ink::Muted, linkDotSize));
+    m_linkDot->setPixmap(active ? picture(u"link-active"_s, Theme::Ink::Positive, linkDotSize)
+                                : picture(u"link-inactive"_s, Theme::Ink::Muted, linkDotSize));
     m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
     m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
-    m_linkText->setProperty("look", active ? QStringLiteral("active") : QStringLiteral("inactive"));
+    m_linkText->setProperty("look", active ? u"active"_s : u"inactive"_s);
     style()->unpolish(m_linkText);
     style()->polish(m_linkText);
     const bool wireless = state.interfaceName == localized("Wi-Fi");
-    m_portIcon->setPixmap(picture(wireless ? QStringLiteral("wireless") : QStringLiteral("wired"),
-        Theme::Ink::Accent, portIconSize));
+    m_portIcon->setPixmap(
+        picture(wireless ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent, portIconSize));
 }
 
 } // namespace quillon

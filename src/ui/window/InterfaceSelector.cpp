@@ -11,11 +11,13 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
     : QComboBox(parent)
     , m_model(model)
 {
-    setObjectName(QStringLiteral("deviceSelectionButton"));
+    setObjectName(u"deviceSelectionButton"_s);
     setAccessibleName(localized("Interface"));
     setAccessibleDescription(localized("The network interface whose address is shown and changed"));
     setSizeAdjustPolicy(QComboBox::AdjustToContents);

@@ -3,7 +3,7 @@
 #include "ui/window/MainWindow.h"
 
 #include "base/Localized.h"
-#include "platform/TaskBar.h"
+#include "platform/desktop/TaskBar.h"
 #include "presence/Presence.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
@@ -33,6 +33,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a desktop draws around windows, before it has told us.
@@ -41,7 +43,7 @@ constexpr int usualFrame = 32;
 QLabel *makeCaption(const QString &text)
 {
     auto *label = new QLabel(text);
-    label->setProperty("look", QStringLiteral("caption"));
+    label->setProperty("look", u"caption"_s);
     return label;
 }
 
@@ -75,9 +77,9 @@ MainWindow::MainWindow(
     , m_taskBar(taskBar)
 {
     QAccessible::installFactory(accessibleWindow);
-    setObjectName(QStringLiteral("windowView"));
-    setWindowTitle(QStringLiteral("Quillon"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/com.orvandel.Quillon4.svg")));
+    setObjectName(u"windowView"_s);
+    setWindowTitle(u"Quillon"_s);
+    setWindowIcon(QIcon(u":/icons/com.orvandel.Quillon4.svg"_s));
 
     m_header = new InterfaceHeader(model, theme);
     m_readMe = new ReadMeHint(model, theme);
@@ -126,7 +128,7 @@ QWidget *MainWindow::makeAddressCard()
     caption->setBuddy(m_field);
     m_apply = makeButton(localized("&Apply"), localized("Apply address"),
         localized("Gives the interface the address in the field"));
-    m_apply->setObjectName(QStringLiteral("updateButton"));
+    m_apply->setObjectName(u"updateButton"_s);
     m_apply->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
 
     auto *grid = new QGridLayout(card);
@@ -144,21 +146,21 @@ QWidget *MainWindow::makeAddressCard()
 QWidget *MainWindow::makeButtons()
 {
     auto *buttons = new QWidget;
-    m_randomise = makeButton(localized("&Randomise address"), localized("Randomise address"),
+    m_randomize = makeButton(localized("&Randomize address"), localized("Randomize address"),
         localized("Gives the interface a random, locally administered address"));
-    m_randomise->setObjectName(QStringLiteral("randomiseButton"));
-    m_randomise->setProperty("look", QStringLiteral("primary"));
-    m_randomise->setIcon(m_theme.icon(QStringLiteral("random"), Theme::Ink::OnAccent));
+    m_randomize->setObjectName(u"randomizeButton"_s);
+    m_randomize->setProperty("look", u"primary"_s);
+    m_randomize->setIcon(m_theme.icon(u"random"_s, Theme::Ink::OnAccent));
     m_restore =
         makeButton(localized("Restore &factory address"), localized("Restore factory address"),
             localized("Gives the interface the address back that it was made with"));
-    m_restore->setObjectName(QStringLiteral("restoreButton"));
-    m_restore->setIcon(m_theme.icon(QStringLiteral("restore"), Theme::Ink::Text));
+    m_restore->setObjectName(u"restoreButton"_s);
+    m_restore->setIcon(m_theme.icon(u"restore"_s, Theme::Ink::Text));
 
     auto *row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Theme::unit);
-    row->addWidget(m_randomise, 1);
+    row->addWidget(m_randomize, 1);
     row->addWidget(m_restore, 1);
     return buttons;
 }
@@ -177,7 +179,7 @@ void MainWindow::makeShortcuts()
         [this] { m_presence.quit(); });
 
     connect(m_apply, &QPushButton::clicked, &m_model, &MainWindowModel::changeMacAddress);
-    connect(m_randomise, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
+    connect(m_randomize, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
     connect(m_restore, &QPushButton::clicked, &m_model, &MainWindowModel::restoreDefaultAddress);
     connect(m_field, &QLineEdit::returnPressed, m_apply, &QPushButton::click);
 }
@@ -206,7 +208,7 @@ void MainWindow::refresh()
     m_field->setPlaceholderText(state.fieldPlaceholder);
     m_field->setEnabled(state.fieldEnabled);
     m_apply->setEnabled(state.updateEnabled);
-    m_randomise->setEnabled(state.randomiseEnabled);
+    m_randomize->setEnabled(state.randomizeEnabled);
     m_restore->setEnabled(state.restoreEnabled);
     m_readMe->refresh();
     m_details->refresh();

@@ -68,7 +68,7 @@ private:
     InterfaceHeader *m_header;
     AddressField *m_field;
     QPushButton *m_apply;
-    QPushButton *m_randomise;
+    QPushButton *m_randomize;
     QPushButton *m_restore;
     ReadMeHint *m_readMe;
     InterfaceDetails *m_details;

@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
@@ -21,10 +23,10 @@ ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *pare
     , m_install(new QPushButton)
     , m_disclose(new QPushButton(localized("What is &this?")))
 {
-    setObjectName(QStringLiteral("readMe"));
+    setObjectName(u"readMe"_s);
     setAttribute(Qt::WA_StyledBackground);
 
-    m_hint->setObjectName(QStringLiteral("readMeLabel"));
+    m_hint->setObjectName(u"readMeLabel"_s);
     m_hint->setAccessibleName(localized("Helper hint"));
     m_hint->setAccessibleDescription(m_hint->text());
     m_hint->setWordWrap(true);
@@ -33,19 +35,19 @@ ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *pare
     m_explanation->setAccessibleDescription(m_explanation->text());
     m_explanation->hide();
 
-    m_install->setObjectName(QStringLiteral("installButton"));
+    m_install->setObjectName(u"installButton"_s);
     m_install->setAccessibleName(localized("Install helper"));
     m_install->setAccessibleDescription(localized("Asks for an administrator's password"));
-    m_install->setIcon(theme.icon(QStringLiteral("install"), Theme::Ink::OnHintButton));
+    m_install->setIcon(theme.icon(u"install"_s, Theme::Ink::OnHintButton));
     m_install->setAutoDefault(true);
-    m_disclose->setProperty("look", QStringLiteral("link"));
+    m_disclose->setProperty("look", u"link"_s);
     m_disclose->setCheckable(true);
     m_disclose->setAutoDefault(true);
     m_disclose->setAccessibleDescription(localized("Shows or hides an explanation of the helper"));
 
     auto *shield = new QLabel;
-    shield->setPixmap(theme.icon(QStringLiteral("shield"), Theme::Ink::Hint)
-                          .pixmap(QSize(28, 28), devicePixelRatioF()));
+    shield->setPixmap(
+        theme.icon(u"shield"_s, Theme::Ink::Hint).pixmap(QSize(28, 28), devicePixelRatioF()));
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(Theme::unit);
@@ -93,9 +95,8 @@ void ReadMeHint::resetStyle()
         QColor::fromRgbF(static_cast<float>(style.red), static_cast<float>(style.green),
             static_cast<float>(style.blue), static_cast<float>(style.alpha));
     m_hint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_hint->setStyleSheet(
-        QStringLiteral("#readMeLabel { font-weight: bold; font-size: %1pt; color: %2; }")
-            .arg(QString::number(style.pointSize), color.name()));
+    m_hint->setStyleSheet(u"#readMeLabel { font-weight: bold; font-size: %1pt; color: %2; }"_s.arg(
+        QString::number(style.pointSize), color.name()));
 }
 
 } // namespace quillon

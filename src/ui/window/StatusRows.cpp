@@ -15,6 +15,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int ruleDotSize = 10;
@@ -23,7 +25,7 @@ QToolButton *makeButton(const QString &objectName, const QString &name, const QI
 {
     auto *button = new QToolButton;
     button->setObjectName(objectName);
-    button->setProperty("look", QStringLiteral("row"));
+    button->setProperty("look", u"row"_s);
     button->setIcon(icon);
     button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     // As high as the row, whatever a style adds.
@@ -56,10 +58,9 @@ StatusRows::StatusRows(const Models &models, const Theme &theme, InterfaceDetail
 
 void StatusRows::addExternalAddress(InterfaceDetails &details)
 {
-    m_externalAddress = InterfaceDetails::makeValue(QStringLiteral("externalAddress"));
-    auto *button =
-        makeButton(QStringLiteral("refreshExternalIP"), localized("Refresh external address"),
-            m_theme.icon(QStringLiteral("refresh"), Theme::Ink::Muted));
+    m_externalAddress = InterfaceDetails::makeValue(u"externalAddress"_s);
+    auto *button = makeButton(u"refreshExternalIP"_s, localized("Refresh external address"),
+        m_theme.icon(u"refresh"_s, Theme::Ink::Muted));
     button->setToolTip(localized("Asks a public service under which address it sees you"));
     connect(button, &QToolButton::clicked, this,
         [this] { m_models.externalAddress.refreshExternalIP(); });
@@ -71,21 +72,21 @@ void StatusRows::addRules(InterfaceDetails &details)
     m_rulesImage = new QLabel;
     m_rulesImage->setFixedSize(ruleDotSize, ruleDotSize);
     m_rules = new QLabel;
-    m_rules->setObjectName(QStringLiteral("rulesLabel"));
+    m_rules->setObjectName(u"rulesLabel"_s);
     details.addRow(localized("Rules"), m_rules, {m_rulesImage, nullptr});
 }
 
 void StatusRows::addCountdown(InterfaceDetails &details)
 {
     m_countdown = new QLabel;
-    m_countdown->setObjectName(QStringLiteral("timerLabel"));
+    m_countdown->setObjectName(u"timerLabel"_s);
     m_countdown->setTextFormat(Qt::PlainText);
     // A text that is too long takes a second line instead of widening the window.
     m_countdown->setWordWrap(true);
-    m_pause = makeButton(QStringLiteral("pauseButton"), localized("Pause"),
-        m_theme.icon(QStringLiteral("pause"), Theme::Ink::Text));
-    m_resume = makeButton(QStringLiteral("resumeButton"), localized("Resume"),
-        m_theme.icon(QStringLiteral("resume"), Theme::Ink::Text));
+    m_pause = makeButton(
+        u"pauseButton"_s, localized("Pause"), m_theme.icon(u"pause"_s, Theme::Ink::Text));
+    m_resume = makeButton(
+        u"resumeButton"_s, localized("Resume"), m_theme.icon(u"resume"_s, Theme::Ink::Text));
     connect(
         m_pause, &QToolButton::clicked, this, [this] { m_models.countdown.pauseCountdownTimer(); });
     connect(m_resume, &QToolButton::clicked, this,
@@ -108,13 +109,12 @@ void StatusRows::refreshExternalAddress()
 void StatusRows::refreshRules()
 {
     const auto &state = m_models.rules.state();
-    const bool available = state.image == QLatin1String("NSStatusAvailable");
-    const bool partially = state.image == QLatin1String("NSStatusPartiallyAvailable");
+    const bool available = state.image == "NSStatusAvailable"_L1;
+    const bool partially = state.image == "NSStatusPartiallyAvailable"_L1;
     const Theme::Ink ink = available   ? Theme::Ink::Positive
                            : partially ? Theme::Ink::Notice
                                        : Theme::Ink::Muted;
-    const QString name =
-        available ? QStringLiteral("link-active") : QStringLiteral("link-inactive");
+    const QString name = available ? u"link-active"_s : u"link-inactive"_s;
     m_rulesImage->setPixmap(m_theme.icon(name, ink).pixmap(
         QSize(ruleDotSize, ruleDotSize), m_rulesImage->devicePixelRatioF()));
     const QString text = available   ? localized("Active rule")

@@ -10,18 +10,20 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 TextFieldBackgroundView::TextFieldBackgroundView(MainWindowModel &model, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
 {
     setObjectName(identifier());
-    setProperty("look", QStringLiteral("card"));
+    setProperty("look", u"card"_s);
     setAcceptDrops(true);
 }
 
 QString TextFieldBackgroundView::identifier()
 {
-    return QStringLiteral("updateAdddressView");
+    return u"updateAdddressView"_s;
 }
 
 bool TextFieldBackgroundView::draggingEntered(const QMimeData &pasteboard) const

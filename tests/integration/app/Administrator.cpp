@@ -12,12 +12,14 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto user = "quillon";
 constexpr int patience = 60'000; // milliseconds
-const QString outputPath = QStringLiteral("/tmp/administrator.out");
-const QString endedPath = QStringLiteral("/tmp/administrator.ended");
+const QString outputPath = u"/tmp/administrator.out"_s;
+const QString endedPath = u"/tmp/administrator.ended"_s;
 const QByteArray endMark = "that was all: ";
 
 // The process's own descriptors and memory stay readable to it.
@@ -48,7 +50,7 @@ void Administrator::SetUp()
 {
     ASSERT_EQ(geteuid(), 0U) << "start it in the sandbox: tools/sandbox --root";
     m_shell.setProcessChannelMode(QProcess::MergedChannels);
-    m_shell.start(QStringLiteral("/bin/bash"), QStringList());
+    m_shell.start(u"/bin/bash"_s, QStringList());
     ASSERT_TRUE(m_shell.waitForStarted());
     ASSERT_TRUE(becomeUser());
 }
@@ -84,8 +86,8 @@ QByteArray Administrator::run(const QString &script)
 void Administrator::start(const QString &script)
 {
     // What an earlier one left must be gone before anybody looks.
-    run(QStringLiteral("rm -f %2; ( ( set -e; %3\n) >%1 2>&1; echo $? >%2.new; mv %2.new %2 ) &")
-            .arg(outputPath, endedPath, script));
+    run(u"rm -f %2; ( ( set -e; %3\n) >%1 2>&1; echo $? >%2.new; mv %2.new %2 ) &"_s.arg(
+        outputPath, endedPath, script));
 }
 
 bool Administrator::hasEnded() const

@@ -9,10 +9,12 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Nobody listens there: the external address stays unknown, at once.
-const QString nobody = QStringLiteral("https://127.0.0.1:9/");
+const QString nobody = u"https://127.0.0.1:9/"_s;
 
 QVariantMap packagedDefaults()
 {
@@ -27,8 +29,8 @@ QVariantMap packagedDefaults()
 
 ComposedProgram::ComposedProgram(const QString &folder, int speed)
     : m_scheduler(m_real, speed)
-    , settings(folder + QStringLiteral("/settings.plist"), m_real, {})
-    , groupSettings(folder + QStringLiteral("/group-settings.plist"), m_real, {})
+    , settings(folder + u"/settings.plist"_s, m_real, {})
+    , groupSettings(folder + u"/group-settings.plist"_s, m_real, {})
 {
     QuillonAppDelegate::initialize(settings, packagedDefaults());
     m_delegate = std::make_unique<QuillonAppDelegate>(Platform{
@@ -73,7 +75,7 @@ void ComposedProgram::launch()
 
 QString ComposedProgram::recordsPath(const QString &folder)
 {
-    return folder + QStringLiteral("/Quillon.sqlite");
+    return folder + u"/Quillon.sqlite"_s;
 }
 
 QVariantMap ComposedProgram::devices() const

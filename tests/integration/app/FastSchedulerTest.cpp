@@ -9,6 +9,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -79,13 +81,12 @@ TEST_F(FastSchedulerTest, WhatATaskPostsRunsBeforeTheNextTask)
 {
     QStringList order;
     fast.onMainAfter(1s, [&] {
-        order << QStringLiteral("first");
-        fast.onMain([&] { order << QStringLiteral("posted by the first"); });
+        order << u"first"_s;
+        fast.onMain([&] { order << u"posted by the first"_s; });
     });
-    fast.onMainAfter(1s, [&] { order << QStringLiteral("second"); });
+    fast.onMainAfter(1s, [&] { order << u"second"_s; });
     real.advance(1s);
-    EXPECT_EQ(order, (QStringList{QStringLiteral("first"), QStringLiteral("posted by the first"),
-                         QStringLiteral("second")}));
+    EXPECT_EQ(order, (QStringList{u"first"_s, u"posted by the first"_s, u"second"_s}));
 }
 
 TEST_F(FastSchedulerTest, CancelledTasksDoNotRun)

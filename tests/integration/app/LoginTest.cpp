@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
-#include "integration/app/RoadTest.h"
+#include "integration/app/EndToEndTest.h"
 #include "store/model/QuillonModel.h"
 
 #include <QDBusConnection>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 
 using namespace std::chrono_literals;
 
@@ -24,12 +26,12 @@ public:
 
 private:
     QDBusConnection m_bus =
-        QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("login item"));
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"login item"_s);
 };
 
 } // namespace
 
-class LoginTest : public RoadTest
+class LoginTest : public EndToEndTest
 {
 };
 
@@ -73,13 +75,13 @@ TEST_F(LoginTest, AfterTheLoginRuleTheRuleOfTheNetworkActsToo)
 {
     ASSERT_TRUE(addRule(records, randomLoginRule(card)));
     QVariantMap fixed = randomOnceRule(card);
-    fixed[model::rule::address] = QStringLiteral("02:00:5e:10:00:77");
+    fixed[model::rule::address] = u"02:00:5e:10:00:77"_s;
     ASSERT_TRUE(addRule(records, fixed));
     const WaitingLoginItem item;
     plugCable();
     startProgram();
     ASSERT_TRUE(eventually([this] { return savedHistory(records).size() == 2; }));
-    EXPECT_EQ(kernelAddress(), QStringLiteral("02:00:5e:10:00:77"));
+    EXPECT_EQ(kernelAddress(), u"02:00:5e:10:00:77"_s);
     letPass(2min);
     EXPECT_EQ(program->helperLink.changes.size(), 2);
 }

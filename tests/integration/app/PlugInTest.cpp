@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The road of one event: from the cable to the changed address, its history and its message.
 #include "base/SettingsKeys.h"
-#include "integration/app/RoadTest.h"
+#include "integration/app/EndToEndTest.h"
 #include "store/model/QuillonModel.h"
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
-class PlugInTest : public RoadTest
+class PlugInTest : public EndToEndTest
 {
 protected:
     // Once there is one more than that, the helper's answer has been handled to its end.
@@ -30,7 +32,7 @@ protected:
         const auto history = savedHistory(records);
         ASSERT_EQ(history.size(), 1);
         EXPECT_EQ(history.first().value(model::connection::device), card);
-        EXPECT_EQ(history.first().value(model::connection::interface), QStringLiteral("Ethernet"));
+        EXPECT_EQ(history.first().value(model::connection::interface), u"Ethernet"_s);
         EXPECT_EQ(history.first()
                       .value(model::connection::address)
                       .toString()
@@ -40,8 +42,8 @@ protected:
         EXPECT_EQ(history.first().value(model::connection::bssid), QString());
         EXPECT_TRUE(history.first().value(model::connection::date).toDateTime().isValid());
 
-        EXPECT_EQ(program->messages(changedTitle),
-            QStringList{QStringLiteral("Your new MAC Address is: ") + now});
+        EXPECT_EQ(
+            program->messages(changedTitle), QStringList{u"Your new MAC Address is: "_s + now});
         EXPECT_EQ(program->messages(notChangedTitle), QStringList());
     }
 };
@@ -52,7 +54,7 @@ TEST_F(PlugInTest, APluggedInterfaceThatReachesTheInternetChangesItsAddressOnceB
     startProgram();
     plugCable();
     settle();
-    EXPECT_EQ(status(), QStringLiteral("active"));
+    EXPECT_EQ(status(), u"active"_s);
     EXPECT_EQ(kernelAddress(), factoryAddress) << "nothing leads to the internet yet";
 
     giveLease(true);
@@ -75,10 +77,10 @@ TEST_F(PlugInTest, WithoutAWayToTheInternetOnlyTheStatusIsUpdated)
     settle();
     letPass(5min);
 
-    EXPECT_EQ(status(), QStringLiteral("active"));
-    EXPECT_EQ(program->record(card).value(record::ipAddress), QStringLiteral("198.51.100.5"));
+    EXPECT_EQ(status(), u"active"_s);
+    EXPECT_EQ(program->record(card).value(record::ipAddress), u"198.51.100.5"_s);
     EXPECT_EQ(hasRule(), 1);
-    EXPECT_EQ(ruleInForce().value(model::rule::name), QStringLiteral("New address for eth5"));
+    EXPECT_EQ(ruleInForce().value(model::rule::name), u"New address for eth5"_s);
     EXPECT_EQ(kernelAddress(), factoryAddress);
     EXPECT_TRUE(program->helperLink.changes.isEmpty());
     EXPECT_TRUE(savedHistory(records).isEmpty());
@@ -93,25 +95,23 @@ TEST_F(PlugInTest, ALinkThatGoesDownWithTheChangeDoesNotCauseTheNextOne)
     plugCable();
     settle();
     // As a card whose driver restarts the link for a new address.
-    administrator().start(
-        QStringLiteral("changes=0\n"
-                       "last=$(cat /sys/class/net/%1/address)\n"
-                       "while [ -e /sys/class/net/%1 ]; do\n"
-                       "  now=$(cat /sys/class/net/%1/address)\n"
-                       "  if [ $now != $last ]; then\n"
-                       "    last=$now\n"
-                       "    ip link set far-%1 down; sleep 0.3; ip link set far-%1 up\n"
-                       "    touch /tmp/link-restarted\n"
-                       "  fi\n"
-                       "  sleep 0.01\n"
-                       "done")
-            .arg(card));
+    administrator().start(u"changes=0\n"
+                          "last=$(cat /sys/class/net/%1/address)\n"
+                          "while [ -e /sys/class/net/%1 ]; do\n"
+                          "  now=$(cat /sys/class/net/%1/address)\n"
+                          "  if [ $now != $last ]; then\n"
+                          "    last=$now\n"
+                          "    ip link set far-%1 down; sleep 0.3; ip link set far-%1 up\n"
+                          "    touch /tmp/link-restarted\n"
+                          "  fi\n"
+                          "  sleep 0.01\n"
+                          "done"_s.arg(card));
     giveLease(true);
     ASSERT_TRUE(changeIsRecorded());
-    ASSERT_TRUE(eventually([] { return QFile::exists(QStringLiteral("/tmp/link-restarted")); }));
+    ASSERT_TRUE(eventually([] { return QFile::exists(u"/tmp/link-restarted"_s); }));
     letPass(12s);
     settle();
-    EXPECT_EQ(status(), QStringLiteral("active"));
+    EXPECT_EQ(status(), u"active"_s);
     expectOneChange();
 }
 
@@ -128,7 +128,7 @@ TEST_F(PlugInTest, ANewStayIsANewChange)
     letPass(1min);
     pullCable();
     settle();
-    EXPECT_EQ(status(), QStringLiteral("inactive"));
+    EXPECT_EQ(status(), u"inactive"_s);
     EXPECT_EQ(kernelAddress(), first);
     plugCable();
     ASSERT_TRUE(changeIsRecorded(1));

@@ -11,6 +11,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QVariantMap attributes(const ManagedObject &object)
@@ -43,7 +45,7 @@ QVariantMap randomOnceRule(const QString &device)
 {
     return {
         {model::rule::device, device},
-        {model::rule::name, QStringLiteral("New address for %1").arg(device)},
+        {model::rule::name, u"New address for %1"_s.arg(device)},
         {model::rule::network, anyNetwork},
         {model::rule::enabled, true},
         {model::rule::isLogin, false},

@@ -1,19 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/SettingsKeys.h"
-#include "integration/app/RoadTest.h"
+#include "integration/app/EndToEndTest.h"
 #include "networks/SavedAddresses.h"
 #include "networks/SavedNetworks.h"
 
 namespace quillon::test {
 
-class RestartTest : public RoadTest
+using namespace Qt::StringLiterals;
+
+class RestartTest : public EndToEndTest
 {
 protected:
     void saveNetwork(const QString &ssid, const QString &bssid)
     {
         WiFiInterface network;
-        network.device = QStringLiteral("wlan0");
+        network.device = u"wlan0"_s;
         network.ssid = ssid;
         network.bssid = bssid;
         program->wifi.join(network);
@@ -31,8 +33,8 @@ TEST_F(RestartTest, SavedNetworksAndAddressesAreThereAgain)
 {
     startProgram();
     program->delegate().features().mainWindow.changeInterfacefromPopup(card);
-    saveNetwork(QStringLiteral("Harbour Café"), QStringLiteral("06:00:5E:00:00:01"));
-    saveNetwork(QStringLiteral("Library"), QStringLiteral("06:00:5e:00:00:02"));
+    saveNetwork(u"Harbour Café"_s, u"06:00:5E:00:00:01"_s);
+    saveNetwork(u"Library"_s, u"06:00:5e:00:00:02"_s);
     SavedAddresses &addresses = program->delegate().features().networks.savedAddresses;
     addresses.addCurrentAddressToSavedList();
     ASSERT_TRUE(addresses.isCurrentAddressSaved());
@@ -44,14 +46,12 @@ TEST_F(RestartTest, SavedNetworksAndAddressesAreThereAgain)
     restart();
     EXPECT_EQ(program->settings.get(keys::savedNetworks), networks);
     EXPECT_EQ(program->settings.get(keys::savedAddresses), saved);
-    EXPECT_EQ(ssidForNetworkName(program->settings, QStringLiteral("Harbour Café")),
-        QStringLiteral("Harbour Café"));
-    EXPECT_EQ(bssidForNetworkName(program->settings, QStringLiteral("Harbour Café"))
-                  .compare(QLatin1String("06:00:5e:00:00:01"), Qt::CaseInsensitive),
+    EXPECT_EQ(ssidForNetworkName(program->settings, u"Harbour Café"_s), u"Harbour Café"_s);
+    EXPECT_EQ(bssidForNetworkName(program->settings, u"Harbour Café"_s)
+                  .compare("06:00:5e:00:00:01"_L1, Qt::CaseInsensitive),
         0);
-    EXPECT_EQ(bssidForNetworkName(program->settings, QStringLiteral("Library")),
-        QStringLiteral("06:00:5e:00:00:02"));
-    const QString name = saved.toMap().first().toMap().value(QStringLiteral("name")).toString();
+    EXPECT_EQ(bssidForNetworkName(program->settings, u"Library"_s), u"06:00:5e:00:00:02"_s);
+    const QString name = saved.toMap().first().toMap().value(u"name"_s).toString();
     EXPECT_EQ(addressForAddressName(program->settings, name), saved.toMap().firstKey());
     EXPECT_TRUE(program->delegate().features().networks.savedAddresses.isCurrentAddressSaved());
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/SettingsKeys.h"
+#include "integration/app/EndToEndTest.h"
 #include "integration/app/Heartbeat.h"
-#include "integration/app/RoadTest.h"
 #include "integration/platform/linux/Commands.h"
 
 #include <QFile>
@@ -13,6 +13,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -22,7 +24,7 @@ constexpr long flatMemory = 16 * 1024; // kilobytes; a queue of all these events
 
 long residentKilobytes()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     EXPECT_TRUE(status.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = status.readAll().split('\n');
     for (const QByteArray &line : lines) {
@@ -37,8 +39,8 @@ long residentKilobytes()
 QString firstIPv4(const QJsonArray &addresses)
 {
     for (const QJsonValue &address : addresses) {
-        if (address[QLatin1String("family")] == QLatin1String("inet")) {
-            return address[QLatin1String("local")].toString();
+        if (address["family"_L1] == "inet"_L1) {
+            return address["local"_L1].toString();
         }
     }
     return {};
@@ -48,14 +50,13 @@ QString firstIPv4(const QJsonArray &addresses)
 QMap<QString, QStringList> kernelState(const QStringList &devices)
 {
     QMap<QString, QStringList> states;
-    const auto links = QJsonDocument::fromJson(command(QStringLiteral("ip -j addr"))).array();
+    const auto links = QJsonDocument::fromJson(command(u"ip -j addr"_s)).array();
     for (const QJsonValue &link : links) {
-        const QString device = link[QLatin1String("ifname")].toString();
-        const bool up = link[QLatin1String("operstate")] == QLatin1String("UP");
+        const QString device = link["ifname"_L1].toString();
+        const bool up = link["operstate"_L1] == "UP"_L1;
         if (devices.contains(device)) {
-            states.insert(device, {link[QLatin1String("address")].toString(),
-                                      up ? QStringLiteral("active") : QStringLiteral("inactive"),
-                                      firstIPv4(link[QLatin1String("addr_info")].toArray())});
+            states.insert(device, {link["address"_L1].toString(), up ? u"active"_s : u"inactive"_s,
+                                      firstIPv4(link["addr_info"_L1].toArray())});
         }
     }
     return states;
@@ -63,36 +64,32 @@ QMap<QString, QStringList> kernelState(const QStringList &devices)
 
 } // namespace
 
-class StormTest : public RoadTest
+class StormTest : public EndToEndTest
 {
 protected:
-    static inline const QStringList stormy{QStringLiteral("eth10"), QStringLiteral("eth11"),
-        QStringLiteral("eth12"), QStringLiteral("eth13")};
+    static inline const QStringList stormy{u"eth10"_s, u"eth11"_s, u"eth12"_s, u"eth13"_s};
 
     void SetUp() override
     {
-        RoadTest::SetUp();
+        EndToEndTest::SetUp();
         for (const QString &device : stormy) {
-            administrator().run(QStringLiteral("ip link add %1 type veth peer name far-%1\n"
-                                               "ip link set far-%1 up; ip link set %1 up")
-                                    .arg(device));
+            administrator().run(u"ip link add %1 type veth peer name far-%1\n"
+                                "ip link set far-%1 up; ip link set %1 up"_s.arg(device));
         }
     }
     void TearDown() override
     {
         for (const QString &device : stormy) {
-            administrator().run(QStringLiteral("ip link del %1").arg(device));
+            administrator().run(u"ip link del %1"_s.arg(device));
         }
-        RoadTest::TearDown();
+        EndToEndTest::TearDown();
     }
 
     /// Lets it blow while the program's main loop runs, and gives the number of events told.
     long storm(std::chrono::seconds time)
     {
-        administrator().start(
-            QStringLiteral("%1 %2 %3 %4")
-                .arg(QStringLiteral(QUILLON_LINK_STORM), QString::number(eventsPerSecond),
-                    QString::number(time.count()), stormy.join(QLatin1Char(' '))));
+        administrator().start(u"%1 %2 %3 %4"_s.arg(QStringLiteral(QUILLON_LINK_STORM),
+            QString::number(eventsPerSecond), QString::number(time.count()), stormy.join(u' ')));
         EXPECT_TRUE(eventually([] { return administrator().hasEnded(); }, 60s));
         const QList<QByteArray> numbers = administrator().output().trimmed().split(' ');
         EXPECT_EQ(numbers.size(), 6);
@@ -125,9 +122,8 @@ TEST_F(StormTest, TheLastStateIsRightAndTheMemoryFlat)
 
     const long events = storm(10s);
     const auto expected = kernelState(stormy);
-    EXPECT_EQ(
-        expected.value(stormy.at(3)), (QStringList{QStringLiteral("02:57:00:00:00:03"),
-                                          QStringLiteral("active"), QStringLiteral("10.99.3.1")}));
+    EXPECT_EQ(expected.value(stormy.at(3)),
+        (QStringList{u"02:57:00:00:00:03"_s, u"active"_s, u"10.99.3.1"_s}));
     EXPECT_TRUE(eventually([&] { return tableState() == expected; }, 10s));
     settle();
     const long grown = residentKilobytes() - before;

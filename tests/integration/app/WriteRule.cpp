@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 using namespace quillon::test;
 
 int main(int argc, char **argv)
@@ -17,8 +19,8 @@ int main(int argc, char **argv)
     }
     const QString &kind = arguments.at(2);
     const QString &device = arguments.at(3);
-    const QVariantMap rule = kind == QLatin1String("login")  ? randomLoginRule(device)
-                             : kind == QLatin1String("once") ? randomOnceRule(device)
-                                                             : randomEveryRule(device, 1);
+    const QVariantMap rule = kind == "login"_L1  ? randomLoginRule(device)
+                             : kind == "once"_L1 ? randomOnceRule(device)
+                                                 : randomEveryRule(device, 1);
     return addRule(arguments.at(1), rule) ? 0 : 1;
 }

@@ -14,6 +14,8 @@
 #include <utility>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// A session of one program, made up and on a real bus.
@@ -54,15 +56,14 @@ protected:
     void waitForAll()
     {
         bool arrived = false;
-        const auto token =
-            center.addObserver(QStringLiteral("last"), QString(), [&] { arrived = true; });
-        center.post(QStringLiteral("last"), QString());
+        const auto token = center.addObserver(u"last"_s, QString(), [&] { arrived = true; });
+        center.post(u"last"_s, QString());
         EXPECT_TRUE(session.soon([&] { return arrived; }));
         center.removeObserver(token);
     }
 
-    const QString name = QStringLiteral("HelperUpdated");
-    const QString object = QStringLiteral("com.example.Program");
+    const QString name = u"HelperUpdated"_s;
+    const QString object = u"com.example.Program"_s;
     Session session;
     DistributedNotificationCenter &center = session.center;
     QStringList heard;
@@ -77,14 +78,14 @@ TYPED_TEST(DistributedNotificationConformance, APostComesBackToItsOwnProgramInAL
     this->center.post(this->name, this->object);
     EXPECT_EQ(this->heard, QStringList());
     this->waitForAll();
-    EXPECT_EQ(this->heard, QStringList(QStringLiteral("a")));
+    EXPECT_EQ(this->heard, QStringList(u"a"_s));
 }
 
 TYPED_TEST(DistributedNotificationConformance, OnlyExactlyTheNameAndTheObjectAreHeard)
 {
     this->observe("a");
     this->center.post(this->name.toLower(), this->object);
-    this->center.post(this->name + QLatin1Char(' '), this->object);
+    this->center.post(this->name + u' ', this->object);
     this->center.post(this->name, QString());
     this->center.post(this->name, this->object.left(7));
     this->center.post(this->object, this->name);
@@ -105,7 +106,7 @@ TYPED_TEST(DistributedNotificationConformance, AnEmptyObjectIsAnObjectLikeAnothe
 TYPED_TEST(DistributedNotificationConformance, AnyTextArrivesAsItIs)
 {
     int arrived = 0;
-    const QString text = QStringLiteral("Zürich → 東京 🚆 \"%@\"");
+    const QString text = u"Zürich → 東京 🚆 \"%@\""_s;
     this->center.addObserver(text, text, [&] { ++arrived; });
     this->center.post(text, text);
     this->waitForAll();
@@ -119,8 +120,8 @@ TYPED_TEST(DistributedNotificationConformance, EveryObserverHearsEveryPost)
     this->center.post(this->name, this->object);
     this->center.post(this->name, this->object);
     this->waitForAll();
-    EXPECT_EQ(this->heard.count(QStringLiteral("a")), 2);
-    EXPECT_EQ(this->heard.count(QStringLiteral("b")), 2);
+    EXPECT_EQ(this->heard.count(u"a"_s), 2);
+    EXPECT_EQ(this->heard.count(u"b"_s), 2);
 }
 
 TYPED_TEST(DistributedNotificationConformance, ARemovedObserverHearsNothing)
@@ -132,7 +133,7 @@ TYPED_TEST(DistributedNotificationConformance, ARemovedObserverHearsNothing)
     this->center.removeObserver(removed + 1000);
     this->center.post(this->name, this->object);
     this->waitForAll();
-    EXPECT_EQ(this->heard, QStringList(QStringLiteral("b")));
+    EXPECT_EQ(this->heard, QStringList(u"b"_s));
 }
 
 TYPED_TEST(DistributedNotificationConformance, OneRemovedBeforeThePostArrivesHearsNothing)

@@ -17,6 +17,8 @@
 #include <csignal>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -24,11 +26,7 @@ using namespace std::chrono_literals;
 /// A machine with an installed helper, made up.
 struct MadeUp
 {
-    MadeUp()
-    {
-        host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp2s0"), {},
-            QStringLiteral("3c:22:fb:00:00:02"), {}});
-    }
+    MadeUp() { host.plug({u"Ethernet"_s, u"enp2s0"_s, {}, u"3c:22:fb:00:00:02"_s, {}}); }
 
     QString addressOf(const QString &device) { return host.info(device).macAddress; }
     void stopService() { link.serviceHangs = true; }
@@ -139,7 +137,7 @@ protected:
         expectEndedOnce(outcome);
         return outcome;
     }
-    // With the authorisation that belongs to it.
+    // With the authorization that belongs to it.
     std::shared_ptr<HelperToolConnection> helper()
     {
         const Outcome given = askEndpoint(*service());
@@ -180,8 +178,8 @@ protected:
         EXPECT_EQ(outcome.replies + outcome.failures, 1);
     }
 
-    const QString device = QStringLiteral("enp2s0");
-    const QString address = QStringLiteral("02:00:00:00:be:0f");
+    const QString device = u"enp2s0"_s;
+    const QString address = u"02:00:00:00:be:0f"_s;
     Fixture machine;
     HelperLink &link = machine.link;
     QByteArray authorization;
@@ -215,13 +213,13 @@ TYPED_TEST(HelperLinkConformance, TheHelperTellsItsVersion)
     const auto helper = this->helper();
     const Outcome told = this->askVersion(*helper);
     EXPECT_EQ(told.replies, 1);
-    EXPECT_EQ(told.text, QStringLiteral("2.0"));
+    EXPECT_EQ(told.text, u"2.0"_s);
 }
 
 TYPED_TEST(HelperLinkConformance, AChangeTakes)
 {
     const auto helper = this->helper();
-    const Outcome changed = this->change(*helper, this->device, QStringLiteral("2:0:0:0:BE:f"));
+    const Outcome changed = this->change(*helper, this->device, u"2:0:0:0:BE:f"_s);
     EXPECT_EQ(changed.replies, 1);
     EXPECT_FALSE(changed.refusal);
     EXPECT_EQ(this->machine.addressOf(this->device), this->address);
@@ -231,10 +229,10 @@ TYPED_TEST(HelperLinkConformance, WhatCannotBeDoneIsRefusedByName)
 {
     const auto helper = this->helper();
     const QString before = this->machine.addressOf(this->device);
-    this->expectRefused(this->change(*helper, QStringLiteral("eth99"), this->address),
-        contract::error::noSuchDevice);
-    this->expectRefused(this->change(*helper, QStringLiteral("../enp2s0"), this->address),
-        contract::error::invalidDevice);
+    this->expectRefused(
+        this->change(*helper, u"eth99"_s, this->address), contract::error::noSuchDevice);
+    this->expectRefused(
+        this->change(*helper, u"../enp2s0"_s, this->address), contract::error::invalidDevice);
     for (const char *bad : {"01:00:5e:00:00:01", "00:00:00:00:00:00", "02:00:00:00:be", ""}) {
         this->expectRefused(this->change(*helper, this->device, QLatin1String(bad)),
             contract::error::invalidAddress);
@@ -268,14 +266,14 @@ TYPED_TEST(HelperLinkConformance, AHelperThatIsGoneEndsEveryCallInItsErrorHandle
 {
     this->helper();
     const QString before = this->machine.addressOf(this->device);
-    const auto gone = this->link.connectToListenerEndpoint(QStringLiteral(":1.999999"));
+    const auto gone = this->link.connectToListenerEndpoint(u":1.999999"_s);
     int invalidated = 0;
     gone->setInvalidationHandler([&] { ++invalidated; });
     gone->resume();
     EXPECT_EQ(invalidated, 0);
     EXPECT_EQ(this->askVersion(*gone).failures, 1);
     EXPECT_TRUE(this->machine.soon([&] { return invalidated == 1; }));
-    EXPECT_EQ(this->change(*gone, this->device, QStringLiteral("02:00:00:00:be:99")).failures, 1);
+    EXPECT_EQ(this->change(*gone, this->device, u"02:00:00:00:be:99"_s).failures, 1);
     Outcome uninstalled;
     gone->uninstallWithAuthorizationAndReply(
         this->authorization, uninstalled.reply(), uninstalled.failed());
@@ -326,7 +324,7 @@ TYPED_TEST(HelperLinkConformance, ANewConnectionReachesTheServiceThatIsStartedAn
 
 TYPED_TEST(HelperLinkConformance, AServiceThatDoesNotExistEndsInTheErrorHandler)
 {
-    const auto service = this->link.connectToService(QStringLiteral("com.example.Nobody"));
+    const auto service = this->link.connectToService(u"com.example.Nobody"_s);
     service->resume();
     EXPECT_EQ(this->askEndpoint(*service).failures, 1);
 }

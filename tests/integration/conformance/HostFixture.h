@@ -29,7 +29,7 @@ public:
     virtual bool giveAddress(const QString &device, const QString &address) = 0;
     virtual void giveIPv4(const QString &device, const QString &ipv4) = 0;
     virtual void takeIPv4(const QString &device, const QString &ipv4) = 0;
-    /// Switches a card on, with a cable to a neighbour that is on, or off.
+    /// Switches a card on, with a cable to a neighbor that is on, or off.
     virtual void setLink(const QString &device, bool up) = 0;
     /// Whether `condition` holds once the machine has come to rest.
     virtual bool soon(const std::function<bool()> &condition) = 0;

@@ -29,10 +29,10 @@ public:
 
     void plugCard(const QString &device, const QString &address) override
     {
-        const QString neighbour = QStringLiteral("far-") + device;
+        const QString neighbor = QStringLiteral("far-") + device;
         command(QStringLiteral("ip link add %1 address %2 type veth peer name %3")
-                    .arg(device, address, neighbour));
-        command(QStringLiteral("ip link set %1 up").arg(neighbour));
+                    .arg(device, address, neighbor));
+        command(QStringLiteral("ip link set %1 up").arg(neighbor));
         m_plugged << device;
     }
     void plugBridge(const QString &device, const QString &address) override

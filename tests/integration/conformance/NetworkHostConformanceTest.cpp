@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// What every host tells of the same machine, whatever else is plugged into it.
@@ -47,14 +49,14 @@ protected:
         return machine.soon([&] { return host.info(device).status == QLatin1String(status); });
     }
 
-    const QString card = QStringLiteral("en7");
-    const QString second = QStringLiteral("en8");
-    const QString renamed = QStringLiteral("en9");
-    const QString bridge = QStringLiteral("bridge7");
-    const QString containerEnd = QStringLiteral("veth7");
+    const QString card = u"en7"_s;
+    const QString second = u"en8"_s;
+    const QString renamed = u"en9"_s;
+    const QString bridge = u"bridge7"_s;
+    const QString containerEnd = u"veth7"_s;
     const QSet<QString> tested{card, second, renamed, bridge, containerEnd};
-    const QString address = QStringLiteral("3c:22:fb:00:00:07");
-    const QString other = QStringLiteral("3c:22:fb:00:00:08");
+    const QString address = u"3c:22:fb:00:00:07"_s;
+    const QString other = u"3c:22:fb:00:00:08"_s;
     Fixture made;
     HostFixture &machine = made;
     NetworkHost &host = machine.host();
@@ -67,8 +69,8 @@ TYPED_TEST(NetworkHostConformance, APluggedCardIsAPortWithItsFacts)
 {
     this->machine.plugCard(this->card, this->address);
     const PortRecord port = this->portOf(this->card);
-    EXPECT_EQ(port.interface, QStringLiteral("Ethernet"));
-    const InterfaceInfo expected{{}, this->address, QStringLiteral("inactive")};
+    EXPECT_EQ(port.interface, u"Ethernet"_s);
+    const InterfaceInfo expected{{}, this->address, u"inactive"_s};
     EXPECT_EQ(port.info, expected);
     EXPECT_EQ(this->host.info(this->card), expected);
 }
@@ -76,9 +78,9 @@ TYPED_TEST(NetworkHostConformance, APluggedCardIsAPortWithItsFacts)
 TYPED_TEST(NetworkHostConformance, ABridgeIsAPortToo)
 {
     this->machine.plugBridge(this->bridge, this->address);
-    EXPECT_EQ(this->portOf(this->bridge).interface, QStringLiteral("Bridge"));
+    EXPECT_EQ(this->portOf(this->bridge).interface, u"Bridge"_s);
     EXPECT_EQ(this->portOf(this->bridge).info.macAddress, this->address);
-    EXPECT_EQ(this->portOf(this->bridge).info.status, QStringLiteral("inactive"));
+    EXPECT_EQ(this->portOf(this->bridge).info.status, u"inactive"_s);
 }
 
 TYPED_TEST(NetworkHostConformance, WhatIsNoPortIsNotListedButAnswers)
@@ -90,12 +92,12 @@ TYPED_TEST(NetworkHostConformance, WhatIsNoPortIsNotListedButAnswers)
 
 TYPED_TEST(NetworkHostConformance, AddressesAreToldInLowerCaseWithTwoDigitsPerOctet)
 {
-    this->machine.plugCard(this->card, QStringLiteral("3C:22:FB:00:00:07"));
+    this->machine.plugCard(this->card, u"3C:22:FB:00:00:07"_s);
     EXPECT_EQ(this->host.info(this->card).macAddress, this->address);
-    ASSERT_TRUE(this->machine.giveAddress(this->card, QStringLiteral("02:AB:CD:EF:00:01")));
-    EXPECT_EQ(this->host.info(this->card).macAddress, QStringLiteral("02:ab:cd:ef:00:01"));
-    ASSERT_TRUE(this->machine.giveAddress(this->card, QStringLiteral("2:0:0:0:BE:f")));
-    EXPECT_EQ(this->host.info(this->card).macAddress, QStringLiteral("02:00:00:00:be:0f"));
+    ASSERT_TRUE(this->machine.giveAddress(this->card, u"02:AB:CD:EF:00:01"_s));
+    EXPECT_EQ(this->host.info(this->card).macAddress, u"02:ab:cd:ef:00:01"_s);
+    ASSERT_TRUE(this->machine.giveAddress(this->card, u"2:0:0:0:BE:f"_s));
+    EXPECT_EQ(this->host.info(this->card).macAddress, u"02:00:00:00:be:0f"_s);
 }
 
 TYPED_TEST(NetworkHostConformance, AnAddressThatNoInterfaceCanHaveChangesNothing)
@@ -114,46 +116,45 @@ TYPED_TEST(NetworkHostConformance, TheFactoryAddressDoesNotFollowTheOneInUse)
     this->machine.plugCard(this->card, this->address);
     this->machine.plugCard(this->second, this->other);
     const QString factory = this->portOf(this->second).hardware;
-    ASSERT_TRUE(this->machine.giveAddress(this->card, QStringLiteral("02:00:00:00:00:01")));
+    ASSERT_TRUE(this->machine.giveAddress(this->card, u"02:00:00:00:00:01"_s));
     EXPECT_EQ(this->portOf(this->second).hardware, factory);
     EXPECT_EQ(this->portOf(this->second).info.macAddress, this->other);
-    EXPECT_EQ(this->portOf(this->card).info.macAddress, QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(this->portOf(this->card).info.macAddress, u"02:00:00:00:00:01"_s);
 }
 
 TYPED_TEST(NetworkHostConformance, TheFirstIPv4AddressIsTold)
 {
     this->machine.plugCard(this->card, this->address);
-    this->machine.giveIPv4(this->card, QStringLiteral("203.0.113.9"));
-    this->machine.giveIPv4(this->card, QStringLiteral("192.0.2.77"));
-    EXPECT_EQ(this->host.info(this->card).ipAddress, QStringLiteral("203.0.113.9"));
-    EXPECT_EQ(this->portOf(this->card).info.ipAddress, QStringLiteral("203.0.113.9"));
-    this->machine.takeIPv4(this->card, QStringLiteral("203.0.113.9"));
-    EXPECT_EQ(this->host.info(this->card).ipAddress, QStringLiteral("192.0.2.77"));
-    this->machine.takeIPv4(this->card, QStringLiteral("192.0.2.77"));
+    this->machine.giveIPv4(this->card, u"203.0.113.9"_s);
+    this->machine.giveIPv4(this->card, u"192.0.2.77"_s);
+    EXPECT_EQ(this->host.info(this->card).ipAddress, u"203.0.113.9"_s);
+    EXPECT_EQ(this->portOf(this->card).info.ipAddress, u"203.0.113.9"_s);
+    this->machine.takeIPv4(this->card, u"203.0.113.9"_s);
+    EXPECT_EQ(this->host.info(this->card).ipAddress, u"192.0.2.77"_s);
+    this->machine.takeIPv4(this->card, u"192.0.2.77"_s);
     EXPECT_EQ(this->host.info(this->card).ipAddress, QString());
 }
 
 TYPED_TEST(NetworkHostConformance, TheStatusFollowsTheLinkAndTheAddressesStay)
 {
     this->machine.plugCard(this->card, this->address);
-    this->machine.giveIPv4(this->card, QStringLiteral("203.0.113.9"));
-    EXPECT_EQ(this->host.info(this->card).status, QStringLiteral("inactive"));
+    this->machine.giveIPv4(this->card, u"203.0.113.9"_s);
+    EXPECT_EQ(this->host.info(this->card).status, u"inactive"_s);
     this->machine.setLink(this->card, true);
     EXPECT_TRUE(this->becomes(this->card, "active"));
-    EXPECT_EQ(this->portOf(this->card).info.status, QStringLiteral("active"));
+    EXPECT_EQ(this->portOf(this->card).info.status, u"active"_s);
     this->machine.setLink(this->card, false);
     EXPECT_TRUE(this->becomes(this->card, "inactive"));
     EXPECT_EQ(this->host.info(this->card),
-        (InterfaceInfo{QStringLiteral("203.0.113.9"), this->address, QStringLiteral("inactive")}));
+        (InterfaceInfo{u"203.0.113.9"_s, this->address, u"inactive"_s}));
 }
 
 TYPED_TEST(NetworkHostConformance, AnUnknownDeviceHasOnlyEmptyTexts)
 {
     this->machine.plugCard(this->card, this->address);
-    for (const QString &device :
-        {this->second, this->card.toUpper(), this->card.left(2), this->card + QLatin1Char('7'),
-            QString(), QStringLiteral("../en7"), QStringLiteral("en7 "),
-            QStringLiteral("a-name-that-is-too-long-for-any-kernel"), QString(QChar(0))}) {
+    for (const QString &device : {this->second, this->card.toUpper(), this->card.left(2),
+             this->card + u'7', QString(), u"../en7"_s, u"en7 "_s,
+             u"a-name-that-is-too-long-for-any-kernel"_s, QString(QChar(0))}) {
         EXPECT_EQ(this->host.info(device), InterfaceInfo{}) << qPrintable(device);
     }
 }
@@ -170,7 +171,7 @@ TYPED_TEST(NetworkHostConformance, AVanishedDeviceIsUnknown)
 TYPED_TEST(NetworkHostConformance, PortsComeOnceEachInTheOrderInWhichTheyWerePlugged)
 {
     this->machine.plugCard(this->second, this->other);
-    this->machine.plugBridge(this->bridge, QStringLiteral("3c:22:fb:00:00:09"));
+    this->machine.plugBridge(this->bridge, u"3c:22:fb:00:00:09"_s);
     this->machine.plugCard(this->card, this->address);
     EXPECT_EQ(this->order(), (QStringList{this->second, this->bridge, this->card}));
     EXPECT_EQ(this->order(), (QStringList{this->second, this->bridge, this->card}));
@@ -183,7 +184,7 @@ TYPED_TEST(NetworkHostConformance, ARenamedDeviceKeepsItsPlaceAndItsFacts)
 {
     this->machine.plugCard(this->card, this->address);
     this->machine.plugCard(this->second, this->other);
-    this->machine.giveIPv4(this->card, QStringLiteral("203.0.113.9"));
+    this->machine.giveIPv4(this->card, u"203.0.113.9"_s);
     const PortRecord before = this->portOf(this->card);
     ASSERT_TRUE(this->machine.rename(this->card, this->renamed));
     EXPECT_EQ(this->host.info(this->card), InterfaceInfo{});
@@ -209,8 +210,8 @@ TYPED_TEST(NetworkHostConformance, TheListSaysOfEachPortWhatTheDeviceSaysItself)
 {
     this->machine.plugCard(this->card, this->address);
     this->machine.plugCard(this->second, this->other);
-    this->machine.plugBridge(this->bridge, QStringLiteral("3c:22:fb:00:00:09"));
-    this->machine.giveIPv4(this->second, QStringLiteral("203.0.113.9"));
+    this->machine.plugBridge(this->bridge, u"3c:22:fb:00:00:09"_s);
+    this->machine.giveIPv4(this->second, u"203.0.113.9"_s);
     this->machine.setLink(this->second, true);
     ASSERT_TRUE(this->becomes(this->second, "active"));
     const QList<PortRecord> ports = this->host.ports();

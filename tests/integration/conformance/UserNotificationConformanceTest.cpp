@@ -13,6 +13,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -38,7 +40,7 @@ struct MadeUpDesktop
         return condition();
     }
 
-    const Error problem{QStringLiteral("com.example.Error"), 0, {}};
+    const Error problem{u"com.example.Error"_s, 0, {}};
     FakeScheduler scheduler;
     FakeUserNotificationCenter center{scheduler};
 };
@@ -75,7 +77,7 @@ protected:
         const QString text = QString::fromUtf8(body);
         UserNotificationRequest request;
         request.identifier = QString::fromUtf8(identifier);
-        request.title = QStringLiteral("Quillon");
+        request.title = u"Quillon"_s;
         request.body = text;
         request.delay = delay;
         center.add(request, [this, text](const std::optional<Error> &error) {
@@ -102,7 +104,7 @@ protected:
     }
     static QStringList texts(const char *text)
     {
-        return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
     }
 
     Desktop desktop;
@@ -142,9 +144,9 @@ TYPED_TEST(UserNotificationConformance, APendingRequestThatIsRemovedIsNeverShown
 {
     this->add("id", "never");
     this->add("other", "hello");
-    this->center.removePending(QStringLiteral("unknown"));
-    this->center.removePending(QStringLiteral("id"));
-    this->center.removePending(QStringLiteral("id"));
+    this->center.removePending(u"unknown"_s);
+    this->center.removePending(u"id"_s);
+    this->center.removePending(u"id"_s);
     this->pass(5s);
     EXPECT_EQ(this->onScreen(), this->texts("hello"));
     EXPECT_EQ(this->replied, this->texts("hello"));
@@ -155,8 +157,8 @@ TYPED_TEST(UserNotificationConformance, AMessageOnTheScreenIsNotPendingAndAPendi
 {
     this->addAndShow("shown", "one");
     this->add("pending", "two");
-    this->center.removePending(QStringLiteral("shown"));
-    this->center.removeDelivered(QStringLiteral("pending"));
+    this->center.removePending(u"shown"_s);
+    this->center.removeDelivered(u"pending"_s);
     this->pass(1000ms);
     EXPECT_EQ(this->onScreen(), this->texts("one two"));
 }
@@ -165,9 +167,9 @@ TYPED_TEST(UserNotificationConformance, ADeliveredMessageIsTakenAway)
 {
     this->addAndShow("id", "old");
     this->addAndShow("other", "stays");
-    this->center.removeDelivered(QStringLiteral("unknown"));
-    this->center.removeDelivered(QStringLiteral("id"));
-    this->center.removeDelivered(QStringLiteral("id"));
+    this->center.removeDelivered(u"unknown"_s);
+    this->center.removeDelivered(u"id"_s);
+    this->center.removeDelivered(u"id"_s);
     this->desktop.settle();
     EXPECT_EQ(this->onScreen(), this->texts("stays"));
     this->addAndShow("id", "new");
@@ -180,7 +182,7 @@ TYPED_TEST(UserNotificationConformance, ANewerMessageReplacesTheOneOnTheScreen)
     this->addAndShow("id", "second");
     EXPECT_EQ(this->onScreen(), this->texts("second"));
     EXPECT_EQ(this->replied, this->texts("first second"));
-    this->center.removeDelivered(QStringLiteral("id"));
+    this->center.removeDelivered(u"id"_s);
     this->desktop.settle();
     EXPECT_EQ(this->onScreen(), QStringList());
 }

@@ -13,6 +13,8 @@
 #include "networks/WiFiNetwork.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// One run of the program, as far as it keeps lists in the settings file.
@@ -45,10 +47,10 @@ protected:
         radio.join(wifi);
     }
 
-    const QString homeBssid = QStringLiteral("a4:2b:b0:11:22:33");
-    const QString officeBssid = QStringLiteral("b8:27:eb:44:55:66");
-    const QString address = QStringLiteral("a4:83:e7:01:02:03");
-    FakeNetworkHost host{QStringLiteral("laptop")};
+    const QString homeBssid = u"a4:2b:b0:11:22:33"_s;
+    const QString officeBssid = u"b8:27:eb:44:55:66"_s;
+    const QString address = u"a4:83:e7:01:02:03"_s;
+    FakeNetworkHost host{u"laptop"_s};
     FakeWiFiClient radio;
 };
 
@@ -57,9 +59,9 @@ TEST_F(SavedListsRestartTest, SurviveARestart)
     openStore();
     {
         ProgramRun first(*store, host, radio);
-        join(QStringLiteral("Home"), homeBssid);
+        join(u"Home"_s, homeBssid);
         first.savedNetworks.addCurrentNetworkToSavedList();
-        join(QStringLiteral("Büro ☕ <&>"), officeBssid.toUpper());
+        join(u"Büro ☕ <&>"_s, officeBssid.toUpper());
         first.savedNetworks.addCurrentNetworkToSavedList();
         store->set(keys::currentInterfaceDict, QVariantMap{{record::current, address.toUpper()}});
         first.savedAddresses.addCurrentAddressToSavedList();
@@ -72,8 +74,8 @@ TEST_F(SavedListsRestartTest, SurviveARestart)
 
     reopenStore();
     ProgramRun second(*store, host, radio);
-    EXPECT_EQ(favouriteNetworks(*store), (QStringList{homeBssid, officeBssid}));
-    EXPECT_EQ(bssidForNetworkName(*store, QStringLiteral("Büro ☕ <&>")), officeBssid);
+    EXPECT_EQ(favoriteNetworks(*store), (QStringList{homeBssid, officeBssid}));
+    EXPECT_EQ(bssidForNetworkName(*store, u"Büro ☕ <&>"_s), officeBssid);
     EXPECT_EQ(addressForAddressName(*store, address), address);
     EXPECT_TRUE(second.savedNetworks.isCurrentNetworkSaved());
     EXPECT_TRUE(second.savedAddresses.isCurrentAddressSaved());
@@ -81,7 +83,7 @@ TEST_F(SavedListsRestartTest, SurviveARestart)
 
 TEST_F(SavedListsRestartTest, KeepANetworkWhoseNameNoFileCanHold)
 {
-    const QString ssid = QStringLiteral("Bell\a and \x01 more");
+    const QString ssid = u"Bell\a and \x01 more"_s;
     openStore();
     {
         ProgramRun first(*store, host, radio);
@@ -93,7 +95,7 @@ TEST_F(SavedListsRestartTest, KeepANetworkWhoseNameNoFileCanHold)
     ProgramRun second(*store, host, radio);
     second.network.updateWiFiNetwork();
     EXPECT_TRUE(second.savedNetworks.isCurrentNetworkSaved());
-    EXPECT_EQ(favouriteNetworks(*store), QStringList{homeBssid});
+    EXPECT_EQ(favoriteNetworks(*store), QStringList{homeBssid});
     const QString shown =
         store->getDictionary(keys::currentWiFiDict).value(wifirecord::SSID).toString();
     EXPECT_EQ(ssidForNetworkName(*store, shown), shown) << "the same in both places";

@@ -12,6 +12,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 /// The service program on buses of the test's own, with a helper that misbehaves.
@@ -21,8 +23,8 @@ protected:
     void SetUp() override
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), session.address());
-        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), system.address());
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, session.address());
+        environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, system.address());
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(QUILLON_BUILD "/service/quillon-xpc-service"), QStringList());
         ASSERT_TRUE(eventually([this] {
@@ -110,7 +112,7 @@ TEST_F(HelperContact, AnAnswerThatIsNoTextIsNone)
     helperIs([](const QDBusMessage &call) { return call.createReply(); });
     EXPECT_FALSE(endpoint());
     helperIs([](const QDBusMessage &call) {
-        return call.createErrorReply(QStringLiteral("com.example.No"), QStringLiteral("no"));
+        return call.createErrorReply(u"com.example.No"_s, u"no"_s);
     });
     EXPECT_FALSE(endpoint());
 }
@@ -161,10 +163,10 @@ TEST_F(HelperContact, ANewSystemBusConnectionIsMadeWhenTheOldOneIsGone)
 
 TEST_F(HelperContact, OnlyAHelperOfThisVersionIsLeftAlone)
 {
-    helperIs([](const QDBusMessage &call) { return call.createReply(QStringLiteral("2.0")); });
+    helperIs([](const QDBusMessage &call) { return call.createReply(u"2.0"_s); });
     EXPECT_FALSE(install());
     // Now somebody must be asked, and nobody is there.
-    helperIs([](const QDBusMessage &call) { return call.createReply(QStringLiteral("1.9")); });
+    helperIs([](const QDBusMessage &call) { return call.createReply(u"1.9"_s); });
     const auto problem = install();
     ASSERT_TRUE(problem);
     EXPECT_EQ(problem->code, contract::error::notAuthorized.code) << qPrintable(problem->message);

@@ -13,6 +13,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -98,13 +100,12 @@ TEST_F(LoginItem, QuitsWhenToldAndLeavesTheProgramRunning)
 TEST_F(LoginItem, StaysForEveryOtherBroadcast)
 {
     start();
-    center.post(QLatin1String(contract::terminateLoginHelper), QStringLiteral("com.example.Other"));
+    center.post(QLatin1String(contract::terminateLoginHelper), u"com.example.Other"_s);
     center.post(QLatin1String(contract::helperUpdated),
         QLatin1String(contract::terminateLoginHelperObject));
-    command(QStringLiteral("dbus-send --session --type=signal %1 %2.%3 int32:1")
-                .arg(QLatin1String(contract::distributed::path),
-                    QLatin1String(contract::distributed::interface),
-                    QLatin1String(contract::distributed::posted.name)));
+    command(u"dbus-send --session --type=signal %1 %2.%3 int32:1"_s.arg(
+        QLatin1String(contract::distributed::path), QLatin1String(contract::distributed::interface),
+        QLatin1String(contract::distributed::posted.name)));
     EXPECT_FALSE(eventually([this] { return hasEnded(); }, 500ms));
     EXPECT_TRUE(running.isRunning(itsName));
 }
@@ -138,8 +139,7 @@ TEST_F(LoginItem, ASecondOneStartsNothing)
 TEST_F(LoginItem, WithoutASessionItStartsNothing)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(
-        QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("unix:path=/tmp/no-bus"));
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/tmp/no-bus"_s);
     item.setProcessEnvironment(environment);
     item.start(QStringLiteral(QUILLON_TEST_LOGIN_ITEM), QStringList());
     EXPECT_TRUE(eventually([this] { return hasEnded(); }));

@@ -15,6 +15,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -59,19 +61,16 @@ private:
 
 QStringList asUser(const QStringList &command)
 {
-    return QStringList{QStringLiteral("-u"), QStringLiteral("quillon"), QStringLiteral("--")} +
-           command;
+    return QStringList{u"-u"_s, u"quillon"_s, u"--"_s} + command;
 }
 
 std::unique_ptr<Running> calling(const contract::Method &method)
 {
-    return std::make_unique<Running>(QStringLiteral("runuser"),
-        asUser({QStringLiteral("gdbus"), QStringLiteral("call"), QStringLiteral("--session"),
-            QStringLiteral("--timeout"), QStringLiteral("60"), QStringLiteral("--dest"),
-            QLatin1String(contract::serviceName), QStringLiteral("--object-path"),
-            QLatin1String(contract::service::path), QStringLiteral("--method"),
-            QLatin1String(contract::service::interface) + QLatin1Char('.') +
-                QLatin1String(method.name)}));
+    return std::make_unique<Running>(u"runuser"_s,
+        asUser({u"gdbus"_s, u"call"_s, u"--session"_s, u"--timeout"_s, u"60"_s, u"--dest"_s,
+            QLatin1String(contract::serviceName), u"--object-path"_s,
+            QLatin1String(contract::service::path), u"--method"_s,
+            QLatin1String(contract::service::interface) + u'.' + QLatin1String(method.name)}));
 }
 
 Call call(const contract::Method &method)
@@ -83,13 +82,13 @@ Call call(const contract::Method &method)
 
 QString endpointIn(const Call &connected)
 {
-    static const QRegularExpression answer(QStringLiteral("\\A\\('([^']*)', \\["));
+    static const QRegularExpression answer(u"\\A\\('([^']*)', \\["_s);
     return answer.match(connected.text).captured(1);
 }
 
 qsizetype authorizationBytesIn(const Call &connected)
 {
-    return connected.text.count(QStringLiteral("0x"));
+    return connected.text.count(u"0x"_s);
 }
 
 bool isError(const Call &result, const contract::ErrorName &error)
@@ -99,8 +98,8 @@ bool isError(const Call &result, const contract::ErrorName &error)
 
 void reloadSystemBus()
 {
-    command(QStringLiteral("gdbus call --system --dest org.freedesktop.DBus --object-path / "
-                           "--method org.freedesktop.DBus.ReloadConfig"));
+    command(u"gdbus call --system --dest org.freedesktop.DBus --object-path / "
+            "--method org.freedesktop.DBus.ReloadConfig"_s);
 }
 
 // As on a machine where it never was installed.
@@ -108,8 +107,8 @@ void removeHelper()
 {
     for (const char *folder : {"/usr/local", "/etc"}) {
         QDirIterator files(QLatin1String(folder),
-            {QStringLiteral("*orvandel.Quillon4HelperTool*"), QStringLiteral("*orvandel.quillon4*"),
-                QStringLiteral("Quillon4HelperTool"), QStringLiteral("quillon4-helper*")},
+            {u"*orvandel.Quillon4HelperTool*"_s, u"*orvandel.quillon4*"_s, u"Quillon4HelperTool"_s,
+                u"quillon4-helper*"_s},
             QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QFile::remove(files.next());
@@ -128,13 +127,12 @@ protected:
     // A person in front of the user's service, who does as `answer` says.
     void atThePrompt(const char *answer)
     {
-        const QString ready = QStringLiteral("/tmp/agent-ready");
+        const QString ready = u"/tmp/agent-ready"_s;
         QFile::remove(ready);
         agent = std::make_unique<Running>(
             QStringLiteral(QUILLON_SOURCE "/tools/sandbox.d/sandbox-polkit-agent"),
-            QStringList{QStringLiteral("--pid"), QString::number(serviceProcess()),
-                QStringLiteral("--log"), prompts, QStringLiteral("--ready"), ready,
-                QLatin1String(answer)});
+            QStringList{u"--pid"_s, QString::number(serviceProcess()), u"--log"_s, prompts,
+                u"--ready"_s, ready, QLatin1String(answer)});
         ASSERT_TRUE(eventually([&] { return QFile::exists(ready); }))
             << agent->output().toStdString();
     }
@@ -144,15 +142,12 @@ protected:
     {
         EXPECT_TRUE(call(contract::service::setupAuthorizationRights).succeeded);
         const QByteArray answer =
-            command(QStringLiteral("runuser -u quillon -- gdbus call --session --dest "
-                                   "org.freedesktop.DBus --object-path / "
-                                   "--method org.freedesktop.DBus.GetConnectionUnixProcessID %1")
-                        .arg(QLatin1String(contract::serviceName)));
+            command(u"runuser -u quillon -- gdbus call --session --dest "
+                    "org.freedesktop.DBus --object-path / "
+                    "--method org.freedesktop.DBus.GetConnectionUnixProcessID %1"_s.arg(
+                        QLatin1String(contract::serviceName)));
         // "(uint32 123,)"
-        return QString::fromUtf8(answer)
-            .section(QLatin1Char(' '), 1)
-            .section(QLatin1Char(','), 0, 0)
-            .toInt();
+        return QString::fromUtf8(answer).section(u' ', 1).section(u',', 0, 0).toInt();
     }
 
     QByteArray promptLog() const
@@ -164,21 +159,20 @@ protected:
     // Hears the broadcasts of the user's session.
     void listen()
     {
-        listener = std::make_unique<Running>(QStringLiteral("runuser"),
-            asUser({QStringLiteral("dbus-monitor"), QStringLiteral("--session"),
-                QStringLiteral("interface=") + QLatin1String(contract::distributed::interface)}));
-        ASSERT_TRUE(eventually(
-            [this] { return listener->output().contains(QLatin1String("NameAcquired")); }));
+        listener = std::make_unique<Running>(
+            u"runuser"_s, asUser({u"dbus-monitor"_s, u"--session"_s,
+                              u"interface="_s + QLatin1String(contract::distributed::interface)}));
+        ASSERT_TRUE(eventually([this] { return listener->output().contains("NameAcquired"_L1); }));
     }
 
     bool heardHelperUpdated()
     {
         const QString heard = listener->output();
-        return heard.contains(QLatin1String("string \"HelperUpdated\"")) &&
-               heard.contains(QLatin1String("string \"com.orvandel.Quillon4MASHelper\""));
+        return heard.contains("string \"HelperUpdated\""_L1) &&
+               heard.contains("string \"com.orvandel.Quillon4MASHelper\""_L1);
     }
 
-    const QString prompts = QStringLiteral("/tmp/prompts.log");
+    const QString prompts = u"/tmp/prompts.log"_s;
     std::unique_ptr<Running> agent;
     std::unique_ptr<Running> listener;
 };
@@ -187,10 +181,10 @@ TEST_F(ServiceTest, OffersWhatItsDescriptionSays)
 {
     const auto documented = documentedMembersOf(contract::service::interface);
     EXPECT_EQ(documented.size(), 3U);
-    const QByteArray offered = command(
-        QStringLiteral("runuser -u quillon -- gdbus introspect --session --xml --dest %1 "
-                       "--object-path %2")
-            .arg(QLatin1String(contract::serviceName), QLatin1String(contract::service::path)));
+    const QByteArray offered =
+        command(u"runuser -u quillon -- gdbus introspect --session --xml --dest %1 "
+                "--object-path %2"_s.arg(
+                    QLatin1String(contract::serviceName), QLatin1String(contract::service::path)));
     EXPECT_EQ(membersOf(contract::service::interface, offered), documented);
 }
 
@@ -198,12 +192,11 @@ TEST_F(ServiceTest, GivesTheHelpersUniqueNameAndThirtyTwoBytes)
 {
     const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
-    const QByteArray owner = command(
-        QStringLiteral("gdbus call --system --dest org.freedesktop.DBus --object-path / --method "
-                       "org.freedesktop.DBus.GetNameOwner com.orvandel.Quillon4HelperTool"));
+    const QByteArray owner =
+        command(u"gdbus call --system --dest org.freedesktop.DBus --object-path / --method "
+                "org.freedesktop.DBus.GetNameOwner com.orvandel.Quillon4HelperTool"_s);
     EXPECT_FALSE(endpointIn(connected).isEmpty());
-    EXPECT_EQ(
-        QString::fromUtf8(owner).trimmed(), QStringLiteral("('%1',)").arg(endpointIn(connected)));
+    EXPECT_EQ(QString::fromUtf8(owner).trimmed(), u"('%1',)"_s.arg(endpointIn(connected)));
     EXPECT_EQ(authorizationBytesIn(connected), 32);
 }
 
@@ -227,7 +220,7 @@ TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
 
 TEST_F(ServiceTest, WithoutASystemBusThereIsNoEndpoint)
 {
-    QFile::rename(QStringLiteral("/run/dbus/system_bus_socket"), QStringLiteral("/run/dbus/gone"));
+    QFile::rename(u"/run/dbus/system_bus_socket"_s, u"/run/dbus/gone"_s);
     const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
     EXPECT_EQ(endpointIn(connected), QString());
@@ -299,24 +292,23 @@ TEST_F(ServiceTest, ToldWhyTheToolFailed)
 {
     removeHelper();
     // Where the tool wants to put a file there is a folder, with something in it.
-    command(QStringLiteral("mkdir -p "
-                           "/usr/local/share/dbus-1/system-services/"
-                           "com.orvandel.Quillon4HelperTool.service/in-the-way"));
+    command(u"mkdir -p "
+            "/usr/local/share/dbus-1/system-services/"
+            "com.orvandel.Quillon4HelperTool.service/in-the-way"_s);
     atThePrompt("grant");
     listen();
     const Call installed = call(contract::service::installHelperTool);
     EXPECT_TRUE(isError(installed, contract::error::installFailed)) << installed.text.toStdString();
-    EXPECT_TRUE(installed.text.contains(QLatin1String("system-services")))
-        << installed.text.toStdString();
+    EXPECT_TRUE(installed.text.contains("system-services"_L1)) << installed.text.toStdString();
     EXPECT_FALSE(heardHelperUpdated());
 }
 
 TEST(ServiceProgram, NeverRunsAsRoot)
 {
-    Running service(build + QStringLiteral("/service/quillon-xpc-service"), {});
+    Running service(build + u"/service/quillon-xpc-service"_s, {});
     ASSERT_TRUE(eventually([&] { return service.ended(); }));
     EXPECT_EQ(service.exitCode(), 1);
-    EXPECT_TRUE(service.output().contains(QLatin1String("never runs as root")));
+    EXPECT_TRUE(service.output().contains("never runs as root"_L1));
 }
 
 } // namespace quillon::test

@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 /// The program's side as the ordinary user, the real service, the real helper, polkit and the
 /// kernel.
 class WholeLink : public ::testing::Test
@@ -73,21 +75,21 @@ TEST_F(WholeLink, TheHelperTellsItsVersion)
 
 TEST_F(WholeLink, AnAddressIsChangedInTheKernel)
 {
-    const QString address = QStringLiteral("02:00:00:00:be:ef");
-    EXPECT_FALSE(change(QStringLiteral("enp2s0"), address));
-    EXPECT_EQ(NetlinkHost().info(QStringLiteral("enp2s0")).macAddress, address);
+    const QString address = u"02:00:00:00:be:ef"_s;
+    EXPECT_FALSE(change(u"enp2s0"_s, address));
+    EXPECT_EQ(NetlinkHost().info(u"enp2s0"_s).macAddress, address);
 }
 
 TEST_F(WholeLink, TheHelpersRefusalsArriveWithTheirCodes)
 {
-    const auto missing = change(QStringLiteral("eth99"), QStringLiteral("02:00:00:00:be:ef"));
+    const auto missing = change(u"eth99"_s, u"02:00:00:00:be:ef"_s);
     ASSERT_TRUE(missing);
     EXPECT_EQ(missing->code, contract::error::noSuchDevice.code);
-    const auto multicast = change(QStringLiteral("enp2s0"), QStringLiteral("01:00:5e:00:00:01"));
+    const auto multicast = change(u"enp2s0"_s, u"01:00:5e:00:00:01"_s);
     ASSERT_TRUE(multicast);
     EXPECT_EQ(multicast->code, contract::error::invalidAddress.code);
     authorization.chop(1);
-    const auto shortened = change(QStringLiteral("enp2s0"), QStringLiteral("02:00:00:00:be:ef"));
+    const auto shortened = change(u"enp2s0"_s, u"02:00:00:00:be:ef"_s);
     ASSERT_TRUE(shortened);
     EXPECT_EQ(shortened->code, contract::error::invalidAuthorization.code);
 }

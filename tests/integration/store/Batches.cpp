@@ -8,11 +8,13 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The batches whose connections are kept.
 constexpr qint64 window = 3;
-const QString marker = QStringLiteral("marker");
+const QString marker = u"marker"_s;
 
 using Values = QVariantMap;
 
@@ -23,12 +25,12 @@ int size(qint64 batch)
 
 QString device(qint64 batch)
 {
-    return QStringLiteral("batch %1").arg(batch);
+    return u"batch %1"_s.arg(batch);
 }
 
 QString changedBy(qint64 batch)
 {
-    return QStringLiteral("changed by %1").arg(batch);
+    return u"changed by %1"_s.arg(batch);
 }
 
 /// Connection `index` of the batch, as it was inserted. Lengths differ, so that the file's pages
@@ -39,12 +41,12 @@ Values connection(qint64 batch, int index)
     Values values{
         {model::connection::date, QDateTime::fromMSecsSinceEpoch(batch * 1000 + index, Qt::UTC)},
         {model::connection::device, device(batch)},
-        {model::connection::interface, QStringLiteral("%1 of %2").arg(index).arg(size(batch))},
-        {model::connection::ssid, QStringLiteral("new")},
+        {model::connection::interface, u"%1 of %2"_s.arg(index).arg(size(batch))},
+        {model::connection::ssid, u"new"_s},
         {model::connection::bssid, QString((batch * 311 + index * 173) % 3000, letter)},
     };
     if (index % 2 == 0) {
-        values.insert(model::connection::notes, QStringLiteral("Caf\u00e9 \U0001F310"));
+        values.insert(model::connection::notes, u"Caf\u00e9 \U0001F310"_s);
     }
     return values;
 }

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class BatchesTest : public ::testing::Test
@@ -36,7 +38,7 @@ protected:
 
     static constexpr qint64 last = 9;
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    QString path = folder.filePath(u"Quillon.sqlite"_s);
     test::FakeScheduler scheduler;
     std::unique_ptr<ManagedObjectContext> owned;
     std::unique_ptr<test::Batches> batches;
@@ -57,7 +59,7 @@ TEST_F(BatchesTest, AMissingRecordIsSeen)
 
 TEST_F(BatchesTest, ALostChangeIsSeen)
 {
-    all(model::Connection).first()->setValue(model::connection::ssid, QStringLiteral("new"));
+    all(model::Connection).first()->setValue(model::connection::ssid, u"new"_s);
     EXPECT_TRUE(isSeen());
 }
 
@@ -78,7 +80,7 @@ TEST_F(BatchesTest, ALostMarkerIsSeen)
 /// One of the file's states after a batch is put in the place of a later one.
 TEST_F(BatchesTest, ATrialSeesThatASaveWasLost)
 {
-    const QString place = folder.filePath(QStringLiteral("trial.sqlite"));
+    const QString place = folder.filePath(u"trial.sqlite"_s);
     test::KillTrial trial(place, 7);
     for (int round = 0; round < 6; ++round) {
         trial.killOneWriter();

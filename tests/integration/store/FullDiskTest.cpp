@@ -10,6 +10,8 @@
 #include <sys/mount.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// A small disk of its own. As root in a sandbox, because only root may mount.
@@ -36,8 +38,8 @@ protected:
     void makeRoom() { ASSERT_TRUE(QFile::remove(ballast)); }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
-    QString ballast = folder.filePath(QStringLiteral("ballast"));
+    QString path = folder.filePath(u"Quillon.sqlite"_s);
+    QString ballast = folder.filePath(u"ballast"_s);
     test::FakeScheduler scheduler;
 };
 

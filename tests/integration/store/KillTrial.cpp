@@ -16,6 +16,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Of so many writers one is killed while it opens the file, and one file is checked and closed.
@@ -67,7 +69,7 @@ void KillTrial::killOneWriter()
     int status = 0;
     ::waitpid(writer, &status, 0);
     if (!WIFSIGNALED(status)) {
-        m_faults << QStringLiteral("A writer ended by itself after batch %1").arg(m_saved);
+        m_faults << u"A writer ended by itself after batch %1"_s.arg(m_saved);
     }
     while (next(message)) {
         take(message);
@@ -132,9 +134,8 @@ void KillTrial::take(const Message &message)
         ++m_counts.savesReported;
         break;
     case Message::Kind::Failed:
-        m_faults << QStringLiteral("A writer failed at batch %1, after %2 was saved")
-                        .arg(message.batch)
-                        .arg(m_saved);
+        m_faults
+            << u"A writer failed at batch %1, after %2 was saved"_s.arg(message.batch).arg(m_saved);
         break;
     }
 }
@@ -142,8 +143,7 @@ void KillTrial::take(const Message &message)
 void KillTrial::settle(qint64 found)
 {
     if (found != m_saved && found != m_begun) {
-        m_faults << QStringLiteral("Batch %1 was reported as saved, and %2 begun; the file has %3")
-                        .arg(m_saved)
+        m_faults << u"Batch %1 was reported as saved, and %2 begun; the file has %3"_s.arg(m_saved)
                         .arg(m_begun)
                         .arg(found);
     }
@@ -160,18 +160,18 @@ void KillTrial::check()
         FakeScheduler scheduler;
         auto opened = openedContext(m_path, scheduler);
         if (!opened) {
-            m_faults << QStringLiteral("Not opened: ") + opened.error().message;
+            m_faults << u"Not opened: "_s + opened.error().message;
             return;
         }
         Batches batches(*opened.value());
         const qint64 last = batches.last();
         if (last < 0 || batches.found() != Batches::expected(last)) {
-            m_faults << QStringLiteral("The records are not those of batch %1").arg(last);
+            m_faults << u"The records are not those of batch %1"_s.arg(last);
         }
         settle(last);
     }
     if (const std::string answer = integrityOf(m_path); answer != "ok") {
-        m_faults << QStringLiteral("integrity_check: ") + QString::fromStdString(answer);
+        m_faults << u"integrity_check: "_s + QString::fromStdString(answer);
     }
 }
 

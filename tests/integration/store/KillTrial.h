@@ -29,7 +29,7 @@ public:
 
     /// One writer's life.
     void killOneWriter();
-    /// Opens the file: everything reported is there, nothing by halves, and the file is sound.
+    /// Opens the file: everything reported is there, nothing partial, and the file is sound.
     void check();
 
     const Counts &counts() const { return m_counts; }

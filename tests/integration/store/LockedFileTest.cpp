@@ -11,6 +11,8 @@
 #include <unistd.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -84,7 +86,7 @@ protected:
     ManagedObjectContext &context() { return *owned; }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    QString path = folder.filePath(u"Quillon.sqlite"_s);
     test::FakeScheduler scheduler;
     std::unique_ptr<ManagedObjectContext> owned;
 };

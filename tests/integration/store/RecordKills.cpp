@@ -9,6 +9,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace quillon;
@@ -19,7 +21,7 @@ void report(const test::KillTrial &trial)
     std::printf(
         "%d writers killed: %d while they opened the file, %d during a save, %d between saves\n"
         "%d saves reported, each found again with every value\n"
-        "saves cut off by a kill: %d found complete, %d undone, none by halves\n",
+        "saves cut off by a kill: %d found complete, %d undone, none partial\n",
         counts.kills, counts.whileOpening, counts.duringSave,
         counts.kills - counts.whileOpening - counts.duringSave, counts.savesReported,
         counts.complete, counts.undone);
@@ -31,23 +33,20 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Kills processes that save records, at random "
-                                                    "moments, and checks what they leave behind."));
+    parser.setApplicationDescription(u"Kills processes that save records, at random "
+                                     "moments, and checks what they leave behind."_s);
     parser.addHelpOption();
-    const QCommandLineOption kills(QStringLiteral("kills"),
-        QStringLiteral("How many processes to kill."), QStringLiteral("N"), QStringLiteral("1000"));
-    const QCommandLineOption seed(QStringLiteral("seed"),
-        QStringLiteral("Where the random moments start."), QStringLiteral("N"),
-        QStringLiteral("1"));
-    const QCommandLineOption folder(QStringLiteral("folder"),
-        QStringLiteral("A folder on the disk to be used; the file in it is removed afterwards."),
-        QStringLiteral("DIR"), QDir::tempPath());
+    const QCommandLineOption kills(u"kills"_s, u"How many processes to kill."_s, u"N"_s, u"1000"_s);
+    const QCommandLineOption seed(u"seed"_s, u"Where the random moments start."_s, u"N"_s, u"1"_s);
+    const QCommandLineOption folder(u"folder"_s,
+        u"A folder on the disk to be used; the file in it is removed afterwards."_s, u"DIR"_s,
+        QDir::tempPath());
     parser.addOptions({kills, seed, folder});
     parser.process(application);
 
-    const QTemporaryDir place(parser.value(folder) + QStringLiteral("/record-kills-XXXXXX"));
+    const QTemporaryDir place(parser.value(folder) + u"/record-kills-XXXXXX"_s);
     quillon::test::KillTrial trial(
-        place.filePath(QStringLiteral("Quillon.sqlite")), parser.value(seed).toUInt());
+        place.filePath(u"Quillon.sqlite"_s), parser.value(seed).toUInt());
     for (int round = parser.value(kills).toInt(); round > 0 && trial.faults().isEmpty(); --round) {
         trial.killOneWriter();
     }

@@ -17,6 +17,8 @@
 #include <unistd.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// Another process, which opens the file, counts its rules and closes it when it is told to. Is to
@@ -91,7 +93,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    QString path = folder.filePath(u"Quillon.sqlite"_s);
     Visitor first{path};
     Visitor second{path};
     test::FakeScheduler scheduler;
@@ -102,7 +104,7 @@ TEST_F(VisitedFile, KeepsItsLogWhileWeHaveItOpen)
 {
     saveOneMore();
     EXPECT_EQ(first.visit(), 1);
-    EXPECT_TRUE(QFile::exists(path + QStringLiteral("-wal")));
+    EXPECT_TRUE(QFile::exists(path + u"-wal"_s));
     saveOneMore();
     EXPECT_EQ(second.visit(), 2);
 }
@@ -112,7 +114,7 @@ TEST_F(VisitedFile, KeepsItsLogAfterItWasOpenedAgain)
     saveOneMore();
     store.refreshPersistentContainer();
     EXPECT_EQ(first.visit(), 1);
-    EXPECT_TRUE(QFile::exists(path + QStringLiteral("-wal")));
+    EXPECT_TRUE(QFile::exists(path + u"-wal"_s));
     saveOneMore();
     EXPECT_EQ(second.visit(), 2);
 }

@@ -6,6 +6,8 @@
 #include <sys/mount.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class FullDiskRefresh : public RefreshTest
@@ -31,7 +33,7 @@ TEST_F(FullDiskRefresh, FailsWithoutRoomForTheText)
     useDisk("2m");
     RefreshingUser user(files);
     user.refresh();
-    EXPECT_EQ(user.labels.last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.last(), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 10);
 }
 
@@ -40,9 +42,9 @@ TEST_F(FullDiskRefresh, FailsWithoutRoomForTheNewDatabase)
     useDisk("5m");
     RefreshingUser user(files);
     user.refresh();
-    EXPECT_EQ(user.labels.last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.last(), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 10);
-    expectFiles({QStringLiteral("oui.csv"), QStringLiteral("oui.db")});
+    expectFiles({u"oui.csv"_s, u"oui.db"_s});
 }
 
 TEST_F(FullDiskRefresh, FailsAndCompletesWithoutRoomForTheLiveDatabase)
@@ -51,9 +53,9 @@ TEST_F(FullDiskRefresh, FailsAndCompletesWithoutRoomForTheLiveDatabase)
     RefreshingUser user(files);
     user.refreshToCompletion();
     ASSERT_GE(user.labels.size(), 2);
-    EXPECT_EQ(user.labels.at(user.labels.size() - 2), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.at(user.labels.size() - 2), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 0) << "cut short, it answers nothing";
-    expectFiles({QStringLiteral("oui.db")});
+    expectFiles({u"oui.db"_s});
     // A smaller registry has room, and mends it.
     serve({}, registryOf(20));
     user.refresh();

@@ -9,12 +9,14 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The most memory that this program has had, in kilobytes.
 qint64 peakMemory()
 {
-    QFile file(QStringLiteral("/proc/self/status"));
+    QFile file(u"/proc/self/status"_s);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     for (const QByteArray &line : file.readAll().split('\n')) {
         if (line.startsWith("VmHWM:")) {
@@ -28,8 +30,8 @@ qint64 peakMemory()
 TEST(LargeRegistry, OfAHundredMegabytesIsImportedFlatInMemory)
 {
     const QTemporaryDir folder;
-    const QString csv = folder.filePath(QStringLiteral("oui.csv"));
-    const QString database = folder.filePath(QStringLiteral("temp.db"));
+    const QString csv = folder.filePath(u"oui.csv"_s);
+    const QString database = folder.filePath(u"temp.db"_s);
     constexpr qint64 size = 100'000'000;
     QFile file(csv);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -46,7 +48,7 @@ TEST(LargeRegistry, OfAHundredMegabytesIsImportedFlatInMemory)
     const qint64 before = peakMemory();
     ASSERT_TRUE(fillVendorTable(csv, database));
     EXPECT_EQ(VendorDatabase(database).count(), rows);
-    const QString live = folder.filePath(QStringLiteral("oui.db"));
+    const QString live = folder.filePath(u"oui.db"_s);
     ASSERT_TRUE(QFile(live).open(QIODevice::WriteOnly));
     EXPECT_EQ(VendorDatabase(live).rewriteFrom(database), VendorDatabase::Rewriting::Done);
     EXPECT_LT(peakMemory() - before, 16 * 1024);
@@ -56,7 +58,7 @@ TEST(LargeRegistry, OfAHundredMegabytesIsImportedFlatInMemory)
 TEST(LargeRegistry, OfOneEndlessFieldIsRefusedBeforeItTakesTheMemory)
 {
     const QTemporaryDir folder;
-    const QString csv = folder.filePath(QStringLiteral("oui.csv"));
+    const QString csv = folder.filePath(u"oui.csv"_s);
     QFile file(csv);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("Assignment\n\"");
@@ -66,7 +68,7 @@ TEST(LargeRegistry, OfOneEndlessFieldIsRefusedBeforeItTakesTheMemory)
     }
     file.close();
     const qint64 before = peakMemory();
-    EXPECT_FALSE(fillVendorTable(csv, folder.filePath(QStringLiteral("temp.db"))));
+    EXPECT_FALSE(fillVendorTable(csv, folder.filePath(u"temp.db"_s)));
     EXPECT_LT(peakMemory() - before, 64 * 1024);
 }
 

@@ -7,6 +7,8 @@
 #include <thread>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::Contains;
@@ -35,9 +37,9 @@ protected:
             << why << ": " << user.pane.state().updatedLabel.toStdString();
         user.pane.pressButton();
         EXPECT_TRUE(user.isIdle()) << why;
-        EXPECT_EQ(user.pane.state().updatedLabel, QLatin1String("Download cancelled...")) << why;
+        EXPECT_EQ(user.pane.state().updatedLabel, "Download cancelled..."_L1) << why;
         EXPECT_EQ(user.database.count(), 10) << why;
-        expectFiles({QStringLiteral("oui.db")});
+        expectFiles({u"oui.db"_s});
     }
 };
 
@@ -50,31 +52,29 @@ TEST_F(Refresh, BringsTheRealRegistry)
     const qlonglong count = user.database.count();
     EXPECT_GT(count, 30'000);
     EXPECT_EQ(user.settings.getInteger(keys::vendorCountValue), count);
-    EXPECT_EQ(user.pane.state().vendorCount, QStringLiteral("%1 Vendor Identifiers").arg(count));
+    EXPECT_EQ(user.pane.state().vendorCount, u"%1 Vendor Identifiers"_s.arg(count));
     const QString note = user.settings.getString(keys::vendorIDUpdatedDate);
-    EXPECT_TRUE(note.endsWith(QStringLiteral(" (added %1 new Identifiers)").arg(count - 10)));
-    EXPECT_EQ(user.labels.first(), QLatin1String("Getting download information..."));
+    EXPECT_TRUE(note.endsWith(u" (added %1 new Identifiers)"_s.arg(count - 10)));
+    EXPECT_EQ(user.labels.first(), "Getting download information..."_L1);
     EXPECT_THAT(user.labels, Contains("Processing data..."));
     EXPECT_EQ(user.labels.last(), note);
-    EXPECT_TRUE(user.labels.filter(QStringLiteral("% of "))
-                    .last()
-                    .startsWith(QStringLiteral("Downloading... 100.000% of ")));
-    expectFiles({QStringLiteral("oui.db")});
-    user.lookup.updateVendor(QStringLiteral("08:00:30:00:00:01"));
+    EXPECT_TRUE(user.labels.filter(u"% of "_s).last().startsWith(u"Downloading... 100.000% of "_s));
+    expectFiles({u"oui.db"_s});
+    user.lookup.updateVendor(u"08:00:30:00:00:01"_s);
     EXPECT_EQ(user.settings.getDictionary(keys::currentVendorData)
                   .value(vendordata::vendorCurrentString)
                   .toString(),
-        QLatin1String("CERN"));
+        "CERN"_L1);
     EXPECT_TRUE(eventually([&] { return user.list.rowCount() == count + 1; }));
     user.refresh();
-    EXPECT_TRUE(user.labels.last().startsWith(QStringLiteral("Last Updated: "))) << "nothing new";
+    EXPECT_TRUE(user.labels.last().startsWith(u"Last Updated: "_s)) << "nothing new";
 }
 
 TEST_F(Refresh, ShowsASlowDownloadAsItGrows)
 {
     RefreshingUser user(files);
     const QByteArray text = registryOf(50);
-    serve({{QStringLiteral("piece"), 200}, {QStringLiteral("pause"), 0.02}}, text);
+    serve({{u"piece"_s, 200}, {u"pause"_s, 0.02}}, text);
     float progress = 0;
     bool grows = true;
     QObject::connect(&user.pane, &VendorPaneModel::changed, [&] {
@@ -85,14 +85,14 @@ TEST_F(Refresh, ShowsASlowDownloadAsItGrows)
     user.refresh();
     EXPECT_TRUE(grows);
     EXPECT_EQ(progress, 1.0F);
-    EXPECT_GT(user.labels.filter(QStringLiteral("% of 0.0MB")).size(), 5);
+    EXPECT_GT(user.labels.filter(u"% of 0.0MB"_s).size(), 5);
     EXPECT_EQ(user.database.count(), 50);
 }
 
 TEST_F(Refresh, OfUnknownSizeShowsTheLatestPieces)
 {
     RefreshingUser user(files);
-    serve({{QStringLiteral("framing"), QStringLiteral("chunked")}}, registryOf(50));
+    serve({{u"framing"_s, u"chunked"_s}}, registryOf(50));
     float progress = 0;
     QObject::connect(&user.pane, &VendorPaneModel::changed,
         [&] { progress = std::min(progress, user.pane.state().progress); });
@@ -105,19 +105,18 @@ TEST_F(Refresh, OfUnknownSizeShowsTheLatestPieces)
 TEST_F(Refresh, ThatFailsOnTheWayWaitsToBeCancelled)
 {
     const QByteArray text = registryOf(1000);
-    const QString progress = QStringLiteral("Downloading... ");
+    const QString progress = u"Downloading... "_s;
     for (const char *const how : {"close", "reset", "stall"}) {
         // What is sent just before a reset may be lost: something has come before that.
-        serve({{QStringLiteral("piece"), static_cast<int>(text.size() / 4)},
-                  {QStringLiteral("pause"), 0.1}, {QStringLiteral("cut"), text.size() / 2},
-                  {QStringLiteral("then"), QString::fromLatin1(how)}},
+        serve({{u"piece"_s, static_cast<int>(text.size() / 4)}, {u"pause"_s, 0.1},
+                  {u"cut"_s, text.size() / 2}, {u"then"_s, QString::fromLatin1(how)}},
             text);
         expectWaitsForCancel(progress, how);
     }
-    serve({{QStringLiteral("length"), text.size() * 2}}, text);
-    expectWaitsForCancel(progress + QStringLiteral("50.000% of 0.1MB"), "wrong length");
+    serve({{u"length"_s, text.size() * 2}}, text);
+    expectWaitsForCancel(progress + u"50.000% of 0.1MB"_s, "wrong length");
     web.stop();
-    expectWaitsForCancel(QStringLiteral("Getting download information..."), "no server");
+    expectWaitsForCancel(u"Getting download information..."_s, "no server");
 }
 
 TEST_F(Refresh, FromAServerThatIsNotTrustedWaitsToBeCancelled)
@@ -138,12 +137,12 @@ TEST_F(Refresh, FromAServerThatIsNotTrustedWaitsToBeCancelled)
 TEST_F(Refresh, ReadsWhateverBodyArrivesWithWhateverStatus)
 {
     RefreshingUser user(files);
-    serve({{QStringLiteral("status"), 404}}, "There is no such page.\n");
+    serve({{u"status"_s, 404}}, "There is no such page.\n");
     user.refresh();
-    EXPECT_EQ(user.labels.last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.last(), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 10);
-    expectFiles({QStringLiteral("oui.csv"), QStringLiteral("oui.db")});
-    serve({{QStringLiteral("status"), 404}}, registryOf(3));
+    expectFiles({u"oui.csv"_s, u"oui.db"_s});
+    serve({{u"status"_s, 404}}, registryOf(3));
     user.refresh();
     EXPECT_EQ(user.database.count(), 3);
 }
@@ -151,8 +150,8 @@ TEST_F(Refresh, ReadsWhateverBodyArrivesWithWhateverStatus)
 TEST_F(Refresh, FollowsARedirect)
 {
     RefreshingUser user(files);
-    web.serve("/oui/oui.csv", {{QStringLiteral("redirect"), QStringLiteral("/elsewhere.csv")}});
-    web.serve("/elsewhere.csv", {{QStringLiteral("body"), QString::fromUtf8(registryOf(7))}});
+    web.serve("/oui/oui.csv", {{u"redirect"_s, u"/elsewhere.csv"_s}});
+    web.serve("/elsewhere.csv", {{u"body"_s, QString::fromUtf8(registryOf(7))}});
     user.refresh();
     EXPECT_EQ(user.database.count(), 7);
 }
@@ -160,12 +159,12 @@ TEST_F(Refresh, FollowsARedirect)
 TEST_F(Refresh, CancelledWhenFirstBytesAreThereCanBeStartedAgain)
 {
     RefreshingUser user(files);
-    serve({{QStringLiteral("piece"), 100}, {QStringLiteral("pause"), 0.05}}, registryOf(500));
+    serve({{u"piece"_s, 100}, {u"pause"_s, 0.05}}, registryOf(500));
     user.pane.pressButton();
     EXPECT_TRUE(eventually([&] { return user.pane.state().progressShown; }));
     user.pane.pressButton();
     EXPECT_TRUE(user.isIdle());
-    EXPECT_EQ(user.labels.last(), QLatin1String("Download cancelled..."));
+    EXPECT_EQ(user.labels.last(), "Download cancelled..."_L1);
     serve({}, registryOf(500));
     user.refresh();
     EXPECT_EQ(user.database.count(), 500);
@@ -175,13 +174,12 @@ TEST_F(Refresh, CancelledDuringTheImportIsCarriedOut)
 {
     RefreshingUser user(files);
     serveRealFile();
-    user.refreshUntil(QStringLiteral("Processing data..."));
+    user.refreshUntil(u"Processing data..."_s);
     user.pane.pressButton();
     EXPECT_TRUE(user.isIdle());
     EXPECT_TRUE(eventually([&] { return user.database.count() > 30'000; }, 60s));
-    EXPECT_TRUE(
-        eventually([&] { return user.labels.last() != QLatin1String("Download cancelled..."); }));
-    expectFiles({QStringLiteral("oui.db")});
+    EXPECT_TRUE(eventually([&] { return user.labels.last() != "Download cancelled..."_L1; }));
+    expectFiles({u"oui.db"_s});
 }
 
 TEST_F(Refresh, StartedTwiceAtOnceIsOneImportAfterTheOther)
@@ -192,7 +190,7 @@ TEST_F(Refresh, StartedTwiceAtOnceIsOneImportAfterTheOther)
     int completed = 0;
     QObject::connect(
         &user.import, &RegistryImport::downloadCompleted, [&completed] { ++completed; });
-    const QString csv = folder.filePath(QStringLiteral("download"));
+    const QString csv = folder.filePath(u"download"_s);
     const QList<int> sizes = {20'000, 15'000, 10'000, 5'000};
     for (const int size : sizes) {
         write(csv, registryOf(size));
@@ -204,7 +202,7 @@ TEST_F(Refresh, StartedTwiceAtOnceIsOneImportAfterTheOther)
     EXPECT_TRUE(eventually([&] { return ended == sizes.size(); }, 60s));
     EXPECT_EQ(completed, sizes.size());
     EXPECT_EQ(user.database.count(), 5'000);
-    expectFiles({QStringLiteral("oui.db")});
+    expectFiles({u"oui.db"_s});
 }
 
 TEST_F(Refresh, LeavesEveryQuestionAWholeAnswer)
@@ -219,7 +217,7 @@ TEST_F(Refresh, LeavesEveryQuestionAWholeAnswer)
             const qlonglong count = database.count();
             const qsizetype listed = database.displayStrings().size();
             const bool whole = (count == 10 || count == 2000) && (listed == 10 || listed == 2000) &&
-                               database.lookup(QStringLiteral("000007"));
+                               database.lookup(u"000007"_s);
             broken += whole ? 0 : 1;
             ++answers;
         }
@@ -242,9 +240,9 @@ TEST_F(Refresh, InAFolderForReadingOnlyFails)
     QFile::setPermissions(files.folder, QFile::ReadOwner | QFile::ExeOwner);
     user.refresh();
     QFile::setPermissions(files.folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(user.labels.last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.last(), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 10);
-    expectFiles({QStringLiteral("oui.db")});
+    expectFiles({u"oui.db"_s});
 }
 
 TEST_F(Refresh, OfADatabaseForReadingOnlyFailsAndCompletes)
@@ -255,7 +253,7 @@ TEST_F(Refresh, OfADatabaseForReadingOnlyFailsAndCompletes)
     QFile::setPermissions(files.liveDatabase(), QFile::ReadOwner);
     user.refreshToCompletion();
     ASSERT_GE(user.labels.size(), 2);
-    EXPECT_EQ(user.labels.at(user.labels.size() - 2), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(user.labels.at(user.labels.size() - 2), "Parsing file failed..."_L1);
     EXPECT_EQ(user.database.count(), 10);
 }
 
@@ -270,7 +268,7 @@ TEST_F(Refresh, ThatIsAbandonedInAnyStateHarmsNobody)
     RefreshingUser user(files);
     user.refresh();
     EXPECT_GT(user.database.count(), 30'000);
-    expectFiles({QStringLiteral("oui.db")});
+    expectFiles({u"oui.db"_s});
 }
 
 } // namespace

@@ -5,11 +5,13 @@
 #include "unit/app/ProgramOnFakes.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
 
-const QString lowerCaseAddress = QStringLiteral("3c:22:fb:00:00:01");
+const QString lowerCaseAddress = u"3c:22:fb:00:00:01"_s;
 const std::pair terminateLoginItem(
     notifications::terminateLoginHelper, notifications::applicationObject);
 
@@ -31,7 +33,7 @@ TEST_F(EventWiringTest, TheDisplayCaseChangesWhereverAnAddressIsShown)
     EXPECT_EQ(machine.settings.getDictionary(keys::currentInterfaceDict).value(record::current),
         lowerCaseAddress);
     for (const QString &title : menuTitles()) {
-        EXPECT_FALSE(title.contains(QStringLiteral("FB"))) << qPrintable(title);
+        EXPECT_FALSE(title.contains(u"FB"_s)) << qPrintable(title);
     }
 }
 
@@ -45,10 +47,10 @@ TEST_F(EventWiringTest, AnotherProgramThatChangesASettingCausesTheSameReaction)
 TEST_F(EventWiringTest, ANewCurrentInterfaceRecordRefillsTheAddressField)
 {
     QVariantMap record = machine.settings.getDictionary(keys::currentInterfaceDict);
-    record[record::current] = QStringLiteral("02:00:00:00:00:99");
+    record[record::current] = u"02:00:00:00:00:99"_s;
     machine.settings.set(keys::currentInterfaceDict, record);
     machine.scheduler.runPending();
-    EXPECT_EQ(window().fieldText, QStringLiteral("02:00:00:00:00:99"));
+    EXPECT_EQ(window().fieldText, u"02:00:00:00:00:99"_s);
 }
 
 TEST_F(EventWiringTest, OneSecondAfterAChangeOfStartAtLoginTheLoginItemIsToldToQuit)
@@ -94,23 +96,23 @@ TEST_F(EventWiringTest, OneSystemNetworkChangeIsExactlyOneBroadcast)
 
 TEST_F(EventWiringTest, ANetworkChangeRefreshesTheSelectedInterface)
 {
-    machine.host.giveAddress(enp1s0, QStringLiteral("02:00:00:00:00:77"));
+    machine.host.giveAddress(enp1s0, u"02:00:00:00:00:77"_s);
     machine.networkChanges.networkChanges();
     machine.scheduler.runPending();
-    EXPECT_EQ(window().fieldText, QStringLiteral("02:00:00:00:00:77"));
+    EXPECT_EQ(window().fieldText, u"02:00:00:00:00:77"_s);
 }
 
 TEST_F(EventWiringTest, TheMenuFollowsANetworkChangeAtOnce)
 {
-    machine.host.giveAddress(enp2s0, QStringLiteral("02:00:00:00:00:77"));
+    machine.host.giveAddress(enp2s0, u"02:00:00:00:00:77"_s);
     machine.networkChanges.networkChanges();
-    EXPECT_TRUE(menuTitles().contains(QStringLiteral("    Current Address · 02:00:00:00:00:77")));
+    EXPECT_TRUE(menuTitles().contains(u"    Current Address · 02:00:00:00:00:77"_s));
 }
 
 TEST_F(EventWiringTest, TheMenuFollowsAChangedAddressInALaterTurn)
 {
-    const QString title = QStringLiteral("    Current Address · 02:00:00:00:00:77");
-    setDeviceRecord(enp2s0, record::current, QStringLiteral("02:00:00:00:00:77"));
+    const QString title = u"    Current Address · 02:00:00:00:00:77"_s;
+    setDeviceRecord(enp2s0, record::current, u"02:00:00:00:00:77"_s);
     machine.notifications.post(notifications::addressUpdated);
     EXPECT_FALSE(menuTitles().contains(title));
     machine.scheduler.runPending();
@@ -132,7 +134,7 @@ TEST_F(EventWiringTest, TheProgramEndsOnceItsRecordsAreSaved)
         EXPECT_FALSE(context().hasChanges());
         ++granted;
     });
-    insertRule(randomOnce(enp1s0, QStringLiteral("Home")));
+    insertRule(randomOnce(enp1s0, u"Home"_s));
     ASSERT_TRUE(context().hasChanges());
     features().presence.quit();
     EXPECT_EQ(granted, 1);

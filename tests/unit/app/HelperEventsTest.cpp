@@ -5,9 +5,11 @@
 #include "unit/app/StateOrder.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString newDevice = QStringLiteral("enp9s0");
+const QString newDevice = u"enp9s0"_s;
 
 class HelperEventsTest : public ProgramOnFakes
 {
@@ -41,20 +43,17 @@ protected:
         machine.settings.set(keys::deviceDict, table);
         m_isStale = true;
         machine.host.unplug(enp1s0);
-        machine.host.plug(
-            {QStringLiteral("Ethernet"), newDevice, {}, QStringLiteral("3c:22:fb:00:00:09"), {}});
+        machine.host.plug({u"Ethernet"_s, newDevice, {}, u"3c:22:fb:00:00:09"_s, {}});
     }
     /// The steps that put right what makeTableStale() did.
     void expectRefresh(StateOrder &order)
     {
-        order.expectSignal(
-            QStringLiteral("buttons"), features().mainWindow, &MainWindowModel::infoButtonsReset);
-        order.expect(QStringLiteral("hex values"),
+        order.expectSignal(u"buttons"_s, features().mainWindow, &MainWindowModel::infoButtonsReset);
+        order.expect(u"hex values"_s,
             [this] { return m_isStale && deviceRecord(enp1s0).contains(record::current); });
-        order.expect(QStringLiteral("interfaces"),
-            [this] { return features().devices.table.contains(newDevice); });
         order.expect(
-            QStringLiteral("selection"), [this] { return window().devices.contains(newDevice); });
+            u"interfaces"_s, [this] { return features().devices.table.contains(newDevice); });
+        order.expect(u"selection"_s, [this] { return window().devices.contains(newDevice); });
         order.followSetting(machine.settings, keys::deviceDict);
         order.follow(features().mainWindow, &MainWindowModel::changed);
     }
@@ -86,7 +85,7 @@ TEST_F(HelperEventsTest, AnUpdatedHelperIsAskedForItsVersion)
 
 TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
 {
-    machine.distributed.deliver(notifications::helperUpdated, QStringLiteral("somebody.else"));
+    machine.distributed.deliver(notifications::helperUpdated, u"somebody.else"_s);
     machine.scheduler.runPending();
     EXPECT_TRUE(machine.helper.journal().isEmpty());
 }
@@ -94,21 +93,19 @@ TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
 TEST_F(HelperEventsTest, ItsStatusIsFollowedInItsOrder)
 {
     StateOrder order;
-    order.expect(QStringLiteral("field and hint"),
-        [this] { return window().readMeVisible && !window().fieldEnabled; });
+    order.expect(
+        u"field and hint"_s, [this] { return window().readMeVisible && !window().fieldEnabled; });
+    order.expectSignal(u"hint style"_s, features().mainWindow, &MainWindowModel::readMeStyleReset);
     order.expectSignal(
-        QStringLiteral("hint style"), features().mainWindow, &MainWindowModel::readMeStyleReset);
-    order.expectSignal(
-        QStringLiteral("rules"), features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated);
+        u"rules"_s, features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated);
     QObject::connect(&features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
         [this] { makeTableStale(); });
     expectRefresh(order);
-    order.expectSignal(
-        QStringLiteral("all of it"), features().helper, &XPCMethods::helperStatusRead);
+    order.expectSignal(u"all of it"_s, features().helper, &XPCMethods::helperStatusRead);
     order.expectBroadcast(
-        QStringLiteral("broadcast"), machine.notifications, notifications::helperStatusChanged);
+        u"broadcast"_s, machine.notifications, notifications::helperStatusChanged);
 
-    machine.helper.version = QStringLiteral("1.9");
+    machine.helper.version = u"1.9"_s;
     deliverHelperUpdated();
     EXPECT_EQ(order.seen(), order.expected());
 }
@@ -121,13 +118,12 @@ TEST_F(HelperEventsTest, AnInstallationFromTheWindowIsFollowedInItsOrder)
     makeTableStale();
 
     StateOrder order;
-    order.expect(QStringLiteral("hint hidden"), [this] { return !window().readMeVisible; });
+    order.expect(u"hint hidden"_s, [this] { return !window().readMeVisible; });
     expectRefresh(order);
-    order.expectSignal(
-        QStringLiteral("window opened"), features().presence, &Presence::windowOpened);
+    order.expectSignal(u"window opened"_s, features().presence, &Presence::windowOpened);
     installFromWindow();
     EXPECT_EQ(order.seen(), order.expected());
-    EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("version")));
+    EXPECT_TRUE(machine.helper.journal().contains(u"version"_s));
 }
 
 TEST_F(HelperEventsTest, AFailedInstallationChangesNothing)

@@ -7,12 +7,14 @@
 #include "unit/vendors/VendorFolder.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
 
-const QString loginHelper = QStringLiteral("com.orvandel.Quillon4Helper");
-const QString chosenVendor = QStringLiteral("Zebra (00000D)");
+const QString loginHelper = u"com.orvandel.Quillon4Helper"_s;
+const QString chosenVendor = u"Zebra (00000D)"_s;
 
 class LaunchSequenceTest : public ProgramOnFakes
 {
@@ -20,21 +22,20 @@ protected:
     /// A vendor database that the program is shipped with.
     QString shippedVendors() const
     {
-        const QString path = machine.data.filePath(QStringLiteral("shipped.db"));
+        const QString path = machine.data.filePath(u"shipped.db"_s);
         fillVendors(path, 2);
         return path;
     }
     void fillVendors(const QString &path, int count) const
     {
-        const QString csv = machine.data.filePath(QStringLiteral("vendors.csv"));
+        const QString csv = machine.data.filePath(u"vendors.csv"_s);
         writeFile(csv, registryOf(count));
         EXPECT_TRUE(fillVendorTable(csv, path));
     }
     void saveAddress()
     {
-        machine.settings.set(
-            keys::savedAddresses, QVariantMap{{QStringLiteral("02:00:00:00:00:AA"),
-                                      QVariantMap{{savedentry::name, QStringLiteral("Mine")}}}});
+        machine.settings.set(keys::savedAddresses,
+            QVariantMap{{u"02:00:00:00:00:AA"_s, QVariantMap{{savedentry::name, u"Mine"_s}}}});
     }
     int windowsOpenedByStart()
     {
@@ -52,10 +53,9 @@ TEST_F(LaunchSequenceTest, TheWindowComesBeforeTheNetworkAndTheVendorTexts)
 {
     create();
     StateOrder order;
-    order.expect(QStringLiteral("window"), [this] { return !window().versionLabel.isEmpty(); });
-    order.expectSignal(
-        QStringLiteral("network"), features().networks.wifi, &WiFiNetwork::networkButtonShown);
-    order.expect(QStringLiteral("vendor texts"),
+    order.expect(u"window"_s, [this] { return !window().versionLabel.isEmpty(); });
+    order.expectSignal(u"network"_s, features().networks.wifi, &WiFiNetwork::networkButtonShown);
+    order.expect(u"vendor texts"_s,
         [this] { return !features().vendors.pane.state().updatedLabel.isEmpty(); });
     order.follow(features().mainWindow, &MainWindowModel::changed);
     order.follow(features().vendors.pane, &VendorPaneModel::changed);
@@ -69,14 +69,11 @@ TEST_F(LaunchSequenceTest, BeforeTheEndOfTheLaunchTheDatabaseIsInPlaceAndTheHelp
     create(shippedVendors());
     program->launch().awakeFromNib();
     StateOrder order;
-    order.expectSignal(
-        QStringLiteral("application hidden"), features().presence, &Presence::windowHidden);
-    order.expect(QStringLiteral("vendors counted"), [this] {
-        return features().vendors.pane.state().vendorCount ==
-               QStringLiteral("2 Vendor Identifiers");
+    order.expectSignal(u"application hidden"_s, features().presence, &Presence::windowHidden);
+    order.expect(u"vendors counted"_s, [this] {
+        return features().vendors.pane.state().vendorCount == u"2 Vendor Identifiers"_s;
     });
-    order.expect(
-        QStringLiteral("helper asked"), [this] { return !machine.helper.journal().isEmpty(); });
+    order.expect(u"helper asked"_s, [this] { return !machine.helper.journal().isEmpty(); });
     order.follow(features().vendors.pane, &VendorPaneModel::changed);
     program->launch().applicationWillFinishLaunching();
     order.look();
@@ -94,45 +91,38 @@ TEST_F(LaunchSequenceTest, TheStepsComeInTheirOrder)
     program->launch().applicationWillFinishLaunching();
     // What the steps have to put right.
     features().mainWindow.setHelperInstalled(true);
-    features().mainWindow.editField(QStringLiteral("02:00:00:00:00:01"));
-    features().rules.countdown.showCountdown({}, QStringLiteral("of the last start"), false);
+    features().mainWindow.editField(u"02:00:00:00:00:01"_s);
+    features().rules.countdown.showCountdown({}, u"of the last start"_s, false);
 
     StateOrder order;
-    order.expect(QStringLiteral("records open and rules listed"), [this] {
+    order.expect(u"records open and rules listed"_s, [this] {
         return features().history.store.hasManagedObjectContext() &&
                !features().rules.list.state().symbol.isEmpty();
     });
-    order.expectSignal(
-        QStringLiteral("Dock icon"), features().presence, &Presence::dockIconHiddenChanged);
-    order.expect(QStringLiteral("external address unknown"), [this] {
-        return machine.settings.getString(keys::externalIPAddress) == QStringLiteral("Unknown...");
-    });
-    order.expectSignal(
-        QStringLiteral("status item"), features().presence, &Presence::statusItemShownChanged);
-    order.expect(QStringLiteral("leave to notify asked for"),
+    order.expectSignal(u"Dock icon"_s, features().presence, &Presence::dockIconHiddenChanged);
+    order.expect(u"external address unknown"_s,
+        [this] { return machine.settings.getString(keys::externalIPAddress) == u"Unknown..."_s; });
+    order.expectSignal(u"status item"_s, features().presence, &Presence::statusItemShownChanged);
+    order.expect(u"leave to notify asked for"_s,
         [this] { return machine.userNotifications.authorizationRequests == 1; });
-    order.expectSignal(
-        QStringLiteral("window opened"), features().presence, &Presence::windowOpened);
-    order.expect(QStringLiteral("nothing to apply"), [this] { return !window().updateEnabled; });
-    order.expect(QStringLiteral("no countdown"),
-        [this] { return features().rules.countdown.state().label.isEmpty(); });
-    order.expect(QStringLiteral("vendors counted again"), [this] {
-        return features().vendors.pane.state().vendorCount ==
-               QStringLiteral("3 Vendor Identifiers");
+    order.expectSignal(u"window opened"_s, features().presence, &Presence::windowOpened);
+    order.expect(u"nothing to apply"_s, [this] { return !window().updateEnabled; });
+    order.expect(
+        u"no countdown"_s, [this] { return features().rules.countdown.state().label.isEmpty(); });
+    order.expect(u"vendors counted again"_s, [this] {
+        return features().vendors.pane.state().vendorCount == u"3 Vendor Identifiers"_s;
     });
-    order.expect(QStringLiteral("quick addresses"),
+    order.expect(u"quick addresses"_s,
         [this] { return !features().networks.savedLists.state().quickAddresses.isEmpty(); });
-    order.expectSignal(
-        QStringLiteral("buttons"), features().mainWindow, &MainWindowModel::infoButtonsReset);
-    order.expect(QStringLiteral("interfaces read"),
-        [this] { return features().devices.table.contains(enp2s0); });
-    order.expect(QStringLiteral("interface selected"),
+    order.expectSignal(u"buttons"_s, features().mainWindow, &MainWindowModel::infoButtonsReset);
+    order.expect(
+        u"interfaces read"_s, [this] { return features().devices.table.contains(enp2s0); });
+    order.expect(u"interface selected"_s,
         [this] { return features().devices.currentInterface.device() == enp1s0; });
-    order.expect(QStringLiteral("vendor field"), [this] {
-        return features().vendors.field.state().text == QStringLiteral("Random Address");
-    });
-    order.expect(QStringLiteral("network changes followed"),
-        [this] { return machine.networkChanges.isStarted(); });
+    order.expect(u"vendor field"_s,
+        [this] { return features().vendors.field.state().text == u"Random Address"_s; });
+    order.expect(
+        u"network changes followed"_s, [this] { return machine.networkChanges.isStarted(); });
 
     order.follow(features().rules.list, &RulesListModel::changed);
     order.follow(features().mainWindow, &MainWindowModel::changed);
@@ -146,7 +136,7 @@ TEST_F(LaunchSequenceTest, TheStepsComeInTheirOrder)
     }
     // Counted again means: what changed since the first count is seen.
     QObject::connect(&features().presence, &Presence::windowOpened,
-        [this] { fillVendors(machine.data.filePath(QStringLiteral("oui.db")), 3); });
+        [this] { fillVendors(machine.data.filePath(u"oui.db"_s), 3); });
 
     program->launch().applicationDidFinishLaunching();
     order.look();
@@ -183,14 +173,14 @@ TEST_F(LaunchSequenceTest, RandomizingIsNotOfferedUntilTheHelperIsAsked)
     program->launch().awakeFromNib();
     features().mainWindow.setHelperInstalled(true);
     program->launch().applicationWillFinishLaunching();
-    EXPECT_FALSE(window().randomiseEnabled) << "whatever enabled it before";
+    EXPECT_FALSE(window().randomizeEnabled) << "whatever enabled it before";
 }
 
 TEST_F(LaunchSequenceTest, BeforeTheHelperAnsweredNothingCanBeChanged)
 {
     create();
     start();
-    EXPECT_FALSE(window().randomiseEnabled);
+    EXPECT_FALSE(window().randomizeEnabled);
     EXPECT_FALSE(window().restoreEnabled);
     EXPECT_FALSE(window().updateEnabled);
     EXPECT_FALSE(window().fieldEnabled);
@@ -203,9 +193,9 @@ TEST_F(LaunchSequenceTest, TheHelperIsAuthorizedBeforeItsVersionIsAsked)
     start();
     machine.scheduler.runPending();
     const QStringList asked = machine.helper.journal();
-    EXPECT_EQ(asked.indexOf(QStringLiteral("authorize")), 0);
-    EXPECT_LT(asked.indexOf(QStringLiteral("rights")), asked.indexOf(QStringLiteral("endpoint")));
-    EXPECT_TRUE(asked.contains(QStringLiteral("version")));
+    EXPECT_EQ(asked.indexOf(u"authorize"_s), 0);
+    EXPECT_LT(asked.indexOf(u"rights"_s), asked.indexOf(u"endpoint"_s));
+    EXPECT_TRUE(asked.contains(u"version"_s));
 }
 
 TEST_F(LaunchSequenceTest, WithoutTheServiceTheHintIsShownAndTheFieldStaysDisabled)
@@ -214,7 +204,7 @@ TEST_F(LaunchSequenceTest, WithoutTheServiceTheHintIsShownAndTheFieldStaysDisabl
     run();
     EXPECT_TRUE(window().readMeVisible);
     EXPECT_FALSE(window().fieldEnabled);
-    EXPECT_FALSE(window().randomiseEnabled);
+    EXPECT_FALSE(window().randomizeEnabled);
 }
 
 TEST_F(LaunchSequenceTest, TheDevicesAreReadAndTheAddressFieldIsFilled)
@@ -224,7 +214,7 @@ TEST_F(LaunchSequenceTest, TheDevicesAreReadAndTheAddressFieldIsFilled)
     start();
     machine.scheduler.runPending();
     EXPECT_EQ(window().devices, (QStringList{enp1s0, enp2s0}));
-    EXPECT_EQ(window().fieldText, QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(window().fieldText, u"3C:22:FB:00:00:01"_s);
 }
 
 TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
@@ -233,18 +223,18 @@ TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
     silenceHelper();
     create();
     StateOrder order;
-    order.expect(QStringLiteral("devices offered"), [this] {
+    order.expect(u"devices offered"_s, [this] {
         return window().devices == QStringList{enp1s0, enp2s0};
     });
-    order.expect(QStringLiteral("network changes followed"),
-        [this] { return machine.networkChanges.isStarted(); });
+    order.expect(
+        u"network changes followed"_s, [this] { return machine.networkChanges.isStarted(); });
     order.follow(features().mainWindow, &MainWindowModel::changed);
     start();
     order.look();
     EXPECT_EQ(order.seen(), order.expected());
     machine.scheduler.runPending();
     EXPECT_EQ(window().selectedDevice, enp2s0);
-    EXPECT_EQ(window().fieldText, QStringLiteral("3C:22:FB:00:00:02"));
+    EXPECT_EQ(window().fieldText, u"3C:22:FB:00:00:02"_s);
 }
 
 TEST_F(LaunchSequenceTest, StartedAtLoginAndHiddenNoWindowOpensButDevicesAreRead)
@@ -252,7 +242,7 @@ TEST_F(LaunchSequenceTest, StartedAtLoginAndHiddenNoWindowOpensButDevicesAreRead
     machine.runningApplications.running.insert(loginHelper);
     machine.settings.setBool(keys::hideOnLaunch, true);
     EXPECT_EQ(windowsOpenedByStart(), 0);
-    EXPECT_TRUE(machine.host.journal().contains(QStringLiteral("ports")));
+    EXPECT_TRUE(machine.host.journal().contains(u"ports"_s));
     EXPECT_TRUE(program->launch().startupCheck());
 }
 
@@ -271,20 +261,20 @@ TEST_F(LaunchSequenceTest, StartedByTheUserHidingDoesNotApply)
 
 TEST_F(LaunchSequenceTest, AKnownExternalAddressIsKept)
 {
-    machine.settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    machine.settings.set(keys::externalIPAddress, u"198.51.100.7"_s);
     create();
     start();
-    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("198.51.100.7"));
+    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), u"198.51.100.7"_s);
 }
 
 TEST_F(LaunchSequenceTest, QuittingForgetsTheExternalAddressDurably)
 {
     run();
-    machine.settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    machine.settings.set(keys::externalIPAddress, u"198.51.100.7"_s);
     machine.settings.clearJournal();
     program->launch().applicationWillTerminate();
-    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), QStringLiteral("Unknown..."));
-    EXPECT_EQ(machine.settings.journal().last(), QStringLiteral("flush"));
+    EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), u"Unknown..."_s);
+    EXPECT_EQ(machine.settings.journal().last(), u"flush"_s);
 }
 
 TEST_F(LaunchSequenceTest, ASecondStartOpensTheWindow)

@@ -1,21 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 #include <QUrl>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString homeBssid = QStringLiteral("02:00:00:00:aa:01");
+const QString homeBssid = u"02:00:00:00:aa:01"_s;
 
-class NetworkChangeTest : public RuleMachine
+class NetworkChangeTest : public RuleFixture
 {
 protected:
     NetworkChangeTest()
     {
-        addRule({.name = QStringLiteral("wired")});
-        addRule({.name = QStringLiteral("wifi"), .device = en1});
+        addRule({.name = u"wired"_s});
+        addRule({.name = u"wifi"_s, .device = en1});
     }
 };
 
@@ -41,7 +43,7 @@ TEST_F(NetworkChangeTest, AlwaysFinishesWithTheListOfRules)
     networkEvent();
     EXPECT_EQ(list.state().rows.size(), 1) << "also when nothing changed";
     list.toggle(0, true);
-    select(QStringLiteral("bridge0"));
+    select(u"bridge0"_s);
     networkEvent();
     EXPECT_TRUE(list.state().rows.isEmpty());
     select(en0);
@@ -51,6 +53,22 @@ TEST_F(NetworkChangeTest, AlwaysFinishesWithTheListOfRules)
     giveLease(en0);
     networkEvent();
     EXPECT_TRUE(activeWhenShown) << "after the evaluation";
+}
+
+TEST_F(NetworkChangeTest, OfTheSelectedInterfaceReadsTheKernelOnceAndNeverWaitsForTheDisk)
+{
+    // A rule was carried out before: whether its device is still there has to be known.
+    giveLease(en0);
+    networkEvent();
+    ASSERT_EQ(changesOf(en0).size(), 1);
+    host.clearJournal();
+    settings.clearJournal();
+    reachability.reachable = false;
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(host.journal(), QStringList(u"ports"_s));
+    EXPECT_TRUE(settings.journal().contains(u"synchronize"_s));
+    EXPECT_FALSE(settings.journal().contains(u"flush"_s));
 }
 
 TEST_F(NetworkChangeTest, CarriesTheRuleOutWhenTheInternetCanBeReached)
@@ -67,7 +85,7 @@ TEST_F(NetworkChangeTest, OnlyRecordsWhatIsInForceWhenItCannot)
     giveLease(en0);
     networkEvent();
     EXPECT_EQ(hasRule(en0), QVariant(1));
-    EXPECT_EQ(ruleInForce(en0), QStringLiteral("wired"));
+    EXPECT_EQ(ruleInForce(en0), u"wired"_s);
     EXPECT_TRUE(helper.changes().isEmpty());
     switches.updateEnabledWithID(true, queries.managedRuleArrayForDevice(en0).first().objID());
     scheduler.runPending();
@@ -87,27 +105,27 @@ TEST_F(NetworkChangeTest, TakesTheFirstInterfaceInTheOrderOfTheTableOnly)
 
 TEST_F(NetworkChangeTest, DoesNotCountAnInterfaceThatIsNew)
 {
-    host.plug({.port = QStringLiteral("USB Ethernet"),
-        .device = QStringLiteral("en5"),
+    host.plug({.port = u"USB Ethernet"_s,
+        .device = u"en5"_s,
         .factory = {},
-        .address = QStringLiteral("02:00:00:00:00:55"),
+        .address = u"02:00:00:00:00:55"_s,
         .ipv4 = {}});
-    addRule({.name = QStringLiteral("usb"), .device = QStringLiteral("en5")});
+    addRule({.name = u"usb"_s, .device = u"en5"_s});
     networkEvent();
     EXPECT_TRUE(helper.changes().isEmpty());
-    EXPECT_TRUE(table.contains(QStringLiteral("en5")));
-    giveLease(QStringLiteral("en5"));
+    EXPECT_TRUE(table.contains(u"en5"_s));
+    giveLease(u"en5"_s);
     networkEvent();
-    EXPECT_EQ(changesOf(QStringLiteral("en5")).size(), 1);
+    EXPECT_EQ(changesOf(u"en5"_s).size(), 1);
 }
 
 TEST_F(NetworkChangeTest, OfTheWifiInterfaceReadsTheNetworkBeforeRulesAreMatched)
 {
-    joinWifi(QStringLiteral("Home"), homeBssid);
+    joinWifi(u"Home"_s, homeBssid);
     giveLease(en1);
     networkEvent();
     EXPECT_EQ(radio.reads, 1);
-    EXPECT_EQ(ruleInForce(en1), QStringLiteral("wifi"));
+    EXPECT_EQ(ruleInForce(en1), u"wifi"_s);
     EXPECT_EQ(changesOf(en1).size(), 1);
     giveLease(en0);
     networkEvent();
@@ -134,7 +152,7 @@ TEST_F(NetworkChangeTest, ThatLeavesTheWifiNetworkEndsTheCountdown)
     for (const Rule &rule : queries.managedRuleArrayForDevice(en1)) {
         rule.setChangeAction(Rule::every);
     }
-    joinWifi(QStringLiteral("Home"), homeBssid);
+    joinWifi(u"Home"_s, homeBssid);
     giveLease(en1);
     networkEvent();
     ASSERT_TRUE(isCountingDown(en1));
@@ -146,19 +164,17 @@ TEST_F(NetworkChangeTest, ThatLeavesTheWifiNetworkEndsTheCountdown)
     EXPECT_FALSE(isCountingDown(en1));
 }
 
-class NetworkChangeToSavedNetworks : public RuleMachine
+class NetworkChangeToSavedNetworks : public RuleFixture
 {
 protected:
     NetworkChangeToSavedNetworks()
     {
-        addRule({.name = QStringLiteral("any"), .device = en1});
-        addRule({.name = QStringLiteral("unknown"), .device = en1, .network = anUnknownNetwork});
-        addRule({.name = QStringLiteral("home"), .device = en1, .network = homeBssid});
-        saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
-        saveNetwork(QStringLiteral("Office"), QStringLiteral("Office"),
-            QStringLiteral("02:00:00:00:cc:01"), false);
-        saveNetwork(QStringLiteral("Mesh"), QStringLiteral("Mesh"),
-            QStringLiteral("02:00:00:00:bb:01"), true);
+        addRule({.name = u"any"_s, .device = en1});
+        addRule({.name = u"unknown"_s, .device = en1, .network = anUnknownNetwork});
+        addRule({.name = u"home"_s, .device = en1, .network = homeBssid});
+        saveNetwork(u"Home"_s, u"Home"_s, homeBssid, false);
+        saveNetwork(u"Office"_s, u"Office"_s, u"02:00:00:00:cc:01"_s, false);
+        saveNetwork(u"Mesh"_s, u"Mesh"_s, u"02:00:00:00:bb:01"_s, true);
     }
     QString inForceOn(const QString &ssid, const QString &bssid)
     {
@@ -171,25 +187,22 @@ protected:
 
 TEST_F(NetworkChangeToSavedNetworks, ASavedNetworkHasItsOwn)
 {
-    EXPECT_EQ(inForceOn(QStringLiteral("Home"), homeBssid.toUpper()), QStringLiteral("home"));
+    EXPECT_EQ(inForceOn(u"Home"_s, homeBssid.toUpper()), u"home"_s);
 }
 
 TEST_F(NetworkChangeToSavedNetworks, AnotherSavedNetworkHasTheOneForAny)
 {
-    EXPECT_EQ(inForceOn(QStringLiteral("Office"), QStringLiteral("02:00:00:00:cc:01")),
-        QStringLiteral("any"));
+    EXPECT_EQ(inForceOn(u"Office"_s, u"02:00:00:00:cc:01"_s), u"any"_s);
 }
 
 TEST_F(NetworkChangeToSavedNetworks, ANetworkThatIsNotSavedHasTheOneForUnknownNetworks)
 {
-    EXPECT_EQ(inForceOn(QStringLiteral("Cafe"), QStringLiteral("02:00:00:00:dd:01")),
-        QStringLiteral("unknown"));
+    EXPECT_EQ(inForceOn(u"Cafe"_s, u"02:00:00:00:dd:01"_s), u"unknown"_s);
 }
 
 TEST_F(NetworkChangeToSavedNetworks, ANetworkSavedByItsSsidIsKnownAtEveryAccessPoint)
 {
-    EXPECT_EQ(inForceOn(QStringLiteral("Mesh"), QStringLiteral("02:00:00:00:bb:99")),
-        QStringLiteral("any"));
+    EXPECT_EQ(inForceOn(u"Mesh"_s, u"02:00:00:00:bb:99"_s), u"any"_s);
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 using namespace std::chrono_literals;
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
@@ -14,13 +16,13 @@ inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
 
 /// An interface gets its network, the rule changes the address, and the change makes news itself:
 /// the link goes and comes, leases are lost and given. None of it may change the address again.
-class OneEventOneChangeTest : public RuleMachine
+class OneEventOneChangeTest : public RuleFixture
 {
 protected:
     OneEventOneChangeTest()
     {
-        addRule({.name = QStringLiteral("once")});
-        addRule({.name = QStringLiteral("once"), .device = en1});
+        addRule({.name = u"once"_s});
+        addRule({.name = u"once"_s, .device = en1});
         helper.changeTakes = 500ms;
     }
     /// The event: the interface is given a lease. The change is under way afterwards.
@@ -122,7 +124,7 @@ TEST_F(OneEventOneChangeTest, MakesOneChangeHoweverLateAnotherLeaseComes)
 
 TEST_F(OneEventOneChangeTest, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
 {
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     plugIn(en1);
     radio.leave();
     linkGoes(en1);
@@ -131,10 +133,10 @@ TEST_F(OneEventOneChangeTest, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetwo
     giveLease(en1);
     networkEvent();
     pass(1s);
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:99"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:99"_s);
     linkComes(en1);
     pass(1min);
-    EXPECT_EQ(ruleInForce(en1), QStringLiteral("once"));
+    EXPECT_EQ(ruleInForce(en1), u"once"_s);
     EXPECT_EQ(changesOf(en1).size(), 1);
 }
 
@@ -143,7 +145,7 @@ TEST_F(OneEventOneChangeTest, MakesOneChangeWhereAnotherProgramPutsTheAddressBac
     plugIn(en0);
     pass(10s);
     for (int time = 0; time < 20; ++time) {
-        host.giveAddress(en0, QStringLiteral("02:00:00:00:01:%1").arg(10 + time));
+        host.giveAddress(en0, u"02:00:00:00:01:%1"_s.arg(10 + time));
         networkEvent();
         pass(10s);
     }
@@ -185,9 +187,8 @@ TEST_F(OneEventOneChangeTest, OfAFixedAddressIsToldOnce)
     linkGoes(en0);
     linkComes(en0);
     pass(1min);
-    EXPECT_EQ(notifier.messages(),
-        (QList<FakeNotifier::Message>{{QStringLiteral("Ethernet Address Changed"),
-            QStringLiteral("Your new MAC Address is: ") + fixedAddress}}));
+    EXPECT_EQ(notifier.messages(), (QList<FakeNotifier::Message>{{u"Ethernet Address Changed"_s,
+                                       u"Your new MAC Address is: "_s + fixedAddress}}));
 }
 
 TEST_F(OneEventOneChangeTest, ThatFailsIsNotTriedAgainByItsOwnNews)
@@ -255,12 +256,12 @@ TEST_F(OneEventOneChangeUntil, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsC
 
 TEST_F(OneEventOneChangeUntil, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
 {
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     plugInAndSettle(en1);
     giveLease(en0);
     radio.leave();
     linkGoes(en1);
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     linkComes(en1);
     EXPECT_EQ(changesOf(en1).size(), 2);
 }
@@ -272,20 +273,20 @@ TEST_F(OneEventOneChangeUntil, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedO
     host.unplug(en0);
     networkEvent();
     host.plug(taken);
-    host.giveAddress(en0, QStringLiteral("02:00:00:00:00:55"));
+    host.giveAddress(en0, u"02:00:00:00:00:55"_s);
     networkEvent();
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
 TEST_F(OneEventOneChangeUntil, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenToGo)
 {
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     plugInAndSettle(en1);
-    joinWifi(QStringLiteral("Office"), QStringLiteral("02:00:00:00:cc:01"));
+    joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
     giveLease(en1);
     networkEvent();
     EXPECT_EQ(changesOf(en1).size(), 2);
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     giveLease(en1);
     networkEvent();
     EXPECT_EQ(changesOf(en1).size(), 3);
@@ -293,13 +294,13 @@ TEST_F(OneEventOneChangeUntil, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasN
 
 TEST_F(OneEventOneChangeUntil, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
 {
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     plugInAndSettle(en1);
-    joinWifi(QStringLiteral("Office"), QStringLiteral("02:00:00:00:cc:01"));
+    joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
     giveLease(en1);
     reachability.reachable = false;
     networkEvent();
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     giveLease(en1);
     reachability.reachable = true;
     networkEvent();
@@ -310,13 +311,13 @@ TEST_F(OneEventOneChangeUntil, AfterTheRuleWasEditedIsCarriedOut)
 {
     plugInAndSettle(en0);
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
-        rule.setName(QStringLiteral("renamed"));
+        rule.setName(u"renamed"_s);
     }
     giveLease(en0);
     networkEvent();
     EXPECT_EQ(changesOf(en0).size(), 1) << "under another name it is the same rule";
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
-        rule.setVendor(QStringLiteral("Maker (3C22FB)"));
+        rule.setVendor(u"Maker (3C22FB)"_s);
     }
     giveLease(en0);
     networkEvent();

@@ -3,7 +3,7 @@
 #include "app/RecordFailure.h"
 
 #include "fakes/FakeSettingsStore.h"
-#include "platform/AlertPresenter.h"
+#include "platform/desktop/AlertPresenter.h"
 #include "store/model/RecordFileError.h"
 #include "unit/store/RecordStoreFixture.h"
 
@@ -16,30 +16,29 @@
 #include <unistd.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QString reason(RecordFileError code)
 {
-    return reasonOf(recordFileError(code, QStringLiteral("as SQLite says it")));
+    return reasonOf(recordFileError(code, u"as SQLite says it"_s));
 }
 
 TEST(RecordFailure, WhatTheUserCanMendIsSaidInHisWords)
 {
-    EXPECT_EQ(reason(RecordFileError::Full), QStringLiteral("There is no room left on the disk."));
-    EXPECT_EQ(
-        reason(RecordFileError::Locked), QStringLiteral("Another program is using the file."));
-    EXPECT_EQ(reason(RecordFileError::InputOutput),
-        QStringLiteral("The disk could not be read or written."));
+    EXPECT_EQ(reason(RecordFileError::Full), u"There is no room left on the disk."_s);
+    EXPECT_EQ(reason(RecordFileError::Locked), u"Another program is using the file."_s);
+    EXPECT_EQ(reason(RecordFileError::InputOutput), u"The disk could not be read or written."_s);
 }
 
 TEST(RecordFailure, EverythingElseSpeaksForItself)
 {
-    EXPECT_EQ(reason(RecordFileError::Failed), QStringLiteral("as SQLite says it"));
-    EXPECT_EQ(reason(RecordFileError::CannotOpen), QStringLiteral("as SQLite says it"));
+    EXPECT_EQ(reason(RecordFileError::Failed), u"as SQLite says it"_s);
+    EXPECT_EQ(reason(RecordFileError::CannotOpen), u"as SQLite says it"_s);
     // The same number in another domain means something else.
-    const Error other{
-        posixErrorDomain, static_cast<int>(RecordFileError::Full), QStringLiteral("x")};
-    EXPECT_EQ(reasonOf(other), QStringLiteral("x"));
+    const Error other{posixErrorDomain, static_cast<int>(RecordFileError::Full), u"x"_s};
+    EXPECT_EQ(reasonOf(other), u"x"_s);
 }
 
 /// A user whose alerts can be read on standard error, where death tests look.
@@ -124,7 +123,7 @@ TEST_F(RecordFailureDeathTest, AFolderThatCannotBeReadEndsTheProcess)
 
 TEST_F(RecordFailureDeathTest, AFileInTheFoldersPlaceEndsTheProcess)
 {
-    const QString file = folder.filePath(QStringLiteral("occupied"));
+    const QString file = folder.filePath(u"occupied"_s);
     ASSERT_TRUE(write(file, "x"));
     EXPECT_EXIT(
         open(file), ::testing::KilledBySignal(SIGABRT), report("cannot be opened", cannotBeOpened));
@@ -133,11 +132,11 @@ TEST_F(RecordFailureDeathTest, AFileInTheFoldersPlaceEndsTheProcess)
 
 TEST_F(RecordFailureDeathTest, AFileOfANewerVersionEndsTheProcessPolitelyAndIsLeftAsItIs)
 {
-    insertRule(QStringLiteral("Home"));
+    insertRule(u"Home"_s);
     ASSERT_FALSE(context().save().has_value());
-    const QString newer = folder.filePath(QStringLiteral("newer"));
+    const QString newer = folder.filePath(u"newer"_s);
     ASSERT_TRUE(QDir().mkdir(newer));
-    const QString copy = newer + QStringLiteral("/Quillon.sqlite");
+    const QString copy = newer + u"/Quillon.sqlite"_s;
     {
         SQLite::Database made(path.toStdString(), SQLite::OPEN_READWRITE);
         made.exec("VACUUM INTO '" + copy.toStdString() + "'");
@@ -150,17 +149,17 @@ TEST_F(RecordFailureDeathTest, AFileOfANewerVersionEndsTheProcessPolitelyAndIsLe
         report("newer version of Quillon",
             "The records were written by a newer version of Quillon . They are left untouched"));
     EXPECT_EQ(read(copy), before);
-    EXPECT_EQ(QDir(newer).entryList(QDir::Files), QStringList(QStringLiteral("Quillon.sqlite")));
+    EXPECT_EQ(QDir(newer).entryList(QDir::Files), QStringList(u"Quillon.sqlite"_s));
 }
 
 TEST_F(RecordFailureDeathTest, ARefreshThatFindsTheFileDamagedEndsTheProcess)
 {
-    const QString inner = folder.filePath(QStringLiteral("inner"));
+    const QString inner = folder.filePath(u"inner"_s);
     const auto refreshDamaged = [&] {
         RecordStore other = records(inner);
         other.managedObjectContext();
-        QFile::remove(inner + QStringLiteral("/Quillon.sqlite"));
-        write(inner + QStringLiteral("/Quillon.sqlite"), "scribble");
+        QFile::remove(inner + u"/Quillon.sqlite"_s);
+        write(inner + u"/Quillon.sqlite"_s, "scribble");
         other.refreshPersistentContainer();
     };
     EXPECT_EXIT(refreshDamaged(), ::testing::KilledBySignal(SIGABRT),

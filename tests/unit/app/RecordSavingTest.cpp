@@ -11,6 +11,8 @@
 #include <optional>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class RecordSavingTest : public test::RecordStoreTest
@@ -20,10 +22,10 @@ protected:
     bool isRefusalPresented() const
     {
         return alerts.errors.size() == 1 &&
-               alerts.errors.first().message.contains(QStringLiteral("refused by the file"));
+               alerts.errors.first().message.contains(u"refused by the file"_s);
     }
 
-    const QString home = QStringLiteral("Home");
+    const QString home = u"Home"_s;
     test::FakeAlertPresenter alerts;
     RecordSaving saving{store, alerts};
     std::optional<test::RefusingFile> refusal;
@@ -42,9 +44,9 @@ TEST_F(RecordSavingTest, TakesAnOpenEditBeforeItSaves)
 {
     test::OpenField field(context());
     field.rule = insertRule(home);
-    field.text = QStringLiteral("Office");
+    field.text = u"Office"_s;
     saving.saveAction();
-    EXPECT_EQ(savedNames(), QStringList(QStringLiteral("Office")));
+    EXPECT_EQ(savedNames(), QStringList(u"Office"_s));
 }
 
 TEST_F(RecordSavingTest, WithoutChangesNothingIsWritten)
@@ -62,9 +64,8 @@ TEST_F(RecordSavingTest, AnEditThatCannotBeTakenIsLoggedAndTheRestIsSaved)
     field.accepts = false;
     const test::LogCapture log;
     saving.saveAction();
-    EXPECT_EQ(log.taken(),
-        QStringList(QStringLiteral("quillon.records: QuillonAppDelegate:saveAction: unable to "
-                                   "commit editing before saving")));
+    EXPECT_EQ(log.taken(), QStringList(u"quillon.records: QuillonAppDelegate:saveAction: unable to "
+                                       "commit editing before saving"_s));
     EXPECT_EQ(savedNames(), QStringList(home));
 }
 

@@ -13,6 +13,8 @@
 #include <optional>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class TerminationTest : public RecordStoreTest
@@ -30,7 +32,7 @@ protected:
         return granted == before + 1;
     }
 
-    const QString home = QStringLiteral("Home");
+    const QString home = u"Home"_s;
     FakeAlertPresenter alerts;
     Termination termination{store, alerts};
     int granted = 0;
@@ -59,9 +61,9 @@ TEST_F(TerminationTest, IsNotGrantedWhileAnEditCannotBeTaken)
     field.accepts = false;
     const LogCapture log;
     EXPECT_FALSE(isGranted());
-    EXPECT_EQ(log.taken(), QStringList(QStringLiteral(
-                               "quillon.records: QuillonAppDelegate:applicationShouldTerminate: "
-                               "unable to commit editing to terminate")));
+    EXPECT_EQ(
+        log.taken(), QStringList(u"quillon.records: QuillonAppDelegate:applicationShouldTerminate: "
+                                 "unable to commit editing to terminate"_s));
     EXPECT_EQ(savedNames(), QStringList()) << "nothing is saved then";
     EXPECT_TRUE(alerts.errors.isEmpty());
 }
@@ -70,9 +72,9 @@ TEST_F(TerminationTest, TakesOpenEditsAndSavesBeforeItIsGranted)
 {
     OpenField field(context());
     field.rule = insertRule(home);
-    field.text = QStringLiteral("Office");
+    field.text = u"Office"_s;
     QObject::connect(&termination, &Termination::granted,
-        [this] { EXPECT_EQ(savedNames(), QStringList(QStringLiteral("Office"))); });
+        [this] { EXPECT_EQ(savedNames(), QStringList(u"Office"_s)); });
     EXPECT_TRUE(isGranted());
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
@@ -88,15 +90,14 @@ protected:
     bool isRefusalPresented() const
     {
         return alerts.errors.size() == 1 &&
-               alerts.errors.first().message.contains(QStringLiteral("refused by the file"));
+               alerts.errors.first().message.contains(u"refused by the file"_s);
     }
 
     static constexpr int quitAnyway = 0;
     static constexpr int cancel = 1;
-    const Alert question{QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-        QStringLiteral(
-            "Quitting now will lose any changes you have made since the last successful save"),
-        {QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}};
+    const Alert question{u"Could not save changes while quitting. Quit anyway?"_s,
+        u"Quitting now will lose any changes you have made since the last successful save"_s,
+        {u"Quit anyway"_s, u"Cancel"_s}};
     std::optional<RefusingFile> refusal;
 };
 

@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -28,52 +30,52 @@ protected:
 TEST_F(UserNotificationsTest, AMessageIsShownOneSecondAfterItWasSent)
 {
     notifications.sendNotificationWithBody(
-        QStringLiteral("Wi-Fi Address Changed"), QStringLiteral("Your new MAC Address is: 02:…"));
+        u"Wi-Fi Address Changed"_s, u"Your new MAC Address is: 02:…"_s);
 
     scheduler.advance(999ms);
     EXPECT_TRUE(center.onScreen.isEmpty());
 
     scheduler.advance(1ms);
     ASSERT_EQ(center.onScreen.size(), 1);
-    EXPECT_EQ(center.onScreen.first().title, QStringLiteral("Wi-Fi Address Changed"));
-    EXPECT_EQ(center.onScreen.first().body, QStringLiteral("Your new MAC Address is: 02:…"));
+    EXPECT_EQ(center.onScreen.first().title, u"Wi-Fi Address Changed"_s);
+    EXPECT_EQ(center.onScreen.first().body, u"Your new MAC Address is: 02:…"_s);
     EXPECT_TRUE(center.onScreen.first().defaultSound);
 }
 
 TEST_F(UserNotificationsTest, TheIdentifierIsTheBase64OfTheTitlesUtf8)
 {
-    notifications.sendNotificationWithBody(QStringLiteral("Zürich"), QStringLiteral("x"));
+    notifications.sendNotificationWithBody(u"Zürich"_s, u"x"_s);
     scheduler.advance(1s);
     ASSERT_EQ(center.onScreen.size(), 1);
-    EXPECT_EQ(center.onScreen.first().identifier, QStringLiteral("WsO8cmljaA=="));
+    EXPECT_EQ(center.onScreen.first().identifier, u"WsO8cmljaA=="_s);
 }
 
 TEST_F(UserNotificationsTest, OfTwoMessagesWithOneTitleInQuickSuccessionOnlyTheSecondIsEverShown)
 {
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("first"));
+    notifications.sendNotificationWithBody(u"Title"_s, u"first"_s);
     scheduler.advance(500ms);
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("second"));
+    notifications.sendNotificationWithBody(u"Title"_s, u"second"_s);
     scheduler.advance(5s);
 
     ASSERT_EQ(center.everShown.size(), 1);
-    EXPECT_EQ(center.everShown.first().body, QStringLiteral("second"));
+    EXPECT_EQ(center.everShown.first().body, u"second"_s);
 }
 
 TEST_F(UserNotificationsTest, ANewerMessageTakesTheOlderOneWithItsTitleOffTheScreen)
 {
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("first"));
+    notifications.sendNotificationWithBody(u"Title"_s, u"first"_s);
     scheduler.advance(2s);
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("second"));
+    notifications.sendNotificationWithBody(u"Title"_s, u"second"_s);
     scheduler.advance(2s);
 
     ASSERT_EQ(center.onScreen.size(), 1);
-    EXPECT_EQ(center.onScreen.first().body, QStringLiteral("second"));
+    EXPECT_EQ(center.onScreen.first().body, u"second"_s);
 }
 
 TEST_F(UserNotificationsTest, MessagesWithDifferentTitlesStandSideBySide)
 {
-    notifications.sendNotificationWithBody(QStringLiteral("One"), QStringLiteral("1"));
-    notifications.sendNotificationWithBody(QStringLiteral("Two"), QStringLiteral("2"));
+    notifications.sendNotificationWithBody(u"One"_s, u"1"_s);
+    notifications.sendNotificationWithBody(u"Two"_s, u"2"_s);
     scheduler.advance(1s);
     EXPECT_EQ(center.onScreen.size(), 2);
 }
@@ -82,7 +84,7 @@ TEST_F(UserNotificationsTest, WithNotificationsSwitchedOffNothingHappensAtAll)
 {
     settings.setBool(keys::displayNotifications, false);
     notifications.setupNotificationCenter();
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("body"));
+    notifications.sendNotificationWithBody(u"Title"_s, u"body"_s);
     scheduler.advance(5s);
 
     EXPECT_EQ(center.authorizationRequests, 0);
@@ -108,7 +110,7 @@ TEST_F(UserNotificationsTest, AGrantedPermissionLeavesNotificationsOn)
 
 TEST_F(UserNotificationsTest, APermissionThatCouldNotBeFoundOutIsNoRefusal)
 {
-    center.authorizationError = Error{busErrorDomain, 0, QStringLiteral("no notification service")};
+    center.authorizationError = Error{busErrorDomain, 0, u"no notification service"_s};
     notifications.setupNotificationCenter();
     scheduler.runPending();
     EXPECT_TRUE(settings.getBool(keys::displayNotifications));
@@ -116,8 +118,8 @@ TEST_F(UserNotificationsTest, APermissionThatCouldNotBeFoundOutIsNoRefusal)
 
 TEST_F(UserNotificationsTest, AMessageThatCannotBeShownIsLogged)
 {
-    center.deliveryError = Error{busErrorDomain, 0, QStringLiteral("gone")};
-    notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("body"));
+    center.deliveryError = Error{busErrorDomain, 0, u"gone"_s};
+    notifications.sendNotificationWithBody(u"Title"_s, u"body"_s);
 
     static QStringList log;
     log.clear();
@@ -126,14 +128,12 @@ TEST_F(UserNotificationsTest, AMessageThatCannotBeShownIsLogged)
     scheduler.advance(1s);
     qInstallMessageHandler(previous);
 
-    EXPECT_TRUE(log.contains(QStringLiteral("Quillon Local Notification failed to send")));
+    EXPECT_TRUE(log.contains(u"Quillon Local Notification failed to send"_s));
 }
 
 TEST_F(UserNotificationsTest, AMessageFromAnotherThreadIsShownByTheMainThread)
 {
-    scheduler.asBackground([&] {
-        notifications.sendNotificationWithBody(QStringLiteral("Title"), QStringLiteral("body"));
-    });
+    scheduler.asBackground([&] { notifications.sendNotificationWithBody(u"Title"_s, u"body"_s); });
     EXPECT_FALSE(scheduler.hasTimers()) << "the centre was called on the other thread";
     scheduler.advance(1s);
     EXPECT_EQ(center.onScreen.size(), 1);

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(SettingsKeys, EveryKeyIsInTheTableOnce)
@@ -32,9 +34,9 @@ TEST(SettingsKeys, OnlyValuesOfThePlatformHaveNoFixedType)
 
 TEST(SettingsKeys, AKeyIsStoredUnderItsOwnName)
 {
-    EXPECT_EQ(keys::deviceDict, QStringLiteral("deviceDict"));
-    EXPECT_EQ(keys::lowerCaseHEX, QStringLiteral("lowerCaseHEX"));
-    EXPECT_EQ(keys::SUFeedURL, QStringLiteral("SUFeedURL"));
+    EXPECT_EQ(keys::deviceDict, u"deviceDict"_s);
+    EXPECT_EQ(keys::lowerCaseHEX, u"lowerCaseHEX"_s);
+    EXPECT_EQ(keys::SUFeedURL, u"SUFeedURL"_s);
 }
 
 } // namespace

@@ -5,21 +5,23 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(StoredText, IsATextAndNothingThatCouldBeMadeOne)
 {
     const QVariantMap stored = {
-        {QStringLiteral("text"), QStringLiteral("a text")},
-        {QStringLiteral("empty"), QString()},
-        {QStringLiteral("number"), 5},
-        {QStringLiteral("truth"), true},
-        {QStringLiteral("bytes"), QByteArray("bytes")},
-        {QStringLiteral("list"), QVariantList{QStringLiteral("a text")}},
-        {QStringLiteral("nothing"), QVariant()},
+        {u"text"_s, u"a text"_s},
+        {u"empty"_s, QString()},
+        {u"number"_s, 5},
+        {u"truth"_s, true},
+        {u"bytes"_s, QByteArray("bytes")},
+        {u"list"_s, QVariantList{u"a text"_s}},
+        {u"nothing"_s, QVariant()},
     };
-    EXPECT_EQ(storedText(stored, QStringLiteral("text")), QStringLiteral("a text"));
-    EXPECT_EQ(storedText(stored, QStringLiteral("empty")), QString());
+    EXPECT_EQ(storedText(stored, u"text"_s), u"a text"_s);
+    EXPECT_EQ(storedText(stored, u"empty"_s), QString());
     for (const char *key : {"number", "truth", "bytes", "list", "nothing", "absent"}) {
         EXPECT_FALSE(storedText(stored, QString::fromLatin1(key)).has_value()) << key;
     }

@@ -5,16 +5,18 @@
 #include <gtest/gtest.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString home = QStringLiteral("Home");
-const QString home2 = QStringLiteral("Home (2)");
-const QString home3 = QStringLiteral("Home (3)");
+const QString home = u"Home"_s;
+const QString home2 = u"Home (2)"_s;
+const QString home3 = u"Home (3)"_s;
 
 TEST(UniqueName, AFreeNameStaysAsItIs)
 {
     EXPECT_EQ(getOriginalNameFromArray(home, {}), home);
-    EXPECT_EQ(getOriginalNameFromArray(home, {QStringLiteral("Office"), home2}), home);
+    EXPECT_EQ(getOriginalNameFromArray(home, {u"Office"_s, home2}), home);
     EXPECT_EQ(getOriginalNameFromArray(home2, {home}), home2);
 }
 
@@ -27,16 +29,14 @@ TEST(UniqueName, ATakenNameGetsTheFirstFreeNumber)
 
 TEST(UniqueName, ANumberInTheNameIsPartOfIt)
 {
-    EXPECT_EQ(getOriginalNameFromArray(home2, {home2}), QStringLiteral("Home (2) (2)"));
-    EXPECT_EQ(
-        getOriginalNameFromArray(home2, {home, home2, home3}), QStringLiteral("Home (2) (2)"));
+    EXPECT_EQ(getOriginalNameFromArray(home2, {home2}), u"Home (2) (2)"_s);
+    EXPECT_EQ(getOriginalNameFromArray(home2, {home, home2, home3}), u"Home (2) (2)"_s);
 }
 
 TEST(UniqueName, ComparisonIsExact)
 {
-    EXPECT_EQ(
-        getOriginalNameFromArray(home, {QStringLiteral("home"), QStringLiteral("Home ")}), home);
-    EXPECT_EQ(getOriginalNameFromArray(QString(), {QString()}), QStringLiteral(" (2)"));
+    EXPECT_EQ(getOriginalNameFromArray(home, {u"home"_s, u"Home "_s}), home);
+    EXPECT_EQ(getOriginalNameFromArray(QString(), {QString()}), u" (2)"_s);
 }
 
 TEST(UniqueName, ManyTakenNumbersAreCountedThrough)
@@ -45,8 +45,8 @@ TEST(UniqueName, ManyTakenNumbersAreCountedThrough)
     for (int number = 2; number < 200; ++number) {
         taken << getOriginalNameFromArray(home, taken);
     }
-    EXPECT_EQ(taken.last(), QStringLiteral("Home (199)"));
-    EXPECT_EQ(getOriginalNameFromArray(home, taken), QStringLiteral("Home (200)"));
+    EXPECT_EQ(taken.last(), u"Home (199)"_s);
+    EXPECT_EQ(getOriginalNameFromArray(home, taken), u"Home (200)"_s);
 }
 
 } // namespace

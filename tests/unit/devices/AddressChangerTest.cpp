@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using AddressChangerTest = AddressChangeFixture;
@@ -17,14 +19,13 @@ using AddressChangerTest = AddressChangeFixture;
 TEST_F(AddressChangerTest, ReachesTheMachineTheTableTheUserAndEverybodyElseInOrder)
 {
     change(en1, wanted);
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
-    EXPECT_EQ(recorded(en1, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(host.addressOf(en1), "02:aa:bb:cc:dd:01"_L1);
+    EXPECT_EQ(recorded(en1, record::current), "02:aa:bb:cc:dd:01"_L1);
     EXPECT_EQ(storedSelection().value(record::current).toString(), wanted);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
-    EXPECT_EQ(order, (QStringList{QStringLiteral("history en1 02:AA:BB:CC:DD:01"),
-                         QStringLiteral("posted en1"), QStringLiteral("updated en1"),
-                         QStringLiteral("updated en1"), QStringLiteral("hex values")}));
+    EXPECT_EQ(order, (QStringList{u"history en1 02:AA:BB:CC:DD:01"_s, u"posted en1"_s,
+                         u"updated en1"_s, u"updated en1"_s, u"hex values"_s}));
     EXPECT_EQ(messagesBeforeHistory, 1);
 }
 
@@ -44,7 +45,7 @@ TEST_F(AddressChangerTest, ReturnsAtOnceAndTestsOnTheQueue)
 {
     changer->updateMacAddressWithAddress(en1, wanted);
     EXPECT_TRUE(helper.journal().isEmpty());
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
+    EXPECT_EQ(host.addressOf(en1), "02:16:3e:44:55:66"_L1);
 }
 
 TEST_F(AddressChangerTest, IsFinishedOnTheThreadOfTheReply)
@@ -55,7 +56,7 @@ TEST_F(AddressChangerTest, IsFinishedOnTheThreadOfTheReply)
 
 TEST_F(AddressChangerTest, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
 {
-    change(en1, QStringLiteral("02:16:3e:44:55:66"));
+    change(en1, u"02:16:3e:44:55:66"_s);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address was not Changed", "The new Address and the old Address are identical"));
     EXPECT_TRUE(helper.journal().isEmpty());
@@ -65,7 +66,7 @@ TEST_F(AddressChangerTest, ToTheAddressInUseIsRefusedWithoutAskingTheHelper)
 
 TEST_F(AddressChangerTest, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
 {
-    change(en1, QStringLiteral("02:16:3E:44:55:66"));
+    change(en1, u"02:16:3E:44:55:66"_s);
     EXPECT_EQ(helper.changes().size(), 1);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled"));
@@ -74,7 +75,7 @@ TEST_F(AddressChangerTest, ToTheAddressInUseInOtherLettersIsSentToTheHelper)
 TEST_F(AddressChangerTest, OfAnEmptyDeviceIsThatOfTheCurrentInterface)
 {
     change(QString(), wanted);
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(host.addressOf(en1), "02:aa:bb:cc:dd:01"_L1);
     EXPECT_EQ(storedSelection().value(record::current).toString(), wanted);
 }
 
@@ -82,14 +83,13 @@ TEST_F(AddressChangerTest, OfAnotherDeviceLeavesTheSelectionButRefillsTheField)
 {
     const QVariantMap before = storedSelection();
     change(en0, wanted);
-    EXPECT_EQ(recorded(en0, record::current), QLatin1String("02:aa:bb:cc:dd:01"));
-    EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Ethernet Address Changed"));
+    EXPECT_EQ(recorded(en0, record::current), "02:aa:bb:cc:dd:01"_L1);
+    EXPECT_EQ(notifier.messages().value(0).title, "Ethernet Address Changed"_L1);
     EXPECT_EQ(current.device(), en1);
     QVariantMap after = storedSelection();
     EXPECT_EQ(after.value(record::current).toString().toLower(), before.value(record::current));
-    EXPECT_EQ(order,
-        (QStringList{QStringLiteral("history en0 02:AA:BB:CC:DD:01"), QStringLiteral("posted en0"),
-            QStringLiteral("updated en1"), QStringLiteral("hex values")}));
+    EXPECT_EQ(order, (QStringList{u"history en0 02:AA:BB:CC:DD:01"_s, u"posted en0"_s,
+                         u"updated en1"_s, u"hex values"_s}));
 }
 
 TEST_F(AddressChangerTest, ThatTheHelperRefusesSaysSo)
@@ -98,8 +98,7 @@ TEST_F(AddressChangerTest, ThatTheHelperRefusesSaysSo)
     change(en1, wanted);
     EXPECT_EQ(notifier.messages(), told("Wi-Fi Address was not Changed",
                                        "Please make sure you have installed the HelperTool"));
-    EXPECT_EQ(order, (QStringList{QStringLiteral("updated en1"), QStringLiteral("updated en1"),
-                         QStringLiteral("hex values")}));
+    EXPECT_EQ(order, (QStringList{u"updated en1"_s, u"updated en1"_s, u"hex values"_s}));
 }
 
 TEST_F(AddressChangerTest, WithoutHelperSaysSo)
@@ -116,7 +115,7 @@ TEST_F(AddressChangerTest, ThatDidNotTakeAsksForTheDeviceToBeEnabled)
     change(en1, wanted);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled"));
-    EXPECT_FALSE(order.contains(QStringLiteral("posted en1")));
+    EXPECT_FALSE(order.contains(u"posted en1"_s));
 }
 
 TEST_F(AddressChangerTest, OfAnInterfaceThatVanishedEndsInSilence)
@@ -133,21 +132,20 @@ TEST_F(AddressChangerTest, OfAnInterfaceThatVanishedEndsInSilence)
 TEST_F(AddressChangerTest, KeepsWhatWasReadBackAlsoAfterAFailure)
 {
     helper.mood = FakeHelper::Mood::Refusing;
-    host.giveAddress(en1, QStringLiteral("02:00:00:00:00:99"));
-    host.at(en1).ipv4 = QStringList{QStringLiteral("203.0.113.5")};
+    host.giveAddress(en1, u"02:00:00:00:00:99"_s);
+    host.at(en1).ipv4 = QStringList{u"203.0.113.5"_s};
     host.at(en1).active = false;
     change(en1, wanted);
-    EXPECT_EQ(recorded(en1, record::current), QLatin1String("02:00:00:00:00:99"));
-    EXPECT_EQ(recorded(en1, record::ipAddress), QLatin1String("203.0.113.5"));
-    EXPECT_EQ(recorded(en1, record::status), QLatin1String("inactive"));
-    EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
+    EXPECT_EQ(recorded(en1, record::current), "02:00:00:00:00:99"_L1);
+    EXPECT_EQ(recorded(en1, record::ipAddress), "203.0.113.5"_L1);
+    EXPECT_EQ(recorded(en1, record::status), "inactive"_L1);
+    EXPECT_EQ(recorded(en1, record::hardware), "00:16:3e:44:55:66"_L1);
 }
 
 TEST_F(AddressChangerTest, WritesTheTableAndFlushesIt)
 {
     change(en0, wanted);
-    EXPECT_EQ(settings.journal().mid(0, 2),
-        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal().mid(0, 2), (QStringList{u"set deviceDict"_s, u"synchronize"_s}));
 }
 
 TEST_F(AddressChangerTest, KeepsWhatOthersWroteWhileTheHelperWorked)
@@ -155,23 +153,23 @@ TEST_F(AddressChangerTest, KeepsWhatOthersWroteWhileTheHelperWorked)
     helper.mood = FakeHelper::Mood::Hanging;
     change(en1, wanted);
     QVariantMap record = storedRecord(en0);
-    record[record::vendor] = QStringLiteral("Maker (A1B2C3)");
+    record[record::vendor] = u"Maker (A1B2C3)"_s;
     storeRecord(en0, record);
     helper.timeOut();
     scheduler.runPending();
-    EXPECT_EQ(recorded(en0, record::vendor), QLatin1String("Maker (A1B2C3)"));
+    EXPECT_EQ(recorded(en0, record::vendor), "Maker (A1B2C3)"_L1);
 }
 
 TEST_F(AddressChangerTest, OfAnUnknownDeviceDoesNoHarm)
 {
-    change(QStringLiteral("en9"), wanted);
+    change(u"en9"_s, wanted);
     EXPECT_TRUE(notifier.messages().isEmpty());
-    host.plug({.port = QStringLiteral("Ethernet"),
-        .device = QStringLiteral("en8"),
+    host.plug({.port = u"Ethernet"_s,
+        .device = u"en8"_s,
         .factory = {},
-        .address = QStringLiteral("02:00:00:00:00:08"),
+        .address = u"02:00:00:00:00:08"_s,
         .ipv4 = {}});
-    change(QStringLiteral("en8"), wanted);
+    change(u"en8"_s, wanted);
     EXPECT_EQ(notifier.messages(),
         told(" Address Changed", "Your new MAC Address is: 02:aa:bb:cc:dd:01"));
 }
@@ -194,16 +192,15 @@ TEST_F(AddressChangerTest, ToAnEmptyAddressIsReportedInItsOwnWords)
 
 TEST_F(AddressChangerTest, IsTakenInTheOrderOfTheRequests)
 {
-    changer->updateMacAddressWithAddress(en1, QStringLiteral("02:00:00:00:00:01"));
-    changer->updateMacAddressWithAddress(en0, QStringLiteral("02:00:00:00:00:02"));
-    changer->updateMacAddressWithAddress(en1, QStringLiteral("02:00:00:00:00:03"));
+    changer->updateMacAddressWithAddress(en1, u"02:00:00:00:00:01"_s);
+    changer->updateMacAddressWithAddress(en0, u"02:00:00:00:00:02"_s);
+    changer->updateMacAddressWithAddress(en1, u"02:00:00:00:00:03"_s);
     scheduler.runPending();
     QStringList asked;
     for (const FakeHelper::Change &each : helper.changes()) {
         asked << each.address.right(2);
     }
-    EXPECT_EQ(
-        asked, (QStringList{QStringLiteral("01"), QStringLiteral("02"), QStringLiteral("03")}));
+    EXPECT_EQ(asked, (QStringList{u"01"_s, u"02"_s, u"03"_s}));
 }
 
 TEST_F(AddressChangerTest, MayStartBeforeTheReplyToThePreviousOneCame)
@@ -213,10 +210,10 @@ TEST_F(AddressChangerTest, MayStartBeforeTheReplyToThePreviousOneCame)
     EXPECT_TRUE(notifier.messages().isEmpty());
     helper.mood = FakeHelper::Mood::Obliging;
     change(en0, wanted);
-    EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Ethernet Address Changed"));
+    EXPECT_EQ(notifier.messages().value(0).title, "Ethernet Address Changed"_L1);
     helper.timeOut();
     scheduler.runPending();
-    EXPECT_EQ(notifier.messages().value(1).title, QLatin1String("Wi-Fi Address was not Changed"));
+    EXPECT_EQ(notifier.messages().value(1).title, "Wi-Fi Address was not Changed"_L1);
 }
 
 TEST_F(AddressChangerTest, IsToldOnceWhenAPeerAnswersTwice)
@@ -251,14 +248,14 @@ TEST_F(AddressChangerTest, TellsWhenItBeginsAndWhenItHasEndedHoweverItWent)
 {
     QStringList course;
     QObject::connect(changer.get(), &AddressChanger::changeBegan, [&](const QString &device) {
-        course << QStringLiteral("began ") + device;
+        course << u"began "_s + device;
         EXPECT_TRUE(scheduler.isMainThread());
         EXPECT_TRUE(helper.changes().isEmpty());
     });
     QObject::connect(changer.get(), &AddressChanger::changeEnded,
-        [&](const QString &device) { course << QStringLiteral("ended ") + device; });
+        [&](const QString &device) { course << u"ended "_s + device; });
     change(QString(), wanted);
-    EXPECT_EQ(course, (QStringList{QStringLiteral("began en1"), QStringLiteral("ended en1")}));
+    EXPECT_EQ(course, (QStringList{u"began en1"_s, u"ended en1"_s}));
     EXPECT_EQ(recorded(en1, record::current), wanted.toLower());
 }
 
@@ -286,7 +283,7 @@ TEST_F(AddressChangerTest, ToTheAddressInUseNeverBegins)
     int news = 0;
     QObject::connect(changer.get(), &AddressChanger::changeBegan, [&] { ++news; });
     QObject::connect(changer.get(), &AddressChanger::changeEnded, [&] { ++news; });
-    change(en1, QStringLiteral("02:16:3e:44:55:66"));
+    change(en1, u"02:16:3e:44:55:66"_s);
     EXPECT_EQ(news, 0);
 }
 
@@ -340,7 +337,7 @@ TEST_F(AddressChangerAtTheEnd, WaitsForAReplyThatIsBeingHandled)
 
 TEST_F(AddressChangerAtTheEnd, WaitsForATestOnTheQueue)
 {
-    endWhileTelling(QStringLiteral("02:16:3e:44:55:66"));
+    endWhileTelling(u"02:16:3e:44:55:66"_s);
 }
 
 /// A user who switched notifications off: the notifier says nothing.
@@ -358,7 +355,7 @@ TEST_F(AddressChangerTest, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesI
     quiet.updateMacAddressWithAddress(en1, wanted);
     scheduler.runPending();
     EXPECT_EQ(history, QStringList{en1});
-    EXPECT_TRUE(order.contains(QStringLiteral("posted en1")));
+    EXPECT_TRUE(order.contains(u"posted en1"_s));
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "devices/MenuItem.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class AddressEntryPoints : public AddressChangeFixture
@@ -12,33 +14,33 @@ protected:
     AddressEntryPoints()
     {
         random.put(QByteArray::fromHex("c0abcdef0009"));
-        deviceItem->append(QStringLiteral("unused"));
+        deviceItem->append(u"unused"_s);
     }
 
     // Device, factory address, current address, as they stand in the menu one above the other.
     MenuItem menu{QString()};
-    MenuItem *deviceItem = &menu.append(QStringLiteral("Ethernet \u00B7 en0"));
-    MenuItem *factoryItem = &menu.append(QStringLiteral("Factory \u00B7 02:FA:C7:00:00:01"));
-    MenuItem *currentItem = &menu.append(QStringLiteral("Address \u00B7 00:16:3E:11:22:33"));
-    const MenuItem &restore = factoryItem->append(QStringLiteral("Restore"));
-    const MenuItem &randomize = currentItem->append(QStringLiteral("Randomize"));
+    MenuItem *deviceItem = &menu.append(u"Ethernet \u00B7 en0"_s);
+    MenuItem *factoryItem = &menu.append(u"Factory \u00B7 02:FA:C7:00:00:01"_s);
+    MenuItem *currentItem = &menu.append(u"Address \u00B7 00:16:3E:11:22:33"_s);
+    const MenuItem &restore = factoryItem->append(u"Restore"_s);
+    const MenuItem &randomize = currentItem->append(u"Randomize"_s);
 };
 
 TEST_F(AddressEntryPoints, RandomizeActsOnTheCurrentInterface)
 {
     changer->randomizeAddress();
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("c2:ab:cd:ef:00:09"));
+    EXPECT_EQ(host.addressOf(en1), "c2:ab:cd:ef:00:09"_L1);
 }
 
 TEST_F(AddressEntryPoints, RandomizeFollowsTheVendorOfTheDevice)
 {
     QVariantMap record = storedRecord(en1);
-    record[record::vendor] = QStringLiteral("Some Maker Inc. (A2B2C3)");
+    record[record::vendor] = u"Some Maker Inc. (A2B2C3)"_s;
     storeRecord(en1, record);
     changer->randomizeAddress();
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("a2:b2:c3:ef:00:09"));
+    EXPECT_EQ(host.addressOf(en1), "a2:b2:c3:ef:00:09"_L1);
 }
 
 TEST_F(AddressEntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
@@ -47,12 +49,12 @@ TEST_F(AddressEntryPoints, RandomizeWithAFailingSourceReportsTheFailure)
     helper.mood = FakeHelper::Mood::Refusing;
     changer->randomizeAddress();
     scheduler.runPending();
-    EXPECT_EQ(notifier.messages().value(0).title, QLatin1String("Wi-Fi Address was not Changed"));
+    EXPECT_EQ(notifier.messages().value(0).title, "Wi-Fi Address was not Changed"_L1);
 }
 
 TEST_F(AddressEntryPoints, ATypedAddressGoesOutInDisplayCaseAndBackIntoTheField)
 {
-    EXPECT_EQ(changer->changeMacAddress(QStringLiteral("02:aa:bb:cc:dd:01")), wanted);
+    EXPECT_EQ(changer->changeMacAddress(u"02:aa:bb:cc:dd:01"_s), wanted);
     scheduler.runPending();
     ASSERT_EQ(helper.changes().size(), 1);
     EXPECT_EQ(helper.changes().at(0).address, wanted);
@@ -61,37 +63,36 @@ TEST_F(AddressEntryPoints, ATypedAddressGoesOutInDisplayCaseAndBackIntoTheField)
 
 TEST_F(AddressEntryPoints, ATypedAddressIsNotTestedHere)
 {
-    EXPECT_EQ(changer->changeMacAddress(QStringLiteral("a1b2")), QLatin1String("A1B2"));
+    EXPECT_EQ(changer->changeMacAddress(u"a1b2"_s), "A1B2"_L1);
     scheduler.runPending();
     ASSERT_EQ(helper.changes().size(), 1);
-    EXPECT_EQ(helper.changes().at(0).address, QLatin1String("A1B2"));
+    EXPECT_EQ(helper.changes().at(0).address, "A1B2"_L1);
 }
 
 TEST_F(AddressEntryPoints, RestoreGivesTheCurrentInterfaceItsFactoryAddress)
 {
     changer->restoreDefaultAddress();
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("00:16:3e:44:55:66"));
+    EXPECT_EQ(host.addressOf(en1), "00:16:3e:44:55:66"_L1);
 }
 
 TEST_F(AddressEntryPoints, AMenuRandomizesTheDeviceTwoPlacesAboveItsParent)
 {
     changer->randomizeAddress(randomize);
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en0), QLatin1String("c2:ab:cd:ef:00:09"));
-    EXPECT_EQ(host.addressOf(en1), QLatin1String("02:16:3e:44:55:66"));
+    EXPECT_EQ(host.addressOf(en0), "c2:ab:cd:ef:00:09"_L1);
+    EXPECT_EQ(host.addressOf(en1), "02:16:3e:44:55:66"_L1);
 }
 
 TEST_F(AddressEntryPoints, AMenuTitleWithoutSeparatorIsTheDevice)
 {
     MenuItem plain{QString()};
     plain.append(en0);
-    plain.append(QStringLiteral("anything"));
-    const MenuItem &action =
-        plain.append(QStringLiteral("address")).append(QStringLiteral("Randomize"));
+    plain.append(u"anything"_s);
+    const MenuItem &action = plain.append(u"address"_s).append(u"Randomize"_s);
     changer->randomizeAddress(action);
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en0), QLatin1String("c2:ab:cd:ef:00:09"));
+    EXPECT_EQ(host.addressOf(en0), "c2:ab:cd:ef:00:09"_L1);
 }
 
 TEST_F(AddressEntryPoints, AMenuRandomizeOfAnUnknownDeviceDoesNothing)
@@ -109,15 +110,14 @@ TEST_F(AddressEntryPoints, AMenuRestoresTheAddressOfItsParentOnTheDeviceAboveIt)
 {
     changer->restoreDefaultAddress(restore);
     scheduler.runPending();
-    EXPECT_EQ(host.addressOf(en0), QLatin1String("02:fa:c7:00:00:01"));
+    EXPECT_EQ(host.addressOf(en0), "02:fa:c7:00:00:01"_L1);
 }
 
 TEST_F(AddressEntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
 {
     MenuItem odd{QString()};
-    odd.append(QStringLiteral("Ethernet \u00B7 en0"));
-    const MenuItem &action =
-        odd.append(QStringLiteral("Factory \u00B7 N/A")).append(QStringLiteral("Restore"));
+    odd.append(u"Ethernet \u00B7 en0"_s);
+    const MenuItem &action = odd.append(u"Factory \u00B7 N/A"_s).append(u"Restore"_s);
     changer->restoreDefaultAddress(action);
     scheduler.runPending();
     EXPECT_TRUE(helper.journal().isEmpty());

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 bool isAddress(const char *text)
@@ -67,7 +69,7 @@ TEST(AddressText, HasToMatchFromTheFirstCharacterToTheLast)
     EXPECT_FALSE(isAddress(" aa:bb:cc:dd:ee:ff"));
     EXPECT_FALSE(isAddress("aa:bb:cc:dd:ee:ff "));
     EXPECT_FALSE(isAddress("x\naa:bb:cc:dd:ee:ff"));
-    EXPECT_FALSE(isStringValidHEX(QStringLiteral("aa:bb:cc:dd:ee:ff") + QChar(u'\0')));
+    EXPECT_FALSE(isStringValidHEX(u"aa:bb:cc:dd:ee:ff"_s + QChar(u'\0')));
 }
 
 TEST(AddressText, KnowsNoLettersAndDigitsBeyondAscii)

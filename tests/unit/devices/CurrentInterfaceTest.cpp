@@ -7,6 +7,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class CurrentInterfaceSelection : public DeviceFixture
@@ -16,26 +18,26 @@ protected:
     {
         table.updateNetWorkInterfaces();
         QObject::connect(&current, &CurrentInterface::interfaceSelected,
-            [this](const QString &device) { heard << QStringLiteral("selected ") + device; });
+            [this](const QString &device) { heard << u"selected "_s + device; });
         QObject::connect(&current, &CurrentInterface::rebuildStarted, [this] {
             onMainThread = onMainThread && scheduler.isMainThread();
-            heard << QStringLiteral("rebuild");
+            heard << u"rebuild"_s;
         });
         QObject::connect(&current, &CurrentInterface::currentInterfaceUpdated,
             [this](const QString &device, const QString &address) {
                 onMainThread = onMainThread && scheduler.isMainThread();
-                heard << QStringLiteral("updated %1 %2").arg(device, address);
+                heard << u"updated %1 %2"_s.arg(device, address);
             });
         QObject::connect(&current, &CurrentInterface::hexValuesUpdated, [this] {
             onMainThread = onMainThread && scheduler.isMainThread();
-            heard << QStringLiteral("hex values");
+            heard << u"hex values"_s;
         });
         settings.clearJournal();
         host.clearJournal();
     }
 
-    const QString en0 = QStringLiteral("en0");
-    const QString en1 = QStringLiteral("en1");
+    const QString en0 = u"en0"_s;
+    const QString en1 = u"en1"_s;
     CurrentInterface current{settings, scheduler, table};
     QStringList heard;
     bool onMainThread = true;
@@ -49,20 +51,20 @@ TEST_F(CurrentInterfaceSelection, IsNoneAtFirst)
 
 TEST_F(CurrentInterfaceSelection, IsACopyOfTheRecordWithItsNameAndTheAddressInDisplayCase)
 {
-    storeRecord(en1, {{record::current, QStringLiteral("aa:bb:cc:dd:ee:ff")},
-                         {record::hardware, QStringLiteral("aa:bb:cc:00:00:01")},
-                         {record::vendor, QStringLiteral("Maker (A1B2C3)")}});
+    storeRecord(
+        en1, {{record::current, u"aa:bb:cc:dd:ee:ff"_s}, {record::hardware, u"aa:bb:cc:00:00:01"_s},
+                 {record::vendor, u"Maker (A1B2C3)"_s}});
     current.updateCurrentInterfaceDict(en1);
     scheduler.runPending();
     const QVariantMap expected = {
-        {record::current, QStringLiteral("AA:BB:CC:DD:EE:FF")},
-        {record::hardware, QStringLiteral("aa:bb:cc:00:00:01")},
-        {record::vendor, QStringLiteral("Maker (A1B2C3)")},
+        {record::current, u"AA:BB:CC:DD:EE:FF"_s},
+        {record::hardware, u"aa:bb:cc:00:00:01"_s},
+        {record::vendor, u"Maker (A1B2C3)"_s},
         {record::device, en1},
     };
     EXPECT_EQ(storedSelection(), expected);
     EXPECT_EQ(current.device(), en1);
-    EXPECT_EQ(recorded(en1, record::current), QLatin1String("aa:bb:cc:dd:ee:ff"));
+    EXPECT_EQ(recorded(en1, record::current), "aa:bb:cc:dd:ee:ff"_L1);
 }
 
 TEST_F(CurrentInterfaceSelection, IsStoredAndFlushedBeforeAnybodyHears)
@@ -70,14 +72,12 @@ TEST_F(CurrentInterfaceSelection, IsStoredAndFlushedBeforeAnybodyHears)
     bool flushedBefore = false;
     QObject::connect(&current, &CurrentInterface::currentInterfaceUpdated, [&] {
         flushedBefore =
-            settings.journal() ==
-            QStringList{QStringLiteral("set currentInterfaceDict"), QStringLiteral("synchronize")};
+            settings.journal() == QStringList{u"set currentInterfaceDict"_s, u"synchronize"_s};
     });
     current.updateCurrentInterfaceDict(en1);
     scheduler.runPending();
     EXPECT_TRUE(flushedBefore);
-    EXPECT_EQ(heard,
-        (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
+    EXPECT_EQ(heard, (QStringList{u"rebuild"_s, u"updated en1 02:16:3E:44:55:66"_s}));
 }
 
 TEST_F(CurrentInterfaceSelection, IsRebuiltInALaterTurnOnTheMainThreadWhoeverAsks)
@@ -98,39 +98,39 @@ TEST_F(CurrentInterfaceSelection, OfADeviceWithoutAddressLeavesThePreviousOneInF
     current.updateInterface(en1);
     scheduler.runPending();
     EXPECT_EQ(storedSelection(), before);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild")}));
+    EXPECT_EQ(heard, (QStringList{u"selected en1"_s, u"rebuild"_s}));
 }
 
 TEST_F(CurrentInterfaceSelection, OfADeviceWithMalformedAddressLeavesThePreviousOneInForce)
 {
     select(en0);
     const QVariantMap before = storedSelection();
-    storeRecord(en1, {{record::current, QStringLiteral("02:16:3e:44:55:66 ")}});
+    storeRecord(en1, {{record::current, u"02:16:3e:44:55:66 "_s}});
     settings.clearJournal();
     current.updateCurrentInterfaceDict(en1);
     scheduler.runPending();
     EXPECT_EQ(storedSelection(), before);
     EXPECT_TRUE(settings.journal().isEmpty());
-    EXPECT_EQ(heard, QStringList{QStringLiteral("rebuild")});
+    EXPECT_EQ(heard, QStringList{u"rebuild"_s});
 }
 
 TEST_F(CurrentInterfaceSelection, OfAnUnknownDeviceLeavesThePreviousOneInForce)
 {
     select(en0);
-    current.updateInterface(QStringLiteral("en9"));
+    current.updateInterface(u"en9"_s);
     scheduler.runPending();
     EXPECT_EQ(current.device(), en0);
 }
 
 TEST_F(CurrentInterfaceSelection, ReadsThePortsThenRebuildsThenSaysSo)
 {
-    host.giveAddress(en1, QStringLiteral("02:00:00:00:00:01"));
+    host.giveAddress(en1, u"02:00:00:00:00:01"_s);
     current.updateInterface(en1);
-    EXPECT_EQ(host.journal(), QStringList{QStringLiteral("ports")});
-    EXPECT_EQ(heard, QStringList{QStringLiteral("selected en1")});
+    EXPECT_EQ(host.journal(), QStringList{u"ports"_s});
+    EXPECT_EQ(heard, QStringList{u"selected en1"_s});
     scheduler.runPending();
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("selected en1"), QStringLiteral("rebuild"),
-                         QStringLiteral("updated en1 02:00:00:00:00:01")}));
+    EXPECT_EQ(
+        heard, (QStringList{u"selected en1"_s, u"rebuild"_s, u"updated en1 02:00:00:00:00:01"_s}));
 }
 
 TEST_F(CurrentInterfaceSelection, OfAnEmptyNameDoesNothing)
@@ -144,10 +144,10 @@ TEST_F(CurrentInterfaceSelection, OfAnEmptyNameDoesNothing)
 
 TEST_F(CurrentInterfaceSelection, FromAMenuIsTheLastPieceOfTheTitle)
 {
-    current.changeInterface(QStringLiteral("Wi-Fi \u00B7 en1"));
+    current.changeInterface(u"Wi-Fi \u00B7 en1"_s);
     scheduler.runPending();
     EXPECT_EQ(current.device(), en1);
-    current.changeInterface(QStringLiteral("a \u00B7 b \u00B7 en0"));
+    current.changeInterface(u"a \u00B7 b \u00B7 en0"_s);
     scheduler.runPending();
     EXPECT_EQ(current.device(), en0);
     current.changeInterface(en1);
@@ -158,7 +158,7 @@ TEST_F(CurrentInterfaceSelection, FromAMenuIsTheLastPieceOfTheTitle)
 TEST_F(CurrentInterfaceSelection, FromAMenuSplitsAtTheBlanksToo)
 {
     select(en0);
-    current.changeInterface(QStringLiteral("Wi-Fi\u00B7en1"));
+    current.changeInterface(u"Wi-Fi\u00B7en1"_s);
     scheduler.runPending();
     EXPECT_EQ(current.device(), en0);
 }
@@ -174,8 +174,7 @@ TEST_F(CurrentInterfaceSelection, OfTheFirstStartIsTheWifiDeviceAtOnce)
 {
     current.selectInitialDevice();
     EXPECT_EQ(current.device(), en1);
-    EXPECT_EQ(heard,
-        (QStringList{QStringLiteral("rebuild"), QStringLiteral("updated en1 02:16:3E:44:55:66")}));
+    EXPECT_EQ(heard, (QStringList{u"rebuild"_s, u"updated en1 02:16:3E:44:55:66"_s}));
 }
 
 TEST_F(CurrentInterfaceSelection, OfTheFirstStartWithoutWifiIsTheFirstDevice)
@@ -197,8 +196,8 @@ TEST_F(CurrentInterfaceSelection, OfTheFirstStartWithoutDevicesIsNone)
 
 TEST_F(CurrentInterfaceSelection, OfADeviceThatVanishedStays)
 {
-    const QVariantMap stored = {{record::device, QStringLiteral("en8")},
-        {record::current, QStringLiteral("02:00:00:00:00:08")}};
+    const QVariantMap stored = {
+        {record::device, u"en8"_s}, {record::current, u"02:00:00:00:00:08"_s}};
     settings.set(keys::currentInterfaceDict, stored);
     current.selectInitialDevice();
     scheduler.runPending();
@@ -240,30 +239,27 @@ TEST_F(CurrentInterfaceHexValues, StopAtAnEmptyTable)
 TEST_F(CurrentInterfaceHexValues, WriteTheTableRebuildTheSelectionThenRefillTheField)
 {
     current.updateHexValues();
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set deviceDict"_s, u"synchronize"_s}));
     EXPECT_TRUE(heard.isEmpty());
     scheduler.runPending();
     EXPECT_EQ(
-        heard, (QStringList{QStringLiteral("rebuild"),
-                   QStringLiteral("updated en1 02:16:3E:44:55:66"), QStringLiteral("hex values")}));
+        heard, (QStringList{u"rebuild"_s, u"updated en1 02:16:3E:44:55:66"_s, u"hex values"_s}));
 }
 
 TEST_F(CurrentInterfaceHexValues, GiveARecordThatLostItsAddressTheFactoryAddress)
 {
-    storeRecord(en1, {{record::hardware, QStringLiteral("00:16:3e:44:55:66")}});
+    storeRecord(en1, {{record::hardware, u"00:16:3e:44:55:66"_s}});
     current.updateHexValues();
-    EXPECT_EQ(recorded(en1, record::current), QLatin1String("00:16:3e:44:55:66"));
-    EXPECT_EQ(recorded(en1, record::hardware), QLatin1String("00:16:3e:44:55:66"));
+    EXPECT_EQ(recorded(en1, record::current), "00:16:3e:44:55:66"_L1);
+    EXPECT_EQ(recorded(en1, record::hardware), "00:16:3e:44:55:66"_L1);
     scheduler.runPending();
-    EXPECT_EQ(
-        storedSelection().value(record::current).toString(), QLatin1String("00:16:3E:44:55:66"));
+    EXPECT_EQ(storedSelection().value(record::current).toString(), "00:16:3E:44:55:66"_L1);
 }
 
 TEST_F(CurrentInterfaceHexValues, LeaveAnEmptyOrMalformedAddressAlone)
 {
     for (const char *address : {"", "malformed"}) {
-        const QVariantMap record = {{record::hardware, QStringLiteral("00:16:3e:44:55:66")},
+        const QVariantMap record = {{record::hardware, u"00:16:3e:44:55:66"_s},
             {record::current, QString::fromUtf8(address)}};
         storeRecord(en1, record);
         heard.clear();
@@ -272,18 +268,18 @@ TEST_F(CurrentInterfaceHexValues, LeaveAnEmptyOrMalformedAddressAlone)
         scheduler.runPending();
         EXPECT_EQ(storedRecord(en1), record);
         EXPECT_TRUE(settings.journal().isEmpty());
-        EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
+        EXPECT_EQ(heard, (QStringList{u"rebuild"_s, u"hex values"_s}));
     }
 }
 
 TEST_F(CurrentInterfaceHexValues, OfADeviceThatIsNotInTheTableStillRefillTheField)
 {
-    settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, QStringLiteral("en8")}});
+    settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, u"en8"_s}});
     const QVariantMap before = storedTable();
     current.updateHexValues();
     scheduler.runPending();
     EXPECT_EQ(storedTable(), before);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("rebuild"), QStringLiteral("hex values")}));
+    EXPECT_EQ(heard, (QStringList{u"rebuild"_s, u"hex values"_s}));
 }
 
 TEST_F(CurrentInterfaceHexValues, FollowTheDisplayCase)
@@ -291,7 +287,7 @@ TEST_F(CurrentInterfaceHexValues, FollowTheDisplayCase)
     settings.setBool(keys::lowerCaseHEX, true);
     current.updateHexValues();
     scheduler.runPending();
-    EXPECT_EQ(heard.value(1), QLatin1String("updated en1 02:16:3e:44:55:66"));
+    EXPECT_EQ(heard.value(1), "updated en1 02:16:3e:44:55:66"_L1);
 }
 
 TEST_F(CurrentInterfaceHexValues, SpeakOnTheMainThreadOnly)

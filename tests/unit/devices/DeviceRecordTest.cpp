@@ -8,33 +8,35 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(DeviceRecord, HoldsEveryKeyAndComesBackAsItWas)
 {
-    const QVariantMap rule{{QStringLiteral("name"), QStringLiteral("home")}};
+    const QVariantMap rule{{u"name"_s, u"home"_s}};
     const QVariantMap stored{
-        {record::device, QStringLiteral("en1")},
-        {record::interface, QStringLiteral("Wi-Fi")},
-        {record::localizedInterface, QStringLiteral("WLAN")},
-        {record::hardware, QStringLiteral("00:16:3e:44:55:66")},
-        {record::current, QStringLiteral("02:16:3e:44:55:66")},
-        {record::status, QStringLiteral("active")},
-        {record::ipAddress, QStringLiteral("198.51.100.7")},
-        {record::vendor, QStringLiteral("Maker (A1B2C3)")},
+        {record::device, u"en1"_s},
+        {record::interface, u"Wi-Fi"_s},
+        {record::localizedInterface, u"WLAN"_s},
+        {record::hardware, u"00:16:3e:44:55:66"_s},
+        {record::current, u"02:16:3e:44:55:66"_s},
+        {record::status, u"active"_s},
+        {record::ipAddress, u"198.51.100.7"_s},
+        {record::vendor, u"Maker (A1B2C3)"_s},
         {record::hasRule, qlonglong(2)},
         {record::rule, rule},
         {record::loginRule, QVariantMap()},
     };
     const DeviceRecord record = DeviceRecord::fromPropertyList(stored);
-    EXPECT_EQ(record.device, QStringLiteral("en1"));
-    EXPECT_EQ(record.interface, QStringLiteral("Wi-Fi"));
-    EXPECT_EQ(record.localizedInterface, QStringLiteral("WLAN"));
-    EXPECT_EQ(record.hardware, QStringLiteral("00:16:3e:44:55:66"));
-    EXPECT_EQ(record.current, QStringLiteral("02:16:3e:44:55:66"));
-    EXPECT_EQ(record.status, QStringLiteral("active"));
-    EXPECT_EQ(record.ipAddress, QStringLiteral("198.51.100.7"));
-    EXPECT_EQ(record.vendor, QStringLiteral("Maker (A1B2C3)"));
+    EXPECT_EQ(record.device, u"en1"_s);
+    EXPECT_EQ(record.interface, u"Wi-Fi"_s);
+    EXPECT_EQ(record.localizedInterface, u"WLAN"_s);
+    EXPECT_EQ(record.hardware, u"00:16:3e:44:55:66"_s);
+    EXPECT_EQ(record.current, u"02:16:3e:44:55:66"_s);
+    EXPECT_EQ(record.status, u"active"_s);
+    EXPECT_EQ(record.ipAddress, u"198.51.100.7"_s);
+    EXPECT_EQ(record.vendor, u"Maker (A1B2C3)"_s);
     EXPECT_EQ(record.hasRule, 2);
     EXPECT_EQ(record.rule, rule);
     EXPECT_EQ(record.loginRule, QVariantMap());
@@ -55,23 +57,23 @@ TEST(DeviceRecord, KeepsWhatIsMissingApartFromWhatIsEmpty)
 
 TEST(DeviceRecord, KeepsButDoesNotReadWhatIsOfAnotherType)
 {
-    const QVariantMap stored{{QStringLiteral("future"), true}, {record::current, qlonglong(7)},
-        {record::hasRule, QStringLiteral("1")}, {record::rule, QStringLiteral("text")}};
+    const QVariantMap stored{{u"future"_s, true}, {record::current, qlonglong(7)},
+        {record::hasRule, u"1"_s}, {record::rule, u"text"_s}};
     DeviceRecord record = DeviceRecord::fromPropertyList(stored);
     EXPECT_FALSE(record.current);
     EXPECT_FALSE(record.hasRule);
     EXPECT_FALSE(record.rule);
     EXPECT_EQ(record.toPropertyList(), stored);
 
-    record.current = QStringLiteral("02:00:00:00:00:01");
+    record.current = u"02:00:00:00:00:01"_s;
     QVariantMap changed = stored;
-    changed[record::current] = QStringLiteral("02:00:00:00:00:01");
+    changed[record::current] = u"02:00:00:00:00:01"_s;
     EXPECT_EQ(record.toPropertyList(), changed);
 }
 
 TEST(DeviceRecord, IsEmptyWhereThereIsNoDictionary)
 {
-    for (const QVariant &stored : {QVariant(), QVariant(7), QVariant(QStringLiteral("text"))}) {
+    for (const QVariant &stored : {QVariant(), QVariant(7), QVariant(u"text"_s)}) {
         EXPECT_EQ(DeviceRecord::fromPropertyList(stored), DeviceRecord());
     }
 }
@@ -81,22 +83,22 @@ TEST(DeviceRecord, IsWifiAndUpByTheExactTexts)
     DeviceRecord record;
     EXPECT_FALSE(record.isWifi());
     EXPECT_FALSE(record.isUp());
-    record.interface = QStringLiteral("Wi-Fi");
-    record.status = QStringLiteral("active");
+    record.interface = u"Wi-Fi"_s;
+    record.status = u"active"_s;
     EXPECT_TRUE(record.isWifi());
     EXPECT_TRUE(record.isUp());
-    record.interface = QStringLiteral("wi-fi");
-    record.status = QStringLiteral("Active");
+    record.interface = u"wi-fi"_s;
+    record.status = u"Active"_s;
     EXPECT_FALSE(record.isWifi());
     EXPECT_FALSE(record.isUp());
 }
 
 TEST(DeviceRecordFirstChanged, IsTheFirstByNameWhoseRecordDiffers)
 {
-    const DeviceRecord one{.status = QStringLiteral("active")};
-    const DeviceRecord other{.status = QStringLiteral("inactive")};
-    const QString en0 = QStringLiteral("en0");
-    const QString en1 = QStringLiteral("en1");
+    const DeviceRecord one{.status = u"active"_s};
+    const DeviceRecord other{.status = u"inactive"_s};
+    const QString en0 = u"en0"_s;
+    const QString en1 = u"en1"_s;
     EXPECT_EQ(firstChangedDevice({}, {}), QString());
     EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, one}}), QString());
     EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, other}}), en1);

@@ -15,16 +15,18 @@
 #include <vector>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QVariantMap wifi()
 {
-    return {{record::interface, QStringLiteral("Wi-Fi")}};
+    return {{record::interface, u"Wi-Fi"_s}};
 }
 
 QVariantMap wired()
 {
-    return {{record::interface, QStringLiteral("Ethernet")}};
+    return {{record::interface, u"Ethernet"_s}};
 }
 
 class DeviceTableRefresh : public DeviceFixture
@@ -34,31 +36,29 @@ class DeviceTableRefresh : public DeviceFixture
 TEST_F(DeviceTableRefresh, KeepsEthernetWifiAndTheThunderboltBridgeOnly)
 {
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(table.names(),
-        (QStringList{QStringLiteral("bridge0"), QStringLiteral("en0"), QStringLiteral("en1")}));
+    EXPECT_EQ(table.names(), (QStringList{u"bridge0"_s, u"en0"_s, u"en1"_s}));
 }
 
 TEST_F(DeviceTableRefresh, FillsEveryKeyOfARecord)
 {
     table.updateNetWorkInterfaces();
     const QVariantMap expected = {
-        {record::interface, QStringLiteral("Wi-Fi")},
-        {record::localizedInterface, QStringLiteral("Wi-Fi")},
-        {record::hardware, QStringLiteral("00:16:3e:44:55:66")},
-        {record::current, QStringLiteral("02:16:3e:44:55:66")},
-        {record::status, QStringLiteral("active")},
-        {record::ipAddress, QStringLiteral("198.51.100.7")},
+        {record::interface, u"Wi-Fi"_s},
+        {record::localizedInterface, u"Wi-Fi"_s},
+        {record::hardware, u"00:16:3e:44:55:66"_s},
+        {record::current, u"02:16:3e:44:55:66"_s},
+        {record::status, u"active"_s},
+        {record::ipAddress, u"198.51.100.7"_s},
     };
-    EXPECT_EQ(storedRecord(QStringLiteral("en1")), expected);
-    EXPECT_EQ(recorded(QStringLiteral("bridge0"), record::ipAddress), QString());
-    EXPECT_EQ(recorded(QStringLiteral("bridge0"), record::status), QLatin1String("inactive"));
+    EXPECT_EQ(storedRecord(u"en1"_s), expected);
+    EXPECT_EQ(recorded(u"bridge0"_s, record::ipAddress), QString());
+    EXPECT_EQ(recorded(u"bridge0"_s, record::status), "inactive"_L1);
 }
 
 TEST_F(DeviceTableRefresh, WritesTheTableOnceAndFlushesOnce)
 {
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set deviceDict"_s, u"synchronize"_s}));
 }
 
 TEST_F(DeviceTableRefresh, OfAMachineWithoutPortsFlushesAndKeepsTheTable)
@@ -71,53 +71,50 @@ TEST_F(DeviceTableRefresh, OfAMachineWithoutPortsFlushesAndKeepsTheTable)
     settings.clearJournal();
     table.updateNetWorkInterfaces();
     EXPECT_EQ(storedTable(), before);
-    EXPECT_EQ(settings.journal(), QStringList{QStringLiteral("synchronize")});
+    EXPECT_EQ(settings.journal(), QStringList{u"synchronize"_s});
 }
 
 TEST_F(DeviceTableRefresh, NeverForgetsADeviceThatWasUnplugged)
 {
     table.updateNetWorkInterfaces();
-    const QVariantMap last = storedRecord(QStringLiteral("en0"));
-    host.unplug(QStringLiteral("en0"));
+    const QVariantMap last = storedRecord(u"en0"_s);
+    host.unplug(u"en0"_s);
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(storedRecord(QStringLiteral("en0")), last);
+    EXPECT_EQ(storedRecord(u"en0"_s), last);
 }
 
 TEST_F(DeviceTableRefresh, LeavesWhatOthersKeepInTheRecord)
 {
-    const QVariantMap rule = {{QStringLiteral("name"), QStringLiteral("home")}};
-    storeRecord(QStringLiteral("en0"),
-        {{record::vendor, QStringLiteral("Maker (A1B2C3)")}, {record::hasRule, QStringLiteral("1")},
-            {record::rule, rule}, {record::loginRule, rule},
-            {QStringLiteral("future"), QStringLiteral("kept")},
-            {record::current, QStringLiteral("stale")}});
+    const QVariantMap rule = {{u"name"_s, u"home"_s}};
+    storeRecord(u"en0"_s,
+        {{record::vendor, u"Maker (A1B2C3)"_s}, {record::hasRule, u"1"_s}, {record::rule, rule},
+            {record::loginRule, rule}, {u"future"_s, u"kept"_s}, {record::current, u"stale"_s}});
     table.updateNetWorkInterfaces();
-    const QVariantMap record = storedRecord(QStringLiteral("en0"));
-    EXPECT_EQ(record.value(record::vendor).toString(), QLatin1String("Maker (A1B2C3)"));
-    EXPECT_EQ(record.value(record::hasRule).toString(), QLatin1String("1"));
+    const QVariantMap record = storedRecord(u"en0"_s);
+    EXPECT_EQ(record.value(record::vendor).toString(), "Maker (A1B2C3)"_L1);
+    EXPECT_EQ(record.value(record::hasRule).toString(), "1"_L1);
     EXPECT_EQ(record.value(record::rule).toMap(), rule);
     EXPECT_EQ(record.value(record::loginRule).toMap(), rule);
-    EXPECT_EQ(record.value(QStringLiteral("future")).toString(), QLatin1String("kept"));
-    EXPECT_EQ(record.value(record::current).toString(), QLatin1String("00:16:3e:11:22:33"));
+    EXPECT_EQ(record.value(u"future"_s).toString(), "kept"_L1);
+    EXPECT_EQ(record.value(record::current).toString(), "00:16:3e:11:22:33"_L1);
 }
 
 TEST_F(DeviceTableRefresh, RecordsADeviceThatAnswersNothingWithoutAddress)
 {
-    host.at(QStringLiteral("en0")).broken = true;
+    host.at(u"en0"_s).broken = true;
     table.updateNetWorkInterfaces();
-    const QVariantMap record = storedRecord(QStringLiteral("en0"));
+    const QVariantMap record = storedRecord(u"en0"_s);
     EXPECT_EQ(record.value(record::current), QVariant(QString()));
-    EXPECT_EQ(record.value(record::hardware).toString(), QLatin1String("00:16:3e:11:22:33"));
+    EXPECT_EQ(record.value(record::hardware).toString(), "00:16:3e:11:22:33"_L1);
 }
 
 TEST_F(DeviceTableRefresh, OfARenamedDeviceKeepsBothNames)
 {
     table.updateNetWorkInterfaces();
-    host.rename(QStringLiteral("en0"), QStringLiteral("lan0"));
+    host.rename(u"en0"_s, u"lan0"_s);
     table.updateNetWorkInterfaces();
-    EXPECT_TRUE(table.contains(QStringLiteral("en0")));
-    EXPECT_EQ(
-        recorded(QStringLiteral("lan0"), record::current), QLatin1String("00:16:3e:11:22:33"));
+    EXPECT_TRUE(table.contains(u"en0"_s));
+    EXPECT_EQ(recorded(u"lan0"_s, record::current), "00:16:3e:11:22:33"_L1);
 }
 
 TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
@@ -127,7 +124,7 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
     public:
         QString translate(const char *, const char *text, const char *, int) const override
         {
-            return QStringLiteral("<%1>").arg(QString::fromUtf8(text));
+            return u"<%1>"_s.arg(QString::fromUtf8(text));
         }
         bool isEmpty() const override { return false; }
     } translator;
@@ -135,31 +132,29 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
     table.updateNetWorkInterfaces();
     QCoreApplication::removeTranslator(&translator);
 
-    EXPECT_EQ(recorded(QStringLiteral("en1"), record::interface), QLatin1String("Wi-Fi"));
-    EXPECT_EQ(
-        recorded(QStringLiteral("en1"), record::localizedInterface), QLatin1String("<Wi-Fi>"));
-    EXPECT_EQ(
-        recorded(QStringLiteral("en0"), record::localizedInterface), QLatin1String("Ethernet"));
+    EXPECT_EQ(recorded(u"en1"_s, record::interface), "Wi-Fi"_L1);
+    EXPECT_EQ(recorded(u"en1"_s, record::localizedInterface), "<Wi-Fi>"_L1);
+    EXPECT_EQ(recorded(u"en0"_s, record::localizedInterface), "Ethernet"_L1);
 }
 
 class DeviceTableFactoryAddressUntold : public DeviceFixture
 {
 protected:
     DeviceTableFactoryAddressUntold()
-        : DeviceFixture(QStringLiteral("laptop"))
+        : DeviceFixture(u"laptop"_s)
     {
     }
-    const QString bridge = QStringLiteral("br0");
+    const QString bridge = u"br0"_s;
 };
 
 TEST_F(DeviceTableFactoryAddressUntold, IsTheAddressFirstSeen)
 {
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
-    host.giveAddress(bridge, QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(recorded(bridge, record::hardware), "c6:01:02:03:04:05"_L1);
+    host.giveAddress(bridge, u"02:00:00:00:00:01"_s);
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
-    EXPECT_EQ(recorded(bridge, record::current), QLatin1String("02:00:00:00:00:01"));
+    EXPECT_EQ(recorded(bridge, record::hardware), "c6:01:02:03:04:05"_L1);
+    EXPECT_EQ(recorded(bridge, record::current), "02:00:00:00:00:01"_L1);
 }
 
 TEST_F(DeviceTableFactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
@@ -169,7 +164,7 @@ TEST_F(DeviceTableFactoryAddressUntold, IsUnknownUntilAnAddressWasSeen)
     EXPECT_EQ(recorded(bridge, record::hardware), QString());
     host.at(bridge).broken = false;
     table.updateNetWorkInterfaces();
-    EXPECT_EQ(recorded(bridge, record::hardware), QLatin1String("c6:01:02:03:04:05"));
+    EXPECT_EQ(recorded(bridge, record::hardware), "c6:01:02:03:04:05"_L1);
 }
 
 class DeviceTableOfATextualHost : public DeviceFixture
@@ -181,10 +176,10 @@ protected:
         QFile query(QStringLiteral(QUILLON_TEST_DATA "/commands/ifconfig-en0.txt"));
         EXPECT_TRUE(ports.open(QIODevice::ReadOnly) && query.open(QIODevice::ReadOnly));
         commands.teach(list, QString::fromUtf8(ports.readAll()));
-        commands.teach(QStringLiteral("ifconfig en0"), QString::fromUtf8(query.readAll()));
+        commands.teach(u"ifconfig en0"_s, QString::fromUtf8(query.readAll()));
     }
 
-    const QString list = QStringLiteral("networksetup -listallhardwareports");
+    const QString list = u"networksetup -listallhardwareports"_s;
     FakeCommandRunner commands;
     TextualHost textualHost{commands};
     DeviceTable textualTable{settings, textualHost, addresses};
@@ -193,32 +188,29 @@ protected:
 TEST_F(DeviceTableOfATextualHost, FillTheSameRecords)
 {
     textualTable.updateNetWorkInterfaces();
-    EXPECT_EQ(textualTable.names(),
-        (QStringList{QStringLiteral("bridge0"), QStringLiteral("en0"), QStringLiteral("en1")}));
+    EXPECT_EQ(textualTable.names(), (QStringList{u"bridge0"_s, u"en0"_s, u"en1"_s}));
     const QVariantMap expected = {
-        {record::interface, QStringLiteral("Wi-Fi")},
-        {record::localizedInterface, QStringLiteral("Wi-Fi")},
-        {record::hardware, QStringLiteral("00:16:3e:44:55:66")},
-        {record::current, QStringLiteral("02:16:3e:44:55:66")},
-        {record::status, QStringLiteral("active")},
-        {record::ipAddress, QStringLiteral("198.51.100.7")},
+        {record::interface, u"Wi-Fi"_s},
+        {record::localizedInterface, u"Wi-Fi"_s},
+        {record::hardware, u"00:16:3e:44:55:66"_s},
+        {record::current, u"02:16:3e:44:55:66"_s},
+        {record::status, u"active"_s},
+        {record::ipAddress, u"198.51.100.7"_s},
     };
-    EXPECT_EQ(storedRecord(QStringLiteral("en0")), expected);
+    EXPECT_EQ(storedRecord(u"en0"_s), expected);
 }
 
 TEST_F(DeviceTableOfATextualHost, En10OverwritesTheRecordOfEn1)
 {
-    commands.teach(
-        list, QStringLiteral(
-                  "Hardware Port: Ethernet\nDevice: en1\nEthernet Address: 00:16:3e:00:00:01\n\n"
-                  "Hardware Port: USB LAN\nDevice: en10\nEthernet Address: 00:16:3e:00:00:10\n\n"));
-    storeRecord(QStringLiteral("en1"), {{record::vendor, QStringLiteral("Maker (A1B2C3)")}});
+    commands.teach(list,
+        u"Hardware Port: Ethernet\nDevice: en1\nEthernet Address: 00:16:3e:00:00:01\n\n"
+        "Hardware Port: USB LAN\nDevice: en10\nEthernet Address: 00:16:3e:00:00:10\n\n"_s);
+    storeRecord(u"en1"_s, {{record::vendor, u"Maker (A1B2C3)"_s}});
     textualTable.updateNetWorkInterfaces();
-    EXPECT_EQ(textualTable.names(), QStringList{QStringLiteral("en1")});
-    EXPECT_EQ(recorded(QStringLiteral("en1"), record::interface), QLatin1String("USB LAN"));
-    EXPECT_EQ(
-        recorded(QStringLiteral("en1"), record::hardware), QLatin1String("00:16:3e:00:00:10"));
-    EXPECT_EQ(recorded(QStringLiteral("en1"), record::vendor), QLatin1String("Maker (A1B2C3)"));
+    EXPECT_EQ(textualTable.names(), QStringList{u"en1"_s});
+    EXPECT_EQ(recorded(u"en1"_s, record::interface), "USB LAN"_L1);
+    EXPECT_EQ(recorded(u"en1"_s, record::hardware), "00:16:3e:00:00:10"_L1);
+    EXPECT_EQ(recorded(u"en1"_s, record::vendor), "Maker (A1B2C3)"_L1);
 }
 
 class DeviceTableQueries : public DeviceFixture
@@ -227,43 +219,42 @@ class DeviceTableQueries : public DeviceFixture
 
 TEST_F(DeviceTableQueries, ReadBackStoresNothing)
 {
-    const InterfaceInfo info = table.getInfoForDevice(QStringLiteral("en1"));
-    EXPECT_EQ(info.macAddress, QLatin1String("02:16:3e:44:55:66"));
+    const InterfaceInfo info = table.getInfoForDevice(u"en1"_s);
+    EXPECT_EQ(info.macAddress, "02:16:3e:44:55:66"_L1);
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
 TEST_F(DeviceTableQueries, OfTwoIpAddressesOneQueryTellsTheLastTheOtherTheFirst)
 {
-    EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en0")), QLatin1String("192.0.2.11"));
-    EXPECT_EQ(table.getInfoForDevice(QStringLiteral("en0")).ipAddress, QLatin1String("192.0.2.10"));
+    EXPECT_EQ(table.ipAddressForDevice(u"en0"_s), "192.0.2.11"_L1);
+    EXPECT_EQ(table.getInfoForDevice(u"en0"_s).ipAddress, "192.0.2.10"_L1);
 }
 
 TEST_F(DeviceTableQueries, ADeviceWithoutIpAddressHasAnEmptyOne)
 {
-    EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en3")), QString());
-    EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en")), QString()) << "names match whole";
+    EXPECT_EQ(table.ipAddressForDevice(u"en3"_s), QString());
+    EXPECT_EQ(table.ipAddressForDevice(u"en"_s), QString()) << "names match whole";
     addresses.fail();
-    EXPECT_EQ(table.ipAddressForDevice(QStringLiteral("en0")), QString());
+    EXPECT_EQ(table.ipAddressForDevice(u"en0"_s), QString());
 }
 
 TEST_F(DeviceTableQueries, WifiIsWhatIsCalledExactlyThat)
 {
-    store({{QStringLiteral("a"), wifi()}, {QStringLiteral("b"), wired()},
-        {QStringLiteral("c"), QVariantMap{{record::interface, QStringLiteral("Wi-Fi 2")}}},
-        {QStringLiteral("d"), QVariantMap{{record::interface, QStringLiteral("wi-fi")}}}});
-    EXPECT_TRUE(table.isDeviceWifi(QStringLiteral("a")));
-    EXPECT_FALSE(table.isDeviceWifi(QStringLiteral("b")));
-    EXPECT_FALSE(table.isDeviceWifi(QStringLiteral("c")));
-    EXPECT_FALSE(table.isDeviceWifi(QStringLiteral("d")));
-    EXPECT_FALSE(table.isDeviceWifi(QStringLiteral("unknown")));
+    store({{u"a"_s, wifi()}, {u"b"_s, wired()},
+        {u"c"_s, QVariantMap{{record::interface, u"Wi-Fi 2"_s}}},
+        {u"d"_s, QVariantMap{{record::interface, u"wi-fi"_s}}}});
+    EXPECT_TRUE(table.isDeviceWifi(u"a"_s));
+    EXPECT_FALSE(table.isDeviceWifi(u"b"_s));
+    EXPECT_FALSE(table.isDeviceWifi(u"c"_s));
+    EXPECT_FALSE(table.isDeviceWifi(u"d"_s));
+    EXPECT_FALSE(table.isDeviceWifi(u"unknown"_s));
 }
 
 TEST_F(DeviceTableQueries, WithoutWifiTheWifiDeviceIsEmptyAndNothingIsForcedToTheFront)
 {
-    store({{QStringLiteral("bridge0"), wired()}, {QStringLiteral("en0"), wired()}});
+    store({{u"bridge0"_s, wired()}, {u"en0"_s, wired()}});
     EXPECT_EQ(table.getWifiDevice(), QString());
-    EXPECT_EQ(table.sortedDevicesArray(),
-        (QStringList{QStringLiteral("en0"), QStringLiteral("bridge0")}));
+    EXPECT_EQ(table.sortedDevicesArray(), (QStringList{u"en0"_s, u"bridge0"_s}));
     store({});
     EXPECT_EQ(table.getWifiDevice(), QString());
     EXPECT_TRUE(table.sortedDevicesArray().isEmpty());
@@ -271,22 +262,19 @@ TEST_F(DeviceTableQueries, WithoutWifiTheWifiDeviceIsEmptyAndNothingIsForcedToTh
 
 TEST_F(DeviceTableQueries, ListsShowWifiFirstThenEthernetThenBridges)
 {
-    store({{QStringLiteral("bridge0"), wired()}, {QStringLiteral("en2"), wired()},
-        {QStringLiteral("en1"), wifi()}, {QStringLiteral("en0"), wired()}});
-    EXPECT_EQ(table.getWifiDevice(), QLatin1String("en1"));
-    EXPECT_EQ(table.sortedDevicesArray(), (QStringList{QStringLiteral("en1"), QStringLiteral("en0"),
-                                              QStringLiteral("en2"), QStringLiteral("bridge0")}));
+    store({{u"bridge0"_s, wired()}, {u"en2"_s, wired()}, {u"en1"_s, wifi()}, {u"en0"_s, wired()}});
+    EXPECT_EQ(table.getWifiDevice(), "en1"_L1);
+    EXPECT_EQ(
+        table.sortedDevicesArray(), (QStringList{u"en1"_s, u"en0"_s, u"en2"_s, u"bridge0"_s}));
 }
 
 TEST_F(DeviceTableQueries, ListsSortByCharacterAndPutOneWifiInFront)
 {
-    store({{QStringLiteral("wlp2s0"), wifi()}, {QStringLiteral("wlp1s0"), wifi()},
-        {QStringLiteral("eth0"), wired()}, {QStringLiteral("enp1s0"), wired()},
-        {QStringLiteral("Eth1"), wired()}, {QStringLiteral("br0"), wired()}});
-    EXPECT_EQ(table.getWifiDevice(), QLatin1String("wlp1s0"));
+    store({{u"wlp2s0"_s, wifi()}, {u"wlp1s0"_s, wifi()}, {u"eth0"_s, wired()},
+        {u"enp1s0"_s, wired()}, {u"Eth1"_s, wired()}, {u"br0"_s, wired()}});
+    EXPECT_EQ(table.getWifiDevice(), "wlp1s0"_L1);
     EXPECT_EQ(table.sortedDevicesArray(),
-        (QStringList{QStringLiteral("wlp1s0"), QStringLiteral("enp1s0"), QStringLiteral("eth0"),
-            QStringLiteral("Eth1"), QStringLiteral("br0"), QStringLiteral("wlp2s0")}));
+        (QStringList{u"wlp1s0"_s, u"enp1s0"_s, u"eth0"_s, u"Eth1"_s, u"br0"_s, u"wlp2s0"_s}));
 }
 
 /// Notices callers who do not wait for each other.
@@ -328,7 +316,7 @@ TEST_F(DeviceTableQueries, FromManyThreadsReachTheHostOneAtATime)
         threads.emplace_back([&shared, i] {
             for (int n = 0; n < 2000; ++n) {
                 i % 2 == 0 ? shared.updateNetWorkInterfaces()
-                           : static_cast<void>(shared.getInfoForDevice(QStringLiteral("en0")));
+                           : static_cast<void>(shared.getInfoForDevice(u"en0"_s));
             }
         });
     }
@@ -341,31 +329,29 @@ TEST_F(DeviceTableQueries, FromManyThreadsReachTheHostOneAtATime)
 class DeviceTableUpdate : public DeviceFixture
 {
 protected:
-    const QString en0 = QStringLiteral("en0");
+    const QString en0 = u"en0"_s;
 };
 
 TEST_F(DeviceTableUpdate, ChangesOneRecordAndFlushes)
 {
     const QVariantMap other = wifi();
-    store({{en0, wired()}, {QStringLiteral("en1"), other},
-        {QStringLiteral("en2"), QStringLiteral("text")}});
+    store({{en0, wired()}, {u"en1"_s, other}, {u"en2"_s, u"text"_s}});
     settings.clearJournal();
-    const DeviceRecord changed = table.update(
-        en0, [](DeviceRecord &record) { record.vendor = QStringLiteral("Maker (A1B2C3)"); });
+    const DeviceRecord changed =
+        table.update(en0, [](DeviceRecord &record) { record.vendor = u"Maker (A1B2C3)"_s; });
     QVariantMap expected = wired();
-    expected[record::vendor] = QStringLiteral("Maker (A1B2C3)");
+    expected[record::vendor] = u"Maker (A1B2C3)"_s;
     EXPECT_EQ(storedRecord(en0), expected);
     EXPECT_EQ(changed, table.record(en0));
-    EXPECT_EQ(storedRecord(QStringLiteral("en1")), other);
-    EXPECT_EQ(storedTable().value(QStringLiteral("en2")), QVariant(QStringLiteral("text")));
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(storedRecord(u"en1"_s), other);
+    EXPECT_EQ(storedTable().value(u"en2"_s), QVariant(u"text"_s));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set deviceDict"_s, u"synchronize"_s}));
 }
 
 TEST_F(DeviceTableUpdate, MakesTheRecordOfADeviceThatHadNone)
 {
-    table.update(en0, [](DeviceRecord &record) { record.status = QStringLiteral("active"); });
-    EXPECT_EQ(storedRecord(en0), (QVariantMap{{record::status, QStringLiteral("active")}}));
+    table.update(en0, [](DeviceRecord &record) { record.status = u"active"_s; });
+    EXPECT_EQ(storedRecord(en0), (QVariantMap{{record::status, u"active"_s}}));
 }
 
 } // namespace

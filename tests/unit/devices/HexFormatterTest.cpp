@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 bool mayType(const char *text)
@@ -49,11 +51,11 @@ TEST(HexFormatter, KnowsTheMaximumThatApplied)
 {
     HexFormatter formatter;
     EXPECT_EQ(formatter.maximumLength(), 2147483647);
-    formatter.isPartialStringValid(QStringLiteral("a1"));
+    formatter.isPartialStringValid(u"a1"_s);
     EXPECT_EQ(formatter.maximumLength(), 12);
-    formatter.isPartialStringValid(QStringLiteral("a1:"));
+    formatter.isPartialStringValid(u"a1:"_s);
     EXPECT_EQ(formatter.maximumLength(), 17);
-    formatter.isPartialStringValid(QStringLiteral("g"));
+    formatter.isPartialStringValid(u"g"_s);
     EXPECT_EQ(formatter.maximumLength(), 17);
     formatter.isPartialStringValid(QString());
     EXPECT_EQ(formatter.maximumLength(), 12);
@@ -62,7 +64,7 @@ TEST(HexFormatter, KnowsTheMaximumThatApplied)
 TEST(HexFormatter, KeepsTextsAsTheyAre)
 {
     const HexFormatter formatter;
-    const QString typed = QStringLiteral("a1:B2:c3");
+    const QString typed = u"a1:B2:c3"_s;
     EXPECT_EQ(formatter.stringForObjectValue(typed), typed);
     EXPECT_EQ(formatter.getObjectValueForString(typed), typed);
 }

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class HexValueTransformerTest : public ::testing::Test
@@ -21,17 +23,16 @@ protected:
 
 TEST_F(HexValueTransformerTest, IsUpperUnlessTheUserWantsLower)
 {
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0c")), QLatin1String("AA:BB:0C"));
+    EXPECT_EQ(displayCase.transformedValue(u"aa:Bb:0c"_s), "AA:BB:0C"_L1);
     settings.setBool(keys::lowerCaseHEX, true);
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0C")), QLatin1String("aa:bb:0c"));
+    EXPECT_EQ(displayCase.transformedValue(u"aa:Bb:0C"_s), "aa:bb:0c"_L1);
     settings.setBool(keys::lowerCaseHEX, false);
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral("aa:Bb:0c")), QLatin1String("AA:BB:0C"));
+    EXPECT_EQ(displayCase.transformedValue(u"aa:Bb:0c"_s), "AA:BB:0C"_L1);
 }
 
 TEST_F(HexValueTransformerTest, NeitherTrimsNorInsertsColons)
 {
-    EXPECT_EQ(displayCase.transformedValue(QStringLiteral(" a1b2c3d4e5f6\n")),
-        QLatin1String(" A1B2C3D4E5F6\n"));
+    EXPECT_EQ(displayCase.transformedValue(u" a1b2c3d4e5f6\n"_s), " A1B2C3D4E5F6\n"_L1);
     EXPECT_EQ(displayCase.transformedValue(QString()), QString());
 }
 

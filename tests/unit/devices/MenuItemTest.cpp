@@ -5,14 +5,16 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(MenuItem, KnowsItsPlaceInTheMenu)
 {
     MenuItem menu{QString()};
-    const MenuItem &first = menu.append(QStringLiteral("first"));
-    const MenuItem &second = menu.append(QStringLiteral("second"));
-    const MenuItem &third = menu.append(QStringLiteral("third"));
+    const MenuItem &first = menu.append(u"first"_s);
+    const MenuItem &second = menu.append(u"second"_s);
+    const MenuItem &third = menu.append(u"third"_s);
 
     EXPECT_EQ(third.itemAbove(1), &second);
     EXPECT_EQ(third.itemAbove(2), &first);
@@ -25,8 +27,8 @@ TEST(MenuItem, KnowsItsPlaceInTheMenu)
 TEST(MenuItem, OfASubmenuKnowsTheItemItStandsIn)
 {
     MenuItem menu{QString()};
-    MenuItem &address = menu.append(QStringLiteral("address"));
-    const MenuItem &action = address.append(QStringLiteral("action"));
+    MenuItem &address = menu.append(u"address"_s);
+    const MenuItem &action = address.append(u"action"_s);
 
     EXPECT_EQ(action.parentItem(), &address);
     EXPECT_EQ(address.parentItem(), nullptr);

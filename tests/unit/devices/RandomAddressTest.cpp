@@ -9,6 +9,8 @@
 #include <algorithm>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The rule as it is told: the numeral's first six characters, "10" appended, read as binary.
@@ -43,33 +45,32 @@ TEST(RandomAddressFirstOctet, IsLocallyAdministeredAndUnicastForEveryByte)
 
 TEST(RandomAddressFirstOctet, IsUnevenByDesign)
 {
-    EXPECT_EQ(randomFirstOctet(255), QLatin1String("FE"));
-    EXPECT_EQ(randomFirstOctet(128), QLatin1String("82"));
-    EXPECT_EQ(randomFirstOctet(127), QLatin1String("FE"));
-    EXPECT_EQ(randomFirstOctet(64), QLatin1String("82"));
-    EXPECT_EQ(randomFirstOctet(63), QLatin1String("FE"));
-    EXPECT_EQ(randomFirstOctet(32), QLatin1String("82"));
-    EXPECT_EQ(randomFirstOctet(4), QLatin1String("12"));
+    EXPECT_EQ(randomFirstOctet(255), "FE"_L1);
+    EXPECT_EQ(randomFirstOctet(128), "82"_L1);
+    EXPECT_EQ(randomFirstOctet(127), "FE"_L1);
+    EXPECT_EQ(randomFirstOctet(64), "82"_L1);
+    EXPECT_EQ(randomFirstOctet(63), "FE"_L1);
+    EXPECT_EQ(randomFirstOctet(32), "82"_L1);
+    EXPECT_EQ(randomFirstOctet(4), "12"_L1);
 }
 
 TEST(RandomAddressFirstOctet, IsASingleDigitForTheFourSmallestBytes)
 {
-    EXPECT_EQ(randomFirstOctet(0), QLatin1String("2"));
-    EXPECT_EQ(randomFirstOctet(1), QLatin1String("6"));
-    EXPECT_EQ(randomFirstOctet(2), QLatin1String("A"));
-    EXPECT_EQ(randomFirstOctet(3), QLatin1String("E"));
+    EXPECT_EQ(randomFirstOctet(0), "2"_L1);
+    EXPECT_EQ(randomFirstOctet(1), "6"_L1);
+    EXPECT_EQ(randomFirstOctet(2), "A"_L1);
+    EXPECT_EQ(randomFirstOctet(3), "E"_L1);
 }
 
 TEST(RandomAddressText, WritesFiveFurtherOctetsWithTwoUpperCaseDigits)
 {
-    EXPECT_EQ(
-        randomAddressText(QByteArray::fromHex("c0abcdef0009")), QLatin1String("C2:AB:CD:EF:00:09"));
+    EXPECT_EQ(randomAddressText(QByteArray::fromHex("c0abcdef0009")), "C2:AB:CD:EF:00:09"_L1);
 }
 
 TEST(RandomAddressText, OfByteZeroHasSixteenCharactersAndIsAnAddress)
 {
     const QString address = randomAddressText(QByteArray::fromHex("00abcdef0123"));
-    EXPECT_EQ(address, QLatin1String("2:AB:CD:EF:01:23"));
+    EXPECT_EQ(address, "2:AB:CD:EF:01:23"_L1);
     EXPECT_TRUE(isStringValidHEX(address));
 }
 
@@ -82,44 +83,41 @@ TEST(RandomAddressText, NeedsSixBytes)
 
 TEST(RandomAddressVendorPrefix, IsWhatStandsBetweenTheParentheses)
 {
-    EXPECT_EQ(vendorPrefix(QStringLiteral("Some Maker Inc. (A1B2C3)")), QStringLiteral("A1B2C3"));
-    EXPECT_EQ(vendorPrefix(QStringLiteral("Some (Old) Maker (a1b2c3)")), QStringLiteral("a1b2c3"));
+    EXPECT_EQ(vendorPrefix(u"Some Maker Inc. (A1B2C3)"_s), u"A1B2C3"_s);
+    EXPECT_EQ(vendorPrefix(u"Some (Old) Maker (a1b2c3)"_s), u"a1b2c3"_s);
 }
 
 TEST(RandomAddressVendorPrefix, IsNoneWithoutParenthesis)
 {
-    EXPECT_EQ(vendorPrefix(QStringLiteral("Random Address")), std::nullopt);
+    EXPECT_EQ(vendorPrefix(u"Random Address"_s), std::nullopt);
     EXPECT_EQ(vendorPrefix(QString()), std::nullopt);
-    EXPECT_EQ(vendorPrefix(QStringLiteral("A1B2C3)")), std::nullopt);
+    EXPECT_EQ(vendorPrefix(u"A1B2C3)"_s), std::nullopt);
 }
 
 TEST(RandomAddressVendorPrefix, OfAMalformedChoiceIsWhatThereIs)
 {
-    EXPECT_EQ(vendorPrefix(QStringLiteral("(")), QString());
-    EXPECT_EQ(vendorPrefix(QStringLiteral("(A)")), QStringLiteral("(A"));
+    EXPECT_EQ(vendorPrefix(u"("_s), QString());
+    EXPECT_EQ(vendorPrefix(u"(A)"_s), u"(A"_s);
 }
 
 TEST(RandomAddressWithPrefix, TakesTheAddressFromItsNinthCharacterOn)
 {
-    EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("C2:AB:CD:EF:00:09")),
-        QLatin1String("A1:B2:C3:EF:00:09"));
+    EXPECT_EQ(addressWithPrefix(u"A1B2C3"_s, u"C2:AB:CD:EF:00:09"_s), "A1:B2:C3:EF:00:09"_L1);
 }
 
 TEST(RandomAddressWithPrefix, LacksAColonWhenTheAddressHasSixteenCharacters)
 {
-    const QString malformed =
-        addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("2:AB:CD:EF:01:23"));
-    EXPECT_EQ(malformed, QLatin1String("A1:B2:C3EF:01:23"));
+    const QString malformed = addressWithPrefix(u"A1B2C3"_s, u"2:AB:CD:EF:01:23"_s);
+    EXPECT_EQ(malformed, "A1:B2:C3EF:01:23"_L1);
     EXPECT_EQ(malformed.size(), 16);
     EXPECT_FALSE(isStringValidHEX(malformed));
 }
 
 TEST(RandomAddressWithPrefix, SurvivesTextsThatAreTooShort)
 {
-    EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QString()), QLatin1String("A1:B2:C3"));
-    EXPECT_EQ(addressWithPrefix(QStringLiteral("A1B2C3"), QStringLiteral("2:AB")),
-        QLatin1String("A1:B2:C3"));
-    EXPECT_EQ(addressWithPrefix(QString(), QString()), QLatin1String("::"));
+    EXPECT_EQ(addressWithPrefix(u"A1B2C3"_s, QString()), "A1:B2:C3"_L1);
+    EXPECT_EQ(addressWithPrefix(u"A1B2C3"_s, u"2:AB"_s), "A1:B2:C3"_L1);
+    EXPECT_EQ(addressWithPrefix(QString(), QString()), "::"_L1);
 }
 
 class RandomAddressOfDevice : public DeviceFixture
@@ -130,7 +128,7 @@ protected:
     FakeRandomSource random;
     QString made(const std::optional<QString> &vendor = std::nullopt)
     {
-        return maker.addressForDevice(QStringLiteral("en0"), vendor);
+        return maker.addressForDevice(u"en0"_s, vendor);
     }
 
     RandomAddress maker{random, table};
@@ -138,36 +136,36 @@ protected:
 
 TEST_F(RandomAddressOfDevice, IsMadeOfTheRandomBytes)
 {
-    EXPECT_EQ(made(), QLatin1String("C2:AB:CD:EF:00:09"));
+    EXPECT_EQ(made(), "C2:AB:CD:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, BeginsWithTheGivenVendor)
 {
-    EXPECT_EQ(made(QStringLiteral("Some Maker Inc. (A1B2C3)")), QLatin1String("A1:B2:C3:EF:00:09"));
+    EXPECT_EQ(made(u"Some Maker Inc. (A1B2C3)"_s), "A1:B2:C3:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, KeepsTheCaseOfTheStoredPrefixAndIgnoresTheDisplayCase)
 {
     settings.setBool(keys::lowerCaseHEX, true);
-    EXPECT_EQ(made(QStringLiteral("Maker (a1B2c3)")), QLatin1String("a1:B2:c3:EF:00:09"));
+    EXPECT_EQ(made(u"Maker (a1B2c3)"_s), "a1:B2:c3:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, FollowsTheVendorOfTheDeviceWhenNoneIsGiven)
 {
-    storeRecord(QStringLiteral("en0"), {{record::vendor, QStringLiteral("Maker (0016EA)")}});
-    EXPECT_EQ(made(), QLatin1String("00:16:EA:EF:00:09"));
+    storeRecord(u"en0"_s, {{record::vendor, u"Maker (0016EA)"_s}});
+    EXPECT_EQ(made(), "00:16:EA:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, PrefersTheGivenVendorToThatOfTheDevice)
 {
-    storeRecord(QStringLiteral("en0"), {{record::vendor, QStringLiteral("Maker (0016EA)")}});
-    EXPECT_EQ(made(QStringLiteral("Random Address")), QLatin1String("C2:AB:CD:EF:00:09"));
+    storeRecord(u"en0"_s, {{record::vendor, u"Maker (0016EA)"_s}});
+    EXPECT_EQ(made(u"Random Address"_s), "C2:AB:CD:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, IsPlainForAVendorWithoutParenthesis)
 {
-    storeRecord(QStringLiteral("en0"), {{record::vendor, QStringLiteral("Random Address")}});
-    EXPECT_EQ(made(), QLatin1String("C2:AB:CD:EF:00:09"));
+    storeRecord(u"en0"_s, {{record::vendor, u"Random Address"_s}});
+    EXPECT_EQ(made(), "C2:AB:CD:EF:00:09"_L1);
 }
 
 TEST_F(RandomAddressOfDevice, IsEmptyWhenTheRandomSourceFails)
@@ -179,7 +177,7 @@ TEST_F(RandomAddressOfDevice, IsEmptyWhenTheRandomSourceFails)
 TEST_F(RandomAddressOfDevice, IsEmptyWithAVendorTooWhenTheRandomSourceFails)
 {
     random.fail();
-    EXPECT_EQ(made(QStringLiteral("Maker (A1B2C3)")), QString());
+    EXPECT_EQ(made(u"Maker (A1B2C3)"_s), QString());
 }
 
 TEST_F(RandomAddressOfDevice, HoldsNothingButDigitsAndColonsForEveryFirstByte)

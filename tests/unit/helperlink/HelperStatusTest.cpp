@@ -4,11 +4,13 @@
 #include "base/NotificationNames.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QStringList words(const char *text)
 {
-    return QString::fromUtf8(text).split(QLatin1Char(' '));
+    return QString::fromUtf8(text).split(u' ');
 }
 
 class HelperStatus : public HelperLinkFixture
@@ -17,15 +19,15 @@ protected:
     HelperStatus()
     {
         QObject::connect(xpc.get(), &XPCMethods::helperStatusRead, [this](bool installed) {
-            heard << (installed ? QStringLiteral("installed") : QStringLiteral("missing"));
+            heard << (installed ? u"installed"_s : u"missing"_s);
             EXPECT_EQ(xpc->isHelperInstalled(), installed) << "known before it is announced";
             EXPECT_TRUE(scheduler.isMainThread());
         });
         QObject::connect(xpc.get(), &XPCMethods::helperInstalledFromMainWindow,
-            [this] { heard << QStringLiteral("from main window"); });
+            [this] { heard << u"from main window"_s; });
         notifications.addObserver(notifications::helperStatusChanged,
             [this](const NotificationCenter::Notification &posted) {
-                heard << QStringLiteral("posted");
+                heard << u"posted"_s;
                 EXPECT_EQ(posted.object, xpc.get());
                 EXPECT_TRUE(scheduler.isMainThread());
             });
@@ -54,7 +56,7 @@ TEST_F(HelperStatus, IsReadThenAnnounced)
 
 TEST_F(HelperStatus, OfVersion19IsNotInstalled)
 {
-    helper.version = QStringLiteral("1.9");
+    helper.version = u"1.9"_s;
     EXPECT_EQ(status(), words("missing posted"));
     EXPECT_FALSE(xpc->isHelperInstalled());
 }
@@ -127,11 +129,11 @@ TEST_F(HelperStatus, AnInstallationFromTheMainWindowSaysWhenItBeginsAndEnds)
         QStringList around;
         QObject lifetime;
         QObject::connect(xpc.get(), &XPCMethods::helperInstallationStarted, &lifetime,
-            [&around] { around << QStringLiteral("started"); });
+            [&around] { around << u"started"_s; });
         QObject::connect(xpc.get(), &XPCMethods::helperInstalledFromMainWindow, &lifetime,
-            [&around] { around << QStringLiteral("installed"); });
+            [&around] { around << u"installed"_s; });
         QObject::connect(xpc.get(), &XPCMethods::helperInstallationEnded, &lifetime,
-            [&around] { around << QStringLiteral("ended"); });
+            [&around] { around << u"ended"_s; });
         xpc->installHelper();
         EXPECT_EQ(around, words("started"));
         scheduler.runPending();
@@ -144,8 +146,7 @@ TEST_F(HelperStatus, IsReadAfterAnInstallationFromTheMainWindow)
     helper.installed = false;
     xpc->installHelper();
     scheduler.runPending();
-    EXPECT_EQ(heard, QStringList({QStringLiteral("from main window"), QStringLiteral("installed"),
-                         QStringLiteral("posted")}));
+    EXPECT_EQ(heard, QStringList({u"from main window"_s, u"installed"_s, u"posted"_s}));
 }
 
 TEST_F(HelperStatus, StaysAsItWasWhenAnInstallationFromTheMainWindowFails)
@@ -155,7 +156,7 @@ TEST_F(HelperStatus, StaysAsItWasWhenAnInstallationFromTheMainWindowFails)
     xpc->installHelper();
     scheduler.runPending();
     EXPECT_TRUE(heard.isEmpty());
-    EXPECT_EQ(helper.journal(), (QStringList{serviceMade, QStringLiteral("install")}));
+    EXPECT_EQ(helper.journal(), (QStringList{serviceMade, u"install"_s}));
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "HelperLinkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class XPCConnectingAuthorization : public HelperLinkFixture
@@ -12,7 +14,7 @@ class XPCConnectingAuthorization : public HelperLinkFixture
 TEST_F(XPCConnectingAuthorization, IsMadeOnceAndTheServiceIsAskedForTheRights)
 {
     EXPECT_EQ(journalOf([this] { xpc->authorizeHelperTool(true); }),
-        (QStringList{QStringLiteral("authorize"), serviceMade, QStringLiteral("rights")}));
+        (QStringList{u"authorize"_s, serviceMade, u"rights"_s}));
 }
 
 TEST_F(XPCConnectingAuthorization, IsReplacedByTheDataThatCameWithTheEndpoint)
@@ -36,8 +38,7 @@ protected:
     {
         xpc->connectAndExecuteCommandBlock([this](const std::optional<Error> &error) {
             repliedOnMainThread = scheduler.isMainThread();
-            texts << (error ? error->domain + QStringLiteral(" %1").arg(error->code)
-                            : QStringLiteral("connected"));
+            texts << (error ? error->domain + u" %1"_s.arg(error->code) : u"connected"_s);
         });
     }
 };
@@ -54,17 +55,17 @@ TEST_F(XPCConnectingTest, ToTheServiceHappensOnce)
 TEST_F(XPCConnectingTest, ToTheHelperHappensOncePerConnection)
 {
     EXPECT_EQ(journalOf([this] {
-        xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
-        xpc->connectToHelperToolEndpoint(QStringLiteral(":1.8"));
+        xpc->connectToHelperToolEndpoint(u":1.7"_s);
+        xpc->connectToHelperToolEndpoint(u":1.8"_s);
     }),
-        QStringList{QStringLiteral("helper :1.7")});
+        QStringList{u"helper :1.7"_s});
 }
 
 TEST_F(XPCConnectingTest, GoesThroughTheServiceToTheEndpointAndExecutesOnTheMainThread)
 {
     EXPECT_EQ(journalOf([this] { execute(); }),
-        (QStringList{serviceMade, QStringLiteral("endpoint"), QStringLiteral("helper :1.1")}));
-    EXPECT_EQ(texts, QStringList{QStringLiteral("connected")});
+        (QStringList{serviceMade, u"endpoint"_s, u"helper :1.1"_s}));
+    EXPECT_EQ(texts, QStringList{u"connected"_s});
     EXPECT_TRUE(repliedOnMainThread);
 }
 
@@ -72,17 +73,15 @@ TEST_F(XPCConnectingTest, KeepsTheServiceButMakesAFreshHelperConnectionEveryTime
 {
     execute();
     scheduler.runPending();
-    EXPECT_EQ(journalOf([this] { execute(); }),
-        (QStringList{QStringLiteral("endpoint"), QStringLiteral("helper :1.2")}));
+    EXPECT_EQ(journalOf([this] { execute(); }), (QStringList{u"endpoint"_s, u"helper :1.2"_s}));
     EXPECT_EQ(helper.liveHelperConnections(), 1);
 }
 
 TEST_F(XPCConnectingTest, WithoutEndpointIsPosixError25)
 {
     helper.installed = false;
-    EXPECT_EQ(
-        journalOf([this] { execute(); }), (QStringList{serviceMade, QStringLiteral("endpoint")}));
-    EXPECT_EQ(texts, QStringList{QStringLiteral("POSIXErrorDomain 25")});
+    EXPECT_EQ(journalOf([this] { execute(); }), (QStringList{serviceMade, u"endpoint"_s}));
+    EXPECT_EQ(texts, QStringList{u"POSIXErrorDomain 25"_s});
     EXPECT_TRUE(repliedOnMainThread);
 }
 
@@ -91,7 +90,7 @@ TEST_F(XPCConnectingTest, WithoutServiceIsTheErrorOfTheConnectionOnTheMainThread
     helper.serviceExists = false;
     execute();
     scheduler.runPending();
-    EXPECT_EQ(texts, QStringList{QStringLiteral("BusErrorDomain 0")});
+    EXPECT_EQ(texts, QStringList{u"BusErrorDomain 0"_s});
     EXPECT_TRUE(repliedOnMainThread);
 }
 
@@ -103,7 +102,7 @@ TEST_F(XPCConnectingTest, ToAServiceThatHangsHangsNobodyAndEndsInAnError)
     EXPECT_TRUE(texts.isEmpty());
     helper.timeOut();
     scheduler.runPending();
-    EXPECT_EQ(texts, QStringList{QStringLiteral("BusErrorDomain 0")});
+    EXPECT_EQ(texts, QStringList{u"BusErrorDomain 0"_s});
 }
 
 TEST_F(XPCConnectingTest, ExecutesOnceWhenTheServiceAnswersTwice)
@@ -124,12 +123,12 @@ TEST_F(XPCConnectingTest, AnewAfterTheServiceWentAndSaysSo)
 
 TEST_F(XPCConnectingTest, AnewAfterTheHelperWentAndSaysSo)
 {
-    xpc->connectToHelperToolEndpoint(QStringLiteral(":1.7"));
+    xpc->connectToHelperToolEndpoint(u":1.7"_s);
     EXPECT_EQ(logOf([this] { helper.dropHelper(); }),
         QStringList{line("Quillon connection to HelperTool invalidated\n")});
     EXPECT_EQ(helper.liveHelperConnections(), 0);
-    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(QStringLiteral(":1.8")); }),
-        QStringList{QStringLiteral("helper :1.8")});
+    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(u":1.8"_s); }),
+        QStringList{u"helper :1.8"_s});
 }
 
 TEST_F(XPCConnectingTest, IsUndoneOnTheMainThreadOnly)
@@ -153,8 +152,7 @@ TEST_F(XPCConnectingTest, AConnectionMadeMeanwhileSurvivesTheEndOfTheOldOne)
     helper.dropHelper();
     scheduler.runPending();
     EXPECT_EQ(helper.liveHelperConnections(), 1) << "the second one";
-    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(QStringLiteral(":1.9")); }),
-        QStringList());
+    EXPECT_EQ(journalOf([this] { xpc->connectToHelperToolEndpoint(u":1.9"_s); }), QStringList());
 }
 
 TEST_F(XPCConnectingTest, DoesNotCutOffACallThatIsUnderWay)
@@ -167,8 +165,7 @@ TEST_F(XPCConnectingTest, DoesNotCutOffACallThatIsUnderWay)
     EXPECT_EQ(helper.liveHelperConnections(), 2);
     helper.timeOut();
     scheduler.runPending();
-    EXPECT_EQ(texts,
-        (QStringList{QStringLiteral("connected"), QStringLiteral("error BusErrorDomain / 0\n")}));
+    EXPECT_EQ(texts, (QStringList{u"connected"_s, u"error BusErrorDomain / 0\n"_s}));
     EXPECT_EQ(helper.liveHelperConnections(), 1);
 }
 

@@ -3,6 +3,8 @@
 #include "HelperLinkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// Programming errors end the program with a message that names operation, file and condition.
@@ -15,13 +17,13 @@ class XPCMethodsAssertion : public HelperLinkFixture
         "Assertion failure in -\\[QuillonAppDelegate\\(XPCMethods\\) " operation                   \
         "\\], .*XPCMethods\\.cpp:[0-9]+\n.*" condition)
 
-TEST_F(XPCMethodsAssertion, AuthorisationNeedsTheMainWindow)
+TEST_F(XPCMethodsAssertion, AuthorizationNeedsTheMainWindow)
 {
     EXPECT_ASSERTION(
         xpc->authorizeHelperTool(false), "authorizeHelperTool", "self\\.window != nil");
 }
 
-TEST_F(XPCMethodsAssertion, AuthorisationHasToSucceed)
+TEST_F(XPCMethodsAssertion, AuthorizationHasToSucceed)
 {
     helper.authorizes = false;
     EXPECT_ASSERTION(
@@ -36,8 +38,8 @@ TEST_F(XPCMethodsAssertion, TheServiceIsConnectedOnTheMainThread)
 
 TEST_F(XPCMethodsAssertion, TheHelperIsConnectedOnTheMainThread)
 {
-    EXPECT_ASSERTION(scheduler.asBackground(
-                         [this] { xpc->connectToHelperToolEndpoint(QStringLiteral(":1.1")); }),
+    EXPECT_ASSERTION(
+        scheduler.asBackground([this] { xpc->connectToHelperToolEndpoint(u":1.1"_s); }),
         "connectToHelperToolEndpoint:", "\\[NSThread isMainThread\\]");
 }
 

@@ -3,6 +3,8 @@
 #include "HelperLinkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class XPCMethodsLog : public HelperLinkFixture
@@ -12,8 +14,8 @@ class XPCMethodsLog : public HelperLinkFixture
 TEST_F(XPCMethodsLog, IsWrittenInALaterTurnOfTheMainLoop)
 {
     const LogCapture log;
-    xpc->logText(QStringLiteral("text"));
-    scheduler.asBackground([this] { xpc->logText(QStringLiteral("from elsewhere")); });
+    xpc->logText(u"text"_s);
+    scheduler.asBackground([this] { xpc->logText(u"from elsewhere"_s); });
     EXPECT_TRUE(LogCapture::taken().isEmpty());
     scheduler.runPending();
     EXPECT_EQ(LogCapture::taken(), (QStringList{line("text"), line("from elsewhere")}));
@@ -21,26 +23,25 @@ TEST_F(XPCMethodsLog, IsWrittenInALaterTurnOfTheMainLoop)
 
 TEST_F(XPCMethodsLog, TakesTheTextForNoFormat)
 {
-    EXPECT_EQ(logOf([this] { xpc->logText(QStringLiteral("100 %s %@ %d %n")); }),
+    EXPECT_EQ(logOf([this] { xpc->logText(u"100 %s %@ %d %n"_s); }),
         QStringList{line("100 %s %@ %d %n")});
-    EXPECT_EQ(logOf([this] { xpc->logText(QStringLiteral("")); }), QStringList{line("")});
+    EXPECT_EQ(logOf([this] { xpc->logText(u""_s); }), QStringList{line("")});
 }
 
 TEST_F(XPCMethodsLog, FillsAFormatInOrder)
 {
     EXPECT_EQ(logOf([this] {
-        xpc->logWithFormat(QStringLiteral("%d of %@, %@"),
-            {QStringLiteral("1"), QStringLiteral("%@"), QStringLiteral("x")});
+        xpc->logWithFormat(u"%d of %@, %@"_s, {u"1"_s, u"%@"_s, u"x"_s});
     }),
         QStringList{line("1 of %@, x")});
-    EXPECT_EQ(logOf([this] { xpc->logWithFormat(QStringLiteral("%@ %d %"), {}); }),
-        QStringList{line("%@ %d %")});
+    EXPECT_EQ(
+        logOf([this] { xpc->logWithFormat(u"%@ %d %"_s, {}); }), QStringList{line("%@ %d %")});
 }
 
 TEST_F(XPCMethodsLog, WritesAnErrorAsDomainAndCode)
 {
     EXPECT_EQ(logOf([this] {
-        xpc->logError(Error{QStringLiteral("Some.Domain"), -7, {}});
+        xpc->logError(Error{u"Some.Domain"_s, -7, {}});
     }),
         QStringList{line("error Some.Domain / -7\n")});
 }
@@ -48,7 +49,7 @@ TEST_F(XPCMethodsLog, WritesAnErrorAsDomainAndCode)
 TEST_F(XPCMethodsLog, IsWrittenAlsoWhenTheLinkHasGone)
 {
     EXPECT_EQ(logOf([this] {
-        xpc->logText(QStringLiteral("last words"));
+        xpc->logText(u"last words"_s);
         xpc.reset();
     }),
         QStringList{line("last words")});

@@ -3,6 +3,8 @@
 #include "HelperLinkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class XPCOperationsInstalling : public HelperLinkFixture
@@ -18,7 +20,7 @@ TEST_F(XPCOperationsInstalling, IsToldAndLogged)
         QStringList{line("Quillon4HelperTool successfully installed\n")});
     EXPECT_EQ(successes, QList<bool>{true});
     EXPECT_FALSE(repliedOnMainThread);
-    EXPECT_EQ(helper.journal(), (QStringList{serviceMade, QStringLiteral("install")}));
+    EXPECT_EQ(helper.journal(), (QStringList{serviceMade, u"install"_s}));
 }
 
 TEST_F(XPCOperationsInstalling, ThatFailsLogsTheError)
@@ -51,10 +53,10 @@ protected:
 
 TEST_F(XPCOperationsVersion, IsWhatTheHelperAnswers)
 {
-    EXPECT_EQ(XPCMethods::helperToolVersion(), QLatin1String("2.0"));
-    helper.version = QStringLiteral("2.0");
+    EXPECT_EQ(XPCMethods::helperToolVersion(), "2.0"_L1);
+    helper.version = u"2.0"_s;
     EXPECT_TRUE(logOf([this] { ask(); }).isEmpty());
-    EXPECT_EQ(texts, QStringList{QStringLiteral("2.0")});
+    EXPECT_EQ(texts, QStringList{u"2.0"_s});
     EXPECT_FALSE(repliedOnMainThread);
 }
 
@@ -62,14 +64,14 @@ TEST_F(XPCOperationsVersion, WithoutServiceIsAnErrorText)
 {
     helper.serviceExists = false;
     EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error BusErrorDomain / 0\n")});
-    EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(texts, QStringList{u"error BusErrorDomain / 0\n"_s});
 }
 
 TEST_F(XPCOperationsVersion, WithoutEndpointIsAnErrorText)
 {
     helper.installed = false;
     EXPECT_EQ(logOf([this] { ask(); }), QStringList{line("error POSIXErrorDomain / 25\n")});
-    EXPECT_EQ(texts, QStringList{QStringLiteral("error POSIXErrorDomain / 25\n")});
+    EXPECT_EQ(texts, QStringList{u"error POSIXErrorDomain / 25\n"_s});
 }
 
 TEST_F(XPCOperationsVersion, OfAHelperThatHangsIsAnErrorText)
@@ -79,7 +81,7 @@ TEST_F(XPCOperationsVersion, OfAHelperThatHangsIsAnErrorText)
     scheduler.runPending();
     EXPECT_TRUE(texts.isEmpty());
     EXPECT_EQ(logOf([this] { helper.timeOut(); }), QStringList{line("error BusErrorDomain / 0\n")});
-    EXPECT_EQ(texts, QStringList{QStringLiteral("error BusErrorDomain / 0\n")});
+    EXPECT_EQ(texts, QStringList{u"error BusErrorDomain / 0\n"_s});
 }
 
 TEST_F(XPCOperationsVersion, IsToldOnceWhenTheHelperAnswersTwice)
@@ -99,7 +101,7 @@ TEST_F(XPCOperationsChanging, ReachesTheMachine)
     EXPECT_TRUE(logOf([this] { change(); }).isEmpty());
     EXPECT_EQ(successes, QList<bool>{true});
     EXPECT_FALSE(repliedOnMainThread);
-    EXPECT_EQ(host.addressOf(QStringLiteral("wlp2s0")), QLatin1String("02:aa:bb:cc:dd:01"));
+    EXPECT_EQ(host.addressOf(u"wlp2s0"_s), "02:aa:bb:cc:dd:01"_L1);
     EXPECT_TRUE(helper.changes().at(0).deviceIsWiFi);
 }
 
@@ -156,7 +158,7 @@ TEST_F(XPCOperationsChanging, IsNotCutOffByTheNextOperation)
     helper.mood = FakeHelper::Mood::Obliging;
     xpc->getVersionOfHelperToolwithReply(keepText());
     scheduler.runPending();
-    EXPECT_EQ(texts, QStringList{QStringLiteral("2.0")});
+    EXPECT_EQ(texts, QStringList{u"2.0"_s});
     EXPECT_EQ(helper.liveHelperConnections(), 2) << "the one under way is kept";
     helper.timeOut();
     scheduler.runPending();

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The road from a request to the file, with the history connected as the program connects it.
@@ -17,9 +19,8 @@ class HistoryOfChanges : public AddressChangeFixture
 protected:
     HistoryOfChanges()
     {
-        settings.set(
-            keys::currentWiFiDict, QVariantMap{{wifirecord::SSID, QStringLiteral("Home")},
-                                       {wifirecord::BSSID, QStringLiteral("a4:2b:b0:11:22:33")}});
+        settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::SSID, u"Home"_s},
+                                                {wifirecord::BSSID, u"a4:2b:b0:11:22:33"_s}});
         QObject::connect(
             changer.get(), &AddressChanger::addressChanged, changer.get(),
             [this](const QString &device, const QString &address) {
@@ -51,14 +52,14 @@ protected:
 TEST_F(HistoryOfChanges, HasOneRecordForEachThatWasMade)
 {
     change(en1, wanted);
-    change(en0, QStringLiteral("02:AA:BB:CC:DD:02"));
+    change(en0, u"02:AA:BB:CC:DD:02"_s);
     const QList<Connection> made = recordsInFile();
     ASSERT_EQ(made.size(), 2);
     EXPECT_EQ(made.at(0).device(), en1);
-    EXPECT_EQ(made.at(0).interface(), QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(made.at(0).interface(), u"Wi-Fi"_s);
     EXPECT_EQ(made.at(0).address(), wanted) << "as it was asked for";
-    EXPECT_EQ(made.at(0).ssid(), QStringLiteral("Home"));
-    EXPECT_EQ(made.at(0).bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+    EXPECT_EQ(made.at(0).ssid(), u"Home"_s);
+    EXPECT_EQ(made.at(0).bssid(), u"a4:2b:b0:11:22:33"_s);
     EXPECT_EQ(made.at(1).device(), en0);
     EXPECT_EQ(made.at(1).ssid(), QString());
 }

@@ -10,6 +10,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class HistoryRecordsTest : public HistoryFixture
@@ -19,8 +21,7 @@ protected:
     {
         const QList<Connection> all = recordsOf(context());
         EXPECT_EQ(all.size(), 1);
-        return all.isEmpty() ? Connection(context().insertNewObject(QStringLiteral("Connection")))
-                             : all.first();
+        return all.isEmpty() ? Connection(context().insertNewObject(u"Connection"_s)) : all.first();
     }
     void change(const char *statement)
     {
@@ -36,34 +37,34 @@ TEST_F(HistoryRecordsTest, TellsWhatHappenedOnAWiredPort)
     const Connection made = onlyRecord();
     EXPECT_EQ(made.date(), now);
     EXPECT_EQ(made.device(), wired);
-    EXPECT_EQ(made.interface(), QStringLiteral("Ethernet"));
+    EXPECT_EQ(made.interface(), u"Ethernet"_s);
     EXPECT_EQ(made.address(), address) << "the letters as they were asked for";
-    EXPECT_FALSE(made.record()->value(QStringLiteral("notes")).isValid());
+    EXPECT_FALSE(made.record()->value(u"notes"_s).isValid());
 }
 
 TEST_F(HistoryRecordsTest, NeverTellsTheWiFiNetworkOfAWiredPort)
 {
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     const Connection made = onlyRecord();
-    EXPECT_EQ(made.record()->value(QStringLiteral("ssid")), QVariant(QStringLiteral("")));
-    EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
+    EXPECT_EQ(made.record()->value(u"ssid"_s), QVariant(u""_s));
+    EXPECT_EQ(made.record()->value(u"bssid"_s), QVariant(u""_s));
 }
 
 TEST_F(HistoryRecordsTest, TellsTheNetworkOfTheWiFiPort)
 {
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
     const Connection made = onlyRecord();
-    EXPECT_EQ(made.interface(), QStringLiteral("Wi-Fi"));
-    EXPECT_EQ(made.ssid(), QStringLiteral("Home"));
-    EXPECT_EQ(made.bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+    EXPECT_EQ(made.interface(), u"Wi-Fi"_s);
+    EXPECT_EQ(made.ssid(), u"Home"_s);
+    EXPECT_EQ(made.bssid(), u"a4:2b:b0:11:22:33"_s);
 }
 
 TEST_F(HistoryRecordsTest, TellsTheAccessPointInLowerCase)
 {
-    join(QStringLiteral("HOME"), QStringLiteral("A4:2B:B0:11:22:33"));
+    join(u"HOME"_s, u"A4:2B:B0:11:22:33"_s);
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
-    EXPECT_EQ(onlyRecord().bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
-    EXPECT_EQ(onlyRecord().ssid(), QStringLiteral("HOME"));
+    EXPECT_EQ(onlyRecord().bssid(), u"a4:2b:b0:11:22:33"_s);
+    EXPECT_EQ(onlyRecord().ssid(), u"HOME"_s);
 }
 
 TEST_F(HistoryRecordsTest, TellsNoNetworkWhileTheWiFiPortIsOnNone)
@@ -71,18 +72,17 @@ TEST_F(HistoryRecordsTest, TellsNoNetworkWhileTheWiFiPortIsOnNone)
     join(QString(), QString());
     history->addHistoryItemForDeviceWithNewAddress(wifi, address);
     const Connection made = onlyRecord();
-    EXPECT_EQ(made.record()->value(QStringLiteral("ssid")), QVariant(QStringLiteral("")));
-    EXPECT_EQ(made.record()->value(QStringLiteral("bssid")), QVariant(QStringLiteral("")));
+    EXPECT_EQ(made.record()->value(u"ssid"_s), QVariant(u""_s));
+    EXPECT_EQ(made.record()->value(u"bssid"_s), QVariant(u""_s));
 }
 
 TEST_F(HistoryRecordsTest, TellsAlsoOfADeviceThatIsNotKnown)
 {
-    history->addHistoryItemForDeviceWithNewAddress(QStringLiteral("en9"), address);
+    history->addHistoryItemForDeviceWithNewAddress(u"en9"_s, address);
     const Connection made = onlyRecord();
-    EXPECT_EQ(made.device(), QStringLiteral("en9"));
+    EXPECT_EQ(made.device(), u"en9"_s);
     for (const char *attribute : {"interface", "ssid", "bssid"}) {
-        EXPECT_EQ(
-            made.record()->value(QString::fromLatin1(attribute)), QVariant(QStringLiteral("")));
+        EXPECT_EQ(made.record()->value(QString::fromLatin1(attribute)), QVariant(u""_s));
     }
 }
 
@@ -109,12 +109,12 @@ TEST_F(HistoryRecordsTest, IsInTheFileAtOnce)
     ASSERT_EQ(found.size(), 1);
     EXPECT_EQ(found.first().date(), scheduler.now());
     EXPECT_EQ(found.first().address(), address);
-    EXPECT_EQ(found.first().ssid(), QStringLiteral("Home"));
+    EXPECT_EQ(found.first().ssid(), u"Home"_s);
 }
 
 TEST_F(HistoryRecordsTest, SavesWhatElseIsPending)
 {
-    const ManagedObjectPtr rule = context().insertNewObject(QStringLiteral("Rule"));
+    const ManagedObjectPtr rule = context().insertNewObject(u"Rule"_s);
     history->addHistoryItemForDeviceWithNewAddress(wired, address);
     EXPECT_FALSE(rule->hasChanges());
 }
@@ -125,7 +125,7 @@ TEST_F(HistoryRecordsTest, IsNoEditThatCouldBeUndone)
     context().processPendingChanges();
     EXPECT_FALSE(context().undoManager().canUndo());
     Connection made = onlyRecord();
-    made.setNotes(QStringLiteral("at the fair"));
+    made.setNotes(u"at the fair"_s);
     context().processPendingChanges();
     ASSERT_TRUE(context().undoManager().canUndo());
     context().undoManager().undo();
@@ -151,8 +151,7 @@ TEST_F(HistoryRecordsTest, KeepsARecordThatCannotBeSavedForTheNextTime)
     {
         const LogCapture log;
         history->addHistoryItemForDeviceWithNewAddress(wired, address);
-        EXPECT_TRUE(
-            LogCapture::taken().contains(QStringLiteral("quillon.history: Rule not added...")));
+        EXPECT_TRUE(LogCapture::taken().contains(u"quillon.history: Rule not added..."_s));
     }
     EXPECT_TRUE(context().hasChanges());
     change("ALTER TABLE Away RENAME TO Connection");
@@ -166,14 +165,14 @@ TEST_F(HistoryRecordsTest, TakesTheFactsAtOnceOnAnotherThread)
     const QDateTime moment = scheduler.now();
     scheduler.asBackground([&] { history->addHistoryItemForDeviceWithNewAddress(wifi, address); });
     EXPECT_FALSE(records->hasManagedObjectContext()) << "records belong to the main thread";
-    join(QStringLiteral("Elsewhere"), QStringLiteral("ff:ff:ff:ff:ff:ff"));
-    storeRecord(wifi, {{record::interface, QStringLiteral("Ethernet")}});
+    join(u"Elsewhere"_s, u"ff:ff:ff:ff:ff:ff"_s);
+    storeRecord(wifi, {{record::interface, u"Ethernet"_s}});
     scheduler.advance(std::chrono::seconds(0));
     const Connection made = onlyRecord();
     EXPECT_EQ(made.date(), moment);
-    EXPECT_EQ(made.interface(), QStringLiteral("Wi-Fi"));
-    EXPECT_EQ(made.ssid(), QStringLiteral("Home"));
-    EXPECT_EQ(made.bssid(), QStringLiteral("a4:2b:b0:11:22:33"));
+    EXPECT_EQ(made.interface(), u"Wi-Fi"_s);
+    EXPECT_EQ(made.ssid(), u"Home"_s);
+    EXPECT_EQ(made.bssid(), u"a4:2b:b0:11:22:33"_s);
     EXPECT_FALSE(context().hasChanges());
 }
 
@@ -193,7 +192,7 @@ TEST_F(HistoryRecordsTest, MayBeGoneWhenAnotherThreadsRecordIsDue)
 
 TEST_F(HistoryRecordsTest, PassesOverSettingsThatAreNone)
 {
-    for (const QVariant &hostile : {QVariant(QStringLiteral("text")), QVariant(QVariantList{1}),
+    for (const QVariant &hostile : {QVariant(u"text"_s), QVariant(QVariantList{1}),
              QVariant(QVariantMap{{wifirecord::SSID, 5}, {wifirecord::BSSID, QVariantMap{}}})}) {
         settings.set(keys::currentWiFiDict, hostile);
         history->addHistoryItemForDeviceWithNewAddress(wifi, address);
@@ -210,7 +209,7 @@ TEST_F(HistoryRecordsTest, PassesOverSettingsThatAreNone)
         EXPECT_EQ(connection.bssid(), QString());
         EXPECT_EQ(connection.address(), address);
     }
-    EXPECT_EQ(made.first().interface(), QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(made.first().interface(), u"Wi-Fi"_s);
     EXPECT_EQ(made.last().interface(), QString());
 }
 
@@ -221,10 +220,9 @@ TEST_F(HistoryRecordsTest, AsAnArrayIsAnEntityThatDoesNotExist)
     EXPECT_TRUE(history->managedHistoryArray().isEmpty());
     const QStringList lines = LogCapture::taken();
     ASSERT_GE(lines.size(), 2);
-    EXPECT_EQ(lines.at(lines.size() - 2),
-        QStringLiteral("quillon.history: Unable to execute fetch request."));
-    EXPECT_TRUE(lines.last().startsWith(QStringLiteral("quillon.history: ")));
-    EXPECT_TRUE(lines.last().contains(QStringLiteral(", ")));
+    EXPECT_EQ(lines.at(lines.size() - 2), u"quillon.history: Unable to execute fetch request."_s);
+    EXPECT_TRUE(lines.last().startsWith(u"quillon.history: "_s));
+    EXPECT_TRUE(lines.last().contains(u", "_s));
 }
 
 } // namespace

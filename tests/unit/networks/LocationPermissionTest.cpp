@@ -11,6 +11,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using Status = LocationAuthorization::Status;
@@ -86,7 +88,7 @@ TEST_F(LocationPermissionTest, ShowsTheNetworkOnceItIsGiven)
     EXPECT_EQ(current(wifirecord::SSID), QString());
     radio.join(visible);
     authorization.answer(Status::Authorized);
-    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    EXPECT_EQ(current(wifirecord::SSID), u"Home"_s);
     scheduler.advance(5s);
     EXPECT_TRUE(alerts.alerts.isEmpty());
 }
@@ -99,11 +101,10 @@ TEST_F(LocationPermissionTest, ExplainsARefusalOneSecondLater)
     EXPECT_TRUE(alerts.alerts.isEmpty());
     scheduler.advance(1ms);
     const Alert expected = {
-        QStringLiteral(
-            "Quillon requires Location Services to determine your current network details"),
-        QStringLiteral("You need to give Quillon access in System Settings > Privacy & Security > "
-                       "Privacy > Location Services"),
-        {QStringLiteral("Open"), QStringLiteral("Cancel")},
+        u"Quillon requires Location Services to determine your current network details"_s,
+        u"You need to give Quillon access in System Settings > Privacy & Security > "
+        "Privacy > Location Services"_s,
+        {u"Open"_s, u"Cancel"_s},
     };
     EXPECT_EQ(alerts.alerts, QList<Alert>{expected});
 }
@@ -125,7 +126,7 @@ TEST_F(LocationPermissionTest, ExplainsTheFailureThatMeansARefusal)
     authorization.fail(1);
     scheduler.advance(1s);
     EXPECT_EQ(alerts.alerts.size(), 1);
-    EXPECT_EQ(radio.reads, reads) << "a failure is no change of the authorisation";
+    EXPECT_EQ(radio.reads, reads) << "a failure is no change of the authorization";
 }
 
 TEST_F(LocationPermissionTest, IgnoresOtherFailures)
@@ -240,8 +241,7 @@ TEST_F(LocationPermissionTest, LogsThatThereIsNoSettingsProgram)
     LocationPermission lost({scheduler, authorization, alerts, none, network});
     lost.openSystemSettings();
     EXPECT_EQ(LogCapture::taken(),
-        QStringList{
-            QStringLiteral("quillon.networks: No settings program found for location services")});
+        QStringList{u"quillon.networks: No settings program found for location services"_s});
 }
 
 } // namespace

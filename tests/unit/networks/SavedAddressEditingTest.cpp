@@ -7,6 +7,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class SavedAddressEditingTest : public NetworkFixture
@@ -14,8 +16,8 @@ class SavedAddressEditingTest : public NetworkFixture
 protected:
     SavedAddressEditingTest()
     {
-        saveAddress(address, QStringLiteral("Printer"));
-        saveAddress(otherAddress, QStringLiteral("Scanner"));
+        saveAddress(address, u"Printer"_s);
+        saveAddress(otherAddress, u"Scanner"_s);
         editing->beginEditing(savedAddressEntry(address));
         QObject::connect(
             editing.get(), &SavedAddressEditing::editingFinished, [this] { ++finished; });
@@ -24,8 +26,8 @@ protected:
 
     QString name() const { return savedAddress(address).value(savedentry::name).toString(); }
 
-    const QString address = QStringLiteral("a4:83:e7:01:02:03");
-    const QString otherAddress = QStringLiteral("a4:83:e7:0a:0b:0c");
+    const QString address = u"a4:83:e7:01:02:03"_s;
+    const QString otherAddress = u"a4:83:e7:0a:0b:0c"_s;
     std::unique_ptr<SavedAddressEditing> editing =
         std::make_unique<SavedAddressEditing>(settings, scheduler);
     int finished = 0;
@@ -33,19 +35,17 @@ protected:
 
 TEST_F(SavedAddressEditingTest, GetsTheTypedName)
 {
-    editing->changeSavedAddressName(QStringLiteral("Old printer"));
-    EXPECT_EQ(name(), QStringLiteral("Old printer"));
+    editing->changeSavedAddressName(u"Old printer"_s);
+    EXPECT_EQ(name(), u"Old printer"_s);
     EXPECT_EQ(savedAddress(address).value(savedentry::address).toString(), address);
-    EXPECT_EQ(
-        savedAddress(otherAddress).value(savedentry::name).toString(), QStringLiteral("Scanner"));
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(savedAddress(otherAddress).value(savedentry::name).toString(), u"Scanner"_s);
+    EXPECT_EQ(settings.journal(), (QStringList{u"set savedAddresses"_s, u"synchronize"_s}));
     EXPECT_EQ(radio.reads, 0);
 }
 
 TEST_F(SavedAddressEditingTest, IsNotWrittenForItsOwnName)
 {
-    editing->changeSavedAddressName(QStringLiteral("Printer"));
+    editing->changeSavedAddressName(u"Printer"_s);
     EXPECT_TRUE(settings.journal().isEmpty());
     EXPECT_EQ(finished, 0) << "not in the caller's turn";
     scheduler.runPending();
@@ -54,8 +54,8 @@ TEST_F(SavedAddressEditingTest, IsNotWrittenForItsOwnName)
 
 TEST_F(SavedAddressEditingTest, GetsASuffixForTheNameOfAnother)
 {
-    editing->changeSavedAddressName(QStringLiteral("Scanner"));
-    EXPECT_EQ(name(), QStringLiteral("Scanner (2)"));
+    editing->changeSavedAddressName(u"Scanner"_s);
+    EXPECT_EQ(name(), u"Scanner (2)"_s);
     scheduler.runPending();
     EXPECT_EQ(finished, 1);
 }
@@ -71,8 +71,7 @@ TEST_F(SavedAddressEditingTest, IsRemoved)
 {
     editing->removeSavedAddress();
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).keys(), QStringList{otherAddress});
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set savedAddresses"_s, u"synchronize"_s}));
     EXPECT_FALSE(editing->editingAddressDict());
     EXPECT_EQ(finished, 0) << "not in the caller's turn";
     scheduler.runPending();
@@ -82,7 +81,7 @@ TEST_F(SavedAddressEditingTest, IsRemoved)
 TEST_F(SavedAddressEditingTest, IsNoneAfterTheEnd)
 {
     editing->endEditing();
-    editing->changeSavedAddressName(QStringLiteral("Late"));
+    editing->changeSavedAddressName(u"Late"_s);
     editing->removeSavedAddress();
     scheduler.runPending();
     EXPECT_TRUE(settings.journal().isEmpty());
@@ -91,8 +90,8 @@ TEST_F(SavedAddressEditingTest, IsNoneAfterTheEnd)
 
 TEST_F(SavedAddressEditingTest, IsACopyOfTheListsEntry)
 {
-    saveAddress(address, QStringLiteral("Changed elsewhere"));
-    EXPECT_EQ(editing->editingAddressDict()->name, QStringLiteral("Printer"));
+    saveAddress(address, u"Changed elsewhere"_s);
+    EXPECT_EQ(editing->editingAddressDict()->name, u"Printer"_s);
 }
 
 TEST_F(SavedAddressEditingTest, MayBeGoneWhenItsTurnComes)

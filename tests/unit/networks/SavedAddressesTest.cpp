@@ -5,12 +5,14 @@
 #include "NetworkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class SavedAddressesTest : public NetworkFixture
 {
 protected:
-    SavedAddressesTest() { wear(QStringLiteral("A4:83:E7:01:02:03")); }
+    SavedAddressesTest() { wear(u"A4:83:E7:01:02:03"_s); }
 
     void wear(const QString &worn)
     {
@@ -18,46 +20,44 @@ protected:
         settings.clearJournal();
     }
 
-    const QString address = QStringLiteral("a4:83:e7:01:02:03");
-    const QString otherAddress = QStringLiteral("a4:83:e7:0a:0b:0c");
+    const QString address = u"a4:83:e7:01:02:03"_s;
+    const QString otherAddress = u"a4:83:e7:0a:0b:0c"_s;
     SavedAddresses saved{settings};
 };
 
 TEST_F(SavedAddressesTest, TakesTheCurrentAddressInLowerCaseAsItsOwnName)
 {
     saved.addCurrentAddressToSavedList();
-    const QVariantMap expected = {{address,
-        QVariantMap{{QStringLiteral("address"), address}, {QStringLiteral("name"), address}}}};
+    const QVariantMap expected = {
+        {address, QVariantMap{{u"address"_s, address}, {u"name"_s, address}}}};
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses), expected);
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set savedAddresses"_s, u"synchronize"_s}));
     EXPECT_TRUE(saved.isCurrentAddressSaved());
 }
 
 TEST_F(SavedAddressesTest, KeepsTheNameOfAnAddressThatIsAddedAgain)
 {
-    saveAddress(address, QStringLiteral("Printer"));
+    saveAddress(address, u"Printer"_s);
     settings.clearJournal();
     saved.addCurrentAddressToSavedList();
-    EXPECT_EQ(savedAddress(address).value(savedentry::name).toString(), QStringLiteral("Printer"));
+    EXPECT_EQ(savedAddress(address).value(savedentry::name).toString(), u"Printer"_s);
     EXPECT_TRUE(settings.journal().isEmpty());
 }
 
 TEST_F(SavedAddressesTest, LosesTheCurrentAddress)
 {
-    saveAddress(address, QStringLiteral("Printer"));
-    saveAddress(otherAddress, QStringLiteral("Other"));
+    saveAddress(address, u"Printer"_s);
+    saveAddress(otherAddress, u"Other"_s);
     settings.clearJournal();
     saved.removeCurrentAddressFromSavedList();
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).keys(), QStringList{otherAddress});
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set savedAddresses"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set savedAddresses"_s, u"synchronize"_s}));
     EXPECT_FALSE(saved.isCurrentAddressSaved());
 }
 
 TEST_F(SavedAddressesTest, LosesNothingWhenTheCurrentAddressIsNotInIt)
 {
-    saveAddress(otherAddress, QStringLiteral("Other"));
+    saveAddress(otherAddress, u"Other"_s);
     settings.clearJournal();
     saved.removeCurrentAddressFromSavedList();
     EXPECT_TRUE(settings.journal().isEmpty());
@@ -68,7 +68,7 @@ TEST_F(SavedAddressesTest, StaysAsItIsWithoutACurrentAddress)
     settings.set(keys::savedAddresses, QVariantMap{{QString(), QVariantMap{}}});
     for (const QVariant &selection :
         {QVariant(), QVariant(QVariantMap{}), QVariant(QVariantMap{{record::current, QString()}}),
-            QVariant(QVariantMap{{record::current, 7}}), QVariant(QStringLiteral("text"))}) {
+            QVariant(QVariantMap{{record::current, 7}}), QVariant(u"text"_s)}) {
         settings.set(keys::currentInterfaceDict, selection);
         saved.addCurrentAddressToSavedList();
         saved.removeCurrentAddressFromSavedList();
@@ -80,7 +80,7 @@ TEST_F(SavedAddressesTest, StaysAsItIsWithoutACurrentAddress)
 TEST_F(SavedAddressesTest, KnowsAnAddressOfTheHistoryByItsOwnLettersOnly)
 {
     // Addresses from the history keep their case, and the current one is looked up in lower case.
-    saveAddress(address.toUpper(), QStringLiteral("From the history"));
+    saveAddress(address.toUpper(), u"From the history"_s);
     EXPECT_FALSE(saved.isCurrentAddressSaved());
     saved.addCurrentAddressToSavedList();
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).size(), 2);
@@ -88,36 +88,32 @@ TEST_F(SavedAddressesTest, KnowsAnAddressOfTheHistoryByItsOwnLettersOnly)
 
 TEST_F(SavedAddressesTest, FindsAnAddressByItsExactName)
 {
-    saveAddress(address, QStringLiteral("Printer"));
-    EXPECT_EQ(addressForAddressName(settings, QStringLiteral("Printer")), address);
-    for (const auto &name : {QStringLiteral("printer"), QString(), address}) {
-        EXPECT_EQ(addressForAddressName(settings, name), QStringLiteral("Random Address"));
+    saveAddress(address, u"Printer"_s);
+    EXPECT_EQ(addressForAddressName(settings, u"Printer"_s), address);
+    for (const auto &name : {u"printer"_s, QString(), address}) {
+        EXPECT_EQ(addressForAddressName(settings, name), u"Random Address"_s);
     }
 }
 
 TEST_F(SavedAddressesTest, OfOneNameTheLastInTheListAnswers)
 {
-    saveAddress(otherAddress, QStringLiteral("Twin"));
-    saveAddress(address, QStringLiteral("Twin"));
-    EXPECT_EQ(addressForAddressName(settings, QStringLiteral("Twin")), otherAddress);
+    saveAddress(otherAddress, u"Twin"_s);
+    saveAddress(address, u"Twin"_s);
+    EXPECT_EQ(addressForAddressName(settings, u"Twin"_s), otherAddress);
 }
 
 TEST_F(SavedAddressesTest, PassesOverWhatIsNoEntry)
 {
     settings.set(keys::savedAddresses,
         QVariantMap{
-            {QStringLiteral("a"), QStringLiteral("text")},
-            {QStringLiteral("b"), QVariantMap{{savedentry::name, QStringLiteral("Bare")}}},
-            {QStringLiteral("c"),
-                QVariantMap{{savedentry::name, 5}, {savedentry::address, address}}},
+            {u"a"_s, u"text"_s},
+            {u"b"_s, QVariantMap{{savedentry::name, u"Bare"_s}}},
+            {u"c"_s, QVariantMap{{savedentry::name, 5}, {savedentry::address, address}}},
         });
-    EXPECT_EQ(
-        addressForAddressName(settings, QStringLiteral("Bare")), QStringLiteral("Random Address"));
-    EXPECT_EQ(
-        addressForAddressName(settings, QStringLiteral("5")), QStringLiteral("Random Address"));
-    settings.set(keys::savedAddresses, QStringLiteral("text"));
-    EXPECT_EQ(
-        addressForAddressName(settings, QStringLiteral("x")), QStringLiteral("Random Address"));
+    EXPECT_EQ(addressForAddressName(settings, u"Bare"_s), u"Random Address"_s);
+    EXPECT_EQ(addressForAddressName(settings, u"5"_s), u"Random Address"_s);
+    settings.set(keys::savedAddresses, u"text"_s);
+    EXPECT_EQ(addressForAddressName(settings, u"x"_s), u"Random Address"_s);
     saved.addCurrentAddressToSavedList();
     EXPECT_EQ(settings.getDictionary(keys::savedAddresses).keys(), QStringList{address});
 }

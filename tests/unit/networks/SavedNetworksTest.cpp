@@ -5,6 +5,8 @@
 #include "NetworkFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class SavedNetworksTest : public NetworkFixture
@@ -15,8 +17,8 @@ protected:
 
 TEST_F(SavedNetworksTest, AreEmptyAtFirst)
 {
-    EXPECT_TRUE(favouriteNetworks(settings).isEmpty());
-    EXPECT_TRUE(ssidFavouriteNetworks(settings).isEmpty());
+    EXPECT_TRUE(favoriteNetworks(settings).isEmpty());
+    EXPECT_TRUE(ssidFavoriteNetworks(settings).isEmpty());
     EXPECT_FALSE(saved.isCurrentNetworkSaved());
 }
 
@@ -24,8 +26,7 @@ TEST_F(SavedNetworksTest, TakeTheCurrentNetworkUnderItsSSID)
 {
     radio.interface->bssid = homeBssid.toUpper();
     saved.addCurrentNetworkToSavedList();
-    const QVariantMap expected = {
-        {homeBssid, networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"))}};
+    const QVariantMap expected = {{homeBssid, networkEntry(homeBssid, u"Home"_s, u"Home"_s)}};
     EXPECT_EQ(settings.getDictionary(keys::savedNetworks), expected);
     EXPECT_TRUE(saved.isCurrentNetworkSaved());
 }
@@ -33,23 +34,22 @@ TEST_F(SavedNetworksTest, TakeTheCurrentNetworkUnderItsSSID)
 TEST_F(SavedNetworksTest, AreStoredWholeAndFlushed)
 {
     saved.addCurrentNetworkToSavedList();
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set currentWiFiDict"), QStringLiteral("synchronize"),
-            QStringLiteral("set savedNetworks"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set currentWiFiDict"_s, u"synchronize"_s,
+                                      u"set savedNetworks"_s, u"synchronize"_s}));
 }
 
 TEST_F(SavedNetworksTest, RefreshTheNetworkBeforeTheyTakeIt)
 {
     network.updateWiFiNetwork();
-    radio.interface->ssid = QStringLiteral("Office");
+    radio.interface->ssid = u"Office"_s;
     radio.interface->bssid = officeBssid;
     saved.addCurrentNetworkToSavedList();
-    EXPECT_EQ(favouriteNetworks(settings), QStringList{officeBssid});
+    EXPECT_EQ(favoriteNetworks(settings), QStringList{officeBssid});
 }
 
 TEST_F(SavedNetworksTest, KeepTheNameOfANetworkThatIsAddedAgain)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"), true);
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s, true);
     const QVariant before = settings.get(keys::savedNetworks);
     settings.clearJournal();
     saved.addCurrentNetworkToSavedList();
@@ -62,8 +62,8 @@ TEST_F(SavedNetworksTest, TakeTwoAccessPointsOfOneSSIDUnderTheSameName)
     saved.addCurrentNetworkToSavedList();
     radio.interface->bssid = officeBssid;
     saved.addCurrentNetworkToSavedList();
-    EXPECT_EQ(savedNetwork(homeBssid).value(savedentry::name).toString(), QStringLiteral("Home"));
-    EXPECT_EQ(savedNetwork(officeBssid).value(savedentry::name).toString(), QStringLiteral("Home"));
+    EXPECT_EQ(savedNetwork(homeBssid).value(savedentry::name).toString(), u"Home"_s);
+    EXPECT_EQ(savedNetwork(officeBssid).value(savedentry::name).toString(), u"Home"_s);
 }
 
 TEST_F(SavedNetworksTest, TakeNothingWithoutANetwork)
@@ -79,20 +79,19 @@ TEST_F(SavedNetworksTest, TakeNothingWithoutANetwork)
 
 TEST_F(SavedNetworksTest, LoseTheCurrentNetwork)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
-    saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Office"));
+    saveNetwork(homeBssid, u"Home"_s, u"Home"_s);
+    saveNetwork(officeBssid, u"Office"_s, u"Office"_s);
     settings.clearJournal();
     radio.interface->bssid = homeBssid.toUpper();
     saved.removeCurrentNetworkFromSavedList();
-    EXPECT_EQ(favouriteNetworks(settings), QStringList{officeBssid});
-    EXPECT_EQ(settings.journal().mid(2),
-        (QStringList{QStringLiteral("set savedNetworks"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(favoriteNetworks(settings), QStringList{officeBssid});
+    EXPECT_EQ(settings.journal().mid(2), (QStringList{u"set savedNetworks"_s, u"synchronize"_s}));
     EXPECT_FALSE(saved.isCurrentNetworkSaved());
 }
 
 TEST_F(SavedNetworksTest, LoseNothingWhenTheCurrentNetworkIsNotAmongThem)
 {
-    saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Office"));
+    saveNetwork(officeBssid, u"Office"_s, u"Office"_s);
     settings.clearJournal();
     saved.removeCurrentNetworkFromSavedList();
     radio.leave();
@@ -102,85 +101,82 @@ TEST_F(SavedNetworksTest, LoseNothingWhenTheCurrentNetworkIsNotAmongThem)
 
 TEST_F(SavedNetworksTest, KnowTheCurrentNetworkInAnyLetterCase)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
+    saveNetwork(homeBssid, u"Home"_s, u"Home"_s);
     settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::BSSID, homeBssid.toUpper()}});
     EXPECT_TRUE(saved.isCurrentNetworkSaved());
 }
 
 TEST_F(SavedNetworksTest, TellTheirBSSIDsAndTheSSIDsThatCount)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
-    saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"), true);
-    saveNetwork(cafeBssid, QStringLiteral("Cafe"), QStringLiteral("Cafe"), true);
-    EXPECT_EQ(favouriteNetworks(settings), (QStringList{homeBssid, officeBssid, cafeBssid}));
-    EXPECT_EQ(ssidFavouriteNetworks(settings),
-        (QStringList{QStringLiteral("Office"), QStringLiteral("Cafe")}));
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
+    saveNetwork(officeBssid, u"Office"_s, u"Work"_s, true);
+    saveNetwork(cafeBssid, u"Cafe"_s, u"Cafe"_s, true);
+    EXPECT_EQ(favoriteNetworks(settings), (QStringList{homeBssid, officeBssid, cafeBssid}));
+    EXPECT_EQ(ssidFavoriteNetworks(settings), (QStringList{u"Office"_s, u"Cafe"_s}));
 }
 
 TEST_F(SavedNetworksTest, AreFoundByTheirExactName)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
-    saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"), true);
-    EXPECT_EQ(ssidForNetworkName(settings, QStringLiteral("Work")), QStringLiteral("Office"));
-    EXPECT_EQ(bssidForNetworkName(settings, QStringLiteral("Work")), officeBssid);
-    EXPECT_TRUE(isNetWorkDefined(settings, QStringLiteral("Work")));
-    EXPECT_FALSE(isNetWorkDefined(settings, QStringLiteral("Our house")));
-    for (const auto &name : {QStringLiteral("work"), QStringLiteral("Office"), QString()}) {
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
+    saveNetwork(officeBssid, u"Office"_s, u"Work"_s, true);
+    EXPECT_EQ(ssidForNetworkName(settings, u"Work"_s), u"Office"_s);
+    EXPECT_EQ(bssidForNetworkName(settings, u"Work"_s), officeBssid);
+    EXPECT_TRUE(isNetWorkDefined(settings, u"Work"_s));
+    EXPECT_FALSE(isNetWorkDefined(settings, u"Our house"_s));
+    for (const auto &name : {u"work"_s, u"Office"_s, QString()}) {
         EXPECT_EQ(ssidForNetworkName(settings, name), QString());
-        EXPECT_EQ(bssidForNetworkName(settings, name), QStringLiteral("Any Network"));
+        EXPECT_EQ(bssidForNetworkName(settings, name), u"Any Network"_s);
         EXPECT_FALSE(isNetWorkDefined(settings, name));
     }
 }
 
 TEST_F(SavedNetworksTest, OfOneNameTheLastInTheListAnswers)
 {
-    saveNetwork(officeBssid, QStringLiteral("Second"), QStringLiteral("Twin"));
-    saveNetwork(homeBssid, QStringLiteral("First"), QStringLiteral("Twin"), true);
-    EXPECT_EQ(bssidForNetworkName(settings, QStringLiteral("Twin")), officeBssid);
-    EXPECT_EQ(ssidForNetworkName(settings, QStringLiteral("Twin")), QStringLiteral("Second"));
-    EXPECT_TRUE(isNetWorkDefined(settings, QStringLiteral("Twin"))) << "any of them counts";
+    saveNetwork(officeBssid, u"Second"_s, u"Twin"_s);
+    saveNetwork(homeBssid, u"First"_s, u"Twin"_s, true);
+    EXPECT_EQ(bssidForNetworkName(settings, u"Twin"_s), officeBssid);
+    EXPECT_EQ(ssidForNetworkName(settings, u"Twin"_s), u"Second"_s);
+    EXPECT_TRUE(isNetWorkDefined(settings, u"Twin"_s)) << "any of them counts";
 }
 
-TEST_F(SavedNetworksTest, AreRecognisedBySSIDWhateverTheirMarkHolds)
+TEST_F(SavedNetworksTest, AreRecognizedBySSIDWhateverTheirMarkHolds)
 {
-    QVariantMap entry = networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"));
+    QVariantMap entry = networkEntry(homeBssid, u"Home"_s, u"Home"_s);
     entry[savedentry::ssidDefined] = false;
     settings.set(keys::savedNetworks, QVariantMap{{homeBssid, entry}});
-    EXPECT_EQ(ssidFavouriteNetworks(settings), QStringList{QStringLiteral("Home")});
-    EXPECT_TRUE(isNetWorkDefined(settings, QStringLiteral("Home")));
+    EXPECT_EQ(ssidFavoriteNetworks(settings), QStringList{u"Home"_s});
+    EXPECT_TRUE(isNetWorkDefined(settings, u"Home"_s));
 }
 
 TEST_F(SavedNetworksTest, PassOverWhatIsNoEntry)
 {
     settings.set(keys::savedNetworks,
         QVariantMap{
-            {QStringLiteral("00"), QStringLiteral("text")},
-            {QStringLiteral("01"), QVariantMap{}},
-            {QStringLiteral("02"), QVariantList{QStringLiteral("name")}},
-            {QStringLiteral("03"), QVariantMap{{savedentry::name, QStringLiteral("Nameless")}}},
-            {QStringLiteral("04"), QVariantMap{{savedentry::ssidDefined, true}}},
-            {QStringLiteral("05"),
-                QVariantMap{{savedentry::name, 5}, {savedentry::SSID, 6},
-                    {savedentry::BSSID, QVariantMap{}}, {savedentry::ssidDefined, true}}},
-            {QStringLiteral("06"), true},
-            {homeBssid, networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"))},
+            {u"00"_s, u"text"_s},
+            {u"01"_s, QVariantMap{}},
+            {u"02"_s, QVariantList{u"name"_s}},
+            {u"03"_s, QVariantMap{{savedentry::name, u"Nameless"_s}}},
+            {u"04"_s, QVariantMap{{savedentry::ssidDefined, true}}},
+            {u"05"_s, QVariantMap{{savedentry::name, 5}, {savedentry::SSID, 6},
+                          {savedentry::BSSID, QVariantMap{}}, {savedentry::ssidDefined, true}}},
+            {u"06"_s, true},
+            {homeBssid, networkEntry(homeBssid, u"Home"_s, u"Home"_s)},
         });
-    EXPECT_EQ(favouriteNetworks(settings), QStringList{homeBssid});
-    EXPECT_TRUE(ssidFavouriteNetworks(settings).isEmpty());
-    EXPECT_EQ(bssidForNetworkName(settings, QStringLiteral("Home")), homeBssid);
-    EXPECT_EQ(
-        bssidForNetworkName(settings, QStringLiteral("Nameless")), QStringLiteral("Any Network"));
-    EXPECT_EQ(bssidForNetworkName(settings, QStringLiteral("5")), QStringLiteral("Any Network"));
-    EXPECT_EQ(bssidForNetworkName(settings, QString()), QStringLiteral("Any Network"));
+    EXPECT_EQ(favoriteNetworks(settings), QStringList{homeBssid});
+    EXPECT_TRUE(ssidFavoriteNetworks(settings).isEmpty());
+    EXPECT_EQ(bssidForNetworkName(settings, u"Home"_s), homeBssid);
+    EXPECT_EQ(bssidForNetworkName(settings, u"Nameless"_s), u"Any Network"_s);
+    EXPECT_EQ(bssidForNetworkName(settings, u"5"_s), u"Any Network"_s);
+    EXPECT_EQ(bssidForNetworkName(settings, QString()), u"Any Network"_s);
 }
 
 TEST_F(SavedNetworksTest, AddAndRemoveBesideWhatIsNoEntry)
 {
-    const QVariantMap hostile = {{QStringLiteral("zz"), QStringLiteral("text")}};
+    const QVariantMap hostile = {{u"zz"_s, u"text"_s}};
     settings.set(keys::savedNetworks, hostile);
     saved.addCurrentNetworkToSavedList();
-    EXPECT_EQ(settings.getDictionary(keys::savedNetworks).keys(),
-        (QStringList{homeBssid, QStringLiteral("zz")}));
+    EXPECT_EQ(
+        settings.getDictionary(keys::savedNetworks).keys(), (QStringList{homeBssid, u"zz"_s}));
     saved.removeCurrentNetworkFromSavedList();
     EXPECT_EQ(settings.getDictionary(keys::savedNetworks), hostile);
 }
@@ -188,9 +184,9 @@ TEST_F(SavedNetworksTest, AddAndRemoveBesideWhatIsNoEntry)
 TEST_F(SavedNetworksTest, StartAnewWhenTheListIsNone)
 {
     settings.set(keys::savedNetworks, QVariantList{1, 2});
-    EXPECT_TRUE(favouriteNetworks(settings).isEmpty());
+    EXPECT_TRUE(favoriteNetworks(settings).isEmpty());
     saved.addCurrentNetworkToSavedList();
-    EXPECT_EQ(favouriteNetworks(settings), QStringList{homeBssid});
+    EXPECT_EQ(favoriteNetworks(settings), QStringList{homeBssid});
 }
 
 TEST_F(SavedNetworksTest, NeverHoldTheAbsentNetwork)

@@ -7,6 +7,8 @@
 #include <limits>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class WiFiNetworkTest : public NetworkFixture
@@ -21,7 +23,7 @@ protected:
     static QVariantMap notAssociated()
     {
         return {
-            {wifirecord::name, QStringLiteral("Not currently connected...")},
+            {wifirecord::name, u"Not currently connected..."_s},
             {wifirecord::SSID, QString()},
             {wifirecord::BSSID, QString()},
             {wifirecord::ipAddress, QString()},
@@ -49,18 +51,18 @@ TEST_F(WiFiNetworkTest, IsRecordedAsTexts)
 {
     network.updateWiFiNetwork();
     const QVariantMap expected = {
-        {wifirecord::name, QStringLiteral("Home")},
-        {wifirecord::SSID, QStringLiteral("Home")},
+        {wifirecord::name, u"Home"_s},
+        {wifirecord::SSID, u"Home"_s},
         {wifirecord::BSSID, homeBssid},
-        {wifirecord::ipAddress, QStringLiteral("198.51.100.7")},
-        {wifirecord::noise, QStringLiteral("-92 dBm")},
-        {wifirecord::RSSI, QStringLiteral("-54 dBm")},
-        {wifirecord::security, QStringLiteral("WPA2 Personal")},
-        {wifirecord::txRate, QStringLiteral("866.7 Mbps")},
-        {wifirecord::channel, QStringLiteral("36 (5 GHz, 80 MHz)")},
-        {wifirecord::country, QStringLiteral("DE")},
-        {wifirecord::phyMode, QStringLiteral("802.11ac")},
-        {wifirecord::mcs, QStringLiteral("9")},
+        {wifirecord::ipAddress, u"198.51.100.7"_s},
+        {wifirecord::noise, u"-92 dBm"_s},
+        {wifirecord::RSSI, u"-54 dBm"_s},
+        {wifirecord::security, u"WPA2 Personal"_s},
+        {wifirecord::txRate, u"866.7 Mbps"_s},
+        {wifirecord::channel, u"36 (5 GHz, 80 MHz)"_s},
+        {wifirecord::country, u"DE"_s},
+        {wifirecord::phyMode, u"802.11ac"_s},
+        {wifirecord::mcs, u"9"_s},
     };
     EXPECT_EQ(settings.getDictionary(keys::currentWiFiDict), expected);
 }
@@ -73,7 +75,7 @@ TEST_F(WiFiNetworkTest, IsReturnedAsItsTwoNamesOnly)
     const auto joined = network.updateWiFiNetwork();
     ASSERT_TRUE(joined);
     EXPECT_EQ(joined->bssid, homeBssid);
-    EXPECT_EQ(joined->ssid, QStringLiteral("Home"));
+    EXPECT_EQ(joined->ssid, u"Home"_s);
     EXPECT_EQ(current(wifirecord::BSSID), homeBssid);
 }
 
@@ -86,8 +88,7 @@ TEST_F(WiFiNetworkTest, ShowsItsButton)
 TEST_F(WiFiNetworkTest, IsWrittenWholeAndFlushed)
 {
     network.updateWiFiNetwork();
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set currentWiFiDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set currentWiFiDict"_s, u"synchronize"_s}));
 }
 
 TEST_F(WiFiNetworkTest, IsNoneWithoutAWiFiInterface)
@@ -125,58 +126,58 @@ TEST_F(WiFiNetworkTest, LeavesNothingBehindWhenItIsLeft)
 
 TEST_F(WiFiNetworkTest, KeepsKeysOfTheRecordThatAreNotIts)
 {
-    settings.set(keys::currentWiFiDict, QVariantMap{{QStringLiteral("spatialStreams"), 2},
-                                            {wifirecord::SSID, QStringLiteral("Old")}});
+    settings.set(
+        keys::currentWiFiDict, QVariantMap{{u"spatialStreams"_s, 2}, {wifirecord::SSID, u"Old"_s}});
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(QStringLiteral("spatialStreams")), QStringLiteral("2"));
-    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    EXPECT_EQ(current(u"spatialStreams"_s), u"2"_s);
+    EXPECT_EQ(current(wifirecord::SSID), u"Home"_s);
     radio.leave();
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(QStringLiteral("spatialStreams")), QStringLiteral("2"));
+    EXPECT_EQ(current(u"spatialStreams"_s), u"2"_s);
 }
 
 TEST_F(WiFiNetworkTest, HasTheNameUnderWhichItIsSaved)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::name), QStringLiteral("Our house"));
-    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    EXPECT_EQ(current(wifirecord::name), u"Our house"_s);
+    EXPECT_EQ(current(wifirecord::SSID), u"Home"_s);
 }
 
 TEST_F(WiFiNetworkTest, HasAnEmptyNameWhenItIsSavedSo)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QString());
+    saveNetwork(homeBssid, u"Home"_s, QString());
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::name), QString());
 }
 
 TEST_F(WiFiNetworkTest, IsNotFoundAmongTheSavedOnesInAnotherLetterCase)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
     radio.interface->bssid = homeBssid.toUpper();
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::name), QStringLiteral("Home"));
+    EXPECT_EQ(current(wifirecord::name), u"Home"_s);
     EXPECT_EQ(current(wifirecord::BSSID), homeBssid);
 }
 
 TEST_F(WiFiNetworkTest, IsFoundAmongTheSavedOnesInTheLetterCaseThatIsRead)
 {
-    saveNetwork(homeBssid.toUpper(), QStringLiteral("Home"), QStringLiteral("Upper"));
+    saveNetwork(homeBssid.toUpper(), u"Home"_s, u"Upper"_s);
     radio.interface->bssid = homeBssid.toUpper();
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::name), QStringLiteral("Upper"));
+    EXPECT_EQ(current(wifirecord::name), u"Upper"_s);
 }
 
 TEST_F(WiFiNetworkTest, ShowsTheAddressThatTheDeviceListsLast)
 {
-    host.at(QStringLiteral("wlp2s0")).ipv4 << QStringLiteral("198.51.100.8");
+    host.at(u"wlp2s0"_s).ipv4 << u"198.51.100.8"_s;
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::ipAddress), QStringLiteral("198.51.100.8"));
+    EXPECT_EQ(current(wifirecord::ipAddress), u"198.51.100.8"_s);
 }
 
 TEST_F(WiFiNetworkTest, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)
 {
-    host.at(QStringLiteral("wlp2s0")).ipv4.clear();
+    host.at(u"wlp2s0"_s).ipv4.clear();
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::ipAddress), QString());
 }
@@ -186,23 +187,23 @@ TEST_F(WiFiNetworkTest, HasAnEmptyAddressWhileNoDeviceIsKnownAsWiFi)
     store({});
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::ipAddress), QString());
-    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    EXPECT_EQ(current(wifirecord::SSID), u"Home"_s);
 }
 
 TEST_F(WiFiNetworkTest, PrintsUnknownValuesAsTheyAreRead)
 {
     WiFiInterface wifi;
-    wifi.ssid = QStringLiteral("Bare");
+    wifi.ssid = u"Bare"_s;
     wifi.bssid = officeBssid;
     radio.join(wifi);
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::noise), QStringLiteral("0 dBm"));
-    EXPECT_EQ(current(wifirecord::RSSI), QStringLiteral("0 dBm"));
-    EXPECT_EQ(current(wifirecord::txRate), QStringLiteral("0 Mbps"));
-    EXPECT_EQ(current(wifirecord::security), QStringLiteral("Unknown"));
-    EXPECT_EQ(current(wifirecord::channel), QStringLiteral("0 (Unknown, Unknown)"));
+    EXPECT_EQ(current(wifirecord::noise), u"0 dBm"_s);
+    EXPECT_EQ(current(wifirecord::RSSI), u"0 dBm"_s);
+    EXPECT_EQ(current(wifirecord::txRate), u"0 Mbps"_s);
+    EXPECT_EQ(current(wifirecord::security), u"Unknown"_s);
+    EXPECT_EQ(current(wifirecord::channel), u"0 (Unknown, Unknown)"_s);
     EXPECT_EQ(current(wifirecord::country), QString());
-    EXPECT_EQ(current(wifirecord::phyMode), QStringLiteral("None"));
+    EXPECT_EQ(current(wifirecord::phyMode), u"None"_s);
     EXPECT_EQ(current(wifirecord::mcs), QString());
 }
 
@@ -213,7 +214,7 @@ TEST_F(WiFiNetworkTest, HasAnEmptyIndexWhereTheDriverTellsNone)
     EXPECT_EQ(current(wifirecord::mcs), QString());
     radio.interface->mcsIndex = 0;
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::mcs), QStringLiteral("0"));
+    EXPECT_EQ(current(wifirecord::mcs), u"0"_s);
 }
 
 struct Rate
@@ -240,31 +241,30 @@ INSTANTIATE_TEST_SUITE_P(Rates, WiFiNetworkTransmitRate,
 
 TEST_F(WiFiNetworkTest, FillsNothingIntoANameThatLooksLikeAPlaceholder)
 {
-    radio.interface->ssid = QStringLiteral("%@ %1 <b>");
+    radio.interface->ssid = u"%@ %1 <b>"_s;
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::name), QStringLiteral("%@ %1 <b>"));
-    EXPECT_EQ(current(wifirecord::channel), QStringLiteral("36 (5 GHz, 80 MHz)"));
+    EXPECT_EQ(current(wifirecord::name), u"%@ %1 <b>"_s);
+    EXPECT_EQ(current(wifirecord::channel), u"36 (5 GHz, 80 MHz)"_s);
 }
 
 TEST_F(WiFiNetworkTest, SurvivesSavedNetworksThatAreNone)
 {
-    const QVariantList hostile = {QStringLiteral("text"), 5, QVariantList{1, 2},
-        QVariantMap{{homeBssid, QStringLiteral("no entry")}},
-        QVariantMap{{homeBssid, QVariantMap{}}},
+    const QVariantList hostile = {u"text"_s, 5, QVariantList{1, 2},
+        QVariantMap{{homeBssid, u"no entry"_s}}, QVariantMap{{homeBssid, QVariantMap{}}},
         QVariantMap{{homeBssid, QVariantMap{{savedentry::name, 7}}}}};
     for (const QVariant &list : hostile) {
         settings.set(keys::savedNetworks, list);
         network.updateWiFiNetwork();
-        EXPECT_EQ(current(wifirecord::name), QStringLiteral("Home"));
+        EXPECT_EQ(current(wifirecord::name), u"Home"_s);
         EXPECT_EQ(settings.get(keys::savedNetworks), normalizedPropertyList(list));
     }
 }
 
 TEST_F(WiFiNetworkTest, ReplacesARecordThatIsNone)
 {
-    settings.set(keys::currentWiFiDict, QStringLiteral("text"));
+    settings.set(keys::currentWiFiDict, u"text"_s);
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::SSID), QStringLiteral("Home"));
+    EXPECT_EQ(current(wifirecord::SSID), u"Home"_s);
 }
 
 } // namespace

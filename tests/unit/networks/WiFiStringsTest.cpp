@@ -11,6 +11,8 @@
 #include <limits>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QStringList textsOf(QString (*text)(int), int first, int last)
@@ -42,7 +44,7 @@ TEST(WiFiStrings, CallSecurityFromElevenOnUnknown)
 {
     for (int security = WiFiInterface::WPA3Personal; security <= WiFiInterface::OWETransition;
          ++security) {
-        EXPECT_EQ(securityStringForNetwork(security), QStringLiteral("Unknown")) << security;
+        EXPECT_EQ(securityStringForNetwork(security), u"Unknown"_s) << security;
     }
     expectOtherwise(securityStringForNetwork, "Unknown");
 }
@@ -72,14 +74,13 @@ TEST(WiFiStrings, CallAnUnknownPHYModeNone)
 TEST(WiFiStrings, ReadTheOneOptionalValueOrNothing)
 {
     WiFiInterface interface;
-    const QString mcsIndex = QStringLiteral("mcsIndex");
+    const QString mcsIndex = u"mcsIndex"_s;
     EXPECT_EQ(getValueFromobjectForKey(interface, mcsIndex), QVariant(QString()));
     interface.mcsIndex = 0;
     EXPECT_EQ(getValueFromobjectForKey(interface, mcsIndex), QVariant(qlonglong(0)));
     interface.mcsIndex = 11;
     EXPECT_EQ(getValueFromobjectForKey(interface, mcsIndex), QVariant(qlonglong(11)));
-    EXPECT_EQ(
-        getValueFromobjectForKey(interface, QStringLiteral("spatialStreams")), QVariant(QString()));
+    EXPECT_EQ(getValueFromobjectForKey(interface, u"spatialStreams"_s), QVariant(QString()));
 }
 
 } // namespace

@@ -8,20 +8,21 @@
 #include <thread>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString rain = QStringLiteral("rain");
+const QString rain = u"rain"_s;
 
 TEST(NotificationCenter, ObserversOfTheNameHearInTheOrderInWhichTheyWereAdded)
 {
     NotificationCenter center;
     QStringList heard;
-    center.addObserver(rain, [&](const auto &) { heard << QStringLiteral("first"); });
-    center.addObserver(
-        QStringLiteral("sun"), [&](const auto &) { heard << QStringLiteral("sun"); });
-    center.addObserver(rain, [&](const auto &) { heard << QStringLiteral("second"); });
+    center.addObserver(rain, [&](const auto &) { heard << u"first"_s; });
+    center.addObserver(u"sun"_s, [&](const auto &) { heard << u"sun"_s; });
+    center.addObserver(rain, [&](const auto &) { heard << u"second"_s; });
     center.post(rain);
-    EXPECT_EQ(heard, QStringList({QStringLiteral("first"), QStringLiteral("second")}));
+    EXPECT_EQ(heard, QStringList({u"first"_s, u"second"_s}));
 }
 
 TEST(NotificationCenter, TheNotificationCarriesItsObjectAndUserInfo)
@@ -30,10 +31,10 @@ TEST(NotificationCenter, TheNotificationCarriesItsObjectAndUserInfo)
     NotificationCenter::Notification heard;
     center.addObserver(rain, [&](const auto &notification) { heard = notification; });
     const int poster = 0;
-    center.post(rain, &poster, {{QStringLiteral("drops"), 3}});
+    center.post(rain, &poster, {{u"drops"_s, 3}});
     EXPECT_EQ(heard.name, rain);
     EXPECT_EQ(heard.object, &poster);
-    EXPECT_EQ(heard.userInfo.value(QStringLiteral("drops")).toInt(), 3);
+    EXPECT_EQ(heard.userInfo.value(u"drops"_s).toInt(), 3);
 }
 
 TEST(NotificationCenter, ARemovedObserverHearsNothingMore)
@@ -85,13 +86,12 @@ TEST(NotificationCenter, AnObserverMayPost)
     NotificationCenter center;
     QStringList heard;
     center.addObserver(rain, [&](const auto &) {
-        center.post(QStringLiteral("flood"));
+        center.post(u"flood"_s);
         heard << rain;
     });
-    center.addObserver(
-        QStringLiteral("flood"), [&](const auto &) { heard << QStringLiteral("flood"); });
+    center.addObserver(u"flood"_s, [&](const auto &) { heard << u"flood"_s; });
     center.post(rain);
-    EXPECT_EQ(heard, QStringList({QStringLiteral("flood"), rain}));
+    EXPECT_EQ(heard, QStringList({u"flood"_s, rain}));
 }
 
 TEST(NotificationCenter, APostIsDeliveredOnThePostingThread)

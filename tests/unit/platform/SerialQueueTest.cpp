@@ -13,6 +13,8 @@
 #include <vector>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(SerialQueue, TasksRunInTheBackgroundInTheirOrder)
@@ -28,7 +30,7 @@ TEST(SerialQueue, TasksRunInTheBackgroundInTheirOrder)
     }
     EXPECT_TRUE(done.isEmpty());
     scheduler.runPending();
-    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
+    EXPECT_EQ(done.join(u' '), u"a b c"_s);
 }
 
 TEST(SerialQueue, ATaskMayAddAnother)
@@ -37,11 +39,11 @@ TEST(SerialQueue, ATaskMayAddAnother)
     SerialQueue queue(scheduler);
     QStringList done;
     queue.add([&] {
-        queue.add([&] { done << QStringLiteral("inner"); });
-        done << QStringLiteral("outer");
+        queue.add([&] { done << u"inner"_s; });
+        done << u"outer"_s;
     });
     scheduler.runPending();
-    EXPECT_EQ(done.join(u' '), QStringLiteral("outer inner"));
+    EXPECT_EQ(done.join(u' '), u"outer inner"_s);
 }
 
 TEST(SerialQueue, ItGoesOnAfterItWasIdle)

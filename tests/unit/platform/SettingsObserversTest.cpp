@@ -12,6 +12,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 /// Observers that write down what they hear, and may react to it.
 class SettingsObserversTest : public ::testing::Test
 {
@@ -21,8 +23,7 @@ protected:
     void observe(const char *name, const Reaction &reaction = {}, const char *key = "volume")
     {
         observers->add(QLatin1String(key), [this, name, reaction](const auto &change) {
-            heard << QStringLiteral("%1 %2->%3")
-                         .arg(QLatin1String(name))
+            heard << u"%1 %2->%3"_s.arg(QLatin1String(name))
                          .arg(change.oldValue.toInt())
                          .arg(change.newValue.toInt());
             if (reaction) {
@@ -51,21 +52,21 @@ TEST_F(SettingsObserversTest, EachHearsTheChangesInTheirOrderWhenOneReactsWithAn
     });
     observe("second");
     change(0, 1);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("first 0->1"), QStringLiteral("second 0->1"),
-                         QStringLiteral("first 1->2"), QStringLiteral("second 1->2")}));
+    EXPECT_EQ(
+        heard, (QStringList{u"first 0->1"_s, u"second 0->1"_s, u"first 1->2"_s, u"second 1->2"_s}));
 }
 
 TEST_F(SettingsObserversTest, AReactionIsToldBeforeTheCallThatCausedItReturns)
 {
     observe("first", [this](int) {
         change(5, 6, "pitch");
-        heard << QStringLiteral("returned");
+        heard << u"returned"_s;
     });
     observe("second");
     observe("pitch", {}, "pitch");
     change(0, 1);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("first 0->1"), QStringLiteral("second 0->1"),
-                         QStringLiteral("pitch 5->6"), QStringLiteral("returned")}));
+    EXPECT_EQ(
+        heard, (QStringList{u"first 0->1"_s, u"second 0->1"_s, u"pitch 5->6"_s, u"returned"_s}));
 }
 
 TEST_F(SettingsObserversTest, ReactionsToReactionsKeepTheOrderForAll)
@@ -82,10 +83,9 @@ TEST_F(SettingsObserversTest, ReactionsToReactionsKeepTheOrderForAll)
     observe("third");
     change(0, 1);
     for (const char *name : {"first", "second", "third"}) {
-        const QString prefix = QLatin1String(name) + QLatin1Char(' ');
+        const QString prefix = QLatin1String(name) + u' ';
         EXPECT_EQ(heard.filter(prefix),
-            (QStringList{prefix + QLatin1String("0->1"), prefix + QLatin1String("1->2"),
-                prefix + QLatin1String("2->3")}));
+            (QStringList{prefix + "0->1"_L1, prefix + "1->2"_L1, prefix + "2->3"_L1}));
     }
 }
 
@@ -94,7 +94,7 @@ TEST_F(SettingsObserversTest, AnObserverMayEndThemAll)
     observe("first", [this](int) { observers.reset(); });
     observe("second");
     change(0, 1);
-    EXPECT_EQ(heard.value(0), QStringLiteral("first 0->1"));
+    EXPECT_EQ(heard.value(0), u"first 0->1"_s);
 }
 
 } // namespace quillon::test

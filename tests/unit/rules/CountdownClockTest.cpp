@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CountdownMachine.h"
+#include "CountdownFixture.h"
 
 #include <limits>
 #include <utility>
@@ -9,12 +9,14 @@
 using namespace std::chrono_literals;
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString in = QStringLiteral("...changing MAC Address in ");
+const QString in = u"...changing MAC Address in "_s;
 
 /// The wall clock does not run as it should, or the rule says something odd.
-class CountdownClock : public CountdownMachine
+class CountdownClock : public CountdownFixture
 {
 };
 
@@ -24,7 +26,7 @@ TEST_F(CountdownClock, ThatJumpsBeyondTheEndStartsAgainWithoutAChange)
     pass(10s);
     scheduler.setClock(8h);
     pass(1s);
-    EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("-7:-58:-11"));
+    EXPECT_EQ(shown, en0 + u": "_s + in + u"-7:-58:-11"_s);
     EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 2);
     pass(119s);
@@ -70,7 +72,7 @@ TEST_F(CountdownClock, ThatIsSetBackMakesTheCountdownLonger)
     pass(60s);
     scheduler.setClock(-3h);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("03:00:59"));
+    EXPECT_EQ(display(en0), in + u"03:00:59"_s);
     pass(3h);
     EXPECT_TRUE(changes().isEmpty());
     pass(59s);
@@ -148,9 +150,8 @@ TEST_F(CountdownClock, LetsTwoTicksMeetOneZeroAndStillChangesOnce)
     slow.setClock(500ms);
     slow.isHeldUp = true;
     int zeros = 0;
-    QObject::connect(&late, &CountdownTimers::ticked, [&](const QString &, const QString &text) {
-        zeros += text.endsWith(QStringLiteral("00:00:00"));
-    });
+    QObject::connect(&late, &CountdownTimers::ticked,
+        [&](const QString &, const QString &text) { zeros += text.endsWith(u"00:00:00"_s); });
     slow.advance(120s);
     EXPECT_EQ(zeros, 2);
     EXPECT_TRUE(changes().isEmpty());
@@ -162,8 +163,8 @@ TEST_F(CountdownClock, LetsTwoTicksMeetOneZeroAndStillChangesOnce)
 
 TEST_F(CountdownClock, IsNotAskedForALengthThatIsNotThere)
 {
-    for (const QVariant &minutes : {QVariant(0), QVariant(), QVariant(QStringLiteral("many")),
-             QVariant(QVariantMap()), QVariant(-3)}) {
+    for (const QVariant &minutes :
+        {QVariant(0), QVariant(), QVariant(u"many"_s), QVariant(QVariantMap()), QVariant(-3)}) {
         ruleSays(en0, minutes);
         timers->startCountDownTimer(en0);
         const int before = started();
@@ -187,18 +188,18 @@ TEST_F(CountdownClock, CountsNoMoreMinutesThanARuleCanHold)
 {
     ruleSays(en0, std::numeric_limits<qlonglong>::max());
     timers->startCountDownTimer(en0);
-    EXPECT_EQ(timer(en0).value(QStringLiteral("interval")), QVariant(32767));
+    EXPECT_EQ(timer(en0).value(u"interval"_s), QVariant(32767));
     ruleSays(en0, std::numeric_limits<qlonglong>::min());
     timers->startCountDownTimer(en0);
-    EXPECT_EQ(timer(en0).value(QStringLiteral("interval")), QVariant(-32768));
+    EXPECT_EQ(timer(en0).value(u"interval"_s), QVariant(-32768));
 }
 
 TEST_F(CountdownClock, MayFindARecordThatIsNone)
 {
-    settings.set(keys::deviceDict, QVariantMap{{en0, QVariant(QStringLiteral("text"))}});
+    settings.set(keys::deviceDict, QVariantMap{{en0, QVariant(u"text"_s)}});
     timers->startCountDownTimer(en0);
     pass(3s);
-    settings.set(keys::deviceDict, QStringLiteral("text"));
+    settings.set(keys::deviceDict, u"text"_s);
     timers->startCountDownTimer(QString());
     pass(3s);
     EXPECT_TRUE(changes().isEmpty());

@@ -1,15 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CountdownMachine.h"
+#include "CountdownFixture.h"
 
 using namespace std::chrono_literals;
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString in = QStringLiteral("...changing MAC Address in ");
+const QString in = u"...changing MAC Address in "_s;
 
-class CountdownPauseTest : public CountdownMachine
+class CountdownPauseTest : public CountdownFixture
 {
 protected:
     /// Two minutes, paused when 90 seconds are left.
@@ -21,17 +23,14 @@ protected:
     }
     QVariant pausedRemaining() const
     {
-        return timer(en0)
-            .value(QStringLiteral("isPaused"))
-            .toMap()
-            .value(QStringLiteral("remaining"));
+        return timer(en0).value(u"isPaused"_s).toMap().value(u"remaining"_s);
     }
 };
 
 TEST_F(CountdownPauseTest, RemembersWhatIsLeft)
 {
     EXPECT_EQ(pausedRemaining(), QVariant(90));
-    EXPECT_EQ(timer(en0).value(QStringLiteral("isPaused")).toMap().size(), 1);
+    EXPECT_EQ(timer(en0).value(u"isPaused"_s).toMap().size(), 1);
     EXPECT_EQ(reset, 1);
 }
 
@@ -39,7 +38,7 @@ TEST_F(CountdownPauseTest, FreezesTheTextMarkedOnce)
 {
     for (int second = 0; second < 5; ++second) {
         pass(1s);
-        EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30 (paused)"));
+        EXPECT_EQ(display(en0), in + u"00:01:30 (paused)"_s);
         EXPECT_TRUE(shownAsPaused);
     }
 }
@@ -48,10 +47,10 @@ TEST_F(CountdownPauseTest, GoesOnFromWhereItWasGiveOrTakeASecond)
 {
     pass(10min);
     timers->resumeCountdownTimer(en0);
-    EXPECT_FALSE(timer(en0).contains(QStringLiteral("isPaused")));
+    EXPECT_FALSE(timer(en0).contains(u"isPaused"_s));
     EXPECT_EQ(reset, 2);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+    EXPECT_EQ(display(en0), in + u"00:01:30"_s);
     EXPECT_FALSE(shownAsPaused);
     pass(89s);
     EXPECT_TRUE(changes().isEmpty());
@@ -63,10 +62,10 @@ TEST_F(CountdownPauseTest, GoesOnFromWhereItWasGiveOrTakeASecond)
 TEST_F(CountdownPauseTest, MovesItsStartWithEveryTick)
 {
     pass(1s);
-    const QDateTime moved = timer(en0).value(QStringLiteral("startDate")).toDateTime();
+    const QDateTime moved = timer(en0).value(u"startDate"_s).toDateTime();
     EXPECT_EQ(scheduler.now().secsTo(moved), 90 - 120 + 1);
     pass(1s);
-    EXPECT_EQ(moved.secsTo(timer(en0).value(QStringLiteral("startDate")).toDateTime()), 1);
+    EXPECT_EQ(moved.secsTo(timer(en0).value(u"startDate"_s).toDateTime()), 1);
 }
 
 TEST_F(CountdownPauseTest, NeitherChangesNorStartsAnewHoweverLong)
@@ -82,11 +81,11 @@ TEST_F(CountdownPauseTest, StaysPausedThroughASuspension)
     pass(1s);
     scheduler.setClock(8h);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30 (paused)"));
+    EXPECT_EQ(display(en0), in + u"00:01:30 (paused)"_s);
     EXPECT_TRUE(changes().isEmpty());
     timers->resumeCountdownTimer(en0);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+    EXPECT_EQ(display(en0), in + u"00:01:30"_s);
 }
 
 TEST_F(CountdownPauseTest, StaysPausedWhenTheClockIsSetBack)
@@ -95,7 +94,7 @@ TEST_F(CountdownPauseTest, StaysPausedWhenTheClockIsSetBack)
     pass(2s);
     timers->resumeCountdownTimer(en0);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:30"));
+    EXPECT_EQ(display(en0), in + u"00:01:30"_s);
 }
 
 TEST_F(CountdownPauseTest, ResumedBeforeATickGoesOnByTheClock)
@@ -103,7 +102,7 @@ TEST_F(CountdownPauseTest, ResumedBeforeATickGoesOnByTheClock)
     pass(400ms);
     timers->resumeCountdownTimer(en0);
     pass(600ms);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:29"));
+    EXPECT_EQ(display(en0), in + u"00:01:29"_s);
 }
 
 TEST_F(CountdownPauseTest, PausedTwiceTellsTheLatterTime)
@@ -113,14 +112,14 @@ TEST_F(CountdownPauseTest, PausedTwiceTellsTheLatterTime)
     pass(30s);
     timers->pauseCountdownTimer(en0);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:01 (paused)"));
+    EXPECT_EQ(display(en0), in + u"00:01:01 (paused)"_s);
 }
 
 TEST_F(CountdownPauseTest, IsNotPausedAnyMoreWhenItIsStartedAnew)
 {
     timers->startCountDownTimer(en0);
     pass(1s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:59"));
+    EXPECT_EQ(display(en0), in + u"00:01:59"_s);
     EXPECT_FALSE(shownAsPaused);
 }
 
@@ -142,7 +141,7 @@ TEST_F(CountdownPauseTest, BetweenItsZeroAndTheChangeMakesNone)
     timers->startCountDownTimer(en0);
     QObject::connect(
         timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
-            if (text.endsWith(QStringLiteral("00:00:00"))) {
+            if (text.endsWith(u"00:00:00"_s)) {
                 scheduler.onMain([this] { timers->pauseCountdownTimer(en0); });
             }
         });
@@ -156,7 +155,7 @@ TEST_F(CountdownPauseTest, BeforeItsFirstTickShowsTheTime)
     timers->startCountDownTimer(en0);
     timers->pauseCountdownTimer(en0);
     pass(2s);
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:59 (paused)"));
+    EXPECT_EQ(display(en0), in + u"00:01:59 (paused)"_s);
 }
 
 TEST_F(CountdownPauseTest, OfOneMinuteDoesNotWarnWhileItWaits)

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 const QDateTime start = QDateTime::fromMSecsSinceEpoch(1'750'000'000'000, Qt::UTC);
@@ -20,25 +22,25 @@ qint64 remainingAfter(int interval, qint64 milliseconds)
 
 TEST(CountdownTextTest, TellsHoursMinutesAndSeconds)
 {
-    EXPECT_EQ(countdownTime(3725), QStringLiteral("01:02:05"));
-    EXPECT_EQ(countdownTime(0), QStringLiteral("00:00:00"));
-    EXPECT_EQ(countdownTime(59), QStringLiteral("00:00:59"));
-    EXPECT_EQ(countdownTime(60), QStringLiteral("00:01:00"));
-    EXPECT_EQ(countdownTime(3600), QStringLiteral("01:00:00"));
+    EXPECT_EQ(countdownTime(3725), u"01:02:05"_s);
+    EXPECT_EQ(countdownTime(0), u"00:00:00"_s);
+    EXPECT_EQ(countdownTime(59), u"00:00:59"_s);
+    EXPECT_EQ(countdownTime(60), u"00:01:00"_s);
+    EXPECT_EQ(countdownTime(3600), u"01:00:00"_s);
 }
 
 TEST(CountdownTextTest, HundredHoursAndMoreTakeMoreDigits)
 {
-    EXPECT_EQ(countdownTime(360'000), QStringLiteral("100:00:00"));
-    EXPECT_EQ(countdownTime(32767 * 60), QStringLiteral("546:07:00"));
-    EXPECT_EQ(countdownTime(36'000'001), QStringLiteral("10000:00:01"));
+    EXPECT_EQ(countdownTime(360'000), u"100:00:00"_s);
+    EXPECT_EQ(countdownTime(32767 * 60), u"546:07:00"_s);
+    EXPECT_EQ(countdownTime(36'000'001), u"10000:00:01"_s);
 }
 
 TEST(CountdownTextTest, EveryPartOfANegativeTimeIsNegative)
 {
-    EXPECT_EQ(countdownTime(-5), QStringLiteral("00:00:-5"));
-    EXPECT_EQ(countdownTime(-60), QStringLiteral("00:-1:00"));
-    EXPECT_EQ(countdownTime(-3725), QStringLiteral("-1:-2:-5"));
+    EXPECT_EQ(countdownTime(-5), u"00:00:-5"_s);
+    EXPECT_EQ(countdownTime(-60), u"00:-1:00"_s);
+    EXPECT_EQ(countdownTime(-3725), u"-1:-2:-5"_s);
 }
 
 TEST(CountdownTextTest, FractionsAreCutOffTowardsZeroOnBothSides)
@@ -80,7 +82,7 @@ TEST(CountdownTextTest, IsShownInASentence)
 {
     const CountdownText text =
         generateTimerCountdownStringForStartDateAndInterval(start, 2, start.addMSecs(3));
-    EXPECT_EQ(text.displayString, QStringLiteral("...changing MAC Address in 00:01:59"));
+    EXPECT_EQ(text.displayString, u"...changing MAC Address in 00:01:59"_s);
     EXPECT_EQ(text, (CountdownText{119, text.displayString}));
 }
 

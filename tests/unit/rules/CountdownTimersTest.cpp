@@ -1,15 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "CountdownMachine.h"
+#include "CountdownFixture.h"
 
 using namespace std::chrono_literals;
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString in = QStringLiteral("...changing MAC Address in ");
+const QString in = u"...changing MAC Address in "_s;
 
-class CountdownTimersTest : public CountdownMachine
+class CountdownTimersTest : public CountdownFixture
 {
 };
 
@@ -17,19 +19,18 @@ TEST_F(CountdownTimersTest, IsToldWhenItStarts)
 {
     timers->startCountDownTimer(en0);
     EXPECT_EQ(notifier.messages(),
-        (QList<FakeNotifier::Message>{
-            {QStringLiteral("Quillon Timer started"), in + QStringLiteral("00:01:59")}}));
+        (QList<FakeNotifier::Message>{{u"Quillon Timer started"_s, in + u"00:01:59"_s}}));
 }
 
 TEST_F(CountdownTimersTest, IsKeptUnderItsDevice)
 {
     timers->startCountDownTimer(en0);
     const QVariantMap entry = timer(en0);
-    EXPECT_EQ(entry.value(QStringLiteral("device")).toString(), en0);
-    EXPECT_EQ(entry.value(QStringLiteral("startDate")).toDateTime(), scheduler.now());
-    EXPECT_EQ(entry.value(QStringLiteral("interval")), QVariant(2));
-    EXPECT_FALSE(entry.contains(QStringLiteral("isPaused")));
-    EXPECT_FALSE(entry.contains(QStringLiteral("label"))) << "nothing was shown yet";
+    EXPECT_EQ(entry.value(u"device"_s).toString(), en0);
+    EXPECT_EQ(entry.value(u"startDate"_s).toDateTime(), scheduler.now());
+    EXPECT_EQ(entry.value(u"interval"_s), QVariant(2));
+    EXPECT_FALSE(entry.contains(u"isPaused"_s));
+    EXPECT_FALSE(entry.contains(u"label"_s)) << "nothing was shown yet";
     EXPECT_TRUE(isPropertyList(timers->timers()));
 }
 
@@ -39,11 +40,11 @@ TEST_F(CountdownTimersTest, TicksOnceASecond)
     pass(999ms);
     EXPECT_EQ(ticks, 0);
     pass(1ms);
-    EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("00:01:59"));
+    EXPECT_EQ(shown, en0 + u": "_s + in + u"00:01:59"_s);
     pass(59s);
     EXPECT_EQ(ticks, 60);
-    EXPECT_EQ(shown, en0 + QStringLiteral(": ") + in + QStringLiteral("00:01:00"));
-    EXPECT_EQ(display(en0), in + QStringLiteral("00:01:00"));
+    EXPECT_EQ(shown, en0 + u": "_s + in + u"00:01:00"_s);
+    EXPECT_EQ(display(en0), in + u"00:01:00"_s);
     EXPECT_FALSE(shownAsPaused);
 }
 
@@ -55,9 +56,9 @@ TEST_F(CountdownTimersTest, ChangesTheAddressAtZeroAndStartsAgain)
     EXPECT_TRUE(changes().isEmpty());
     EXPECT_EQ(started(), 1);
     pass(1s);
-    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + u" FE:01:02:03:04:05"_s});
     EXPECT_EQ(started(), 2);
-    EXPECT_EQ(timer(en0).value(QStringLiteral("startDate")).toDateTime(), scheduler.now());
+    EXPECT_EQ(timer(en0).value(u"startDate"_s).toDateTime(), scheduler.now());
     pass(120s);
     EXPECT_EQ(changes().size(), 2);
     EXPECT_EQ(started(), 3);
@@ -72,7 +73,7 @@ TEST_F(CountdownTimersTest, ChangesAfterTheTickHasDoneItsBookkeeping)
     pass(119s);
     order.clear();
     pass(1s);
-    EXPECT_EQ(order, (QStringList{QStringLiteral("0"), QStringLiteral("1")}))
+    EXPECT_EQ(order, (QStringList{u"0"_s, u"1"_s}))
         << "the tick first; then the change, and the restart";
 }
 
@@ -81,17 +82,16 @@ TEST_F(CountdownTimersTest, GivesARandomAddressWhateverTheVendorOfTheRule)
     random.put(QByteArray::fromHex("3f0102030405"));
     timers->startCountDownTimer(en0);
     pass(120s);
-    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" FE:01:02:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + u" FE:01:02:03:04:05"_s});
 }
 
 TEST_F(CountdownTimersTest, GivesARandomAddressInsideTheVendorChosenForTheInterface)
 {
     random.put(QByteArray::fromHex("3f0102030405"));
-    table.update(
-        en0, [](DeviceRecord &record) { record.vendor = QStringLiteral("Another (3C22FB)"); });
+    table.update(en0, [](DeviceRecord &record) { record.vendor = u"Another (3C22FB)"_s; });
     timers->startCountDownTimer(en0);
     pass(120s);
-    EXPECT_EQ(changes(), QStringList{en0 + QStringLiteral(" 3C:22:FB:03:04:05")});
+    EXPECT_EQ(changes(), QStringList{en0 + u" 3C:22:FB:03:04:05"_s});
 }
 
 TEST_F(CountdownTimersTest, TakesItsLengthFromTheRuleInForceAtEachStart)
@@ -100,7 +100,7 @@ TEST_F(CountdownTimersTest, TakesItsLengthFromTheRuleInForceAtEachStart)
     ruleSays(en0, 5);
     pass(120s);
     EXPECT_EQ(changes().size(), 1);
-    EXPECT_EQ(timer(en0).value(QStringLiteral("interval")), QVariant(5));
+    EXPECT_EQ(timer(en0).value(u"interval"_s), QVariant(5));
     pass(299s);
     EXPECT_EQ(changes().size(), 1);
     pass(1s);
@@ -139,8 +139,8 @@ TEST_F(CountdownTimersTest, OfOneMinuteWarnsOnceAMinuteBeforeTheChange)
     ruleSays(en0, 1);
     timers->startCountDownTimer(en0);
     pass(1s);
-    EXPECT_EQ(notifier.messages().last(),
-        (FakeNotifier::Message{QStringLiteral("Quillon"), in + QStringLiteral("00:00:59")}));
+    EXPECT_EQ(
+        notifier.messages().last(), (FakeNotifier::Message{u"Quillon"_s, in + u"00:00:59"_s}));
     pass(58s);
     EXPECT_EQ(warnings(), 1);
     pass(2s);
@@ -159,15 +159,13 @@ TEST_F(CountdownTimersTest, OfMoreMinutesChangesWithoutWarning)
 
 TEST_F(CountdownTimersTest, IsShownInItsMenuItemBehindFourBlanks)
 {
-    const auto title = [this] {
-        return timer(en0).value(QStringLiteral("label")).toMap().value(QStringLiteral("menu"));
-    };
+    const auto title = [this] { return timer(en0).value(u"label"_s).toMap().value(u"menu"_s); };
     timers->startCountDownTimer(en0);
     pass(1s);
     EXPECT_FALSE(title().isValid());
     timers->setMenuItemShown(en0, true);
     pass(1s);
-    EXPECT_EQ(title(), QVariant(QStringLiteral("    ") + in + QStringLiteral("00:01:58")));
+    EXPECT_EQ(title(), QVariant(u"    "_s + in + u"00:01:58"_s));
     timers->setMenuItemShown(en0, false);
     EXPECT_FALSE(title().isValid());
     timers->setMenuItemShown(en1, true);
@@ -178,10 +176,10 @@ TEST_F(CountdownTimersTest, LosesItsMenuItemWithEveryStart)
     timers->startCountDownTimer(en0);
     timers->setMenuItemShown(en0, true);
     timers->startCountDownTimer(en0);
-    EXPECT_FALSE(timer(en0).contains(QStringLiteral("label")));
+    EXPECT_FALSE(timer(en0).contains(u"label"_s));
 }
 
-class CountdownTimersOverview : public CountdownMachine
+class CountdownTimersOverview : public CountdownFixture
 {
 protected:
     CountdownTimersOverview()
@@ -216,7 +214,7 @@ TEST_F(CountdownTimersOverview, ComesWithEveryStopAlsoWhenNothingRan)
     EXPECT_TRUE(overviews.last().userInfo.isEmpty());
 }
 
-class CountdownTimersStopped : public CountdownMachine
+class CountdownTimersStopped : public CountdownFixture
 {
 };
 
@@ -239,7 +237,7 @@ TEST_F(CountdownTimersStopped, HidesTheLabel)
     hidden = 0;
     timers->stopCountdownTimer(en0);
     EXPECT_EQ(hidden, 1);
-    timers->stopCountdownTimer(QStringLiteral("en7"));
+    timers->stopCountdownTimer(u"en7"_s);
     EXPECT_EQ(hidden, 1) << "another one runs";
     timers->stopCountdownTimer(en1);
     EXPECT_EQ(hidden, 2);
@@ -252,13 +250,13 @@ TEST_F(CountdownTimersStopped, BetweenItsZeroAndTheChangeMakesNone)
     int late = 0;
     timers->startCountDownTimer(en0);
     const auto token = notifications.addObserver(notifications::updateOverview, [&](const auto &) {
-        if (display(en0).endsWith(QStringLiteral("00:00:00"))) {
+        if (display(en0).endsWith(u"00:00:00"_s)) {
             scheduler.onMain([&] { ++late; });
         }
     });
     QObject::connect(
         timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
-            if (text.endsWith(QStringLiteral("00:00:00"))) {
+            if (text.endsWith(u"00:00:00"_s)) {
                 scheduler.onMain([this] { timers->stopCountdownTimer(en0); });
             }
         });
@@ -296,7 +294,7 @@ TEST_F(CountdownTimersStopped, WithTheProgramDropsAChangeThatIsQueued)
     timers->startCountDownTimer(en0);
     QObject::connect(
         timers.get(), &CountdownTimers::ticked, [this](const QString &, const QString &text) {
-            if (text.endsWith(QStringLiteral("00:00:00"))) {
+            if (text.endsWith(u"00:00:00"_s)) {
                 scheduler.onMain([this] { timers.reset(); });
             }
         });

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 #include <QFile>
 #include <QMap>
@@ -11,14 +11,14 @@
 #include <tuple>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QStringList kinds{QStringLiteral("login"), QStringLiteral("home"), QStringLiteral("mesh"),
-    QStringLiteral("unknown"), QStringLiteral("any")};
-const QStringList places{QStringLiteral("none"), QStringLiteral("home"), QStringLiteral("mesh"),
-    QStringLiteral("office"), QStringLiteral("cafe")};
-const QString homeBssid = QStringLiteral("02:00:00:00:aa:01");
-const QString meshBssid = QStringLiteral("02:00:00:00:bb:01");
+const QStringList kinds{u"login"_s, u"home"_s, u"mesh"_s, u"unknown"_s, u"any"_s};
+const QStringList places{u"none"_s, u"home"_s, u"mesh"_s, u"office"_s, u"cafe"_s};
+const QString homeBssid = u"02:00:00:00:aa:01"_s;
+const QString meshBssid = u"02:00:00:00:bb:01"_s;
 
 enum class Presence
 {
@@ -67,16 +67,15 @@ void PrintTo(const Verdict &verdict, std::ostream *out)
 }
 
 /// Evaluates situations. What a rule gives tells which one it was: each has its own manufacturer.
-class DecisionTableTest : public RuleMachine
+class DecisionTableTest : public RuleFixture
 {
 protected:
     DecisionTableTest()
     {
-        saveNetwork(QStringLiteral("Home"), QStringLiteral("Home"), homeBssid, false);
-        saveNetwork(QStringLiteral("Mesh"), QStringLiteral("Mesh"), meshBssid, true);
-        saveNetwork(QStringLiteral("Office"), QStringLiteral("Office"),
-            QStringLiteral("02:00:00:00:cc:01"), false);
-        select(QStringLiteral("bridge0"));
+        saveNetwork(u"Home"_s, u"Home"_s, homeBssid, false);
+        saveNetwork(u"Mesh"_s, u"Mesh"_s, meshBssid, true);
+        saveNetwork(u"Office"_s, u"Office"_s, u"02:00:00:00:cc:01"_s, false);
+        select(u"bridge0"_s);
         // Nothing changes, whatever is asked for.
         helper.mood = FakeHelper::Mood::Lying;
         for (int slot = 0; slot < kinds.size(); ++slot) {
@@ -147,34 +146,32 @@ private:
             const Presence presence = situation.rules.value(kind, Presence::Absent);
             const Rule &rule = m_rules.at(slot);
             rule.setName(kind);
-            rule.setDevice(presence == Presence::Absent ? QStringLiteral("elsewhere") : device);
+            rule.setDevice(presence == Presence::Absent ? u"elsewhere"_s : device);
             rule.setEnabled(presence == Presence::On);
             rule.setActive(presence == Presence::Off);
-            rule.setIsLogin(kind == QStringLiteral("login"));
-            rule.setVendor(QStringLiteral("Maker (A0000%1)").arg(kinds.indexOf(kind)));
+            rule.setIsLogin(kind == u"login"_s);
+            rule.setVendor(u"Maker (A0000%1)"_s.arg(kinds.indexOf(kind)));
             rule.setNetwork(network(kind));
-            rule.setSsid(kind == QStringLiteral("mesh") ? QStringLiteral("Mesh") : QString());
-            rule.setSsidDefined(kind == QStringLiteral("mesh"));
+            rule.setSsid(kind == u"mesh"_s ? u"Mesh"_s : QString());
+            rule.setSsidDefined(kind == u"mesh"_s);
         }
     }
 
     static QString network(const QString &kind)
     {
-        static const QMap<QString, QString> networks{{QStringLiteral("home"), homeBssid},
-            {QStringLiteral("mesh"), meshBssid}, {QStringLiteral("unknown"), anUnknownNetwork},
-            {QStringLiteral("any"), anyNetwork}};
+        static const QMap<QString, QString> networks{{u"home"_s, homeBssid}, {u"mesh"_s, meshBssid},
+            {u"unknown"_s, anUnknownNetwork}, {u"any"_s, anyNetwork}};
         return networks.value(kind);
     }
 
     void arrangeMachine(const Situation &situation, const QString &device)
     {
-        if (situation.place == QStringLiteral("none")) {
+        if (situation.place == u"none"_s) {
             radio.interface.reset();
         } else {
-            static const QMap<QString, QString> bssids{{QStringLiteral("home"), homeBssid},
-                {QStringLiteral("mesh"), QStringLiteral("02:00:00:00:BB:99")},
-                {QStringLiteral("office"), QStringLiteral("02:00:00:00:CC:01")},
-                {QStringLiteral("cafe"), QStringLiteral("02:00:00:00:DD:01")}};
+            static const QMap<QString, QString> bssids{{u"home"_s, homeBssid},
+                {u"mesh"_s, u"02:00:00:00:BB:99"_s}, {u"office"_s, u"02:00:00:00:CC:01"_s},
+                {u"cafe"_s, u"02:00:00:00:DD:01"_s}};
             QString ssid = situation.place;
             ssid[0] = ssid[0].toUpper();
             joinWifi(ssid, bssids.value(situation.place));
@@ -191,7 +188,7 @@ private:
 Verdict expectedVerdict(const QStringList &columns)
 {
     const auto text = [&columns](int column) {
-        return columns.at(column) == QStringLiteral("-") ? QString() : columns.at(column);
+        return columns.at(column) == u"-"_s ? QString() : columns.at(column);
     };
     Verdict verdict{columns.at(8).toInt(), text(9), text(10), {}, {}};
     verdict.done = text(11).split(u',', Qt::SkipEmptyParts);
@@ -206,11 +203,11 @@ Verdict expectedVerdict(const QStringList &columns)
 Situation situationIn(const QStringList &columns)
 {
     Situation situation;
-    situation.isWifi = columns.at(0) == QStringLiteral("wifi");
+    situation.isWifi = columns.at(0) == u"wifi"_s;
     situation.place = columns.at(1);
     const QStringList rules = columns.at(2).split(u',');
     for (const QString &rule : rules) {
-        if (rule != QStringLiteral("-")) {
+        if (rule != u"-"_s) {
             situation.order << rule.chopped(1);
             situation.rules[rule.chopped(1)] = rule.endsWith(u'+') ? Presence::On : Presence::Off;
         }
@@ -220,12 +217,12 @@ Situation situationIn(const QStringList &columns)
             situation.order << kind;
         }
     }
-    situation.isUp = columns.at(3) == QStringLiteral("up");
-    situation.launchedAtLogin = columns.at(4) == QStringLiteral("login");
-    situation.reachable = columns.at(5) == QStringLiteral("yes");
-    situation.asked = columns.at(6) == QStringLiteral("event")    ? Asked::Event
-                      : columns.at(6) == QStringLiteral("change") ? Asked::Change
-                                                                  : Asked::Status;
+    situation.isUp = columns.at(3) == u"up"_s;
+    situation.launchedAtLogin = columns.at(4) == u"login"_s;
+    situation.reachable = columns.at(5) == u"yes"_s;
+    situation.asked = columns.at(6) == u"event"_s    ? Asked::Event
+                      : columns.at(6) == u"change"_s ? Asked::Change
+                                                     : Asked::Status;
     return situation;
 }
 
@@ -254,13 +251,11 @@ TEST_F(DecisionTableTest, FollowsTheTable)
 /// Says what is to come out, by sets and by the smallest rank instead of by groups and places.
 Verdict oracle(const Situation &situation)
 {
-    static const QMap<QString, QStringList> wifiRules{{QStringLiteral("none"), {}},
-        {QStringLiteral("home"), {QStringLiteral("home"), QStringLiteral("any")}},
-        {QStringLiteral("mesh"), {QStringLiteral("mesh"), QStringLiteral("any")}},
-        {QStringLiteral("office"), {QStringLiteral("any")}},
-        {QStringLiteral("cafe"), {QStringLiteral("unknown"), QStringLiteral("any")}}};
-    static const QMap<QString, int> ranks{{QStringLiteral("home"), 0}, {QStringLiteral("mesh"), 0},
-        {QStringLiteral("unknown"), 1}, {QStringLiteral("any"), 2}};
+    static const QMap<QString, QStringList> wifiRules{{u"none"_s, {}},
+        {u"home"_s, {u"home"_s, u"any"_s}}, {u"mesh"_s, {u"mesh"_s, u"any"_s}},
+        {u"office"_s, {u"any"_s}}, {u"cafe"_s, {u"unknown"_s, u"any"_s}}};
+    static const QMap<QString, int> ranks{
+        {u"home"_s, 0}, {u"mesh"_s, 0}, {u"unknown"_s, 1}, {u"any"_s, 2}};
     const QStringList applying = situation.isWifi ? wifiRules.value(situation.place) : kinds;
     int known = 0;
     std::vector<std::tuple<int, qsizetype, QString>> candidates;
@@ -268,7 +263,7 @@ Verdict oracle(const Situation &situation)
     for (const QString &kind : applying) {
         const Presence presence = situation.rules.value(kind, Presence::Absent);
         known += presence != Presence::Absent;
-        if (presence == Presence::On && kind == QStringLiteral("login")) {
+        if (presence == Presence::On && kind == u"login"_s) {
             verdict.loginRule = kind;
         } else if (presence == Presence::On) {
             candidates.emplace_back(ranks.value(kind), situation.order.indexOf(kind), kind);
@@ -297,8 +292,9 @@ Verdict oracle(const Situation &situation)
 }
 
 /// One interface at one place, in every combination of everything else.
-class DecisionTableEveryCombination : public DecisionTableTest,
-                         public ::testing::WithParamInterface<std::tuple<bool, QString>>
+class DecisionTableEveryCombination
+    : public DecisionTableTest,
+      public ::testing::WithParamInterface<std::tuple<bool, QString>>
 {
 };
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/NetworkRules.h"
 
-#include "RuleMachine.h"
+#include "RuleFixture.h"
 #include "fakes/LogCapture.h"
 #include "store/model/QuillonModel.h"
 
@@ -11,9 +11,11 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class NetworkRulesTest : public RuleMachine
+class NetworkRulesTest : public RuleFixture
 {
 protected:
     ManagedObjectPtr rule(const QVariant &network, const QVariant &ssidDefined = false)
@@ -32,8 +34,8 @@ protected:
         return rule->value(model::rule::ssidDefined);
     }
 
-    const QString homeBssid = QStringLiteral("a4:2b:b0:11:22:33");
-    const QString officeBssid = QStringLiteral("b8:27:eb:44:55:66");
+    const QString homeBssid = u"a4:2b:b0:11:22:33"_s;
+    const QString officeBssid = u"b8:27:eb:44:55:66"_s;
     NetworkRules networkRules{store, evaluation};
 };
 
@@ -43,7 +45,7 @@ TEST_F(NetworkRulesTest, FollowTheirNetworkAndNoOther)
     const auto home2 = rule(homeBssid);
     const auto office = rule(officeBssid);
     const auto upper = rule(homeBssid.toUpper());
-    const auto any = rule(QStringLiteral("Any Network"));
+    const auto any = rule(u"Any Network"_s);
     const auto login = rule(QString());
     const auto empty = rule({}, {});
     ASSERT_FALSE(context().save());
@@ -69,12 +71,12 @@ TEST_F(NetworkRulesTest, AreEvaluatedWithTheirNewModeWithoutAChangeOfAnAddress)
     context().processPendingChanges();
     QStringList heard;
     QObject::connect(&store, &RecordStore::objectsDidChange, [&](const ObjectsDidChange &change) {
-        heard << QStringLiteral("changed %1").arg(change.updated.size());
+        heard << u"changed %1"_s.arg(change.updated.size());
     });
     QObject::connect(&evaluation, &RuleEvaluation::ruleStatusEvaluated,
-        [&](const QString &device) { heard << QStringLiteral("evaluated ") + device; });
+        [&](const QString &device) { heard << u"evaluated "_s + device; });
     recognize(true);
-    EXPECT_EQ(heard, (QStringList{QStringLiteral("changed 1"), QStringLiteral("evaluated en0")}));
+    EXPECT_EQ(heard, (QStringList{u"changed 1"_s, u"evaluated en0"_s}));
     scheduler.runPending();
     EXPECT_TRUE(helper.changes().isEmpty());
 }
@@ -100,17 +102,17 @@ TEST_F(NetworkRulesTest, StayWhenTheyCannotBeRead)
     const auto home = rule(homeBssid);
     ASSERT_FALSE(context().save());
     {
-        SQLite::Database file(folder.filePath(QStringLiteral("Quillon.sqlite")).toStdString(),
-            SQLite::OPEN_READWRITE);
+        SQLite::Database file(
+            folder.filePath(u"Quillon.sqlite"_s).toStdString(), SQLite::OPEN_READWRITE);
         file.exec("DROP TABLE Rule");
     }
     const LogCapture log;
     recognize(true);
     const QStringList lines = LogCapture::taken();
     ASSERT_EQ(lines.size(), 2);
-    EXPECT_EQ(lines.first(), QStringLiteral("quillon.networks: Unable to execute fetch request."));
-    EXPECT_TRUE(lines.last().startsWith(QStringLiteral("quillon.networks: ")));
-    EXPECT_TRUE(lines.last().contains(QStringLiteral(", ")));
+    EXPECT_EQ(lines.first(), u"quillon.networks: Unable to execute fetch request."_s);
+    EXPECT_TRUE(lines.last().startsWith(u"quillon.networks: "_s));
+    EXPECT_TRUE(lines.last().contains(u", "_s));
     EXPECT_EQ(mode(home), QVariant(false));
     EXPECT_TRUE(overviews.isEmpty());
 }

@@ -7,12 +7,14 @@
 #include "unit/store/RecordStoreFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using Kind = RuleAction::Kind;
 
-const QString randomAddress = QStringLiteral("Random Address");
-const QString fixedAddress = QStringLiteral("02:00:00:00:00:77");
+const QString randomAddress = u"Random Address"_s;
+const QString fixedAddress = u"02:00:00:00:00:77"_s;
 const RuleAction stop{Kind::StopCountdown, {}, {}};
 const RuleAction start{Kind::StartCountdown, {}, {}};
 
@@ -27,7 +29,7 @@ protected:
         made.setAddress(address);
         made.setAction(action);
         made.setChangeAction(changeAction);
-        made.setVendor(QStringLiteral("Maker (A1B2C3)"));
+        made.setVendor(u"Maker (A1B2C3)"_s);
         return made;
     }
 };
@@ -41,7 +43,7 @@ TEST_F(RuleActionsTest, WithoutRuleARunningCountdownEnds)
 TEST_F(RuleActionsTest, ChangeOnceEndsTheCountdownAndGivesARandomAddressInsideTheRulesVendor)
 {
     EXPECT_EQ(actionsOfNetworkRule(rule(randomAddress), true),
-        (QList{stop, {Kind::RandomAddress, {}, QStringLiteral("Maker (A1B2C3)")}}));
+        (QList{stop, {Kind::RandomAddress, {}, u"Maker (A1B2C3)"_s}}));
 }
 
 TEST_F(RuleActionsTest, EveryEndsTheCountdownAndStartsItAnewWithoutAChange)
@@ -90,7 +92,7 @@ TEST_F(RuleActionsTest, ARuleThatIsNotMarkedActiveDoesNothing)
 TEST_F(RuleActionsTest, AnEmptyVendorIsNoVendorAndAMissingOneLeavesTheChoiceToTheDevice)
 {
     const Rule empty = rule(randomAddress);
-    empty.setVendor(QStringLiteral(""));
+    empty.setVendor(u""_s);
     EXPECT_EQ(
         actionsOfNetworkRule(empty, true).last(), (RuleAction{Kind::RandomAddress, {}, QString()}));
     const Rule without = rule(randomAddress);
@@ -104,7 +106,7 @@ TEST_F(RuleActionsTest, ALoginRuleChangesTheAddressWhateverItsOtherFieldsSay)
     const Rule login = rule(randomAddress, -1, -1);
     login.setActive(false);
     EXPECT_EQ(actionsOfLoginRule(login),
-        (QList<RuleAction>{{Kind::RandomAddress, {}, QStringLiteral("Maker (A1B2C3)")}}));
+        (QList<RuleAction>{{Kind::RandomAddress, {}, u"Maker (A1B2C3)"_s}}));
     EXPECT_EQ(actionsOfLoginRule(rule(fixedAddress, 0, 1)),
         (QList<RuleAction>{{Kind::FixedAddress, fixedAddress, {}}}));
 }

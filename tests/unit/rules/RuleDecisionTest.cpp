@@ -7,10 +7,12 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString en0 = QStringLiteral("en0");
-const QString home = QStringLiteral("02:00:00:00:00:01");
+const QString en0 = u"en0"_s;
+const QString home = u"02:00:00:00:00:01"_s;
 
 RuleFacts rule(const QString &network, bool enabled = true)
 {
@@ -47,8 +49,7 @@ TEST(RuleDecisionTest, ASpecificNetworkWinsOverUnknownAndUnknownOverAnyWhateverT
 TEST(RuleDecisionTest, OfAGroupTheFirstEnabledRuleIsTaken)
 {
     EXPECT_EQ(
-        decideRules({rule(home, false), rule(home), rule(QStringLiteral("02:00:00:00:00:02"))}, en0)
-            .networkRule,
+        decideRules({rule(home, false), rule(home), rule(u"02:00:00:00:00:02"_s)}, en0).networkRule,
         1);
     EXPECT_EQ(decideRules({loginRule(false), loginRule(), loginRule()}, en0).loginRule, 1);
 }
@@ -80,7 +81,7 @@ TEST(RuleDecisionTest, EveryOtherNetworkIsASpecificOne)
 {
     EXPECT_EQ(ruleGroup(rule(home)), RuleGroup::Specific);
     EXPECT_EQ(ruleGroup(rule(QString())), RuleGroup::Specific);
-    EXPECT_EQ(ruleGroup(rule(QStringLiteral("any network"))), RuleGroup::Specific);
+    EXPECT_EQ(ruleGroup(rule(u"any network"_s)), RuleGroup::Specific);
     EXPECT_EQ(ruleGroup(rule(anUnknownNetwork)), RuleGroup::Unknown);
     EXPECT_EQ(ruleGroup(rule(anyNetwork)), RuleGroup::Any);
 }
@@ -88,7 +89,7 @@ TEST(RuleDecisionTest, EveryOtherNetworkIsASpecificOne)
 TEST(RuleDecisionTest, RulesOfOtherDevicesArePassedOver)
 {
     RuleFacts other = rule(home);
-    other.device = QStringLiteral("EN0");
+    other.device = u"EN0"_s;
     EXPECT_EQ(decideRules({other, rule(anyNetwork)}, en0).networkRule, 1);
     EXPECT_EQ(decideRules({other}, en0), (RuleDecision{RuleStatus::NotActive, {}, {}}))
         << "something was selected, nothing of it is enabled here";

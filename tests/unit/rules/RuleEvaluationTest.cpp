@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 #include <QUndoStack>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class RuleEvaluationTest : public RuleMachine
+class RuleEvaluationTest : public RuleFixture
 {
 };
 
@@ -22,7 +24,7 @@ TEST_F(RuleEvaluationTest, WithoutRulesSaysThereIsNone)
 
 TEST_F(RuleEvaluationTest, OfASwitchedOffRuleSaysSo)
 {
-    addRule({.name = QStringLiteral("off"), .enabled = false});
+    addRule({.name = u"off"_s, .enabled = false});
     evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(hasRule(en0), QVariant(2));
     EXPECT_TRUE(recordedRule(en0).isEmpty());
@@ -31,33 +33,33 @@ TEST_F(RuleEvaluationTest, OfASwitchedOffRuleSaysSo)
 
 TEST_F(RuleEvaluationTest, RecordsAFlatCopyOfTheRuleInForce)
 {
-    const Rule rule = addRule({.name = QStringLiteral("on"), .timerMins = 7});
+    const Rule rule = addRule({.name = u"on"_s, .timerMins = 7});
     evaluate(en0, RuleChange::None);
     EXPECT_EQ(hasRule(en0), QVariant(1));
     EXPECT_TRUE(rule.active());
     EXPECT_EQ(recordedRule(en0), updateRuledictWithRule({}, rule));
-    EXPECT_EQ(recordedRule(en0).value(QStringLiteral("active")), QVariant(1));
-    EXPECT_EQ(recordedRule(en0).value(QStringLiteral("timerMinutes")), QVariant(7));
+    EXPECT_EQ(recordedRule(en0).value(u"active"_s), QVariant(1));
+    EXPECT_EQ(recordedRule(en0).value(u"timerMinutes"_s), QVariant(7));
 }
 
 TEST_F(RuleEvaluationTest, WithoutChangeLeavesTheAddressAlone)
 {
-    addRule({.name = QStringLiteral("on")});
+    addRule({.name = u"on"_s});
     evaluate(en0, RuleChange::None);
-    EXPECT_EQ(ruleInForce(en0), QStringLiteral("on"));
+    EXPECT_EQ(ruleInForce(en0), u"on"_s);
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
 TEST_F(RuleEvaluationTest, WithChangeCarriesTheRuleOut)
 {
-    addRule({.name = QStringLiteral("on")});
+    addRule({.name = u"on"_s});
     evaluate(en0, RuleChange::NetworkRule);
-    EXPECT_EQ(host.addressOf(en0), QStringLiteral("fe:02:03:04:05:06"));
+    EXPECT_EQ(host.addressOf(en0), u"fe:02:03:04:05:06"_s);
 }
 
 TEST_F(RuleEvaluationTest, GivesAFixedAddressOnceAlsoWhenTheRuleSaysEvery)
 {
-    addRule({.name = QStringLiteral("on"), .address = fixedAddress, .changeAction = Rule::every});
+    addRule({.name = u"on"_s, .address = fixedAddress, .changeAction = Rule::every});
     evaluate(en0, RuleChange::NetworkRule);
     EXPECT_EQ(host.addressOf(en0), fixedAddress);
     EXPECT_FALSE(isCountingDown(en0));
@@ -65,26 +67,26 @@ TEST_F(RuleEvaluationTest, GivesAFixedAddressOnceAlsoWhenTheRuleSaysEvery)
 
 TEST_F(RuleEvaluationTest, GivesARandomAddressInsideTheVendorOfTheRule)
 {
-    addRule({.name = QStringLiteral("on"), .vendor = QStringLiteral("Maker (3C22FB)")});
-    setRecord(en0, record::vendor, QStringLiteral("Another (A0B0C0)"));
+    addRule({.name = u"on"_s, .vendor = u"Maker (3C22FB)"_s});
+    setRecord(en0, record::vendor, u"Another (A0B0C0)"_s);
     evaluate(en0, RuleChange::NetworkRule);
-    EXPECT_TRUE(changesOf(en0).value(0).startsWith(QStringLiteral("3C:22:FB")));
+    EXPECT_TRUE(changesOf(en0).value(0).startsWith(u"3C:22:FB"_s));
 }
 
 TEST_F(RuleEvaluationTest, OfEveryStartsACountdownAndChangesNothingAtOnce)
 {
-    addRule({.name = QStringLiteral("every"), .changeAction = Rule::every, .timerMins = 3});
+    addRule({.name = u"every"_s, .changeAction = Rule::every, .timerMins = 3});
     evaluate(en0, RuleChange::NetworkRule);
     EXPECT_TRUE(helper.changes().isEmpty());
     ASSERT_TRUE(isCountingDown(en0));
-    EXPECT_EQ(timers.timers().value(en0).toMap().value(QStringLiteral("interval")), QVariant(3));
+    EXPECT_EQ(timers.timers().value(en0).toMap().value(u"interval"_s), QVariant(3));
     scheduler.advance(std::chrono::minutes(3));
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
 TEST_F(RuleEvaluationTest, AgainRestartsTheCountdown)
 {
-    addRule({.name = QStringLiteral("every"), .changeAction = Rule::every, .timerMins = 3});
+    addRule({.name = u"every"_s, .changeAction = Rule::every, .timerMins = 3});
     evaluate(en0, RuleChange::NetworkRule);
     scheduler.advance(std::chrono::minutes(2));
     evaluate(en0, RuleChange::NetworkRule);
@@ -96,7 +98,7 @@ TEST_F(RuleEvaluationTest, AgainRestartsTheCountdown)
 
 TEST_F(RuleEvaluationTest, WithoutChangeLeavesACountdownRunning)
 {
-    addRule({.name = QStringLiteral("every"), .changeAction = Rule::every});
+    addRule({.name = u"every"_s, .changeAction = Rule::every});
     evaluate(en0, RuleChange::NetworkRule);
     switches.disableAllRules();
     evaluate(en0, RuleChange::None);
@@ -106,10 +108,10 @@ TEST_F(RuleEvaluationTest, WithoutChangeLeavesACountdownRunning)
 
 TEST_F(RuleEvaluationTest, OfDoNothingEndsTheCountdownOfAnEarlierRule)
 {
-    const Rule every = addRule({.name = QStringLiteral("every"), .changeAction = Rule::every});
+    const Rule every = addRule({.name = u"every"_s, .changeAction = Rule::every});
     evaluate(en0, RuleChange::NetworkRule);
     every.setEnabled(false);
-    addRule({.name = QStringLiteral("nothing"), .action = Rule::doNothing});
+    addRule({.name = u"nothing"_s, .action = Rule::doNothing});
     evaluate(en0, RuleChange::NetworkRule);
     EXPECT_FALSE(isCountingDown(en0));
     EXPECT_TRUE(helper.changes().isEmpty());
@@ -117,7 +119,7 @@ TEST_F(RuleEvaluationTest, OfDoNothingEndsTheCountdownOfAnEarlierRule)
 
 TEST_F(RuleEvaluationTest, WithoutRuleInForceEndsTheCountdown)
 {
-    const Rule every = addRule({.name = QStringLiteral("every"), .changeAction = Rule::every});
+    const Rule every = addRule({.name = u"every"_s, .changeAction = Rule::every});
     evaluate(en0, RuleChange::NetworkRule);
     every.setEnabled(false);
     evaluate(en0, RuleChange::NetworkRule);
@@ -126,28 +128,27 @@ TEST_F(RuleEvaluationTest, WithoutRuleInForceEndsTheCountdown)
 
 TEST_F(RuleEvaluationTest, OfAnInterfaceThatIsNotActiveKeepsItsCountdownAndChangesNothing)
 {
-    const Rule every = addRule({.name = QStringLiteral("every"), .changeAction = Rule::every});
+    const Rule every = addRule({.name = u"every"_s, .changeAction = Rule::every});
     evaluate(en0, RuleChange::NetworkRule);
     every.setEnabled(false);
-    addRule({.name = QStringLiteral("once")});
-    setRecord(en0, record::status, QStringLiteral("inactive"));
+    addRule({.name = u"once"_s});
+    setRecord(en0, record::status, u"inactive"_s);
     evaluate(en0, RuleChange::NetworkRule);
-    EXPECT_EQ(ruleInForce(en0), QStringLiteral("once"));
+    EXPECT_EQ(ruleInForce(en0), u"once"_s);
     EXPECT_TRUE(isCountingDown(en0));
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
 TEST_F(RuleEvaluationTest, MarksOneNetworkRuleAndOneLoginRuleActive)
 {
-    const Rule stale = addRule({.name = QStringLiteral("stale"), .enabled = false});
+    const Rule stale = addRule({.name = u"stale"_s, .enabled = false});
     stale.setActive(true);
-    const Rule any = addRule({.name = QStringLiteral("any")});
-    const Rule second = addRule({.name = QStringLiteral("second")});
-    const Rule specific = addRule(
-        {.name = QStringLiteral("specific"), .network = QStringLiteral("02:00:00:00:aa:01")});
-    const Rule login = addRule({.name = QStringLiteral("login"), .isLogin = true});
-    const Rule login2 = addRule({.name = QStringLiteral("login 2"), .isLogin = true});
-    const Rule other = addRule({.name = QStringLiteral("other"), .device = en1});
+    const Rule any = addRule({.name = u"any"_s});
+    const Rule second = addRule({.name = u"second"_s});
+    const Rule specific = addRule({.name = u"specific"_s, .network = u"02:00:00:00:aa:01"_s});
+    const Rule login = addRule({.name = u"login"_s, .isLogin = true});
+    const Rule login2 = addRule({.name = u"login 2"_s, .isLogin = true});
+    const Rule other = addRule({.name = u"other"_s, .device = en1});
     other.setActive(true);
     evaluate(en0, RuleChange::None);
     EXPECT_TRUE(specific.active());
@@ -157,13 +158,13 @@ TEST_F(RuleEvaluationTest, MarksOneNetworkRuleAndOneLoginRuleActive)
     EXPECT_FALSE(second.active());
     EXPECT_FALSE(login2.active());
     EXPECT_TRUE(other.active()) << "of an interface that was not evaluated";
-    EXPECT_EQ(loginRuleInForce(en0), QStringLiteral("login"));
+    EXPECT_EQ(loginRuleInForce(en0), u"login"_s);
 }
 
 TEST_F(RuleEvaluationTest, OfAllTakesEveryInterfaceInTheOrderOfTheTable)
 {
-    addRule({.name = QStringLiteral("wired")});
-    evaluate(QStringLiteral("all"), RuleChange::None);
+    addRule({.name = u"wired"_s});
+    evaluate(u"all"_s, RuleChange::None);
     QStringList devices;
     for (const auto &posted : overviews) {
         devices << posted.userInfo.keys();
@@ -175,54 +176,50 @@ TEST_F(RuleEvaluationTest, OfAllTakesEveryInterfaceInTheOrderOfTheTable)
 
 TEST_F(RuleEvaluationTest, TellsTheOverviewStatusAndTheWifiNetworkWhateverTheInterface)
 {
-    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, QStringLiteral("Home")}});
-    addRule({.name = QStringLiteral("on")});
+    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, u"Home"_s}});
+    addRule({.name = u"on"_s});
     evaluate(en0, RuleChange::None);
     ASSERT_EQ(overviews.size(), 1);
     EXPECT_EQ(overviews.first().object, &evaluation);
     EXPECT_EQ(overviews.first().userInfo,
-        (QVariantMap{{en0, QVariantMap{{QStringLiteral("hasRule"), 1},
-                               {QStringLiteral("status"), QStringLiteral("active")},
-                               {QStringLiteral("network"), QStringLiteral("Home")}}}}));
+        (QVariantMap{{en0, QVariantMap{{u"hasRule"_s, 1}, {u"status"_s, u"active"_s},
+                               {u"network"_s, u"Home"_s}}}}));
 }
 
 TEST_F(RuleEvaluationTest, ShowsTheStatusOfTheSelectedInterfaceBeforeTheOverviewHears)
 {
     QStringList order;
     QObject::connect(&evaluation, &RuleEvaluation::ruleStatusEvaluated,
-        [&](const QString &device) { order << QStringLiteral("status ") + device; });
+        [&](const QString &device) { order << u"status "_s + device; });
     notifications.addObserver(
-        notifications::updateOverview, [&](const auto &) { order << QStringLiteral("overview"); });
+        notifications::updateOverview, [&](const auto &) { order << u"overview"_s; });
     evaluate(en0, RuleChange::None);
     evaluate(en1, RuleChange::None);
-    EXPECT_EQ(order, (QStringList{QStringLiteral("status en0"), QStringLiteral("overview"),
-                         QStringLiteral("overview")}));
+    EXPECT_EQ(order, (QStringList{u"status en0"_s, u"overview"_s, u"overview"_s}));
 }
 
 TEST_F(RuleEvaluationTest, WritesTheRecordBeforeItCarriesOut)
 {
-    addRule({.name = QStringLiteral("every"), .changeAction = Rule::every});
+    addRule({.name = u"every"_s, .changeAction = Rule::every});
     bool wasRecorded = false;
-    notifications.addObserver(notifications::updateOverview, [&](const auto &) {
-        wasRecorded = wasRecorded || ruleInForce(en0) == QStringLiteral("every");
-    });
+    notifications.addObserver(notifications::updateOverview,
+        [&](const auto &) { wasRecorded = wasRecorded || ruleInForce(en0) == u"every"_s; });
     settings.clearJournal();
     evaluation.checkDeviceForCurrentRuleAndChange(en0, RuleChange::NetworkRule);
     EXPECT_TRUE(wasRecorded);
-    EXPECT_EQ(settings.journal(),
-        (QStringList{QStringLiteral("set deviceDict"), QStringLiteral("synchronize")}));
+    EXPECT_EQ(settings.journal(), (QStringList{u"set deviceDict"_s, u"synchronize"_s}));
 }
 
 TEST_F(RuleEvaluationTest, KeepsWhatOthersWroteIntoTheRecord)
 {
-    setRecord(en0, record::vendor, QStringLiteral("Maker (A1B2C3)"));
+    setRecord(en0, record::vendor, u"Maker (A1B2C3)"_s);
     evaluate(en0, RuleChange::None);
-    EXPECT_EQ(storedRecord(en0).value(record::vendor), QVariant(QStringLiteral("Maker (A1B2C3)")));
+    EXPECT_EQ(storedRecord(en0).value(record::vendor), QVariant(u"Maker (A1B2C3)"_s));
 }
 
 TEST_F(RuleEvaluationTest, IsNotWatchedAndLeavesNothingToUndo)
 {
-    const Rule rule = addRule({.name = QStringLiteral("on")});
+    const Rule rule = addRule({.name = u"on"_s});
     ASSERT_FALSE(context().save());
     scheduler.runPending();
     int stale = 0;
@@ -235,7 +232,7 @@ TEST_F(RuleEvaluationTest, IsNotWatchedAndLeavesNothingToUndo)
     EXPECT_EQ(context().undoManager().count(), steps);
     EXPECT_EQ(stale, 0);
     EXPECT_EQ(corrections, 0);
-    rule.setVendor(QStringLiteral("Maker (A1B2C3)"));
+    rule.setVendor(u"Maker (A1B2C3)"_s);
     scheduler.runPending();
     EXPECT_EQ(stale, 1) << "others are watched again";
     EXPECT_EQ(context().undoManager().count(), steps + 1);
@@ -243,8 +240,8 @@ TEST_F(RuleEvaluationTest, IsNotWatchedAndLeavesNothingToUndo)
 
 TEST_F(RuleEvaluationTest, DoesNotSaveAndTouchesNoRuleThatIsAsItShouldBe)
 {
-    addRule({.name = QStringLiteral("on")});
-    addRule({.name = QStringLiteral("off"), .enabled = false});
+    addRule({.name = u"on"_s});
+    addRule({.name = u"off"_s, .enabled = false});
     evaluate(en0, RuleChange::None);
     EXPECT_TRUE(context().hasChanges());
     ASSERT_FALSE(context().save());
@@ -254,8 +251,8 @@ TEST_F(RuleEvaluationTest, DoesNotSaveAndTouchesNoRuleThatIsAsItShouldBe)
 
 TEST_F(RuleEvaluationTest, OfARuleThatWasEditedFollowsWithoutAChange)
 {
-    const Rule rule = addRule({.name = QStringLiteral("on")});
-    evaluate(QStringLiteral("all"), RuleChange::None);
+    const Rule rule = addRule({.name = u"on"_s});
+    evaluate(u"all"_s, RuleChange::None);
     rule.setEnabled(false);
     evaluation.rulesWereChanged();
     scheduler.runPending();
@@ -266,26 +263,26 @@ TEST_F(RuleEvaluationTest, OfARuleThatWasEditedFollowsWithoutAChange)
 
 TEST_F(RuleEvaluationTest, OfADeviceThatIsNotOneOfThisComputerAddsNoRecord)
 {
-    const Rule rule = addRule({.name = QStringLiteral("there"), .device = QStringLiteral("en9")});
+    const Rule rule = addRule({.name = u"there"_s, .device = u"en9"_s});
     const DeviceRecords before = table.devices();
-    evaluate(QStringLiteral("en9"), RuleChange::NetworkRule);
+    evaluate(u"en9"_s, RuleChange::NetworkRule);
     EXPECT_EQ(table.devices(), before);
     EXPECT_TRUE(rule.active());
     EXPECT_TRUE(helper.changes().isEmpty());
-    ASSERT_EQ(overviews.last().userInfo.keys(), QStringList{QStringLiteral("en9")});
+    ASSERT_EQ(overviews.last().userInfo.keys(), QStringList{u"en9"_s});
 }
 
 TEST_F(RuleEvaluationTest, ToleratesRecordsAndSettingsThatAreNone)
 {
-    addRule({.name = QStringLiteral("on")});
-    settings.set(keys::currentWiFiDict, QStringLiteral("text"));
+    addRule({.name = u"on"_s});
+    settings.set(keys::currentWiFiDict, u"text"_s);
     settings.set(keys::currentInterfaceDict, 7);
-    settings.set(keys::deviceDict, QVariantMap{{en0, QVariant(QStringLiteral("text"))}});
-    evaluate(QStringLiteral("all"), RuleChange::NetworkRule);
-    EXPECT_EQ(ruleInForce(en0), QStringLiteral("on"));
+    settings.set(keys::deviceDict, QVariantMap{{en0, QVariant(u"text"_s)}});
+    evaluate(u"all"_s, RuleChange::NetworkRule);
+    EXPECT_EQ(ruleInForce(en0), u"on"_s);
     EXPECT_TRUE(helper.changes().isEmpty()) << "nobody knows whether it is up";
-    settings.set(keys::deviceDict, QStringLiteral("text"));
-    evaluate(QStringLiteral("all"), RuleChange::NetworkRule);
+    settings.set(keys::deviceDict, u"text"_s);
+    evaluate(u"all"_s, RuleChange::NetworkRule);
     evaluate(en0, RuleChange::NetworkRule);
     evaluate(QString(), RuleChange::NetworkRule);
     EXPECT_TRUE(helper.changes().isEmpty());
@@ -293,11 +290,11 @@ TEST_F(RuleEvaluationTest, ToleratesRecordsAndSettingsThatAreNone)
 
 TEST_F(RuleEvaluationTest, ToleratesARuleThatHoldsNothing)
 {
-    const Rule empty(context().insertNewObject(QStringLiteral("Rule")));
-    const Rule bare(context().insertNewObject(QStringLiteral("Rule")));
+    const Rule empty(context().insertNewObject(u"Rule"_s));
+    const Rule bare(context().insertNewObject(u"Rule"_s));
     bare.setDevice(en0);
     bare.setEnabled(true);
-    evaluate(QStringLiteral("all"), RuleChange::NetworkRule);
+    evaluate(u"all"_s, RuleChange::NetworkRule);
     EXPECT_EQ(hasRule(en0), QVariant(1));
     EXPECT_TRUE(bare.active());
     EXPECT_TRUE(helper.changes().isEmpty()) << "no action is to do nothing";
@@ -305,12 +302,12 @@ TEST_F(RuleEvaluationTest, ToleratesARuleThatHoldsNothing)
     scheduler.runPending();
 }
 
-class RuleEvaluationAtLogin : public RuleMachine
+class RuleEvaluationAtLogin : public RuleFixture
 {
 protected:
     RuleEvaluationAtLogin()
     {
-        addRule({.name = QStringLiteral("login"),
+        addRule({.name = u"login"_s,
             .isLogin = true,
             .action = Rule::notChosen,
             .address = fixedAddress,
@@ -320,59 +317,58 @@ protected:
 
 TEST_F(RuleEvaluationAtLogin, OfAWiredInterfaceIsCarriedOutForALaunchAtLogin)
 {
-    evaluate(QStringLiteral("all"), RuleChange::LoginAndNetworkRule);
+    evaluate(u"all"_s, RuleChange::LoginAndNetworkRule);
     EXPECT_EQ(changesOf(en0), QStringList{fixedAddress});
 }
 
 TEST_F(RuleEvaluationAtLogin, IsNotCarriedOutOtherwise)
 {
-    evaluate(QStringLiteral("all"), RuleChange::NetworkRule);
-    EXPECT_EQ(loginRuleInForce(en0), QStringLiteral("login"));
+    evaluate(u"all"_s, RuleChange::NetworkRule);
+    EXPECT_EQ(loginRuleInForce(en0), u"login"_s);
     EXPECT_TRUE(helper.changes().isEmpty());
-    evaluate(QStringLiteral("all"), RuleChange::None);
+    evaluate(u"all"_s, RuleChange::None);
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
 TEST_F(RuleEvaluationAtLogin, GoesBeforeTheNetworkRule)
 {
-    addRule({.name = QStringLiteral("any")});
-    evaluate(QStringLiteral("all"), RuleChange::LoginAndNetworkRule);
-    EXPECT_EQ(changesOf(en0), (QStringList{fixedAddress, QStringLiteral("FE:02:03:04:05:06")}));
+    addRule({.name = u"any"_s});
+    evaluate(u"all"_s, RuleChange::LoginAndNetworkRule);
+    EXPECT_EQ(changesOf(en0), (QStringList{fixedAddress, u"FE:02:03:04:05:06"_s}));
 }
 
 TEST_F(RuleEvaluationAtLogin, WaitsForTheFirstEvaluationAlsoWhenTheNetworkChangesBefore)
 {
     giveLease(en0);
     networkEvent();
-    EXPECT_EQ(loginRuleInForce(en0), QStringLiteral("login"));
+    EXPECT_EQ(loginRuleInForce(en0), u"login"_s);
     EXPECT_TRUE(helper.changes().isEmpty());
 }
 
 TEST_F(RuleEvaluationAtLogin, IsCarriedOutWhetherTheInterfaceIsActiveOrNot)
 {
-    setRecord(en0, record::status, QStringLiteral("inactive"));
-    evaluate(QStringLiteral("all"), RuleChange::LoginAndNetworkRule);
+    setRecord(en0, record::status, u"inactive"_s);
+    evaluate(u"all"_s, RuleChange::LoginAndNetworkRule);
     EXPECT_EQ(changesOf(en0), QStringList{fixedAddress});
 }
 
 TEST_F(RuleEvaluationAtLogin, IsCarriedOutOnceThoughARuleIsSwitchedBeforeTheFirstEvaluation)
 {
-    const Rule any = addRule({.name = QStringLiteral("any"), .enabled = false});
+    const Rule any = addRule({.name = u"any"_s, .enabled = false});
     switches.updateEnabledWithID(true, any.objID());
     scheduler.runPending();
-    EXPECT_EQ(loginRuleInForce(en0), QStringLiteral("login"));
-    EXPECT_EQ(changesOf(en0), QStringList{QStringLiteral("FE:02:03:04:05:06")})
-        << "what was switched on, alone";
-    evaluate(QStringLiteral("all"), RuleChange::LoginAndNetworkRule);
+    EXPECT_EQ(loginRuleInForce(en0), u"login"_s);
+    EXPECT_EQ(changesOf(en0), QStringList{u"FE:02:03:04:05:06"_s}) << "what was switched on, alone";
+    evaluate(u"all"_s, RuleChange::LoginAndNetworkRule);
     EXPECT_EQ(changesOf(en0).count(fixedAddress), 1);
 }
 
 TEST_F(RuleEvaluationAtLogin, OfAWifiInterfaceIsNeverInForce)
 {
-    addRule({.name = QStringLiteral("wifi login"), .device = en1, .isLogin = true});
-    joinWifi(QStringLiteral("Home"), QStringLiteral("02:00:00:00:aa:01"));
+    addRule({.name = u"wifi login"_s, .device = en1, .isLogin = true});
+    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
     wifi.updateWiFiNetwork();
-    evaluate(QStringLiteral("all"), RuleChange::LoginAndNetworkRule);
+    evaluate(u"all"_s, RuleChange::LoginAndNetworkRule);
     EXPECT_EQ(loginRuleInForce(en1), QString());
     EXPECT_EQ(hasRule(en1), QVariant(0));
     EXPECT_TRUE(changesOf(en1).isEmpty());

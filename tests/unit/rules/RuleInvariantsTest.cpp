@@ -17,6 +17,8 @@
 #include <memory>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The names of the rules are collected when "updateNamesArray" is posted, and at no other time.
@@ -28,7 +30,7 @@ protected:
         QObject::connect(&store, &RecordStore::objectsDidChange, invariants.get(),
             [this](const ObjectsDidChange &change) { invariants->contextDidChange(change); });
         QObject::connect(invariants.get(), &RuleInvariants::rulesCorrected,
-            [this] { journal << QStringLiteral("table reloaded"); });
+            [this] { journal << u"table reloaded"_s; });
         for (const QString &name : {notifications::ruleTable, notifications::updateNamesArray}) {
             center.addObserver(name, [this](const NotificationCenter::Notification &posted) {
                 journal << posted.name;
@@ -59,10 +61,10 @@ protected:
         rules[index]->setValue(model::rule::name, name);
     }
 
-    const QString home = QStringLiteral("Home");
-    const QString office = QStringLiteral("Office");
-    const QStringList refreshed{QStringLiteral("table reloaded"), notifications::ruleTable,
-        notifications::updateNamesArray};
+    const QString home = u"Home"_s;
+    const QString office = u"Office"_s;
+    const QStringList refreshed{
+        u"table reloaded"_s, notifications::ruleTable, notifications::updateNamesArray};
     NotificationCenter center;
     test::FakeSettingsStore settings{scheduler};
     test::FakeNetworkHost host;
@@ -81,26 +83,26 @@ TEST_F(RuleInvariantsTest, ARuleRenamedToAnothersNameGetsAUniqueOne)
     haveRules({home, office});
     rename(0, office);
     endTurn();
-    EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Office (2)"));
+    EXPECT_EQ(nameOf(rules[0]), u"Office (2)"_s);
     EXPECT_EQ(nameOf(rules[1]), office);
     EXPECT_FALSE(context().save().has_value());
-    EXPECT_EQ(savedNames(), QStringList({QStringLiteral("Office (2)"), office}));
+    EXPECT_EQ(savedNames(), QStringList({u"Office (2)"_s, office}));
 }
 
 TEST_F(RuleInvariantsTest, AFreeNameStays)
 {
     haveRules({home, office});
-    rename(0, QStringLiteral("Garden"));
+    rename(0, u"Garden"_s);
     endTurn();
-    EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Garden"));
+    EXPECT_EQ(nameOf(rules[0]), u"Garden"_s);
 }
 
 TEST_F(RuleInvariantsTest, TheOldNameIsStillInTheListAndHarmsNobody)
 {
     haveRules({home});
-    rename(0, QStringLiteral("Home (2)"));
+    rename(0, u"Home (2)"_s);
     endTurn();
-    EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Home (2)"));
+    EXPECT_EQ(nameOf(rules[0]), u"Home (2)"_s);
     rename(0, home);
     endTurn();
     EXPECT_EQ(nameOf(rules[0]), home);
@@ -109,7 +111,7 @@ TEST_F(RuleInvariantsTest, TheOldNameIsStillInTheListAndHarmsNobody)
 TEST_F(RuleInvariantsTest, ARuleWhoseNameDidNotChangeIsNotTouched)
 {
     haveRules({home, office});
-    rules[0]->setValue(model::rule::device, QStringLiteral("en0"));
+    rules[0]->setValue(model::rule::device, u"en0"_s);
     endTurn();
     EXPECT_EQ(nameOf(rules[0]), home);
     rename(0, office);
@@ -141,12 +143,12 @@ TEST_F(RuleInvariantsTest, ANameTakenAwayStaysAway)
 TEST_F(RuleInvariantsTest, TwoRulesRenamedInOneTurnDoNotGetTheSameName)
 {
     haveRules({home, office});
-    rename(0, QStringLiteral("Garden"));
-    rename(1, QStringLiteral("Garden"));
+    rename(0, u"Garden"_s);
+    rename(1, u"Garden"_s);
     endTurn();
     QStringList now{nameOf(rules[0]), nameOf(rules[1])};
     now.sort();
-    EXPECT_EQ(now, QStringList({QStringLiteral("Garden"), QStringLiteral("Garden (2)")}));
+    EXPECT_EQ(now, QStringList({u"Garden"_s, u"Garden (2)"_s}));
 }
 
 TEST_F(RuleInvariantsTest, ADefinedSsidFlagIsWrittenAgain)
@@ -168,7 +170,7 @@ TEST_F(RuleInvariantsTest, ACorrectedRuleIsToldInALaterTurnAndInOrder)
     EXPECT_EQ(whileTold, QStringList()) << "not within the change itself";
     EXPECT_EQ(journal, refreshed);
     EXPECT_EQ(posters, QList<const void *>(2, invariants.get()));
-    EXPECT_EQ(queries.namesArray(), QStringList({QStringLiteral("Office (2)"), office}));
+    EXPECT_EQ(queries.namesArray(), QStringList({u"Office (2)"_s, office}));
 }
 
 TEST_F(RuleInvariantsTest, WhatIsPendingThenIsProcessedBeforeItIsTold)
@@ -181,7 +183,7 @@ TEST_F(RuleInvariantsTest, WhatIsPendingThenIsProcessedBeforeItIsTold)
         [&] { changesWhenTold = changes; });
     rename(0, office);
     // A later turn, but before the one in which the correction is told.
-    scheduler.onMain([this] { rules[1]->setValue(model::rule::device, QStringLiteral("en0")); });
+    scheduler.onMain([this] { rules[1]->setValue(model::rule::device, u"en0"_s); });
     context().processPendingChanges();
     endTurn();
     EXPECT_EQ(changesWhenTold, 2);
@@ -190,10 +192,10 @@ TEST_F(RuleInvariantsTest, WhatIsPendingThenIsProcessedBeforeItIsTold)
 TEST_F(RuleInvariantsTest, OtherChangesTellNobodyAnything)
 {
     haveRules({home});
-    rules[0]->setValue(model::rule::device, QStringLiteral("en0"));
+    rules[0]->setValue(model::rule::device, u"en0"_s);
     const auto record = context().insertNewObject(model::Connection);
     endTurn();
-    record->setValue(model::connection::notes, QStringLiteral("a note"));
+    record->setValue(model::connection::notes, u"a note"_s);
     endTurn();
     insertRule(office);
     endTurn();
@@ -225,7 +227,7 @@ protected:
 TEST_F(RuleInvariantsAfterAnother, AnInsertedHistoryRecordIsProcessedAtOnce)
 {
     answerFirstChangeWith([](const ObjectsDidChange &change) {
-        change.inserted.first()->setValue(model::connection::notes, QStringLiteral("seen"));
+        change.inserted.first()->setValue(model::connection::notes, u"seen"_s);
     });
     context().insertNewObject(model::Connection);
     context().processPendingChanges();
@@ -252,7 +254,7 @@ TEST_F(RuleInvariantsTest, UndoAndRedoOfARenameKeepNamesUnique)
     EXPECT_EQ(nameOf(rules[0]), home);
     context().undoManager().redo();
     endTurn();
-    EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Office (2)"));
+    EXPECT_EQ(nameOf(rules[0]), u"Office (2)"_s);
     EXPECT_EQ(nameOf(rules[1]), office);
 }
 
@@ -269,7 +271,7 @@ TEST_F(RuleInvariantsTest, WhileSuspendedNothingIsLookedAt)
     EXPECT_EQ(nameOf(rules[0]), office);
     EXPECT_EQ(journal, QStringList())
         << "the last change was processed before the suspension ended";
-    rules[1]->setValue(model::rule::device, QStringLiteral("en0"));
+    rules[1]->setValue(model::rule::device, u"en0"_s);
     endTurn();
     EXPECT_EQ(journal, refreshed) << "looked at again";
 }
@@ -280,7 +282,7 @@ TEST_F(RuleInvariantsTest, WhatChangedBeforeASuspensionIsStillLookedAt)
     rename(0, office);
     {
         const RuleInvariants::Suspension suspension(*invariants);
-        EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Office (2)"));
+        EXPECT_EQ(nameOf(rules[0]), u"Office (2)"_s);
     }
     endTurn();
     EXPECT_EQ(journal, refreshed);
@@ -319,7 +321,7 @@ TEST_F(RuleInvariantsTest, TheNewContextIsLookedAtAfterAReplacement)
     rules = fetched.value();
     rename(0, office);
     endTurn();
-    EXPECT_EQ(nameOf(rules[0]), QStringLiteral("Office (2)"));
+    EXPECT_EQ(nameOf(rules[0]), u"Office (2)"_s);
     EXPECT_EQ(journal, refreshed);
 }
 

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(TimerFormatterTest, TakesUpToThreeDigits)
@@ -23,9 +25,9 @@ TEST(TimerFormatterTest, RefusesAFourthDigitAndEverythingElse)
 
 TEST(TimerFormatterTest, RefusesTheDigitsOfOtherScripts)
 {
-    EXPECT_FALSE(TimerFormatter().isPartialStringValid(QStringLiteral("\u0663")));
-    EXPECT_FALSE(TimerFormatter().isPartialStringValid(QStringLiteral("\uFF11")));
-    EXPECT_FALSE(TimerFormatter().isPartialStringValid(QStringLiteral("\u00B2")));
+    EXPECT_FALSE(TimerFormatter().isPartialStringValid(u"\u0663"_s));
+    EXPECT_FALSE(TimerFormatter().isPartialStringValid(u"\uFF11"_s));
+    EXPECT_FALSE(TimerFormatter().isPartialStringValid(u"\u00B2"_s));
 }
 
 TEST(TimerFormatterTest, RefusesAnEmbeddedNull)

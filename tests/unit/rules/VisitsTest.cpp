@@ -5,13 +5,14 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString en0 = QStringLiteral("en0");
-const QString en1 = QStringLiteral("en1");
-const Visits::Act home{
-    {{QStringLiteral("address"), QStringLiteral("Random Address")}}, QStringLiteral("Home")};
-const Visits::Act office{home.rule, QStringLiteral("Office")};
+const QString en0 = u"en0"_s;
+const QString en1 = u"en1"_s;
+const Visits::Act home{{{u"address"_s, u"Random Address"_s}}, u"Home"_s};
+const Visits::Act office{home.rule, u"Office"_s};
 
 class VisitsTest : public ::testing::Test
 {
@@ -35,7 +36,7 @@ TEST_F(VisitsTest, IsRememberedForItsDeviceRuleAndNetwork)
     EXPECT_TRUE(rules.isCarriedOut(en0, home));
     EXPECT_FALSE(rules.isCarriedOut(en1, home));
     EXPECT_FALSE(rules.isCarriedOut(en0, office));
-    EXPECT_FALSE(rules.isCarriedOut(en0, {{}, QStringLiteral("Home")}));
+    EXPECT_FALSE(rules.isCarriedOut(en0, {{}, u"Home"_s}));
     EXPECT_EQ(rules.devices(), QStringList{en0});
 }
 

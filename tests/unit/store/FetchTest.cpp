@@ -6,6 +6,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 class Fetch : public RecordsTest
 {
 protected:
@@ -21,31 +23,32 @@ protected:
     QString errorOf(const FetchRequest &request)
     {
         const auto result = context().fetch(request);
-        return result ? QStringLiteral("(no error)") : result.error().message;
+        return result ? u"(no error)"_s : result.error().message;
     }
 };
 
 TEST_F(Fetch, ComesInTheOrderOfCreationWithUnsavedRecordsLast)
 {
-    rule("b"_s);
-    rule("a"_s);
+    rule(u"b"_s);
+    rule(u"a"_s);
     save();
-    rule("d"_s);
-    rule("c"_s);
-    EXPECT_EQ(names(), QStringList({"b"_s, "a"_s, "d"_s, "c"_s}));
+    rule(u"d"_s);
+    rule(u"c"_s);
+    EXPECT_EQ(names(), QStringList({u"b"_s, u"a"_s, u"d"_s, u"c"_s}));
     save();
-    EXPECT_EQ(names(), QStringList({"b"_s, "a"_s, "d"_s, "c"_s}));
+    EXPECT_EQ(names(), QStringList({u"b"_s, u"a"_s, u"d"_s, u"c"_s}));
     quit();
-    EXPECT_EQ(names(), QStringList({"b"_s, "a"_s, "d"_s, "c"_s}));
+    EXPECT_EQ(names(), QStringList({u"b"_s, u"a"_s, u"d"_s, u"c"_s}));
 }
 
 TEST_F(Fetch, SortsTextsByCodePointsAndNothingFirst)
 {
-    for (const QString &name : {"b"_s, "\U0001F600"_s, "B"_s, "\uFFFD"_s, ""_s, "é"_s}) {
+    for (const QString &name : {u"b"_s, u"\U0001F600"_s, u"B"_s, u"\uFFFD"_s, u""_s, u"é"_s}) {
         rule(name);
     }
     context().insertNewObject(model::Rule);
-    const QStringList ascending{QString(), ""_s, "B"_s, "b"_s, "é"_s, "\uFFFD"_s, "\U0001F600"_s};
+    const QStringList ascending{
+        QString(), u""_s, u"B"_s, u"b"_s, u"é"_s, u"\uFFFD"_s, u"\U0001F600"_s};
     EXPECT_EQ(names(ordered({{model::rule::name, true}})), ascending);
     save();
     EXPECT_EQ(names(ordered({{model::rule::name, true}})), ascending);
@@ -55,89 +58,89 @@ TEST_F(Fetch, SortsTextsByCodePointsAndNothingFirst)
 
 TEST_F(Fetch, EqualRecordsKeepTheOrderOfCreation)
 {
-    for (const QString &name : {"c"_s, "a"_s, "b"_s}) {
+    for (const QString &name : {u"c"_s, u"a"_s, u"b"_s}) {
         rule(name)->setValue(model::rule::timerMins, 5);
     }
-    rule("first"_s)->setValue(model::rule::timerMins, 4);
+    rule(u"first"_s)->setValue(model::rule::timerMins, 4);
     const QList<SortDescriptor> byMinutes{{model::rule::timerMins, true}};
-    EXPECT_EQ(names(ordered(byMinutes)), QStringList({"first"_s, "c"_s, "a"_s, "b"_s}));
+    EXPECT_EQ(names(ordered(byMinutes)), QStringList({u"first"_s, u"c"_s, u"a"_s, u"b"_s}));
     save();
-    EXPECT_EQ(names(ordered(byMinutes)), QStringList({"first"_s, "c"_s, "a"_s, "b"_s}));
+    EXPECT_EQ(names(ordered(byMinutes)), QStringList({u"first"_s, u"c"_s, u"a"_s, u"b"_s}));
     EXPECT_EQ(names(ordered({{model::rule::timerMins, false}, {model::rule::name, false}})),
-        QStringList({"c"_s, "b"_s, "a"_s, "first"_s}));
+        QStringList({u"c"_s, u"b"_s, u"a"_s, u"first"_s}));
 }
 
 TEST_F(Fetch, SeesUnsavedChangesOverTheFile)
 {
-    const auto home = rule("Home"_s);
-    const auto cafe = rule("Cafe"_s);
+    const auto home = rule(u"Home"_s);
+    const auto cafe = rule(u"Cafe"_s);
     save();
-    home->setValue(model::rule::name, "House"_s);
+    home->setValue(model::rule::name, u"House"_s);
     context().deleteObject(cafe);
-    rule("Office"_s);
-    EXPECT_EQ(names(where(named("Home"_s))), QStringList());
-    EXPECT_EQ(names(where(named("House"_s))), QStringList("House"_s));
-    EXPECT_EQ(names(where(named("Cafe"_s))), QStringList());
-    EXPECT_EQ(names(where(named("Office"_s))), QStringList("Office"_s));
-    EXPECT_EQ(names(), QStringList({"House"_s, "Office"_s}));
-    EXPECT_EQ(names(ordered({{model::rule::name, false}})), QStringList({"Office"_s, "House"_s}));
+    rule(u"Office"_s);
+    EXPECT_EQ(names(where(named(u"Home"_s))), QStringList());
+    EXPECT_EQ(names(where(named(u"House"_s))), QStringList(u"House"_s));
+    EXPECT_EQ(names(where(named(u"Cafe"_s))), QStringList());
+    EXPECT_EQ(names(where(named(u"Office"_s))), QStringList(u"Office"_s));
+    EXPECT_EQ(names(), QStringList({u"House"_s, u"Office"_s}));
+    EXPECT_EQ(names(ordered({{model::rule::name, false}})), QStringList({u"Office"_s, u"House"_s}));
 }
 
 TEST_F(Fetch, AChangedRecordTakesItsPlaceInTheOrder)
 {
     ManagedObjectList rules;
-    for (const QString &name : {"b"_s, "d"_s, "f"_s, "h"_s}) {
+    for (const QString &name : {u"b"_s, u"d"_s, u"f"_s, u"h"_s}) {
         rules << rule(name);
     }
     save();
-    rules[3]->setValue(model::rule::name, "a"_s);
-    rules[0]->setValue(model::rule::name, "e"_s);
-    rule("g"_s);
+    rules[3]->setValue(model::rule::name, u"a"_s);
+    rules[0]->setValue(model::rule::name, u"e"_s);
+    rule(u"g"_s);
     EXPECT_EQ(names(ordered({{model::rule::name, true}})),
-        QStringList({"a"_s, "d"_s, "e"_s, "f"_s, "g"_s}));
+        QStringList({u"a"_s, u"d"_s, u"e"_s, u"f"_s, u"g"_s}));
     EXPECT_EQ(names(ordered({{model::rule::name, false}})),
-        QStringList({"g"_s, "f"_s, "e"_s, "d"_s, "a"_s}));
-    EXPECT_EQ(names(), QStringList({"e"_s, "d"_s, "f"_s, "a"_s, "g"_s}));
+        QStringList({u"g"_s, u"f"_s, u"e"_s, u"d"_s, u"a"_s}));
+    EXPECT_EQ(names(), QStringList({u"e"_s, u"d"_s, u"f"_s, u"a"_s, u"g"_s}));
 }
 
 TEST_F(Fetch, GivesTheSameObjectForTheSameRecord)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
     quit();
     const auto once = context().fetch({model::Rule, {}, {}}).value();
-    const auto again = context().fetch(where(named("Home"_s))).value();
+    const auto again = context().fetch(where(named(u"Home"_s))).value();
     EXPECT_EQ(once, again);
     EXPECT_EQ(context().objectWithURI(once[0]->uriRepresentation()), once[0]);
 }
 
 TEST_F(Fetch, OfAnEntityThatTheModelDoesNotHaveIsAnError)
 {
-    EXPECT_EQ(errorOf({"History"_s, {}, {}}), "There is no entity named \"History\"."_s);
-    EXPECT_EQ(context().fetch({"History"_s, {}, {}}).error().code,
+    EXPECT_EQ(errorOf({u"History"_s, {}, {}}), u"There is no entity named \"History\"."_s);
+    EXPECT_EQ(context().fetch({u"History"_s, {}, {}}).error().code,
         static_cast<int>(RecordFileError::UnknownName));
 }
 
 TEST_F(Fetch, ByAnAttributeThatTheEntityDoesNotHaveIsAnError)
 {
-    const QString expected = "The entity \"Rule\" has no attribute \"bssid\"."_s;
-    EXPECT_EQ(errorOf(where(Predicate::equal("bssid"_s, "x"_s))), expected);
-    EXPECT_EQ(errorOf(where(Predicate::any({Predicate::contains("bssid"_s, "x"_s)}))), expected);
-    EXPECT_EQ(errorOf(ordered({{"bssid"_s, true}})), expected);
+    const QString expected = u"The entity \"Rule\" has no attribute \"bssid\"."_s;
+    EXPECT_EQ(errorOf(where(Predicate::equal(u"bssid"_s, u"x"_s))), expected);
+    EXPECT_EQ(errorOf(where(Predicate::any({Predicate::contains(u"bssid"_s, u"x"_s)}))), expected);
+    EXPECT_EQ(errorOf(ordered({{u"bssid"_s, true}})), expected);
 }
 
 TEST_F(Fetch, NoTextBecomesSql)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
     for (const QString &text :
-        {"' OR 1=1 --"_s, "\" OR 1=1 --"_s, "?"_s, "x'); DROP TABLE Rule;"_s}) {
+        {u"' OR 1=1 --"_s, u"\" OR 1=1 --"_s, u"?"_s, u"x'); DROP TABLE Rule;"_s}) {
         EXPECT_EQ(names(where(named(text))), QStringList());
         EXPECT_EQ(names(where(Predicate::beginsWith(model::rule::name, text))), QStringList());
-        EXPECT_NE(errorOf(where(Predicate::equal(text, text))), "(no error)"_s);
-        EXPECT_NE(errorOf(ordered({{text, true}})), "(no error)"_s);
+        EXPECT_NE(errorOf(where(Predicate::equal(text, text))), u"(no error)"_s);
+        EXPECT_NE(errorOf(ordered({{text, true}})), u"(no error)"_s);
     }
-    EXPECT_EQ(names(), QStringList("Home"_s));
+    EXPECT_EQ(names(), QStringList(u"Home"_s));
 }
 
 // MARK: lazily
@@ -174,11 +177,11 @@ TEST_F(FetchLazily, KnowsItsLengthAndReadsOnlyThePagesAskedFor)
     const FetchedRecords records = lazily();
     EXPECT_EQ(records.size(), all);
     const auto first = records.at(0);
-    EXPECT_EQ(nameOf(first), "0"_s);
+    EXPECT_EQ(nameOf(first), u"0"_s);
     sql("UPDATE Rule SET name = 'renamed'"); // shows who has looked at it, and who has not yet
-    EXPECT_EQ(nameOf(records.at(99)), "99"_s) << "read with the first page";
-    EXPECT_EQ(nameOf(records.at(100)), "renamed"_s) << "not read before it was asked for";
-    EXPECT_EQ(nameOf(records.at(all - 1)), "renamed"_s);
+    EXPECT_EQ(nameOf(records.at(99)), u"99"_s) << "read with the first page";
+    EXPECT_EQ(nameOf(records.at(100)), u"renamed"_s) << "not read before it was asked for";
+    EXPECT_EQ(nameOf(records.at(all - 1)), u"renamed"_s);
     EXPECT_EQ(records.at(all), nullptr);
     EXPECT_EQ(records.at(-1), nullptr);
 }
@@ -193,7 +196,7 @@ TEST_F(FetchLazily, ForgetsPagesNotUsedForAWhile)
         EXPECT_EQ(nameOf(records.at(index)), QString::number(index));
     }
     EXPECT_TRUE(first.expired());
-    EXPECT_EQ(nameOf(records.at(0)), "0"_s);
+    EXPECT_EQ(nameOf(records.at(0)), u"0"_s);
 }
 
 TEST_F(FetchLazily, KeepsThePageThatIsUsed)
@@ -212,10 +215,10 @@ TEST_F(FetchLazily, IsAPictureOfItsMomentInWhichChangesShow)
 {
     fill(3);
     const FetchedRecords records = lazily();
-    rule("later"_s);
+    rule(u"later"_s);
     EXPECT_EQ(records.size(), 3);
-    records.at(1)->setValue(model::rule::name, "changed"_s);
-    EXPECT_EQ(nameOf(records.at(1)), "changed"_s);
+    records.at(1)->setValue(model::rule::name, u"changed"_s);
+    EXPECT_EQ(nameOf(records.at(1)), u"changed"_s);
     context().deleteObject(records.at(2));
     EXPECT_EQ(records.at(2), nullptr);
     save();
@@ -227,15 +230,15 @@ TEST_F(FetchLazily, HoldsUnsavedRecordsInTheirPlaces)
 {
     fill(300);
     const auto changed = lazily().at(250);
-    changed->setValue(model::rule::name, "0999"_s);
-    const auto added = rule("0998"_s);
+    changed->setValue(model::rule::name, u"0999"_s);
+    const auto added = rule(u"0998"_s);
     const FetchedRecords records = lazily(ordered({{model::rule::name, true}}));
     EXPECT_EQ(records.size(), 301);
-    EXPECT_EQ(nameOf(records.at(0)), "0"_s);
+    EXPECT_EQ(nameOf(records.at(0)), u"0"_s);
     EXPECT_EQ(records.at(1), added);
     EXPECT_EQ(records.at(2), changed);
-    EXPECT_EQ(nameOf(records.at(3)), "1"_s);
-    EXPECT_EQ(nameOf(records.at(300)), "99"_s);
+    EXPECT_EQ(nameOf(records.at(3)), u"1"_s);
+    EXPECT_EQ(nameOf(records.at(300)), u"99"_s);
     save();
     EXPECT_EQ(records.at(1), added);
 }

@@ -7,13 +7,15 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 /// Another program has the file open, too.
 class Merging : public RecordsTest
 {
 protected:
     void SetUp() override
     {
-        home = rule("Home"_s);
+        home = rule(u"Home"_s);
         save();
         other = another();
         theirs = other->context().objectWithURI(home->uriRepresentation());
@@ -31,33 +33,33 @@ protected:
 
 TEST_F(Merging, OurChangedAttributesWinAndTheirOthersAreTakenOver)
 {
-    theirs->setValue(model::rule::name, "Theirs"_s);
-    theirs->setValue(model::rule::device, "eth9"_s);
+    theirs->setValue(model::rule::name, u"Theirs"_s);
+    theirs->setValue(model::rule::device, u"eth9"_s);
     theySave();
-    home->setValue(model::rule::name, "Ours"_s);
+    home->setValue(model::rule::name, u"Ours"_s);
     save();
-    EXPECT_EQ(nameOf(home), "Ours"_s);
-    EXPECT_EQ(home->value(model::rule::device), "eth9"_s);
+    EXPECT_EQ(nameOf(home), u"Ours"_s);
+    EXPECT_EQ(home->value(model::rule::device), u"eth9"_s);
     EXPECT_FALSE(home->hasChanges());
     EXPECT_EQ(merged, 1);
     const auto third = another();
     const auto inFile = third->context().objectWithURI(home->uriRepresentation());
     ASSERT_TRUE(inFile);
-    EXPECT_EQ(nameOf(inFile), "Ours"_s);
-    EXPECT_EQ(inFile->value(model::rule::device), "eth9"_s);
+    EXPECT_EQ(nameOf(inFile), u"Ours"_s);
+    EXPECT_EQ(inFile->value(model::rule::device), u"eth9"_s);
 }
 
 TEST_F(Merging, OnDemandTakesOverWhatIsNotChangedHere)
 {
-    theirs->setValue(model::rule::name, "Theirs"_s);
-    theirs->setValue(model::rule::device, "eth9"_s);
+    theirs->setValue(model::rule::name, u"Theirs"_s);
+    theirs->setValue(model::rule::device, u"eth9"_s);
     theySave();
-    home->setValue(model::rule::name, "Ours"_s);
+    home->setValue(model::rule::name, u"Ours"_s);
     EXPECT_FALSE(home->value(model::rule::device).isValid());
     context().mergeChangesFromStore();
     EXPECT_EQ(merged, 1);
-    EXPECT_EQ(nameOf(home), "Ours"_s);
-    EXPECT_EQ(home->value(model::rule::device), "eth9"_s);
+    EXPECT_EQ(nameOf(home), u"Ours"_s);
+    EXPECT_EQ(home->value(model::rule::device), u"eth9"_s);
     EXPECT_TRUE(home->hasChanges());
     save();
     EXPECT_EQ(merged, 1) << "nobody else wrote since the merge";
@@ -65,7 +67,7 @@ TEST_F(Merging, OnDemandTakesOverWhatIsNotChangedHere)
 
 TEST_F(Merging, OfWhatTheyWroteIsNotOurEdit)
 {
-    theirs->setValue(model::rule::name, "Theirs"_s);
+    theirs->setValue(model::rule::name, u"Theirs"_s);
     theySave();
     int told = 0;
     QObject::connect(
@@ -73,7 +75,7 @@ TEST_F(Merging, OfWhatTheyWroteIsNotOurEdit)
     const int steps = context().undoManager().count();
     context().mergeChangesFromStore();
     endTurn();
-    EXPECT_EQ(nameOf(home), "Theirs"_s);
+    EXPECT_EQ(nameOf(home), u"Theirs"_s);
     EXPECT_EQ(told, 0);
     EXPECT_EQ(context().undoManager().count(), steps);
     EXPECT_FALSE(context().hasChanges());
@@ -91,7 +93,7 @@ TEST_F(Merging, ARecordThatTheyDeletedGoesHereToo)
 
 TEST_F(Merging, ARecordThatTheyDeletedAndWeChangedComesBackWhole)
 {
-    home->setValue(model::rule::device, "eth0"_s);
+    home->setValue(model::rule::device, u"eth0"_s);
     other->context().deleteObject(theirs);
     theySave();
     save();
@@ -99,19 +101,19 @@ TEST_F(Merging, ARecordThatTheyDeletedAndWeChangedComesBackWhole)
     const auto third = another();
     const auto inFile = third->context().objectWithURI(home->uriRepresentation());
     ASSERT_TRUE(inFile);
-    EXPECT_EQ(nameOf(inFile), "Home"_s);
-    EXPECT_EQ(inFile->value(model::rule::device), "eth0"_s);
+    EXPECT_EQ(nameOf(inFile), u"Home"_s);
+    EXPECT_EQ(inFile->value(model::rule::device), u"eth0"_s);
 }
 
 TEST_F(Merging, ARecordThatTheyDeletedBeforeTheMergeAndWeChangedComesBackWhole)
 {
-    home->setValue(model::rule::device, "eth0"_s);
+    home->setValue(model::rule::device, u"eth0"_s);
     other->context().deleteObject(theirs);
     theySave();
     context().mergeChangesFromStore();
     EXPECT_TRUE(home->isInserted());
     save();
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
 }
 
 TEST_F(Merging, WhatBothDeletedIsGoneOnce)
@@ -142,7 +144,7 @@ TEST_F(Merging, WhatBothBroughtBackIsThereOnce)
     context().mergeChangesFromStore();
     other->context().undoManager().undo();
     theySave();
-    EXPECT_EQ(names(), QStringList("Home"_s)) << "it comes back to whoever still holds it";
+    EXPECT_EQ(names(), QStringList(u"Home"_s)) << "it comes back to whoever still holds it";
     EXPECT_FALSE(home->isDeleted());
     context().deleteObject(home);
     save();
@@ -150,14 +152,14 @@ TEST_F(Merging, WhatBothBroughtBackIsThereOnce)
     {
         // Theirs comes back to the file between our undo and our save.
         SQLite::Database file(path.toStdString(), SQLite::OPEN_READWRITE);
-        const QString id = home->uriRepresentation().section(QLatin1Char('/'), -1);
+        const QString id = home->uriRepresentation().section(u'/', -1);
         file.exec("INSERT INTO Rule (pk, uuid, name) VALUES (1, x'" +
                   id.toStdString().erase(23, 1).erase(18, 1).erase(13, 1).erase(8, 1) +
                   "', 'Theirs')");
     }
-    EXPECT_EQ(names(), QStringList("Home"_s));
+    EXPECT_EQ(names(), QStringList(u"Home"_s));
     save();
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
 }
 
 TEST_F(Merging, WhatCouldNotBeReadIsReadAtTheNextSave)
@@ -171,12 +173,12 @@ TEST_F(Merging, WhatCouldNotBeReadIsReadAtTheNextSave)
     }
     const LogCapture log;
     for (int attempt = 0; attempt < 2; ++attempt) {
-        home->setValue(model::rule::name, "Ours"_s + QString::number(attempt));
+        home->setValue(model::rule::name, u"Ours"_s + QString::number(attempt));
         save();
         const QStringList lines = LogCapture::taken();
         ASSERT_EQ(lines.size(), 1) << "attempt " << attempt;
         EXPECT_TRUE(lines.first().startsWith(
-            "quillon.records: Changes of other programs cannot be read: "_s));
+            u"quillon.records: Changes of other programs cannot be read: "_s));
     }
     EXPECT_EQ(merged, 0);
     {
@@ -185,8 +187,8 @@ TEST_F(Merging, WhatCouldNotBeReadIsReadAtTheNextSave)
     }
     context().mergeChangesFromStore();
     EXPECT_EQ(merged, 1);
-    EXPECT_EQ(record->value(model::connection::ssid), "Theirs"_s);
-    home->setValue(model::rule::name, "Ours"_s);
+    EXPECT_EQ(record->value(model::connection::ssid), u"Theirs"_s);
+    home->setValue(model::rule::name, u"Ours"_s);
     save();
     EXPECT_EQ(merged, 1) << "nobody else wrote since the merge";
 }
@@ -199,12 +201,12 @@ TEST_F(Merging, ManyRecordsAreTakenOver)
     }
     save();
     for (const auto &object : other->context().fetch({model::Rule, {}, {}}).value()) {
-        object->setValue(model::rule::name, nameOf(object) + "!"_s);
+        object->setValue(model::rule::name, nameOf(object) + u"!"_s);
     }
     theySave();
     context().mergeChangesFromStore();
     for (int number = 0; number < 250; ++number) {
-        EXPECT_EQ(nameOf(rules[number]), QString::number(number) + "!"_s);
+        EXPECT_EQ(nameOf(rules[number]), QString::number(number) + u"!"_s);
     }
 }
 

@@ -9,6 +9,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Values that have gone wrong somewhere once, and mixtures of them. The seed is fixed: a failure
@@ -25,14 +27,10 @@ public:
 
     QString text()
     {
-        static const QStringList pieces{QString(), QString(QChar(u'\0')), QStringLiteral("'"),
-            QStringLiteral("\""), QStringLiteral("%"), QStringLiteral("_"), QStringLiteral("\\"),
-            QStringLiteral("é"), QStringLiteral("e\u0301"), QStringLiteral("E"),
-            QStringLiteral("e"), QStringLiteral("ß"), QStringLiteral("ss"), QStringLiteral("İ"),
-            QStringLiteral("i"), QStringLiteral("\U0001F600"), QStringLiteral("\U0001F601"),
-            QString(QChar(0xD83D)), QString(QChar(0xDE00)), QStringLiteral("\uFFFD"),
-            QStringLiteral("\u0345"), QStringLiteral("Σ"), QStringLiteral("ς"),
-            QStringLiteral(" ")};
+        static const QStringList pieces{QString(), QString(QChar(u'\0')), u"'"_s, u"\""_s, u"%"_s,
+            u"_"_s, u"\\"_s, u"é"_s, u"e\u0301"_s, u"E"_s, u"e"_s, u"ß"_s, u"ss"_s, u"İ"_s, u"i"_s,
+            u"\U0001F600"_s, u"\U0001F601"_s, QString(QChar(0xD83D)), QString(QChar(0xDE00)),
+            u"\uFFFD"_s, u"\u0345"_s, u"Σ"_s, u"ς"_s, u" "_s};
         QString made;
         for (int count = below(4); count > 0; --count) {
             made += pieces[below(static_cast<int>(pieces.size()))];

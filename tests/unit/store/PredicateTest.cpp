@@ -7,10 +7,12 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString ssid = QStringLiteral("ssid");
-const QString device = QStringLiteral("device");
+const QString ssid = u"ssid"_s;
+const QString device = u"device"_s;
 
 } // namespace
 
@@ -30,7 +32,7 @@ protected:
         const bool whileNew = isFound();
         save();
         EXPECT_EQ(isFound(), whileNew) << "saved: " << format(predicate).toStdString();
-        record->setValue(model::rule::vendor, QStringLiteral("another"));
+        record->setValue(model::rule::vendor, u"another"_s);
         EXPECT_EQ(isFound(), whileNew) << "changed: " << format(predicate).toStdString();
         return whileNew;
     }
@@ -38,10 +40,10 @@ protected:
 
 TEST_F(PredicateTest, EqualComparesTextsExactly)
 {
-    const Predicate isHome = Predicate::equal(ssid, QStringLiteral("Home"));
-    EXPECT_TRUE(holds(isHome, {{ssid, QStringLiteral("Home")}}));
-    EXPECT_FALSE(holds(isHome, {{ssid, QStringLiteral("home")}}));
-    EXPECT_FALSE(holds(isHome, {{ssid, QStringLiteral("Home ")}}));
+    const Predicate isHome = Predicate::equal(ssid, u"Home"_s);
+    EXPECT_TRUE(holds(isHome, {{ssid, u"Home"_s}}));
+    EXPECT_FALSE(holds(isHome, {{ssid, u"home"_s}}));
+    EXPECT_FALSE(holds(isHome, {{ssid, u"Home "_s}}));
 }
 
 TEST_F(PredicateTest, ABooleanEqualsTheNumberThatItIsStoredAs)
@@ -57,9 +59,9 @@ TEST_F(PredicateTest, ABooleanEqualsTheNumberThatItIsStoredAs)
 TEST_F(PredicateTest, ANumberIsNotTheTextThatShowsIt)
 {
     const QString minutes = model::rule::timerMins;
-    EXPECT_FALSE(holds(Predicate::equal(device, 1), {{device, QStringLiteral("1")}}));
-    EXPECT_FALSE(holds(Predicate::equal(minutes, QStringLiteral("1")), {{minutes, 1}}));
-    EXPECT_FALSE(holds(Predicate::contains(minutes, QStringLiteral("1")), {{minutes, 1}}));
+    EXPECT_FALSE(holds(Predicate::equal(device, 1), {{device, u"1"_s}}));
+    EXPECT_FALSE(holds(Predicate::equal(minutes, u"1"_s), {{minutes, 1}}));
+    EXPECT_FALSE(holds(Predicate::contains(minutes, u"1"_s), {{minutes, 1}}));
 }
 
 TEST_F(PredicateTest, WhatHoldsNothingSatisfiesNoComparison)
@@ -73,20 +75,19 @@ TEST_F(PredicateTest, WhatHoldsNothingSatisfiesNoComparison)
 
 TEST_F(PredicateTest, ContainsDistinguishesCapitals)
 {
-    const QVariantMap record{{ssid, QStringLiteral("Café Central")}};
-    EXPECT_TRUE(holds(Predicate::contains(ssid, QStringLiteral("Cent")), record));
-    EXPECT_FALSE(holds(Predicate::contains(ssid, QStringLiteral("cent")), record));
-    EXPECT_FALSE(holds(Predicate::contains(ssid, QStringLiteral("Cafe")), record));
+    const QVariantMap record{{ssid, u"Café Central"_s}};
+    EXPECT_TRUE(holds(Predicate::contains(ssid, u"Cent"_s), record));
+    EXPECT_FALSE(holds(Predicate::contains(ssid, u"cent"_s), record));
+    EXPECT_FALSE(holds(Predicate::contains(ssid, u"Cafe"_s), record));
 }
 
 TEST_F(PredicateTest, BeginsWithIgnoresCaseAndDiacritics)
 {
-    const QVariantMap record{{ssid, QStringLiteral("Éclair Ünlimited")}};
-    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, QStringLiteral("eCL")), record));
-    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, QStringLiteral("E\u0301clair u")), record));
-    EXPECT_FALSE(holds(Predicate::beginsWith(ssid, QStringLiteral("clair")), record));
-    EXPECT_TRUE(
-        holds(Predicate::beginsWith(ssid, QStringLiteral("ΌΣ")), {{ssid, QStringLiteral("ος")}}));
+    const QVariantMap record{{ssid, u"Éclair Ünlimited"_s}};
+    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"eCL"_s), record));
+    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"E\u0301clair u"_s), record));
+    EXPECT_FALSE(holds(Predicate::beginsWith(ssid, u"clair"_s), record));
+    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"ΌΣ"_s), {{ssid, u"ος"_s}}));
 }
 
 TEST_F(PredicateTest, OfNoPartsAllIsTrueAndAnyIsFalse)
@@ -97,53 +98,45 @@ TEST_F(PredicateTest, OfNoPartsAllIsTrueAndAnyIsFalse)
 
 TEST_F(PredicateTest, PartsCombine)
 {
-    const auto isHome = Predicate::equal(ssid, QStringLiteral("Home"));
-    const auto isWired = Predicate::equal(device, QStringLiteral("eth0"));
-    const QVariantMap wiredOffice{
-        {ssid, QStringLiteral("Office")}, {device, QStringLiteral("eth0")}};
+    const auto isHome = Predicate::equal(ssid, u"Home"_s);
+    const auto isWired = Predicate::equal(device, u"eth0"_s);
+    const QVariantMap wiredOffice{{ssid, u"Office"_s}, {device, u"eth0"_s}};
     EXPECT_TRUE(holds(Predicate::any({isHome, isWired}), wiredOffice));
     EXPECT_FALSE(holds(Predicate::all({isHome, isWired}), wiredOffice));
 }
 
 TEST(PredicateFormat, IsTheUsualNotation)
 {
-    EXPECT_EQ(
-        format(Predicate::equal(device, QStringLiteral("en0"))), QStringLiteral("device == 'en0'"));
-    EXPECT_EQ(format(Predicate::equal(QStringLiteral("isLogin"), true)),
-        QStringLiteral("isLogin == YES"));
-    EXPECT_EQ(format(Predicate::equal(QStringLiteral("isLogin"), false)),
-        QStringLiteral("isLogin == NO"));
-    EXPECT_EQ(format(Predicate::equal(QStringLiteral("timerMins"), 30)),
-        QStringLiteral("timerMins == 30"));
-    EXPECT_EQ(format(Predicate::equal(device, QVariant())), QStringLiteral("device == nil"));
-    EXPECT_EQ(format(Predicate::contains(ssid, QStringLiteral("ome"))),
-        QStringLiteral("ssid CONTAINS 'ome'"));
-    EXPECT_EQ(format(Predicate::beginsWith(ssid, QStringLiteral("ho"))),
-        QStringLiteral("ssid BEGINSWITH[cd] 'ho'"));
-    EXPECT_EQ(format(Predicate::equal(QStringLiteral("date"),
-                  QDateTime::fromMSecsSinceEpoch(1'750'000'000'125, Qt::UTC))),
-        QStringLiteral("date == 2025-06-15T15:06:40.125Z"));
+    EXPECT_EQ(format(Predicate::equal(device, u"en0"_s)), u"device == 'en0'"_s);
+    EXPECT_EQ(format(Predicate::equal(u"isLogin"_s, true)), u"isLogin == YES"_s);
+    EXPECT_EQ(format(Predicate::equal(u"isLogin"_s, false)), u"isLogin == NO"_s);
+    EXPECT_EQ(format(Predicate::equal(u"timerMins"_s, 30)), u"timerMins == 30"_s);
+    EXPECT_EQ(format(Predicate::equal(device, QVariant())), u"device == nil"_s);
+    EXPECT_EQ(format(Predicate::contains(ssid, u"ome"_s)), u"ssid CONTAINS 'ome'"_s);
+    EXPECT_EQ(format(Predicate::beginsWith(ssid, u"ho"_s)), u"ssid BEGINSWITH[cd] 'ho'"_s);
+    EXPECT_EQ(format(Predicate::equal(
+                  u"date"_s, QDateTime::fromMSecsSinceEpoch(1'750'000'000'125, Qt::UTC))),
+        u"date == 2025-06-15T15:06:40.125Z"_s);
 }
 
 TEST(PredicateFormat, PutsPartsIntoParentheses)
 {
-    const QString network = QStringLiteral("network");
-    const auto either = Predicate::any({Predicate::equal(network, QStringLiteral("aa:bb")),
-        Predicate::all({Predicate::equal(ssid, QStringLiteral("Home")),
-            Predicate::equal(QStringLiteral("ssidDefined"), true)})});
-    EXPECT_EQ(format(Predicate::all({Predicate::equal(device, QStringLiteral("en0")), either})),
-        QStringLiteral("(device == 'en0') && ((network == 'aa:bb') || ((ssid == 'Home') && "
-                       "(ssidDefined == YES)))"));
-    EXPECT_EQ(format(Predicate::all({Predicate::equal(ssid, QStringLiteral("x"))})),
-        QStringLiteral("ssid == 'x'"));
-    EXPECT_EQ(format(Predicate::all({})), QStringLiteral("TRUEPREDICATE"));
-    EXPECT_EQ(format(Predicate::any({})), QStringLiteral("FALSEPREDICATE"));
+    const QString network = u"network"_s;
+    const auto either = Predicate::any(
+        {Predicate::equal(network, u"aa:bb"_s), Predicate::all({Predicate::equal(ssid, u"Home"_s),
+                                                    Predicate::equal(u"ssidDefined"_s, true)})});
+    EXPECT_EQ(format(Predicate::all({Predicate::equal(device, u"en0"_s), either})),
+        u"(device == 'en0') && ((network == 'aa:bb') || ((ssid == 'Home') && "
+        u"(ssidDefined == YES)))"_s);
+    EXPECT_EQ(format(Predicate::all({Predicate::equal(ssid, u"x"_s)})), u"ssid == 'x'"_s);
+    EXPECT_EQ(format(Predicate::all({})), u"TRUEPREDICATE"_s);
+    EXPECT_EQ(format(Predicate::any({})), u"FALSEPREDICATE"_s);
 }
 
 TEST(PredicateFormat, EscapesQuotes)
 {
-    EXPECT_EQ(format(Predicate::equal(ssid, QStringLiteral("Joe's \\ net %1"))),
-        QStringLiteral("ssid == 'Joe\\'s \\\\ net %1'"));
+    EXPECT_EQ(
+        format(Predicate::equal(ssid, u"Joe's \\ net %1"_s)), u"ssid == 'Joe\\'s \\\\ net %1'"_s);
 }
 
 } // namespace quillon::test

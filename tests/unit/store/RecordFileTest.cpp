@@ -15,6 +15,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 class RecordFileOpeningTest : public ::testing::Test
 {
 protected:
@@ -52,7 +54,7 @@ protected:
         ASSERT_TRUE(file);
         const Entity &rule = quillonModel().entities.first();
         QVariantList values(rule.attributes().size());
-        values[rule.indexOf(model::rule::name)] = QStringLiteral("Home");
+        values[rule.indexOf(model::rule::name)] = u"Home"_s;
         const RecordRow row{firstUnsavedKey, QUuid::createUuid(), values};
         ASSERT_TRUE(file.value()->write({{RowChange::Kind::Insert, rule, row, {}}}));
     }
@@ -77,28 +79,28 @@ protected:
     /// journal has what the file had before.
     void leaveHalfDone()
     {
-        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
+        const QString copy = folder.filePath(u"copy.sqlite"_s);
         SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
         other.exec("PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN;"
                    "WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n LIMIT 200)"
                    "INSERT INTO Notes SELECT hex(randomblob(500)) FROM n");
         write(copy, bytes(path));
-        write(copy + QStringLiteral("-journal"), bytes(path + QStringLiteral("-journal")));
+        write(copy + u"-journal"_s, bytes(path + u"-journal"_s));
         path = copy;
     }
     void expectHalfDoneRefused(RecordFileError code, const QString &message)
     {
         leaveHalfDone();
         const QByteArray before = bytes();
-        const QByteArray journal = bytes(path + QStringLiteral("-journal"));
+        const QByteArray journal = bytes(path + u"-journal"_s);
         ASSERT_GT(journal.size(), 512);
         expectRefused(open(), code, message);
         EXPECT_TRUE(bytes() == before);
-        EXPECT_TRUE(bytes(path + QStringLiteral("-journal")) == journal);
+        EXPECT_TRUE(bytes(path + u"-journal"_s) == journal);
     }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    QString path = folder.filePath(u"Quillon.sqlite"_s);
 };
 
 TEST_F(RecordFileOpeningTest, MakesAMissingFileForItsOwnerAlone)
@@ -116,7 +118,7 @@ TEST_F(RecordFileOpeningTest, MakesAMissingFileForItsOwnerAlone)
 TEST_F(RecordFileOpeningTest, TheLogBesideTheFileIsForItsOwnerToo)
 {
     const auto file = open();
-    const auto permissions = QFile::permissions(path + QStringLiteral("-wal"));
+    const auto permissions = QFile::permissions(path + u"-wal"_s);
     EXPECT_TRUE(permissions & QFile::ReadOwner);
     EXPECT_FALSE(permissions & (QFile::ReadGroup | QFile::ReadOther));
 }
@@ -147,7 +149,7 @@ TEST_F(RecordFileOpeningTest, AStepThatFailsLeavesTheFileAsItWas)
     const QByteArray before = bytes();
     RecordSchema later = withStep("ALTER TABLE Rule ADD COLUMN colour TEXT");
     later.steps << "UPDATE NoSuchTable SET x = 1";
-    expectRefused(open(later), RecordFileError::Failed, QStringLiteral("NoSuchTable"));
+    expectRefused(open(later), RecordFileError::Failed, u"NoSuchTable"_s);
     EXPECT_EQ(bytes(), before);
     EXPECT_EQ(answer("PRAGMA user_version"), "1");
     EXPECT_TRUE(open());
@@ -157,7 +159,7 @@ TEST_F(RecordFileOpeningTest, AStepThatLosesAnAttributeIsTakenBack)
 {
     makeWithOneRule();
     expectRefused(open(withStep("ALTER TABLE Rule DROP COLUMN vendor")), RecordFileError::Damaged,
-        QStringLiteral("\"Rule\" lacks \"vendor\""));
+        u"\"Rule\" lacks \"vendor\""_s);
     EXPECT_TRUE(open());
 }
 
@@ -166,8 +168,8 @@ TEST_F(RecordFileOpeningTest, AFileOfANewerVersionIsRefusedAndUntouched)
     ASSERT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
     const QByteArray before = bytes();
     expectRefused(open(), RecordFileError::Newer,
-        QStringLiteral("were written by a newer version of Quillon (version 2 of the file; this "
-                       "program knows versions up to 1)"));
+        u"were written by a newer version of Quillon (version 2 of the file; this "
+        u"program knows versions up to 1)"_s);
     EXPECT_EQ(bytes(), before);
     EXPECT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
 }
@@ -178,15 +180,15 @@ TEST_F(RecordFileOpeningTest, WhatANewerProgramLeftInItsLogStaysThere)
         // As a program leaves it that was killed: the log has what the file does not have yet.
         auto newer = open(withStep("CREATE TABLE Extra (x)"));
         ASSERT_TRUE(newer);
-        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
+        const QString copy = folder.filePath(u"copy.sqlite"_s);
         SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
             .exec("INSERT INTO Extra VALUES (1)");
         QFile::copy(path, copy);
-        QFile::copy(path + QStringLiteral("-wal"), copy + QStringLiteral("-wal"));
+        QFile::copy(path + u"-wal"_s, copy + u"-wal"_s);
         path = copy;
     }
     const QByteArray before = bytes();
-    expectRefused(open(), RecordFileError::Newer, QStringLiteral("newer version"));
+    expectRefused(open(), RecordFileError::Newer, u"newer version"_s);
     EXPECT_EQ(bytes(), before);
     EXPECT_EQ(answer("SELECT count(*) FROM Extra"), "1");
 }
@@ -195,7 +197,7 @@ TEST_F(RecordFileOpeningTest, WhatIsNoDatabaseIsRefusedAndUntouched)
 {
     const QByteArray text("Dear diary, this is not a database at all.");
     write(text);
-    expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+    expectRefused(open(), RecordFileError::NotARecordFile, u"is not a database"_s);
     EXPECT_EQ(bytes(), text);
     write(QByteArray("SQLite format 3\0", 16) + QByteArray(5000, 'x'));
     EXPECT_FALSE(open());
@@ -207,7 +209,7 @@ TEST_F(RecordFileOpeningTest, AFileTooShortForADatabaseIsRefusedAndUntouched)
     for (const QByteArray &text : {QByteArray("x"), QByteArray("scribble"), header.left(1), header,
              header + QByteArray(83, '\0')}) {
         write(text);
-        expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+        expectRefused(open(), RecordFileError::NotARecordFile, u"is not a database"_s);
         EXPECT_EQ(bytes(), text);
     }
 }
@@ -217,42 +219,39 @@ TEST_F(RecordFileOpeningTest, WhatIsNoDatabaseIsNotReadFromALogBesideIt)
     {
         const auto other = open();
         ASSERT_TRUE(other);
-        const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
-        const QByteArray log = bytes(path + QStringLiteral("-wal"));
+        const QString copy = folder.filePath(u"copy.sqlite"_s);
+        const QByteArray log = bytes(path + u"-wal"_s);
         write(copy, QByteArray(5000, 'x'));
-        write(copy + QStringLiteral("-wal"), log);
+        write(copy + u"-wal"_s, log);
         path = copy;
     }
-    const QByteArray log = bytes(path + QStringLiteral("-wal"));
-    expectRefused(open(), RecordFileError::NotARecordFile, QStringLiteral("is not a database"));
+    const QByteArray log = bytes(path + u"-wal"_s);
+    expectRefused(open(), RecordFileError::NotARecordFile, u"is not a database"_s);
     EXPECT_EQ(bytes(), QByteArray(5000, 'x'));
-    EXPECT_EQ(bytes(path + QStringLiteral("-wal")), log);
+    EXPECT_EQ(bytes(path + u"-wal"_s), log);
 }
 
 TEST_F(RecordFileOpeningTest, WhatAnotherProgramDidNotFinishIsLeftToIt)
 {
     sql("CREATE TABLE Notes (text); INSERT INTO Notes VALUES ('before')");
-    expectHalfDoneRefused(
-        RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+    expectHalfDoneRefused(RecordFileError::NotARecordFile, u"does not hold records of"_s);
 }
 
 TEST_F(RecordFileOpeningTest, WhatANewerProgramDidNotFinishIsLeftToIt)
 {
     ASSERT_TRUE(open(withStep("CREATE TABLE Notes (text)")));
     sql("PRAGMA journal_mode = DELETE");
-    expectHalfDoneRefused(RecordFileError::Newer, QStringLiteral("newer version"));
+    expectHalfDoneRefused(RecordFileError::Newer, u"newer version"_s);
 }
 
 TEST_F(RecordFileOpeningTest, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
 {
     sql("CREATE TABLE Rule (x); INSERT INTO Rule VALUES (1)");
     const QByteArray before = bytes();
-    expectRefused(
-        open(), RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+    expectRefused(open(), RecordFileError::NotARecordFile, u"does not hold records of"_s);
     EXPECT_EQ(bytes(), before);
     sql("PRAGMA user_version = 1");
-    expectRefused(
-        open(), RecordFileError::NotARecordFile, QStringLiteral("does not hold records of"));
+    expectRefused(open(), RecordFileError::NotARecordFile, u"does not hold records of"_s);
 }
 
 TEST_F(RecordFileOpeningTest, AMissingColumnOrTableIsDamage)
@@ -260,10 +259,10 @@ TEST_F(RecordFileOpeningTest, AMissingColumnOrTableIsDamage)
     makeWithOneRule();
     sql("ALTER TABLE Rule DROP COLUMN ssid");
     const QByteArray before = bytes();
-    expectRefused(open(), RecordFileError::Damaged, QStringLiteral("\"Rule\" lacks \"ssid\""));
+    expectRefused(open(), RecordFileError::Damaged, u"\"Rule\" lacks \"ssid\""_s);
     EXPECT_EQ(bytes(), before);
     sql("DROP TABLE Rule");
-    expectRefused(open(), RecordFileError::Damaged, QStringLiteral("\"Rule\" lacks \"pk\""));
+    expectRefused(open(), RecordFileError::Damaged, u"\"Rule\" lacks \"pk\""_s);
 }
 
 TEST_F(RecordFileOpeningTest, ADamagedPageIsNoticedAndUntouched)
@@ -307,7 +306,7 @@ TEST_F(RecordFileOpeningTest, AFileThatSomebodyKeepsIsReportedAsLocked)
     makeWithOneRule();
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
     other.exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE");
-    expectRefused(open(), RecordFileError::Locked, QStringLiteral("locked"));
+    expectRefused(open(), RecordFileError::Locked, u"locked"_s);
 }
 
 TEST_F(RecordFileOpeningTest, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
@@ -316,27 +315,26 @@ TEST_F(RecordFileOpeningTest, AnOlderFileThatSomebodyWritesIsReportedAsLocked)
     SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
     other.exec("BEGIN IMMEDIATE");
     EXPECT_TRUE(open()) << "reading goes on meanwhile";
-    expectRefused(open(withStep("CREATE TABLE Extra (x)")), RecordFileError::Locked,
-        QStringLiteral("locked"));
+    expectRefused(open(withStep("CREATE TABLE Extra (x)")), RecordFileError::Locked, u"locked"_s);
 }
 
 TEST_F(RecordFileOpeningTest, AFolderOrAMissingFolderCannotBeOpened)
 {
-    QDir(folder.path()).mkdir(QStringLiteral("Quillon.sqlite"));
-    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
-    path = folder.filePath(QStringLiteral("missing/Quillon.sqlite"));
-    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
+    QDir(folder.path()).mkdir(u"Quillon.sqlite"_s);
+    expectRefused(open(), RecordFileError::CannotOpen, u"cannot be opened"_s);
+    path = folder.filePath(u"missing/Quillon.sqlite"_s);
+    expectRefused(open(), RecordFileError::CannotOpen, u"cannot be opened"_s);
 }
 
 TEST_F(RecordFileOpeningTest, APipeIsNotWaitedFor)
 {
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    expectRefused(open(), RecordFileError::CannotOpen, QStringLiteral("cannot be opened"));
+    expectRefused(open(), RecordFileError::CannotOpen, u"cannot be opened"_s);
 }
 
 TEST_F(RecordFileOpeningTest, ANameWithAnyCharacterIsAFile)
 {
-    path = folder.filePath(QStringLiteral("Ä ?mode=memory%41'\".sqlite"));
+    path = folder.filePath(u"Ä ?mode=memory%41'\".sqlite"_s);
     ASSERT_TRUE(open());
     EXPECT_TRUE(QFile::exists(path));
 }

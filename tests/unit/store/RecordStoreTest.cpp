@@ -13,6 +13,8 @@
 #include <cstdio>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using RecordStoreTest = test::RecordStoreTest;
@@ -29,10 +31,10 @@ TEST_F(RecordStoreTest, OpensNothingBeforeFirstUse)
 
 TEST_F(RecordStoreTest, MakesItsFolderForItsOwnerAlone)
 {
-    const QString inner = folder.filePath(QStringLiteral("a/b/Quillon"));
+    const QString inner = folder.filePath(u"a/b/Quillon"_s);
     RecordStore other(scheduler, inner);
     other.managedObjectContext();
-    EXPECT_TRUE(QFile::exists(inner + QStringLiteral("/Quillon.sqlite")));
+    EXPECT_TRUE(QFile::exists(inner + u"/Quillon.sqlite"_s));
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
                         QFile::WriteOther | QFile::ExeOther;
     EXPECT_EQ(QFileInfo(inner).permissions() & others, QFile::Permissions());
@@ -45,39 +47,39 @@ TEST_F(RecordStoreTest, TellsOfChanges)
         &store, &RecordStore::objectsDidChange, &store, [&](const ObjectsDidChange &change) {
             inserted += static_cast<int>(change.inserted.size());
         });
-    insertRule(QStringLiteral("Home"));
+    insertRule(u"Home"_s);
     endTurn();
     EXPECT_EQ(inserted, 1);
 }
 
 TEST_F(RecordStoreTest, AReplacedContextHasWhatWasPendingAndIsTheOneThatTells)
 {
-    insertRule(QStringLiteral("Home"));
+    insertRule(u"Home"_s);
     ASSERT_FALSE(context().save().has_value());
-    insertRule(QStringLiteral("Pending"));
+    insertRule(u"Pending"_s);
     endTurn();
     QList<QStringList> namesWhenReplaced;
     QObject::connect(&store, &RecordStore::managedObjectContextReplaced, &store,
         [&] { namesWhenReplaced << namesIn(context()); });
     store.refreshPersistentContainer();
-    const QStringList saved{QStringLiteral("Home"), QStringLiteral("Pending")};
+    const QStringList saved{u"Home"_s, u"Pending"_s};
     EXPECT_EQ(namesWhenReplaced, QList<QStringList>{saved});
     EXPECT_FALSE(context().hasChanges());
 
     int changes = 0;
     QObject::connect(&store, &RecordStore::objectsDidChange, &store, [&] { ++changes; });
-    insertRule(QStringLiteral("Office"));
+    insertRule(u"Office"_s);
     endTurn();
     EXPECT_EQ(changes, 1);
     store.refreshPersistentContainer();
-    EXPECT_EQ(namesIn(context()), saved + QStringList(QStringLiteral("Office")));
+    EXPECT_EQ(namesIn(context()), saved + QStringList(u"Office"_s));
 }
 
 TEST_F(RecordStoreTest, WhatCannotBeSavedBeforeAReplacementIsLogged)
 {
-    insertRule(QStringLiteral("Home"));
+    insertRule(u"Home"_s);
     ASSERT_FALSE(context().save().has_value());
-    insertRule(QStringLiteral("Refused"));
+    insertRule(u"Refused"_s);
     const test::RefusingFile refusal(path);
     int replaced = 0;
     QObject::connect(
@@ -87,10 +89,10 @@ TEST_F(RecordStoreTest, WhatCannotBeSavedBeforeAReplacementIsLogged)
     const QStringList lines = test::LogCapture::taken();
     ASSERT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines.first().startsWith(
-        QStringLiteral("quillon.records: Changes are lost, as they could not be saved: ")));
-    EXPECT_TRUE(lines.first().contains(QStringLiteral("refused by the file")));
+        u"quillon.records: Changes are lost, as they could not be saved: "_s));
+    EXPECT_TRUE(lines.first().contains(u"refused by the file"_s));
     EXPECT_EQ(replaced, 1);
-    EXPECT_EQ(namesIn(context()), QStringList(QStringLiteral("Home")));
+    EXPECT_EQ(namesIn(context()), QStringList(u"Home"_s));
 }
 
 TEST_F(RecordStoreTest, TheOldContextIsThereUntilItsReplacementWasTold)
@@ -128,7 +130,7 @@ TEST_F(RecordStoreTest, ARefreshBeforeFirstUseOpensTheStore)
 TEST(RecordStoreDeathTest, AFileThatCannotBeOpenedIsToldOfAndEndsTheProcess)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("Quillon.sqlite"));
+    const QString path = folder.filePath(u"Quillon.sqlite"_s);
     ASSERT_TRUE(QDir().mkdir(path));
     test::FakeScheduler scheduler;
     const auto open = [&](const RecordStore::OpenFailure &openFailure) {

@@ -15,6 +15,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 /// A record file in a folder of its own, opened as one program opens it; another() is a second
 /// program on the same file.
 class RecordsTest : public ::testing::Test
@@ -89,10 +91,5 @@ protected:
 private:
     std::unique_ptr<Program> m_program;
 };
-
-inline QString operator""_s(const char *text, std::size_t length)
-{
-    return QString::fromUtf8(text, static_cast<qsizetype>(length));
-}
 
 } // namespace quillon::test

@@ -9,6 +9,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 class Saving : public RecordsTest
 {
 protected:
@@ -29,29 +31,30 @@ protected:
 
 TEST_F(Saving, IdentitySurvivesSavingAndReopening)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     const QString uri = home->uriRepresentation();
-    EXPECT_TRUE(uri.startsWith("x-quillon-record://Quillon/Rule/"_s));
+    EXPECT_TRUE(uri.startsWith(u"x-quillon-record://Quillon/Rule/"_s));
     EXPECT_EQ(context().objectWithURI(uri), home) << "before it is saved";
     save();
     EXPECT_EQ(home->uriRepresentation(), uri);
     quit();
     const auto again = context().objectWithURI(uri);
-    EXPECT_EQ(nameOf(again), "Home"_s);
+    EXPECT_EQ(nameOf(again), u"Home"_s);
     EXPECT_EQ(again->uriRepresentation(), uri);
 }
 
 TEST_F(Saving, WhatIsNoIdentityOfARecordGivesNone)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     save();
     const QString uri = home->uriRepresentation();
-    const QString id = uri.section(QLatin1Char('/'), -1);
-    for (const QString &other : {QString(), "Home"_s, id, uri + QLatin1Char('/'), uri.toUpper(),
-             "x-quillon-record://Quillon/Connection/"_s + id,
-             "x-quillon-record://Quillon/History/"_s + id, "x-quillon-record://Other/Rule/"_s + id,
-             "x-quillon-record://Quillon/Rule/{"_s + id + "}"_s,
-             "x-quillon-record://Quillon/Rule/00000000-0000-0000-0000-000000000000"_s}) {
+    const QString id = uri.section(u'/', -1);
+    for (const QString &other :
+        {QString(), u"Home"_s, id, uri + u'/', uri.toUpper(),
+            u"x-quillon-record://Quillon/Connection/"_s + id,
+            u"x-quillon-record://Quillon/History/"_s + id, u"x-quillon-record://Other/Rule/"_s + id,
+            u"x-quillon-record://Quillon/Rule/{"_s + id + u"}"_s,
+            u"x-quillon-record://Quillon/Rule/00000000-0000-0000-0000-000000000000"_s}) {
         EXPECT_EQ(context().objectWithURI(other), nullptr) << other.toStdString();
     }
     context().deleteObject(home);
@@ -62,18 +65,18 @@ TEST_F(Saving, WhatIsNoIdentityOfARecordGivesNone)
 
 TEST_F(Saving, NothingReachesTheFileBefore)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     endTurn();
     EXPECT_EQ(savedNames(), QStringList());
     EXPECT_TRUE(context().hasChanges());
     save();
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
     EXPECT_FALSE(context().hasChanges());
 }
 
 TEST_F(Saving, ARecordTellsWhatIsUnsaved)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     EXPECT_TRUE(home->hasChanges() && home->isInserted() && !home->isDeleted());
     save();
     EXPECT_FALSE(home->hasChanges() || home->isInserted() || home->isDeleted());
@@ -84,7 +87,7 @@ TEST_F(Saving, ARecordTellsWhatIsUnsaved)
     save();
     EXPECT_FALSE(home->hasChanges());
     EXPECT_TRUE(home->isDeleted());
-    EXPECT_EQ(nameOf(home), "Home"_s) << "a deleted record can still be read";
+    EXPECT_EQ(nameOf(home), u"Home"_s) << "a deleted record can still be read";
 }
 
 TEST_F(Saving, IsToldOnlyWhenSomethingWasWritten)
@@ -93,7 +96,7 @@ TEST_F(Saving, IsToldOnlyWhenSomethingWasWritten)
     QObject::connect(&context(), &ManagedObjectContext::saved, &context(), [&told] { ++told; });
     save();
     EXPECT_EQ(told, 0);
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
     EXPECT_EQ(told, 1);
 }
@@ -112,11 +115,11 @@ TEST_F(Saving, EachTypeKeepsItsLimits)
     const auto note = [this](const QVariant &value) {
         return roundTrip(model::Connection, model::connection::notes, value);
     };
-    EXPECT_EQ(note(QString()), ""_s);
+    EXPECT_EQ(note(QString()), u""_s);
     EXPECT_TRUE(note(QString()).isValid());
     EXPECT_EQ(note(QString(QChar(u'\0'))), QString(QChar(u'\0')));
-    EXPECT_EQ(note("a\n'\"\U0001F600"_s), "a\n'\"\U0001F600"_s);
-    EXPECT_EQ(note(QString(1'000'000, QLatin1Char('x'))).toString().size(), 1'000'000);
+    EXPECT_EQ(note(u"a\n'\"\U0001F600"_s), u"a\n'\"\U0001F600"_s);
+    EXPECT_EQ(note(QString(1'000'000, u'x')).toString().size(), 1'000'000);
     EXPECT_TRUE(note(QString(QChar(0xD83D))).toString().isValidUtf16()) << "half a character";
     const auto date = [this](const QDateTime &value) {
         return roundTrip(model::Connection, model::connection::date, value);
@@ -134,33 +137,33 @@ TEST_F(Saving, EachTypeKeepsItsLimits)
 
 TEST_F(Saving, AValueThatDoesNotFitIsRefusedWithALine)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     const LogCapture log;
     home->setValue(model::rule::timerMins, 32768);
-    home->setValue(model::rule::timerMins, "5"_s);
+    home->setValue(model::rule::timerMins, u"5"_s);
     home->setValue(model::rule::enabled, 1);
     home->setValue(model::rule::name, 5);
-    home->setValue("bssid"_s, "x"_s);
+    home->setValue(u"bssid"_s, u"x"_s);
     EXPECT_FALSE(home->value(model::rule::timerMins).isValid());
     EXPECT_FALSE(home->value(model::rule::enabled).isValid());
-    EXPECT_FALSE(home->value("bssid"_s).isValid());
-    EXPECT_EQ(nameOf(home), "Home"_s);
+    EXPECT_FALSE(home->value(u"bssid"_s).isValid());
+    EXPECT_EQ(nameOf(home), u"Home"_s);
     EXPECT_EQ(LogCapture::taken(),
-        QStringList({"quillon.records: A value of type int does not fit Rule.timerMins"_s,
-            "quillon.records: A value of type QString does not fit Rule.timerMins"_s,
-            "quillon.records: A value of type int does not fit Rule.enabled"_s,
-            "quillon.records: A value of type int does not fit Rule.name"_s,
-            "quillon.records: A value of type QString does not fit Rule.bssid"_s}));
+        QStringList({u"quillon.records: A value of type int does not fit Rule.timerMins"_s,
+            u"quillon.records: A value of type QString does not fit Rule.timerMins"_s,
+            u"quillon.records: A value of type int does not fit Rule.enabled"_s,
+            u"quillon.records: A value of type int does not fit Rule.name"_s,
+            u"quillon.records: A value of type QString does not fit Rule.bssid"_s}));
 }
 
 TEST_F(Saving, AFailureKeepsEveryChangePending)
 {
-    const auto home = rule("Home"_s);
-    const auto cafe = rule("Cafe"_s);
+    const auto home = rule(u"Home"_s);
+    const auto cafe = rule(u"Cafe"_s);
     save();
-    home->setValue(model::rule::name, "House"_s);
+    home->setValue(model::rule::name, u"House"_s);
     context().deleteObject(cafe);
-    rule("Office"_s);
+    rule(u"Office"_s);
     SQLite::Database reader(path.toStdString(), SQLite::OPEN_READWRITE);
     reader.exec("BEGIN IMMEDIATE");
     const auto error = context().save();
@@ -168,43 +171,43 @@ TEST_F(Saving, AFailureKeepsEveryChangePending)
     EXPECT_EQ(error->domain, recordFileErrorDomain);
     EXPECT_EQ(error->code, static_cast<int>(RecordFileError::Locked));
     EXPECT_TRUE(context().hasChanges());
-    EXPECT_EQ(names(), QStringList({"House"_s, "Office"_s}));
-    EXPECT_EQ(savedNames(), QStringList({"Home"_s, "Cafe"_s}));
+    EXPECT_EQ(names(), QStringList({u"House"_s, u"Office"_s}));
+    EXPECT_EQ(savedNames(), QStringList({u"Home"_s, u"Cafe"_s}));
     reader.exec("ROLLBACK");
     save();
-    EXPECT_EQ(savedNames(), QStringList({"House"_s, "Office"_s}));
+    EXPECT_EQ(savedNames(), QStringList({u"House"_s, u"Office"_s}));
 }
 
 TEST_F(Saving, ARowThatFailsTakesTheWholeSaveBack)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     save();
     {
         SQLite::Database other(path.toStdString(), SQLite::OPEN_READWRITE);
         other.exec("CREATE TRIGGER refuse BEFORE INSERT ON Connection BEGIN "
                    "SELECT RAISE(ABORT, 'refused'); END");
     }
-    home->setValue(model::rule::name, "House"_s);
-    const auto other = rule("Office"_s);
+    home->setValue(model::rule::name, u"House"_s);
+    const auto other = rule(u"Office"_s);
     const auto record = context().insertNewObject(model::Connection);
     EXPECT_TRUE(context().save());
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
     EXPECT_TRUE(home->hasChanges() && other->isInserted() && record->isInserted());
     context().deleteObject(record);
     save();
-    EXPECT_EQ(savedNames(), QStringList({"House"_s, "Office"_s}));
+    EXPECT_EQ(savedNames(), QStringList({u"House"_s, u"Office"_s}));
 }
 
 TEST_F(Saving, ObjectsOutliveTheirContextAndIgnoreWritesThen)
 {
-    const auto home = rule("Home"_s);
-    const auto unsaved = rule("Office"_s);
+    const auto home = rule(u"Home"_s);
+    const auto unsaved = rule(u"Office"_s);
     const QString uri = home->uriRepresentation();
     quit();
-    home->setValue(model::rule::name, "House"_s);
-    unsaved->setPrimitiveValue(model::rule::name, "House"_s);
-    EXPECT_EQ(nameOf(home), "Home"_s);
-    EXPECT_EQ(nameOf(unsaved), "Office"_s);
+    home->setValue(model::rule::name, u"House"_s);
+    unsaved->setPrimitiveValue(model::rule::name, u"House"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
+    EXPECT_EQ(nameOf(unsaved), u"Office"_s);
     EXPECT_EQ(home->uriRepresentation(), uri);
     EXPECT_TRUE(home->changedValuesForCurrentEvent().isEmpty());
     context().deleteObject(home);
@@ -213,47 +216,47 @@ TEST_F(Saving, ObjectsOutliveTheirContextAndIgnoreWritesThen)
 
 TEST_F(Saving, ADeletedObjectIgnoresWrites)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     context().deleteObject(home);
     context().deleteObject(home);
     context().deleteObject(nullptr);
-    home->setValue(model::rule::name, "House"_s);
-    EXPECT_EQ(nameOf(home), "Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
     EXPECT_FALSE(context().hasChanges());
 }
 
 TEST_F(Saving, ObjectsWithChangesAreKeptThoughNobodyHoldsThem)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
     quit();
-    context().fetch({model::Rule, {}, {}}).value().first()->setValue(model::rule::name, "House"_s);
+    context().fetch({model::Rule, {}, {}}).value().first()->setValue(model::rule::name, u"House"_s);
     context().undoManager().clear();
     endTurn();
     save();
-    EXPECT_EQ(savedNames(), QStringList("House"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"House"_s));
 }
 
 TEST_F(Saving, AnObserverMayEndTheContextThatIsToBeSaved)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
-    const auto office = rule("Office"_s);
+    const auto office = rule(u"Office"_s);
     QObject observer;
     QObject::connect(
         &context(), &ManagedObjectContext::objectsDidChange, &observer, [this] { quit(); });
     EXPECT_FALSE(context().save());
     EXPECT_TRUE(office->isInserted()) << "whoever ends it drops what was not saved";
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
 }
 
 TEST(SavingDeathTest, ARecordOfAnUnknownEntityEndsTheProgram)
 {
     const QTemporaryDir folder;
     FakeScheduler scheduler;
-    const auto opened = ManagedObjectContext::open(
-        quillonModel(), folder.filePath(QStringLiteral("Quillon.sqlite")), scheduler);
-    EXPECT_DEATH(opened.value()->insertNewObject("History"_s), "the model has the entity");
+    const auto opened =
+        ManagedObjectContext::open(quillonModel(), folder.filePath(u"Quillon.sqlite"_s), scheduler);
+    EXPECT_DEATH(opened.value()->insertNewObject(u"History"_s), "the model has the entity");
 }
 
 // MARK: editors

@@ -4,6 +4,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 class Undo : public RecordsTest
 {
 protected:
@@ -34,7 +36,7 @@ protected:
 
 TEST_F(Undo, AnInsertionGoesAndComesBackAsTheSameRecord)
 {
-    const auto home = rule("Home"_s);
+    const auto home = rule(u"Home"_s);
     const QString uri = home->uriRepresentation();
     endTurn();
     undo();
@@ -42,35 +44,35 @@ TEST_F(Undo, AnInsertionGoesAndComesBackAsTheSameRecord)
     EXPECT_TRUE(home->isDeleted());
     EXPECT_FALSE(context().hasChanges());
     redo();
-    EXPECT_EQ(names(), QStringList("Home"_s));
+    EXPECT_EQ(names(), QStringList(u"Home"_s));
     EXPECT_EQ(context().objectWithURI(uri), home);
 }
 
 TEST_F(Undo, AnUpdateGoesBackToTheValueBeforeTheTurn)
 {
-    const auto home = oldRule("Home"_s);
-    home->setValue(model::rule::name, "Flat"_s);
-    home->setValue(model::rule::name, "House"_s);
-    home->setValue(model::rule::device, "eth0"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"Flat"_s);
+    home->setValue(model::rule::name, u"House"_s);
+    home->setValue(model::rule::device, u"eth0"_s);
     endTurn();
     EXPECT_EQ(stack().count(), 1) << "one step for each turn";
     undo();
-    EXPECT_EQ(nameOf(home), "Home"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
     EXPECT_FALSE(home->value(model::rule::device).isValid());
     EXPECT_FALSE(home->hasChanges());
     redo();
-    EXPECT_EQ(nameOf(home), "House"_s);
-    EXPECT_EQ(home->value(model::rule::device), "eth0"_s);
+    EXPECT_EQ(nameOf(home), u"House"_s);
+    EXPECT_EQ(home->value(model::rule::device), u"eth0"_s);
 }
 
 TEST_F(Undo, ADeletionComesBackWithItsValues)
 {
-    const auto home = oldRule("Home"_s);
+    const auto home = oldRule(u"Home"_s);
     context().deleteObject(home);
     endTurn();
     EXPECT_EQ(names(), QStringList());
     undo();
-    EXPECT_EQ(names(), QStringList("Home"_s));
+    EXPECT_EQ(names(), QStringList(u"Home"_s));
     EXPECT_FALSE(context().hasChanges());
     redo();
     EXPECT_TRUE(home->isDeleted());
@@ -79,23 +81,23 @@ TEST_F(Undo, ADeletionComesBackWithItsValues)
 
 TEST_F(Undo, AMixedTurnIsOneStep)
 {
-    const auto home = oldRule("Home"_s);
-    const auto cafe = oldRule("Cafe"_s);
-    home->setValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    const auto cafe = oldRule(u"Cafe"_s);
+    home->setValue(model::rule::name, u"House"_s);
     context().deleteObject(cafe);
-    rule("Office"_s);
+    rule(u"Office"_s);
     endTurn();
-    EXPECT_EQ(names(), QStringList({"House"_s, "Office"_s}));
+    EXPECT_EQ(names(), QStringList({u"House"_s, u"Office"_s}));
     undo();
-    EXPECT_EQ(names(), QStringList({"Home"_s, "Cafe"_s}));
+    EXPECT_EQ(names(), QStringList({u"Home"_s, u"Cafe"_s}));
     redo();
-    EXPECT_EQ(names(), QStringList({"House"_s, "Office"_s}));
+    EXPECT_EQ(names(), QStringList({u"House"_s, u"Office"_s}));
     EXPECT_EQ(stack().count(), 1);
 }
 
 TEST_F(Undo, EachTurnIsAStep)
 {
-    const auto home = oldRule("Home"_s);
+    const auto home = oldRule(u"Home"_s);
     for (int minutes = 1; minutes <= 3; ++minutes) {
         home->setValue(model::rule::timerMins, minutes);
         endTurn();
@@ -111,26 +113,26 @@ TEST_F(Undo, EachTurnIsAStep)
 
 TEST_F(Undo, OfASavedDeletionBringsBackIdentityAndPlace)
 {
-    const auto home = oldRule("Home"_s);
-    oldRule("Cafe"_s);
+    const auto home = oldRule(u"Home"_s);
+    oldRule(u"Cafe"_s);
     const QString uri = home->uriRepresentation();
     context().deleteObject(home);
     save();
-    EXPECT_EQ(savedNames(), QStringList("Cafe"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Cafe"_s));
     undo();
     EXPECT_TRUE(home->isInserted());
-    EXPECT_EQ(names(), QStringList({"Home"_s, "Cafe"_s}));
+    EXPECT_EQ(names(), QStringList({u"Home"_s, u"Cafe"_s}));
     save();
-    EXPECT_EQ(savedNames(), QStringList({"Home"_s, "Cafe"_s}));
-    EXPECT_EQ(nameOf(another()->context().objectWithURI(uri)), "Home"_s);
+    EXPECT_EQ(savedNames(), QStringList({u"Home"_s, u"Cafe"_s}));
+    EXPECT_EQ(nameOf(another()->context().objectWithURI(uri)), u"Home"_s);
     redo();
     save();
-    EXPECT_EQ(savedNames(), QStringList("Cafe"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Cafe"_s));
 }
 
 TEST_F(Undo, OfASavedInsertionDeletesItFromTheFile)
 {
-    rule("Home"_s);
+    rule(u"Home"_s);
     save();
     undo();
     EXPECT_TRUE(context().hasChanges());
@@ -138,31 +140,31 @@ TEST_F(Undo, OfASavedInsertionDeletesItFromTheFile)
     EXPECT_EQ(savedNames(), QStringList());
     redo();
     save();
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
 }
 
 TEST_F(Undo, OfASavedUpdateIsAChangeToSave)
 {
-    const auto home = oldRule("Home"_s);
-    home->setValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
     save();
     undo();
     EXPECT_TRUE(home->hasChanges());
     save();
-    EXPECT_EQ(savedNames(), QStringList("Home"_s));
+    EXPECT_EQ(savedNames(), QStringList(u"Home"_s));
 }
 
 TEST_F(Undo, FactsAreNotEdits)
 {
-    const auto home = oldRule("Home"_s);
+    const auto home = oldRule(u"Home"_s);
     {
         const ManagedObjectContext::UndoDisabled outer(context());
         {
             const ManagedObjectContext::UndoDisabled inner(context());
         }
         home->setValue(model::rule::active, true);
-        rule("Office"_s);
-        context().deleteObject(rule("Cafe"_s));
+        rule(u"Office"_s);
+        context().deleteObject(rule(u"Cafe"_s));
     }
     endTurn();
     EXPECT_FALSE(stack().canUndo());
@@ -172,41 +174,41 @@ TEST_F(Undo, FactsAreNotEdits)
 
 TEST_F(Undo, ACorrectionBelongsToTheEditThatCausedIt)
 {
-    const auto home = oldRule("Home"_s);
+    const auto home = oldRule(u"Home"_s);
     QObject::connect(&context(), &ManagedObjectContext::objectsDidChange, &context(),
         [](const ObjectsDidChange &change) {
             for (const auto &object : change.updated) {
-                if (nameOf(object) == "Cafe"_s) {
-                    object->setPrimitiveValue(model::rule::name, "Cafe (2)"_s);
+                if (nameOf(object) == u"Cafe"_s) {
+                    object->setPrimitiveValue(model::rule::name, u"Cafe (2)"_s);
                     object->setPrimitiveValue(model::rule::ssidDefined, true);
                 }
             }
         });
-    home->setValue(model::rule::name, "Cafe"_s);
+    home->setValue(model::rule::name, u"Cafe"_s);
     endTurn();
-    EXPECT_EQ(nameOf(home), "Cafe (2)"_s);
+    EXPECT_EQ(nameOf(home), u"Cafe (2)"_s);
     EXPECT_EQ(stack().count(), 1);
     undo();
-    EXPECT_EQ(nameOf(home), "Home"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
     EXPECT_FALSE(home->value(model::rule::ssidDefined).isValid());
     EXPECT_FALSE(home->hasChanges());
     redo();
-    EXPECT_EQ(nameOf(home), "Cafe (2)"_s);
+    EXPECT_EQ(nameOf(home), u"Cafe (2)"_s);
     EXPECT_EQ(home->value(model::rule::ssidDefined), true);
 }
 
 TEST_F(Undo, ACorrectionByItselfIsNoStep)
 {
-    const auto home = oldRule("Home"_s);
-    home->setPrimitiveValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setPrimitiveValue(model::rule::name, u"House"_s);
     endTurn();
     EXPECT_FALSE(stack().canUndo());
 }
 
 TEST_F(Undo, IsToldWithPreviousValuesAndIsNoNewEdit)
 {
-    const auto home = oldRule("Home"_s);
-    home->setValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
     endTurn();
     QList<QVariantMap> previous;
     QObject::connect(&context(), &ManagedObjectContext::objectsDidChange, &context(),
@@ -217,35 +219,35 @@ TEST_F(Undo, IsToldWithPreviousValuesAndIsNoNewEdit)
     undo();
     redo();
     EXPECT_EQ(previous,
-        QList<QVariantMap>({{{model::rule::name, "House"_s}}, {{model::rule::name, "Home"_s}}}));
+        QList<QVariantMap>({{{model::rule::name, u"House"_s}}, {{model::rule::name, u"Home"_s}}}));
     EXPECT_EQ(stack().count(), 1);
 }
 
 TEST_F(Undo, WithinTheTurnTakesBackWhatTheTurnDidSoFar)
 {
-    const auto home = oldRule("Home"_s);
-    home->setValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
     stack().undo();
-    EXPECT_EQ(nameOf(home), "Home"_s);
-    home->setValue(model::rule::device, "eth0"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
+    home->setValue(model::rule::device, u"eth0"_s);
     endTurn();
     EXPECT_EQ(stack().count(), 1) << "the new edit replaces what could have been redone";
     undo();
-    EXPECT_EQ(nameOf(home), "Home"_s);
+    EXPECT_EQ(nameOf(home), u"Home"_s);
     EXPECT_FALSE(home->value(model::rule::device).isValid());
 }
 
 TEST_F(Undo, AStackClearedWithinTheTurnTakesLaterEditsAnew)
 {
-    const auto home = oldRule("Home"_s);
-    home->setValue(model::rule::name, "House"_s);
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
     stack().clear();
     endTurn();
-    EXPECT_EQ(nameOf(home), "House"_s);
-    home->setValue(model::rule::name, "Villa"_s);
+    EXPECT_EQ(nameOf(home), u"House"_s);
+    home->setValue(model::rule::name, u"Villa"_s);
     endTurn();
     undo();
-    EXPECT_EQ(nameOf(home), "House"_s);
+    EXPECT_EQ(nameOf(home), u"House"_s);
 }
 
 } // namespace quillon::test

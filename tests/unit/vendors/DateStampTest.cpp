@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 QString stampIn(const char *locale)
@@ -17,11 +19,11 @@ QString stampIn(const char *locale)
 
 TEST(DateStamp, HasAShortMonthNoWeekdayAndNoSeconds)
 {
-    EXPECT_EQ(stampIn("en_US"), QLatin1String("Nov 5, 2026, 2:07 PM"));
-    EXPECT_EQ(stampIn("en_GB"), QLatin1String("5 Nov 2026, 14:07"));
-    EXPECT_EQ(stampIn("de_DE"), QLatin1String("5. Nov. 2026, 14:07"));
-    EXPECT_EQ(stampIn("fr_FR"), QLatin1String("5 nov. 2026, 14:07"));
-    EXPECT_EQ(stampIn("C"), QLatin1String("5 Nov 2026, 14:07"));
+    EXPECT_EQ(stampIn("en_US"), "Nov 5, 2026, 2:07 PM"_L1);
+    EXPECT_EQ(stampIn("en_GB"), "5 Nov 2026, 14:07"_L1);
+    EXPECT_EQ(stampIn("de_DE"), "5. Nov. 2026, 14:07"_L1);
+    EXPECT_EQ(stampIn("fr_FR"), "5 nov. 2026, 14:07"_L1);
+    EXPECT_EQ(stampIn("C"), "5 Nov 2026, 14:07"_L1);
 }
 
 TEST(DateStamp, NamesNoWeekdayInAnyLanguage)

@@ -8,6 +8,8 @@
 #include <sys/resource.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -37,17 +39,17 @@ TEST_F(RegistryRefreshFault, FailsOfATextWithAParseErrorWhereverItIs)
 TEST_F(RegistryRefreshFault, ThatCannotBeTransferredWaitsToBeCancelled)
 {
     const LogCapture log;
-    http.refuse(registry, {posixErrorDomain, 111, QStringLiteral("refused")});
+    http.refuse(registry, {posixErrorDomain, 111, u"refused"_s});
     pane.pressButton();
     scheduler.advance(std::chrono::hours(1));
     EXPECT_EQ(
         LogCapture::taken(), QStringList("quillon.vendors: Registry not downloaded: refused"));
     expectDownloading();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Getting download information..."));
+    EXPECT_EQ(pane.state().updatedLabel, "Getting download information..."_L1);
     pane.pressButton();
     expectIdle();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Download cancelled..."));
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("10 Vendor Identifiers"));
+    EXPECT_EQ(pane.state().updatedLabel, "Download cancelled..."_L1);
+    EXPECT_EQ(pane.state().vendorCount, "10 Vendor Identifiers"_L1);
     refresh(registryOf(11));
     EXPECT_EQ(database.count(), 11);
 }
@@ -57,10 +59,10 @@ TEST_F(RegistryRefreshFault, ThatBreaksInTheMiddleKeepsItsLastProgress)
     const LogCapture log;
     pane.pressButton();
     http.deliver(http.last(), QByteArray(500'000, 'x'), 1'000'000);
-    http.fail(http.last(), {posixErrorDomain, 104, QStringLiteral("reset")});
+    http.fail(http.last(), {posixErrorDomain, 104, u"reset"_s});
     scheduler.runPending();
     expectDownloading();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 50.000% of 1.0MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 50.000% of 1.0MB"_L1);
     EXPECT_EQ(database.count(), 10);
     EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
 }
@@ -70,7 +72,7 @@ TEST_F(RegistryRefreshFault, WithoutALiveDatabaseWritesNothingAndReportsCompleti
     QFile::remove(files.liveDatabase());
     refresh(registryOf(15));
     EXPECT_EQ(pane.state().updatedLabel, lastUpdated());
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
+    EXPECT_EQ(pane.state().vendorCount, "0 Vendor Identifiers"_L1);
     EXPECT_THAT(filesInFolder(), IsEmpty());
 }
 
@@ -78,7 +80,7 @@ TEST_F(RegistryRefreshFault, ThatCannotWriteTheLiveDatabaseFailsAndCompletes)
 {
     const LogCapture log;
     QFile::remove(files.liveDatabase());
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), files.liveDatabase()));
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, files.liveDatabase()));
     refresh(registryOf(15));
     EXPECT_THAT(takeLabels(),
         ElementsAre("Getting download information...", "Downloading... 100.000% of 0.0MB",
@@ -96,7 +98,7 @@ TEST_F(RegistryRefreshFault, ThatFindsTheLiveDatabaseLockedFailsAndCompletes)
     other.exec("begin immediate");
     refresh(registryOf(15));
     const QStringList said = takeLabels();
-    EXPECT_EQ(said.at(said.size() - 2), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(said.at(said.size() - 2), "Parsing file failed..."_L1);
     EXPECT_EQ(said.last(), lastUpdated());
     other.exec("rollback");
     EXPECT_EQ(database.count(), 10);
@@ -106,9 +108,9 @@ TEST_F(RegistryRefreshFault, ThatFindsTheLiveDatabaseLockedFailsAndCompletes)
 TEST_F(RegistryRefreshFault, ThatCannotSaveTheTextFails)
 {
     const LogCapture log;
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), files.registryText()));
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, files.registryText()));
     refresh(registryOf(15));
-    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
     EXPECT_EQ(database.count(), 10);
     expectIdle();
 }
@@ -117,11 +119,11 @@ TEST_F(RegistryRefreshFault, ThatCannotReadWhatItDownloadedSaysWhy)
 {
     const LogCapture log;
     // Opens, but has nothing at its beginning that could be read.
-    auto body = std::make_shared<QFile>(QStringLiteral("/proc/self/mem"));
+    auto body = std::make_shared<QFile>(u"/proc/self/mem"_s);
     ASSERT_TRUE(body->open(QIODevice::ReadOnly | QIODevice::Unbuffered));
     import.importDownload(body);
     scheduler.runPending();
-    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
     EXPECT_EQ(
         LogCapture::taken(), QStringList("quillon.vendors: Registry not read: Input/output error"));
 }
@@ -131,8 +133,8 @@ TEST_F(RegistryRefreshFault, FailsWithoutItsFolder)
     const LogCapture log;
     QDir(files.folder).removeRecursively();
     refresh(registryOf(15));
-    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
+    EXPECT_EQ(pane.state().vendorCount, "0 Vendor Identifiers"_L1);
     EXPECT_FALSE(QDir(files.folder).exists());
     expectIdle();
 }
@@ -141,9 +143,9 @@ TEST_F(RegistryRefreshFault, FailsWhereTheNewDatabaseCannotBeMade)
 {
     const LogCapture log;
     // Not empty, so that it is not removed for the new one.
-    QDir().mkpath(files.newDatabase() + QStringLiteral("/in the way"));
+    QDir().mkpath(files.newDatabase() + u"/in the way"_s);
     refresh(registryOf(15));
-    EXPECT_EQ(takeLabels().last(), QLatin1String("Parsing file failed..."));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
     EXPECT_EQ(database.count(), 10);
     EXPECT_TRUE(QFile::exists(files.registryText()));
     expectIdle();
@@ -183,7 +185,7 @@ TEST_F(RegistryRefreshFault, StopsAtTheInsertForWhichThereIsNoRoom)
         const FileSizeLimit limit(static_cast<rlim_t>(text.size()) + 4096);
         scheduler.runPending();
     }
-    EXPECT_THAT(LogCapture::taken().join(QLatin1Char('\n')).toStdString(),
+    EXPECT_THAT(LogCapture::taken().join(u'\n').toStdString(),
         ::testing::HasSubstr("quillon.vendors: Vendor not stored: "));
     expectParsingFailed();
 }

@@ -4,6 +4,8 @@
 #include "RegistryRefresh.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::Contains;
@@ -33,12 +35,12 @@ TEST_F(RegistryRefresh, ThatAddsNothingLeavesThePlainDate)
 TEST_F(RegistryRefresh, ThatAddsFiveNotesThemWithTheNewDate)
 {
     refresh(registryOf(15));
-    const QString note = stamp + QStringLiteral(" (added 5 new Identifiers)");
+    const QString note = stamp + u" (added 5 new Identifiers)"_s;
     EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), note);
     const QStringList said = takeLabels();
     EXPECT_EQ(said.last(), note);
     EXPECT_EQ(said.at(said.size() - 2), lastUpdated());
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("15 Vendor Identifiers"));
+    EXPECT_EQ(pane.state().vendorCount, "15 Vendor Identifiers"_L1);
     EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 15);
 }
 
@@ -72,10 +74,10 @@ TEST_F(RegistryRefresh, ShowsHowFarTheDownloadIs)
     expectDownloading();
     EXPECT_TRUE(pane.state().progressShown);
     EXPECT_EQ(pane.state().progress, 1'000'000.0F / 3'018'430.0F);
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 33.130% of 3.0MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 33.130% of 3.0MB"_L1);
     http.deliver(http.last(), QByteArray(16384, 'x'), 3'018'430);
     scheduler.runPending();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 33.673% of 3.0MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 33.673% of 3.0MB"_L1);
 }
 
 TEST_F(RegistryRefresh, ShowsTheLatestChunkWhileTheSizeIsUnknown)
@@ -83,10 +85,10 @@ TEST_F(RegistryRefresh, ShowsTheLatestChunkWhileTheSizeIsUnknown)
     pane.pressButton();
     http.deliver(http.last(), QByteArray(2'560'000, 'x'));
     scheduler.runPending();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 2.6MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 2.6MB"_L1);
     http.deliver(http.last(), QByteArray(16384, 'x'));
     scheduler.runPending();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 0.0MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 0.0MB"_L1);
     EXPECT_TRUE(pane.state().progressShown);
     EXPECT_EQ(pane.state().progress, -2'576'384.0F);
 }
@@ -95,7 +97,7 @@ TEST_F(RegistryRefresh, OfAnEmptyDownloadHasNoShareToShow)
 {
     pane.showProgress(0, 0, 0);
     EXPECT_EQ(pane.state().progress, 0.0F);
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Downloading... 0.000% of 0.0MB"));
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 0.000% of 0.0MB"_L1);
 }
 
 TEST_F(RegistryRefresh, DoesNotLookAtTheStatus)
@@ -128,7 +130,7 @@ TEST_F(RegistryRefresh, IsCancelledInTheMiddle)
     pane.pressButton();
     expectIdle();
     scheduler.runPending();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Download cancelled..."));
+    EXPECT_EQ(pane.state().updatedLabel, "Download cancelled..."_L1);
     EXPECT_EQ(database.count(), 10);
 }
 
@@ -144,7 +146,7 @@ TEST_F(RegistryRefresh, CancelledDuringTheImportResetsNowAndOnceMoreLater)
     const QStringList said = takeLabels();
     EXPECT_THAT(said, Contains("Processing data..."));
     EXPECT_THAT(said, Contains("Download cancelled..."));
-    EXPECT_EQ(said.last(), stamp + QStringLiteral(" (added 5 new Identifiers)"));
+    EXPECT_EQ(said.last(), stamp + u" (added 5 new Identifiers)"_s);
     EXPECT_EQ(database.count(), 15);
     expectIdle();
 }
@@ -152,8 +154,8 @@ TEST_F(RegistryRefresh, CancelledDuringTheImportResetsNowAndOnceMoreLater)
 TEST_F(RegistryRefresh, StartedAgainDuringAnImportWaitsForIt)
 {
     // Two texts, imported one after the other though both are there.
-    writeFile(root.filePath(QStringLiteral("first")), registryOf(20));
-    auto body = std::make_shared<QFile>(root.filePath(QStringLiteral("first")));
+    writeFile(root.filePath(u"first"_s), registryOf(20));
+    auto body = std::make_shared<QFile>(root.filePath(u"first"_s));
     ASSERT_TRUE(body->open(QIODevice::ReadOnly));
     this->import.importDownload(std::move(body));
     refresh(registryOf(30));
@@ -180,7 +182,7 @@ TEST_F(RegistryRefresh, GoesOnWithoutThoseWhoStartedIt)
     });
     scheduler.runPending();
     EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
-    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), QLatin1String("Yesterday"));
+    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), "Yesterday"_L1);
 }
 
 TEST_F(RegistryRefresh, EndsItsTransferWhenItGoes)
@@ -195,7 +197,7 @@ TEST_F(RegistryRefresh, EndsItsTransferWhenItGoes)
 
 TEST_F(RegistryRefresh, ImportsATextThatIsAlreadyThere)
 {
-    const QString path = root.filePath(QStringLiteral("another.csv"));
+    const QString path = root.filePath(u"another.csv"_s);
     writeFile(path, registryOf(15));
     this->import.parseDownloadedCSV(path);
     scheduler.runPending();

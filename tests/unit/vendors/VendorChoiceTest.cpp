@@ -7,6 +7,8 @@
 #include "devices/RandomAddress.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -18,7 +20,7 @@ protected:
     VendorChoiceTest()
     {
         makeLive(registryOf({{"001A2B", "Some Maker Inc."}, {"080030", "Another (Old) Maker"}}));
-        storeDevice(en0, {{record::current, QStringLiteral("00:11:22:33:44:55")}});
+        storeDevice(en0, {{record::current, u"00:11:22:33:44:55"_s}});
         storeDevice(en1, {{record::vendor, maker}});
         select(en0);
         loadList();
@@ -27,8 +29,8 @@ protected:
                 EXPECT_EQ(posted.object, nullptr);
                 announced << posted.userInfo;
                 // Whoever hears of it finds it stored.
-                EXPECT_EQ(stored(posted.userInfo.value(QStringLiteral("device")).toString()),
-                    posted.userInfo.value(QStringLiteral("newVendor")).toString());
+                EXPECT_EQ(stored(posted.userInfo.value(u"device"_s).toString()),
+                    posted.userInfo.value(u"newVendor"_s).toString());
             });
     }
 
@@ -41,10 +43,10 @@ protected:
             .toString();
     }
 
-    const QString en0 = QStringLiteral("en0");
-    const QString en1 = QStringLiteral("en1");
-    const QString maker = QStringLiteral("Some Maker Inc. (001A2B)");
-    const QString random = QStringLiteral("Random Address");
+    const QString en0 = u"en0"_s;
+    const QString en1 = u"en1"_s;
+    const QString maker = u"Some Maker Inc. (001A2B)"_s;
+    const QString random = u"Random Address"_s;
     QList<QVariantMap> announced;
 };
 
@@ -54,16 +56,15 @@ TEST_F(VendorChoiceTest, IsStoredForTheSelectedInterfaceAndAnnounced)
     choice.saveVendorSelection(maker);
     EXPECT_EQ(stored(en0), maker);
     EXPECT_EQ(settings.getDictionary(keys::deviceDict).value(en0).toMap().value(record::current),
-        QStringLiteral("00:11:22:33:44:55"));
+        u"00:11:22:33:44:55"_s);
     EXPECT_THAT(settings.journal(), ElementsAre("set deviceDict", "synchronize"));
-    EXPECT_THAT(announced, ElementsAre(QVariantMap{{QStringLiteral("device"), en0},
-                               {QStringLiteral("newVendor"), maker}}));
+    EXPECT_THAT(announced, ElementsAre(QVariantMap{{u"device"_s, en0}, {u"newVendor"_s, maker}}));
 }
 
 TEST_F(VendorChoiceTest, GivesRandomAddressesItsPrefix)
 {
-    choice.saveVendorSelection(QStringLiteral("Another (Old) Maker (080030)"));
-    EXPECT_EQ(vendorPrefix(stored(en0)), QStringLiteral("080030"));
+    choice.saveVendorSelection(u"Another (Old) Maker (080030)"_s);
+    EXPECT_EQ(vendorPrefix(stored(en0)), u"080030"_s);
     choice.saveVendorSelection(random);
     EXPECT_EQ(vendorPrefix(stored(en0)), std::nullopt);
 }
@@ -73,9 +74,9 @@ TEST_F(VendorChoiceTest, WithANameThatIsFarTooLongIsStoredCut)
     makeLive(registryOf({{"001A2B", QByteArray(5'000'000, 'A')}}));
     loadList();
     choice.updateVendorTableSelectionWithRow(0);
-    EXPECT_TRUE(stored(en0) == QString(4096, QLatin1Char('A')) + QLatin1String(" (001A2B)"))
+    EXPECT_TRUE(stored(en0) == QString(4096, u'A') + " (001A2B)"_L1)
         << "length " << stored(en0).size();
-    EXPECT_EQ(vendorPrefix(stored(en0)), QStringLiteral("001A2B"));
+    EXPECT_EQ(vendorPrefix(stored(en0)), u"001A2B"_s);
     EXPECT_EQ(list.rowOf(stored(en0)), 0);
 }
 
@@ -97,7 +98,7 @@ TEST_F(VendorChoiceTest, IsShownInTheField)
     EXPECT_EQ(field.state().text, maker);
     choice.updateVendorField(en0);
     EXPECT_EQ(field.state().text, random);
-    choice.updateVendorField(QStringLiteral("en7"));
+    choice.updateVendorField(u"en7"_s);
     EXPECT_EQ(field.state().text, random);
 }
 
@@ -110,7 +111,7 @@ TEST_F(VendorChoiceTest, IsRandomAddressInTheFieldWithoutADevice)
 
 TEST_F(VendorChoiceTest, IsSelectedInTheWholeList)
 {
-    list.filter(QStringLiteral("another"));
+    list.filter(u"another"_s);
     choice.setVendorSelectionForDevice(en1);
     EXPECT_EQ(list.rowCount(), 3);
     EXPECT_EQ(field.state().selectedRow, 2);
@@ -121,17 +122,17 @@ TEST_F(VendorChoiceTest, IsSelectedInTheWholeList)
 
 TEST_F(VendorChoiceTest, ThatIsNoLongerInTheListIsStillShownButNotSelected)
 {
-    storeDevice(en0, {{record::vendor, QStringLiteral("Gone Maker (ABCDEF)")}});
+    storeDevice(en0, {{record::vendor, u"Gone Maker (ABCDEF)"_s}});
     choice.updateVendorField(en0);
     choice.setVendorSelectionForDevice(en0);
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
-    EXPECT_EQ(field.state().text, QLatin1String("Gone Maker (ABCDEF)"));
+    EXPECT_EQ(field.state().text, "Gone Maker (ABCDEF)"_L1);
 }
 
 TEST_F(VendorChoiceTest, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
 {
     select(en1);
-    list.filter(QStringLiteral("another"));
+    list.filter(u"another"_s);
     loadList();
     EXPECT_EQ(list.rowCount(), 3);
     EXPECT_EQ(field.state().selectedRow, 2);
@@ -139,7 +140,7 @@ TEST_F(VendorChoiceTest, OfTheSelectedInterfaceIsSelectedWhenTheListIsRebuilt)
 
 TEST_F(VendorChoiceTest, IsTheRowOfWhatIsShown)
 {
-    list.filter(QStringLiteral("some"));
+    list.filter(u"some"_s);
     choice.updateVendorTableSelectionWithRow(0);
     EXPECT_EQ(stored(en0), maker);
     EXPECT_EQ(field.state().text, maker);
@@ -150,7 +151,7 @@ TEST_F(VendorChoiceTest, IsNoRowThatIsNotThere)
     for (const qsizetype row : {-1, 3, 1000}) {
         choice.updateVendorTableSelectionWithRow(row);
     }
-    list.filter(QStringLiteral("nothing like that"));
+    list.filter(u"nothing like that"_s);
     choice.updateVendorTableSelectionWithRow(0);
     EXPECT_EQ(stored(en0), QString());
     EXPECT_THAT(announced, IsEmpty());

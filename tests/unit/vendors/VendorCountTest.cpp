@@ -13,6 +13,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -42,7 +44,7 @@ protected:
 
 TEST_F(VendorCountTest, InstallsTheSeedAndCountsIt)
 {
-    QDir(root.filePath(QStringLiteral("share"))).removeRecursively();
+    QDir(root.filePath(u"share"_s)).removeRecursively();
     makeDatabase(files.seed, registryOf(12));
     count.createSupportFolderAndVendorDatabase();
     EXPECT_TRUE(readFile(files.liveDatabase()) == readFile(files.seed));
@@ -83,9 +85,9 @@ TEST_F(VendorCountTest, AreNoneWhenNothingCanBeInstalled)
 TEST_F(VendorCountTest, NoteTheFirstCountWithTheDateThatWasStored)
 {
     makeLive(registryOf(3));
-    setDate(QStringLiteral("Nov 21, 2026, 2:05 PM"));
+    setDate(u"Nov 21, 2026, 2:05 PM"_s);
     count.updateVendorCount();
-    EXPECT_EQ(date(), QLatin1String("Nov 21, 2026, 2:05 PM (added 3 new Identifiers)"));
+    EXPECT_EQ(date(), "Nov 21, 2026, 2:05 PM (added 3 new Identifiers)"_L1);
     EXPECT_THAT(
         said, ElementsAre("note: Nov 21, 2026, 2:05 PM (added 3 new Identifiers)", "count: 3"));
 }
@@ -94,30 +96,30 @@ TEST_F(VendorCountTest, ShowTwoBlanksBeforeASecondNote)
 {
     makeLive(registryOf(8));
     settings.set(keys::vendorCountValue, 3);
-    setDate(QStringLiteral("Yesterday (added 3 new Identifiers)"));
+    setDate(u"Yesterday (added 3 new Identifiers)"_s);
     count.updateVendorCount();
-    EXPECT_EQ(date(), QLatin1String("Yesterday  (added 5 new Identifiers)"));
+    EXPECT_EQ(date(), "Yesterday  (added 5 new Identifiers)"_L1);
 }
 
 TEST_F(VendorCountTest, LoseTheNullMarkerWithTheSecondNote)
 {
     makeLive(registryOf(3));
     count.updateVendorCount();
-    EXPECT_EQ(date(), QLatin1String("(null) (added 3 new Identifiers)"));
+    EXPECT_EQ(date(), "(null) (added 3 new Identifiers)"_L1);
     makeLive(registryOf(4));
     count.updateVendorCount();
-    EXPECT_EQ(date(), QLatin1String(" (added 1 new Identifiers)"));
+    EXPECT_EQ(date(), " (added 1 new Identifiers)"_L1);
 }
 
 TEST_F(VendorCountTest, NoteNothingWhenTheyAreAsManyOrFewer)
 {
     makeLive(registryOf(3));
-    setDate(QStringLiteral("Yesterday"));
+    setDate(u"Yesterday"_s);
     for (const int before : {3, 9}) {
         settings.set(keys::vendorCountValue, before);
         count.updateVendorCount();
         EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 3);
-        EXPECT_EQ(date(), QLatin1String("Yesterday"));
+        EXPECT_EQ(date(), "Yesterday"_L1);
     }
     EXPECT_THAT(said, ElementsAre("count: 3", "count: 3"));
 }
@@ -126,7 +128,7 @@ TEST_F(VendorCountTest, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
 {
     makeLive(registryOf(8));
     settings.set(keys::vendorCountValue, 8);
-    setDate(QStringLiteral("Yesterday"));
+    setDate(u"Yesterday"_s);
     {
         SQLite::Database other(
             QFile::encodeName(files.liveDatabase()).constData(), SQLite::OPEN_READWRITE);
@@ -139,7 +141,7 @@ TEST_F(VendorCountTest, StayAsManyAsTheyWereWhileAnotherProgramHasLockedThem)
     EXPECT_THAT(settings.journal(), IsEmpty());
     count.updateVendorCount();
     EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 8);
-    EXPECT_EQ(date(), QLatin1String("Yesterday")) << "none was added";
+    EXPECT_EQ(date(), "Yesterday"_L1) << "none was added";
     EXPECT_THAT(said, ElementsAre("count: 8", "count: 8", "count: 8"));
 }
 
@@ -154,7 +156,7 @@ TEST_F(VendorCountTest, AreNoneWhenTheirFileHasGone)
 TEST_F(VendorCountTest, AreFlushedBeforeTheyAreShown)
 {
     makeLive(registryOf(1));
-    setDate(QStringLiteral("x"));
+    setDate(u"x"_s);
     settings.clearJournal();
     count.updateVendorCount();
     EXPECT_THAT(settings.journal(),
@@ -184,11 +186,11 @@ TEST_F(VendorCountTest, AreReportedToNobodyWhoIsGone)
 TEST(VendorCountOfTheShippedDatabase, IsThatOfTheInstallationElseThatOfTheBuild)
 {
     const QTemporaryDir root;
-    const QString build = root.filePath(QStringLiteral("data/oui.db"));
-    const QString installed = root.filePath(QStringLiteral("share/quillon4/oui.db"));
-    const QString programs = root.filePath(QStringLiteral("bin"));
-    QDir().mkpath(root.filePath(QStringLiteral("data")));
-    QDir().mkpath(root.filePath(QStringLiteral("share/quillon4")));
+    const QString build = root.filePath(u"data/oui.db"_s);
+    const QString installed = root.filePath(u"share/quillon4/oui.db"_s);
+    const QString programs = root.filePath(u"bin"_s);
+    QDir().mkpath(root.filePath(u"data"_s));
+    QDir().mkpath(root.filePath(u"share/quillon4"_s));
     EXPECT_EQ(shippedVendorDatabase(programs), QString());
     writeFile(build, "x");
     EXPECT_EQ(shippedVendorDatabase(programs), build);

@@ -15,6 +15,8 @@
 #include <thread>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -27,7 +29,7 @@ protected:
     void expectEmptyAnswers() const
     {
         EXPECT_EQ(database.count(), 0);
-        EXPECT_FALSE(database.lookup(QStringLiteral("001A2B")));
+        EXPECT_FALSE(database.lookup(u"001A2B"_s));
         EXPECT_THAT(database.displayStrings(), IsEmpty());
     }
 
@@ -44,21 +46,21 @@ TEST_F(VendorDatabaseFile, FindsTheLastOfSeveralRows)
 {
     makeLive(
         registryOf({{"080030", "One"}, {"001A2B", "Two"}, {"080030", "Three"}, {"1", "Four"}}));
-    const auto found = database.lookup(QStringLiteral("080030"));
+    const auto found = database.lookup(u"080030"_s);
     ASSERT_TRUE(found);
-    EXPECT_EQ(found->organizationName, QStringLiteral("Three"));
-    EXPECT_EQ(found->organizationAddress, QStringLiteral("1 Long Road, Town"));
-    EXPECT_EQ(found->assignment, QStringLiteral("080030"));
-    EXPECT_EQ(found->registry, QStringLiteral("MA-L"));
-    EXPECT_FALSE(database.lookup(QStringLiteral("08003")));
+    EXPECT_EQ(found->organizationName, u"Three"_s);
+    EXPECT_EQ(found->organizationAddress, u"1 Long Road, Town"_s);
+    EXPECT_EQ(found->assignment, u"080030"_s);
+    EXPECT_EQ(found->registry, u"MA-L"_s);
+    EXPECT_FALSE(database.lookup(u"08003"_s));
 }
 
 TEST_F(VendorDatabaseFile, ComparesIdentifiersExactly)
 {
     makeLive(registryOf({{"00aa2b", "Lower"}}));
-    EXPECT_FALSE(database.lookup(QStringLiteral("00AA2B")));
-    EXPECT_FALSE(database.lookup(QStringLiteral("' or ''='")));
-    EXPECT_TRUE(database.lookup(QStringLiteral("00aa2b")));
+    EXPECT_FALSE(database.lookup(u"00AA2B"_s));
+    EXPECT_FALSE(database.lookup(u"' or ''='"_s));
+    EXPECT_TRUE(database.lookup(u"00aa2b"_s));
 }
 
 TEST_F(VendorDatabaseFile, ListsDisplayStringsInTheOrderOfTheTable)
@@ -72,7 +74,7 @@ TEST_F(VendorDatabaseFile, ShowsTheNullMarkerForWhatIsMissing)
 {
     makeLive("Assignment\n001A2B\n");
     EXPECT_THAT(database.displayStrings(), ElementsAre("(null) (001A2B)"));
-    EXPECT_EQ(vendorDisplayString({}, {}), QStringLiteral("(null) ((null))"));
+    EXPECT_EQ(vendorDisplayString({}, {}), u"(null) ((null))"_s);
 }
 
 TEST_F(VendorDatabaseFile, ReadsBytesThatAreNoTextAsReplacementCharacters)
@@ -93,14 +95,14 @@ TEST_F(VendorDatabaseFile, CutsTextsThatAreTooLongAtACharacter)
     const auto name = [this](const char *assignment) {
         return database.lookup(QString::fromLatin1(assignment))->organizationName.value();
     };
-    EXPECT_EQ(name("000001"), QString(4096, QLatin1Char('x')));
-    EXPECT_EQ(name("000002"), QString(4096, QLatin1Char('x')));
-    EXPECT_EQ(name("000003"), QString(4095, QLatin1Char('x')));
-    EXPECT_EQ(name("000004"), QString(4094, QLatin1Char('x')) + QString::fromUtf8(smiley));
+    EXPECT_EQ(name("000001"), QString(4096, u'x'));
+    EXPECT_EQ(name("000002"), QString(4096, u'x'));
+    EXPECT_EQ(name("000003"), QString(4095, u'x'));
+    EXPECT_EQ(name("000004"), QString(4094, u'x') + QString::fromUtf8(smiley));
     EXPECT_EQ(name("000005"), QString::fromUtf8(smiley).repeated(2048));
     EXPECT_EQ(name("000006"), QString::fromUtf8(sharp).repeated(4096));
-    EXPECT_EQ(name("000007"), QString(4095, QLatin1Char('x')) + QString::fromUtf8(sharp));
-    EXPECT_EQ(database.displayStrings().at(1), name("000001") + QLatin1String(" (000002)"));
+    EXPECT_EQ(name("000007"), QString(4095, u'x') + QString::fromUtf8(sharp));
+    EXPECT_EQ(database.displayStrings().at(1), name("000001") + " (000002)"_L1);
 }
 
 TEST_F(VendorDatabaseFile, TellsACountOfNothingFromNoAnswer)
@@ -213,9 +215,9 @@ TEST_F(VendorDatabaseFile, IsNotWrittenWhereThereIsNoRoom)
 {
     const LogCapture log;
     makeDatabase(files.newDatabase(), registryOf(7));
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), database.path()));
+    ASSERT_TRUE(QFile::link(u"/dev/full"_s, database.path()));
     EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
-    EXPECT_THAT(LogCapture::taken().join(QLatin1Char('\n')).toStdString(),
+    EXPECT_THAT(LogCapture::taken().join(u'\n').toStdString(),
         ::testing::HasSubstr("No space left on device"));
 }
 
@@ -284,10 +286,10 @@ TEST_F(VendorDatabaseFile, AnswersNothingWhileSomebodyWritesToIt)
 TEST_F(VendorDatabaseFile, LetsQuestionsWaitForARewritingThatTakesItsTime)
 {
     makeLive(registryOf(5));
-    makeDatabase(root.filePath(QStringLiteral("large.db")), registryOf(3000));
-    const QByteArray bytes = readFile(root.filePath(QStringLiteral("large.db")));
+    makeDatabase(root.filePath(u"large.db"_s), registryOf(3000));
+    const QByteArray bytes = readFile(root.filePath(u"large.db"_s));
     // A source that gives what the test lets it give.
-    const QByteArray pipe = QFile::encodeName(root.filePath(QStringLiteral("pipe")));
+    const QByteArray pipe = QFile::encodeName(root.filePath(u"pipe"_s));
     ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
     auto rewriting = std::async(
         std::launch::async, [&] { return database.rewriteFrom(QFile::decodeName(pipe)); });
@@ -309,8 +311,8 @@ TEST_F(VendorDatabaseFile, GivesWholeAnswersWhileItIsRewritten)
     // Copies of one handle, as the components have them.
     constexpr int fewer = 700;
     constexpr int more = 3000;
-    const QString small = root.filePath(QStringLiteral("small.db"));
-    const QString large = root.filePath(QStringLiteral("large.db"));
+    const QString small = root.filePath(u"small.db"_s);
+    const QString large = root.filePath(u"large.db"_s);
     makeDatabase(small, registryOf(fewer));
     makeDatabase(large, registryOf(more));
     makeLive(registryOf(fewer));
@@ -322,10 +324,10 @@ TEST_F(VendorDatabaseFile, GivesWholeAnswersWhileItIsRewritten)
         while (!ending) {
             const qlonglong count = copy.count();
             const qsizetype listed = copy.displayStrings().size();
-            const auto found = copy.lookup(QStringLiteral("000001"));
+            const auto found = copy.lookup(u"000001"_s);
             const bool whole = (count == fewer || count == more) &&
                                (listed == fewer || listed == more) && found &&
-                               found->organizationName == QStringLiteral("Maker 000001");
+                               found->organizationName == u"Maker 000001"_s;
             broken += whole ? 0 : 1;
             ++answers;
         }

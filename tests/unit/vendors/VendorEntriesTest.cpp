@@ -8,12 +8,14 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(VendorEntries, AnswerLikeTheFilterOfRecords)
 {
-    const QStringList texts = {QStringLiteral("Zed"), QString::fromUtf8("e\xCC\x81lan"),
-        QString::fromUtf8("\xC3\x89LAN"), QStringLiteral("el"), QStringLiteral("Elan")};
+    const QStringList texts = {u"Zed"_s, QString::fromUtf8("e\xCC\x81lan"),
+        QString::fromUtf8("\xC3\x89LAN"), u"el"_s, u"Elan"_s};
     const VendorEntries entries(texts);
     for (const char *const text : {"", "e", "\xC3\xA9", "EL", "e\xCC\x81", "elan", "z", "elanx"}) {
         const QString wanted = QString::fromUtf8(text);

@@ -5,6 +5,8 @@
 #include "VendorFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -72,10 +74,10 @@ TEST_F(VendorListTest, AreRebuiltOnceBySeveralCalls)
 TEST_F(VendorListTest, AreNarrowedByHowTheyBeginInAnyCase)
 {
     loadList();
-    list.filter(QStringLiteral("app"));
+    list.filter(u"app"_s);
     EXPECT_THAT(shown(),
         ElementsAre("Appl (000006)", "Apple (000003)", "Apple (000003)", "apple (000001)"));
-    list.filter(QStringLiteral("APPLE"));
+    list.filter(u"APPLE"_s);
     EXPECT_THAT(shown(), ElementsAre("Apple (000003)", "Apple (000003)", "apple (000001)"));
     list.clearFilter();
     EXPECT_EQ(list.rowCount(), 8);
@@ -84,7 +86,7 @@ TEST_F(VendorListTest, AreNarrowedByHowTheyBeginInAnyCase)
 TEST_F(VendorListTest, AreNarrowedWithoutRegardToDiacritics)
 {
     loadList();
-    list.filter(QStringLiteral("Apf"));
+    list.filter(u"Apf"_s);
     EXPECT_THAT(shown(), ElementsAre(QString::fromUtf8("\xC3\x84pfel (000004)")));
     list.filter(QString::fromUtf8("\xC3\xA3ppl\xC3\xA9 ("));
     EXPECT_THAT(shown(), ElementsAre("Apple (000003)", "Apple (000003)", "apple (000001)"));
@@ -93,9 +95,9 @@ TEST_F(VendorListTest, AreNarrowedWithoutRegardToDiacritics)
 TEST_F(VendorListTest, AreNotFoundByWhatStandsInside)
 {
     loadList();
-    list.filter(QStringLiteral("pple"));
+    list.filter(u"pple"_s);
     EXPECT_THAT(shown(), IsEmpty());
-    list.filter(QStringLiteral("Random"));
+    list.filter(u"Random"_s);
     EXPECT_THAT(shown(), ElementsAre("Random Address"));
 }
 
@@ -105,7 +107,7 @@ TEST_F(VendorListTest, KeepTheFilterWhenTheyAreRebuilt)
     VendorList own(scheduler, database);
     own.loadVendorField();
     scheduler.runPending();
-    own.filter(QStringLiteral("app"));
+    own.filter(u"app"_s);
     own.loadVendorField();
     scheduler.runPending();
     EXPECT_EQ(own.rowCount(), 4);
@@ -114,13 +116,13 @@ TEST_F(VendorListTest, KeepTheFilterWhenTheyAreRebuilt)
 TEST_F(VendorListTest, TellTheirRowFilteredOrNot)
 {
     loadList();
-    EXPECT_EQ(list.rowOf(QStringLiteral("Apple (000003)")), 1);
-    EXPECT_EQ(list.rowOf(QStringLiteral("Sam (000005)")), 4);
-    EXPECT_EQ(list.rowOf(QStringLiteral("Sam")), -1);
-    list.filter(QStringLiteral("apple"));
-    EXPECT_EQ(list.rowOf(QStringLiteral("apple (000001)")), 2);
-    EXPECT_EQ(list.rowOf(QStringLiteral("Sam (000005)")), -1);
-    EXPECT_EQ(list.rowOf(QStringLiteral("Zz")), -1);
+    EXPECT_EQ(list.rowOf(u"Apple (000003)"_s), 1);
+    EXPECT_EQ(list.rowOf(u"Sam (000005)"_s), 4);
+    EXPECT_EQ(list.rowOf(u"Sam"_s), -1);
+    list.filter(u"apple"_s);
+    EXPECT_EQ(list.rowOf(u"apple (000001)"_s), 2);
+    EXPECT_EQ(list.rowOf(u"Sam (000005)"_s), -1);
+    EXPECT_EQ(list.rowOf(u"Zz"_s), -1);
 }
 
 TEST_F(VendorListTest, AreReadForNobodyWhoIsGone)

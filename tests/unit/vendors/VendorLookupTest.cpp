@@ -5,6 +5,8 @@
 #include "VendorFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -36,20 +38,20 @@ protected:
 
 TEST_F(VendorLookupTest, IsLookedUpByItsFirstThreeOctetsInUpperCase)
 {
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
     EXPECT_THAT(data(), ElementsAre("Some Maker", "1 Long Road, Town", "001A2B", "MA-L"));
     EXPECT_THAT(button, ElementsAre(true));
 }
 
 TEST_F(VendorLookupTest, IsTheLastOfSeveral)
 {
-    lookup.updateVendor(QStringLiteral("08:00:30:00:00:01"));
-    EXPECT_EQ(data().first(), QLatin1String("Two"));
+    lookup.updateVendor(u"08:00:30:00:00:01"_s);
+    EXPECT_EQ(data().first(), "Two"_L1);
 }
 
 TEST_F(VendorLookupTest, IsNotKnownWithoutARow)
 {
-    lookup.updateVendor(QStringLiteral("ab:cd:ef:33:44:55"));
+    lookup.updateVendor(u"ab:cd:ef:33:44:55"_s);
     EXPECT_THAT(data(),
         ElementsAre("No Vendor Information available...", "Unknown...", "ABCDEF", "Unknown..."));
     EXPECT_THAT(button, ElementsAre(false));
@@ -58,46 +60,44 @@ TEST_F(VendorLookupTest, IsNotKnownWithoutARow)
 TEST_F(VendorLookupTest, IsNotKnownWithoutADatabase)
 {
     QFile::remove(files.liveDatabase());
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
-    EXPECT_EQ(data().first(), QLatin1String("No Vendor Information available..."));
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
+    EXPECT_EQ(data().first(), "No Vendor Information available..."_L1);
     EXPECT_FALSE(QFile::exists(files.liveDatabase()));
 }
 
 TEST_F(VendorLookupTest, StaysPendingForATextThatIsTooShort)
 {
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
     button.clear();
     for (const char *const text : {"", "00:1a"}) {
         lookup.updateVendor(QString::fromLatin1(text));
         EXPECT_THAT(data(), ElementsAre("Getting Vendor infomation...", "", "", ""));
     }
     EXPECT_THAT(button, IsEmpty());
-    EXPECT_EQ(settings.journal().last(), QLatin1String("synchronize"));
+    EXPECT_EQ(settings.journal().last(), "synchronize"_L1);
 }
 
 TEST_F(VendorLookupTest, IsLookedUpByWhateverStandsThere)
 {
-    lookup.updateVendor(QStringLiteral("no-hex and more"));
+    lookup.updateVendor(u"no-hex and more"_s);
     EXPECT_THAT(data(), ElementsAre("Odd", "1 Long Road, Town", "NO-HEX", "MA-L"));
-    lookup.updateVendor(QStringLiteral("00-1a-2b-33-44-55"));
-    EXPECT_EQ(data().at(2), QLatin1String("00-1A-"));
-    lookup.updateVendor(QStringLiteral(":1:2:3"));
-    EXPECT_EQ(data().at(2), QLatin1String("123"));
+    lookup.updateVendor(u"00-1a-2b-33-44-55"_s);
+    EXPECT_EQ(data().at(2), "00-1A-"_L1);
+    lookup.updateVendor(u":1:2:3"_s);
+    EXPECT_EQ(data().at(2), "123"_L1);
 }
 
 TEST_F(VendorLookupTest, LeavesOtherKeysOfTheRecordAlone)
 {
-    settings.set(
-        keys::currentVendorData, QVariantMap{{QStringLiteral("other"), QStringLiteral("kept")}});
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
-    EXPECT_EQ(settings.getDictionary(keys::currentVendorData).value(QStringLiteral("other")),
-        QStringLiteral("kept"));
+    settings.set(keys::currentVendorData, QVariantMap{{u"other"_s, u"kept"_s}});
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
+    EXPECT_EQ(settings.getDictionary(keys::currentVendorData).value(u"other"_s), u"kept"_s);
 }
 
 TEST_F(VendorLookupTest, MayHaveARowThatHoldsNothing)
 {
     makeLive("Assignment\n001A2B\n");
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
     EXPECT_THAT(data(), ElementsAre("", "", "001A2B", ""));
     EXPECT_THAT(button, ElementsAre(true));
 }
@@ -107,17 +107,17 @@ TEST_F(VendorLookupTest, MayHaveARowWhoseTextsAreFarTooLong)
     const QByteArray long1(5'000'000, 'x');
     makeLive("Assignment,Organization Name,Organization Address,Registry\n001A2B," + long1 + ',' +
              long1 + ',' + long1 + '\n');
-    lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55"));
-    const QString cut(4096, QLatin1Char('x'));
-    EXPECT_TRUE(data() == (QStringList{cut, cut, QStringLiteral("001A2B"), cut}))
+    lookup.updateVendor(u"00:1a:2b:33:44:55"_s);
+    const QString cut(4096, u'x');
+    EXPECT_TRUE(data() == (QStringList{cut, cut, u"001A2B"_s, cut}))
         << "lengths " << data().at(0).size() << ' ' << data().at(1).size() << ' '
         << data().at(3).size();
 }
 
 TEST_F(VendorLookupTest, IsShownOnTheMainThreadWhoeverAsks)
 {
-    scheduler.asBackground([this] { lookup.updateVendor(QStringLiteral("00:1a:2b:33:44:55")); });
-    EXPECT_EQ(data().first(), QLatin1String("Some Maker"));
+    scheduler.asBackground([this] { lookup.updateVendor(u"00:1a:2b:33:44:55"_s); });
+    EXPECT_EQ(data().first(), "Some Maker"_L1);
     EXPECT_THAT(button, IsEmpty());
     scheduler.runPending();
     EXPECT_THAT(button, ElementsAre(true));

@@ -12,6 +12,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -33,7 +35,7 @@ protected:
         while (statement.executeStep()) {
             for (int i = 0; i < statement.getColumnCount(); ++i) {
                 const auto column = statement.getColumn(i);
-                texts << (column.isNull() ? QStringLiteral("NULL")
+                texts << (column.isNull() ? u"NULL"_s
                                           : QString::fromUtf8(column.getText(), column.getBytes()));
             }
         }
@@ -47,9 +49,9 @@ TEST_F(VendorTable, HasExactlyItsColumnsAndNoIndex)
 {
     ASSERT_TRUE(createTempDbFile(path));
     EXPECT_THAT(ask("select sql from sqlite_master where name = 'vendor'"),
-        ElementsAre(QStringLiteral(
-            "CREATE TABLE vendor (id integer primary key autoincrement not null, Assignment text, "
-            "Organization_Address text, Organization_Name text, Registry text)")));
+        ElementsAre(
+            u"CREATE TABLE vendor (id integer primary key autoincrement not null, Assignment text, "
+            "Organization_Address text, Organization_Name text, Registry text)"_s));
     EXPECT_EQ(ask("select count(*) from sqlite_master where type = 'index'"), QStringList("0"));
     EXPECT_EQ(ask("select count(*) from vendor"), QStringList("0"));
 }
@@ -66,7 +68,7 @@ TEST_F(VendorTable, TakesThePlaceOfAFileThatIsThere)
 TEST_F(VendorTable, CannotBeMadeWithoutItsFolder)
 {
     const LogCapture log;
-    EXPECT_FALSE(createTempDbFile(root.filePath(QStringLiteral("nowhere/temp.db"))));
+    EXPECT_FALSE(createTempDbFile(root.filePath(u"nowhere/temp.db"_s)));
     EXPECT_FALSE(createTempDbFile(files.folder));
 }
 
@@ -107,7 +109,7 @@ TEST_F(VendorTable, IsNotMadeOfATextWithoutRecords)
         EXPECT_FALSE(fill(text)) << text;
         EXPECT_FALSE(QFile::exists(path)) << text;
     }
-    EXPECT_FALSE(fillVendorTable(root.filePath(QStringLiteral("nowhere.csv")), path));
+    EXPECT_FALSE(fillVendorTable(root.filePath(u"nowhere.csv"_s), path));
     EXPECT_FALSE(fillVendorTable(files.folder, path));
 }
 
@@ -152,9 +154,9 @@ TEST_F(VendorTable, StopsAtTheFirstRowThatCannotBeStored)
 TEST_F(VendorTable, CannotBeFilledWithoutAFile)
 {
     const LogCapture log;
-    VendorRows rows(root.filePath(QStringLiteral("nowhere.db")));
+    VendorRows rows(root.filePath(u"nowhere.db"_s));
     EXPECT_FALSE(rows.insert({}));
-    EXPECT_FALSE(QFile::exists(root.filePath(QStringLiteral("nowhere.db"))));
+    EXPECT_FALSE(QFile::exists(root.filePath(u"nowhere.db"_s)));
 }
 
 TEST_F(VendorTable, GivesTheSameBytesForTheSameRegistry)
@@ -163,7 +165,7 @@ TEST_F(VendorTable, GivesTheSameBytesForTheSameRegistry)
     const QByteArray first = readFile(path);
     ASSERT_TRUE(fill(registryOf(5000)));
     EXPECT_TRUE(readFile(path) == first);
-    EXPECT_FALSE(QFile::exists(path + QStringLiteral("-journal")));
+    EXPECT_FALSE(QFile::exists(path + u"-journal"_s));
 }
 
 } // namespace

@@ -14,6 +14,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int longestLogMessage = 1000;
@@ -32,8 +34,7 @@ void callBus(const QDBusConnection &bus, QObject *context, const QDBusMessage &c
 {
     if (!bus.isConnected()) {
         // Without a bus there is no pending call that could answer later.
-        const auto error =
-            QDBusMessage::createError(QDBusError::Disconnected, QStringLiteral("No message bus"));
+        const auto error = QDBusMessage::createError(QDBusError::Disconnected, u"No message bus"_s);
         QMetaObject::invokeMethod(
             context, [reply = std::move(reply), error] { reply(error); }, Qt::QueuedConnection);
         return;
@@ -49,9 +50,9 @@ void callBus(const QDBusConnection &bus, QObject *context, const QDBusMessage &c
 
 QDBusMessage nameHasOwner(const QString &name)
 {
-    const QString bus = QStringLiteral("org.freedesktop.DBus");
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QStringLiteral("NameHasOwner"));
+    const QString bus = u"org.freedesktop.DBus"_s;
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"NameHasOwner"_s);
     question << name;
     return question;
 }

@@ -11,14 +11,16 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr auto busLimit = 5s;
 
-const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local");
-const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
+const QString localPath = u"/org/freedesktop/DBus/Local"_s;
+const QString localInterface = u"org.freedesktop.DBus.Local"_s;
 
 } // namespace
 
@@ -50,14 +52,14 @@ void BusPeer::resume()
     if (m_address.name.isEmpty()) {
         // Its calls fail as those of any connection that is not open.
         QMetaObject::invokeMethod(
-            this, [self = shared_from_this()] { self->invalidate(QStringLiteral("No such peer")); },
+            this, [self = shared_from_this()] { self->invalidate(u"No such peer"_s); },
             Qt::QueuedConnection);
         return;
     }
     m_state = State::Resumed;
     watch();
     // A well-known name is started on demand; a unique one that is gone never comes back.
-    if (m_address.name.startsWith(QLatin1Char(':'))) {
+    if (m_address.name.startsWith(u':')) {
         askWhetherThere();
     }
 }
@@ -69,11 +71,10 @@ void BusPeer::watch()
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
         [this](const QString &, const QString &oldOwner) {
             if (!oldOwner.isEmpty()) {
-                invalidate(QStringLiteral("The program left the bus"));
+                invalidate(u"The program left the bus"_s);
             }
         });
-    m_bus.connect(QString(), localPath, localInterface, QStringLiteral("Disconnected"), this,
-        SLOT(busLost()));
+    m_bus.connect(QString(), localPath, localInterface, u"Disconnected"_s, this, SLOT(busLost()));
 }
 
 void BusPeer::askWhetherThere()
@@ -81,7 +82,7 @@ void BusPeer::askWhetherThere()
     const QDBusMessage question = nameHasOwner(m_address.name);
     callBus(m_bus, this, question, busLimit, [this](const QDBusMessage &answer) {
         if (answer.type() != QDBusMessage::ReplyMessage || !answer.arguments().value(0).toBool()) {
-            invalidate(QStringLiteral("The program is not on the bus"));
+            invalidate(u"The program is not on the bus"_s);
         }
     });
 }
@@ -93,8 +94,8 @@ void BusPeer::call(const QString &method, const QVariantList &arguments,
     m_pending[number] = std::move(reply);
     const auto self = shared_from_this();
     if (m_state != State::Resumed) {
-        const auto error = QDBusMessage::createError(
-            QDBusError::Disconnected, QStringLiteral("The connection is not open"));
+        const auto error =
+            QDBusMessage::createError(QDBusError::Disconnected, u"The connection is not open"_s);
         QMetaObject::invokeMethod(
             this, [self, number, error] { self->finish(number, error); }, Qt::QueuedConnection);
         return;
@@ -116,7 +117,7 @@ void BusPeer::finish(quint64 number, const QDBusMessage &answer)
 
 void BusPeer::busLost()
 {
-    invalidate(QStringLiteral("The message bus is gone"));
+    invalidate(u"The message bus is gone"_s);
 }
 
 void BusPeer::invalidate(const QString &why)

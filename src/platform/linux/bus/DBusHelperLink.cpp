@@ -15,6 +15,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using std::chrono::milliseconds;
@@ -27,8 +29,7 @@ constexpr qsizetype longestName = 255;
 
 bool isUniqueName(const QString &name)
 {
-    static const QRegularExpression unique(
-        QStringLiteral("\\A:[A-Za-z0-9_-]+(\\.[A-Za-z0-9_-]+)+\\z"));
+    static const QRegularExpression unique(u"\\A:[A-Za-z0-9_-]+(\\.[A-Za-z0-9_-]+)+\\z"_s);
     return name.size() <= longestName && unique.match(name).hasMatch();
 }
 
@@ -42,7 +43,7 @@ Error transportError(const QDBusMessage &message)
 {
     return message.type() == QDBusMessage::ErrorMessage
                ? busError(message)
-               : Error{busErrorDomain, 0, QStringLiteral("The answer is not as agreed")};
+               : Error{busErrorDomain, 0, u"The answer is not as agreed"_s};
 }
 
 /// What both connections do alike.
@@ -190,7 +191,7 @@ Result<QByteArray> DBusHelperLink::createAuthorization()
 {
     const QByteArray authorization = m_random.bytes(contract::authorizationSize);
     if (authorization.size() != contract::authorizationSize) {
-        return Error{posixErrorDomain, EIO, QStringLiteral("The random source failed")};
+        return Error{posixErrorDomain, EIO, u"The random source failed"_s};
     }
     return authorization;
 }

@@ -12,14 +12,16 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr auto serverLimit = 25s; // a server that is started on demand may take its time
 
-const QString serverName = QStringLiteral("org.freedesktop.Notifications");
-const QString serverPath = QStringLiteral("/org/freedesktop/Notifications");
+const QString serverName = u"org.freedesktop.Notifications"_s;
+const QString serverPath = u"/org/freedesktop/Notifications"_s;
 
 QDBusMessage serverCall(const QString &method)
 {
@@ -28,7 +30,7 @@ QDBusMessage serverCall(const QString &method)
 
 Error malformedAnswer()
 {
-    return {busErrorDomain, 0, QStringLiteral("The notification server's answer is malformed")};
+    return {busErrorDomain, 0, u"The notification server's answer is malformed"_s};
 }
 
 } // namespace
@@ -37,7 +39,7 @@ FreedesktopNotifications::FreedesktopNotifications(Scheduler &scheduler, QDBusCo
     : m_scheduler(scheduler)
     , m_bus(std::move(bus))
 {
-    m_bus.connect(serverName, serverPath, serverName, QStringLiteral("NotificationClosed"), this,
+    m_bus.connect(serverName, serverPath, serverName, u"NotificationClosed"_s, this,
         SLOT(closed(quint32, quint32)));
     auto *watcher =
         new QDBusServiceWatcher(serverName, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
@@ -54,7 +56,7 @@ FreedesktopNotifications::~FreedesktopNotifications()
 
 void FreedesktopNotifications::requestAlertAuthorization(AuthorizationReply reply)
 {
-    callBus(m_bus, this, serverCall(QStringLiteral("GetCapabilities")), serverLimit,
+    callBus(m_bus, this, serverCall(u"GetCapabilities"_s), serverLimit,
         [reply = std::move(reply)](const QDBusMessage &answer) {
             if (answer.type() == QDBusMessage::ReplyMessage) {
                 reply(true, std::nullopt);
@@ -103,7 +105,7 @@ void FreedesktopNotifications::withCapabilities(CapabilityUse use)
         use(std::nullopt);
         return;
     }
-    callBus(m_bus, this, serverCall(QStringLiteral("GetCapabilities")), serverLimit,
+    callBus(m_bus, this, serverCall(u"GetCapabilities"_s), serverLimit,
         [this, use = std::move(use)](const QDBusMessage &answer) {
             if (answer.type() != QDBusMessage::ReplyMessage) {
                 use(busError(answer));
@@ -128,18 +130,16 @@ void FreedesktopNotifications::show(const UserNotificationRequest &request, cons
 QDBusMessage FreedesktopNotifications::notifyCall(
     const UserNotificationRequest &request, quint32 replaces) const
 {
-    const bool hasMarkup =
-        m_capabilities && m_capabilities->contains(QStringLiteral("body-markup"));
-    QVariantMap hints{
-        {QStringLiteral("desktop-entry"), QString::fromLatin1(contract::applicationName)}};
+    const bool hasMarkup = m_capabilities && m_capabilities->contains(u"body-markup"_s);
+    QVariantMap hints{{u"desktop-entry"_s, QString::fromLatin1(contract::applicationName)}};
     if (request.defaultSound) {
-        hints.insert(QStringLiteral("sound-name"), QStringLiteral("message-new-instant"));
+        hints.insert(u"sound-name"_s, u"message-new-instant"_s);
     } else {
-        hints.insert(QStringLiteral("suppress-sound"), true);
+        hints.insert(u"suppress-sound"_s, true);
     }
     const int serversOwnTime = -1;
-    QDBusMessage call = serverCall(QStringLiteral("Notify"));
-    call << QStringLiteral("Quillon") << replaces << QString::fromLatin1(contract::applicationName)
+    QDBusMessage call = serverCall(u"Notify"_s);
+    call << u"Quillon"_s << replaces << QString::fromLatin1(contract::applicationName)
          << request.title << (hasMarkup ? request.body.toHtmlEscaped() : request.body)
          << QStringList() << hints << serversOwnTime;
     return call;
@@ -150,7 +150,7 @@ void FreedesktopNotifications::shown(
 {
     const auto current = m_delivered.find(identifier);
     const bool isCurrent = current != m_delivered.end() && current->number == number;
-    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QLatin1String("u")) {
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != "u"_L1) {
         if (isCurrent) {
             m_delivered.erase(current);
         }
@@ -169,7 +169,7 @@ void FreedesktopNotifications::shown(
 
 void FreedesktopNotifications::close(quint32 serverId)
 {
-    QDBusMessage call = serverCall(QStringLiteral("CloseNotification"));
+    QDBusMessage call = serverCall(u"CloseNotification"_s);
     call.setAutoStartService(false);
     call << serverId;
     m_bus.send(call);

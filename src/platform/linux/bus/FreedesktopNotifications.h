@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/Scheduler.h"
-#include "platform/UserNotificationCenter.h"
+#include "platform/desktop/UserNotificationCenter.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -21,16 +21,18 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr auto activationLimit = 10s;
 
-const QString applicationPath = QStringLiteral("/com/orvandel/Quillon4");
+const QString applicationPath = u"/com/orvandel/Quillon4"_s;
 
-const QString activationToken = QStringLiteral("activation-token");
-const QString startupId = QStringLiteral("desktop-startup-id");
+const QString activationToken = u"activation-token"_s;
+const QString startupId = u"desktop-startup-id"_s;
 
 /// What the process was started with. Qt takes the startup id of X11 out of the environment before
 /// anybody else sees it; the kernel keeps the environment of the start.
@@ -39,7 +41,7 @@ QString givenAtStart(const QByteArray &name)
     if (const QString value = qEnvironmentVariable(name.constData()); !value.isEmpty()) {
         return value;
     }
-    QFile start(QStringLiteral("/proc/self/environ"));
+    QFile start(u"/proc/self/environ"_s);
     if (start.open(QIODevice::ReadOnly)) {
         const auto variables = start.readAll().split('\0');
         for (const QByteArray &variable : variables) {
@@ -81,10 +83,10 @@ void offerToWindows(const QString &token)
 void raiseUnderX11(const QString &id)
 {
     auto *gui = qobject_cast<QGuiApplication *>(QCoreApplication::instance());
-    const qsizetype mark = id.lastIndexOf(QLatin1String("_TIME"));
+    const qsizetype mark = id.lastIndexOf("_TIME"_L1);
     bool known = false;
     const uint time = mark < 0 ? 0 : id.mid(mark + 5).toUInt(&known);
-    if (gui == nullptr || QGuiApplication::platformName() != QLatin1String("xcb") || !known) {
+    if (gui == nullptr || QGuiApplication::platformName() != "xcb"_L1 || !known) {
         return;
     }
     xcb_connection_t *x = gui->nativeInterface<QNativeInterface::QX11Application>()->connection();
@@ -183,7 +185,7 @@ SessionInstance::Claim SessionInstance::claim()
 void SessionInstance::activateOther(std::function<void(bool)> done)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(QLatin1String(contract::applicationName),
-        applicationPath, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+        applicationPath, u"org.freedesktop.Application"_s, u"Activate"_s);
     call << platformData();
     call.setAutoStartService(false);
     callBus(

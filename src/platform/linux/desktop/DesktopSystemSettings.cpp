@@ -10,6 +10,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A desktop by its registered name, its settings program, and the page to open there.
@@ -21,10 +23,10 @@ struct SettingsProgram
 };
 
 constexpr SettingsProgram settingsPrograms[] = {
-    {QLatin1String("GNOME"), QLatin1String("gnome-control-center"), QLatin1String("location")},
-    {QLatin1String("Unity"), QLatin1String("gnome-control-center"), QLatin1String("location")},
-    {QLatin1String("Budgie"), QLatin1String("budgie-control-center"), QLatin1String("location")},
-    {QLatin1String("KDE"), QLatin1String("systemsettings"), QLatin1String("")},
+    {"GNOME"_L1, "gnome-control-center"_L1, "location"_L1},
+    {"Unity"_L1, "gnome-control-center"_L1, "location"_L1},
+    {"Budgie"_L1, "budgie-control-center"_L1, "location"_L1},
+    {"KDE"_L1, "systemsettings"_L1, ""_L1},
 };
 
 bool startDetached(const QString &program, const QStringList &arguments)
@@ -42,7 +44,7 @@ DesktopSystemSettings::DesktopSystemSettings(Launch launch)
 bool DesktopSystemSettings::openLocationServices()
 {
     const auto desktops =
-        qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+        qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
     for (const QString &desktop : desktops) {
         for (const SettingsProgram &settings : settingsPrograms) {
             if (desktop.compare(settings.desktop, Qt::CaseInsensitive) != 0) {

@@ -12,15 +12,17 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString appearance = QStringLiteral("org.freedesktop.appearance");
-const QString colorScheme = QStringLiteral("color-scheme");
+const QString service = u"org.freedesktop.portal.Desktop"_s;
+const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString interface = u"org.freedesktop.portal.Settings"_s;
+const QString appearance = u"org.freedesktop.appearance"_s;
+const QString colorScheme = u"color-scheme"_s;
 
 // The portal may have to be started first.
 constexpr auto answerLimit = 25s;
@@ -35,11 +37,10 @@ void PortalColorScheme::watch(std::function<void(ColorScheme)> observer)
 {
     m_observer = std::move(observer);
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-        SLOT(settingChanged(QDBusMessage)));
+    bus.connect(
+        service, path, interface, u"SettingChanged"_s, this, SLOT(settingChanged(QDBusMessage)));
 
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
     call.setArguments({appearance, colorScheme});
     callBus(bus, this, call, answerLimit, [this](const QDBusMessage &answer) {
         if (answer.type() == QDBusMessage::ReplyMessage) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/ColorSchemeSource.h"
+#include "platform/desktop/ColorSchemeSource.h"
 
 #include <QDBusMessage>
 #include <QObject>

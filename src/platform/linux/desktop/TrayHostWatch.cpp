@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -20,9 +22,9 @@ using namespace std::chrono_literals;
 // A watcher that says nothing for so long has no tray to show us in. At login it may be slow.
 constexpr auto answerLimit = 25s;
 
-const QString service = QStringLiteral("org.kde.StatusNotifierWatcher");
-const QString path = QStringLiteral("/StatusNotifierWatcher");
-const QString interface = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString service = u"org.kde.StatusNotifierWatcher"_s;
+const QString path = u"/StatusNotifierWatcher"_s;
+const QString interface = u"org.kde.StatusNotifierWatcher"_s;
 
 } // namespace
 
@@ -48,8 +50,8 @@ void TrayHostWatch::watch(std::function<void(bool available)> observer)
 void TrayHostWatch::ask()
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call.setArguments({interface, QStringLiteral("IsStatusNotifierHostRegistered")});
+        service, path, u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    call.setArguments({interface, u"IsStatusNotifierHostRegistered"_s});
     // The question alone must not start a tray that the user does not have.
     call.setAutoStartService(false);
     const quint64 question = ++m_question;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/TrayHost.h"
+#include "platform/desktop/TrayHost.h"
 
 #include <QObject>
 #include <QVariantMap>

@@ -12,6 +12,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Free
@@ -76,7 +78,7 @@ void X11TaskBar::setSkipped(quintptr window, bool skipped)
     // Asked of the platform itself, not of the environment: an X server may be there and not be
     // ours.
     auto *application = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (application == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if (application == nullptr || QGuiApplication::platformName() != "xcb"_L1) {
         return;
     }
     xcb_connection_t *x = application->connection();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/TaskBar.h"
+#include "platform/desktop/TaskBar.h"
 
 namespace quillon {
 

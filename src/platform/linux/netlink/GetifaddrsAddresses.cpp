@@ -33,7 +33,7 @@ QList<InterfaceAddresses::Entry> GetifaddrsAddresses::ipv4() const
         std::array<char, INET_ADDRSTRLEN> dotted{};
         inet_ntop(AF_INET, &address.sin_addr, dotted.data(), dotted.size());
         // Secondary addresses may carry a label such as "eth0:1" instead of the interface name.
-        const QString device = QString::fromUtf8(entry->ifa_name).section(QLatin1Char(':'), 0, 0);
+        const QString device = QString::fromUtf8(entry->ifa_name).section(u':', 0, 0);
         entries.append({device, QString::fromLatin1(dotted.data())});
     }
     return entries;

@@ -13,6 +13,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using LinkAttributes = NetlinkAttributes<IFLA_MAX>;
@@ -130,7 +132,7 @@ bool isActive(const LinkInfo &link)
 
 QString statusText(const LinkInfo &link)
 {
-    return isActive(link) ? QStringLiteral("active") : QStringLiteral("inactive");
+    return isActive(link) ? u"active"_s : u"inactive"_s;
 }
 
 QString addressText(ByteSpan octets)

@@ -16,6 +16,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 longestUevent = 4096;
@@ -92,8 +94,8 @@ InterfaceInfo NetlinkHost::info(const QString &device)
 
 HardwareInfo NetlinkHost::hardwareInfo(const LinkInfo &link) const
 {
-    const QString folder = m_sysfs + QLatin1Char('/') + link.name;
-    QFile uevent(folder + QLatin1String("/uevent"));
+    const QString folder = m_sysfs + u'/' + link.name;
+    QFile uevent(folder + "/uevent"_L1);
     if (!uevent.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return {};
     }
@@ -103,7 +105,7 @@ HardwareInfo NetlinkHost::hardwareInfo(const LinkInfo &link) const
     }
     // Some drivers outside the kernel's tree name no device type.
     hardware->hasWirelessPhy =
-        hardware->deviceType.isEmpty() && QFileInfo::exists(folder + QLatin1String("/phy80211"));
+        hardware->deviceType.isEmpty() && QFileInfo::exists(folder + "/phy80211"_L1);
     return *hardware;
 }
 

@@ -12,16 +12,16 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Bridges that container engines and virtual machine monitors make for themselves.
-constexpr std::array machineMadeBridges{QLatin1String("docker"), QLatin1String("virbr"),
-    QLatin1String("lxcbr"), QLatin1String("lxdbr"), QLatin1String("incusbr"), QLatin1String("cni"),
-    QLatin1String("podman"), QLatin1String("waydroid"), QLatin1String("vmnet"),
-    QLatin1String("mpqemubr"), QLatin1String("kube-")};
+constexpr std::array machineMadeBridges{"docker"_L1, "virbr"_L1, "lxcbr"_L1, "lxdbr"_L1,
+    "incusbr"_L1, "cni"_L1, "podman"_L1, "waydroid"_L1, "vmnet"_L1, "mpqemubr"_L1, "kube-"_L1};
 
 // Host-side interfaces of virtual machine monitors whose drivers name no kind.
-constexpr std::array machineMadeAdapters{QLatin1String("vmnet"), QLatin1String("vboxnet")};
+constexpr std::array machineMadeAdapters{"vmnet"_L1, "vboxnet"_L1};
 
 template <typename Prefixes>
 bool beginsWithOneOf(const QString &name, const Prefixes &prefixes)
@@ -32,44 +32,43 @@ bool beginsWithOneOf(const QString &name, const Prefixes &prefixes)
 
 bool isMadeByAPerson(const QString &bridge)
 {
-    static const QRegularExpression dockerNetwork(QStringLiteral("\\Abr-[0-9a-f]{12}\\z"));
+    static const QRegularExpression dockerNetwork(u"\\Abr-[0-9a-f]{12}\\z"_s);
     return !beginsWithOneOf(bridge, machineMadeBridges) && !dockerNetwork.match(bridge).hasMatch();
 }
 
 // A container's uplink carries the name of a network card; the host's end of it never does.
 bool isNamedAsNetworkCard(const QString &name)
 {
-    return name.startsWith(QLatin1String("en")) || name.startsWith(QLatin1String("eth"));
+    return name.startsWith("en"_L1) || name.startsWith("eth"_L1);
 }
 
 QString softwarePortName(const LinkInfo &link)
 {
     if (link.kind == "bridge") {
-        return isMadeByAPerson(link.name) ? QStringLiteral("Bridge") : QString();
+        return isMadeByAPerson(link.name) ? u"Bridge"_s : QString();
     }
     if (link.kind == "veth") {
-        return isNamedAsNetworkCard(link.name) ? QStringLiteral("Ethernet") : QString();
+        return isNamedAsNetworkCard(link.name) ? u"Ethernet"_s : QString();
     }
     // The ports of a built-in switch are hardware although a software driver names them.
-    return link.kind == "dsa" ? QStringLiteral("Ethernet") : QString();
+    return link.kind == "dsa" ? u"Ethernet"_s : QString();
 }
 
 QString hardwarePortName(const LinkInfo &link, const HardwareInfo &hardware)
 {
-    if (hardware.deviceType == QLatin1String("wlan") || hardware.hasWirelessPhy) {
-        return QStringLiteral("Wi-Fi");
+    if (hardware.deviceType == "wlan"_L1 || hardware.hasWirelessPhy) {
+        return u"Wi-Fi"_s;
     }
-    if (hardware.deviceType == QLatin1String("wwan") ||
-        beginsWithOneOf(link.name, machineMadeAdapters)) {
+    if (hardware.deviceType == "wwan"_L1 || beginsWithOneOf(link.name, machineMadeAdapters)) {
         return {};
     }
-    if (hardware.deviceType == QLatin1String("bluetooth")) {
-        return QStringLiteral("Bluetooth PAN");
+    if (hardware.deviceType == "bluetooth"_L1) {
+        return u"Bluetooth PAN"_s;
     }
     if (link.parentBus == "thunderbolt") {
-        return QStringLiteral("Thunderbolt Ethernet");
+        return u"Thunderbolt Ethernet"_s;
     }
-    return link.parentBus == "usb" ? QStringLiteral("USB Ethernet") : QStringLiteral("Ethernet");
+    return link.parentBus == "usb" ? u"USB Ethernet"_s : u"Ethernet"_s;
 }
 
 } // namespace

@@ -32,7 +32,7 @@ enum ExtensionId
     EHTCapabilities = 108,
 };
 
-// Organisation and type of vendor specific elements.
+// Organization and type of vendor specific elements.
 constexpr quint32 wpaElement = 0x0050F201;
 constexpr quint32 osenElement = 0x506F9A12;
 constexpr quint32 oweTransitionElement = 0x506F9A1C;

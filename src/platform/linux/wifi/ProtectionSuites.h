@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// How a network is protected, as its RSN element (IEEE 802.11-2020, 9.4.2.24) or the older vendor
-/// element of WPA says. Suites are numbers: the three octets of the organisation, then the type.
+/// element of WPA says. Suites are numbers: the three octets of the organization, then the type.
 struct ProtectionSuites
 {
     /// Every field was there up to a field's end, in a version that we know. The rest holds what
@@ -26,7 +26,7 @@ struct ProtectionSuites
 
 /// From the RSN element's content. Fields left out at the end have the standard's defaults.
 ProtectionSuites rsnSuites(ByteSpan content);
-/// From the WPA element's content after organisation and type.
+/// From the WPA element's content after organization and type.
 ProtectionSuites wpaSuites(ByteSpan content);
 
 } // namespace quillon

@@ -18,6 +18,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Error posixError(int code)
@@ -64,7 +66,7 @@ Result<QVariantMap> readPropertyList(const QByteArray &bytes)
         return value.error();
     }
     if (propertyListType(value.value()) != PropertyListType::Dictionary) {
-        return Error{propertyListErrorDomain, 0, QStringLiteral("not a dictionary")};
+        return Error{propertyListErrorDomain, 0, u"not a dictionary"_s};
     }
     return normalizedPropertyList(value.value()).toMap();
 }
@@ -133,7 +135,7 @@ std::optional<Error> replaceFileContent(const QString &path, const QByteArray &b
 Result<QString> setFileAside(const QString &path)
 {
     for (int number = 1;; ++number) {
-        const QString kept = QStringLiteral("%1.damaged-%2").arg(path).arg(number);
+        const QString kept = u"%1.damaged-%2"_s.arg(path).arg(number);
         // Not rename(): that would replace a file that was kept before.
         if (::renameat2(AT_FDCWD, QFile::encodeName(path).constData(), AT_FDCWD,
                 QFile::encodeName(kept).constData(), RENAME_NOREPLACE) == 0) {

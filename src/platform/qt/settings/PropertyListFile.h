@@ -15,7 +15,7 @@ namespace quillon {
 /// Files beyond this are refused, both ways.
 inline constexpr qint64 propertyListFileLimit = 16 * 1024 * 1024;
 
-/// The dictionary in `bytes`, an XML property list, normalised. Anything else is an error of
+/// The dictionary in `bytes`, an XML property list, normalized. Anything else is an error of
 /// propertyListErrorDomain.
 Result<QVariantMap> readPropertyList(const QByteArray &bytes);
 
@@ -26,7 +26,7 @@ Result<QByteArray> readFileContent(const QString &path);
 /// Both together: the dictionary in the property-list file (or resource) at `path`.
 Result<QVariantMap> readPropertyListFile(const QString &path);
 
-/// Replaces the file's content by `bytes` at one stroke: whoever reads sees the old or the new
+/// Replaces the file's content by `bytes` atomically: whoever reads sees the old or the new
 /// content, whole. On return without an error it is durable, the folder's entry included. On an
 /// error (posixErrorDomain) the old content stands. A new file is the user's alone; a missing
 /// folder is made.

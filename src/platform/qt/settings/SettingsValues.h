@@ -29,7 +29,7 @@ public:
     explicit SettingsValues(SettingsObservers &observers);
 
     QVariant get(const QString &key) const;
-    /// `value` is normalised property-list data, or invalid to remove. False: nothing is new.
+    /// `value` is normalized property-list data, or invalid to remove. False: nothing is new.
     bool set(const QString &key, const QVariant &value);
     void registerDefaults(const QVariantMap &defaults);
 

@@ -16,7 +16,7 @@ inline const QString propertyListErrorDomain = QStringLiteral("PropertyListError
 /// last one counts.
 Result<QVariant> readXmlPropertyList(const QByteArray &text);
 
-/// `value`, normalised, as an XML property list in UTF-8, readable and with its keys in order.
+/// `value`, normalized, as an XML property list in UTF-8, readable and with its keys in order.
 QByteArray xmlPropertyList(const QVariantMap &value);
 
 } // namespace quillon

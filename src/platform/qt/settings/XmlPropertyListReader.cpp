@@ -11,6 +11,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One walk over the text. Problems are raised in the stream reader, which then stops.
@@ -42,15 +44,15 @@ private:
 Result<QVariant> XmlPropertyListReader::read()
 {
     QVariant result;
-    if (m_xml.readNextStartElement() && m_xml.name() != QLatin1String("plist")) {
-        fail(QStringLiteral("not a property list"));
+    if (m_xml.readNextStartElement() && m_xml.name() != "plist"_L1) {
+        fail(u"not a property list"_s);
     } else if (!m_xml.hasError() && !nextChild()) {
-        fail(QStringLiteral("an empty property list"));
+        fail(u"an empty property list"_s);
     } else {
         // One more level than the value of a key: the dictionary of all keys.
         result = value(propertyListDepthLimit + 1);
         if (nextChild()) {
-            fail(QStringLiteral("more than one value"));
+            fail(u"more than one value"_s);
         }
     }
     while (!m_xml.atEnd()) {
@@ -58,7 +60,7 @@ Result<QVariant> XmlPropertyListReader::read()
     }
     if (m_xml.hasError()) {
         return Error{propertyListErrorDomain, static_cast<int>(m_xml.error()),
-            QStringLiteral("line %1: %2").arg(m_xml.lineNumber()).arg(m_xml.errorString())};
+            u"line %1: %2"_s.arg(m_xml.lineNumber()).arg(m_xml.errorString())};
     }
     return result;
 }
@@ -73,7 +75,7 @@ bool XmlPropertyListReader::nextChild()
             return m_xml.isStartElement();
         }
         if (m_xml.isCharacters() && !m_xml.isWhitespace()) {
-            fail(QStringLiteral("text outside of a value"));
+            fail(u"text outside of a value"_s);
         }
     }
     return false;
@@ -82,46 +84,45 @@ bool XmlPropertyListReader::nextChild()
 QVariant XmlPropertyListReader::value(int depth)
 {
     const QString name = m_xml.name().toString();
-    if (name == QLatin1String("dict") || name == QLatin1String("array")) {
+    if (name == "dict"_L1 || name == "array"_L1) {
         if (depth == 0) {
-            return fail(QStringLiteral("nested too deeply"));
+            return fail(u"nested too deeply"_s);
         }
-        return name == QLatin1String("dict") ? QVariant(dictionary(depth - 1))
-                                             : QVariant(array(depth - 1));
+        return name == "dict"_L1 ? QVariant(dictionary(depth - 1)) : QVariant(array(depth - 1));
     }
-    if (name == QLatin1String("true") || name == QLatin1String("false")) {
-        return boolean(name == QLatin1String("true"));
+    if (name == "true"_L1 || name == "false"_L1) {
+        return boolean(name == "true"_L1);
     }
     const QString text = m_xml.readElementText();
-    if (name == QLatin1String("string")) {
+    if (name == "string"_L1) {
         return text;
     }
-    if (name == QLatin1String("integer")) {
+    if (name == "integer"_L1) {
         return integer(text.trimmed());
     }
-    if (name == QLatin1String("real")) {
+    if (name == "real"_L1) {
         return real(text.trimmed());
     }
-    if (name == QLatin1String("date")) {
+    if (name == "date"_L1) {
         return date(text.trimmed());
     }
-    if (name == QLatin1String("data")) {
+    if (name == "data"_L1) {
         return data(text);
     }
-    return fail(QStringLiteral("unknown element \"%1\"").arg(name));
+    return fail(u"unknown element \"%1\""_s.arg(name));
 }
 
 QVariantMap XmlPropertyListReader::dictionary(int depth)
 {
     QVariantMap result;
     while (nextChild()) {
-        if (m_xml.name() != QLatin1String("key")) {
-            fail(QStringLiteral("a value without a key"));
+        if (m_xml.name() != "key"_L1) {
+            fail(u"a value without a key"_s);
             break;
         }
         const QString key = m_xml.readElementText();
-        if (!nextChild() || m_xml.name() == QLatin1String("key")) {
-            fail(QStringLiteral("key \"%1\" without a value").arg(key));
+        if (!nextChild() || m_xml.name() == "key"_L1) {
+            fail(u"key \"%1\" without a value"_s.arg(key));
             break;
         }
         result.insert(key, value(depth));
@@ -140,14 +141,13 @@ QVariantList XmlPropertyListReader::array(int depth)
 
 QVariant XmlPropertyListReader::boolean(bool value)
 {
-    return m_xml.readElementText().isEmpty() ? QVariant(value)
-                                             : fail(QStringLiteral("a boolean with content"));
+    return m_xml.readElementText().isEmpty() ? QVariant(value) : fail(u"a boolean with content"_s);
 }
 
 QVariant XmlPropertyListReader::integer(const QString &text)
 {
-    static const QRegularExpression decimal(QStringLiteral("^[+-]?[0-9]+$"));
-    static const QRegularExpression hexadecimal(QStringLiteral("^[+-]?0[xX][0-9a-fA-F]+$"));
+    static const QRegularExpression decimal(u"^[+-]?[0-9]+$"_s);
+    static const QRegularExpression hexadecimal(u"^[+-]?0[xX][0-9a-fA-F]+$"_s);
     bool ok = false;
     qlonglong number = 0;
     if (decimal.match(text).hasMatch()) {
@@ -155,36 +155,36 @@ QVariant XmlPropertyListReader::integer(const QString &text)
     } else if (hexadecimal.match(text).hasMatch()) {
         number = text.toLongLong(&ok, 16);
     }
-    return ok ? QVariant(number) : fail(QStringLiteral("bad integer \"%1\"").arg(text));
+    return ok ? QVariant(number) : fail(u"bad integer \"%1\""_s.arg(text));
 }
 
 QVariant XmlPropertyListReader::real(const QString &text)
 {
     static const QRegularExpression infinite(
-        QStringLiteral("^([+-]?)inf(inity)?$"), QRegularExpression::CaseInsensitiveOption);
-    if (text.compare(QLatin1String("nan"), Qt::CaseInsensitive) == 0) {
+        u"^([+-]?)inf(inity)?$"_s, QRegularExpression::CaseInsensitiveOption);
+    if (text.compare("nan"_L1, Qt::CaseInsensitive) == 0) {
         return std::numeric_limits<double>::quiet_NaN();
     }
     if (const auto match = infinite.match(text); match.hasMatch()) {
         const double infinity = std::numeric_limits<double>::infinity();
-        return match.captured(1) == QLatin1String("-") ? -infinity : infinity;
+        return match.captured(1) == "-"_L1 ? -infinity : infinity;
     }
     bool ok = false;
     const double number = text.toDouble(&ok);
-    return ok ? QVariant(number) : fail(QStringLiteral("bad number \"%1\"").arg(text));
+    return ok ? QVariant(number) : fail(u"bad number \"%1\""_s.arg(text));
 }
 
 QVariant XmlPropertyListReader::date(const QString &text)
 {
     static const QRegularExpression form(
-        QStringLiteral("^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z$"));
+        u"^[0-9]{4}-[0-9]{2}-[0-9]{2}T[0-9]{2}:[0-9]{2}:[0-9]{2}Z$"_s);
     if (form.match(text).hasMatch()) {
         const QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
         if (propertyListType(moment) == PropertyListType::Date) {
             return moment.toUTC();
         }
     }
-    return fail(QStringLiteral("bad date \"%1\"").arg(text));
+    return fail(u"bad date \"%1\""_s.arg(text));
 }
 
 QVariant XmlPropertyListReader::data(const QString &text)
@@ -193,7 +193,7 @@ QVariant XmlPropertyListReader::data(const QString &text)
     packed.removeIf([](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
     const auto bytes =
         QByteArray::fromBase64Encoding(packed, QByteArray::AbortOnBase64DecodingErrors);
-    return bytes && packed.size() % 4 == 0 ? QVariant(*bytes) : fail(QStringLiteral("bad data"));
+    return bytes && packed.size() % 4 == 0 ? QVariant(*bytes) : fail(u"bad data"_s);
 }
 
 QVariant XmlPropertyListReader::fail(const QString &what)

@@ -9,6 +9,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void append(QByteArray &out, const QVariant &value, int indent);
@@ -22,16 +24,16 @@ QByteArray escaped(const QString &text)
     for (const QChar unit : text) {
         switch (unit.unicode()) {
         case u'&':
-            result += QStringLiteral("&amp;");
+            result += u"&amp;"_s;
             break;
         case u'<':
-            result += QStringLiteral("&lt;");
+            result += u"&lt;"_s;
             break;
         case u'>':
-            result += QStringLiteral("&gt;");
+            result += u"&gt;"_s;
             break;
         case u'\r':
-            result += QStringLiteral("&#13;");
+            result += u"&#13;"_s;
             break;
         default:
             result += unit;

@@ -16,6 +16,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QLatin1StringView http("http");
@@ -54,7 +56,7 @@ void HttpTransfer::start(const QUrl &url)
 {
     if (!isWebAddress(url)) {
         failSoon({httpErrorDomain, QNetworkReply::ProtocolUnknownError,
-            QStringLiteral("only http and https addresses can be asked")});
+            u"only http and https addresses can be asked"_s});
         return;
     }
     // One for each request. A shared one would keep cookies and connections, and a connection that
@@ -102,7 +104,7 @@ void HttpTransfer::connectReply()
         for (const QSslError &error : errors) {
             texts << error.errorString();
         }
-        m_certificateProblems = texts.join(QStringLiteral("; "));
+        m_certificateProblems = texts.join(u"; "_s);
     });
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpTransfer::readHead);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpTransfer::readBody);
@@ -122,7 +124,7 @@ void HttpTransfer::readHead()
     const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
     if (!encoding.isEmpty() && encoding != "identity") {
         end({httpErrorDomain, QNetworkReply::ProtocolFailure,
-            QStringLiteral("the body came packed, which was not asked for")});
+            u"the body came packed, which was not asked for"_s});
         return;
     }
     bool isNumber = false;
@@ -229,7 +231,7 @@ std::optional<Error> HttpTransfer::failure() const
     }
     QString message = m_reply->errorString();
     if (!m_certificateProblems.isEmpty()) {
-        message += QStringLiteral(" (%1)").arg(m_certificateProblems);
+        message += u" (%1)"_s.arg(m_certificateProblems);
     }
     return Error{httpErrorDomain, m_reply->error(), message};
 }

@@ -12,6 +12,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A file that only we may read, gone with this object.
@@ -19,7 +21,7 @@ class DownloadedFile
 {
 public:
     explicit DownloadedFile(const QString &folder)
-        : m_file((folder.isEmpty() ? QDir::tempPath() : folder) + QStringLiteral("/quillon-XXXXXX"))
+        : m_file((folder.isEmpty() ? QDir::tempPath() : folder) + u"/quillon-XXXXXX"_s)
     {
     }
 

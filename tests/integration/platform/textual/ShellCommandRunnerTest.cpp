@@ -9,26 +9,25 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 TEST(ShellCommandRunner, GivesTheWholeOutputAsUtf8)
 {
     ShellCommandRunner runner;
-    EXPECT_EQ(runner.run(QStringLiteral("printf 'Größe\\n'")), QStringLiteral("Größe\n"));
-    EXPECT_EQ(
-        runner.run(QStringLiteral("head -c 1000000 /dev/zero | tr '\\0' x")).size(), 1'000'000);
+    EXPECT_EQ(runner.run(u"printf 'Größe\\n'"_s), u"Größe\n"_s);
+    EXPECT_EQ(runner.run(u"head -c 1000000 /dev/zero | tr '\\0' x"_s).size(), 1'000'000);
 }
 
 TEST(ShellCommandRunner, TheExitStatusIsNotLookedAt)
 {
-    EXPECT_EQ(
-        ShellCommandRunner().run(QStringLiteral("echo seen; exit 3")), QStringLiteral("seen\n"));
-    EXPECT_EQ(ShellCommandRunner().run(QStringLiteral("no-such-command 2>/dev/null")), QString());
+    EXPECT_EQ(ShellCommandRunner().run(u"echo seen; exit 3"_s), u"seen\n"_s);
+    EXPECT_EQ(ShellCommandRunner().run(u"no-such-command 2>/dev/null"_s), QString());
 }
 
 TEST(ShellCommandRunner, StandardInputIsAPipeThatEnds)
 {
     ShellCommandRunner runner;
-    EXPECT_EQ(runner.run(QStringLiteral("cat; test -p /dev/stdin && echo pipe")),
-        QStringLiteral("pipe\n"));
+    EXPECT_EQ(runner.run(u"cat; test -p /dev/stdin && echo pipe"_s), u"pipe\n"_s);
 }
 
 TEST(ShellCommandRunner, OnlyTheEndOfTheOutputIsWaitedFor)
@@ -36,7 +35,7 @@ TEST(ShellCommandRunner, OnlyTheEndOfTheOutputIsWaitedFor)
     QElapsedTimer time;
     time.start();
     ShellCommandRunner runner;
-    EXPECT_EQ(runner.run(QStringLiteral("echo done; exec sleep 5 >&-")), QStringLiteral("done\n"));
+    EXPECT_EQ(runner.run(u"echo done; exec sleep 5 >&-"_s), u"done\n"_s);
     EXPECT_LT(time.elapsed(), 4000);
 }
 
@@ -44,11 +43,11 @@ TEST(ShellCommandRunner, LeavesNoZombiesBehind)
 {
     ShellCommandRunner runner;
     for (int i = 0; i < 20; ++i) {
-        runner.run(QStringLiteral("true"));
+        runner.run(u"true"_s);
     }
     // All but the very last may be gone already; one more run collects those that took their time.
-    runner.run(QStringLiteral("sleep 0.1"));
-    runner.run(QStringLiteral("sleep 0.1"));
+    runner.run(u"sleep 0.1"_s);
+    runner.run(u"sleep 0.1"_s);
     int zombies = 0;
     while (waitpid(-1, nullptr, WNOHANG) > 0) {
         ++zombies;

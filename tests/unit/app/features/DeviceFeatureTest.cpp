@@ -7,12 +7,14 @@
 #include "unit/vendors/VendorFolder.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
 
-const QString wiredTitle = QStringLiteral("USB Ethernet · enp2s0");
-const QString newAddress = QStringLiteral("AA:01:02:03:04:05");
+const QString wiredTitle = u"USB Ethernet · enp2s0"_s;
+const QString newAddress = u"AA:01:02:03:04:05"_s;
 
 class DeviceFeatureTest : public ProgramOnFakes
 {
@@ -25,50 +27,47 @@ protected:
 
 TEST_F(DeviceFeatureTest, FollowUpsOfANewSelectionComeInTheirOrder)
 {
-    const QString vendor = QStringLiteral("Zebra (00000D)");
-    const QString newDevice = QStringLiteral("enp9s0");
-    const QString vendors = machine.data.filePath(QStringLiteral("vendors.db"));
-    const QString csv = machine.data.filePath(QStringLiteral("vendors.csv"));
+    const QString vendor = u"Zebra (00000D)"_s;
+    const QString newDevice = u"enp9s0"_s;
+    const QString vendors = machine.data.filePath(u"vendors.db"_s);
+    const QString csv = machine.data.filePath(u"vendors.csv"_s);
     writeFile(csv, registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}}));
     ASSERT_TRUE(fillVendorTable(csv, vendors));
-    machine.host.at(enp2s0).address = QStringLiteral("00:00:0d:00:00:02");
-    saveRule(randomOnce(enp2s0, QStringLiteral("Home")));
+    machine.host.at(enp2s0).address = u"00:00:0d:00:00:02"_s;
+    saveRule(randomOnce(enp2s0, u"Home"_s));
     machine.reachability.reachable = false;
     create(vendors);
     start();
     machine.scheduler.advance(500ms);
     setDeviceRecord(enp2s0, record::vendor, vendor);
     setDeviceRecord(enp2s0, record::hasRule, 1);
-    features().rules.countdown.showCountdown(enp1s0, QStringLiteral("of the other one"), false);
+    features().rules.countdown.showCountdown(enp1s0, u"of the other one"_s, false);
     // Offered for the old interface, and the new one's own address.
-    features().mainWindow.editField(QStringLiteral("00:00:0D:00:00:02"));
+    features().mainWindow.editField(u"00:00:0D:00:00:02"_s);
     ASSERT_TRUE(window().updateEnabled);
-    machine.host.plug(
-        {QStringLiteral("Ethernet"), newDevice, {}, QStringLiteral("3c:22:fb:00:00:09"), {}});
+    machine.host.plug({u"Ethernet"_s, newDevice, {}, u"3c:22:fb:00:00:09"_s, {}});
 
     StateOrder order;
-    order.expect(
-        QStringLiteral("interfaces"), [&] { return window().devices.contains(newDevice); });
-    order.expect(QStringLiteral("row of the vendor"), [&] {
+    order.expect(u"interfaces"_s, [&] { return window().devices.contains(newDevice); });
+    order.expect(u"row of the vendor"_s, [&] {
         const auto &field = features().vendors.field;
         return field.state().selectedRow && field.rowText(*field.state().selectedRow) == vendor;
     });
-    order.expect(QStringLiteral("countdown hidden"),
-        [&] { return !features().rules.countdown.state().buttonsVisible; });
-    order.expect(QStringLiteral("placeholder"),
-        [&] { return window().fieldPlaceholder == QStringLiteral("00:00:0D:00:00:02"); });
-    order.expect(QStringLiteral("vendor looked up"), [&] {
+    order.expect(
+        u"countdown hidden"_s, [&] { return !features().rules.countdown.state().buttonsVisible; });
+    order.expect(
+        u"placeholder"_s, [&] { return window().fieldPlaceholder == u"00:00:0D:00:00:02"_s; });
+    order.expect(u"vendor looked up"_s, [&] {
         return machine.settings.getDictionary(keys::currentVendorData)
             .values()
-            .contains(QStringLiteral("Zebra"));
+            .contains(u"Zebra"_s);
     });
-    order.expect(QStringLiteral("nothing to apply"), [&] { return !window().updateEnabled; });
-    order.expect(QStringLiteral("vendor field"),
-        [&] { return features().vendors.field.state().text == vendor; });
-    order.expect(QStringLiteral("rule status"), [&] {
-        return features().rules.status.state().image == QStringLiteral("NSStatusAvailable");
-    });
-    order.expect(QStringLiteral("menu"), [&] {
+    order.expect(u"nothing to apply"_s, [&] { return !window().updateEnabled; });
+    order.expect(
+        u"vendor field"_s, [&] { return features().vendors.field.state().text == vendor; });
+    order.expect(u"rule status"_s,
+        [&] { return features().rules.status.state().image == u"NSStatusAvailable"_s; });
+    order.expect(u"menu"_s, [&] {
         return features().statusMenu.entries().at(static_cast<size_t>(menuRow(wiredTitle))).checked;
     });
     order.follow(features().mainWindow, &MainWindowModel::changed);
@@ -85,8 +84,8 @@ TEST_F(DeviceFeatureTest, FollowUpsOfANewSelectionComeInTheirOrder)
 TEST_F(DeviceFeatureTest, ARebuildHidesTheCountdownWhateverItFinds)
 {
     run();
-    features().rules.countdown.showCountdown(enp1s0, QStringLiteral("of the other one"), false);
-    setDeviceRecord(enp2s0, record::current, QStringLiteral("no address"));
+    features().rules.countdown.showCountdown(enp1s0, u"of the other one"_s, false);
+    setDeviceRecord(enp2s0, record::current, u"no address"_s);
     features().devices.currentInterface.updateCurrentInterfaceDict(enp2s0);
     machine.scheduler.runPending();
     EXPECT_EQ(features().devices.currentInterface.device(), enp1s0);
@@ -96,22 +95,21 @@ TEST_F(DeviceFeatureTest, ARebuildHidesTheCountdownWhateverItFinds)
 TEST_F(DeviceFeatureTest, FreshHexValuesRefillTheAddressField)
 {
     run();
-    features().mainWindow.editField(QStringLiteral("02"));
+    features().mainWindow.editField(u"02"_s);
     features().devices.currentInterface.updateHexValues();
     machine.scheduler.runPending();
-    EXPECT_EQ(window().fieldText, QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(window().fieldText, u"3C:22:FB:00:00:01"_s);
 }
 
 TEST_F(DeviceFeatureTest, TheListOfTheWindowFollowsThatOfTheMenu)
 {
     run();
-    machine.host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp9s0"), {},
-        QStringLiteral("3c:22:fb:00:00:09"), {}});
+    machine.host.plug({u"Ethernet"_s, u"enp9s0"_s, {}, u"3c:22:fb:00:00:09"_s, {}});
     QStringList whileRebuilt;
     QObject::connect(&features().statusMenu, &StatusMenuModel::changed,
         [&] { whileRebuilt = window().devices; });
     features().statusMenu.menuWillOpen();
-    EXPECT_EQ(whileRebuilt, (QStringList{enp1s0, enp2s0, QStringLiteral("enp9s0")}));
+    EXPECT_EQ(whileRebuilt, (QStringList{enp1s0, enp2s0, u"enp9s0"_s}));
 }
 
 TEST_F(DeviceFeatureTest, TheRandomizeButtonChangesTheAddressAndTellsTheUser)
@@ -123,17 +121,16 @@ TEST_F(DeviceFeatureTest, TheRandomizeButtonChangesTheAddressAndTellsTheUser)
     EXPECT_EQ(window().fieldText, newAddress);
     EXPECT_TRUE(window().hardwareIndicatorVisible);
     EXPECT_TRUE(window().restoreEnabled);
-    EXPECT_TRUE(menuTitles().contains(QStringLiteral("    Current Address · ") + newAddress))
+    EXPECT_TRUE(menuTitles().contains(u"    Current Address · "_s + newAddress))
         << "without being opened";
     ASSERT_EQ(machine.userNotifications.onScreen.size(), 1);
-    EXPECT_EQ(machine.userNotifications.onScreen.first().title,
-        QStringLiteral("Ethernet Address Changed"));
+    EXPECT_EQ(machine.userNotifications.onScreen.first().title, u"Ethernet Address Changed"_s);
 }
 
 TEST_F(DeviceFeatureTest, TheRestoreButtonGivesTheFactoryAddressBack)
 {
     run();
-    machine.host.giveAddress(enp1s0, QStringLiteral("02:00:00:00:00:77"));
+    machine.host.giveAddress(enp1s0, u"02:00:00:00:00:77"_s);
     machine.networkChanges.networkChanges();
     machine.scheduler.runPending();
     features().mainWindow.restoreDefaultAddress();

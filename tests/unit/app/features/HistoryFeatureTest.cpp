@@ -11,6 +11,8 @@
 #include <thread>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class HistoryFeatureTest : public ProgramOnFakes
@@ -70,8 +72,7 @@ TEST_F(HistoryFeatureTest, TheRecordIsWrittenBeforeTheChangeIsBroadcast)
 {
     run();
     // What comes next on this thread is the broadcast.
-    Q_EMIT features().devices.addressChanger.addressChanged(
-        enp2s0, QStringLiteral("02:00:00:00:00:01"));
+    Q_EMIT features().devices.addressChanger.addressChanged(enp2s0, u"02:00:00:00:00:01"_s);
     EXPECT_EQ(history().size(), 1);
     EXPECT_FALSE(context().hasChanges());
 }
@@ -82,8 +83,7 @@ TEST_F(HistoryFeatureTest, AChangeOnAnotherThreadIsRecordedWithTheFactsOfItsMome
     const QDateTime moment = machine.scheduler.now();
     std::thread other([this] {
         machine.scheduler.asBackground([this] {
-            Q_EMIT features().devices.addressChanger.addressChanged(
-                enp2s0, QStringLiteral("02:00:00:00:00:01"));
+            Q_EMIT features().devices.addressChanger.addressChanged(enp2s0, u"02:00:00:00:00:01"_s);
         });
     });
     other.join();

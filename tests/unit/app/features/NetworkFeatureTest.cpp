@@ -5,6 +5,8 @@
 #include "unit/app/ProgramOnFakes.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -15,9 +17,9 @@ protected:
     void saveAddress(const QString &name)
     {
         machine.settings.set(keys::savedAddresses,
-            QVariantMap{{QStringLiteral("02:00:00:00:00:AA"),
-                QVariantMap{{savedentry::name, name},
-                    {savedentry::address, QStringLiteral("02:00:00:00:00:AA")}}}});
+            QVariantMap{
+                {u"02:00:00:00:00:AA"_s, QVariantMap{{savedentry::name, name},
+                                             {savedentry::address, u"02:00:00:00:00:AA"_s}}}});
     }
     QStringList quickAddresses()
     {
@@ -29,11 +31,9 @@ protected:
     }
     SavedEntry saveNetwork()
     {
-        const QVariantMap network{{savedentry::name, QStringLiteral("Home")},
-            {savedentry::SSID, QStringLiteral("home-net")},
-            {savedentry::BSSID, QStringLiteral("0a:0b:0c:0d:0e:0f")}};
-        machine.settings.set(
-            keys::savedNetworks, QVariantMap{{QStringLiteral("0a:0b:0c:0d:0e:0f"), network}});
+        const QVariantMap network{{savedentry::name, u"Home"_s}, {savedentry::SSID, u"home-net"_s},
+            {savedentry::BSSID, u"0a:0b:0c:0d:0e:0f"_s}};
+        machine.settings.set(keys::savedNetworks, QVariantMap{{u"0a:0b:0c:0d:0e:0f"_s, network}});
         return SavedEntry::fromPropertyList(network);
     }
     SavedEntryPopoverModel &popover() { return features().networks.savedEntryPopover; }
@@ -41,18 +41,18 @@ protected:
 
 TEST_F(NetworkFeatureTest, TheQuickAddressesAreFilledAtTheStart)
 {
-    saveAddress(QStringLiteral("Mine"));
+    saveAddress(u"Mine"_s);
     create();
     EXPECT_EQ(quickAddresses(), QStringList());
     start();
-    EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Mine")));
+    EXPECT_EQ(quickAddresses(), QStringList(u"Mine"_s));
 }
 
 TEST_F(NetworkFeatureTest, TheQuickAddressesFollowTheSavedOnes)
 {
     run();
-    saveAddress(QStringLiteral("Another"));
-    EXPECT_EQ(quickAddresses(), QStringList(QStringLiteral("Another")));
+    saveAddress(u"Another"_s);
+    EXPECT_EQ(quickAddresses(), QStringList(u"Another"_s));
 }
 
 TEST_F(NetworkFeatureTest, ThePermissionIsAskedForAfterTheStart)
@@ -82,7 +82,7 @@ TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForAtTheStartWhenThatIsWante
     create();
     start();
     ASSERT_EQ(machine.http.requests().size(), 1);
-    EXPECT_EQ(machine.http.requests().first().host(), QStringLiteral("address.example"));
+    EXPECT_EQ(machine.http.requests().first().host(), u"address.example"_s);
 }
 
 TEST_F(NetworkFeatureTest, TheExternalAddressIsAskedForWhenTheUserSwitchesItOn)
@@ -100,9 +100,9 @@ TEST_F(NetworkFeatureTest, TheNetworkButtonFollowsTheAssociation)
     run();
     EXPECT_FALSE(features().networks.info.state().buttonVisible);
     WiFiInterface radio;
-    radio.device = QStringLiteral("wlp3s0");
-    radio.ssid = QStringLiteral("home-net");
-    radio.bssid = QStringLiteral("0a:0b:0c:0d:0e:0f");
+    radio.device = u"wlp3s0"_s;
+    radio.ssid = u"home-net"_s;
+    radio.bssid = u"0a:0b:0c:0d:0e:0f"_s;
     machine.wifi.join(radio);
     features().networks.wifi.updateWiFiNetwork();
     EXPECT_TRUE(features().networks.info.state().buttonVisible);
@@ -120,7 +120,7 @@ TEST_F(NetworkFeatureTest, TheNetworksPopoverShowsItsModeAndClosesWhenItIsDone)
     popover().chooseSsidTickButton();
     EXPECT_TRUE(popover().state().ssidTickButton.on);
     EXPECT_FALSE(popover().state().bssidTickButton.on);
-    popover().controlTextDidEndEditing(QStringLiteral("Office"));
+    popover().controlTextDidEndEditing(u"Office"_s);
     machine.scheduler.runPending();
     EXPECT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::None);
 }
@@ -128,7 +128,7 @@ TEST_F(NetworkFeatureTest, TheNetworksPopoverShowsItsModeAndClosesWhenItIsDone)
 TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
 {
     run();
-    saveAddress(QStringLiteral("Mine"));
+    saveAddress(u"Mine"_s);
     const auto entry =
         SavedEntry::fromPropertyList(machine.settings.getDictionary(keys::savedAddresses).first());
     popover().tokenFieldMenuForRepresentedObject(TokenField::SavedAddresses, entry, {});

@@ -5,6 +5,8 @@
 #include "unit/app/ProgramOnFakes.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -22,7 +24,7 @@ protected:
         return names;
     }
 
-    const QString home = QStringLiteral("Home");
+    const QString home = u"Home"_s;
 };
 
 TEST_F(RuleFeatureModelsTest, RulesAreListedAndNoCountdownIsShownFromTheStartOn)
@@ -30,7 +32,7 @@ TEST_F(RuleFeatureModelsTest, RulesAreListedAndNoCountdownIsShownFromTheStartOn)
     saveRule(randomOnce(enp2s0, home));
     machine.settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, enp2s0}});
     create();
-    rules().countdown.showCountdown(enp2s0, QStringLiteral("old"), false);
+    rules().countdown.showCountdown(enp2s0, u"old"_s, false);
     start();
     EXPECT_EQ(listed(), QStringList(home));
     EXPECT_EQ(rules().countdown.state().label, QString());
@@ -54,7 +56,7 @@ TEST_F(RuleFeatureModelsTest, ARenamedRuleGetsANameOfItsOwn)
 {
     run();
     insertRule(randomOnce(enp1s0, home));
-    const ManagedObjectPtr other = insertRule(randomOnce(enp1s0, QStringLiteral("Office")));
+    const ManagedObjectPtr other = insertRule(randomOnce(enp1s0, u"Office"_s));
     machine.notifications.post(notifications::updateNamesArray);
     EXPECT_EQ(rules().queries.namesArray().size(), 2);
     rules().list.filterRulesArrayController();
@@ -88,11 +90,11 @@ TEST_F(RuleFeatureModelsTest, TheStatusIsThatOfTheSelectedInterface)
 {
     saveRule(randomOnce(enp2s0, home));
     run();
-    EXPECT_EQ(rules().status.state().image, QStringLiteral("NSStatusNone"));
+    EXPECT_EQ(rules().status.state().image, u"NSStatusNone"_s);
     select(enp2s0);
-    EXPECT_EQ(rules().status.state().image, QStringLiteral("NSStatusAvailable"));
+    EXPECT_EQ(rules().status.state().image, u"NSStatusAvailable"_s);
     select(enp1s0);
-    EXPECT_EQ(rules().status.state().image, QStringLiteral("NSStatusNone"));
+    EXPECT_EQ(rules().status.state().image, u"NSStatusNone"_s);
 }
 
 TEST_F(RuleFeatureModelsTest, TheStatusFollowsAnEvaluation)
@@ -100,7 +102,7 @@ TEST_F(RuleFeatureModelsTest, TheStatusFollowsAnEvaluation)
     run();
     insertRule(randomOnce(enp1s0, home));
     rules().evaluation.checkDeviceForCurrentRuleAndChange(enp1s0, RuleChange::None);
-    EXPECT_EQ(rules().status.state().image, QStringLiteral("NSStatusAvailable"));
+    EXPECT_EQ(rules().status.state().image, u"NSStatusAvailable"_s);
 }
 
 TEST_F(RuleFeatureModelsTest, TheListFollowsItsRecords)
@@ -120,7 +122,7 @@ TEST_F(RuleFeatureModelsTest, TheListFollowsANetworkChange)
     ASSERT_EQ(listed(), QStringList());
     machine.networkChanges.networkChanges();
     EXPECT_EQ(listed(), QStringList(home));
-    EXPECT_EQ(rules().list.state().symbol, QStringLiteral("network"));
+    EXPECT_EQ(rules().list.state().symbol, u"network"_s);
 }
 
 TEST_F(RuleFeatureModelsTest, TheListPointsAtTheSelectedInterfaceWhenItsRulesMayBeOthers)
@@ -140,16 +142,16 @@ TEST_F(RuleFeatureModelsTest, ListAndNamesAreReadAnewWhenRecordsChangedBehindThe
     const ManagedObjectPtr rule = insertRule(randomOnce(enp1s0, home));
     ASSERT_EQ(listed(), QStringList(home));
     // Nobody is told of these.
-    rule->setPrimitiveValue(model::rule::name, QStringLiteral("Second"));
+    rule->setPrimitiveValue(model::rule::name, u"Second"_s);
     Q_EMIT rules().switches.ruleSwitched();
-    EXPECT_EQ(listed(), QStringList(QStringLiteral("Second")));
-    rule->setPrimitiveValue(model::rule::name, QStringLiteral("Third"));
+    EXPECT_EQ(listed(), QStringList(u"Second"_s));
+    rule->setPrimitiveValue(model::rule::name, u"Third"_s);
     Q_EMIT rules().invariants.rulesCorrected();
-    EXPECT_EQ(listed(), QStringList(QStringLiteral("Third")));
-    rule->setPrimitiveValue(model::rule::name, QStringLiteral("Fourth"));
+    EXPECT_EQ(listed(), QStringList(u"Third"_s));
+    rule->setPrimitiveValue(model::rule::name, u"Fourth"_s);
     Q_EMIT features().history.store.recordsMerged();
-    EXPECT_EQ(listed(), QStringList(QStringLiteral("Fourth")));
-    EXPECT_EQ(rules().queries.namesArray(), QStringList(QStringLiteral("Fourth")));
+    EXPECT_EQ(listed(), QStringList(u"Fourth"_s));
+    EXPECT_EQ(rules().queries.namesArray(), QStringList(u"Fourth"_s));
 }
 
 class RuleFeatureModelsCountdown : public RuleFeatureModelsTest
@@ -168,8 +170,7 @@ TEST_F(RuleFeatureModelsCountdown, IsShownAtEveryTick)
 {
     EXPECT_TRUE(shown().buttonsVisible);
     const QString before = shown().label;
-    EXPECT_TRUE(before.startsWith(QStringLiteral("...changing MAC Address in 00:04:")))
-        << qPrintable(before);
+    EXPECT_TRUE(before.startsWith(u"...changing MAC Address in 00:04:"_s)) << qPrintable(before);
     machine.scheduler.advance(1s);
     EXPECT_NE(shown().label, before);
 }

@@ -5,6 +5,8 @@
 #include "unit/app/ProgramOnFakes.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -23,8 +25,8 @@ protected:
         machine.networkChanges.networkChanges();
     }
 
-    const QString loginHelper = QStringLiteral("com.orvandel.Quillon4Helper");
-    const QString home = QStringLiteral("Home");
+    const QString loginHelper = u"com.orvandel.Quillon4Helper"_s;
+    const QString home = u"Home"_s;
 };
 
 TEST_F(RuleFeatureTest, TheNamesOfRulesAreKnownFromTheStartOn)
@@ -58,7 +60,7 @@ TEST_F(RuleFeatureTest, LoginRulesActAtTheFirstCheckAfterALoginAndNeverAgain)
     EXPECT_TRUE(isChanged(enp2s0));
 
     machine.host.giveAddress(enp2s0, factory.value(enp2s0));
-    giveLease(enp2s0, QStringLiteral("203.0.113.1"));
+    giveLease(enp2s0, u"203.0.113.1"_s);
     machine.scheduler.advance(60s);
     EXPECT_FALSE(isChanged(enp2s0));
 }
@@ -88,15 +90,15 @@ TEST_F(RuleFeatureTest, ANetworkChangeIsEvaluatedBeforeTheMenuIsBuiltAnew)
     run();
     insertRule(randomOnce(enp1s0, home));
     QStringList order;
-    QObject::connect(&rules().evaluation, &RuleEvaluation::ruleStatusEvaluated,
-        [&] { order << QStringLiteral("rules"); });
-    QObject::connect(&features().statusMenu, &StatusMenuModel::rebuildStarted,
-        [&] { order << QStringLiteral("menu"); });
-    giveLease(enp1s0, QStringLiteral("203.0.113.1"));
-    ASSERT_TRUE(order.contains(QStringLiteral("menu")));
+    QObject::connect(
+        &rules().evaluation, &RuleEvaluation::ruleStatusEvaluated, [&] { order << u"rules"_s; });
+    QObject::connect(
+        &features().statusMenu, &StatusMenuModel::rebuildStarted, [&] { order << u"menu"_s; });
+    giveLease(enp1s0, u"203.0.113.1"_s);
+    ASSERT_TRUE(order.contains(u"menu"_s));
     // Evaluation itself selects the interface again, which builds the menu too.
-    EXPECT_EQ(order.count(QStringLiteral("rules")), 1);
-    EXPECT_LT(order.indexOf(QStringLiteral("rules")), order.lastIndexOf(QStringLiteral("menu")));
+    EXPECT_EQ(order.count(u"rules"_s), 1);
+    EXPECT_LT(order.indexOf(u"rules"_s), order.lastIndexOf(u"menu"_s));
     machine.scheduler.advance(2s);
     EXPECT_TRUE(isChanged(enp1s0));
 }
@@ -105,7 +107,7 @@ TEST_F(RuleFeatureTest, WhatOwnChangesBringAboutCarriesNoRuleOutAgain)
 {
     run();
     insertRule(randomOnce(enp1s0, home));
-    giveLease(enp1s0, QStringLiteral("203.0.113.1"));
+    giveLease(enp1s0, u"203.0.113.1"_s);
     // The change takes the link down, up again, and brings another lease.
     QObject::connect(&features().devices.addressChanger, &AddressChanger::addressChanged, [this] {
         machine.host.at(enp1s0).active = false;
@@ -114,7 +116,7 @@ TEST_F(RuleFeatureTest, WhatOwnChangesBringAboutCarriesNoRuleOutAgain)
     machine.scheduler.advance(2s);
     ASSERT_EQ(history().size(), 1);
     machine.host.at(enp1s0).active = true;
-    giveLease(enp1s0, QStringLiteral("203.0.113.2"));
+    giveLease(enp1s0, u"203.0.113.2"_s);
     machine.scheduler.advance(30s);
     EXPECT_EQ(history().size(), 1);
 }
@@ -123,7 +125,7 @@ TEST_F(RuleFeatureTest, ANewStayOnTheNetworkCarriesARuleOutAgain)
 {
     run();
     insertRule(randomOnce(enp1s0, home));
-    giveLease(enp1s0, QStringLiteral("203.0.113.1"));
+    giveLease(enp1s0, u"203.0.113.1"_s);
     machine.scheduler.advance(60s);
     ASSERT_EQ(history().size(), 1);
     machine.random.put(QByteArray::fromHex("220102030405"));
@@ -131,7 +133,7 @@ TEST_F(RuleFeatureTest, ANewStayOnTheNetworkCarriesARuleOutAgain)
     giveLease(enp1s0, QString());
     machine.scheduler.advance(2s);
     machine.host.at(enp1s0).active = true;
-    giveLease(enp1s0, QStringLiteral("203.0.113.2"));
+    giveLease(enp1s0, u"203.0.113.2"_s);
     machine.scheduler.advance(60s);
     EXPECT_EQ(history().size(), 2);
 }
@@ -141,7 +143,7 @@ TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
     run();
     insertRule(randomOnce(enp2s0, home));
     ASSERT_EQ(status(enp2s0), 0);
-    const QString bssid = QStringLiteral("0a:0b:0c:0d:0e:0f");
+    const QString bssid = u"0a:0b:0c:0d:0e:0f"_s;
     SavedEntry network;
     network.name = home;
     network.ssid = home;

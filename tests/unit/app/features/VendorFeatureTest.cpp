@@ -6,6 +6,8 @@
 #include "unit/vendors/VendorFolder.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -15,7 +17,7 @@ class VendorFeatureTest : public ProgramOnFakes
 protected:
     VendorFeatureTest()
     {
-        const QString csv = machine.data.filePath(QStringLiteral("seed.csv"));
+        const QString csv = machine.data.filePath(u"seed.csv"_s);
         writeFile(csv, registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}}));
         EXPECT_TRUE(fillVendorTable(csv, seed));
     }
@@ -27,20 +29,20 @@ protected:
     }
     VendorFieldModel &field() { return features().vendors.field; }
     const VendorPaneModel::State &pane() { return features().vendors.pane.state(); }
-    QString live() const { return machine.data.filePath(QStringLiteral("oui.db")); }
+    QString live() const { return machine.data.filePath(u"oui.db"_s); }
 
-    const QString seed = machine.data.filePath(QStringLiteral("seed.db"));
-    const QString zebra = QStringLiteral("Zebra (00000D)");
+    const QString seed = machine.data.filePath(u"seed.db"_s);
+    const QString zebra = u"Zebra (00000D)"_s;
 };
 
 TEST_F(VendorFeatureTest, ThePaneShowsWhatIsStoredWhenTheWindowIsPrepared)
 {
     machine.settings.set(keys::vendorCountValue, 7);
-    machine.settings.set(keys::vendorIDUpdatedDate, QStringLiteral("yesterday"));
+    machine.settings.set(keys::vendorIDUpdatedDate, u"yesterday"_s);
     create();
     program->launch().awakeFromNib();
-    EXPECT_EQ(pane().vendorCount, QStringLiteral("7 Vendor Identifiers"));
-    EXPECT_EQ(pane().updatedLabel, QStringLiteral("Last Updated: yesterday"));
+    EXPECT_EQ(pane().vendorCount, u"7 Vendor Identifiers"_s);
+    EXPECT_EQ(pane().updatedLabel, u"Last Updated: yesterday"_s);
 }
 
 TEST_F(VendorFeatureTest, TheShippedDatabaseIsPutInPlaceAndCounted)
@@ -48,8 +50,8 @@ TEST_F(VendorFeatureTest, TheShippedDatabaseIsPutInPlaceAndCounted)
     create(seed);
     start();
     EXPECT_TRUE(QFile::exists(live()));
-    EXPECT_EQ(pane().vendorCount, QStringLiteral("2 Vendor Identifiers"));
-    EXPECT_EQ(pane().updatedLabel, QStringLiteral("(null) (added 2 new Identifiers)"));
+    EXPECT_EQ(pane().vendorCount, u"2 Vendor Identifiers"_s);
+    EXPECT_EQ(pane().updatedLabel, u"(null) (added 2 new Identifiers)"_s);
 }
 
 TEST_F(VendorFeatureTest, TheListIsReadAtTheStart)
@@ -75,16 +77,15 @@ TEST_F(VendorFeatureTest, TheFieldIsFilledAtTheStartForNoDeviceInParticular)
     create(seed);
     start();
     EXPECT_EQ(deviceRecord(enp1s0).value(record::vendor), zebra);
-    EXPECT_EQ(field().state().text, QStringLiteral("Random Address"));
+    EXPECT_EQ(field().state().text, u"Random Address"_s);
 }
 
 TEST_F(VendorFeatureTest, WhoMadeTheSelectedInterfaceIsLookedUp)
 {
     startWithSeed();
     select(enp2s0);
-    EXPECT_TRUE(machine.settings.getDictionary(keys::currentVendorData)
-                    .values()
-                    .contains(QStringLiteral("Appian")));
+    EXPECT_TRUE(
+        machine.settings.getDictionary(keys::currentVendorData).values().contains(u"Appian"_s));
     EXPECT_TRUE(field().state().vendorButtonVisible);
 }
 
@@ -97,34 +98,34 @@ TEST_F(VendorFeatureTest, TheFieldAndTheListShowTheChoiceOfTheSelectedInterface)
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
     select(enp1s0);
-    EXPECT_EQ(field().state().text, QStringLiteral("Random Address"));
-    EXPECT_EQ(field().rowText(*field().state().selectedRow), QStringLiteral("Random Address"));
+    EXPECT_EQ(field().state().text, u"Random Address"_s);
+    EXPECT_EQ(field().rowText(*field().state().selectedRow), u"Random Address"_s);
 }
 
 TEST_F(VendorFeatureTest, AChosenManufacturersPrefixIsInTheNextRandomAddress)
 {
     startWithSeed();
-    field().controlTextDidChange(QStringLiteral("zeb"));
+    field().controlTextDidChange(u"zeb"_s);
     field().tableViewShouldSelectRow(0);
     EXPECT_EQ(deviceRecord(enp1s0).value(record::vendor), zebra);
     features().mainWindow.randomizeAddress();
     machine.scheduler.advance(2s);
     EXPECT_TRUE(isChanged(enp1s0));
-    EXPECT_TRUE(machine.host.addressOf(enp1s0).toUpper().startsWith(QStringLiteral("00:00:0D:")))
+    EXPECT_TRUE(machine.host.addressOf(enp1s0).toUpper().startsWith(u"00:00:0D:"_s))
         << qPrintable(machine.host.addressOf(enp1s0));
 }
 
 TEST_F(VendorFeatureTest, ARefreshAsksTheRegistryAndShowsWhatCame)
 {
     startWithSeed();
-    machine.http.serve(QUrl(QStringLiteral("https://registry.example/oui/oui.csv")),
+    machine.http.serve(QUrl(u"https://registry.example/oui/oui.csv"_s),
         registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}, {"00000E", "Mango"}}));
     features().vendors.pane.pressButton();
-    EXPECT_EQ(pane().buttonTitle, QStringLiteral("Cancel download..."));
+    EXPECT_EQ(pane().buttonTitle, u"Cancel download..."_s);
     machine.scheduler.advance(1s);
-    EXPECT_EQ(pane().buttonTitle, QStringLiteral("Update database"));
-    EXPECT_EQ(pane().vendorCount, QStringLiteral("3 Vendor Identifiers"));
-    EXPECT_TRUE(pane().updatedLabel.endsWith(QStringLiteral(" (added 1 new Identifiers)")))
+    EXPECT_EQ(pane().buttonTitle, u"Update database"_s);
+    EXPECT_EQ(pane().vendorCount, u"3 Vendor Identifiers"_s);
+    EXPECT_TRUE(pane().updatedLabel.endsWith(u" (added 1 new Identifiers)"_s))
         << qPrintable(pane().updatedLabel);
     EXPECT_EQ(field().rowCount(), 4);
 }

@@ -14,6 +14,8 @@
 #include <vector>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -61,13 +63,13 @@ TYPED_TEST(SchedulerConformance, TasksForTheMainThreadRunLaterAndInOrder)
     QStringList done;
     this->scheduler.onMain([&] {
         EXPECT_TRUE(this->scheduler.isMainThread());
-        this->scheduler.onMain([&] { done << QStringLiteral("c"); });
-        done << QStringLiteral("a");
+        this->scheduler.onMain([&] { done << u"c"_s; });
+        done << u"a"_s;
     });
-    this->scheduler.onMain([&] { done << QStringLiteral("b"); });
+    this->scheduler.onMain([&] { done << u"b"_s; });
     EXPECT_TRUE(done.isEmpty());
     this->clock.pass(20ms);
-    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
+    EXPECT_EQ(done.join(u' '), u"a b c"_s);
 }
 
 TYPED_TEST(SchedulerConformance, BackgroundTasksAreOffTheMainThreadAndCanGoBackToIt)
@@ -103,10 +105,10 @@ TYPED_TEST(SchedulerConformance, ADelayedTaskRunsOnceAndNotBeforeItsTime)
 TYPED_TEST(SchedulerConformance, AShorterDelayComesFirstWhicheverWasGivenFirst)
 {
     QStringList done;
-    this->scheduler.onMainAfter(80ms, [&] { done << QStringLiteral("long"); });
-    this->scheduler.onMainAfter(5ms, [&] { done << QStringLiteral("short"); });
+    this->scheduler.onMainAfter(80ms, [&] { done << u"long"_s; });
+    this->scheduler.onMainAfter(5ms, [&] { done << u"short"_s; });
     this->clock.pass(150ms);
-    EXPECT_EQ(done.join(u' '), QStringLiteral("short long"));
+    EXPECT_EQ(done.join(u' '), u"short long"_s);
 }
 
 TYPED_TEST(SchedulerConformance, ACancelledTaskNeverRuns)
@@ -146,18 +148,18 @@ TYPED_TEST(SchedulerConformance, ATaskOfAnObjectRunsWhileTheObjectIsThere)
 {
     QStringList done;
     const QObject context;
-    this->scheduler.onMain([&] { done << QStringLiteral("a"); });
+    this->scheduler.onMain([&] { done << u"a"_s; });
     this->scheduler.onMain(&context, [&] {
         EXPECT_TRUE(this->scheduler.isMainThread());
-        done << QStringLiteral("b");
+        done << u"b"_s;
     });
-    this->scheduler.onMain([&] { done << QStringLiteral("c"); });
-    this->scheduler.onMainAfter(200ms, &context, [&] { done << QStringLiteral("d"); });
+    this->scheduler.onMain([&] { done << u"c"_s; });
+    this->scheduler.onMainAfter(200ms, &context, [&] { done << u"d"_s; });
     EXPECT_TRUE(done.isEmpty());
     this->clock.pass(10ms);
-    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c"));
+    EXPECT_EQ(done.join(u' '), u"a b c"_s);
     this->clock.pass(300ms);
-    EXPECT_EQ(done.join(u' '), QStringLiteral("a b c d"));
+    EXPECT_EQ(done.join(u' '), u"a b c d"_s);
 }
 
 TYPED_TEST(SchedulerConformance, ATaskOfAnObjectThatIsDestroyedBeforeItsTimeNeverRuns)
@@ -190,13 +192,13 @@ TYPED_TEST(SchedulerConformance, AReplyThatComesOnAnyThreadIsTakenOnTheMainOneIn
                 EXPECT_TRUE(this->scheduler.isMainThread());
                 taken << text + QString::number(number);
             });
-    callback(QStringLiteral("main "), 1);
+    callback(u"main "_s, 1);
     EXPECT_TRUE(taken.isEmpty());
     this->clock.pass(10ms);
-    EXPECT_EQ(taken.join(u','), QStringLiteral("main 1"));
-    this->scheduler.inBackground([callback] { callback(QStringLiteral("background "), 2); });
+    EXPECT_EQ(taken.join(u','), u"main 1"_s);
+    this->scheduler.inBackground([callback] { callback(u"background "_s, 2); });
     this->clock.pass(60ms);
-    EXPECT_EQ(taken.join(u','), QStringLiteral("main 1,background 2"));
+    EXPECT_EQ(taken.join(u','), u"main 1,background 2"_s);
 }
 
 TYPED_TEST(SchedulerConformance, AReplyToAnObjectThatIsDestroyedIsTakenByNobody)

@@ -7,6 +7,8 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 void PrintTo(const HardwarePort &port, std::ostream *out)
 {
     PrintTo(port.interface, out);
@@ -22,8 +24,8 @@ namespace {
 /// One chunk of the port list.
 QString port(const char *name, const char *device, const char *address = "00:16:3e:11:22:33")
 {
-    return QStringLiteral("Hardware Port: %1\nDevice: %2\nEthernet Address: %3\n\n")
-        .arg(QString::fromUtf8(name), QString::fromUtf8(device), QString::fromUtf8(address));
+    return u"Hardware Port: %1\nDevice: %2\nEthernet Address: %3\n\n"_s.arg(
+        QString::fromUtf8(name), QString::fromUtf8(device), QString::fromUtf8(address));
 }
 
 QStringList devicesIn(const QString &portList)
@@ -38,34 +40,33 @@ QStringList devicesIn(const QString &portList)
 TEST(HardwarePortText, KeepsWifiEthernetAndTheThunderboltBridgeInTheirOrder)
 {
     const QList<HardwarePort> expected = {
-        {QStringLiteral("Wi-Fi"), QStringLiteral("en0"), QStringLiteral("00:16:3e:44:55:66")},
-        {QStringLiteral("Ethernet"), QStringLiteral("en1"), QStringLiteral("00:16:3e:11:22:33")},
-        {QStringLiteral("Thunderbolt Bridge"), QStringLiteral("bridge0"),
-            QStringLiteral("00:16:3e:aa:bb:02")},
+        {u"Wi-Fi"_s, u"en0"_s, u"00:16:3e:44:55:66"_s},
+        {u"Ethernet"_s, u"en1"_s, u"00:16:3e:11:22:33"_s},
+        {u"Thunderbolt Bridge"_s, u"bridge0"_s, u"00:16:3e:aa:bb:02"_s},
     };
-    EXPECT_EQ(hardwarePorts(recordedOutput(QStringLiteral("listallhardwareports.txt"))), expected);
+    EXPECT_EQ(hardwarePorts(recordedOutput(u"listallhardwareports.txt"_s)), expected);
 }
 
 TEST(HardwarePortText, CutsEn10ToEn1)
 {
-    EXPECT_EQ(devicesIn(port("USB LAN", "en10")), QStringList{QStringLiteral("en1")});
-    EXPECT_EQ(devicesIn(port("Big Bridge", "bridge12")), QStringList{QStringLiteral("bridge1")});
+    EXPECT_EQ(devicesIn(port("USB LAN", "en10")), QStringList{u"en1"_s});
+    EXPECT_EQ(devicesIn(port("Big Bridge", "bridge12")), QStringList{u"bridge1"_s});
 }
 
 TEST(HardwarePortText, CutsThePortNameBeforeTheFirstParenthesis)
 {
     EXPECT_EQ(hardwarePorts(port("USB 10/100/1000 LAN (2)", "en5")).value(0).interface,
-        QLatin1String("USB 10/100/1000 LAN"));
-    EXPECT_EQ(hardwarePorts(port("LAN (a) (b)", "en5")).value(0).interface, QLatin1String("LAN"));
-    EXPECT_EQ(hardwarePorts(port("LAN(2)", "en5")).value(0).interface, QLatin1String("LAN(2)"));
+        "USB 10/100/1000 LAN"_L1);
+    EXPECT_EQ(hardwarePorts(port("LAN (a) (b)", "en5")).value(0).interface, "LAN"_L1);
+    EXPECT_EQ(hardwarePorts(port("LAN(2)", "en5")).value(0).interface, "LAN(2)"_L1);
 }
 
 TEST(HardwarePortText, RemovesEveryLineBreakFromThePortName)
 {
-    const QString list = QStringLiteral(
-        "Hardware Port: USB\r\n LAN\r\nDevice: en5\r\nEthernet Address: 00:16:3e:11:22:33\r\n");
-    EXPECT_EQ(hardwarePorts(list).value(0).interface, QLatin1String("USB LAN"));
-    EXPECT_EQ(hardwarePorts(list).value(0).hardware, QLatin1String("00:16:3e:11:22:33"));
+    const QString list =
+        u"Hardware Port: USB\r\n LAN\r\nDevice: en5\r\nEthernet Address: 00:16:3e:11:22:33\r\n"_s;
+    EXPECT_EQ(hardwarePorts(list).value(0).interface, "USB LAN"_L1);
+    EXPECT_EQ(hardwarePorts(list).value(0).hardware, "00:16:3e:11:22:33"_L1);
 }
 
 TEST(HardwarePortText, SkipsByTheRawNameAndMindsTheCase)
@@ -88,55 +89,52 @@ TEST(HardwarePortText, KeepsOnlyEnAndBridgeDevices)
 
 TEST(HardwarePortText, DropsAPortWithoutDeviceOrAddress)
 {
-    EXPECT_TRUE(devicesIn(QStringLiteral("Hardware Port: A\nEthernet Address: 00:16:3e:11:22:33\n"))
-                    .isEmpty());
-    EXPECT_TRUE(devicesIn(QStringLiteral("Hardware Port: A\nDevice: en0\n")).isEmpty());
+    EXPECT_TRUE(devicesIn(u"Hardware Port: A\nEthernet Address: 00:16:3e:11:22:33\n"_s).isEmpty());
+    EXPECT_TRUE(devicesIn(u"Hardware Port: A\nDevice: en0\n"_s).isEmpty());
 }
 
 TEST(HardwarePortText, TakesTheSeventeenCharactersOfTheAddressAsTheyStand)
 {
-    const QString last = port("A", "en0", "N/A") + QStringLiteral("VLAN Configurations\n");
-    EXPECT_EQ(hardwarePorts(last).value(0).hardware, QLatin1String("N/A\n\nVLAN Configu"));
+    const QString last = port("A", "en0", "N/A") + u"VLAN Configurations\n"_s;
+    EXPECT_EQ(hardwarePorts(last).value(0).hardware, "N/A\n\nVLAN Configu"_L1);
 }
 
 TEST(HardwarePortText, APortWithoutAddressBeforeAnotherPortIsTooShort)
 {
     const QString list = port("A", "en0", "N/A") + port("B", "en1");
-    EXPECT_EQ(devicesIn(list), QStringList{QStringLiteral("en1")});
+    EXPECT_EQ(devicesIn(list), QStringList{u"en1"_s});
 }
 
 TEST(HardwarePortText, AddressShorterThanSixCharactersDropsThePort)
 {
-    const QString head = QStringLiteral("Hardware Port: A\nDevice: en0\nEthernet Address: ");
+    const QString head = u"Hardware Port: A\nDevice: en0\nEthernet Address: "_s;
     EXPECT_TRUE(devicesIn(head).isEmpty());
-    EXPECT_TRUE(devicesIn(head + QStringLiteral("12345")).isEmpty());
+    EXPECT_TRUE(devicesIn(head + u"12345"_s).isEmpty());
+    EXPECT_EQ(hardwarePorts(head + u"123456"_s).value(0).hardware, "123456"_L1);
+    EXPECT_EQ(hardwarePorts(head + u"N/A\n\n\nrest and more text"_s).value(0).hardware,
+        "N/A\n\n\nrest and mo"_L1);
     EXPECT_EQ(
-        hardwarePorts(head + QStringLiteral("123456")).value(0).hardware, QLatin1String("123456"));
-    EXPECT_EQ(hardwarePorts(head + QStringLiteral("N/A\n\n\nrest and more text")).value(0).hardware,
-        QLatin1String("N/A\n\n\nrest and mo"));
-    EXPECT_EQ(hardwarePorts(head + QStringLiteral("00:16:3e:11:22:33:44")).value(0).hardware,
-        QLatin1String("00:16:3e:11:22:33"));
+        hardwarePorts(head + u"00:16:3e:11:22:33:44"_s).value(0).hardware, "00:16:3e:11:22:33"_L1);
 }
 
 TEST(HardwarePortText, DeviceNameAtTheVeryEndIsWhatThereIs)
 {
-    const QString list =
-        QStringLiteral("Hardware Port: Ethernet Address: 00:16:3e:11:22:33 Device: en");
-    EXPECT_EQ(devicesIn(list), QStringList{QStringLiteral("en")});
+    const QString list = u"Hardware Port: Ethernet Address: 00:16:3e:11:22:33 Device: en"_s;
+    EXPECT_EQ(devicesIn(list), QStringList{u"en"_s});
 }
 
 TEST(HardwarePortText, ReadsATextBeforeTheFirstPortLikeAPort)
 {
-    EXPECT_EQ(devicesIn(QStringLiteral("Device: en7\nEthernet Address: 00:16:3e:11:22:33")),
-        QStringList{QStringLiteral("en7")});
+    EXPECT_EQ(
+        devicesIn(u"Device: en7\nEthernet Address: 00:16:3e:11:22:33"_s), QStringList{u"en7"_s});
 }
 
 TEST(HardwarePortText, UnexpectedTextYieldsNoPorts)
 {
     EXPECT_TRUE(hardwarePorts(QString()).isEmpty());
-    EXPECT_TRUE(hardwarePorts(QStringLiteral("\n")).isEmpty());
-    EXPECT_TRUE(hardwarePorts(QStringLiteral("\nHardware Port: \nHardware Port: ")).isEmpty());
-    EXPECT_TRUE(hardwarePorts(QStringLiteral("sh: 1: networksetup: not found")).isEmpty());
+    EXPECT_TRUE(hardwarePorts(u"\n"_s).isEmpty());
+    EXPECT_TRUE(hardwarePorts(u"\nHardware Port: \nHardware Port: "_s).isEmpty());
+    EXPECT_TRUE(hardwarePorts(u"sh: 1: networksetup: not found"_s).isEmpty());
 }
 
 } // namespace

@@ -6,47 +6,47 @@
 #include "unit/platform/textual/RecordedOutput.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 TEST(InterfaceQueryText, TellsTheFirstOfEach)
 {
-    const InterfaceInfo info = interfaceInfo(recordedOutput(QStringLiteral("ifconfig-en0.txt")));
-    EXPECT_EQ(info.ipAddress, QLatin1String("198.51.100.7"));
-    EXPECT_EQ(info.macAddress, QLatin1String("02:16:3e:44:55:66"));
-    EXPECT_EQ(info.status, QLatin1String("active"));
+    const InterfaceInfo info = interfaceInfo(recordedOutput(u"ifconfig-en0.txt"_s));
+    EXPECT_EQ(info.ipAddress, "198.51.100.7"_L1);
+    EXPECT_EQ(info.macAddress, "02:16:3e:44:55:66"_L1);
+    EXPECT_EQ(info.status, "active"_L1);
 }
 
 TEST(InterfaceQueryText, AnInet6LineIsNoInetLine)
 {
-    EXPECT_EQ(interfaceInfo(QStringLiteral("\tinet6 fe80::1 prefixlen 64\n")).ipAddress, QString());
+    EXPECT_EQ(interfaceInfo(u"\tinet6 fe80::1 prefixlen 64\n"_s).ipAddress, QString());
 }
 
 TEST(InterfaceQueryText, WhatIsAbsentIsEmpty)
 {
     EXPECT_EQ(interfaceInfo(QString()), InterfaceInfo{});
-    EXPECT_EQ(interfaceInfo(QStringLiteral("lo0: flags=8049<UP>\n")), InterfaceInfo{});
+    EXPECT_EQ(interfaceInfo(u"lo0: flags=8049<UP>\n"_s), InterfaceInfo{});
 }
 
 TEST(InterfaceQueryText, APartWithoutTerminatorRunsToTheEnd)
 {
-    EXPECT_EQ(
-        interfaceInfo(QStringLiteral("inet 192.0.2.1")).ipAddress, QLatin1String("192.0.2.1"));
-    EXPECT_EQ(interfaceInfo(QStringLiteral("ether 02:00")).macAddress, QLatin1String("02:00"));
-    EXPECT_EQ(interfaceInfo(QStringLiteral("status: inactive")).status, QLatin1String("inactive"));
+    EXPECT_EQ(interfaceInfo(u"inet 192.0.2.1"_s).ipAddress, "192.0.2.1"_L1);
+    EXPECT_EQ(interfaceInfo(u"ether 02:00"_s).macAddress, "02:00"_L1);
+    EXPECT_EQ(interfaceInfo(u"status: inactive"_s).status, "inactive"_L1);
 }
 
 TEST(InterfaceQueryText, AnAddressEndsAtABlankAndNothingElse)
 {
-    EXPECT_EQ(interfaceInfo(QStringLiteral("inet 192.0.2.1\n\tnext line")).ipAddress,
-        QLatin1String("192.0.2.1\n\tnext"));
+    EXPECT_EQ(interfaceInfo(u"inet 192.0.2.1\n\tnext line"_s).ipAddress, "192.0.2.1\n\tnext"_L1);
 }
 
 TEST(InterfaceQueryText, NothingIsTrimmed)
 {
     const InterfaceInfo info =
-        interfaceInfo(QStringLiteral("ether 02:00 \nstatus:  no carrier \r\nstatus: active\n"));
-    EXPECT_EQ(info.macAddress, QLatin1String("02:00 "));
-    EXPECT_EQ(info.status, QLatin1String(" no carrier "));
+        interfaceInfo(u"ether 02:00 \nstatus:  no carrier \r\nstatus: active\n"_s);
+    EXPECT_EQ(info.macAddress, "02:00 "_L1);
+    EXPECT_EQ(info.status, " no carrier "_L1);
 }
 
 } // namespace

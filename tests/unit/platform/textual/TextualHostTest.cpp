@@ -7,6 +7,8 @@
 #include "unit/platform/textual/RecordedOutput.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class TextualHostOnAMachine : public ::testing::Test
@@ -14,10 +16,9 @@ class TextualHostOnAMachine : public ::testing::Test
 protected:
     TextualHostOnAMachine()
     {
-        commands.teach(QStringLiteral("networksetup -listallhardwareports"),
-            recordedOutput(QStringLiteral("listallhardwareports.txt")));
         commands.teach(
-            QStringLiteral("ifconfig en0"), recordedOutput(QStringLiteral("ifconfig-en0.txt")));
+            u"networksetup -listallhardwareports"_s, recordedOutput(u"listallhardwareports.txt"_s));
+        commands.teach(u"ifconfig en0"_s, recordedOutput(u"ifconfig-en0.txt"_s));
     }
 
     FakeCommandRunner commands;
@@ -28,21 +29,20 @@ TEST_F(TextualHostOnAMachine, AsksOncePerKeptPortInOrder)
 {
     const QList<PortRecord> ports = host.ports();
     EXPECT_EQ(
-        commands.journal(), (QStringList{QStringLiteral("networksetup -listallhardwareports"),
-                                QStringLiteral("ifconfig en0"), QStringLiteral("ifconfig en1"),
-                                QStringLiteral("ifconfig bridge0")}));
+        commands.journal(), (QStringList{u"networksetup -listallhardwareports"_s, u"ifconfig en0"_s,
+                                u"ifconfig en1"_s, u"ifconfig bridge0"_s}));
     ASSERT_EQ(ports.size(), 3);
-    EXPECT_EQ(ports.at(0).device, QLatin1String("en0"));
-    EXPECT_EQ(ports.at(0).interface, QLatin1String("Wi-Fi"));
-    EXPECT_EQ(ports.at(0).hardware, QLatin1String("00:16:3e:44:55:66"));
-    EXPECT_EQ(ports.at(0).info.macAddress, QLatin1String("02:16:3e:44:55:66"));
+    EXPECT_EQ(ports.at(0).device, "en0"_L1);
+    EXPECT_EQ(ports.at(0).interface, "Wi-Fi"_L1);
+    EXPECT_EQ(ports.at(0).hardware, "00:16:3e:44:55:66"_L1);
+    EXPECT_EQ(ports.at(0).info.macAddress, "02:16:3e:44:55:66"_L1);
     EXPECT_EQ(ports.at(1).info, InterfaceInfo{});
 }
 
 TEST_F(TextualHostOnAMachine, ReadsOneInterface)
 {
-    EXPECT_EQ(host.info(QStringLiteral("en0")).ipAddress, QLatin1String("198.51.100.7"));
-    EXPECT_EQ(host.info(QStringLiteral("en9")), InterfaceInfo{});
+    EXPECT_EQ(host.info(u"en0"_s).ipAddress, "198.51.100.7"_L1);
+    EXPECT_EQ(host.info(u"en9"_s), InterfaceInfo{});
 }
 
 TEST_F(TextualHostOnAMachine, NeverHandsAShellMoreThanAName)

@@ -5,6 +5,8 @@
 #include "unit/presentation/DeviceModelsFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -14,7 +16,7 @@ class StatusMenuModelTest : public DeviceModelsFixture
 protected:
     StatusMenuModelTest()
     {
-        host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
+        host.giveAddress(wired, u"02:00:00:00:00:01"_s);
         menu.menuWillOpen();
     }
 
@@ -22,7 +24,7 @@ protected:
     {
         QStringList list;
         for (const MenuEntry &entry : menu.entries()) {
-            list.append(entry.isSeparator() ? QStringLiteral("-") : entry.title);
+            list.append(entry.isSeparator() ? u"-"_s : entry.title);
         }
         return list;
     }
@@ -37,15 +39,12 @@ protected:
 
 TEST_F(StatusMenuModelTest, EachInterfaceHasItsSectionInTheOrderOfEveryList)
 {
-    EXPECT_THAT(
-        titles(), ElementsAre(QStringLiteral("Open Quillon"), QStringLiteral("-"),
-                      QStringLiteral("Wi-Fi · wlp2s0"),
-                      QStringLiteral("    Hardware Address · 3C:22:FB:00:00:02"),
-                      QStringLiteral("    Current Address · 3C:22:FB:00:00:02"),
-                      QStringLiteral("-"), QStringLiteral("Ethernet · enp1s0"),
-                      QStringLiteral("    Hardware Address · 3C:22:FB:00:00:01"),
-                      QStringLiteral("    Current Address · 02:00:00:00:00:01"),
-                      QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("Quit Quillon")));
+    EXPECT_THAT(titles(),
+        ElementsAre(u"Open Quillon"_s, u"-"_s, u"Wi-Fi · wlp2s0"_s,
+            u"    Hardware Address · 3C:22:FB:00:00:02"_s,
+            u"    Current Address · 3C:22:FB:00:00:02"_s, u"-"_s, u"Ethernet · enp1s0"_s,
+            u"    Hardware Address · 3C:22:FB:00:00:01"_s,
+            u"    Current Address · 02:00:00:00:00:01"_s, u"-"_s, u"-"_s, u"Quit Quillon"_s));
 }
 
 TEST_F(StatusMenuModelTest, TheSelectedInterfaceIsChecked)
@@ -57,7 +56,7 @@ TEST_F(StatusMenuModelTest, TheSelectedInterfaceIsChecked)
 TEST_F(StatusMenuModelTest, RestoreIsDisabledWhileTheAddressIsTheFactoryOne)
 {
     ASSERT_EQ(entry(3).submenu.size(), 1U);
-    EXPECT_EQ(entry(3).submenu[0].title, QStringLiteral("Restore"));
+    EXPECT_EQ(entry(3).submenu[0].title, u"Restore"_s);
     EXPECT_FALSE(entry(3).submenu[0].isEnabled());
     EXPECT_TRUE(entry(7).submenu.at(0).isEnabled());
 }
@@ -66,7 +65,7 @@ TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomize)
 {
     for (const int row : {4, 8}) {
         ASSERT_EQ(entry(row).submenu.size(), 1U);
-        EXPECT_EQ(entry(row).submenu[0].title, QStringLiteral("Randomize"));
+        EXPECT_EQ(entry(row).submenu[0].title, u"Randomize"_s);
         EXPECT_TRUE(entry(row).submenu[0].isEnabled());
     }
 }
@@ -79,27 +78,26 @@ TEST_F(StatusMenuModelTest, WithoutTheHelperTheAddressesAreShownWithoutTheirSubm
     EXPECT_TRUE(entry(7).submenu.empty());
     EXPECT_TRUE(entry(8).submenu.empty());
     EXPECT_FALSE(entry(8).isEnabled());
-    EXPECT_EQ(entry(8).title, QStringLiteral("    Current Address · 02:00:00:00:00:01"));
+    EXPECT_EQ(entry(8).title, u"    Current Address · 02:00:00:00:00:01"_s);
 }
 
 TEST_F(StatusMenuModelTest, WithNoInterfacesOnlyFixedItemsSeparatorsAndQuitRemain)
 {
     settings.set(keys::deviceDict, QVariant());
     menu.menuNeedsUpdate();
-    EXPECT_THAT(titles(), ElementsAre(QStringLiteral("Open Quillon"), QStringLiteral("-"),
-                              QStringLiteral("-"), QStringLiteral("Quit Quillon")));
+    EXPECT_THAT(titles(), ElementsAre(u"Open Quillon"_s, u"-"_s, u"-"_s, u"Quit Quillon"_s));
 }
 
 TEST_F(StatusMenuModelTest, OpeningTheMenuReadsTheInterfacesAnew)
 {
-    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:42"));
+    host.giveAddress(wired, u"02:00:00:00:00:42"_s);
     menu.menuWillOpen();
-    EXPECT_EQ(entry(8).title, QStringLiteral("    Current Address · 02:00:00:00:00:42"));
+    EXPECT_EQ(entry(8).title, u"    Current Address · 02:00:00:00:00:42"_s);
 }
 
 TEST_F(StatusMenuModelTest, TheStatusMenuNeverShowsCloseWindow)
 {
-    EXPECT_FALSE(titles().contains(QStringLiteral("Close Window")));
+    EXPECT_FALSE(titles().contains(u"Close Window"_s));
 }
 
 TEST_F(StatusMenuModelTest, AnUnchangedMenuIsNotAnnounced)
@@ -121,14 +119,14 @@ TEST_F(StatusMenuModelTest, AnAddressIsRandomizedAndRestoredInItsOwnSection)
 {
     menu.activate({4, 0});
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wifi), QStringLiteral("AA:01:02:03:04:05"));
-    EXPECT_EQ(addressOf(wired), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(addressOf(wifi), u"AA:01:02:03:04:05"_s);
+    EXPECT_EQ(addressOf(wired), u"02:00:00:00:00:01"_s);
     EXPECT_EQ(current.device(), wired);
 
     menu.activate({7, 0});
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
-    EXPECT_EQ(addressOf(wifi), QStringLiteral("AA:01:02:03:04:05"));
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    EXPECT_EQ(addressOf(wifi), u"AA:01:02:03:04:05"_s);
 }
 
 TEST_F(StatusMenuModelTest, ADisabledOrMissingItemDoesNothing)
@@ -156,7 +154,7 @@ TEST_F(StatusMenuModelTest, TheMenuMayBeRebuiltByTheActionThatItStarted)
     });
     menu.activate({7, 0});
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
 }
 
 TEST_F(StatusMenuModelTest, OpenAndQuitActOnTheProgram)

@@ -8,6 +8,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -29,9 +31,9 @@ protected:
                 return row.value;
             }
         }
-        return QStringLiteral("no such row");
+        return u"no such row"_s;
     }
-    const FavouriteButton &heart() const { return model->state().favourite; }
+    const FavoriteButton &heart() const { return model->state().favorite; }
 
     SavedNetworks saved{settings, network};
     std::unique_ptr<NetworkInfoModel> model = std::make_unique<NetworkInfoModel>(
@@ -53,18 +55,18 @@ TEST_F(NetworkInfoModelTest, ShowsEveryDetail)
 {
     network.updateWiFiNetwork();
     const QList<NetworkInfoModel::Row> expected = {
-        {QStringLiteral("Network"), QStringLiteral("Home")},
-        {QStringLiteral("SSID"), QStringLiteral("Home")},
-        {QStringLiteral("BSSID"), homeBssid},
-        {QStringLiteral("IP Address"), QStringLiteral("198.51.100.7")},
-        {QStringLiteral("Security"), QStringLiteral("WPA2 Personal")},
-        {QStringLiteral("Channel"), QStringLiteral("36 (5 GHz, 80 MHz)")},
-        {QStringLiteral("Country Code"), QStringLiteral("DE")},
-        {QStringLiteral("RSSI"), QStringLiteral("-54 dBm")},
-        {QStringLiteral("Noise"), QStringLiteral("-92 dBm")},
-        {QStringLiteral("Transmit Rate"), QStringLiteral("866.7 Mbps")},
-        {QStringLiteral("PHY Mode"), QStringLiteral("802.11ac")},
-        {QStringLiteral("MCS Index"), QStringLiteral("9")},
+        {u"Network"_s, u"Home"_s},
+        {u"SSID"_s, u"Home"_s},
+        {u"BSSID"_s, homeBssid},
+        {u"IP Address"_s, u"198.51.100.7"_s},
+        {u"Security"_s, u"WPA2 Personal"_s},
+        {u"Channel"_s, u"36 (5 GHz, 80 MHz)"_s},
+        {u"Country Code"_s, u"DE"_s},
+        {u"RSSI"_s, u"-54 dBm"_s},
+        {u"Noise"_s, u"-92 dBm"_s},
+        {u"Transmit Rate"_s, u"866.7 Mbps"_s},
+        {u"PHY Mode"_s, u"802.11ac"_s},
+        {u"MCS Index"_s, u"9"_s},
     };
     EXPECT_EQ(model->state().rows, expected);
 }
@@ -73,17 +75,17 @@ TEST_F(NetworkInfoModelTest, ShowsThatThereIsNoNetwork)
 {
     radio.leave();
     network.updateWiFiNetwork();
-    EXPECT_EQ(shown("Network"), QStringLiteral("Not currently connected..."));
+    EXPECT_EQ(shown("Network"), u"Not currently connected..."_s);
     EXPECT_EQ(shown("Security"), QString());
     EXPECT_EQ(model->state().rows.size(), 12);
 }
 
 TEST_F(NetworkInfoModelTest, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
 {
-    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, QStringLiteral("Before")},
-                                            {wifirecord::BSSID, officeBssid}});
+    settings.set(keys::currentWiFiDict,
+        QVariantMap{{wifirecord::name, u"Before"_s}, {wifirecord::BSSID, officeBssid}});
     const NetworkInfoModel later({settings, scheduler, network, saved});
-    EXPECT_EQ(later.state().rows.first().value, QStringLiteral("Before"));
+    EXPECT_EQ(later.state().rows.first().value, u"Before"_s);
 }
 
 TEST_F(NetworkInfoModelTest, IsRefreshedBeforeItOpens)
@@ -91,7 +93,7 @@ TEST_F(NetworkInfoModelTest, IsRefreshedBeforeItOpens)
     model->toggleNetworkInfoPopover();
     EXPECT_TRUE(model->state().popoverShown);
     EXPECT_EQ(radio.reads, 1);
-    EXPECT_EQ(shown("SSID"), QStringLiteral("Home"));
+    EXPECT_EQ(shown("SSID"), u"Home"_s);
 }
 
 TEST_F(NetworkInfoModelTest, IsRefreshedEveryThreeSecondsWhileItIsOpen)
@@ -102,7 +104,7 @@ TEST_F(NetworkInfoModelTest, IsRefreshedEveryThreeSecondsWhileItIsOpen)
     EXPECT_EQ(radio.reads, 1);
     scheduler.advance(1ms);
     EXPECT_EQ(radio.reads, 2);
-    EXPECT_EQ(shown("RSSI"), QStringLiteral("-60 dBm"));
+    EXPECT_EQ(shown("RSSI"), u"-60 dBm"_s);
     scheduler.advance(9s);
     EXPECT_EQ(radio.reads, 5);
 }
@@ -145,30 +147,30 @@ TEST_F(NetworkInfoModelTest, HasOneTimerHoweverOftenItIsStarted)
 TEST_F(NetworkInfoModelTest, OffersToAddANetworkThatIsNotSaved)
 {
     network.updateWiFiNetwork();
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
-    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Add Network to Favorites"));
-    model->chooseFavouriteButton();
+    EXPECT_EQ(heart().symbol, u"heart"_s);
+    EXPECT_EQ(heart().accessibilityText, u"Add Network to Favorites"_s);
+    model->chooseFavoriteButton();
     EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).contains(homeBssid));
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart.fill"));
-    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Remove Network from Favorites"));
+    EXPECT_EQ(heart().symbol, u"heart.fill"_s);
+    EXPECT_EQ(heart().accessibilityText, u"Remove Network from Favorites"_s);
 }
 
 TEST_F(NetworkInfoModelTest, OffersToRemoveANetworkThatIsSaved)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
     radio.interface->bssid = homeBssid.toUpper();
     model->toggleNetworkInfoPopover();
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart.fill"));
-    model->chooseFavouriteButton();
+    EXPECT_EQ(heart().symbol, u"heart.fill"_s);
+    model->chooseFavoriteButton();
     EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+    EXPECT_EQ(heart().symbol, u"heart"_s);
 }
 
 TEST_F(NetworkInfoModelTest, OffersToAddWhereThereIsNoNetwork)
 {
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+    EXPECT_EQ(heart().symbol, u"heart"_s);
     radio.leave();
-    model->chooseFavouriteButton();
+    model->chooseFavoriteButton();
     EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
 }
 
@@ -176,8 +178,7 @@ TEST_F(NetworkInfoModelTest, FollowsAListThatIsChangedElsewhere)
 {
     network.updateWiFiNetwork();
     settings.changeFromOutside(keys::savedNetworks,
-        QVariantMap{
-            {homeBssid, networkEntry(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"))}});
+        QVariantMap{{homeBssid, networkEntry(homeBssid, u"Home"_s, u"Home"_s)}});
     scheduler.runPending();
     EXPECT_TRUE(heart().removes);
 }

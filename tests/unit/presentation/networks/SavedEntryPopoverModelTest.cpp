@@ -8,6 +8,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using Popover = SavedEntryPopoverModel::Popover;
@@ -19,7 +21,7 @@ protected:
     SavedEntryPopoverModelTest()
     {
         editing->endEditing();
-        saveAddress(address, QStringLiteral("Printer"));
+        saveAddress(address, u"Printer"_s);
         model = std::make_unique<SavedEntryPopoverModel>(*editing, addressEditing, scheduler);
         QObject::connect(editing.get(), &SavedNetworkEditing::networkDefinitionChanged, model.get(),
             &SavedEntryPopoverModel::showNetworkDefinition);
@@ -45,7 +47,7 @@ protected:
     }
     const SavedEntryPopoverModel::State &state() const { return model->state(); }
 
-    const QString address = QStringLiteral("a4:83:e7:01:02:03");
+    const QString address = u"a4:83:e7:01:02:03"_s;
     SavedAddressEditing addressEditing{settings, scheduler};
     std::unique_ptr<SavedEntryPopoverModel> model;
 };
@@ -63,8 +65,8 @@ TEST_F(SavedEntryPopoverModelTest, OpensInTheNextTurnAroundThePointer)
 TEST_F(SavedEntryPopoverModelTest, ShowsTheNetwork)
 {
     openNetwork();
-    EXPECT_EQ(state().name, QStringLiteral("Home"));
-    EXPECT_EQ(state().ssid, QStringLiteral("Home"));
+    EXPECT_EQ(state().name, u"Home"_s);
+    EXPECT_EQ(state().ssid, u"Home"_s);
     EXPECT_EQ(state().bssid, homeBssid);
     EXPECT_EQ(state().address, QString());
     EXPECT_TRUE(state().nameEnabled);
@@ -75,7 +77,7 @@ TEST_F(SavedEntryPopoverModelTest, ShowsTheAddress)
 {
     openAddress();
     EXPECT_EQ(state().open, Popover::Address);
-    EXPECT_EQ(state().name, QStringLiteral("Printer"));
+    EXPECT_EQ(state().name, u"Printer"_s);
     EXPECT_EQ(state().address, address);
     EXPECT_EQ(state().bssid, QString());
     EXPECT_TRUE(state().nameEnabled);
@@ -110,14 +112,14 @@ TEST_F(SavedEntryPopoverModelTest, OpensForTheLastOfTwoTokensChosenInOneTurn)
         model.get(), &SavedEntryPopoverModel::changed, [&] { opened << state().open; });
     scheduler.runPending();
     EXPECT_EQ(opened, QList<Popover>{Popover::Network});
-    EXPECT_EQ(state().name, QStringLiteral("Office"));
+    EXPECT_EQ(state().name, u"Office"_s);
 }
 
 TEST_F(SavedEntryPopoverModelTest, TakesTheNameAndClosesInTheNextTurn)
 {
     openNetwork();
-    model->controlTextDidEndEditing(QStringLiteral("Office"));
-    EXPECT_EQ(name(), QStringLiteral("Office (3)"));
+    model->controlTextDidEndEditing(u"Office"_s);
+    EXPECT_EQ(name(), u"Office (3)"_s);
     EXPECT_EQ(state().open, Popover::Network);
     scheduler.runPending();
     EXPECT_EQ(state(), SavedEntryPopoverModel::State());
@@ -127,8 +129,8 @@ TEST_F(SavedEntryPopoverModelTest, TakesTheNameAndClosesInTheNextTurn)
 TEST_F(SavedEntryPopoverModelTest, TakesTheNameOfAnAddressAndClosesInTheNextTurn)
 {
     openAddress();
-    model->controlTextDidEndEditing(QStringLiteral("Scanner"));
-    EXPECT_EQ(savedAddress(address).value(savedentry::name).toString(), QStringLiteral("Scanner"));
+    model->controlTextDidEndEditing(u"Scanner"_s);
+    EXPECT_EQ(savedAddress(address).value(savedentry::name).toString(), u"Scanner"_s);
     EXPECT_EQ(state().open, Popover::Address);
     scheduler.runPending();
     EXPECT_EQ(state().open, Popover::None);
@@ -138,12 +140,12 @@ TEST_F(SavedEntryPopoverModelTest, TakesTheNameOfAnAddressAndClosesInTheNextTurn
 TEST_F(SavedEntryPopoverModelTest, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
 {
     openNetwork();
-    model->controlTextDidEndEditing(QStringLiteral("Our house"));
+    model->controlTextDidEndEditing(u"Our house"_s);
     choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
     scheduler.runPending();
     EXPECT_EQ(state().open, Popover::Network);
-    EXPECT_EQ(state().name, QStringLiteral("Office"));
-    EXPECT_EQ(name(), QStringLiteral("Our house"));
+    EXPECT_EQ(state().name, u"Office"_s);
+    EXPECT_EQ(name(), u"Our house"_s);
 }
 
 TEST_F(SavedEntryPopoverModelTest, IgnoresANameThatEndsAfterIt)
@@ -151,7 +153,7 @@ TEST_F(SavedEntryPopoverModelTest, IgnoresANameThatEndsAfterIt)
     openNetwork();
     model->closeNetworkPopover();
     settings.clearJournal();
-    model->controlTextDidEndEditing(QStringLiteral("Late"));
+    model->controlTextDidEndEditing(u"Late"_s);
     model->removeEntry();
     EXPECT_TRUE(settings.journal().isEmpty());
 }
@@ -213,7 +215,7 @@ TEST_F(SavedEntryPopoverModelTest, TicksOneOfTwoButtonsAndActsOnTheOther)
 
 TEST_F(SavedEntryPopoverModelTest, OpensWithTheModeThatIsSaved)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Home"), true);
+    saveNetwork(homeBssid, u"Home"_s, u"Home"_s, true);
     openNetwork();
     EXPECT_TRUE(state().ssidTickButton.on);
     EXPECT_FALSE(state().bssidTickButton.on);

@@ -8,6 +8,8 @@
 #include <memory>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class SavedListsModelTest : public NetworkFixture
@@ -16,7 +18,7 @@ protected:
     SavedListsModelTest()
     {
         QObject::connect(model.get(), &SavedListsModel::changed, [this] { ++changes; });
-        wear(QStringLiteral("A4:83:E7:01:02:03"));
+        wear(u"A4:83:E7:01:02:03"_s);
     }
 
     void wear(const QString &worn)
@@ -31,9 +33,9 @@ protected:
         }
         return result;
     }
-    const FavouriteButton &heart() const { return model->state().favourite; }
+    const FavoriteButton &heart() const { return model->state().favorite; }
 
-    const QString address = QStringLiteral("a4:83:e7:01:02:03");
+    const QString address = u"a4:83:e7:01:02:03"_s;
     SavedAddresses saved{settings};
     std::unique_ptr<SavedListsModel> model = std::make_unique<SavedListsModel>(settings, saved);
     int changes = 0;
@@ -41,33 +43,30 @@ protected:
 
 TEST_F(SavedListsModelTest, ShowEntriesByTheirNames)
 {
-    saveNetwork(officeBssid, QStringLiteral("Office"), QStringLiteral("Work"));
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
-    saveAddress(address, QStringLiteral("Printer"));
-    EXPECT_EQ(texts(model->state().networks),
-        (QStringList{QStringLiteral("Our house"), QStringLiteral("Work")}));
-    EXPECT_EQ(texts(model->state().addresses), QStringList{QStringLiteral("Printer")});
+    saveNetwork(officeBssid, u"Office"_s, u"Work"_s);
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
+    saveAddress(address, u"Printer"_s);
+    EXPECT_EQ(texts(model->state().networks), (QStringList{u"Our house"_s, u"Work"_s}));
+    EXPECT_EQ(texts(model->state().addresses), QStringList{u"Printer"_s});
     EXPECT_EQ(model->state().networks.first().entry, savedNetworkEntry(homeBssid));
     EXPECT_EQ(model->state().addresses.first().entry, savedAddressEntry(address));
 }
 
 TEST_F(SavedListsModelTest, ShowAtOnceWhatWasSavedBefore)
 {
-    saveNetwork(homeBssid, QStringLiteral("Home"), QStringLiteral("Our house"));
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
     const SavedListsModel later(settings, saved);
-    EXPECT_EQ(texts(later.state().networks), QStringList{QStringLiteral("Our house")});
+    EXPECT_EQ(texts(later.state().networks), QStringList{u"Our house"_s});
 }
 
 TEST_F(SavedListsModelTest, ShowTheWordNameInAnyOtherField)
 {
-    const SavedEntry entry{.name = QStringLiteral("X"), .bssid = homeBssid};
-    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, entry),
-        QStringLiteral("name"));
-    EXPECT_EQ(
-        tokenFieldDisplayStringForRepresentedObject(TokenField::Other, {}), QStringLiteral("name"));
+    const SavedEntry entry{.name = u"X"_s, .bssid = homeBssid};
+    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, entry), u"name"_s);
+    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, {}), u"name"_s);
     for (const TokenField field :
         {TokenField::SavedNetworks, TokenField::SavedAddresses, TokenField::QuickAddresses}) {
-        EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(field, entry), QStringLiteral("X"));
+        EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(field, entry), u"X"_s);
     }
 }
 
@@ -81,22 +80,21 @@ TEST_F(SavedListsModelTest, OpenSomethingFromTheirTwoFieldsOnly)
 
 TEST_F(SavedListsModelTest, OrderQuickAddressesByTheirAddressIgnoringCase)
 {
-    saveAddress(QStringLiteral("b4:00:00:00:00:01"), QStringLiteral("first name"));
-    saveAddress(QStringLiteral("A4:00:00:00:00:02"), QStringLiteral("zebra"));
-    saveAddress(QStringLiteral("C4:00:00:00:00:03"), QStringLiteral("middle"));
-    saveAddress(QStringLiteral("a4:00:00:00:00:01"), QStringLiteral("Name"));
+    saveAddress(u"b4:00:00:00:00:01"_s, u"first name"_s);
+    saveAddress(u"A4:00:00:00:00:02"_s, u"zebra"_s);
+    saveAddress(u"C4:00:00:00:00:03"_s, u"middle"_s);
+    saveAddress(u"a4:00:00:00:00:01"_s, u"Name"_s);
     model->updateQuickAddressesField();
     EXPECT_EQ(texts(model->state().quickAddresses),
-        (QStringList{QStringLiteral("Name"), QStringLiteral("zebra"), QStringLiteral("first name"),
-            QStringLiteral("middle")}));
+        (QStringList{u"Name"_s, u"zebra"_s, u"first name"_s, u"middle"_s}));
 }
 
 TEST_F(SavedListsModelTest, RefillQuickAddressesWhenTheyAreTold)
 {
-    saveAddress(address, QStringLiteral("Printer"));
+    saveAddress(address, u"Printer"_s);
     EXPECT_TRUE(model->state().quickAddresses.isEmpty());
     model->updateQuickAddressesField();
-    EXPECT_EQ(texts(model->state().quickAddresses), QStringList{QStringLiteral("Printer")});
+    EXPECT_EQ(texts(model->state().quickAddresses), QStringList{u"Printer"_s});
     settings.set(keys::savedAddresses, QVariant());
     model->updateQuickAddressesField();
     EXPECT_TRUE(model->state().quickAddresses.isEmpty());
@@ -104,22 +102,22 @@ TEST_F(SavedListsModelTest, RefillQuickAddressesWhenTheyAreTold)
 
 TEST_F(SavedListsModelTest, OfferToAddAnAddressThatIsNotSaved)
 {
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
-    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Add Address to Favorites"));
-    model->chooseFavouriteButton();
+    EXPECT_EQ(heart().symbol, u"heart"_s);
+    EXPECT_EQ(heart().accessibilityText, u"Add Address to Favorites"_s);
+    model->chooseFavoriteButton();
     EXPECT_TRUE(settings.getDictionary(keys::savedAddresses).contains(address));
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart.fill"));
-    EXPECT_EQ(heart().accessibilityText, QStringLiteral("Remove Address from Favorites"));
-    model->chooseFavouriteButton();
+    EXPECT_EQ(heart().symbol, u"heart.fill"_s);
+    EXPECT_EQ(heart().accessibilityText, u"Remove Address from Favorites"_s);
+    model->chooseFavoriteButton();
     EXPECT_TRUE(settings.getDictionary(keys::savedAddresses).isEmpty());
-    EXPECT_EQ(heart().symbol, QStringLiteral("heart"));
+    EXPECT_EQ(heart().symbol, u"heart"_s);
 }
 
 TEST_F(SavedListsModelTest, OfferWhatFitsTheAddressInUse)
 {
-    saveAddress(address, QStringLiteral("Printer"));
+    saveAddress(address, u"Printer"_s);
     EXPECT_TRUE(heart().removes);
-    wear(QStringLiteral("02:00:00:00:00:01"));
+    wear(u"02:00:00:00:00:01"_s);
     EXPECT_FALSE(heart().removes);
 }
 
@@ -136,9 +134,8 @@ TEST_F(SavedListsModelTest, HaveAPopoverThatTheirButtonOpensAndCloses)
 
 TEST_F(SavedListsModelTest, MakeNoTokensOfWhatIsNoEntry)
 {
-    settings.set(keys::savedNetworks,
-        QVariantMap{{QStringLiteral("00"), QStringLiteral("text")}, {QStringLiteral("01"), 5}});
-    settings.set(keys::savedAddresses, QVariantList{QStringLiteral("text")});
+    settings.set(keys::savedNetworks, QVariantMap{{u"00"_s, u"text"_s}, {u"01"_s, 5}});
+    settings.set(keys::savedAddresses, QVariantList{u"text"_s});
     model->updateQuickAddressesField();
     EXPECT_TRUE(model->state().networks.isEmpty());
     EXPECT_TRUE(model->state().addresses.isEmpty());
@@ -147,9 +144,8 @@ TEST_F(SavedListsModelTest, MakeNoTokensOfWhatIsNoEntry)
 
 TEST_F(SavedListsModelTest, GiveEntriesTheKeyUnderWhichTheyAreSaved)
 {
-    settings.set(keys::savedNetworks,
-        QVariantMap{{homeBssid, QVariantMap{}},
-            {officeBssid, networkEntry(cafeBssid, QStringLiteral("S"), QStringLiteral("N"))}});
+    settings.set(keys::savedNetworks, QVariantMap{{homeBssid, QVariantMap{}},
+                                          {officeBssid, networkEntry(cafeBssid, u"S"_s, u"N"_s)}});
     const QList<SavedListsModel::Token> tokens = model->state().networks;
     ASSERT_EQ(tokens.size(), 2);
     EXPECT_EQ(tokens.at(0).entry.bssid, homeBssid);
@@ -159,7 +155,7 @@ TEST_F(SavedListsModelTest, GiveEntriesTheKeyUnderWhichTheyAreSaved)
 
 TEST_F(SavedListsModelTest, SayOnlyWhatChanged)
 {
-    saveAddress(address, QStringLiteral("Printer"));
+    saveAddress(address, u"Printer"_s);
     model->updateQuickAddressesField();
     changes = 0;
     model->updateQuickAddressesField();

@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class AdvancedPreferencesModelTest : public ::testing::Test
@@ -18,7 +20,7 @@ protected:
     {
         QObject::connect(&presence, &Presence::windowOpened, [this] { ++fronts; });
         for (const char *key : {"success", "device", "version", "other"}) {
-            machine.groupSettings.set(QString::fromLatin1(key), QStringLiteral("x"));
+            machine.groupSettings.set(QString::fromLatin1(key), u"x"_s);
         }
     }
 
@@ -53,7 +55,7 @@ TEST_F(AdvancedPreferencesModelTest, WithoutTheHelperOnlyInstallIsOffered)
 
 TEST_F(AdvancedPreferencesModelTest, OnLoadInstallWaitsForTheHelpersAnswer)
 {
-    machine.helper.version = QStringLiteral("1.9");
+    machine.helper.version = u"1.9"_s;
     pane.load();
     EXPECT_FALSE(pane.isInstallEnabled());
     machine.scheduler.runPending();
@@ -80,7 +82,7 @@ TEST_F(AdvancedPreferencesModelTest, AFailedInstallOnlyBringsTheWindowsToTheFron
     machine.helper.installFails = true;
     pane.installHelper();
     machine.scheduler.runPending();
-    EXPECT_FALSE(machine.helper.journal().contains(QStringLiteral("version")));
+    EXPECT_FALSE(machine.helper.journal().contains(u"version"_s));
     EXPECT_EQ(fronts, 1);
 }
 
@@ -91,8 +93,8 @@ TEST_F(
     machine.groupSettings.clearJournal();
     pane.uninstallHelper();
     machine.scheduler.runPending();
-    EXPECT_EQ(machine.groupSettings.stored().keys(), QStringList{QStringLiteral("other")});
-    EXPECT_EQ(machine.groupSettings.journal().last(), QStringLiteral("synchronize"));
+    EXPECT_EQ(machine.groupSettings.stored().keys(), QStringList{u"other"_s});
+    EXPECT_EQ(machine.groupSettings.journal().last(), u"synchronize"_s);
     EXPECT_EQ(fronts, 1);
 }
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/CountdownModel.h"
 
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class CountdownModelTest : public RuleMachine
+class CountdownModelTest : public RuleFixture
 {
 protected:
     CountdownModelTest()
@@ -32,9 +34,8 @@ TEST_F(CountdownModelTest, AppearsWithTheFirstTick)
     timers.startCountDownTimer(en0);
     EXPECT_FALSE(model.state().buttonsVisible);
     pass(1);
-    EXPECT_EQ(
-        model.state(), (CountdownModel::State{QStringLiteral("...changing MAC Address in 00:01:59"),
-                           true, true, false, en0}));
+    EXPECT_EQ(model.state(),
+        (CountdownModel::State{u"...changing MAC Address in 00:01:59"_s, true, true, false, en0}));
 }
 
 TEST_F(CountdownModelTest, IsThatOfTheSelectedInterfaceOnly)
@@ -56,7 +57,7 @@ TEST_F(CountdownModelTest, DisablesAButtonThatWasUsedUntilTheNextTickSaysMore)
     pass(1);
     EXPECT_FALSE(model.state().pauseEnabled);
     EXPECT_TRUE(model.state().resumeEnabled);
-    EXPECT_EQ(model.state().label, QStringLiteral("...changing MAC Address in 00:01:59 (paused)"));
+    EXPECT_EQ(model.state().label, u"...changing MAC Address in 00:01:59 (paused)"_s);
     model.resumeCountdownTimer();
     EXPECT_EQ(resets, 2);
     EXPECT_FALSE(model.state().resumeEnabled);

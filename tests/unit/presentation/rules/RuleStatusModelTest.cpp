@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/RuleStatusModel.h"
 
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class RuleStatusModelTest : public RuleMachine
+class RuleStatusModelTest : public RuleFixture
 {
 protected:
     RuleStatusModel::State shownFor(const QVariant &status)
@@ -21,31 +23,30 @@ protected:
 
 TEST_F(RuleStatusModelTest, IsNoneBeforeAnythingIsEvaluated)
 {
-    EXPECT_EQ(model.state().image, QStringLiteral("NSStatusNone"));
+    EXPECT_EQ(model.state().image, u"NSStatusNone"_s);
 }
 
 TEST_F(RuleStatusModelTest, TellsAnActiveRule)
 {
-    EXPECT_EQ(shownFor(1), (RuleStatusModel::State{QStringLiteral("NSStatusAvailable"),
-                               QStringLiteral("has an Active rule"), false, true, true}));
+    EXPECT_EQ(shownFor(1), (RuleStatusModel::State{u"NSStatusAvailable"_s, u"has an Active rule"_s,
+                               false, true, true}));
 }
 
 TEST_F(RuleStatusModelTest, TellsRulesOfWhichNoneIsActive)
 {
-    EXPECT_EQ(
-        shownFor(2), (RuleStatusModel::State{QStringLiteral("NSStatusPartiallyAvailable"),
-                         QStringLiteral("no rules are currently Active"), true, false, true}));
+    EXPECT_EQ(shownFor(2), (RuleStatusModel::State{u"NSStatusPartiallyAvailable"_s,
+                               u"no rules are currently Active"_s, true, false, true}));
 }
 
 TEST_F(RuleStatusModelTest, TellsEverythingElseAsNoRules)
 {
-    const RuleStatusModel::State none{QStringLiteral("NSStatusNone"),
-        QStringLiteral("no rules have been configured"), true, true, false};
+    const RuleStatusModel::State none{
+        u"NSStatusNone"_s, u"no rules have been configured"_s, true, true, false};
     for (const QVariant &status : {QVariant(0), QVariant(), QVariant(3), QVariant(-1),
-             QVariant(QStringLiteral("text")), QVariant(QVariantMap())}) {
+             QVariant(u"text"_s), QVariant(QVariantMap())}) {
         EXPECT_EQ(shownFor(status), none);
     }
-    model.updateRuleStatusForDevice(QStringLiteral("en9"));
+    model.updateRuleStatusForDevice(u"en9"_s);
     EXPECT_EQ(model.state(), none);
 }
 

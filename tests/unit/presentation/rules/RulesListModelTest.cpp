@@ -3,12 +3,14 @@
 #include "presentation/rules/RulesListModel.h"
 
 #include "fakes/PredicateFormat.h"
-#include "unit/rules/RuleMachine.h"
+#include "unit/rules/RuleFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class RulesListModelTest : public RuleMachine
+class RulesListModelTest : public RuleFixture
 {
 protected:
     QStringList names() const
@@ -25,67 +27,66 @@ protected:
 TEST_F(RulesListModelTest, AreFetchedAgainOnlyWhenARuleIsAmongTheChangedRecords)
 {
     model.filterRulesArrayController();
-    addRule({.name = QStringLiteral("new")});
+    addRule({.name = u"new"_s});
     const RuleList rules = queries.managedRuleArrayForDevice(allDevices);
     ASSERT_EQ(rules.size(), 1);
     const auto change = [](const ManagedObjectPtr &inserted) {
         return ObjectsDidChange{{inserted}, {}, {}};
     };
-    model.reloadAfter(change(context().insertNewObject(QStringLiteral("Connection"))));
+    model.reloadAfter(change(context().insertNewObject(u"Connection"_s)));
     EXPECT_EQ(names(), QStringList());
     model.reloadAfter(change(rules.first().object()));
-    EXPECT_EQ(names(), QStringList{QStringLiteral("new")});
+    EXPECT_EQ(names(), QStringList{u"new"_s});
 }
 
 TEST_F(RulesListModelTest, AreExactlyThoseThatEvaluationConsiders)
 {
-    addRule({.name = QStringLiteral("mine")});
-    addRule({.name = QStringLiteral("login"), .isLogin = true});
-    addRule({.name = QStringLiteral("other"), .device = en1});
+    addRule({.name = u"mine"_s});
+    addRule({.name = u"login"_s, .isLogin = true});
+    addRule({.name = u"other"_s, .device = en1});
     model.filterRulesArrayController();
     EXPECT_EQ(model.state().filter, queries.filterPredicateForDevice(en0));
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("login"), QStringLiteral("mine")}));
+    EXPECT_EQ(names(), (QStringList{u"login"_s, u"mine"_s}));
 }
 
 TEST_F(RulesListModelTest, OfAWiredInterfaceStandUnderItsPortAndDevice)
 {
     model.filterRulesArrayController();
-    EXPECT_EQ(model.state().symbol, QStringLiteral("network"));
-    EXPECT_EQ(model.state().title, QStringLiteral("Ethernet \u00B7 en0"));
+    EXPECT_EQ(model.state().symbol, u"network"_s);
+    EXPECT_EQ(model.state().title, u"Ethernet \u00B7 en0"_s);
 }
 
 TEST_F(RulesListModelTest, OfTheWifiInterfaceStandUnderTheNetworksName)
 {
     select(en1);
-    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, QStringLiteral("Home")}});
+    settings.set(keys::currentWiFiDict, QVariantMap{{wifirecord::name, u"Home"_s}});
     model.filterRulesArrayController();
-    EXPECT_EQ(model.state().symbol, QStringLiteral("wifi"));
-    EXPECT_EQ(model.state().title, QStringLiteral("Home"));
-    EXPECT_EQ(format(model.state().filter), QStringLiteral("network == 'empty'"));
+    EXPECT_EQ(model.state().symbol, u"wifi"_s);
+    EXPECT_EQ(model.state().title, u"Home"_s);
+    EXPECT_EQ(format(model.state().filter), u"network == 'empty'"_s);
 }
 
 TEST_F(RulesListModelTest, StandEnabledFirstAndByName)
 {
-    addRule({.name = QStringLiteral("b"), .enabled = false});
-    addRule({.name = QStringLiteral("d"), .network = QStringLiteral("x")});
-    addRule({.name = QStringLiteral("a"), .enabled = false});
-    addRule({.name = QStringLiteral("C")});
+    addRule({.name = u"b"_s, .enabled = false});
+    addRule({.name = u"d"_s, .network = u"x"_s});
+    addRule({.name = u"a"_s, .enabled = false});
+    addRule({.name = u"C"_s});
     model.filterRulesArrayController();
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("C"), QStringLiteral("d"), QStringLiteral("a"),
-                           QStringLiteral("b")}));
+    EXPECT_EQ(names(), (QStringList{u"C"_s, u"d"_s, u"a"_s, u"b"_s}));
     EXPECT_TRUE(model.state().rows.first().enabled);
     EXPECT_FALSE(model.state().rows.last().enabled);
 }
 
 TEST_F(RulesListModelTest, KeepTheirSelectionAndBeginWithTheFirst)
 {
-    addRule({.name = QStringLiteral("a")});
-    const Rule b = addRule({.name = QStringLiteral("b"), .network = QStringLiteral("x")});
+    addRule({.name = u"a"_s});
+    const Rule b = addRule({.name = u"b"_s, .network = u"x"_s});
     EXPECT_EQ(model.state().selectedRow, -1);
     model.filterRulesArrayController();
     EXPECT_EQ(model.state().selectedRow, 0);
     model.selectRow(1);
-    b.setName(QStringLiteral("0"));
+    b.setName(u"0"_s);
     model.reload();
     EXPECT_EQ(model.state().selectedRow, 0) << "the same rule, in its new place";
     model.selectRow(2);
@@ -93,13 +94,13 @@ TEST_F(RulesListModelTest, KeepTheirSelectionAndBeginWithTheFirst)
     EXPECT_EQ(model.state().selectedRow, 0);
     context().deleteObject(b.object());
     model.reload();
-    EXPECT_EQ(names(), QStringList{QStringLiteral("a")});
+    EXPECT_EQ(names(), QStringList{u"a"_s});
     EXPECT_EQ(model.state().selectedRow, 0);
 }
 
 TEST_F(RulesListModelTest, AreSwitchedByABroadcast)
 {
-    const Rule rule = addRule({.name = QStringLiteral("a"), .enabled = false});
+    const Rule rule = addRule({.name = u"a"_s, .enabled = false});
     const auto token = notifications.addObserver(notifications::toggleCheckbox,
         [this](const auto &posted) { switches.toggleRule(posted.userInfo); });
     QObject::connect(

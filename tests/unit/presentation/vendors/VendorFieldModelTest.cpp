@@ -6,6 +6,8 @@
 #include "unit/vendors/VendorFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -19,8 +21,8 @@ protected:
     VendorFieldModelTest()
     {
         makeLive(registryOf({{"000001", "Apple"}, {"000002", "Apply"}, {"000003", "Sam"}}));
-        storeDevice(QStringLiteral("en0"), {});
-        select(QStringLiteral("en0"));
+        storeDevice(u"en0"_s, {});
+        select(u"en0"_s);
         loadList();
         QObject::connect(
             &field, &VendorFieldModel::openedByTyping, [this] { said << "opened by typing"; });
@@ -34,7 +36,7 @@ protected:
     QString stored() const
     {
         return settings.getDictionary(keys::deviceDict)
-            .value(QStringLiteral("en0"))
+            .value(u"en0"_s)
             .toMap()
             .value(record::vendor)
             .toString();
@@ -45,21 +47,21 @@ protected:
 
 TEST_F(VendorFieldModelTest, OpensThePopoverAtTheFirstLetter)
 {
-    field.controlTextDidChange(QStringLiteral("a"));
+    field.controlTextDidChange(u"a"_s);
     EXPECT_TRUE(field.state().popoverShown);
     EXPECT_THAT(said, ElementsAre("opened by typing", "rows"));
     EXPECT_EQ(field.rowCount(), 2);
     said.clear();
-    field.controlTextDidChange(QStringLiteral("apple"));
+    field.controlTextDidChange(u"apple"_s);
     EXPECT_THAT(said, ElementsAre("rows"));
     EXPECT_EQ(field.rowCount(), 1);
-    EXPECT_EQ(field.state().text, QLatin1String("apple"));
+    EXPECT_EQ(field.state().text, "apple"_L1);
     EXPECT_EQ(stored(), QString());
 }
 
 TEST_F(VendorFieldModelTest, ShowsAllWhenItIsCleared)
 {
-    field.controlTextDidChange(QStringLiteral("app"));
+    field.controlTextDidChange(u"app"_s);
     field.controlTextDidChange({});
     EXPECT_EQ(field.rowCount(), 4);
     EXPECT_TRUE(field.state().popoverShown);
@@ -67,20 +69,20 @@ TEST_F(VendorFieldModelTest, ShowsAllWhenItIsCleared)
 
 TEST_F(VendorFieldModelTest, GoesToTheFirstRowByTheDownArrowAndChoosesIt)
 {
-    field.controlTextDidChange(QStringLiteral("appl"));
+    field.controlTextDidChange(u"appl"_s);
     field.closeVendorViewPopover();
     said.clear();
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
     EXPECT_TRUE(field.state().popoverShown);
     EXPECT_THAT(said, ElementsAre("list entered", "row 0"));
     EXPECT_EQ(field.state().selectedRow, 0);
-    EXPECT_EQ(stored(), QLatin1String("Apple (000001)"));
-    EXPECT_EQ(field.state().text, QLatin1String("Apple (000001)"));
+    EXPECT_EQ(stored(), "Apple (000001)"_L1);
+    EXPECT_EQ(field.state().text, "Apple (000001)"_L1);
 }
 
 TEST_F(VendorFieldModelTest, ChoosesNothingByTheDownArrowWhenNothingIsShown)
 {
-    field.controlTextDidChange(QStringLiteral("nothing like that"));
+    field.controlTextDidChange(u"nothing like that"_s);
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
     EXPECT_EQ(stored(), QString());
@@ -96,8 +98,8 @@ TEST_F(VendorFieldModelTest, LeavesOtherCommandsToItself)
 TEST_F(VendorFieldModelTest, TakesTheRowThatIsSelected)
 {
     EXPECT_TRUE(field.tableViewShouldSelectRow(3));
-    EXPECT_EQ(stored(), QLatin1String("Sam (000003)"));
-    EXPECT_EQ(field.state().text, QLatin1String("Sam (000003)"));
+    EXPECT_EQ(stored(), "Sam (000003)"_L1);
+    EXPECT_EQ(field.state().text, "Sam (000003)"_L1);
     EXPECT_EQ(field.state().selectedRow, 3);
     EXPECT_TRUE(field.tableViewShouldSelectRow(77));
     EXPECT_EQ(field.state().selectedRow, 3);
@@ -106,9 +108,9 @@ TEST_F(VendorFieldModelTest, TakesTheRowThatIsSelected)
 TEST_F(VendorFieldModelTest, KeepsTheSelectedEntryWhenOtherRowsAreShown)
 {
     field.tableViewShouldSelectRow(3);
-    field.controlTextDidChange(QStringLiteral("s"));
+    field.controlTextDidChange(u"s"_s);
     EXPECT_EQ(field.state().selectedRow, 0);
-    field.controlTextDidChange(QStringLiteral("a"));
+    field.controlTextDidChange(u"a"_s);
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
 }
 
@@ -138,8 +140,8 @@ TEST_F(VendorFieldModelTest, TogglesThePopover)
 
 TEST_F(VendorFieldModelTest, TellsTheWholeTextOfARow)
 {
-    EXPECT_EQ(field.rowText(2), QLatin1String("Random Address"));
-    EXPECT_EQ(field.rowToolTip(3), QLatin1String("Sam (000003)"));
+    EXPECT_EQ(field.rowText(2), "Random Address"_L1);
+    EXPECT_EQ(field.rowToolTip(3), "Sam (000003)"_L1);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "unit/vendors/VendorFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -12,28 +14,27 @@ using VendorPaneModelTest = VendorFixture;
 TEST_F(VendorPaneModelTest, IsIdleAtFirst)
 {
     EXPECT_EQ(pane.state().action, VendorPaneModel::Action::StartDownload);
-    EXPECT_EQ(pane.state().buttonTitle, QLatin1String("Update database"));
+    EXPECT_EQ(pane.state().buttonTitle, "Update database"_L1);
     EXPECT_FALSE(pane.state().progressShown);
 }
 
 TEST_F(VendorPaneModelTest, ShowsWhatTheSettingsRemember)
 {
     settings.set(keys::vendorCountValue, 32530);
-    settings.set(keys::vendorIDUpdatedDate, QStringLiteral("Yesterday (added 3 new Identifiers)"));
+    settings.set(keys::vendorIDUpdatedDate, u"Yesterday (added 3 new Identifiers)"_s);
     pane.showStoredTexts();
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("32530 Vendor Identifiers"));
-    EXPECT_EQ(pane.state().updatedLabel,
-        QLatin1String("Last Updated: Yesterday (added 3 new Identifiers)"));
+    EXPECT_EQ(pane.state().vendorCount, "32530 Vendor Identifiers"_L1);
+    EXPECT_EQ(pane.state().updatedLabel, "Last Updated: Yesterday (added 3 new Identifiers)"_L1);
 }
 
 TEST_F(VendorPaneModelTest, ShowsTheNullMarkerForADateThatIsNotThere)
 {
     pane.showStoredTexts();
-    EXPECT_EQ(pane.state().vendorCount, QLatin1String("0 Vendor Identifiers"));
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Last Updated: (null)"));
+    EXPECT_EQ(pane.state().vendorCount, "0 Vendor Identifiers"_L1);
+    EXPECT_EQ(pane.state().updatedLabel, "Last Updated: (null)"_L1);
     settings.set(keys::vendorIDUpdatedDate, 7);
     pane.showStoredTexts();
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("Last Updated: (null)"));
+    EXPECT_EQ(pane.state().updatedLabel, "Last Updated: (null)"_L1);
 }
 
 TEST_F(VendorPaneModelTest, ShowsTheFirstCountAsItGoes)
@@ -42,7 +43,7 @@ TEST_F(VendorPaneModelTest, ShowsTheFirstCountAsItGoes)
     count.createSupportFolderAndVendorDatabase();
     EXPECT_THAT(
         takeCounts(), ElementsAre("Getting Vendor Identifier count...", "3 Vendor Identifiers"));
-    EXPECT_EQ(pane.state().updatedLabel, QLatin1String("(null) (added 3 new Identifiers)"));
+    EXPECT_EQ(pane.state().updatedLabel, "(null) (added 3 new Identifiers)"_L1);
 }
 
 TEST_F(VendorPaneModelTest, SaysNothingWhenNothingChanges)

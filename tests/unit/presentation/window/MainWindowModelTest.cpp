@@ -5,6 +5,8 @@
 #include "unit/presentation/DeviceModelsFixture.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class MainWindowModelTest : public DeviceModelsFixture
@@ -55,22 +57,21 @@ TEST_F(MainWindowModelTest, WithoutADeviceTheSelectionButtonIsHidden)
 
 TEST_F(MainWindowModelTest, AClickOnTheSelectionButtonReadsTheDevicesAgain)
 {
-    host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp9s0"), {},
-        QStringLiteral("3c:22:fb:00:00:09"), {}});
+    host.plug({u"Ethernet"_s, u"enp9s0"_s, {}, u"3c:22:fb:00:00:09"_s, {}});
     devices.updateNetWorkInterfaces();
     model.popupButtonClicked();
-    EXPECT_TRUE(shown().devices.contains(QStringLiteral("enp9s0")));
+    EXPECT_TRUE(shown().devices.contains(u"enp9s0"_s));
 }
 
 TEST_F(MainWindowModelTest, TheDetailsAreThoseOfTheSelectedInterface)
 {
-    EXPECT_EQ(shown().interfaceName, QStringLiteral("Ethernet"));
-    EXPECT_EQ(shown().hardwareAddress, QStringLiteral("3C:22:FB:00:00:01"));
-    EXPECT_EQ(shown().ipAddress, QStringLiteral("192.0.2.10"));
+    EXPECT_EQ(shown().interfaceName, u"Ethernet"_s);
+    EXPECT_EQ(shown().hardwareAddress, u"3C:22:FB:00:00:01"_s);
+    EXPECT_EQ(shown().ipAddress, u"192.0.2.10"_s);
     EXPECT_TRUE(shown().linkActive);
 
     select(wifi);
-    EXPECT_EQ(shown().interfaceName, QStringLiteral("Wi-Fi"));
+    EXPECT_EQ(shown().interfaceName, u"Wi-Fi"_s);
     EXPECT_EQ(shown().ipAddress, QString());
     EXPECT_FALSE(shown().linkActive);
 }
@@ -79,13 +80,13 @@ TEST_F(MainWindowModelTest, WithoutTheHelperTheFieldIsDisabledAndTheHintIsShown)
 {
     model.setHelperInstalled(false);
     EXPECT_FALSE(shown().fieldEnabled);
-    EXPECT_FALSE(shown().randomiseEnabled);
+    EXPECT_FALSE(shown().randomizeEnabled);
     EXPECT_FALSE(shown().restoreEnabled);
     EXPECT_TRUE(shown().readMeVisible);
 
     model.setHelperInstalled(true);
     EXPECT_TRUE(shown().fieldEnabled);
-    EXPECT_TRUE(shown().randomiseEnabled);
+    EXPECT_TRUE(shown().randomizeEnabled);
     EXPECT_FALSE(shown().readMeVisible);
 }
 
@@ -95,7 +96,7 @@ TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryO
     EXPECT_FALSE(shown().restoreEnabled);
     EXPECT_TRUE(shown().softwareButtonVisible);
 
-    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
+    host.giveAddress(wired, u"02:00:00:00:00:01"_s);
     devices.updateNetWorkInterfaces();
     select(wired);
     EXPECT_TRUE(shown().hardwareIndicatorVisible);
@@ -105,9 +106,9 @@ TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryO
 
 TEST_F(MainWindowModelTest, ApplyIsOfferedForAWholeValidAddressThatIsNotInUse)
 {
-    EXPECT_TRUE(model.editField(QStringLiteral("02:11:22:33:44:55")));
+    EXPECT_TRUE(model.editField(u"02:11:22:33:44:55"_s));
     EXPECT_TRUE(shown().updateEnabled);
-    model.editField(QStringLiteral("02:11:22:33:44:5"));
+    model.editField(u"02:11:22:33:44:5"_s);
     EXPECT_FALSE(shown().updateEnabled);
     model.editField(QString());
     EXPECT_FALSE(shown().updateEnabled);
@@ -115,55 +116,55 @@ TEST_F(MainWindowModelTest, ApplyIsOfferedForAWholeValidAddressThatIsNotInUse)
 
 TEST_F(MainWindowModelTest, TheAddressInUseInTheOtherCaseIsNotOffered)
 {
-    model.editField(QStringLiteral("3c:22:fb:00:00:01"));
+    model.editField(u"3c:22:fb:00:00:01"_s);
     EXPECT_FALSE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, AWholeAddressIsShownInDisplayCaseAndShorterTextsAsTyped)
 {
-    model.editField(QStringLiteral("a1:b2"));
-    EXPECT_EQ(shown().fieldText, QStringLiteral("a1:b2"));
-    model.editField(QStringLiteral("a2:b2:c3:d4:e5:f6"));
-    EXPECT_EQ(shown().fieldText, QStringLiteral("A2:B2:C3:D4:E5:F6"));
+    model.editField(u"a1:b2"_s);
+    EXPECT_EQ(shown().fieldText, u"a1:b2"_s);
+    model.editField(u"a2:b2:c3:d4:e5:f6"_s);
+    EXPECT_EQ(shown().fieldText, u"A2:B2:C3:D4:E5:F6"_s);
 }
 
 TEST_F(MainWindowModelTest, TwelveBareDigitsAreShownInDisplayCaseButNotOffered)
 {
-    model.editField(QStringLiteral("a2b2c3d4e5f6"));
-    EXPECT_EQ(shown().fieldText, QStringLiteral("A2B2C3D4E5F6"));
+    model.editField(u"a2b2c3d4e5f6"_s);
+    EXPECT_EQ(shown().fieldText, u"A2B2C3D4E5F6"_s);
     EXPECT_FALSE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, SeventeenCharactersThatAreNoAddressAreNotOffered)
 {
-    model.editField(QStringLiteral("02:11:22:33:44::5"));
+    model.editField(u"02:11:22:33:44::5"_s);
     EXPECT_EQ(shown().fieldText.size(), 17);
     EXPECT_FALSE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, ARefusedKeystrokeLeavesTheFieldAsItWas)
 {
-    model.editField(QStringLiteral("02:11"));
+    model.editField(u"02:11"_s);
     int restored = 0;
     QObject::connect(&model, &MainWindowModel::fieldRestored, [&] { ++restored; });
-    EXPECT_FALSE(model.editField(QStringLiteral("02:11g")));
-    EXPECT_FALSE(model.editField(QStringLiteral("0211223344556")));
-    EXPECT_FALSE(model.editField(QStringLiteral("02:11:22:33:44:556")));
-    EXPECT_EQ(shown().fieldText, QStringLiteral("02:11"));
+    EXPECT_FALSE(model.editField(u"02:11g"_s));
+    EXPECT_FALSE(model.editField(u"0211223344556"_s));
+    EXPECT_FALSE(model.editField(u"02:11:22:33:44:556"_s));
+    EXPECT_EQ(shown().fieldText, u"02:11"_s);
     EXPECT_EQ(restored, 3);
 }
 
 TEST_F(MainWindowModelTest, WithoutTheHelperTheApplyButtonIsNeverReEvaluated)
 {
     model.setHelperInstalled(false);
-    model.setFieldText(QStringLiteral("02:11:22:33:44:55"));
+    model.setFieldText(u"02:11:22:33:44:55"_s);
     model.checkUpdateButton();
     EXPECT_FALSE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, TheApplyButtonIsEvaluatedOnTheMainThread)
 {
-    model.setFieldText(QStringLiteral("02:11:22:33:44:55"));
+    model.setFieldText(u"02:11:22:33:44:55"_s);
     scheduler.asBackground([&] { model.checkUpdateButton(); });
     EXPECT_FALSE(shown().updateEnabled);
     scheduler.runPending();
@@ -173,26 +174,26 @@ TEST_F(MainWindowModelTest, TheApplyButtonIsEvaluatedOnTheMainThread)
 TEST_F(MainWindowModelTest, SelectingAnotherInterfaceOffersNothingUntilAnAddressIsTyped)
 {
     select(wifi);
-    EXPECT_EQ(shown().fieldText, QStringLiteral("3C:22:FB:00:00:02"));
+    EXPECT_EQ(shown().fieldText, u"3C:22:FB:00:00:02"_s);
     EXPECT_FALSE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, ADroppedAddressIsShownInDisplayCaseAndOffered)
 {
     settings.setBool(keys::lowerCaseHEX, true);
-    EXPECT_TRUE(model.draggingEntered(QStringLiteral("AA:BB:CC:DD:EE:FF")));
+    EXPECT_TRUE(model.draggingEntered(u"AA:BB:CC:DD:EE:FF"_s));
     EXPECT_TRUE(model.performDragOperation());
-    model.concludeDragOperation(QStringLiteral("AA:BB:CC:DD:EE:FF"));
-    EXPECT_EQ(shown().fieldText, QStringLiteral("aa:bb:cc:dd:ee:ff"));
+    model.concludeDragOperation(u"AA:BB:CC:DD:EE:FF"_s);
+    EXPECT_EQ(shown().fieldText, u"aa:bb:cc:dd:ee:ff"_s);
     EXPECT_TRUE(shown().updateEnabled);
 }
 
 TEST_F(MainWindowModelTest, DroppedTextThatIsNoAddressIsRefused)
 {
     const QString before = shown().fieldText;
-    EXPECT_FALSE(model.draggingEntered(QStringLiteral("hello")));
-    model.concludeDragOperation(QStringLiteral("hello"));
-    model.populateHexFieldFromDrop(QStringLiteral("AABBCCDDEEFF"));
+    EXPECT_FALSE(model.draggingEntered(u"hello"_s));
+    model.concludeDragOperation(u"hello"_s);
+    model.populateHexFieldFromDrop(u"AABBCCDDEEFF"_s);
     EXPECT_EQ(shown().fieldText, before);
 }
 
@@ -200,9 +201,9 @@ TEST_F(MainWindowModelTest, ADropOnTheDisabledFieldIsRefused)
 {
     model.setHelperInstalled(false);
     const QString before = shown().fieldText;
-    EXPECT_FALSE(model.draggingEntered(QStringLiteral("02:11:22:33:44:55")));
+    EXPECT_FALSE(model.draggingEntered(u"02:11:22:33:44:55"_s));
     EXPECT_FALSE(model.performDragOperation());
-    model.concludeDragOperation(QStringLiteral("02:11:22:33:44:55"));
+    model.concludeDragOperation(u"02:11:22:33:44:55"_s);
     EXPECT_EQ(shown().fieldText, before);
 }
 
@@ -210,24 +211,24 @@ TEST_F(MainWindowModelTest, TheButtonsChangeTheAddressOfTheSelectedInterface)
 {
     model.randomizeAddress();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("AA:01:02:03:04:05"));
+    EXPECT_EQ(addressOf(wired), u"AA:01:02:03:04:05"_s);
 
-    model.editField(QStringLiteral("02:11:22:33:44:55"));
+    model.editField(u"02:11:22:33:44:55"_s);
     model.changeMacAddress();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("02:11:22:33:44:55"));
+    EXPECT_EQ(addressOf(wired), u"02:11:22:33:44:55"_s);
 
     model.restoreDefaultAddress();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
-    EXPECT_EQ(addressOf(wifi), QStringLiteral("3C:22:FB:00:00:02"));
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    EXPECT_EQ(addressOf(wifi), u"3C:22:FB:00:00:02"_s);
 }
 
 TEST_F(MainWindowModelTest, AnAppliedAddressIsShownInDisplayCase)
 {
-    model.setFieldText(QStringLiteral("02:aa:bb:cc:dd:ee"));
+    model.setFieldText(u"02:aa:bb:cc:dd:ee"_s);
     model.changeMacAddress();
-    EXPECT_EQ(shown().fieldText, QStringLiteral("02:AA:BB:CC:DD:EE"));
+    EXPECT_EQ(shown().fieldText, u"02:AA:BB:CC:DD:EE"_s);
 }
 
 TEST_F(MainWindowModelTest, TheInstallButtonAsksTheService)
@@ -235,7 +236,7 @@ TEST_F(MainWindowModelTest, TheInstallButtonAsksTheService)
     machine.helper.clearJournal();
     model.installHelper();
     scheduler.runPending();
-    EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("install")));
+    EXPECT_TRUE(machine.helper.journal().contains(u"install"_s));
 }
 
 TEST_F(MainWindowModelTest, AChosenInterfaceIsSelected)

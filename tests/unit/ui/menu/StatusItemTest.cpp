@@ -3,14 +3,14 @@
 #include "ui/menu/StatusItem.h"
 
 #include "ui/theme/Theme.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 namespace quillon::test {
 namespace {
 
 using ::testing::ElementsAre;
 
-class StatusItemTest : public WindowMachine
+class StatusItemTest : public WindowFixture
 {
 protected:
     StatusItemTest()

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/menu/StatusMenu.h"
 
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 #include <QPointer>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
 
-class StatusMenuTest : public WindowMachine
+class StatusMenuTest : public WindowFixture
 {
 protected:
     QAction *titled(const QString &title) const
@@ -35,40 +37,37 @@ protected:
         QStringList list;
         for (const QAction *action : view.actions()) {
             if (action->isVisible()) {
-                list.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+                list.append(action->isSeparator() ? u"-"_s : action->text());
             }
         }
         return list;
     }
 
     StatusMenu view{menu};
-    const QString wiredItem = QStringLiteral("Ethernet \u00B7 enp1s0");
-    const QString wiredFactory = QStringLiteral("    Hardware Address \u00B7 3C:22:FB:00:00:01");
-    const QString wiredCurrent = QStringLiteral("    Current Address \u00B7 02:00:00:00:00:01");
+    const QString wiredItem = u"Ethernet \u00B7 enp1s0"_s;
+    const QString wiredFactory = u"    Hardware Address \u00B7 3C:22:FB:00:00:01"_s;
+    const QString wiredCurrent = u"    Current Address \u00B7 02:00:00:00:00:01"_s;
 };
 
 TEST_F(StatusMenuTest, ShowsASectionForEachInterface)
 {
-    EXPECT_THAT(titles(), ElementsAre(QStringLiteral("Open Quillon"), QStringLiteral("-"),
-                              QStringLiteral("Wi-Fi \u00B7 wlp2s0"),
-                              QStringLiteral("    Hardware Address \u00B7 3C:22:FB:00:00:02"),
-                              QStringLiteral("    Current Address \u00B7 3C:22:FB:00:00:02"),
-                              QStringLiteral("-"), wiredItem, wiredFactory, wiredCurrent,
-                              QStringLiteral("-"), QStringLiteral("Quit Quillon")));
+    EXPECT_THAT(titles(), ElementsAre(u"Open Quillon"_s, u"-"_s, u"Wi-Fi \u00B7 wlp2s0"_s,
+                              u"    Hardware Address \u00B7 3C:22:FB:00:00:02"_s,
+                              u"    Current Address \u00B7 3C:22:FB:00:00:02"_s, u"-"_s, wiredItem,
+                              wiredFactory, wiredCurrent, u"-"_s, u"Quit Quillon"_s));
     EXPECT_TRUE(titled(wiredItem)->isChecked());
-    EXPECT_FALSE(titled(QStringLiteral("Wi-Fi \u00B7 wlp2s0"))->isChecked());
+    EXPECT_FALSE(titled(u"Wi-Fi \u00B7 wlp2s0"_s)->isChecked());
     EXPECT_TRUE(insideOf(wiredFactory)->isEnabled());
-    EXPECT_FALSE(
-        insideOf(QStringLiteral("    Hardware Address \u00B7 3C:22:FB:00:00:02"))->isEnabled());
+    EXPECT_FALSE(insideOf(u"    Hardware Address \u00B7 3C:22:FB:00:00:02"_s)->isEnabled());
 }
 
 TEST_F(StatusMenuTest, AnItemThatStaysKeepsItsIdentity)
 {
     QAction *const item = titled(wiredCurrent);
     QAction *const randomize = insideOf(wiredCurrent);
-    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:99"));
+    host.giveAddress(wired, u"02:00:00:00:00:99"_s);
     menu.menuWillOpen();
-    EXPECT_EQ(item->text(), QStringLiteral("    Current Address \u00B7 02:00:00:00:00:99"));
+    EXPECT_EQ(item->text(), u"    Current Address \u00B7 02:00:00:00:00:99"_s);
     EXPECT_TRUE(view.actions().contains(item));
     EXPECT_EQ(item->menu()->actions().value(0), randomize);
 }
@@ -77,16 +76,15 @@ TEST_F(StatusMenuTest, ANewInterfaceDoesNotTakeOverTheItemsOfAnother)
 {
     QAction *const item = titled(wiredItem);
     QAction *const randomize = insideOf(wiredCurrent);
-    host.plug({QStringLiteral("Ethernet"), QStringLiteral("eno1"),
-        QStringLiteral("3c:22:fb:00:00:07"), QStringLiteral("3c:22:fb:00:00:07"), {}});
+    host.plug({u"Ethernet"_s, u"eno1"_s, u"3c:22:fb:00:00:07"_s, u"3c:22:fb:00:00:07"_s, {}});
     menu.menuWillOpen();
     EXPECT_EQ(item->text(), wiredItem);
-    EXPECT_LT(view.actions().indexOf(titled(QStringLiteral("Ethernet \u00B7 eno1"))),
-        view.actions().indexOf(item));
+    EXPECT_LT(
+        view.actions().indexOf(titled(u"Ethernet \u00B7 eno1"_s)), view.actions().indexOf(item));
 
     randomize->trigger();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("AA:01:02:03:04:05"));
+    EXPECT_EQ(addressOf(wired), u"AA:01:02:03:04:05"_s);
 }
 
 TEST_F(StatusMenuTest, ClicksActOnTheInterfaceOfTheirSection)
@@ -95,17 +93,17 @@ TEST_F(StatusMenuTest, ClicksActOnTheInterfaceOfTheirSection)
     QObject::connect(&presence, &Presence::terminated, [&] { quit = true; });
     insideOf(wiredFactory)->trigger();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
-    titled(QStringLiteral("Wi-Fi \u00B7 wlp2s0"))->trigger();
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    titled(u"Wi-Fi \u00B7 wlp2s0"_s)->trigger();
     scheduler.runPending();
     EXPECT_EQ(current.device(), wifi);
-    titled(QStringLiteral("Quit Quillon"))->trigger();
+    titled(u"Quit Quillon"_s)->trigger();
     EXPECT_TRUE(quit);
 }
 
 TEST_F(StatusMenuTest, AClickAloneTicksNothing)
 {
-    QAction *const other = titled(QStringLiteral("Wi-Fi \u00B7 wlp2s0"));
+    QAction *const other = titled(u"Wi-Fi \u00B7 wlp2s0"_s);
     other->trigger();
     EXPECT_FALSE(other->isChecked());
     EXPECT_TRUE(titled(wiredItem)->isChecked());
@@ -161,17 +159,16 @@ TEST_F(StatusMenuTest, ASubmenuThatOutlivesItsItemDoesNothing)
 
 TEST_F(StatusMenuTest, IsRebuiltWhenItIsAboutToOpen)
 {
-    host.giveAddress(wired, QStringLiteral("02:00:00:00:00:77"));
+    host.giveAddress(wired, u"02:00:00:00:00:77"_s);
     Q_EMIT view.aboutToShow();
-    titled(QStringLiteral("    Current Address \u00B7 02:00:00:00:00:77"));
+    titled(u"    Current Address \u00B7 02:00:00:00:00:77"_s);
 }
 
 TEST_F(StatusMenuTest, AnUnderscoreInANameIsNoMnemonic)
 {
-    host.plug({QStringLiteral("Bridge"), QStringLiteral("br_0"), {},
-        QStringLiteral("02:00:00:00:00:50"), {}});
+    host.plug({u"Bridge"_s, u"br_0"_s, {}, u"02:00:00:00:00:50"_s, {}});
     menu.menuWillOpen();
-    titled(QStringLiteral("Bridge \u00B7 br__0"));
+    titled(u"Bridge \u00B7 br__0"_s);
 }
 
 } // namespace

@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::DoubleNear;
@@ -49,11 +51,10 @@ TEST_P(ThemeInEachScheme, ThePaletteSaysWhichSchemeItIs)
 TEST_P(ThemeInEachScheme, TheStyleSheetKnowsEveryNameThatItUses)
 {
     const Theme theme;
-    QFile file(QStringLiteral(":/ui/theme.qss"));
+    QFile file(u":/ui/theme.qss"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString sheet =
-        Theme::styleSheet(QString::fromUtf8(file.readAll()).section(QStringLiteral("*/"), 1),
-            ThemeColors::forScheme(GetParam()), GetParam());
+    const QString sheet = Theme::styleSheet(QString::fromUtf8(file.readAll()).section(u"*/"_s, 1),
+        ThemeColors::forScheme(GetParam()), GetParam());
     EXPECT_FALSE(sheet.isEmpty());
     EXPECT_THAT(sheet.toStdString(), Not(HasSubstr("@")));
 }
@@ -65,14 +66,12 @@ TEST(ThemeContrast, IsThatOfTheAccessibilityGuidelines)
     EXPECT_THAT(contrastRatio(QColor(0x777777), Qt::white), DoubleNear(4.48, 0.01));
 }
 
-TEST(ThemeStyleSheet, FillsInColoursByName)
+TEST(ThemeStyleSheet, FillsInColorsByName)
 {
     const auto colors = ThemeColors::forScheme(ColorScheme::Light);
-    EXPECT_EQ(
-        Theme::styleSheet(QStringLiteral("a: @text; b: @mutedText"), colors, ColorScheme::Light),
-        QStringLiteral("a: %1; b: %2").arg(colors.text.name(), colors.mutedText.name()));
-    EXPECT_EQ(Theme::styleSheet(QStringLiteral("@nothing"), colors, ColorScheme::Light),
-        QStringLiteral("@nothing"));
+    EXPECT_EQ(Theme::styleSheet(u"a: @text; b: @mutedText"_s, colors, ColorScheme::Light),
+        u"a: %1; b: %2"_s.arg(colors.text.name(), colors.mutedText.name()));
+    EXPECT_EQ(Theme::styleSheet(u"@nothing"_s, colors, ColorScheme::Light), u"@nothing"_s);
 }
 
 QColor middleOf(const QIcon &icon, int size, QIcon::Mode mode = QIcon::Normal)
@@ -83,7 +82,7 @@ QColor middleOf(const QIcon &icon, int size, QIcon::Mode mode = QIcon::Normal)
 TEST(ThemeSymbolicIcons, AreDrawnInTheInkThatTheyWereGiven)
 {
     const Theme theme;
-    const QIcon dot = theme.icon(QStringLiteral("link-active"), Theme::Ink::Positive);
+    const QIcon dot = theme.icon(u"link-active"_s, Theme::Ink::Positive);
     EXPECT_EQ(middleOf(dot, 20), theme.colors().positive);
     EXPECT_EQ(middleOf(dot, 20, QIcon::Disabled), theme.colors().disabledText);
 }
@@ -91,7 +90,7 @@ TEST(ThemeSymbolicIcons, AreDrawnInTheInkThatTheyWereGiven)
 TEST(ThemeSymbolicIcons, FollowTheScheme)
 {
     Theme theme;
-    const QIcon dot = theme.icon(QStringLiteral("link-active"), Theme::Ink::Positive);
+    const QIcon dot = theme.icon(u"link-active"_s, Theme::Ink::Positive);
     theme.setScheme(ColorScheme::Dark);
     EXPECT_EQ(middleOf(dot, 20), ThemeColors::forScheme(ColorScheme::Dark).positive);
 }
@@ -99,8 +98,7 @@ TEST(ThemeSymbolicIcons, FollowTheScheme)
 TEST(ThemeSymbolicIcons, AreAsSharpAsTheScreen)
 {
     const Theme theme;
-    const QPixmap picture =
-        theme.icon(QStringLiteral("random"), Theme::Ink::Text).pixmap(QSize(20, 20), 2.0);
+    const QPixmap picture = theme.icon(u"random"_s, Theme::Ink::Text).pixmap(QSize(20, 20), 2.0);
     EXPECT_EQ(picture.size(), QSize(40, 40));
     EXPECT_EQ(picture.devicePixelRatio(), 2.0);
 }
@@ -108,7 +106,7 @@ TEST(ThemeSymbolicIcons, AreAsSharpAsTheScreen)
 TEST(ThemeSymbolicIcons, OfAnUnknownNameAreEmpty)
 {
     const Theme theme;
-    const QIcon icon = theme.icon(QStringLiteral("no-such-icon"), Theme::Ink::Text);
+    const QIcon icon = theme.icon(u"no-such-icon"_s, Theme::Ink::Text);
     EXPECT_TRUE(icon.pixmap(QSize(20, 20)).isNull());
 }
 

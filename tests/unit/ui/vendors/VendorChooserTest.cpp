@@ -5,7 +5,7 @@
 #include "base/NotificationNames.h"
 #include "ui/theme/Theme.h"
 #include "ui/vendors/VendorTableView.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 #include "unit/vendors/VendorFixture.h"
 
 #include <QAccessible>
@@ -17,9 +17,11 @@
 #include <QVBoxLayout>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString device = QStringLiteral("enp1s0");
+const QString device = u"enp1s0"_s;
 
 /// The chooser in a window, above another field, with five manufacturers to choose from.
 class VendorChooserTest : public VendorFixture
@@ -44,8 +46,8 @@ protected:
         window.resize(460, 600);
         window.show();
         QApplication::setActiveWindow(&window);
-        text = window.findChild<QLineEdit *>(QStringLiteral("vendorTextfield"));
-        toggle = window.findChild<QToolButton *>(QStringLiteral("vendorToggle"));
+        text = window.findChild<QLineEdit *>(u"vendorTextfield"_s);
+        toggle = window.findChild<QToolButton *>(u"vendorToggle"_s);
         table = window.findChild<VendorTableView *>();
         text->setFocus();
     }
@@ -106,17 +108,16 @@ protected:
 
 TEST_F(VendorChooserTest, ShowsTheChoiceAndKeepsItsListToItself)
 {
-    EXPECT_EQ(text->text(), QStringLiteral("Random Address"));
+    EXPECT_EQ(text->text(), u"Random Address"_s);
     EXPECT_FALSE(table->isVisible());
 }
 
 TEST_F(VendorChooserTest, TypingOpensTheListOnWhatBeginsSo)
 {
-    type(QStringLiteral("app"));
+    type(u"app"_s);
     EXPECT_TRUE(table->isVisible());
-    EXPECT_EQ(
-        rows(), (QStringList{QStringLiteral("Appian (00000A)"), QStringLiteral("apple (00000C)")}));
-    EXPECT_EQ(text->text(), QStringLiteral("app"));
+    EXPECT_EQ(rows(), (QStringList{u"Appian (00000A)"_s, u"apple (00000C)"_s}));
+    EXPECT_EQ(text->text(), u"app"_s);
     EXPECT_EQ(text->cursorPosition(), 3);
     EXPECT_FALSE(text->hasSelectedText());
     EXPECT_TRUE(text->hasFocus());
@@ -125,7 +126,7 @@ TEST_F(VendorChooserTest, TypingOpensTheListOnWhatBeginsSo)
 
 TEST_F(VendorChooserTest, AnEmptyFieldShowsAll)
 {
-    type(QStringLiteral("zeb"));
+    type(u"zeb"_s);
     ASSERT_EQ(rows().size(), 1);
     text->selectAll();
     press(*text, Qt::Key_Backspace);
@@ -134,12 +135,12 @@ TEST_F(VendorChooserTest, AnEmptyFieldShowsAll)
 
 TEST_F(VendorChooserTest, DownMovesIntoTheListAndChoosesItsFirstRow)
 {
-    type(QStringLiteral("app"));
+    type(u"app"_s);
     press(*text, Qt::Key_Down);
     EXPECT_TRUE(table->hasFocus());
-    EXPECT_EQ(selected(), QStringLiteral("Appian (00000A)"));
-    EXPECT_EQ(saved(), QStringLiteral("Appian (00000A)"));
-    EXPECT_EQ(text->text(), QStringLiteral("Appian (00000A)"));
+    EXPECT_EQ(selected(), u"Appian (00000A)"_s);
+    EXPECT_EQ(saved(), u"Appian (00000A)"_s);
+    EXPECT_EQ(text->text(), u"Appian (00000A)"_s);
 }
 
 TEST_F(VendorChooserTest, DownOpensAListThatIsClosed)
@@ -152,7 +153,7 @@ TEST_F(VendorChooserTest, DownOpensAListThatIsClosed)
 
 TEST_F(VendorChooserTest, DownInAnEmptyListChoosesNothing)
 {
-    type(QStringLiteral("nobody"));
+    type(u"nobody"_s);
     press(*text, Qt::Key_Down);
     EXPECT_FALSE(table->currentIndex().isValid());
     EXPECT_EQ(saved(), QString());
@@ -160,14 +161,14 @@ TEST_F(VendorChooserTest, DownInAnEmptyListChoosesNothing)
 
 TEST_F(VendorChooserTest, ArrowsInTheListChoose)
 {
-    type(QStringLiteral("ap"));
+    type(u"ap"_s);
     press(*text, Qt::Key_Down);
     press(*table, Qt::Key_Down);
     EXPECT_EQ(saved(), selected());
     EXPECT_EQ(table->currentIndex().row(), 1);
     press(*table, Qt::Key_Up);
     EXPECT_EQ(table->currentIndex().row(), 0);
-    EXPECT_EQ(saved(), QStringLiteral("Appian (00000A)"));
+    EXPECT_EQ(saved(), u"Appian (00000A)"_s);
     EXPECT_EQ(rows().size(), 3) << "the choice keeps what was typed for";
 }
 
@@ -191,7 +192,7 @@ TEST_F(VendorChooserTest, OtherKeysDoNothingInTheList)
         press(*table, key);
         EXPECT_EQ(selected(), before) << key;
     }
-    press(*table, Qt::Key_Z, QStringLiteral("z"));
+    press(*table, Qt::Key_Z, u"z"_s);
     EXPECT_EQ(selected(), before);
     EXPECT_EQ(saved(), before);
     EXPECT_TRUE(table->isVisible());
@@ -200,19 +201,19 @@ TEST_F(VendorChooserTest, OtherKeysDoNothingInTheList)
 TEST_F(VendorChooserTest, ThePointerChooses)
 {
     click(*toggle, toggle->rect().center());
-    const auto row = rows().indexOf(QStringLiteral("Zebra (00000D)"));
+    const auto row = rows().indexOf(u"Zebra (00000D)"_s);
     const QModelIndex zebra = table->model()->index(static_cast<int>(row), 0);
     click(*table->viewport(), table->visualRect(zebra).center());
-    EXPECT_EQ(saved(), QStringLiteral("Zebra (00000D)"));
-    EXPECT_EQ(text->text(), QStringLiteral("Zebra (00000D)"));
+    EXPECT_EQ(saved(), u"Zebra (00000D)"_s);
+    EXPECT_EQ(text->text(), u"Zebra (00000D)"_s);
 }
 
 TEST_F(VendorChooserTest, ThePointerChoosesTheSelectedRowToo)
 {
-    const QString zebra = QStringLiteral("Zebra (00000D)");
+    const QString zebra = u"Zebra (00000D)"_s;
     storeDevice(device, {{record::vendor, zebra}});
     choice.setVendorSelectionForDevice(device);
-    type(QStringLiteral("zeb"));
+    type(u"zeb"_s);
     ASSERT_EQ(selected(), zebra);
     click(*table->viewport(), table->visualRect(table->currentIndex()).center());
     EXPECT_EQ(text->text(), zebra);
@@ -220,34 +221,34 @@ TEST_F(VendorChooserTest, ThePointerChoosesTheSelectedRowToo)
 
 TEST_F(VendorChooserTest, WhatTheProgramSelectsIsNoChoice)
 {
-    storeDevice(device, {{record::vendor, QStringLiteral("Zebra (00000D)")}});
+    storeDevice(device, {{record::vendor, u"Zebra (00000D)"_s}});
     int announced = 0;
     const auto told =
         notifications.addObserver(notifications::vendorUpdated, [&](const auto &) { ++announced; });
     choice.setVendorSelectionForDevice(device);
-    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    EXPECT_EQ(selected(), u"Zebra (00000D)"_s);
     click(*toggle, toggle->rect().center());
-    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    EXPECT_EQ(selected(), u"Zebra (00000D)"_s);
     offer(registryOf({{"00000D", "Zebra"}, {"00000A", "Appian"}}));
-    EXPECT_EQ(selected(), QStringLiteral("Zebra (00000D)"));
+    EXPECT_EQ(selected(), u"Zebra (00000D)"_s);
     notifications.removeObserver(told);
     EXPECT_EQ(announced, 0);
 }
 
 TEST_F(VendorChooserTest, AListThatGetsTheKeyboardWithoutASelectionChoosesNothing)
 {
-    type(QStringLiteral("m"));
+    type(u"m"_s);
     table->setFocus();
     ASSERT_TRUE(table->hasFocus());
     EXPECT_EQ(saved(), QString());
     EXPECT_FALSE(table->currentIndex().isValid());
     press(*table, Qt::Key_Down);
-    EXPECT_EQ(saved(), QStringLiteral("Mango (00000E)"));
+    EXPECT_EQ(saved(), u"Mango (00000E)"_s);
 }
 
 TEST_F(VendorChooserTest, EscapeClosesTheListWhereverTheKeyboardIs)
 {
-    type(QStringLiteral("a"));
+    type(u"a"_s);
     press(*text, Qt::Key_Escape);
     EXPECT_FALSE(table->isVisible());
     press(*text, Qt::Key_Down);
@@ -258,7 +259,7 @@ TEST_F(VendorChooserTest, EscapeClosesTheListWhereverTheKeyboardIs)
 
 TEST_F(VendorChooserTest, TurningToAnotherControlClosesTheList)
 {
-    type(QStringLiteral("a"));
+    type(u"a"_s);
     table->setFocus();
     QCoreApplication::processEvents();
     EXPECT_TRUE(table->isVisible());
@@ -270,17 +271,17 @@ TEST_F(VendorChooserTest, TurningToAnotherControlClosesTheList)
 
 TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
 {
-    type(QStringLiteral("a"));
+    type(u"a"_s);
     click(window, QPoint(4, window.height() - 4));
     EXPECT_FALSE(table->isVisible());
 }
 
 TEST_F(VendorChooserTest, TheButtonInTheFieldOpensAndClosesAndSaysWhich)
 {
-    EXPECT_EQ(toggle->accessibleName(), QStringLiteral("Show manufacturers"));
+    EXPECT_EQ(toggle->accessibleName(), u"Show manufacturers"_s);
     click(*toggle, toggle->rect().center());
     EXPECT_TRUE(table->isVisible());
-    EXPECT_EQ(toggle->accessibleName(), QStringLiteral("Hide manufacturers"));
+    EXPECT_EQ(toggle->accessibleName(), u"Hide manufacturers"_s);
     EXPECT_TRUE(text->hasFocus()) << "the button does not take the keyboard";
     click(*toggle, toggle->rect().center());
     EXPECT_FALSE(table->isVisible());
@@ -310,9 +311,9 @@ TEST_F(VendorChooserTest, ALongNameShowsItsBeginningAndTellsTheRest)
 {
     const QByteArray name(120, 'W');
     offer(registryOf({{"00000F", name}}));
-    type(QStringLiteral("w"));
+    type(u"w"_s);
     press(*text, Qt::Key_Down);
-    const QString entry = QString::fromLatin1(name) + QStringLiteral(" (00000F)");
+    const QString entry = QString::fromLatin1(name) + u" (00000F)"_s;
     EXPECT_EQ(text->text(), entry);
     EXPECT_EQ(text->cursorPosition(), 0);
     EXPECT_EQ(text->toolTip(), entry);
@@ -326,24 +327,24 @@ TEST_F(VendorChooserTest, TensOfThousandsOfRowsAreShownAndNarrowed)
     offer(registryOf(40'000));
     click(*toggle, toggle->rect().center());
     ASSERT_EQ(table->model()->rowCount(), 40'001);
-    EXPECT_EQ(selected(), QStringLiteral("Random Address"));
+    EXPECT_EQ(selected(), u"Random Address"_s);
     EXPECT_EQ(table->currentIndex().row(), 40'000);
     EXPECT_GT(table->verticalScrollBar()->value(), 1000) << "the choice is in sight";
     EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->currentIndex())));
-    type(QStringLiteral("maker 0001"));
+    type(u"maker 0001"_s);
     EXPECT_EQ(table->model()->rowCount(), 256);
     EXPECT_EQ(table->verticalScrollBar()->value(), 0) << "the best match is in sight";
 }
 
 TEST_F(VendorChooserTest, ToAssistiveTechnologyFieldAndListHaveNames)
 {
-    EXPECT_EQ(text->accessibleName(), QStringLiteral("Manufacturer of random addresses"));
+    EXPECT_EQ(text->accessibleName(), u"Manufacturer of random addresses"_s);
     EXPECT_FALSE(text->accessibleDescription().isEmpty());
     press(*text, Qt::Key_Down);
     QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(table);
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->role(), QAccessible::List);
-    EXPECT_EQ(shown->text(QAccessible::Name), QStringLiteral("Manufacturers"));
+    EXPECT_EQ(shown->text(QAccessible::Name), u"Manufacturers"_s);
 }
 
 } // namespace

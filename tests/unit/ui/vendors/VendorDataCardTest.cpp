@@ -12,6 +12,8 @@
 #include <QToolButton>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class VendorDataCardTest : public VendorFixture
@@ -39,26 +41,25 @@ protected:
 TEST_F(VendorDataCardTest, IsFoldedUntilItsTitleIsChosen)
 {
     auto *title = part<QToolButton>("vendorDataTitle");
-    EXPECT_EQ(title->text(), QStringLiteral("Vendor Data"));
-    EXPECT_EQ(title->accessibleDescription(), QStringLiteral("Folded"));
+    EXPECT_EQ(title->text(), u"Vendor Data"_s);
+    EXPECT_EQ(title->accessibleDescription(), u"Folded"_s);
     EXPECT_FALSE(part<QPushButton>("downloadButton")->isVisible());
     title->click();
     EXPECT_TRUE(part<QPushButton>("downloadButton")->isVisible());
-    EXPECT_EQ(title->accessibleDescription(), QStringLiteral("Unfolded"));
+    EXPECT_EQ(title->accessibleDescription(), u"Unfolded"_s);
     title->click();
     EXPECT_FALSE(part<QPushButton>("downloadButton")->isVisible());
 }
 
 TEST_F(VendorDataCardTest, ShowsTheTextsOfThePane)
 {
-    settings.set(keys::vendorIDUpdatedDate, QStringLiteral("Nov 21, 2026, 2:37 PM"));
+    settings.set(keys::vendorIDUpdatedDate, u"Nov 21, 2026, 2:37 PM"_s);
     settings.set(keys::vendorCountValue, 32530);
     pane.showStoredTexts();
-    EXPECT_EQ(part<QLabel>("updatedLabel")->text(),
-        QStringLiteral("Last Updated: Nov 21, 2026, 2:37 PM"));
+    EXPECT_EQ(part<QLabel>("updatedLabel")->text(), u"Last Updated: Nov 21, 2026, 2:37 PM"_s);
     EXPECT_EQ(part<QLabel>("updatedLabel")->accessibleName(), part<QLabel>("updatedLabel")->text());
-    EXPECT_EQ(part<QLabel>("vendorCount")->text(), QStringLiteral("32530 Vendor Identifiers"));
-    EXPECT_EQ(part<QPushButton>("downloadButton")->text(), QStringLiteral("Update database"));
+    EXPECT_EQ(part<QLabel>("vendorCount")->text(), u"32530 Vendor Identifiers"_s);
+    EXPECT_EQ(part<QPushButton>("downloadButton")->text(), u"Update database"_s);
 }
 
 TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
@@ -69,12 +70,12 @@ TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
     auto *button = part<QPushButton>("downloadButton");
     button->click();
     EXPECT_EQ(http.requests(), QList<QUrl>{registry});
-    EXPECT_EQ(button->text(), QStringLiteral("Cancel download..."));
-    EXPECT_EQ(button->accessibleName(), QStringLiteral("Cancel download..."));
+    EXPECT_EQ(button->text(), u"Cancel download..."_s);
+    EXPECT_EQ(button->accessibleName(), u"Cancel download..."_s);
     button->click();
     EXPECT_EQ(http.cancelled().size(), 1);
-    EXPECT_EQ(button->text(), QStringLiteral("Update database"));
-    EXPECT_EQ(part<QLabel>("updatedLabel")->text(), QStringLiteral("Download cancelled..."));
+    EXPECT_EQ(button->text(), u"Update database"_s);
+    EXPECT_EQ(part<QLabel>("updatedLabel")->text(), u"Download cancelled..."_s);
 }
 
 TEST_F(VendorDataCardTest, TheBarFollowsTheDownload)
@@ -123,8 +124,7 @@ TEST_F(VendorDataCardTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
     constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;
     for (const char *date :
         {"(null)", "Wednesday, September 30, 2026, 12:37:59 PM (added 1 new)"}) {
-        pane.showAdditionNoted(
-            QString::fromLatin1(date) + QStringLiteral(" (added 32530 new Identifiers)"));
+        pane.showAdditionNoted(QString::fromLatin1(date) + u" (added 32530 new Identifiers)"_s);
         EXPECT_LE(card->minimumSizeHint().width(), width) << date;
     }
     pane.showDownloadBegun();

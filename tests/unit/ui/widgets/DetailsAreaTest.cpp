@@ -5,17 +5,19 @@
 #include "ui/theme/Theme.h"
 #include "ui/window/InterfaceDetails.h"
 #include "ui/window/MainWindow.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The main window with a section under its details.
-class DetailsAreaTest : public WindowMachine
+class DetailsAreaTest : public WindowFixture
 {
 protected:
     DetailsAreaTest()
@@ -47,7 +49,7 @@ protected:
     FakeTaskBar taskBar;
     std::unique_ptr<MainWindow> view;
     DetailsArea *area = nullptr;
-    QLabel *section = new QLabel(QStringLiteral("last"));
+    QLabel *section = new QLabel(u"last"_s);
 };
 
 TEST_F(DetailsAreaTest, TheWindowGrowsAndShrinksWithItsSections)

@@ -14,11 +14,12 @@
 #include <functional>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const Alert question{QStringLiteral("Could not save changes while quitting. Quit anyway?"),
-    QStringLiteral("Quitting now will lose any changes"),
-    {QStringLiteral("Quit anyway"), QStringLiteral("Later"), QStringLiteral("Cancel")}};
+const Alert question{u"Could not save changes while quitting. Quit anyway?"_s,
+    u"Quitting now will lose any changes"_s, {u"Quit anyway"_s, u"Later"_s, u"Cancel"_s}};
 
 class MessageAlertsTest : public ::testing::Test
 {
@@ -92,8 +93,8 @@ TEST_F(MessageAlertsTest, ClosingIsTheLastButton)
 
 TEST_F(MessageAlertsTest, WithoutButtonsItCanStillBeAnswered)
 {
-    whenOpen([](QMessageBox &box) { button(box, QStringLiteral("OK"))->click(); });
-    EXPECT_EQ(alerts.runModal({QStringLiteral("Message"), {}, {}}), 0);
+    whenOpen([](QMessageBox &box) { button(box, u"OK"_s)->click(); });
+    EXPECT_EQ(alerts.runModal({u"Message"_s, {}, {}}), 0);
 }
 
 TEST_F(MessageAlertsTest, ASentenceIsNotBrokenIntoShreds)
@@ -102,20 +103,20 @@ TEST_F(MessageAlertsTest, ASentenceIsNotBrokenIntoShreds)
         EXPECT_GE(box.width(), 360);
         box.close();
     });
-    alerts.runModal({QStringLiteral("Quit?"), QStringLiteral("Now"), {QStringLiteral("OK")}});
+    alerts.runModal({u"Quit?"_s, u"Now"_s, {u"OK"_s}});
 }
 
 TEST_F(MessageAlertsTest, AnErrorIsShownWithItsDomainAndCodeAndResolvesNothing)
 {
     whenOpen([](QMessageBox &box) {
-        EXPECT_EQ(box.text(), QStringLiteral("The disk is full"));
-        EXPECT_EQ(box.informativeText(), QStringLiteral("com.example.records (13)"));
+        EXPECT_EQ(box.text(), u"The disk is full"_s);
+        EXPECT_EQ(box.informativeText(), u"com.example.records (13)"_s);
         box.close();
     });
     Error error;
-    error.domain = QStringLiteral("com.example.records");
+    error.domain = u"com.example.records"_s;
     error.code = 13;
-    error.message = QStringLiteral("The disk is full");
+    error.message = u"The disk is full"_s;
     EXPECT_FALSE(alerts.presentError(error));
 }
 

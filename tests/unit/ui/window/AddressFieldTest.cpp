@@ -3,7 +3,7 @@
 #include "ui/window/AddressField.h"
 
 #include "ui/window/TextFieldBackgroundView.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 #include <QClipboard>
 #include <QDragEnterEvent>
@@ -12,9 +12,11 @@
 #include <QMimeData>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-class AddressFieldTest : public WindowMachine
+class AddressFieldTest : public WindowFixture
 {
 protected:
     AddressFieldTest()
@@ -35,65 +37,65 @@ protected:
 
 TEST_F(AddressFieldTest, ShowsTheAddressOfTheSelectedInterface)
 {
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, TakesWhatIsTyped)
 {
     field.selectAll();
-    type(field, QStringLiteral("a"));
-    EXPECT_EQ(field.text(), QStringLiteral("a"));
-    EXPECT_EQ(window.state().fieldText, QStringLiteral("a"));
+    type(field, u"a"_s);
+    EXPECT_EQ(field.text(), u"a"_s);
+    EXPECT_EQ(window.state().fieldText, u"a"_s);
 }
 
 TEST_F(AddressFieldTest, ARefusedKeystrokeLeavesTextAndCursorAsTheyWere)
 {
     field.setCursorPosition(4);
-    type(field, QStringLiteral("z"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    type(field, u"z"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
     EXPECT_EQ(field.cursorPosition(), 4);
-    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, AnEighteenthCharacterIsRefused)
 {
     field.setCursorPosition(17);
-    type(field, QStringLiteral("f"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    type(field, u"f"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, ARefusedPasteLeavesTextAndCursorAsTheyWere)
 {
     field.setCursorPosition(2);
-    paste(QStringLiteral("not an address"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    paste(u"not an address"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
     EXPECT_EQ(field.cursorPosition(), 2);
 }
 
 TEST_F(AddressFieldTest, ARefusedPasteOverASelectionKeepsWhatWasSelected)
 {
     field.selectAll();
-    paste(QStringLiteral("??"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
-    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:01"));
+    paste(u"??"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, TwelveDigitsGetTheDisplayCaseAndTheCursorKeepsItsPlace)
 {
     field.selectAll();
-    type(field, QStringLiteral("aabbccddeef"));
-    EXPECT_EQ(field.text(), QStringLiteral("aabbccddeef"));
+    type(field, u"aabbccddeef"_s);
+    EXPECT_EQ(field.text(), u"aabbccddeef"_s);
     field.setCursorPosition(1);
-    type(field, QStringLiteral("f"));
-    EXPECT_EQ(field.text(), QStringLiteral("AFABBCCDDEEF"));
+    type(field, u"f"_s);
+    EXPECT_EQ(field.text(), u"AFABBCCDDEEF"_s);
     EXPECT_EQ(field.cursorPosition(), 2);
 }
 
 TEST_F(AddressFieldTest, APastedAddressIsShownInDisplayCaseAndCanBeApplied)
 {
     field.selectAll();
-    paste(QStringLiteral("02:00:5e:10:ab:cd"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:5E:10:AB:CD"));
+    paste(u"02:00:5e:10:ab:cd"_s);
+    EXPECT_EQ(field.text(), u"02:00:5E:10:AB:CD"_s);
     EXPECT_TRUE(window.state().updateEnabled);
 }
 
@@ -101,21 +103,21 @@ TEST_F(AddressFieldTest, WhatUndoBringsBackIsWhatTheModelHolds)
 {
     field.setCursorPosition(17);
     press(field, Qt::Key_Backspace);
-    EXPECT_EQ(window.state().fieldText, QStringLiteral("02:00:00:00:00:0"));
+    EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:0"_s);
     field.undo();
     EXPECT_EQ(field.text(), window.state().fieldText);
 }
 
 TEST_F(AddressFieldTest, AProgramThatWritesPastTheKeyboardIsHeldToTheRulesToo)
 {
-    field.setText(QStringLiteral("garbage!"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    field.setText(u"garbage!"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, FollowsTheSelectedInterface)
 {
-    select(QStringLiteral("wlp2s0"));
-    EXPECT_EQ(field.text(), QStringLiteral("3C:22:FB:00:00:02"));
+    select(u"wlp2s0"_s);
+    EXPECT_EQ(field.text(), u"3C:22:FB:00:00:02"_s);
 }
 
 TEST_F(AddressFieldTest, AFieldLeftEmptyShowsTheCurrentAddressAgain)
@@ -127,7 +129,7 @@ TEST_F(AddressFieldTest, AFieldLeftEmptyShowsTheCurrentAddressAgain)
     QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
     QCoreApplication::sendEvent(&field, &left);
     scheduler.runPending();
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, ReturnInAnEmptyFieldShowsTheCurrentAddressAgain)
@@ -136,7 +138,7 @@ TEST_F(AddressFieldTest, ReturnInAnEmptyFieldShowsTheCurrentAddressAgain)
     press(field, Qt::Key_Backspace);
     press(field, Qt::Key_Return);
     scheduler.runPending();
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldTest, WhatIsLeftUnfinishedStays)
@@ -146,7 +148,7 @@ TEST_F(AddressFieldTest, WhatIsLeftUnfinishedStays)
     QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
     QCoreApplication::sendEvent(&field, &left);
     scheduler.runPending();
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:0"));
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:0"_s);
 }
 
 class AddressFieldDropTest : public AddressFieldTest
@@ -178,39 +180,39 @@ protected:
 
 TEST_F(AddressFieldDropTest, AnAddressIsTakenAsACopyAndFillsTheField)
 {
-    EXPECT_TRUE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
+    EXPECT_TRUE(enter(u"02:00:5e:10:ab:cd"_s));
     EXPECT_EQ(action, Qt::CopyAction);
-    EXPECT_TRUE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:5E:10:AB:CD"));
+    EXPECT_TRUE(drop(u"02:00:5e:10:ab:cd"_s));
+    EXPECT_EQ(field.text(), u"02:00:5E:10:AB:CD"_s);
     EXPECT_TRUE(window.state().updateEnabled);
 }
 
 TEST_F(AddressFieldDropTest, WhatIsNoAddressIsRefused)
 {
-    EXPECT_FALSE(enter(QStringLiteral("hello")));
-    drop(QStringLiteral("hello"));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_FALSE(enter(u"hello"_s));
+    drop(u"hello"_s);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldDropTest, ADisabledFieldRefusesEverything)
 {
     window.setHelperInstalled(false);
-    EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
-    EXPECT_FALSE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
-    EXPECT_EQ(field.text(), QStringLiteral("02:00:00:00:00:01"));
+    EXPECT_FALSE(enter(u"02:00:5e:10:ab:cd"_s));
+    EXPECT_FALSE(drop(u"02:00:5e:10:ab:cd"_s));
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
 }
 
 TEST_F(AddressFieldDropTest, OnlyTheViewOfTheAddressFieldTakesDrops)
 {
-    view.setObjectName(QStringLiteral("anotherView"));
-    EXPECT_FALSE(enter(QStringLiteral("02:00:5e:10:ab:cd")));
-    EXPECT_FALSE(drop(QStringLiteral("02:00:5e:10:ab:cd")));
+    view.setObjectName(u"anotherView"_s);
+    EXPECT_FALSE(enter(u"02:00:5e:10:ab:cd"_s));
+    EXPECT_FALSE(drop(u"02:00:5e:10:ab:cd"_s));
 }
 
 TEST_F(AddressFieldDropTest, SomethingElseThanTextIsRefused)
 {
     data.clear();
-    data.setData(QStringLiteral("image/png"), QByteArray("x"));
+    data.setData(u"image/png"_s, QByteArray("x"));
     QDragEnterEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
     event.ignore();
     QCoreApplication::sendEvent(&view, &event);

@@ -3,7 +3,7 @@
 #include "ui/window/MainWindow.h"
 
 #include "ui/theme/Theme.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -16,6 +16,8 @@
 #include <QTranslator>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// A language in which everything takes half as much room again.
@@ -30,7 +32,7 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-class MainWindowTest : public WindowMachine
+class MainWindowTest : public WindowFixture
 {
 protected:
     MainWindowTest()
@@ -91,7 +93,7 @@ TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
         }
     }
     for (const char *name :
-        {"Apply address", "Randomise address", "Restore factory address", "Install helper"}) {
+        {"Apply address", "Randomize address", "Restore factory address", "Install helper"}) {
         named<QPushButton>(name);
     }
     named<QLineEdit>("Address");
@@ -102,23 +104,17 @@ TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
 TEST_F(MainWindowTest, ShowsTheSelectedInterface)
 {
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wired);
-    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("currentAddress"))->text(),
-        QStringLiteral("02:00:00:00:00:01"));
-    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("hardwareAddress"))->text(),
-        QStringLiteral("3C:22:FB:00:00:01"));
-    EXPECT_EQ(view->findChild<QLabel *>(QStringLiteral("ipAddress"))->text(),
-        QStringLiteral("192.0.2.10"));
-    EXPECT_TRUE(view->findChild<QLabel *>(QStringLiteral("hardwareIndicator"))->isVisible());
-    EXPECT_EQ(
-        view->findChild<QLabel *>(QStringLiteral("portName"))->text(), QStringLiteral("Ethernet"));
-    EXPECT_EQ(
-        view->findChild<QLabel *>(QStringLiteral("linkState"))->text(), QStringLiteral("Active"));
+    EXPECT_EQ(view->findChild<QLabel *>(u"currentAddress"_s)->text(), u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(view->findChild<QLabel *>(u"hardwareAddress"_s)->text(), u"3C:22:FB:00:00:01"_s);
+    EXPECT_EQ(view->findChild<QLabel *>(u"ipAddress"_s)->text(), u"192.0.2.10"_s);
+    EXPECT_TRUE(view->findChild<QLabel *>(u"hardwareIndicator"_s)->isVisible());
+    EXPECT_EQ(view->findChild<QLabel *>(u"portName"_s)->text(), u"Ethernet"_s);
+    EXPECT_EQ(view->findChild<QLabel *>(u"linkState"_s)->text(), u"Active"_s);
 
     select(wifi);
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wifi);
-    EXPECT_FALSE(view->findChild<QLabel *>(QStringLiteral("hardwareIndicator"))->isVisible());
-    EXPECT_EQ(
-        view->findChild<QLabel *>(QStringLiteral("linkState"))->text(), QStringLiteral("Inactive"));
+    EXPECT_FALSE(view->findChild<QLabel *>(u"hardwareIndicator"_s)->isVisible());
+    EXPECT_EQ(view->findChild<QLabel *>(u"linkState"_s)->text(), u"Inactive"_s);
     EXPECT_FALSE(named<QPushButton>("Restore factory address")->isEnabled());
 }
 
@@ -136,8 +132,7 @@ TEST_F(MainWindowTest, AChoiceSelectsTheInterfaceAndIsShownOnceItIsSelected)
 
 TEST_F(MainWindowTest, ItsListHoldsTheInterfacesThatAreKnownWhenItOpens)
 {
-    host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp9s0"), {},
-        QStringLiteral("3c:22:fb:00:00:09"), {}});
+    host.plug({u"Ethernet"_s, u"enp9s0"_s, {}, u"3c:22:fb:00:00:09"_s, {}});
     devices.updateNetWorkInterfaces();
     auto *selector = named<QComboBox>("Interface");
     EXPECT_EQ(selector->count(), 2);
@@ -191,10 +186,10 @@ TEST_F(MainWindowTest, OnlyItsGroundIsForMovingIt)
         return widget->mapTo(view.get(), widget->rect().center());
     };
     EXPECT_TRUE(moves(QPoint(4, 4)));
-    EXPECT_TRUE(moves(middleOf(view->findChild<QLabel *>(QStringLiteral("portName")))));
+    EXPECT_TRUE(moves(middleOf(view->findChild<QLabel *>(u"portName"_s))));
     EXPECT_FALSE(moves(QPoint(4, 4), Qt::RightButton));
     ASSERT_FALSE(named<QPushButton>("Apply address")->isEnabled());
-    for (const char *name : {"Apply address", "Randomise address"}) {
+    for (const char *name : {"Apply address", "Randomize address"}) {
         EXPECT_FALSE(moves(middleOf(named<QPushButton>(name)))) << name;
     }
     EXPECT_FALSE(moves(middleOf(named<QLineEdit>("Address"))));
@@ -205,7 +200,7 @@ TEST_F(MainWindowTest, ToAssistiveTechnologyItIsAWindow)
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(view.get());
     ASSERT_NE(accessible, nullptr);
     EXPECT_EQ(accessible->role(), QAccessible::Window);
-    EXPECT_EQ(accessible->text(QAccessible::Name), QStringLiteral("Quillon"));
+    EXPECT_EQ(accessible->text(QAccessible::Name), u"Quillon"_s);
 }
 
 TEST_F(MainWindowTest, TheHintIsDrawnInTheModelsStyle)
@@ -226,16 +221,16 @@ TEST_F(MainWindowTest, TheHintIsDrawnInTheModelsStyle)
 
 TEST_F(MainWindowTest, ItsButtonsChangeTheAddress)
 {
-    named<QPushButton>("Randomise address")->click();
+    named<QPushButton>("Randomize address")->click();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("AA:01:02:03:04:05"));
+    EXPECT_EQ(addressOf(wired), u"AA:01:02:03:04:05"_s);
     named<QPushButton>("Restore factory address")->click();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("3C:22:FB:00:00:01"));
-    window.editField(QStringLiteral("02:00:5e:10:ab:cd"));
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    window.editField(u"02:00:5e:10:ab:cd"_s);
     named<QPushButton>("Apply address")->click();
     scheduler.runPending();
-    EXPECT_EQ(addressOf(wired), QStringLiteral("02:00:5E:10:AB:CD"));
+    EXPECT_EQ(addressOf(wired), u"02:00:5E:10:AB:CD"_s);
 }
 
 TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
@@ -244,12 +239,12 @@ TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
     press(*field, Qt::Key_Return);
     scheduler.runPending();
     EXPECT_TRUE(machine.helper.changes().isEmpty());
-    window.editField(QStringLiteral("02:00:5e:10:ab:cd"));
+    window.editField(u"02:00:5e:10:ab:cd"_s);
     EXPECT_TRUE(named<QPushButton>("Apply address")->isEnabled());
     press(*field, Qt::Key_Return);
     scheduler.runPending();
     ASSERT_EQ(machine.helper.changes().size(), 1);
-    EXPECT_EQ(machine.helper.changes().first().address, QStringLiteral("02:00:5E:10:AB:CD"));
+    EXPECT_EQ(machine.helper.changes().first().address, u"02:00:5E:10:AB:CD"_s);
 }
 
 TEST_F(MainWindowTest, WithoutTheHelperItOffersToInstallIt)
@@ -261,7 +256,7 @@ TEST_F(MainWindowTest, WithoutTheHelperItOffersToInstallIt)
     EXPECT_TRUE(named<QLabel>("Helper hint")->isVisible());
     EXPECT_FALSE(named<QLineEdit>("Address")->isEnabled());
     install->click();
-    EXPECT_TRUE(machine.helper.journal().contains(QStringLiteral("install")));
+    EXPECT_TRUE(machine.helper.journal().contains(u"install"_s));
     window.setInstalling(true);
     EXPECT_FALSE(install->isEnabled());
 }
@@ -357,7 +352,7 @@ TEST_F(MainWindowTest, NothingIsCutOffInAWordyLanguage)
 
 TEST_F(MainWindowTest, TheTabKeyGoesFromTopToBottom)
 {
-    window.editField(QStringLiteral("02:00:5e:10:ab:cd"));
+    window.editField(u"02:00:5e:10:ab:cd"_s);
     QList<QPoint> places;
     QWidget *first = named<QComboBox>("Interface");
     QWidget *widget = first;

@@ -9,17 +9,19 @@
 #include "rules/CountdownTimers.h"
 #include "ui/theme/Theme.h"
 #include "ui/window/InterfaceDetails.h"
-#include "unit/ui/WindowMachine.h"
+#include "unit/ui/WindowFixture.h"
 
 #include <QLabel>
 #include <QToolButton>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
 
-class StatusRowsTest : public WindowMachine
+class StatusRowsTest : public WindowFixture
 {
 protected:
     StatusRowsTest()
@@ -52,14 +54,14 @@ protected:
     }
     void startCountdown(const QString &device)
     {
-        setRecord(device, record::rule, QVariantMap{{QStringLiteral("timerMinutes"), 5}});
+        setRecord(device, record::rule, QVariantMap{{u"timerMinutes"_s, 5}});
         timers.startCountDownTimer(device);
         scheduler.advance(1s);
     }
 
     Theme theme;
     FakeHttpClient &http = machine.http;
-    ExternalIPAddress externalAddress{http, settings, QUrl(QStringLiteral("https://ip.test"))};
+    ExternalIPAddress externalAddress{http, settings, QUrl(u"https://ip.test"_s)};
     ExternalAddressModel externalAddressShown{settings, externalAddress};
     RuleStatusModel status{devices};
     CountdownTimers timers{{scheduler, notifications, notifier, devices, changer}};
@@ -69,21 +71,21 @@ protected:
 
 TEST_F(StatusRowsTest, AnExternalAddressThatNobodyKnowsIsADash)
 {
-    EXPECT_EQ(part<QLabel>("externalAddress")->text(), QStringLiteral("–"));
-    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), QStringLiteral("None"));
+    EXPECT_EQ(part<QLabel>("externalAddress")->text(), u"–"_s);
+    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), u"None"_s);
 }
 
 TEST_F(StatusRowsTest, FollowsTheExternalAddress)
 {
-    settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
-    EXPECT_EQ(part<QLabel>("externalAddress")->text(), QStringLiteral("198.51.100.7"));
-    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), QStringLiteral("198.51.100.7"));
+    settings.set(keys::externalIPAddress, u"198.51.100.7"_s);
+    EXPECT_EQ(part<QLabel>("externalAddress")->text(), u"198.51.100.7"_s);
+    EXPECT_EQ(part<QLabel>("externalAddress")->accessibleName(), u"198.51.100.7"_s);
 }
 
 TEST_F(StatusRowsTest, ItsButtonAsksForTheExternalAddress)
 {
     auto *button = part<QToolButton>("refreshExternalIP");
-    EXPECT_EQ(button->accessibleName(), QStringLiteral("Refresh external address"));
+    EXPECT_EQ(button->accessibleName(), u"Refresh external address"_s);
     button->click();
     EXPECT_EQ(http.requests().size(), 1);
 }
@@ -95,12 +97,12 @@ TEST_F(StatusRowsTest, TellsWhetherARuleIsInForce)
         status.updateRuleStatusForDevice(wired);
         return part<QLabel>("rulesLabel")->text();
     };
-    EXPECT_EQ(part<QLabel>("rulesLabel")->text(), QStringLiteral("No rules"));
-    EXPECT_EQ(shownFor(1), QStringLiteral("Active rule"));
-    EXPECT_EQ(part<QLabel>("rulesLabel")->toolTip(), QStringLiteral("has an Active rule"));
-    EXPECT_EQ(shownFor(2), QStringLiteral("No active rules"));
-    EXPECT_EQ(part<QLabel>("rulesLabel")->accessibleName(), QStringLiteral("No active rules"));
-    EXPECT_EQ(shownFor(0), QStringLiteral("No rules"));
+    EXPECT_EQ(part<QLabel>("rulesLabel")->text(), u"No rules"_s);
+    EXPECT_EQ(shownFor(1), u"Active rule"_s);
+    EXPECT_EQ(part<QLabel>("rulesLabel")->toolTip(), u"has an Active rule"_s);
+    EXPECT_EQ(shownFor(2), u"No active rules"_s);
+    EXPECT_EQ(part<QLabel>("rulesLabel")->accessibleName(), u"No active rules"_s);
+    EXPECT_EQ(shownFor(0), u"No rules"_s);
 }
 
 TEST_F(StatusRowsTest, TheCountdownComesAndGoes)
@@ -110,7 +112,7 @@ TEST_F(StatusRowsTest, TheCountdownComesAndGoes)
     const int without = details->sizeHint().height();
     startCountdown(wired);
     EXPECT_TRUE(label->isVisible());
-    EXPECT_EQ(label->text(), QStringLiteral("...changing MAC Address in 00:04:59"));
+    EXPECT_EQ(label->text(), u"...changing MAC Address in 00:04:59"_s);
     EXPECT_TRUE(part<QToolButton>("pauseButton")->isVisible());
     EXPECT_GT(details->sizeHint().height(), without);
     timers.stopCountdownTimer(wired);
@@ -136,20 +138,20 @@ TEST_F(StatusRowsTest, OneOfPauseAndResumeCanBePressed)
     scheduler.advance(2s);
     EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{false, true}));
     const QString paused = part<QLabel>("timerLabel")->text();
-    EXPECT_TRUE(paused.contains(QStringLiteral("(paused)")));
+    EXPECT_TRUE(paused.contains(u"(paused)"_s));
     scheduler.advance(5s);
     EXPECT_EQ(part<QLabel>("timerLabel")->text(), paused);
     resume->click();
     EXPECT_FALSE(resume->isEnabled());
     scheduler.advance(2s);
     EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{true, false}));
-    EXPECT_FALSE(part<QLabel>("timerLabel")->text().contains(QStringLiteral("(paused)")));
+    EXPECT_FALSE(part<QLabel>("timerLabel")->text().contains(u"(paused)"_s));
 }
 
 TEST_F(StatusRowsTest, ItsButtonsSayWhatTheyDo)
 {
-    EXPECT_EQ(part<QToolButton>("pauseButton")->accessibleName(), QStringLiteral("Pause"));
-    EXPECT_EQ(part<QToolButton>("resumeButton")->accessibleName(), QStringLiteral("Resume"));
+    EXPECT_EQ(part<QToolButton>("pauseButton")->accessibleName(), u"Pause"_s);
+    EXPECT_EQ(part<QToolButton>("resumeButton")->accessibleName(), u"Resume"_s);
     for (const char *name : {"pauseButton", "resumeButton", "refreshExternalIP"}) {
         EXPECT_NE(part<QToolButton>(name)->focusPolicy() & Qt::TabFocus, 0) << name;
     }
@@ -157,7 +159,7 @@ TEST_F(StatusRowsTest, ItsButtonsSayWhatTheyDo)
 
 TEST_F(StatusRowsTest, AllRowsAreOfOneHeightAndTheirValuesInOneColumn)
 {
-    settings.set(keys::externalIPAddress, QStringLiteral("198.51.100.7"));
+    settings.set(keys::externalIPAddress, u"198.51.100.7"_s);
     details->adjustSize();
     QCoreApplication::processEvents();
     QList<int> middles, lefts;
@@ -174,7 +176,7 @@ TEST_F(StatusRowsTest, AllRowsAreOfOneHeightAndTheirValuesInOneColumn)
 
 TEST_F(StatusRowsTest, ACountdownDoesNotWidenTheWindow)
 {
-    const QString text = QStringLiteral("...changing MAC Address in 166:39:59 (paused)");
+    const QString text = u"...changing MAC Address in 166:39:59 (paused)"_s;
     countdown.showCountdown(wired, text + text, true);
     EXPECT_LE(details->minimumSizeHint().width(), Theme::windowWidth - 2 * Theme::windowMargin);
 }

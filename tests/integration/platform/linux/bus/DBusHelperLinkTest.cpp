@@ -18,6 +18,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -40,7 +42,7 @@ FakePeer::Answer saying(const QVariantList &values)
 FakePeer::Answer refusing(const char *name)
 {
     return [name](const QDBusMessage &call) {
-        return call.createErrorReply(QLatin1String(name), QStringLiteral("because"));
+        return call.createErrorReply(QLatin1String(name), u"because"_s);
     };
 }
 
@@ -154,13 +156,13 @@ TEST_F(DBusHelperLinkTest, WithoutRandomBytesThereIsNoAuthorization)
 
 TEST_F(DBusHelperLinkTest, TheVersionComesInALaterTurn)
 {
-    FakePeer peer = peerWith(saying({QStringLiteral("2.0")}));
+    FakePeer peer = peerWith(saying({u"2.0"_s}));
     Outcome outcome;
     const auto connection = helper();
     connection->getVersionWithReply(outcome.version(), outcome.failed());
     EXPECT_FALSE(outcome.ended()) << "not before the call returns";
     expectEndedOnce(outcome);
-    EXPECT_EQ(outcome.text, QStringLiteral("2.0"));
+    EXPECT_EQ(outcome.text, u"2.0"_s);
 }
 
 TEST_F(DBusHelperLinkTest, AChangeTravelsAsTheContractSays)
@@ -169,17 +171,16 @@ TEST_F(DBusHelperLinkTest, AChangeTravelsAsTheContractSays)
     Outcome outcome;
     const auto connection = helper();
     connection->changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(
-        QStringLiteral("wlp2s0"), QStringLiteral("02:00:00:00:00:01"), true, bytes32,
-        outcome.reply(), outcome.failed());
+        u"wlp2s0"_s, u"02:00:00:00:00:01"_s, true, bytes32, outcome.reply(), outcome.failed());
     expectEndedOnce(outcome);
     EXPECT_EQ(outcome.replies, 1);
     EXPECT_FALSE(outcome.error);
     ASSERT_EQ(peer.calls.size(), 1U);
     EXPECT_EQ(peer.calls[0].interface(), QLatin1String(contract::helper::interface));
-    EXPECT_EQ(peer.calls[0].member(), QStringLiteral("ChangeAddressOfDevice"));
-    EXPECT_EQ(peer.calls[0].signature(), QStringLiteral("ssbay"));
-    EXPECT_EQ(peer.calls[0].arguments(), (QVariantList{QStringLiteral("wlp2s0"),
-                                             QStringLiteral("02:00:00:00:00:01"), true, bytes32}));
+    EXPECT_EQ(peer.calls[0].member(), u"ChangeAddressOfDevice"_s);
+    EXPECT_EQ(peer.calls[0].signature(), u"ssbay"_s);
+    EXPECT_EQ(peer.calls[0].arguments(),
+        (QVariantList{u"wlp2s0"_s, u"02:00:00:00:00:01"_s, true, bytes32}));
 }
 
 TEST_F(DBusHelperLinkTest, AnErrorOfTheContractIsTheOperationsOwn)
@@ -226,8 +227,7 @@ TEST_F(DBusHelperLinkTest, AnErrorInsteadOfAVersionIsAFailure)
 TEST_F(DBusHelperLinkTest, AnswersOfAnotherShapeAreFailures)
 {
     for (const QVariantList &answer : {QVariantList{}, QVariantList{1}, QVariantList{QString()},
-             QVariantList{QStringLiteral("2.0"), QStringLiteral("more")},
-             QVariantList{QString(10'000'000, QLatin1Char('2'))}}) {
+             QVariantList{u"2.0"_s, u"more"_s}, QVariantList{QString(10'000'000, u'2')}}) {
         FakePeer peer = peerWith(saying(answer));
         Outcome outcome;
         const auto connection = helper();
@@ -235,7 +235,7 @@ TEST_F(DBusHelperLinkTest, AnswersOfAnotherShapeAreFailures)
         expectEndedOnce(outcome);
         EXPECT_EQ(outcome.failures, 1) << answer.size();
     }
-    FakePeer peer = peerWith(saying({QStringLiteral("yes")}));
+    FakePeer peer = peerWith(saying({u"yes"_s}));
     Outcome outcome;
     const auto connection = helper();
     connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
@@ -246,8 +246,8 @@ TEST_F(DBusHelperLinkTest, AnswersOfAnotherShapeAreFailures)
 TEST_F(DBusHelperLinkTest, AHugeErrorTextIsCut)
 {
     FakePeer peer = peerWith([](const QDBusMessage &call) {
-        return call.createErrorReply(QLatin1String(contract::error::changeFailed.name),
-            QString(10'000'000, QLatin1Char('x')));
+        return call.createErrorReply(
+            QLatin1String(contract::error::changeFailed.name), QString(10'000'000, u'x'));
     });
     Outcome outcome;
     const auto connection = helper();
@@ -335,11 +335,10 @@ TEST_F(DBusHelperLinkTest, AnEndpointThatIsGoneAlreadyIsInvalidated)
 
 TEST_F(DBusHelperLinkTest, OnlyAUniqueNameIsAnEndpoint)
 {
-    FakePeer peer = peerWith(saying({QStringLiteral("2.0")}));
-    QDBusConnection(peerBus).registerService(QStringLiteral("com.example.Elsewhere"));
+    FakePeer peer = peerWith(saying({u"2.0"_s}));
+    QDBusConnection(peerBus).registerService(u"com.example.Elsewhere"_s);
     for (const QString &endpoint :
-        {QStringLiteral("com.example.Elsewhere"), QString(), QStringLiteral(":"),
-            QStringLiteral("not a name"), QString(10'000, QLatin1Char(':'))}) {
+        {u"com.example.Elsewhere"_s, QString(), u":"_s, u"not a name"_s, QString(10'000, u':')}) {
         int invalidated = 0;
         Outcome outcome;
         const auto connection = link.connectToListenerEndpoint(endpoint);
@@ -355,7 +354,7 @@ TEST_F(DBusHelperLinkTest, OnlyAUniqueNameIsAnEndpoint)
 
 TEST_F(DBusHelperLinkTest, BeforeItIsResumedAConnectionCarriesNothing)
 {
-    FakePeer peer = peerWith(saying({QStringLiteral("2.0")}));
+    FakePeer peer = peerWith(saying({u"2.0"_s}));
     Outcome outcome;
     link.connectToListenerEndpoint(QDBusConnection(peerBus).baseService())
         ->getVersionWithReply(outcome.version(), outcome.failed());
@@ -406,12 +405,12 @@ TEST_F(DBusHelperLinkTest, TheBusItselfMayGo)
 
 TEST_F(DBusHelperLinkTest, TheServiceGivesEndpointAndAuthorization)
 {
-    FakePeer peer(peerBus, contract::service::path, saying({QStringLiteral(":1.42"), bytes32}));
+    FakePeer peer(peerBus, contract::service::path, saying({u":1.42"_s, bytes32}));
     Outcome outcome;
     const auto connection = service();
     connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
     expectEndedOnce(outcome);
-    EXPECT_EQ(outcome.endpoint, QStringLiteral(":1.42"));
+    EXPECT_EQ(outcome.endpoint, u":1.42"_s);
     EXPECT_EQ(outcome.authorization, bytes32);
 }
 
@@ -428,12 +427,11 @@ TEST_F(DBusHelperLinkTest, AnEmptyEndpointIsNone)
 
 TEST_F(DBusHelperLinkTest, AServiceThatAnswersSomethingElseFails)
 {
-    for (const QVariantList &answer :
-        {QVariantList{}, QVariantList{bytes32, QStringLiteral(":1.42")},
-            QVariantList{QStringLiteral("com.example.Elsewhere"), bytes32},
-            QVariantList{QStringLiteral(":1.42"), QByteArray(31, '\7')},
-            QVariantList{QStringLiteral(":1.42"), QByteArray(10'000'000, '\7')},
-            QVariantList{QLatin1Char(':') + QString(10'000'000, QLatin1Char('1')), bytes32}}) {
+    for (const QVariantList &answer : {QVariantList{}, QVariantList{bytes32, u":1.42"_s},
+             QVariantList{u"com.example.Elsewhere"_s, bytes32},
+             QVariantList{u":1.42"_s, QByteArray(31, '\7')},
+             QVariantList{u":1.42"_s, QByteArray(10'000'000, '\7')},
+             QVariantList{u':' + QString(10'000'000, u'1'), bytes32}}) {
         FakePeer peer(peerBus, contract::service::path, saying(answer));
         Outcome outcome;
         const auto connection = service();
@@ -451,7 +449,7 @@ TEST_F(DBusHelperLinkTest, WithoutAServiceItsCallsFail)
     connection->installHelperToolWithReply(outcome.reply(), outcome.failed());
     expectEndedOnce(outcome);
     EXPECT_EQ(outcome.failures, 1);
-    EXPECT_EQ(outcome.error->domain, QStringLiteral("org.freedesktop.DBus.Error.ServiceUnknown"));
+    EXPECT_EQ(outcome.error->domain, u"org.freedesktop.DBus.Error.ServiceUnknown"_s);
 }
 
 TEST_F(DBusHelperLinkTest, InstallAndSetupReachTheService)
@@ -464,8 +462,8 @@ TEST_F(DBusHelperLinkTest, InstallAndSetupReachTheService)
     expectEndedOnce(outcome);
     EXPECT_FALSE(outcome.error);
     ASSERT_EQ(peer.calls.size(), 2U);
-    EXPECT_EQ(peer.calls[0].member(), QStringLiteral("SetupAuthorizationRights"));
-    EXPECT_EQ(peer.calls[1].member(), QStringLiteral("InstallHelperTool"));
+    EXPECT_EQ(peer.calls[0].member(), u"SetupAuthorizationRights"_s);
+    EXPECT_EQ(peer.calls[1].member(), u"InstallHelperTool"_s);
 }
 
 } // namespace quillon::test

@@ -15,13 +15,15 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
 
 UserNotificationRequest request(const char *body, std::chrono::milliseconds delay = 1000ms)
 {
-    return {QStringLiteral("id"), QStringLiteral("Quillon"), QString::fromUtf8(body), true, delay};
+    return {u"id"_s, u"Quillon"_s, QString::fromUtf8(body), true, delay};
 }
 
 } // namespace
@@ -78,17 +80,17 @@ TEST_F(FreedesktopNotificationsTest, AMessageIsShownAfterItsDelay)
     EXPECT_FALSE(reply.error);
 
     ASSERT_EQ(server.notified.size(), 1U);
-    EXPECT_EQ(server.notified[0].signature(), QStringLiteral("susssasa{sv}i"));
+    EXPECT_EQ(server.notified[0].signature(), u"susssasa{sv}i"_s);
     const QVariantList arguments = server.notified[0].arguments();
-    EXPECT_EQ(arguments[0], QStringLiteral("Quillon"));
+    EXPECT_EQ(arguments[0], u"Quillon"_s);
     EXPECT_EQ(arguments[1], 0U);
-    EXPECT_EQ(arguments[2], QStringLiteral("com.orvandel.Quillon4"));
-    EXPECT_EQ(arguments[3], QStringLiteral("Quillon"));
-    EXPECT_EQ(arguments[4], QStringLiteral("It worked"));
+    EXPECT_EQ(arguments[2], u"com.orvandel.Quillon4"_s);
+    EXPECT_EQ(arguments[3], u"Quillon"_s);
+    EXPECT_EQ(arguments[4], u"It worked"_s);
     EXPECT_TRUE(arguments[5].toStringList().isEmpty());
     const auto hints = qdbus_cast<QVariantMap>(arguments[6]);
-    EXPECT_EQ(hints[QStringLiteral("desktop-entry")], QStringLiteral("com.orvandel.Quillon4"));
-    EXPECT_EQ(hints[QStringLiteral("sound-name")], QStringLiteral("message-new-instant"));
+    EXPECT_EQ(hints[u"desktop-entry"_s], u"com.orvandel.Quillon4"_s);
+    EXPECT_EQ(hints[u"sound-name"_s], u"message-new-instant"_s);
     EXPECT_EQ(arguments[7], -1);
 }
 
@@ -101,21 +103,21 @@ TEST_F(FreedesktopNotificationsTest, WithoutSoundTheServerIsToldSo)
     scheduler.advance(0ms);
     ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
     const auto hints = qdbus_cast<QVariantMap>(server.notified[0].arguments()[6]);
-    EXPECT_EQ(hints[QStringLiteral("suppress-sound")], true);
-    EXPECT_FALSE(hints.contains(QStringLiteral("sound-name")));
+    EXPECT_EQ(hints[u"suppress-sound"_s], true);
+    EXPECT_FALSE(hints.contains(u"sound-name"_s));
 }
 
 TEST_F(FreedesktopNotificationsTest, MarkupIsShownAsItIsWritten)
 {
     {
-        NotificationServer plain(bus, {QStringLiteral("body")});
+        NotificationServer plain(bus, {u"body"_s});
         addAndShow("<b>a & b</b>");
-        EXPECT_EQ(plain.onScreen.first(), QStringLiteral("<b>a & b</b>"));
+        EXPECT_EQ(plain.onScreen.first(), u"<b>a & b</b>"_s);
     }
-    NotificationServer rich(bus, {QStringLiteral("body"), QStringLiteral("body-markup")});
+    NotificationServer rich(bus, {u"body"_s, u"body-markup"_s});
     hearTheServerOut();
     addAndShow("<b>a & b</b>");
-    EXPECT_EQ(rich.onScreen.first(), QStringLiteral("&lt;b&gt;a &amp; b&lt;/b&gt;"))
+    EXPECT_EQ(rich.onScreen.first(), u"&lt;b&gt;a &amp; b&lt;/b&gt;"_s)
         << "also when the server was exchanged meanwhile";
 }
 
@@ -123,8 +125,8 @@ TEST_F(FreedesktopNotificationsTest, ARequestWhoseDelayHasNotPassedIsDropped)
 {
     NotificationServer server(bus);
     add(request("never"));
-    center.removePending(QStringLiteral("unknown"));
-    center.removePending(QStringLiteral("id"));
+    center.removePending(u"unknown"_s);
+    center.removePending(u"id"_s);
     scheduler.advance(5s);
     EXPECT_FALSE(eventually([&] { return !server.notified.empty(); }, 100ms));
     EXPECT_EQ(reply.count, 0);
@@ -137,19 +139,19 @@ TEST_F(FreedesktopNotificationsTest, ANewerRequestTakesThePlaceOfAPendingOne)
     add(request("first"));
     scheduler.advance(500ms);
     addAndShow("second");
-    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+    EXPECT_EQ(server.onScreen.values(), QStringList{u"second"_s});
 }
 
 TEST_F(FreedesktopNotificationsTest, ADeliveredMessageIsTakenAway)
 {
     NotificationServer server(bus);
     addAndShow("old");
-    center.removeDelivered(QStringLiteral("unknown"));
-    center.removeDelivered(QStringLiteral("id"));
+    center.removeDelivered(u"unknown"_s);
+    center.removeDelivered(u"id"_s);
     EXPECT_TRUE(eventually([&] { return server.onScreen.isEmpty(); }));
     addAndShow("new");
     EXPECT_EQ(server.notified[1].arguments()[1], 0U) << "a closed message cannot be replaced";
-    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("new")});
+    EXPECT_EQ(server.onScreen.values(), QStringList{u"new"_s});
 }
 
 TEST_F(FreedesktopNotificationsTest, ANewerMessageReplacesTheOneOnTheScreen)
@@ -158,7 +160,7 @@ TEST_F(FreedesktopNotificationsTest, ANewerMessageReplacesTheOneOnTheScreen)
     addAndShow("first");
     addAndShow("second");
     EXPECT_EQ(server.notified[1].arguments()[1], 41U);
-    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+    EXPECT_EQ(server.onScreen.values(), QStringList{u"second"_s});
 }
 
 TEST_F(FreedesktopNotificationsTest, AMessageThatThePersonClosedIsNotReplaced)
@@ -180,15 +182,15 @@ TEST_F(FreedesktopNotificationsTest, TwoInQuickSuccessionLeaveTheSecond)
     add(request("first", 0ms));
     scheduler.advance(0ms);
     ASSERT_TRUE(eventually([&] { return server.notified.size() == 1; }));
-    center.removePending(QStringLiteral("id"));
-    center.removeDelivered(QStringLiteral("id"));
+    center.removePending(u"id"_s);
+    center.removeDelivered(u"id"_s);
     add(request("second", 0ms));
     scheduler.advance(0ms);
     ASSERT_TRUE(eventually([&] { return server.notified.size() == 2; }));
     server.answerHeld();
     ASSERT_TRUE(eventually([&] { return reply.count == 2; }));
     EXPECT_TRUE(eventually([&] { return server.onScreen.size() == 1; }));
-    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("second")});
+    EXPECT_EQ(server.onScreen.values(), QStringList{u"second"_s});
 }
 
 TEST_F(FreedesktopNotificationsTest, AMessageRemovedOnItsWayIsTakenAwayWhenItArrives)
@@ -198,7 +200,7 @@ TEST_F(FreedesktopNotificationsTest, AMessageRemovedOnItsWayIsTakenAwayWhenItArr
     add(request("late", 0ms));
     scheduler.advance(0ms);
     ASSERT_TRUE(eventually([&] { return server.notified.size() == 1; }));
-    center.removeDelivered(QStringLiteral("id"));
+    center.removeDelivered(u"id"_s);
     server.answerHeld();
     EXPECT_TRUE(eventually([&] { return server.onScreen.isEmpty(); }));
 }
@@ -214,7 +216,7 @@ TEST_F(FreedesktopNotificationsTest, ANewServerIsNotAskedToCloseWhatAnOlderOneSh
     addAndShow("other"); // has the number that the old server gave
     EXPECT_EQ(server.notified[0].arguments()[1], 0U);
     EXPECT_TRUE(server.closed.empty());
-    EXPECT_EQ(server.onScreen.values(), QStringList{QStringLiteral("other")});
+    EXPECT_EQ(server.onScreen.values(), QStringList{u"other"_s});
 }
 
 TEST_F(FreedesktopNotificationsTest, ARefusalIsReported)
@@ -225,8 +227,8 @@ TEST_F(FreedesktopNotificationsTest, ARefusalIsReported)
     scheduler.advance(0ms);
     ASSERT_TRUE(eventually([&] { return reply.count == 1; }));
     ASSERT_TRUE(reply.error);
-    EXPECT_EQ(reply.error->domain,
-        QStringLiteral("org.freedesktop.Notifications.Error.ExcessNotificationGeneration"));
+    EXPECT_EQ(
+        reply.error->domain, u"org.freedesktop.Notifications.Error.ExcessNotificationGeneration"_s);
 }
 
 TEST_F(FreedesktopNotificationsTest, WithoutAServerTheFailureIsReported)
@@ -262,7 +264,7 @@ TEST_F(FreedesktopNotificationsTest, AlertsAreGrantedWhereThereIsAServer)
 TEST(FreedesktopNotificationsWithoutASession, ReportTheirFailureInALaterTurn)
 {
     FakeScheduler scheduler;
-    FreedesktopNotifications center(scheduler, QDBusConnection(QStringLiteral("no connection")));
+    FreedesktopNotifications center(scheduler, QDBusConnection(u"no connection"_s));
     int replies = 0;
     center.requestAlertAuthorization([&](bool granted, const std::optional<Error> &error) {
         EXPECT_FALSE(granted);
@@ -284,19 +286,18 @@ class FreedesktopNotificationsOnDunst : public FreedesktopNotificationsTest
 protected:
     void SetUp() override
     {
-        display.setProgram(QStringLiteral("Xvfb"));
-        display.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1")});
+        display.setProgram(u"Xvfb"_s);
+        display.setArguments({u"-displayfd"_s, u"1"_s});
         display.setStandardErrorFile(QProcess::nullDevice());
         display.start(QIODevice::ReadOnly);
         ASSERT_TRUE(eventually([this] { return display.canReadLine(); }));
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"),
-            QLatin1Char(':') + QString::fromUtf8(display.readLine()).trimmed());
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
-        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        environment.insert(u"DISPLAY"_s, u':' + QString::fromUtf8(display.readLine()).trimmed());
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+        environment.remove(u"WAYLAND_DISPLAY"_s);
         dunst.setProcessEnvironment(environment);
         dunst.setStandardErrorFile(QProcess::nullDevice());
-        dunst.start(QStringLiteral("dunst"), QStringList());
+        dunst.start(u"dunst"_s, QStringList());
         const QDBusConnection watcher = bus.connect();
         ASSERT_TRUE(eventually([&] {
             return watcher.interface()->isServiceRegistered(NotificationServer::name).value();
@@ -315,7 +316,7 @@ protected:
     {
         QProcess ask;
         ask.setProcessEnvironment(dunst.processEnvironment());
-        ask.start(QStringLiteral("dunstctl"), {QStringLiteral("count"), QLatin1String(which)});
+        ask.start(u"dunstctl"_s, {u"count"_s, QLatin1String(which)});
         ask.waitForFinished();
         return QString::fromUtf8(ask.readAllStandardOutput()).trimmed();
     }
@@ -328,13 +329,13 @@ TEST_F(FreedesktopNotificationsOnDunst, ShowsOneMessagePerIdentifier)
 {
     addAndShow("first");
     addAndShow("second");
-    center.removePending(QStringLiteral("id"));
-    center.removeDelivered(QStringLiteral("id"));
+    center.removePending(u"id"_s);
+    center.removeDelivered(u"id"_s);
     addAndShow("third");
-    EXPECT_TRUE(eventually([this] { return count("displayed") == QLatin1String("1"); }))
+    EXPECT_TRUE(eventually([this] { return count("displayed") == "1"_L1; }))
         << count("displayed").toStdString();
-    center.removeDelivered(QStringLiteral("id"));
-    EXPECT_TRUE(eventually([this] { return count("displayed") == QLatin1String("0"); }));
+    center.removeDelivered(u"id"_s);
+    EXPECT_TRUE(eventually([this] { return count("displayed") == "0"_L1; }));
 }
 
 } // namespace quillon::test

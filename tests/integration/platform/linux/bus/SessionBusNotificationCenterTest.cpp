@@ -12,6 +12,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -34,9 +36,8 @@ protected:
     void waitForAll()
     {
         bool arrived = false;
-        const auto token =
-            ours.addObserver(QStringLiteral("last"), QString(), [&] { arrived = true; });
-        theirs.post(QStringLiteral("last"), QString());
+        const auto token = ours.addObserver(u"last"_s, QString(), [&] { arrived = true; });
+        theirs.post(u"last"_s, QString());
         EXPECT_TRUE(eventually([&] { return arrived; }));
         ours.removeObserver(token);
     }
@@ -46,8 +47,8 @@ TEST_F(SessionBusNotificationCenterTest, ReachTheObserversOfNameAndObject)
 {
     ours.addObserver(name, object, hear);
     theirs.post(name, object);
-    theirs.post(name, QStringLiteral("com.example.Other"));
-    theirs.post(QStringLiteral("Other"), object);
+    theirs.post(name, u"com.example.Other"_s);
+    theirs.post(u"Other"_s, object);
     theirs.post(name.toLower(), object);
     waitForAll();
     EXPECT_EQ(heard, 1);
@@ -80,10 +81,9 @@ TEST_F(SessionBusNotificationCenterTest, AnObserverMayRemoveTheNext)
 TEST_F(SessionBusNotificationCenterTest, ComeFromAnyProgramOfTheSession)
 {
     ours.addObserver(name, object, hear);
-    command(QStringLiteral("dbus-send --bus=%1 --type=signal %2 %3.%4 string:%5 string:%6")
-                .arg(bus.address(), QLatin1String(contract::distributed::path),
-                    QLatin1String(contract::distributed::interface),
-                    QLatin1String(contract::distributed::posted.name), name, object));
+    command(u"dbus-send --bus=%1 --type=signal %2 %3.%4 string:%5 string:%6"_s.arg(bus.address(),
+        QLatin1String(contract::distributed::path), QLatin1String(contract::distributed::interface),
+        QLatin1String(contract::distributed::posted.name), name, object));
     EXPECT_TRUE(eventually([this] { return heard == 1; }));
 }
 
@@ -92,7 +92,7 @@ TEST_F(SessionBusNotificationCenterTest, OfAnotherShapeAreNotHeard)
     ours.addObserver(name, object, hear);
     QDBusConnection stranger = bus.connect();
     for (const QVariantList &contents : {QVariantList{}, QVariantList{name}, QVariantList{1, 2},
-             QVariantList{name, object, QStringLiteral("more")}}) {
+             QVariantList{name, object, u"more"_s}}) {
         QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(contract::distributed::path),
             QLatin1String(contract::distributed::interface),
             QLatin1String(contract::distributed::posted.name));
@@ -105,7 +105,7 @@ TEST_F(SessionBusNotificationCenterTest, OfAnotherShapeAreNotHeard)
 
 TEST(SessionBusNotificationCenterWithoutASession, DropsEverything)
 {
-    SessionBusNotificationCenter center{QDBusConnection(QStringLiteral("no such connection"))};
+    SessionBusNotificationCenter center{QDBusConnection(u"no such connection"_s)};
     center.addObserver(name, object, [] { ADD_FAILURE(); });
     center.post(name, object);
     eventually([] { return false; }, 50ms);

@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 class SessionInstanceTest : public ::testing::Test
 {
 protected:
@@ -42,10 +44,10 @@ protected:
     void callFromDesktop(const QString &operation)
     {
         QProcess desktop;
-        desktop.startCommand(QStringLiteral("gdbus call --address %1 --dest com.orvandel.Quillon4 "
-                                            "--object-path /com/orvandel/Quillon4 "
-                                            "--method org.freedesktop.Application.%2")
-                                 .arg(bus.address(), operation));
+        desktop.startCommand(
+            u"gdbus call --address %1 --dest com.orvandel.Quillon4 "
+            "--object-path /com/orvandel/Quillon4 "
+            "--method org.freedesktop.Application.%2"_s.arg(bus.address(), operation));
         EXPECT_TRUE(eventually([&] { return desktop.state() == QProcess::NotRunning; }));
         EXPECT_EQ(desktop.exitCode(), 0)
             << operation.toStdString() << desktop.readAllStandardError().toStdString();
@@ -91,12 +93,12 @@ TEST_F(SessionInstanceTest, TheTokenOfTheSecondStartReachesTheWindowsOfTheFirst)
     first.claim();
     qputenv("XDG_ACTIVATION_TOKEN", "token-17");
     startAgain();
-    EXPECT_EQ(token, QStringLiteral("token-17"));
+    EXPECT_EQ(token, u"token-17"_s);
     // The processes are two: what the first finds is what it was sent.
     qunsetenv("XDG_ACTIVATION_TOKEN");
-    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <'token-18'>}\""));
-    EXPECT_EQ(token, QStringLiteral("token-18"));
-    EXPECT_EQ(tokenForWindows, QStringLiteral("token-18"));
+    callFromDesktop(u"Activate \"{'activation-token': <'token-18'>}\""_s);
+    EXPECT_EQ(token, u"token-18"_s);
+    EXPECT_EQ(tokenForWindows, u"token-18"_s);
 }
 
 TEST_F(SessionInstanceTest, AStartupIdStandsInForAToken)
@@ -104,14 +106,14 @@ TEST_F(SessionInstanceTest, AStartupIdStandsInForAToken)
     first.claim();
     qputenv("DESKTOP_STARTUP_ID", "panel-4711_TIME99");
     startAgain();
-    EXPECT_EQ(token, QStringLiteral("panel-4711_TIME99"));
-    EXPECT_EQ(tokenForWindows, QStringLiteral("panel-4711_TIME99"));
+    EXPECT_EQ(token, u"panel-4711_TIME99"_s);
+    EXPECT_EQ(tokenForWindows, u"panel-4711_TIME99"_s);
 }
 
 TEST_F(SessionInstanceTest, EveryOperationOfTheDesktopHandsItsTokenOn)
 {
     first.claim();
-    const QString data = QStringLiteral("\"{'activation-token': <'%1'>}\"");
+    const QString data = u"\"{'activation-token': <'%1'>}\""_s;
     for (const char *operation : {"Activate", "Open []", "ActivateAction anything []"}) {
         callFromDesktop(QLatin1String(operation) + u' ' + data.arg(QLatin1String(operation, 4)));
         EXPECT_EQ(token, QLatin1String(operation, 4));
@@ -121,8 +123,8 @@ TEST_F(SessionInstanceTest, EveryOperationOfTheDesktopHandsItsTokenOn)
 TEST_F(SessionInstanceTest, ATokenIsNotUsedTwice)
 {
     first.claim();
-    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <'token-18'>}\""));
-    callFromDesktop(QStringLiteral("Activate {}"));
+    callFromDesktop(u"Activate \"{'activation-token': <'token-18'>}\""_s);
+    callFromDesktop(u"Activate {}"_s);
     EXPECT_EQ(activations, 2);
     EXPECT_EQ(token, QString());
     EXPECT_EQ(tokenForWindows, QString());
@@ -131,7 +133,7 @@ TEST_F(SessionInstanceTest, ATokenIsNotUsedTwice)
 TEST_F(SessionInstanceTest, ATokenOfAnotherTypeIsNone)
 {
     first.claim();
-    callFromDesktop(QStringLiteral("Activate \"{'activation-token': <[1, 2]>}\""));
+    callFromDesktop(u"Activate \"{'activation-token': <[1, 2]>}\""_s);
     EXPECT_EQ(activations, 1);
     EXPECT_EQ(token, QString());
 }
@@ -146,7 +148,7 @@ TEST_F(SessionInstanceTest, TheOtherMayHaveEndedMeanwhile)
 
 TEST(SessionInstanceWithoutASession, GoesOnAlone)
 {
-    SessionInstance instance{QDBusConnection(QStringLiteral("no such connection"))};
+    SessionInstance instance{QDBusConnection(u"no such connection"_s)};
     EXPECT_EQ(instance.claim(), SessionInstance::Claim::NoSession);
     std::optional<bool> reached;
     instance.activateOther([&](bool answer) { reached = answer; });

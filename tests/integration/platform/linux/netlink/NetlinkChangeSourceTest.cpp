@@ -14,6 +14,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 class NetlinkChangeSourceTest : public ::testing::Test
@@ -42,11 +44,10 @@ TEST_F(NetlinkChangeSourceTest, OneActionWithManyMessagesIsOneChange)
     // Address, subnet route, local and broadcast routes, link state: a dozen messages.
     // They arrive over several turns of the main loop.
     QProcess action;
-    action.start(QStringLiteral("sh"),
-        {QStringLiteral("-ec"),
-            QStringLiteral("ip link set enp1s0 down; ip link set enp1s0 address 02:00:00:00:00:77;"
-                           "ip link set enp1s0 up; ip addr add 198.51.100.7/24 dev enp1s0;"
-                           "ip route add 203.0.113.0/24 dev enp1s0")});
+    action.start(u"sh"_s,
+        {u"-ec"_s, u"ip link set enp1s0 down; ip link set enp1s0 address 02:00:00:00:00:77;"
+                   "ip link set enp1s0 up; ip addr add 198.51.100.7/24 dev enp1s0;"
+                   "ip route add 203.0.113.0/24 dev enp1s0"_s});
     ASSERT_TRUE(eventually([&] { return action.state() == QProcess::NotRunning; }));
     EXPECT_EQ(action.exitCode(), 0) << action.readAllStandardError().toStdString();
     ASSERT_TRUE(eventually([this] { return told > 0; }));
@@ -57,12 +58,10 @@ TEST_F(NetlinkChangeSourceTest, OneActionWithManyMessagesIsOneChange)
 TEST_F(NetlinkChangeSourceTest, LinkAddressAndRouteAreEachAChange)
 {
     source.start([this] { ++told; });
-    for (const QString &change : {QStringLiteral("ip link set enp2s0 mtu 1400"),
-             QStringLiteral("ip addr add 198.51.100.7/24 dev enp1s0"),
-             QStringLiteral("ip route add 203.0.113.0/24 dev enp1s0"),
-             QStringLiteral("ip route del 203.0.113.0/24"),
-             QStringLiteral("ip link add eth5 type veth peer name far5"),
-             QStringLiteral("ip link del eth5")}) {
+    for (const QString &change :
+        {u"ip link set enp2s0 mtu 1400"_s, u"ip addr add 198.51.100.7/24 dev enp1s0"_s,
+            u"ip route add 203.0.113.0/24 dev enp1s0"_s, u"ip route del 203.0.113.0/24"_s,
+            u"ip link add eth5 type veth peer name far5"_s, u"ip link del eth5"_s}) {
         letItSettle();
         told = 0;
         command(change);
@@ -74,9 +73,9 @@ TEST_F(NetlinkChangeSourceTest, TheChangeIsVisibleWhenItIsTold)
 {
     NetlinkHost host;
     QString seen;
-    source.start([&] { seen = host.info(QStringLiteral("enp2s0")).macAddress; });
-    command(QStringLiteral("ip link set enp2s0 address 02:00:00:00:00:42"));
-    EXPECT_TRUE(eventually([&] { return seen == QLatin1String("02:00:00:00:00:42"); }));
+    source.start([&] { seen = host.info(u"enp2s0"_s).macAddress; });
+    command(u"ip link set enp2s0 address 02:00:00:00:00:42"_s);
+    EXPECT_TRUE(eventually([&] { return seen == "02:00:00:00:00:42"_L1; }));
 }
 
 TEST_F(NetlinkChangeSourceTest, AnOverrunIsAChangeAndTheSourceGoesOn)
@@ -89,11 +88,11 @@ TEST_F(NetlinkChangeSourceTest, AnOverrunIsAChangeAndTheSourceGoesOn)
     for (int i = 0; i < 3000; ++i) {
         batch += "link set enp2s0 mtu " + QByteArray::number(1300 + i % 100) + "\n";
     }
-    command(QStringLiteral("ip -batch -"), batch);
+    command(u"ip -batch -"_s, batch);
     EXPECT_TRUE(eventually([this] { return told == 1; }));
     letItSettle();
     told = 0;
-    command(QStringLiteral("ip link set enp2s0 mtu 1250"));
+    command(u"ip link set enp2s0 mtu 1250"_s);
     EXPECT_TRUE(eventually([this] { return told == 1; }));
 }
 
@@ -106,7 +105,7 @@ TEST_F(NetlinkChangeSourceTest, ABurstWithoutEndIsToldMeanwhile)
     time.start();
     int mtu = 1300;
     while (told == 0 && time.elapsed() < 10'000) {
-        command(QStringLiteral("ip link set enp2s0 mtu %1").arg(mtu++));
+        command(u"ip link set enp2s0 mtu %1"_s.arg(mtu++));
         eventually([] { return false; }, 20ms);
     }
     EXPECT_EQ(told, 1);

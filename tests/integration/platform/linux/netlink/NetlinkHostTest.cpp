@@ -17,6 +17,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList devices(const QList<PortRecord> &ports)
@@ -40,21 +42,18 @@ PortRecord portOf(const QString &device)
 QHash<QString, InterfaceInfo> interfacesByIp()
 {
     QHash<QString, InterfaceInfo> interfaces;
-    const auto list = QJsonDocument::fromJson(command(QStringLiteral("ip -j addr"))).array();
+    const auto list = QJsonDocument::fromJson(command(u"ip -j addr"_s)).array();
     for (const QJsonValue &entry : list) {
         InterfaceInfo info;
-        info.macAddress = entry[QLatin1String("address")].toString();
-        info.status = entry[QLatin1String("operstate")] == QLatin1String("UP")
-                          ? QStringLiteral("active")
-                          : QStringLiteral("inactive");
-        const auto addresses = entry[QLatin1String("addr_info")].toArray();
+        info.macAddress = entry["address"_L1].toString();
+        info.status = entry["operstate"_L1] == "UP"_L1 ? u"active"_s : u"inactive"_s;
+        const auto addresses = entry["addr_info"_L1].toArray();
         for (const QJsonValue &address : addresses) {
-            if (address[QLatin1String("family")] == QLatin1String("inet") &&
-                info.ipAddress.isEmpty()) {
-                info.ipAddress = address[QLatin1String("local")].toString();
+            if (address["family"_L1] == "inet"_L1 && info.ipAddress.isEmpty()) {
+                info.ipAddress = address["local"_L1].toString();
             }
         }
-        interfaces.insert(entry[QLatin1String("ifname")].toString(), info);
+        interfaces.insert(entry["ifname"_L1].toString(), info);
     }
     return interfaces;
 }
@@ -78,23 +77,22 @@ double medianMilliseconds(const std::function<void()> &work)
 
 TEST(NetlinkHost, ListsThePortsOfTheMachineAndNothingElse)
 {
-    command(QStringLiteral("ip link add ifb7 type ifb"));
-    command(QStringLiteral("ip link add vethhost type veth peer name eth0 netns 1"));
-    command(QStringLiteral("ip link add docker0 type bridge"));
-    command(QStringLiteral("ip tuntap add tap0 mode tap"));
+    command(u"ip link add ifb7 type ifb"_s);
+    command(u"ip link add vethhost type veth peer name eth0 netns 1"_s);
+    command(u"ip link add docker0 type bridge"_s);
+    command(u"ip tuntap add tap0 mode tap"_s);
     const QList<PortRecord> ports = NetlinkHost().ports();
     QStringList names = devices(ports);
     names.sort();
-    EXPECT_EQ(names, (QStringList{QStringLiteral("br0"), QStringLiteral("enp1s0"),
-                         QStringLiteral("enp2s0"), QStringLiteral("eth0")}));
-    EXPECT_EQ(portOf(QStringLiteral("enp1s0")).interface, QStringLiteral("Ethernet"));
-    EXPECT_EQ(portOf(QStringLiteral("br0")).interface, QStringLiteral("Bridge"));
+    EXPECT_EQ(names, (QStringList{u"br0"_s, u"enp1s0"_s, u"enp2s0"_s, u"eth0"_s}));
+    EXPECT_EQ(portOf(u"enp1s0"_s).interface, u"Ethernet"_s);
+    EXPECT_EQ(portOf(u"br0"_s).interface, u"Bridge"_s);
 }
 
 TEST(NetlinkHost, SaysTheSameAsIp)
 {
-    command(QStringLiteral("ip addr add 198.51.100.7/24 dev enp1s0"));
-    command(QStringLiteral("ip addr add 203.0.113.9/24 dev enp2s0"));
+    command(u"ip addr add 198.51.100.7/24 dev enp1s0"_s);
+    command(u"ip addr add 203.0.113.9/24 dev enp2s0"_s);
     const QHash<QString, InterfaceInfo> expected = interfacesByIp();
     NetlinkHost host;
     const QList<PortRecord> ports = host.ports();
@@ -105,15 +103,15 @@ TEST(NetlinkHost, SaysTheSameAsIp)
         EXPECT_EQ(port.info.macAddress.size(), 17);
         EXPECT_EQ(port.hardware, QString()) << "a virtual device has no factory address";
     }
-    EXPECT_EQ(host.info(QStringLiteral("enp1s0")).ipAddress, QStringLiteral("192.0.2.10"));
-    EXPECT_EQ(host.info(QStringLiteral("lo")).ipAddress, QStringLiteral("127.0.0.1"));
+    EXPECT_EQ(host.info(u"enp1s0"_s).ipAddress, u"192.0.2.10"_s);
+    EXPECT_EQ(host.info(u"lo"_s).ipAddress, u"127.0.0.1"_s);
 }
 
 TEST(NetlinkHost, AnInterfaceThatIsNotThereHasNothing)
 {
     NetlinkHost host;
-    for (const QString &name : {QStringLiteral("eth99"), QString(), QStringLiteral("../../etc"),
-             QStringLiteral("a-name-that-is-too-long-for-the-kernel"), QString(QChar(0))}) {
+    for (const QString &name : {u"eth99"_s, QString(), u"../../etc"_s,
+             u"a-name-that-is-too-long-for-the-kernel"_s, QString(QChar(0))}) {
         EXPECT_EQ(host.info(name), InterfaceInfo{}) << qPrintable(name);
     }
 }
@@ -121,48 +119,46 @@ TEST(NetlinkHost, AnInterfaceThatIsNotThereHasNothing)
 TEST(NetlinkHost, SeesPlugRenameAddressAndUnplug)
 {
     NetlinkHost host;
-    command(QStringLiteral("ip link add eth5 address 02:00:00:00:00:05 type veth peer name far5"));
-    EXPECT_EQ(portOf(QStringLiteral("eth5")).info.macAddress, QStringLiteral("02:00:00:00:00:05"));
-    EXPECT_EQ(host.info(QStringLiteral("eth5")).status, QStringLiteral("inactive"));
+    command(u"ip link add eth5 address 02:00:00:00:00:05 type veth peer name far5"_s);
+    EXPECT_EQ(portOf(u"eth5"_s).info.macAddress, u"02:00:00:00:00:05"_s);
+    EXPECT_EQ(host.info(u"eth5"_s).status, u"inactive"_s);
 
-    command(QStringLiteral("ip link set eth5 name enp9s0"));
-    EXPECT_EQ(host.info(QStringLiteral("eth5")), InterfaceInfo{});
-    EXPECT_EQ(
-        portOf(QStringLiteral("enp9s0")).info.macAddress, QStringLiteral("02:00:00:00:00:05"));
+    command(u"ip link set eth5 name enp9s0"_s);
+    EXPECT_EQ(host.info(u"eth5"_s), InterfaceInfo{});
+    EXPECT_EQ(portOf(u"enp9s0"_s).info.macAddress, u"02:00:00:00:00:05"_s);
 
-    command(QStringLiteral("ip link set enp9s0 address 02:AB:cd:00:00:06"));
-    EXPECT_EQ(host.info(QStringLiteral("enp9s0")).macAddress, QStringLiteral("02:ab:cd:00:00:06"));
+    command(u"ip link set enp9s0 address 02:AB:cd:00:00:06"_s);
+    EXPECT_EQ(host.info(u"enp9s0"_s).macAddress, u"02:ab:cd:00:00:06"_s);
 
-    command(QStringLiteral("ip link del enp9s0"));
-    EXPECT_EQ(host.info(QStringLiteral("enp9s0")), InterfaceInfo{});
-    EXPECT_EQ(portOf(QStringLiteral("enp9s0")), PortRecord{});
+    command(u"ip link del enp9s0"_s);
+    EXPECT_EQ(host.info(u"enp9s0"_s), InterfaceInfo{});
+    EXPECT_EQ(portOf(u"enp9s0"_s), PortRecord{});
 }
 
 TEST(NetlinkHost, StatusFollowsTheLinkAndItsCarrier)
 {
     NetlinkHost host;
-    command(QStringLiteral("ip link add eth5 type veth peer name far5"));
-    command(QStringLiteral("ip link set eth5 up"));
-    EXPECT_EQ(host.info(QStringLiteral("eth5")).status, QStringLiteral("inactive")) << "no carrier";
-    command(QStringLiteral("ip link set far5 up"));
-    EXPECT_EQ(host.info(QStringLiteral("eth5")).status, QStringLiteral("active"));
-    command(QStringLiteral("ip link set eth5 down"));
-    EXPECT_EQ(host.info(QStringLiteral("eth5")).status, QStringLiteral("inactive"));
-    EXPECT_EQ(host.info(QStringLiteral("lo")).status, QStringLiteral("active"))
-        << "a driver without operational state";
+    command(u"ip link add eth5 type veth peer name far5"_s);
+    command(u"ip link set eth5 up"_s);
+    EXPECT_EQ(host.info(u"eth5"_s).status, u"inactive"_s) << "no carrier";
+    command(u"ip link set far5 up"_s);
+    EXPECT_EQ(host.info(u"eth5"_s).status, u"active"_s);
+    command(u"ip link set eth5 down"_s);
+    EXPECT_EQ(host.info(u"eth5"_s).status, u"inactive"_s);
+    EXPECT_EQ(host.info(u"lo"_s).status, u"active"_s) << "a driver without operational state";
 }
 
 TEST(NetlinkHost, FirstAddressWhereTheListOfAddressesHasAll)
 {
-    command(QStringLiteral("ip addr add 198.51.100.7/24 dev enp1s0 label enp1s0:1"));
-    EXPECT_EQ(NetlinkHost().info(QStringLiteral("enp1s0")).ipAddress, QStringLiteral("192.0.2.10"));
+    command(u"ip addr add 198.51.100.7/24 dev enp1s0 label enp1s0:1"_s);
+    EXPECT_EQ(NetlinkHost().info(u"enp1s0"_s).ipAddress, u"192.0.2.10"_s);
     QStringList listed;
     for (const auto &entry : GetifaddrsAddresses().ipv4()) {
-        if (entry.device == QLatin1String("enp1s0")) {
+        if (entry.device == "enp1s0"_L1) {
             listed.append(entry.ipv4);
         }
     }
-    EXPECT_EQ(listed, (QStringList{QStringLiteral("192.0.2.10"), QStringLiteral("198.51.100.7")}));
+    EXPECT_EQ(listed, (QStringList{u"192.0.2.10"_s, u"198.51.100.7"_s}));
 }
 
 TEST(NetlinkHost, ReadsAThousandInterfacesFasterThanIp)
@@ -172,11 +168,11 @@ TEST(NetlinkHost, ReadsAThousandInterfacesFasterThanIp)
         const QByteArray number = QByteArray::number(i);
         batch += "link add eth1" + number + " type veth peer name enp" + number + "s1\n";
     }
-    command(QStringLiteral("ip -batch -"), batch);
+    command(u"ip -batch -"_s, batch);
     NetlinkHost host;
     EXPECT_GE(host.ports().size(), 1000);
     const double ours = medianMilliseconds([&host] { host.ports(); });
-    const double ip = medianMilliseconds([] { command(QStringLiteral("ip -j addr")); });
+    const double ip = medianMilliseconds([] { command(u"ip -j addr"_s); });
     EXPECT_LT(ours, ip);
 }
 

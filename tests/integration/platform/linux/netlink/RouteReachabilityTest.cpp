@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isReachable()
@@ -30,7 +32,7 @@ bool becomesUnreachable()
 
 void ip(const char *arguments)
 {
-    command(QStringLiteral("ip ") + QLatin1String(arguments));
+    command(u"ip "_s + QLatin1String(arguments));
 }
 
 /// The sandbox has enp1s0 with 192.0.2.10 and a default route by 192.0.2.1; here it begins without.
@@ -67,7 +69,7 @@ TEST(RouteReachability, NotThroughAnInterfaceThatIsDownOrHasNoCarrier)
     EXPECT_TRUE(becomesReachable());
     ip("link set far0 down");
     EXPECT_TRUE(becomesUnreachable()) << "no carrier, although the route is still there";
-    EXPECT_TRUE(command(QStringLiteral("ip route show default")).contains("eth7"));
+    EXPECT_TRUE(command(u"ip route show default"_s).contains("eth7"));
     ip("link set far0 up");
     EXPECT_TRUE(becomesReachable());
     ip("link set eth7 down");
@@ -136,7 +138,7 @@ TEST_F(RouteReachabilityWays, ThroughATunnelWhoseDriverKnowsNoState)
     ip("link set tun0 up");
     ip("route add default dev tun0");
     EXPECT_FALSE(isReachable()) << "no program is at its other end";
-    command(QStringLiteral("ip route del default"));
+    command(u"ip route del default"_s);
     ip("link add ifb7 type ifb");
     ip("link set ifb7 up");
     ip("route add default dev ifb7");
@@ -150,7 +152,7 @@ TEST_F(RouteReachabilityWays, IsAnsweredAtOnceAmongManyRoutes)
         batch += "route add 10." + QByteArray::number(i / 200) + '.' + QByteArray::number(i % 200) +
                  ".0/24 via 192.0.2.1\n";
     }
-    command(QStringLiteral("ip -batch -"), batch);
+    command(u"ip -batch -"_s, batch);
     QElapsedTimer timer;
     timer.start();
     EXPECT_FALSE(isReachable());

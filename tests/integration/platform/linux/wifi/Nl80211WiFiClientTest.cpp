@@ -23,6 +23,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// From now on socket(2) fails for this protocol of netlink with this errno, as sandboxes do it.
@@ -72,7 +74,7 @@ TEST(Nl80211WiFiClient, AnswersAtOnceAndSilentlyWhereThereIsNoRadio)
 
 TEST(Nl80211WiFiClient, TheSocketKnowsWhetherTheKernelIsWireless)
 {
-    const bool hasWireless = QFileInfo::exists(QStringLiteral("/sys/class/ieee80211"));
+    const bool hasWireless = QFileInfo::exists(u"/sys/class/ieee80211"_s);
     Nl80211Socket socket;
     EXPECT_EQ(socket.access(), hasWireless ? WiFiAccess::Granted : WiFiAccess::NoWireless);
     EXPECT_EQ(socket.family() != 0, hasWireless);

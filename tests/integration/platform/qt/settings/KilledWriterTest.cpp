@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// A program that does nothing but save, by turns in the background and by flushing; it says
@@ -17,9 +19,9 @@ namespace {
     PlistSettingsStore store(path, scheduler, {});
     const QString filling(20'000, u'x');
     for (qlonglong round = from;; ++round) {
-        store.set(QStringLiteral("first"), round);
-        store.set(QStringLiteral("filling"), filling + QString::number(round));
-        store.set(QStringLiteral("second"), round);
+        store.set(u"first"_s, round);
+        store.set(u"filling"_s, filling + QString::number(round));
+        store.set(u"second"_s, round);
         if (round % 2 == 0) {
             store.synchronize();
             scheduler.advance(std::chrono::milliseconds(50));
@@ -68,11 +70,10 @@ TEST_F(KilledWriter, LeavesTheOldOrTheNewFileAndNothingBetween)
         ::close(report[0]);
 
         const QVariantMap values = content();
-        const qlonglong stored = values.value(QStringLiteral("first")).toLongLong();
-        EXPECT_EQ(values.value(QStringLiteral("second")).toLongLong(), stored);
-        EXPECT_TRUE(stored == 0 || values.value(QStringLiteral("filling"))
-                                       .toString()
-                                       .endsWith(QLatin1Char('x') + QString::number(stored)));
+        const qlonglong stored = values.value(u"first"_s).toLongLong();
+        EXPECT_EQ(values.value(u"second"_s).toLongLong(), stored);
+        EXPECT_TRUE(stored == 0 ||
+                    values.value(u"filling"_s).toString().endsWith(u'x' + QString::number(stored)));
         EXPECT_GE(stored, std::max(saved, reported)) << "what was reported as saved is lost";
         saved = stored;
     }

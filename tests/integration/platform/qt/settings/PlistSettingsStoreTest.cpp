@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -92,7 +94,7 @@ TEST_F(PlistSettingsStoreTest, WithoutAnythingToStoreThereIsNoFile)
 
 TEST_F(PlistSettingsStoreTest, ItsFolderIsMadeWhenMissing)
 {
-    path = folder.filePath(QStringLiteral("new/folder/settings.plist"));
+    path = folder.filePath(u"new/folder/settings.plist"_s);
     openStore();
     store->setBool(keys::hideDock, true);
     EXPECT_TRUE(store->flush());
@@ -167,22 +169,20 @@ TEST_F(PlistSettingsStoreTest, CharactersThatTheFileCannotCarryReadAlikeBeforeAn
 {
     openStore();
     const QString name = QString::fromLatin1("caf\x07", 4);
-    store->set(keys::currentWiFiDict, QVariantMap{{QStringLiteral("ssid"), name}});
+    store->set(keys::currentWiFiDict, QVariantMap{{u"ssid"_s, name}});
     const QVariant before = store->get(keys::currentWiFiDict);
     reopenStore();
     EXPECT_EQ(store->get(keys::currentWiFiDict), before);
-    EXPECT_EQ(before.toMap().value(QStringLiteral("ssid")).toString(),
-        QStringLiteral("caf") + QChar::ReplacementCharacter);
+    EXPECT_EQ(before.toMap().value(u"ssid"_s).toString(), u"caf"_s + QChar::ReplacementCharacter);
 }
 
 TEST_F(PlistSettingsStoreTest, KeysThatNobodyKnowsAreKept)
 {
-    replacedByAnother({{QStringLiteral("somebody else's"), QVariantList{1, QVariantMap()}}});
+    replacedByAnother({{u"somebody else's"_s, QVariantList{1, QVariantMap()}}});
     openStore();
     store->setBool(keys::hideDock, true);
     store.reset();
-    EXPECT_EQ(content().value(QStringLiteral("somebody else's")),
-        QVariant(QVariantList{1LL, QVariantMap()}));
+    EXPECT_EQ(content().value(u"somebody else's"_s), QVariant(QVariantList{1LL, QVariantMap()}));
 }
 
 TEST_F(PlistSettingsStoreTest, ABinaryPropertyListIsADamagedFile)
@@ -216,7 +216,7 @@ TEST_F(PlistSettingsStoreTest, ABinaryPropertyListInTheFilesPlaceLosesNothing)
 
 TEST_F(PlistSettingsStoreTest, ChangesOfDifferentKeysHereAndElsewhereBothStand)
 {
-    replacedByAnother({{keys::hideDock, true}, {keys::externalIPAddress, QStringLiteral("old")}});
+    replacedByAnother({{keys::hideDock, true}, {keys::externalIPAddress, u"old"_s}});
     openStore();
     store->set(keys::defaultTimerMinutes, 5);
     replacedByAnother({{keys::hideDock, false}});
@@ -240,10 +240,10 @@ TEST_F(PlistSettingsStoreTest, OfTheSameKeyTheUnsavedWriteHereWinsAndTheSavedOne
 
 TEST_F(PlistSettingsStoreTest, ARemovalHereAlsoWinsUntilItIsSaved)
 {
-    replacedByAnother({{keys::editingRuleNetwork, QStringLiteral("a")}});
+    replacedByAnother({{keys::editingRuleNetwork, u"a"_s}});
     openStore();
     store->set(keys::editingRuleNetwork, QVariant());
-    replacedByAnother({{keys::editingRuleNetwork, QStringLiteral("b")}});
+    replacedByAnother({{keys::editingRuleNetwork, u"b"_s}});
     ASSERT_TRUE(store->flush());
     EXPECT_FALSE(content().contains(keys::editingRuleNetwork));
 }
@@ -321,7 +321,7 @@ TEST_F(PlistSettingsStoreTest, AFileThatDisappearsIsWrittenAgain)
 
 TEST_F(PlistSettingsStoreTest, ALinkToTheFileStaysALink)
 {
-    const QString target = folder.filePath(QStringLiteral("elsewhere.plist"));
+    const QString target = folder.filePath(u"elsewhere.plist"_s);
     ASSERT_TRUE(write(target, xmlPropertyList({{keys::defaultTimerMinutes, 1}})));
     ASSERT_TRUE(QFile::link(target, path));
     openStore();

@@ -8,6 +8,8 @@
 #include <unistd.h>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using namespace std::chrono_literals;
@@ -210,13 +212,13 @@ TEST_F(SettingsFailure, AReadOnlyFileIsRespected)
 
 TEST_F(SettingsFailure, AFolderInTheFilesPlaceIsLeftAlone)
 {
-    ASSERT_TRUE(QDir().mkpath(path + QStringLiteral("/inside")));
+    ASSERT_TRUE(QDir().mkpath(path + u"/inside"_s));
     openStore();
     ASSERT_TRUE(problemIs(Kind::Unreadable));
     EXPECT_EQ(problems.front().error.code, EISDIR);
     store->setBool(keys::hideDock, true);
     EXPECT_FALSE(store->flush());
-    EXPECT_TRUE(QFileInfo(path + QStringLiteral("/inside")).isDir());
+    EXPECT_TRUE(QFileInfo(path + u"/inside"_s).isDir());
 }
 
 TEST_F(SettingsFailure, APipeInTheFilesPlaceDoesNotHoldUpTheProgram)
@@ -232,12 +234,12 @@ TEST_F(SettingsFailure, MoreThanTheFileMayHoldIsNotWritten)
 {
     replacedByAnother({{keys::defaultTimerMinutes, 5}});
     openStore();
-    store->set(QStringLiteral("giant"), QByteArray(propertyListFileLimit, 'x'));
+    store->set(u"giant"_s, QByteArray(propertyListFileLimit, 'x'));
     EXPECT_FALSE(store->flush());
     scheduler.runPending();
     ASSERT_TRUE(problemIs(Kind::NotWritable));
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
-    store->set(QStringLiteral("giant"), QVariant());
+    store->set(u"giant"_s, QVariant());
     EXPECT_TRUE(store->flush());
 }
 
@@ -249,7 +251,7 @@ TEST_F(SettingsFailure, AFullDiskKeepsTheOldFileAndTheValuesWaitInMemory)
     user = std::make_unique<OrdinaryUser>();
     replacedByAnother({{keys::defaultTimerMinutes, 5}});
     openStore();
-    const QString ballast = folder.filePath(QStringLiteral("ballast"));
+    const QString ballast = folder.filePath(u"ballast"_s);
     QFile filler(ballast);
     ASSERT_TRUE(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     while (filler.write(QByteArray(1024, 'x')) > 0) {
@@ -264,7 +266,7 @@ TEST_F(SettingsFailure, AFullDiskKeepsTheOldFileAndTheValuesWaitInMemory)
     EXPECT_EQ(problems.front().error.code, ENOSPC);
     EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 6);
     EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(5LL));
-    EXPECT_EQ(others(), QStringList({QStringLiteral("ballast")})) << "nothing half-written is left";
+    EXPECT_EQ(others(), QStringList({u"ballast"_s})) << "nothing half-written is left";
 
     ASSERT_TRUE(QFile::remove(ballast));
     EXPECT_TRUE(store->flush());

@@ -74,7 +74,7 @@ protected:
         const Result<QVariantMap> values = readPropertyListFile(path);
         return values ? values.value() : QVariantMap();
     }
-    /// Another program replaces the file's content at one stroke.
+    /// Another program replaces the file's content atomically.
     void replacedByAnother(const QVariantMap &values)
     {
         ASSERT_FALSE(replaceFileContent(path, xmlPropertyList(values)).has_value());

@@ -10,6 +10,8 @@
 #include <atomic>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// The fake store and the one on a real file, asked the same.
@@ -35,7 +37,7 @@ struct InMemory
 struct OnFile
 {
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("settings.plist"));
+    QString path = folder.filePath(u"settings.plist"_s);
     QtScheduler scheduler;
     PlistSettingsStore store{path, scheduler, {}};
 
@@ -96,7 +98,7 @@ TYPED_TEST(SettingsStoreConformance, AnUnsetKeyIsAbsent)
 
 TYPED_TEST(SettingsStoreConformance, AValueOfAnotherTypeReadsAsFalseZeroOrEmpty)
 {
-    this->store.set(keys::externalIPAddress, QStringLiteral("1"));
+    this->store.set(keys::externalIPAddress, u"1"_s);
     EXPECT_FALSE(this->store.getBool(keys::externalIPAddress));
     EXPECT_EQ(this->store.getInteger(keys::externalIPAddress), 0);
     this->store.set(keys::vendorCountValue, 5);
@@ -120,29 +122,26 @@ TYPED_TEST(SettingsStoreConformance, ReadsFallBackToTheDefaults)
 
 TYPED_TEST(SettingsStoreConformance, AWriteReplacesTheWholeTable)
 {
-    const QVariantMap wired{{QStringLiteral("interface"), QStringLiteral("Ethernet")}};
-    this->store.set(keys::deviceDict,
-        QVariantMap{{QStringLiteral("en0"), wired}, {QStringLiteral("en1"), wired}});
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("en2"), wired}});
-    EXPECT_EQ(
-        this->store.getDictionary(keys::deviceDict).keys(), QStringList({QStringLiteral("en2")}));
+    const QVariantMap wired{{u"interface"_s, u"Ethernet"_s}};
+    this->store.set(keys::deviceDict, QVariantMap{{u"en0"_s, wired}, {u"en1"_s, wired}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"en2"_s, wired}});
+    EXPECT_EQ(this->store.getDictionary(keys::deviceDict).keys(), QStringList({u"en2"_s}));
 }
 
 TYPED_TEST(SettingsStoreConformance, OfTwoWritersThatReadBeforeEitherWritesOneUpdateIsLost)
 {
     QVariantMap one = this->store.getDictionary(keys::deviceDict);
     QVariantMap other = this->store.getDictionary(keys::deviceDict);
-    one.insert(QStringLiteral("en0"), QVariantMap());
-    other.insert(QStringLiteral("en1"), QVariantMap());
+    one.insert(u"en0"_s, QVariantMap());
+    other.insert(u"en1"_s, QVariantMap());
     this->store.set(keys::deviceDict, one);
     this->store.set(keys::deviceDict, other);
-    EXPECT_EQ(
-        this->store.getDictionary(keys::deviceDict).keys(), QStringList({QStringLiteral("en1")}));
+    EXPECT_EQ(this->store.getDictionary(keys::deviceDict).keys(), QStringList({u"en1"_s}));
 }
 
 TYPED_TEST(SettingsStoreConformance, AChangedCopyDoesNotChangeTheStore)
 {
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("en0"), 1}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"en0"_s, 1}});
     QVariantMap copy = this->store.getDictionary(keys::deviceDict);
     copy.clear();
     EXPECT_EQ(this->store.getDictionary(keys::deviceDict).size(), 1);
@@ -151,7 +150,7 @@ TYPED_TEST(SettingsStoreConformance, AChangedCopyDoesNotChangeTheStore)
 TYPED_TEST(SettingsStoreConformance, WhatIsNoPropertyListIsRefused)
 {
     this->observe(keys::deviceDict);
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("en0"), QPoint(1, 2)}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"en0"_s, QPoint(1, 2)}});
     EXPECT_FALSE(this->store.get(keys::deviceDict).isValid());
     EXPECT_TRUE(this->changes.empty());
 }
@@ -172,19 +171,19 @@ TYPED_TEST(SettingsStoreConformance, AnObserverHearsOldAndNewBeforeSetReturns)
 TYPED_TEST(SettingsStoreConformance, AnAbsentValueIsOldOrNewAsAnInvalidOne)
 {
     this->observe(keys::editingRuleNetwork);
-    this->store.set(keys::editingRuleNetwork, QStringLiteral("aa:bb"));
+    this->store.set(keys::editingRuleNetwork, u"aa:bb"_s);
     this->store.set(keys::editingRuleNetwork, QVariant());
-    this->expectChange(0, QVariant(), QStringLiteral("aa:bb"));
-    this->expectChange(1, QStringLiteral("aa:bb"), QVariant());
+    this->expectChange(0, QVariant(), u"aa:bb"_s);
+    this->expectChange(1, u"aa:bb"_s, QVariant());
 }
 
 TYPED_TEST(SettingsStoreConformance, AnEqualValueIsNoChange)
 {
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("count"), 3LL}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"count"_s, 3LL}});
     this->observe(keys::deviceDict);
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("count"), 3}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"count"_s, 3}});
     EXPECT_TRUE(this->changes.empty());
-    this->store.set(keys::deviceDict, QVariantMap{{QStringLiteral("count"), 3.0}});
+    this->store.set(keys::deviceDict, QVariantMap{{u"count"_s, 3.0}});
     EXPECT_EQ(this->changes.size(), 1U) << "another type is another value";
 }
 
@@ -337,7 +336,7 @@ TYPED_TEST(SettingsStoreConformance, ManyThreadsMayReadAndWriteAtOnce)
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([this, thread] {
-            const QString own = QStringLiteral("thread %1").arg(thread);
+            const QString own = u"thread %1"_s.arg(thread);
             for (int round = 1; round <= 100; ++round) {
                 this->store.set(own, round);
                 EXPECT_EQ(this->store.getInteger(own), round);
@@ -352,7 +351,7 @@ TYPED_TEST(SettingsStoreConformance, ManyThreadsMayReadAndWriteAtOnce)
         thread.join();
     }
     for (int thread = 0; thread < 4; ++thread) {
-        EXPECT_EQ(this->store.getInteger(QStringLiteral("thread %1").arg(thread)), 100);
+        EXPECT_EQ(this->store.getInteger(u"thread %1"_s.arg(thread)), 100);
     }
 }
 

@@ -5,6 +5,8 @@
 #include <QDir>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// A transfer may be ended at every moment, and nothing is heard of it afterwards.
@@ -16,9 +18,8 @@ protected:
         HttpClientOptions options;
         options.folder = folder.path();
         client.emplace(options);
-        web.serve("/page", {{QStringLiteral("body"), QStringLiteral("0123456789")}});
-        web.serve("/slow", {{QStringLiteral("size"), 1'000'000}, {QStringLiteral("piece"), 10'000},
-                               {QStringLiteral("pause"), 0.02}});
+        web.serve("/page", {{u"body"_s, u"0123456789"_s}});
+        web.serve("/slow", {{u"size"_s, 1'000'000}, {u"piece"_s, 10'000}, {u"pause"_s, 0.02}});
     }
 
     void expectNothingFollows(const int &calls)
@@ -50,7 +51,7 @@ TEST_F(Cancel, AtOnce)
     int calls = 0;
     client->cancel(client->get(WebServer::secure("/page"), 100, counting(calls)));
     client->cancel(client->download(WebServer::secure("/page"), countingAll(calls)));
-    client->cancel(client->get(QUrl(QStringLiteral("file:///etc/passwd")), 100, counting(calls)));
+    client->cancel(client->get(QUrl(u"file:///etc/passwd"_s), 100, counting(calls)));
     expectNothingFollows(calls);
     EXPECT_EQ(calls, 0);
     expectNothingLeft();

@@ -5,10 +5,12 @@
 #include <QDir>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int manyBytes = 100'000'000;
-const QString tenDigits = QStringLiteral("0123456789");
+const QString tenDigits = u"0123456789"_s;
 
 class Download : public HttpTest
 {
@@ -44,7 +46,7 @@ protected:
 
 TEST_F(Download, BringsTheBodyIntoAFileThatIsOursAlone)
 {
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    web.serve("/page", {{u"body"_s, tenDigits}});
     const Downloaded result = download(WebServer::secure("/page"));
     EXPECT_EQ(result.body, QByteArray("0123456789"));
     EXPECT_EQ(QFileInfo(result.path).path(), folder.path());
@@ -56,14 +58,14 @@ TEST_F(Download, BringsTheBodyIntoAFileThatIsOursAlone)
 
 TEST_F(Download, GoesToTheTemporaryFolderWhenNoneIsNamed)
 {
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    web.serve("/page", {{u"body"_s, tenDigits}});
     client.emplace();
     EXPECT_EQ(QFileInfo(download(WebServer::secure("/page")).path).path(), QDir::tempPath());
 }
 
 TEST_F(Download, OfAHundredMegabytesIsReportedStepByStepAndFlatInMemory)
 {
-    web.serve("/page", {{QStringLiteral("size"), manyBytes}});
+    web.serve("/page", {{u"size"_s, manyBytes}});
     qint64 received = 0;
     int steps = 0;
     int endings = 0;
@@ -90,9 +92,8 @@ TEST_F(Download, OfAHundredMegabytesIsReportedStepByStepAndFlatInMemory)
 TEST_F(Download, OfUnknownLengthSaysSoInEveryStep)
 {
     for (const char *framing : {"chunked", "close"}) {
-        web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 3},
-                               {QStringLiteral("pause"), 0.05},
-                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.05},
+                               {u"framing"_s, QString::fromLatin1(framing)}});
         const Downloaded result = download(WebServer::secure("/page"));
         EXPECT_EQ(result.body, QByteArray("0123456789"));
         EXPECT_GT(result.steps.size(), 1);
@@ -102,8 +103,7 @@ TEST_F(Download, OfUnknownLengthSaysSoInEveryStep)
 
 TEST_F(Download, OfKnownLengthSaysItInEveryStep)
 {
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 3},
-                           {QStringLiteral("pause"), 0.05}});
+    web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.05}});
     const Downloaded result = download(WebServer::secure("/page"));
     EXPECT_GT(result.steps.size(), 1);
     expectStepsAddUp(result, 10);
@@ -119,16 +119,14 @@ TEST_F(Download, OfAnEmptyBodyEndsWithAnEmptyFile)
 
 TEST_F(Download, OfAPageThatIsNotThereEndsWithWhatTheServerSays)
 {
-    web.serve("/page",
-        {{QStringLiteral("status"), 404}, {QStringLiteral("body"), QStringLiteral("gone")}});
+    web.serve("/page", {{u"status"_s, 404}, {u"body"_s, u"gone"_s}});
     EXPECT_EQ(download(WebServer::secure("/page")).body, QByteArray("gone"));
 }
 
 TEST_F(Download, FollowsRedirectsAndTakesOnlyTheLastBody)
 {
-    web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("/page")},
-                           {QStringLiteral("body"), QStringLiteral("moved")}});
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}});
+    web.serve("/away", {{u"redirect"_s, u"/page"_s}, {u"body"_s, u"moved"_s}});
+    web.serve("/page", {{u"body"_s, tenDigits}});
     const Downloaded result = download(WebServer::secure("/away"));
     EXPECT_EQ(result.body, QByteArray("0123456789"));
     expectStepsAddUp(result, 10);
@@ -136,7 +134,7 @@ TEST_F(Download, FollowsRedirectsAndTakesOnlyTheLastBody)
 
 TEST_F(Download, FailsWhenTheBodyIsShorterThanAnnounced)
 {
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("length"), 11}});
+    web.serve("/page", {{u"body"_s, tenDigits}, {u"length"_s, 11}});
     for (const QUrl &url : {WebServer::plain("/page"), WebServer::secure("/page")}) {
         const Downloaded result = download(url);
         EXPECT_TRUE(result.error);
@@ -147,8 +145,7 @@ TEST_F(Download, FailsWhenTheBodyIsShorterThanAnnounced)
 
 TEST_F(Download, FailsWhenTheServerFallsSilentInTheMiddle)
 {
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
-                           {QStringLiteral("then"), QStringLiteral("stall")}});
+    web.serve("/page", {{u"body"_s, tenDigits}, {u"cut"_s, 4}, {u"then"_s, u"stall"_s}});
     const Downloaded result = download(WebServer::secure("/page"));
     ASSERT_TRUE(result.error);
     EXPECT_EQ(outcome(*result.error), systemFailure(ETIMEDOUT));
@@ -166,7 +163,7 @@ TEST_F(Download, FailsWhenThereIsNoServerAndWhenItIsNotTrusted)
 
 TEST_F(Download, FailsWhenThereIsNoFolder)
 {
-    useFolder(folder.filePath(QStringLiteral("missing")));
+    useFolder(folder.filePath(u"missing"_s));
     const Downloaded result = download(WebServer::secure("/page"));
     ASSERT_TRUE(result.error);
     EXPECT_EQ(outcome(*result.error), systemFailure(ENOENT));
@@ -176,8 +173,7 @@ TEST_F(Download, FailsWhenThereIsNoFolder)
 TEST_F(Download, WithoutEndIsGivenUp)
 {
     useFolder(folder.path(), 3'000'000);
-    web.serve("/page", {{QStringLiteral("size"), QStringLiteral("endless")},
-                           {QStringLiteral("framing"), QStringLiteral("chunked")}});
+    web.serve("/page", {{u"size"_s, u"endless"_s}, {u"framing"_s, u"chunked"_s}});
     const Downloaded result = download(WebServer::secure("/page"));
     ASSERT_TRUE(result.error);
     EXPECT_EQ(outcome(*result.error), systemFailure(EFBIG));

@@ -10,12 +10,14 @@
 #include <QElapsedTimer>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::StartsWith;
 
 const QString host = QStringLiteral(QUILLON_EXTERNAL_ADDRESS_HOST);
-const QString earlier = QStringLiteral("198.51.100.1");
+const QString earlier = u"198.51.100.1"_s;
 
 /// The external address over the real client, from the host that the program asks.
 class ExternalAddress : public HttpTest
@@ -25,11 +27,11 @@ protected:
 
     void answer(const QVariantMap &rule)
     {
-        web.serve((host + QStringLiteral("/?format=json")).toLatin1().constData(), rule);
+        web.serve((host + u"/?format=json"_s).toLatin1().constData(), rule);
     }
-    void answer(const char *body) { answer({{QStringLiteral("body"), QString::fromLatin1(body)}}); }
+    void answer(const char *body) { answer({{u"body"_s, QString::fromLatin1(body)}}); }
 
-    QString fetch() { return fetchFrom(QUrl(QStringLiteral("https://") + host)); }
+    QString fetch() { return fetchFrom(QUrl(u"https://"_s + host)); }
     QString fetchFrom(const QUrl &service)
     {
         ExternalIPAddress address(*client, settings, service);
@@ -44,10 +46,7 @@ protected:
         }));
         return settings.getString(keys::externalIPAddress);
     }
-    std::string takeLog()
-    {
-        return std::exchange(logged, {}).join(QLatin1Char('\n')).toStdString();
-    }
+    std::string takeLog() { return std::exchange(logged, {}).join(u'\n').toStdString(); }
 
     LogCapture log;
     FakeScheduler scheduler;
@@ -58,25 +57,24 @@ protected:
 TEST_F(ExternalAddress, ComesFromTheHostThatTheProgramAsks)
 {
     answer(R"({"ip":"203.0.113.7"})");
-    EXPECT_EQ(fetch(), QStringLiteral("203.0.113.7"));
+    EXPECT_EQ(fetch(), u"203.0.113.7"_s);
     const QJsonObject asked = web.log().last();
-    EXPECT_EQ(asked.value(QStringLiteral("host")).toString(), host);
-    EXPECT_EQ(asked.value(QStringLiteral("path")).toString(), QStringLiteral("/"));
-    EXPECT_EQ(asked.value(QStringLiteral("query")).toString(), QStringLiteral("format=json"));
-    EXPECT_TRUE(asked.value(QStringLiteral("secure")).toBool());
+    EXPECT_EQ(asked.value(u"host"_s).toString(), host);
+    EXPECT_EQ(asked.value(u"path"_s).toString(), u"/"_s);
+    EXPECT_EQ(asked.value(u"query"_s).toString(), u"format=json"_s);
+    EXPECT_TRUE(asked.value(u"secure"_s).toBool());
 }
 
 TEST_F(ExternalAddress, IsUnknownAfterAnAnswerWithoutUse)
 {
-    answer({{QStringLiteral("status"), 503},
-        {QStringLiteral("body"), QStringLiteral("{\"ip\":\"203.0.113.7\"}")}});
-    EXPECT_EQ(fetch(), QStringLiteral("Unknown..."));
+    answer({{u"status"_s, 503}, {u"body"_s, u"{\"ip\":\"203.0.113.7\"}"_s}});
+    EXPECT_EQ(fetch(), u"Unknown..."_s);
     EXPECT_EQ(takeLog(), "quillon.networks: HTTP Error: 503");
     answer("[]");
-    EXPECT_EQ(fetch(), QStringLiteral("Unknown..."));
+    EXPECT_EQ(fetch(), u"Unknown..."_s);
     EXPECT_EQ(takeLog(), "quillon.networks: Response is not a valid JSON object");
     answer("<html>");
-    EXPECT_EQ(fetch(), QStringLiteral("Unknown..."));
+    EXPECT_EQ(fetch(), u"Unknown..."_s);
     EXPECT_THAT(takeLog(), StartsWith("quillon.networks: Error parsing JSON: "));
 }
 
@@ -87,20 +85,17 @@ TEST_F(ExternalAddress, StaysAfterAFailedTransfer)
         EXPECT_THAT(takeLog(), StartsWith("quillon.networks: Error making API request: "));
     };
     useSilence(300ms);
-    const QUrl service(QStringLiteral("https://") + host);
-    answer({{QStringLiteral("size"), QStringLiteral("endless")}});
+    const QUrl service(u"https://"_s + host);
+    answer({{u"size"_s, u"endless"_s}});
     expectStays(service);
-    answer({{QStringLiteral("body"), QStringLiteral("{\"ip\":\"203.0.113.7\"}")},
-        {QStringLiteral("delay"), 100}});
+    answer({{u"body"_s, u"{\"ip\":\"203.0.113.7\"}"_s}, {u"delay"_s, 100}});
     expectStays(service);
-    answer({{QStringLiteral("body"), QStringLiteral("{\"ip\":\"203.0.113.7\"}")},
-        {QStringLiteral("length"), 40}});
+    answer({{u"body"_s, u"{\"ip\":\"203.0.113.7\"}"_s}, {u"length"_s, 40}});
     expectStays(service);
-    answer({{QStringLiteral("redirect"),
-        QStringLiteral("http://") + host + QStringLiteral("/plain")}});
+    answer({{u"redirect"_s, u"http://"_s + host + u"/plain"_s}});
     expectStays(service);
-    expectStays(QUrl(QStringLiteral("https://untrusted.test")));
-    expectStays(QUrl(QStringLiteral("https://wrong-name.test")));
+    expectStays(QUrl(u"https://untrusted.test"_s));
+    expectStays(QUrl(u"https://wrong-name.test"_s));
     web.stop();
     expectStays(service);
 }

@@ -8,9 +8,11 @@
 #include <QTimer>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString tenDigits = QStringLiteral("0123456789");
+const QString tenDigits = u"0123456789"_s;
 
 class Failure : public HttpTest
 {
@@ -21,22 +23,22 @@ TEST_F(Failure, NobodyListens)
     web.stop();
     const Answer answer = get(WebServer::secure("/page"));
     EXPECT_EQ(outcome(answer), failure(QNetworkReply::ConnectionRefusedError));
-    EXPECT_EQ(answer.error().message, QStringLiteral("Connection refused"));
+    EXPECT_EQ(answer.error().message, u"Connection refused"_s);
 }
 
 TEST_F(Failure, TheHostDoesNotExist)
 {
-    EXPECT_EQ(outcome(get(QUrl(QStringLiteral("https://nowhere.test/")))),
-        failure(QNetworkReply::HostNotFoundError));
+    EXPECT_EQ(
+        outcome(get(QUrl(u"https://nowhere.test/"_s))), failure(QNetworkReply::HostNotFoundError));
 }
 
 TEST_F(Failure, TheConnectionBreaksInTheMiddle)
 {
     for (const char *end : {"reset", "close"}) {
         for (const char *framing : {"length", "chunked"}) {
-            web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
-                                   {QStringLiteral("then"), QString::fromLatin1(end)},
-                                   {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+            web.serve("/page",
+                {{u"body"_s, tenDigits}, {u"cut"_s, 4}, {u"then"_s, QString::fromLatin1(end)},
+                    {u"framing"_s, QString::fromLatin1(framing)}});
             for (const QUrl &url : {WebServer::plain("/page"), WebServer::secure("/page")}) {
                 const Answer answer = get(url);
                 ASSERT_FALSE(answer) << end << ' ' << framing << ": " << outcome(answer);
@@ -49,30 +51,27 @@ TEST_F(Failure, TheConnectionBreaksInTheMiddle)
 
 TEST_F(Failure, TheBodyOfABadStatusIsShorterThanAnnounced)
 {
-    web.serve("/page", {{QStringLiteral("status"), 503}, {QStringLiteral("body"), tenDigits},
-                           {QStringLiteral("length"), 20}});
+    web.serve("/page", {{u"status"_s, 503}, {u"body"_s, tenDigits}, {u"length"_s, 20}});
     EXPECT_FALSE(get(WebServer::secure("/page")));
     EXPECT_FALSE(get(WebServer::plain("/page")));
 }
 
 TEST_F(Failure, TheAnswerIsNotHttp)
 {
-    web.serve("/page", {{QStringLiteral("raw"), QStringLiteral("220 mail.example ESMTP\r\n")}});
+    web.serve("/page", {{u"raw"_s, u"220 mail.example ESMTP\r\n"_s}});
     EXPECT_FALSE(get(WebServer::plain("/page")));
-    web.serve("/page", {{QStringLiteral("raw"), QString()}});
+    web.serve("/page", {{u"raw"_s, QString()}});
     EXPECT_FALSE(get(WebServer::plain("/page")));
 }
 
 TEST_F(Failure, TheServerFallsSilentAtAnyPoint)
 {
     useSilence(300ms);
-    web.serve("/head", {{QStringLiteral("delay"), 1000}});
-    web.serve("/start", {{QStringLiteral("raw"), QStringLiteral("HTTP/1.1 200 OK\r\nContent-")},
-                            {QStringLiteral("repeat"), QString()}});
+    web.serve("/head", {{u"delay"_s, 1000}});
+    web.serve("/start", {{u"raw"_s, u"HTTP/1.1 200 OK\r\nContent-"_s}, {u"repeat"_s, QString()}});
     for (const char *framing : {"length", "chunked", "close"}) {
-        web.serve("/body", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("cut"), 4},
-                               {QStringLiteral("then"), QStringLiteral("stall")},
-                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        web.serve("/body", {{u"body"_s, tenDigits}, {u"cut"_s, 4}, {u"then"_s, u"stall"_s},
+                               {u"framing"_s, QString::fromLatin1(framing)}});
         EXPECT_EQ(outcome(get(WebServer::secure("/body"))), systemFailure(ETIMEDOUT)) << framing;
     }
     EXPECT_EQ(outcome(get(WebServer::secure("/head"))), systemFailure(ETIMEDOUT));
@@ -83,14 +82,13 @@ TEST_F(Failure, TheConnectionIsNeverMade)
 {
     useSilence(300ms);
     // Nobody has this address on the wire that it is looked for on.
-    EXPECT_EQ(outcome(get(QUrl(QStringLiteral("https://192.0.2.77/")))), systemFailure(ETIMEDOUT));
+    EXPECT_EQ(outcome(get(QUrl(u"https://192.0.2.77/"_s))), systemFailure(ETIMEDOUT));
 }
 
 TEST_F(Failure, ASlowServerIsNotASilentOne)
 {
     useSilence(500ms);
-    web.serve("/page", {{QStringLiteral("body"), tenDigits}, {QStringLiteral("piece"), 1},
-                           {QStringLiteral("pause"), 0.15}});
+    web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 1}, {u"pause"_s, 0.15}});
     QElapsedTimer time;
     time.start();
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 0123456789");
@@ -111,8 +109,7 @@ TEST_F(Failure, ASlowStartIsNotSilence)
         say(1200ms, "here");
     });
     EXPECT_EQ(
-        outcome(get(QUrl(QStringLiteral("http://127.0.0.1:%1/page").arg(server.serverPort())))),
-        "200 here");
+        outcome(get(QUrl(u"http://127.0.0.1:%1/page"_s.arg(server.serverPort())))), "200 here");
 }
 
 /// What never ends must not fill the memory until it is given up.
@@ -132,14 +129,13 @@ protected:
 
 TEST_F(FailureFlood, OfARedirect)
 {
-    expectBounded({{QStringLiteral("redirect"), QStringLiteral("/page")},
-        {QStringLiteral("size"), QStringLiteral("endless")},
-        {QStringLiteral("framing"), QStringLiteral("chunked")}});
+    expectBounded(
+        {{u"redirect"_s, u"/page"_s}, {u"size"_s, u"endless"_s}, {u"framing"_s, u"chunked"_s}});
 }
 
 TEST_F(FailureFlood, OfAPlainBody)
 {
-    expectBounded({{QStringLiteral("size"), QStringLiteral("endless")}});
+    expectBounded({{u"size"_s, u"endless"_s}});
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 #include <sys/mount.h>
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 /// As root in a sandbox, because only root may mount.
@@ -37,15 +39,15 @@ protected:
 
 TEST_F(FullDisk, EndsADownloadAndKeepsNothingOfIt)
 {
-    web.serve("/page", {{QStringLiteral("size"), 5'000'000}});
+    web.serve("/page", {{u"size"_s, 5'000'000}});
     const Downloaded result = download(WebServer::secure("/page"));
     ASSERT_TRUE(result.error);
     EXPECT_EQ(outcome(*result.error), systemFailure(ENOSPC));
-    EXPECT_EQ(result.error->message, QStringLiteral("No space left on device"));
+    EXPECT_EQ(result.error->message, u"No space left on device"_s);
     EXPECT_LE(result.steps.last().received, 1'048'576);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 
-    web.serve("/page", {{QStringLiteral("size"), 500'000}});
+    web.serve("/page", {{u"size"_s, 500'000}});
     EXPECT_EQ(download(WebServer::secure("/page")).body, QByteArray(500'000, '#'))
         << "there is room again";
 }

@@ -4,6 +4,8 @@
 #include "integration/platform/qt/web/HttpTest.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using Page = FakeHttpClient::Page;
@@ -17,8 +19,7 @@ struct MadeUpWeb
     }
     void breakDown(const char *page)
     {
-        client.refuse(
-            WebServer::secure(page), {httpErrorDomain, 1, QStringLiteral("Connection refused")});
+        client.refuse(WebServer::secure(page), {httpErrorDomain, 1, u"Connection refused"_s});
     }
     bool soon(const std::function<bool()> &condition)
     {
@@ -34,15 +35,13 @@ struct RealWeb
 {
     void serve(const char *page, const Page &content)
     {
-        QVariantMap rule{{QStringLiteral("status"), content.status},
-            {QStringLiteral("body"), QString::fromUtf8(content.body)},
-            {QStringLiteral("delay"), double(content.delay.count()) / 1000},
-            {QStringLiteral("pause"), double(content.pause.count()) / 1000},
-            {QStringLiteral("piece"), int(content.piece)},
-            {QStringLiteral("framing"),
-                content.saysLength ? QStringLiteral("length") : QStringLiteral("chunked")}};
+        QVariantMap rule{{u"status"_s, content.status},
+            {u"body"_s, QString::fromUtf8(content.body)},
+            {u"delay"_s, double(content.delay.count()) / 1000},
+            {u"pause"_s, double(content.pause.count()) / 1000}, {u"piece"_s, int(content.piece)},
+            {u"framing"_s, content.saysLength ? u"length"_s : u"chunked"_s}};
         if (content.length >= 0) {
-            rule.insert(QStringLiteral("length"), content.length);
+            rule.insert(u"length"_s, content.length);
         }
         server.serve(page, rule);
     }
@@ -140,14 +139,14 @@ TYPED_TEST(HttpClientConformance, NoServerIsAFailure)
     const Downloaded result = this->download();
     ASSERT_TRUE(result.error);
     EXPECT_EQ(result.error->domain, httpErrorDomain);
-    EXPECT_EQ(result.error->message, QStringLiteral("Connection refused"));
+    EXPECT_EQ(result.error->message, u"Connection refused"_s);
 }
 
 TYPED_TEST(HttpClientConformance, WhatIsNoWebAddressFailsLater)
 {
     int failures = 0;
     const auto failed = [&](const auto &answer) { failures += answer ? 0 : 1; };
-    this->web.client.get(QUrl(QStringLiteral("file:///etc/passwd")), 100, failed);
+    this->web.client.get(QUrl(u"file:///etc/passwd"_s), 100, failed);
     this->web.client.download(QUrl(), {{}, {}, [&](const Error &) { ++failures; }});
     EXPECT_EQ(failures, 0);
     EXPECT_TRUE(this->web.soon([&] { return failures == 2; }));

@@ -3,6 +3,8 @@
 #include "integration/platform/qt/web/HttpTest.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::ElementsAre;
@@ -20,7 +22,7 @@ protected:
 
 TEST_F(Request, BringsTheBodyOverPlainAndSecureConnections)
 {
-    web.serve("/page", {{QStringLiteral("body"), QStringLiteral("Grüße\r\n")}});
+    web.serve("/page", {{u"body"_s, u"Grüße\r\n"_s}});
     EXPECT_EQ(outcome(get(WebServer::plain("/page"))), "200 Grüße\r\n");
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 Grüße\r\n");
     EXPECT_EQ(outcome(get(WebServer::secure("/page?query=1#part"))), "200 Grüße\r\n");
@@ -30,20 +32,18 @@ TEST_F(Request, ABadStatusIsAResponseWithItsBody)
 {
     for (const int status :
         {400, 401, 403, 404, 405, 409, 410, 418, 429, 500, 501, 502, 503, 504, 599}) {
-        web.serve("/page",
-            {{QStringLiteral("status"), status}, {QStringLiteral("body"), QStringLiteral("why")}});
+        web.serve("/page", {{u"status"_s, status}, {u"body"_s, u"why"_s}});
         EXPECT_EQ(outcome(get(WebServer::secure("/page"))), std::to_string(status) + " why");
     }
-    web.serve("/page", {{QStringLiteral("status"), 204}});
+    web.serve("/page", {{u"status"_s, 204}});
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "204 ");
 }
 
 TEST_F(Request, TheEndOfABodyMayBeToldInEveryWay)
 {
     for (const char *framing : {"length", "chunked", "close"}) {
-        web.serve("/page",
-            {{QStringLiteral("body"), QStringLiteral("0123456789")}, {QStringLiteral("piece"), 3},
-                {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        web.serve("/page", {{u"body"_s, u"0123456789"_s}, {u"piece"_s, 3},
+                               {u"framing"_s, QString::fromLatin1(framing)}});
         EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 0123456789") << framing;
         EXPECT_EQ(outcome(get(WebServer::plain("/page"))), "200 0123456789") << framing;
     }
@@ -51,74 +51,63 @@ TEST_F(Request, TheEndOfABodyMayBeToldInEveryWay)
 
 TEST_F(Request, TellsNothingAboutItsUser)
 {
-    const QJsonObject headers =
-        echo(WebServer::secure("/page")).value(QStringLiteral("headers")).toObject();
+    const QJsonObject headers = echo(WebServer::secure("/page")).value(u"headers"_s).toObject();
     EXPECT_TRUE(headers.isEmpty()) << "there is no such page yet";
-    web.serve("/page", {{QStringLiteral("echo"), true}});
-    const QJsonObject sent =
-        echo(WebServer::secure("/page")).value(QStringLiteral("headers")).toObject();
+    web.serve("/page", {{u"echo"_s, true}});
+    const QJsonObject sent = echo(WebServer::secure("/page")).value(u"headers"_s).toObject();
     QStringList names = sent.keys();
     names.sort();
-    EXPECT_EQ(names.join(QLatin1Char(' ')),
-        QStringLiteral(
-            "Accept-Encoding Accept-Language Cache-Control Connection Host Pragma User-Agent"));
-    EXPECT_EQ(sent.value(QStringLiteral("User-Agent")).toString(),
-        QStringLiteral("Mozilla/5.0 (compatible; Quillon)"));
-    EXPECT_EQ(sent.value(QStringLiteral("Accept-Language")).toString(), QStringLiteral("*"));
-    EXPECT_EQ(sent.value(QStringLiteral("Accept-Encoding")).toString(), QStringLiteral("identity"));
+    EXPECT_EQ(names.join(u' '),
+        u"Accept-Encoding Accept-Language Cache-Control Connection Host Pragma User-Agent"_s);
+    EXPECT_EQ(sent.value(u"User-Agent"_s).toString(), u"Mozilla/5.0 (compatible; Quillon)"_s);
+    EXPECT_EQ(sent.value(u"Accept-Language"_s).toString(), u"*"_s);
+    EXPECT_EQ(sent.value(u"Accept-Encoding"_s).toString(), u"identity"_s);
 }
 
 TEST_F(Request, TakesNothingFromAnEarlierOne)
 {
     web.serve("/page",
-        {{QStringLiteral("echo"), true},
-            {QStringLiteral("headers"),
-                QVariantMap{{QStringLiteral("Set-Cookie"), QStringLiteral("who=you; Max-Age=1000")},
-                    {QStringLiteral("Cache-Control"), QStringLiteral("max-age=1000")},
-                    {QStringLiteral("ETag"), QStringLiteral("\"1\"")}}}});
+        {{u"echo"_s, true},
+            {u"headers"_s, QVariantMap{{u"Set-Cookie"_s, u"who=you; Max-Age=1000"_s},
+                               {u"Cache-Control"_s, u"max-age=1000"_s}, {u"ETag"_s, u"\"1\""_s}}}});
     const QJsonObject first = echo(WebServer::secure("/page"));
     const QJsonObject second = echo(WebServer::secure("/page"));
-    EXPECT_EQ(first.value(QStringLiteral("headers")), second.value(QStringLiteral("headers")));
-    EXPECT_NE(first.value(QStringLiteral("client")), second.value(QStringLiteral("client")))
+    EXPECT_EQ(first.value(u"headers"_s), second.value(u"headers"_s));
+    EXPECT_NE(first.value(u"client"_s), second.value(u"client"_s))
         << "the connection was kept, and might lead to a network that we have left";
     EXPECT_EQ(web.log().size(), 2);
 }
 
 TEST_F(Request, CookiesDoNotGoAlongWithARedirect)
 {
-    web.serve("/first", {{QStringLiteral("redirect"), QStringLiteral("/page")},
-                            {QStringLiteral("headers"), QVariantMap{{QStringLiteral("Set-Cookie"),
-                                                            QStringLiteral("who=you")}}}});
-    web.serve("/page", {{QStringLiteral("echo"), true}});
-    const QJsonObject sent =
-        echo(WebServer::secure("/first")).value(QStringLiteral("headers")).toObject();
+    web.serve("/first", {{u"redirect"_s, u"/page"_s},
+                            {u"headers"_s, QVariantMap{{u"Set-Cookie"_s, u"who=you"_s}}}});
+    web.serve("/page", {{u"echo"_s, true}});
+    const QJsonObject sent = echo(WebServer::secure("/first")).value(u"headers"_s).toObject();
     EXPECT_FALSE(sent.isEmpty());
-    EXPECT_FALSE(sent.contains(QStringLiteral("Cookie")));
+    EXPECT_FALSE(sent.contains(u"Cookie"_s));
 }
 
 TEST_F(Request, NobodyIsAskedForAPassword)
 {
-    web.serve(
-        "/page", {{QStringLiteral("status"), 401}, {QStringLiteral("body"), QStringLiteral("who?")},
-                     {QStringLiteral("headers"), QVariantMap{{QStringLiteral("WWW-Authenticate"),
-                                                     QStringLiteral("Basic realm=\"page\"")}}}});
+    web.serve("/page",
+        {{u"status"_s, 401}, {u"body"_s, u"who?"_s},
+            {u"headers"_s, QVariantMap{{u"WWW-Authenticate"_s, u"Basic realm=\"page\""_s}}}});
     QUrl url = WebServer::secure("/page");
     EXPECT_EQ(outcome(get(url)), "401 who?");
     // Not even one that stands in the address is given away.
-    url.setUserInfo(QStringLiteral("somebody:secret"));
+    url.setUserInfo(u"somebody:secret"_s);
     EXPECT_EQ(outcome(get(url)), "401 who?");
     for (const QJsonObject &entry : web.log()) {
-        EXPECT_FALSE(entry.value(QStringLiteral("headers"))
-                         .toObject()
-                         .contains(QStringLiteral("Authorization")));
+        EXPECT_FALSE(entry.value(u"headers"_s).toObject().contains(u"Authorization"_s));
     }
 }
 
 TEST_F(Request, ABodyOfExactlyTheLimitIsTakenAndOneMoreByteIsNot)
 {
     for (const char *framing : {"length", "chunked", "close"}) {
-        web.serve("/page", {{QStringLiteral("body"), QStringLiteral("0123456789")},
-                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        web.serve(
+            "/page", {{u"body"_s, u"0123456789"_s}, {u"framing"_s, QString::fromLatin1(framing)}});
         EXPECT_EQ(outcome(get(WebServer::secure("/page"), 10)), "200 0123456789") << framing;
         EXPECT_EQ(outcome(get(WebServer::secure("/page"), 9)), systemFailure(EFBIG)) << framing;
     }
@@ -128,12 +117,12 @@ TEST_F(Request, ABodyWithoutEndIsGivenUpAtTheLimit)
 {
     const qint64 before = peakMemory();
     for (const char *framing : {"chunked", "close"}) {
-        web.serve("/page", {{QStringLiteral("size"), QStringLiteral("endless")},
-                               {QStringLiteral("framing"), QString::fromLatin1(framing)}});
+        web.serve(
+            "/page", {{u"size"_s, u"endless"_s}, {u"framing"_s, QString::fromLatin1(framing)}});
         EXPECT_EQ(outcome(get(WebServer::secure("/page"))), systemFailure(EFBIG));
     }
     // Announced as short enough, and not kept to.
-    web.serve("/page", {{QStringLiteral("size"), 1 << 24}, {QStringLiteral("length"), 10}});
+    web.serve("/page", {{u"size"_s, 1 << 24}, {u"length"_s, 10}});
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 ##########");
     EXPECT_LT(peakMemory() - before, muchMemory);
 }
@@ -141,49 +130,46 @@ TEST_F(Request, ABodyWithoutEndIsGivenUpAtTheLimit)
 TEST_F(Request, AHugeAnnouncedBodyIsGivenUpBeforeItComes)
 {
     web.serve("/page",
-        {{QStringLiteral("body"), QStringLiteral("0")}, {QStringLiteral("length"), 1e15},
-            {QStringLiteral("cut"), 1}, {QStringLiteral("then"), QStringLiteral("stall")}});
+        {{u"body"_s, u"0"_s}, {u"length"_s, 1e15}, {u"cut"_s, 1}, {u"then"_s, u"stall"_s}});
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), systemFailure(EFBIG));
 }
 
 TEST_F(Request, APackedBodyIsRefusedHoweverSmallItIs)
 {
     const qint64 before = peakMemory();
-    web.serve("/page", {{QStringLiteral("gzip"), 500'000'000}});
+    web.serve("/page", {{u"gzip"_s, 500'000'000}});
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), failure(QNetworkReply::ProtocolFailure));
     EXPECT_LT(peakMemory() - before, muchMemory);
 }
 
 TEST_F(Request, RedirectsAreFollowedWhereTheyLeadToNoLessSafety)
 {
-    web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
-    web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("/page")}});
+    web.serve("/page", {{u"body"_s, u"here"_s}});
+    web.serve("/away", {{u"redirect"_s, u"/page"_s}});
     EXPECT_EQ(outcome(get(WebServer::secure("/away"))), "200 here");
     EXPECT_EQ(outcome(get(WebServer::plain("/away"))), "200 here");
-    web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("https://localhost/page")}});
+    web.serve("/away", {{u"redirect"_s, u"https://localhost/page"_s}});
     EXPECT_EQ(outcome(get(WebServer::secure("/away"))), "200 here");
     EXPECT_EQ(outcome(get(WebServer::plain("/away"))), "200 here");
     for (const int status : {301, 302, 303, 307, 308}) {
-        web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("/page")},
-                               {QStringLiteral("status"), status}});
+        web.serve("/away", {{u"redirect"_s, u"/page"_s}, {u"status"_s, status}});
         EXPECT_EQ(outcome(get(WebServer::secure("/away"))), "200 here") << status;
     }
-    EXPECT_TRUE(web.log().last().value(QStringLiteral("secure")).toBool());
+    EXPECT_TRUE(web.log().last().value(u"secure"_s).toBool());
 }
 
 TEST_F(Request, ARedirectToLessSafetyIsNotFollowed)
 {
-    web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
-    web.serve("/away", {{QStringLiteral("redirect"), QStringLiteral("http://trusted.test/page")}});
+    web.serve("/page", {{u"body"_s, u"here"_s}});
+    web.serve("/away", {{u"redirect"_s, u"http://trusted.test/page"_s}});
     EXPECT_EQ(
         outcome(get(WebServer::secure("/away"))), failure(QNetworkReply::InsecureRedirectError));
     // Nor over a detour.
-    web.serve(
-        "/detour", {{QStringLiteral("redirect"), QStringLiteral("https://trusted.test/away")}});
+    web.serve("/detour", {{u"redirect"_s, u"https://trusted.test/away"_s}});
     EXPECT_EQ(
         outcome(get(WebServer::plain("/detour"))), failure(QNetworkReply::InsecureRedirectError));
     for (const QJsonObject &entry : web.log()) {
-        EXPECT_NE(entry.value(QStringLiteral("path")).toString(), QStringLiteral("/page"));
+        EXPECT_NE(entry.value(u"path"_s).toString(), u"/page"_s);
     }
 }
 
@@ -191,7 +177,7 @@ TEST_F(Request, ARedirectToAFileIsNotFollowed)
 {
     for (const char *address : {"file:///etc/passwd", "data:text/plain,here", "qrc:/Defaults.plist",
              "ftp://trusted.test/"}) {
-        web.serve("/away", {{QStringLiteral("redirect"), QString::fromLatin1(address)}});
+        web.serve("/away", {{u"redirect"_s, QString::fromLatin1(address)}});
         EXPECT_EQ(
             outcome(get(WebServer::secure("/away"))), failure(QNetworkReply::ProtocolUnknownError))
             << address;
@@ -200,8 +186,8 @@ TEST_F(Request, ARedirectToAFileIsNotFollowed)
 
 TEST_F(Request, RedirectsInACircleAreGivenUp)
 {
-    web.serve("/left", {{QStringLiteral("redirect"), QStringLiteral("/right")}});
-    web.serve("/right", {{QStringLiteral("redirect"), QStringLiteral("/left")}});
+    web.serve("/left", {{u"redirect"_s, u"/right"_s}});
+    web.serve("/right", {{u"redirect"_s, u"/left"_s}});
     EXPECT_EQ(
         outcome(get(WebServer::secure("/left"))), failure(QNetworkReply::TooManyRedirectsError));
     EXPECT_EQ(web.log().size(), 11);
@@ -224,8 +210,7 @@ TEST_F(Request, ManyRunSideBySide)
     int answered = 0;
     for (int i = 0; i < 20; ++i) {
         const QByteArray page = "/page" + QByteArray::number(i);
-        web.serve(page.constData(),
-            {{QStringLiteral("body"), QString::fromLatin1(page)}, {QStringLiteral("delay"), 0.2}});
+        web.serve(page.constData(), {{u"body"_s, QString::fromLatin1(page)}, {u"delay"_s, 0.2}});
         client->get(
             WebServer::secure(page.constData()), 100, [&answered, page](const Answer &answer) {
                 EXPECT_EQ(outcome(answer), "200 " + page.toStdString());

@@ -3,6 +3,8 @@
 #include "integration/platform/qt/web/HttpTest.h"
 
 namespace quillon::test {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 using ::testing::HasSubstr;
@@ -14,13 +16,13 @@ protected:
     /// What the log would say; the server must not have seen the request.
     std::string refusal(const char *host)
     {
-        web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
+        web.serve("/page", {{u"body"_s, u"here"_s}});
         const Answer answer = get(WebServer::secure("/page", host));
         if (answer) {
             return outcome(answer);
         }
         for (const QJsonObject &entry : web.log()) {
-            EXPECT_FALSE(entry.contains(QStringLiteral("path"))) << "the request was sent";
+            EXPECT_FALSE(entry.contains(u"path"_s)) << "the request was sent";
         }
         EXPECT_EQ(outcome(answer), failure(QNetworkReply::SslHandshakeFailedError));
         return answer.error().message.toStdString();
@@ -29,7 +31,7 @@ protected:
 
 TEST_F(Trust, AServerForWhomTheSystemsAuthoritySignsIsBelieved)
 {
-    web.serve("/page", {{QStringLiteral("body"), QStringLiteral("here")}});
+    web.serve("/page", {{u"body"_s, u"here"_s}});
     EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "200 here");
 }
 
@@ -50,15 +52,14 @@ TEST_F(Trust, AnUnknownAuthorityIsNot)
 
 TEST_F(Trust, AServerThatIsReachedByARedirectMustBeTrustedToo)
 {
-    web.serve(
-        "/away", {{QStringLiteral("redirect"), QStringLiteral("https://untrusted.test/page")}});
+    web.serve("/away", {{u"redirect"_s, u"https://untrusted.test/page"_s}});
     EXPECT_EQ(
         outcome(get(WebServer::secure("/away"))), failure(QNetworkReply::SslHandshakeFailedError));
 }
 
 TEST_F(Trust, AServerWithoutEncryptionWhereItShouldBeIsAFailedTransfer)
 {
-    const Answer answer = get(QUrl(QStringLiteral("https://trusted.test:80/page")));
+    const Answer answer = get(QUrl(u"https://trusted.test:80/page"_s));
     ASSERT_FALSE(answer);
     EXPECT_EQ(answer.error().domain, httpErrorDomain);
     EXPECT_FALSE(answer.error().message.isEmpty());

@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DesktopSystemSettingsTest : public ::testing::Test
@@ -51,7 +53,7 @@ protected:
     }};
 };
 
-const QStringList gnomeLocation{QStringLiteral("gnome-control-center"), QStringLiteral("location")};
+const QStringList gnomeLocation{u"gnome-control-center"_s, u"location"_s};
 
 } // namespace
 
@@ -65,9 +67,8 @@ TEST_F(DesktopSystemSettingsTest, OpenAtThePageForLocation)
     EXPECT_EQ(opened("GNOME-Classic:GNOME"), gnomeLocation);
     EXPECT_EQ(opened("Unity:Unity7:ubuntu"), gnomeLocation);
     EXPECT_EQ(opened("gnome"), gnomeLocation);
-    EXPECT_EQ(opened("Budgie:GNOME"),
-        (QStringList{QStringLiteral("budgie-control-center"), QStringLiteral("location")}));
-    EXPECT_EQ(opened("KDE"), QStringList{QStringLiteral("systemsettings")});
+    EXPECT_EQ(opened("Budgie:GNOME"), (QStringList{u"budgie-control-center"_s, u"location"_s}));
+    EXPECT_EQ(opened("KDE"), QStringList{u"systemsettings"_s});
 }
 
 TEST_F(DesktopSystemSettingsTest, ANameFurtherOffServesWhereTheNearestHasNoProgram)

@@ -15,6 +15,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray octets = QByteArray::fromHex("0200c0a8010a");
@@ -68,9 +70,9 @@ TEST(LinkMessages, TellsEverythingOfALink)
     const LinkInfo &link = messages.links.first();
     EXPECT_EQ(link.index, 3);
     EXPECT_EQ(link.type, ARPHRD_ETHER);
-    EXPECT_EQ(link.name, QStringLiteral("enp3s0"));
-    EXPECT_EQ(link.address, QStringLiteral("02:00:c0:a8:01:0a"));
-    EXPECT_EQ(link.permanentAddress, QStringLiteral("00:16:3e:00:00:01"));
+    EXPECT_EQ(link.name, u"enp3s0"_s);
+    EXPECT_EQ(link.address, u"02:00:c0:a8:01:0a"_s);
+    EXPECT_EQ(link.permanentAddress, u"00:16:3e:00:00:01"_s);
     EXPECT_EQ(link.operationalState, IF_OPER_UP);
     EXPECT_EQ(link.kind, "veth");
     EXPECT_EQ(link.parentBus, "pci");
@@ -83,8 +85,8 @@ TEST(LinkMessages, KeepsTheKernelsOrder)
     bytes.message(RTM_NEWLINK, ethernet(2)).text(IFLA_IFNAME, "eth2");
     const LinkMessages messages = read(bytes);
     ASSERT_EQ(messages.links.size(), 2);
-    EXPECT_EQ(messages.links[0].name, QStringLiteral("eth9"));
-    EXPECT_EQ(messages.links[1].name, QStringLiteral("eth2"));
+    EXPECT_EQ(messages.links[0].name, u"eth9"_s);
+    EXPECT_EQ(messages.links[1].name, u"eth2"_s);
 }
 
 TEST(LinkMessages, OurOwnAddressNotTheFarEnds)
@@ -97,8 +99,7 @@ TEST(LinkMessages, OurOwnAddressNotTheFarEnds)
         .attribute(IFA_LOCAL, ours);
     bytes.message(RTM_NEWADDR, address(5)).attribute(IFA_ADDRESS, ours);
 
-    const QList<AddressInfo> expected{
-        {4, QStringLiteral("10.0.0.2")}, {5, QStringLiteral("10.0.0.2")}};
+    const QList<AddressInfo> expected{{4, u"10.0.0.2"_s}, {5, u"10.0.0.2"_s}};
     EXPECT_EQ(read(bytes).addresses, expected);
 }
 
@@ -130,7 +131,7 @@ TEST(LinkMessages, MalformedLinksAreLeftOutAndTheOthersStay)
 
     const LinkMessages messages = read(bytes);
     ASSERT_EQ(messages.links.size(), 1);
-    EXPECT_EQ(messages.links.first().name, QStringLiteral("eth7"));
+    EXPECT_EQ(messages.links.first().name, u"eth7"_s);
 }
 
 TEST(LinkMessages, AMessageLongerThanItsDatagramIsNotRead)
@@ -211,7 +212,7 @@ TEST(LinkMessagesAddress, OnlySixOctetsAreAnAddress)
 {
     const std::array<unsigned char, 20> some{0xab, 0xcd, 0xef, 0x01, 0x23, 0x45};
     const ByteSpan bytes = std::as_bytes(std::span(some));
-    EXPECT_EQ(addressText(bytes.first(6)), QStringLiteral("ab:cd:ef:01:23:45"));
+    EXPECT_EQ(addressText(bytes.first(6)), u"ab:cd:ef:01:23:45"_s);
     EXPECT_EQ(addressText({}), QString());
     EXPECT_EQ(addressText(bytes), QString());
 }

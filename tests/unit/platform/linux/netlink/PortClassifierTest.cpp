@@ -9,6 +9,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 LinkInfo link(const char *name, const char *kind = "", const char *bus = "")
@@ -60,7 +62,7 @@ TEST(PortClassifier, HardwareIsNamedByItsTypeAndBus)
 TEST(PortClassifier, BridgesThatAPersonMade)
 {
     for (const char *name : {"br0", "bridge0", "lan", "vmbr0", "br-lan", "br-0123456789abc"}) {
-        EXPECT_EQ(portName(link(name, "bridge"), {}), QStringLiteral("Bridge")) << name;
+        EXPECT_EQ(portName(link(name, "bridge"), {}), u"Bridge"_s) << name;
     }
     for (const char *name : {"docker0", "docker_gwbridge", "br-0123456789ab", "virbr0", "lxcbr0",
              "lxdbr0", "incusbr0", "cni0", "cni-podman0", "podman1", "waydroid0", "mpqemubr0"}) {
@@ -71,7 +73,7 @@ TEST(PortClassifier, BridgesThatAPersonMade)
 TEST(PortClassifier, AContainersUplinkButNotItsHostsEnd)
 {
     for (const char *name : {"eth0", "enp1s0", "ens3", "enx0050b6000001"}) {
-        EXPECT_EQ(portName(link(name, "veth"), {}), QStringLiteral("Ethernet")) << name;
+        EXPECT_EQ(portName(link(name, "veth"), {}), u"Ethernet"_s) << name;
     }
     for (const char *name : {"veth12ab", "vethweepl", "cali01", "lxc0a", "vnet0", "host0"}) {
         EXPECT_EQ(portName(link(name, "veth"), {}), QString()) << name;
@@ -110,7 +112,7 @@ TEST(PortClassifierHardware, ReadFromTheUeventOfThatInterface)
     const QByteArray uevent = "DEVTYPE=wlan\nINTERFACE=wlp2s0\nIFINDEX=2\n";
     const auto facts = hardwareInfoFromUevent(uevent, 2);
     ASSERT_TRUE(facts);
-    EXPECT_EQ(facts->deviceType, QStringLiteral("wlan"));
+    EXPECT_EQ(facts->deviceType, u"wlan"_s);
     EXPECT_EQ(hardwareInfoFromUevent("INTERFACE=eth0\nIFINDEX=2\n", 2)->deviceType, QString());
 }
 

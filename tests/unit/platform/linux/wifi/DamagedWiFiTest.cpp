@@ -14,6 +14,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One answer of a capture, to be damaged.
@@ -151,13 +153,13 @@ TEST(DamagedWiFi, AnyBitMayBeWrong)
     }
     EXPECT_EQ(effect.implausible, 0);
     EXPECT_GT(effect.harmed, 1'000);
-    EXPECT_GT(effect.unharmed, 1'000) << "in the neighbours, for example";
+    EXPECT_GT(effect.unharmed, 1'000) << "in the neighbors, for example";
 }
 
 TEST(DamagedWiFi, AnyOctetMayBeAnEdge)
 {
     Effect effect;
-    const std::vector<Recorded> answers = recorded(QStringLiteral("enterprise.nl80211"));
+    const std::vector<Recorded> answers = recorded(u"enterprise.nl80211"_s);
     const auto whole = wholeReading(answers);
     DamagedKernel kernel(answers);
     for (std::size_t i = 0; i < answers.size(); ++i) {

@@ -35,11 +35,11 @@ inline QByteArray littleEndian(int number)
     return bytes;
 }
 
-inline QByteArray suiteList(const QByteArray &organisation, const QList<int> &types)
+inline QByteArray suiteList(const QByteArray &organization, const QList<int> &types)
 {
     QByteArray bytes = littleEndian(static_cast<int>(types.size()));
     for (const int type : types) {
-        bytes += organisation + static_cast<char>(type);
+        bytes += organization + static_cast<char>(type);
     }
     return bytes;
 }
@@ -55,9 +55,9 @@ struct Rsn
 
     QByteArray content() const
     {
-        const QByteArray organisation = QByteArray::fromHex("000fac");
-        return littleEndian(version) + organisation + static_cast<char>(groupCipher) +
-               suiteList(organisation, ciphers) + suiteList(organisation, keys) +
+        const QByteArray organization = QByteArray::fromHex("000fac");
+        return littleEndian(version) + organization + static_cast<char>(groupCipher) +
+               suiteList(organization, ciphers) + suiteList(organization, keys) +
                littleEndian(capabilities);
     }
     QByteArray bytes() const { return element(48, content()); }
@@ -66,9 +66,9 @@ struct Rsn
 /// The vendor element of WPA, with TKIP for all by default.
 inline QByteArray wpaElement(const QList<int> &keys, const QList<int> &ciphers = {2})
 {
-    const QByteArray organisation = QByteArray::fromHex("0050f2");
-    return element(221, organisation + '\1' + littleEndian(1) + organisation + '\2' +
-                            suiteList(organisation, ciphers) + suiteList(organisation, keys));
+    const QByteArray organization = QByteArray::fromHex("0050f2");
+    return element(221, organization + '\1' + littleEndian(1) + organization + '\2' +
+                            suiteList(organization, ciphers) + suiteList(organization, keys));
 }
 
 } // namespace quillon::test

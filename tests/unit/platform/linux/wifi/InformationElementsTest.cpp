@@ -8,6 +8,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 InformationElements read(const QByteArray &bytes)
@@ -110,14 +112,14 @@ TEST(InformationElements, VendorElementsThatAreTooShortOrForeignSayNothing)
 
 TEST(InformationElementsNetworkName, IsUtf8WhereItIsUtf8AndLatin1ElseAndNeverEmptyForOctets)
 {
-    EXPECT_EQ(networkName("Zukunft \xc3\xbc"), QStringLiteral("Zukunft ü"));
+    EXPECT_EQ(networkName("Zukunft \xc3\xbc"), u"Zukunft ü"_s);
     EXPECT_EQ(networkName("\xf0\x9f\x8f\xa0 home"), QString::fromUtf8("\xf0\x9f\x8f\xa0 home"));
     EXPECT_EQ(networkName("caf\xe9"), QString::fromUtf8("caf\xc3\xa9"));
     EXPECT_EQ(networkName("cut \xc3"), QString::fromUtf8("cut \xc3\x83"));
     EXPECT_EQ(networkName("\xff\xfe"), QString::fromUtf8("\xc3\xbf\xc3\xbe"))
         << "no byte order mark";
     EXPECT_EQ(networkName("\xef\xbb\xbf"), QString(QChar(QChar::ByteOrderMark)));
-    EXPECT_EQ(networkName(" padded "), QStringLiteral(" padded "));
+    EXPECT_EQ(networkName(" padded "), u" padded "_s);
 }
 
 TEST(InformationElementsNetworkName, ControlCharactersBecomeVisible)

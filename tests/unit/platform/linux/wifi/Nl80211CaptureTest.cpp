@@ -10,6 +10,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Table = Nl80211Request::Table;
@@ -28,7 +30,7 @@ TEST(Nl80211Capture, AnswersTheRequestsThatWereRecorded)
 {
     auto capture = Nl80211Capture::fromText(captureText());
     ASSERT_TRUE(capture);
-    EXPECT_EQ(capture->ask({Table::RegulatoryDomain, 2}).countryCode, QStringLiteral("UZ"));
+    EXPECT_EQ(capture->ask({Table::RegulatoryDomain, 2}).countryCode, u"UZ"_s);
     EXPECT_EQ(capture->ask({Table::RegulatoryDomain, 1}).error, ENODATA);
     EXPECT_EQ(capture->ask({Table::Interfaces, 0}).error, ENODATA);
 }
@@ -42,7 +44,7 @@ TEST(Nl80211Capture, WhatIsWrittenIsReadAgain)
     auto read = Nl80211Capture::fromText(written.text());
     ASSERT_TRUE(read);
     EXPECT_EQ(read->text(), written.text());
-    EXPECT_EQ(read->ask({Table::RegulatoryDomain, 2}).countryCode, QStringLiteral("UZ"));
+    EXPECT_EQ(read->ask({Table::RegulatoryDomain, 2}).countryCode, u"UZ"_s);
 }
 
 TEST(Nl80211Capture, OtherTextIsNoCapture)

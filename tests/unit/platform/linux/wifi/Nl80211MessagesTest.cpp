@@ -9,6 +9,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QByteArray bssid = QByteArray::fromHex("021122AABBC0");
@@ -63,7 +65,7 @@ TEST(Nl80211Messages, TellsEverythingOfAnInterface)
     const StationInterface &found = messages.interfaces.first();
     EXPECT_EQ(found.index, 3U);
     EXPECT_EQ(found.radio, 1U);
-    EXPECT_EQ(found.name, QStringLiteral("wlp2s0"));
+    EXPECT_EQ(found.name, u"wlp2s0"_s);
     EXPECT_EQ(found.ssid, "Quiet House");
     EXPECT_EQ(found.frequency, 5180U);
     EXPECT_EQ(found.width, 80);
@@ -134,8 +136,8 @@ TEST(Nl80211Messages, TellsEverythingOfTheJoinedNetwork)
     const Nl80211Messages messages = read(network(bss));
     ASSERT_EQ(messages.networks.size(), 1);
     const JoinedNetwork &found = messages.networks.first();
-    EXPECT_EQ(found.bssid, QStringLiteral("02:11:22:aa:bb:c0"));
-    EXPECT_EQ(found.linkDevice, QStringLiteral("02:11:22:aa:bb:ff"));
+    EXPECT_EQ(found.bssid, u"02:11:22:aa:bb:c0"_s);
+    EXPECT_EQ(found.linkDevice, u"02:11:22:aa:bb:ff"_s);
     EXPECT_EQ(found.frequency, 2484U);
     EXPECT_EQ(found.privacy, true);
     EXPECT_EQ(found.signal, -61);
@@ -233,8 +235,8 @@ TEST(Nl80211Messages, CountriesAreTwoLetters)
         return read(wireless(NL80211_CMD_GET_REG, {{NL80211_ATTR_REG_ALPHA2, code}}, 0))
             .countryCode;
     };
-    EXPECT_EQ(country(QByteArray("UZ\0", 3)), QStringLiteral("UZ"));
-    EXPECT_EQ(country("UZ"), QStringLiteral("UZ")) << "without its zero";
+    EXPECT_EQ(country(QByteArray("UZ\0", 3)), u"UZ"_s);
+    EXPECT_EQ(country("UZ"), u"UZ"_s) << "without its zero";
     for (const char *none : {"00", "99", "98", "", "U", "USA", "us", "\xff\xff"}) {
         EXPECT_EQ(country(none), QString()) << none;
     }
@@ -249,7 +251,7 @@ TEST(Nl80211Messages, OtherFamiliesAndCommandsAreNotOurs)
     addWireless(bytes, NL80211_CMD_NEW_KEY, {{NL80211_ATTR_REG_ALPHA2, country}});
     EXPECT_EQ(read(bytes).countryCode, QString());
     addWireless(bytes, NL80211_CMD_GET_REG, {{NL80211_ATTR_REG_ALPHA2, country}});
-    EXPECT_EQ(read(bytes).countryCode, QStringLiteral("UZ"));
+    EXPECT_EQ(read(bytes).countryCode, u"UZ"_s);
 }
 
 TEST(Nl80211Messages, LyingLengthsEndTheReading)

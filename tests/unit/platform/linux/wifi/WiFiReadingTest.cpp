@@ -11,6 +11,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Table = Nl80211Request::Table;
@@ -50,12 +52,12 @@ Answers joined()
     StationInterface interface;
     interface.index = 3;
     interface.radio = 7;
-    interface.name = QStringLiteral("wlp2s0");
+    interface.name = u"wlp2s0"_s;
     interface.ssid = "Quiet House";
     interface.frequency = 5180;
     interface.width = 80;
     JoinedNetwork network;
-    network.bssid = QStringLiteral("02:11:22:aa:bb:c0");
+    network.bssid = u"02:11:22:aa:bb:c0"_s;
     network.frequency = 5180;
     network.privacy = false;
     network.signal = -70;
@@ -79,15 +81,15 @@ int mode(Answers kernel)
 TEST(WiFiReading, Wpa2At80MHzOnChannel36)
 {
     WiFiInterface expected;
-    expected.device = QStringLiteral("wlp2s0");
-    expected.ssid = QStringLiteral("Quiet House");
-    expected.bssid = QStringLiteral("02:11:22:aa:bb:c0");
+    expected.device = u"wlp2s0"_s;
+    expected.ssid = u"Quiet House"_s;
+    expected.bssid = u"02:11:22:aa:bb:c0"_s;
     expected.noise = -92;
     expected.rssi = -52;
     expected.security = WiFiInterface::WPA2Personal;
     expected.transmitRate = 866.7;
     expected.channel = {.number = 36, .band = 2, .width = 3};
-    expected.countryCode = QStringLiteral("UZ");
+    expected.countryCode = u"UZ"_s;
     expected.activePHYMode = 5;
     expected.mcsIndex = 9;
     EXPECT_EQ(reading("wpa2-psk"), expected);
@@ -97,11 +99,11 @@ TEST(WiFiReading, Wpa2At80MHzOnChannel36)
 TEST(WiFiReading, RecordedFromAKernel)
 {
     WiFiInterface expected;
-    expected.device = QStringLiteral("wlan0");
-    expected.countryCode = QStringLiteral("DE");
+    expected.device = u"wlan0"_s;
+    expected.countryCode = u"DE"_s;
     EXPECT_EQ(reading("recorded-idle"), expected);
-    expected.ssid = QStringLiteral("Quiet House");
-    expected.bssid = QStringLiteral("02:00:00:00:01:00");
+    expected.ssid = u"Quiet House"_s;
+    expected.bssid = u"02:00:00:00:01:00"_s;
     expected.noise = -92;
     expected.rssi = -27;
     expected.security = WiFiInterface::WPA2Personal;
@@ -110,11 +112,11 @@ TEST(WiFiReading, RecordedFromAKernel)
     expected.activePHYMode = 5;
     expected.mcsIndex = 0;
     EXPECT_EQ(reading("recorded-wpa2-psk"), expected);
-    expected.ssid = QStringLiteral("Zukunft");
+    expected.ssid = u"Zukunft"_s;
     expected.security = WiFiInterface::WPA3Personal;
     expected.transmitRate = 13.5;
     EXPECT_EQ(reading("recorded-wpa3-sae"), expected);
-    expected.ssid = QStringLiteral("Cafe");
+    expected.ssid = u"Cafe"_s;
     expected.rssi = -30;
     expected.security = WiFiInterface::None;
     expected.transmitRate = 26;
@@ -122,7 +124,7 @@ TEST(WiFiReading, RecordedFromAKernel)
     expected.activePHYMode = 4;
     expected.mcsIndex = 9;
     EXPECT_EQ(reading("recorded-open"), expected);
-    expected.ssid = QStringLiteral("Behind the curtain");
+    expected.ssid = u"Behind the curtain"_s;
     expected.security = WiFiInterface::WPAPersonalMixed;
     expected.channel.number = 6;
     EXPECT_EQ(reading("recorded-hidden"), expected);
@@ -131,7 +133,7 @@ TEST(WiFiReading, RecordedFromAKernel)
 TEST(WiFiReading, OpenOn2GHz)
 {
     const auto wifi = reading("open");
-    EXPECT_EQ(wifi->ssid, QStringLiteral("Cafe"));
+    EXPECT_EQ(wifi->ssid, u"Cafe"_s);
     EXPECT_EQ(wifi->security, WiFiInterface::None);
     EXPECT_EQ(wifi->channel, (WiFiInterface::Channel{.number = 6, .band = 1, .width = 1}));
     EXPECT_EQ(wifi->activePHYMode, 4);
@@ -142,7 +144,7 @@ TEST(WiFiReading, OpenOn2GHz)
 TEST(WiFiReading, Wpa3At160MHz)
 {
     const auto wifi = reading("wpa3-sae");
-    EXPECT_EQ(wifi->ssid, QStringLiteral("Zukunft ü"));
+    EXPECT_EQ(wifi->ssid, u"Zukunft ü"_s);
     EXPECT_EQ(wifi->security, WiFiInterface::WPA3Personal);
     EXPECT_EQ(wifi->channel, (WiFiInterface::Channel{.number = 100, .band = 2, .width = 4}));
     EXPECT_EQ(wifi->activePHYMode, 6);
@@ -171,12 +173,12 @@ TEST(WiFiReading, OldModes)
 
 TEST(WiFiReading, AHiddenNetworkHasTheNameThatWasAskedFor)
 {
-    EXPECT_EQ(reading("hidden")->ssid, QStringLiteral("Behind the curtain"));
+    EXPECT_EQ(reading("hidden")->ssid, u"Behind the curtain"_s);
     Answers kernel = joined();
     kernel.answer.interfaces.first().ssid.clear();
     kernel.answer.networks.first().elements.ssid = QByteArray(9, '\0');
     EXPECT_EQ(readWiFi(kernel)->ssid, QString());
-    EXPECT_EQ(readWiFi(kernel)->bssid, QStringLiteral("02:11:22:aa:bb:c0"));
+    EXPECT_EQ(readWiFi(kernel)->bssid, u"02:11:22:aa:bb:c0"_s);
 }
 
 TEST(WiFiReading, SixGHzAt320MHzHasAWidthThatTheTableDoesNotKnow)
@@ -190,7 +192,7 @@ TEST(WiFiReading, SixGHzAt320MHzHasAWidthThatTheTableDoesNotKnow)
 TEST(WiFiReading, AnInterfaceThatTellsLittleIsReadFromNetworkAndRates)
 {
     const auto wifi = reading("mixed");
-    EXPECT_EQ(wifi->ssid, QStringLiteral("Both"));
+    EXPECT_EQ(wifi->ssid, u"Both"_s);
     EXPECT_EQ(wifi->channel, (WiFiInterface::Channel{.number = 11, .band = 1, .width = 2}));
     EXPECT_EQ(wifi->noise, -92);
     EXPECT_EQ(wifi->activePHYMode, 4) << "frames are received at a newer rate than they are sent";
@@ -200,8 +202,8 @@ TEST(WiFiReading, AnInterfaceThatTellsLittleIsReadFromNetworkAndRates)
 TEST(WiFiReading, TheFirstInterfaceCountsEvenIfAnotherHasJoined)
 {
     WiFiInterface expected;
-    expected.device = QStringLiteral("wlp2s0");
-    expected.countryCode = QStringLiteral("UZ");
+    expected.device = u"wlp2s0"_s;
+    expected.countryCode = u"UZ"_s;
     EXPECT_EQ(reading("not-joined"), expected);
 }
 
@@ -243,9 +245,9 @@ TEST(WiFiReading, AsksForTheInterfaceAndItsRadio)
 TEST(WiFiReading, TheStationIsTheNetworksOrItsDevices)
 {
     Answers kernel = joined();
-    kernel.answer.stations.first().address = QStringLiteral("02:99:99:99:99:99");
-    EXPECT_EQ(readWiFi(kernel)->rssi, -70) << "a neighbour with a direct link";
-    kernel.answer.networks.first().linkDevice = QStringLiteral("02:99:99:99:99:99");
+    kernel.answer.stations.first().address = u"02:99:99:99:99:99"_s;
+    EXPECT_EQ(readWiFi(kernel)->rssi, -70) << "a neighbor with a direct link";
+    kernel.answer.networks.first().linkDevice = u"02:99:99:99:99:99"_s;
     EXPECT_EQ(readWiFi(kernel)->rssi, -52);
 }
 

@@ -128,7 +128,7 @@ TEST(WiFiSecurity, EncryptionWithoutAPassword)
         << "the open one of the pair protects nobody";
 }
 
-TEST(WiFiSecurity, SuitesOfOtherOrganisationsAreNotTakenForOurs)
+TEST(WiFiSecurity, SuitesOfOtherOrganizationsAreNotTakenForOurs)
 {
     const QByteArray foreign =
         QByteArray::fromHex("0100 000fac04 0100 000fac04 0100 aabbcc02 0000");

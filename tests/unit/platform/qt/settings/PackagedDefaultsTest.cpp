@@ -8,6 +8,8 @@
 #include <algorithm>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 class PackagedDefaults : public ::testing::Test
@@ -15,7 +17,7 @@ class PackagedDefaults : public ::testing::Test
 protected:
     void SetUp() override
     {
-        const Result<QVariantMap> read = readPropertyListFile(QStringLiteral(":/Defaults.plist"));
+        const Result<QVariantMap> read = readPropertyListFile(u":/Defaults.plist"_s);
         ASSERT_TRUE(read) << read.error().message.toStdString();
         defaults = read.value();
         ASSERT_FALSE(defaults.isEmpty());
@@ -68,16 +70,16 @@ TEST_F(PackagedDefaults, TheProgramCanBeSeenAndSpeaks)
     EXPECT_EQ(defaults.value(keys::showInMenu), QVariant(true));
     EXPECT_EQ(defaults.value(keys::hideDock), QVariant(false));
     EXPECT_EQ(defaults.value(keys::displayNotifications), QVariant(true));
-    EXPECT_EQ(defaults.value(keys::historySearchType), QVariant(QStringLiteral("all")));
+    EXPECT_EQ(defaults.value(keys::historySearchType), QVariant(u"all"_s));
     EXPECT_EQ(defaults.value(keys::defaultTimerMinutes), QVariant(30LL));
 }
 
 TEST(PackagedDefaultsMissing, AreAnErrorOfTheSystem)
 {
-    const auto resource = readPropertyListFile(QStringLiteral(":/Missing.plist"));
+    const auto resource = readPropertyListFile(u":/Missing.plist"_s);
     ASSERT_FALSE(resource);
     EXPECT_EQ(resource.error().domain, posixErrorDomain);
-    const auto file = readPropertyListFile(QStringLiteral("/nowhere/Missing.plist"));
+    const auto file = readPropertyListFile(u"/nowhere/Missing.plist"_s);
     ASSERT_FALSE(file);
     EXPECT_EQ(file.error().code, ENOENT);
 }

@@ -10,6 +10,8 @@
 #include <string>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 namespace {
 
 Result<QVariant> readBody(const QByteArray &body)
@@ -42,13 +44,13 @@ QByteArray madeByAnotherLibrary(const QVariantMap &values)
 QVariantMap plainValues()
 {
     QVariantMap values = test::everyKindOfValue();
-    values.remove(QStringLiteral("dates"));
-    values.insert(QStringLiteral("reals"), QVariantList{0.0, -0.5, 1024.25});
-    values.insert(QStringLiteral("strings"),
-        QVariantList{QStringLiteral("plain"), QString::fromUtf8("Caf\u00e9 \u6f22 \U0001F600"),
-            QString(200, u'x')});
-    values.insert(QStringLiteral("date"), QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC));
-    values.insert(QStringLiteral("before"), QDateTime(QDate(1975, 3, 1), QTime(12, 0, 1), Qt::UTC));
+    values.remove(u"dates"_s);
+    values.insert(u"reals"_s, QVariantList{0.0, -0.5, 1024.25});
+    values.insert(
+        u"strings"_s, QVariantList{u"plain"_s, QString::fromUtf8("Caf\u00e9 \u6f22 \U0001F600"),
+                          QString(200, u'x')});
+    values.insert(u"date"_s, QDateTime(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC));
+    values.insert(u"before"_s, QDateTime(QDate(1975, 3, 1), QTime(12, 0, 1), Qt::UTC));
     return values;
 }
 
@@ -71,11 +73,9 @@ TEST(XmlPropertyList, TheSameValuesGiveTheSameText)
 
 TEST(XmlPropertyList, AnotherLibraryReadsWhatIsWritten)
 {
-    const QByteArray text =
-        xmlPropertyList({{QStringLiteral("name"), QString::fromUtf8("Café <&>")},
-            {QStringLiteral("count"), 42}, {QStringLiteral("on"), true},
-            {QStringLiteral("size"), 0.5}, {QStringLiteral("data"), QByteArray("\0\1", 2)},
-            {QStringLiteral("date"), QDateTime(QDate(2001, 1, 2), QTime(0, 0), Qt::UTC)}});
+    const QByteArray text = xmlPropertyList({{u"name"_s, QString::fromUtf8("Café <&>")},
+        {u"count"_s, 42}, {u"on"_s, true}, {u"size"_s, 0.5}, {u"data"_s, QByteArray("\0\1", 2)},
+        {u"date"_s, QDateTime(QDate(2001, 1, 2), QTime(0, 0), Qt::UTC)}});
     plist_t root = nullptr;
     plist_from_xml(text.constData(), static_cast<uint32_t>(text.size()), &root);
     ASSERT_NE(root, nullptr);
@@ -122,11 +122,11 @@ TEST(XmlPropertyList, FormsOfOtherWritersAreRead)
                  "<key>f</key><true></true><key>a</key><integer>2</integer></dict>\n");
     ASSERT_TRUE(read) << read.error().message.toStdString();
     const QVariantMap map = read.value().toMap();
-    EXPECT_EQ(map.value(QStringLiteral("a")), QVariant(2LL)) << "the last of two equal keys counts";
-    EXPECT_EQ(map.value(QStringLiteral("b")), QVariant(7LL));
-    EXPECT_EQ(map.value(QStringLiteral("c")), QVariant(QByteArray("\0\1", 2)));
-    EXPECT_EQ(map.value(QStringLiteral("e")), QVariant(QStringLiteral("<b>")));
-    EXPECT_EQ(map.value(QStringLiteral("f")), QVariant(true));
+    EXPECT_EQ(map.value(u"a"_s), QVariant(2LL)) << "the last of two equal keys counts";
+    EXPECT_EQ(map.value(u"b"_s), QVariant(7LL));
+    EXPECT_EQ(map.value(u"c"_s), QVariant(QByteArray("\0\1", 2)));
+    EXPECT_EQ(map.value(u"e"_s), QVariant(u"<b>"_s));
+    EXPECT_EQ(map.value(u"f"_s), QVariant(true));
 }
 
 TEST(XmlPropertyList, NestingIsBounded)
@@ -166,8 +166,7 @@ TEST_P(XmlPropertyListDamaged, IsAnErrorAndNeverAnotherValue)
     const Result<QVariant> read = readBody(GetParam().body);
     ASSERT_FALSE(read);
     EXPECT_EQ(read.error().domain, propertyListErrorDomain);
-    EXPECT_TRUE(read.error().message.startsWith(QStringLiteral("line ")))
-        << read.error().message.toStdString();
+    EXPECT_TRUE(read.error().message.startsWith(u"line "_s)) << read.error().message.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Damages, XmlPropertyListDamaged,
@@ -198,8 +197,7 @@ TEST(XmlPropertyList, OtherXmlAndTruncatedTextAreErrors)
     EXPECT_FALSE(readXmlPropertyList("hello"));
     EXPECT_FALSE(readXmlPropertyList("<html/>"));
     EXPECT_FALSE(readXmlPropertyList("<plist><true/></plist>trailing"));
-    const QByteArray whole =
-        xmlPropertyList({{QStringLiteral("a"), QVariantList{1, QStringLiteral("b")}}}).trimmed();
+    const QByteArray whole = xmlPropertyList({{u"a"_s, QVariantList{1, u"b"_s}}}).trimmed();
     for (qsizetype length = 0; length < whole.size(); ++length) {
         EXPECT_FALSE(readXmlPropertyList(whole.left(length))) << length;
     }

@@ -60,10 +60,10 @@ struct RuleText
 
 /// A machine with a wired interface (en0, selected), a Wi-Fi interface (en1) and a bridge, the
 /// rules, and everything that rules act upon: the helper really changes the machine's addresses.
-class RuleMachine : public ::testing::Test
+class RuleFixture : public ::testing::Test
 {
 protected:
-    RuleMachine()
+    RuleFixture()
     {
         random.put(QByteArray::fromHex("3f0203040506"
                                        "3e0b0c0d0e0f"

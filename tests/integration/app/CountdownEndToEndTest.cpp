@@ -1,16 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A rule that changes an address again and again, and what may happen to its interface meanwhile.
-#include "integration/app/RoadTest.h"
+#include "integration/app/EndToEndTest.h"
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
-class CountdownRoadTest : public RoadTest
+class CountdownEndToEndTest : public EndToEndTest
 {
 protected:
-    static inline const QString startedTitle = QStringLiteral("Quillon Timer started");
+    static inline const QString startedTitle = u"Quillon Timer started"_s;
 
     /// The card is on a network, and its countdown of a minute runs.
     void startCountdown()
@@ -28,7 +30,7 @@ protected:
     QDateTime countdown() const
     {
         const QVariantMap timers = program->delegate().features().rules.timers.timers();
-        return timers.value(card).toMap().value(QStringLiteral("startDate")).toDateTime();
+        return timers.value(card).toMap().value(u"startDate"_s).toDateTime();
     }
 
     bool countdownHasEnded(const QDateTime &start)
@@ -56,7 +58,7 @@ protected:
     QMap<QString, QString> before;
 };
 
-TEST_F(CountdownRoadTest, TheAddressChangesAtZeroAndTheCountdownStartsAgain)
+TEST_F(CountdownEndToEndTest, TheAddressChangesAtZeroAndTheCountdownStartsAgain)
 {
     startCountdown();
     const QDateTime first = countdown();
@@ -80,47 +82,47 @@ TEST_F(CountdownRoadTest, TheAddressChangesAtZeroAndTheCountdownStartsAgain)
     ASSERT_EQ(program->helperLink.changes.size(), 2);
     EXPECT_EQ(program->messages(startedTitle).size(), 3);
     EXPECT_EQ(program->messages(changedTitle).size(), 2);
-    EXPECT_EQ(addressesSeen().size(), 3) << qPrintable(addressesSeen().join(QLatin1Char(' ')));
+    EXPECT_EQ(addressesSeen().size(), 3) << qPrintable(addressesSeen().join(u' '));
     expectOthersAsBefore();
 }
 
-TEST_F(CountdownRoadTest, APulledCableDoesNotStopIt)
+TEST_F(CountdownEndToEndTest, APulledCableDoesNotStopIt)
 {
     startCountdown();
     const QDateTime start = countdown();
     pullCable();
     settle();
-    EXPECT_EQ(status(), QStringLiteral("inactive"));
+    EXPECT_EQ(status(), u"inactive"_s);
     ASSERT_TRUE(changesAreRecorded(1));
     EXPECT_NE(countdown(), start);
     EXPECT_NE(kernelAddress(), factoryAddress);
     expectOthersAsBefore();
 }
 
-TEST_F(CountdownRoadTest, ARenamedInterfaceIsNotChangedUnderItsNewName)
+TEST_F(CountdownEndToEndTest, ARenamedInterfaceIsNotChangedUnderItsNewName)
 {
     startCountdown();
     administrator().run(
-        QStringLiteral("ip link set eth5 down; ip link set eth5 name eth6; ip link set eth6 up"));
+        u"ip link set eth5 down; ip link set eth5 name eth6; ip link set eth6 up"_s);
     settle();
-    EXPECT_TRUE(program->devices().contains(QStringLiteral("eth6")));
+    EXPECT_TRUE(program->devices().contains(u"eth6"_s));
     letPass(150s);
     EXPECT_TRUE(countdown().isValid()) << "the rule still holds, should the interface come back";
     ASSERT_GE(program->helperLink.changes.size(), 1);
     for (const auto &change : std::as_const(program->helperLink.changes)) {
         EXPECT_EQ(change.device, card);
     }
-    EXPECT_EQ(kernelAddresses().value(QStringLiteral("eth6")), factoryAddress);
+    EXPECT_EQ(kernelAddresses().value(u"eth6"_s), factoryAddress);
     EXPECT_TRUE(program->messages(changedTitle).isEmpty());
     EXPECT_TRUE(savedHistory(records).isEmpty());
     expectOthersAsBefore();
 }
 
-TEST_F(CountdownRoadTest, ARemovedInterfaceIsNotChangedAndNoOtherIs)
+TEST_F(CountdownEndToEndTest, ARemovedInterfaceIsNotChangedAndNoOtherIs)
 {
     startCountdown();
-    administrator().run(QStringLiteral("ip link del eth5"));
-    before.remove(QStringLiteral("far-eth5"));
+    administrator().run(u"ip link del eth5"_s);
+    before.remove(u"far-eth5"_s);
     settle();
     letPass(150s);
     EXPECT_TRUE(program->messages(changedTitle).isEmpty());
@@ -128,16 +130,15 @@ TEST_F(CountdownRoadTest, ARemovedInterfaceIsNotChangedAndNoOtherIs)
     expectOthersAsBefore();
 
     // A card of that name is plugged in: it is changed when the time has come.
-    administrator().run(QStringLiteral("ip link add eth5 address %1 type veth peer name far-eth5\n"
-                                       "ip link set far-eth5 up; ip link set eth5 up")
-                            .arg(factoryAddress));
+    administrator().run(u"ip link add eth5 address %1 type veth peer name far-eth5\n"
+                        "ip link set far-eth5 up; ip link set eth5 up"_s.arg(factoryAddress));
     giveLease(true);
     ASSERT_TRUE(changesAreRecorded(1));
     EXPECT_NE(kernelAddress(), factoryAddress);
     expectOthersAsBefore();
 }
 
-TEST_F(CountdownRoadTest, ItEndsWithTheProgram)
+TEST_F(CountdownEndToEndTest, ItEndsWithTheProgram)
 {
     startCountdown();
     program.reset();

@@ -50,10 +50,10 @@ public:
 
 /// Two interfaces whose rules say how long a countdown takes, and a helper that
 /// changes nothing, so that each asked for change is another one.
-class CountdownMachine : public ::testing::Test
+class CountdownFixture : public ::testing::Test
 {
 protected:
-    CountdownMachine()
+    CountdownFixture()
     {
         table.updateNetWorkInterfaces();
         ruleSays(en0, 2);

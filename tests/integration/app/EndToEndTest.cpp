@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "integration/app/RoadTest.h"
+#include "integration/app/EndToEndTest.h"
 
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
@@ -11,6 +11,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -20,25 +22,24 @@ constexpr auto firstCheck = 2s;
 
 } // namespace
 
-void RoadTest::SetUp()
+void EndToEndTest::SetUp()
 {
-    administrator().run(QStringLiteral("ip route del default 2>/dev/null || true\n"
-                                       "ip link add %1 address %2 type veth peer name far-%1\n"
-                                       "ip link set far-%1 addrgenmode none\n"
-                                       "ip link set %1 addrgenmode none\n"
-                                       "ip link set %1 up")
-                            .arg(card, factoryAddress));
+    administrator().run(u"ip route del default 2>/dev/null || true\n"
+                        "ip link add %1 address %2 type veth peer name far-%1\n"
+                        "ip link set far-%1 addrgenmode none\n"
+                        "ip link set %1 addrgenmode none\n"
+                        "ip link set %1 up"_s.arg(card, factoryAddress));
     watch = std::make_unique<AddressWatch>();
 }
 
-void RoadTest::TearDown()
+void EndToEndTest::TearDown()
 {
     program.reset();
     watch.reset();
-    administrator().run(QStringLiteral("ip link del far-%1 2>/dev/null || true").arg(card));
+    administrator().run(u"ip link del far-%1 2>/dev/null || true"_s.arg(card));
 }
 
-void RoadTest::startProgram(int speed)
+void EndToEndTest::startProgram(int speed)
 {
     program = std::make_unique<ComposedProgram>(folder.path(), speed);
     program->notifications.addObserver(
@@ -49,31 +50,30 @@ void RoadTest::startProgram(int speed)
     settle();
 }
 
-void RoadTest::plugCable()
+void EndToEndTest::plugCable()
 {
     // The kernel follows a cable a moment later.
     administrator().run(
-        QStringLiteral("ip link set far-%1 up\n"
-                       "until grep -q up /sys/class/net/%1/operstate; do sleep 0.005; done")
-            .arg(card));
+        u"ip link set far-%1 up\n"
+        "until grep -q up /sys/class/net/%1/operstate; do sleep 0.005; done"_s.arg(card));
 }
 
-void RoadTest::pullCable()
+void EndToEndTest::pullCable()
 {
-    administrator().run(QStringLiteral("ip link set far-%1 down").arg(card));
+    administrator().run(u"ip link set far-%1 down"_s.arg(card));
 }
 
-void RoadTest::giveLease(bool withDefaultRoute)
+void EndToEndTest::giveLease(bool withDefaultRoute)
 {
     // At once, as a network service does it.
-    QString batch = QStringLiteral("addr add 198.51.100.5/24 dev %1\n").arg(card);
+    QString batch = u"addr add 198.51.100.5/24 dev %1\n"_s.arg(card);
     if (withDefaultRoute) {
-        batch += QStringLiteral("route add default via 198.51.100.1 dev %1\n").arg(card);
+        batch += u"route add default via 198.51.100.1 dev %1\n"_s.arg(card);
     }
-    administrator().run(QStringLiteral("printf '%1' | ip -batch -").arg(batch));
+    administrator().run(u"printf '%1' | ip -batch -"_s.arg(batch));
 }
 
-void RoadTest::settle()
+void EndToEndTest::settle()
 {
     // Far longer than a burst of events may last.
     int before = -1;
@@ -83,34 +83,33 @@ void RoadTest::settle()
     }
 }
 
-void RoadTest::letPass(std::chrono::seconds time)
+void EndToEndTest::letPass(std::chrono::seconds time)
 {
     const QDateTime end = program->now().addSecs(time.count());
     ASSERT_TRUE(eventually([&] { return program->now() >= end; }, 60s));
 }
 
-QVariantMap RoadTest::ruleInForce() const
+QVariantMap EndToEndTest::ruleInForce() const
 {
     return program->record(card).value(record::rule).toMap();
 }
 
-qlonglong RoadTest::hasRule() const
+qlonglong EndToEndTest::hasRule() const
 {
     return program->record(card).value(record::hasRule).toLongLong();
 }
 
-QString RoadTest::status() const
+QString EndToEndTest::status() const
 {
     return program->record(card).value(record::status).toString();
 }
 
-QMap<QString, QString> RoadTest::kernelAddresses()
+QMap<QString, QString> EndToEndTest::kernelAddresses()
 {
     QMap<QString, QString> addresses;
-    const auto links = QJsonDocument::fromJson(command(QStringLiteral("ip -j link"))).array();
+    const auto links = QJsonDocument::fromJson(command(u"ip -j link"_s)).array();
     for (const QJsonValue &link : links) {
-        addresses.insert(
-            link[QLatin1String("ifname")].toString(), link[QLatin1String("address")].toString());
+        addresses.insert(link["ifname"_L1].toString(), link["address"_L1].toString());
     }
     return addresses;
 }

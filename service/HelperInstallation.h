@@ -12,7 +12,7 @@ class PollLoop;
 
 /// Runs the tool with the rights of an administrator, after polkit's prompt, to put itself in
 /// place. One at a time.
-class Installation
+class HelperInstallation
 {
 public:
     enum class Outcome
@@ -24,10 +24,10 @@ public:
     using Reply = std::function<void(Outcome outcome, const std::string &message)>;
 
     /// `tool` is an absolute path.
-    Installation(PollLoop &loop, std::string tool);
-    ~Installation();
-    Installation(const Installation &) = delete;
-    Installation &operator=(const Installation &) = delete;
+    HelperInstallation(PollLoop &loop, std::string tool);
+    ~HelperInstallation();
+    HelperInstallation(const HelperInstallation &) = delete;
+    HelperInstallation &operator=(const HelperInstallation &) = delete;
 
     /// Called when none runs. `reply` is called once, after as long as a person at the prompt
     /// needs.

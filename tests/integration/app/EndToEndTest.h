@@ -19,7 +19,7 @@ namespace quillon::test {
 
 /// A machine with a card "eth5" whose cable leads nowhere yet, and nothing that leads to the
 /// internet; and the program, started when a test says so.
-class RoadTest : public ::testing::Test
+class EndToEndTest : public ::testing::Test
 {
 protected:
     static inline const QString card = QStringLiteral("eth5");
@@ -50,7 +50,7 @@ protected:
     qlonglong hasRule() const;
     QString status() const;
 
-    /// The kernel's own word on every interface.
+    /// What the kernel reports of every interface.
     static QMap<QString, QString> kernelAddresses();
     static QString kernelAddress() { return kernelAddresses().value(card); }
     /// Every address that the card was seen with since the start of the test.

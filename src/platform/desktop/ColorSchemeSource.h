@@ -12,7 +12,7 @@ enum class ColorScheme
     Dark,
 };
 
-/// Which colours the user prefers on this desktop. Main thread.
+/// Which colors the user prefers on this desktop. Main thread.
 class ColorSchemeSource
 {
 public:

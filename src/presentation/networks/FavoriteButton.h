@@ -7,16 +7,16 @@
 namespace quillon {
 
 /// A heart that keeps something in a saved list or takes it out again.
-struct FavouriteButton
+struct FavoriteButton
 {
     QString symbol; ///< "heart.fill" when it is saved, else "heart"
     QString accessibilityText;
     bool removes = false; ///< what choosing the button does: remove, else add
 
-    bool operator==(const FavouriteButton &) const = default;
+    bool operator==(const FavoriteButton &) const = default;
 };
 
-FavouriteButton favouriteNetworkButton(bool saved);
-FavouriteButton favouriteAddressButton(bool saved);
+FavoriteButton favoriteNetworkButton(bool saved);
+FavoriteButton favoriteAddressButton(bool saved);
 
 } // namespace quillon

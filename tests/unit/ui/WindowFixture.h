@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/TaskBar.h"
-#include "platform/TrayHost.h"
+#include "platform/desktop/TaskBar.h"
+#include "platform/desktop/TrayHost.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "unit/presentation/DeviceModelsFixture.h"
@@ -16,10 +16,10 @@ namespace quillon::test {
 
 /// A machine with a wired and a Wi-Fi interface, the wired one selected and with an address that is
 /// not its factory address, and the models that windows show.
-class WindowMachine : public DeviceModelsFixture
+class WindowFixture : public DeviceModelsFixture
 {
 protected:
-    WindowMachine()
+    WindowFixture()
     {
         host.giveAddress(wired, QStringLiteral("02:00:00:00:00:01"));
         devices.updateNetWorkInterfaces();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "service/Installation.h"
+#include "service/HelperInstallation.h"
 
 #include "service/PollLoop.h"
 
@@ -48,18 +48,18 @@ std::string printable(std::string text)
 
 } // namespace
 
-Installation::Installation(PollLoop &loop, std::string tool)
+HelperInstallation::HelperInstallation(PollLoop &loop, std::string tool)
     : m_loop(loop)
     , m_tool(std::move(tool))
 {
 }
 
-Installation::~Installation()
+HelperInstallation::~HelperInstallation()
 {
     closeDescriptors();
 }
 
-void Installation::start(Reply reply)
+void HelperInstallation::start(Reply reply)
 {
     m_reply = std::move(reply);
     m_message.clear();
@@ -75,7 +75,7 @@ void Installation::start(Reply reply)
     m_loop.watch(m_childDescriptor, [this] { childEnded(); });
 }
 
-bool Installation::spawn()
+bool HelperInstallation::spawn()
 {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
@@ -104,7 +104,7 @@ bool Installation::spawn()
     return m_childDescriptor >= 0;
 }
 
-void Installation::readMessage()
+void HelperInstallation::readMessage()
 {
     std::array<char, 1024> part{};
     for (;;) {
@@ -122,7 +122,7 @@ void Installation::readMessage()
     }
 }
 
-void Installation::childEnded()
+void HelperInstallation::childEnded()
 {
     readMessage();
     int status = 0;
@@ -141,7 +141,7 @@ void Installation::childEnded()
     }
 }
 
-void Installation::finish(Outcome outcome, const std::string &message)
+void HelperInstallation::finish(Outcome outcome, const std::string &message)
 {
     closeDescriptors();
     m_child = -1;
@@ -149,7 +149,7 @@ void Installation::finish(Outcome outcome, const std::string &message)
     reply(outcome, message);
 }
 
-void Installation::closeDescriptors()
+void HelperInstallation::closeDescriptors()
 {
     for (int *descriptor : {&m_messageDescriptor, &m_childDescriptor}) {
         if (*descriptor >= 0) {
