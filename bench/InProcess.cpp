@@ -26,8 +26,8 @@ public:
     explicit ManyPorts(int count)
     {
         for (int i = 0; i < count; ++i) {
-            const QString address =
-                u"02:00:00:00:%1:%2"_s.arg(i / 256, 2, 16, u'0').arg(i % 256, 2, 16, u'0');
+            const QString address = u"02:00:00:00:%1:%2"_s.arg(i / 256, 2, 16, QLatin1Char('0'))
+                                        .arg(i % 256, 2, 16, QLatin1Char('0'));
             m_ports.append({u"Ethernet"_s, u"enp%1s0"_s.arg(i), address,
                 {u"192.0.2.1"_s, address, u"active"_s}});
         }

@@ -8,6 +8,7 @@
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "devices/RandomAddress.h"
 #include "helperlink/XPCMethods.h"
 #include "platform/NotificationCenter.h"
 #include "platform/linux/GetrandomSource.h"
@@ -30,7 +31,7 @@ public:
     explicit LinkUnderTest(const QString &settings);
 
     /// Changes the address and waits until the change is announced: nanoseconds until the address
-    /// was read back, and until the change was stored, flushed and announced.
+    /// was read back, and until the change was stored and announced.
     Words change(const QString &device, const QString &address);
     /// Reads all interfaces: nanoseconds, and how many were kept.
     Words ports();
@@ -65,6 +66,7 @@ private:
     XPCMethods m_helper{m_link, m_scheduler, m_notifications};
     DeviceTable m_devices{m_settings, m_host, m_addresses};
     CurrentInterface m_currentInterface{m_settings, m_scheduler, m_devices};
+    RandomAddress m_randomAddress{m_random, m_devices};
     AddressChanger m_changer;
     std::optional<QString> m_failure;
     bool m_announced = false;

@@ -127,7 +127,7 @@ class Bench:
         report.times("  of it polkit's CheckAuthorization", taken["authorize"])
         report.times("  of it the bus's two answers on the caller", taken["callers"])
         report.times("  of it the kernel: find, set, read back", taken["kernel"])
-        report.times("request to saved on disk and announced", taken["whole"])
+        report.times("request to stored and announced", taken["whole"])
         report.times("cold: service and helper are started", cold)
         report.row("the very first, polkit not running either", f"{first[0]:.2f} ms")
 

@@ -17,8 +17,6 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
-#include <QPointer>
-
 #include <mutex>
 #include <shared_mutex>
 
@@ -145,11 +143,7 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
         tellNotChanged(request.interface, "The new Address and the old Address are identical");
         return;
     }
-    m_deps.scheduler.onMain([self = QPointer(this), request] {
-        if (self) {
-            self->askHelper(request);
-        }
-    });
+    m_deps.scheduler.onMain(this, [this, request] { askHelper(request); });
 }
 
 void AddressChanger::askHelper(const Request &request)

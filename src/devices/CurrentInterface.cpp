@@ -10,8 +10,6 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
-#include <QPointer>
-
 namespace quillon {
 
 CurrentInterface::CurrentInterface(
@@ -72,11 +70,7 @@ void CurrentInterface::changeInterfacefromPopup(const QString &selectedTitle)
 
 void CurrentInterface::updateCurrentInterfaceDict(const QString &device)
 {
-    m_scheduler.onMain([self = QPointer(this), device] {
-        if (self) {
-            self->rebuild(device);
-        }
-    });
+    m_scheduler.onMain(this, [this, device] { rebuild(device); });
 }
 
 void CurrentInterface::rebuild(const QString &device)
@@ -111,11 +105,7 @@ void CurrentInterface::updateHexValues()
         });
     }
     updateCurrentInterfaceDict(device);
-    m_scheduler.onMain([self = QPointer(this)] {
-        if (self) {
-            Q_EMIT self->hexValuesUpdated();
-        }
-    });
+    m_scheduler.onMain(this, [this] { Q_EMIT hexValuesUpdated(); });
 }
 
 } // namespace quillon

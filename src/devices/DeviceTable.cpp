@@ -55,7 +55,7 @@ DeviceTable::DeviceTable(
 void DeviceTable::updateNetWorkInterfaces()
 {
     const QList<PortRecord> ports = readPorts();
-    QVariantMap table = stored();
+    auto table = stored();
     bool isRefreshed = false;
     for (const PortRecord &port : ports) {
         if (port.device.isEmpty() || isSkippedPortName(port.interface)) {
@@ -94,7 +94,7 @@ bool DeviceTable::isPresent(const QString &device) const
 DeviceRecord DeviceTable::update(
     const QString &device, const std::function<void(DeviceRecord &)> &change)
 {
-    QVariantMap table = stored();
+    auto table = stored();
     DeviceRecord record = DeviceRecord::fromPropertyList(table.value(device));
     change(record);
     table[device] = record.toPropertyList();
@@ -128,7 +128,7 @@ QVariantMap DeviceTable::stored() const
 
 DeviceRecords DeviceTable::devices() const
 {
-    const QVariantMap table = stored();
+    const auto table = stored();
     DeviceRecords records;
     for (auto entry = table.cbegin(); entry != table.cend(); ++entry) {
         records.insert(records.cend(), entry.key(), DeviceRecord::fromPropertyList(*entry));
@@ -158,7 +158,7 @@ bool DeviceTable::isDeviceWifi(const QString &device) const
 
 QString DeviceTable::getWifiDevice() const
 {
-    const QVariantMap table = stored();
+    const auto table = stored();
     const auto wifi = std::find_if(table.cbegin(), table.cend(),
         [](const QVariant &record) { return DeviceRecord::fromPropertyList(record).isWifi(); });
     return wifi == table.cend() ? QString() : wifi.key();

@@ -27,11 +27,7 @@ LocationPermission::LocationPermission(const Collaborators &collaborators)
 
 void LocationPermission::requestNetworkPermissions()
 {
-    m_deps.scheduler.onMain([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->followAuthorization();
-        }
-    });
+    m_deps.scheduler.onMain(this, [this] { followAuthorization(); });
 }
 
 void LocationPermission::followAuthorization()
@@ -53,11 +49,8 @@ void LocationPermission::followAuthorization()
     if (!m_deps.authorization.servicesEnabled()) {
         Q_EMIT servicesFoundDisabled();
     }
-    m_deps.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->m_deps.authorization.requestWhenInUseAuthorization();
-        }
-    });
+    m_deps.scheduler.onMainAfter(
+        questionDelay, this, [this] { m_deps.authorization.requestWhenInUseAuthorization(); });
 }
 
 void LocationPermission::locationManagerDidChangeAuthorization(LocationAuthorization::Status status)
@@ -87,11 +80,7 @@ void LocationPermission::showLocationError()
                                      "& Security > Privacy > Location Services"),
         .buttons = {localized("Open"), localized("Cancel")},
     };
-    m_deps.scheduler.onMainAfter(questionDelay, [self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->runLocationAlert();
-        }
-    });
+    m_deps.scheduler.onMainAfter(questionDelay, this, [this] { runLocationAlert(); });
 }
 
 void LocationPermission::runLocationAlert()

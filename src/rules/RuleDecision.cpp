@@ -6,7 +6,7 @@
 
 namespace quillon {
 
-RuleGroup ruleGroup(const RuleFacts &rule)
+RuleGroup ruleGroup(const RuleInfo &rule)
 {
     if (rule.isLogin) {
         return RuleGroup::Login;
@@ -20,7 +20,7 @@ RuleGroup ruleGroup(const RuleFacts &rule)
     return RuleGroup::Specific;
 }
 
-RuleDecision decideRules(const QList<RuleFacts> &selected, const QString &device)
+RuleDecision decideRules(const QList<RuleInfo> &selected, const QString &device)
 {
     RuleDecision decision;
     if (selected.isEmpty()) {
@@ -28,7 +28,7 @@ RuleDecision decideRules(const QList<RuleFacts> &selected, const QString &device
     }
     decision.status = RuleStatus::NotActive;
     for (qsizetype place = 0; place < selected.size(); ++place) {
-        const RuleFacts &rule = selected.at(place);
+        const RuleInfo &rule = selected.at(place);
         if (rule.device != device || !rule.enabled) {
             continue;
         }

@@ -10,7 +10,7 @@
 namespace quillon {
 
 /// What the decision reads of a rule.
-struct RuleFacts
+struct RuleInfo
 {
     QString device;
     QString network;
@@ -28,7 +28,7 @@ enum class RuleGroup
     Any,
 };
 
-RuleGroup ruleGroup(const RuleFacts &rule);
+RuleGroup ruleGroup(const RuleInfo &rule);
 
 /// What a device record says under `hasRule`.
 enum class RuleStatus
@@ -52,6 +52,6 @@ struct RuleDecision
 /// Decides for `device` among the rules that were selected for it, in their order. Rules of other
 /// devices are passed over, but are rules that were selected: with nothing else the status is
 /// NotActive.
-RuleDecision decideRules(const QList<RuleFacts> &selected, const QString &device);
+RuleDecision decideRules(const QList<RuleInfo> &selected, const QString &device);
 
 } // namespace quillon

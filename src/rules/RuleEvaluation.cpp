@@ -21,14 +21,14 @@ namespace {
 
 const QString networkKey = u"network"_s;
 
-QList<RuleFacts> factsOf(const RuleList &rules)
+QList<RuleInfo> infoOf(const RuleList &rules)
 {
-    QList<RuleFacts> facts;
-    facts.reserve(rules.size());
+    QList<RuleInfo> info;
+    info.reserve(rules.size());
     for (const Rule &rule : rules) {
-        facts.append({rule.device(), rule.network(), rule.isLogin(), rule.enabled()});
+        info.append({rule.device(), rule.network(), rule.isLogin(), rule.enabled()});
     }
-    return facts;
+    return info;
 }
 
 } // namespace
@@ -72,7 +72,7 @@ void RuleEvaluation::evaluateDevice(const QString &device, RuleChange change)
 RuleOutcome RuleEvaluation::decide(const QString &device)
 {
     const RuleList selected = m_deps.queries.rules(m_deps.queries.filterPredicateForDevice(device));
-    const RuleDecision decision = decideRules(factsOf(selected), device);
+    const RuleDecision decision = decideRules(infoOf(selected), device);
     RuleOutcome outcome;
     outcome.status = decision.status;
     outcome.networkRule = decision.networkRule ? selected.at(*decision.networkRule) : Rule();

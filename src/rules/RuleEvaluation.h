@@ -6,7 +6,6 @@
 #include "rules/RuleQueries.h"
 
 #include <QObject>
-#include <QVariantMap>
 
 namespace quillon {
 

@@ -5,8 +5,6 @@
 #include "base/Localized.h"
 #include "platform/Scheduler.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <utility>
 
@@ -20,20 +18,20 @@ VendorList::VendorList(Scheduler &scheduler, const VendorDatabase &database)
 
 void VendorList::loadVendorField()
 {
-    m_scheduler.inBackground(
-        [self = QPointer(this), &scheduler = m_scheduler, database = m_database, load = ++m_load] {
-            QStringList texts{localized(randomAddressChoice)};
-            texts += database.displayStrings();
-            auto entries = std::make_shared<const VendorEntries>(std::move(texts));
-            scheduler.onMain([self, load, entries = std::move(entries)] {
-                auto *const that = self.data();
-                if (that != nullptr && that->m_load == load) {
-                    that->m_entries = entries;
-                    that->arrange();
-                    Q_EMIT that->rebuilt();
-                }
-            });
+    using Entries = std::shared_ptr<const VendorEntries>;
+    const auto show =
+        m_scheduler.replyOnMain<Entries>(this, [this, load = ++m_load](const Entries &entries) {
+            if (m_load == load) {
+                m_entries = entries;
+                arrange();
+                Q_EMIT rebuilt();
+            }
         });
+    m_scheduler.inBackground([show, database = m_database] {
+        QStringList texts{localized(randomAddressChoice)};
+        texts += database.displayStrings();
+        show(std::make_shared<const VendorEntries>(std::move(texts)));
+    });
 }
 
 void VendorList::filter(const QString &text)

@@ -6,8 +6,6 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
-#include <QPointer>
-
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -63,11 +61,7 @@ void VendorLookup::showVendorButton(bool shown)
         Q_EMIT vendorButtonShown(shown);
         return;
     }
-    m_scheduler.onMain([self = QPointer(this), shown] {
-        if (auto *const that = self.data()) {
-            Q_EMIT that->vendorButtonShown(shown);
-        }
-    });
+    m_scheduler.onMain(this, [this, shown] { Q_EMIT vendorButtonShown(shown); });
 }
 
 } // namespace quillon

@@ -11,7 +11,7 @@ from program import ProgramTest, kernel_addresses, wait_until, xdotool
 from webserver import REGISTRY, REGISTRY_FILE, Web
 
 FOLDER = os.path.expanduser("~/.local/share/Quillon")
-FIELD = "Manufacturer of random addresses"
+FIELD = "Vendor of random addresses"
 SETTINGS = os.path.expanduser("~/.config/Quillon")
 # A locale's date and time, whichever it is: with digits, and short.
 LAST_UPDATED = r"^Last Updated: \S.*\d\d"
@@ -151,13 +151,13 @@ class ChoiceTest(VendorTest):
     def test_the_list_is_used_with_the_pointer(self):
         field = self.window.find("entry", FIELD)
         size = self.window.extents[2:]
-        self.button("Show manufacturers").click()
+        self.button("Show vendors").click()
         row = wait_until(lambda: self.rows() and self.rows()[2], "the list stayed closed")
         self.assertEqual(self.window.extents[2:], size, "the window keeps its size")
         chosen = row.name
         row.click()
         wait_until(lambda: field.text == chosen, lambda: f"{field.text} was chosen instead of {chosen}")
-        self.button("Hide manufacturers").click()
+        self.button("Hide vendors").click()
         wait_until(lambda: not self.rows(), "the list stayed open")
 
 

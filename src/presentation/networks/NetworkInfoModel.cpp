@@ -8,8 +8,6 @@
 #include "networks/WiFiNetwork.h"
 #include "networks/WiFiRecord.h"
 
-#include <QPointer>
-
 namespace quillon {
 
 namespace {
@@ -75,14 +73,12 @@ NetworkInfoModel::~NetworkInfoModel()
 
 void NetworkInfoModel::showNetworkButton(bool shown)
 {
-    State state = m_state;
-    state.buttonVisible = shown;
-    update(state);
+    m_state.update([&](State &state) { state.buttonVisible = shown; });
 }
 
 void NetworkInfoModel::toggleNetworkInfoPopover()
 {
-    if (m_state.popoverShown) {
+    if (m_state->popoverShown) {
         popoverWillClose();
         return;
     }
@@ -94,27 +90,20 @@ void NetworkInfoModel::toggleNetworkInfoPopover()
 void NetworkInfoModel::popoverWillShow()
 {
     updateFavNetworkButton();
-    State state = m_state;
-    state.popoverShown = true;
-    update(state);
+    m_state.update([&](State &state) { state.popoverShown = true; });
 }
 
 void NetworkInfoModel::popoverWillClose()
 {
     stopNetworkTimer();
-    State state = m_state;
-    state.popoverShown = false;
-    update(state);
+    m_state.update([&](State &state) { state.popoverShown = false; });
 }
 
 void NetworkInfoModel::startNetworkTimer()
 {
     stopNetworkTimer();
-    m_networkTimer = m_deps.scheduler.repeat(refreshInterval, [self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->m_deps.wifi.updateWiFiNetwork();
-        }
-    });
+    m_networkTimer =
+        m_deps.scheduler.repeat(refreshInterval, [this] { m_deps.wifi.updateWiFiNetwork(); });
 }
 
 void NetworkInfoModel::stopNetworkTimer()
@@ -127,14 +116,14 @@ void NetworkInfoModel::stopNetworkTimer()
 
 void NetworkInfoModel::updateFavNetworkButton()
 {
-    State state = m_state;
-    state.favorite = favoriteNetworkButton(m_deps.savedNetworks.isCurrentNetworkSaved());
-    update(state);
+    m_state.update([&](State &state) {
+        state.favorite = favoriteNetworkButton(m_deps.savedNetworks.isCurrentNetworkSaved());
+    });
 }
 
 void NetworkInfoModel::chooseFavoriteButton()
 {
-    if (m_state.favorite.removes) {
+    if (m_state->favorite.removes) {
         m_deps.savedNetworks.removeCurrentNetworkFromSavedList();
     } else {
         m_deps.savedNetworks.addCurrentNetworkToSavedList();
@@ -143,18 +132,8 @@ void NetworkInfoModel::chooseFavoriteButton()
 
 void NetworkInfoModel::showDetails()
 {
-    State state = m_state;
-    state.rows = detailsOf(WiFiRecord::stored(m_deps.settings));
-    update(state);
-}
-
-void NetworkInfoModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
+    m_state.update(
+        [&](State &state) { state.rows = detailsOf(WiFiRecord::stored(m_deps.settings)); });
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "presentation/networks/FavoriteButton.h"
@@ -52,7 +53,7 @@ public:
     explicit NetworkInfoModel(const Collaborators &collaborators);
     ~NetworkInfoModel() override;
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     /// The button follows the association.
     void showNetworkButton(bool shown);
@@ -75,10 +76,9 @@ Q_SIGNALS:
 private:
     void popoverWillShow();
     void showDetails();
-    void update(const State &state);
 
     Collaborators m_deps;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
     std::optional<Scheduler::Token> m_networkTimer;
     std::vector<SettingsStore::Token> m_observed;
 };

@@ -57,16 +57,17 @@ void SavedEntryPopoverModel::closeBoth()
     ++m_choice;
     m_networks.endEditing();
     m_addresses.endEditing();
-    update({});
+    m_state.update([](State &state) { state = {}; });
 }
 
 void SavedEntryPopoverModel::open(Popover popover, const QPointF &position)
 {
-    State state;
-    state.open = popover;
-    state.anchor = anchorAt(position);
-    fill(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state = {};
+        state.open = popover;
+        state.anchor = anchorAt(position);
+        fill(state);
+    });
 }
 
 void SavedEntryPopoverModel::fill(State &state) const
@@ -93,32 +94,32 @@ void SavedEntryPopoverModel::fixButtonActions(State &state) const
 
 void SavedEntryPopoverModel::controlTextDidEndEditing(const QString &typed)
 {
-    if (m_state.open == Popover::Network) {
+    if (m_state->open == Popover::Network) {
         m_networks.changeSavedNetworkName(typed);
-    } else if (m_state.open == Popover::Address) {
+    } else if (m_state->open == Popover::Address) {
         m_addresses.changeSavedAddressName(typed);
     }
 }
 
 void SavedEntryPopoverModel::removeEntry()
 {
-    if (m_state.open == Popover::Network) {
+    if (m_state->open == Popover::Network) {
         m_networks.removeSavedNetwork();
-    } else if (m_state.open == Popover::Address) {
+    } else if (m_state->open == Popover::Address) {
         m_addresses.removeSavedAddress();
     }
 }
 
 void SavedEntryPopoverModel::chooseSsidTickButton()
 {
-    if (m_state.ssidTickButton.hasAction) {
+    if (m_state->ssidTickButton.hasAction) {
         m_networks.updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     }
 }
 
 void SavedEntryPopoverModel::chooseBssidTickButton()
 {
-    if (m_state.bssidTickButton.hasAction) {
+    if (m_state->bssidTickButton.hasAction) {
         m_networks.updateNetworkDefinition(u"bssidbutton"_s);
     }
 }
@@ -126,36 +127,27 @@ void SavedEntryPopoverModel::chooseBssidTickButton()
 void SavedEntryPopoverModel::showNetworkDefinition()
 {
     const auto &network = m_networks.editingNetworkDict();
-    if (m_state.open != Popover::Network || !network) {
+    if (m_state->open != Popover::Network || !network) {
         return;
     }
-    State state = m_state;
-    state.bssid = network->bssid.value_or(QString());
-    fixButtonActions(state);
-    update(state);
+    m_state.update([&](State &state) {
+        state.bssid = network->bssid.value_or(QString());
+        fixButtonActions(state);
+    });
 }
 
 void SavedEntryPopoverModel::closeNetworkPopover()
 {
-    if (m_state.open == Popover::Network) {
+    if (m_state->open == Popover::Network) {
         closeBoth();
     }
 }
 
 void SavedEntryPopoverModel::closeAddressPopover()
 {
-    if (m_state.open == Popover::Address) {
+    if (m_state->open == Popover::Address) {
         closeBoth();
     }
-}
-
-void SavedEntryPopoverModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
 }
 
 } // namespace quillon

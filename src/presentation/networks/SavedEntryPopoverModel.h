@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
 #include "presentation/networks/SavedListsModel.h"
 
 #include <QObject>
@@ -57,7 +58,7 @@ public:
     SavedEntryPopoverModel(
         SavedNetworkEditing &networks, SavedAddressEditing &addresses, Scheduler &scheduler);
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     /// A token was chosen with the pointer at `position`. What was open closes at once; where the
     /// field's tokens have a menu, the token's popover opens in the next turn of the main loop.
@@ -85,12 +86,11 @@ private:
     void open(Popover popover, const QPointF &position);
     void fill(State &state) const;
     void fixButtonActions(State &state) const;
-    void update(const State &state);
 
     SavedNetworkEditing &m_networks;
     SavedAddressEditing &m_addresses;
     Scheduler &m_scheduler;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
     quint64 m_choice = 0; ///< counts chosen tokens; an older one no longer opens anything
 };
 

@@ -74,64 +74,51 @@ SavedListsModel::~SavedListsModel()
 
 void SavedListsModel::refillSavedFields()
 {
-    State state = m_state;
-    state.networks = tokensOf(savedEntries(m_settings, keys::savedNetworks), &SavedEntry::bssid,
-        TokenField::SavedNetworks);
-    state.addresses = addressTokens(m_settings, TokenField::SavedAddresses);
-    update(state);
+    m_state.update([&](State &state) {
+        state.networks = tokensOf(savedEntries(m_settings, keys::savedNetworks), &SavedEntry::bssid,
+            TokenField::SavedNetworks);
+        state.addresses = addressTokens(m_settings, TokenField::SavedAddresses);
+    });
 }
 
 void SavedListsModel::updateQuickAddressesField()
 {
-    State state = m_state;
-    state.quickAddresses = addressTokens(m_settings, TokenField::QuickAddresses);
-    std::stable_sort(
-        state.quickAddresses.begin(), state.quickAddresses.end(), isBeforeIgnoringCase);
-    update(state);
+    m_state.update([&](State &state) {
+        state.quickAddresses = addressTokens(m_settings, TokenField::QuickAddresses);
+        std::stable_sort(
+            state.quickAddresses.begin(), state.quickAddresses.end(), isBeforeIgnoringCase);
+    });
 }
 
 void SavedListsModel::toggleSoftwarePopover()
 {
-    if (m_state.softwarePopoverShown) {
+    if (m_state->softwarePopoverShown) {
         softwarePopoverWillClose();
         return;
     }
     updateFavAddressButton();
-    State state = m_state;
-    state.softwarePopoverShown = true;
-    update(state);
+    m_state.update([&](State &state) { state.softwarePopoverShown = true; });
 }
 
 void SavedListsModel::softwarePopoverWillClose()
 {
-    State state = m_state;
-    state.softwarePopoverShown = false;
-    update(state);
+    m_state.update([&](State &state) { state.softwarePopoverShown = false; });
 }
 
 void SavedListsModel::updateFavAddressButton()
 {
-    State state = m_state;
-    state.favorite = favoriteAddressButton(m_savedAddresses.isCurrentAddressSaved());
-    update(state);
+    m_state.update([&](State &state) {
+        state.favorite = favoriteAddressButton(m_savedAddresses.isCurrentAddressSaved());
+    });
 }
 
 void SavedListsModel::chooseFavoriteButton()
 {
-    if (m_state.favorite.removes) {
+    if (m_state->favorite.removes) {
         m_savedAddresses.removeCurrentAddressFromSavedList();
     } else {
         m_savedAddresses.addCurrentAddressToSavedList();
     }
-}
-
-void SavedListsModel::update(const State &state)
-{
-    if (state == m_state) {
-        return;
-    }
-    m_state = state;
-    Q_EMIT changed();
 }
 
 } // namespace quillon

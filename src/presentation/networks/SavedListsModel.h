@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
 #include "networks/SavedEntry.h"
 #include "platform/SettingsStore.h"
 #include "presentation/networks/FavoriteButton.h"
@@ -57,7 +58,7 @@ public:
     SavedListsModel(SettingsStore &settings, SavedAddresses &savedAddresses);
     ~SavedListsModel() override;
 
-    const State &state() const { return m_state; }
+    const State &state() const { return m_state.get(); }
 
     /// Refills the quick addresses. At the start, and whenever `savedAddresses` changes.
     void updateQuickAddressesField();
@@ -76,11 +77,10 @@ Q_SIGNALS:
 
 private:
     void refillSavedFields();
-    void update(const State &state);
 
     SettingsStore &m_settings;
     SavedAddresses &m_savedAddresses;
-    State m_state;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
     std::vector<SettingsStore::Token> m_observed;
 };
 

@@ -193,11 +193,9 @@ void ManagedObjectContext::scheduleProcessing()
     if (std::exchange(m_isScheduled, true)) {
         return;
     }
-    m_scheduler.onMain([self = QPointer(this)] {
-        if (auto *const that = self.data()) {
-            that->m_isScheduled = false;
-            that->processPendingChanges();
-        }
+    m_scheduler.onMain(this, [this] {
+        m_isScheduled = false;
+        processPendingChanges();
     });
 }
 

@@ -33,7 +33,7 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     makeToggle(theme);
     m_table->hide();
     m_table->installEventFilter(this);
-    auto *caption = new QLabel(localized("&Manufacturer of random addresses"));
+    auto *caption = new QLabel(localized("&Vendor of random addresses"));
     caption->setProperty("look", u"caption"_s);
     caption->setBuddy(m_field);
 
@@ -54,7 +54,7 @@ void VendorChooser::makeField()
 {
     m_field->setObjectName(u"vendorTextfield"_s);
     m_field->setProperty("look", u"field"_s);
-    m_field->setAccessibleName(localized("Manufacturer of random addresses"));
+    m_field->setAccessibleName(localized("Vendor of random addresses"));
     m_field->setAccessibleDescription(
         localized("Type the beginning of a name, then choose from the list"));
     m_field->installEventFilter(this);
@@ -94,7 +94,7 @@ void VendorChooser::refresh()
     }
     m_field->setToolTip(state.text);
     const QString toggles =
-        state.popoverShown ? localized("Hide manufacturers") : localized("Show manufacturers");
+        state.popoverShown ? localized("Hide vendors") : localized("Show vendors");
     m_toggle->setAccessibleName(toggles);
     m_toggle->setToolTip(toggles);
     if (state.popoverShown && m_table->isHidden()) {

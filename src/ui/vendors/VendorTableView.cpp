@@ -71,7 +71,7 @@ VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
     , m_model(model)
 {
     setObjectName(u"vendorTable"_s);
-    setAccessibleName(localized("Manufacturers"));
+    setAccessibleName(localized("Vendors"));
     // Tens of thousands of rows are laid out by the first one's height.
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -66,7 +66,8 @@ TEST_F(SavedListsRestartTest, SurviveARestart)
         store->set(keys::currentInterfaceDict, QVariantMap{{record::current, address.toUpper()}});
         first.savedAddresses.addCurrentAddressToSavedList();
     }
-    // Each operation has flushed: what a killed program leaves is what is in the file now.
+    // Each operation has asked for it: what a killed program leaves is what is in the file soon.
+    scheduler.advance(std::chrono::milliseconds(100));
     const QVariantMap left = content();
     EXPECT_EQ(
         left.value(keys::savedNetworks).toMap().keys(), (QStringList{homeBssid, officeBssid}));

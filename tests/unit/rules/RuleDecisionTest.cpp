@@ -14,12 +14,12 @@ namespace {
 const QString en0 = u"en0"_s;
 const QString home = u"02:00:00:00:00:01"_s;
 
-RuleFacts rule(const QString &network, bool enabled = true)
+RuleInfo rule(const QString &network, bool enabled = true)
 {
     return {en0, network, false, enabled};
 }
 
-RuleFacts loginRule(bool enabled = true)
+RuleInfo loginRule(bool enabled = true)
 {
     return {en0, QString(), true, enabled};
 }
@@ -88,7 +88,7 @@ TEST(RuleDecisionTest, EveryOtherNetworkIsASpecificOne)
 
 TEST(RuleDecisionTest, RulesOfOtherDevicesArePassedOver)
 {
-    RuleFacts other = rule(home);
+    RuleInfo other = rule(home);
     other.device = u"EN0"_s;
     EXPECT_EQ(decideRules({other, rule(anyNetwork)}, en0).networkRule, 1);
     EXPECT_EQ(decideRules({other}, en0), (RuleDecision{RuleStatus::NotActive, {}, {}}))

@@ -5,7 +5,6 @@
 #include "platform/desktop/TrayHost.h"
 
 #include <QObject>
-#include <QVariantMap>
 
 class QDBusServiceWatcher;
 

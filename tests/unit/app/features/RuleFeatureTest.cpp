@@ -141,9 +141,10 @@ TEST_F(RuleFeatureTest, ANewStayOnTheNetworkCarriesARuleOutAgain)
 TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
 {
     run();
-    insertRule(randomOnce(enp2s0, home));
-    ASSERT_EQ(status(enp2s0), 0);
+    const ManagedObjectPtr rule = insertRule(randomOnce(enp2s0, home));
     const QString bssid = u"0a:0b:0c:0d:0e:0f"_s;
+    rule->setValue(model::rule::network, bssid);
+    ASSERT_EQ(status(enp2s0), 0);
     SavedEntry network;
     network.name = home;
     network.ssid = home;
@@ -153,6 +154,7 @@ TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
     popover.tokenFieldMenuForRepresentedObject(TokenField::SavedNetworks, network, {});
     machine.scheduler.runPending();
     popover.chooseSsidTickButton();
+    EXPECT_TRUE(rule->value(model::rule::ssidDefined).toBool());
     EXPECT_EQ(status(enp2s0), 1);
     EXPECT_FALSE(isChanged(enp2s0));
 }

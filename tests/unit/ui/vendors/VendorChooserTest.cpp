@@ -278,10 +278,10 @@ TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
 
 TEST_F(VendorChooserTest, TheButtonInTheFieldOpensAndClosesAndSaysWhich)
 {
-    EXPECT_EQ(toggle->accessibleName(), u"Show manufacturers"_s);
+    EXPECT_EQ(toggle->accessibleName(), u"Show vendors"_s);
     click(*toggle, toggle->rect().center());
     EXPECT_TRUE(table->isVisible());
-    EXPECT_EQ(toggle->accessibleName(), u"Hide manufacturers"_s);
+    EXPECT_EQ(toggle->accessibleName(), u"Hide vendors"_s);
     EXPECT_TRUE(text->hasFocus()) << "the button does not take the keyboard";
     click(*toggle, toggle->rect().center());
     EXPECT_FALSE(table->isVisible());
@@ -338,13 +338,13 @@ TEST_F(VendorChooserTest, TensOfThousandsOfRowsAreShownAndNarrowed)
 
 TEST_F(VendorChooserTest, ToAssistiveTechnologyFieldAndListHaveNames)
 {
-    EXPECT_EQ(text->accessibleName(), u"Manufacturer of random addresses"_s);
+    EXPECT_EQ(text->accessibleName(), u"Vendor of random addresses"_s);
     EXPECT_FALSE(text->accessibleDescription().isEmpty());
     press(*text, Qt::Key_Down);
     QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(table);
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->role(), QAccessible::List);
-    EXPECT_EQ(shown->text(QAccessible::Name), u"Manufacturers"_s);
+    EXPECT_EQ(shown->text(QAccessible::Name), u"Vendors"_s);
 }
 
 } // namespace
