@@ -116,6 +116,7 @@ void LaunchSequence::applicationWillTerminate()
 {
     m_features.networks.externalAddress.saveExternalIPAddress(localized("Unknown..."));
     m_platform.settings.flush();
+    m_platform.groupSettings.flush();
 }
 
 bool LaunchSequence::startupCheck()

@@ -42,24 +42,37 @@ Error saveFailure(const Error &error)
             {reasonOf(error)})};
 }
 
-void presentOpenFailure(
-    SettingsStore &settings, AlertPresenter &alerts, const Error &error, const QString &path)
+namespace {
+
+Alert openFailureAlert(const Error &error, const QString &path)
 {
-    // Nothing else is to be lost by this.
-    settings.flush();
     const QStringList buttons{localized("Quit")};
     if (isRecordFileError(error, RecordFileError::Newer)) {
-        alerts.runModal({localized("The records were written by a newer version of Quillon"),
+        return {localized("The records were written by a newer version of Quillon"),
             filled(localized("They are left untouched; please install that version again to use "
                              "them: %@"),
                 {path}),
-            buttons});
-        std::_Exit(EXIT_FAILURE);
+            buttons};
     }
-    alerts.runModal({localized("The records cannot be opened"),
+    return {localized("The records cannot be opened"),
         filled(localized("%@\n\nRules and history are in this file, which is left as it is: %@"),
             {reasonOf(error), path}),
-        buttons});
+        buttons};
+}
+
+} // namespace
+
+void presentOpenFailure(
+    SettingsStore &settings, AlertPresenter &alerts, const Error &error, const QString &path)
+{
+    // Nothing else is to be lost by this: neither what was changed until now, nor what changes
+    // while the user reads.
+    settings.flush();
+    alerts.runModal(openFailureAlert(error, path));
+    settings.flush();
+    if (isRecordFileError(error, RecordFileError::Newer)) {
+        std::_Exit(EXIT_FAILURE);
+    }
 }
 
 } // namespace quillon

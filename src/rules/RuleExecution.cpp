@@ -4,6 +4,7 @@
 
 #include "devices/AddressChanger.h"
 #include "devices/DeviceTable.h"
+#include "platform/NetworkHost.h"
 #include "platform/Scheduler.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleActions.h"
@@ -100,7 +101,9 @@ void RuleExecution::followVisits()
     const QStringList devices = m_visits.devices();
     const QDateTime now = m_deps.scheduler.now();
     for (const QString &device : devices) {
-        if (!m_deps.devices.isPresent(device)) {
+        // A table that could not be read, or a device that is no port for now, is not "taken away".
+        if (!m_deps.devices.isPresent(device) &&
+            m_deps.devices.getInfoForDevice(device).macAddress.isEmpty()) {
             m_visits.sawGone(device);
         } else if (m_deps.devices.record(device).isUp()) {
             m_visits.sawOnNetwork(device, now);

@@ -275,6 +275,7 @@ TEST_F(LaunchSequenceTest, QuittingForgetsTheExternalAddressDurably)
     program->launch().applicationWillTerminate();
     EXPECT_EQ(machine.settings.getString(keys::externalIPAddress), u"Unknown..."_s);
     EXPECT_EQ(machine.settings.journal().last(), u"flush"_s);
+    EXPECT_EQ(machine.groupSettings.journal().last(), u"flush"_s);
 }
 
 TEST_F(LaunchSequenceTest, ASecondStartOpensTheWindow)

@@ -4,6 +4,8 @@
 
 #include <QUrl>
 
+#include <utility>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -69,6 +71,19 @@ TEST_F(NetworkChangeTest, OfTheSelectedInterfaceReadsTheKernelOnceAndNeverWaitsF
     EXPECT_EQ(host.journal(), QStringList(u"ports"_s));
     EXPECT_TRUE(settings.journal().contains(u"synchronize"_s));
     EXPECT_FALSE(settings.journal().contains(u"flush"_s));
+}
+
+TEST_F(NetworkChangeTest, DoesNotTakeADeviceThatIsNoPortForNowForOneThatWasTakenAway)
+{
+    giveLease(en0);
+    networkEvent();
+    ASSERT_EQ(changesOf(en0).size(), 1);
+    const QString port = std::exchange(host.at(en0).port, QString());
+    networkEvent();
+    host.at(en0).port = port;
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1) << "it never left its network";
 }
 
 TEST_F(NetworkChangeTest, CarriesTheRuleOutWhenTheInternetCanBeReached)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/RecordFailure.h"
 
+#include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeSettingsStore.h"
 #include "platform/desktop/AlertPresenter.h"
 #include "store/model/RecordFileError.h"
@@ -39,6 +40,23 @@ TEST(RecordFailure, EverythingElseSpeaksForItself)
     // The same number in another domain means something else.
     const Error other{posixErrorDomain, static_cast<int>(RecordFileError::Full), u"x"_s};
     EXPECT_EQ(reasonOf(other), u"x"_s);
+}
+
+TEST(RecordFailure, TheSettingsAreOnTheDiskBeforeTheUserIsAskedAndAfterwards)
+{
+    test::FakeScheduler scheduler;
+    test::FakeSettingsStore settings{scheduler};
+    test::FakeAlertPresenter alerts;
+    QStringList whenAsked;
+    alerts.whileShown = [&] {
+        whenAsked = settings.journal();
+        settings.set(u"changed"_s, true);
+    };
+    presentOpenFailure(
+        settings, alerts, recordFileError(RecordFileError::Damaged, u"x"_s), u"/file"_s);
+    EXPECT_EQ(whenAsked, QStringList(u"flush"_s));
+    EXPECT_EQ(settings.journal().size(), 3);
+    EXPECT_EQ(settings.journal().last(), u"flush"_s) << "what changed meanwhile as well";
 }
 
 /// A user whose alerts can be read on standard error, where death tests look.
