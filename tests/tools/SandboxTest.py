@@ -258,8 +258,9 @@ class SandboxWebTest(unittest.TestCase):
         with open(authority[0]) as file, open("/etc/ssl/certs/ca-certificates.crt") as trusted:
             self.assertNotIn(file.read(), trusted.read())
         self.assertFalse(os.path.lexists("/etc/ssl/certs/quillon-sandbox.pem"))
-        with open("/etc/hosts") as file:
-            self.assertNotIn("trusted.test", file.read())
+        if os.path.exists("/etc/hosts"):  # a minimal system has none
+            with open("/etc/hosts") as file:
+                self.assertNotIn("trusted.test", file.read())
 
     def test_makes_its_authority_once_though_many_start_at_the_same_time(self):
         with tempfile.TemporaryDirectory() as build:

@@ -43,8 +43,9 @@ def install(build):
         return
     folder = authority(build, names)
     os.symlink(folder, AUTHORITY)
+    # A minimal system has no such file.
     with open("/etc/hosts", "a") as file:
-        file.write(f"\n{ADDRESS} {' '.join([*names, TRUSTED, WRONG_NAME, EXPIRED, UNTRUSTED])}\n")
+        file.write(f"\n127.0.0.1 localhost\n{ADDRESS} {' '.join([*names, TRUSTED, WRONG_NAME, EXPIRED, UNTRUSTED])}\n")
     # Nobody answers for other names: without this, asking for one takes until the far server is given up.
     if os.path.lexists("/etc/resolv.conf"):
         os.unlink("/etc/resolv.conf")
