@@ -40,12 +40,12 @@ private:
     void waitFor(const bool &answered)
     {
         while (!answered) {
-            if (m_connection->processPendingRequest()) {
+            if (bus::processOne(*m_connection)) {
                 continue;
             }
-            const auto bus = m_connection->getEventLoopPollData();
-            pollfd descriptor{bus.fd, bus.events, 0};
-            poll(&descriptor, 1, bus.getPollTimeout());
+            const auto pollData = m_connection->getEventLoopPollData();
+            pollfd descriptor{pollData.fd, pollData.events, 0};
+            poll(&descriptor, 1, pollData.getPollTimeout());
         }
     }
 

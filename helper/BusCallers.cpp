@@ -15,13 +15,13 @@ constexpr std::chrono::seconds answerTime{10};
 
 /// Asks the bus about one name; `answer` gets what it said, or none.
 template <typename Value, typename Answer>
-void ask(sdbus::IProxy &bus, const char *method, const std::string &name, Answer answer)
+void ask(sdbus::IProxy &proxy, const char *method, const std::string &name, Answer answer)
 {
     try {
-        auto call = bus.createMethodCall(busName, method);
+        auto call = proxy.createMethodCall(bus::Interface{busName}, bus::Member{method});
         call << name;
-        bus.callMethod(
-            call,
+        bus::callLater(
+            proxy, call,
             [answer](sdbus::MethodReply &reply, const sdbus::Error *error) {
                 std::optional<Value> value;
                 try {
@@ -44,7 +44,7 @@ void ask(sdbus::IProxy &bus, const char *method, const std::string &name, Answer
 } // namespace
 
 BusCallers::BusCallers(sdbus::IConnection &connection)
-    : m_bus{sdbus::createProxy(connection, busName, busPath)}
+    : m_bus{sdbus::createProxy(connection, bus::Name{busName}, bus::Path{busPath})}
 {
 }
 

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "contract/SdBus.h"
 #include "helper/Callers.h"
-
-#include <sdbus-c++/sdbus-c++.h>
 
 #include <memory>
 

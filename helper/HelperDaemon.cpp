@@ -35,7 +35,9 @@ void answer(const sdbus::MethodCall &call, const Outcome &outcome)
 {
     try {
         if (outcome) {
-            call.createErrorReply(sdbus::Error{outcome->error.name, outcome->message}).send();
+            call.createErrorReply(
+                    sdbus::Error{bus::ErrorName{outcome->error.name}, outcome->message})
+                .send();
         } else {
             call.createReply().send();
         }
@@ -46,7 +48,7 @@ void answer(const sdbus::MethodCall &call, const Outcome &outcome)
 
 void refuse(const sdbus::MethodCall &call, contract::ErrorName error, const char *why)
 {
-    logLine(call.getSender() + ' ' + call.getMemberName() + ": " + error.name);
+    logLine(bus::senderOf(call) + ' ' + call.getMemberName() + ": " + error.name);
     answer(call, Refusal{error, why});
 }
 
@@ -68,10 +70,10 @@ HelperDaemon::HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel,
     , m_authority{connection}
     , m_requests{m_callers, m_authority, {}}
     , m_idle{idlePeriod, now()}
-    , m_object{sdbus::createObject(connection, contract::helper::path)}
+    , m_object{sdbus::createObject(connection, bus::Path{contract::helper::path})}
 {
     registerMethods();
-    m_departures = connection.addMatch(departuresMatch, [this](sdbus::Message &message) {
+    m_departures = bus::listen(connection, departuresMatch, [this](sdbus::Message &message) {
         std::string name;
         message >> name;
         m_requests.callerVanished(name);
@@ -80,11 +82,6 @@ HelperDaemon::HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel,
 
 void HelperDaemon::registerMethods()
 {
-    const auto offer = [this](const contract::Method &method, sdbus::method_callback callback) {
-        m_object->registerMethod(contract::helper::interface, method.name, method.inputSignature,
-            {method.inputNames.begin(), method.inputNames.end()}, method.outputSignature,
-            {method.outputNames.begin(), method.outputNames.end()}, std::move(callback));
-    };
     const auto text = [this](const std::function<std::string()> &value) {
         return [this, value](const sdbus::MethodCall &call) {
             m_idle.used(now());
@@ -93,14 +90,15 @@ void HelperDaemon::registerMethods()
             reply.send();
         };
     };
-    offer(contract::helper::connectWithEndpoint,
-        text([this] { return m_connection.getUniqueName(); }));
-    offer(contract::helper::getVersion, text([] { return std::string{contract::helperVersion}; }));
-    offer(contract::helper::changeAddressOfDevice,
-        [this](sdbus::MethodCall call) { changeAddress(std::move(call)); });
-    offer(contract::helper::uninstall,
-        [this](sdbus::MethodCall call) { uninstall(std::move(call)); });
-    m_object->finishRegistration();
+    bus::publish(*m_object, contract::helper::interface,
+        {{contract::helper::connectWithEndpoint,
+             text([this] { return m_connection.getUniqueName(); })},
+            {contract::helper::getVersion,
+                text([] { return std::string{contract::helperVersion}; })},
+            {contract::helper::changeAddressOfDevice,
+                [this](sdbus::MethodCall call) { changeAddress(std::move(call)); }},
+            {contract::helper::uninstall,
+                [this](sdbus::MethodCall call) { uninstall(std::move(call)); }}});
 }
 
 void HelperDaemon::changeAddress(sdbus::MethodCall call)
@@ -127,7 +125,7 @@ void HelperDaemon::changeAddress(sdbus::MethodCall call)
     }
     const Authority::Details details{
         {"device", device}, {"address", contract::addressText(*address)}};
-    m_requests.submit({call.getSender(), contract::actionChange, details,
+    m_requests.submit({bus::senderOf(call), contract::actionChange, details,
         [this, device, address, deviceIsWiFi] {
             return m_addressChange.change(device, *address, deviceIsWiFi);
         },
@@ -143,7 +141,7 @@ void HelperDaemon::uninstall(sdbus::MethodCall call)
         refuse(call, contract::error::invalidAuthorization, wrongSize);
         return;
     }
-    m_requests.submit({call.getSender(), contract::actionUninstall, {},
+    m_requests.submit({bus::senderOf(call), contract::actionUninstall, {},
         [this] {
             auto outcome = m_uninstallation();
             m_uninstalled = !outcome;
@@ -154,7 +152,7 @@ void HelperDaemon::uninstall(sdbus::MethodCall call)
 
 void HelperDaemon::run(int stopDescriptor)
 {
-    m_connection.requestName(contract::helperName);
+    m_connection.requestName(bus::Name{contract::helperName});
     m_idle.used(now());
     serve(stopDescriptor);
     leave(stopDescriptor);
@@ -179,7 +177,7 @@ void HelperDaemon::leave(int stopDescriptor)
 {
     // From here on the bus starts a new helper for whoever calls the name. What it had given to
     // this one before is in the connection's queue now, and is served to the end.
-    m_connection.releaseName(contract::helperName);
+    m_connection.releaseName(bus::Name{contract::helperName});
     processMessages();
     while (m_requests.waiting() > 0 && waitForMessages(stopDescriptor)) {
         processMessages();
@@ -189,21 +187,22 @@ void HelperDaemon::leave(int stopDescriptor)
 
 bool HelperDaemon::waitForMessages(int stopDescriptor)
 {
-    const auto bus = m_connection.getEventLoopPollData();
-    int timeout = bus.getPollTimeout();
+    const auto pollData = m_connection.getEventLoopPollData();
+    int timeout = pollData.getPollTimeout();
     if (m_requests.waiting() == 0) {
         const auto idle = static_cast<int>(
             std::min<std::int64_t>(m_idle.left(now()).count(), std::numeric_limits<int>::max()));
         timeout = timeout < 0 ? idle : std::min(timeout, idle);
     }
-    std::array<pollfd, 2> descriptors{{{bus.fd, bus.events, 0}, {stopDescriptor, POLLIN, 0}}};
+    std::array<pollfd, 2> descriptors{
+        {{pollData.fd, pollData.events, 0}, {stopDescriptor, POLLIN, 0}}};
     const int ready = ::poll(descriptors.data(), descriptors.size(), timeout);
     return ready <= 0 || (descriptors[1].revents & POLLIN) == 0;
 }
 
 void HelperDaemon::processMessages()
 {
-    while (m_connection.processPendingRequest()) {
+    while (bus::processOne(m_connection)) {
     }
 }
 

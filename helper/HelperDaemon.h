@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "contract/SdBus.h"
 #include "helper/AddressChange.h"
 #include "helper/BusCallers.h"
 #include "helper/IdlePeriod.h"
 #include "helper/PolkitAuthority.h"
 #include "helper/PrivilegedRequests.h"
-
-#include <sdbus-c++/sdbus-c++.h>
 
 #include <chrono>
 #include <functional>

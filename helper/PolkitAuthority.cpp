@@ -41,7 +41,7 @@ bool isYes(sdbus::MethodReply &reply, const sdbus::Error *error)
 } // namespace
 
 PolkitAuthority::PolkitAuthority(sdbus::IConnection &connection)
-    : m_polkit{sdbus::createProxy(connection, polkitName, polkitPath)}
+    : m_polkit{sdbus::createProxy(connection, bus::Name{polkitName}, bus::Path{polkitPath})}
 {
 }
 
@@ -49,11 +49,12 @@ void PolkitAuthority::authorize(const std::string &caller, const std::string &ac
     const Details &details, const std::string &check, Answer answer)
 {
     try {
-        auto call = m_polkit->createMethodCall(polkitInterface, "CheckAuthorization");
+        auto call = m_polkit->createMethodCall(
+            bus::Interface{polkitInterface}, bus::Member{"CheckAuthorization"});
         const Subject subject{"system-bus-name", {{"name", sdbus::Variant{caller}}}};
         call << subject << action << details << allowUserInteraction << check;
-        m_polkit->callMethod(
-            call,
+        bus::callLater(
+            *m_polkit, call,
             [this, check, answer](sdbus::MethodReply &reply, const sdbus::Error *error) {
                 if (error != nullptr) {
                     // After the time limit the prompt would still be open.
@@ -71,11 +72,12 @@ void PolkitAuthority::authorize(const std::string &caller, const std::string &ac
 void PolkitAuthority::cancel(const std::string &check)
 {
     try {
-        auto call = m_polkit->createMethodCall(polkitInterface, "CancelCheckAuthorization");
+        auto call = m_polkit->createMethodCall(
+            bus::Interface{polkitInterface}, bus::Member{"CancelCheckAuthorization"});
         call << check;
         // An error only means that there was nothing left to cancel.
-        m_polkit->callMethod(
-            call, [](sdbus::MethodReply &, const sdbus::Error *) {}, decisionTime);
+        bus::callLater(
+            *m_polkit, call, [](sdbus::MethodReply &, const sdbus::Error *) {}, decisionTime);
     } catch (const sdbus::Error &error) {
         logLine("polkit cannot be asked: " + harmless(error.getName()));
     }

@@ -20,8 +20,8 @@ void tell(sdbus::IConnection &connection, const char *name, const char *path, co
     const char *method)
 {
     try {
-        const auto proxy = sdbus::createProxy(connection, name, path);
-        const auto call = proxy->createMethodCall(interface, method);
+        const auto proxy = sdbus::createProxy(connection, bus::Name{name}, bus::Path{path});
+        const auto call = proxy->createMethodCall(bus::Interface{interface}, bus::Member{method});
         proxy->callMethod(call, answerTime);
     } catch (const sdbus::Error &error) {
         logLine(std::string{method} + " of " + name + ": " + harmless(error.getName()));
@@ -31,9 +31,10 @@ void tell(sdbus::IConnection &connection, const char *name, const char *path, co
 bool isThere(sdbus::IConnection &connection, const std::string &name)
 {
     try {
-        const auto proxy =
-            sdbus::createProxy(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus");
-        auto call = proxy->createMethodCall("org.freedesktop.DBus", "NameHasOwner");
+        const auto proxy = sdbus::createProxy(
+            connection, bus::Name{"org.freedesktop.DBus"}, bus::Path{"/org/freedesktop/DBus"});
+        auto call = proxy->createMethodCall(
+            bus::Interface{"org.freedesktop.DBus"}, bus::Member{"NameHasOwner"});
         call << name;
         auto reply = proxy->callMethod(call, answerTime);
         bool owned = false;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <sdbus-c++/sdbus-c++.h>
+#include "contract/SdBus.h"
 
 #include <memory>
 

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Interfaces.h"
 #include "contract/Names.h"
-
-#include <sdbus-c++/sdbus-c++.h>
+#include "contract/SdBus.h"
 
 #include <array>
 #include <cerrno>
@@ -21,6 +20,7 @@
 
 namespace {
 
+namespace bus = quillon::bus;
 namespace contract = quillon::contract;
 
 bool isTold(sdbus::Message &signal)
@@ -58,13 +58,13 @@ int startProgram()
 
 // Until the program says that it has seen us, or has ended without saying so. Throws when the
 // bus is gone.
-void waitFor(sdbus::IConnection &bus, const bool &told, int program)
+void waitFor(sdbus::IConnection &connection, const bool &told, int program)
 {
     while (!told) {
-        if (bus.processPendingRequest()) {
+        if (bus::processOne(connection)) {
             continue;
         }
-        const auto data = bus.getEventLoopPollData();
+        const auto data = connection.getEventLoopPollData();
         std::array<pollfd, 2> entries{pollfd{data.fd, data.events, 0}, pollfd{program, POLLIN, 0}};
         const int ready = poll(entries.data(), entries.size(), data.getPollTimeout());
         if ((ready < 0 && errno != EINTR) || (ready > 0 && entries[1].revents != 0)) {
@@ -82,21 +82,21 @@ int main()
         return 1;
     }
     try {
-        const auto bus = sdbus::createSessionBusConnection();
+        const auto connection = sdbus::createSessionBusConnection();
         bool told = false;
         const std::string match = std::string("type='signal',interface='") +
                                   contract::distributed::interface + "',member='" +
                                   contract::distributed::posted.name + "',path='" +
                                   contract::distributed::path + "'";
-        const auto listening = bus->addMatch(
-            match, [&told](sdbus::Message &signal) { told = told || isTold(signal); });
+        const auto listening = bus::listen(
+            *connection, match, [&told](sdbus::Message &signal) { told = told || isTold(signal); });
         // The name comes before the program, which looks for it as soon as it starts.
-        bus->requestName(contract::loginHelperName);
+        connection->requestName(bus::Name{contract::loginHelperName});
         const int program = startProgram();
         if (program < 0) {
             return 1;
         }
-        waitFor(*bus, told, program);
+        waitFor(*connection, told, program);
     } catch (const sdbus::Error &error) {
         // No session bus, another login item that runs already, or the end of the session.
         std::fprintf(stderr, "%s\n", error.what());

@@ -5,6 +5,7 @@
 #include "contract/Names.h"
 #include "service/PollLoop.h"
 
+#include <chrono>
 #include <cstdio>
 #include <utility>
 
@@ -12,7 +13,7 @@ namespace quillon::service {
 
 namespace {
 
-constexpr std::uint64_t microsecondsPerMillisecond = 1000;
+constexpr std::chrono::milliseconds startLimit{contract::helperStartLimit};
 
 std::string answerText(sdbus::MethodReply &answer)
 {
@@ -64,7 +65,8 @@ bool HelperContact::connect()
     m_lost = false;
     try {
         m_bus = sdbus::createSystemBusConnection();
-        m_helper = sdbus::createProxy(*m_bus, contract::helperName, contract::helper::path);
+        m_helper = sdbus::createProxy(
+            *m_bus, bus::Name{contract::helperName}, bus::Path{contract::helper::path});
     } catch (const sdbus::Error &error) {
         std::fprintf(stderr, "No system bus: %s\n", error.what());
         m_helper.reset();
@@ -82,16 +84,17 @@ void HelperContact::ask(const contract::Method &method, Accept accept, TextReply
         return;
     }
     try {
-        const auto call = m_helper->createMethodCall(contract::helper::interface, method.name);
-        m_helper->callMethod(
-            call,
+        const auto call = m_helper->createMethodCall(
+            bus::Interface{contract::helper::interface}, bus::Member{method.name});
+        bus::callLater(
+            *m_helper, call,
             [accept = std::move(accept), reply](
                 sdbus::MethodReply &answer, const sdbus::Error *error) {
                 const std::string text = error ? std::string() : answerText(answer);
-                const bool accepted = !text.empty() && accept(text, answer.getSender());
+                const bool accepted = !text.empty() && accept(text, bus::senderOf(answer));
                 reply(accepted ? text : std::string());
             },
-            contract::helperStartLimit * microsecondsPerMillisecond);
+            startLimit);
     } catch (const sdbus::Error &error) {
         std::fprintf(stderr, "The helper cannot be asked: %s\n", error.what());
         reply({});

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/PollLoop.h"
 
-#include <sdbus-c++/Error.h>
+#include "contract/SdBus.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -33,17 +33,17 @@ void PollLoop::unwatch(int descriptor)
     m_descriptors.erase(descriptor);
 }
 
-bool PollLoop::processBus(sdbus::IConnection &bus)
+bool PollLoop::processBus(sdbus::IConnection &connection)
 {
     bool happened = false;
     try {
-        while (bus.processPendingRequest()) {
+        while (bus::processOne(connection)) {
             happened = true;
         }
     } catch (const sdbus::Error &error) {
         std::fprintf(stderr, "The bus broke off: %s\n", error.what());
-        const auto lost = m_buses[&bus];
-        m_buses.erase(&bus);
+        const auto lost = m_buses[&connection];
+        m_buses.erase(&connection);
         lost();
     }
     return happened;

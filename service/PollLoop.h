@@ -29,7 +29,7 @@ public:
     bool processBuses();
 
 private:
-    bool processBus(sdbus::IConnection &bus);
+    bool processBus(sdbus::IConnection &connection);
 
     std::map<sdbus::IConnection *, std::function<void()>> m_buses;
     std::map<int, std::function<void()>> m_descriptors;

@@ -44,26 +44,21 @@ void send(const Reply &reply)
 Service::Service(PollLoop &loop, sdbus::IConnection &sessionBus, std::string tool)
     : m_helper(loop)
     , m_installation(loop, std::move(tool))
-    , m_object(sdbus::createObject(sessionBus, contract::service::path))
-    , m_notifications(sdbus::createObject(sessionBus, contract::distributed::path))
+    , m_object(sdbus::createObject(sessionBus, bus::Path{contract::service::path}))
+    , m_notifications(sdbus::createObject(sessionBus, bus::Path{contract::distributed::path}))
 {
-    const auto offer = [this](const contract::Method &method, sdbus::method_callback callback) {
-        m_object->registerMethod(contract::service::interface, method.name, method.inputSignature,
-            {method.inputNames.begin(), method.inputNames.end()}, method.outputSignature,
-            {method.outputNames.begin(), method.outputNames.end()}, std::move(callback));
-    };
-    offer(contract::service::installHelperTool,
-        [this](sdbus::MethodCall call) { installHelperTool(std::move(call)); });
-    offer(contract::service::setupAuthorizationRights,
-        [this](sdbus::MethodCall call) { setupAuthorizationRights(std::move(call)); });
-    offer(contract::service::connectWithEndpointAndAuthorization,
-        [this](sdbus::MethodCall call) { connectWithEndpointAndAuthorization(std::move(call)); });
-    m_object->finishRegistration();
-    const contract::Signal &posted = contract::distributed::posted;
-    m_notifications->registerSignal(contract::distributed::interface, posted.name, posted.signature,
-        {posted.names.begin(), posted.names.end()});
-    m_notifications->finishRegistration();
-    sessionBus.requestName(contract::serviceName);
+    bus::publish(*m_object, contract::service::interface,
+        {{contract::service::installHelperTool,
+             [this](sdbus::MethodCall call) { installHelperTool(std::move(call)); }},
+            {contract::service::setupAuthorizationRights,
+                [this](sdbus::MethodCall call) { setupAuthorizationRights(std::move(call)); }},
+            {contract::service::connectWithEndpointAndAuthorization,
+                [this](sdbus::MethodCall call) {
+                    connectWithEndpointAndAuthorization(std::move(call));
+                }}});
+    bus::publish(
+        *m_notifications, contract::distributed::interface, {}, {contract::distributed::posted});
+    sessionBus.requestName(bus::Name{contract::serviceName});
 }
 
 void Service::begin()
@@ -81,7 +76,7 @@ void Service::answer(const sdbus::MethodCall &call)
 void Service::refuse(const sdbus::MethodCall &call, const char *name, const std::string &message)
 {
     --m_openRequests;
-    send(call.createErrorReply(sdbus::Error(name, message)));
+    send(call.createErrorReply(sdbus::Error(bus::ErrorName{name}, message)));
 }
 
 void Service::installHelperTool(sdbus::MethodCall call)
@@ -151,8 +146,8 @@ void Service::connectWithEndpointAndAuthorization(sdbus::MethodCall call)
 
 void Service::announceHelperUpdated()
 {
-    auto signal = m_notifications->createSignal(
-        contract::distributed::interface, contract::distributed::posted.name);
+    auto signal = m_notifications->createSignal(bus::Interface{contract::distributed::interface},
+        bus::Member{contract::distributed::posted.name});
     signal << std::string(contract::helperUpdated) << std::string(contract::helperUpdatedObject);
     m_notifications->emitSignal(signal);
 }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "contract/SdBus.h"
 #include "service/HelperContact.h"
 #include "service/HelperInstallation.h"
-
-#include <sdbus-c++/sdbus-c++.h>
 
 #include <memory>
 #include <string>

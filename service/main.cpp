@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
+#include "contract/SdBus.h"
 #include "service/PollLoop.h"
 #include "service/Service.h"
-
-#include <sdbus-c++/sdbus-c++.h>
 
 #include <chrono>
 #include <csignal>
@@ -40,10 +39,10 @@ void serve(quillon::service::PollLoop &loop, const quillon::service::Service &se
 }
 
 // A request from now on starts a new service; those that came before are still answered here.
-void finish(quillon::service::PollLoop &loop, sdbus::IConnection &bus,
+void finish(quillon::service::PollLoop &loop, sdbus::IConnection &connection,
     const quillon::service::Service &service, const bool &sessionEnded)
 {
-    bus.releaseName(quillon::contract::serviceName);
+    connection.releaseName(quillon::bus::Name{quillon::contract::serviceName});
     loop.processBuses();
     while (service.isBusy() && !sessionEnded) {
         loop.waitOnce(std::nullopt);

@@ -39,8 +39,10 @@ std::vector<std::uint8_t> someAuthorization()
 
 BusClient::BusClient(const std::string &user)
     : m_connection{connectAs(user)}
-    , m_helper{sdbus::createProxy(*m_connection, contract::helperName, contract::helper::path)}
-    , m_bus{sdbus::createProxy(*m_connection, "org.freedesktop.DBus", "/org/freedesktop/DBus")}
+    , m_helper{sdbus::createProxy(
+          *m_connection, bus::Name{contract::helperName}, bus::Path{contract::helper::path})}
+    , m_bus{sdbus::createProxy(
+          *m_connection, bus::Name{"org.freedesktop.DBus"}, bus::Path{"/org/freedesktop/DBus"})}
 {
 }
 
@@ -53,7 +55,8 @@ BusClient::~BusClient()
 
 sdbus::MethodCall BusClient::callOf(const contract::Method &method)
 {
-    return m_helper->createMethodCall(contract::helper::interface, method.name);
+    return m_helper->createMethodCall(
+        bus::Interface{contract::helper::interface}, bus::Member{method.name});
 }
 
 std::string BusClient::send(sdbus::MethodCall &call)
@@ -100,9 +103,9 @@ std::string BusClient::uninstall(const std::vector<std::uint8_t> &authorization)
 std::string BusClient::call(const std::string &destination, const std::string &path,
     const std::string &interface, const std::string &method)
 {
-    const auto proxy = sdbus::createProxy(*m_connection, destination, path);
+    const auto proxy = sdbus::createProxy(*m_connection, bus::Name{destination}, bus::Path{path});
     try {
-        const auto call = proxy->createMethodCall(interface, method);
+        const auto call = proxy->createMethodCall(bus::Interface{interface}, bus::Member{method});
         auto reply = proxy->callMethod(call, patience);
         std::string text = done;
         if (!reply.isEmpty()) {
@@ -122,11 +125,11 @@ void BusClient::changeLater(const std::string &device, const std::string &addres
     }
     auto call = callOf(contract::helper::changeAddressOfDevice);
     call << device << address << false << someAuthorization();
-    m_helper->callMethod(
-        call,
+    bus::callLater(
+        *m_helper, call,
         [this](sdbus::MethodReply &, const sdbus::Error *error) {
             const std::lock_guard lock{m_mutex};
-            ++m_answers[error == nullptr ? done : error->getName()];
+            ++m_answers[error == nullptr ? done : std::string{error->getName()}];
         },
         patience);
 }

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "contract/Interfaces.h"
-
-#include <sdbus-c++/sdbus-c++.h>
+#include "contract/SdBus.h"
 
 #include <cstdint>
 #include <map>

@@ -11,26 +11,28 @@ namespace quillon::test {
 namespace {
 
 constexpr char interface[] = "org.freedesktop.PolicyKit1.Authority";
+constexpr contract::Method checkAuthorization{
+    "CheckAuthorization", "(sa{sv})sa{ss}us", {}, "(bba{ss})", {}};
+constexpr contract::Method cancelCheckAuthorization{"CancelCheckAuthorization", "s", {}, "", {}};
 
 } // namespace
 
 FakePolkit::FakePolkit(Decision decision)
     : m_decision{std::move(decision)}
     , m_connection{connectAs("polkitd")}
-    , m_object{sdbus::createObject(*m_connection, "/org/freedesktop/PolicyKit1/Authority")}
+    , m_object{
+          sdbus::createObject(*m_connection, bus::Path{"/org/freedesktop/PolicyKit1/Authority"})}
 {
-    m_object->registerMethod(interface, "CheckAuthorization", "(sa{sv})sa{ss}us", "(bba{ss})",
-        [this](sdbus::MethodCall call) { check(std::move(call)); });
-    m_object->registerMethod(
-        interface, "CancelCheckAuthorization", "s", "", [this](sdbus::MethodCall call) {
-            std::string id;
-            call >> id;
-            const std::lock_guard lock{m_mutex};
-            m_cancelled.push_back(id);
-            call.createReply().send();
-        });
-    m_object->finishRegistration();
-    m_connection->requestName("org.freedesktop.PolicyKit1");
+    bus::publish(*m_object, interface,
+        {{checkAuthorization, [this](sdbus::MethodCall call) { check(std::move(call)); }},
+            {cancelCheckAuthorization, [this](sdbus::MethodCall call) {
+                 std::string id;
+                 call >> id;
+                 const std::lock_guard lock{m_mutex};
+                 m_cancelled.push_back(id);
+                 call.createReply().send();
+             }}});
+    m_connection->requestName(bus::Name{"org.freedesktop.PolicyKit1"});
     m_connection->enterEventLoopAsync();
 }
 
@@ -66,7 +68,8 @@ void FakePolkit::check(sdbus::MethodCall call)
         m_open.push_back(call);
         break;
     case Answer::Error:
-        call.createErrorReply(sdbus::Error{"org.freedesktop.PolicyKit1.Error.Failed", "broken"})
+        call.createErrorReply(
+                sdbus::Error{bus::ErrorName{"org.freedesktop.PolicyKit1.Error.Failed"}, "broken"})
             .send();
         break;
     case Answer::Nonsense: {
