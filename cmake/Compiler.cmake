@@ -27,8 +27,10 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverl
 if(QUILLON_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()
+# The oldest Qt that we build with is the measure: what a later one deprecates often has no successor
+# that the oldest has too.
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
-    QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_WARN_DEPRECATED_UP_TO=0x060400)
 add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 
 if(QUILLON_FUZZ)
@@ -44,5 +46,3 @@ elseif(QUILLON_SANITIZE)
 elseif(CMAKE_BUILD_TYPE STREQUAL "Release" OR CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo")
     add_compile_definitions(_FORTIFY_SOURCE=2)
 endif()
-
-find_program(CLANG_TIDY clang-tidy)
