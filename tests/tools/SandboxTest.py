@@ -253,10 +253,12 @@ class SandboxWebTest(unittest.TestCase):
 
     def test_its_authority_is_nothing_outside(self):
         self.asked({}, self.address)
-        authority = glob.glob(os.path.join(BUILD, "sandbox-authority-*/authority.pem"))
-        self.assertEqual(len(authority), 1)
-        with open(authority[0]) as file, open("/etc/ssl/certs/ca-certificates.crt") as trusted:
-            self.assertNotIn(file.read(), trusted.read())
+        # More than one when the build's hosts, or what is made for them, have changed since the first.
+        authorities = glob.glob(os.path.join(BUILD, "sandbox-authority-*/authority.pem"))
+        self.assertTrue(authorities)
+        for authority in authorities:
+            with open(authority) as file, open("/etc/ssl/certs/ca-certificates.crt") as trusted:
+                self.assertNotIn(file.read(), trusted.read())
         self.assertFalse(os.path.lexists("/etc/ssl/certs/quillon-sandbox.pem"))
         if os.path.exists("/etc/hosts"):  # a minimal system has none
             with open("/etc/hosts") as file:

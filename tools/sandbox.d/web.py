@@ -21,9 +21,21 @@ ADDRESS = "127.0.0.1"
 # other names, one whose certificate is too old, one whose authority nobody knows.
 TRUSTED, WRONG_NAME, EXPIRED, UNTRUSTED = (
     "trusted.test", "wrong-name.test", "expired.test", "untrusted.test")
-FORMAT = "1"  # raised whenever make() makes something else
+FORMAT = "2"  # raised whenever make() makes something else
 DAYS = "3650"
 TRUST_STORE = "/etc/ssl/certs"
+CA_CONFIG = """\
+[ca]
+default_ca = past
+[past]
+database = {folder}/index
+serial = {folder}/serial
+default_md = sha256
+copy_extensions = copy
+policy = any
+[any]
+commonName = supplied
+"""
 KEY = ("-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-nodes")
 
 
@@ -115,11 +127,19 @@ def make(folder, names):
                 "-addext", "keyUsage=critical,keyCertSign", "-keyout", f"{issuer}.key", "-out", f"{issuer}.pem")
     sign("site", "authority", *(f"DNS:{name}" for name in (*names, TRUSTED, "localhost")), f"IP:{ADDRESS}")
     sign(UNTRUSTED, "stranger", f"DNS:{UNTRUSTED}")
-    # "req" signs for the future only.
+    # Of the commands that sign, only "ca" takes an end in the past in every version of OpenSSL 3.
     openssl("req", *KEY, "-subj", f"/CN={EXPIRED}", "-addext", f"subjectAltName=DNS:{EXPIRED}",
             "-keyout", f"{EXPIRED}.key", "-out", "request")
-    openssl("x509", "-req", "-in", "request", "-CA", "authority.pem", "-CAkey", "authority.key",
-            "-copy_extensions", "copy", "-days", "-1", "-out", f"{EXPIRED}.pem")
+    with tempfile.TemporaryDirectory() as register:
+        with open(os.path.join(register, "config"), "w") as file:
+            file.write(CA_CONFIG.format(folder=register))
+        open(os.path.join(register, "index"), "w").close()
+        with open(os.path.join(register, "serial"), "w") as file:
+            file.write("01\n")
+        openssl("ca", "-batch", "-notext", "-config", os.path.join(register, "config"),
+                "-cert", "authority.pem", "-keyfile", "authority.key", "-outdir", register,
+                "-startdate", "20200101000000Z", "-enddate", "20210101000000Z",
+                "-in", "request", "-out", f"{EXPIRED}.pem")
     with open(os.path.join(folder, "hash"), "w") as file:
         file.write(openssl("x509", "-in", "authority.pem", "-noout", "-hash"))
     os.unlink(os.path.join(folder, "request"))

@@ -6,6 +6,7 @@
 
 #include <plist/plist.h>
 
+#include <cstdlib>
 #include <sys/stat.h>
 
 namespace quillon {
@@ -32,7 +33,7 @@ QByteArray asBinary(const QVariantMap &values)
     uint32_t length = 0;
     plist_to_bin(root, &bytes, &length);
     const QByteArray result(bytes, static_cast<qsizetype>(length));
-    plist_to_bin_free(bytes);
+    std::free(bytes);
     plist_free(root);
     return result;
 }

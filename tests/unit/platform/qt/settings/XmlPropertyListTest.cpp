@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <plist/plist.h>
 
+#include <cstdlib>
 #include <string>
 
 namespace quillon {
@@ -35,7 +36,7 @@ QByteArray madeByAnotherLibrary(const QVariantMap &values)
     uint32_t length = 0;
     plist_to_xml(root, &bytes, &length);
     QByteArray result(bytes, static_cast<qsizetype>(length));
-    plist_to_xml_free(bytes);
+    std::free(bytes);
     plist_free(root);
     return result;
 }
