@@ -18,9 +18,7 @@ constexpr mode_t folderMode = 0755;
 
 std::string problemOf(int descriptor, const std::string &path, uid_t owner)
 {
-    struct stat status
-    {
-    };
+    struct stat status{};
     if (fstat(descriptor, &status) != 0) {
         return path + ": " + std::strerror(errno);
     }

@@ -80,9 +80,7 @@ Installation::Installation(std::string root, InstallationLayout layout, uid_t ow
 
 bool Installation::exists(const std::string &path) const
 {
-    struct stat status
-    {
-    };
+    struct stat status{};
     return fstatat(AT_FDCWD, (m_root + path).c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
@@ -99,9 +97,7 @@ bool Installation::isInstalled() const
 
 std::string Installation::problemWithTarget(int folder, const std::string &name) const
 {
-    struct stat status
-    {
-    };
+    struct stat status{};
     if (fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
         return errno == ENOENT ? std::string{} : failure(name);
     }

@@ -38,8 +38,7 @@ int openChild(pid_t child)
 // One line of printable ASCII: it goes into an error that programs log.
 std::string printable(std::string text)
 {
-    std::ranges::replace_if(
-        text, [](unsigned char c) { return c < 0x20 || c > 0x7e; }, ' ');
+    std::ranges::replace_if(text, [](unsigned char c) { return c < 0x20 || c > 0x7e; }, ' ');
     while (!text.empty() && text.back() == ' ') {
         text.pop_back();
     }

@@ -145,9 +145,8 @@ private:
             return false;
         }
         if (!m_isOurs || !m_peer.serviceExists) {
-            m_peer.answer([errorHandler] {
-                errorHandler({busErrorDomain, 0, u"no such service"_s});
-            });
+            m_peer.answer(
+                [errorHandler] { errorHandler({busErrorDomain, 0, u"no such service"_s}); });
             return false;
         }
         if (m_peer.serviceHangs) {

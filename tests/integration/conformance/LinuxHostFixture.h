@@ -31,7 +31,7 @@ public:
     {
         const QString neighbor = QStringLiteral("far-") + device;
         command(QStringLiteral("ip link add %1 address %2 type veth peer name %3")
-                    .arg(device, address, neighbor));
+                .arg(device, address, neighbor));
         command(QStringLiteral("ip link set %1 up").arg(neighbor));
         m_plugged << device;
     }
@@ -72,7 +72,7 @@ public:
     void setLink(const QString &device, bool up) override
     {
         command(QStringLiteral("ip link set %1 %2")
-                    .arg(device, up ? QStringLiteral("up") : QStringLiteral("down")));
+                .arg(device, up ? QStringLiteral("up") : QStringLiteral("down")));
     }
     // The kernel follows a cable a moment later.
     bool soon(const std::function<bool()> &condition) override { return eventually(condition); }

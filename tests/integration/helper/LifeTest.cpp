@@ -56,10 +56,7 @@ protected:
     std::unique_ptr<sdbus::IConnection> connection = sdbus::createSystemBusConnection();
     NetlinkKernelLink kernel;
     HelperDaemon daemon{*connection, kernel,
-        [] {
-            return Outcome{Refusal{contract::error::ownedByPackage, "package"}};
-        },
-        idlePeriod};
+        [] { return Outcome{Refusal{contract::error::ownedByPackage, "package"}}; }, idlePeriod};
     std::atomic<bool> ended = false;
     bool started = false;
     std::thread thread;

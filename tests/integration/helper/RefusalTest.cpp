@@ -89,7 +89,7 @@ TEST_F(RefusalTest, refusesEveryPrivilegedMethodToAnUnauthorizedUser)
     int refused = 0;
     const auto end = ours.substr(0, ours.find("</interface>"));
     for (std::sregex_iterator match{end.begin(), end.end(), method};
-         match != std::sregex_iterator{}; ++match) {
+        match != std::sregex_iterator{}; ++match) {
         const auto name = (*match)[1].str();
         if (open.count(name) == 0) {
             // A method that is added later must be added here, and refuse.

@@ -223,9 +223,8 @@ TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
     silenceHelper();
     create();
     StateOrder order;
-    order.expect(u"devices offered"_s, [this] {
-        return window().devices == QStringList{enp1s0, enp2s0};
-    });
+    order.expect(
+        u"devices offered"_s, [this] { return window().devices == QStringList{enp1s0, enp2s0}; });
     order.expect(
         u"network changes followed"_s, [this] { return machine.networkChanges.isStarted(); });
     order.follow(features().mainWindow, &MainWindowModel::changed);

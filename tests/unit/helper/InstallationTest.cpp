@@ -60,9 +60,7 @@ protected:
     {
         std::vector<std::string> lines;
         for (const auto &entry : fs::recursive_directory_iterator(root)) {
-            struct stat status
-            {
-            };
+            struct stat status{};
             lstat(entry.path().c_str(), &status);
             const auto path = entry.path().string().substr(root.size());
             lines.push_back(path + ' ' + std::to_string(status.st_mode) + ' ' +
@@ -101,9 +99,7 @@ TEST_F(InstallationTest, putsTheProgramAndItsFilesInPlace)
     EXPECT_THAT(read(policy), HasSubstr(tool));
     EXPECT_THAT(
         read("/etc/dbus-1/system.d/com.orvandel.Quillon4HelperTool.conf"), HasSubstr("busconfig"));
-    struct stat status
-    {
-    };
+    struct stat status{};
     stat((root + tool).c_str(), &status);
     EXPECT_EQ(status.st_mode & 07777U, 0755U);
     stat((root + unit).c_str(), &status);

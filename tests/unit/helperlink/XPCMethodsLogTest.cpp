@@ -30,9 +30,7 @@ TEST_F(XPCMethodsLog, TakesTheTextForNoFormat)
 
 TEST_F(XPCMethodsLog, FillsAFormatInOrder)
 {
-    EXPECT_EQ(logOf([this] {
-        xpc->logWithFormat(u"%d of %@, %@"_s, {u"1"_s, u"%@"_s, u"x"_s});
-    }),
+    EXPECT_EQ(logOf([this] { xpc->logWithFormat(u"%d of %@, %@"_s, {u"1"_s, u"%@"_s, u"x"_s}); }),
         QStringList{line("1 of %@, x")});
     EXPECT_EQ(
         logOf([this] { xpc->logWithFormat(u"%@ %d %"_s, {}); }), QStringList{line("%@ %d %")});
@@ -40,9 +38,7 @@ TEST_F(XPCMethodsLog, FillsAFormatInOrder)
 
 TEST_F(XPCMethodsLog, WritesAnErrorAsDomainAndCode)
 {
-    EXPECT_EQ(logOf([this] {
-        xpc->logError(Error{u"Some.Domain"_s, -7, {}});
-    }),
+    EXPECT_EQ(logOf([this] { xpc->logError(Error{u"Some.Domain"_s, -7, {}}); }),
         QStringList{line("error Some.Domain / -7\n")});
 }
 

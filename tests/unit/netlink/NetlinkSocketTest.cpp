@@ -233,8 +233,8 @@ TEST(NetlinkSocket, AFaultIsNotWaitedFor)
     }
     const FakeKernel tooLarge([](quint32 sequence, const auto &send) {
         send(links(sequence, 1)
-                 .attribute(1, QByteArray(60'000, 'x'))
-                 .attribute(2, QByteArray(60'000, 'x')));
+                .attribute(1, QByteArray(60'000, 'x'))
+                .attribute(2, QByteArray(60'000, 'x')));
     });
     NetlinkSocket socket(tooLarge.descriptor(), routing);
     EXPECT_EQ(Reading(socket).answer.error, EMSGSIZE);

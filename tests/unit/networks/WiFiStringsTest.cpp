@@ -43,7 +43,7 @@ TEST(WiFiStrings, NameTheSecurityTypes)
 TEST(WiFiStrings, CallSecurityFromElevenOnUnknown)
 {
     for (int security = WiFiInterface::WPA3Personal; security <= WiFiInterface::OWETransition;
-         ++security) {
+        ++security) {
         EXPECT_EQ(securityStringForNetwork(security), u"Unknown"_s) << security;
     }
     expectOtherwise(securityStringForNetwork, "Unknown");

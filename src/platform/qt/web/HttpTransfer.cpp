@@ -238,8 +238,7 @@ std::optional<Error> HttpTransfer::failure() const
 
 void HttpTransfer::failSoon(const Error &error)
 {
-    QMetaObject::invokeMethod(
-        this, [this, error] { end(error); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this, error] { end(error); }, Qt::QueuedConnection);
 }
 
 void HttpTransfer::end(const Error &error)

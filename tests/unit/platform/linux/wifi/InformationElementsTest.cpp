@@ -57,7 +57,7 @@ TEST(InformationElements, BasicRatesOf11bAreNotOrthogonal)
 {
     EXPECT_FALSE(read(element(1, QByteArray::fromHex("82848b96"))).orthogonalRates);
     EXPECT_TRUE(read(element(1, QByteArray::fromHex("8284")) + element(50, QByteArray(1, 0x6c)))
-                    .orthogonalRates);
+            .orthogonalRates);
     EXPECT_TRUE(read(element(1, QByteArray::fromHex("8c"))).orthogonalRates)
         << "a basic rate of it";
 }
