@@ -72,6 +72,20 @@ class CheckLayersTest(unittest.TestCase):
         self.write("src/app/Model.cpp", '#include "contract/Names.h"')
         self.assert_only_problem("src/app/Model.cpp:1: app must not include contract")
 
+    def test_refuses_the_helpers_d_bus_library_in_the_program(self):
+        self.write("contract/SdBus.h", "#include <sdbus-c++/sdbus-c++.h>")
+        self.write("helper/main.cpp", '#include "contract/SdBus.h"')
+        self.write("src/platform/linux/bus/Link.cpp", '#include "contract/SdBus.h"')
+        self.assert_only_problem("src/platform/linux/bus/Link.cpp:1: src/platform/linux/bus/Link.cpp must not include "
+                                 "contract/SdBus.h")
+
+    def test_refuses_the_composition_of_a_feature_in_the_rest_of_app(self):
+        self.write("src/app/features/RuleFeature.h")
+        self.write("src/app/EventWiring.cpp", '#include "app/features/RuleFeature.h"')
+        self.write("src/app/Termination.cpp", '#include "app/features/RuleFeature.h"')
+        self.assert_only_problem("src/app/Termination.cpp:1: src/app/Termination.cpp must not include "
+                                 "src/app/features/RuleFeature.h")
+
     def test_refuses_a_model_that_looks_sideways(self):
         self.write("src/presentation/rules/ListModel.h")
         self.write("src/presentation/window/Model.cpp", '#include "presentation/rules/ListModel.h"')
