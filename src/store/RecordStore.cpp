@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/RecordStore.h"
 
+#include "base/DurableFolder.h"
 #include "base/Localized.h"
 #include "base/Log.h"
 #include "store/model/QuillonModel.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <cstdlib>
 #include <utility>
@@ -17,17 +17,6 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Makes the folder for its owner alone: records tell where somebody has been. What prevents it
-/// shows when the file is opened.
-void makeFolder(const QString &folder)
-{
-    const QFileInfo info(folder);
-    if (!info.exists() && QDir().mkpath(info.path())) {
-        QDir().mkdir(
-            folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    }
-}
 
 QString logLine(const Error &error, const QString &path)
 {
@@ -70,7 +59,9 @@ void RecordStore::refreshPersistentContainer()
 
 std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
-    makeFolder(m_folder);
+    // For its owner alone: records tell where somebody has been. What prevents it shows when the
+    // file is opened.
+    makeFolder(m_folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     const QString path = QDir(m_folder).filePath(u"Quillon.sqlite"_s);
     auto opened = ManagedObjectContext::open(quillonModel(), path, m_scheduler);
     if (!opened) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorEntries.h"
 
-#include "store/model/Predicate.h"
+#include "base/FoldedText.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordFileOpening.h"
 
+#include "base/DurableFolder.h"
 #include "store/file/FetchSql.h"
 #include "store/file/RecordFile.h"
+#include "store/file/RecordFileHeader.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QtEndian>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
-#include <array>
-#include <cstring>
-#include <optional>
 #include <sqlite3.h>
 
 namespace quillon {
@@ -23,15 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int applicationId = 0x51756c6e; // "Quln", in the header that SQLite leaves to programs
 constexpr int busyTimeoutMs = 1000;
+// The change to WAL is tried so often, with pauses, as long as for any lock.
+constexpr int logTries = 50;
+constexpr int pauseBetweenTriesMs = busyTimeoutMs / logTries;
 // Reading a larger file whole would hold up the launch; its damage shows when the page is read.
 constexpr qint64 largestQuickCheck = 16LL * 1024 * 1024;
-
-[[noreturn]] void refuse(RecordFileError code, const QString &message)
-{
-    throw RefusedFile{recordFileError(code, message)};
-}
 
 int number(SQLite::Database &database, const std::string &query)
 {
@@ -45,77 +40,21 @@ int number(SQLite::Database &database, const std::string &query)
 void makeWhenMissing(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo::exists(path) &&
-        !file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
-        !QFileInfo::exists(path)) {
-        refuse(RecordFileError::CannotOpen,
-            u"The file \"%1\" cannot be opened: %2"_s.arg(path, file.errorString()));
+    if (!QFileInfo::exists(path)) {
+        const bool isMade =
+            file.open(QFile::WriteOnly | QFile::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+        if (!isMade && !QFileInfo::exists(path)) {
+            refuse(RecordFileError::CannotOpen,
+                u"The file \"%1\" cannot be opened: %2"_s.arg(path, file.errorString()));
+        }
+        // Before anything is saved in it: SQLite cares for the names of its log and journal alone.
+        syncFolder(QFileInfo(path).path());
     }
     const QFileInfo info(path);
     if (!info.isFile() || !info.isReadable()) {
         refuse(RecordFileError::CannotOpen,
             u"The file \"%1\" cannot be opened: %2"_s.arg(
                 path, info.isFile() ? u"it may not be read"_s : u"it is not a file"_s));
-    }
-}
-
-using FileHeader = std::array<unsigned char, 100>;
-
-/// As it is in the file itself, read by SQLite's own descriptor: a log or journal beside it counts
-/// only once we know whose it is. Nothing while the file is empty.
-std::optional<FileHeader> headerOf(SQLite::Database &database, const QString &path)
-{
-    const qint64 size = QFileInfo(path).size();
-    if (size == 0) {
-        return std::nullopt;
-    }
-    FileHeader header{};
-    sqlite3_file *file = nullptr;
-    // SQLite takes a file of one byte for an empty one.
-    const bool isRead =
-        size >= qint64{header.size()} &&
-        sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) ==
-            SQLITE_OK &&
-        file->pMethods &&
-        file->pMethods->xRead(file, header.data(), static_cast<int>(header.size()), 0) == SQLITE_OK;
-    if (!isRead || std::memcmp(header.data(), "SQLite format 3", 16) != 0) {
-        refuse(RecordFileError::NotARecordFile, u"The file \"%1\" is not a database."_s.arg(path));
-    }
-    return header;
-}
-
-[[noreturn]] void refuseForeign(const QString &path)
-{
-    refuse(RecordFileError::NotARecordFile,
-        u"The database \"%1\" does not hold records of Quillon."_s.arg(path));
-}
-
-[[noreturn]] void refuseNewer(const QString &path, int version, int knownVersion)
-{
-    refuse(RecordFileError::Newer,
-        u"The records in \"%1\" were written by a newer version of Quillon "
-        "(version %2 of the file; this program knows versions up to %3)."_s.arg(path)
-            .arg(version)
-            .arg(knownVersion));
-}
-
-/// Before SQLite looks at log and journal: to undo what another program left half done is not up to
-/// us.
-void refuseByHeader(SQLite::Database &database, const QString &path, int knownVersion)
-{
-    const auto header = headerOf(database, path);
-    if (!header) {
-        return;
-    }
-    const int version = qFromBigEndian<qint32>(header->data() + 60);
-    const int owner = qFromBigEndian<qint32>(header->data() + 68);
-    const QString journal = QFile::decodeName(
-        sqlite3_filename_journal(sqlite3_db_filename(database.getHandle(), "main")));
-    if (owner != applicationId && (owner != 0 || QFileInfo(journal).size() > 0)) {
-        refuseForeign(path);
-    }
-    if (owner == applicationId && version > knownVersion) {
-        refuseNewer(path, version, knownVersion);
     }
 }
 
@@ -134,7 +73,9 @@ void registerFolding(SQLite::Database &database)
     database.createFunction(foldedFunction, 1, true, nullptr, fold);
 }
 
-/// Whether the file has nothing in it yet; refuses what is not ours, or not for us.
+/// Whether the file has nothing in it yet; refuses what is not ours, or not for us. Within a
+/// transaction: another program may be making the file, and half of its answers would be from
+/// before, the other half from after.
 bool looksNew(SQLite::Database &database, const QString &path, int knownVersion)
 {
     const int version = number(database, "PRAGMA user_version");
@@ -184,6 +125,20 @@ void checkPages(SQLite::Database &database, const QString &path)
     }
 }
 
+/// Whether the file can be used as it is; refuses what is not ours, not for us, or damaged.
+bool isUpToDate(
+    SQLite::Database &database, const Model &model, const QString &path, const RecordSchema &schema)
+{
+    const SQLite::Transaction snapshot(database, SQLite::TransactionBehavior::DEFERRED);
+    const bool isNew = looksNew(database, path, schema.version());
+    checkPages(database, path);
+    if (isNew || number(database, "PRAGMA user_version") < schema.version()) {
+        return false;
+    }
+    checkTables(database, model, path);
+    return true;
+}
+
 /// All missing steps in one transaction; looks again inside it, as another program may be doing the
 /// same.
 void migrate(
@@ -200,6 +155,24 @@ void migrate(
     transaction.commit();
 }
 
+/// SQLite does not wait, however patient it is otherwise, when somebody else uses the file at the
+/// moment of this change.
+void useLog(SQLite::Database &database)
+{
+    database.setBusyTimeout(0);
+    int outcome = SQLITE_BUSY;
+    for (int tries = 0; tries < logTries && outcome == SQLITE_BUSY; ++tries) {
+        if (tries > 0) {
+            sqlite3_sleep(pauseBetweenTriesMs);
+        }
+        outcome = database.tryExec("PRAGMA journal_mode = WAL") & 0xff;
+    }
+    if (outcome != SQLITE_OK) {
+        throw SQLite::Exception(database.getHandle(), outcome);
+    }
+    database.setBusyTimeout(busyTimeoutMs);
+}
+
 } // namespace
 
 std::unique_ptr<SQLite::Database> openedDatabase(
@@ -214,17 +187,14 @@ std::unique_ptr<SQLite::Database> openedDatabase(
     refuseByHeader(*database, path, schema.version());
     // Functions that a foreign hand put into the schema do not run.
     database->exec("PRAGMA trusted_schema = OFF");
-    database->exec("PRAGMA synchronous = FULL");
+    // FULL, and also the folder when a journal has been deleted.
+    database->exec("PRAGMA synchronous = EXTRA");
     database->exec("PRAGMA foreign_keys = OFF");
     registerFolding(*database);
-    const bool isNew = looksNew(*database, path, schema.version());
-    checkPages(*database, path);
-    if (isNew || number(*database, "PRAGMA user_version") < schema.version()) {
+    if (!isUpToDate(*database, model, path, schema)) {
         migrate(*database, model, path, schema);
-    } else {
-        checkTables(*database, model, path);
     }
-    database->exec("PRAGMA journal_mode = WAL");
+    useLog(*database);
     // The first read makes the log and its index: a disk without room for them shows here.
     number(*database, "PRAGMA data_version");
     sqlite3_db_config(

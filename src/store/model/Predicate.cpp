@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/model/Predicate.h"
 
-#include <algorithm>
-
 namespace quillon {
 
 Predicate Predicate::equal(const QString &attribute, const QVariant &value)
@@ -41,21 +39,6 @@ Predicate Predicate::any(const QList<Predicate> &parts)
     Predicate predicate = all(parts);
     predicate.m_kind = Kind::Or;
     return predicate;
-}
-
-QString foldedText(const QString &text)
-{
-    const auto isPlain = [](QChar letter) { return letter < QChar(0x80); };
-    if (std::all_of(text.begin(), text.end(), isPlain)) {
-        return text.toCaseFolded();
-    }
-    QList<char32_t> letters;
-    for (const uint letter : text.normalized(QString::NormalizationForm_D).toUcs4()) {
-        if (QChar::category(letter) != QChar::Mark_NonSpacing) {
-            letters << letter;
-        }
-    }
-    return QString::fromUcs4(letters.constData(), letters.size()).toCaseFolded();
 }
 
 } // namespace quillon

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/FoldedText.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -18,7 +20,7 @@ public:
     {
         Equal,      ///< "device == 'en0'"
         Contains,   ///< plain, case-sensitive substring
-        BeginsWith, ///< ignoring case and diacritics
+        BeginsWith, ///< ignoring case and diacritics, as foldedText() does
         And,        ///< of none: true
         Or,         ///< of none: false
     };
@@ -42,8 +44,5 @@ private:
     QVariant m_value;
     QList<Predicate> m_parts;
 };
-
-/// `text` without case and diacritics, as BeginsWith compares it.
-QString foldedText(const QString &text);
 
 } // namespace quillon

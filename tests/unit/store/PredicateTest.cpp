@@ -88,6 +88,8 @@ TEST_F(PredicateTest, BeginsWithIgnoresCaseAndDiacritics)
     EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"E\u0301clair u"_s), record));
     EXPECT_FALSE(holds(Predicate::beginsWith(ssid, u"clair"_s), record));
     EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"ΌΣ"_s), {{ssid, u"ος"_s}}));
+    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"strasse"_s), {{ssid, u"Straße 7"_s}}));
+    EXPECT_TRUE(holds(Predicate::beginsWith(ssid, u"straße"_s), {{ssid, u"STRASSE 7"_s}}));
 }
 
 TEST_F(PredicateTest, OfNoPartsAllIsTrueAndAnyIsFalse)

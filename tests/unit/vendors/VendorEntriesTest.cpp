@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorEntries.h"
 
+#include "base/FoldedText.h"
 #include "fakes/QtPrinting.h"
-#include "store/model/Predicate.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +31,15 @@ TEST(VendorEntries, AnswerLikeTheFilterOfRecords)
         }
         EXPECT_EQ(found, expected) << text;
     }
+}
+
+TEST(VendorEntries, AreFoundByAnotherSpellingOfTheSameLetters)
+{
+    const VendorEntries entries({u"Straße & Söhne (A1B2C3)"_s, u"STRASSER (000001)"_s});
+    for (const QString &wanted : {u"strasse"_s, u"Straß"_s, u"STRASS"_s, u"stra\u1E9E"_s}) {
+        EXPECT_EQ(entries.beginningWith(wanted).size(), 2U) << wanted.toStdString();
+    }
+    EXPECT_EQ(entries.beginningWith(u"strasse & sohne"_s), std::vector<qsizetype>{1});
 }
 
 } // namespace

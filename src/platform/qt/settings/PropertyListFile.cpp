@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/settings/PropertyListFile.h"
 
+#include "base/DurableFolder.h"
 #include "base/PropertyList.h"
 #include "platform/qt/settings/XmlPropertyList.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -25,19 +25,6 @@ namespace {
 Error posixError(int code)
 {
     return {posixErrorDomain, code, QString::fromLocal8Bit(std::strerror(code))};
-}
-
-std::optional<Error> syncFolder(const QString &folder)
-{
-    const int handle =
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) {
-        return posixError(errno);
-    }
-    const int code = ::fsync(handle) == 0 ? 0 : errno;
-    ::close(handle);
-    // Some file systems keep folders durable by themselves and refuse to be asked.
-    return code == 0 || code == EINVAL ? std::nullopt : std::optional(posixError(code));
 }
 
 /// QSaveFile keeps no error number.
@@ -110,7 +97,8 @@ std::optional<Error> replaceFileContent(const QString &path, const QByteArray &b
     }
     const QFileInfo existing(path);
     const bool isNew = !existing.exists();
-    QDir().mkpath(existing.path());
+    // What prevents it shows when the file is opened.
+    makeFolder(existing.path());
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         return saveError(file, path);

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFile>
+#include <QStringList>
+
+#include <functional>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace quillon::test {
+
+/// The files and folders for which this program waited with fsync(), in order. Include this in one
+/// source of a test program: every fsync() of the program, that of its libraries too, comes here.
+inline QStringList &syncedPaths()
+{
+    static QStringList paths;
+    return paths;
+}
+
+/// Called in each fsync(), when what was written is not known to be on the disk yet.
+inline std::function<void()> &beforeSync()
+{
+    static std::function<void()> call;
+    return call;
+}
+
+} // namespace quillon::test
+
+extern "C" int fsync(int handle)
+{
+    using namespace Qt::StringLiterals;
+    quillon::test::syncedPaths() << QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(handle));
+    if (quillon::test::beforeSync()) {
+        quillon::test::beforeSync()();
+    }
+    return static_cast<int>(::syscall(SYS_fsync, handle));
+}

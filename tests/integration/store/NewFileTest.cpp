@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "RecordsOnDisk.h"
+#include "fakes/FakeScheduler.h"
+#include "fakes/QtPrinting.h"
+#include "fakes/SyncedPaths.h"
+#include "store/RecordStore.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+TEST(NewFile, ItsNameAndThatOfItsFolderAreOnTheDiskBeforeAnythingIsSaved)
+{
+    const QTemporaryDir home;
+    const QString folder = home.filePath(u"share/Quillon"_s);
+    syncedPaths().clear();
+    FakeScheduler scheduler;
+    RecordStore store(scheduler, folder);
+    store.managedObjectContext();
+    EXPECT_EQ(syncedPaths().filter(home.path()),
+        QStringList({home.path(), home.filePath(u"share"_s), folder}));
+}
+
+TEST(NewFile, ThatSomebodyElseMadeNeedsNoMore)
+{
+    const QTemporaryDir home;
+    const QString path = home.filePath(u"Quillon.sqlite"_s);
+    FakeScheduler scheduler;
+    ASSERT_TRUE(openedContext(path, scheduler));
+    syncedPaths().clear();
+    ASSERT_TRUE(openedContext(path, scheduler));
+    EXPECT_FALSE(syncedPaths().contains(home.path()));
+}
+
+} // namespace
+} // namespace quillon::test
