@@ -43,9 +43,22 @@ bool makeNameUnique(ManagedObject &rule, QStringList &taken)
     return true;
 }
 
+bool isRule(const ManagedObjectPtr &object)
+{
+    return object->entity().name() == model::Rule;
+}
+
 bool isConnection(const ManagedObjectPtr &object)
 {
     return object->entity().name() == model::Connection;
+}
+
+/// Undo and redo are commands of no feature that would collect the names afterwards.
+bool undoesRules(const ObjectsDidChange &change)
+{
+    return change.isUndone && (std::ranges::any_of(change.inserted, isRule) ||
+                                  std::ranges::any_of(change.updated, isRule) ||
+                                  std::ranges::any_of(change.deleted, isRule));
 }
 
 } // namespace
@@ -75,8 +88,9 @@ void RuleInvariants::contextDidChange(const ObjectsDidChange &change)
     }
     // What is corrected here must not be looked at again.
     const QScopedValueRollback unobserved(m_suspended, m_suspended + 1);
-    if (correctRules(change.updated)) {
-        tellOfCorrectedRules();
+    const bool corrected = correctRules(change.updated);
+    if (corrected || undoesRules(change)) {
+        tellOfRules();
     }
     if (std::ranges::any_of(change.inserted, isConnection)) {
         m_deps.store.managedObjectContext().processPendingChanges();
@@ -88,7 +102,7 @@ bool RuleInvariants::correctRules(const ManagedObjectList &updated)
     bool corrected = false;
     QStringList taken;
     for (const ManagedObjectPtr &object : updated) {
-        if (object->entity().name() != model::Rule) {
+        if (!isRule(object)) {
             continue;
         }
         if (taken.isEmpty()) {
@@ -101,7 +115,7 @@ bool RuleInvariants::correctRules(const ManagedObjectList &updated)
     return corrected;
 }
 
-void RuleInvariants::tellOfCorrectedRules()
+void RuleInvariants::tellOfRules()
 {
     m_deps.scheduler.onMain(this, [this] {
         processPendingChanges();

@@ -14,7 +14,7 @@ class RuleQueries;
 class Scheduler;
 
 /// Keeps two promises about rules whenever records change: names stay unique, and `ssidDefined` is
-/// written again. Main thread.
+/// written again. Has the names collected anew after that, and after undo and redo. Main thread.
 class RuleInvariants : public QObject
 {
     Q_OBJECT
@@ -48,12 +48,13 @@ public:
     void contextDidChange(const ObjectsDidChange &change);
 
 Q_SIGNALS:
-    /// Before "ruleTable" and "updateNamesArray" are posted.
+    /// Rules were corrected, or changed by undo or redo. Before "ruleTable" and "updateNamesArray"
+    /// are posted.
     void rulesCorrected();
 
 private:
     bool correctRules(const ManagedObjectList &updated);
-    void tellOfCorrectedRules();
+    void tellOfRules();
     void processPendingChanges();
 
     Collaborators m_deps;

@@ -153,11 +153,8 @@ void ManagedObjectContext::assign(const ManagedObjectPtr &object, qsizetype attr
         break;
     case ManagedObject::Change::Correction:
         // It belongs to the edit that caused it: undoing that undoes this.
-        for (const auto &step : {m_toldStep, m_openStep}) {
-            if (step && step->find(*object)) {
-                step->addValue(object, attribute, before);
-                break;
-            }
+        if (m_openStep && m_openStep->find(*object)) {
+            m_openStep->addValue(object, attribute, before);
         }
         break;
     }
@@ -190,13 +187,20 @@ void ManagedObjectContext::noteUnsaved(const ManagedObjectPtr &object)
 
 void ManagedObjectContext::scheduleProcessing()
 {
-    if (std::exchange(m_isScheduled, true)) {
-        return;
+    if (!std::exchange(m_isEndScheduled, true)) {
+        m_scheduler.onMain(this, [this] { endTurn(); });
     }
-    m_scheduler.onMain(this, [this] {
-        m_isScheduled = false;
-        processPendingChanges();
-    });
+}
+
+void ManagedObjectContext::endTurn()
+{
+    m_isEndScheduled = false;
+    const QPointer self(this);
+    processPendingChanges();
+    // What observers changed meanwhile belongs to what they were told: the turn ends with that.
+    if (self && !m_isEndScheduled) {
+        m_openStep.reset();
+    }
 }
 
 void ManagedObjectContext::processPendingChanges()
@@ -207,9 +211,9 @@ void ManagedObjectContext::processPendingChanges()
     // What observers change forms the next event, which they may end themselves: hence the nesting.
     const ChangeSet told = std::exchange(m_pending, {});
     const ChangeSet *const outer = std::exchange(m_told, &told);
-    const auto outerStep = std::exchange(m_toldStep, std::exchange(m_openStep, nullptr));
 
     ObjectsDidChange change;
+    change.isUndone = std::exchange(m_isUndonePending, false);
     for (const ChangeSet::Change &changed : told) {
         const bool isPresent = !changed.object->m_isDeleted;
         if (changed.wasPresent != isPresent) {
@@ -224,7 +228,6 @@ void ManagedObjectContext::processPendingChanges()
     }
     if (self) {
         m_told = outer;
-        m_toldStep = outerStep;
     }
 }
 
@@ -254,7 +257,8 @@ QUndoStack &ManagedObjectContext::undoManager()
 
 ChangeSet &ManagedObjectContext::openStep()
 {
-    if (!m_openStep) {
+    const bool isOnStack = m_openStep && m_openStep.use_count() > 1;
+    if (!isOnStack) {
         m_openStep = std::make_shared<ChangeSet>();
         m_undoManager->push(new UndoStep(*this, m_openStep));
     }
@@ -274,6 +278,7 @@ void ManagedObjectContext::swap(ChangeSet &edits)
             assign(was.object, it.key(), it.value(), ManagedObject::Change::Edit);
         }
     }
+    m_isUndonePending = !m_pending.isEmpty();
     edits = std::move(present);
 }
 

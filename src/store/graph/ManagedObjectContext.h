@@ -25,12 +25,13 @@ class Scheduler;
 struct RecordRow;
 struct RowChange;
 
-/// What one turn of the main loop did to the records of a context.
+/// What was done to the records of a context since the last event.
 struct ObjectsDidChange
 {
     ManagedObjectList inserted;
     ManagedObjectList updated; ///< changedValuesForCurrentEvent() tells the previous values
     ManagedObjectList deleted;
+    bool isUndone = false; ///< some of it by undo or redo
 };
 
 /// The records as the program sees them: what the file holds, with everything changed since over
@@ -81,8 +82,8 @@ public:
     /// Null when the text is not the identity of a record that exists.
     ManagedObjectPtr objectWithURI(const QString &uri);
 
-    /// Ends the current group of changes: tells objectsDidChange, and makes the group one step of
-    /// undo. Happens by itself at the end of each turn that changed something.
+    /// Tells objectsDidChange of what changed until now. Happens by itself at the end of each turn
+    /// that changed something. The step of undo stays open until then, however often it is called.
     void processPendingChanges();
     bool hasChanges() const;
     /// Writes every change in one transaction. On an Error nothing was written and every change
@@ -94,7 +95,9 @@ public:
     /// cannot be read is logged and tried again by the next save.
     void mergeChangesFromStore();
 
-    /// Undo and redo of edits, one step for each turn. Never deletes what it needs on save.
+    /// Undo and redo of edits, one step for each turn of the main loop: what a command does, saves
+    /// and does then because of that, and what observers answer to it. Never deletes what it needs
+    /// on save.
     QUndoStack &undoManager();
 
     void addEditor(Editor &editor);
@@ -123,6 +126,7 @@ private:
     /// Puts back what `edits` hold, and leaves there what it found.
     void swap(ChangeSet &edits);
     ChangeSet &openStep();
+    void endTurn();
     void noteUnsaved(const ManagedObjectPtr &object);
     void scheduleProcessing();
     QVariantMap previousValues(const ManagedObject &object) const;
@@ -149,15 +153,15 @@ private:
     qint64 m_nextKey;       ///< of the next new record
     qint64 m_mergedVersion; ///< of what others wrote to the file
 
-    ChangeSet m_pending;               ///< this turn's
+    ChangeSet m_pending;               ///< since the last objectsDidChange
+    bool m_isUndonePending = false;    ///< some of them by undo or redo
     const ChangeSet *m_told = nullptr; ///< those that objectsDidChange tells at this moment
-    bool m_isScheduled = false;
+    bool m_isEndScheduled = false;     ///< of the turn
 
     std::unique_ptr<QUndoStack> m_undoManager;
     int m_undoDisabled = 0;
-    // Shared with the step on the stack, which somebody may clear meanwhile.
-    std::shared_ptr<ChangeSet> m_openStep; ///< this turn's edits
-    std::shared_ptr<ChangeSet> m_toldStep; ///< those of m_told
+    /// This turn's edits, shared with the step on the stack, which somebody may clear meanwhile.
+    std::shared_ptr<ChangeSet> m_openStep;
 
     QList<Editor *> m_editors;
 };

@@ -258,6 +258,43 @@ TEST_F(RuleInvariantsTest, UndoAndRedoOfARenameKeepNamesUnique)
     EXPECT_EQ(nameOf(rules[1]), office);
 }
 
+TEST_F(RuleInvariantsTest, UndoAndRedoHaveTheNamesCollectedAnew)
+{
+    haveRules({home});
+    context().undoManager().clear();
+    const auto collectedAfter = [this](const std::function<void()> &change) {
+        journal.clear();
+        change();
+        endTurn();
+        EXPECT_EQ(journal, refreshed);
+        return queries.namesArray();
+    };
+    const auto undo = [this] { context().undoManager().undo(); };
+    const auto redo = [this] { context().undoManager().redo(); };
+
+    insertRule(office);
+    endTurn();
+    queries.updateNamesArray();
+    EXPECT_EQ(collectedAfter(undo), QStringList({home}));
+    EXPECT_EQ(collectedAfter(redo), QStringList({home, office}));
+
+    context().deleteObject(rules[0]);
+    endTurn();
+    queries.updateNamesArray();
+    EXPECT_EQ(collectedAfter(undo), QStringList({home, office})) << "a name in use again";
+    EXPECT_EQ(collectedAfter(redo), QStringList({office}));
+}
+
+TEST_F(RuleInvariantsTest, UndoOfWhatIsNoRuleTellsNobody)
+{
+    context().insertNewObject(model::Connection);
+    endTurn();
+    journal.clear();
+    context().undoManager().undo();
+    endTurn();
+    EXPECT_EQ(journal, QStringList());
+}
+
 TEST_F(RuleInvariantsTest, WhileSuspendedNothingIsLookedAt)
 {
     haveRules({home, office});

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "unit/rules/RuleFixture.h"
 
+#include <QUndoStack>
+
 #include <SQLiteCpp/Database.h>
 
 namespace quillon::test {
@@ -95,6 +97,32 @@ TEST_F(RuleSwitchesTest, LeaveOneEnabledRuleForAnInterfaceAndANetworkAndWarn)
     EXPECT_TRUE(any.enabled());
     EXPECT_EQ(ruleInForce(en0), u"rule"_s);
     EXPECT_EQ(order, (QStringList{u"warning"_s, u"table before saving"_s, u"list"_s}));
+}
+
+TEST_F(RuleSwitchesTest, AreOneStepOfUndoWithWhatTheySwitchOff)
+{
+    const Rule other = addRule({.name = u"other"_s, .network = home});
+    const Rule rule = addRule({.name = u"rule"_s, .network = home, .enabled = false});
+    scheduler.runPending();
+    context().undoManager().clear();
+    toggle(rule, true);
+    ASSERT_TRUE(rule.enabled());
+    ASSERT_FALSE(other.enabled());
+    EXPECT_EQ(context().undoManager().count(), 1);
+    context().undoManager().undo();
+    scheduler.runPending();
+    EXPECT_FALSE(rule.enabled());
+    EXPECT_TRUE(other.enabled()) << "never two, and the one from before";
+    context().undoManager().redo();
+    scheduler.runPending();
+    EXPECT_TRUE(rule.enabled());
+    EXPECT_FALSE(other.enabled());
+
+    switches.disableAllRules();
+    scheduler.runPending();
+    EXPECT_EQ(context().undoManager().count(), 2);
+    context().undoManager().undo();
+    EXPECT_TRUE(rule.enabled());
 }
 
 TEST_F(RuleSwitchesTest, DoSoAlsoWhenTheRuleIsSwitchedOff)

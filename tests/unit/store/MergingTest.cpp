@@ -146,6 +146,7 @@ TEST_F(Merging, WhatBothBroughtBackIsThereOnce)
     theySave();
     EXPECT_EQ(names(), QStringList(u"Home"_s)) << "it comes back to whoever still holds it";
     EXPECT_FALSE(home->isDeleted());
+    endTurn();
     context().deleteObject(home);
     save();
     context().undoManager().undo();

@@ -111,6 +111,76 @@ TEST_F(Undo, EachTurnIsAStep)
     EXPECT_EQ(home->value(model::rule::timerMins), 1);
 }
 
+TEST_F(Undo, TheStepStaysOpenUntilTheTurnEnds)
+{
+    const auto home = oldRule(u"Home"_s);
+    const auto cafe = oldRule(u"Cafe"_s);
+    home->setValue(model::rule::enabled, true);
+    context().processPendingChanges();
+    cafe->setValue(model::rule::enabled, false);
+    save();
+    home->setValue(model::rule::device, u"eth0"_s);
+    endTurn();
+    EXPECT_EQ(stack().count(), 1) << "neither processing nor saving ends it";
+    undo();
+    EXPECT_FALSE(home->value(model::rule::enabled).isValid());
+    EXPECT_FALSE(cafe->value(model::rule::enabled).isValid());
+    EXPECT_FALSE(home->value(model::rule::device).isValid());
+    redo();
+    EXPECT_EQ(home->value(model::rule::enabled), true);
+    EXPECT_EQ(cafe->value(model::rule::enabled), false);
+    EXPECT_EQ(home->value(model::rule::device), u"eth0"_s);
+    cafe->setValue(model::rule::enabled, true);
+    endTurn();
+    EXPECT_EQ(stack().count(), 2) << "another turn";
+}
+
+TEST_F(Undo, WhatAnObserverEditsBelongsToWhatItWasTold)
+{
+    const auto home = oldRule(u"Home"_s);
+    const auto cafe = oldRule(u"Cafe"_s);
+    const auto follower = QObject::connect(&context(), &ManagedObjectContext::objectsDidChange,
+        &context(), [&](const ObjectsDidChange &change) {
+            if (change.updated.contains(home)) {
+                cafe->setValue(model::rule::enabled, false);
+            }
+        });
+    home->setValue(model::rule::enabled, true);
+    endTurn();
+    EXPECT_EQ(cafe->value(model::rule::enabled), false);
+    EXPECT_EQ(stack().count(), 1);
+    QObject::disconnect(follower);
+    undo();
+    EXPECT_FALSE(home->value(model::rule::enabled).isValid());
+    EXPECT_FALSE(cafe->value(model::rule::enabled).isValid());
+}
+
+TEST_F(Undo, AStepThatWasClearedIsNotGrown)
+{
+    const auto home = oldRule(u"Home"_s);
+    home->setValue(model::rule::name, u"House"_s);
+    stack().clear();
+    home->setValue(model::rule::name, u"Villa"_s);
+    endTurn();
+    undo();
+    EXPECT_EQ(nameOf(home), u"House"_s) << "edits after the clearing can be undone";
+}
+
+TEST_F(Undo, IsToldAsSuch)
+{
+    const auto home = oldRule(u"Home"_s);
+    QList<bool> undone;
+    QObject::connect(&context(), &ManagedObjectContext::objectsDidChange, &context(),
+        [&](const ObjectsDidChange &change) { undone << change.isUndone; });
+    home->setValue(model::rule::name, u"House"_s);
+    endTurn();
+    undo();
+    redo();
+    home->setValue(model::rule::name, u"Villa"_s);
+    endTurn();
+    EXPECT_EQ(undone, QList<bool>({false, true, true, false}));
+}
+
 TEST_F(Undo, OfASavedDeletionBringsBackIdentityAndPlace)
 {
     const auto home = oldRule(u"Home"_s);
