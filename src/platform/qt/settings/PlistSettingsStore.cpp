@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/settings/PlistSettingsStore.h"
 
+#include "base/DurableFolder.h"
 #include "base/Log.h"
 #include "platform/SerialQueue.h"
 #include "platform/qt/settings/FileWatch.h"
 #include "platform/qt/settings/SettingsFile.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <atomic>
+#include <thread>
 #include <utility>
 
 namespace quillon {
@@ -21,8 +22,10 @@ using namespace std::chrono_literals;
 
 // Several changes in a row make one write.
 constexpr auto writeDelay = 50ms;
-// An editor may empty the file before it fills it.
+// An editor may empty the file, or take it away, before it fills it.
 constexpr auto settlingTime = 1s;
+// So often somebody who waits for that looks.
+constexpr auto settlingPause = 50ms;
 
 } // namespace
 
@@ -30,18 +33,19 @@ constexpr auto settlingTime = 1s;
 class PlistSettingsStore::Core : public std::enable_shared_from_this<Core>
 {
 public:
-    Core(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem)
+    Core(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem, Pause pause)
         : observers(scheduler)
         , values(observers)
         , m_scheduler(scheduler)
         , m_problem(std::move(problem))
+        , m_pause(std::move(pause))
         , m_file(path, values)
         , m_queue(scheduler)
     {
     }
 
     void load();
-    bool save();
+    bool saveNow();
     void saveSoon();
     void fileChanged();
 
@@ -49,14 +53,20 @@ public:
     SettingsValues values;
 
 private:
-    void read(SettingsFile::Patience patience);
+    using Outcome = SettingsFile::Outcome;
+    using Patience = SettingsFile::Patience;
+
+    void read(Patience patience);
     void readAgainLater();
+    void save();
+    Outcome settled(const std::function<Outcome(Patience)> &access);
     void tell();
     template <typename Function>
     void inBackground(Function function);
 
     Scheduler &m_scheduler;
     const SettingsProblem::Handler m_problem;
+    const Pause m_pause;
     SettingsFile m_file;
     SerialQueue m_queue; ///< a slow disk holds up one thread of the pool, not all
     std::atomic<bool> m_savePlanned = false;
@@ -75,17 +85,39 @@ void PlistSettingsStore::Core::inBackground(Function function)
     });
 }
 
+/// What `access` comes to once the file has had the time to become whole. Waits until then.
+PlistSettingsStore::Core::Outcome PlistSettingsStore::Core::settled(
+    const std::function<Outcome(Patience)> &access)
+{
+    for (auto waited = 0ms; waited < settlingTime; waited += settlingPause) {
+        const Outcome outcome = access(Patience::Some);
+        if (outcome != Outcome::NotYet) {
+            return outcome;
+        }
+        m_pause(settlingPause);
+    }
+    return access(Patience::None);
+}
+
 void PlistSettingsStore::Core::load()
 {
-    m_file.read(SettingsFile::Patience::None);
+    settled([this](Patience patience) { return m_file.read(patience); });
     tell();
 }
 
-bool PlistSettingsStore::Core::save()
+bool PlistSettingsStore::Core::saveNow()
 {
-    const bool saved = m_file.save();
+    const Outcome outcome = settled([this](Patience patience) { return m_file.save(patience); });
     tell();
-    return saved;
+    return outcome == Outcome::Done;
+}
+
+void PlistSettingsStore::Core::save()
+{
+    if (m_file.save(Patience::Some) == Outcome::NotYet) {
+        readAgainLater();
+    }
+    tell();
 }
 
 void PlistSettingsStore::Core::saveSoon()
@@ -109,18 +141,18 @@ void PlistSettingsStore::Core::fileChanged()
     if (!m_readPlanned.exchange(true)) {
         inBackground([](Core &self) {
             self.m_readPlanned = false;
-            self.read(SettingsFile::Patience::Some);
+            self.read(Patience::Some);
         });
     }
 }
 
-void PlistSettingsStore::Core::read(SettingsFile::Patience patience)
+void PlistSettingsStore::Core::read(Patience patience)
 {
-    if (m_file.read(patience) == SettingsFile::Outcome::NotYet) {
+    if (m_file.read(patience) == Outcome::NotYet) {
         readAgainLater();
     }
     tell();
-    if (patience == SettingsFile::Patience::None && values.unsaved()) {
+    if (patience == Patience::None && values.unsaved()) {
         save();
     }
 }
@@ -133,7 +165,7 @@ void PlistSettingsStore::Core::readAgainLater()
     m_scheduler.onMainAfter(settlingTime, [weak = weak_from_this()] {
         if (const auto core = weak.lock()) {
             core->m_secondLookPlanned = false;
-            core->inBackground([](Core &self) { self.read(SettingsFile::Patience::None); });
+            core->inBackground([](Core &self) { self.read(Patience::None); });
         }
     });
 }
@@ -154,11 +186,14 @@ void PlistSettingsStore::Core::tell()
 }
 
 PlistSettingsStore::PlistSettingsStore(
-    const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem)
-    : m_core(std::make_shared<Core>(path, scheduler, std::move(problem)))
+    const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem, Pause pause)
+    : m_core(std::make_shared<Core>(
+          path, scheduler, std::move(problem),
+          pause ? std::move(pause)
+                : [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); }))
 {
     // A folder that is there can be watched.
-    QDir().mkpath(QFileInfo(path).path());
+    makeFolder(QFileInfo(path).path());
     // Watching before reading: what is written in between is not missed.
     m_watch = std::make_unique<FileWatch>(path, [core = m_core.get()] { core->fileChanged(); });
     m_core->load();
@@ -167,7 +202,7 @@ PlistSettingsStore::PlistSettingsStore(
 PlistSettingsStore::~PlistSettingsStore()
 {
     m_watch.reset();
-    if (m_core->values.unsaved() && !m_core->save()) {
+    if (m_core->values.unsaved() && !m_core->saveNow()) {
         qCWarning(logSettings) << "The last changes of the settings are lost";
     }
 }
@@ -206,7 +241,7 @@ void PlistSettingsStore::synchronize()
 bool PlistSettingsStore::flush()
 {
     const std::shared_ptr<Core> core = m_core;
-    return core->save();
+    return core->saveNow();
 }
 
 SettingsStore::Token PlistSettingsStore::addObserver(const QString &key, Observer observer)

@@ -6,6 +6,8 @@
 #include "platform/SettingsProblem.h"
 #include "platform/SettingsStore.h"
 
+#include <chrono>
+#include <functional>
 #include <memory>
 
 namespace quillon {
@@ -23,13 +25,22 @@ class FileWatch;
 /// memory and goes out with the next write that succeeds. A file that disappears while the program
 /// runs is written again.
 ///
+/// A file that appears damaged, or is gone, may be in the middle of being written by another
+/// program. Nothing is written over it for a second, and then it is looked at again: background
+/// work comes back later, while reading at the start, flush() and the destructor wait.
+///
 /// Made and destroyed on the main thread; safe from every thread in between.
 class PlistSettingsStore : public SettingsStore
 {
 public:
+    /// Holds up the thread that calls it.
+    using Pause = std::function<void(std::chrono::milliseconds)>;
+
     /// Reads the file at `path`, which need not be there. `problem` is called on the main thread,
-    /// in a later turn of its loop, once for each problem until it is over.
-    PlistSettingsStore(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem);
+    /// in a later turn of its loop, once for each problem until it is over. `pause` is for tests;
+    /// without one the thread sleeps.
+    PlistSettingsStore(const QString &path, Scheduler &scheduler, SettingsProblem::Handler problem,
+        Pause pause = {});
     ~PlistSettingsStore() override;
 
     QVariant get(const QString &key) const override;

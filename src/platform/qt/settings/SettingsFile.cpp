@@ -54,12 +54,13 @@ SettingsFile::Outcome SettingsFile::readLocked(Patience patience)
 /// A file that is gone says nothing about the values that it held: they are written again.
 SettingsFile::Outcome SettingsFile::replaceLost(Patience patience)
 {
-    if (patience == Patience::Some) {
+    const bool wasThere = !m_lastContent.isNull();
+    if (wasThere && patience == Patience::Some) {
         return Outcome::NotYet;
     }
     m_lasting.erase(Kind::Unreadable);
     m_lasting.erase(Kind::Damaged);
-    if (!m_lastContent.isNull()) {
+    if (wasThere) {
         qCWarning(logSettings) << "The settings file is gone and will be written again:" << m_path;
         m_lastContent = QByteArray();
         m_values.markAllUnsaved();
@@ -86,28 +87,31 @@ SettingsFile::Outcome SettingsFile::setAside(const Error &damage)
     return Outcome::Done;
 }
 
-bool SettingsFile::save()
+SettingsFile::Outcome SettingsFile::save(Patience patience)
 {
     const std::lock_guard lock(m_mutex);
-    const bool mayReplace = readLocked(Patience::None) == Outcome::Done;
+    const Outcome state = readLocked(patience);
+    if (state == Outcome::NotYet) {
+        return state;
+    }
     const auto snapshot = m_values.unsaved();
     if (!snapshot) {
-        return true;
+        return Outcome::Done;
     }
-    if (!mayReplace) {
-        return false;
+    if (state == Outcome::Failed) {
+        return state;
     }
     const QByteArray bytes = xmlPropertyList(snapshot->values);
     if (const auto error = replaceFileContent(m_path, bytes)) {
         arose(error->code == ENOSPC || error->code == EDQUOT ? Kind::DiskFull : Kind::NotWritable,
             *error);
-        return false;
+        return Outcome::Failed;
     }
     m_lastContent = bytes;
     m_values.markSaved(*snapshot);
     m_lasting.erase(Kind::NotWritable);
     m_lasting.erase(Kind::DiskFull);
-    return true;
+    return Outcome::Done;
 }
 
 void SettingsFile::arose(Kind kind, const Error &error, const QString &keptPath)

@@ -29,7 +29,7 @@ public:
     enum class Outcome
     {
         Done,
-        NotYet, ///< only with Patience::Some
+        NotYet, ///< only with Patience::Some; nothing was taken over or written
         Failed,
     };
 
@@ -37,9 +37,9 @@ public:
 
     /// Takes over the file's content, unless it is as it was.
     Outcome read(Patience patience);
-    /// The same without patience, then writes what is unsaved. True when nothing unsaved is left of
-    /// what was there at the call.
-    bool save();
+    /// The same, then writes what is unsaved. Done when nothing unsaved is left of what was there
+    /// at the call.
+    Outcome save(Patience patience);
     /// The problems that arose since the last call. One that lasts comes once.
     std::vector<SettingsProblem> takeProblems();
 

@@ -40,14 +40,22 @@ inline bool holdsSoon(
     return true;
 }
 
-/// A settings file in a folder of its own, and a store on it whose clock has hands.
+/// A settings file in a folder of its own, and a store on it whose clock has hands: also what it
+/// waits for passes at once.
 class SettingsFileTest : public ::testing::Test
 {
 protected:
     void openStore()
     {
-        store = std::make_unique<PlistSettingsStore>(path, scheduler,
-            [this](const SettingsProblem &problem) { problems.push_back(problem); });
+        store = std::make_unique<PlistSettingsStore>(
+            path, scheduler,
+            [this](const SettingsProblem &problem) { problems.push_back(problem); },
+            [this](std::chrono::milliseconds time) {
+                waited += time;
+                if (meanwhile) {
+                    meanwhile();
+                }
+            });
         scheduler.runPending();
     }
     void reopenStore()
@@ -102,6 +110,8 @@ protected:
     QString path = folder.filePath(QStringLiteral("com.orvandel.Quillon4.plist"));
     FakeScheduler scheduler;
     std::vector<SettingsProblem> problems;
+    std::chrono::milliseconds waited{0}; ///< by flush() and the like, for the file to be whole
+    std::function<void()> meanwhile;     ///< what others do each time that it waits
     std::unique_ptr<PlistSettingsStore> store;
 };
 
