@@ -31,7 +31,8 @@ public:
         QByteArray body;
     };
     /// An Error is a failed transfer: no connection, no trust, too many redirects, a body beyond
-    /// the limit or shorter than announced. A bad status is a Response.
+    /// the limit or shorter than announced. A bad status is a Response, whatever becomes of its
+    /// body: of one that is too long the beginning is given, of one that is cut off what came.
     using Completion = std::function<void(const Result<Response> &)>;
 
     struct Progress
@@ -52,7 +53,7 @@ public:
 
     virtual ~HttpClient() = default;
 
-    /// Bodies longer than `bodyLimit` bytes fail the transfer.
+    /// Bodies longer than `bodyLimit` bytes fail the transfer, unless the status is bad.
     virtual Token get(const QUrl &url, qint64 bodyLimit, Completion completion) = 0;
     virtual Token download(const QUrl &url, DownloadHandler handler) = 0;
     /// Ends a transfer; none of its callbacks comes any more. Unknown or ended tokens are ignored.

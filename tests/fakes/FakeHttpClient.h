@@ -71,6 +71,7 @@ private:
         QByteArray body;
         qint64 received = 0;
         qint64 expected = -1;
+        int status = 0; ///< when it is known already
     };
     struct Site
     {

@@ -47,7 +47,7 @@ HttpTransfer::HttpTransfer(Limits limits, Sink sink)
     m_silence.setSingleShot(true);
     m_silence.setInterval(m_limits.silence);
     connect(&m_silence, &QTimer::timeout, this,
-        [this] { end(posixError(ETIMEDOUT, "the server was silent for too long")); });
+        [this] { bodyFailed(posixError(ETIMEDOUT, "the server was silent for too long")); });
 }
 
 HttpTransfer::~HttpTransfer() = default;
@@ -123,7 +123,7 @@ void HttpTransfer::readHead()
     }
     const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
     if (!encoding.isEmpty() && encoding != "identity") {
-        end({httpErrorDomain, QNetworkReply::ProtocolFailure,
+        bodyFailed({httpErrorDomain, QNetworkReply::ProtocolFailure,
             u"the body came packed, which was not asked for"_s});
         return;
     }
@@ -131,7 +131,7 @@ void HttpTransfer::readHead()
     const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
     const bool inChunks = m_reply->rawHeader("Transfer-Encoding").toLower().contains("chunked");
     m_expected = isNumber && length >= 0 && !inChunks ? length : -1;
-    if (m_expected > m_limits.bodyLength) {
+    if (m_expected > m_limits.bodyLength && !isBadStatus()) {
         end(posixError(EFBIG, "the body is longer than allowed"));
     }
 }
@@ -171,16 +171,25 @@ void HttpTransfer::readBody()
         if (bytes.isEmpty()) {
             return;
         }
+        const qint64 room = m_limits.bodyLength - m_received;
         m_received += bytes.size();
-        if (m_received > m_limits.bodyLength) {
-            end(posixError(EFBIG, "the body is longer than allowed"));
-            return;
+        if (bytes.size() <= room) {
+            take(bytes);
+            continue;
         }
-        const QScopedValueRollback inside(m_insideSink, m_insideSink + 1);
-        const std::optional<Error> problem = m_sink.take(bytes, m_expected);
-        if (problem && !m_over) {
-            end(*problem);
+        if (isBadStatus() && room > 0) {
+            take(bytes.first(room));
         }
+        bodyFailed(posixError(EFBIG, "the body is longer than allowed"));
+    }
+}
+
+void HttpTransfer::take(const QByteArray &bytes)
+{
+    const QScopedValueRollback inside(m_insideSink, m_insideSink + 1);
+    const std::optional<Error> problem = m_sink.take(bytes, m_expected);
+    if (problem && !m_over) {
+        end(*problem);
     }
 }
 
@@ -194,13 +203,40 @@ void HttpTransfer::replyFinished()
         return;
     }
     if (const std::optional<Error> error = failure()) {
-        end(*error);
+        bodyFailed(*error);
         return;
     }
+    finish();
+}
+
+void HttpTransfer::finish()
+{
     const int finalStatus = status();
     stop();
     deleteLater();
     m_sink.finish(finalStatus);
+}
+
+/// What the body says matters only with a good status; a bad one is the answer by itself, however
+/// much of its body came.
+void HttpTransfer::bodyFailed(const Error &error)
+{
+    if (m_over) {
+        return;
+    }
+    if (isBadStatus()) {
+        finish();
+    } else {
+        end(error);
+    }
+}
+
+/// Whether the server, not a proxy on the way, has refused by now.
+bool HttpTransfer::isBadStatus() const
+{
+    constexpr int firstRedirect = 300;
+    constexpr int proxyWantsPassword = 407;
+    return status() >= firstRedirect && status() != proxyWantsPassword && !isRedirect();
 }
 
 int HttpTransfer::status() const

@@ -58,7 +58,11 @@ private:
     bool isRedirect() const;
     void follow();
     void readBody();
+    void take(const QByteArray &bytes);
     void replyFinished();
+    void finish();
+    void bodyFailed(const Error &error);
+    bool isBadStatus() const;
     void end(const Error &error);
     void stop();
     void leave();

@@ -49,11 +49,30 @@ TEST_F(Failure, TheConnectionBreaksInTheMiddle)
     }
 }
 
-TEST_F(Failure, TheBodyOfABadStatusIsShorterThanAnnounced)
+TEST_F(Failure, IsNoneWhenABadStatusCameBeforeTheBodyBroke)
 {
-    web.serve("/page", {{u"status"_s, 503}, {u"body"_s, tenDigits}, {u"length"_s, 20}});
-    EXPECT_FALSE(get(WebServer::secure("/page")));
-    EXPECT_FALSE(get(WebServer::plain("/page")));
+    useSilence(300ms);
+    for (const char *end : {"reset", "close", "stall"}) {
+        for (const char *framing : {"length", "chunked", "close"}) {
+            // What is sent just before a reset may be lost: the status has come before that.
+            web.serve("/page",
+                {{u"status"_s, 503}, {u"body"_s, tenDigits}, {u"cut"_s, 4}, {u"piece"_s, 2},
+                    {u"pause"_s, 0.1}, {u"then"_s, QString::fromLatin1(end)},
+                    {u"framing"_s, QString::fromLatin1(framing)}});
+            for (const QUrl &url : {WebServer::plain("/page"), WebServer::secure("/page")}) {
+                const Answer answer = get(url);
+                ASSERT_TRUE(answer) << end << ' ' << framing << ": " << outcome(answer);
+                EXPECT_EQ(answer.value().status, 503);
+            }
+        }
+    }
+}
+
+TEST_F(Failure, IsNoneWhenTheBodyOfABadStatusIsPacked)
+{
+    web.serve("/page", {{u"status"_s, 503}, {u"body"_s, tenDigits},
+                           {u"headers"_s, QVariantMap{{u"Content-Encoding"_s, u"gzip"_s}}}});
+    EXPECT_EQ(outcome(get(WebServer::secure("/page"))), "503 ");
 }
 
 TEST_F(Failure, TheAnswerIsNotHttp)
@@ -136,6 +155,21 @@ TEST_F(FailureFlood, OfARedirect)
 TEST_F(FailureFlood, OfAPlainBody)
 {
     expectBounded({{u"size"_s, u"endless"_s}});
+}
+
+TEST_F(FailureFlood, OfABadStatusIsThatStatus)
+{
+    for (const char *framing : {"length", "chunked", "close"}) {
+        web.serve("/page",
+            {{u"status"_s, 503}, {u"size"_s, u"endless"_s}, {u"length"_s, qint64(5'000'000'000)},
+                {u"framing"_s, QString::fromLatin1(framing)}});
+        const qint64 before = peakMemory();
+        const Answer answer = get(WebServer::plain("/page"));
+        ASSERT_TRUE(answer) << framing << ": " << outcome(answer);
+        EXPECT_EQ(answer.value().status, 503);
+        EXPECT_EQ(answer.value().body.size(), 1 << 20);
+        EXPECT_LT(peakMemory() - before, muchMemory);
+    }
 }
 
 } // namespace

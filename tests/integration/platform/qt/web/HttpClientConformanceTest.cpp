@@ -132,6 +132,29 @@ TYPED_TEST(HttpClientConformance, ABodyShorterThanAnnouncedIsAFailure)
     EXPECT_FALSE(result.body);
 }
 
+TYPED_TEST(HttpClientConformance, ABadStatusIsOneWhateverItsLength)
+{
+    for (const bool saysLength : {true, false}) {
+        Page page;
+        page.status = 503;
+        page.body = "0123456789";
+        page.piece = 4;
+        page.saysLength = saysLength;
+        this->serve(page);
+        EXPECT_EQ(this->get(10), "503 0123456789");
+        EXPECT_EQ(this->get(9), "503 012345678") << "the beginning";
+        EXPECT_EQ(this->get(0), "503 ");
+        EXPECT_EQ(this->download().body, page.body);
+    }
+    Page page;
+    page.status = 503;
+    page.body = "0123456789";
+    page.length = 20;
+    this->serve(page);
+    EXPECT_EQ(this->get(), "503 0123456789") << "cut off";
+    EXPECT_EQ(this->download().body, page.body);
+}
+
 TYPED_TEST(HttpClientConformance, NoServerIsAFailure)
 {
     this->web.breakDown("/page");
