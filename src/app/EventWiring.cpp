@@ -202,7 +202,12 @@ void EventWiring::connectVendorData()
     on(vendors.import, &RegistryImport::parsingFailed, [&pane] { pane.showParsingFailed(); });
     on(vendors.import, &RegistryImport::downloadCompleted,
         [&pane](const QString &date) { pane.showDownloadCompleted(date); });
-    // Every refresh ends so, whatever became of it.
+    on(vendors.import, &RegistryImport::restorationBegun, [&pane] { pane.showRestorationBegun(); });
+    on(vendors.import, &RegistryImport::restorationFailed,
+        [&pane] { pane.showRestorationFailed(); });
+    on(vendors.import, &RegistryImport::databaseRestored,
+        [&pane](const QString &date) { pane.showDatabaseRestored(date); });
+    // Every refresh and every restoration ends so, whatever became of it.
     on(vendors.import, &RegistryImport::ended,
         [&vendors] { vendors.download.resetDownloadButton(); });
 }

@@ -69,6 +69,16 @@ void RegistryDownload::cancelDownload()
     resetDownloadButton();
 }
 
+bool RegistryDownload::canRestorePrevious() const
+{
+    return m_import.canRestorePrevious();
+}
+
+void RegistryDownload::restorePrevious()
+{
+    m_import.restorePrevious();
+}
+
 void RegistryDownload::resetDownloadButton()
 {
     Q_EMIT downloadButtonReset();

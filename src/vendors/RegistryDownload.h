@@ -15,8 +15,8 @@ class VendorCount;
 class VendorList;
 
 /// A refresh of the vendor database from the registration authority's public MA-L registry, as the
-/// user starts and watches it. A transfer that fails is only logged: the refresh waits for the user
-/// to cancel it. Main thread.
+/// user starts and watches it, and the way back from one. A transfer that fails is only logged: the
+/// refresh waits for the user to cancel it. Main thread.
 class RegistryDownload : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,10 @@ public:
     void startDownload();
     /// Ends the transfer, if it still runs; an import goes on and resets the button once more.
     void cancelDownload();
-    /// The end of every refresh: counts, and rebuilds the vendor list.
+    /// Whether the database from before the last refresh can be brought back, and does so.
+    bool canRestorePrevious() const;
+    void restorePrevious();
+    /// The end of every refresh and restoration: counts, and rebuilds the vendor list.
     void resetDownloadButton();
 
 Q_SIGNALS:

@@ -10,8 +10,10 @@
 #include "vendors/VendorTable.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
+#include <functional>
 #include <utility>
 
 namespace quillon {
@@ -36,6 +38,7 @@ public:
 
     void importDownload(QFile &body);
     void parseDownloadedCSV(const QString &csv);
+    void restorePrevious();
 
 private:
     bool save(QFile &body) const;
@@ -43,7 +46,8 @@ private:
     void cleanupTempDBFile() const { QFile::remove(m_files.newDatabase()); }
     void parseFailed();
     void downloadCompleted();
-    void tellOwner(void (RegistryImport::*what)());
+    bool putPreviousInPlace();
+    void tellOwner(std::function<void(RegistryImport &)> what);
 
     QPointer<RegistryImport> m_owner;
     Scheduler &m_scheduler;
@@ -95,11 +99,41 @@ void RegistryImport::Work::parseDownloadedCSV(const QString &csv)
 
 void RegistryImport::Work::replaceDBFile()
 {
-    if (m_database.rewriteFrom(m_files.newDatabase()) == VendorDatabase::Rewriting::Failed) {
+    using enum VendorDatabase::Rewriting;
+    const auto outcome = m_database.rewriteFrom(m_files.newDatabase(), m_files.previousDatabase());
+    if (outcome == NotKept || outcome == Failed) {
         parseFailed();
     }
-    downloadCompleted();
-    cleanupTempDBFile();
+    if (outcome != NotKept) {
+        downloadCompleted();
+        cleanupTempDBFile();
+    }
+}
+
+void RegistryImport::Work::restorePrevious()
+{
+    if (!putPreviousInPlace()) {
+        tellOwner(&RegistryImport::reportRestorationFailure);
+        return;
+    }
+    tellOwner(
+        [count = m_database.count(), since = QFileInfo(m_files.liveDatabase()).lastModified()](
+            RegistryImport &owner) { owner.reportRestoration(count, since); });
+}
+
+bool RegistryImport::Work::putPreviousInPlace()
+{
+    const QString previous = m_files.previousDatabase();
+    if (VendorDatabase(previous).count() == 0) {
+        return false;
+    }
+    using enum VendorDatabase::Rewriting;
+    const auto outcome = m_database.rewriteFrom(previous, previous);
+    if (outcome != FileMissing) {
+        return outcome == Done;
+    }
+    removeCompanions(m_files.liveDatabase());
+    return QFile::copy(previous, m_files.liveDatabase());
 }
 
 void RegistryImport::Work::parseFailed()
@@ -115,11 +149,11 @@ void RegistryImport::Work::downloadCompleted()
     tellOwner(&RegistryImport::reportCompletion);
 }
 
-void RegistryImport::Work::tellOwner(void (RegistryImport::*what)())
+void RegistryImport::Work::tellOwner(std::function<void(RegistryImport &)> what)
 {
-    m_scheduler.onMain([owner = m_owner, what] {
+    m_scheduler.onMain([owner = m_owner, what = std::move(what)] {
         if (auto *const that = owner.data()) {
-            (that->*what)();
+            what(*that);
         }
     });
 }
@@ -128,6 +162,7 @@ RegistryImport::RegistryImport(Scheduler &scheduler, SettingsStore &settings,
     const VendorFiles &files, const VendorDatabase &database)
     : m_scheduler(scheduler)
     , m_settings(settings)
+    , m_files(files)
     , m_work(std::make_shared<Work>(*this, scheduler, files, database))
     , m_queue(scheduler)
 {
@@ -147,6 +182,17 @@ void RegistryImport::parseDownloadedCSV(const QString &path)
     m_queue.add([work = m_work, path] { work->parseDownloadedCSV(path); });
 }
 
+bool RegistryImport::canRestorePrevious() const
+{
+    return QFile::exists(m_files.previousDatabase());
+}
+
+void RegistryImport::restorePrevious()
+{
+    Q_EMIT restorationBegun();
+    m_queue.add([work = m_work] { work->restorePrevious(); });
+}
+
 void RegistryImport::reportFailure()
 {
     Q_EMIT parsingFailed();
@@ -158,6 +204,22 @@ void RegistryImport::reportCompletion()
     const QString date = mediumDateShortTime(m_scheduler.now().toLocalTime(), QLocale());
     m_settings.set(keys::vendorIDUpdatedDate, date);
     Q_EMIT downloadCompleted(date);
+    Q_EMIT ended();
+}
+
+void RegistryImport::reportRestorationFailure()
+{
+    Q_EMIT restorationFailed();
+    Q_EMIT ended();
+}
+
+void RegistryImport::reportRestoration(qlonglong count, const QDateTime &since)
+{
+    const QString date = mediumDateShortTime(since.toLocalTime(), QLocale());
+    // Known beforehand: vendors that are back are not noted as new ones.
+    m_settings.set(keys::vendorCountValue, count);
+    m_settings.set(keys::vendorIDUpdatedDate, date);
+    Q_EMIT databaseRestored(date);
     Q_EMIT ended();
 }
 

@@ -16,7 +16,8 @@ class SettingsStore;
 
 /// Turns a downloaded registry into the live vendor database: reads it into a new database in the
 /// background and writes that over the live one. Imports run one after the other. When this dies,
-/// the one that has begun comes to its end by itself, and those that wait are dropped. The signals
+/// the one that has begun comes to its end by itself, and those that wait are dropped. Keeps the
+/// database of before, whatever the registry's text is worth, and can bring it back. The signals
 /// come on the main thread. Main thread.
 class RegistryImport : public QObject
 {
@@ -33,6 +34,11 @@ public:
     /// Imports the registry text at `path`, whatever it holds.
     void parseDownloadedCSV(const QString &path);
 
+    /// Whether the database from before a refresh is there.
+    bool canRestorePrevious() const;
+    /// Brings it back, with its date and count. What it replaces is the previous one then.
+    void restorePrevious();
+
 Q_SIGNALS:
     void processingBegun();
     /// The live database is as it was, unless writing to it failed; then downloadCompleted()
@@ -40,7 +46,13 @@ Q_SIGNALS:
     void parsingFailed();
     /// `date` is when, for display; it is stored in `vendorIDUpdatedDate`.
     void downloadCompleted(const QString &date);
-    /// After each of the two.
+    void restorationBegun();
+    /// The live database is as it was, unless writing to it failed.
+    void restorationFailed();
+    /// `date` is when the restored database had become the live one; it is stored in
+    /// `vendorIDUpdatedDate`.
+    void databaseRestored(const QString &date);
+    /// After each import and each restoration, whatever came of it.
     void ended();
 
 private:
@@ -48,9 +60,12 @@ private:
 
     void reportFailure();
     void reportCompletion();
+    void reportRestorationFailure();
+    void reportRestoration(qlonglong count, const QDateTime &since);
 
     Scheduler &m_scheduler;
     SettingsStore &m_settings;
+    VendorFiles m_files;
     std::shared_ptr<Work> m_work;
     SerialQueue m_queue;
 };

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorCount.h"
 
+#include "base/DurableFolder.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "vendors/NullMarker.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <utility>
@@ -26,13 +26,15 @@ VendorCount::VendorCount(SettingsStore &settings, Scheduler &scheduler, const Ve
 
 void VendorCount::createSupportFolderAndVendorDatabase()
 {
-    QDir().mkpath(m_files.folder);
+    makeFolder(m_files.folder);
     const QString live = m_files.liveDatabase();
-    const bool shipped = !m_files.seed.isEmpty();
-    if (shipped && !QFile::exists(live) && QFile::copy(m_files.seed, live)) {
-        // A package may install the original for reading only; a refresh writes over the copy.
-        QFile::setPermissions(
-            live, QFile::permissions(live) | QFile::ReadOwner | QFile::WriteOwner);
+    if (!m_files.seed.isEmpty() && !QFile::exists(live)) {
+        removeCompanions(live);
+        if (QFile::copy(m_files.seed, live)) {
+            // A package may install the original for reading only; a refresh writes over the copy.
+            QFile::setPermissions(
+                live, QFile::permissions(live) | QFile::ReadOwner | QFile::WriteOwner);
+        }
     }
     Q_EMIT firstCountBegun();
     updateVendorCount();

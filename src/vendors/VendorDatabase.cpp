@@ -4,6 +4,7 @@
 
 #include "base/Log.h"
 #include "vendors/NullMarker.h"
+#include "vendors/VendorFileWriting.h"
 
 #include <QFile>
 
@@ -14,7 +15,6 @@
 #include <mutex>
 #include <shared_mutex>
 #include <sqlite3.h>
-#include <unistd.h>
 
 namespace quillon {
 
@@ -27,9 +27,8 @@ constexpr int readerPatience = 250; // milliseconds
 // So often the rewriting tries: for about a second.
 constexpr int rewriterTries = 20;
 constexpr int pauseBetweenTries = 50; // milliseconds
-constexpr qint64 pieceSize = qint64{1024} * 1024;
-constexpr int longestText = 4096; // UTF-16 units
-constexpr int longestUnit = 4;    // bytes of UTF-8, more than any takes
+constexpr int longestText = 4096;     // UTF-16 units
+constexpr int longestUnit = 4;        // bytes of UTF-8, more than any takes
 
 std::optional<QString> text(const SQLite::Statement &row, int column)
 {
@@ -49,21 +48,6 @@ bool meansNoTable(const SQLite::Exception &error)
 {
     const int code = error.getErrorCode();
     return code == SQLITE_NOTADB || code == SQLITE_CORRUPT || code == SQLITE_ERROR;
-}
-
-/// The copied bytes have arrived on the disk.
-bool copyWhole(QFile &source, QFile &target)
-{
-    QByteArray piece(pieceSize, Qt::Uninitialized);
-    for (;;) {
-        const qint64 size = source.read(piece.data(), piece.size());
-        if (size == 0) {
-            return fdatasync(target.handle()) == 0;
-        }
-        if (size < 0 || target.write(piece.constData(), size) != size) {
-            return false;
-        }
-    }
 }
 
 } // namespace
@@ -107,7 +91,7 @@ struct VendorDatabase::File
     }
 
     /// None when another program has locked the file.
-    std::optional<Rewriting> tryRewriting(const QString &source) const;
+    std::optional<Rewriting> tryRewriting(const QString &source, const QString &keptAs) const;
 
     const QString path;
     /// Readers wait for the whole rewriting, however long the disk takes: for SQLite's own lock
@@ -177,10 +161,10 @@ QStringList VendorDatabase::displayStrings() const
     });
 }
 
-VendorDatabase::Rewriting VendorDatabase::rewriteFrom(const QString &source)
+VendorDatabase::Rewriting VendorDatabase::rewriteFrom(const QString &source, const QString &keptAs)
 {
     for (int tries = 0; tries < rewriterTries; ++tries) {
-        if (const auto outcome = m_file->tryRewriting(source)) {
+        if (const auto outcome = m_file->tryRewriting(source, keptAs)) {
             return *outcome;
         }
         // Between two tries nothing is held: questions need not wait for the other program too.
@@ -191,7 +175,7 @@ VendorDatabase::Rewriting VendorDatabase::rewriteFrom(const QString &source)
 }
 
 std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
-    const QString &source) const
+    const QString &source, const QString &keptAs) const
 {
     const std::unique_lock turn(turnstile);
     const std::unique_lock lock(mutex);
@@ -202,22 +186,19 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
     if (!fresh.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return Rewriting::Failed;
     }
-    // Keeps other programs out meanwhile. A file that is no database (any more) cannot be locked,
-    // but neither can it be read.
-    std::optional<SQLite::Database> guard;
-    try {
-        guard.emplace(QFile::encodeName(path).constData(), SQLite::OPEN_READWRITE);
-        if (guard->tryExec("BEGIN EXCLUSIVE") == SQLITE_BUSY) {
-            return std::nullopt;
-        }
-    } catch (const SQLite::Exception &error) {
-        qCWarning(logVendors, "Vendor database not locked: %s", error.what());
+    VendorFileWriting live(path);
+    if (live.isLockedByAnother()) {
+        return std::nullopt;
     }
-    QFile live(path);
-    if (!live.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered) ||
-        !copyWhole(fresh, live)) {
-        qCWarning(
-            logVendors, "Vendor database not written: %s", qUtf8Printable(live.errorString()));
+    const bool changesPlaces = source == keptAs;
+    const bool keeps = !keptAs.isEmpty() && live.holdsIdentifiers();
+    if (keeps && !(live.copyTo(keptAs) && (changesPlaces || VendorFileWriting::keepCopy(keptAs)))) {
+        return Rewriting::NotKept;
+    }
+    if (!live.rewriteFrom(fresh)) {
+        return Rewriting::Failed;
+    }
+    if (keeps && changesPlaces && !VendorFileWriting::keepCopy(keptAs)) {
         return Rewriting::Failed;
     }
     return Rewriting::Done;

@@ -52,11 +52,16 @@ public:
     {
         Done,
         FileMissing, ///< nothing was written
+        NotKept,     ///< nothing was written, as what is there could not be kept
         Failed,      ///< the file may have been cut short, unless another program had locked it
     };
     /// Writes the content of the file `source` over this one, which keeps its identity, and waits
-    /// for the disk. While another program's lock is waited for, questions are answered.
-    Rewriting rewriteFrom(const QString &source);
+    /// for the disk. While another program's lock is waited for, questions are answered. Whatever
+    /// journal or log lies beside the file does not outlive this.
+    ///
+    /// With `keptAs`, what is there before is kept as that file first, unless it holds no
+    /// identifier. When that is `source` itself the two change places.
+    Rewriting rewriteFrom(const QString &source, const QString &keptAs = {});
 
 private:
     struct File;

@@ -7,6 +7,13 @@
 
 namespace quillon {
 
+void removeCompanions(const QString &path)
+{
+    for (const char *const companion : {"-wal", "-shm", "-journal"}) {
+        QFile::remove(path + QLatin1String(companion));
+    }
+}
+
 QString shippedVendorDatabase(const QString &programFolder)
 {
     for (const char *const place : {"../share/quillon4/oui.db", "../data/oui.db"}) {

@@ -14,11 +14,17 @@ struct VendorFiles
     QString seed;
 
     QString liveDatabase() const { return folder + QStringLiteral("/oui.db"); }
+    /// The live database as it was before the last refresh, in a folder of its own.
+    QString previousDatabase() const { return folder + QStringLiteral("/previous/oui.db"); }
     /// The database that is being built during a refresh.
     QString newDatabase() const { return folder + QStringLiteral("/temp.db"); }
     /// The downloaded registry.
     QString registryText() const { return folder + QStringLiteral("/oui.csv"); }
 };
+
+/// Removes the log, its index and the journal that SQLite may have left beside the database at
+/// `path`: what takes the place of that database must not be read through them.
+void removeCompanions(const QString &path);
 
 /// The shipped database as seen from the folder of the running program: that of the installation
 /// ("../share/quillon4/oui.db"), else that of the build folder ("../data/oui.db"). Empty when there

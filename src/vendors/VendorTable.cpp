@@ -4,6 +4,7 @@
 
 #include "base/Log.h"
 #include "vendors/RegistryCsv.h"
+#include "vendors/VendorFiles.h"
 
 #include <QFile>
 
@@ -36,6 +37,7 @@ bool createTempDbFile(const QString &path)
 {
     // Removed first: whoever still has the old file open keeps that one.
     QFile::remove(path);
+    removeCompanions(path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         return false;

@@ -81,6 +81,18 @@ class RefreshTest(VendorTest):
         wait_until(lambda: [row.name for row in self.rows()] == ['Quoted, "Maker" (FEED01)'],
                    lambda: f"the list shows {[row.name for row in self.rows()]}")
 
+    def test_what_was_there_before_is_brought_back(self):
+        self.assertFalse(self.button("Restore previous").enabled)
+        self.web.serve({REGISTRY: {"body": "<html>\n<body>Log in,\nhere, please\n"}})
+        self.button("Update database").press()
+        self.expect_label(r"^2 Vendor Identifiers$")
+        restore = self.button("Restore previous")
+        wait_until(lambda: restore.enabled, "there is nothing to restore")
+        restore.press()
+        self.expect_label(rf"^{self.count} Vendor Identifiers$")
+        self.expect_label(LAST_UPDATED)
+        self.button("Update database")
+
     def test_the_same_registry_again_tells_the_date_alone(self):
         self.web.serve({REGISTRY: {"file": REGISTRY_FILE}})
         self.button("Update database").press()

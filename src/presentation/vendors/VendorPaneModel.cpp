@@ -48,8 +48,16 @@ void VendorPaneModel::pressButton()
     }
 }
 
+void VendorPaneModel::pressRestoreButton()
+{
+    if (m_state->canRestore) {
+        m_download.restorePrevious();
+    }
+}
+
 void VendorPaneModel::showStoredTexts()
 {
+    m_state.update([this](State &state) { state.canRestore = m_download.canRestorePrevious(); });
     showCount(m_settings.getInteger(keys::vendorCountValue));
     showDownloadCompleted(storedUpdateDate(m_settings));
 }
@@ -60,6 +68,7 @@ void VendorPaneModel::showDownloadBegun()
         state.updatedLabel = localized("Getting download information...");
         state.vendorCount = localized("Updating Vendor Identifier count...");
         state.action = Action::CancelDownload;
+        state.canRestore = false;
         state.buttonTitle = localized("Cancel download...");
     });
 }
@@ -101,6 +110,24 @@ void VendorPaneModel::showDownloadCompleted(const QString &date)
     updateLabel(filled(localized("Last Updated: %@"), {date}));
 }
 
+void VendorPaneModel::showRestorationBegun()
+{
+    m_state.update([](State &state) {
+        state.updatedLabel = localized("Restoring the previous database...");
+        state.canRestore = false;
+    });
+}
+
+void VendorPaneModel::showRestorationFailed()
+{
+    updateLabel(localized("Restoring failed..."));
+}
+
+void VendorPaneModel::showDatabaseRestored(const QString &date)
+{
+    showDownloadCompleted(date);
+}
+
 void VendorPaneModel::resetDownloadButton()
 {
     m_state.update([&](State &state) {
@@ -108,6 +135,7 @@ void VendorPaneModel::resetDownloadButton()
         state.buttonTitle = localized("Update database");
         state.progress = 0;
         state.progressShown = false;
+        state.canRestore = m_download.canRestorePrevious();
     });
 }
 

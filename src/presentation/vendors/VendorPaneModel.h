@@ -11,8 +11,8 @@ namespace quillon {
 class RegistryDownload;
 class SettingsStore;
 
-/// What the "Vendor Data" pane shows: the refresh button, its progress, and two lines of text. Main
-/// thread.
+/// What the "Vendor Data" pane shows: the refresh button, its progress, two lines of text, and the
+/// way back. Main thread.
 class VendorPaneModel : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,8 @@ public:
         bool progressShown = false;
         QString updatedLabel;
         QString vendorCount;
+        /// The database from before the last refresh is there, and nothing is going on.
+        bool canRestore = false;
 
         bool operator==(const State &) const = default;
     };
@@ -41,6 +43,9 @@ public:
     const State &state() const { return m_state.get(); }
     /// The user pressed the button: what state().action says.
     void pressButton();
+    /// The user wants the database from before the last refresh back. Nothing unless
+    /// state().canRestore.
+    void pressRestoreButton();
 
     /// At start: what the settings remember.
     void showStoredTexts();
@@ -52,6 +57,9 @@ public:
     void showProcessingBegun();
     void showParsingFailed();
     void showDownloadCompleted(const QString &date);
+    void showRestorationBegun();
+    void showRestorationFailed();
+    void showDatabaseRestored(const QString &date);
     void resetDownloadButton();
     void showFirstCountBegun();
     void showAdditionNoted(const QString &note);

@@ -25,6 +25,16 @@ constexpr int progressSteps = 1000;
 /// How far the title's picture stands from its left edge.
 constexpr int titleInset = 10;
 
+QString restoreHint(const VendorPaneModel::State &state)
+{
+    if (state.canRestore) {
+        return localized("Bring back the vendors from before the last update");
+    }
+    return state.action == VendorPaneModel::Action::CancelDownload
+               ? localized("Not while the database is being updated")
+               : localized("There are no vendors from before an update");
+}
+
 } // namespace
 
 VendorDataCard::VendorDataCard(VendorPaneModel &model, const Theme &theme, QWidget *parent)
@@ -72,6 +82,11 @@ QWidget *VendorDataCard::makeContent()
     m_button->setObjectName(u"downloadButton"_s);
     m_button->setAutoDefault(true);
     connect(m_button, &QPushButton::clicked, this, [this] { m_model.pressButton(); });
+    m_restore = new QPushButton(localized("Restore previous"));
+    m_restore->setObjectName(u"restoreButton"_s);
+    m_restore->setAccessibleName(m_restore->text());
+    m_restore->setAutoDefault(true);
+    connect(m_restore, &QPushButton::clicked, this, [this] { m_model.pressRestoreButton(); });
     // The bar comes and goes; the card keeps its height.
     QSizePolicy kept = m_progress->sizePolicy();
     kept.setRetainSizeWhenHidden(true);
@@ -85,7 +100,8 @@ QWidget *VendorDataCard::makeContent()
     grid->addWidget(m_updated, 0, 0, 1, 2);
     grid->addWidget(m_count, 1, 0);
     grid->addWidget(m_button, 1, 1);
-    grid->addWidget(m_progress, 2, 0, 1, 2);
+    grid->addWidget(m_progress, 2, 0);
+    grid->addWidget(m_restore, 2, 1);
     return content;
 }
 
@@ -107,6 +123,10 @@ void VendorDataCard::refresh()
     show(*m_count, state.vendorCount);
     m_button->setText(state.buttonTitle);
     m_button->setAccessibleName(state.buttonTitle);
+    m_restore->setEnabled(state.canRestore);
+    const QString hint = restoreHint(state);
+    m_restore->setToolTip(hint);
+    m_restore->setAccessibleDescription(hint);
     m_progress->setVisible(state.progressShown);
     // Below 0 while nobody knows how long the whole is: an empty bar.
     m_progress->setValue(static_cast<int>(std::clamp(state.progress, 0.0F, 1.0F) * progressSteps));

@@ -15,7 +15,7 @@ class Theme;
 class VendorPaneModel;
 
 /// "Vendor Data": when the registry of manufacturers was last refreshed, how many it holds, and the
-/// button that refreshes it. Folded until its title is chosen.
+/// buttons that refresh it and bring back what was before. Folded until its title is chosen.
 class VendorDataCard : public QFrame
 {
     Q_OBJECT
@@ -36,6 +36,7 @@ private:
     QLabel *m_count;
     QProgressBar *m_progress;
     QPushButton *m_button;
+    QPushButton *m_restore;
 };
 
 } // namespace quillon

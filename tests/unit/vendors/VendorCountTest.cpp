@@ -60,6 +60,22 @@ TEST_F(VendorCountTest, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
     EXPECT_TRUE(QFile::permissions(files.liveDatabase()).testFlag(QFile::WriteOwner));
 }
 
+TEST_F(VendorCountTest, AreThoseOfTheSeedThoughALogOfAnEarlierDatabaseIsLeft)
+{
+    makeDatabase(files.seed, registryOf(12));
+    makeLive(registryOf(3));
+    {
+        SQLite::Database dying(files.liveDatabase().toStdString(), SQLite::OPEN_READWRITE);
+        dying.exec("PRAGMA journal_mode = WAL; DELETE FROM vendor");
+        ASSERT_TRUE(QFile::copy(files.liveDatabase() + u"-wal"_s, root.filePath(u"left"_s)));
+    }
+    ASSERT_TRUE(QFile::remove(files.liveDatabase()));
+    ASSERT_TRUE(QFile::copy(root.filePath(u"left"_s), files.liveDatabase() + u"-wal"_s));
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 12);
+    EXPECT_FALSE(QFile::exists(files.liveDatabase() + u"-wal"_s));
+}
+
 TEST_F(VendorCountTest, KeepADatabaseThatIsThereEvenIfItIsOlder)
 {
     makeDatabase(files.seed, registryOf(12));

@@ -78,6 +78,26 @@ TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
     EXPECT_EQ(part<QLabel>("updatedLabel")->text(), u"Download cancelled..."_s);
 }
 
+TEST_F(VendorDataCardTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
+{
+    unfold();
+    auto *restore = part<QPushButton>("restoreButton");
+    EXPECT_EQ(restore->text(), u"Restore previous"_s);
+    EXPECT_EQ(restore->accessibleName(), restore->text());
+    EXPECT_FALSE(restore->isEnabled());
+    EXPECT_EQ(restore->toolTip(), u"There are no vendors from before an update"_s);
+    http.serve(registry, registryOf(5));
+    part<QPushButton>("downloadButton")->click();
+    scheduler.runPending();
+    ASSERT_TRUE(restore->isEnabled());
+    EXPECT_EQ(restore->toolTip(), u"Bring back the vendors from before the last update"_s);
+    restore->click();
+    EXPECT_FALSE(restore->isEnabled());
+    scheduler.runPending();
+    EXPECT_TRUE(restore->isEnabled());
+    EXPECT_EQ(part<QLabel>("vendorCount")->text(), u"3 Vendor Identifiers"_s);
+}
+
 TEST_F(VendorDataCardTest, TheBarFollowsTheDownload)
 {
     unfold();

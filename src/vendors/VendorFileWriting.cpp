@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "vendors/VendorFileWriting.h"
+
+#include "base/DurableFolder.h"
+#include "base/Log.h"
+#include "vendors/VendorFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <cstdio>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 pieceSize = qint64{1024} * 1024;
+
+/// The copied bytes have arrived on the disk.
+bool copyWhole(QFile &source, QFile &target)
+{
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    for (;;) {
+        const qint64 size = source.read(piece.data(), piece.size());
+        if (size == 0) {
+            // The time tells when the content became what it is.
+            target.setFileTime(source.fileTime(QFileDevice::FileModificationTime),
+                QFileDevice::FileModificationTime);
+            return fsync(target.handle()) == 0;
+        }
+        if (size < 0 || target.write(piece.constData(), size) != size) {
+            return false;
+        }
+    }
+}
+
+QString copyBeside(const QString &place)
+{
+    return place + u".new"_s;
+}
+
+/// By the header, a database keeps a rollback journal and no log.
+bool hasNoLog(const QString &path)
+{
+    constexpr qsizetype readVersion = 19;
+    QFile file(path);
+    const bool isOpen = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const QByteArray header = isOpen ? file.read(readVersion + 1) : QByteArray();
+    return header.size() == readVersion + 1 && header.startsWith("SQLite format 3") &&
+           header.at(readVersion) == 1;
+}
+
+} // namespace
+
+VendorFileWriting::VendorFileWriting(const QString &path)
+    : m_file(path)
+{
+    dropStaleLog();
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
+        qCWarning(
+            logVendors, "Vendor database not opened: %s", qUtf8Printable(m_file.errorString()));
+    }
+    try {
+        m_guard = std::make_unique<SQLite::Database>(
+            QFile::encodeName(path).constData(), SQLite::OPEN_READWRITE);
+        lock();
+    } catch (const SQLite::Exception &error) {
+        qCWarning(logVendors, "Vendor database not locked: %s", error.what());
+        m_guard.reset();
+    }
+}
+
+VendorFileWriting::~VendorFileWriting() = default;
+
+/// SQLite reads a file through any log beside it, also through one that was left by a program that
+/// died and is of what the file was before, or of another file.
+void VendorFileWriting::dropStaleLog()
+{
+    const QString path = m_file.fileName();
+    if (hasNoLog(path)) {
+        QFile::remove(path + u"-wal"_s);
+        QFile::remove(path + u"-shm"_s);
+    }
+}
+
+void VendorFileWriting::lock()
+{
+    // The first brings in what a program that died has left; the second makes an end of a log, and
+    // waits for nobody who uses it.
+    for (const char *const step :
+        {"SELECT 1 FROM sqlite_master", "PRAGMA journal_mode = DELETE", "BEGIN EXCLUSIVE"}) {
+        const int outcome = m_guard->tryExec(step) & 0xff;
+        if (outcome == SQLITE_BUSY) {
+            m_isLockedByAnother = true;
+            return;
+        }
+        if (outcome != SQLITE_OK) {
+            qCWarning(logVendors, "Vendor database not locked: %s", m_guard->getErrorMsg());
+        }
+    }
+}
+
+bool VendorFileWriting::holdsIdentifiers() const
+{
+    try {
+        return m_guard && m_guard->execAndGet("SELECT EXISTS (SELECT 1 FROM vendor WHERE "
+                                              "Assignment IS NOT NULL AND Assignment <> '')")
+                                  .getInt() != 0;
+    } catch (const SQLite::Exception &) {
+        return false;
+    }
+}
+
+bool VendorFileWriting::copyTo(const QString &place)
+{
+    makeFolder(QFileInfo(place).path());
+    QFile copy(copyBeside(place));
+    const bool isCopied = m_file.isOpen() && m_file.seek(0) &&
+                          copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                          copyWhole(m_file, copy);
+    if (!isCopied) {
+        qCWarning(logVendors, "Vendor database not kept: %s", qUtf8Printable(copy.errorString()));
+        copy.remove();
+    }
+    return isCopied;
+}
+
+bool VendorFileWriting::keepCopy(const QString &place)
+{
+    removeCompanions(place);
+    const bool isNamed = std::rename(QFile::encodeName(copyBeside(place)).constData(),
+                             QFile::encodeName(place).constData()) == 0;
+    if (!isNamed) {
+        qCWarning(logVendors, "Vendor database not kept as %s", qUtf8Printable(place));
+        QFile::remove(copyBeside(place));
+    }
+    return isNamed && !syncFolder(QFileInfo(place).path());
+}
+
+bool VendorFileWriting::rewriteFrom(QFile &source)
+{
+    const QString path = m_file.fileName();
+    removeCompanions(path);
+    // Or one of them could come back with a power cut, beside the new content.
+    syncFolder(QFileInfo(path).path());
+    const bool isEmptied =
+        m_file.isOpen() && (m_file.pos() == 0 || m_file.seek(0)) &&
+        // What is no file, and cannot be cut, says at the first write what is wrong.
+        (m_file.resize(0) || m_file.isSequential());
+    if (!isEmptied || !copyWhole(source, m_file)) {
+        qCWarning(
+            logVendors, "Vendor database not written: %s", qUtf8Printable(m_file.errorString()));
+        return false;
+    }
+    return true;
+}
+
+} // namespace quillon

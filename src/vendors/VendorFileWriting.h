@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFile>
+
+#include <memory>
+
+namespace SQLite {
+class Database;
+} // namespace SQLite
+
+namespace quillon {
+
+/// A vendor database file that is about to be written over, locked against other programs while
+/// this lives. No connection of this process may have it open meanwhile: closing any descriptor of
+/// a file ends all locks of the process on it. Any thread; blocks.
+class VendorFileWriting
+{
+public:
+    /// The file exists. One that is no database (any more) cannot be locked, but neither can it be
+    /// read.
+    explicit VendorFileWriting(const QString &path);
+    ~VendorFileWriting();
+    VendorFileWriting(const VendorFileWriting &) = delete;
+    VendorFileWriting &operator=(const VendorFileWriting &) = delete;
+
+    bool isLockedByAnother() const { return m_isLockedByAnother; }
+    /// Whether there is anything in it to look up.
+    bool holdsIdentifiers() const;
+    /// Makes a copy beside `place`, on the disk, with the file's time of change. The folder is made
+    /// when it is missing. False, and no copy, when that fails.
+    bool copyTo(const QString &place);
+    /// Gives the copy that was made beside `place` that name, atomically.
+    static bool keepCopy(const QString &place);
+    /// Writes the content of `source` over the file, with its time of change, and waits for the
+    /// disk.
+    bool rewriteFrom(QFile &source);
+
+private:
+    void dropStaleLog();
+    void lock();
+
+    /// Open from before the lock until after it, for the same reason.
+    QFile m_file;
+    std::unique_ptr<SQLite::Database> m_guard; ///< null when the file is no database
+    bool m_isLockedByAnother = false;
+};
+
+} // namespace quillon

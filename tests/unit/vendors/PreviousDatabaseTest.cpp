@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The way back from a refresh, as it is used in the pane.
+#include "RegistryRefresh.h"
+#include "fakes/LogCapture.h"
+
+#include <QDateTime>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+using ::testing::ElementsAre;
+
+class PreviousDatabase : public RegistryRefresh
+{
+protected:
+    void restore()
+    {
+        pane.pressRestoreButton();
+        scheduler.runPending();
+    }
+    void setLiveTime(const QDateTime &time)
+    {
+        QFile live(files.liveDatabase());
+        ASSERT_TRUE(live.open(QIODevice::ReadWrite | QIODevice::ExistingOnly));
+        ASSERT_TRUE(live.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+};
+
+TEST_F(PreviousDatabase, IsNotThereBeforeTheFirstRefresh)
+{
+    EXPECT_FALSE(pane.state().canRestore);
+    restore();
+    EXPECT_THAT(takeLabels(), ElementsAre());
+    refresh("Not Found");
+    EXPECT_FALSE(pane.state().canRestore) << "a refresh that failed changed nothing";
+}
+
+TEST_F(PreviousDatabase, ComesBackWithItsCountAndDateAfterAPageThatIsNoRegistry)
+{
+    const QDateTime before = QDateTime::fromSecsSinceEpoch(1'700'000'000);
+    setLiveTime(before);
+    refresh("<html>\n<body>Log in,\nhere, please\n", 511);
+    EXPECT_EQ(pane.state().vendorCount, "2 Vendor Identifiers"_L1) << "parsed as it is";
+    ASSERT_TRUE(pane.state().canRestore);
+    takeLabels();
+    restore();
+    const QString date = mediumDateShortTime(before.toLocalTime(), QLocale());
+    EXPECT_THAT(takeLabels(),
+        ElementsAre("Restoring the previous database...", u"Last Updated: "_s + date));
+    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), date) << "nothing was added";
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 10);
+    EXPECT_EQ(pane.state().vendorCount, "10 Vendor Identifiers"_L1);
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
+    expectIdle();
+}
+
+TEST_F(PreviousDatabase, ChangesPlacesWithWhatItReplaces)
+{
+    refresh(registryOf(15));
+    EXPECT_EQ(database.count(), 15);
+    restore();
+    EXPECT_EQ(database.count(), 10);
+    ASSERT_TRUE(pane.state().canRestore);
+    restore();
+    EXPECT_EQ(database.count(), 15);
+    EXPECT_EQ(pane.state().vendorCount, "15 Vendor Identifiers"_L1);
+}
+
+TEST_F(PreviousDatabase, IsTheOneFromBeforeTheLastRefresh)
+{
+    refresh(registryOf(15));
+    refresh(registryOf(20));
+    restore();
+    EXPECT_EQ(database.count(), 15);
+}
+
+TEST_F(PreviousDatabase, CannotBeRestoredDuringARefresh)
+{
+    refresh(registryOf(15));
+    http.forget(registry);
+    pane.pressButton();
+    EXPECT_FALSE(pane.state().canRestore);
+    restore();
+    EXPECT_EQ(database.count(), 15);
+    pane.pressButton();
+    EXPECT_TRUE(pane.state().canRestore) << "cancelled";
+}
+
+TEST_F(PreviousDatabase, IsOfferedAfterARestart)
+{
+    refresh(registryOf(15));
+    QuillonAppDelegate another{[this] {
+        Platform platform = machine.platform();
+        platform.places.supportFolder = files.folder;
+        return platform;
+    }()};
+    EXPECT_FALSE(another.features().vendors.pane.state().canRestore);
+    another.features().vendors.pane.showStoredTexts();
+    EXPECT_TRUE(another.features().vendors.pane.state().canRestore);
+}
+
+TEST_F(PreviousDatabase, ThatIsDamagedIsNotPutInPlace)
+{
+    const LogCapture log;
+    refresh(registryOf(15));
+    writeFile(files.previousDatabase(), "scribble");
+    restore();
+    EXPECT_EQ(takeLabels().last(), "Restoring failed..."_L1);
+    EXPECT_EQ(database.count(), 15);
+    expectIdle();
+}
+
+TEST_F(PreviousDatabase, ComesBackWhereTheLiveOneIsCutShortOrGone)
+{
+    const LogCapture log;
+    refresh(registryOf(15));
+    writeFile(files.liveDatabase(), QByteArray(100, 'x'));
+    restore();
+    EXPECT_EQ(database.count(), 10);
+    ASSERT_TRUE(QFile::remove(files.liveDatabase()));
+    restore();
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_EQ(pane.state().vendorCount, "10 Vendor Identifiers"_L1);
+}
+
+TEST_F(PreviousDatabase, ARefreshThatCannotKeepItFailsAndChangesNothing)
+{
+    const LogCapture log;
+    writeFile(files.folder + u"/previous"_s, "in the way");
+    refresh(registryOf(15));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), "Yesterday"_L1);
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.csv", "oui.db", "previous"));
+    expectIdle();
+}
+
+} // namespace
+} // namespace quillon::test
