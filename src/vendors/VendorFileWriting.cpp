@@ -103,6 +103,7 @@ void VendorFileWriting::lock()
         }
         if (outcome != SQLITE_OK) {
             qCWarning(logVendors, "Vendor database not locked: %s", m_guard->getErrorMsg());
+            return;
         }
     }
 }

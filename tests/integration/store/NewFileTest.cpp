@@ -37,5 +37,31 @@ TEST(NewFile, ThatSomebodyElseMadeNeedsNoMore)
     EXPECT_FALSE(syncedPaths().contains(home.path()));
 }
 
+TEST(NewFile, IsNotReadThroughWhatAnEarlierOneLeftBesideIt)
+{
+    const QTemporaryDir home;
+    const QString path = home.filePath(u"Quillon.sqlite"_s);
+    FakeScheduler scheduler;
+    for (const char *const part : {"-wal", "-journal"}) {
+        {
+            auto earlier = openedContext(path, scheduler);
+            ASSERT_TRUE(earlier);
+            earlier.value()->insertNewObject(model::Rule);
+            ASSERT_FALSE(earlier.value()->save());
+            ASSERT_TRUE(QFile::copy(path + u"-wal"_s, home.filePath(u"left"_s)));
+        }
+        ASSERT_TRUE(QFile::remove(path));
+        ASSERT_TRUE(QFile::rename(home.filePath(u"left"_s), path + QLatin1String(part)));
+        auto opened = openedContext(path, scheduler);
+        ASSERT_TRUE(opened) << part << ": " << opened.error().message.toStdString();
+        EXPECT_TRUE(opened.value()->fetch({model::Rule, {}, {}}).value().isEmpty());
+        opened.value()->insertNewObject(model::Rule);
+        EXPECT_FALSE(opened.value()->save());
+        opened.value().reset();
+        EXPECT_EQ(integrityOf(path), "ok");
+        ASSERT_TRUE(QFile::remove(path));
+    }
+}
+
 } // namespace
 } // namespace quillon::test

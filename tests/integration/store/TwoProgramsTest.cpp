@@ -5,6 +5,7 @@
 #include "WatchedFileSystem.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/QtPrinting.h"
+#include "store/model/RecordFileError.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -28,13 +29,17 @@ public:
     /// Saves a rule; what prevents it, or nothing.
     QString save(const QString &name)
     {
+        const auto error = trySaving(name);
+        return error ? error->message : QString();
+    }
+    std::optional<Error> trySaving(const QString &name)
+    {
         if (!m_opened) {
-            return m_opened.error().message;
+            return m_opened.error();
         }
         ManagedObjectContext &context = *m_opened.value();
         context.insertNewObject(model::Rule)->setValue(model::rule::name, name);
-        const auto error = context.save();
-        return error ? error->message : QString();
+        return context.save();
     }
     QStringList names()
     {
@@ -145,6 +150,19 @@ TEST_F(TwoPrograms, GiveUpInBoundedTimeWhenTheReaderStays)
     EXPECT_LT(waited, 200);
 }
 
+/// A busy disk may hold up the others for longer than one waits: that it is locked is no fault.
+std::optional<Error> savingAtLast(const QString &path, const QString &name)
+{
+    std::optional<Error> error;
+    for (int tries = 0; tries < 60; ++tries) {
+        error = RecordsProgram(path).trySaving(name);
+        if (!error || !isRecordFileError(*error, RecordFileError::Locked)) {
+            break;
+        }
+    }
+    return error;
+}
+
 /// Real processes, which begin at the same moment.
 TEST(TwoProgramsAtOnce, AllMakeTheFileAndSave)
 {
@@ -162,11 +180,11 @@ TEST(TwoProgramsAtOnce, AllMakeTheFileAndSave)
                 char none = 0;
                 // Ends when the last of the other end closes.
                 const bool begins = ::read(start[0], &none, 1) == 0;
-                const QString fault = RecordsProgram(path).save(QString::number(number));
-                if (!fault.isEmpty()) {
-                    std::fprintf(stderr, "%s\n", qUtf8Printable(fault));
+                const auto error = savingAtLast(path, QString::number(number));
+                if (error) {
+                    std::fprintf(stderr, "%s\n", qUtf8Printable(error->message));
                 }
-                std::_Exit(begins && fault.isEmpty() ? 0 : 1);
+                std::_Exit(begins && !error ? 0 : 1);
             }
             children << child;
         }
