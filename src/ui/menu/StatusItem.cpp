@@ -46,6 +46,7 @@ void StatusItem::follow()
         m_icon = std::make_unique<QSystemTrayIcon>(m_theme.icon(u"menu"_s, Theme::Ink::Tray));
         m_icon->setToolTip(u"Quillon"_s);
         m_icon->setContextMenu(m_menu.get());
+        m_menu->refresh();
         connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 if (reason == QSystemTrayIcon::Trigger) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/menu/StatusMenu.h"
 
+#include "ui/widgets/PlainText.h"
+
 #include <QSet>
 
 namespace quillon {
@@ -9,12 +11,6 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Menus outside of this process mark mnemonics with underscores; none of ours has one.
-QString withoutMnemonics(QString title)
-{
-    return title.replace(u'&', u"&&"_s).replace(u'_', u"__"_s);
-}
 
 /// A submenu belongs to the menu, not to the action that opens it.
 void dropSubmenu(QAction &action)
@@ -26,6 +22,23 @@ void dropSubmenu(QAction &action)
 }
 
 } // namespace
+
+QString menuText(const QString &title)
+{
+    return plainLine(title).replace(u'&', u"&&"_s);
+}
+
+QString exportedMenuText(const QString &title)
+{
+    // There an underscore marks a mnemonic, and an ampersand is itself. Qt turns the first ampersand
+    // into an underscore, unless it is the last character, and leaves the others alone.
+    QString text = plainLine(title).replace(u'_', u"__"_s);
+    const auto first = text.indexOf(u'&');
+    if (first >= 0 && first < text.size() - 1) {
+        text.insert(first, u'&');
+    }
+    return text;
+}
 
 QStringList menuEntryKeys(const std::vector<MenuEntry> &entries)
 {
@@ -92,11 +105,17 @@ QAction *StatusMenu::takeOrMake(const QString &key)
     return action;
 }
 
+QString StatusMenu::textOf(const MenuEntry &entry)
+{
+    const bool isExported = platformMenu() != nullptr;
+    return isExported ? exportedMenuText(entry.title) : menuText(entry.title);
+}
+
 void StatusMenu::show(QAction &action, const MenuEntry &entry, bool afterSeparator)
 {
     action.setSeparator(entry.isSeparator());
     action.setVisible(!entry.isSeparator() || !afterSeparator);
-    action.setText(withoutMnemonics(entry.title));
+    action.setText(textOf(entry));
     action.setEnabled(entry.isEnabled());
     action.setCheckable(entry.action == MenuEntry::Action::ChangeInterface);
     action.setChecked(entry.checked);
@@ -130,7 +149,7 @@ void StatusMenu::showSubmenu(QAction &action, const std::vector<MenuEntry> &entr
             items.append(made);
         }
         QAction *item = items.at(static_cast<qsizetype>(index));
-        item->setText(withoutMnemonics(entries[index].title));
+        item->setText(textOf(entries[index]));
         item->setEnabled(entries[index].isEnabled());
     }
 }

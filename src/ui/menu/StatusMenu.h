@@ -20,9 +20,13 @@ class StatusMenu : public QMenu
 public:
     explicit StatusMenu(StatusMenuModel &model);
 
-private:
+    /// Shows what the model has. Also to be called when the menu was given to a status item: a host
+    /// reads the marks in a title in another way than a menu of this process.
     void refresh();
+
+private:
     QAction *takeOrMake(const QString &key);
+    QString textOf(const MenuEntry &entry);
     void show(QAction &action, const MenuEntry &entry, bool afterSeparator);
     void showSubmenu(QAction &action, const std::vector<MenuEntry> &entries);
     void activate(const QAction &action);
@@ -31,6 +35,11 @@ private:
     StatusMenuModel &m_model;
     QHash<QString, QAction *> m_actions; ///< by section and place in it
 };
+
+/// A title as an action's text that reads like it, without a mnemonic: in a menu of this process, and
+/// in one that Qt exports over the bus for a host to show.
+QString menuText(const QString &title);
+QString exportedMenuText(const QString &title);
 
 /// What each entry is, whatever it says at the moment: its section (an interface's title, or what
 /// the section is for) and its place in the section.

@@ -6,6 +6,7 @@
 #include "presentation/vendors/VendorFieldModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/vendors/VendorTableView.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -33,7 +34,7 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     makeToggle(theme);
     m_table->hide();
     m_table->installEventFilter(this);
-    auto *caption = new QLabel(localized("&Vendor of random addresses"));
+    auto *caption = plainLabel(localized("&Vendor of random addresses"));
     caption->setProperty("look", u"caption"_s);
     caption->setBuddy(m_field);
 
@@ -92,11 +93,11 @@ void VendorChooser::refresh()
         // The beginning of a name says more than its end.
         m_field->setCursorPosition(0);
     }
-    m_field->setToolTip(state.text);
+    m_field->setToolTip(plainToolTip(state.text));
     const QString toggles =
         state.popoverShown ? localized("Hide vendors") : localized("Show vendors");
     m_toggle->setAccessibleName(toggles);
-    m_toggle->setToolTip(toggles);
+    m_toggle->setToolTip(plainToolTip(toggles));
     if (state.popoverShown && m_table->isHidden()) {
         openList();
     } else if (!state.popoverShown && !m_table->isHidden()) {

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/vendors/VendorPaneModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -66,11 +67,10 @@ VendorDataCard::VendorDataCard(VendorPaneModel &model, const Theme &theme, QWidg
 QWidget *VendorDataCard::makeContent()
 {
     auto *content = new QWidget;
-    m_updated = new QLabel;
+    m_updated = plainLabel();
     m_updated->setObjectName(u"updatedLabel"_s);
-    m_updated->setTextFormat(Qt::PlainText);
     m_updated->setWordWrap(true);
-    m_count = new QLabel;
+    m_count = plainLabel();
     m_count->setObjectName(u"vendorCount"_s);
     m_count->setProperty("look", u"caption"_s);
     m_progress = new QProgressBar;
@@ -115,12 +115,8 @@ void VendorDataCard::fold(bool folded)
 void VendorDataCard::refresh()
 {
     const auto &state = m_model.state();
-    const auto show = [](QLabel &label, const QString &text) {
-        label.setText(text);
-        label.setAccessibleName(text);
-    };
-    show(*m_updated, state.updatedLabel);
-    show(*m_count, state.vendorCount);
+    showLine(*m_updated, state.updatedLabel);
+    showLine(*m_count, state.vendorCount);
     m_button->setText(state.buttonTitle);
     m_button->setAccessibleName(state.buttonTitle);
     m_restore->setEnabled(state.canRestore);

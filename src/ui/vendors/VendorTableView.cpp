@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/vendors/VendorFieldModel.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -60,7 +61,7 @@ QVariant VendorListRows::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return m_model.rowText(index.row());
     case Qt::ToolTipRole:
-        return m_model.rowToolTip(index.row());
+        return plainToolTip(m_model.rowToolTip(index.row()));
     default:
         return {};
     }

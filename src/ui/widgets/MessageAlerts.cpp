@@ -3,10 +3,12 @@
 #include "ui/widgets/MessageAlerts.h"
 
 #include "base/Localized.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QApplication>
 #include <QGridLayout>
 #include <QIcon>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -22,9 +24,15 @@ constexpr int iconSize = 48;
 void describe(QMessageBox &box, const QString &message, const QString &informativeText)
 {
     box.setWindowTitle(u"Quillon"_s);
+    // Before it is shown: a text that is HTML opens its pictures at once. The box's own format does
+    // not hold for the informative text, whose label is made only when there is one.
     box.setTextFormat(Qt::PlainText);
-    box.setText(message);
-    box.setInformativeText(informativeText);
+    box.setInformativeText(u" "_s);
+    for (QLabel *label : box.findChildren<QLabel *>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    box.setText(plainParagraphs(message));
+    box.setInformativeText(plainParagraphs(informativeText));
     const QIcon icon(u":/icons/com.orvandel.Quillon4.svg"_s);
     box.setIconPixmap(icon.pixmap(QSize(iconSize, iconSize), box.devicePixelRatioF()));
 }

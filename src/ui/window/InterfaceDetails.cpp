@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -36,7 +37,7 @@ InterfaceDetails::InterfaceDetails(MainWindowModel &model, QWidget *parent)
     , m_current(makeValue(u"currentAddress"_s))
     , m_factory(makeValue(u"hardwareAddress"_s))
     , m_ipAddress(makeValue(u"ipAddress"_s))
-    , m_changed(new QLabel(localized("Changed")))
+    , m_changed(plainLabel(localized("Changed")))
 {
     setProperty("look", u"card"_s);
     m_grid->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::cardMargin, Theme::unit);
@@ -46,7 +47,7 @@ InterfaceDetails::InterfaceDetails(MainWindowModel &model, QWidget *parent)
 
     m_changed->setObjectName(u"hardwareIndicator"_s);
     m_changed->setProperty("look", u"notice"_s);
-    m_changed->setToolTip(localized("The address in use is not the factory address"));
+    m_changed->setToolTip(plainToolTip(localized("The address in use is not the factory address")));
     m_changed->setAccessibleName(localized("The address in use is not the factory address"));
     m_changed->setFont(Theme::textFont(0.9, QFont::DemiBold));
     addRow(localized("Current address"), m_current, {nullptr, m_changed});
@@ -60,7 +61,7 @@ void InterfaceDetails::addRow(const QString &caption, QWidget *value, const Besi
     if (m_grid->count() > 0) {
         m_grid->addWidget(makeRule(), m_grid->rowCount(), 0, 1, columns);
     }
-    auto *name = new QLabel(caption);
+    auto *name = plainLabel(caption);
     name->setProperty("look", u"caption"_s);
     // What stands beside the value comes and goes; the rows keep their height, all the same.
     name->setMinimumHeight(Theme::rowHeight);
@@ -95,10 +96,9 @@ QWidget *InterfaceDetails::addWideRow(QWidget *content)
 
 QLabel *InterfaceDetails::makeValue(const QString &name)
 {
-    auto *value = new QLabel;
+    auto *value = plainLabel();
     value->setObjectName(name);
     value->setProperty("look", u"value"_s);
-    value->setTextFormat(Qt::PlainText);
     value->setFont(Theme::addressFont(1.0));
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setCursor(Qt::IBeamCursor);
@@ -107,8 +107,12 @@ QLabel *InterfaceDetails::makeValue(const QString &name)
 
 void InterfaceDetails::showValue(QLabel &label, const QString &text)
 {
-    label.setText(text.isEmpty() ? u"–"_s : text);
-    label.setAccessibleName(text.isEmpty() ? localized("None") : text);
+    if (text.isEmpty()) {
+        label.setText(u"–"_s);
+        label.setAccessibleName(localized("None"));
+    } else {
+        showLine(label, text, Theme::windowWidth);
+    }
 }
 
 void InterfaceDetails::refresh()

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 #include "ui/window/InterfaceSelector.h"
 
 #include <QHBoxLayout>
@@ -28,11 +29,11 @@ InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWi
     , m_model(model)
     , m_theme(theme)
     , m_selector(new InterfaceSelector(model))
-    , m_selectorCaption(new QLabel(localized("&Interface")))
-    , m_portIcon(new QLabel)
-    , m_portName(new QLabel)
-    , m_linkDot(new QLabel)
-    , m_linkText(new QLabel)
+    , m_selectorCaption(plainLabel(localized("&Interface")))
+    , m_portIcon(plainLabel())
+    , m_portName(plainLabel())
+    , m_linkDot(plainLabel())
+    , m_linkText(plainLabel())
 {
     setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
     m_portIcon->setFixedSize(portIconSize, portIconSize);
@@ -69,7 +70,7 @@ void InterfaceHeader::refresh()
     const auto &state = m_model.state();
     m_selector->refresh();
     m_selectorCaption->setVisible(state.selectionVisible);
-    m_portName->setText(state.interfaceName);
+    showLine(*m_portName, state.interfaceName, Theme::windowWidth / 2);
     refreshLink();
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
+#include "ui/theme/Theme.h"
 
 #include <QHoverEvent>
 #include <QSignalBlocker>
@@ -21,6 +22,8 @@ InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
     setAccessibleName(localized("Interface"));
     setAccessibleDescription(localized("The network interface whose address is shown and changed"));
     setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The list knows interfaces of the settings file too, however long their names are.
+    setMaximumWidth(Theme::windowWidth / 2);
     // The list's look comes from the style sheet, which the default delegate of a combo box
     // disregards.
     setItemDelegate(new QStyledItemDelegate(this));

@@ -8,6 +8,7 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/DetailsArea.h"
+#include "ui/widgets/PlainText.h"
 #include "ui/window/AddressField.h"
 #include "ui/window/InterfaceDetails.h"
 #include "ui/window/InterfaceHeader.h"
@@ -42,7 +43,7 @@ constexpr int usualFrame = 32;
 
 QLabel *makeCaption(const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = plainLabel(text);
     label->setProperty("look", u"caption"_s);
     return label;
 }
@@ -53,7 +54,7 @@ QPushButton *makeButton(
     auto *button = new QPushButton(text);
     button->setAccessibleName(accessibleName);
     button->setAccessibleDescription(description);
-    button->setToolTip(description);
+    button->setToolTip(plainToolTip(description));
     button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     // Return presses the focused button, as the space bar does.
     button->setAutoDefault(true);

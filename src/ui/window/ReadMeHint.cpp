@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,8 +19,8 @@ using namespace Qt::StringLiterals;
 ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
-    , m_hint(new QLabel(localized("The helper is not installed")))
-    , m_explanation(new QLabel(MainWindowModel::readMeText()))
+    , m_hint(plainLabel(localized("The helper is not installed")))
+    , m_explanation(plainLabel(MainWindowModel::readMeText()))
     , m_install(new QPushButton)
     , m_disclose(new QPushButton(localized("What is &this?")))
 {
@@ -45,7 +46,7 @@ ReadMeHint::ReadMeHint(MainWindowModel &model, const Theme &theme, QWidget *pare
     m_disclose->setAutoDefault(true);
     m_disclose->setAccessibleDescription(localized("Shows or hides an explanation of the helper"));
 
-    auto *shield = new QLabel;
+    auto *shield = plainLabel();
     shield->setPixmap(
         theme.icon(u"shield"_s, Theme::Ink::Hint).pixmap(QSize(28, 28), devicePixelRatioF()));
 

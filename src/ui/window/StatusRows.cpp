@@ -7,6 +7,7 @@
 #include "presentation/rules/CountdownModel.h"
 #include "presentation/rules/RuleStatusModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 #include "ui/window/InterfaceDetails.h"
 
 #include <QHBoxLayout>
@@ -31,7 +32,7 @@ QToolButton *makeButton(const QString &objectName, const QString &name, const QI
     // As high as the row, whatever a style adds.
     button->setFixedSize(Theme::rowHeight, Theme::rowHeight);
     button->setAccessibleName(name);
-    button->setToolTip(name);
+    button->setToolTip(plainToolTip(name));
     return button;
 }
 
@@ -61,7 +62,7 @@ void StatusRows::addExternalAddress(InterfaceDetails &details)
     m_externalAddress = InterfaceDetails::makeValue(u"externalAddress"_s);
     auto *button = makeButton(u"refreshExternalIP"_s, localized("Refresh external address"),
         m_theme.icon(u"refresh"_s, Theme::Ink::Muted));
-    button->setToolTip(localized("Asks a public service under which address it sees you"));
+    button->setToolTip(plainToolTip(localized("Asks a public service under which address it sees you")));
     connect(button, &QToolButton::clicked, this,
         [this] { m_models.externalAddress.refreshExternalIP(); });
     details.addRow(localized("External address"), m_externalAddress, {nullptr, button});
@@ -69,18 +70,17 @@ void StatusRows::addExternalAddress(InterfaceDetails &details)
 
 void StatusRows::addRules(InterfaceDetails &details)
 {
-    m_rulesImage = new QLabel;
+    m_rulesImage = plainLabel();
     m_rulesImage->setFixedSize(ruleDotSize, ruleDotSize);
-    m_rules = new QLabel;
+    m_rules = plainLabel();
     m_rules->setObjectName(u"rulesLabel"_s);
     details.addRow(localized("Rules"), m_rules, {m_rulesImage, nullptr});
 }
 
 void StatusRows::addCountdown(InterfaceDetails &details)
 {
-    m_countdown = new QLabel;
+    m_countdown = plainLabel();
     m_countdown->setObjectName(u"timerLabel"_s);
-    m_countdown->setTextFormat(Qt::PlainText);
     // A text that is too long takes a second line instead of widening the window.
     m_countdown->setWordWrap(true);
     m_pause = makeButton(
@@ -120,17 +120,15 @@ void StatusRows::refreshRules()
     const QString text = available   ? localized("Active rule")
                          : partially ? localized("No active rules")
                                      : localized("No rules");
-    m_rules->setText(text);
-    m_rules->setAccessibleName(text);
-    m_rules->setToolTip(state.toolTip);
-    m_rulesImage->setToolTip(state.toolTip);
+    showLine(*m_rules, text);
+    m_rules->setToolTip(plainToolTip(state.toolTip));
+    m_rulesImage->setToolTip(plainToolTip(state.toolTip));
 }
 
 void StatusRows::refreshCountdown()
 {
     const auto &state = m_models.countdown.state();
-    m_countdown->setText(state.label);
-    m_countdown->setAccessibleName(state.label);
+    showLine(*m_countdown, state.label);
     m_countdownRow->setVisible(state.buttonsVisible || !state.label.isEmpty());
     m_pause->setVisible(state.buttonsVisible);
     m_resume->setVisible(state.buttonsVisible);

@@ -164,11 +164,36 @@ TEST_F(StatusMenuTest, IsRebuiltWhenItIsAboutToOpen)
     titled(u"    Current Address \u00B7 02:00:00:00:00:77"_s);
 }
 
-TEST_F(StatusMenuTest, AnUnderscoreInANameIsNoMnemonic)
+TEST_F(StatusMenuTest, AnAmpersandInANameIsNoMnemonic)
 {
-    host.plug({u"Bridge"_s, u"br_0"_s, {}, u"02:00:00:00:00:50"_s, {}});
+    host.plug({u"Bridge"_s, u"b&r_0&"_s, {}, u"02:00:00:00:00:50"_s, {}});
     menu.menuWillOpen();
-    titled(u"Bridge \u00B7 br__0"_s);
+    titled(u"Bridge \u00B7 b&&r_0&&"_s);
+}
+
+/// What Qt gives to a tray host, and what the host makes of it.
+QString readByAHost(QString text)
+{
+    const auto mark = text.indexOf(u'&');
+    if (mark >= 0 && mark < text.size() - 1) {
+        text[mark] = u'_';
+    }
+    return text.replace(u"__"_s, u"\n"_s).remove(u'_').replace(u'\n', u'_');
+}
+
+TEST(StatusMenuExported, ATitleReadsInATrayHostAsItIs)
+{
+    for (const QString &title : {u"Bridge \u00B7 br_0"_s, u"_a__b_"_s, u"AT&T"_s, u"&File"_s,
+             u"a&b&c & d"_s, u"end&"_s, u"both&ends&"_s, u"&&"_s, u"&"_s, u"a_&_b"_s}) {
+        EXPECT_EQ(readByAHost(exportedMenuText(title)), title);
+    }
+}
+
+TEST(StatusMenuExported, ATitleIsOneLine)
+{
+    EXPECT_EQ(exportedMenuText(u"a\tb\nc\u202Ed"_s), u"a b c\uFFFDd"_s);
+    EXPECT_EQ(menuText(u"a\tb\nc\u202Ed"_s), u"a b c\uFFFDd"_s);
+    EXPECT_EQ(menuText(QString(10'000, u'x')).size(), 120);
 }
 
 } // namespace

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/PlainText.h"
+
+#include "fakes/QtPrinting.h"
+
+#include <QLabel>
+#include <QTextDocument>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+QString readAsHtml(const QString &html)
+{
+    QTextDocument document;
+    document.setHtml(html);
+    return document.toPlainText();
+}
+
+TEST(PlainText, ALineLeavesOrdinaryTextsAlone)
+{
+    for (const QString &text : {QString(), u"Ethernet"_s, u"Société <Générale> & Co."_s,
+             u"שלום"_s, u"日本電気"_s, u"😀"_s, QString(120, u'x')}) {
+        EXPECT_EQ(plainLine(text), text);
+        EXPECT_EQ(plainParagraphs(text), text);
+    }
+}
+
+TEST(PlainText, ALineHasNoControlCharacters)
+{
+    EXPECT_EQ(plainLine(u"a\tb\nc\rd\u0000e\u007Ff\u0085g\u2028h\u2029i"_s),
+        u"a b c d e f g h i"_s);
+    EXPECT_EQ(plainParagraphs(u"a\nb\tc\u2028d"_s), u"a\nb c d"_s);
+}
+
+TEST(PlainText, NothingTurnsTheTextAroundIt)
+{
+    for (const char16_t code : u"\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069") {
+        if (code != 0) {
+            EXPECT_EQ(plainLine(QString(QChar(code)) + u'x'), u"\uFFFDx"_s);
+            EXPECT_EQ(plainParagraphs(QString(QChar(code)) + u'x'), u"\uFFFDx"_s);
+            EXPECT_EQ(plainToolTip(QString(QChar(code)) + u'x'), u"\uFFFDx"_s);
+        }
+    }
+}
+
+TEST(PlainText, LongTextsAreCutBetweenCharacters)
+{
+    EXPECT_EQ(plainLine(QString(121, u'x')), QString(119, u'x') + u'…');
+    EXPECT_EQ(plainParagraphs(QString(2001, u'x')), QString(1999, u'x') + u'…');
+    EXPECT_EQ(plainLine(QString(118, u'x') + u"😀😀"_s), QString(118, u'x') + u'…');
+}
+
+TEST(PlainText, AToolTipThatIsNoHtmlIsTheTextItself)
+{
+    for (const QString &text : {QString(), u"Appian (00000A)"_s, u"AT&T & Co"_s, u"a < b"_s,
+             u"1 <2>"_s, QString(160, u'x')}) {
+        EXPECT_EQ(plainToolTip(text), text);
+    }
+}
+
+TEST(PlainText, AToolTipThatLooksLikeHtmlReadsAsItIsWritten)
+{
+    for (const QString &text : {u"<b>x</b>"_s, u"  <img src='/x'>"_s, u"&lt;b>"_s,
+             u"a <i>b</i>  \"c\" & d"_s, u"a < b > c"_s, u"<p></p><img src='/x'>"_s}) {
+        const QString tip = plainToolTip(text);
+        EXPECT_NE(tip, text);
+        ASSERT_TRUE(Qt::mightBeRichText(tip));
+        EXPECT_EQ(readAsHtml(tip), text);
+    }
+}
+
+TEST(PlainText, ALongToolTipIsBrokenIntoLines)
+{
+    const QString tip = plainToolTip(u"word "_s.repeated(400));
+    ASSERT_TRUE(Qt::mightBeRichText(tip));
+    EXPECT_EQ(readAsHtml(tip).size(), 1000);
+}
+
+TEST(PlainText, ALabelShowsALineAndSaysItWhole)
+{
+    const std::unique_ptr<QLabel> label(plainLabel(u"<b>x</b>"_s));
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    EXPECT_EQ(label->text(), u"<b>x</b>"_s);
+    showLine(*label, u"AT&T\n<b>"_s);
+    EXPECT_EQ(label->text(), u"AT&T <b>"_s);
+    EXPECT_EQ(label->accessibleName(), u"AT&T <b>"_s);
+    const QString name = u"a long name of a network interface"_s;
+    showLine(*label, name, 60);
+    EXPECT_TRUE(label->text().endsWith(u'…'));
+    EXPECT_LE(label->sizeHint().width(), 70);
+    EXPECT_EQ(label->accessibleName(), name);
+}
+
+} // namespace
+} // namespace quillon::test
