@@ -30,8 +30,8 @@ QString menuText(const QString &title)
 
 QString exportedMenuText(const QString &title)
 {
-    // There an underscore marks a mnemonic, and an ampersand is itself. Qt turns the first ampersand
-    // into an underscore, unless it is the last character, and leaves the others alone.
+    // There an underscore marks a mnemonic, and an ampersand is itself. Qt turns the first
+    // ampersand into an underscore, unless it is the last character, and leaves the others alone.
     QString text = plainLine(title).replace(u'_', u"__"_s);
     const auto first = text.indexOf(u'&');
     if (first >= 0 && first < text.size() - 1) {

@@ -36,8 +36,8 @@ private:
     QHash<QString, QAction *> m_actions; ///< by section and place in it
 };
 
-/// A title as an action's text that reads like it, without a mnemonic: in a menu of this process, and
-/// in one that Qt exports over the bus for a host to show.
+/// A title as an action's text that reads like it, without a mnemonic: in a menu of this process,
+/// and in one that Qt exports over the bus for a host to show.
 QString menuText(const QString &title);
 QString exportedMenuText(const QString &title);
 

@@ -85,10 +85,12 @@ QString plainParagraphs(const QString &text)
 QString plainToolTip(const QString &text)
 {
     const QString tip = cut(clean(text, false), longestToolTip);
-    if (tip.size() <= widestToolTip && !Qt::mightBeRichText(tip)) {
+    const bool isLong = tip.size() > widestToolTip;
+    if (!isLong && !Qt::mightBeRichText(tip)) {
         return tip;
     }
-    return u"<p style='white-space:pre-wrap'>"_s + tip.toHtmlEscaped() + u"</p>"_s;
+    const QString space = isLong ? u"pre-wrap"_s : u"pre"_s;
+    return u"<p style='white-space:%1'>%2</p>"_s.arg(space, tip.toHtmlEscaped());
 }
 
 } // namespace quillon

@@ -9,14 +9,14 @@ class QLabel;
 
 namespace quillon {
 
-// Qt guesses whether a text is HTML. A text from outside (a manufacturer's or an interface's name, an
-// error, a setting) must never be: a picture in it reads a file, and one that is a pipe hangs the
-// program. Whatever is shown goes through here; tools/check-plain-text knows the ways around.
+// Qt guesses whether a text is HTML. A text from outside (a manufacturer's or an interface's name,
+// an error, a setting) must never be: a picture in it reads a file, and one that is a pipe hangs
+// the program. Whatever is shown goes through here; tools/check-plain-text knows the ways around.
 
 /// A label that shows its text as it is: no markup, no pictures, no links.
 QLabel *plainLabel(const QString &text = {});
-/// Shows `text` in a label as plainLine() has it, and says it to assistive technology. Its end is left
-/// out where it would be wider than so many pixels: the window is as large as its texts.
+/// Shows `text` in a label as plainLine() has it, and says it to assistive technology. Its end is
+/// left out where it would be wider than so many pixels: the window is as large as its texts.
 void showLine(QLabel &label, const QString &text, int widest = QWIDGETSIZE_MAX);
 
 /// What a control or a menu shows of a text: one line of at most 120 characters. Line breaks and

@@ -62,7 +62,8 @@ void StatusRows::addExternalAddress(InterfaceDetails &details)
     m_externalAddress = InterfaceDetails::makeValue(u"externalAddress"_s);
     auto *button = makeButton(u"refreshExternalIP"_s, localized("Refresh external address"),
         m_theme.icon(u"refresh"_s, Theme::Ink::Muted));
-    button->setToolTip(plainToolTip(localized("Asks a public service under which address it sees you")));
+    button->setToolTip(
+        plainToolTip(localized("Asks a public service under which address it sees you")));
     connect(button, &QToolButton::clicked, this,
         [this] { m_models.externalAddress.refreshExternalIP(); });
     details.addRow(localized("External address"), m_externalAddress, {nullptr, button});

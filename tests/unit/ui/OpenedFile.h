@@ -4,13 +4,12 @@
 
 #include <QFile>
 #include <QString>
-
 #include <gtest/gtest.h>
-#include <sys/inotify.h>
-#include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 namespace quillon::test {
 

@@ -29,8 +29,8 @@ namespace {
 /// Stands in a text for the path of a picture that must not be opened.
 const QString picture = u"PICTURE"_s;
 
-/// What somebody outside of the program wrote, and what of it is shown: on one line, in a tool tip, in
-/// a message. Without the last two they are as the line.
+/// What somebody outside of the program wrote, and what of it is shown: on one line, in a tool tip,
+/// in a message. Without the last two they are as the line.
 struct OutsideText
 {
     QString written;
@@ -58,7 +58,7 @@ const QList<OutsideText> outsideTexts{
 class NoColorScheme : public ColorSchemeSource
 {
 public:
-    void watch(std::function<void(ColorScheme)>) override { }
+    void watch(std::function<void(ColorScheme)>) override {}
 };
 
 /// The whole program with its windows, on a machine that somebody filled with such texts.
@@ -77,11 +77,11 @@ protected:
         machine.settings.set(keys::vendorIDUpdatedDate, written);
         create();
         offerVendor();
-        ui.emplace(UserInterface::Models{features().mainWindow, features().statusMenu,
-                       features().presence,
-                       {features().networks.externalAddressShown, features().rules.status,
-                           features().rules.countdown},
-                       features().vendors.field, features().vendors.pane},
+        ui.emplace(
+            UserInterface::Models{features().mainWindow, features().statusMenu, features().presence,
+                {features().networks.externalAddressShown, features().rules.status,
+                    features().rules.countdown},
+                features().vendors.field, features().vendors.pane},
             UserInterface::Desktop{trayHost, taskBar, colorScheme});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
@@ -165,13 +165,12 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
     for (const char *name : {"portName", "updatedLabel", "timerLabel", "hardwareAddress",
              "ipAddress", "externalAddress"}) {
         const auto *label = part<QLabel>(name);
-        const QString expected = QString::fromLatin1(name).endsWith("Address"_L1)
-                                     ? label->accessibleName()
-                                     : line;
+        const QString expected =
+            QString::fromLatin1(name).endsWith("Address"_L1) ? label->accessibleName() : line;
         EXPECT_EQ(label->accessibleName().compare(line, Qt::CaseInsensitive), 0) << name;
         const QString shown = label->text();
-        EXPECT_TRUE(shown == expected ||
-                    (shown.endsWith(u'…') && expected.startsWith(shown.chopped(1))))
+        EXPECT_TRUE(
+            shown == expected || (shown.endsWith(u'…') && expected.startsWith(shown.chopped(1))))
             << name << ": " << shown.toStdString();
     }
     for (QWidget *widget : QApplication::allWidgets()) {
@@ -196,7 +195,8 @@ TEST_P(OutsideTextTest, IsShownAsItIsInToolTips)
     const int row = list->model()->index(0, 0).data().toString() == "Random Address"_L1 ? 1 : 0;
     const QModelIndex index = list->model()->index(row, 0);
     // A registry's fields have a longest, too.
-    EXPECT_EQ(index.data().toString().left(100), QString(written.trimmed() + u" (0000FF)"_s).left(100));
+    EXPECT_EQ(
+        index.data().toString().left(100), QString(written.trimmed() + u" (0000FF)"_s).left(100));
 
     EXPECT_EQ(readToolTip(*field, field->rect().center()), tip);
     EXPECT_EQ(readToolTip(*list->viewport(), list->visualRect(index).center()),
@@ -237,8 +237,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInMessages)
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             for (const QLabel *label : box->findChildren<QLabel *>()) {
-                EXPECT_EQ(label->textFormat(), Qt::PlainText)
-                    << label->objectName().toStdString();
+                EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
             }
             EXPECT_EQ(box->text(), message);
             box->grab();

@@ -24,8 +24,8 @@ QString readAsHtml(const QString &html)
 
 TEST(PlainText, ALineLeavesOrdinaryTextsAlone)
 {
-    for (const QString &text : {QString(), u"Ethernet"_s, u"Société <Générale> & Co."_s,
-             u"שלום"_s, u"日本電気"_s, u"😀"_s, QString(120, u'x')}) {
+    for (const QString &text : {QString(), u"Ethernet"_s, u"Société <Générale> & Co."_s, u"שלום"_s,
+             u"日本電気"_s, u"😀"_s, QString(120, u'x')}) {
         EXPECT_EQ(plainLine(text), text);
         EXPECT_EQ(plainParagraphs(text), text);
     }
@@ -33,8 +33,8 @@ TEST(PlainText, ALineLeavesOrdinaryTextsAlone)
 
 TEST(PlainText, ALineHasNoControlCharacters)
 {
-    EXPECT_EQ(plainLine(u"a\tb\nc\rd\u0000e\u007Ff\u0085g\u2028h\u2029i"_s),
-        u"a b c d e f g h i"_s);
+    EXPECT_EQ(
+        plainLine(u"a\tb\nc\rd\u0000e\u007Ff\u0085g\u2028h\u2029i"_s), u"a b c d e f g h i"_s);
     EXPECT_EQ(plainParagraphs(u"a\nb\tc\u2028d"_s), u"a\nb c d"_s);
 }
 
