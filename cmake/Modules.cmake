@@ -14,6 +14,10 @@ function(quillon_module name)
     set_target_properties(quillon_${name} PROPERTIES AUTOMOC ON)
 endfunction()
 
+# Seconds after which a test hangs. None depends on how busy the machine is: whatever a test waits for has a
+# limit of two minutes of its own, and says what did not come.
+set(QUILLON_TEST_LIMIT 900)
+
 # The programs of the unit tests, for builds (with sanitizers) that need nothing else.
 add_custom_target(unit_tests)
 
@@ -37,8 +41,8 @@ function(quillon_test name)
     if(TEST_LABEL STREQUAL "unit")
         add_dependencies(unit_tests ${name})
     endif()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        PROPERTIES LABELS ${TEST_LABEL} TIMEOUT 120)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 300
+        PROPERTIES LABELS ${TEST_LABEL} TIMEOUT ${QUILLON_TEST_LIMIT})
 endfunction()
 
 # quillon_script_tests(FILE LABEL label [PROPERTIES name value…])
@@ -54,7 +58,7 @@ function(quillon_script_tests file)
         elseif(line MATCHES "def (test_[a-z0-9_]+)")
             set(test "${class}.${CMAKE_MATCH_1}")
             add_test(NAME "${test}" COMMAND /usr/bin/python3 -B "${path}" "${test}")
-            set_tests_properties("${test}" PROPERTIES LABELS ${SCRIPT_LABEL} TIMEOUT 120
+            set_tests_properties("${test}" PROPERTIES LABELS ${SCRIPT_LABEL} TIMEOUT ${QUILLON_TEST_LIMIT}
                 ENVIRONMENT "QUILLON_BUILD=${PROJECT_BINARY_DIR}" ${SCRIPT_PROPERTIES})
         endif()
     endforeach()

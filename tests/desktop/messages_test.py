@@ -2,26 +2,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """What the user is told, as the notification service of the desktop has it."""
 import glob
-import json
 import os
-import subprocess
 import unittest
 
-from program import ProgramTest, wait_until
+from program import ProgramTest, messages, wait_until
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
-
-
-def dunst(*words):
-    return subprocess.run(["dunstctl", *words], check=True, capture_output=True, text=True,
-                          stdin=subprocess.DEVNULL).stdout
-
-
-def messages():
-    """Title and text of every message so far; takes those on the screen away."""
-    dunst("close-all")
-    history = json.loads(dunst("history"))["data"][0]
-    return [(message["summary"]["data"], message["body"]["data"]) for message in history]
 
 
 class MessageTest(ProgramTest):
@@ -30,6 +16,7 @@ class MessageTest(ProgramTest):
                            lambda: f"no message {title!r} among {messages()}")
         self.assertEqual(len(found), 1, "one message per title")
         return found[0]
+
 
 class ChangeTest(MessageTest):
     def test_a_change_is_told_with_the_address_that_was_read_back(self):

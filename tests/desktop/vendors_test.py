@@ -7,7 +7,7 @@ import re
 import shutil
 import unittest
 
-from program import ProgramTest, kernel_addresses, wait_until, xdotool
+from program import ProgramTest, kernel_addresses, messages, wait_until, xdotool
 from webserver import REGISTRY, REGISTRY_FILE, Web
 
 FOLDER = os.path.expanduser("~/.local/share/Quillon")
@@ -64,12 +64,15 @@ class RefreshTest(VendorTest):
         path = os.path.join(self.web.folder, "longer.csv")
         with open(path, "w", encoding="utf-8", newline="") as file:
             file.write(text.rstrip("\n") + "\n" + more)
-        # Slowly enough that a person sees how far it is.
-        self.web.serve({REGISTRY: {"file": path, "piece": 262144, "pause": 0.2}})
+        # It stops on the way until a person has seen how far it is.
+        seen = os.path.join(self.web.folder, "seen")
+        self.web.serve({REGISTRY: {"file": path, "cut": 500000, "then": "wait", "until": seen}})
         self.button("Update database").press()
         size = re.escape(f"{os.path.getsize(path) / 1e6:.1f}MB")
         self.expect_label(rf"^Downloading\.\.\. \d+\.\d{{3}}% of {size}$")
         self.button("Cancel download...")
+        with open(seen, "x"):
+            pass
         self.expect_label(r"^\S.* \(added 2 new Identifiers\)$")
         self.expect_label(rf"^{self.count + 2} Vendor Identifiers$")
         self.button("Update database")
@@ -124,6 +127,20 @@ class RefreshTest(VendorTest):
 
 
 class ChoiceTest(VendorTest):
+    def randomize(self, device):
+        """Presses until the address has changed. After a manufacturer's prefix, four of 256 random addresses
+        are none (their first octet had one digit): such a change is refused, and the user is told so."""
+        def refusals():
+            return [title for title, _ in messages()].count("Ethernet Address was not Changed")
+
+        def is_over():
+            return kernel_addresses() != self.addresses or refusals() > refused
+        while kernel_addresses() == self.addresses:
+            refused = refusals()
+            self.button("Randomize address").press()
+            wait_until(is_over, "the address was neither changed nor refused")
+        return self.expect_only_changed(device)
+
     def test_a_chosen_manufacturers_prefix_is_in_the_kernel(self):
         device = self.selector.name
         field = self.window.find("entry", FIELD)
@@ -141,8 +158,7 @@ class ChoiceTest(VendorTest):
         wait_until(lambda: not self.rows(), "the list stayed open")
         wait_until(lambda: field.focused, "the field did not get the keyboard back")
 
-        self.button("Randomize address").press()
-        new = self.expect_only_changed(device)
+        new = self.randomize(device)
         self.assertEqual(new.replace(":", "")[:6], chosen[-7:-1])
         self.expect_shown(new)
 

@@ -15,7 +15,7 @@ import unittest
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.realpath(__file__))))
 SANDBOX = os.path.join(ROOT, "tools/sandbox")
 BUILD = os.environ["QUILLON_BUILD"]
-DEADLINE = 60
+DEADLINE = 300  # only a hang takes that long
 
 
 def sandbox(*arguments):
@@ -278,10 +278,13 @@ class SandboxWebTest(unittest.TestCase):
             self.assertEqual(len([name for name in os.listdir(build) if "authority" in name]), 1)
 
     def test_leads_no_other_name_anywhere_and_says_so_at_once(self):
-        start = time.monotonic()
-        result = run("--no-display", "--no-helper", "getent", "ahosts", "somewhere.example")
-        self.assertEqual(result.returncode, 2)
-        self.assertLess(time.monotonic() - start, 5)
+        # Asked in vain, a name server is waited for for five seconds, several times.
+        script = ("import subprocess, time; start = time.monotonic(); "
+                  "code = subprocess.run(['getent', 'ahosts', 'somewhere.example']).returncode; "
+                  "print(code, time.monotonic() - start)")
+        code, seconds = run("--no-display", "--no-helper", "python3", "-c", script).stdout.split()
+        self.assertEqual(int(code), 2)
+        self.assertLess(float(seconds), 5)
 
     def test_answers_as_the_rules_say(self):
         page = "http://trusted.test"

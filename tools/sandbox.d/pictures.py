@@ -23,7 +23,7 @@ def frame_extents(window):
     return numbers if len(numbers) == 4 else [0, 0, 0, 0]
 
 
-def _geometry(window):
+def geometry(window):
     """x, y, width, height on the screen, without the frame."""
     answer = _run("xwininfo", "-id", window).decode()
     return [int(re.search(rf"{name}: +(-?\d+)", answer)[1])
@@ -42,7 +42,7 @@ def find_window(title):
 def take_window(title, path):
     """The window with its frame, cut out of the screen, as a person sees it."""
     window = find_window(title)
-    x, y, width, height = _geometry(window)
+    x, y, width, height = geometry(window)
     left, right, top, bottom = frame_extents(window)
     take_area(x - left, y - top, width + left + right, height + top + bottom, path)
 

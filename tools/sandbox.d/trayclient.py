@@ -5,12 +5,12 @@ from dataclasses import dataclass, field
 
 from gi.repository import Gio, GLib
 
-from accessibility import NotThere, wait_until
+from accessibility import wait_until
 
 WATCHER = ("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher", "org.kde.StatusNotifierWatcher")
 ITEM = "org.kde.StatusNotifierItem"
 MENU = "com.canonical.dbusmenu"
-TIMEOUT_MS = 5000
+TIMEOUT_MS = 120_000
 
 
 @dataclass
@@ -80,15 +80,16 @@ class StatusItem:
         return "\n".join(self.menu().lines())
 
     def click(self, *labels):
-        """Clicks the entry that the labels lead to, from the outermost inwards."""
-        entry = self.menu()
-        for label in labels:
-            found = [child for child in entry.entries if child.visible and child.label == label]
-            if not found:
-                raise NotThere(f"no entry “{label}” in the menu; there is\n{self.menu_text()}")
-            entry = found[0]
-        if not entry.enabled:
-            raise NotThere(f"the entry “{labels[-1]}” is off")
+        """Clicks the entry that the labels lead to, from the outermost inwards, once it is there and not off."""
+        def look():
+            entry = self.menu()
+            for label in labels:
+                found = [child for child in entry.entries if child.visible and child.label == label]
+                if not found:
+                    return None
+                entry = found[0]
+            return entry.enabled and entry
+        entry = wait_until(look, lambda: f"nothing to click at {labels} came to the menu; there is\n{self.menu_text()}")
         self._call(self.menu_path, MENU, "Event",
                    GLib.Variant("(isvu)", (entry.number, "clicked", GLib.Variant("i", 0), 0)))
 

@@ -35,8 +35,9 @@ public:
 
     /// The addresses that an interface was seen with, one for each change; the first is the one
     /// before any change, when something else happened to it at that time.
-    QStringList addresses(const QString &device) const
+    QStringList addresses(const QString &device)
     {
+        catchUp();
         const QRegularExpression line(
             QStringLiteral("^\\d+: %1(?:@\\S+)?:.*link/ether (\\S+)").arg(device),
             QRegularExpression::MultilineOption);
@@ -51,6 +52,13 @@ public:
     }
 
 private:
+    /// Waits until it has written what the kernel told before this call: messages keep their order.
+    void catchUp()
+    {
+        const QString mark = QStringLiteral("mtu %1 ").arg(firstMark + ++m_pokes);
+        administrator().run(QStringLiteral("ip link set br0 ") + mark);
+        EXPECT_TRUE(eventually([&] { return text().contains(mark); }));
+    }
     QString text() const
     {
         QFile file(m_path);
@@ -59,6 +67,7 @@ private:
 
     const QString m_path = QStringLiteral("/tmp/link-monitor.txt");
     QProcess m_monitor;
+    static constexpr int firstMark = 1300; ///< unlike every other interface's
     int m_pokes = 0;
 };
 

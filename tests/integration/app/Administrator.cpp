@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto user = "quillon";
-constexpr int patience = 60'000; // milliseconds
+constexpr int patience = 120'000; // milliseconds
 const QString outputPath = u"/tmp/administrator.out"_s;
 const QString endedPath = u"/tmp/administrator.ended"_s;
 const QByteArray endMark = "that was all: ";

@@ -86,7 +86,7 @@ void EndToEndTest::settle()
 void EndToEndTest::letPass(std::chrono::seconds time)
 {
     const QDateTime end = program->now().addSecs(time.count());
-    ASSERT_TRUE(eventually([&] { return program->now() >= end; }, 60s));
+    ASSERT_TRUE(eventually([&] { return program->now() >= end; }, 5min));
 }
 
 QVariantMap EndToEndTest::ruleInForce() const

@@ -54,7 +54,7 @@ protected:
     static QMap<QString, QString> kernelAddresses();
     static QString kernelAddress() { return kernelAddresses().value(card); }
     /// Every address that the card was seen with since the start of the test.
-    QStringList addressesSeen() const { return watch->addresses(card); }
+    QStringList addressesSeen() { return watch->addresses(card); }
 
     QTemporaryDir folder;
     QString records = ComposedProgram::recordsPath(folder.path());

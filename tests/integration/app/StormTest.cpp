@@ -90,7 +90,7 @@ protected:
     {
         administrator().start(u"%1 %2 %3 %4"_s.arg(QStringLiteral(QUILLON_LINK_STORM),
             QString::number(eventsPerSecond), QString::number(time.count()), stormy.join(u' ')));
-        EXPECT_TRUE(eventually([] { return administrator().hasEnded(); }, 60s));
+        EXPECT_TRUE(eventually([] { return administrator().hasEnded(); }));
         const QList<QByteArray> numbers = administrator().output().trimmed().split(' ');
         EXPECT_EQ(numbers.size(), 6);
         return numbers.value(2).toLong() + numbers.value(3).toLong();
@@ -124,7 +124,7 @@ TEST_F(StormTest, TheLastStateIsRightAndTheMemoryFlat)
     const auto expected = kernelState(stormy);
     EXPECT_EQ(expected.value(stormy.at(3)),
         (QStringList{u"02:57:00:00:00:03"_s, u"active"_s, u"10.99.3.1"_s}));
-    EXPECT_TRUE(eventually([&] { return tableState() == expected; }, 10s));
+    EXPECT_TRUE(eventually([&] { return tableState() == expected; }));
     settle();
     const long grown = residentKilobytes() - before;
     std::printf("%ld events told; longest stall of the main thread %lld ms; memory grown %ld kB\n",

@@ -11,10 +11,10 @@ namespace {
 class WatchedConnection : public HelperToolConnection
 {
 public:
-    WatchedConnection(std::shared_ptr<HelperToolConnection> connection,
-        QList<WatchedHelperLink::Change> &changes, const Scheduler &clock)
+    WatchedConnection(std::shared_ptr<HelperToolConnection> connection, WatchedHelperLink &link,
+        const Scheduler &clock)
         : m_connection(std::move(connection))
-        , m_changes(changes)
+        , m_link(link)
         , m_clock(clock)
     {
     }
@@ -33,9 +33,16 @@ public:
         const QString &address, bool deviceIsWiFi, const QByteArray &authorization,
         ErrorReply reply, ErrorHandler errorHandler) override
     {
-        m_changes.append({device, address, m_clock.now(), std::chrono::steady_clock::now()});
-        m_connection->changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(device,
-            address, deviceIsWiFi, authorization, std::move(reply), std::move(errorHandler));
+        m_link.changes.append({device, address, m_clock.now(), std::chrono::steady_clock::now()});
+        m_connection->changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(
+            device, address, deviceIsWiFi, authorization,
+            [&link = m_link, reply = std::move(reply)](const std::optional<Error> &error) {
+                if (link.whenAnswered) {
+                    link.whenAnswered();
+                }
+                reply(error);
+            },
+            std::move(errorHandler));
     }
     void uninstallWithAuthorizationAndReply(
         const QByteArray &authorization, ErrorReply reply, ErrorHandler errorHandler) override
@@ -46,7 +53,7 @@ public:
 
 private:
     std::shared_ptr<HelperToolConnection> m_connection;
-    QList<WatchedHelperLink::Change> &m_changes;
+    WatchedHelperLink &m_link;
     const Scheduler &m_clock;
 };
 
@@ -56,7 +63,7 @@ std::shared_ptr<HelperToolConnection> WatchedHelperLink::connectToListenerEndpoi
     const QString &endpoint)
 {
     return std::make_shared<WatchedConnection>(
-        m_link.connectToListenerEndpoint(endpoint), changes, m_clock);
+        m_link.connectToListenerEndpoint(endpoint), *this, m_clock);
 }
 
 } // namespace quillon::test

@@ -8,6 +8,7 @@
 #include <QList>
 
 #include <chrono>
+#include <functional>
 
 namespace quillon::test {
 
@@ -38,6 +39,8 @@ public:
         const QString &endpoint) override;
 
     QList<Change> changes;
+    /// Runs when the helper has answered a change, before anybody hears of the answer.
+    std::function<void()> whenAnswered;
 
 private:
     HelperLink &m_link;

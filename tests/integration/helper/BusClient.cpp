@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto patience = 20s;
+constexpr auto patience = 120s;
 
 } // namespace
 

@@ -33,13 +33,15 @@ constexpr char newAddress[] = "02:11:22:33:44:55";
 class LifeTestInProcess : public testing::Test
 {
 protected:
-    LifeTestInProcess()
-        : thread{[this] {
+    explicit LifeTestInProcess(std::chrono::milliseconds period = 300ms)
+        : idlePeriod{period}
+        , thread{[this] {
             daemon.run(stop);
             ended = true;
         }}
     {
-        started = waitUntil([this] { return root.hasOwner(contract::helperName); });
+        // Where the machine is busy it may have ended before anybody looks.
+        started = waitUntil([this] { return ended || root.hasOwner(contract::helperName); });
     }
     ~LifeTestInProcess() override
     {
@@ -48,8 +50,7 @@ protected:
         close(stop);
     }
 
-    static constexpr auto idlePeriod = 300ms;
-
+    const std::chrono::milliseconds idlePeriod;
     BusClient root{"root"};
     BusClient quillon{"quillon"};
     int stop = eventfd(0, EFD_CLOEXEC);
@@ -62,6 +63,16 @@ protected:
     std::thread thread;
 };
 
+/// With a period that nothing outlasts which a test does within it, however busy the machine is.
+class LifeTestWithTime : public LifeTestInProcess
+{
+protected:
+    LifeTestWithTime()
+        : LifeTestInProcess{2s}
+    {
+    }
+};
+
 TEST_F(LifeTestInProcess, endsWhenNobodyAsksAnything)
 {
     ASSERT_TRUE(started);
@@ -69,7 +80,7 @@ TEST_F(LifeTestInProcess, endsWhenNobodyAsksAnything)
     EXPECT_FALSE(root.hasOwner(contract::helperName));
 }
 
-TEST_F(LifeTestInProcess, staysWhileItIsAsked)
+TEST_F(LifeTestWithTime, staysWhileItIsAsked)
 {
     ASSERT_TRUE(started);
     for (int i = 0; i < 10; ++i) {
@@ -79,7 +90,7 @@ TEST_F(LifeTestInProcess, staysWhileItIsAsked)
     }
 }
 
-TEST_F(LifeTestInProcess, waitsForAPersonWhoThinks)
+TEST_F(LifeTestWithTime, waitsForAPersonWhoThinks)
 {
     ASSERT_TRUE(started);
     FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
@@ -96,7 +107,7 @@ TEST_F(LifeTestInProcess, waitsForAPersonWhoThinks)
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
 }
 
-TEST_F(LifeTestInProcess, refusesOpenRequestsWhenItIsStopped)
+TEST_F(LifeTestWithTime, refusesOpenRequestsWhenItIsStopped)
 {
     ASSERT_TRUE(started);
     FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};

@@ -44,14 +44,14 @@ TEST(PutBackPatienceTest, waitsThreeSecondsForAllRoutesTogether)
     LinkState link;
     ASSERT_EQ(kernel.findByName("enp1s0", link), 0);
     LinkConfiguration configuration;
-    for (std::uint8_t number = 1; number <= 3; ++number) {
+    for (std::uint8_t number = 1; number <= 20; ++number) {
         configuration.routes.push_back(hopelessRoute(link.index, number));
     }
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(kernel.putBack(configuration), EINVAL);
     const auto taken = std::chrono::steady_clock::now() - start;
     EXPECT_GE(taken, 3s);
-    EXPECT_LT(taken, 5s) << "each route waited by itself";
+    EXPECT_LT(taken, 30s) << "each route waited by itself";
 }
 
 } // namespace

@@ -7,12 +7,12 @@
 
 namespace quillon::test {
 
-/// Waits until `condition` holds, for other processes that nobody can hurry. False after ten
-/// seconds.
+/// Waits until `condition` holds, for other processes that nobody can hurry. False after two
+/// minutes, which only a hang reaches.
 template <typename Condition>
 bool waitUntil(Condition condition)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds{10};
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes{2};
     while (!condition()) {
         if (std::chrono::steady_clock::now() > deadline) {
             return false;

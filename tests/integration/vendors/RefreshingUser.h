@@ -45,7 +45,7 @@ public:
         labels.clear();
         pane.pressButton();
         EXPECT_FALSE(isIdle());
-        EXPECT_TRUE(eventually([this] { return isIdle(); }, 60s)) << "it does not end";
+        EXPECT_TRUE(eventually([this] { return isIdle(); })) << "it does not end";
     }
     /// The same, for a refresh that fails at its end and then completes: to its completion.
     void refreshToCompletion()
@@ -55,18 +55,34 @@ public:
         EXPECT_TRUE(eventually([&] { return labels.last().startsWith(completed); }))
             << labels.last().toStdString();
     }
-    /// Presses the button and waits for `label`.
-    void refreshUntil(const QString &label)
+    /// Presses the button, waits for `label`, and does something in the turn after it came: the
+    /// next label may come at any time.
+    void refreshUntil(
+        const QString &label, const std::function<void()> &act = [] {})
     {
         labels.clear();
+        QObject soon;
+        bool came = false;
+        bool done = false;
+        QObject::connect(&pane, &VendorPaneModel::changed, &soon, [&] {
+            if (!came && pane.state().updatedLabel == label) {
+                came = true;
+                QMetaObject::invokeMethod(
+                    &soon,
+                    [&] {
+                        act();
+                        done = true;
+                    },
+                    Qt::QueuedConnection);
+            }
+        });
         pane.pressButton();
-        EXPECT_TRUE(eventually([&] { return pane.state().updatedLabel == label; }, 20s))
-            << pane.state().updatedLabel.toStdString();
+        EXPECT_TRUE(eventually([&] { return done; })) << pane.state().updatedLabel.toStdString();
     }
 
     VendorFiles files;
     QtScheduler scheduler;
-    NetworkHttpClient http{HttpClientOptions{500ms, {}, qint64(1) << 30}};
+    NetworkHttpClient http{HttpClientOptions{3s, {}, qint64(1) << 30}};
     FakeSettingsStore settings{scheduler};
     FakePlatform machine;
     QuillonAppDelegate program{platform()};

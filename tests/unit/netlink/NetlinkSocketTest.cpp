@@ -148,7 +148,7 @@ TEST(NetlinkSocket, GivesUpAfterItsPatienceWhateverArrives)
     for (const bool toUs : {true, false}) {
         const FakeKernel kernel([toUs](quint32 sequence, const auto &send) {
             // Ends by itself, so that the test does when the reading does not.
-            const auto end = Clock::now() + 5s;
+            const auto end = Clock::now() + 1min;
             while (send(links(toUs ? sequence : sequence + 1, 1)) && Clock::now() < end) {
                 std::this_thread::sleep_for(2ms);
             }
@@ -157,7 +157,7 @@ TEST(NetlinkSocket, GivesUpAfterItsPatienceWhateverArrives)
         const Reading reading(socket);
         EXPECT_EQ(reading.answer.error, ETIMEDOUT);
         EXPECT_GE(reading.time, 200ms);
-        EXPECT_LT(reading.time, 3s);
+        EXPECT_LT(reading.time, 50s);
         EXPECT_EQ(reading.taken, 0) << "what was taken does not count";
         EXPECT_EQ(reading.restarts, 1);
     }
@@ -166,13 +166,14 @@ TEST(NetlinkSocket, GivesUpAfterItsPatienceWhateverArrives)
 TEST(NetlinkSocket, GivesUpAlsoWhenTheKernelNeverStopsToSend)
 {
     const FakeKernel kernel([](quint32 sequence, const auto &send) {
-        for (const auto end = Clock::now() + 5s; Clock::now() < end && send(links(sequence, 1));) {
+        for (const auto end = Clock::now() + 1min;
+             Clock::now() < end && send(links(sequence, 1));) {
         }
     });
     NetlinkSocket socket(kernel.descriptor(), patientFor(100ms));
     const Reading reading(socket);
     EXPECT_EQ(reading.answer.error, ETIMEDOUT);
-    EXPECT_LT(reading.time, 3s);
+    EXPECT_LT(reading.time, 50s);
 }
 
 TEST(NetlinkSocket, ReadsATableThatChangedMeanwhileAgain)
@@ -210,8 +211,8 @@ TEST(NetlinkSocket, AllReadingsOfATableShareItsPatience)
     });
     NetlinkSocket socket(kernel.descriptor(), patientFor(200ms));
     const Reading reading(socket);
+    // Each with a patience of its own would end well: with the table as it is.
     EXPECT_EQ(reading.answer.error, ETIMEDOUT);
-    EXPECT_LT(reading.time, 500ms);
     EXPECT_EQ(reading.taken, 0);
 }
 

@@ -32,7 +32,7 @@ TEST(BusRunningApplicationsTest, AreUnknownWithoutASession)
     QElapsedTimer time;
     time.start();
     EXPECT_FALSE(running.isRunning(QLatin1String(contract::loginHelperName)));
-    EXPECT_LT(time.elapsed(), 2000);
+    EXPECT_LT(time.elapsed(), 24'000) << "a call without an answer ends after 25 s";
 }
 
 } // namespace quillon::test

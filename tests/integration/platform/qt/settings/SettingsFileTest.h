@@ -23,14 +23,15 @@
 namespace quillon::test {
 
 /// Turns the real event loop, in which the kernel's news of files arrive, and whatever `between`
-/// turns, until `condition` holds; false when it does not within five seconds.
+/// turns, until `condition` holds; false when it does not within two minutes, which only a hang
+/// reaches.
 inline bool holdsSoon(
     const std::function<bool()> &condition, const std::function<void()> &between = [] {})
 {
     QElapsedTimer elapsed;
     elapsed.start();
     while (!condition()) {
-        if (elapsed.elapsed() > 5000) {
+        if (elapsed.elapsed() > 120'000) {
             return false;
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);

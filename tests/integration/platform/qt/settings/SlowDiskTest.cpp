@@ -43,7 +43,7 @@ public:
         m_callsOfMain += std::this_thread::get_id() == m_main ? 1 : 0;
         ++m_waiting;
         // Not without end, so that a test that must fail does.
-        m_moved.wait_for(lock, 5s, [this] { return !m_stalled; });
+        m_moved.wait_for(lock, 2min, [this] { return !m_stalled; });
         --m_waiting;
         lock.unlock();
         return static_cast<int>(::syscall(SYS_fsync, handle));

@@ -17,12 +17,14 @@ class Download : public HttpTest
 protected:
     Download() { useFolder(folder.path()); }
 
-    void useFolder(const QString &path, qint64 longest = qint64(1) << 30)
+    /// The silence is a hang's unless a test is about it.
+    void useFolder(const QString &path, qint64 longest = qint64(1) << 30,
+        std::chrono::milliseconds silence = 1min)
     {
         HttpClientOptions options;
         options.folder = path;
         options.longestDownload = longest;
-        options.silence = 500ms;
+        options.silence = silence;
         client.emplace(options);
     }
     void expectNothingLeft() const
@@ -92,7 +94,7 @@ TEST_F(Download, OfAHundredMegabytesIsReportedStepByStepAndFlatInMemory)
 TEST_F(Download, OfUnknownLengthSaysSoInEveryStep)
 {
     for (const char *framing : {"chunked", "close"}) {
-        web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.05},
+        web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.3},
                                {u"framing"_s, QString::fromLatin1(framing)}});
         const Downloaded result = download(WebServer::secure("/page"));
         EXPECT_EQ(result.body, QByteArray("0123456789"));
@@ -103,7 +105,7 @@ TEST_F(Download, OfUnknownLengthSaysSoInEveryStep)
 
 TEST_F(Download, OfKnownLengthSaysItInEveryStep)
 {
-    web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.05}});
+    web.serve("/page", {{u"body"_s, tenDigits}, {u"piece"_s, 3}, {u"pause"_s, 0.3}});
     const Downloaded result = download(WebServer::secure("/page"));
     EXPECT_GT(result.steps.size(), 1);
     expectStepsAddUp(result, 10);
@@ -145,6 +147,7 @@ TEST_F(Download, FailsWhenTheBodyIsShorterThanAnnounced)
 
 TEST_F(Download, FailsWhenTheServerFallsSilentInTheMiddle)
 {
+    useFolder(folder.path(), qint64(1) << 30, 3s);
     web.serve("/page", {{u"body"_s, tenDigits}, {u"cut"_s, 4}, {u"then"_s, u"stall"_s}});
     const Downloaded result = download(WebServer::secure("/page"));
     ASSERT_TRUE(result.error);
