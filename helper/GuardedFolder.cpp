@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <grp.h>
 #include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,17 +17,34 @@ namespace {
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr mode_t folderMode = 0755;
 
-std::string problemOf(int descriptor, const std::string &path, uid_t owner)
+bool isAtOrBelow(const std::string &path, const std::string &folder)
+{
+    return !folder.empty() && (path + '/').compare(0, folder.size() + 1, folder + '/') == 0;
+}
+
+std::string nameOf(gid_t group)
+{
+    const auto *const entry = getgrgid(group);
+    return entry == nullptr ? std::to_string(group) : std::string{entry->gr_name};
+}
+
+std::string problemOf(int descriptor, const std::string &path, const FolderGuard &guard)
 {
     struct stat status{};
     if (fstat(descriptor, &status) != 0) {
         return path + ": " + std::strerror(errno);
     }
-    if (status.st_uid != owner) {
+    if (status.st_uid != guard.owner) {
         return path + " belongs to another user; refusing to put anything there";
     }
-    if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
+    if ((status.st_mode & S_IWOTH) != 0) {
         return path + " is writable by other users; refusing to put anything there";
+    }
+    const bool isShared =
+        guard.sharedGroup == status.st_gid && isAtOrBelow(path, guard.sharedFolder);
+    if ((status.st_mode & S_IWGRP) != 0 && !isShared) {
+        return path + " is writable by other users (the group " + nameOf(status.st_gid) +
+               "); refusing to put anything there";
     }
     return {};
 }
@@ -51,23 +69,26 @@ std::string openingProblem(const std::string &path, int error)
     return path + ": " + std::strerror(error);
 }
 
-bool make(int parent, const std::string &name)
+bool make(int parent, const std::string &name, const FolderGuard &guard)
 {
     if (mkdirat(parent, name.c_str(), folderMode) != 0) {
         return false;
     }
-    // The umask may have narrowed it, and others must be able to look inside.
     const Descriptor folder{openat(parent, name.c_str(), folderFlags)};
+    // A parent with the set-group-id bit has handed it to its own group. When this fails, it is
+    // still a folder that was made, and its group may not write there.
+    static_cast<void>(fchown(folder.number(), guard.owner, guard.group) == 0);
+    // The umask may have narrowed it, and others must be able to look inside.
     fchmod(folder.number(), folderMode);
     fsync(parent);
     return true;
 }
 
 GuardedFolder walk(
-    const std::string &root, const std::string &path, uid_t owner, std::vector<std::string> *made)
+    const FolderGuard &guard, const std::string &path, std::vector<std::string> *made)
 {
     GuardedFolder folder;
-    folder.descriptor = Descriptor{open(root.c_str(), folderFlags)};
+    folder.descriptor = Descriptor{open(guard.root.c_str(), folderFlags)};
     std::string walked;
     const auto parts = partsOf(path);
     for (auto part = parts.begin();; ++part) {
@@ -77,7 +98,7 @@ GuardedFolder walk(
             return folder;
         }
         folder.problem =
-            problemOf(folder.descriptor.number(), walked.empty() ? "/" : walked, owner);
+            problemOf(folder.descriptor.number(), walked.empty() ? "/" : walked, guard);
         if (!folder.problem.empty() || part == parts.end()) {
             return folder;
         }
@@ -85,7 +106,7 @@ GuardedFolder walk(
         const int parent = folder.descriptor.number();
         Descriptor next{openat(parent, part->c_str(), folderFlags)};
         if (!next.isOpen() && errno == ENOENT && made != nullptr) {
-            if (make(parent, *part)) {
+            if (make(parent, *part, guard)) {
                 made->push_back(walked);
             }
             next = Descriptor{openat(parent, part->c_str(), folderFlags)};
@@ -103,15 +124,15 @@ Descriptor::~Descriptor()
     }
 }
 
-GuardedFolder openGuarded(const std::string &root, const std::string &path, uid_t owner)
+GuardedFolder openGuarded(const FolderGuard &guard, const std::string &path)
 {
-    return walk(root, path, owner, nullptr);
+    return walk(guard, path, nullptr);
 }
 
 GuardedFolder makeGuarded(
-    const std::string &root, const std::string &path, uid_t owner, std::vector<std::string> &made)
+    const FolderGuard &guard, const std::string &path, std::vector<std::string> &made)
 {
-    return walk(root, path, owner, &made);
+    return walk(guard, path, &made);
 }
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <sys/types.h>
 #include <utility>
@@ -36,9 +37,21 @@ private:
     int m_number = -1;
 };
 
+/// Where folders are looked at, and whom they may belong to.
+struct FolderGuard
+{
+    /// Paths are seen from this folder.
+    std::string root;
+    uid_t owner = 0;
+    gid_t group = 0;
+    /// At `sharedFolder` and below it this group may write as well; none: nobody but `owner`.
+    std::string sharedFolder;
+    std::optional<gid_t> sharedGroup;
+};
+
 /// A folder that nobody but its owner can have prepared: from the root down every part is a folder
-/// (no symbolic link), belongs to `owner`, and is writable by him alone. What is done through its
-/// descriptor happens there, whatever is renamed meanwhile.
+/// (no symbolic link), belongs to the guard's owner, and is writable by him alone, or by whom the
+/// guard names. What is done through its descriptor happens there, whatever is renamed meanwhile.
 struct GuardedFolder
 {
     Descriptor descriptor;
@@ -48,12 +61,12 @@ struct GuardedFolder
     bool isMissing = false;
 };
 
-/// Opens `path` (absolute, as seen from the folder `root`).
-GuardedFolder openGuarded(const std::string &root, const std::string &path, uid_t owner);
+/// Opens `path`, which is absolute.
+GuardedFolder openGuarded(const FolderGuard &guard, const std::string &path);
 
-/// The same, making what is missing (0755). Paths that were made are appended to `made`, outermost
-/// first, also when it fails afterwards.
+/// The same, making what is missing (0755, of the guard's owner and group). Paths that were made
+/// are appended to `made`, outermost first, also when it fails afterwards.
 GuardedFolder makeGuarded(
-    const std::string &root, const std::string &path, uid_t owner, std::vector<std::string> &made);
+    const FolderGuard &guard, const std::string &path, std::vector<std::string> &made);
 
 } // namespace quillon

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/Installation.h"
 
+#include "helper/FolderRecord.h"
 #include "helper/WholeFile.h"
 
 #include <algorithm>
@@ -9,7 +10,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <set>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -20,22 +21,10 @@ namespace {
 
 // None of the readers of these folders takes a name with this ending for one of its files.
 constexpr char asideSuffix[] = ".new";
-constexpr std::size_t longestRecord = 4096;
 
 std::string failure(const std::string &path)
 {
     return path + ": " + std::strerror(errno);
-}
-
-/// `folder` and the folders above it, innermost first.
-std::vector<std::string> upwards(std::string folder)
-{
-    std::vector<std::string> folders;
-    while (!folder.empty()) {
-        folders.push_back(folder);
-        folder.resize(folder.rfind('/'));
-    }
-    return folders;
 }
 
 } // namespace
@@ -70,18 +59,19 @@ struct Installation::Place
     std::string aside() const { return file.name + asideSuffix; }
 };
 
-Installation::Installation(std::string root, InstallationLayout layout, uid_t owner, gid_t group)
-    : m_root{std::move(root)}
-    , m_layout{std::move(layout)}
-    , m_owner{owner}
-    , m_group{group}
+Installation::Installation(std::string root, InstallationLayout layout, uid_t owner, gid_t group,
+    std::optional<gid_t> sharedGroup)
+    : m_layout{std::move(layout)}
+    , m_guard{std::move(root), owner, group, m_layout.sharedFolder, sharedGroup}
 {
 }
 
 bool Installation::exists(const std::string &path) const
 {
-    struct stat status{};
-    return fstatat(AT_FDCWD, (m_root + path).c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+    struct stat status
+    {
+    };
+    return fstatat(AT_FDCWD, (m_guard.root + path).c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 bool Installation::isPackaged() const
@@ -89,10 +79,25 @@ bool Installation::isPackaged() const
     return exists(m_layout.packagedTool) && exists(m_layout.packagedUnit);
 }
 
+bool Installation::isPackagedTool(int program) const
+{
+    // By what the file is: its path may lead there through a link.
+    struct stat running
+    {
+    };
+    struct stat packaged
+    {
+    };
+    return fstat(program, &running) == 0 &&
+           stat((m_guard.root + m_layout.packagedTool).c_str(), &packaged) == 0 &&
+           running.st_dev == packaged.st_dev && running.st_ino == packaged.st_ino;
+}
+
 bool Installation::isInstalled() const
 {
-    const auto &tool = m_layout.files.front();
-    return exists(tool.folder + '/' + tool.name);
+    return std::any_of(m_layout.files.begin(), m_layout.files.end(), [this](const auto &file) {
+        return file.name != m_layout.sharedWithPackage && exists(file.folder + '/' + file.name);
+    });
 }
 
 std::string Installation::problemWithTarget(int folder, const std::string &name) const
@@ -101,7 +106,7 @@ std::string Installation::problemWithTarget(int folder, const std::string &name)
     if (fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
         return errno == ENOENT ? std::string{} : failure(name);
     }
-    if (!S_ISREG(status.st_mode) || status.st_uid != m_owner) {
+    if (!S_ISREG(status.st_mode) || status.st_uid != m_guard.owner) {
         return name + " exists and is no file of the system; refusing to replace it";
     }
     return {};
@@ -121,7 +126,7 @@ std::string Installation::writeAside(const InstalledFile &file, int folder, int 
                              ? copyWhole(tool, aside.number())
                              : writeWhole(aside.number(), file.text.data(), file.text.size());
     // A folder with the set-group-id bit would hand the file to its own group.
-    if (!written || fchown(aside.number(), m_owner, m_group) != 0 ||
+    if (!written || fchown(aside.number(), m_guard.owner, m_guard.group) != 0 ||
         fchmod(aside.number(), file.mode) != 0 || fsync(aside.number()) != 0) {
         const auto problem = failure(file.folder + '/' + name);
         unlinkat(folder, name.c_str(), 0);
@@ -130,29 +135,22 @@ std::string Installation::writeAside(const InstalledFile &file, int folder, int 
     return {};
 }
 
-std::string Installation::writeAll(int tool, std::vector<Place> &places, Undo &undo)
+std::string Installation::writeAll(
+    int tool, const std::vector<std::string> &folders, std::vector<Place> &places, Undo &undo) const
 {
-    auto folders = recordedFolders();
     auto files = m_layout.files;
-    // The record comes last, when it is known which folders were made.
-    files.push_back({m_layout.files.front().folder, m_layout.folderRecord, 0644, {}});
+    files.push_back(
+        {files.front().folder, m_layout.folderRecord, 0644, FolderRecord::text(folders)});
     for (auto &file : files) {
         std::vector<std::string> made;
-        auto folder = makeGuarded(m_root, file.folder, m_owner, made);
+        auto folder = makeGuarded(m_guard, file.folder, made);
         undo.add([this, made] { removeFolders(made); });
-        folders.insert(folders.end(), made.begin(), made.end());
         if (!folder.problem.empty()) {
             return folder.problem;
         }
         const int number = folder.descriptor.number();
         if (auto problem = problemWithTarget(number, file.name); !problem.empty()) {
             return file.folder + '/' + problem;
-        }
-        if (file.name == m_layout.folderRecord) {
-            file.text = "# Folders that the installation made.\n";
-            for (const auto &path : std::set<std::string>{folders.begin(), folders.end()}) {
-                file.text += path + '\n';
-            }
         }
         if (auto problem = writeAside(file, number, tool); !problem.empty()) {
             return problem;
@@ -185,10 +183,21 @@ std::string Installation::putInPlace(std::vector<Place> &places, Undo &undo) con
 
 Outcome Installation::install(int tool)
 {
-    // In this order: undoing needs the folders still open.
+    const FolderRecord record{m_guard, m_layout};
+    auto folders = record.folders();
+    const auto missing = record.missingFolders();
+    folders.insert(folders.end(), missing.begin(), missing.end());
+
+    // In this order: undoing needs the folders still open, and the journal until the end.
     std::vector<Place> places;
     Undo undo;
-    auto problem = writeAll(tool, places, undo);
+    if (!record.hasJournal()) {
+        undo.add([&record] { record.endJournal(); });
+    }
+    auto problem = record.beginJournal(folders);
+    if (problem.empty()) {
+        problem = writeAll(tool, folders, places, undo);
+    }
     if (problem.empty()) {
         problem = putInPlace(places, undo);
     }
@@ -200,6 +209,7 @@ Outcome Installation::install(int tool)
         unlinkat(place.folder.number(), place.aside().c_str(), 0);
         fsync(place.folder.number());
     }
+    record.endJournal();
     return std::nullopt;
 }
 
@@ -211,7 +221,7 @@ std::string Installation::findAll(std::vector<Place> &places) const
         if (isPackaged() && file.name == m_layout.sharedWithPackage) {
             continue;
         }
-        auto folder = openGuarded(m_root, file.folder, m_owner);
+        auto folder = openGuarded(m_guard, file.folder);
         if (folder.isMissing) {
             continue;
         }
@@ -232,10 +242,15 @@ Outcome Installation::uninstall()
         return Refusal{contract::error::ownedByPackage,
             "The helper was installed by a package of the distribution: remove that package."};
     }
-    const auto folders = recordedFolders();
+    const FolderRecord record{m_guard, m_layout};
+    const auto folders = record.folders();
     std::vector<Place> places;
     // Everything is looked at before the first file goes.
-    if (auto problem = findAll(places); !problem.empty()) {
+    auto problem = findAll(places);
+    if (problem.empty() && !folders.empty()) {
+        problem = record.beginJournal(folders);
+    }
+    if (!problem.empty()) {
         return Refusal{contract::error::uninstallFailed, problem};
     }
     for (const auto &place : places) {
@@ -246,28 +261,8 @@ Outcome Installation::uninstall()
     }
     places.clear();
     removeFolders(folders);
+    record.endJournal();
     return std::nullopt;
-}
-
-std::vector<std::string> Installation::recordedFolders() const
-{
-    const auto folder = openGuarded(m_root, m_layout.files.front().folder, m_owner);
-    const Descriptor record{openat(folder.descriptor.number(), m_layout.folderRecord.c_str(),
-        O_RDONLY | O_NOFOLLOW | O_CLOEXEC)};
-    std::string text(longestRecord, '\0');
-    const auto size = record.isOpen() ? read(record.number(), text.data(), text.size()) : 0;
-    text.resize(static_cast<std::size_t>(std::max<ssize_t>(size, 0)));
-
-    // Only folders on the way to our files can be ours.
-    std::vector<std::string> folders;
-    for (const auto &file : m_layout.files) {
-        for (const auto &path : upwards(file.folder)) {
-            if (text.find('\n' + path + '\n') != std::string::npos) {
-                folders.push_back(path);
-            }
-        }
-    }
-    return folders;
 }
 
 void Installation::removeFolders(const std::vector<std::string> &folders) const
@@ -277,7 +272,7 @@ void Installation::removeFolders(const std::vector<std::string> &folders) const
         [](const auto &a, const auto &b) { return a.size() > b.size(); });
     for (const auto &path : innermostFirst) {
         const auto cut = path.rfind('/');
-        const auto parent = openGuarded(m_root, path.substr(0, cut), m_owner);
+        const auto parent = openGuarded(m_guard, path.substr(0, cut));
         if (parent.problem.empty()) {
             // Not when something else lives there by now.
             unlinkat(parent.descriptor.number(), path.c_str() + cut + 1, AT_REMOVEDIR);

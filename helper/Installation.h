@@ -6,7 +6,7 @@
 #include "helper/InstalledFiles.h"
 #include "helper/Outcome.h"
 
-#include <functional>
+#include <optional>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -15,17 +15,22 @@ namespace quillon {
 
 /// Puts the helper's files in place and takes them away again. Works in folders that only `owner`
 /// can have prepared, follows no symbolic link, and either everything is in place afterwards or
-/// nothing has changed. Keeps no state between two calls; one process at a time.
+/// nothing has changed. What a killed one leaves is taken up by the next, whether it installs or
+/// removes. Keeps no state between two calls; one process at a time.
 class Installation
 {
 public:
     /// Paths of `layout` are seen from the folder `root`; `owner` (and his group) own what is made.
-    Installation(std::string root, InstallationLayout layout, uid_t owner, gid_t group);
+    /// In the layout's shared folder `sharedGroup` may write as well.
+    Installation(std::string root, InstallationLayout layout, uid_t owner, gid_t group,
+        std::optional<gid_t> sharedGroup = std::nullopt);
 
     /// The distribution's package has put a helper in place.
     bool isPackaged() const;
-    /// `path` is where the package puts the helper.
-    bool isPackagedTool(const std::string &path) const { return path == m_layout.packagedTool; }
+    /// `program` is an open file: the very one that the package has put in place.
+    bool isPackagedTool(int program) const;
+    /// Some file of an installation is there, of a partial one too; not counting the one that a
+    /// package puts in the very same place.
     bool isInstalled() const;
 
     /// Copies the program behind `tool` and writes the other files, over an older installation too.
@@ -41,17 +46,15 @@ private:
 
     std::string problemWithTarget(int folder, const std::string &name) const;
     std::string writeAside(const InstalledFile &file, int folder, int tool) const;
-    std::string writeAll(int tool, std::vector<Place> &places, Undo &undo);
+    std::string writeAll(int tool, const std::vector<std::string> &folders,
+        std::vector<Place> &places, Undo &undo) const;
     std::string putInPlace(std::vector<Place> &places, Undo &undo) const;
     std::string findAll(std::vector<Place> &places) const;
-    std::vector<std::string> recordedFolders() const;
     void removeFolders(const std::vector<std::string> &folders) const;
     bool exists(const std::string &path) const;
 
-    std::string m_root;
     InstallationLayout m_layout;
-    uid_t m_owner;
-    gid_t m_group;
+    FolderGuard m_guard;
 };
 
 } // namespace quillon

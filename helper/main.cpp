@@ -35,14 +35,10 @@ constexpr int exitFailed = 1;
 constexpr int exitWrongUse = 2;
 constexpr int exitNotRoot = 3;
 
-constexpr char ownProgram[] = "/proc/self/exe";
-
-std::string ownPath()
+/// The program that is running now: what lies at its path may have been exchanged meanwhile.
+Descriptor ownProgram()
 {
-    std::string path(PATH_MAX, '\0');
-    const auto length = readlink(ownProgram, path.data(), path.size());
-    path.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
-    return path;
+    return Descriptor{open("/proc/self/exe", O_RDONLY | O_CLOEXEC)};
 }
 
 Installation systemInstallation()
@@ -53,7 +49,7 @@ Installation systemInstallation()
 Outcome uninstallFiles()
 {
     auto installation = systemInstallation();
-    if (installation.isPackagedTool(ownPath())) {
+    if (installation.isPackagedTool(ownProgram().number())) {
         return Refusal{contract::error::ownedByPackage,
             "The helper was installed by a package of the distribution: remove that package."};
     }
@@ -111,13 +107,11 @@ int finishInstallation(const Outcome &outcome, const char *success)
 int install()
 {
     auto installation = systemInstallation();
-    if (installation.isPackaged() || installation.isPackagedTool(ownPath())) {
+    const auto tool = ownProgram();
+    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
         logLine("The distribution's package has installed the helper already.");
         return exitDone;
     }
-    // The program that is running now: what lies at its path may have been exchanged since the
-    // administrator agreed.
-    const Descriptor tool{open(ownProgram, O_RDONLY | O_CLOEXEC)};
     if (!tool.isOpen()) {
         logLine("The running program cannot be read.");
         return exitFailed;

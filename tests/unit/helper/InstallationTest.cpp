@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "helper/Installation.h"
+#include "unit/helper/SmallSystem.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,75 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// A small system in a folder of its own, in which the test's user stands for root.
-class InstallationTest : public testing::Test
-{
-protected:
-    InstallationTest()
-    {
-        std::string name = fs::temp_directory_path() / "quillon-installation-XXXXXX";
-        root = mkdtemp(name.data());
-        for (const char *folder : {"/usr/local/share", "/etc/dbus-1/system.d",
-                 "/etc/systemd/system", "/usr/share/polkit-1/actions", "/usr/lib/systemd/system"}) {
-            makeFolders(root + folder);
-        }
-        write("/tool", "the program");
-        layout = helperLayout();
-    }
-    ~InstallationTest() override { fs::remove_all(root); }
-
-    static void makeFolders(const fs::path &path)
-    {
-        if (!fs::exists(path)) {
-            makeFolders(path.parent_path());
-            mkdir(path.c_str(), 0755);
-            chmod(path.c_str(), 0755);
-        }
-    }
-    void write(const std::string &path, const std::string &text) const
-    {
-        makeFolders(fs::path{root + path}.parent_path());
-        std::ofstream{root + path} << text;
-    }
-    std::string read(const std::string &path) const
-    {
-        std::ifstream file{root + path};
-        std::ostringstream text;
-        text << file.rdbuf();
-        return text.str();
-    }
-    /// Every entry with its kind, rights and content.
-    std::vector<std::string> listing() const
-    {
-        std::vector<std::string> lines;
-        for (const auto &entry : fs::recursive_directory_iterator(root)) {
-            struct stat status{};
-            lstat(entry.path().c_str(), &status);
-            const auto path = entry.path().string().substr(root.size());
-            lines.push_back(path + ' ' + std::to_string(status.st_mode) + ' ' +
-                            (S_ISREG(status.st_mode) ? read(path) : std::string{}));
-        }
-        std::sort(lines.begin(), lines.end());
-        return lines;
-    }
-    Installation installation() const { return {root, layout, geteuid(), getegid()}; }
-    Outcome install() const
-    {
-        const Descriptor program{open((root + "/tool").c_str(), O_RDONLY)};
-        return installation().install(program.number());
-    }
-    static std::string messageOf(const Outcome &outcome)
-    {
-        return outcome ? std::string{outcome->error.name} + ": " + outcome->message : "done";
-    }
-
-    static constexpr char tool[] = "/usr/local/libexec/quillon4/Quillon4HelperTool";
-    static constexpr char unit[] = "/etc/systemd/system/quillon4-helper.service";
-    static constexpr char policy[] = "/usr/share/polkit-1/actions/com.orvandel.quillon4.policy";
-
-    std::string root;
-    InstallationLayout layout;
-};
+using InstallationTest = test::SmallSystem;
 
 TEST_F(InstallationTest, putsTheProgramAndItsFilesInPlace)
 {
@@ -189,6 +117,64 @@ TEST_F(InstallationTest, refusesAFolderThatOthersCanWrite)
             chmod((root + folder).c_str(), 0755);
         }
     }
+}
+
+TEST_F(InstallationTest, worksWhereAGroupMayInstallPrograms)
+{
+    // As Debian used to make it, root:staff 2775, with the test's own group for staff.
+    for (const char *folder : {"/usr/local", "/usr/local/share"}) {
+        chmod((root + folder).c_str(), 02775);
+    }
+    const auto before = listing();
+    EXPECT_THAT(
+        messageOf(install()), HasSubstr("/usr/local is writable by other users (the group"));
+    EXPECT_EQ(listing(), before);
+    sharedGroup = getegid();
+    ASSERT_EQ(messageOf(install()), "done");
+    struct stat status
+    {
+    };
+    for (const char *made : {"/usr/local/libexec", "/usr/local/libexec/quillon4"}) {
+        stat((root + made).c_str(), &status);
+        EXPECT_EQ(status.st_mode & 07777U, 0755U) << made;
+    }
+    EXPECT_EQ(messageOf(installation().uninstall()), "done");
+    EXPECT_EQ(listing(), before);
+}
+
+TEST_F(InstallationTest, letsThatGroupWriteNowhereElseAndEverybodyNowhere)
+{
+    sharedGroup = getegid();
+    const struct
+    {
+        const char *folder;
+        mode_t mode;
+    } cases[] = {{"/etc/dbus-1/system.d", 02775}, {"/usr", 02775}, {"/usr/local", 02777}};
+    for (const auto &attempt : cases) {
+        chmod((root + attempt.folder).c_str(), attempt.mode);
+        EXPECT_THAT(messageOf(install()),
+            HasSubstr(std::string{attempt.folder} + " is writable by other users"));
+        chmod((root + attempt.folder).c_str(), 0755);
+    }
+    ASSERT_EQ(messageOf(install()), "done");
+}
+
+TEST_F(InstallationTest, isPackagedToolByWhatTheFileIs)
+{
+    write(layout.packagedTool, "packaged");
+    const Descriptor packaged{open((root + layout.packagedTool).c_str(), O_RDONLY)};
+    const Descriptor other{open((root + "/tool").c_str(), O_RDONLY)};
+    EXPECT_TRUE(installation().isPackagedTool(packaged.number()));
+    EXPECT_FALSE(installation().isPackagedTool(other.number()));
+}
+
+TEST_F(InstallationTest, isThereAlsoWhenOnlyPartOfItIs)
+{
+    EXPECT_FALSE(installation().isInstalled());
+    write(policy, "of a package");
+    EXPECT_FALSE(installation().isInstalled());
+    write(unit, "left over");
+    EXPECT_TRUE(installation().isInstalled());
 }
 
 TEST_F(InstallationTest, refusesAFolderThatIsALink)
