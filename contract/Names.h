@@ -13,6 +13,8 @@ namespace quillon::contract {
 /// helper on the system bus, both started on demand.
 inline constexpr auto &serviceName = service::interface;
 inline constexpr auto &helperName = helper::interface;
+/// On the system bus for a moment: the root process that removes a self-installed helper.
+inline constexpr auto &removalName = removal::interface;
 
 /// Broadcasts (distributed::posted): a name and an object each.
 inline constexpr char helperUpdated[] = "HelperUpdated";

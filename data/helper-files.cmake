@@ -13,18 +13,20 @@ set(QUILLON_INSTALLED_TOOL "/usr/local/libexec/quillon4/Quillon4HelperTool")
 
 set(QUILLON_HELPER_FILES "${PROJECT_BINARY_DIR}/data/helper")
 
-function(quillon_helper_files variant QUILLON_HELPER_TOOL QUILLON_HELPER_READ_WRITE_PATHS)
+function(quillon_helper_files variant QUILLON_HELPER_TOOL)
     set(folder "${QUILLON_HELPER_FILES}/${variant}")
     foreach(file systemd/quillon4-helper.service dbus/com.orvandel.Quillon4HelperTool.service
-            polkit/com.orvandel.quillon4.policy)
+            polkit/com.orvandel.quillon4.policy ${ARGN})
         get_filename_component(name "${file}" NAME)
         configure_file("${PROJECT_SOURCE_DIR}/data/${file}.in" "${folder}/${name}" @ONLY)
     endforeach()
     configure_file("${PROJECT_SOURCE_DIR}/data/dbus/com.orvandel.Quillon4HelperTool.conf"
         "${folder}/com.orvandel.Quillon4HelperTool.conf" COPYONLY)
+    configure_file("${PROJECT_SOURCE_DIR}/data/sysusers/quillon4-helper.conf"
+        "${folder}/quillon4-helper.conf" COPYONLY)
 endfunction()
 
-quillon_helper_files(packaged "${QUILLON_PACKAGED_TOOL}" "# What a package owns the helper never changes.")
-# To remove itself it must remove these entries and, where it made them, the folders around them.
-quillon_helper_files(installed "${QUILLON_INSTALLED_TOOL}"
-    "ReadWritePaths=/usr/local /etc/dbus-1/system.d /etc/systemd/system /usr/share/polkit-1/actions")
+quillon_helper_files(packaged "${QUILLON_PACKAGED_TOOL}")
+# What installs itself can also remove itself.
+quillon_helper_files(installed "${QUILLON_INSTALLED_TOOL}" systemd/quillon4-helper-removal.service
+    dbus/com.orvandel.Quillon4HelperTool.Removal.service)

@@ -35,8 +35,6 @@ public:
     /// `stopDescriptor` becomes readable, until it has been uninstalled, or until the bus goes
     /// away. Throws sdbus::Error when the bus refuses the name or goes away.
     void run(int stopDescriptor);
-    /// Why run() returned.
-    bool isUninstalled() const { return m_uninstalled; }
 
 private:
     void registerMethods();

@@ -27,6 +27,8 @@ struct InstallationLayout
     std::string folderRecord;
     std::string packagedTool;
     std::string packagedUnit;
+    /// The system user as whom the helper runs, as a line of sysusers.d(5).
+    std::string accountLine;
     /// Whoever may install programs for the whole machine without being root may write here.
     std::string sharedFolder;
     /// Of `files`, the name of the one that a package puts in the very same place.

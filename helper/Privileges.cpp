@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/Privileges.h"
 
+#include "helper/SystemAccounts.h"
+
 #include <cap-ng.h>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <grp.h>
 #include <linux/close_range.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -42,7 +45,25 @@ std::optional<std::string> dropBoundingSet()
     return std::nullopt;
 }
 
+/// Root becomes the helper's own user, whatever else it could. Its permitted capabilities stay, for
+/// dropCapabilities() to drop.
+std::optional<std::string> becomeHelperUser()
+{
+    const auto account = helperAccount();
+    if (!account) {
+        return std::string{"there is no system user "} + helperUser;
+    }
+    if (prctl(PR_SET_KEEPCAPS, 1, 0, 0, 0) != 0 || setgroups(0, nullptr) != 0 ||
+        setresgid(account->group, account->group, account->group) != 0 ||
+        setresuid(account->user, account->user, account->user) != 0 ||
+        prctl(PR_SET_KEEPCAPS, 0, 0, 0, 0) != 0) {
+        return failure("cannot become the helper's user");
+    }
+    return std::nullopt;
+}
+
 /// What the kernel says, not what a library believes: CAP_NET_ADMIN in force and nothing beside it.
+/// It may be inheritable too, which gives nothing more to this process.
 bool haveNetworkAdministrationAlone()
 {
     if (capng_get_caps_process() != 0) {
@@ -53,7 +74,7 @@ bool haveNetworkAdministrationAlone()
         const int wanted = capability == CAP_NET_ADMIN ? 1 : 0;
         if (capng_have_capability(CAPNG_EFFECTIVE, number) != wanted ||
             capng_have_capability(CAPNG_PERMITTED, number) != wanted ||
-            capng_have_capability(CAPNG_INHERITABLE, number) != 0) {
+            capng_have_capability(CAPNG_INHERITABLE, number) > wanted) {
             return false;
         }
     }
@@ -62,13 +83,10 @@ bool haveNetworkAdministrationAlone()
 
 std::optional<std::string> dropCapabilities()
 {
-    if (auto problem = dropBoundingSet()) {
-        return problem;
-    }
     if (prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0) != 0) {
         return failure("cannot clear the ambient capabilities");
     }
-    // Under the unit it is so from the start, and its filter knows no capset().
+    // Under the unit it is so from the start, and its filter lets no capset() through.
     if (haveNetworkAdministrationAlone()) {
         return std::nullopt;
     }
@@ -100,6 +118,12 @@ std::optional<std::string> closeInheritedDescriptors()
 
 } // namespace
 
+bool mayAdministerNetworks()
+{
+    return capng_get_caps_process() == 0 &&
+           capng_have_capability(CAPNG_EFFECTIVE, CAP_NET_ADMIN) != 0;
+}
+
 std::optional<std::string> keepNetworkAdministrationOnly()
 {
     // Before libraries read it: whoever started us chose the environment, which could name another
@@ -114,6 +138,14 @@ std::optional<std::string> keepNetworkAdministrationOnly()
     if (auto problem = closeInheritedDescriptors()) {
         return problem;
     }
+    if (auto problem = dropBoundingSet()) {
+        return problem;
+    }
+    if (geteuid() == 0) {
+        if (auto problem = becomeHelperUser()) {
+            return problem;
+        }
+    }
     if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) {
         return failure("cannot set no_new_privs");
     }
@@ -123,6 +155,25 @@ std::optional<std::string> keepNetworkAdministrationOnly()
     // Not on kernels before 6.3, where the unit's filter does it.
     prctl(PR_SET_MDWE, PR_MDWE_REFUSE_EXEC_GAIN, 0UL, 0UL, 0UL);
     return dropCapabilities();
+}
+
+std::string continueAs(const char *program)
+{
+    // Where the unit has started us, it is inheritable already.
+    if (capng_get_caps_process() == 0 &&
+        capng_have_capability(CAPNG_INHERITABLE, CAP_NET_ADMIN) == 0) {
+        capng_update(CAPNG_ADD, CAPNG_INHERITABLE, CAP_NET_ADMIN);
+        capng_apply(CAPNG_SELECT_CAPS);
+    }
+    if (prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_RAISE, CAP_NET_ADMIN, 0, 0) != 0) {
+        return failure("cannot hand the capability on");
+    }
+    char *const arguments[] = {const_cast<char *>(program), nullptr};
+    char *const environment[] = {nullptr};
+    execve(program, arguments, environment);
+    auto problem = failure(program);
+    prctl(PR_CAP_AMBIENT, PR_CAP_AMBIENT_CLEAR_ALL, 0, 0, 0);
+    return problem;
 }
 
 } // namespace quillon

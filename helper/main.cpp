@@ -4,16 +4,21 @@
 //   Quillon4HelperTool            serves on the system bus; the bus or systemd starts it
 //   Quillon4HelperTool install    puts this very program and what it needs into the system
 //   Quillon4HelperTool uninstall  takes it away again
-// Exit codes: 0 done, 1 failed (the reason is on standard error), 2 wrong use, 3 not root.
+//   Quillon4HelperTool remove-on-request   the same for a helper that asks; the bus starts it
+// Exit codes: 0 done, 1 failed (the reason is on standard error), 2 wrong use, 3 without the
+// rights.
 #include "helper/HelperDaemon.h"
 #include "helper/Installation.h"
 #include "helper/Log.h"
 #include "helper/NetlinkKernelLink.h"
 #include "helper/Privileges.h"
+#include "helper/Removal.h"
+#include "helper/SystemAccounts.h"
 #include "helper/SystemBus.h"
 
+#include <algorithm>
+#include <array>
 #include <chrono>
-#include <climits>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
@@ -29,11 +34,20 @@ namespace {
 using namespace quillon;
 
 constexpr std::chrono::seconds idlePeriod{30};
+/// The helper asks for its removal as soon as the bus has started the process that removes it.
+constexpr std::chrono::seconds removalPeriod{30};
 
 constexpr int exitDone = 0;
 constexpr int exitFailed = 1;
 constexpr int exitWrongUse = 2;
-constexpr int exitNotRoot = 3;
+constexpr int exitWithoutRights = 3;
+
+constexpr char installMode[] = "install";
+constexpr char uninstallMode[] = "uninstall";
+constexpr char removalMode[] = "remove-on-request";
+
+// Debian's group of those who may install programs for the whole machine.
+constexpr char localPrograms[] = "staff";
 
 /// The program that is running now: what lies at its path may have been exchanged meanwhile.
 Descriptor ownProgram()
@@ -43,17 +57,31 @@ Descriptor ownProgram()
 
 Installation systemInstallation()
 {
-    return Installation{"/", helperLayout(), 0, 0};
+    return Installation{"/", helperLayout(), 0, 0, groupWithoutMembers(localPrograms)};
+}
+
+Refusal ownedByPackage()
+{
+    return {contract::error::ownedByPackage,
+        "The helper was installed by a package of the distribution: remove that package."};
 }
 
 Outcome uninstallFiles()
 {
     auto installation = systemInstallation();
     if (installation.isPackagedTool(ownProgram().number())) {
-        return Refusal{contract::error::ownedByPackage,
-            "The helper was installed by a package of the distribution: remove that package."};
+        return ownedByPackage();
     }
     return installation.uninstall();
+}
+
+void announce()
+{
+    try {
+        announceChangedFiles(*connectToSystemBus());
+    } catch (const sdbus::Error &) {
+        logLine("No system bus is running; it will find the files when it starts.");
+    }
 }
 
 /// Readable when the helper is asked to stop.
@@ -67,26 +95,61 @@ int stopSignals()
     return signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
+/// A package has brought its own helper, which ours would hide for ever. Returns only when the
+/// package's cannot be executed.
+void stepAside(const std::string &packagedTool)
+{
+    logLine(
+        "The distribution's package has brought the helper: the self-installed one is removed.");
+    if (const auto outcome = requestRemoval()) {
+        logLine("It could not be removed: " + harmless(outcome->message));
+    }
+    logLine(continueAs(packagedTool.c_str()));
+}
+
 int serve()
 {
+    const auto layout = helperLayout();
+    const Installation installation{"/", layout, 0, 0};
+    const bool isPackages = installation.isPackagedTool(ownProgram().number());
     if (const auto problem = keepNetworkAdministrationOnly()) {
         logLine(*problem);
         return exitFailed;
     }
+    if (installation.isPackaged() && !isPackages) {
+        stepAside(layout.packagedTool);
+    }
+    const auto uninstallation = [isPackages] {
+        return isPackages ? Outcome{ownedByPackage()} : requestRemoval();
+    };
     const int stop = stopSignals();
     try {
         const auto connection = connectToSystemBus();
         NetlinkKernelLink kernel;
-        HelperDaemon daemon{*connection, kernel, uninstallFiles, idlePeriod};
-        daemon.run(stop);
-        if (daemon.isUninstalled()) {
-            announceChangedFiles(*connection);
-        }
+        HelperDaemon{*connection, kernel, uninstallation, idlePeriod}.run(stop);
     } catch (const std::exception &error) {
         logLine(std::string{"ended: "} + harmless(error.what()));
         return exitFailed;
     }
     return exitDone;
+}
+
+int removeOnRequest()
+{
+    try {
+        const auto connection = connectToSystemBus();
+        RemovalService removal{*connection, [] {
+                                   auto outcome = uninstallFiles();
+                                   if (!outcome) {
+                                       announce();
+                                   }
+                                   return outcome;
+                               }};
+        return removal.serve(removalPeriod) ? exitDone : exitFailed;
+    } catch (const std::exception &error) {
+        logLine(std::string{"ended: "} + harmless(error.what()));
+        return exitFailed;
+    }
 }
 
 int finishInstallation(const Outcome &outcome, const char *success)
@@ -95,25 +158,36 @@ int finishInstallation(const Outcome &outcome, const char *success)
         logLine(outcome->message);
         return exitFailed;
     }
-    try {
-        announceChangedFiles(*connectToSystemBus());
-    } catch (const sdbus::Error &) {
-        logLine("No system bus is running; it will find the files when it starts.");
-    }
+    announce();
     logLine(success);
     return exitDone;
+}
+
+/// The package's helper is the one to use: what was installed beside it goes.
+int yieldToPackage(Installation &installation)
+{
+    if (!installation.isInstalled()) {
+        logLine("The distribution's package has installed the helper already.");
+        return exitDone;
+    }
+    return finishInstallation(installation.uninstall(),
+        "The distribution's package has installed the helper: the self-installed one is removed.");
 }
 
 int install()
 {
     auto installation = systemInstallation();
     const auto tool = ownProgram();
-    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
-        logLine("The distribution's package has installed the helper already.");
-        return exitDone;
-    }
     if (!tool.isOpen()) {
         logLine("The running program cannot be read.");
+        return exitFailed;
+    }
+    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
+        return yieldToPackage(installation);
+    }
+    // The bus reads its policy, which names the user, only after that.
+    if (const auto problem = makeHelperAccount(helperLayout().accountLine); !problem.empty()) {
+        logLine(problem);
         return exitFailed;
     }
     return finishInstallation(installation.install(tool.number()), "The helper is installed.");
@@ -123,20 +197,25 @@ int install()
 
 int main(int argc, char **argv)
 {
+    static constexpr std::array<std::string_view, 3> modes{installMode, uninstallMode, removalMode};
     const std::string_view mode = argc == 2 ? argv[1] : "";
-    if (argc > 2 || (argc == 2 && mode != "install" && mode != "uninstall")) {
-        logLine("usage: Quillon4HelperTool [install | uninstall]");
+    if (argc > 2 || (argc == 2 && std::find(modes.begin(), modes.end(), mode) == modes.end())) {
+        logLine("usage: Quillon4HelperTool [install | uninstall | remove-on-request]");
         return exitWrongUse;
     }
-    if (getuid() != 0 || geteuid() != 0) {
+    const bool isRoot = getuid() == 0 && geteuid() == 0;
+    if (mode.empty() ? !mayAdministerNetworks() : !isRoot) {
         logLine("Quillon4HelperTool must be run as root.");
-        return exitNotRoot;
+        return exitWithoutRights;
     }
     if (mode.empty()) {
         return serve();
     }
     clearenv();
     umask(022);
-    return mode == "install" ? install()
-                             : finishInstallation(uninstallFiles(), "The helper is removed.");
+    if (mode == removalMode) {
+        return removeOnRequest();
+    }
+    return mode == installMode ? install()
+                               : finishInstallation(uninstallFiles(), "The helper is removed.");
 }

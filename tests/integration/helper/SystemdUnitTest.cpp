@@ -19,19 +19,21 @@ using test::waitUntil;
 using testing::HasSubstr;
 
 constexpr char newAddress[] = "02:11:22:33:44:55";
-constexpr char activation[] =
-    "/usr/local/share/dbus-1/system-services/com.orvandel.Quillon4HelperTool.service";
+const std::string activations = "/usr/local/share/dbus-1/system-services/";
+const std::string units = "/etc/systemd/system/";
+
+/// From now on the bus starts the program of the activation file as the service manager would for
+/// `unit`.
+void restrictTo(const std::string &activation, const std::string &unit)
+{
+    outputOf(std::string{"sed -i 's|^Exec=.*|Exec="} + QUILLON_AS_THE_UNIT + ' ' + unit + "|' " +
+             activations + activation);
+    test::reloadBus();
+}
 
 class SystemdUnitTest : public testing::Test
 {
 protected:
-    /// From now on the bus starts the helper as the service manager would for `unit`.
-    static void restrictTo(const std::string &unit)
-    {
-        outputOf(std::string{"sed -i 's|^Exec=.*|Exec="} + QUILLON_AS_THE_UNIT + ' ' + unit +
-                 "|' " + activation);
-        test::reloadBus();
-    }
     std::string statusOf(const std::string &name)
     {
         return outputOf("cat /proc/" + std::to_string(quillon.processOf(name)) + "/status");
@@ -48,8 +50,25 @@ protected:
             BusClient{"mallory"}.change("enp1s0", newAddress), contract::error::notAuthorized.name);
         const auto status = statusOf(contract::helperName);
         EXPECT_THAT(status, HasSubstr("Seccomp:\t2\n"));
+        const auto user = std::to_string(test::userId("quillon4-helper"));
+        EXPECT_THAT(status, HasSubstr("Uid:\t" + user + '\t' + user + '\t' + user));
         EXPECT_THAT(status, HasSubstr("CapEff:\t0000000000001000\n"));
         EXPECT_THAT(status, HasSubstr("CapBnd:\t0000000000001000\n"));
+        EXPECT_THAT(status, HasSubstr("CapAmb:\t0000000000000000\n"));
+        expectARootFolderOfItsOwn();
+    }
+
+    void expectARootFolderOfItsOwn()
+    {
+        const auto process = std::to_string(quillon.processOf(contract::helperName));
+        EXPECT_EQ(outputOf("ls /proc/" + process + "/root/"),
+            outputOf("cd /tmp; test -e /lib64 && echo 'dev\nlib\nlib64\nproc\nrun\ntmp\nusr\nvar'"
+                     " || echo 'dev\nlib\nproc\nrun\ntmp\nusr\nvar'"));
+        EXPECT_EQ(outputOf("ls /proc/" + process + "/root/run"), "dbus\n");
+        EXPECT_EQ(outputOf("grep -c ' / / ro' /proc/" + process + "/mountinfo"), "1\n");
+        EXPECT_EQ(outputOf("sed -n 's/^Max open files *\\([0-9]*\\).*/\\1/p' /proc/" + process +
+                           "/limits"),
+            outputOf("sed -n s/^LimitNOFILE=//p " + units + "quillon4-helper.service"));
     }
 
     BusClient quillon{"quillon"};
@@ -60,23 +79,36 @@ TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
     outputOf(test::builtTool() + " uninstall");
     const auto clean = installedThings();
     outputOf(test::builtTool() + " install");
-    restrictTo("/etc/systemd/system/quillon4-helper.service");
+    restrictTo("com.orvandel.Quillon4HelperTool.service", units + "quillon4-helper.service");
+    restrictTo("com.orvandel.Quillon4HelperTool.Removal.service",
+        units + "quillon4-helper-removal.service");
     expectThatItWorks();
     EXPECT_EQ(BusClient{"root"}.uninstall(), BusClient::done);
     EXPECT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
     EXPECT_EQ(installedThings(), clean);
 }
 
-TEST_F(SystemdUnitTest, ofThePackageChangesAddressesAndCanWriteNothing)
+TEST_F(SystemdUnitTest, ofThePackageChangesAddresses)
 {
     const auto unit = std::string{QUILLON_BUILD} + "/data/helper/packaged/quillon4-helper.service";
     // The package's unit, with the program where this sandbox has it.
     outputOf("sed 's|^ExecStart=.*|ExecStart=" + std::string{test::installedTool} + "|' " + unit +
              " >/tmp/unit");
-    restrictTo("/tmp/unit");
+    restrictTo("com.orvandel.Quillon4HelperTool.service", "/tmp/unit");
     expectThatItWorks();
+}
+
+TEST_F(SystemdUnitTest, ofTheRemovalIsReachableForTheHelperAlone)
+{
+    restrictTo("com.orvandel.Quillon4HelperTool.Removal.service",
+        units + "quillon4-helper-removal.service");
     const auto before = installedThings();
-    EXPECT_EQ(BusClient{"root"}.uninstall(), contract::error::uninstallFailed.name);
+    for (const char *user : {"mallory", "quillon", "polkitd"}) {
+        EXPECT_EQ(BusClient{user}.call(contract::removalName, contract::removal::path,
+                      contract::removal::interface, contract::removal::remove.name),
+            "org.freedesktop.DBus.Error.AccessDenied")
+            << user;
+    }
     EXPECT_EQ(installedThings(), before);
 }
 
