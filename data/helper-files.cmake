@@ -2,14 +2,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The helper's system files in two variants from one source: "packaged" is what the distribution's
 # package brings, "installed" what the helper's own `install` writes (its texts are built into the
-# helper). The package's paths are fixed, whatever prefix this build has, so that a helper that was
-# built elsewhere still recognizes a packaged one.
-set(QUILLON_PACKAGED_TOOL "/usr/libexec/quillon4/Quillon4HelperTool" CACHE STRING
-    "Where the distribution's package puts the helper")
-set(QUILLON_PACKAGED_UNIT "/usr/lib/systemd/system/quillon4-helper.service" CACHE STRING
-    "Where the distribution's package puts the helper's unit")
-mark_as_advanced(QUILLON_PACKAGED_TOOL QUILLON_PACKAGED_UNIT)
-set(QUILLON_INSTALLED_TOOL "/usr/local/libexec/quillon4/Quillon4HelperTool")
+# helper).
+include("${CMAKE_CURRENT_LIST_DIR}/helper-paths.cmake")
 
 set(QUILLON_HELPER_FILES "${PROJECT_BINARY_DIR}/data/helper")
 
@@ -30,3 +24,7 @@ quillon_helper_files(packaged "${QUILLON_PACKAGED_TOOL}")
 # What installs itself can also remove itself.
 quillon_helper_files(installed "${QUILLON_INSTALLED_TOOL}" systemd/quillon4-helper-removal.service
     dbus/com.orvandel.Quillon4HelperTool.Removal.service)
+
+# The words of the first prompt: until the helper is installed, polkit knows no action of it.
+set(QUILLON_SEED_POLICY "${QUILLON_HELPER_FILES}/com.orvandel.quillon4.seed.policy")
+configure_file("${PROJECT_SOURCE_DIR}/data/polkit/com.orvandel.quillon4.seed.policy.in" "${QUILLON_SEED_POLICY}" @ONLY)

@@ -5,6 +5,7 @@
 #include "contract/SdBus.h"
 #include "service/HelperContact.h"
 #include "service/HelperInstallation.h"
+#include "service/InstalledHelper.h"
 
 #include <memory>
 #include <string>
@@ -19,9 +20,9 @@ class PollLoop;
 class Service
 {
 public:
-    /// Owns the service's name when it returns. `tool` is the absolute path of the helper tool that
-    /// installs itself. Throws sdbus::Error when the bus or the name cannot be had.
-    Service(PollLoop &loop, sdbus::IConnection &sessionBus, std::string tool);
+    /// Owns the service's name when it returns. Throws sdbus::Error when the bus or the name cannot
+    /// be had.
+    Service(PollLoop &loop, sdbus::IConnection &sessionBus, InstalledHelper installed);
 
     /// Whether a request waits for its answer.
     bool isBusy() const { return m_openRequests > 0; }
@@ -39,6 +40,7 @@ private:
     void refuse(const sdbus::MethodCall &call, const char *name, const std::string &message);
     void announceHelperUpdated();
 
+    InstalledHelper m_installed;
     HelperContact m_helper;
     HelperInstallation m_installation;
     std::unique_ptr<sdbus::IObject> m_object;

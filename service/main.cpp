@@ -62,7 +62,9 @@ int main()
     try {
         quillon::service::PollLoop loop;
         const auto bus = sdbus::createSessionBusConnection();
-        quillon::service::Service service(loop, *bus, QUILLON_TOOL_PATH);
+        quillon::service::Service service(loop, *bus,
+            quillon::service::InstalledHelper({QUILLON_SEED_TOOL, QUILLON_INSTALLED_TOOL,
+                QUILLON_PACKAGED_TOOL, QUILLON_PACKAGED_UNIT}));
         bool sessionEnded = false;
         loop.add(*bus, [&sessionEnded] { sessionEnded = true; });
         serve(loop, service, sessionEnded);

@@ -140,6 +140,55 @@ TEST_F(InstallTest, goesIntoNoFolderThatAnOrdinaryUserControls)
     }
 }
 
+TEST_F(InstallTest, worksWhereStaffMayInstallProgramsButNobodyIsStaff)
+{
+    const std::string shared = "/usr/local /usr/local/share";
+    outputOf("chgrp staff " + shared + "; chmod 2775 " + shared);
+    clean = installedThings();
+    outputOf(builtTool() + " install");
+    BusClient quillon{"quillon"};
+    EXPECT_EQ(quillon.version(), "2.0");
+    EXPECT_EQ(outputOf("find /usr/local/libexec -perm /022 ! -type l -o ! -group root"), "");
+    EXPECT_EQ(BusClient{"root"}.uninstall(), BusClient::done);
+    EXPECT_TRUE(waitUntil([&] { return !quillon.hasOwner(contract::helperName); }));
+    EXPECT_EQ(installedThings(), clean);
+}
+
+TEST_F(InstallTest, refusesWhereSomebodyIsStaff)
+{
+    outputOf("chgrp staff /usr/local; chmod 2775 /usr/local");
+    for (const char *membership : {"sed -i 's/^staff:.*/staff:x:50:mallory/' /etc/group",
+             "sed -i 's/^staff:.*/staff:x:50:/' /etc/group;"
+             "sed -i 's/^\\(mallory:x:[0-9]*\\):[0-9]*/\\1:50/' /etc/passwd"}) {
+        outputOf(membership);
+        clean = installedThings();
+        const auto result = run(builtTool() + " install");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(
+            result.output, HasSubstr("/usr/local is writable by other users (the group staff)"));
+        EXPECT_EQ(installedThings(), clean);
+    }
+}
+
+TEST_F(InstallTest, makesTheHelpersUserWhenThereIsNone)
+{
+    outputOf("sed -i /^quillon4-helper:/d /etc/passwd /etc/group /etc/shadow");
+    outputOf(builtTool() + " install");
+    EXPECT_THAT(outputOf("getent passwd quillon4-helper"), HasSubstr("nologin"));
+    EXPECT_EQ(BusClient{"quillon"}.version(), "2.0");
+}
+
+TEST_F(InstallTest, saysSoWhenItsUserCannotBeMade)
+{
+    outputOf("sed -i /^quillon4-helper:/d /etc/passwd; mount --bind /bin/false "
+             "/usr/bin/systemd-sysusers");
+    clean = installedThings();
+    const auto result = run(builtTool() + " install");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("the system user quillon4-helper cannot be made"));
+    EXPECT_EQ(installedThings(), clean);
+}
+
 TEST_F(InstallTest, onAReadOnlySystemSaysSoAndChangesNothing)
 {
     outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
@@ -228,6 +277,73 @@ TEST_F(InstallTestWithPackage, needsNoInstallation)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, HasSubstr("package"));
     EXPECT_EQ(installedThings(), packaged);
+}
+
+/// A self-installed helper from before the package came, whose files hide the package's.
+class InstallTestBeforePackage : public InstallTestWithPackage
+{
+protected:
+    void SetUp() override
+    {
+        InstallTestWithPackage::SetUp();
+        outputOf("mv /usr/libexec/quillon4 /tmp/packaged");
+        outputOf(builtTool() + " install");
+        outputOf("mv /tmp/packaged /usr/libexec/quillon4");
+        ASSERT_NE(installedThings(), packaged);
+    }
+
+    static std::string pathOf(pid_t process)
+    {
+        return outputOf("readlink /proc/" + std::to_string(process) + "/exe");
+    }
+
+    const std::string packagedTool = "/usr/libexec/quillon4/Quillon4HelperTool\n";
+};
+
+TEST_F(InstallTestBeforePackage, stepsAsideWhenItIsStarted)
+{
+    // Whoever calls notices nothing.
+    BusClient quillon{"quillon"};
+    EXPECT_EQ(quillon.version(), "2.0");
+    EXPECT_EQ(pathOf(quillon.processOf(contract::helperName)), packagedTool);
+    EXPECT_EQ(installedThings(), packaged);
+    EXPECT_EQ(quillon.change("enp1s0", "02:11:22:33:44:55"), BusClient::done);
+    EXPECT_EQ(BusClient{"root"}.uninstall(), contract::error::ownedByPackage.name);
+}
+
+TEST_F(InstallTestBeforePackage, stepsAsideUnderTheUnitToo)
+{
+    test::startAsTheUnit(
+        "com.orvandel.Quillon4HelperTool.service", "/etc/systemd/system/quillon4-helper.service");
+    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+        "/etc/systemd/system/quillon4-helper-removal.service");
+    BusClient quillon{"quillon"};
+    EXPECT_EQ(quillon.version(), "2.0");
+    // As seen from outside of its root folder.
+    EXPECT_THAT(pathOf(quillon.processOf(contract::helperName)), testing::EndsWith(packagedTool));
+    EXPECT_EQ(installedThings(), packaged);
+    EXPECT_EQ(quillon.change("enp1s0", "02:11:22:33:44:55"), BusClient::done);
+}
+
+TEST_F(InstallTestBeforePackage, saysSoInTheLog)
+{
+    const auto result = run(std::string{"timeout 2 "} + test::installedTool);
+    EXPECT_THAT(result.output, HasSubstr("package has brought the helper"));
+    EXPECT_EQ(installedThings(), packaged);
+}
+
+TEST_F(InstallTestBeforePackage, isRemovedByAnInstallation)
+{
+    for (const auto &tool :
+        {std::string{"/usr/libexec/quillon4/Quillon4HelperTool"}, builtTool()}) {
+        const auto result = run(tool + " install");
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_THAT(result.output, HasSubstr("package"));
+        EXPECT_EQ(installedThings(), packaged);
+    }
+    BusClient quillon{"quillon"};
+    EXPECT_EQ(quillon.version(), "2.0");
+    EXPECT_EQ(pathOf(quillon.processOf(contract::helperName)), packagedTool);
 }
 
 } // namespace

@@ -82,10 +82,34 @@ std::string builtTool()
     return std::string{QUILLON_BUILD} + "/helper/Quillon4HelperTool";
 }
 
+void startAsTheUnit(const std::string &activation, const std::string &unit)
+{
+    outputOf(std::string{"sed -i 's|^Exec=.*|Exec="} + QUILLON_AS_THE_UNIT + ' ' + unit +
+             "|' /usr/local/share/dbus-1/system-services/" + activation);
+    reloadBus();
+}
+
 void reloadBus()
 {
     outputOf("gdbus call --system --dest org.freedesktop.DBus --object-path / "
              "--method org.freedesktop.DBus.ReloadConfig");
 }
+
+namespace {
+
+/// Every test of this program meets the helper as the service manager would start it, but those
+/// that install it anew.
+class AsTheUnit : public testing::Environment
+{
+    void SetUp() override
+    {
+        startAsTheUnit("com.orvandel.Quillon4HelperTool.service",
+            "/etc/systemd/system/quillon4-helper.service");
+    }
+};
+
+const auto *const asTheUnit = testing::AddGlobalTestEnvironment(new AsTheUnit);
+
+} // namespace
 
 } // namespace quillon::test

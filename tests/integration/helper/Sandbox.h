@@ -34,6 +34,10 @@ std::vector<std::string> installedThings();
 inline constexpr char installedTool[] = "/usr/local/libexec/quillon4/Quillon4HelperTool";
 std::string builtTool();
 
+/// From now on the bus starts the program of the self-installed activation file as the service
+/// manager would for `unit` (a path).
+void startAsTheUnit(const std::string &activation, const std::string &unit);
+
 /// Lets the bus read its folders again.
 void reloadBus();
 

@@ -19,17 +19,7 @@ using test::waitUntil;
 using testing::HasSubstr;
 
 constexpr char newAddress[] = "02:11:22:33:44:55";
-const std::string activations = "/usr/local/share/dbus-1/system-services/";
 const std::string units = "/etc/systemd/system/";
-
-/// From now on the bus starts the program of the activation file as the service manager would for
-/// `unit`.
-void restrictTo(const std::string &activation, const std::string &unit)
-{
-    outputOf(std::string{"sed -i 's|^Exec=.*|Exec="} + QUILLON_AS_THE_UNIT + ' ' + unit + "|' " +
-             activations + activation);
-    test::reloadBus();
-}
 
 class SystemdUnitTest : public testing::Test
 {
@@ -60,14 +50,15 @@ protected:
 
     void expectARootFolderOfItsOwn()
     {
-        const auto process = std::to_string(quillon.processOf(contract::helperName));
-        EXPECT_EQ(outputOf("ls /proc/" + process + "/root/"),
+        const auto process = "/proc/" + std::to_string(quillon.processOf(contract::helperName));
+        const auto root = process + "/root";
+        EXPECT_EQ(outputOf("ls " + root + '/'),
             outputOf("cd /tmp; test -e /lib64 && echo 'dev\nlib\nlib64\nproc\nrun\ntmp\nusr\nvar'"
                      " || echo 'dev\nlib\nproc\nrun\ntmp\nusr\nvar'"));
-        EXPECT_EQ(outputOf("ls /proc/" + process + "/root/run"), "dbus\n");
-        EXPECT_EQ(outputOf("grep -c ' / / ro' /proc/" + process + "/mountinfo"), "1\n");
-        EXPECT_EQ(outputOf("sed -n 's/^Max open files *\\([0-9]*\\).*/\\1/p' /proc/" + process +
-                           "/limits"),
+        EXPECT_EQ(outputOf("ls " + root + "/run"), "dbus\n");
+        EXPECT_EQ(outputOf("grep -c ' / / ro' " + process + "/mountinfo"), "1\n");
+        EXPECT_EQ(
+            outputOf("sed -n 's/^Max open files *\\([0-9]*\\).*/\\1/p' " + process + "/limits"),
             outputOf("sed -n s/^LimitNOFILE=//p " + units + "quillon4-helper.service"));
     }
 
@@ -79,8 +70,9 @@ TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
     outputOf(test::builtTool() + " uninstall");
     const auto clean = installedThings();
     outputOf(test::builtTool() + " install");
-    restrictTo("com.orvandel.Quillon4HelperTool.service", units + "quillon4-helper.service");
-    restrictTo("com.orvandel.Quillon4HelperTool.Removal.service",
+    test::startAsTheUnit(
+        "com.orvandel.Quillon4HelperTool.service", units + "quillon4-helper.service");
+    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         units + "quillon4-helper-removal.service");
     expectThatItWorks();
     EXPECT_EQ(BusClient{"root"}.uninstall(), BusClient::done);
@@ -94,13 +86,13 @@ TEST_F(SystemdUnitTest, ofThePackageChangesAddresses)
     // The package's unit, with the program where this sandbox has it.
     outputOf("sed 's|^ExecStart=.*|ExecStart=" + std::string{test::installedTool} + "|' " + unit +
              " >/tmp/unit");
-    restrictTo("com.orvandel.Quillon4HelperTool.service", "/tmp/unit");
+    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.service", "/tmp/unit");
     expectThatItWorks();
 }
 
 TEST_F(SystemdUnitTest, ofTheRemovalIsReachableForTheHelperAlone)
 {
-    restrictTo("com.orvandel.Quillon4HelperTool.Removal.service",
+    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         units + "quillon4-helper-removal.service");
     const auto before = installedThings();
     for (const char *user : {"mallory", "quillon", "polkitd"}) {

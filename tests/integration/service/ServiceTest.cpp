@@ -22,6 +22,7 @@ using namespace std::chrono_literals;
 namespace {
 
 const QString build = QStringLiteral(QUILLON_BUILD);
+const QString installedTool = u"/usr/local/libexec/quillon4/Quillon4HelperTool"_s;
 
 /// What one call to the service came to.
 struct Call
@@ -115,6 +116,17 @@ void removeHelper()
         }
     }
     reloadSystemBus();
+}
+
+// It works as before, and has other bytes. A program that runs keeps its file.
+void makeAnotherBuildOf(const QString &tool)
+{
+    const QString other = u"/tmp/another-build"_s;
+    command(u"cp %1 %2"_s.arg(tool, other));
+    QFile file(other);
+    ASSERT_TRUE(file.open(QIODevice::Append) && file.write("\n") == 1);
+    file.close();
+    command(u"mv %1 %2"_s.arg(other, tool));
 }
 
 } // namespace
@@ -248,6 +260,23 @@ TEST_F(ServiceTest, InstallsAfterOnePromptAndAnnouncesIt)
     EXPECT_FALSE(endpointIn(connected).isEmpty()) << connected.text.toStdString();
 }
 
+TEST_F(ServiceTest, AnotherBuildsHelperCountsAsNoneUntilItIsReplaced)
+{
+    // The same version, which answers, and other bytes.
+    makeAnotherBuildOf(installedTool);
+    EXPECT_EQ(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
+    atThePrompt("grant");
+    listen();
+    const Call installed = call(contract::service::installHelperTool);
+    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
+    EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
+    EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
+    command(u"cmp %1 %2/helper/Quillon4HelperTool"_s.arg(installedTool, build));
+    EXPECT_NE(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
+    EXPECT_TRUE(call(contract::service::installHelperTool).succeeded);
+    EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
+}
+
 TEST_F(ServiceTest, ARefusedPromptInstallsNothing)
 {
     removeHelper();
@@ -301,6 +330,57 @@ TEST_F(ServiceTest, ToldWhyTheToolFailed)
     EXPECT_TRUE(isError(installed, contract::error::installFailed)) << installed.text.toStdString();
     EXPECT_TRUE(installed.text.contains("system-services"_L1)) << installed.text.toStdString();
     EXPECT_FALSE(heardHelperUpdated());
+}
+
+/// Installed by CMake under its default prefix, which is where the helper puts itself too.
+class ServiceTestInstalledByCMake : public ServiceTest
+{
+protected:
+    void SetUp() override
+    {
+        removeHelper();
+        command(u"cmake --install %1 --component helper"_s.arg(build));
+        command(u"sed -i s|^Exec=.*|Exec=/usr/local/libexec/quillon4/quillon-xpc-service| "
+                "/home/quillon/.local/share/dbus-1/services/"
+                "com.orvandel.Quillon4XPCService.service"_s);
+        command(u"runuser -u quillon -- gdbus call --session --dest org.freedesktop.DBus "
+                "--object-path / --method org.freedesktop.DBus.ReloadConfig"_s);
+    }
+
+    const QString seed = u"/usr/local/libexec/quillon4/seed/Quillon4HelperTool"_s;
+};
+
+TEST_F(ServiceTestInstalledByCMake, InstallsFromASeedThatThePromptNames)
+{
+    EXPECT_EQ(command(u"stat -c %U:%a "_s + seed).trimmed(), "root:755");
+    atThePrompt("grant");
+    const Call installed = call(contract::service::installHelperTool);
+    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
+    EXPECT_TRUE(promptLog().contains("com.orvandel.quillon4.install-seed"))
+        << promptLog().toStdString();
+    EXPECT_TRUE(promptLog().contains("for Quillon, from " + seed.toUtf8()))
+        << promptLog().toStdString();
+    command(u"cmp %1 %2"_s.arg(installedTool, seed));
+    EXPECT_NE(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
+}
+
+TEST_F(ServiceTestInstalledByCMake, ReplacesAnOlderHelperByItsSeed)
+{
+    atThePrompt("grant");
+    ASSERT_TRUE(call(contract::service::installHelperTool).succeeded);
+    makeAnotherBuildOf(seed);
+    EXPECT_EQ(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
+    EXPECT_TRUE(call(contract::service::installHelperTool).succeeded);
+    EXPECT_EQ(promptLog().count('\n'), 2) << promptLog().toStdString();
+    command(u"cmp %1 %2"_s.arg(installedTool, seed));
+}
+
+TEST_F(ServiceTestInstalledByCMake, AndItsHelperAreRemovedApart)
+{
+    command(seed + u" install"_s);
+    command(seed + u" uninstall"_s);
+    EXPECT_FALSE(QFile::exists(installedTool));
+    EXPECT_TRUE(QFile::exists(seed));
 }
 
 TEST(ServiceProgram, NeverRunsAsRoot)

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace quillon::service {
+
+/// What an ordinary user sees of the helper's installation. Keeps nothing: each question looks
+/// anew.
+class InstalledHelper
+{
+public:
+    /// Absolute paths.
+    struct Paths
+    {
+        std::string seed;         ///< the tool that would be installed
+        std::string installed;    ///< where it puts itself
+        std::string packaged;     ///< where the distribution's package has its own
+        std::string packagedUnit; ///< the package's other file by which it is known
+    };
+
+    explicit InstalledHelper(Paths paths);
+
+    const std::string &seed() const { return m_paths.seed; }
+
+    /// Whether the helper that answers is the one that ought to: the package's alone where there is
+    /// one, otherwise, byte by byte, the one that would be installed. Every build has the same
+    /// version, so without this a repair would never arrive. True as well where nothing is
+    /// installed or can be compared: then whether a helper answers, and its version, decide.
+    bool isCurrent() const;
+
+private:
+    Paths m_paths;
+};
+
+} // namespace quillon::service
