@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <memory>
+#include <poll.h>
 
 namespace quillon {
 
@@ -53,14 +54,28 @@ std::unique_ptr<sdbus::IConnection> connectToSystemBus()
     return sdbus::createSystemBusConnection();
 }
 
-void announceChangedFiles(sdbus::IConnection &connection)
+void reloadBus(sdbus::IConnection &connection)
 {
     tell(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
         "ReloadConfig");
+}
+
+void reloadServiceManager(sdbus::IConnection &connection)
+{
     // A call would start it where the bus can, and it would be running for nothing.
     if (isThere(connection, "org.freedesktop.systemd1")) {
         tell(connection, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
             "org.freedesktop.systemd1.Manager", "Reload");
+    }
+}
+
+void waitUntilGone(
+    sdbus::IConnection &connection, const char *name, std::chrono::milliseconds limit)
+{
+    constexpr std::chrono::milliseconds pause{20};
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (isThere(connection, name) && std::chrono::steady_clock::now() < end) {
+        poll(nullptr, 0, static_cast<int>(pause.count()));
     }
 }
 

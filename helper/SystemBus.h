@@ -4,14 +4,19 @@
 
 #include "contract/SdBus.h"
 
+#include <chrono>
 #include <memory>
 
 namespace quillon {
 
-/// Tells the bus and the service manager to read their folders again. Waits for their answers; that
-/// one of them is not there or refuses is logged and is no failure, since both read at their start
-/// anyway.
-void announceChangedFiles(sdbus::IConnection &connection);
+/// Tell the bus, or the service manager, to read its folders again. They wait for the answer; that
+/// nobody is there or refuses is logged and is no failure, since both read at their start anyway.
+void reloadBus(sdbus::IConnection &connection);
+void reloadServiceManager(sdbus::IConnection &connection);
+
+/// Waits until nobody owns `name`, for `limit` at most.
+void waitUntilGone(
+    sdbus::IConnection &connection, const char *name, std::chrono::milliseconds limit);
 
 /// The system bus at its fixed address, whatever the environment says: a variable could point us at
 /// a false bus with a false polkit. Throws sdbus::Error.

@@ -78,7 +78,9 @@ Outcome uninstallFiles()
 void announce()
 {
     try {
-        announceChangedFiles(*connectToSystemBus());
+        const auto connection = connectToSystemBus();
+        reloadBus(*connection);
+        reloadServiceManager(*connection);
     } catch (const sdbus::Error &) {
         logLine("No system bus is running; it will find the files when it starts.");
     }
@@ -141,11 +143,17 @@ int removeOnRequest()
         RemovalService removal{*connection, [] {
                                    auto outcome = uninstallFiles();
                                    if (!outcome) {
-                                       announce();
+                                       reloadBus(*connectToSystemBus());
                                    }
                                    return outcome;
                                }};
-        return removal.serve(removalPeriod) ? exitDone : exitFailed;
+        if (!removal.serve(removalPeriod)) {
+            return exitFailed;
+        }
+        // A unit that runs while the service manager forgets it would leave its root folder behind.
+        waitUntilGone(*connection, contract::helperName, removalPeriod);
+        reloadServiceManager(*connection);
+        return exitDone;
     } catch (const std::exception &error) {
         logLine(std::string{"ended: "} + harmless(error.what()));
         return exitFailed;
