@@ -2,21 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/InstalledHelper.h"
 
-#include <algorithm>
+#include <cstring>
 #include <fstream>
-#include <iterator>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace quillon::service {
 
 namespace {
+
+constexpr std::streamsize pieceSize = 65536;
 
 bool exists(const std::string &path)
 {
     return access(path.c_str(), F_OK) == 0;
 }
 
+// Asked before each operation of the helper: read in large pieces.
 bool isSame(const std::string &one, const std::string &other)
 {
     std::ifstream a{one, std::ios::binary};
@@ -24,8 +27,17 @@ bool isSame(const std::string &one, const std::string &other)
     if (!a || !b) {
         return true;
     }
-    using Bytes = std::istreambuf_iterator<char>;
-    return std::equal(Bytes{a}, Bytes{}, Bytes{b}, Bytes{});
+    std::vector<char> pieceOfA(pieceSize);
+    std::vector<char> pieceOfB(pieceSize);
+    do {
+        a.read(pieceOfA.data(), pieceSize);
+        b.read(pieceOfB.data(), pieceSize);
+        if (a.gcount() != b.gcount() || std::memcmp(pieceOfA.data(), pieceOfB.data(),
+                                            static_cast<std::size_t>(a.gcount())) != 0) {
+            return false;
+        }
+    } while (a && b);
+    return true;
 }
 
 } // namespace

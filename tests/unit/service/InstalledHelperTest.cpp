@@ -35,8 +35,8 @@ TEST_F(InstalledHelperTest, IsCurrentWhenItIsTheSeedByteByByte)
     write("seed", program);
     write("installed", program);
     EXPECT_TRUE(isCurrent());
-    for (const auto &other :
-        {program + 'p', program.substr(1), program.substr(1) + 'q', std::string{}}) {
+    for (const auto &other : {program + 'p', program.substr(1), program.substr(1) + 'q',
+             'q' + program.substr(1), program.substr(0, 65536), std::string{}}) {
         write("installed", other);
         EXPECT_FALSE(isCurrent()) << other.size();
     }
