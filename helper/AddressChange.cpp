@@ -74,14 +74,22 @@ Outcome AddressChange::find(const std::string &device, LinkState &link)
 
 Outcome AddressChange::setLive(const LinkState &link, const contract::LinkLayerAddress &address)
 {
-    const int error = m_kernel.setAddress(link.index, address);
-    if (error == 0) {
-        return std::nullopt;
+    LinkConfiguration configuration;
+    if (const int error = m_kernel.readNeighbors(link, configuration); error != 0) {
+        return changeFailed(link, "reading the static neighbors", error);
     }
+    const int error = m_kernel.setAddress(link.index, address);
+    const int putBackError = m_kernel.putNeighborsBack(configuration);
     if (driverWantsItDown(error) && (link.flags & IFF_UP) != 0) {
         return setWhileDown(link, address);
     }
-    return changeFailed(link, "setting the address", error);
+    if (error != 0) {
+        return changeFailed(link, "setting the address", error);
+    }
+    if (putBackError != 0) {
+        return changeFailed(link, "putting the static neighbors back", putBackError);
+    }
+    return std::nullopt;
 }
 
 Outcome AddressChange::setWhileDown(
@@ -96,6 +104,8 @@ Outcome AddressChange::setWhileDown(
         return changeFailed(link, "taking the interface down", error);
     }
     const int setError = m_kernel.setAddress(link.index, address);
+    // Before it comes up: no packet leaves by what a stranger answers meanwhile.
+    const int neighborError = m_kernel.putNeighborsBack(configuration);
     // Whatever the outcome, the interface is brought up again.
     const int upError = m_kernel.setUp(link.index, true);
     const int putBackError = upError == 0 ? m_kernel.putBack(configuration) : 0;
@@ -104,6 +114,9 @@ Outcome AddressChange::setWhileDown(
     }
     if (upError != 0) {
         return changeFailed(link, "bringing the interface up", upError);
+    }
+    if (neighborError != 0) {
+        return changeFailed(link, "putting the static neighbors back", neighborError);
     }
     if (putBackError != 0) {
         return changeFailed(link, "putting addresses and routes back", putBackError);

@@ -20,12 +20,22 @@ struct LinkState
     /// IFF_… of <net/if.h>.
     unsigned flags = 0;
     contract::LinkLayerAddress address{};
+    /// The index of the link that this one stands on (a VLAN on its wire); 0 for none.
+    int lower = 0;
+    /// The index of the bridge, bond or the like that this one is a port of; 0 for none.
+    int master = 0;
 };
 
-/// What the kernel forgets when an interface goes down, as messages to hand back to it.
+/// What the kernel forgets of an interface and of those on top of it when its address changes or it
+/// goes down, as messages to hand back to the kernel.
 struct LinkConfiguration
 {
     using Message = std::vector<std::uint8_t>;
+    /// The interfaces on top as they were, the lower ones first. Some follow when the interface
+    /// goes down, and all that were down come up with it.
+    std::vector<LinkState> linksOnTop;
+    /// Those that a person or a program gave. They are forgotten at every change of the address.
+    std::vector<Message> neighbors;
     std::vector<Message> addresses;
     /// Those without a gateway first, so that gateways are reachable when their routes come.
     std::vector<Message> routes;
@@ -42,9 +52,16 @@ public:
     virtual int findByIndex(int index, LinkState &state) = 0;
     virtual int setAddress(int index, const contract::LinkLayerAddress &address) = 0;
     virtual int setUp(int index, bool up) = 0;
-    /// The configuration of `link`, without what the kernel made of the link's address by itself.
+    /// What is forgotten when the address changes: the neighbors alone.
+    virtual int readNeighbors(const LinkState &link, LinkConfiguration &configuration) = 0;
+    /// What is forgotten when `link` goes down: everything, without what the kernel made of the
+    /// addresses of links by itself.
     virtual int readConfiguration(const LinkState &link, LinkConfiguration &configuration) = 0;
-    /// What is there already stays as it is. Tries everything and returns the first failure.
+    /// Also while the link is down. Replaces what the kernel has learned meanwhile. Tries
+    /// everything and returns the first failure.
+    virtual int putNeighborsBack(const LinkConfiguration &configuration) = 0;
+    /// Everything but the neighbors. What is there already stays as it is. Tries everything and
+    /// returns the first failure.
     virtual int putBack(const LinkConfiguration &configuration) = 0;
 };
 

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/NetlinkKernelLink.h"
 
+#include "helper/LinkStack.h"
 #include "helper/PutBack.h"
 #include "netlink/NetlinkAttributes.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <linux/neighbour.h>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <poll.h>
@@ -41,12 +43,28 @@ bool readLink(const nlmsghdr &message, LinkState &state)
     state.type = link->ifi_type;
     state.flags = link->ifi_flags;
     state.name = attributes.text(IFLA_IFNAME);
+    state.master = attributes.value<int>(IFLA_MASTER).value_or(0);
+    // An index of another namespace is no link of ours.
+    state.lower =
+        attributes.has(IFLA_LINK_NETNSID) ? 0 : attributes.value<int>(IFLA_LINK).value_or(0);
     state.address = {};
     if (const ByteSpan address = attributes.bytes(IFLA_ADDRESS);
         address.size() == state.address.size()) {
         std::memcpy(state.address.data(), address.data(), address.size());
     }
     return true;
+}
+
+int errorOf(const NetlinkAnswer &table)
+{
+    return table.error == 0 && table.interrupted ? EINTR : table.error;
+}
+
+std::vector<LinkState> withLinksOnTop(const LinkState &link, const LinkConfiguration &configuration)
+{
+    std::vector<LinkState> links{link};
+    links.insert(links.end(), configuration.linksOnTop.begin(), configuration.linksOnTop.end());
+    return links;
 }
 
 /// The kernel appends IPv4 addresses to its list, but puts IPv6 addresses at the head of theirs.
@@ -98,26 +116,67 @@ int NetlinkKernelLink::setUp(int index, bool up)
     return m_socket.request(linkMessage(RTM_SETLINK, index, IFF_UP, flags)).error;
 }
 
-int NetlinkKernelLink::readTable(int type, ToPutBack *toPutBack, const LinkState &link,
-    std::vector<LinkConfiguration::Message> &table)
+int NetlinkKernelLink::readLinks(std::vector<LinkState> &links)
 {
-    // Addresses and routes begin with the family; a dump takes the rest of the header as no filter.
     const NetlinkAnswer answer = m_socket.readTable(
-        netlinkMessage(type, NLM_F_DUMP, rtmsg{}), [&] { table.clear(); },
+        netlinkMessage(RTM_GETLINK, NLM_F_DUMP, ifinfomsg{}), [&] { links.clear(); },
         [&](const nlmsghdr &part) {
-            if (auto body = toPutBack(&part, link)) {
-                table.push_back(std::move(*body));
+            if (LinkState state; readLink(part, state)) {
+                links.push_back(state);
             }
         });
-    return answer.error == 0 && answer.interrupted ? EINTR : answer.error;
+    return errorOf(answer);
+}
+
+int NetlinkKernelLink::readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
+    const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table)
+{
+    const auto before = table.size();
+    const NetlinkAnswer answer = m_socket.readTable(
+        request, [&] { table.resize(before); },
+        [&](const nlmsghdr &part) {
+            for (const auto &link : links) {
+                if (auto body = toPutBack(&part, link)) {
+                    table.push_back(std::move(*body));
+                    return;
+                }
+            }
+        });
+    return errorOf(answer);
+}
+
+int NetlinkKernelLink::readNeighbors(const LinkState &link, LinkConfiguration &configuration)
+{
+    configuration = {};
+    std::vector<LinkState> all;
+    if (const int error = readLinks(all); error != 0) {
+        return error;
+    }
+    configuration.linksOnTop = linksOnTop(link, all);
+    // The kernel shows those that it answers for (proxies) only to who asks for them alone.
+    for (const std::uint8_t flags : {std::uint8_t{0}, std::uint8_t{NTF_PROXY}}) {
+        ndmsg header{};
+        header.ndm_flags = flags;
+        const int error = readTable(netlinkMessage(RTM_GETNEIGH, NLM_F_DUMP, header),
+            neighborToPutBack, withLinksOnTop(link, configuration), configuration.neighbors);
+        if (error != 0) {
+            return error;
+        }
+    }
+    return 0;
 }
 
 int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguration &configuration)
 {
-    configuration = {};
-    int error = readTable(RTM_GETADDR, addressToPutBack, link, configuration.addresses);
+    int error = readNeighbors(link, configuration);
+    const auto links = withLinksOnTop(link, configuration);
     if (error == 0) {
-        error = readTable(RTM_GETROUTE, routeToPutBack, link, configuration.routes);
+        error = readTable(netlinkMessage(RTM_GETADDR, NLM_F_DUMP, ifaddrmsg{}), addressToPutBack,
+            links, configuration.addresses);
+    }
+    if (error == 0) {
+        error = readTable(netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, rtmsg{}), routeToPutBack, links,
+            configuration.routes);
     }
     restoreOrder(configuration.addresses);
     std::stable_partition(configuration.routes.begin(), configuration.routes.end(),
@@ -125,11 +184,11 @@ int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguratio
     return error;
 }
 
-int NetlinkKernelLink::create(int type, const LinkConfiguration::Message &body)
+int NetlinkKernelLink::create(int type, int flags, const LinkConfiguration::Message &body)
 {
     const NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
     if (!message || nlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, type, 0,
-                        NLM_F_CREATE | NLM_F_EXCL) == nullptr) {
+                        NLM_F_CREATE | flags) == nullptr) {
         return ENOMEM;
     }
     // The body is what the kernel would have sent after the header.
@@ -143,20 +202,43 @@ int NetlinkKernelLink::create(int type, const LinkConfiguration::Message &body)
 
 int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route, int &pausesLeft)
 {
-    int error = create(RTM_NEWROUTE, route);
+    int error = create(RTM_NEWROUTE, NLM_F_EXCL, route);
     for (; error == EINVAL && hasSourceAddress(route) && pausesLeft > 0; --pausesLeft) {
         ::poll(nullptr, 0, detectionPauseMilliseconds);
-        error = create(RTM_NEWROUTE, route);
+        error = create(RTM_NEWROUTE, NLM_F_EXCL, route);
     }
     return error;
+}
+
+int NetlinkKernelLink::restoreUp(const LinkState &before)
+{
+    LinkState now;
+    // One that has gone meanwhile has nothing to restore.
+    if (findByIndex(before.index, now) != 0 || ((now.flags ^ before.flags) & IFF_UP) == 0) {
+        return 0;
+    }
+    return setUp(before.index, (before.flags & IFF_UP) != 0);
+}
+
+int NetlinkKernelLink::putNeighborsBack(const LinkConfiguration &configuration)
+{
+    int first = 0;
+    for (const auto &neighbor : configuration.neighbors) {
+        const int error = create(RTM_NEWNEIGH, NLM_F_REPLACE, neighbor);
+        first = first == 0 ? error : first;
+    }
+    return first;
 }
 
 int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
 {
     int first = 0;
     const auto note = [&first](int error) { first = first == 0 ? error : first; };
+    for (const auto &link : configuration.linksOnTop) {
+        note(restoreUp(link));
+    }
     for (const auto &address : configuration.addresses) {
-        note(create(RTM_NEWADDR, address));
+        note(create(RTM_NEWADDR, NLM_F_EXCL, address));
     }
     // Shared by all routes: what is still wrong after that long stays wrong for the next one too.
     int pausesLeft = detectionPauses;

@@ -18,7 +18,9 @@ public:
     int findByIndex(int index, LinkState &state) override;
     int setAddress(int index, const contract::LinkLayerAddress &address) override;
     int setUp(int index, bool up) override;
+    int readNeighbors(const LinkState &link, LinkConfiguration &configuration) override;
     int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override;
+    int putNeighborsBack(const LinkConfiguration &configuration) override;
     int putBack(const LinkConfiguration &configuration) override;
 
 private:
@@ -26,9 +28,11 @@ private:
         const nlmsghdr *, const LinkState &);
 
     int find(int index, const std::string &name, LinkState &state);
-    int readTable(int type, ToPutBack *toPutBack, const LinkState &link,
-        std::vector<LinkConfiguration::Message> &table);
-    int create(int type, const LinkConfiguration::Message &message);
+    int readLinks(std::vector<LinkState> &links);
+    int readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
+        const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table);
+    int create(int type, int flags, const LinkConfiguration::Message &message);
+    int restoreUp(const LinkState &before);
     int createPatiently(const LinkConfiguration::Message &route, int &pausesLeft);
 
     NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};

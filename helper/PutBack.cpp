@@ -9,6 +9,7 @@
 #include <array>
 #include <cstring>
 #include <linux/if_addr.h>
+#include <linux/neighbour.h>
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -20,6 +21,7 @@ namespace {
 using Message = LinkConfiguration::Message;
 using AddressAttributes = NetlinkAttributes<IFA_MAX>;
 using RouteAttributes = NetlinkAttributes<RTA_MAX>;
+using NeighborAttributes = NetlinkAttributes<NDA_MAX>;
 
 // Of all address flags these are requests; the others are the kernel's findings.
 constexpr std::uint32_t settableAddressFlags =
@@ -121,6 +123,36 @@ void clearHopStates(Message &body, std::size_t from)
         [](rtnexthop &hop) { hop.rtnh_flags &= RTNH_F_ONLINK; });
 }
 
+bool isGivenWithoutResolution(const NeighborAttributes &attributes, const LinkState &link)
+{
+    // Without resolution (NUD_NOARP) the kernel makes entries for groups, whose link addresses are
+    // groups too, and on links without ARP, with the link's own address: one that would betray it.
+    const ByteSpan address = attributes.bytes(NDA_LLADDR);
+    const bool isGroup = !address.empty() && (address[0] & std::byte{1}) != std::byte{0};
+    const bool isOwn = address.size() == link.address.size() &&
+                       std::memcmp(address.data(), link.address.data(), address.size()) == 0;
+    return !isGroup && !isOwn;
+}
+
+bool isManaged(const NeighborAttributes &attributes)
+{
+    return (attributes.value<std::uint32_t>(NDA_FLAGS_EXT).value_or(0) & NTF_EXT_MANAGED) != 0;
+}
+
+bool othersMakeNeighbor(
+    const ndmsg &header, const NeighborAttributes &attributes, const LinkState &link)
+{
+    if ((header.ndm_flags & NTF_PROXY) != 0 || (header.ndm_state & NUD_PERMANENT) != 0 ||
+        isManaged(attributes)) {
+        return false;
+    }
+    if ((header.ndm_state & NUD_NOARP) != 0) {
+        return !isGivenWithoutResolution(attributes, link);
+    }
+    // Learned by a program that watches the network for the kernel.
+    return (header.ndm_flags & NTF_EXT_LEARNED) == 0 || !attributes.has(NDA_LLADDR);
+}
+
 bool hasAttribute(const Message &route, int type)
 {
     auto *attributes = reinterpret_cast<nlattr *>(
@@ -183,6 +215,32 @@ std::optional<Message> routeToPutBack(const nlmsghdr *message, const LinkState &
     }
     if (const auto seconds = expiry(attributes); seconds != 0) {
         appendNumber(body, RTA_EXPIRES, seconds);
+    }
+    return body;
+}
+
+std::optional<Message> neighborToPutBack(const nlmsghdr *message, const LinkState &link)
+{
+    auto header = headerOf<ndmsg>(*message);
+    if (message->nlmsg_type != RTM_NEWNEIGH || !header || header->ndm_ifindex != link.index ||
+        (header->ndm_family != AF_INET && header->ndm_family != AF_INET6)) {
+        return std::nullopt;
+    }
+    const NeighborAttributes attributes(attributesOf<ndmsg>(*message));
+    if (!attributes.has(NDA_DST) || othersMakeNeighbor(*header, attributes, link)) {
+        return std::nullopt;
+    }
+    const bool managed = isManaged(attributes);
+    if (managed) {
+        header->ndm_state = NUD_NONE;
+    }
+    Message body;
+    append(body, &*header, sizeof *header);
+    for (int type : {NDA_DST, NDA_LLADDR, NDA_PROTOCOL, NDA_FLAGS_EXT}) {
+        // The kernel itself finds, and keeps finding, the link address of a managed one.
+        if (attributes.has(type) && !(managed && type == NDA_LLADDR)) {
+            appendAttribute(body, attributes.find(type));
+        }
     }
     return body;
 }

@@ -62,6 +62,9 @@ public:
         auto &interface = m_interfaces[index];
         const bool up = (interface.state.flags & IFF_UP) != 0;
         steps.push_back(up ? "set while up" : "set while down");
+        if (flushesNeighborsInAnyCase) {
+            interface.configuration.neighbors.clear();
+        }
         if (interface.refusesAlways != 0) {
             return interface.refusesAlways;
         }
@@ -70,6 +73,7 @@ public:
         }
         if (!interface.ignoresAddress) {
             interface.state.address = address;
+            interface.configuration.neighbors.clear();
         }
         if (interface.vanishesAfterwards) {
             m_interfaces.erase(index);
@@ -89,20 +93,35 @@ public:
         if (!up) {
             interface.configuration = {};
         }
-        m_lastUp = index;
         return 0;
+    }
+    int readNeighbors(const LinkState &link, LinkConfiguration &configuration) override
+    {
+        steps.push_back("read neighbors");
+        configuration.neighbors = m_interfaces[link.index].configuration.neighbors;
+        m_lastRead = link.index;
+        return failsToRead;
     }
     int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override
     {
         steps.push_back("read");
         configuration = m_interfaces[link.index].configuration;
+        m_lastRead = link.index;
         return failsToRead;
     }
     int putBack(const LinkConfiguration &configuration) override
     {
         steps.push_back("put back");
-        m_interfaces[m_lastUp].configuration = configuration;
+        auto &present = m_interfaces[m_lastRead].configuration;
+        present.addresses = configuration.addresses;
+        present.routes = configuration.routes;
         return failsToPutBack;
+    }
+    int putNeighborsBack(const LinkConfiguration &configuration) override
+    {
+        steps.push_back("put neighbors back");
+        m_interfaces[m_lastRead].configuration.neighbors = configuration.neighbors;
+        return failsToPutNeighborsBack;
     }
 
     Interface &named(const std::string &name)
@@ -121,11 +140,14 @@ public:
     int failsToGoDown = 0;
     int failsToComeUp = 0;
     int failsToPutBack = 0;
+    int failsToPutNeighborsBack = 0;
+    /// Also where the address is refused, as some drivers do.
+    bool flushesNeighborsInAnyCase = false;
 
 private:
     std::map<int, Interface> m_interfaces;
     int m_last = 0;
-    int m_lastUp = 0;
+    int m_lastRead = 0;
 };
 
 } // namespace quillon::test

@@ -13,6 +13,7 @@ namespace {
 using test::BusClient;
 using test::kernelAddress;
 using test::outputOf;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -118,17 +119,85 @@ TEST_F(ChangeTest, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
     EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), Not(HasSubstr("fe80::200:5eff:fe00:5301")));
 }
 
+/// Neighbors of the interface that a person or a program gave, in the order of their addresses.
+std::string neighborsOf(const std::string &device)
+{
+    return outputOf("(ip neigh show nud permanent dev " + device +
+                    "; ip neigh show nud noarp dev " + device + "; ip neigh show proxy dev " +
+                    device + "; ip -6 neigh show proxy dev " + device +
+                    ") | grep -v -e '^ff' -e '^22[4-9]' | sort -u");
+}
+
+class ChangeTestNeighbors : public ChangeTest
+{
+protected:
+    void SetUp() override
+    {
+        outputOf("ip neigh replace 192.0.2.1 lladdr 02:00:00:00:00:99 nud permanent dev enp1s0;"
+                 "ip neigh replace 192.0.2.3 lladdr 02:00:00:00:00:98 nud noarp dev enp1s0;"
+                 "ip neigh add 192.0.2.4 lladdr 02:00:00:00:00:97 nud reachable dev enp1s0;"
+                 "ip -6 neigh replace fd00:db8::1 lladdr 02:00:00:00:00:99 nud permanent router "
+                 "dev enp1s0;"
+                 "ip neigh add proxy 192.0.2.5 dev enp1s0; ip -6 neigh add proxy fd00:db8::5 dev "
+                 "enp1s0");
+        before = neighborsOf("enp1s0");
+        ASSERT_THAT(before,
+            AllOf(HasSubstr("192.0.2.1 lladdr 02:00:00:00:00:99"), HasSubstr("192.0.2.3 lladdr"),
+                HasSubstr("fd00:db8::1 lladdr 02:00:00:00:00:99 router"), HasSubstr("192.0.2.5"),
+                HasSubstr("fd00:db8::5")));
+    }
+
+    std::string before;
+};
+
+TEST_F(ChangeTestNeighbors, thatAreStaticAreKeptByAChangeMadeLive)
+{
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_EQ(neighborsOf("enp1s0"), before);
+    EXPECT_THAT(outputOf("ip neigh show nud all dev enp1s0"), Not(HasSubstr("192.0.2.4")));
+}
+
+TEST_F(ChangeTestNeighbors, thatAreStaticAreKeptByAChangeMadeDown)
+{
+    EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
+    EXPECT_EQ(neighborsOf("enp1s0"), before);
+}
+
+TEST_F(ChangeTestNeighbors, ofAnInterfaceThatIsDownAreKept)
+{
+    outputOf("ip link set enp1s0 down;"
+             "ip neigh replace 192.0.2.1 lladdr 02:00:00:00:00:99 nud permanent dev enp1s0");
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_THAT(neighborsOf("enp1s0"), HasSubstr("192.0.2.1 lladdr 02:00:00:00:00:99"));
+}
+
+TEST_F(ChangeTestNeighbors, ofABridgeThatTakesItsPortsAddressAreKept)
+{
+    // The bridge shows the lowest address of its ports, so its own changes with that of the port.
+    outputOf("ip link add brx type bridge; ip link set enp2s0 master brx; ip link set brx up;"
+             "ip addr add 203.0.113.1/24 dev brx;"
+             "ip neigh add 203.0.113.9 lladdr 02:00:00:00:00:77 nud permanent dev brx");
+    for (bool wifi : {false, true}) {
+        const auto address = wifi ? "02:11:22:33:44:66" : newAddress;
+        EXPECT_EQ(quillon.change("enp2s0", address, wifi), BusClient::done);
+        EXPECT_EQ(kernelAddress("brx"), address);
+        EXPECT_THAT(neighborsOf("brx"), HasSubstr("203.0.113.9 lladdr 02:00:00:00:00:77"));
+    }
+}
+
 TEST_F(ChangeTest, thatTheDriverRefusesLeavesTheInterfaceAtWork)
 {
     outputOf("ip link add ifb9 type ifb && ip addr add 198.51.100.9/24 dev ifb9 && ip link set "
              "ifb9 up &&"
-             "ip route add 198.18.9.0/24 via 198.51.100.1 dev ifb9");
+             "ip route add 198.18.9.0/24 via 198.51.100.1 dev ifb9 &&"
+             "ip neigh add 198.51.100.1 lladdr 02:00:00:00:00:99 nud permanent dev ifb9");
     const auto before = kernelAddress("ifb9");
     EXPECT_EQ(quillon.change("ifb9", newAddress), contract::error::changeFailed.name);
     EXPECT_EQ(kernelAddress("ifb9"), before);
     EXPECT_THAT(outputOf("ip addr show dev ifb9"), HasSubstr(",UP"));
     EXPECT_THAT(outputOf("ip addr show dev ifb9"), HasSubstr("198.51.100.9/24"));
     EXPECT_THAT(outputOf("ip route show dev ifb9"), HasSubstr("198.18.9.0/24 via 198.51.100.1"));
+    EXPECT_THAT(neighborsOf("ifb9"), HasSubstr("198.51.100.1 lladdr 02:00:00:00:00:99"));
 }
 
 TEST_F(ChangeTest, needsAnInterfaceThatIsThereAndSuitable)

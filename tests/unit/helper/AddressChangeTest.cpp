@@ -35,8 +35,37 @@ TEST_F(AddressChangeTest, isMadeLiveWhereTheDriverAllows)
 {
     kernel.add("enp1s0");
     EXPECT_EQ(errorOf(change("enp1s0")), "done");
-    EXPECT_THAT(kernel.steps, ElementsAre("set while up"));
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors", "set while up", "put neighbors back"));
     EXPECT_EQ(kernel.named("enp1s0").state.address, wanted);
+}
+
+TEST_F(AddressChangeTest, putsStaticNeighborsBackInEveryCase)
+{
+    const std::vector<LinkConfiguration::Message> neighbors{{1, 2}, {3}};
+    kernel.flushesNeighborsInAnyCase = true;
+    for (int refusal : {0, EBUSY, EADDRNOTAVAIL}) {
+        for (bool wifi : {false, true}) {
+            for (unsigned flags : {0U, unsigned{IFF_UP}}) {
+                auto &interface = kernel.add("enp1s0", flags);
+                interface.refusesWhileUp = refusal;
+                interface.configuration.neighbors = neighbors;
+                change("enp1s0", wifi);
+                EXPECT_EQ(interface.configuration.neighbors, neighbors) << refusal << wifi << flags;
+                interface.refusesAlways = EADDRNOTAVAIL;
+                change("enp1s0", wifi);
+                EXPECT_EQ(interface.configuration.neighbors, neighbors) << refusal << wifi << flags;
+                interface.state.name = "gone";
+            }
+        }
+    }
+}
+
+TEST_F(AddressChangeTest, doesNotChangeWhatWouldCostNeighborsThatItDoesNotKnow)
+{
+    kernel.add("enp1s0");
+    kernel.failsToRead = EINTR;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors"));
 }
 
 TEST_F(AddressChangeTest, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEverythingBack)
@@ -45,10 +74,12 @@ TEST_F(AddressChangeTest, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEvery
         kernel = {};
         auto &interface = kernel.add("enp1s0");
         interface.refusesWhileUp = refusal;
-        interface.configuration = {{{1, 2, 3}}, {{4, 5}, {6}}};
+        interface.configuration.addresses = {{1, 2, 3}};
+        interface.configuration.routes = {{4, 5}, {6}};
         EXPECT_EQ(errorOf(change("enp1s0")), "done");
         EXPECT_THAT(kernel.steps,
-            ElementsAre("set while up", "read", "down", "set while down", "up", "put back"));
+            ElementsAre("read neighbors", "set while up", "put neighbors back", "read", "down",
+                "set while down", "put neighbors back", "up", "put back"));
         EXPECT_EQ(interface.state.address, wanted);
         EXPECT_EQ(interface.configuration.addresses,
             (std::vector<LinkConfiguration::Message>{{1, 2, 3}}));
@@ -61,7 +92,8 @@ TEST_F(AddressChangeTest, ofAWiFiInterfaceLeavesTheNetworkWithoutTryingLive)
 {
     kernel.add("wlp2s0");
     EXPECT_EQ(errorOf(change("wlp2s0", true)), "done");
-    EXPECT_THAT(kernel.steps, ElementsAre("read", "down", "set while down", "up", "put back"));
+    EXPECT_THAT(kernel.steps,
+        ElementsAre("read", "down", "set while down", "put neighbors back", "up", "put back"));
 }
 
 TEST_F(AddressChangeTest, leavesAnInterfaceDownThatWasDown)
@@ -70,7 +102,8 @@ TEST_F(AddressChangeTest, leavesAnInterfaceDownThatWasDown)
     kernel.add("enp1s0", 0);
     EXPECT_EQ(errorOf(change("wlp2s0", true)), "done");
     EXPECT_EQ(errorOf(change("enp1s0")), "done");
-    EXPECT_THAT(kernel.steps, ElementsAre("set while down", "set while down"));
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors", "set while down", "put neighbors back",
+                                  "read neighbors", "set while down", "put neighbors back"));
     EXPECT_EQ(kernel.named("enp1s0").state.flags & IFF_UP, 0U);
 }
 
@@ -78,21 +111,23 @@ TEST_F(AddressChangeTest, thatFailsWhileDownStillBringsTheInterfaceBack)
 {
     auto &interface = kernel.add("enp1s0");
     interface.refusesAlways = EOPNOTSUPP;
-    interface.configuration = {{{1}}, {{2}}};
+    interface.configuration.addresses = {{1}};
+    interface.configuration.routes = {{2}};
     const auto outcome = change("enp1s0");
     EXPECT_EQ(errorOf(outcome), contract::error::changeFailed.name);
-    EXPECT_THAT(kernel.steps,
-        ElementsAre("set while up", "read", "down", "set while down", "up", "put back"));
+    EXPECT_THAT(
+        kernel.steps, ElementsAre("read neighbors", "set while up", "put neighbors back", "read",
+                          "down", "set while down", "put neighbors back", "up", "put back"));
     EXPECT_NE(interface.state.flags & IFF_UP, 0U);
     EXPECT_EQ(interface.configuration.addresses.size(), 1U);
 }
 
 TEST_F(AddressChangeTest, doesNotTakeDownWhatItCouldNotPutBack)
 {
-    kernel.add("enp1s0").refusesWhileUp = EBUSY;
+    kernel.add("wlp2s0");
     kernel.failsToRead = EINTR;
-    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
-    EXPECT_THAT(kernel.steps, ElementsAre("set while up", "read"));
+    EXPECT_EQ(errorOf(change("wlp2s0", true)), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps, ElementsAre("read"));
 }
 
 TEST_F(AddressChangeTest, saysWhichStepFailed)
@@ -107,13 +142,16 @@ TEST_F(AddressChangeTest, saysWhichStepFailed)
     kernel.named("wlp2s0").state.flags |= IFF_UP;
     kernel.failsToPutBack = EINVAL;
     EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("putting addresses and routes back"));
+    kernel.failsToPutNeighborsBack = ENOBUFS;
+    EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("putting the static neighbors back"));
+    EXPECT_THAT(change("wlp2s0")->message, HasSubstr("putting the static neighbors back"));
 }
 
 TEST_F(AddressChangeTest, isNotRetriedForAnAddressThatTheKernelRefuses)
 {
     kernel.add("enp1s0").refusesAlways = EADDRNOTAVAIL;
     EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
-    EXPECT_THAT(kernel.steps, ElementsAre("set while up"));
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors", "set while up", "put neighbors back"));
 }
 
 TEST_F(AddressChangeTest, isAnErrorUnlessItTook)

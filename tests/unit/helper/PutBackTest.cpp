@@ -9,6 +9,7 @@
 #include <array>
 #include <cstring>
 #include <linux/if_addr.h>
+#include <linux/neighbour.h>
 #include <linux/rtnetlink.h>
 #include <memory>
 
@@ -277,6 +278,93 @@ TEST(PutBackRoute, keepsPrefixRoutesThatAManagerAddedUnderTheKernelsName)
     const auto body = routeToPutBack(message.header(), ourLink());
     ASSERT_TRUE(body);
     EXPECT_TRUE(hasSourceAddress(*body));
+}
+
+const Bytes routersLinkAddress{0x02, 0, 0, 0, 0, 0x99};
+const Bytes ownLinkAddress{0x02, 0x11, 0x22, 0x33, 0x44, 0x55};
+const Bytes groupLinkAddress{0x33, 0x33, 0, 0, 0, 0x16};
+
+KernelMessage<ndmsg> neighbor(int state, int flags = 0, int index = ourIndex, int family = AF_INET)
+{
+    ndmsg header{};
+    header.ndm_family = static_cast<std::uint8_t>(family);
+    header.ndm_ifindex = index;
+    header.ndm_state = static_cast<std::uint16_t>(state);
+    header.ndm_flags = static_cast<std::uint8_t>(flags);
+    return {RTM_NEWNEIGH, header};
+}
+
+TEST(PutBackNeighbor, keepsAStaticEntryAsItIs)
+{
+    auto message = neighbor(NUD_PERMANENT, NTF_ROUTER, ourIndex, AF_INET6);
+    message.with(NDA_DST, otherIPv6)
+        .with(NDA_LLADDR, routersLinkAddress)
+        .with(NDA_PROBES, 3)
+        .with(NDA_PROTOCOL, Bytes{RTPROT_STATIC});
+    const auto body = neighborToPutBack(message.header(), ourLink());
+    ASSERT_TRUE(body);
+    const auto *header = reinterpret_cast<const ndmsg *>(body->data());
+    EXPECT_EQ(header->ndm_state, NUD_PERMANENT);
+    EXPECT_EQ(header->ndm_flags, NTF_ROUTER);
+    EXPECT_EQ(header->ndm_ifindex, ourIndex);
+    EXPECT_EQ(attributeOf<ndmsg>(*body, NDA_DST), otherIPv6);
+    EXPECT_EQ(attributeOf<ndmsg>(*body, NDA_LLADDR), routersLinkAddress);
+    EXPECT_EQ(attributeOf<ndmsg>(*body, NDA_PROTOCOL), Bytes{RTPROT_STATIC});
+    EXPECT_TRUE(attributeOf<ndmsg>(*body, NDA_PROBES).empty());
+}
+
+TEST(PutBackNeighbor, leavesToTheKernelWhatTheKernelLearned)
+{
+    for (int state : {NUD_REACHABLE, NUD_STALE, NUD_DELAY, NUD_PROBE, NUD_FAILED, NUD_INCOMPLETE}) {
+        auto message = neighbor(state);
+        message.with(NDA_DST, gateway).with(NDA_LLADDR, routersLinkAddress);
+        EXPECT_FALSE(neighborToPutBack(message.header(), ourLink())) << state;
+    }
+}
+
+TEST(PutBackNeighbor, withoutResolutionIsKeptUnlessTheKernelMadeIt)
+{
+    const auto isKept = [](const Bytes &linkAddress) {
+        auto message = neighbor(NUD_NOARP);
+        message.with(NDA_DST, gateway).with(NDA_LLADDR, linkAddress);
+        return neighborToPutBack(message.header(), ourLink()).has_value();
+    };
+    EXPECT_TRUE(isKept(routersLinkAddress));
+    EXPECT_FALSE(isKept(groupLinkAddress));
+    EXPECT_FALSE(isKept(ownLinkAddress));
+}
+
+TEST(PutBackNeighbor, keepsWhatAProgramLearnedManagesOrAnswersFor)
+{
+    auto learned = neighbor(NUD_REACHABLE, NTF_EXT_LEARNED);
+    learned.with(NDA_DST, gateway).with(NDA_LLADDR, routersLinkAddress);
+    EXPECT_TRUE(neighborToPutBack(learned.header(), ourLink()));
+    auto proxy = neighbor(NUD_NONE, NTF_PROXY);
+    proxy.with(NDA_DST, gateway);
+    EXPECT_TRUE(neighborToPutBack(proxy.header(), ourLink()));
+    auto managed = neighbor(NUD_REACHABLE);
+    managed.with(NDA_DST, gateway)
+        .with(NDA_LLADDR, routersLinkAddress)
+        .with(NDA_FLAGS_EXT, unsigned{NTF_EXT_MANAGED});
+    const auto body = neighborToPutBack(managed.header(), ourLink());
+    ASSERT_TRUE(body);
+    EXPECT_EQ(reinterpret_cast<const ndmsg *>(body->data())->ndm_state, NUD_NONE);
+    EXPECT_TRUE(attributeOf<ndmsg>(*body, NDA_LLADDR).empty());
+    EXPECT_EQ(numberOf(attributeOf<ndmsg>(*body, NDA_FLAGS_EXT)), unsigned{NTF_EXT_MANAGED});
+}
+
+TEST(PutBackNeighbor, leavesOtherInterfacesFamiliesAndMessagesAlone)
+{
+    auto other = neighbor(NUD_PERMANENT, 0, ourIndex + 1);
+    other.with(NDA_DST, gateway).with(NDA_LLADDR, routersLinkAddress);
+    EXPECT_FALSE(neighborToPutBack(other.header(), ourLink()));
+    auto bridged = neighbor(NUD_PERMANENT, 0, ourIndex, AF_BRIDGE);
+    bridged.with(NDA_DST, gateway).with(NDA_LLADDR, routersLinkAddress);
+    EXPECT_FALSE(neighborToPutBack(bridged.header(), ourLink()));
+    EXPECT_FALSE(neighborToPutBack(neighbor(NUD_PERMANENT).header(), ourLink()));
+    auto notOne = route();
+    notOne.with(RTA_OIF, unsigned{ourIndex});
+    EXPECT_FALSE(neighborToPutBack(notOne.header(), ourLink()));
 }
 
 } // namespace

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Interfaces on top go down with a change and come back. A macvlan stands for the VLAN, which not
+// every kernel has; since it does not follow its lower interface by itself, the test moves it as
+// the kernel moves a VLAN.
+#include "helper/NetlinkKernelLink.h"
+#include "integration/helper/Sandbox.h"
+
+#include <gmock/gmock.h>
+
+#include <net/if.h>
+
+namespace quillon {
+namespace {
+
+using test::outputOf;
+using testing::HasSubstr;
+
+class LinkStackTestOnTop : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        outputOf(
+            "ip link add link enp1s0 name top0 type macvlan mode bridge;"
+            "ip link add link enp1s0 name top1 type macvlan mode bridge;"
+            "ip link set top0 address 02:00:00:00:55:01 up;"
+            "ip addr add 198.51.100.1/24 dev top0; ip addr add fd00:db8:7::1/64 dev top0 nodad;"
+            "ip route add 198.18.0.0/24 via 198.51.100.2 dev top0;"
+            "ip -6 route add fd00:db8:8::/64 via fd00:db8:7::2 dev top0;"
+            "ip neigh add 198.51.100.2 lladdr 02:00:00:00:00:66 nud permanent dev top0");
+        ASSERT_EQ(kernel.findByName("enp1s0", link), 0);
+    }
+    static std::string shown()
+    {
+        return outputOf(
+            "ip -o addr show dev top0 | grep -v ' fe80'; ip route show dev top0;"
+            "ip -6 route show dev top0 | grep -v fe80; ip neigh show nud permanent dev top0");
+    }
+
+    NetlinkKernelLink kernel;
+    LinkState link;
+};
+
+TEST_F(LinkStackTestOnTop, getAddressesRoutesNeighborsAndTheirStateBack)
+{
+    const auto before = shown();
+    ASSERT_THAT(before, HasSubstr("fd00:db8:8::/64 via fd00:db8:7::2"));
+    LinkConfiguration configuration;
+    ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
+    // All that were up go down with the lower one, and all come up with it.
+    outputOf("ip link set top0 down; ip link set top1 up; ip link set top0 up");
+    ASSERT_NE(shown(), before);
+    EXPECT_EQ(kernel.putNeighborsBack(configuration), 0);
+    EXPECT_EQ(kernel.putBack(configuration), 0);
+    EXPECT_EQ(shown(), before);
+    LinkState top1;
+    ASSERT_EQ(kernel.findByName("top1", top1), 0);
+    EXPECT_EQ(top1.flags & IFF_UP, 0U);
+    // One that stayed down, as loosely bound ones may, comes up again.
+    outputOf("ip link set top0 down");
+    EXPECT_EQ(kernel.putNeighborsBack(configuration), 0);
+    EXPECT_EQ(kernel.putBack(configuration), 0);
+    EXPECT_EQ(shown(), before);
+}
+
+TEST_F(LinkStackTestOnTop, loseNothingToOneThatHasGone)
+{
+    LinkConfiguration configuration;
+    ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
+    ASSERT_EQ(configuration.linksOnTop.size(), 2U);
+    outputOf("ip link del top1; ip link set top0 down");
+    EXPECT_EQ(kernel.putBack(configuration), 0);
+    EXPECT_THAT(shown(), HasSubstr("198.18.0.0/24 via 198.51.100.2"));
+}
+
+} // namespace
+} // namespace quillon
