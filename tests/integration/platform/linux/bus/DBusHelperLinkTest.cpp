@@ -302,6 +302,35 @@ TEST_F(DBusHelperLinkTest, APeerThatVanishesEndsItsCallsAndInvalidatesOnce)
     EXPECT_EQ(invalidated, 1);
 }
 
+TEST_F(DBusHelperLinkTest, ADepartureThatAStrangerTellsOfIsNotBelieved)
+{
+    FakePeer peer = peerWith(silence);
+    Outcome outcome;
+    int invalidated = 0;
+    const auto connection = helper();
+    connection->setInvalidationHandler([&] { ++invalidated; });
+    connection->getVersionWithReply(outcome.version(), outcome.failed());
+    ASSERT_TRUE(eventually([&] { return peer.calls.size() == 1; }));
+
+    // Anybody can send a signal straight to us; only its sender tells that it is not the bus's.
+    QDBusConnection stranger = bus.connect();
+    const QString endpoint = QDBusConnection(peerBus).baseService();
+    for (const QVariantList &arguments :
+        {QVariantList{endpoint, endpoint, QString()}, QVariantList{endpoint},
+            QVariantList{QStringList{endpoint}, endpoint, endpoint, QString()}}) {
+        QDBusMessage forged = QDBusMessage::createTargetedSignal(ourBus.baseService(),
+            u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameOwnerChanged"_s);
+        forged.setArguments(arguments);
+        ASSERT_TRUE(stranger.send(forged));
+    }
+    // The bus has passed the signals on when it answers; what the peer says now comes after them.
+    ASSERT_TRUE(stranger.interface()->isServiceRegistered(endpoint));
+    ASSERT_TRUE(QDBusConnection(peerBus).send(peer.calls[0].createReply(u"2.0"_s)));
+    expectEndedOnce(outcome);
+    EXPECT_EQ(outcome.text, u"2.0"_s);
+    EXPECT_EQ(invalidated, 0);
+}
+
 TEST_F(DBusHelperLinkTest, AnAnswerBeforeThePeerLeavesStillCounts)
 {
     // As a helper that removes itself: it answers and is gone.
