@@ -6,11 +6,13 @@
 #include "contract/Names.h"
 #include "helper/AddressChange.h"
 #include "helper/BusCallers.h"
+#include "helper/Log.h"
 #include "helper/NetlinkKernelLink.h"
 #include "helper/PolkitAuthority.h"
+#include "helper/RequestLog.h"
 #include "helper/SystemBus.h"
 
-#include <poll.h>
+#include <cstdint>
 #include <stdexcept>
 
 namespace {
@@ -40,12 +42,9 @@ private:
     void waitFor(const bool &answered)
     {
         while (!answered) {
-            if (bus::processOne(*m_connection)) {
-                continue;
+            if (sd_bus_process(m_bus.get(), nullptr) == 0) {
+                sd_bus_wait(m_bus.get(), UINT64_MAX);
             }
-            const auto pollData = m_connection->getEventLoopPollData();
-            pollfd descriptor{pollData.fd, pollData.events, 0};
-            poll(&descriptor, 1, pollData.getPollTimeout());
         }
     }
 
@@ -98,7 +97,11 @@ private:
             throw std::runtime_error("no such address");
         }
         const Clock::time_point begin = Clock::now();
-        const Outcome outcome = m_change.change(device, *address, false);
+        LinkState link;
+        auto outcome = m_change.find(device, link);
+        if (!outcome) {
+            outcome = m_change.change(link, *address, false);
+        }
         const Clock::time_point end = Clock::now();
         if (outcome) {
             throw std::runtime_error(outcome->message);
@@ -106,9 +109,10 @@ private:
         return {word(end - begin)};
     }
 
-    std::unique_ptr<sdbus::IConnection> m_connection = connectToSystemBus();
-    PolkitAuthority m_authority{*m_connection};
-    BusCallers m_callers{*m_connection};
+    SystemBus m_bus = connectToSystemBus();
+    RequestLog m_log{Clock::now, logLine};
+    PolkitAuthority m_authority{*m_bus, m_log};
+    BusCallers m_callers{*m_bus};
     NetlinkKernelLink m_kernel;
     AddressChange m_change{m_kernel};
     int m_checks = 0;

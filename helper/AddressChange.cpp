@@ -40,11 +40,15 @@ AddressChange::AddressChange(KernelLink &kernel)
 }
 
 Outcome AddressChange::change(
-    const std::string &device, const contract::LinkLayerAddress &address, bool deviceIsWiFi)
+    const LinkState &asked, const contract::LinkLayerAddress &address, bool deviceIsWiFi)
 {
     LinkState link;
-    if (auto refusal = find(device, link)) {
+    if (auto refusal = find(asked.name, link)) {
         return refusal;
+    }
+    if (link.index != asked.index) {
+        return Refusal{contract::error::noSuchDevice,
+            asked.name + " is another interface than the one that the request was about."};
     }
     Outcome refusal;
     switch (strategyFor(link, deviceIsWiFi)) {

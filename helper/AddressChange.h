@@ -29,13 +29,16 @@ class AddressChange
 public:
     explicit AddressChange(KernelLink &kernel);
 
-    /// `device` and `address` have passed the contract's validation. Errors: NoSuchDevice,
-    /// UnsupportedDevice, ChangeFailed, AddressDidNotTake.
+    /// The interface of this name, which has passed the contract's validation. Errors:
+    /// NoSuchDevice, UnsupportedDevice.
+    Outcome find(const std::string &device, LinkState &link);
+    /// `asked` is what find() gave when the change was asked for: another interface that bears its
+    /// name by now is left alone. `address` has passed the contract's validation. Errors: those of
+    /// find(), ChangeFailed, AddressDidNotTake.
     Outcome change(
-        const std::string &device, const contract::LinkLayerAddress &address, bool deviceIsWiFi);
+        const LinkState &asked, const contract::LinkLayerAddress &address, bool deviceIsWiFi);
 
 private:
-    Outcome find(const std::string &device, LinkState &link);
     Outcome setLive(const LinkState &link, const contract::LinkLayerAddress &address);
     Outcome setWhileDown(const LinkState &link, const contract::LinkLayerAddress &address);
     Outcome confirm(const LinkState &link, const contract::LinkLayerAddress &address);

@@ -2,208 +2,192 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/HelperDaemon.h"
 
-#include "contract/Interfaces.h"
 #include "contract/Names.h"
-#include "contract/Validation.h"
 #include "helper/Log.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <poll.h>
 #include <utility>
-#include <vector>
 
 namespace quillon {
 
 namespace {
 
-// Connections that have gone: the only signal the helper listens to. Matched before the name is
-// taken, so that no caller's departure can be missed.
-constexpr char departuresMatch[] =
-    "type='signal',sender='org.freedesktop.DBus',path='/org/freedesktop/DBus',"
-    "interface='org.freedesktop.DBus',member='NameOwnerChanged',arg2=''";
+using namespace std::chrono_literals;
+
+// Users that the bus is asked for at once. With a question to polkit and one about presence for
+// each of the 32 requests that wait, this stays below the 128 answers that the bus lets us await.
+constexpr std::size_t mostQuestions = 32;
+// Between two looks at everything else, so that a flood of messages holds nothing up.
+constexpr int messagesAtOnce = 64;
+// What went wrong may go wrong again at once; it shall not take the whole processor.
+constexpr int errorPauseMilliseconds = 10;
+constexpr int noDescriptor = -1;
 
 std::chrono::steady_clock::time_point now()
 {
     return std::chrono::steady_clock::now();
 }
 
-void answer(const sdbus::MethodCall &call, const Outcome &outcome)
+bool isOwnership(sd_bus_message &answer)
 {
-    try {
-        if (outcome) {
-            call.createErrorReply(
-                    sdbus::Error{bus::ErrorName{outcome->error.name}, outcome->message})
-                .send();
-        } else {
-            call.createReply().send();
-        }
-    } catch (const sdbus::Error &error) {
-        logLine("an answer could not be sent: " + harmless(error.getName()));
-    }
+    constexpr std::uint32_t primaryOwner = 1; // DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER
+    std::uint32_t result = 0;
+    return sd_bus_message_is_method_error(&answer, nullptr) == 0 &&
+           sd_bus_message_read(&answer, "u", &result) > 0 && result == primaryOwner;
 }
-
-void refuse(const sdbus::MethodCall &call, contract::ErrorName error, const char *why)
-{
-    logLine(bus::senderOf(call) + ' ' + call.getMemberName() + ": " + error.name);
-    answer(call, Refusal{error, why});
-}
-
-bool isAuthorizationSized(const std::vector<std::uint8_t> &authorization)
-{
-    return authorization.size() == contract::authorizationSize;
-}
-
-constexpr char wrongSize[] = "The authorization is not 32 bytes long.";
 
 } // namespace
 
-HelperDaemon::HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel,
-    Uninstallation uninstallation, std::chrono::milliseconds idlePeriod)
-    : m_connection{connection}
+HelperDaemon::HelperDaemon(sd_bus &bus, KernelLink &kernel, Uninstallation uninstallation,
+    std::chrono::milliseconds idlePeriod)
+    : m_bus{bus}
+    , m_log{now, logLine}
     , m_addressChange{kernel}
-    , m_uninstallation{std::move(uninstallation)}
-    , m_callers{connection}
-    , m_authority{connection}
-    , m_requests{m_callers, m_authority, {}}
+    , m_busCallers{bus}
+    , m_callers{m_busCallers, mostQuestions}
+    , m_authority{bus, m_log}
+    , m_requests{m_callers, m_authority, m_log, {}}
     , m_idle{idlePeriod, now()}
-    , m_object{sdbus::createObject(connection, bus::Path{contract::helper::path})}
+    , m_methods{bus, m_requests, m_log,
+          {[this] { m_idle.used(now()); }, m_addressChange,
+              [this, uninstall = std::move(uninstallation)] {
+                  auto outcome = uninstall();
+                  m_uninstalled = !outcome;
+                  return outcome;
+              }}}
 {
-    registerMethods();
-    m_departures = bus::listen(connection, departuresMatch, [this](sdbus::Message &message) {
-        std::string name;
-        message >> name;
-        m_requests.callerVanished(name);
-    });
 }
 
-void HelperDaemon::registerMethods()
+bool HelperDaemon::run(int stopDescriptor)
 {
-    const auto text = [this](const std::function<std::string()> &value) {
-        return [this, value](const sdbus::MethodCall &call) {
-            m_idle.used(now());
-            auto reply = call.createReply();
-            reply << value();
-            reply.send();
-        };
-    };
-    bus::publish(*m_object, contract::helper::interface,
-        {{contract::helper::connectWithEndpoint,
-             text([this] { return m_connection.getUniqueName(); })},
-            {contract::helper::getVersion,
-                text([] { return std::string{contract::helperVersion}; })},
-            {contract::helper::changeAddressOfDevice,
-                [this](sdbus::MethodCall call) { changeAddress(std::move(call)); }},
-            {contract::helper::uninstall,
-                [this](sdbus::MethodCall call) { uninstall(std::move(call)); }}});
-}
-
-void HelperDaemon::changeAddress(sdbus::MethodCall call)
-{
-    m_idle.used(now());
-    std::string device;
-    std::string addressText;
-    bool deviceIsWiFi = false;
-    std::vector<std::uint8_t> authorization;
-    call >> device >> addressText >> deviceIsWiFi >> authorization;
-    if (!isAuthorizationSized(authorization)) {
-        refuse(call, contract::error::invalidAuthorization, wrongSize);
-        return;
+    if (!begin()) {
+        return false;
     }
-    if (!contract::isValidDeviceName(device)) {
-        refuse(call, contract::error::invalidDevice, "This is no name of an interface.");
-        return;
-    }
-    const auto address = contract::unicastAddress(addressText);
-    if (!address) {
-        refuse(call, contract::error::invalidAddress,
-            "This is no address that an interface can have.");
-        return;
-    }
-    const Authority::Details details{
-        {"device", device}, {"address", contract::addressText(*address)}};
-    m_requests.submit({bus::senderOf(call), contract::actionChange, details,
-        [this, device, address, deviceIsWiFi] {
-            return m_addressChange.change(device, *address, deviceIsWiFi);
-        },
-        [call](const Outcome &outcome) { answer(call, outcome); }});
-}
-
-void HelperDaemon::uninstall(sdbus::MethodCall call)
-{
-    m_idle.used(now());
-    std::vector<std::uint8_t> authorization;
-    call >> authorization;
-    if (!isAuthorizationSized(authorization)) {
-        refuse(call, contract::error::invalidAuthorization, wrongSize);
-        return;
-    }
-    m_requests.submit({bus::senderOf(call), contract::actionUninstall, {},
-        [this] {
-            auto outcome = m_uninstallation();
-            m_uninstalled = !outcome;
-            return outcome;
-        },
-        [call](const Outcome &outcome) { answer(call, outcome); }});
-}
-
-void HelperDaemon::run(int stopDescriptor)
-{
-    m_connection.requestName(bus::Name{contract::helperName});
-    m_idle.used(now());
     serve(stopDescriptor);
+    const bool ended = isConnected() && m_name == NameState::Owned;
     leave(stopDescriptor);
+    sd_bus_flush(&m_bus);
+    return ended;
+}
+
+bool HelperDaemon::begin()
+{
+    // Departures first: no caller's may be missed. Nothing here waits for an answer: meanwhile
+    // messages of any size would pile up.
+    return m_busCallers.watchDepartures([this](const std::string &caller) {
+        m_requests.callerVanished(caller);
+    }) && m_methods.publish() &&
+           sd_bus_request_name_async(
+               &m_bus, nullptr, contract::helperName, 0, nameAnswered, this) >= 0;
+}
+
+int HelperDaemon::nameAnswered(sd_bus_message *answer, void *self, sd_bus_error *)
+{
+    auto *daemon = static_cast<HelperDaemon *>(self);
+    daemon->m_name = isOwnership(*answer) ? NameState::Owned : NameState::Refused;
+    daemon->m_idle.used(now());
+    return 0;
+}
+
+int HelperDaemon::nameReleased(sd_bus_message *, void *self, sd_bus_error *)
+{
+    static_cast<HelperDaemon *>(self)->m_name = NameState::Released;
+    return 0;
 }
 
 void HelperDaemon::serve(int stopDescriptor)
 {
-    while (!m_uninstalled) {
-        processMessages();
+    handleMessagesUntil(stopDescriptor, [this] {
         if (m_requests.waiting() > 0) {
             m_idle.used(now());
-        } else if (m_idle.isOver(now())) {
-            return;
         }
-        if (!m_uninstalled && !waitForMessages(stopDescriptor)) {
-            return;
-        }
-    }
+        return m_uninstalled || m_name == NameState::Refused || m_idle.isOver(now());
+    });
 }
 
 void HelperDaemon::leave(int stopDescriptor)
 {
     // From here on the bus starts a new helper for whoever calls the name. What it had given to
-    // this one before is in the connection's queue now, and is served to the end.
-    m_connection.releaseName(bus::Name{contract::helperName});
-    processMessages();
-    while (m_requests.waiting() > 0 && waitForMessages(stopDescriptor)) {
-        processMessages();
+    // this one before comes before its answer to this, and is served to the end. The answer comes
+    // in any case: the library gives one when the bus does not.
+    if (sd_bus_release_name_async(&m_bus, nullptr, contract::helperName, nameReleased, this) >= 0) {
+        m_idle.used(now());
+        handleMessagesUntil(noDescriptor, [this] { return m_name == NameState::Released; });
     }
+    handleMessagesUntil(stopDescriptor, [this] { return m_requests.waiting() == 0; });
     m_requests.refuseAll();
+    m_log.flush();
 }
 
-bool HelperDaemon::waitForMessages(int stopDescriptor)
+void HelperDaemon::handleMessagesUntil(int stopDescriptor, const std::function<bool()> &isOver)
 {
-    const auto pollData = m_connection.getEventLoopPollData();
-    int timeout = pollData.getPollTimeout();
+    for (;;) {
+        const bool more = processMessages();
+        if (isOver() || !isConnected() ||
+            !waitForMessages(stopDescriptor, more ? 0ms : timeToWait())) {
+            return;
+        }
+    }
+}
+
+bool HelperDaemon::isConnected() const
+{
+    return sd_bus_is_open(&m_bus) > 0;
+}
+
+bool HelperDaemon::processMessages()
+{
+    for (int i = 0; i < messagesAtOnce; ++i) {
+        const int result = sd_bus_process(&m_bus, nullptr);
+        if (result < 0) {
+            // The bus being gone is seen by isConnected(). Anything else, such as no memory for a
+            // message, ends with that message.
+            m_log.limited("messages that could not be read",
+                std::string{"a message could not be read: "} + std::strerror(-result));
+            ::poll(nullptr, 0, errorPauseMilliseconds);
+            return false;
+        }
+        if (result == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::chrono::milliseconds HelperDaemon::timeToWait() const
+{
+    // Somebody who thinks at a prompt keeps the helper from being idle.
+    auto limit = std::chrono::milliseconds{std::numeric_limits<int>::max()};
     if (m_requests.waiting() == 0) {
-        const auto idle = static_cast<int>(
-            std::min<std::int64_t>(m_idle.left(now()).count(), std::numeric_limits<int>::max()));
-        timeout = timeout < 0 ? idle : std::min(timeout, idle);
+        limit = m_idle.left(now());
     }
-    std::array<pollfd, 2> descriptors{
-        {{pollData.fd, pollData.events, 0}, {stopDescriptor, POLLIN, 0}}};
-    const int ready = ::poll(descriptors.data(), descriptors.size(), timeout);
-    return ready <= 0 || (descriptors[1].revents & POLLIN) == 0;
+    limit = std::min(limit, m_log.left().value_or(limit));
+    std::uint64_t busTime = 0;
+    if (sd_bus_get_timeout(&m_bus, &busTime) > 0) {
+        const auto due = std::chrono::steady_clock::time_point{std::chrono::microseconds{
+            std::min<std::uint64_t>(busTime, std::numeric_limits<std::int64_t>::max() / 1000)}};
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(due - now());
+        limit = std::clamp(left, 0ms, limit);
+    }
+    return limit;
 }
 
-void HelperDaemon::processMessages()
+bool HelperDaemon::waitForMessages(int stopDescriptor, std::chrono::milliseconds limit)
 {
-    while (bus::processOne(m_connection)) {
-    }
+    const int events = sd_bus_get_events(&m_bus);
+    std::array<pollfd, 2> descriptors{
+        {{sd_bus_get_fd(&m_bus), static_cast<short>(std::max(events, 0)), 0},
+            {stopDescriptor, POLLIN, 0}}};
+    const int ready =
+        ::poll(descriptors.data(), descriptors.size(), static_cast<int>(limit.count()));
+    m_log.flush();
+    return ready <= 0 || (descriptors[1].revents & POLLIN) == 0;
 }
 
 } // namespace quillon

@@ -2,60 +2,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "contract/SdBus.h"
 #include "helper/AddressChange.h"
 #include "helper/BusCallers.h"
+#include "helper/HelperMethods.h"
 #include "helper/IdlePeriod.h"
+#include "helper/PacedCallers.h"
 #include "helper/PolkitAuthority.h"
 #include "helper/PrivilegedRequests.h"
+#include "helper/RequestLog.h"
 
 #include <chrono>
 #include <functional>
-#include <memory>
-#include <string>
 
 namespace quillon {
 
-/// The helper on the system bus: the interface of contract/com.orvandel.Quillon4HelperTool.xml, and
-/// the one loop in which everything happens. It keeps nothing between two runs.
+/// The helper on the system bus, from taking its name to leaving it, and the one loop in which
+/// everything happens. It keeps nothing between two runs.
 class HelperDaemon
 {
 public:
     /// Carries out an uninstallation that has been authorized.
     using Uninstallation = std::function<Outcome()>;
 
-    /// `connection` to the bus, on which no event loop runs; it outlives the daemon, as `kernel`
-    /// does.
-    HelperDaemon(sdbus::IConnection &connection, KernelLink &kernel, Uninstallation uninstallation,
+    /// `bus` is processed by nobody else; it outlives the daemon, as `kernel` does.
+    HelperDaemon(sd_bus &bus, KernelLink &kernel, Uninstallation uninstallation,
         std::chrono::milliseconds idlePeriod);
     HelperDaemon(const HelperDaemon &) = delete;
     HelperDaemon &operator=(const HelperDaemon &) = delete;
 
     /// Takes the name and serves until nobody has asked anything for the idle period, until
-    /// `stopDescriptor` becomes readable, until it has been uninstalled, or until the bus goes
-    /// away. Throws sdbus::Error when the bus refuses the name or goes away.
-    void run(int stopDescriptor);
+    /// `stopDescriptor` becomes readable, or until it has been uninstalled. False when the bus
+    /// refuses the name or goes away; no message of anybody ends it.
+    bool run(int stopDescriptor);
 
 private:
-    void registerMethods();
-    void changeAddress(sdbus::MethodCall call);
-    void uninstall(sdbus::MethodCall call);
+    enum class NameState
+    {
+        Asked,
+        Owned,
+        Refused,
+        Released,
+    };
+
+    static int nameAnswered(sd_bus_message *answer, void *self, sd_bus_error *error);
+    static int nameReleased(sd_bus_message *answer, void *self, sd_bus_error *error);
+    bool begin();
     void serve(int stopDescriptor);
     void leave(int stopDescriptor);
+    /// Until `isOver`, the end of the connection, or `stopDescriptor`.
+    void handleMessagesUntil(int stopDescriptor, const std::function<bool()> &isOver);
+    bool isConnected() const;
+    /// True when there may be more.
+    bool processMessages();
     /// False when `stopDescriptor` became readable.
-    bool waitForMessages(int stopDescriptor);
-    void processMessages();
+    bool waitForMessages(int stopDescriptor, std::chrono::milliseconds limit);
+    std::chrono::milliseconds timeToWait() const;
 
-    sdbus::IConnection &m_connection;
+    sd_bus &m_bus;
+    RequestLog m_log;
     AddressChange m_addressChange;
-    Uninstallation m_uninstallation;
-    BusCallers m_callers;
+    BusCallers m_busCallers;
+    PacedCallers m_callers;
     PolkitAuthority m_authority;
     PrivilegedRequests m_requests;
     IdlePeriod m_idle;
+    HelperMethods m_methods;
+    NameState m_name = NameState::Asked;
     bool m_uninstalled = false;
-    std::unique_ptr<sdbus::IObject> m_object;
-    sdbus::Slot m_departures;
 };
 
 } // namespace quillon

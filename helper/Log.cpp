@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/Log.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -29,6 +30,11 @@ void logLine(std::string_view line)
 {
     std::string whole{line};
     whole += '\n';
+    // A reader that does not read must not hold us up: what finds no room is lost.
+    pollfd output{STDERR_FILENO, POLLOUT, 0};
+    if (::poll(&output, 1, 0) != 1 || (output.revents & POLLOUT) == 0) {
+        return;
+    }
     // One write, so that lines of two processes do not mix. There is nobody to tell when it fails.
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, whole.data(), whole.size());
 }

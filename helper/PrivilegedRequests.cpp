@@ -3,8 +3,8 @@
 #include "helper/PrivilegedRequests.h"
 
 #include "helper/Log.h"
+#include "helper/RequestLog.h"
 
-#include <algorithm>
 #include <array>
 #include <sys/random.h>
 #include <utility>
@@ -40,32 +40,38 @@ std::optional<std::string> unguessableName()
     return name;
 }
 
-void logOutcome(const PrivilegedRequest &request, const Outcome &outcome)
+std::string refusedRequestsOf(std::optional<std::uint32_t> user)
 {
-    std::string line = request.caller + ' ' + request.action;
-    for (const auto &[key, value] : request.details) {
-        line += ' ' + key + '=' + harmless(value);
-    }
-    line += outcome ? std::string{": "} + outcome->error.name : std::string{": done"};
-    logLine(line);
+    return "refused requests of " +
+           (user ? "user " + std::to_string(*user) : std::string{"unidentified callers"});
 }
 
 } // namespace
 
-PrivilegedRequests::PrivilegedRequests(Callers &callers, Authority &authority, Limits limits)
+PrivilegedRequests::PrivilegedRequests(
+    Callers &callers, Authority &authority, RequestLog &log, Limits limits)
     : m_callers{callers}
     , m_authority{authority}
+    , m_log{log}
     , m_limits{limits}
 {
 }
 
+bool PrivilegedRequests::hasRoomFor(const std::string &caller) const
+{
+    const auto ofCaller = m_byCaller.find(caller);
+    const bool callerIsFull =
+        ofCaller != m_byCaller.end() && ofCaller->second.size() >= m_limits.perCaller;
+    return !callerIsFull && m_waiting.size() - m_identified < m_limits.unidentified;
+}
+
 void PrivilegedRequests::submit(PrivilegedRequest request)
 {
-    const auto refuse = [&request](const Refusal &refusal) {
-        logOutcome(request, refusal);
+    const auto refuse = [&](const Refusal &refusal) {
+        logOutcome(request, std::nullopt, refusal);
         request.reply(refusal);
     };
-    if (m_waiting.size() >= m_limits.total || countOf(request.caller) >= m_limits.perCaller) {
+    if (!hasRoomFor(request.caller)) {
         refuse(tooMany());
         return;
     }
@@ -76,7 +82,8 @@ void PrivilegedRequests::submit(PrivilegedRequest request)
     }
     const auto number = ++m_last;
     const auto caller = request.caller;
-    m_waiting.emplace(number, Waiting{std::move(request), std::move(*check), std::nullopt, false});
+    m_byCaller[caller].insert(number);
+    m_waiting.emplace(number, Waiting{std::move(request), std::move(*check), {}, false, false});
     m_callers.userOf(caller, [this, number](auto user) { userKnown(number, user); });
 }
 
@@ -90,12 +97,19 @@ void PrivilegedRequests::userKnown(Number number, std::optional<std::uint32_t> u
         finish(number, notAuthorized("The caller has left the bus."));
         return;
     }
-    if (countOf(*user) >= m_limits.perUser) {
+    auto &waiting = place->second;
+    waiting.user = user;
+    const bool isRoom = m_countOfUser[*user] < m_limits.perUser && m_identified < m_limits.total;
+    ++m_countOfUser[*user];
+    ++m_identified;
+    if (!isRoom) {
         finish(number, tooMany());
         return;
     }
-    auto &waiting = place->second;
-    waiting.user = user;
+    if (const auto refusal = waiting.request.precondition()) {
+        finish(number, refusal);
+        return;
+    }
     waiting.asked = true;
     // Copies: an answer that comes at once ends the request while its question is still being
     // asked.
@@ -110,10 +124,14 @@ void PrivilegedRequests::userKnown(Number number, std::optional<std::uint32_t> u
 void PrivilegedRequests::decided(Number number, bool authorized)
 {
     const auto place = m_waiting.find(number);
-    if (place == m_waiting.end()) {
+    if (place == m_waiting.end() || !place->second.asked) {
         return;
     }
     place->second.asked = false;
+    if (place->second.answered) {
+        forget(number);
+        return;
+    }
     if (!authorized) {
         finish(number, notAuthorized("The caller is not authorized to do this."));
         return;
@@ -138,50 +156,91 @@ void PrivilegedRequests::presenceKnown(Number number, bool present)
     finish(number, operation());
 }
 
+void PrivilegedRequests::answer(Waiting &waiting, const Outcome &outcome)
+{
+    waiting.answered = true;
+    logOutcome(waiting.request, waiting.user, outcome);
+    waiting.request.reply(outcome);
+    waiting.request.operation = nullptr;
+    waiting.request.reply = nullptr;
+}
+
 void PrivilegedRequests::finish(Number number, const Outcome &outcome)
 {
-    auto node = m_waiting.extract(number);
-    logOutcome(node.mapped().request, outcome);
-    node.mapped().request.reply(outcome);
+    answer(m_waiting.at(number), outcome);
+    forget(number);
+}
+
+void PrivilegedRequests::forget(Number number)
+{
+    const auto node = m_waiting.extract(number);
+    const auto &waiting = node.mapped();
+    if (const auto ofCaller = m_byCaller.find(waiting.request.caller);
+        ofCaller->second.erase(number) != 0 && ofCaller->second.empty()) {
+        m_byCaller.erase(ofCaller);
+    }
+    if (!waiting.user) {
+        return;
+    }
+    --m_identified;
+    if (const auto ofUser = m_countOfUser.find(*waiting.user); --ofUser->second == 0) {
+        m_countOfUser.erase(ofUser);
+    }
+}
+
+void PrivilegedRequests::cancel(Number number, const char *why)
+{
+    auto &waiting = m_waiting.at(number);
+    if (waiting.answered) {
+        return;
+    }
+    if (!waiting.asked) {
+        finish(number, notAuthorized(why));
+        return;
+    }
+    answer(waiting, notAuthorized(why));
+    // Last: it may answer at once.
+    m_authority.cancel(std::string{waiting.check});
 }
 
 void PrivilegedRequests::callerVanished(const std::string &caller)
 {
-    std::vector<Number> numbers;
-    for (const auto &[number, waiting] : m_waiting) {
-        if (waiting.request.caller == caller) {
-            numbers.push_back(number);
-        }
+    const auto ofCaller = m_byCaller.find(caller);
+    if (ofCaller == m_byCaller.end()) {
+        return;
     }
-    for (const auto number : numbers) {
-        if (const auto &waiting = m_waiting.at(number); waiting.asked) {
-            m_authority.cancel(waiting.check);
-        }
-        finish(number, notAuthorized("The caller has left the bus."));
+    for (const auto numbers = ofCaller->second; const auto number : numbers) {
+        cancel(number, "The caller has left the bus.");
     }
 }
 
 void PrivilegedRequests::refuseAll()
 {
-    while (!m_waiting.empty()) {
-        const auto &[number, waiting] = *m_waiting.begin();
-        if (waiting.asked) {
-            m_authority.cancel(waiting.check);
-        }
-        finish(number, notAuthorized("The helper ends."));
+    std::vector<Number> numbers;
+    for (const auto &[number, waiting] : m_waiting) {
+        numbers.push_back(number);
     }
+    for (const auto number : numbers) {
+        cancel(number, "The helper ends.");
+    }
+    m_waiting.clear();
+    m_byCaller.clear();
+    m_countOfUser.clear();
+    m_identified = 0;
 }
 
-std::size_t PrivilegedRequests::countOf(const std::string &caller) const
+void PrivilegedRequests::logOutcome(
+    const PrivilegedRequest &request, std::optional<std::uint32_t> user, const Outcome &outcome)
 {
-    return static_cast<std::size_t>(std::count_if(m_waiting.begin(), m_waiting.end(),
-        [&](const auto &entry) { return entry.second.request.caller == caller; }));
-}
-
-std::size_t PrivilegedRequests::countOf(std::uint32_t user) const
-{
-    return static_cast<std::size_t>(std::count_if(m_waiting.begin(), m_waiting.end(),
-        [&](const auto &entry) { return entry.second.user == user; }));
+    std::string line = request.caller + ' ' + request.action;
+    for (const auto &[key, value] : request.details) {
+        line += ' ' + key + '=' + harmless(value);
+    }
+    if (!outcome) {
+        m_log.done(line + ": done");
+        return;
+    }
+    m_log.limited(refusedRequestsOf(user), line + ": " + outcome->error.name);
 }
 
 } // namespace quillon

@@ -11,9 +11,12 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace quillon {
+
+class RequestLog;
 
 /// Something that needs authorization. Its arguments have been validated.
 struct PrivilegedRequest
@@ -23,6 +26,8 @@ struct PrivilegedRequest
     /// The polkit action that it needs.
     std::string action;
     Authority::Details details;
+    /// Looked at once, before the authority is asked about it; a refusal ends the request.
+    std::function<Outcome()> precondition;
     /// Carries it out; called at most once, and only when the caller may and is still there.
     std::function<Outcome()> operation;
     /// Called exactly once.
@@ -41,15 +46,23 @@ public:
     {
         std::size_t perCaller = 4;
         std::size_t perUser = 8;
+        /// Of known users in all. Each awaits one answer of the authority, of which the bus allows
+        /// 128.
         std::size_t total = 32;
+        /// Whose user the bus has not named yet. Far more than one user's connections can send, so
+        /// that nobody can shut others out before it is known who he is.
+        std::size_t unidentified = 4096;
     };
 
-    PrivilegedRequests(Callers &callers, Authority &authority, Limits limits);
+    PrivilegedRequests(Callers &callers, Authority &authority, RequestLog &log, Limits limits);
     PrivilegedRequests(const PrivilegedRequests &) = delete;
     PrivilegedRequests &operator=(const PrivilegedRequests &) = delete;
 
+    /// False when submit() would refuse, whatever is asked for.
+    bool hasRoomFor(const std::string &caller) const;
     void submit(PrivilegedRequest request);
-    /// The connection `caller` has gone: its requests are refused and its prompts taken away.
+    /// The connection `caller` has gone: its requests are refused and its prompts taken away. A
+    /// request keeps its place until the authority has answered, for it counts at the bus so long.
     void callerVanished(const std::string &caller);
     /// The helper ends.
     void refuseAll();
@@ -65,21 +78,31 @@ private:
         PrivilegedRequest request;
         std::string check;
         std::optional<std::uint32_t> user;
+        /// The authority owes an answer.
         bool asked = false;
+        bool answered = false;
     };
 
     void userKnown(Number number, std::optional<std::uint32_t> user);
     void decided(Number number, bool authorized);
     void presenceKnown(Number number, bool present);
+    void answer(Waiting &waiting, const Outcome &outcome);
     void finish(Number number, const Outcome &outcome);
-    std::size_t countOf(const std::string &caller) const;
-    std::size_t countOf(std::uint32_t user) const;
+    void forget(Number number);
+    void cancel(Number number, const char *why);
+    void logOutcome(const PrivilegedRequest &request, std::optional<std::uint32_t> user,
+        const Outcome &outcome);
 
     Callers &m_callers;
     Authority &m_authority;
+    RequestLog &m_log;
     Limits m_limits;
     Number m_last = 0;
     std::map<Number, Waiting> m_waiting;
+    // Found again without a look at all of them: somebody may send thousands.
+    std::map<std::string, std::set<Number>> m_byCaller;
+    std::map<std::uint32_t, std::size_t> m_countOfUser;
+    std::size_t m_identified = 0;
 };
 
 } // namespace quillon

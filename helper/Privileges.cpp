@@ -104,12 +104,6 @@ std::optional<std::string> dropCapabilities()
 
 std::optional<std::string> closeInheritedDescriptors()
 {
-    for (int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // A missing standard descriptor would be taken by the next socket, and logs would go there.
-        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor) {
-            return failure("cannot open /dev/null");
-        }
-    }
     if (close_range(STDERR_FILENO + 1, ~0U, 0) != 0) {
         return failure("cannot close inherited descriptors");
     }
@@ -117,6 +111,16 @@ std::optional<std::string> closeInheritedDescriptors()
 }
 
 } // namespace
+
+std::optional<std::string> openStandardDescriptors()
+{
+    for (int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0 && open("/dev/null", O_RDWR) != descriptor) {
+            return failure("cannot open /dev/null");
+        }
+    }
+    return std::nullopt;
+}
 
 bool mayAdministerNetworks()
 {

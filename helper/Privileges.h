@@ -7,6 +7,10 @@
 
 namespace quillon {
 
+/// Puts /dev/null in place of standard input, output and error where they are closed: what is
+/// opened next would take their place, and the log would be written into it. Returns what failed.
+std::optional<std::string> openStandardDescriptors();
+
 /// Whether this process may change interfaces: started by root, or by the unit as the helper's
 /// user.
 bool mayAdministerNetworks();

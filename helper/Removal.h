@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "contract/SdBus.h"
 #include "helper/Outcome.h"
 
 #include <chrono>
 #include <functional>
-#include <memory>
+#include <systemd/sd-bus.h>
 
 namespace quillon {
 
@@ -21,18 +20,24 @@ class RemovalService
 public:
     using Uninstallation = std::function<Outcome()>;
 
-    /// Owns the removal's name when it returns. Throws sdbus::Error.
-    RemovalService(sdbus::IConnection &connection, Uninstallation uninstallation);
+    /// `bus` outlives this.
+    RemovalService(sd_bus &bus, Uninstallation uninstallation);
+    ~RemovalService();
+    RemovalService(const RemovalService &) = delete;
+    RemovalService &operator=(const RemovalService &) = delete;
 
-    /// Carries out the one request. False when none came within `limit`.
+    /// Takes the removal's name and carries out the one request. False when the bus does not give
+    /// the name, goes away, or when no request came within `limit`.
     bool serve(std::chrono::milliseconds limit);
 
 private:
-    void remove(const sdbus::MethodCall &call);
+    static int called(sd_bus_message *call, void *self, sd_bus_error *error);
+    bool publish();
+    int remove(sd_bus_message &call);
 
-    sdbus::IConnection &m_connection;
+    sd_bus &m_bus;
     Uninstallation m_uninstallation;
-    std::unique_ptr<sdbus::IObject> m_object;
+    sd_bus_slot *m_slot = nullptr;
     bool m_isDone = false;
 };
 

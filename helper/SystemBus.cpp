@@ -2,79 +2,91 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/SystemBus.h"
 
+#include "helper/BusCall.h"
 #include "helper/Log.h"
 
 #include <chrono>
-#include <cstdlib>
-#include <memory>
+#include <cstring>
 #include <poll.h>
+#include <string>
 
 namespace quillon {
 
 namespace {
 
 constexpr char systemBusAddress[] = "unix:path=/run/dbus/system_bus_socket";
+constexpr char busName[] = "org.freedesktop.DBus";
+constexpr char busPath[] = "/org/freedesktop/DBus";
 // The service manager reads every unit again.
-constexpr std::chrono::seconds answerTime{30};
+constexpr std::chrono::microseconds answerTime = std::chrono::seconds{30};
 
-void tell(sdbus::IConnection &connection, const char *name, const char *path, const char *interface,
-    const char *method)
+/// The answer to a call without arguments or with one text; none after an error, which is logged.
+BusMessage ask(sd_bus &bus, const char *name, const char *path, const char *interface,
+    const char *method, const char *text = nullptr)
 {
-    try {
-        const auto proxy = sdbus::createProxy(connection, bus::Name{name}, bus::Path{path});
-        const auto call = proxy->createMethodCall(bus::Interface{interface}, bus::Member{method});
-        proxy->callMethod(call, answerTime);
-    } catch (const sdbus::Error &error) {
-        logLine(std::string{method} + " of " + name + ": " + harmless(error.getName()));
+    const auto call = busCall(bus, name, path, interface, method);
+    int result = call ? 0 : -ENOMEM;
+    if (result == 0 && text != nullptr) {
+        result = sd_bus_message_append(call.get(), "s", text);
     }
+    sd_bus_error error{};
+    sd_bus_message *answer = nullptr;
+    if (result >= 0) {
+        const auto limit = static_cast<std::uint64_t>(answerTime.count());
+        result = sd_bus_call(&bus, call.get(), limit, &error, &answer);
+    }
+    if (result < 0) {
+        const char *why = error.name != nullptr ? error.name : std::strerror(-result);
+        logLine(std::string{method} + " of " + name + ": " + harmless(why));
+    }
+    sd_bus_error_free(&error);
+    return BusMessage{answer};
 }
 
-bool isThere(sdbus::IConnection &connection, const std::string &name)
+bool isThere(sd_bus &bus, const char *name)
 {
-    try {
-        const auto proxy = sdbus::createProxy(
-            connection, bus::Name{"org.freedesktop.DBus"}, bus::Path{"/org/freedesktop/DBus"});
-        auto call = proxy->createMethodCall(
-            bus::Interface{"org.freedesktop.DBus"}, bus::Member{"NameHasOwner"});
-        call << name;
-        auto reply = proxy->callMethod(call, answerTime);
-        bool owned = false;
-        reply >> owned;
-        return owned;
-    } catch (const sdbus::Error &) {
-        return false;
-    }
+    int isOwned = 0;
+    const auto answer = ask(bus, busName, busPath, busName, "NameHasOwner", name);
+    return answer && sd_bus_message_read(answer.get(), "b", &isOwned) > 0 && isOwned != 0;
 }
 
 } // namespace
 
-std::unique_ptr<sdbus::IConnection> connectToSystemBus()
+SystemBus connectToSystemBus()
 {
-    setenv("DBUS_SYSTEM_BUS_ADDRESS", systemBusAddress, 1);
-    return sdbus::createSystemBusConnection();
+    sd_bus *created = nullptr;
+    if (sd_bus_new(&created) < 0) {
+        return nullptr;
+    }
+    SystemBus bus{created};
+    // Without descriptors in messages nobody can use ours up.
+    if (sd_bus_set_address(created, systemBusAddress) < 0 ||
+        sd_bus_set_bus_client(created, 1) < 0 || sd_bus_negotiate_fds(created, 0) < 0 ||
+        sd_bus_start(created) < 0) {
+        bus.reset();
+    }
+    return bus;
 }
 
-void reloadBus(sdbus::IConnection &connection)
+void reloadBus(sd_bus &bus)
 {
-    tell(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-        "ReloadConfig");
+    ask(bus, busName, busPath, busName, "ReloadConfig");
 }
 
-void reloadServiceManager(sdbus::IConnection &connection)
+void reloadServiceManager(sd_bus &bus)
 {
     // A call would start it where the bus can, and it would be running for nothing.
-    if (isThere(connection, "org.freedesktop.systemd1")) {
-        tell(connection, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
+    if (isThere(bus, "org.freedesktop.systemd1")) {
+        ask(bus, "org.freedesktop.systemd1", "/org/freedesktop/systemd1",
             "org.freedesktop.systemd1.Manager", "Reload");
     }
 }
 
-void waitUntilGone(
-    sdbus::IConnection &connection, const char *name, std::chrono::milliseconds limit)
+void waitUntilGone(sd_bus &bus, const char *name, std::chrono::milliseconds limit)
 {
     constexpr std::chrono::milliseconds pause{20};
     const auto end = std::chrono::steady_clock::now() + limit;
-    while (isThere(connection, name) && std::chrono::steady_clock::now() < end) {
+    while (isThere(bus, name) && std::chrono::steady_clock::now() < end) {
         poll(nullptr, 0, static_cast<int>(pause.count()));
     }
 }

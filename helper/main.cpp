@@ -21,8 +21,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <exception>
 #include <fcntl.h>
+#include <malloc.h>
 #include <string>
 #include <string_view>
 #include <sys/signalfd.h>
@@ -36,6 +36,7 @@ using namespace quillon;
 constexpr std::chrono::seconds idlePeriod{30};
 /// The helper asks for its removal as soon as the bus has started the process that removes it.
 constexpr std::chrono::seconds removalPeriod{30};
+constexpr int largeAllocation = 64 * 1024;
 
 constexpr int exitDone = 0;
 constexpr int exitFailed = 1;
@@ -77,11 +78,10 @@ Outcome uninstallFiles()
 
 void announce()
 {
-    try {
-        const auto connection = connectToSystemBus();
-        reloadBus(*connection);
-        reloadServiceManager(*connection);
-    } catch (const sdbus::Error &) {
+    if (const auto bus = connectToSystemBus()) {
+        reloadBus(*bus);
+        reloadServiceManager(*bus);
+    } else {
         logLine("No system bus is running; it will find the files when it starts.");
     }
 }
@@ -124,40 +124,47 @@ int serve()
     const auto uninstallation = [isPackages] {
         return isPackages ? Outcome{ownedByPackage()} : requestRemoval();
     };
+    // A large message's memory goes back to the system with the message.
+    mallopt(M_MMAP_THRESHOLD, largeAllocation);
     const int stop = stopSignals();
-    try {
-        const auto connection = connectToSystemBus();
-        NetlinkKernelLink kernel;
-        HelperDaemon{*connection, kernel, uninstallation, idlePeriod}.run(stop);
-    } catch (const std::exception &error) {
-        logLine(std::string{"ended: "} + harmless(error.what()));
+    const auto bus = connectToSystemBus();
+    if (!bus) {
+        logLine("ended: there is no system bus");
+        return exitFailed;
+    }
+    NetlinkKernelLink kernel;
+    if (!HelperDaemon{*bus, kernel, uninstallation, idlePeriod}.run(stop)) {
+        logLine("ended: the bus has gone away, or does not give the name");
         return exitFailed;
     }
     return exitDone;
 }
 
+Outcome uninstallAndReloadBus()
+{
+    auto outcome = uninstallFiles();
+    if (const auto bus = outcome ? nullptr : connectToSystemBus()) {
+        reloadBus(*bus);
+    }
+    return outcome;
+}
+
 int removeOnRequest()
 {
-    try {
-        const auto connection = connectToSystemBus();
-        RemovalService removal{*connection, [] {
-                                   auto outcome = uninstallFiles();
-                                   if (!outcome) {
-                                       reloadBus(*connectToSystemBus());
-                                   }
-                                   return outcome;
-                               }};
-        if (!removal.serve(removalPeriod)) {
-            return exitFailed;
-        }
-        // A unit that runs while the service manager forgets it would leave its root folder behind.
-        waitUntilGone(*connection, contract::helperName, removalPeriod);
-        reloadServiceManager(*connection);
-        return exitDone;
-    } catch (const std::exception &error) {
-        logLine(std::string{"ended: "} + harmless(error.what()));
+    const auto bus = connectToSystemBus();
+    if (!bus) {
+        logLine("ended: there is no system bus");
         return exitFailed;
     }
+    RemovalService removal{*bus, uninstallAndReloadBus};
+    if (!removal.serve(removalPeriod)) {
+        logLine("ended: nobody asked for the removal");
+        return exitFailed;
+    }
+    // A unit that runs while the service manager forgets it would leave its root folder behind.
+    waitUntilGone(*bus, contract::helperName, removalPeriod);
+    reloadServiceManager(*bus);
+    return exitDone;
 }
 
 int finishInstallation(const Outcome &outcome, const char *success)
@@ -205,6 +212,12 @@ int install()
 
 int main(int argc, char **argv)
 {
+    // A log that nobody reads is no reason to fail, and no file of ours may be taken for it.
+    std::signal(SIGPIPE, SIG_IGN);
+    if (const auto problem = openStandardDescriptors()) {
+        logLine(*problem);
+        return exitFailed;
+    }
     static constexpr std::array<std::string_view, 3> modes{installMode, uninstallMode, removalMode};
     const std::string_view mode = argc == 2 ? argv[1] : "";
     if (argc > 2 || (argc == 2 && std::find(modes.begin(), modes.end(), mode) == modes.end())) {

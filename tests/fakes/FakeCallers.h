@@ -4,19 +4,34 @@
 
 #include "helper/Callers.h"
 
+#include <deque>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace quillon::test {
 
-/// A bus with connections of users. Answers at once.
+/// A bus with connections of users. Answers at once, or when the test wants it.
 class FakeCallers : public Callers
 {
 public:
     void userOf(const std::string &caller, UserAnswer answer) override
     {
-        const auto place = connections.find(caller);
-        answer(place == connections.end() ? std::nullopt : std::optional{place->second});
+        open.emplace_back([this, caller, answer = std::move(answer)] {
+            const auto place = connections.find(caller);
+            answer(place == connections.end() ? std::nullopt : std::optional{place->second});
+        });
+        if (!answersLater) {
+            answerOne();
+        }
+    }
+    /// The oldest question about a user.
+    void answerOne()
+    {
+        const auto answer = std::move(open.front());
+        open.pop_front();
+        answer();
     }
     void isPresent(const std::string &caller, PresenceAnswer answer) override
     {
@@ -24,6 +39,8 @@ public:
     }
 
     std::map<std::string, std::uint32_t> connections;
+    bool answersLater = false;
+    std::deque<std::function<void()>> open;
 };
 
 } // namespace quillon::test

@@ -60,6 +60,21 @@ TEST_F(InstallTest, leavesNothingBehindWhenItIsRemovedOverTheBus)
     EXPECT_EQ(administrator.version(), "org.freedesktop.DBus.Error.ServiceUnknown");
 }
 
+TEST_F(InstallTest, doesItsWorkWhateverBecomesOfItsOutput)
+{
+    outputOf(builtTool() + " install");
+    const auto installed = installedThings();
+    const auto content = outputOf(std::string{"cat "} + test::installedTool + " | sha256sum");
+    for (const std::string &output :
+        {std::string{"<&- >&- 2>&-"}, std::string{"2>&-"}, std::string{"2>&1 | true"}}) {
+        outputOf(builtTool() + " uninstall");
+        const auto result = run("bash -o pipefail -c '" + builtTool() + " install " + output + "'");
+        EXPECT_EQ(result.exitCode, 0) << output;
+        EXPECT_EQ(installedThings(), installed) << output;
+        EXPECT_EQ(outputOf(std::string{"cat "} + test::installedTool + " | sha256sum"), content);
+    }
+}
+
 TEST_F(InstallTest, isUsableAtOnce)
 {
     outputOf(builtTool() + " install");

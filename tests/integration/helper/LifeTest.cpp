@@ -3,6 +3,7 @@
 #include "contract/Names.h"
 #include "helper/HelperDaemon.h"
 #include "helper/NetlinkKernelLink.h"
+#include "helper/SystemBus.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
 #include "integration/helper/Sandbox.h"
@@ -54,9 +55,9 @@ protected:
     BusClient root{"root"};
     BusClient quillon{"quillon"};
     int stop = eventfd(0, EFD_CLOEXEC);
-    std::unique_ptr<sdbus::IConnection> connection = sdbus::createSystemBusConnection();
+    SystemBus bus = connectToSystemBus();
     NetlinkKernelLink kernel;
-    HelperDaemon daemon{*connection, kernel,
+    HelperDaemon daemon{*bus, kernel,
         [] { return Outcome{Refusal{contract::error::ownedByPackage, "package"}}; }, idlePeriod};
     std::atomic<bool> ended = false;
     bool started = false;
@@ -204,6 +205,34 @@ TEST_F(LifeTest, takesNoBusFromItsEnvironment)
              std::string{test::installedTool} + " >/tmp/helper.log 2>&1 &");
     ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }));
     EXPECT_EQ(quillon.version(), "2.0");
+}
+
+TEST_F(LifeTest, servesWhateverBecomesOfItsLog)
+{
+    const auto tool = std::string{test::installedTool};
+    // Closed, without a reader, and with one who does not read what has filled the pipe.
+    for (const std::string &command : {tool + " <&- >&- 2>&- &", tool + " 2>&1 >/dev/null | true &",
+             "mkfifo /tmp/full; (exec 3<>/tmp/full; head -c 65536 /dev/zero >&3;" + tool +
+                 " >/dev/null 2>&3 &)"}) {
+        outputOf("exec >/dev/null 2>&1; " + command);
+        ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }))
+            << command;
+        const auto process = quillon.processOf(contract::helperName);
+        if (command.find(">&- ") != std::string::npos) {
+            // Nothing else may come to stand where the log is written.
+            const auto places = "/proc/" + std::to_string(process) + "/fd/";
+            for (const char *descriptor : {"0", "1", "2"}) {
+                EXPECT_EQ(outputOf("readlink " + places + descriptor), "/dev/null\n");
+            }
+        }
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(quillon.change("enp9s0", newAddress), contract::error::noSuchDevice.name);
+            EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+        }
+        EXPECT_EQ(quillon.processOf(contract::helperName), process);
+        kill(process, SIGTERM);
+        ASSERT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
+    }
 }
 
 TEST_F(LifeTest, startsNoOtherProcess)

@@ -243,9 +243,33 @@ TEST_F(RefusalTest, takesTheRealPromptAwayWhenItsCallerVanishes)
     const auto log = [] { return test::run("cat /tmp/agent.log").output; };
     ASSERT_TRUE(waitUntil([&] { return log().find(contract::actionChange) != std::string::npos; }))
         << log();
-    EXPECT_THAT(log(), HasSubstr("change the MAC address"));
+    EXPECT_THAT(log(), HasSubstr("change the MAC address of enp1s0 to 02:11:22:33:44:55"));
     caller.reset();
     EXPECT_TRUE(waitUntil([&] { return log().find("cancelled") != std::string::npos; })) << log();
+}
+
+TEST_F(RefusalTest, leavesAnInterfaceAloneThatTookTheNameDuringThePrompt)
+{
+    FakePolkit polkit{always(FakePolkit::Answer::LeaveOpen)};
+    const auto other = kernelAddress("enp2s0");
+    quillon.changeLater("enp1s0", newAddress);
+    ASSERT_TRUE(waitUntil([&] { return polkit.questions().size() == 1; }));
+    outputOf("ip link set enp1s0 down; ip link set enp2s0 down; ip link set enp1s0 name asked0;"
+             "ip link set enp2s0 name enp1s0");
+    polkit.openQuestionsAreGranted();
+    EXPECT_TRUE(
+        waitUntil([&] { return quillon.answers()[contract::error::noSuchDevice.name] == 1; }));
+    EXPECT_EQ(kernelAddress("enp1s0"), other);
+    EXPECT_EQ(kernelAddress("asked0"), original);
+    outputOf("ip link set enp1s0 name enp2s0; ip link set asked0 name enp1s0");
+}
+
+TEST_F(RefusalTest, asksNobodyAboutAnInterfaceThatIsNotThere)
+{
+    FakePolkit polkit{always(FakePolkit::Answer::Yes)};
+    EXPECT_EQ(quillon.change("enp9s0", newAddress), contract::error::noSuchDevice.name);
+    EXPECT_EQ(quillon.change("lo", newAddress), contract::error::unsupportedDevice.name);
+    EXPECT_THAT(polkit.questions(), IsEmpty());
 }
 
 TEST_F(RefusalTest, givesEveryRequestANameThatNobodyCanGuessOrCancel)

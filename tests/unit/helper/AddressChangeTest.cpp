@@ -21,7 +21,10 @@ class AddressChangeTest : public testing::Test
 protected:
     Outcome change(const std::string &device, bool wifi = false)
     {
-        return AddressChange{kernel}.change(device, wanted, wifi);
+        AddressChange addressChange{kernel};
+        LinkState asked;
+        auto refusal = addressChange.find(device, asked);
+        return refusal ? refusal : addressChange.change(asked, wanted, wifi);
     }
     static std::string errorOf(const Outcome &outcome)
     {
@@ -172,6 +175,21 @@ TEST_F(AddressChangeTest, needsAnInterfaceOfExactlyThisName)
     kernel.alternativeNames["lan"] = "enp1s0";
     EXPECT_EQ(errorOf(change("enp9s0")), contract::error::noSuchDevice.name);
     EXPECT_EQ(errorOf(change("lan")), contract::error::noSuchDevice.name);
+    EXPECT_THAT(kernel.steps, IsEmpty());
+}
+
+TEST_F(AddressChangeTest, leavesAnInterfaceAloneThatTookTheNameMeanwhile)
+{
+    AddressChange addressChange{kernel};
+    kernel.add("enp1s0");
+    LinkState asked;
+    ASSERT_EQ(errorOf(addressChange.find("enp1s0", asked)), "done");
+    kernel.named("enp1s0").state.name = "lan";
+    EXPECT_EQ(
+        errorOf(addressChange.change(asked, wanted, false)), contract::error::noSuchDevice.name);
+    kernel.add("enp1s0");
+    EXPECT_EQ(
+        errorOf(addressChange.change(asked, wanted, true)), contract::error::noSuchDevice.name);
     EXPECT_THAT(kernel.steps, IsEmpty());
 }
 

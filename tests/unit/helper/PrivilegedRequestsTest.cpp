@@ -4,6 +4,7 @@
 
 #include "fakes/FakeAuthority.h"
 #include "fakes/FakeCallers.h"
+#include "helper/RequestLog.h"
 
 #include <gmock/gmock.h>
 
@@ -29,6 +30,7 @@ protected:
     void ask(const std::string &caller)
     {
         requests.submit({caller, contract::actionChange, {{"device", "enp1s0"}},
+            [this] { return precondition; },
             [this, caller] {
                 carriedOut.push_back(caller);
                 return operationOutcome;
@@ -52,7 +54,11 @@ protected:
 
     test::FakeCallers callers;
     test::FakeAuthority authority;
-    PrivilegedRequests requests{callers, authority, {}};
+    std::vector<std::string> lines;
+    RequestLog log{[] { return RequestLog::Time{}; },
+        [this](std::string_view line) { lines.emplace_back(line); }};
+    PrivilegedRequests requests{callers, authority, log, {}};
+    Outcome precondition;
     Outcome operationOutcome;
     std::vector<std::string> carriedOut;
     std::vector<int> answers;
@@ -96,6 +102,15 @@ TEST_F(PrivilegedRequestsTest, handsTheOperationsErrorOn)
     ask(":1.1");
     authority.prompts.at(0).answer(true);
     EXPECT_THAT(answers, ElementsAre(contract::error::noSuchDevice.code));
+}
+
+TEST_F(PrivilegedRequestsTest, whosePreconditionFailsAsksNobody)
+{
+    precondition = Refusal{contract::error::noSuchDevice, "none"};
+    ask(":1.1");
+    EXPECT_THAT(authority.prompts, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(contract::error::noSuchDevice.code));
+    EXPECT_EQ(requests.waiting(), 0U);
 }
 
 TEST_F(PrivilegedRequestsTest, ofACallerWhoLeftDuringThePromptTakesThePromptAway)
@@ -190,6 +205,83 @@ TEST_F(PrivilegedRequestsTest, isOneOfThirtyTwoInAll)
     }
     EXPECT_EQ(requests.waiting(), 32U);
     EXPECT_EQ(answers, std::vector<int>(18, tooMany));
+}
+
+TEST_F(PrivilegedRequestsTest, takesNoPlaceOfOthersBeforeItsUserIsKnown)
+{
+    callers.answersLater = true;
+    for (int i = 100; i < 200; ++i) {
+        connect(":1." + std::to_string(i), malloryUser);
+        for (int j = 0; j < 4; ++j) {
+            ask(":1." + std::to_string(i));
+        }
+    }
+    EXPECT_THAT(answers, IsEmpty());
+    ask(":1.1");
+    EXPECT_THAT(answers, IsEmpty());
+    while (!callers.open.empty()) {
+        callers.answerOne();
+    }
+    EXPECT_EQ(answers, std::vector<int>(392, tooMany));
+    EXPECT_EQ(authority.prompts.size(), 9U);
+    EXPECT_EQ(authority.prompts.back().caller, ":1.1");
+}
+
+TEST_F(PrivilegedRequestsTest, isBoundedAlsoBeforeItsUserIsKnown)
+{
+    callers.answersLater = true;
+    for (int i = 0; i < 2000; ++i) {
+        for (int j = 0; j < 4; ++j) {
+            ask(":1." + std::to_string(100 + i));
+        }
+    }
+    EXPECT_EQ(requests.waiting(), 4096U);
+    EXPECT_EQ(answers, std::vector<int>(8000 - 4096, tooMany));
+}
+
+TEST_F(PrivilegedRequestsTest, keepsItsPlaceUntilTheAuthorityHasAnswered)
+{
+    // Whoever comes and goes makes no more open questions than whoever stays.
+    for (int i = 0; i < 50; ++i) {
+        const auto caller = ":1." + std::to_string(100 + i);
+        connect(caller, malloryUser);
+        ask(caller);
+        leave(caller);
+    }
+    EXPECT_EQ(authority.prompts.size(), 8U);
+    EXPECT_EQ(authority.cancelled.size(), 8U);
+    EXPECT_EQ(answers.size(), 50U);
+    EXPECT_EQ(requests.waiting(), 8U);
+    for (auto &prompt : std::vector(authority.prompts)) {
+        prompt.answer(false);
+    }
+    EXPECT_EQ(requests.waiting(), 0U);
+    EXPECT_EQ(answers.size(), 50U);
+    ask(":1.2");
+    EXPECT_EQ(authority.prompts.size(), 9U);
+}
+
+TEST_F(PrivilegedRequestsTest, whoseCallerLeftIsNotCancelledTwice)
+{
+    ask(":1.1");
+    leave(":1.1");
+    leave(":1.1");
+    requests.refuseAll();
+    EXPECT_EQ(authority.cancelled.size(), 1U);
+    EXPECT_THAT(answers, ElementsAre(notAuthorized));
+}
+
+TEST_F(PrivilegedRequestsTest, isLoggedWithItsOutcome)
+{
+    ask(":1.1");
+    authority.prompts.at(0).answer(true);
+    for (int i = 0; i < 20; ++i) {
+        ask(":1.2");
+    }
+    EXPECT_THAT(
+        lines, ElementsAre(":1.1 com.orvandel.quillon4.change-address device=\"enp1s0\": done",
+                   ":1.2 com.orvandel.quillon4.change-address device=\"enp1s0\": "
+                   "com.orvandel.Quillon4.Error.TooManyRequests"));
 }
 
 TEST_F(PrivilegedRequestsTest, makesRoomWhenItIsDecided)
