@@ -190,6 +190,9 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
     if (live.isLockedByAnother()) {
         return std::nullopt;
     }
+    if (!live.isWritable()) {
+        return Rewriting::Failed;
+    }
     const bool changesPlaces = source == keptAs;
     const bool keeps = !keptAs.isEmpty() && live.holdsIdentifiers();
     if (keeps && !(live.copyTo(keptAs) && (changesPlaces || VendorFileWriting::keepCopy(keptAs)))) {

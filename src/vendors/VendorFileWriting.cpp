@@ -123,7 +123,7 @@ bool VendorFileWriting::copyTo(const QString &place)
 {
     makeFolder(QFileInfo(place).path());
     QFile copy(copyBeside(place));
-    const bool isCopied = m_file.isOpen() && m_file.seek(0) &&
+    const bool isCopied = m_file.seek(0) &&
                           copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                           copyWhole(m_file, copy);
     if (!isCopied) {
@@ -152,7 +152,7 @@ bool VendorFileWriting::rewriteFrom(QFile &source)
     // Or one of them could come back with a power cut, beside the new content.
     syncFolder(QFileInfo(path).path());
     const bool isEmptied =
-        m_file.isOpen() && (m_file.pos() == 0 || m_file.seek(0)) &&
+        (m_file.pos() == 0 || m_file.seek(0)) &&
         // What is no file, and cannot be cut, says at the first write what is wrong.
         (m_file.resize(0) || m_file.isSequential());
     if (!isEmptied || !copyWhole(source, m_file)) {

@@ -26,6 +26,7 @@ public:
     VendorFileWriting &operator=(const VendorFileWriting &) = delete;
 
     bool isLockedByAnother() const { return m_isLockedByAnother; }
+    bool isWritable() const { return m_file.isOpen(); }
     /// Whether there is anything in it to look up.
     bool holdsIdentifiers() const;
     /// Makes a copy beside `place`, on the disk, with the file's time of change. The folder is made
