@@ -19,9 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// What the driver does not tell is not shown.
 QString decibels(int value)
 {
-    return QString::number(value) + u" dBm"_s;
+    return value == 0 ? QString() : QString::number(value) + u" dBm"_s;
 }
 
 /// The shortest decimal text that is this number, never with an exponent.
@@ -66,7 +67,10 @@ WiFiNetwork::WiFiNetwork(SettingsStore &settings, WiFiClient &client, const Devi
 std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
 {
     const WiFiInterface wifi = m_client.firstInterface().value_or(WiFiInterface());
-    const QString ipAddress = m_devices.ipAddressForDevice(m_devices.getWifiDevice());
+    // Of several radios the address is that of the one whose network is shown.
+    const QString device =
+        m_devices.isDeviceWifi(wifi.device) ? wifi.device : m_devices.getWifiDevice();
+    const QString ipAddress = m_devices.ipAddressForDevice(device);
     const bool associated = !wifi.bssid.isEmpty() && !wifi.ssid.isEmpty();
     Q_EMIT networkButtonShown(associated);
     WiFiRecord record{.name = u"Not currently connected..."_s};

@@ -13,8 +13,9 @@ class DeviceTable;
 class SettingsStore;
 class WiFiClient;
 
-/// What the first Wi-Fi interface is associated with, kept as display strings in the settings under
-/// `currentWiFiDict`. The record is as old as the last refresh. Main thread.
+/// What the Wi-Fi interface is associated with, of several the first one that is, kept as display
+/// strings in the settings under `currentWiFiDict`. The record is as old as the last refresh. Main
+/// thread.
 class WiFiNetwork : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 namespace quillon {
 
-/// What the first Wi-Fi interface tells, numbered as the tables of networks/WiFiNetwork expect.
+/// What a Wi-Fi interface tells, numbered as the tables of networks/WiFiNetwork expect.
 struct WiFiInterface
 {
     /// How the network is protected.
@@ -46,8 +46,8 @@ struct WiFiInterface
     QString device;
     QString ssid;  ///< "" when not associated, or when its name is hidden from us too
     QString bssid; ///< colon-separated octets, letter case as the platform gives it; "" as above
-    int noise = 0; ///< dBm, 0 when not measured
-    int rssi = 0;  ///< dBm, 0 when not known
+    int noise = 0; ///< dBm, 0 when not measured: noise is far below
+    int rssi = 0;  ///< dBm, 0 when not known: no signal is as strong as that
     int security = UnknownSecurity;
     double transmitRate = 0; ///< Mbit/s
     Channel channel;
@@ -65,7 +65,8 @@ class WiFiClient
 public:
     virtual ~WiFiClient() = default;
 
-    /// The first Wi-Fi interface of the system; none when there is none or it may not be read.
+    /// The first Wi-Fi interface of the system that has joined a network, else the first one; none
+    /// when there is none or it may not be read.
     virtual std::optional<WiFiInterface> firstInterface() = 0;
 };
 

@@ -175,6 +175,21 @@ TEST_F(WiFiNetworkTest, ShowsTheAddressThatTheDeviceListsLast)
     EXPECT_EQ(current(wifirecord::ipAddress), u"198.51.100.8"_s);
 }
 
+TEST_F(WiFiNetworkTest, ShowsTheAddressOfTheRadioWhoseNetworkItIs)
+{
+    host.plug({u"Wi-Fi"_s, u"wlp9s0"_s, {}, u"02:00:00:00:00:09"_s, {u"203.0.113.9"_s}});
+    DeviceTable(settings, host, addresses).updateNetWorkInterfaces();
+    radio.interface->device = u"wlp9s0"_s;
+    network.updateWiFiNetwork();
+    EXPECT_EQ(current(wifirecord::ipAddress), u"203.0.113.9"_s);
+    radio.interface->device = u"wlp2s0"_s;
+    network.updateWiFiNetwork();
+    EXPECT_EQ(current(wifirecord::ipAddress), u"198.51.100.7"_s);
+    radio.interface->device.clear();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(current(wifirecord::ipAddress), u"198.51.100.7"_s);
+}
+
 TEST_F(WiFiNetworkTest, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)
 {
     host.at(u"wlp2s0"_s).ipv4.clear();
@@ -197,8 +212,8 @@ TEST_F(WiFiNetworkTest, PrintsUnknownValuesAsTheyAreRead)
     wifi.bssid = officeBssid;
     radio.join(wifi);
     network.updateWiFiNetwork();
-    EXPECT_EQ(current(wifirecord::noise), u"0 dBm"_s);
-    EXPECT_EQ(current(wifirecord::RSSI), u"0 dBm"_s);
+    EXPECT_EQ(current(wifirecord::noise), QString());
+    EXPECT_EQ(current(wifirecord::RSSI), QString());
     EXPECT_EQ(current(wifirecord::txRate), u"0 Mbps"_s);
     EXPECT_EQ(current(wifirecord::security), u"Unknown"_s);
     EXPECT_EQ(current(wifirecord::channel), u"0 (Unknown, Unknown)"_s);

@@ -5,6 +5,7 @@
 #include "platform/linux/wifi/WiFiSecurity.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -170,26 +171,36 @@ WiFiInterface described(const Connection &connection)
     return wifi;
 }
 
+WiFiInterface joined(
+    Nl80211Exchange &exchange, const StationInterface &interface, const JoinedNetwork &network)
+{
+    const QList<RemoteStation> stations = exchange.ask({Table::Stations, interface.index}).stations;
+    WiFiInterface wifi =
+        described({interface, network, stationOf(network, stations).value_or(RemoteStation{})});
+    const quint32 frequency = interface.frequency ? interface.frequency : network.frequency;
+    wifi.noise = noiseAt(frequency, exchange.ask({Table::Noises, interface.index}).noises);
+    wifi.countryCode = exchange.ask({Table::RegulatoryDomain, interface.radio}).countryCode;
+    return wifi;
+}
+
 } // namespace
 
 std::optional<WiFiInterface> readWiFi(Nl80211Exchange &exchange)
 {
-    const QList<StationInterface> interfaces = exchange.ask({Table::Interfaces, 0}).interfaces;
+    QList<StationInterface> interfaces = exchange.ask({Table::Interfaces, 0}).interfaces;
     if (interfaces.isEmpty()) {
         return std::nullopt;
     }
-    const StationInterface first =
-        *std::ranges::min_element(interfaces, {}, &StationInterface::index);
-    const QList<JoinedNetwork> networks = exchange.ask({Table::Networks, first.index}).networks;
+    std::ranges::sort(interfaces, {}, &StationInterface::index);
+    for (const StationInterface &interface : std::as_const(interfaces)) {
+        const auto networks = exchange.ask({Table::Networks, interface.index}).networks;
+        if (!networks.isEmpty()) {
+            return joined(exchange, interface, networks.first());
+        }
+    }
+    const StationInterface &first = interfaces.first();
     WiFiInterface wifi;
     wifi.device = first.name;
-    if (!networks.isEmpty()) {
-        const JoinedNetwork &network = networks.first();
-        const QList<RemoteStation> stations = exchange.ask({Table::Stations, first.index}).stations;
-        wifi = described({first, network, stationOf(network, stations).value_or(RemoteStation{})});
-        const quint32 frequency = first.frequency ? first.frequency : network.frequency;
-        wifi.noise = noiseAt(frequency, exchange.ask({Table::Noises, first.index}).noises);
-    }
     wifi.countryCode = exchange.ask({Table::RegulatoryDomain, first.radio}).countryCode;
     return wifi;
 }

@@ -7,11 +7,12 @@
 
 namespace quillon {
 
-/// What the machine's first Wi-Fi interface (the one with the lowest index, which is the order of
-/// the port list) has joined. None when there is none or the question for interfaces failed; tables
-/// that cannot be read otherwise leave their fields at "not known".
+/// What the machine's Wi-Fi interface has joined; of several the first one that has joined a
+/// network, in the order of their indexes, which is that of the port list. None when there is none
+/// or the question for interfaces failed; tables that cannot be read otherwise leave their fields
+/// at "not known".
 ///
-/// An interface that the kernel shows as joined nowhere has only `device` and `countryCode`. The
+/// When the kernel shows all as joined nowhere the first has only `device` and `countryCode`. The
 /// name of a network that hides it is what the interface was told to join.
 std::optional<WiFiInterface> readWiFi(Nl80211Exchange &exchange);
 

@@ -5,6 +5,7 @@
 #include "wifi/Nl80211Capture.h"
 
 #include <QFile>
+#include <QHash>
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -199,12 +200,86 @@ TEST(WiFiReading, AnInterfaceThatTellsLittleIsReadFromNetworkAndRates)
     EXPECT_EQ(wifi->mcsIndex, std::nullopt) << "the rate of transfer is one without an index";
 }
 
-TEST(WiFiReading, TheFirstInterfaceCountsEvenIfAnotherHasJoined)
+TEST(WiFiReading, TheFirstInterfaceCountsWhereNoneHasJoined)
 {
     WiFiInterface expected;
     expected.device = u"wlp2s0"_s;
     expected.countryCode = u"UZ"_s;
     EXPECT_EQ(reading("not-joined"), expected);
+}
+
+/// A kernel with several interfaces, each of which has joined a network or not.
+class SeveralRadios : public Nl80211Exchange
+{
+public:
+    void plug(quint32 index, const QString &name, const QString &bssid)
+    {
+        StationInterface interface;
+        interface.index = index;
+        interface.radio = index;
+        interface.name = name;
+        interface.ssid = "Quiet House";
+        m_interfaces.prepend(interface);
+        if (!bssid.isEmpty()) {
+            JoinedNetwork network;
+            network.bssid = bssid;
+            m_networks.insert(index, network);
+        }
+    }
+    Nl80211Messages ask(const Nl80211Request &request) override
+    {
+        Nl80211Messages answer;
+        switch (request.table) {
+        case Table::Interfaces:
+            answer.interfaces = m_interfaces;
+            break;
+        case Table::Networks:
+            if (m_networks.contains(request.index)) {
+                answer.networks = {m_networks.value(request.index)};
+            }
+            break;
+        case Table::Stations:
+            answer.stations = {
+                {.address = m_networks.value(request.index).bssid,
+                    .signal = -40 - static_cast<int>(request.index),
+                    .transmit = {},
+                    .receive = {}},
+            };
+            break;
+        case Table::RegulatoryDomain:
+            answer.countryCode = u"D%1"_s.arg(QChar(u'A' + static_cast<char16_t>(request.index)));
+            break;
+        case Table::Noises:
+            break;
+        }
+        return answer;
+    }
+
+private:
+    QList<StationInterface> m_interfaces;
+    QHash<quint32, JoinedNetwork> m_networks;
+};
+
+TEST(WiFiReading, OfSeveralRadiosTheFirstThatHasJoinedANetworkIsRead)
+{
+    const QString one = u"02:11:22:aa:bb:01"_s;
+    const QString other = u"02:11:22:aa:bb:02"_s;
+    SeveralRadios second;
+    second.plug(3, u"wlp2s0"_s, QString());
+    second.plug(5, u"wlp7s0"_s, other);
+    EXPECT_EQ(readWiFi(second)->device, u"wlp7s0"_s);
+    EXPECT_EQ(readWiFi(second)->bssid, other);
+    EXPECT_EQ(readWiFi(second)->rssi, -45);
+    EXPECT_EQ(readWiFi(second)->countryCode, u"DF"_s);
+    SeveralRadios both;
+    both.plug(3, u"wlp2s0"_s, one);
+    both.plug(5, u"wlp7s0"_s, other);
+    EXPECT_EQ(readWiFi(both)->device, u"wlp2s0"_s) << "in the order of their indexes";
+    SeveralRadios none;
+    none.plug(3, u"wlp2s0"_s, QString());
+    none.plug(5, u"wlp7s0"_s, QString());
+    EXPECT_EQ(readWiFi(none)->device, u"wlp2s0"_s);
+    EXPECT_EQ(readWiFi(none)->countryCode, u"DD"_s);
 }
 
 TEST(WiFiReading, NoInterfaceIsNone)
