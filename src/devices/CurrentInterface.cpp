@@ -10,6 +10,8 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 CurrentInterface::CurrentInterface(
@@ -35,10 +37,25 @@ void CurrentInterface::selectInitialDevice()
     if (!device().isEmpty()) {
         return;
     }
-    // The Wi-Fi device, if there is one, stands first.
-    const QStringList devices = m_devices.sortedDevicesArray();
-    if (!devices.isEmpty()) {
+    QStringList devices = m_devices.sortedDevicesArray();
+    devices.removeIf([this](const QString &device) { return !selection(device); });
+    const auto there = std::find_if(devices.cbegin(), devices.cend(),
+        [this](const QString &device) { return m_devices.isPresent(device); });
+    if (there != devices.cend()) {
+        rebuild(*there);
+    } else if (!devices.isEmpty()) {
         rebuild(devices.first());
+    }
+}
+
+void CurrentInterface::selectAnyIfNone()
+{
+    if (!device().isEmpty()) {
+        return;
+    }
+    selectInitialDevice();
+    if (const QString selected = device(); !selected.isEmpty()) {
+        Q_EMIT interfaceSelected(selected);
     }
 }
 
@@ -73,20 +90,25 @@ void CurrentInterface::updateCurrentInterfaceDict(const QString &device)
     m_scheduler.onMain(this, [this, device] { rebuild(device); });
 }
 
+std::optional<DeviceRecord> CurrentInterface::selection(const QString &device) const
+{
+    DeviceRecord record = m_devices.record(device);
+    record.device = device;
+    record.current =
+        HexValueTransformer(m_settings).transformedValue(record.current.value_or(QString()));
+    return isStringValidHEX(*record.current) ? std::optional(record) : std::nullopt;
+}
+
 void CurrentInterface::rebuild(const QString &device)
 {
     Q_EMIT rebuildStarted();
-    DeviceRecord record = m_devices.record(device);
-    record.device = device;
-    const QString address =
-        HexValueTransformer(m_settings).transformedValue(record.current.value_or(QString()));
-    if (!isStringValidHEX(address)) {
+    const auto record = selection(device);
+    if (!record) {
         return;
     }
-    record.current = address;
-    m_settings.set(keys::currentInterfaceDict, record.toPropertyList());
+    m_settings.set(keys::currentInterfaceDict, record->toPropertyList());
     m_settings.synchronize();
-    Q_EMIT currentInterfaceUpdated(device, address);
+    Q_EMIT currentInterfaceUpdated(device, *record->current);
 }
 
 void CurrentInterface::updateHexValues()

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 namespace quillon {
 
 class DeviceTable;
@@ -25,9 +27,13 @@ public:
     /// The selected device's name, "" before the first selection.
     QString device() const;
     DeviceRecord record() const;
-    /// Before the first selection ever: selects the Wi-Fi device, else the first device. Otherwise
-    /// nothing. At once, so that the steps of the launch that follow find it. Main thread.
+    /// While nothing is selected: selects the first device that can be, in the order of every list
+    /// of devices, which puts the Wi-Fi device first; one that is there rather than one that was
+    /// taken away. Otherwise nothing. At once, so that the steps of the launch that follow find it.
+    /// Main thread.
     void selectInitialDevice();
+    /// The same after the launch: it also says that an interface was selected.
+    void selectAnyIfNone();
 
     /// Reads the interfaces anew and makes `device` current; an empty name is ignored.
     void updateInterface(const QString &device);
@@ -55,6 +61,8 @@ Q_SIGNALS:
     void hexValuesUpdated();
 
 private:
+    /// The record of `device` as the selected one; none when its address is not valid.
+    std::optional<DeviceRecord> selection(const QString &device) const;
     void rebuild(const QString &device);
 
     SettingsStore &m_settings;

@@ -28,12 +28,17 @@ QString VendorChoice::shownChoice(const QString &device) const
     return choice == randomAddressChoice ? localized(randomAddressChoice) : choice;
 }
 
+bool VendorChoice::canChoose() const
+{
+    return m_devices.contains(m_currentInterface.device());
+}
+
 void VendorChoice::saveVendorSelection(const QString &choice)
 {
-    const QString device = m_currentInterface.device();
-    if (!m_devices.contains(device)) {
+    if (!canChoose()) {
         return;
     }
+    const QString device = m_currentInterface.device();
     const QString stored = choice == localized(randomAddressChoice) ? randomAddressChoice : choice;
     m_devices.update(device, [&stored](DeviceRecord &record) { record.vendor = stored; });
     m_notifications.post(

@@ -27,6 +27,8 @@ public:
     /// made none.
     QString shownChoice(const QString &device) const;
 
+    /// Whether there is a known interface that a choice would be for.
+    bool canChoose() const;
     /// Stores `choice`, an entry of the list, for the selected interface, and announces it with
     /// "vendorUpdated" (`device`, `newVendor`). Without a known interface nothing happens.
     void saveVendorSelection(const QString &choice);

@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "devices/AddressChanger.h"
+#include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/MenuItem.h"
@@ -89,8 +90,9 @@ std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) 
     MenuEntry currentEntry;
     currentEntry.title = filled(localized("%@Current Address \u00B7 %@"), {indent, current});
     if (m_deps.helper.isHelperInstalled()) {
+        const bool canRestore = current != hardware && isStringValidHEX(hardware);
         const auto restore =
-            current == hardware ? MenuEntry::Action::None : MenuEntry::Action::RestoreAddress;
+            canRestore ? MenuEntry::Action::RestoreAddress : MenuEntry::Action::None;
         hardwareEntry.submenu.push_back({localized("Restore"), restore, false, {}});
         currentEntry.submenu.push_back(
             {localized("Randomize"), MenuEntry::Action::RandomizeAddress, false, {}});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/vendors/VendorFieldModel.h"
 
+#include "base/Localized.h"
 #include "base/NotificationNames.h"
 #include "platform/NotificationCenter.h"
 #include "vendors/VendorChoice.h"
@@ -99,7 +100,14 @@ void VendorFieldModel::closeVendorViewPopover()
 
 void VendorFieldModel::showText(const QString &text)
 {
-    m_state.update([&](State &state) { state.text = text; });
+    const bool canChoose = m_choice.canChoose();
+    m_state.update([&](State &state) {
+        state.text = text;
+        state.enabled = canChoose;
+        state.whyDisabled =
+            canChoose ? QString()
+                      : localized("No interface is selected: there is none to choose a vendor for");
+    });
 }
 
 void VendorFieldModel::selectRow(const std::optional<qsizetype> &row)

@@ -24,6 +24,8 @@ public:
     struct State
     {
         QString text;
+        bool enabled = true;
+        QString whyDisabled; ///< "" while it is enabled
         bool popoverShown = false;
         /// The row of the list that is selected.
         std::optional<qsizetype> selectedRow;

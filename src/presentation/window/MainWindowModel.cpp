@@ -30,6 +30,15 @@ MainWindowModel::MainWindowModel(const Collaborators &collaborators)
 {
 }
 
+template <typename Change>
+void MainWindowModel::update(Change change)
+{
+    m_state.update([&](State &state) {
+        change(state);
+        fillButtons(state);
+    });
+}
+
 QString MainWindowModel::readMeText()
 {
     return localized(
@@ -40,8 +49,8 @@ QString MainWindowModel::readMeText()
 
 void MainWindowModel::prepareWindow()
 {
-    m_state.update([&](State &state) {
-        state.randomizeEnabled = false;
+    m_mayRandomize = false;
+    update([&](State &state) {
         state.restoreEnabled = false;
         state.fieldEnabled = false;
         state.readMeVisible = false;
@@ -52,17 +61,19 @@ void MainWindowModel::prepareWindow()
 
 void MainWindowModel::disableRandomize()
 {
-    m_state.update([&](State &state) { state.randomizeEnabled = false; });
+    m_mayRandomize = false;
+    update([](State &) {});
 }
 
 void MainWindowModel::disableUpdate()
 {
-    m_state.update([&](State &state) { state.updateEnabled = false; });
+    update([&](State &state) { state.updateEnabled = false; });
 }
 
 void MainWindowModel::populateSelectionButton()
 {
-    m_state.update([&](State &state) {
+    m_interfacesShown = true;
+    update([&](State &state) {
         state.devices = m_deps.devices.sortedDevicesArray();
         state.selectionVisible = !state.devices.isEmpty();
         fillInterfaceDetails(state);
@@ -82,10 +93,10 @@ void MainWindowModel::readMeReset()
 void MainWindowModel::setHelperInstalled(bool installed)
 {
     m_helperInstalled = installed;
-    m_state.update([&](State &state) {
+    m_mayRandomize = installed;
+    update([&](State &state) {
         state.fieldEnabled = installed;
         state.readMeVisible = !installed;
-        state.randomizeEnabled = installed;
         if (!installed) {
             state.updateEnabled = false;
         }
@@ -95,17 +106,17 @@ void MainWindowModel::setHelperInstalled(bool installed)
 
 void MainWindowModel::hideReadMe()
 {
-    m_state.update([&](State &state) { state.readMeVisible = false; });
+    update([&](State &state) { state.readMeVisible = false; });
 }
 
 void MainWindowModel::setInstalling(bool installing)
 {
-    m_state.update([&](State &state) { state.installing = installing; });
+    update([&](State &state) { state.installing = installing; });
 }
 
 void MainWindowModel::showPlaceholder(const QString &address)
 {
-    m_state.update([&](State &state) {
+    update([&](State &state) {
         state.fieldPlaceholder = address;
         fillInterfaceDetails(state);
     });
@@ -123,7 +134,7 @@ void MainWindowModel::populateHexField()
 
 void MainWindowModel::showCurrentAddress()
 {
-    m_state.update([&](State &state) {
+    update([&](State &state) {
         state.fieldText = m_displayCase.transformedValue(
             m_deps.currentInterface.record().current.value_or(QString()));
         state.softwareButtonVisible = true;
@@ -151,13 +162,14 @@ void MainWindowModel::checkUpdateButton()
         return;
     }
     const QString current = m_deps.currentInterface.record().current.value_or(QString());
-    m_state.update([&](State &state) {
+    update([&](State &state) {
         const QString shown = m_displayCase.transformedValue(state.fieldText);
         const bool isBare = state.fieldText.size() == bareDigits && !shown.contains(u':');
         if (isBare || state.fieldText.size() == fullLength) {
             state.fieldText = shown;
         }
-        state.updateEnabled = state.fieldText.size() == fullLength && isStringValidHEX(shown) &&
+        state.updateEnabled = !isWithoutInterface() && state.fieldText.size() == fullLength &&
+                              isStringValidHEX(shown) &&
                               shown.compare(current, Qt::CaseInsensitive) != 0;
     });
 }
@@ -207,7 +219,7 @@ void MainWindowModel::endEditing()
 
 void MainWindowModel::setFieldText(const QString &text)
 {
-    m_state.update([&](State &state) { state.fieldText = text; });
+    update([&](State &state) { state.fieldText = text; });
 }
 
 bool MainWindowModel::draggingEntered(const QString &text) const
@@ -238,8 +250,34 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
     state.ipAddress = record.ipAddress.value_or(QString());
     state.linkActive = record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
-    state.restoreEnabled =
-        m_helperInstalled && !state.hardwareAddress.isEmpty() && state.hardwareIndicatorVisible;
+    state.restoreEnabled = m_helperInstalled && isStringValidHEX(state.hardwareAddress) &&
+                           state.hardwareIndicatorVisible;
+}
+
+bool MainWindowModel::isWithoutInterface() const
+{
+    return m_interfacesShown && m_deps.currentInterface.device().isEmpty();
+}
+
+void MainWindowModel::fillButtons(State &state) const
+{
+    const bool isWithout = isWithoutInterface();
+    state.randomizeEnabled = m_mayRandomize && !isWithout;
+    const auto why = [&](bool enabled, const QString &otherwise) {
+        if (enabled) {
+            return QString();
+        }
+        if (isWithout) {
+            return localized(
+                "No interface is selected: there is none whose address can be changed");
+        }
+        return m_helperInstalled ? otherwise : localized("The helper tool is not installed");
+    };
+    state.whyNoUpdate =
+        why(state.updateEnabled, localized("The field holds no other address to apply"));
+    state.whyNoRandomize = why(state.randomizeEnabled, QString());
+    state.whyNoRestore =
+        why(state.restoreEnabled, localized("The interface has its factory address"));
 }
 
 } // namespace quillon

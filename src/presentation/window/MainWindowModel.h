@@ -38,6 +38,10 @@ public:
         bool updateEnabled = false; ///< the apply button
         bool randomizeEnabled = false;
         bool restoreEnabled = false;
+        // Why the button is disabled; "" while it is enabled.
+        QString whyNoUpdate;
+        QString whyNoRandomize;
+        QString whyNoRestore;
 
         /// The hint to install the helper, with its install button.
         bool readMeVisible = false;
@@ -148,11 +152,18 @@ Q_SIGNALS:
 private:
     void showCurrentAddress();
     void fillInterfaceDetails(State &state) const;
+    /// What depends on several facts, after each change of any of them.
+    void fillButtons(State &state) const;
+    bool isWithoutInterface() const;
+    template <typename Change>
+    void update(Change change);
 
     Collaborators m_deps;
     HexValueTransformer m_displayCase;
     HexFormatter m_hexFormatter;
     bool m_helperInstalled = false;
+    bool m_interfacesShown = false; ///< before that nobody has looked for one to select
+    bool m_mayRandomize = false;    ///< by the helper's status alone
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 

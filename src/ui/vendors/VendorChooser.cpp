@@ -93,11 +93,13 @@ void VendorChooser::refresh()
         // The beginning of a name says more than its end.
         m_field->setCursorPosition(0);
     }
-    m_field->setToolTip(plainToolTip(state.text));
+    m_field->setEnabled(state.enabled);
+    m_field->setToolTip(plainToolTip(state.enabled ? state.text : state.whyDisabled));
     const QString toggles =
         state.popoverShown ? localized("Hide vendors") : localized("Show vendors");
     m_toggle->setAccessibleName(toggles);
-    m_toggle->setToolTip(plainToolTip(toggles));
+    m_toggle->setEnabled(state.enabled);
+    m_toggle->setToolTip(plainToolTip(state.enabled ? toggles : state.whyDisabled));
     if (state.popoverShown && m_table->isHidden()) {
         openList();
     } else if (!state.popoverShown && !m_table->isHidden()) {

@@ -61,6 +61,13 @@ QPushButton *makeButton(
     return button;
 }
 
+/// Says what the button does, or why it does nothing.
+void setUsable(QPushButton &button, bool enabled, const QString &whyNot)
+{
+    button.setEnabled(enabled);
+    button.setToolTip(whyNot.isEmpty() ? button.accessibleDescription() : whyNot);
+}
+
 /// To assistive technology a plain widget is a part of something; this one is a window.
 QAccessibleInterface *accessibleWindow(const QString &, QObject *object)
 {
@@ -208,9 +215,9 @@ void MainWindow::refresh()
     m_field->refresh();
     m_field->setPlaceholderText(state.fieldPlaceholder);
     m_field->setEnabled(state.fieldEnabled);
-    m_apply->setEnabled(state.updateEnabled);
-    m_randomize->setEnabled(state.randomizeEnabled);
-    m_restore->setEnabled(state.restoreEnabled);
+    setUsable(*m_apply, state.updateEnabled, state.whyNoUpdate);
+    setUsable(*m_randomize, state.randomizeEnabled, state.whyNoRandomize);
+    setUsable(*m_restore, state.restoreEnabled, state.whyNoRestore);
     m_readMe->refresh();
     m_details->refresh();
     m_version->setText(state.versionLabel);

@@ -194,6 +194,61 @@ TEST_F(CurrentInterfaceSelection, OfTheFirstStartWithoutDevicesIsNone)
     EXPECT_TRUE(heard.isEmpty());
 }
 
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartIsTheNextDeviceWhereTheFirstHasNoAddress)
+{
+    host.at(en1).broken = true;
+    table.updateNetWorkInterfaces();
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en0);
+    EXPECT_EQ(heard, (QStringList{u"rebuild"_s, u"updated en0 00:16:3E:11:22:33"_s}));
+}
+
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartIsRatherADeviceThatIsThere)
+{
+    host.unplug(en1);
+    table.updateNetWorkInterfaces();
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en0);
+}
+
+TEST_F(CurrentInterfaceSelection, OfTheFirstStartIsADeviceOfThePastWhereNoneIsThere)
+{
+    for (const QString &device : {en0, en1, u"bridge0"_s}) {
+        host.unplug(device);
+    }
+    table.updateNetWorkInterfaces();
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en1);
+}
+
+TEST_F(CurrentInterfaceSelection, IsMadeOnceADeviceCanBeSelectedAndSaidThen)
+{
+    const QVariantMap all = storedTable();
+    store({});
+    current.selectAnyIfNone();
+    EXPECT_TRUE(heard.isEmpty());
+    host.at(en1).broken = true;
+    store({{en1, QVariantMap{{record::current, QString()}}}});
+    current.selectAnyIfNone();
+    EXPECT_TRUE(heard.isEmpty());
+    store(all);
+    current.selectAnyIfNone();
+    EXPECT_EQ(current.device(), en1);
+    EXPECT_EQ(
+        heard, (QStringList{u"rebuild"_s, u"updated en1 02:16:3E:44:55:66"_s, u"selected en1"_s}));
+}
+
+TEST_F(CurrentInterfaceSelection, ThatWasMadeIsLeftAlone)
+{
+    select(en0);
+    const QVariantMap before = storedSelection();
+    host.unplug(en0);
+    table.updateNetWorkInterfaces();
+    current.selectAnyIfNone();
+    EXPECT_EQ(storedSelection(), before);
+    EXPECT_TRUE(heard.isEmpty());
+}
+
 TEST_F(CurrentInterfaceSelection, OfADeviceThatVanishedStays)
 {
     const QVariantMap stored = {

@@ -61,6 +61,17 @@ TEST_F(StatusMenuModelTest, RestoreIsDisabledWhileTheAddressIsTheFactoryOne)
     EXPECT_TRUE(entry(7).submenu.at(0).isEnabled());
 }
 
+TEST_F(StatusMenuModelTest, RestoreIsDisabledWhereTheFactoryAddressIsNone)
+{
+    QVariantMap table = settings.getDictionary(keys::deviceDict);
+    QVariantMap record = table.value(wired).toMap();
+    record[record::hardware] = u"N/A"_s;
+    table[wired] = record;
+    settings.set(keys::deviceDict, table);
+    menu.menuNeedsUpdate();
+    EXPECT_FALSE(entry(7).submenu.at(0).isEnabled());
+}
+
 TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomize)
 {
     for (const int row : {4, 8}) {

@@ -59,6 +59,19 @@ TEST_F(VendorFieldModelTest, OpensThePopoverAtTheFirstLetter)
     EXPECT_EQ(stored(), QString());
 }
 
+TEST_F(VendorFieldModelTest, IsDisabledAndSaysWhyWhileNoInterfaceIsSelected)
+{
+    settings.set(keys::currentInterfaceDict, QVariantMap());
+    field.showText(u"Random Address"_s);
+    EXPECT_FALSE(field.state().enabled);
+    EXPECT_EQ(field.state().whyDisabled,
+        u"No interface is selected: there is none to choose a vendor for"_s);
+    select(u"en0"_s);
+    field.showText(u"Random Address"_s);
+    EXPECT_TRUE(field.state().enabled);
+    EXPECT_EQ(field.state().whyDisabled, QString());
+}
+
 TEST_F(VendorFieldModelTest, ShowsAllWhenItIsCleared)
 {
     field.controlTextDidChange(u"app"_s);

@@ -90,6 +90,39 @@ TEST_F(MainWindowModelTest, WithoutTheHelperTheFieldIsDisabledAndTheHintIsShown)
     EXPECT_FALSE(shown().readMeVisible);
 }
 
+TEST_F(MainWindowModelTest, WithoutAnInterfaceNothingIsOfferedAndTheButtonsSayWhy)
+{
+    host.giveAddress(wired, u"02:00:00:00:00:01"_s);
+    devices.updateNetWorkInterfaces();
+    settings.set(keys::currentInterfaceDict, QVariantMap());
+    model.populateSelectionButton();
+    model.setFieldText(u"02:11:22:33:44:55"_s);
+    model.checkUpdateButton();
+    EXPECT_FALSE(shown().updateEnabled);
+    EXPECT_FALSE(shown().randomizeEnabled);
+    EXPECT_FALSE(shown().restoreEnabled);
+    const QString why = u"No interface is selected: there is none whose address can be changed"_s;
+    EXPECT_EQ(shown().whyNoUpdate, why);
+    EXPECT_EQ(shown().whyNoRandomize, why);
+    EXPECT_EQ(shown().whyNoRestore, why);
+
+    select(wired);
+    model.editField(u"02:11:22:33:44:55"_s);
+    EXPECT_TRUE(shown().updateEnabled && shown().randomizeEnabled && shown().restoreEnabled);
+    EXPECT_EQ(shown().whyNoUpdate + shown().whyNoRandomize + shown().whyNoRestore, QString());
+}
+
+TEST_F(MainWindowModelTest, AButtonThatCanDoNothingSaysWhy)
+{
+    EXPECT_EQ(shown().whyNoUpdate, u"The field holds no other address to apply"_s);
+    EXPECT_EQ(shown().whyNoRandomize, QString());
+    EXPECT_EQ(shown().whyNoRestore, u"The interface has its factory address"_s);
+    model.setHelperInstalled(false);
+    EXPECT_EQ(shown().whyNoUpdate, u"The helper tool is not installed"_s);
+    EXPECT_EQ(shown().whyNoRandomize, u"The helper tool is not installed"_s);
+    EXPECT_EQ(shown().whyNoRestore, u"The helper tool is not installed"_s);
+}
+
 TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryOne)
 {
     EXPECT_FALSE(shown().hardwareIndicatorVisible);

@@ -233,6 +233,23 @@ TEST_F(MainWindowTest, ItsButtonsChangeTheAddress)
     EXPECT_EQ(addressOf(wired), u"02:00:5E:10:AB:CD"_s);
 }
 
+TEST_F(MainWindowTest, AButtonSaysInItsToolTipWhatItDoesOrWhyItDoesNothing)
+{
+    const auto *randomize = named<QPushButton>("Randomize address");
+    const QString does = randomize->toolTip();
+    EXPECT_EQ(does, randomize->accessibleDescription());
+    settings.set(keys::currentInterfaceDict, QVariantMap());
+    window.populateSelectionButton();
+    for (const char *name : {"Apply address", "Randomize address", "Restore factory address"}) {
+        EXPECT_FALSE(named<QPushButton>(name)->isEnabled()) << name;
+        EXPECT_TRUE(named<QPushButton>(name)->toolTip().startsWith(u"No interface is selected"_s))
+            << name;
+    }
+    select(wired);
+    EXPECT_TRUE(randomize->isEnabled());
+    EXPECT_EQ(randomize->toolTip(), does);
+}
+
 TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
 {
     auto *field = named<QLineEdit>("Address");
