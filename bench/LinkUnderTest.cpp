@@ -63,9 +63,12 @@ Words LinkUnderTest::change(const QString &device, const QString &address)
 Words LinkUnderTest::ports()
 {
     const Clock::time_point begin = Clock::now();
-    const QList<PortRecord> ports = m_kernel.ports();
+    const auto ports = m_kernel.ports();
     const Clock::time_point end = Clock::now();
-    return {word(end - begin), std::to_string(ports.size())};
+    if (!ports) {
+        throw std::runtime_error("the interfaces cannot be read");
+    }
+    return {word(end - begin), std::to_string(ports->size())};
 }
 
 Words LinkUnderTest::refresh()

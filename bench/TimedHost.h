@@ -16,7 +16,7 @@ public:
     {
     }
 
-    QList<PortRecord> ports() override { return m_host.ports(); }
+    std::optional<QList<PortRecord>> ports() override { return m_host.ports(); }
     InterfaceInfo info(const QString &device) override
     {
         const InterfaceInfo info = m_host.info(device);

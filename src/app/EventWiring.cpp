@@ -236,10 +236,12 @@ void EventWiring::setupNotifications()
 {
     observeSettings();
     observeBroadcasts();
+    // What startup read is what is known; the first rule check looks at all of it.
+    m_features.devices.table.forgetAllNews();
     // The source outlives this.
     m_platform.networkChanges.start([self = QPointer(this)] {
         if (self) {
-            self->m_platform.notifications.post(notifications::networkChanged);
+            self->postNetworkChanges();
         }
     });
     // A login item that started us has done its work.
@@ -266,9 +268,14 @@ void EventWiring::observeSettings()
 void EventWiring::observeBroadcasts()
 {
     Features &f = m_features;
-    onBroadcast(notifications::networkChanged, [this](const auto &) {
-        m_networkChange.networkChanged();
-        m_features.statusMenu.menuNeedsUpdate();
+    onBroadcast(notifications::networkChanged, [this](const auto &posted) {
+        const QVariant device = posted.userInfo.value(record::device);
+        if (device.isValid()) {
+            m_networkChange.networkChanged(device.toString());
+        } else {
+            m_networkChange.networkChanged();
+            m_features.statusMenu.menuNeedsUpdate();
+        }
     });
     onBroadcast(notifications::addressUpdated, [this](const auto &) {
         m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
@@ -285,6 +292,25 @@ void EventWiring::observeBroadcasts()
     m_distributedTokens.push_back(
         m_platform.distributedNotifications.addObserver(notifications::helperUpdated,
             notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); }));
+}
+
+void EventWiring::postNetworkChanges()
+{
+    // One change of the network is about one interface. The system tells of several at once.
+    const QPointer self(this);
+    QStringList changed = m_networkChange.readInterfaces();
+    if (changed.isEmpty()) {
+        changed.append(QString());
+    }
+    for (const QString &device : std::as_const(changed)) {
+        if (self) {
+            m_platform.notifications.post(
+                notifications::networkChanged, this, {{record::device, device}});
+        }
+    }
+    if (self) {
+        m_features.statusMenu.menuNeedsUpdate();
+    }
 }
 
 void EventWiring::onSetting(const QString &key, std::function<void()> reactions)

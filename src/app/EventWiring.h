@@ -52,6 +52,7 @@ private:
     void onSetting(const QString &key, std::function<void()> reactions);
     void onBroadcast(const QString &name,
         std::function<void(const NotificationCenter::Notification &)> reactions);
+    void postNetworkChanges();
     void postTerminateLoginHelper();
 
     const Platform &m_platform;

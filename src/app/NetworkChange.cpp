@@ -11,6 +11,8 @@
 #include "rules/RuleEvaluation.h"
 #include "rules/RuleExecution.h"
 
+#include <utility>
+
 namespace quillon {
 
 NetworkChange::NetworkChange(const Collaborators &collaborators)
@@ -20,23 +22,52 @@ NetworkChange::NetworkChange(const Collaborators &collaborators)
 
 void NetworkChange::networkChanged()
 {
+    networkChanged(readInterfaces().value(0));
+}
+
+QStringList NetworkChange::readInterfaces()
+{
     m_deps.externalAddress.updateExternalIPAddress(false);
-    const DeviceRecords before = m_deps.devices.devices();
     m_deps.devices.updateNetWorkInterfaces();
-    const QString changed = firstChangedDevice(before, m_deps.devices.devices());
     m_deps.execution.followVisits();
-    if (m_deps.devices.isDeviceWifi(changed)) {
+    m_deps.currentInterface.selectAnyIfNone();
+    return m_deps.devices.devicesWithNews();
+}
+
+void NetworkChange::networkChanged(const QString &device)
+{
+    m_deps.devices.forgetNews(device);
+    if (m_deps.devices.isDeviceWifi(device)) {
         m_deps.wifi.updateWiFiNetwork();
     }
-    if (changed == m_deps.currentInterface.device()) {
+    if (device == m_deps.currentInterface.device()) {
         // The table was read just now.
-        m_deps.currentInterface.selectInterface(changed);
+        m_deps.currentInterface.selectInterface(device);
     }
-    if (!changed.isEmpty()) {
-        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(changed,
-            m_deps.reachability.isReachable() ? RuleChange::OncePerVisit : RuleChange::None);
-    }
+    evaluate(device);
     m_deps.rulesList.filterRulesArrayController();
+}
+
+void NetworkChange::evaluate(const QString &device)
+{
+    if (device.isEmpty() && m_withheld.isEmpty()) {
+        return;
+    }
+    m_withheld.removeOne(device);
+    const bool isReachable = m_deps.reachability.isReachable();
+    if (!device.isEmpty()) {
+        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(
+            device, isReachable ? RuleChange::OncePerVisit : RuleChange::None);
+    }
+    if (!isReachable) {
+        m_withheld.append(device);
+        m_withheld.removeAll(QString());
+        return;
+    }
+    const QStringList withheld = std::exchange(m_withheld, {});
+    for (const QString &other : withheld) {
+        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(other, RuleChange::OncePerVisit);
+    }
 }
 
 } // namespace quillon

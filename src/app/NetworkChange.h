@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <QStringList>
+
 namespace quillon {
 
 class CurrentInterface;
@@ -31,13 +34,23 @@ public:
 
     explicit NetworkChange(const Collaborators &collaborators);
 
-    /// The first device whose record is not what it was is evaluated; others that changed as well
-    /// are not. Its rule is carried out when the internet can be reached now, but a rule that
-    /// changes the address once is not carried out again while the device stays on its network.
+    /// How an event begins: a refresh of the external address is started and the interfaces are
+    /// read, once for all of them. The devices that have changed since their last network change,
+    /// in key order.
+    QStringList readInterfaces();
+    /// One network change is about one device, "" when none has changed. Its rule is carried out
+    /// when the internet can be reached now, but a rule that changes the address once is not
+    /// carried out again while the device stays on its network. What had to be left undone because
+    /// the internet could not be reached is made up for at the first one that finds it reachable.
+    void networkChanged(const QString &device);
+    /// Both, for the first device that has changed. Others stay news for the next network change.
     void networkChanged();
 
 private:
+    void evaluate(const QString &device);
+
     Collaborators m_deps;
+    QStringList m_withheld; ///< devices whose rule was not carried out for want of the internet
 };
 
 } // namespace quillon

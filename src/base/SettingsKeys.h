@@ -72,6 +72,7 @@ QUILLON_KEY(hardware);
 QUILLON_KEY(current);
 QUILLON_KEY(status);
 QUILLON_KEY(ipAddress);
+QUILLON_KEY(router);
 QUILLON_KEY(vendor);
 QUILLON_KEY(hasRule);
 QUILLON_KEY(rule);

@@ -5,6 +5,8 @@
 #include "base/PropertyList.h"
 #include "base/SettingsKeys.h"
 
+#include <tuple>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,7 @@ void forEachField(Record &record, Visitor visit)
     visit(record::current, String, record.current);
     visit(record::status, String, record.status);
     visit(record::ipAddress, String, record.ipAddress);
+    visit(record::router, String, record.router);
     visit(record::vendor, String, record.vendor);
     visit(record::hasRule, Integer, record.hasRule);
     visit(record::rule, Dictionary, record.rule);
@@ -68,15 +71,13 @@ bool DeviceRecord::isUp() const
     return status == u"active"_s;
 }
 
-QString firstChangedDevice(const DeviceRecords &before, const DeviceRecords &now)
+bool isSameInterface(const DeviceRecord &one, const DeviceRecord &other)
 {
-    for (auto entry = before.cbegin(); entry != before.cend(); ++entry) {
-        const auto same = now.constFind(entry.key());
-        if (same == now.cend() || *same != *entry) {
-            return entry.key();
-        }
-    }
-    return {};
+    const auto facts = [](const DeviceRecord &record) {
+        return std::tie(record.interface, record.localizedInterface, record.hardware,
+            record.current, record.status, record.ipAddress, record.router);
+    };
+    return facts(one) == facts(other);
 }
 
 } // namespace quillon

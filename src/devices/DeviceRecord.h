@@ -21,6 +21,7 @@ struct DeviceRecord
     std::optional<QString> current = {};  ///< the address in use
     std::optional<QString> status = {};
     std::optional<QString> ipAddress = {};
+    std::optional<QString> router = {};    ///< see PortRecord; missing when it has none
     std::optional<QString> vendor = {};    ///< the manufacturer chosen for random addresses
     std::optional<qlonglong> hasRule = {}; ///< a RuleStatus
     std::optional<QVariantMap> rule = {};  ///< the network rule in force, flattened
@@ -43,8 +44,8 @@ struct DeviceRecord
 /// Device name to record.
 using DeviceRecords = QMap<QString, DeviceRecord>;
 
-/// The first device, in key order, whose record is not the same in both tables; "" when none
-/// differs. Devices that only `now` holds do not count.
-QString firstChangedDevice(const DeviceRecords &before, const DeviceRecords &now);
+/// Whether both records say the same of the interface; what the program itself keeps there, such as
+/// rules, is left aside.
+bool isSameInterface(const DeviceRecord &one, const DeviceRecord &other);
 
 } // namespace quillon

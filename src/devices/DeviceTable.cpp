@@ -6,7 +6,6 @@
 #include "base/SettingsKeys.h"
 #include "platform/InterfaceAddresses.h"
 #include "platform/NetworkHost.h"
-#include "platform/PortName.h"
 #include "platform/SettingsStore.h"
 
 #include <algorithm>
@@ -33,6 +32,7 @@ void refresh(DeviceRecord &record, const PortRecord &port)
     record.current = port.info.macAddress;
     record.status = port.info.status;
     record.ipAddress = port.info.ipAddress;
+    record.router = port.router.isEmpty() ? std::nullopt : std::optional(port.router);
 }
 
 bool comesBefore(const QString &a, const QString &b)
@@ -54,15 +54,21 @@ DeviceTable::DeviceTable(
 
 void DeviceTable::updateNetWorkInterfaces()
 {
-    const QList<PortRecord> ports = readPorts();
+    const QList<PortRecord> ports = readPorts().value_or(QList<PortRecord>());
     auto table = stored();
     bool isRefreshed = false;
     for (const PortRecord &port : ports) {
-        if (port.device.isEmpty() || isSkippedPortName(port.interface)) {
+        if (port.device.isEmpty()) {
             continue;
         }
-        DeviceRecord record = DeviceRecord::fromPropertyList(table.value(port.device));
+        const auto known = table.constFind(port.device);
+        const bool isKnown = known != table.constEnd();
+        const DeviceRecord before = DeviceRecord::fromPropertyList(isKnown ? *known : QVariant());
+        DeviceRecord record = before;
         refresh(record, port);
+        if (isKnown && !isSameInterface(record, before)) {
+            noteNews(port.device, before);
+        }
         table[port.device] = record.toPropertyList();
         isRefreshed = true;
     }
@@ -72,12 +78,15 @@ void DeviceTable::updateNetWorkInterfaces()
     m_settings.synchronize();
 }
 
-QList<PortRecord> DeviceTable::readPorts()
+std::optional<QList<PortRecord>> DeviceTable::readPorts()
 {
     const std::lock_guard lock(m_hostMutex);
-    const QList<PortRecord> ports = m_host.ports();
+    const auto ports = m_host.ports();
+    if (!ports) {
+        return ports;
+    }
     m_present.clear();
-    for (const PortRecord &port : ports) {
+    for (const PortRecord &port : *ports) {
         if (!port.info.macAddress.isEmpty()) {
             m_present.insert(port.device);
         }
@@ -95,12 +104,63 @@ DeviceRecord DeviceTable::update(
     const QString &device, const std::function<void(DeviceRecord &)> &change)
 {
     auto table = stored();
-    DeviceRecord record = DeviceRecord::fromPropertyList(table.value(device));
+    const DeviceRecord before = DeviceRecord::fromPropertyList(table.value(device));
+    DeviceRecord record = before;
     change(record);
+    if (table.contains(device)) {
+        noteUpdate(device, before, record);
+    }
     table[device] = record.toPropertyList();
     m_settings.set(keys::deviceDict, table);
     m_settings.synchronize();
     return record;
+}
+
+void DeviceTable::noteNews(const QString &device, const DeviceRecord &before)
+{
+    const std::lock_guard lock(m_newsMutex);
+    if (!m_known.contains(device)) {
+        m_known.insert(device, before);
+    }
+}
+
+void DeviceTable::noteUpdate(
+    const QString &device, const DeviceRecord &before, const DeviceRecord &changed)
+{
+    // Whoever changed the address read the rest back with it, and that may be news.
+    if (before.status != changed.status || before.ipAddress != changed.ipAddress) {
+        noteNews(device, before);
+    }
+    const std::lock_guard lock(m_newsMutex);
+    const auto known = m_known.find(device);
+    if (known != m_known.end() && before.current != changed.current) {
+        known->current = changed.current;
+    }
+}
+
+QStringList DeviceTable::devicesWithNews() const
+{
+    const auto table = stored();
+    const std::lock_guard lock(m_newsMutex);
+    QStringList devices;
+    for (auto known = m_known.cbegin(); known != m_known.cend(); ++known) {
+        if (!isSameInterface(*known, DeviceRecord::fromPropertyList(table.value(known.key())))) {
+            devices.append(known.key());
+        }
+    }
+    return devices;
+}
+
+void DeviceTable::forgetNews(const QString &device)
+{
+    const std::lock_guard lock(m_newsMutex);
+    m_known.remove(device);
+}
+
+void DeviceTable::forgetAllNews()
+{
+    const std::lock_guard lock(m_newsMutex);
+    m_known.clear();
 }
 
 InterfaceInfo DeviceTable::getInfoForDevice(const QString &device) const

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <mutex>
+#include <optional>
 
 namespace quillon {
 
@@ -27,13 +28,23 @@ class DeviceTable
 public:
     DeviceTable(SettingsStore &settings, NetworkHost &host, const InterfaceAddresses &addresses);
 
-    /// Reads the ports of the host into the table, which is written once, and flushes.
+    /// Reads the ports of the host into the table, which is written once, and flushes. A reading
+    /// that fails leaves everything as it was.
     void updateNetWorkInterfaces();
     /// Changes the record of `device`, a new one when the table has none, flushes, and returns it.
     DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change);
-    /// Whether the last refresh found the device, with an address: the table keeps the last record
-    /// of one that was taken away.
+    /// Whether the last reading that succeeded found the device, with an address: the table keeps
+    /// the last record of one that was taken away.
     bool isPresent(const QString &device) const;
+
+    /// The devices, in key order, whose interface is not what it was when forgetNews() was last
+    /// called for them, whoever had the table refreshed meanwhile. An address that the program gave
+    /// an interface itself is no news, nor is a device that the table did not hold before.
+    QStringList devicesWithNews() const;
+    /// What the table holds of `device` is known from now on to whoever follows the news.
+    void forgetNews(const QString &device);
+    void forgetAllNews();
+
     /// Reads one interface back from the host; nothing is stored.
     InterfaceInfo getInfoForDevice(const QString &device) const;
     /// The device's IPv4 address listed last, "" when none.
@@ -56,7 +67,9 @@ public:
     QStringList sortedDevicesArray() const;
 
 private:
-    QList<PortRecord> readPorts();
+    std::optional<QList<PortRecord>> readPorts();
+    void noteNews(const QString &device, const DeviceRecord &before);
+    void noteUpdate(const QString &device, const DeviceRecord &before, const DeviceRecord &changed);
     QVariantMap stored() const;
 
     SettingsStore &m_settings;
@@ -64,6 +77,9 @@ private:
     const InterfaceAddresses &m_addresses;
     mutable std::mutex m_hostMutex;
     QSet<QString> m_present; ///< guarded by m_hostMutex
+    mutable std::mutex m_newsMutex;
+    /// What was known of devices whose record was rewritten since. Guarded by m_newsMutex.
+    DeviceRecords m_known;
 };
 
 } // namespace quillon

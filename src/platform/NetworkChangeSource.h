@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// The system's word that something about the network changed: a link, an IPv4 address or a route.
-/// A burst of events is one change.
+/// The system's word that something about the network changed: a link, an address or a route, of
+/// whichever interface. A burst of events is one change, also when it is about several interfaces.
 class NetworkChangeSource
 {
 public:

@@ -6,8 +6,8 @@
 
 namespace quillon {
 
-/// Ports that are never offered, whichever host named them: Bluetooth, and Thunderbolt links other
-/// than the Thunderbolt bridge. Plain case-sensitive substring tests.
+/// Ports that no host lists, by the name as the system writes it: Bluetooth, and Thunderbolt links
+/// other than the Thunderbolt bridge. Plain case-sensitive substring tests.
 inline bool isSkippedPortName(const QString &portName)
 {
     return portName.contains(QLatin1String("tooth")) ||

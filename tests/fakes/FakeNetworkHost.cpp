@@ -3,6 +3,7 @@
 #include "fakes/FakeNetworkHost.h"
 
 #include "contract/Validation.h"
+#include "platform/PortName.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -31,6 +32,7 @@ FakeNetworkHost::Interface described(const QJsonObject &object)
         .address = object.value("address"_L1).toString(),
         .ipv4 = object.value("ipv4"_L1).toVariant().toStringList(),
         .active = object.value("active"_L1).toBool(true),
+        .router = object.value("router"_L1).toString(),
         .keepsAddress = object.value("keepsAddress"_L1).toBool(false),
         .broken = object.value("broken"_L1).toBool(false),
     };
@@ -53,13 +55,16 @@ FakeNetworkHost::FakeNetworkHost(const QString &name)
     }
 }
 
-QList<PortRecord> FakeNetworkHost::ports()
+std::optional<QList<PortRecord>> FakeNetworkHost::ports()
 {
     m_journal << u"ports"_s;
+    if (m_unreadable) {
+        return std::nullopt;
+    }
     QList<PortRecord> records;
     for (const Interface &each : std::as_const(m_interfaces)) {
-        if (!each.port.isEmpty()) {
-            records.append({each.port, each.device, each.factory, answer(each)});
+        if (!each.port.isEmpty() && !isSkippedPortName(each.port)) {
+            records.append({each.port, each.device, each.factory, answer(each), each.router});
         }
     }
     return records;
@@ -69,7 +74,7 @@ InterfaceInfo FakeNetworkHost::info(const QString &device)
 {
     m_journal << u"info "_s + device;
     const auto found = std::find_if(m_interfaces.cbegin(), m_interfaces.cend(), named(device));
-    return found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
+    return m_unreadable || found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
 }
 
 InterfaceInfo FakeNetworkHost::answer(const Interface &interface)

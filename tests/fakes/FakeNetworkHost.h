@@ -15,12 +15,13 @@ class FakeNetworkHost : public NetworkHost
 public:
     struct Interface
     {
-        QString port;       ///< port name; empty for what is no port, such as a tunnel
-        QString device;     ///< interface name
-        QString factory;    ///< factory address; empty when it has none to tell
-        QString address;    ///< the address in use
-        QStringList ipv4;   ///< in the order in which they were added
-        bool active = true; ///< the link is up
+        QString port;        ///< port name; empty for what is no port, such as a tunnel
+        QString device;      ///< interface name
+        QString factory;     ///< factory address; empty when it has none to tell
+        QString address;     ///< the address in use
+        QStringList ipv4;    ///< in the order in which they were added
+        bool active = true;  ///< the link is up
+        QString router = {}; ///< of its default route; empty when it has none
         /// Takes no new address but does not say so, as one that is switched off.
         bool keepsAddress = false;
         /// Is listed, but answers no query any more.
@@ -32,7 +33,7 @@ public:
     /// is no such description.
     explicit FakeNetworkHost(const QString &name);
 
-    QList<PortRecord> ports() override;
+    std::optional<QList<PortRecord>> ports() override;
     InterfaceInfo info(const QString &device) override;
 
     void plug(const Interface &interface);
@@ -45,6 +46,8 @@ public:
     Interface &at(const QString &device);
     const QList<Interface> &interfaces() const { return m_interfaces; }
     QString addressOf(const QString &device) const;
+    /// From now on nothing can be read, or it can again.
+    void setUnreadable(bool unreadable) { m_unreadable = unreadable; }
     /// What the host was asked, in order: "ports", "info <device>".
     const QStringList &journal() const { return m_journal; }
     void clearJournal() { m_journal.clear(); }
@@ -54,6 +57,7 @@ private:
 
     QList<Interface> m_interfaces;
     QStringList m_journal;
+    bool m_unreadable = false;
 };
 
 } // namespace quillon::test

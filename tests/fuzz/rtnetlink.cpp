@@ -26,7 +26,8 @@ void read(std::span<const std::byte> bytes)
     LinkMessages messages;
     NetlinkAnswer answer{.sequence = sequence};
     answer.add(bytes, [&](const nlmsghdr &message) { messages.add(message); });
-    tellsOfChange(bytes);
+    KnownAddresses known;
+    tellsOfChange(bytes, known);
     const auto records = messages.links.size() + messages.addresses.size() + messages.routes.size();
     require(static_cast<std::size_t>(records) <= bytes.size() / sizeof(nlmsghdr),
         "every record is a message at least");
@@ -38,8 +39,12 @@ void read(std::span<const std::byte> bytes)
         requireAddress(link.permanentAddress);
     }
     for (const DefaultRoute &route : messages.routes) {
-        require(static_cast<std::size_t>(route.interfaces.size()) <= bytes.size() / 8,
+        require(static_cast<std::size_t>(route.hops.size()) <= bytes.size() / 8,
             "every next hop is an attribute at least");
+        const QList<NextHop> hops = hopsOf(route, messages.nextHops);
+        for (const NextHop &hop : hops) {
+            require(hop.gateway.size() < 46, "a router's address is bounded");
+        }
     }
 }
 

@@ -33,11 +33,14 @@ TextualHost::TextualHost(CommandRunner &commands)
 {
 }
 
-QList<PortRecord> TextualHost::ports()
+std::optional<QList<PortRecord>> TextualHost::ports()
 {
+    const QString portList = m_commands.run(u"networksetup -listallhardwareports"_s);
+    if (portList.isEmpty()) {
+        return std::nullopt;
+    }
     QList<PortRecord> records;
-    const QList<HardwarePort> kept =
-        hardwarePorts(m_commands.run(u"networksetup -listallhardwareports"_s));
+    const QList<HardwarePort> kept = hardwarePorts(portList);
     records.reserve(kept.size());
     for (const HardwarePort &port : kept) {
         records.append({port.interface, port.device, port.hardware, info(port.device)});

@@ -16,7 +16,7 @@ class TextualHost : public NetworkHost
 public:
     explicit TextualHost(CommandRunner &commands);
 
-    QList<PortRecord> ports() override;
+    std::optional<QList<PortRecord>> ports() override;
     /// A name that a shell would not take as one plain word is not asked for.
     InterfaceInfo info(const QString &device) override;
 

@@ -168,4 +168,85 @@ TEST_F(PlugInTest, OtherInterfacesAreLeftAlone)
     }
 }
 
+TEST_F(PlugInTest, ARouteThatComesAfterTheAddressHasBeenToldIsAnEventOfItsOwn)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(false);
+    settle();
+    ASSERT_TRUE(program->helperLink.changes.isEmpty());
+    administrator().run(u"ip route add default via 198.51.100.1 dev %1"_s.arg(card));
+    ASSERT_TRUE(changeIsRecorded());
+    letPass(2min);
+    settle();
+    expectOneChange();
+}
+
+TEST_F(PlugInTest, ANetworkOfIPv6AloneIsOneToo)
+{
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    administrator().run(u"ip -6 addr add 2001:db8::5/64 dev %1 nodad"_s.arg(card));
+    settle();
+    ASSERT_TRUE(program->helperLink.changes.isEmpty());
+    administrator().run(u"ip -6 route add default via 2001:db8::1 dev %1"_s.arg(card));
+    ASSERT_TRUE(changeIsRecorded());
+    letPass(2min);
+    settle();
+    expectOneChange();
+}
+
+TEST_F(PlugInTest, ARouteOfAnInterfaceThatIsNoPortMakesUpForWhatWasMissing)
+{
+    administrator().run(u"ip link add ifb7 type ifb && ip link set ifb7 up"_s);
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    startProgram();
+    plugCable();
+    settle();
+    giveLease(false);
+    settle();
+    ASSERT_TRUE(program->helperLink.changes.isEmpty());
+    administrator().run(u"ip route add default dev ifb7"_s);
+    EXPECT_TRUE(changeIsRecorded());
+    letPass(2min);
+    settle();
+    expectOneChange();
+    administrator().run(u"ip link del ifb7"_s);
+}
+
+TEST_F(PlugInTest, AnotherInterfaceThatChangesInTheSameBurstSwallowsNothing)
+{
+    // One sorts before the card, one after it.
+    const QStringList others{u"eth4"_s, u"eth6"_s};
+    for (const QString &other : others) {
+        administrator().run(u"ip link add %1 type veth peer name far-%1\n"
+                            "ip link set %1 addrgenmode none up\n"
+                            "ip link set far-%1 addrgenmode none up"_s.arg(other));
+    }
+    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+    ASSERT_TRUE(addRule(records, randomOnceRule(others.last())));
+    startProgram();
+    plugCable();
+    settle();
+    const QString before = kernelAddresses().value(others.last());
+    administrator().run(u"printf 'addr add 203.0.113.4/24 dev eth4\\n"
+                        "addr add 203.0.113.68/26 dev eth6\\n"
+                        "addr add 198.51.100.5/24 dev %1\\n"
+                        "route add default via 198.51.100.1 dev %1\\n' | ip -batch -"_s.arg(card));
+    EXPECT_TRUE(changeIsRecorded(1));
+    letPass(2min);
+    settle();
+    EXPECT_EQ(program->helperLink.changes.size(), 2);
+    EXPECT_NE(kernelAddress(), factoryAddress);
+    EXPECT_NE(kernelAddresses().value(others.last()), before);
+    EXPECT_EQ(program->record(others.first()).value(record::ipAddress), u"203.0.113.4"_s);
+    for (const QString &other : others) {
+        administrator().run(u"ip link del %1"_s.arg(other));
+    }
+}
+
 } // namespace quillon::test

@@ -84,7 +84,7 @@ private:
         QString portList()
         {
             QString text;
-            const QList<PortRecord> ports = m_machine.ports();
+            const QList<PortRecord> ports = m_machine.ports().value();
             for (const PortRecord &port : ports) {
                 text += QStringLiteral("\nHardware Port: %1\nDevice: %2\nEthernet Address: %3\n")
                             .arg(port.interface, port.device, port.info.macAddress);

@@ -23,7 +23,7 @@ protected:
     {
         PortRecord found;
         int count = 0;
-        const QList<PortRecord> ports = host.ports();
+        const QList<PortRecord> ports = host.ports().value();
         for (const PortRecord &port : ports) {
             if (port.device == device && ++count == 1) {
                 found = port;
@@ -36,7 +36,7 @@ protected:
     QStringList order()
     {
         QStringList devices;
-        const QList<PortRecord> ports = host.ports();
+        const QList<PortRecord> ports = host.ports().value();
         for (const PortRecord &port : ports) {
             if (tested.contains(port.device)) {
                 devices << port.device;
@@ -214,7 +214,7 @@ TYPED_TEST(NetworkHostConformance, TheListSaysOfEachPortWhatTheDeviceSaysItself)
     this->machine.giveIPv4(this->second, u"203.0.113.9"_s);
     this->machine.setLink(this->second, true);
     ASSERT_TRUE(this->becomes(this->second, "active"));
-    const QList<PortRecord> ports = this->host.ports();
+    const QList<PortRecord> ports = this->host.ports().value();
     EXPECT_GE(ports.size(), 3);
     for (const PortRecord &port : ports) {
         EXPECT_EQ(port.info, this->host.info(port.device)) << qPrintable(port.device);

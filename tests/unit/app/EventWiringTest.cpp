@@ -4,6 +4,8 @@
 
 #include "unit/app/ProgramOnFakes.h"
 
+#include <algorithm>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -92,6 +94,173 @@ TEST_F(EventWiringTest, OneSystemNetworkChangeIsExactlyOneBroadcast)
     machine.networkChanges.networkChanges();
     EXPECT_EQ(broadcasts, 1);
     machine.notifications.removeObserver(token);
+}
+
+class EventWiringBurst : public ProgramOnFakes
+{
+protected:
+    /// Names of interfaces: wired ones sort before wireless ones, or after them.
+    void runWith(const QString &wired, const QString &wireless)
+    {
+        for (const QString &device : {enp1s0, enp2s0}) {
+            machine.host.unplug(device);
+        }
+        for (const QString &device : {wired, wireless}) {
+            const QString address = u"3c:22:fb:00:01:0%1"_s.arg(machine.host.interfaces().size());
+            machine.host.plug({device == wireless ? u"Wi-Fi"_s : u"Ethernet"_s, device, address,
+                address, {}, false});
+            saveRule(randomOnce(device, device));
+        }
+        run();
+        machine.settings.setBool(keys::shouldUpdateExternalIP, true);
+        requestsBefore = machine.http.requests().size();
+        machine.notifications.addObserver(
+            notifications::networkChanged, [this](const auto &posted) {
+                broadcasts << posted.userInfo.value(record::device).toString();
+            });
+        machine.notifications.addObserver(notifications::updateOverview,
+            [this](const auto &posted) { evaluated << posted.userInfo.keys(); });
+    }
+    void giveLease(const QString &device)
+    {
+        machine.host.at(device).ipv4 = QStringList{u"203.0.113.%1"_s.arg(++leases)};
+    }
+
+    /// A burst in which both interfaces get a lease, the Wi-Fi interface on a new network.
+    void expectOneEachFor(const QStringList &devices)
+    {
+        machine.host.clearJournal();
+        WiFiInterface network;
+        network.ssid = u"Home"_s;
+        network.bssid = u"02:00:00:00:aa:01"_s;
+        machine.wifi.join(network);
+        for (const QString &device : devices) {
+            machine.host.at(device).active = true;
+            giveLease(device);
+        }
+        machine.networkChanges.networkChanges();
+        machine.scheduler.runPending();
+        EXPECT_EQ(broadcasts, devices);
+        EXPECT_EQ(evaluated, devices);
+        EXPECT_EQ(machine.host.journal().count(u"ports"_s), 1) << "the kernel is read once";
+        EXPECT_EQ(machine.http.requests().size() - requestsBefore, 1);
+        QStringList changed;
+        for (const FakeHelper::Change &change : machine.helper.changes()) {
+            changed << change.device;
+        }
+        EXPECT_EQ(changed, devices);
+    }
+
+    QStringList broadcasts;
+    QStringList evaluated;
+    qsizetype requestsBefore = 0;
+    int leases = 0;
+};
+
+TEST_F(EventWiringBurst, OfSeveralInterfacesIsOneNetworkChangeForEach)
+{
+    const QString wlp2s0 = u"wlp2s0"_s;
+    runWith(enp1s0, wlp2s0);
+    expectOneEachFor({enp1s0, wlp2s0});
+}
+
+TEST_F(EventWiringBurst, OfSeveralInterfacesDoesNotMindTheirNames)
+{
+    const QString ath0 = u"ath0"_s;
+    runWith(enp1s0, ath0);
+    expectOneEachFor({ath0, enp1s0});
+}
+
+TEST_F(EventWiringBurst, OfManyInterfacesReadsTheKernelOnce)
+{
+    QStringList devices;
+    for (int i = 0; i < 150; ++i) {
+        devices << u"eth%1"_s.arg(i, 4, 10, QChar(u'0'));
+    }
+    for (const QString &device : devices) {
+        machine.host.plug({u"Ethernet"_s, device, {}, u"02:00:00:00:00:01"_s, {}});
+    }
+    run();
+    machine.notifications.addObserver(notifications::networkChanged, [this](const auto &posted) {
+        broadcasts << posted.userInfo.value(record::device).toString();
+    });
+    for (const QString &device : devices) {
+        giveLease(device);
+    }
+    machine.host.clearJournal();
+    machine.networkChanges.networkChanges();
+    EXPECT_EQ(broadcasts, devices);
+    EXPECT_EQ(machine.host.journal(), QStringList(u"ports"_s));
+}
+
+TEST_F(EventWiringBurst, WithoutAnyNewsIsOneNetworkChangeOfNoInterface)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    machine.networkChanges.networkChanges();
+    EXPECT_EQ(broadcasts, QStringList(QString()));
+    EXPECT_TRUE(evaluated.isEmpty());
+}
+
+TEST_F(EventWiringBurst, ThatEndsTheProgramMeanwhileDoesNoHarm)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    machine.notifications.addObserver(
+        notifications::networkChanged, [this](const auto &) { program.reset(); });
+    giveLease(u"enp1s0"_s);
+    giveLease(u"wlp2s0"_s);
+    machine.networkChanges.networkChanges();
+    EXPECT_EQ(broadcasts.size(), 1);
+}
+
+TEST_F(EventWiringTest, WhatTheStartReadIsNoNewsOfTheFirstNetworkChange)
+{
+    program.reset();
+    machine.host.at(enp2s0).active = false;
+    run();
+    QStringList evaluated;
+    machine.notifications.addObserver(notifications::updateOverview,
+        [&](const auto &posted) { evaluated << posted.userInfo.keys(); });
+    machine.networkChanges.networkChanges();
+    EXPECT_TRUE(evaluated.isEmpty());
+}
+
+TEST_F(EventWiringTest, AnInterfaceThatIsPluggedInLaterIsSelectedWhileNoneIs)
+{
+    program.reset();
+    machine.settings.set(keys::currentInterfaceDict, QVariantMap());
+    machine.settings.set(keys::deviceDict, QVariantMap());
+    for (const QString &device : {enp1s0, enp2s0}) {
+        machine.host.unplug(device);
+    }
+    run();
+    EXPECT_EQ(window().selectedDevice, QString());
+    EXPECT_FALSE(window().randomizeEnabled);
+    EXPECT_FALSE(window().updateEnabled);
+    EXPECT_FALSE(window().restoreEnabled);
+    for (const QString &why :
+        {window().whyNoRandomize, window().whyNoUpdate, window().whyNoRestore}) {
+        EXPECT_TRUE(why.startsWith(u"No interface is selected"_s)) << qPrintable(why);
+    }
+    EXPECT_FALSE(features().vendors.field.state().enabled);
+    EXPECT_TRUE(
+        features().vendors.field.state().whyDisabled.startsWith(u"No interface is selected"_s));
+
+    machine.host.plug({u"Ethernet"_s, enp2s0, {}, QString(), {}});
+    machine.networkChanges.networkChanges();
+    machine.scheduler.runPending();
+    EXPECT_EQ(window().selectedDevice, QString()) << "it has no address yet";
+
+    machine.host.plug({u"USB Ethernet"_s, u"enp9s0"_s, {}, u"3c:22:fb:00:00:09"_s, {}});
+    machine.networkChanges.networkChanges();
+    machine.scheduler.runPending();
+    EXPECT_EQ(window().selectedDevice, u"enp9s0"_s);
+    EXPECT_EQ(window().fieldText, u"3C:22:FB:00:00:09"_s);
+    EXPECT_TRUE(window().randomizeEnabled);
+    EXPECT_EQ(window().whyNoRandomize, QString());
+    EXPECT_TRUE(features().vendors.field.state().enabled);
+    EXPECT_EQ(features().vendors.field.state().whyDisabled, QString());
+    EXPECT_TRUE(std::ranges::any_of(features().statusMenu.entries(),
+        [](const MenuEntry &entry) { return entry.checked && entry.title.endsWith(u"enp9s0"_s); }));
 }
 
 TEST_F(EventWiringTest, ANetworkChangeRefreshesTheSelectedInterface)

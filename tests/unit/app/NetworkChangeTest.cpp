@@ -4,6 +4,7 @@
 
 #include <QUrl>
 
+#include <functional>
 #include <utility>
 
 namespace quillon::test {
@@ -115,7 +116,110 @@ TEST_F(NetworkChangeTest, TakesTheFirstInterfaceInTheOrderOfTheTableOnly)
     ASSERT_EQ(overviews.size(), 1);
     EXPECT_EQ(overviews.first().userInfo.keys(), QStringList{en0});
     networkEvent();
-    EXPECT_EQ(overviews.size(), 1) << "the other one is news no more";
+    ASSERT_EQ(overviews.size(), 2) << "the other one is news still";
+    EXPECT_EQ(overviews.last().userInfo.keys(), QStringList{en1});
+    networkEvent();
+    EXPECT_EQ(overviews.size(), 2);
+}
+
+TEST_F(NetworkChangeTest, CountsWhatARefreshInBetweenHasSeenAlready)
+{
+    struct Refresh
+    {
+        const char *what;
+        std::function<void()> make;
+    };
+    for (const auto &[what, make] :
+        {Refresh{"the menu opens", [this] { table.updateNetWorkInterfaces(); }},
+            Refresh{"an interface is chosen", [this] { current.updateInterface(en1); }},
+            Refresh{"the address is read back", [this] {
+                        table.update(en0, [&](DeviceRecord &record) {
+                            const InterfaceInfo info = table.getInfoForDevice(en0);
+                            record.ipAddress = info.ipAddress;
+                            record.status = info.status;
+                        });
+                    }}}) {
+        overviews.clear();
+        giveLease(en0);
+        make();
+        scheduler.runPending();
+        EXPECT_TRUE(overviews.isEmpty()) << what;
+        networkEvent();
+        EXPECT_EQ(overviews.size(), 1) << what;
+        networkEvent();
+        EXPECT_EQ(overviews.size(), 1) << what;
+    }
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(NetworkChangeTest, CountsTheRouteThatComesAfterEverythingElse)
+{
+    reachability.reachable = false;
+    giveLease(en0);
+    networkEvent();
+    EXPECT_TRUE(helper.changes().isEmpty());
+    for (const QString &router : {u"192.0.2.1"_s, u"direct"_s, u"192.0.2.1 fe80::1"_s}) {
+        host.at(en0).router = router;
+        reachability.reachable = true;
+        overviews.clear();
+        networkEvent();
+        EXPECT_EQ(overviews.size(), 1) << qPrintable(router);
+    }
+    EXPECT_EQ(changesOf(en0).size(), 1);
+}
+
+TEST_F(NetworkChangeTest, MakesUpOnceForWhatTheInternetWasMissingFor)
+{
+    reachability.reachable = false;
+    for (const QString &device : {en0, en1}) {
+        joinWifi(u"Home"_s, homeBssid);
+        giveLease(device);
+        networkEvent();
+    }
+    ASSERT_TRUE(helper.changes().isEmpty());
+    networkEvent();
+    ASSERT_TRUE(helper.changes().isEmpty()) << "it is missing still";
+    reachability.reachable = true;
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1) << "by a route of an interface that is no port";
+    EXPECT_EQ(changesOf(en1).size(), 1);
+    overviews.clear();
+    networkEvent();
+    EXPECT_TRUE(overviews.isEmpty());
+}
+
+TEST_F(NetworkChangeTest, ThatCannotReadTheInterfacesTakesNoneForTakenAway)
+{
+    giveLease(en0);
+    networkEvent();
+    ASSERT_EQ(changesOf(en0).size(), 1);
+    host.setUnreadable(true);
+    networkEvent();
+    host.setUnreadable(false);
+    giveLease(en0);
+    networkEvent();
+    EXPECT_EQ(changesOf(en0).size(), 1) << "it never left its network";
+}
+
+TEST_F(NetworkChangeTest, SelectsAnInterfaceWhileNoneIs)
+{
+    settings.set(keys::currentInterfaceDict, QVariantMap());
+    QStringList selected;
+    QObject::connect(&current, &CurrentInterface::interfaceSelected,
+        [&](const QString &device) { selected << device; });
+    for (const QString &device : {en0, en1, u"bridge0"_s}) {
+        host.at(device).broken = true;
+    }
+    networkEvent();
+    EXPECT_TRUE(selected.isEmpty());
+    EXPECT_EQ(current.device(), QString());
+    host.at(en0).broken = false;
+    networkEvent();
+    EXPECT_EQ(current.device(), en0);
+    EXPECT_EQ(selected.value(0), en0);
+    host.at(en1).broken = false;
+    networkEvent();
+    EXPECT_EQ(current.device(), en0) << "that one stays";
 }
 
 TEST_F(NetworkChangeTest, DoesNotCountAnInterfaceThatIsNew)

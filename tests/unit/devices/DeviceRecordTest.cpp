@@ -23,6 +23,7 @@ TEST(DeviceRecord, HoldsEveryKeyAndComesBackAsItWas)
         {record::current, u"02:16:3e:44:55:66"_s},
         {record::status, u"active"_s},
         {record::ipAddress, u"198.51.100.7"_s},
+        {record::router, u"198.51.100.1 fe80::1"_s},
         {record::vendor, u"Maker (A1B2C3)"_s},
         {record::hasRule, qlonglong(2)},
         {record::rule, rule},
@@ -36,6 +37,7 @@ TEST(DeviceRecord, HoldsEveryKeyAndComesBackAsItWas)
     EXPECT_EQ(record.current, u"02:16:3e:44:55:66"_s);
     EXPECT_EQ(record.status, u"active"_s);
     EXPECT_EQ(record.ipAddress, u"198.51.100.7"_s);
+    EXPECT_EQ(record.router, u"198.51.100.1 fe80::1"_s);
     EXPECT_EQ(record.vendor, u"Maker (A1B2C3)"_s);
     EXPECT_EQ(record.hasRule, 2);
     EXPECT_EQ(record.rule, rule);
@@ -93,19 +95,23 @@ TEST(DeviceRecord, IsWifiAndUpByTheExactTexts)
     EXPECT_FALSE(record.isUp());
 }
 
-TEST(DeviceRecordFirstChanged, IsTheFirstByNameWhoseRecordDiffers)
+TEST(DeviceRecord, IsTheSameInterfaceUnlessSomethingOfTheInterfaceDiffers)
 {
-    const DeviceRecord one{.status = u"active"_s};
-    const DeviceRecord other{.status = u"inactive"_s};
-    const QString en0 = u"en0"_s;
-    const QString en1 = u"en1"_s;
-    EXPECT_EQ(firstChangedDevice({}, {}), QString());
-    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, one}}), QString());
-    EXPECT_EQ(firstChangedDevice({{en0, one}, {en1, one}}, {{en0, one}, {en1, other}}), en1);
-    EXPECT_EQ(firstChangedDevice({{en1, one}, {en0, one}}, {{en0, other}, {en1, other}}), en0);
-    EXPECT_EQ(firstChangedDevice({{en0, one}}, {}), en0);
-    EXPECT_EQ(firstChangedDevice({{en0, one}}, {{en0, one}, {en1, one}}), QString())
-        << "a device that is new has not changed";
+    const DeviceRecord record{.interface = u"Ethernet"_s, .status = u"active"_s};
+    DeviceRecord other = record;
+    other.vendor = u"Maker (A1B2C3)"_s;
+    other.hasRule = 1;
+    other.rule = QVariantMap{{u"name"_s, u"home"_s}};
+    other.loginRule = QVariantMap();
+    other.other = {{u"future"_s, true}};
+    EXPECT_TRUE(isSameInterface(record, other)) << "what the program keeps there";
+    for (std::optional<QString> DeviceRecord::*field : {&DeviceRecord::interface,
+             &DeviceRecord::localizedInterface, &DeviceRecord::hardware, &DeviceRecord::current,
+             &DeviceRecord::status, &DeviceRecord::ipAddress, &DeviceRecord::router}) {
+        DeviceRecord changed = record;
+        changed.*field = u"other"_s;
+        EXPECT_FALSE(isSameInterface(record, changed));
+    }
 }
 
 } // namespace

@@ -137,6 +137,33 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
     EXPECT_EQ(recorded(u"en0"_s, record::localizedInterface), "Ethernet"_L1);
 }
 
+TEST_F(DeviceTableRefresh, HoldsTheRouterOnlyWhileThereIsOne)
+{
+    table.updateNetWorkInterfaces();
+    EXPECT_FALSE(storedRecord(u"en0"_s).contains(record::router));
+    host.at(u"en0"_s).router = u"192.0.2.1"_s;
+    table.updateNetWorkInterfaces();
+    EXPECT_EQ(recorded(u"en0"_s, record::router), "192.0.2.1"_L1);
+    host.at(u"en0"_s).router.clear();
+    table.updateNetWorkInterfaces();
+    EXPECT_FALSE(storedRecord(u"en0"_s).contains(record::router));
+}
+
+TEST_F(DeviceTableRefresh, ThatFailsSaysNothingOfAnyDevice)
+{
+    table.updateNetWorkInterfaces();
+    const QVariantMap before = storedTable();
+    host.setUnreadable(true);
+    table.updateNetWorkInterfaces();
+    EXPECT_EQ(storedTable(), before);
+    EXPECT_TRUE(table.isPresent(u"en0"_s)) << "it was not taken away";
+    EXPECT_EQ(table.devicesWithNews(), QStringList());
+    host.setUnreadable(false);
+    host.unplug(u"en0"_s);
+    table.updateNetWorkInterfaces();
+    EXPECT_FALSE(table.isPresent(u"en0"_s));
+}
+
 class DeviceTableFactoryAddressUntold : public DeviceFixture
 {
 protected:
@@ -198,6 +225,17 @@ TEST_F(DeviceTableOfATextualHost, FillTheSameRecords)
         {record::ipAddress, u"198.51.100.7"_s},
     };
     EXPECT_EQ(storedRecord(u"en0"_s), expected);
+}
+
+TEST_F(DeviceTableOfATextualHost, SkipsPortsByTheNameAsTheSystemWritesIt)
+{
+    commands.teach(list,
+        u"Hardware Port: Thunderbolt (the Bridge)\nDevice: bridge0\n"
+        "Ethernet Address: 00:16:3e:00:00:01\n\n"
+        "Hardware Port: LAN (Bluetooth)\nDevice: en3\nEthernet Address: 00:16:3e:00:00:03\n\n"_s);
+    textualTable.updateNetWorkInterfaces();
+    EXPECT_EQ(textualTable.names(), QStringList{u"bridge0"_s});
+    EXPECT_EQ(recorded(u"bridge0"_s, record::interface), "Thunderbolt"_L1);
 }
 
 TEST_F(DeviceTableOfATextualHost, En10OverwritesTheRecordOfEn1)
@@ -281,10 +319,10 @@ TEST_F(DeviceTableQueries, ListsSortByCharacterAndPutOneWifiInFront)
 class TouchyHost : public NetworkHost
 {
 public:
-    QList<PortRecord> ports() override
+    std::optional<QList<PortRecord>> ports() override
     {
         occupied();
-        return {};
+        return QList<PortRecord>();
     }
     InterfaceInfo info(const QString &) override
     {

@@ -4,12 +4,12 @@
 
 #include "netlink/NetlinkAttributes.h"
 
-#include <arpa/inet.h>
 #include <array>
 #include <linux/if.h>
 #include <linux/if_addr.h>
 #include <linux/if_link.h>
 #include <linux/rtnetlink.h>
+#include <netinet/in.h>
 
 namespace quillon {
 
@@ -84,9 +84,7 @@ std::optional<AddressInfo> addressInfo(const nlmsghdr &message)
     if (!about || about->ifa_family != AF_INET || ours.size() != sizeof(in_addr)) {
         return std::nullopt;
     }
-    std::array<char, INET_ADDRSTRLEN> dotted{};
-    inet_ntop(AF_INET, ours.data(), dotted.data(), dotted.size());
-    return AddressInfo{static_cast<int>(about->ifa_index), QString::fromLatin1(dotted.data())};
+    return AddressInfo{static_cast<int>(about->ifa_index), internetAddressText(ours)};
 }
 
 template <typename Info>
@@ -112,14 +110,20 @@ void LinkMessages::add(const nlmsghdr &message)
         append(addresses, addressInfo(message));
     } else if (message.nlmsg_type == RTM_NEWROUTE) {
         append(routes, defaultRoute(message));
+    } else if (message.nlmsg_type == RTM_NEWNEXTHOP) {
+        if (const auto object = nextHopObject(message)) {
+            nextHops.insert(object->id, *object);
+        }
     }
 }
 
-bool tellsOfChange(ByteSpan datagram)
+bool tellsOfChange(ByteSpan datagram, KnownAddresses &known)
 {
     bool changed = false;
-    const bool readable = forEachMessage(
-        datagram, [&](const nlmsghdr &message) { changed = changed || !isWirelessEvent(message); });
+    const bool readable = forEachMessage(datagram, [&](const nlmsghdr &message) {
+        const bool isRepeated = known.isRepeated(message);
+        changed = changed || (!isRepeated && !isWirelessEvent(message));
+    });
     return changed || !readable;
 }
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "platform/linux/netlink/DefaultRoute.h"
+#include "platform/linux/netlink/KnownAddresses.h"
+#include "platform/linux/netlink/NextHopObjects.h"
 
 #include <QList>
 #include <QString>
@@ -42,16 +44,18 @@ struct LinkMessages
     QList<LinkInfo> links;
     QList<AddressInfo> addresses;
     QList<DefaultRoute> routes; ///< other routes are left out
-    int error = 0;              ///< errno of an answer that failed, else 0
+    NextHopObjects nextHops;
+    int error = 0; ///< errno of an answer that failed, else 0
 
     /// Whatever is truncated or malformed is left out.
     void add(const nlmsghdr &message);
 };
 
-/// Whether a datagram of the LINK, IPV4_IFADDR and IPV4_ROUTE groups tells of a change. Wireless
-/// events (scan finished and the like, IFLA_WIRELESS) are none: they come every few seconds and
-/// carry no state of the link. An unreadable datagram counts as a change. Aligned as nlmsghdr.
-bool tellsOfChange(ByteSpan datagram);
+/// Whether a datagram of the groups for links, addresses, routes and nexthop objects tells of a
+/// change. Wireless events (scan finished and the like, IFLA_WIRELESS) are none: they come every
+/// few seconds and carry no state of the link. Nor is an address that is `known` and told again. An
+/// unreadable datagram counts as a change. Aligned as nlmsghdr.
+bool tellsOfChange(ByteSpan datagram, KnownAddresses &known);
 
 /// Whether the link can carry traffic. IF_OPER_UNKNOWN, which drivers without operational state
 /// report all the time, counts as up when the carrier is there.

@@ -21,13 +21,24 @@ constexpr auto longestBurst = 1s;
 // A burst that is longer is read on at the main loop's next turn.
 constexpr int datagramsAtOnce = 1000;
 
+constexpr std::uint32_t bitOf(rtnetlink_groups group)
+{
+    return std::uint32_t{1} << (group - 1);
+}
+
+constexpr std::uint32_t groups = bitOf(RTNLGRP_LINK) | bitOf(RTNLGRP_IPV4_IFADDR) |
+                                 bitOf(RTNLGRP_IPV4_ROUTE) | bitOf(RTNLGRP_IPV6_IFADDR) |
+                                 bitOf(RTNLGRP_IPV6_ROUTE) | bitOf(RTNLGRP_NEXTHOP);
+
 } // namespace
 
 NetlinkChangeSource::NetlinkChangeSource(Scheduler &scheduler)
     : m_scheduler(scheduler)
-    , m_socket({.protocol = NETLINK_ROUTE,
-          .groups = RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV4_ROUTE})
+    , m_socket({.protocol = NETLINK_ROUTE, .groups = groups})
 {
+    // Before anybody reads the interfaces: what changes between that and start() waits here. When
+    // it fails, start() tries again and says so.
+    m_socket.open();
 }
 
 NetlinkChangeSource::~NetlinkChangeSource() = default;
@@ -54,8 +65,12 @@ void NetlinkChangeSource::read()
         error = m_socket.receive(datagram);
         // Messages that were lost told of something, and the socket goes on with the next one.
         const bool lost = error == ENOBUFS || error == EMSGSIZE;
-        error = lost ? 0 : error;
-        changed = changed || lost || tellsOfChange(datagram);
+        if (lost) {
+            error = 0;
+            m_known.forget();
+        }
+        const bool tells = tellsOfChange(datagram, m_known);
+        changed = changed || lost || tells;
     }
     if (error != 0 && error != EAGAIN) {
         qCWarning(logPlatform, "Network changes end: %s", std::strerror(error));

@@ -5,6 +5,7 @@
 #include "netlink/NetlinkSocket.h"
 #include "platform/NetworkChangeSource.h"
 #include "platform/linux/netlink/BurstCollector.h"
+#include "platform/linux/netlink/KnownAddresses.h"
 
 #include <QSocketNotifier>
 
@@ -14,9 +15,10 @@ namespace quillon {
 
 class Scheduler;
 
-/// The rtnetlink(7) groups for links, IPv4 addresses and IPv4 routes. One action of a person or a
-/// network manager gives several messages within milliseconds: they are one change, told when it
-/// has been quiet for 100 ms, at the latest after one second. Main thread.
+/// The rtnetlink(7) groups for links, addresses and routes, IPv4 and IPv6, and for the objects that
+/// routes may lead to. One action of a person or a network manager gives several messages within
+/// milliseconds: they are one change, told when it has been quiet for 100 ms, at the latest after
+/// one second. What happens from the construction on is told, after start(). Main thread.
 class NetlinkChangeSource : public NetworkChangeSource
 {
 public:
@@ -30,6 +32,7 @@ private:
 
     Scheduler &m_scheduler;
     NetlinkSocket m_socket;
+    KnownAddresses m_known;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<BurstCollector> m_burst;
 };

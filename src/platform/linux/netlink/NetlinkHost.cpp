@@ -33,16 +33,33 @@ QHash<int, QString> firstAddresses(const QList<AddressInfo> &addresses)
     return first;
 }
 
+/// By index of the interface.
+QHash<int, QString> routers(const QList<NextHop> &hops)
+{
+    QHash<int, QStringList> found;
+    for (const NextHop &hop : hops) {
+        found[hop.interface].append(hop.gateway.isEmpty() ? u"direct"_s : hop.gateway);
+    }
+    QHash<int, QString> texts;
+    for (auto entry = found.begin(); entry != found.end(); ++entry) {
+        entry->sort();
+        entry->removeDuplicates();
+        texts.insert(entry.key(), entry->join(u' '));
+    }
+    return texts;
+}
+
 InterfaceInfo interfaceInfo(const LinkInfo &link, const QString &ipv4)
 {
     return {ipv4, link.address, statusText(link)};
 }
 
-void logFailure(const char *what, int error)
+bool isRead(const char *what, int error)
 {
     if (error != 0) {
         qCWarning(logPlatform, "%s could not be read: %s", what, std::strerror(error));
     }
+    return error == 0;
 }
 
 } // namespace
@@ -52,24 +69,25 @@ NetlinkHost::NetlinkHost(QString sysfs)
 {
 }
 
-QList<PortRecord> NetlinkHost::ports()
+std::optional<QList<PortRecord>> NetlinkHost::ports()
 {
     RouteSocket socket;
     const LinkMessages links = socket.links();
-    logFailure("Interfaces", links.error);
-    if (links.error != 0) {
-        return {};
-    }
     const LinkMessages addresses = socket.addresses();
-    logFailure("IPv4 addresses", addresses.error);
+    const RouteSocket::Hops hops = socket.defaultHops();
+    if (!isRead("Interfaces", links.error) || !isRead("IPv4 addresses", addresses.error) ||
+        !isRead("Routes", hops.error)) {
+        return std::nullopt;
+    }
     const QHash<int, QString> ipv4 = firstAddresses(addresses.addresses);
+    const QHash<int, QString> router = routers(hops.hops);
     QList<PortRecord> ports;
     for (const LinkInfo &link : links.links) {
         const QString name =
-            portName(link, hasHardware(link) ? hardwareInfo(link) : HardwareInfo{});
+            offeredPortName(link, hasHardware(link) ? hardwareInfo(link) : HardwareInfo{});
         if (!name.isEmpty()) {
             ports.append({name, link.name, link.permanentAddress,
-                interfaceInfo(link, ipv4.value(link.index))});
+                interfaceInfo(link, ipv4.value(link.index)), router.value(link.index)});
         }
     }
     return ports;
@@ -83,7 +101,7 @@ InterfaceInfo NetlinkHost::info(const QString &device)
     }
     RouteSocket socket;
     const LinkMessages links = socket.link(name);
-    logFailure("Interface", links.error == ENODEV ? 0 : links.error);
+    isRead("Interface", links.error == ENODEV ? 0 : links.error);
     if (links.links.isEmpty() || links.links.first().name != device) {
         return {};
     }

@@ -9,14 +9,15 @@
 namespace quillon {
 
 /// What the kernel reports through rtnetlink(7): one dump of the links, one of the IPv4 addresses,
-/// and a look into sysfs for interfaces with hardware behind them.
+/// one of the default routes per family, and a look into sysfs for interfaces with hardware behind
+/// them. When one of the dumps fails there is no list at all: half of it would look like a change.
 class NetlinkHost : public NetworkHost
 {
 public:
     /// `sysfs` is where the kernel shows its interfaces.
     explicit NetlinkHost(QString sysfs = QStringLiteral("/sys/class/net"));
 
-    QList<PortRecord> ports() override;
+    std::optional<QList<PortRecord>> ports() override;
     InterfaceInfo info(const QString &device) override;
 
 private:

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/netlink/PortClassifier.h"
 
+#include "platform/PortName.h"
+
 #include <QLatin1String>
 #include <QRegularExpression>
 
@@ -84,6 +86,12 @@ QString portName(const LinkInfo &link, const HardwareInfo &hardware)
         return {};
     }
     return link.kind.empty() ? hardwarePortName(link, hardware) : softwarePortName(link);
+}
+
+QString offeredPortName(const LinkInfo &link, const HardwareInfo &hardware)
+{
+    const QString name = portName(link, hardware);
+    return isSkippedPortName(name) ? QString() : name;
 }
 
 std::optional<HardwareInfo> hardwareInfoFromUevent(const QByteArray &uevent, int index)

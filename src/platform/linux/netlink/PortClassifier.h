@@ -25,6 +25,9 @@ bool hasHardware(const LinkInfo &link);
 /// mobile broadband, and whatever containers, virtual machines or stacked interfaces bring along.
 QString portName(const LinkInfo &link, const HardwareInfo &hardware);
 
+/// The same, and empty for a port whose name is skipped (PortName.h).
+QString offeredPortName(const LinkInfo &link, const HardwareInfo &hardware);
+
 /// What a uevent file of /sys/class/net tells, or none when it is about another interface: /sys
 /// may have been mounted in another network namespace.
 std::optional<HardwareInfo> hardwareInfoFromUevent(const QByteArray &uevent, int index);

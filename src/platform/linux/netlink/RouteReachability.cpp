@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <linux/if.h>
-#include <sys/socket.h>
 
 namespace quillon {
 
@@ -31,12 +30,8 @@ bool RouteReachability::isReachable()
 {
     RouteSocket socket;
     const QSet<int> active = activeLinks(socket.links().links);
-    const auto leadsOut = [&](const DefaultRoute &route) {
-        return route.leadsToObject || std::ranges::any_of(route.interfaces,
-                                          [&](int index) { return active.contains(index); });
-    };
-    return std::ranges::any_of(socket.defaultRoutes(AF_INET).routes, leadsOut) ||
-           std::ranges::any_of(socket.defaultRoutes(AF_INET6).routes, leadsOut);
+    return std::ranges::any_of(socket.defaultHops().hops,
+        [&](const NextHop &hop) { return active.contains(hop.interface); });
 }
 
 } // namespace quillon

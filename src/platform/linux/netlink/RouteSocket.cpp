@@ -4,8 +4,12 @@
 
 #include <netlink/attr.h>
 
+#include <algorithm>
+#include <cerrno>
+#include <linux/nexthop.h>
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
+#include <utility>
 
 namespace quillon {
 
@@ -50,6 +54,35 @@ LinkMessages RouteSocket::defaultRoutes(int family)
     header.rtm_family = static_cast<unsigned char>(family);
     header.rtm_type = RTN_UNICAST;
     return read(netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, header));
+}
+
+LinkMessages RouteSocket::nextHopObjects()
+{
+    return read(netlinkMessage(RTM_GETNEXTHOP, NLM_F_DUMP, nhmsg{}));
+}
+
+RouteSocket::Hops RouteSocket::defaultHops()
+{
+    Hops found;
+    QList<DefaultRoute> routes;
+    for (const int family : {AF_INET, AF_INET6}) {
+        const LinkMessages messages = defaultRoutes(family);
+        routes += messages.routes;
+        // A kernel without IPv6 has no such routes.
+        const bool isMissing = messages.error == EOPNOTSUPP || messages.error == EAFNOSUPPORT;
+        found.error = found.error != 0 || isMissing ? found.error : messages.error;
+    }
+    // Nearly always the routes tell their hops themselves.
+    NextHopObjects objects;
+    if (std::ranges::any_of(routes, [](const auto &route) { return route.object != 0; })) {
+        const LinkMessages messages = nextHopObjects();
+        objects = messages.nextHops;
+        found.error = found.error != 0 ? found.error : messages.error;
+    }
+    for (const DefaultRoute &route : std::as_const(routes)) {
+        found.hops += hopsOf(route, objects);
+    }
+    return found;
 }
 
 LinkMessages RouteSocket::read(const NetlinkMessage &message)

@@ -17,10 +17,18 @@ public:
     LinkMessages link(const QByteArray &name);
     /// The IPv4 addresses of one link, or of all (0), in the kernel's order.
     LinkMessages addresses(int index = 0);
-    /// The default routes of one family, AF_INET or AF_INET6.
-    LinkMessages defaultRoutes(int family);
+    /// The next hops of all default routes, IPv4 and IPv6; a hop that several routes share is there
+    /// several times.
+    struct Hops
+    {
+        QList<NextHop> hops;
+        int error = 0; ///< errno, else 0
+    };
+    Hops defaultHops();
 
 private:
+    LinkMessages defaultRoutes(int family);
+    LinkMessages nextHopObjects();
     LinkMessages read(const NetlinkMessage &message);
 
     // Strict: for the index of an address request and the type of a route request.

@@ -61,12 +61,42 @@ TEST_F(NetlinkChangeSourceTest, LinkAddressAndRouteAreEachAChange)
     for (const QString &change :
         {u"ip link set enp2s0 mtu 1400"_s, u"ip addr add 198.51.100.7/24 dev enp1s0"_s,
             u"ip route add 203.0.113.0/24 dev enp1s0"_s, u"ip route del 203.0.113.0/24"_s,
+            u"ip -6 addr add 2001:db8::7/64 dev enp1s0 nodad"_s,
+            u"ip -6 route add default via 2001:db8::1 dev enp1s0"_s,
+            u"ip -6 route del default via 2001:db8::1 dev enp1s0"_s,
+            u"ip nexthop add id 7 via 192.0.2.1 dev enp1s0"_s, u"ip nexthop del id 7"_s,
             u"ip link add eth5 type veth peer name far5"_s, u"ip link del eth5"_s}) {
         letItSettle();
         told = 0;
         command(change);
         EXPECT_TRUE(eventually([this] { return told == 1; })) << qPrintable(change);
     }
+}
+
+TEST_F(NetlinkChangeSourceTest, WhatHappensBetweenConstructionAndStartIsToldToo)
+{
+    command(u"ip link set enp2s0 mtu 1400"_s);
+    source.start([this] { ++told; });
+    EXPECT_TRUE(eventually([this] { return told == 1; }));
+}
+
+TEST_F(NetlinkChangeSourceTest, AnAddressWhoseLifetimeIsRenewedIsNoChange)
+{
+    source.start([this] { ++told; });
+    command(u"ip -6 addr add 2001:db8::7/64 dev enp1s0 nodad valid_lft 1800 preferred_lft 900"_s);
+    EXPECT_TRUE(eventually([this] { return told > 0; }));
+    letItSettle();
+    told = 0;
+    // As at each announcement of a router.
+    for (const char *lifetime : {"1801", "1802", "1803"}) {
+        command(u"ip -6 addr change 2001:db8::7/64 dev enp1s0 valid_lft %1 preferred_lft 900"_s.arg(
+            QLatin1String(lifetime)));
+    }
+    // The next change is told, and before it nothing was.
+    command(u"ip link set enp2s0 mtu 1400"_s);
+    EXPECT_TRUE(eventually([this] { return told > 0; }));
+    letItSettle();
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(NetlinkChangeSourceTest, TheChangeIsVisibleWhenItIsTold)

@@ -32,7 +32,7 @@ QStringList devices(const QList<PortRecord> &ports)
 
 PortRecord portOf(const QString &device)
 {
-    const QList<PortRecord> ports = NetlinkHost().ports();
+    const QList<PortRecord> ports = NetlinkHost().ports().value();
     const auto found =
         std::ranges::find_if(ports, [&](const PortRecord &port) { return port.device == device; });
     return found == ports.end() ? PortRecord{} : *found;
@@ -87,7 +87,7 @@ TEST(NetlinkHost, ListsThePortsOfTheMachineAndNothingElse)
     command(u"ip link add vethhost type veth peer name eth0 netns 1"_s);
     command(u"ip link add docker0 type bridge"_s);
     command(u"ip tuntap add tap0 mode tap"_s);
-    const QList<PortRecord> ports = NetlinkHost().ports();
+    const QList<PortRecord> ports = NetlinkHost().ports().value();
     QStringList names = devices(ports);
     names.sort();
     EXPECT_EQ(names, (QStringList{u"br0"_s, u"enp1s0"_s, u"enp2s0"_s, u"eth0"_s}));
@@ -101,7 +101,7 @@ TEST(NetlinkHost, SaysTheSameAsIp)
     command(u"ip addr add 203.0.113.9/24 dev enp2s0"_s);
     const QHash<QString, InterfaceInfo> expected = interfacesByIp();
     NetlinkHost host;
-    const QList<PortRecord> ports = host.ports();
+    const QList<PortRecord> ports = host.ports().value();
     ASSERT_GE(ports.size(), 3);
     for (const PortRecord &port : ports) {
         EXPECT_EQ(port.info, expected.value(port.device)) << qPrintable(port.device);
@@ -167,6 +167,54 @@ TEST(NetlinkHost, FirstAddressWhereTheListOfAddressesHasAll)
     EXPECT_EQ(listed, (QStringList{u"192.0.2.10"_s, u"198.51.100.7"_s}));
 }
 
+TEST(NetlinkHost, RoutersAreThoseOfEveryKindOfDefaultRoute)
+{
+    const auto router = [](const char *device = "enp1s0") {
+        return portOf(QLatin1String(device)).router;
+    };
+    EXPECT_EQ(router(), u"192.0.2.1"_s);
+    EXPECT_EQ(router("enp2s0"), QString());
+    command(u"ip -6 addr add 2001:db8::2/64 dev enp1s0 nodad"_s);
+    command(u"ip -6 route add default via fe80::1 dev enp1s0 metric 100"_s);
+    EXPECT_EQ(router(), u"192.0.2.1 fe80::1"_s);
+    command(u"ip route del default"_s);
+    EXPECT_EQ(router(), u"fe80::1"_s) << "IPv6 alone";
+    command(u"ip -6 route del default via fe80::1 dev enp1s0"_s);
+    EXPECT_EQ(router(), QString());
+    command(u"ip route add default dev enp1s0"_s);
+    EXPECT_EQ(router(), u"direct"_s);
+    command(u"ip route add default via 192.0.2.3 dev enp1s0 metric 50"_s);
+    EXPECT_EQ(router(), u"192.0.2.3 direct"_s);
+    command(u"ip route flush exact default"_s);
+    command(u"ip addr add 198.51.100.2/24 dev enp2s0"_s);
+    command(u"ip route add default nexthop via 192.0.2.4 dev enp1s0 "
+            "nexthop via 198.51.100.1 dev enp2s0"_s);
+    EXPECT_EQ(router(), u"192.0.2.4"_s);
+    EXPECT_EQ(router("enp2s0"), u"198.51.100.1"_s);
+    command(u"ip route flush exact default"_s);
+    command(u"ip route add 203.0.113.0/24 via 192.0.2.9"_s);
+    command(u"ip route add default via 192.0.2.9 table 51820"_s);
+    command(u"ip route add unreachable default metric 10"_s);
+    EXPECT_EQ(router(), QString()) << "none of these is a way out for everything";
+}
+
+TEST(NetlinkHost, RoutersAreFoundBehindObjectsThatRoutesLeadTo)
+{
+    command(u"ip route flush exact default"_s);
+    command(u"ip addr add 198.51.100.2/24 dev enp2s0"_s);
+    command(u"ip nexthop add id 7 via 192.0.2.5 dev enp1s0"_s);
+    command(u"ip nexthop add id 8 via 198.51.100.1 dev enp2s0"_s);
+    command(u"ip nexthop add id 9 group 7/8"_s);
+    command(u"ip route add default nhid 9"_s);
+    for (const char *tells : {"1", "0"}) { // whether routes tell their hops beside the object
+        command(u"sysctl -qw net.ipv4.nexthop_compat_mode=%1"_s.arg(QLatin1String(tells)));
+        EXPECT_EQ(portOf(u"enp1s0"_s).router, u"192.0.2.5"_s) << tells;
+        EXPECT_EQ(portOf(u"enp2s0"_s).router, u"198.51.100.1"_s) << tells;
+    }
+    command(u"ip nexthop replace id 7 via 192.0.2.6 dev enp1s0"_s);
+    EXPECT_EQ(portOf(u"enp1s0"_s).router, u"192.0.2.6"_s);
+}
+
 TEST(NetlinkHost, ReadsAThousandInterfacesFasterThanIp)
 {
     QByteArray batch;
@@ -176,7 +224,7 @@ TEST(NetlinkHost, ReadsAThousandInterfacesFasterThanIp)
     }
     command(u"ip -batch -"_s, batch);
     NetlinkHost host;
-    EXPECT_GE(host.ports().size(), 1000);
+    EXPECT_GE(host.ports().value().size(), 1000);
     const double ours = processorMilliseconds(RUSAGE_SELF, [&host] { host.ports(); });
     const double ip = processorMilliseconds(RUSAGE_CHILDREN, [] { command(u"ip -j addr"_s); });
     EXPECT_LT(ours, ip);

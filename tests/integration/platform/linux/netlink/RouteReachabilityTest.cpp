@@ -104,6 +104,21 @@ TEST_F(RouteReachabilityWays, RoutesThatRefuseLeadNowhere)
     EXPECT_FALSE(isReachable());
 }
 
+TEST_F(RouteReachabilityWays, AnObjectLeadsOutWhereItsHopDoes)
+{
+    ip("link add far0 type veth peer name eth7");
+    ip("link set eth7 up");
+    ip("link set far0 up");
+    ip("addr add 198.51.100.2/24 dev eth7");
+    EXPECT_TRUE(eventually([] { return command(u"ip link show eth7"_s).contains("state UP"); }));
+    command(u"sysctl -qw net.ipv4.nexthop_compat_mode=0"_s);
+    ip("nexthop add id 7 via 198.51.100.1 dev eth7");
+    ip("route add default nhid 7");
+    EXPECT_TRUE(becomesReachable());
+    ip("link set eth7 state dormant mode dormant"); // as before authentication by 802.1X
+    EXPECT_TRUE(becomesUnreachable());
+}
+
 TEST_F(RouteReachabilityWays, OneOfSeveralHopsSuffices)
 {
     ip("link add far0 type veth peer name eth7");

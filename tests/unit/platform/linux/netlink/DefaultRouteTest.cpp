@@ -11,6 +11,8 @@
 
 namespace quillon::test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Route
@@ -54,10 +56,24 @@ std::optional<DefaultRoute> read(
     return read(message(route, list).span());
 }
 
-QByteArray nextHop(int index, quint8 flags = 0)
+QList<int> interfacesOf(const std::optional<DefaultRoute> &route)
+{
+    QList<int> interfaces;
+    for (const NextHop &hop : route.value_or(DefaultRoute{}).hops) {
+        interfaces.append(hop.interface);
+    }
+    return interfaces;
+}
+
+const QByteArray router4 = QByteArray::fromHex("c0000201");
+const QByteArray router6 = QByteArray::fromHex("fe800000000000000000000000000001");
+
+QByteArray nextHop(int index, quint8 flags = 0, const QByteArray &router = router4)
 {
     NetlinkBytes gateway;
-    gateway.attribute(RTA_GATEWAY, QByteArray(4, '\1'));
+    if (!router.isEmpty()) {
+        gateway.attribute(RTA_GATEWAY, router);
+    }
     rtnexthop hop{};
     hop.rtnh_len = static_cast<unsigned short>(sizeof hop + gateway.size());
     hop.rtnh_flags = flags;
@@ -69,8 +85,8 @@ QByteArray nextHop(int index, quint8 flags = 0)
 
 TEST(DefaultRoute, LeadsThroughAnInterface)
 {
-    EXPECT_EQ(read({}, {{RTA_OIF, number(3)}})->interfaces, QList<int>{3});
-    EXPECT_FALSE(read({}, {{RTA_OIF, number(3)}})->leadsToObject);
+    EXPECT_EQ(interfacesOf(read({}, {{RTA_OIF, number(3)}})), QList<int>{3});
+    EXPECT_EQ(read({}, {{RTA_OIF, number(3)}})->object, 0);
 }
 
 TEST(DefaultRoute, RoutesToSomewhereOnlyAreNone)
@@ -100,20 +116,50 @@ TEST(DefaultRoute, OnlyTheTablesOfOrdinaryTrafficCount)
 
 TEST(DefaultRoute, DeadHopsAreNoHops)
 {
-    EXPECT_TRUE(read({.flags = RTNH_F_LINKDOWN}, {{RTA_OIF, number(3)}})->interfaces.isEmpty());
-    EXPECT_TRUE(read({.flags = RTNH_F_DEAD}, {{RTA_OIF, number(3)}})->interfaces.isEmpty());
-    EXPECT_EQ(read({.flags = RTNH_F_ONLINK}, {{RTA_OIF, number(3)}})->interfaces, QList<int>{3});
-    EXPECT_EQ(
-        read({}, {{RTA_MULTIPATH, nextHop(3) + nextHop(4, RTNH_F_DEAD) + nextHop(5)}})->interfaces,
+    EXPECT_TRUE(read({.flags = RTNH_F_LINKDOWN}, {{RTA_OIF, number(3)}})->hops.isEmpty());
+    EXPECT_TRUE(read({.flags = RTNH_F_DEAD}, {{RTA_OIF, number(3)}})->hops.isEmpty());
+    EXPECT_EQ(interfacesOf(read({.flags = RTNH_F_ONLINK}, {{RTA_OIF, number(3)}})), QList<int>{3});
+    EXPECT_EQ(interfacesOf(
+                  read({}, {{RTA_MULTIPATH, nextHop(3) + nextHop(4, RTNH_F_DEAD) + nextHop(5)}})),
         (QList<int>{3, 5}));
 }
 
-TEST(DefaultRoute, HopsThatAreAnObjectAreNotSeen)
+TEST(DefaultRoute, LeadsToAnObjectOnlyWhereItTellsNoHopsItself)
 {
-    EXPECT_TRUE(read({}, {{RTA_NH_ID, number(7)}})->leadsToObject);
-    EXPECT_FALSE(read({}, {{RTA_NH_ID, number(7)}, {RTA_OIF, number(3)}})->leadsToObject);
-    EXPECT_FALSE(read({.flags = RTNH_F_DEAD}, {{RTA_NH_ID, number(7)}})->leadsToObject);
-    EXPECT_FALSE(read({}, {})->leadsToObject);
+    EXPECT_EQ(read({}, {{RTA_NH_ID, number(7)}})->object, 7);
+    EXPECT_EQ(read({}, {{RTA_NH_ID, number(7)}, {RTA_OIF, number(3)}})->object, 0);
+    EXPECT_EQ(
+        read({}, {{RTA_NH_ID, number(7)}, {RTA_MULTIPATH, nextHop(3, RTNH_F_DEAD)}})->object, 0);
+    EXPECT_EQ(read({.flags = RTNH_F_DEAD}, {{RTA_NH_ID, number(7)}})->object, 0);
+    EXPECT_EQ(read({}, {})->object, 0);
+}
+
+TEST(DefaultRoute, NamesItsRoutersOfEitherFamily)
+{
+    const auto gateways = [](const std::optional<DefaultRoute> &route) {
+        QStringList texts;
+        for (const NextHop &hop : route->hops) {
+            texts << hop.gateway;
+        }
+        return texts;
+    };
+    EXPECT_EQ(gateways(read({}, {{RTA_OIF, number(3)}, {RTA_GATEWAY, router4}})),
+        QStringList(u"192.0.2.1"_s));
+    EXPECT_EQ(gateways(read({}, {{RTA_OIF, number(3)}, {RTA_GATEWAY, router6}})),
+        QStringList(u"fe80::1"_s));
+    EXPECT_EQ(gateways(read({}, {{RTA_OIF, number(3)}})), QStringList(QString()));
+    EXPECT_EQ(gateways(read({}, {{RTA_OIF, number(3)}, {RTA_GATEWAY, QByteArray(5, '\1')}})),
+        QStringList(QString()))
+        << "of no family";
+    // An IPv6 router of an IPv4 route.
+    EXPECT_EQ(
+        gateways(read({}, {{RTA_OIF, number(3)}, {RTA_VIA, littleEndian(AF_INET6) + router6}})),
+        QStringList(u"fe80::1"_s));
+    EXPECT_EQ(gateways(read({}, {{RTA_OIF, number(3)}, {RTA_VIA, QByteArray(1, '\2')}})),
+        QStringList(QString()));
+    EXPECT_EQ(gateways(read({}, {{RTA_MULTIPATH, nextHop(3) + nextHop(4, 0, router6) +
+                                                     nextHop(5, 0, QByteArray())}})),
+        (QStringList{u"192.0.2.1"_s, u"fe80::1"_s, QString()}));
 }
 
 TEST(DefaultRoute, CutShortAnywhereItHasNoHopOfItsOwnMaking)
@@ -127,7 +173,7 @@ TEST(DefaultRoute, CutShortAnywhereItHasNoHopOfItsOwnMaking)
         const std::vector<std::byte> exact(cut.span().begin(), cut.span().end());
         const auto route = read(exact);
         EXPECT_EQ(route.has_value(), size >= sizeof(nlmsghdr) + sizeof(rtmsg)) << size;
-        for (const int index : route.value_or(DefaultRoute{}).interfaces) {
+        for (const int index : interfacesOf(route)) {
             EXPECT_TRUE(index == 3 || index == 5) << size;
         }
     }
@@ -135,7 +181,7 @@ TEST(DefaultRoute, CutShortAnywhereItHasNoHopOfItsOwnMaking)
         QByteArray hops = nextHop(3);
         hops.replace(0, 2, littleEndian(lie));
         const auto route = read({}, {{RTA_MULTIPATH, hops}});
-        EXPECT_LE(route->interfaces.size(), 2) << lie;
+        EXPECT_LE(route->hops.size(), 2) << lie;
     }
 }
 

@@ -148,7 +148,8 @@ TEST(LinkMessagesMutation, SurvivesAHundredThousandDamagedTables)
         LinkMessages messages;
         NetlinkAnswer answer{.sequence = NetlinkBytes::sequence};
         answer.add(damaged, [&](const nlmsghdr &message) { messages.add(message); });
-        tellsOfChange(damaged);
+        KnownAddresses known;
+        tellsOfChange(damaged, known);
         unharmed += messages.links.size() == 2 || messages.addresses.size() == 2;
         for (const LinkInfo &link : std::as_const(messages.links)) {
             implausible += !isPlausible(link);

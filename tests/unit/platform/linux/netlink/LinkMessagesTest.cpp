@@ -161,29 +161,43 @@ TEST(LinkMessages, NeverReadsBeyondATruncatedDatagram)
 
 TEST(LinkMessagesOfChanges, LinksAddressesAndRoutesAreChanges)
 {
+    KnownAddresses known;
     for (const quint16 type : {RTM_NEWLINK, RTM_DELLINK, RTM_NEWADDR, RTM_DELADDR, RTM_NEWROUTE}) {
         NetlinkBytes bytes;
         bytes.message(type, ethernet()).text(IFLA_IFNAME, "eth0");
-        EXPECT_TRUE(tellsOfChange(bytes.span())) << type;
+        EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << type;
     }
 }
 
 TEST(LinkMessagesOfChanges, WirelessEventsAreNone)
 {
+    KnownAddresses known;
     NetlinkBytes bytes;
     bytes.message(RTM_NEWLINK, ethernet())
         .text(IFLA_IFNAME, "wlp2s0")
         .attribute(IFLA_WIRELESS, QByteArray(8, '\1'));
-    EXPECT_FALSE(tellsOfChange(bytes.span()));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known));
     bytes.message(RTM_NEWLINK, ethernet()).text(IFLA_IFNAME, "wlp2s0");
-    EXPECT_TRUE(tellsOfChange(bytes.span())) << "with another message beside it";
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << "with another message beside it";
 }
 
 TEST(LinkMessagesOfChanges, WhatCannotBeReadCountsAsAChange)
 {
+    KnownAddresses known;
     NetlinkBytes bytes;
     bytes.message(RTM_NEWLINK, ethernet()).setMessageLength(4000);
-    EXPECT_TRUE(tellsOfChange(bytes.span()));
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known));
+}
+
+TEST(LinkMessagesOfChanges, AnAddressThatIsToldAgainIsNone)
+{
+    KnownAddresses known;
+    NetlinkBytes bytes;
+    bytes.message(RTM_NEWADDR, address(4)).attribute(IFA_LOCAL, QByteArray(4, '\1'));
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known));
+    bytes.message(RTM_NEWLINK, ethernet()).text(IFLA_IFNAME, "eth0");
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << "with another message beside it";
 }
 
 TEST(LinkMessagesStatus, ActiveWhenTheLinkCanCarryTraffic)

@@ -59,6 +59,15 @@ TEST(PortClassifier, HardwareIsNamedByItsTypeAndBus)
     }
 }
 
+TEST(PortClassifier, PortsWhoseNamesAreSkippedAreNotOffered)
+{
+    EXPECT_EQ(offeredPortName(link("bnep0", "", "bluetooth"), deviceType("bluetooth")), QString());
+    EXPECT_EQ(offeredPortName(link("thunderbolt0", "", "thunderbolt"), {}), QString());
+    EXPECT_EQ(offeredPortName(link("enp3s0", "", "pci"), {}), u"Ethernet"_s);
+    EXPECT_EQ(offeredPortName(link("wlp2s0", "", "pci"), deviceType("wlan")), u"Wi-Fi"_s);
+    EXPECT_EQ(offeredPortName(link("lo"), deviceType("wwan")), QString());
+}
+
 TEST(PortClassifier, BridgesThatAPersonMade)
 {
     for (const char *name : {"br0", "bridge0", "lan", "vmbr0", "br-lan", "br-0123456789abc"}) {
