@@ -66,6 +66,9 @@ void NetworkChange::evaluate(const QString &device)
     }
     const QStringList withheld = std::exchange(m_withheld, {});
     for (const QString &other : withheld) {
+        if (m_deps.devices.isDeviceWifi(other)) {
+            m_deps.wifi.updateWiFiNetwork();
+        }
         m_deps.evaluation.checkDeviceForCurrentRuleAndChange(other, RuleChange::OncePerVisit);
     }
 }

@@ -180,7 +180,9 @@ TEST_F(NetworkChangeTest, MakesUpOnceForWhatTheInternetWasMissingFor)
     networkEvent();
     ASSERT_TRUE(helper.changes().isEmpty()) << "it is missing still";
     reachability.reachable = true;
+    const int readsBefore = radio.reads;
     networkEvent();
+    EXPECT_EQ(radio.reads, readsBefore + 1) << "what the radio has joined may be another network";
     EXPECT_EQ(changesOf(en0).size(), 1) << "by a route of an interface that is no port";
     EXPECT_EQ(changesOf(en1).size(), 1);
     overviews.clear();
