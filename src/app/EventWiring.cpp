@@ -119,12 +119,16 @@ void EventWiring::connectAddressChange()
         },
         Qt::DirectConnection);
     on(changer, &AddressChanger::changeEnded,
-        [&f](const QString &device) { f.rules.execution.addressChangeEnded(device); });
+        [&f](const QString &device, const ChangeOutcome &outcome) {
+            f.rules.execution.addressChangeEnded(device, outcome);
+        });
 }
 
 void EventWiring::connectRules()
 {
     RuleFeature &rules = m_features.rules;
+    on(rules.execution, &RuleExecution::obstacleEnded,
+        [this] { m_networkChange.makeUpForWithheld(); });
     on(rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
         [&rules](const QString &device) { rules.status.updateRuleStatusForDevice(device); });
     on(rules.switches, &RuleSwitches::ruleSwitched, [&rules] { rules.list.reload(); });

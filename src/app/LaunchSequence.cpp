@@ -102,7 +102,7 @@ void LaunchSequence::startup()
 void LaunchSequence::checkRules()
 {
     m_features.rules.evaluation.checkDeviceForCurrentRuleAndChange(
-        allDevices, m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::NetworkRule);
+        allDevices, m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::OncePerVisit);
     m_startedFromLogin = false;
 }
 

@@ -44,32 +44,25 @@ void NetworkChange::networkChanged(const QString &device)
         // The table was read just now.
         m_deps.currentInterface.selectInterface(device);
     }
-    evaluate(device);
+    if (!device.isEmpty()) {
+        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(device,
+            m_deps.reachability.isReachable() ? RuleChange::OncePerVisit : RuleChange::Withheld);
+    }
+    makeUpForWithheld();
     m_deps.rulesList.filterRulesArrayController();
 }
 
-void NetworkChange::evaluate(const QString &device)
+void NetworkChange::makeUpForWithheld()
 {
-    if (device.isEmpty() && m_withheld.isEmpty()) {
+    const QStringList withheld = m_deps.execution.withheldDevices();
+    if (withheld.isEmpty() || !m_deps.reachability.isReachable()) {
         return;
     }
-    m_withheld.removeOne(device);
-    const bool isReachable = m_deps.reachability.isReachable();
-    if (!device.isEmpty()) {
-        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(
-            device, isReachable ? RuleChange::OncePerVisit : RuleChange::None);
-    }
-    if (!isReachable) {
-        m_withheld.append(device);
-        m_withheld.removeAll(QString());
-        return;
-    }
-    const QStringList withheld = std::exchange(m_withheld, {});
-    for (const QString &other : withheld) {
-        if (m_deps.devices.isDeviceWifi(other)) {
+    for (const QString &device : withheld) {
+        if (m_deps.devices.isDeviceWifi(device)) {
             m_deps.wifi.updateWiFiNetwork();
         }
-        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(other, RuleChange::OncePerVisit);
+        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(device, RuleChange::OncePerVisit);
     }
 }
 

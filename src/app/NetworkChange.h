@@ -45,12 +45,11 @@ public:
     void networkChanged(const QString &device);
     /// Both, for the first device that has changed. Others stay news for the next network change.
     void networkChanged();
+    /// Evaluates the devices whose rules were held back, once, if the internet can be reached now.
+    void makeUpForWithheld();
 
 private:
-    void evaluate(const QString &device);
-
     Collaborators m_deps;
-    QStringList m_withheld; ///< devices whose rule was not carried out for want of the internet
 };
 
 } // namespace quillon

@@ -19,6 +19,7 @@
 
 #include <mutex>
 #include <shared_mutex>
+#include <utility>
 
 namespace quillon {
 
@@ -64,9 +65,10 @@ AddressChanger::~AddressChanger()
 }
 
 void AddressChanger::genRandomMacAddressWithVendor(
-    const QString &device, const std::optional<QString> &vendor)
+    const QString &device, const std::optional<QString> &vendor, Reply reply)
 {
-    updateMacAddressWithAddress(device, m_deps.random.addressForDevice(device, vendor));
+    updateMacAddressWithAddress(
+        device, m_deps.random.addressForDevice(device, vendor), std::move(reply));
 }
 
 void AddressChanger::randomizeAddress()
@@ -107,12 +109,13 @@ void AddressChanger::restoreDefaultAddress(const MenuItem &sender)
     }
 }
 
-void AddressChanger::updateMacAddressWithAddress(const QString &device, const QString &address)
+void AddressChanger::updateMacAddressWithAddress(
+    const QString &device, const QString &address, Reply reply)
 {
-    changeAddressQueue().add([this, life = m_life, device, address] {
+    changeAddressQueue().add([this, life = m_life, device, address, reply = std::move(reply)] {
         const std::shared_lock lock(life->mutex);
         if (life->alive) {
-            requestChange(device, address);
+            requestChange(device, address, reply);
         }
     });
 }
@@ -126,7 +129,8 @@ SerialQueue &AddressChanger::changeAddressQueue()
     return *m_changeAddressQueue;
 }
 
-void AddressChanger::requestChange(const QString &requestedDevice, const QString &address)
+void AddressChanger::requestChange(
+    const QString &requestedDevice, const QString &address, const Reply &reply)
 {
     const QString current = m_deps.currentInterface.device();
     const QString device = requestedDevice.isEmpty() ? current : requestedDevice;
@@ -138,9 +142,13 @@ void AddressChanger::requestChange(const QString &requestedDevice, const QString
         .interface = record.interface.value_or(QString()),
         .oldAddress = record.current.value_or(QString()),
         .address = address,
+        .reply = reply,
     };
     if (record.current == address) {
         tellNotChanged(request.interface, "The new Address and the old Address are identical");
+        if (reply) {
+            reply({.isInPlace = true, .address = address, .isReported = true});
+        }
         return;
     }
     m_deps.scheduler.onMain(this, [this, request] { askHelper(request); });
@@ -153,18 +161,25 @@ void AddressChanger::askHelper(const Request &request)
         request.address, request.isWifi, [this, life = m_life, request](bool success) {
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
-                finish(request, success);
-                Q_EMIT changeEnded(request.device);
+                const ChangeOutcome outcome = finish(request, success);
+                if (request.reply) {
+                    request.reply(outcome);
+                }
+                Q_EMIT changeEnded(request.device, outcome);
             }
         });
 }
 
-void AddressChanger::finish(const Request &request, bool success)
+ChangeOutcome AddressChanger::finish(const Request &request, bool success)
 {
     const InterfaceInfo now = m_deps.devices.getInfoForDevice(request.device);
+    // An answer can be lost on its way: what counts is the address that the device has.
+    const ChangeOutcome outcome{.isInPlace = isSameAddress(now.macAddress, request.address),
+        .address = now.macAddress,
+        .isReported = request.reply != nullptr};
     if (now.macAddress.isEmpty()) {
         // The interface has gone: there is nothing true to say about its address.
-        return;
+        return outcome;
     }
     m_deps.devices.update(request.device, [&now](DeviceRecord &record) {
         record.current = now.macAddress;
@@ -176,6 +191,7 @@ void AddressChanger::finish(const Request &request, bool success)
     }
     tellOutcome(request, success, now.macAddress);
     m_deps.currentInterface.updateHexValues();
+    return outcome;
 }
 
 void AddressChanger::tellOutcome(const Request &request, bool success, const QString &readBack)
@@ -194,6 +210,15 @@ void AddressChanger::tellOutcome(const Request &request, bool success, const QSt
     Q_EMIT addressChanged(request.device, request.address);
     m_deps.notifications.post(
         notifications::addressUpdated, this, {{record::device, request.device}});
+}
+
+void AddressChanger::tellUndone(const QString &device)
+{
+    m_deps.notifier.sendNotificationWithBody(
+        filled(localized("%@ Address was replaced"),
+            {m_deps.devices.record(device).interface.value_or(QString())}),
+        localized("Another program keeps setting an Address of its own. Your rule acts again "
+                  "when you join a network"));
 }
 
 void AddressChanger::tellNotChanged(const QString &interface, const char *reason)

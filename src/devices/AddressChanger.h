@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -20,6 +21,17 @@ class Notifier;
 class RandomAddress;
 class SettingsStore;
 class XPCMethods;
+
+/// What became of a change.
+struct ChangeOutcome
+{
+    /// The device has the address that was asked for, whatever the helper said.
+    bool isInPlace = false;
+    /// The one that it has now, "" when that cannot be read.
+    QString address = {};
+    /// A reply of their own tells whoever asked.
+    bool isReported = false;
+};
 
 /// Every change of an address, whoever asks, ends here: it serializes changes, refuses a change to
 /// the address in use, has the helper do it, reads the address back, updates the device table,
@@ -44,6 +56,10 @@ public:
         const RandomAddress &random;
     };
 
+    /// Called once for each request, also one that is refused at once, unless the changer goes
+    /// before. On any thread.
+    using Reply = std::function<void(const ChangeOutcome &outcome)>;
+
     explicit AddressChanger(const Collaborators &collaborators);
     /// Changes that have not reached the helper are dropped, later replies ignored. Waits for a
     /// reply that is being handled.
@@ -51,13 +67,19 @@ public:
 
     /// Queues one change and returns at once. An empty `device` is the current interface. Any
     /// thread.
-    void updateMacAddressWithAddress(const QString &device, const QString &address);
+    void updateMacAddressWithAddress(
+        const QString &device, const QString &address, Reply reply = {});
 
     /// The same with a random address, made now. Without `vendor` inside the prefix of the
     /// manufacturer that was chosen for the device, if any; "" for none. When no random number can
     /// be had the address is empty, and the outcome says so. Any thread.
     void genRandomMacAddressWithVendor(
-        const QString &device, const std::optional<QString> &vendor = std::nullopt);
+        const QString &device, const std::optional<QString> &vendor = std::nullopt,
+        Reply reply = {});
+
+    /// Tells the user that another program keeps setting an address of its own on `device`. Any
+    /// thread.
+    void tellUndone(const QString &device);
 
     /// The main window's buttons: they act on the current interface.
     void randomizeAddress();
@@ -82,7 +104,7 @@ Q_SIGNALS:
     void changeBegan(const QString &device);
     /// The helper has answered and the table says what is true now, however the change went; on the
     /// thread of the helper's reply.
-    void changeEnded(const QString &device);
+    void changeEnded(const QString &device, const ChangeOutcome &outcome);
 
 private:
     /// One change between the test of its address and the helper's reply.
@@ -94,13 +116,14 @@ private:
         QString interface;
         QString oldAddress;
         QString address;
+        Reply reply;
     };
     struct Life;
 
     SerialQueue &changeAddressQueue();
-    void requestChange(const QString &requestedDevice, const QString &address);
+    void requestChange(const QString &requestedDevice, const QString &address, const Reply &reply);
     void askHelper(const Request &request);
-    void finish(const Request &request, bool success);
+    ChangeOutcome finish(const Request &request, bool success);
     void tellOutcome(const Request &request, bool success, const QString &readBack);
     void tellNotChanged(const QString &interface, const char *reason);
 

@@ -11,4 +11,8 @@ namespace quillon {
 /// punctuation.
 bool isStringValidHEX(const QString &text);
 
+/// Whether both texts are the same six octets: neither case nor a leading zero counts. A text that
+/// is no address is the same as no other.
+bool isSameAddress(const QString &a, const QString &b);
+
 } // namespace quillon

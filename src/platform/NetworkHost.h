@@ -12,9 +12,11 @@ namespace quillon {
 /// What can change about an interface, read afresh. Every text may be empty.
 struct InterfaceInfo
 {
-    QString ipAddress;  ///< first IPv4 address, dotted decimal
-    QString macAddress; ///< the address in use, lower-case octets separated by ":"
-    QString status;     ///< "active" or "inactive"
+    QString ipAddress = {};  ///< first IPv4 address, dotted decimal
+    QString macAddress = {}; ///< the address in use, lower-case octets separated by ":"
+    QString status = {};     ///< "active" or "inactive"
+    /// The texts are empty because they could not be read; the interface may be there.
+    bool readFailed = false;
 
     bool operator==(const InterfaceInfo &) const = default;
 };

@@ -24,6 +24,9 @@ public:
 
     /// The wall clock, UTC.
     virtual QDateTime now() const = 0;
+    /// The time since some moment before the first call, without that in suspension. Nobody sets
+    /// it: where now() has gone another way, the clock was set or the machine was suspended.
+    virtual std::chrono::milliseconds monotonic() const = 0;
     virtual bool isMainThread() const = 0;
 
     /// Runs `task` on the main thread in a later turn of its loop, also when called there. Tasks

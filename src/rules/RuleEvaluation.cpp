@@ -79,7 +79,9 @@ RuleOutcome RuleEvaluation::decide(const QString &device)
     outcome.loginRule = decision.loginRule ? selected.at(*decision.loginRule) : Rule();
     const DeviceRecord record = m_deps.devices.record(device);
     outcome.linkIsUp = record.isUp();
-    if (record.isWifi()) {
+    outcome.isWifi = record.isWifi();
+    outcome.address = record.current.value_or(QString());
+    if (outcome.isWifi) {
         outcome.ssid = WiFiRecord::stored(m_deps.settings).ssid;
     }
     markActive(

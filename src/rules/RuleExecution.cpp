@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/RuleExecution.h"
 
-#include "devices/AddressChanger.h"
+#include "base/PropertyList.h"
 #include "devices/DeviceTable.h"
 #include "platform/NetworkHost.h"
 #include "platform/Scheduler.h"
@@ -12,13 +12,21 @@
 #include "store/model/QuillonModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 /// How long after the helper's answer the link may still go down because of the change.
-constexpr std::chrono::milliseconds settlingTime{5000};
+constexpr std::chrono::milliseconds settlingTime = 5s;
+/// A radio that is back on its network within this time has never left it: access points of one
+/// network hand it over, and a scan takes it away for a moment.
+constexpr std::chrono::milliseconds sameNetworkTime = 10s;
+/// Time in suspension from which a cable may be in another socket.
+constexpr std::chrono::milliseconds suspensionTime = 1min;
 
 bool changesAddress(const QList<RuleAction> &actions)
 {
@@ -28,63 +36,133 @@ bool changesAddress(const QList<RuleAction> &actions)
     });
 }
 
-/// A rule under another name is the same rule.
+/// A rule under another name is the same rule. Read from the record alone, and in one form: a
+/// record that comes back from its file may spell a text otherwise that no file can hold.
 Visits::Act actOf(const RuleOutcome &outcome)
 {
     QVariantMap rule = updateRuledictWithRule({}, outcome.networkRule);
     rule.remove(model::rule::name);
-    return {rule, outcome.ssid};
+    return {normalizedPropertyList(rule).toMap(), outcome.ssid};
+}
+
+std::chrono::milliseconds clockAhead(const Scheduler &scheduler)
+{
+    return std::chrono::milliseconds(scheduler.now().toMSecsSinceEpoch()) - scheduler.monotonic();
 }
 
 } // namespace
 
 RuleExecution::RuleExecution(const Collaborators &collaborators)
     : m_deps(collaborators)
+    , m_clockAhead(clockAhead(collaborators.scheduler))
 {
 }
 
 void RuleExecution::applyRulesForDevice(
     const QString &device, const RuleOutcome &outcome, RuleChange change)
 {
-    const bool isDone = m_visits.isCarriedOut(device, actOf(outcome));
+    followNetwork(device, outcome);
+    if (change != RuleChange::None) {
+        m_withheld.remove(device);
+    }
     switch (change) {
     case RuleChange::None:
+        break;
+    case RuleChange::Withheld:
+        m_withheld.insert(device);
+        break;
     case RuleChange::OncePerVisit:
-        // Under another rule, or on another network, what was carried out before is over.
-        if (!isDone) {
-            m_visits.sawOffNetwork(device, m_deps.scheduler.now());
+        applyOncePerVisit(device, outcome);
+        break;
+    case RuleChange::NetworkRule:
+        m_visits.forget(device);
+        applyNetworkRule(device, outcome);
+        break;
+    case RuleChange::LoginAndNetworkRule:
+        if (outcome.loginRule.isNull()) {
+            applyOncePerVisit(device, outcome);
+            break;
         }
-        if (change == RuleChange::OncePerVisit && !isDone) {
+        // The rule of the network has the last word, also where it had the first one.
+        perform(device, actionsOfLoginRule(outcome.loginRule), [](const ChangeOutcome &) {});
+        m_visits.forget(device);
+        applyNetworkRule(device, outcome);
+        break;
+    }
+}
+
+// Under another rule, or on another network, what was carried out before is over.
+void RuleExecution::followNetwork(const QString &device, const RuleOutcome &outcome)
+{
+    const QDateTime now = m_deps.scheduler.now();
+    if (m_visits.isCarriedOut(device, actOf(outcome))) {
+        if (outcome.linkIsUp) {
+            m_visits.sawOnNetwork(device, now);
+        }
+    } else if (!outcome.isWifi) {
+        m_visits.sawOffNetwork(device, now);
+    } else if (!outcome.ssid.isEmpty() && outcome.ssid != m_visits.ssid(device)) {
+        m_visits.sawElsewhere(device);
+    } else if (!outcome.ssid.isEmpty() || !outcome.linkIsUp) {
+        m_visits.sawOffNetwork(device, now, sameNetworkTime);
+    }
+    // A link that is up on no network at all was not read well.
+}
+
+void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &outcome)
+{
+    if (!changesAddress(actionsOfNetworkRule(outcome.networkRule, outcome.linkIsUp))) {
+        applyNetworkRule(device, outcome);
+        return;
+    }
+    switch (m_visits.standing(device, actOf(outcome), outcome.address)) {
+    case Visits::Standing::UnderWay:
+    case Visits::Standing::Done:
+        break;
+    case Visits::Standing::GivenUp:
+        m_visits.leaveAsItIs(device);
+        m_deps.addressChanger.tellUndone(device);
+        break;
+    case Visits::Standing::New:
+    case Visits::Standing::Failed:
+    case Visits::Standing::Undone: {
+        const auto wait = m_limit.wait(device, m_deps.scheduler.monotonic());
+        if (wait.count() > 0) {
+            putOff(device, wait);
+        } else {
             applyNetworkRule(device, outcome);
         }
         break;
-    case RuleChange::LoginAndNetworkRule:
-        perform(device, actionsOfLoginRule(outcome.loginRule));
-        [[fallthrough]];
-    case RuleChange::NetworkRule:
-        applyNetworkRule(device, outcome);
-        break;
+    }
     }
 }
 
 void RuleExecution::applyNetworkRule(const QString &device, const RuleOutcome &outcome)
 {
     const QList<RuleAction> actions = actionsOfNetworkRule(outcome.networkRule, outcome.linkIsUp);
-    if (changesAddress(actions)) {
-        m_visits.carryOut(device, actOf(outcome));
+    if (!changesAddress(actions)) {
+        perform(device, actions, {});
+        return;
     }
-    perform(device, actions);
+    m_limit.asked(device, m_deps.scheduler.monotonic());
+    const quint64 number = m_visits.carryOut(device, actOf(outcome));
+    perform(device, actions,
+        m_deps.scheduler.replyOnMain<ChangeOutcome>(
+            this, [this, device, number](const ChangeOutcome &answer) {
+                changeAnswered(device, number, answer);
+            }));
 }
 
-void RuleExecution::perform(const QString &device, const QList<RuleAction> &actions)
+void RuleExecution::perform(const QString &device, const QList<RuleAction> &actions,
+    const AddressChanger::Reply &reply)
 {
     for (const RuleAction &action : actions) {
         switch (action.kind) {
         case RuleAction::Kind::RandomAddress:
-            m_deps.addressChanger.genRandomMacAddressWithVendor(device, action.vendor);
+            m_deps.addressChanger.genRandomMacAddressWithVendor(device, action.vendor, reply);
             break;
         case RuleAction::Kind::FixedAddress:
-            m_deps.addressChanger.updateMacAddressWithAddress(device, action.address);
+            m_deps.addressChanger.updateMacAddressWithAddress(device, action.address, reply);
             break;
         case RuleAction::Kind::StopCountdown:
             m_deps.timers.stopCountdownTimer(device);
@@ -96,19 +174,86 @@ void RuleExecution::perform(const QString &device, const QList<RuleAction> &acti
     }
 }
 
+void RuleExecution::changeAnswered(
+    const QString &device, quint64 number, const ChangeOutcome &outcome)
+{
+    if (outcome.isInPlace) {
+        m_visits.succeeded(device, number, outcome.address);
+        return;
+    }
+    m_limit.failed(device, m_deps.scheduler.monotonic());
+    // The cable was moved while somebody was asked: where it is now nobody was.
+    if (m_visits.failed(device, number)) {
+        m_withheld.insert(device);
+        Q_EMIT obstacleEnded();
+    }
+}
+
+void RuleExecution::putOff(const QString &device, std::chrono::milliseconds time)
+{
+    if (m_putOff.contains(device)) {
+        return;
+    }
+    m_putOff.insert(device);
+    m_deps.scheduler.onMainAfter(time, this, [this, device] {
+        m_putOff.remove(device);
+        m_withheld.insert(device);
+        Q_EMIT obstacleEnded();
+    });
+}
+
+QStringList RuleExecution::withheldDevices() const
+{
+    QStringList devices = m_withheld.values();
+    devices.sort();
+    return devices;
+}
+
 void RuleExecution::followVisits()
 {
+    noteSuspension();
     const QStringList devices = m_visits.devices();
-    const QDateTime now = m_deps.scheduler.now();
     for (const QString &device : devices) {
-        // A table that could not be read, or a device that is no port for now, is not "taken away".
-        if (!m_deps.devices.isPresent(device) &&
-            m_deps.devices.getInfoForDevice(device).macAddress.isEmpty()) {
+        followDevice(device);
+    }
+}
+
+void RuleExecution::followDevice(const QString &device)
+{
+    // A table that could not be read, or a device that is no port for now, is not "taken away".
+    if (!m_deps.devices.isPresent(device)) {
+        const InterfaceInfo info = m_deps.devices.getInfoForDevice(device);
+        if (info.macAddress.isEmpty() && !info.readFailed) {
             m_visits.sawGone(device);
-        } else if (m_deps.devices.record(device).isUp()) {
-            m_visits.sawOnNetwork(device, now);
-        } else {
-            m_visits.sawOffNetwork(device, now);
+            return;
+        }
+    }
+    const DeviceRecord record = m_deps.devices.record(device);
+    const QDateTime now = m_deps.scheduler.now();
+    if (!record.isUp()) {
+        const bool isKnown = !record.status.value_or(QString()).isEmpty();
+        if (isKnown) {
+            m_visits.sawOffNetwork(device, now, record.isWifi() ? sameNetworkTime : 0ms);
+        }
+    } else if (record.isWifi()) {
+        // Which network it is on is seen when its rules are evaluated.
+        m_visits.sawLinkUp(device, now);
+    } else {
+        m_visits.sawOnNetwork(device, now);
+    }
+}
+
+// Wired networks have no names: whoever closes a computer may open it in another office.
+void RuleExecution::noteSuspension()
+{
+    const std::chrono::milliseconds before = std::exchange(m_clockAhead, clockAhead(m_deps.scheduler));
+    if (std::chrono::abs(m_clockAhead - before) <= suspensionTime) {
+        return;
+    }
+    const QStringList devices = m_visits.devices();
+    for (const QString &device : devices) {
+        if (!m_deps.devices.isDeviceWifi(device)) {
+            m_visits.sawGone(device);
         }
     }
 }
@@ -118,8 +263,13 @@ void RuleExecution::addressChangeBegan(const QString &device)
     m_visits.changeBegan(device);
 }
 
-void RuleExecution::addressChangeEnded(const QString &device)
+void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcome &outcome)
 {
+    m_visits.changeAnswered(device);
+    // By hand, or by a countdown: a rule never undoes that on the same visit.
+    if (outcome.isInPlace && !outcome.isReported) {
+        m_visits.leaveAsItIs(device);
+    }
     m_deps.scheduler.onMainAfter(settlingTime, this, [this, device] {
         m_visits.changeSettled(
             device, m_deps.devices.record(device).isUp(), m_deps.scheduler.now());

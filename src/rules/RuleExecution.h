@@ -2,22 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "devices/AddressChanger.h"
+#include "rules/ChangeLimit.h"
 #include "rules/RuleOutcome.h"
 #include "rules/Visits.h"
 
 #include <QObject>
+#include <QSet>
+
+#include <chrono>
 
 namespace quillon {
 
-class AddressChanger;
 class CountdownTimers;
 class DeviceTable;
 class Scheduler;
 struct RuleAction;
 
 /// Carries rules out: changes addresses, starts and stops countdowns. A rule that changes an
-/// address once is not carried out again by news of the network while its device stays on it. Main
-/// thread.
+/// address once is not carried out again by news of the network while its device stays on it,
+/// unless that failed or another program has undone it. Main thread.
 class RuleExecution : public QObject
 {
     Q_OBJECT
@@ -41,14 +45,34 @@ public:
     void followVisits();
     /// An address change of `device` is about to be asked of the helper, or has come to its end.
     void addressChangeBegan(const QString &device);
-    void addressChangeEnded(const QString &device);
+    void addressChangeEnded(const QString &device, const ChangeOutcome &outcome = {});
+
+    /// The devices whose rule was not carried out though there was news of them. To be evaluated
+    /// once the internet can be reached.
+    QStringList withheldDevices() const;
+
+Q_SIGNALS:
+    /// What held a rule back, other than the internet, has ended: its device is withheld.
+    void obstacleEnded();
 
 private:
+    void followNetwork(const QString &device, const RuleOutcome &outcome);
+    void applyOncePerVisit(const QString &device, const RuleOutcome &outcome);
     void applyNetworkRule(const QString &device, const RuleOutcome &outcome);
-    void perform(const QString &device, const QList<RuleAction> &actions);
+    void perform(const QString &device, const QList<RuleAction> &actions,
+        const AddressChanger::Reply &reply);
+    void changeAnswered(const QString &device, quint64 number, const ChangeOutcome &outcome);
+    void putOff(const QString &device, std::chrono::milliseconds time);
+    void followDevice(const QString &device);
+    void noteSuspension();
 
     Collaborators m_deps;
     Visits m_visits;
+    ChangeLimit m_limit;
+    QSet<QString> m_withheld;
+    QSet<QString> m_putOff; ///< until a moment that is coming
+    /// How far the wall clock was ahead of the one that stands still in suspension.
+    std::chrono::milliseconds m_clockAhead;
 };
 
 } // namespace quillon

@@ -11,6 +11,7 @@ namespace quillon {
 enum class RuleChange
 {
     None,
+    Withheld,            ///< nothing now; OncePerVisit when the internet can be reached again
     OncePerVisit,        ///< the network rule, unless it was carried out on this visit already
     NetworkRule,         ///< the network rule, again if need be
     LoginAndNetworkRule, ///< both: the first evaluation after a launch at login
@@ -23,7 +24,9 @@ struct RuleOutcome
     Rule networkRule; ///< null when none is in force
     Rule loginRule;   ///< null when none is in force
     bool linkIsUp = false;
-    QString ssid; ///< of the network that a Wi-Fi device is on, else ""
+    bool isWifi = false;
+    QString address; ///< the one in use, "" when it is not known
+    QString ssid;    ///< of the network that a Wi-Fi device is on, else ""
 };
 
 } // namespace quillon

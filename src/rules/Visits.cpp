@@ -2,38 +2,137 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/Visits.h"
 
+#include "devices/AddressText.h"
+
 namespace quillon {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 /// How long a link may take to come back after a change.
-constexpr qint64 returnMilliseconds = 60'000;
+constexpr std::chrono::milliseconds returnTime = 1min;
+/// Three prompts that were dismissed say enough.
+constexpr int mostFailures = 3;
+/// A program that has put its own address back three times does so a fourth time.
+constexpr int mostRepeats = 2;
 
 } // namespace
 
-bool Visits::Visit::isExpectedBack(const QDateTime &now) const
+// Back at the very end of the grace is back in time. A clock that was set back tells nothing.
+bool Visits::Absence::isOver(const QDateTime &now) const
 {
-    return downSince && *downSince <= now && downSince->msecsTo(now) <= returnMilliseconds;
+    return now < since || since.msecsTo(now) > grace.count();
 }
 
-void Visits::carryOut(const QString &device, const Act &act)
+Visits::Standing Visits::standing(
+    const QString &device, const Act &act, const QString &address) const
+{
+    if (!isCarriedOut(device, act)) {
+        return Standing::New;
+    }
+    const Visit &visit = *m_visits.constFind(device);
+    const Carried &carried = *visit.carried;
+    if (carried.isAsked || visit.unanswered > 0) {
+        return Standing::UnderWay;
+    }
+    if (carried.isFailed) {
+        if (carried.failures >= mostFailures) {
+            return Standing::Done;
+        }
+        const bool isOwnNews = visit.changesUnderWay > 0 && !carried.wentOff;
+        return isOwnNews ? Standing::UnderWay : Standing::Failed;
+    }
+    const bool isKept =
+        !carried.address || address.isEmpty() || isSameAddress(*carried.address, address);
+    if (isKept) {
+        return Standing::Done;
+    }
+    return carried.repeats < mostRepeats ? Standing::Undone : Standing::GivenUp;
+}
+
+quint64 Visits::carryOut(const QString &device, const Act &act)
 {
     Visit &visit = m_visits[device];
-    visit.act = act;
-    visit.downSince.reset();
+    Carried next{.act = act, .number = ++m_lastNumber, .address = std::nullopt};
+    if (visit.carried && visit.carried->act == act) {
+        const bool isRepeat = visit.carried->address.has_value();
+        next.failures = visit.carried->failures;
+        next.repeats = visit.carried->repeats + (isRepeat ? 1 : 0);
+    }
+    visit.carried = next;
+    visit.absence.reset();
+    return next.number;
+}
+
+// What was asked for on a visit that has ended, or before it was asked for again, counts no more.
+Visits::Carried *Visits::carried(const QString &device, quint64 number)
+{
+    const auto visit = m_visits.find(device);
+    const bool isKnown =
+        visit != m_visits.end() && visit->carried && visit->carried->number == number;
+    return isKnown ? &*visit->carried : nullptr;
+}
+
+void Visits::succeeded(const QString &device, quint64 number, const QString &address)
+{
+    if (Carried *const done = carried(device, number)) {
+        done->isAsked = false;
+        done->address = address;
+    }
+}
+
+bool Visits::failed(const QString &device, quint64 number)
+{
+    Carried *const tried = carried(device, number);
+    if (!tried) {
+        return false;
+    }
+    tried->isAsked = false;
+    tried->isFailed = true;
+    ++tried->failures;
+    return tried->wentOff && tried->failures < mostFailures;
+}
+
+void Visits::leaveAsItIs(const QString &device)
+{
+    const auto visit = m_visits.find(device);
+    if (visit != m_visits.end() && visit->carried) {
+        // What the rule has asked for and not got is not tried again either.
+        visit->carried->number = 0;
+        visit->carried->isAsked = false;
+        visit->carried->isFailed = false;
+        visit->carried->address.reset();
+    }
+}
+
+void Visits::forget(const QString &device)
+{
+    const auto visit = m_visits.find(device);
+    if (visit != m_visits.end()) {
+        visit->carried.reset();
+    }
 }
 
 bool Visits::isCarriedOut(const QString &device, const Act &act) const
 {
     const auto visit = m_visits.constFind(device);
-    return visit != m_visits.constEnd() && visit->act == act;
+    return visit != m_visits.constEnd() && visit->carried && visit->carried->act == act;
+}
+
+std::optional<QString> Visits::ssid(const QString &device) const
+{
+    const auto visit = m_visits.constFind(device);
+    return visit != m_visits.constEnd() && visit->carried
+               ? std::optional(visit->carried->act.ssid)
+               : std::nullopt;
 }
 
 QStringList Visits::devices() const
 {
     QStringList devices;
     for (auto visit = m_visits.cbegin(); visit != m_visits.cend(); ++visit) {
-        if (visit->act) {
+        if (visit->carried) {
             devices.append(visit.key());
         }
     }
@@ -42,36 +141,72 @@ QStringList Visits::devices() const
 
 void Visits::changeBegan(const QString &device)
 {
-    ++m_visits[device].changesUnderWay;
+    Visit &visit = m_visits[device];
+    ++visit.unanswered;
+    ++visit.changesUnderWay;
+}
+
+void Visits::changeAnswered(const QString &device)
+{
+    int &unanswered = m_visits[device].unanswered;
+    unanswered = qMax(unanswered - 1, 0);
 }
 
 void Visits::changeSettled(const QString &device, bool linkIsUp, const QDateTime &now)
 {
     Visit &visit = m_visits[device];
-    if (visit.changesUnderWay > 0) {
-        --visit.changesUnderWay;
-    }
-    visit.downSince = linkIsUp ? std::nullopt : std::optional(now);
+    visit.changesUnderWay = qMax(visit.changesUnderWay - 1, 0);
+    visit.absence = linkIsUp ? std::nullopt : std::optional(Absence{now, returnTime});
 }
 
 void Visits::sawOnNetwork(const QString &device, const QDateTime &now)
 {
+    sawLinkUp(device, now);
     const auto visit = m_visits.find(device);
-    if (visit == m_visits.end()) {
-        return;
+    if (visit != m_visits.end()) {
+        visit->absence.reset();
     }
-    // Away for longer than any change takes: this may be another network.
-    if (visit->downSince && !visit->isExpectedBack(now) && visit->changesUnderWay == 0) {
-        visit->act.reset();
-    }
-    visit->downSince.reset();
 }
 
-void Visits::sawOffNetwork(const QString &device, const QDateTime &now)
+void Visits::sawLinkUp(const QString &device, const QDateTime &now)
 {
     const auto visit = m_visits.find(device);
-    if (visit != m_visits.end() && visit->changesUnderWay == 0 && !visit->isExpectedBack(now)) {
-        visit->act.reset();
+    // Away for longer than any change takes: this may be another network.
+    if (visit != m_visits.end() && visit->changesUnderWay == 0 && visit->absence &&
+        visit->absence->isOver(now)) {
+        visit->carried.reset();
+    }
+}
+
+void Visits::sawOffNetwork(
+    const QString &device, const QDateTime &now, std::chrono::milliseconds grace)
+{
+    const auto visit = m_visits.find(device);
+    if (visit == m_visits.end() || !visit->carried) {
+        return;
+    }
+    if (visit->changesUnderWay > 0) {
+        visit->carried->wentOff = true;
+        return;
+    }
+    if (!visit->absence && grace.count() > 0) {
+        visit->absence = Absence{now, grace};
+    }
+    if (!visit->absence || visit->absence->isOver(now)) {
+        visit->carried.reset();
+    }
+}
+
+void Visits::sawElsewhere(const QString &device)
+{
+    const auto visit = m_visits.find(device);
+    if (visit == m_visits.end() || !visit->carried) {
+        return;
+    }
+    if (visit->changesUnderWay > 0) {
+        visit->carried->wentOff = true;
+    } else {
+        visit->carried.reset();
     }
 }
 
@@ -79,8 +214,8 @@ void Visits::sawGone(const QString &device)
 {
     const auto visit = m_visits.find(device);
     if (visit != m_visits.end()) {
-        visit->act.reset();
-        visit->downSince.reset();
+        visit->carried.reset();
+        visit->absence.reset();
     }
 }
 

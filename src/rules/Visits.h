@@ -8,18 +8,20 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <chrono>
 #include <optional>
 
 namespace quillon {
 
 /// Remembers, for each device, which rule was carried out on its visit to the network that it is
-/// on: a rule that changes the address once does so once per visit. A change of the address takes
-/// the link down and up and brings another lease, and the system reports each of these as news of
-/// the device. Were the rule carried out again for them, it would cause the next ones, for ever.
+/// on, and what became of it: a rule that changes the address once does so once per visit. A change
+/// of the address takes the link down and up and brings another lease, and the system reports each
+/// of these as news of the device. Were the rule carried out again for them, it would cause the
+/// next ones, for ever.
 class Visits
 {
 public:
-    /// What was carried out, and where.
+    /// What is carried out, and where.
     struct Act
     {
         QVariantMap rule; ///< the flattened copy
@@ -28,36 +30,93 @@ public:
         bool operator==(const Act &) const = default;
     };
 
-    void carryOut(const QString &device, const Act &act);
+    /// How an act stands when there is news of its device.
+    enum class Standing
+    {
+        New,      ///< not carried out on this visit
+        UnderWay, ///< asked for and not settled yet, or another change is: the news may be its own
+        Done,     ///< as far as it ever will be on this visit
+        Failed,   ///< may be tried again
+        Undone,   ///< another program set another address; may be carried out again
+        GivenUp,  ///< the same, once too often
+    };
+    /// `address` is the one that the device has now, "" when that is not known.
+    Standing standing(const QString &device, const Act &act, const QString &address) const;
+
+    /// The act is about to be asked for. The number is for what becomes of it.
+    quint64 carryOut(const QString &device, const Act &act);
+    /// The device has got the address, or already had it.
+    void succeeded(const QString &device, quint64 number, const QString &address);
+    /// It has not. True when it was seen off its network since it was asked for: the network that
+    /// it is on now has had no change.
+    bool failed(const QString &device, quint64 number);
+    /// Nothing more is done about it on this visit: somebody chose another address, or was told
+    /// that it cannot be kept.
+    void leaveAsItIs(const QString &device);
+    /// What is remembered is forgotten: the act is New.
+    void forget(const QString &device);
+
+    /// Whether the act was carried out on this visit, successfully or not.
     bool isCarriedOut(const QString &device, const Act &act) const;
+    /// The network on which something was carried out; none where nothing was.
+    std::optional<QString> ssid(const QString &device) const;
     /// The devices for which something is remembered.
     QStringList devices() const;
 
-    /// An address change of `device` is under way: until it has settled, its link may go and the
-    /// network be left without a meaning.
+    /// An address change of `device`, whoever asked, is under way: until it has settled, its link
+    /// may go and the network be left without a meaning.
     void changeBegan(const QString &device);
+    void changeAnswered(const QString &device);
     /// One change has settled. When the link is still down it is expected back within a minute;
     /// after that, or when the clock was set back, it is down by itself.
     void changeSettled(const QString &device, bool linkIsUp, const QDateTime &now);
 
-    /// The device was seen on its network, or off it. Being off it by itself ends its visit: what
-    /// is remembered is forgotten.
+    /// The device was seen on its network: it is back from where it was, if it was away.
     void sawOnNetwork(const QString &device, const QDateTime &now);
-    void sawOffNetwork(const QString &device, const QDateTime &now);
-    /// The device was taken away.
+    /// The link of the device is up, on whatever network: where it was away for too long, its visit
+    /// has ended.
+    void sawLinkUp(const QString &device, const QDateTime &now);
+    /// The device was seen off its network. Being off it by itself ends its visit, unless it comes
+    /// back within `grace`.
+    void sawOffNetwork(const QString &device, const QDateTime &now,
+        std::chrono::milliseconds grace = std::chrono::milliseconds(0));
+    /// The device was seen on another network: its visit has ended, unless a change is under way.
+    void sawElsewhere(const QString &device);
+    /// The device was taken away, or may have been elsewhere unseen.
     void sawGone(const QString &device);
 
 private:
+    /// An act on a visit, from the moment that it is asked for.
+    struct Carried
+    {
+        Act act;
+        quint64 number = 0;
+        bool isAsked = true; ///< the answer has not come
+        bool isFailed = false;
+        bool wentOff = false;           ///< off the network since it was asked for
+        std::optional<QString> address; ///< what it set, while it is looked after
+        int failures = 0;
+        int repeats = 0; ///< because another program had undone it
+    };
+    struct Absence
+    {
+        QDateTime since;
+        std::chrono::milliseconds grace;
+
+        bool isOver(const QDateTime &now) const;
+    };
     struct Visit
     {
-        std::optional<Act> act;
-        int changesUnderWay = 0;
-        std::optional<QDateTime> downSince; ///< settled with the link down, not seen up since
-
-        bool isExpectedBack(const QDateTime &now) const;
+        std::optional<Carried> carried;
+        int unanswered = 0;
+        int changesUnderWay = 0; ///< not settled
+        std::optional<Absence> absence;
     };
 
+    Carried *carried(const QString &device, quint64 number);
+
     QHash<QString, Visit> m_visits;
+    quint64 m_lastNumber = 0;
 };
 
 } // namespace quillon

@@ -73,14 +73,17 @@ std::optional<QList<PortRecord>> FakeNetworkHost::ports()
 InterfaceInfo FakeNetworkHost::info(const QString &device)
 {
     m_journal << u"info "_s + device;
+    if (m_unreadable) {
+        return {.readFailed = true};
+    }
     const auto found = std::find_if(m_interfaces.cbegin(), m_interfaces.cend(), named(device));
-    return m_unreadable || found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
+    return found == m_interfaces.cend() ? InterfaceInfo{} : answer(*found);
 }
 
 InterfaceInfo FakeNetworkHost::answer(const Interface &interface)
 {
     if (interface.broken) {
-        return {};
+        return {.readFailed = true};
     }
     return {
         .ipAddress = interface.ipv4.value(0),

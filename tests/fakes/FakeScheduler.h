@@ -15,6 +15,10 @@ class FakeScheduler : public Scheduler
 {
 public:
     QDateTime now() const override { return m_now.addMSecs(m_clockIsAhead.count()); }
+    std::chrono::milliseconds monotonic() const override
+    {
+        return std::chrono::milliseconds(m_now.toMSecsSinceEpoch());
+    }
     bool isMainThread() const override { return m_onMainThread; }
     using Scheduler::onMain;
     using Scheduler::onMainAfter;

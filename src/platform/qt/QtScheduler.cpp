@@ -36,6 +36,13 @@ QDateTime QtScheduler::now() const
     return QDateTime::currentDateTimeUtc();
 }
 
+std::chrono::milliseconds QtScheduler::monotonic() const
+{
+    // CLOCK_MONOTONIC stands still in suspension.
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+}
+
 bool QtScheduler::isMainThread() const
 {
     return QThread::currentThread() == m_loop.thread();

@@ -25,6 +25,7 @@ public:
     ~QtScheduler() override;
 
     QDateTime now() const override;
+    std::chrono::milliseconds monotonic() const override;
     bool isMainThread() const override;
     using Scheduler::onMain;
     using Scheduler::onMainAfter;

@@ -22,6 +22,11 @@ public:
     ~FastScheduler() override;
 
     QDateTime now() const override;
+    /// The same clock: nobody sets it, and it is never suspended.
+    std::chrono::milliseconds monotonic() const override
+    {
+        return std::chrono::milliseconds(m_start.msecsTo(now()));
+    }
     bool isMainThread() const override { return m_real.isMainThread(); }
     void onMain(Task task) override { m_real.onMain(std::move(task)); }
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;

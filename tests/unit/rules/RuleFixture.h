@@ -76,6 +76,8 @@ protected:
         QObject::connect(
             &changer, &AddressChanger::changeEnded, &execution, &RuleExecution::addressChangeEnded);
         QObject::connect(
+            &execution, &RuleExecution::obstacleEnded, [this] { networkChange.makeUpForWithheld(); });
+        QObject::connect(
             &store, &RecordStore::objectsDidChange, &invariants, &RuleInvariants::contextDidChange);
         notifications.addObserver(notifications::updateOverview, [this](const auto &posted) {
             if (posted.object != &timers) {

@@ -103,7 +103,7 @@ InterfaceInfo NetlinkHost::info(const QString &device)
     const LinkMessages links = socket.link(name);
     isRead("Interface", links.error == ENODEV ? 0 : links.error);
     if (links.links.isEmpty() || links.links.first().name != device) {
-        return {};
+        return {.readFailed = links.error != 0 && links.error != ENODEV};
     }
     const LinkInfo &link = links.links.first();
     const QList<AddressInfo> addresses = socket.addresses(link.index).addresses;

@@ -1,0 +1,225 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Once per visit means once successfully: what failed is tried again, but not without end.
+#include "unit/rules/VisitFixture.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+class VisitFailure : public VisitFixture
+{
+protected:
+    /// The machine is well again; there is other news on the same visit.
+    void expectTriedAgain()
+    {
+        helper.mood = FakeHelper::Mood::Obliging;
+        helper.installed = true;
+        helper.serviceExists = true;
+        host.at(en0).keepsAddress = false;
+        ASSERT_EQ(host.addressOf(en0), factory);
+        pass(10s);
+        news(en0);
+        pass(1s);
+        EXPECT_NE(host.addressOf(en0), factory);
+        const qsizetype done = changes(en0);
+        pass(10s);
+        news(en0);
+        EXPECT_EQ(changes(en0), done) << "done is done";
+    }
+};
+
+TEST_F(VisitFailure, BecauseThereIsNoHelperIsTriedAgain)
+{
+    helper.installed = false;
+    news(en0);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, BecauseThereIsNoServiceIsTriedAgain)
+{
+    helper.serviceExists = false;
+    news(en0);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, BecauseThePromptWasDismissedIsTriedAgain)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, BecauseThePromptTimedOutIsTriedAgain)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    pass(1min);
+    news(en0);
+    EXPECT_EQ(asked(), 1) << "somebody is being asked";
+    helper.timeOut();
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, BecauseTheHelperWentIsTriedAgain)
+{
+    helper.mood = FakeHelper::Mood::Dropping;
+    news(en0);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, BecauseTheDriverKeepsTheAddressIsTriedAgain)
+{
+    host.at(en0).keepsAddress = true;
+    news(en0);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, AsAnotherAddressIsReadBackIsTriedAgain)
+{
+    news(en0);
+    pass(100ms);
+    host.giveAddress(en0, factory);
+    pass(1s);
+    expectTriedAgain();
+}
+
+TEST_F(VisitFailure, ToTellThatItSucceededIsDone)
+{
+    ruleOf(en0).setAddress(fixedAddress);
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    host.giveAddress(en0, fixedAddress);
+    helper.timeOut();
+    pass(10s);
+    news(en0);
+    EXPECT_EQ(asked(), 1) << "the answer was lost, not the address";
+}
+
+TEST_F(VisitFailure, IsTriedTwiceMoreOnOneVisit)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    for (int time = 0; time < 20; ++time) {
+        news(en0);
+        pass(2min);
+    }
+    EXPECT_EQ(changes(en0), 3);
+    linkGoes(en0);
+    linkComes(en0);
+    EXPECT_EQ(changes(en0), 4) << "another visit";
+}
+
+TEST_F(VisitFailure, AsksNobodyMoreThanThreeTimesAMinute)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    for (int second = 0; second < 54; second += 6) {
+        linkComes(en0);
+        pass(6s);
+        linkGoes(en0);
+    }
+    EXPECT_EQ(changes(en0), 3);
+}
+
+TEST_F(VisitFailure, WhileTheCableWasMovedIsTriedAgainAtOnce)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    pass(8s);
+    linkGoes(en0);
+    linkComes(en0);
+    EXPECT_EQ(asked(), 1);
+    helper.mood = FakeHelper::Mood::Obliging;
+    helper.timeOut();
+    pass(1s);
+    EXPECT_EQ(asked(), 2);
+    EXPECT_NE(host.addressOf(en0), factory);
+}
+
+TEST_F(VisitFailure, RightBeforeTheCableIsMovedIsTriedAgain)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    helper.mood = FakeHelper::Mood::Obliging;
+    pass(600ms);
+    linkGoes(en0);
+    pass(1s);
+    linkComes(en0);
+    EXPECT_EQ(changes(en0), 2);
+}
+
+TEST_F(VisitFailure, AtEachRestartOfTheLinkEnds)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    for (int time = 0; time < 20; ++time) {
+        linkGoes(en0);
+        linkComes(en0);
+        pass(1s);
+    }
+    EXPECT_EQ(changes(en0), 3);
+}
+
+TEST_F(VisitFailure, LeavesTheAddressThatTheUserChoseSince)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    helper.mood = FakeHelper::Mood::Obliging;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    news(en0);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
+TEST_F(VisitFailure, AfterTheUserChoseAnAddressLeavesThat)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    helper.mood = FakeHelper::Mood::Obliging;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    helper.timeOut();
+    pass(10s);
+    news(en0);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
+TEST_F(VisitFailure, AfterItsDeviceWentIsNoneOfTheNextVisit)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    const FakeNetworkHost::Interface taken = host.at(en0);
+    host.unplug(en0);
+    networkEvent();
+    helper.mood = FakeHelper::Mood::Obliging;
+    helper.timeOut();
+    pass(10s);
+    EXPECT_EQ(asked(), 1);
+    host.plug(taken);
+    news(en0);
+    pass(10s);
+    news(en0);
+    EXPECT_EQ(asked(), 2);
+}
+
+TEST_F(VisitFailure, OnOneDeviceIsNothingToTheOther)
+{
+    joinHome();
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    helper.mood = FakeHelper::Mood::Obliging;
+    pass(10s);
+    news(en1);
+    pass(10s);
+    news(en1);
+    EXPECT_EQ(changes(en1), 1);
+    news(en0);
+    EXPECT_EQ(changes(en0), 2);
+}
+
+} // namespace
+} // namespace quillon::test

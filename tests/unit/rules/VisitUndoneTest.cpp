@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Another program sets an address of its own on the same visit.
+#include "unit/rules/VisitFixture.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+const QString replaced = u"Ethernet Address was replaced"_s;
+
+class VisitUndone : public VisitFixture
+{
+protected:
+    VisitUndone()
+    {
+        news(en0);
+        pass(10s);
+    }
+    const QString foreign = u"02:00:00:00:01:01"_s;
+};
+
+TEST_F(VisitUndone, ByAnotherProgramIsCarriedOutAgain)
+{
+    anotherProgramSets(en0, factory);
+    pass(10s);
+    ASSERT_EQ(changes(en0), 2);
+    EXPECT_NE(changesOf(en0).at(1), changesOf(en0).at(0));
+    EXPECT_EQ(host.addressOf(en0), changesOf(en0).at(1).toLower());
+    EXPECT_EQ(told(replaced), 0);
+}
+
+TEST_F(VisitUndone, RightAfterTheChangeIsCarriedOutAgain)
+{
+    linkGoes(en0);
+    linkComes(en0);
+    pass(600ms);
+    ASSERT_EQ(changes(en0), 2);
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(changes(en0), 3);
+}
+
+TEST_F(VisitUndone, ForTheThirdTimeIsToldOnceAndLeft)
+{
+    for (int time = 0; time < 10; ++time) {
+        anotherProgramSets(en0, time % 2 == 0 ? factory : foreign);
+        pass(2min);
+    }
+    EXPECT_EQ(changes(en0), 3);
+    EXPECT_EQ(told(replaced), 1);
+    linkGoes(en0);
+    linkComes(en0);
+    pass(10s);
+    EXPECT_EQ(changes(en0), 4) << "another visit";
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(changes(en0), 5);
+}
+
+TEST_F(VisitUndone, WhereTheRuleGivesAFixedAddressIsCarriedOutAgain)
+{
+    ruleOf(en0).setAddress(fixedAddress);
+    news(en0);
+    pass(10s);
+    ASSERT_EQ(host.addressOf(en0), fixedAddress);
+    anotherProgramSets(en0, factory);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+    anotherProgramSets(en0, factory);
+    pass(10s);
+    anotherProgramSets(en0, factory);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), factory);
+    EXPECT_EQ(told(replaced), 1);
+}
+
+TEST_F(VisitUndone, IsNotWhatIsWrittenOtherwise)
+{
+    ruleOf(en0).setAddress(u"2:0:0:0:AB:7"_s);
+    news(en0);
+    pass(10s);
+    ASSERT_EQ(host.addressOf(en0), u"02:00:00:00:ab:07"_s);
+    const qsizetype done = changes(en0);
+    news(en0);
+    pass(10s);
+    news(en0);
+    EXPECT_EQ(changes(en0), done);
+}
+
+TEST_F(VisitUndone, OfAnAddressThatWasInPlaceBeforeIsCarriedOutAgain)
+{
+    host.giveAddress(en0, fixedAddress);
+    ruleOf(en0).setAddress(fixedAddress);
+    news(en0);
+    const qsizetype before = changes(en0);
+    ASSERT_EQ(told(u"Ethernet Address was not Changed"_s), 1) << "identical";
+    pass(10s);
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(changes(en0), before + 1);
+}
+
+TEST_F(VisitUndone, IsNotWhatTheUserChose)
+{
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    scheduler.runPending();
+    networkEvent();
+    news(en0);
+    pass(100ms);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress) << "before the helper has answered";
+    pass(10s);
+    news(en0);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+    anotherProgramSets(en0, factory);
+    pass(10s);
+    EXPECT_EQ(changes(en0), 2) << "the user's own address is none of the rule's";
+    EXPECT_EQ(told(replaced), 0);
+}
+
+TEST_F(VisitUndone, IsSeenAlsoAfterAChangeOfTheUserThatFailed)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    helper.mood = FakeHelper::Mood::Obliging;
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(changes(en0), 3);
+}
+
+TEST_F(VisitUndone, WhileTheInternetIsAwayWaitsForIt)
+{
+    reachability.reachable = false;
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(changes(en0), 1);
+    reachability.reachable = true;
+    networkEvent();
+    EXPECT_EQ(changes(en0), 2);
+}
+
+TEST_F(VisitUndone, WhileTheLinkIsDownWaitsForIt)
+{
+    linkGoes(en0);
+    pass(1s);
+    host.giveAddress(en0, factory);
+    networkEvent();
+    EXPECT_EQ(changes(en0), 1);
+    linkComes(en0);
+    EXPECT_EQ(changes(en0), 2);
+}
+
+TEST_F(VisitUndone, IsNotAnAddressThatCannotBeRead)
+{
+    host.at(en0).broken = true;
+    networkEvent();
+    host.at(en0).broken = false;
+    networkEvent();
+    pass(10s);
+    EXPECT_EQ(changes(en0), 1);
+}
+
+TEST_F(VisitUndone, WhereTheRuleWasEditedMeanwhileIsWhatTheNewOneSays)
+{
+    anotherProgramSets(en0, factory);
+    ruleOf(en0).setAddress(fixedAddress);
+    pass(10s);
+    news(en0);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
+} // namespace
+} // namespace quillon::test

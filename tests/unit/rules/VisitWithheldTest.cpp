@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// An evaluation that was withheld because the internet could not be reached is made up for, once.
+#include "unit/rules/VisitFixture.h"
+
+using namespace std::chrono_literals;
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+class VisitWithheld : public VisitFixture
+{
+protected:
+    VisitWithheld() { reachability.reachable = false; }
+    /// The internet can be reached, and the system tells of something that shows in no record.
+    void internetComes()
+    {
+        reachability.reachable = true;
+        networkEvent();
+    }
+};
+
+TEST_F(VisitWithheld, IsMadeUpForWhenTheInternetCanBeReachedOnce)
+{
+    news(en0);
+    networkEvent();
+    EXPECT_EQ(changes(en0), 0);
+    internetComes();
+    EXPECT_EQ(changes(en0), 1);
+    pass(10s);
+    reachability.reachable = false;
+    networkEvent();
+    internetComes();
+    EXPECT_EQ(changes(en0), 1);
+    EXPECT_EQ(overviews.size(), 2) << "nothing was evaluated for that";
+}
+
+TEST_F(VisitWithheld, IsMadeUpForByTheNewsOfAnotherDevice)
+{
+    joinHome();
+    news(en0);
+    reachability.reachable = true;
+    news(en1);
+    EXPECT_EQ(changes(en0), 1);
+    EXPECT_EQ(changes(en1), 1);
+}
+
+TEST_F(VisitWithheld, OfSeveralDevicesIsMadeUpForOnEach)
+{
+    joinHome();
+    news(en0);
+    news(en1);
+    internetComes();
+    EXPECT_EQ(changes(en0), 1);
+    EXPECT_EQ(changes(en1), 1);
+}
+
+TEST_F(VisitWithheld, OfTheWifiInterfaceIsMadeUpForOnTheNetworkThatItIsOnByThen)
+{
+    ruleOf(en1).setNetwork(u"02:00:00:00:cc:01"_s);
+    joinHome();
+    news(en1);
+    joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
+    internetComes();
+    EXPECT_EQ(changes(en1), 1);
+}
+
+TEST_F(VisitWithheld, OfARuleThatRepeatsStartsOneCountdown)
+{
+    ruleOf(en0).setChangeAction(Rule::every);
+    news(en0);
+    EXPECT_FALSE(isCountingDown(en0));
+    internetComes();
+    EXPECT_TRUE(isCountingDown(en0));
+    pass(4min);
+    networkEvent();
+    pass(1min);
+    EXPECT_EQ(changes(en0), 1) << "the countdown was not started again";
+}
+
+TEST_F(VisitWithheld, IsNotMadeUpForAfterTheUserHadItCarriedOut)
+{
+    news(en0);
+    evaluate(en0, RuleChange::NetworkRule);
+    ASSERT_EQ(changes(en0), 1);
+    pass(10s);
+    internetComes();
+    EXPECT_EQ(changes(en0), 1);
+}
+
+TEST_F(VisitWithheld, IsMadeUpForByTheRuleThatIsInForceByThen)
+{
+    news(en0);
+    ruleOf(en0).setAddress(fixedAddress);
+    internetComes();
+    EXPECT_EQ(changesOf(en0), QStringList{fixedAddress});
+}
+
+TEST_F(VisitWithheld, IsNotWhatAnEditOfRulesShows)
+{
+    reachability.reachable = true;
+    evaluation.rulesWereChanged();
+    networkEvent();
+    EXPECT_TRUE(helper.changes().isEmpty());
+    EXPECT_EQ(reachability.questions, 0);
+}
+
+} // namespace
+} // namespace quillon::test
