@@ -101,8 +101,8 @@ void LaunchSequence::startup()
 
 void LaunchSequence::checkRules()
 {
-    m_features.rules.evaluation.checkDeviceForCurrentRuleAndChange(
-        allDevices, m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::OncePerVisit);
+    m_features.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices,
+        m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::OncePerVisit);
     m_startedFromLogin = false;
 }
 

@@ -73,9 +73,8 @@ public:
     /// The same with a random address, made now. Without `vendor` inside the prefix of the
     /// manufacturer that was chosen for the device, if any; "" for none. When no random number can
     /// be had the address is empty, and the outcome says so. Any thread.
-    void genRandomMacAddressWithVendor(
-        const QString &device, const std::optional<QString> &vendor = std::nullopt,
-        Reply reply = {});
+    void genRandomMacAddressWithVendor(const QString &device,
+        const std::optional<QString> &vendor = std::nullopt, Reply reply = {});
 
     /// Tells the user that another program keeps setting an address of its own on `device`. Any
     /// thread.

@@ -83,12 +83,25 @@ void RuleExecution::applyRulesForDevice(
             applyOncePerVisit(device, outcome);
             break;
         }
-        // The rule of the network has the last word, also where it had the first one.
-        perform(device, actionsOfLoginRule(outcome.loginRule), [](const ChangeOutcome &) {});
+        applyLoginRule(device, outcome);
         m_visits.forget(device);
         applyNetworkRule(device, outcome);
         break;
     }
+}
+
+void RuleExecution::applyLoginRule(const QString &device, const RuleOutcome &outcome)
+{
+    perform(device, actionsOfLoginRule(outcome.loginRule),
+        m_deps.scheduler.replyOnMain<ChangeOutcome>(
+            this, [this, device, outcome](const ChangeOutcome &answer) {
+                // The rule of the network has the last word, also where its address was in use
+                // before.
+                const auto standing = m_visits.standing(device, actOf(outcome), answer.address);
+                if (standing == Visits::Standing::Undone) {
+                    applyNetworkRule(device, outcome);
+                }
+            }));
 }
 
 // Under another rule, or on another network, what was carried out before is over.
@@ -148,13 +161,12 @@ void RuleExecution::applyNetworkRule(const QString &device, const RuleOutcome &o
     const quint64 number = m_visits.carryOut(device, actOf(outcome));
     perform(device, actions,
         m_deps.scheduler.replyOnMain<ChangeOutcome>(
-            this, [this, device, number](const ChangeOutcome &answer) {
-                changeAnswered(device, number, answer);
-            }));
+            this, [this, device, number](
+                      const ChangeOutcome &answer) { changeAnswered(device, number, answer); }));
 }
 
-void RuleExecution::perform(const QString &device, const QList<RuleAction> &actions,
-    const AddressChanger::Reply &reply)
+void RuleExecution::perform(
+    const QString &device, const QList<RuleAction> &actions, const AddressChanger::Reply &reply)
 {
     for (const RuleAction &action : actions) {
         switch (action.kind) {
@@ -246,7 +258,8 @@ void RuleExecution::followDevice(const QString &device)
 // Wired networks have no names: whoever closes a computer may open it in another office.
 void RuleExecution::noteSuspension()
 {
-    const std::chrono::milliseconds before = std::exchange(m_clockAhead, clockAhead(m_deps.scheduler));
+    const std::chrono::milliseconds before =
+        std::exchange(m_clockAhead, clockAhead(m_deps.scheduler));
     if (std::chrono::abs(m_clockAhead - before) <= suspensionTime) {
         return;
     }

@@ -57,6 +57,7 @@ Q_SIGNALS:
 
 private:
     void followNetwork(const QString &device, const RuleOutcome &outcome);
+    void applyLoginRule(const QString &device, const RuleOutcome &outcome);
     void applyOncePerVisit(const QString &device, const RuleOutcome &outcome);
     void applyNetworkRule(const QString &device, const RuleOutcome &outcome);
     void perform(const QString &device, const QList<RuleAction> &actions,

@@ -123,9 +123,8 @@ bool Visits::isCarriedOut(const QString &device, const Act &act) const
 std::optional<QString> Visits::ssid(const QString &device) const
 {
     const auto visit = m_visits.constFind(device);
-    return visit != m_visits.constEnd() && visit->carried
-               ? std::optional(visit->carried->act.ssid)
-               : std::nullopt;
+    return visit != m_visits.constEnd() && visit->carried ? std::optional(visit->carried->act.ssid)
+                                                          : std::nullopt;
 }
 
 QStringList Visits::devices() const

@@ -332,5 +332,31 @@ TEST_F(EventWiringTest, AfterTheProgramsEndNothingObservesAnyMore)
     machine.scheduler.runPending();
 }
 
+TEST_F(EventWiringTest, TheSavedAddressesOfferedFollowTheirSetting)
+{
+    const auto offered = [this] { return features().networks.savedLists.state().quickAddresses; };
+    ASSERT_TRUE(offered().isEmpty());
+    machine.settings.set(keys::savedAddresses,
+        QVariantMap{{u"02:00:00:00:00:AA"_s, QVariantMap{{savedentry::name, u"Mine"_s}}}});
+    machine.scheduler.runPending();
+    EXPECT_FALSE(offered().isEmpty());
+}
+
+TEST_F(EventWiringTest, TheExternalAddressIsAskedForWhenThatIsSwitchedOn)
+{
+    const qsizetype before = machine.http.requests().size();
+    machine.settings.setBool(keys::shouldUpdateExternalIP, true);
+    EXPECT_EQ(machine.http.requests().size(), before + 1);
+}
+
+TEST_F(EventWiringTest, TheRecordsFollowTheSwitchOfTheCloud)
+{
+    int replaced = 0;
+    QObject::connect(
+        &features().history.store, &RecordStore::managedObjectContextReplaced, [&] { ++replaced; });
+    machine.settings.setBool(keys::iCloudSync, true);
+    EXPECT_EQ(replaced, 1);
+}
+
 } // namespace
 } // namespace quillon::test

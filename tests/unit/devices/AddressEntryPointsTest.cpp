@@ -145,5 +145,53 @@ TEST_F(AddressEntryPoints, AMenuItemInTheWrongPlaceDoesNothing)
     EXPECT_TRUE(notifier.messages().isEmpty());
 }
 
+TEST_F(AddressEntryPoints, AnEmptyVendorIsNotThatOfTheDevice)
+{
+    QVariantMap record = storedRecord(en1);
+    record[record::vendor] = u"Some Maker Inc. (A2B2C3)"_s;
+    storeRecord(en1, record);
+    changer->genRandomMacAddressWithVendor(en1, u""_s);
+    scheduler.runPending();
+    EXPECT_EQ(host.addressOf(en1), "c2:ab:cd:ef:00:09"_L1);
+}
+
+TEST_F(AddressEntryPoints, RestoreTakesTheAddressOfTheSelectionNotThatOfTheTable)
+{
+    QVariantMap selection = storedSelection();
+    selection[record::hardware] = u"02:FA:C7:00:00:09"_s;
+    settings.set(keys::currentInterfaceDict, selection);
+    changer->restoreDefaultAddress();
+    scheduler.runPending();
+    ASSERT_EQ(helper.changes().size(), 1);
+    EXPECT_EQ(helper.changes().first().device, en1);
+    EXPECT_EQ(helper.changes().first().address, "02:FA:C7:00:00:09"_L1);
+}
+
+TEST_F(AddressEntryPoints, AMenuTitleIsCutAtItsFirstSeparator)
+{
+    const QString odd = u"lan \u00B7 en0"_s;
+    storeRecord(odd, {{record::interface, u"Ethernet"_s}});
+    MenuItem twice{QString()};
+    twice.append(u"Ethernet \u00B7 lan \u00B7 en0"_s);
+    MenuItem &factory = twice.append(u"Factory \u00B7 02:FA:C7:00:00:01"_s);
+    MenuItem &address = twice.append(u"Address \u00B7 00:16:3E:11:22:33"_s);
+    changer->randomizeAddress(address.append(u"Randomize"_s));
+    changer->restoreDefaultAddress(factory.append(u"Restore"_s));
+    scheduler.runPending();
+    ASSERT_EQ(helper.changes().size(), 2);
+    EXPECT_EQ(helper.changes().at(0).device, odd);
+    EXPECT_EQ(helper.changes().at(1).device, odd);
+}
+
+TEST_F(AddressEntryPoints, AMenuRestoreReadsTheAddressFromTheFirstSeparatorOn)
+{
+    MenuItem twice{QString()};
+    twice.append(u"Ethernet \u00B7 en0"_s);
+    MenuItem &factory = twice.append(u"Factory \u00B7 was \u00B7 02:FA:C7:00:00:01"_s);
+    changer->restoreDefaultAddress(factory.append(u"Restore"_s));
+    scheduler.runPending();
+    EXPECT_TRUE(helper.changes().isEmpty()) << "that is no address";
+}
+
 } // namespace
 } // namespace quillon::test

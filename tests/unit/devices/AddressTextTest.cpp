@@ -80,5 +80,21 @@ TEST(AddressText, KnowsNoLettersAndDigitsBeyondAscii)
     EXPECT_FALSE(isAddress("aa:bb:cc\uff1add:ee:ff"));
 }
 
+TEST(AddressTextSame, CountsNeitherCaseNorLeadingZeros)
+{
+    EXPECT_TRUE(isSameAddress(u"02:aa:bb:0c:dd:01"_s, u"02:AA:BB:0C:DD:01"_s));
+    EXPECT_TRUE(isSameAddress(u"2:AA:BB:C:DD:1"_s, u"02:aa:bb:0c:dd:01"_s));
+    EXPECT_FALSE(isSameAddress(u"02:aa:bb:0c:dd:01"_s, u"02:aa:bb:0c:dd:02"_s));
+    EXPECT_FALSE(isSameAddress(u"02:aa:bb:0c:dd:01"_s, u"20:aa:bb:0c:dd:01"_s));
+}
+
+TEST(AddressTextSame, IsNoneThatIsNoAddress)
+{
+    for (const QString &text : {QString(), u"Random Address"_s, u"02:aa:bb:cc:dd"_s,
+             u"02:aa:bb:cc:dd:0g"_s, u"002:aa:bb:cc:dd:01"_s, u"02:aa:bb:cc:dd:01\n"_s}) {
+        EXPECT_FALSE(isSameAddress(text, text)) << text.toStdString();
+    }
+}
+
 } // namespace
 } // namespace quillon::test

@@ -194,5 +194,13 @@ TEST_F(RandomAddressOfDevice, HoldsNothingButDigitsAndColonsForEveryFirstByte)
     }
 }
 
+TEST_F(RandomAddressOfDevice, IsPlainForAnEmptyVendorWhateverTheDevicesOwn)
+{
+    storeRecord(u"en0"_s, {{record::vendor, u"Maker (0016EA)"_s}});
+    EXPECT_EQ(made(u""_s), "C2:AB:CD:EF:00:09"_L1);
+    random.put(QByteArray::fromHex("c0abcdef0009"));
+    EXPECT_EQ(made(QString()), "C2:AB:CD:EF:00:09"_L1) << "given, and empty";
+}
+
 } // namespace
 } // namespace quillon::test

@@ -6,6 +6,9 @@
 #include "rules/Rule.h"
 #include "unit/store/RecordStoreFixture.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -114,6 +117,37 @@ TEST_F(RuleActionsTest, ALoginRuleChangesTheAddressWhateverItsOtherFieldsSay)
 TEST_F(RuleActionsTest, WithoutLoginRuleNothingHappens)
 {
     EXPECT_TRUE(actionsOfLoginRule({}).isEmpty());
+}
+
+/// The user's language has a word of its own for a random address.
+class RuleActionsInTheUsersLanguage : public RuleActionsTest
+{
+protected:
+    RuleActionsInTheUsersLanguage() { QCoreApplication::installTranslator(&m_translator); }
+    ~RuleActionsInTheUsersLanguage() override { QCoreApplication::removeTranslator(&m_translator); }
+
+private:
+    class Words : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return QByteArrayView(text) == "Random Address" ? u"Zufallsadresse"_s : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } m_translator;
+};
+
+TEST_F(RuleActionsInTheUsersLanguage, ARandomAddressIsStoredAndReadInIt)
+{
+    EXPECT_EQ(randomAddressTitle(), u"Zufallsadresse"_s);
+    EXPECT_EQ(
+        actionsOfNetworkRule(rule(u"Zufallsadresse"_s), true).last().kind, Kind::RandomAddress);
+    EXPECT_EQ(actionsOfNetworkRule(rule(u"Zufallsadresse"_s, 1, 1), true).last(), start);
+    EXPECT_EQ(actionsOfLoginRule(rule(u"Zufallsadresse"_s)).last().kind, Kind::RandomAddress);
+    EXPECT_EQ(actionsOfNetworkRule(rule(randomAddress), true).last(),
+        (RuleAction{Kind::FixedAddress, randomAddress, {}}))
+        << "as it stands there";
 }
 
 } // namespace

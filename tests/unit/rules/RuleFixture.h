@@ -75,8 +75,8 @@ protected:
             &changer, &AddressChanger::changeBegan, &execution, &RuleExecution::addressChangeBegan);
         QObject::connect(
             &changer, &AddressChanger::changeEnded, &execution, &RuleExecution::addressChangeEnded);
-        QObject::connect(
-            &execution, &RuleExecution::obstacleEnded, [this] { networkChange.makeUpForWithheld(); });
+        QObject::connect(&execution, &RuleExecution::obstacleEnded,
+            [this] { networkChange.makeUpForWithheld(); });
         QObject::connect(
             &store, &RecordStore::objectsDidChange, &invariants, &RuleInvariants::contextDidChange);
         notifications.addObserver(notifications::updateOverview, [this](const auto &posted) {

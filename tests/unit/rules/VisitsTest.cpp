@@ -157,5 +157,131 @@ TEST_F(VisitsTest, ToleratesWhatItNeverHeardOf)
     EXPECT_FALSE(rules.isCarriedOut(en0, home));
 }
 
+class VisitsStanding : public VisitsTest
+{
+protected:
+    Visits::Standing standing(const QString &address = u"02:00:00:00:00:01"_s) const
+    {
+        return rules.standing(en0, home, address);
+    }
+    /// Asked for, answered and settled.
+    void fail() { EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home))); }
+    void succeed() { rules.succeeded(en0, rules.carryOut(en0, home), u"02:00:00:00:00:01"_s); }
+    const QString foreign = u"02:00:00:00:00:99"_s;
+};
+
+TEST_F(VisitsStanding, OfWhatWasAskedForIsUnderWayUntilTheAnswer)
+{
+    EXPECT_EQ(standing(), Visits::Standing::New);
+    const quint64 number = rules.carryOut(en0, home);
+    EXPECT_EQ(standing(foreign), Visits::Standing::UnderWay);
+    rules.succeeded(en0, number, u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(standing(), Visits::Standing::Done);
+    EXPECT_EQ(rules.standing(en0, office, foreign), Visits::Standing::New);
+}
+
+TEST_F(VisitsStanding, OfAFailureIsItsOwnNewsUntilItHasSettled)
+{
+    rules.changeBegan(en0);
+    fail();
+    EXPECT_EQ(standing(), Visits::Standing::UnderWay);
+    rules.changeAnswered(en0);
+    EXPECT_EQ(standing(), Visits::Standing::UnderWay);
+    rules.changeSettled(en0, true, now);
+    EXPECT_EQ(standing(), Visits::Standing::Failed);
+}
+
+TEST_F(VisitsStanding, OfTheThirdFailureIsTheLast)
+{
+    fail();
+    fail();
+    EXPECT_EQ(standing(), Visits::Standing::Failed);
+    fail();
+    EXPECT_EQ(standing(), Visits::Standing::Done);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_EQ(standing(), Visits::Standing::New);
+    fail();
+    EXPECT_EQ(standing(), Visits::Standing::Failed);
+}
+
+TEST_F(VisitsStanding, OfAFailureTellsOnceWhetherTheDeviceWasAway)
+{
+    rules.changeBegan(en0);
+    const quint64 number = rules.carryOut(en0, home);
+    rules.sawOffNetwork(en0, now);
+    EXPECT_TRUE(rules.failed(en0, number));
+    rules.changeAnswered(en0);
+    EXPECT_EQ(standing(), Visits::Standing::Failed) << "not settled, but moved";
+    EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home)));
+}
+
+TEST_F(VisitsStanding, OfAnotherAddressIsUndoneTwiceAndThenGivenUp)
+{
+    succeed();
+    EXPECT_EQ(standing(QString()), Visits::Standing::Done) << "nobody knows";
+    EXPECT_EQ(standing(u"2:0:0:0:0:1"_s), Visits::Standing::Done);
+    EXPECT_EQ(standing(foreign), Visits::Standing::Undone);
+    succeed();
+    EXPECT_EQ(standing(foreign), Visits::Standing::Undone);
+    succeed();
+    EXPECT_EQ(standing(foreign), Visits::Standing::GivenUp);
+    rules.leaveAsItIs(en0);
+    EXPECT_EQ(standing(foreign), Visits::Standing::Done);
+}
+
+TEST_F(VisitsStanding, IsNotJudgedWhileAnyChangeIsUnanswered)
+{
+    succeed();
+    rules.changeBegan(en0);
+    EXPECT_EQ(standing(foreign), Visits::Standing::UnderWay);
+    rules.changeAnswered(en0);
+    EXPECT_EQ(standing(foreign), Visits::Standing::Undone);
+}
+
+TEST_F(VisitsStanding, IsNotMovedByAnAnswerFromAnotherVisit)
+{
+    const quint64 early = rules.carryOut(en0, home);
+    rules.sawGone(en0);
+    rules.succeeded(en0, early, foreign);
+    EXPECT_FALSE(rules.failed(en0, early));
+    EXPECT_EQ(standing(), Visits::Standing::New);
+    rules.carryOut(en0, home);
+    rules.succeeded(en0, early, foreign);
+    EXPECT_EQ(standing(), Visits::Standing::UnderWay);
+}
+
+TEST_F(VisitsStanding, LeftAsItIsIsNotTriedAgainWhateverTheAnswer)
+{
+    const quint64 number = rules.carryOut(en0, home);
+    rules.leaveAsItIs(en0);
+    EXPECT_FALSE(rules.failed(en0, number));
+    EXPECT_EQ(standing(foreign), Visits::Standing::Done);
+}
+
+TEST_F(VisitsTest, OutlivesAnAbsenceWithinItsGrace)
+{
+    using namespace std::chrono_literals;
+    rules.carryOut(en0, home);
+    rules.sawOffNetwork(en0, now, 10s);
+    rules.sawOffNetwork(en0, now.addSecs(10), 10s);
+    rules.sawLinkUp(en0, now.addSecs(10));
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.sawLinkUp(en0, now.addMSecs(10'001));
+    EXPECT_FALSE(rules.isCarriedOut(en0, home)) << "the grace is not begun anew";
+}
+
+TEST_F(VisitsTest, EndsElsewhereUnlessAChangeIsUnderWay)
+{
+    using namespace std::chrono_literals;
+    rules.carryOut(en0, home);
+    rules.changeBegan(en0);
+    rules.sawElsewhere(en0);
+    EXPECT_EQ(rules.ssid(en0), u"Home"_s);
+    rules.changeSettled(en0, true, now);
+    rules.sawOffNetwork(en0, now, 10s);
+    rules.sawElsewhere(en0);
+    EXPECT_EQ(rules.ssid(en0), std::nullopt);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -159,5 +159,91 @@ TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
     EXPECT_FALSE(isChanged(enp2s0));
 }
 
+TEST_F(RuleFeatureTest, TheEmptyVendorOfARuleFromTheFileIsNotThatOfTheDevice)
+{
+    saveRule(randomOnce(enp2s0, home));
+    create();
+    setDeviceRecord(enp2s0, record::vendor, u"Maker (3C22FB)"_s);
+    start();
+    machine.scheduler.advance(5s);
+    ASSERT_EQ(machine.helper.changes().size(), 1);
+    EXPECT_EQ(machine.helper.changes().first().address, u"AA:01:02:03:04:05"_s);
+}
+
+TEST_F(RuleFeatureTest, AnEventJustBeforeTheFirstCheckIsNotActedOnTwice)
+{
+    machine.helper.changeTakes = 100ms;
+    saveRule(randomOnce(enp1s0, home));
+    create();
+    start();
+    machine.scheduler.advance(500ms);
+    giveLease(enp1s0, u"192.0.2.77"_s);
+    machine.scheduler.advance(400ms);
+    ASSERT_EQ(machine.helper.changes().size(), 1);
+    machine.scheduler.advance(1min);
+    EXPECT_EQ(machine.helper.changes().size(), 1);
+}
+
+TEST_F(RuleFeatureTest, AnEventDuringWhichTheFirstCheckComesIsNotActedOnTwice)
+{
+    machine.helper.changeTakes = 800ms;
+    saveRule(randomOnce(enp1s0, home));
+    create();
+    start();
+    machine.scheduler.advance(500ms);
+    giveLease(enp1s0, u"192.0.2.77"_s);
+    machine.scheduler.advance(1min);
+    EXPECT_EQ(machine.helper.changes().size(), 1);
+}
+
+TEST_F(RuleFeatureTest, AfterALoginRuleTheRuleOfTheNetworkHasTheLastWordAlsoAfterAnEvent)
+{
+    machine.runningApplications.running.insert(loginHelper);
+    QVariantMap login = randomAtLogin(enp1s0);
+    login[model::rule::address] = u"02:00:00:00:00:11"_s;
+    QVariantMap fixed = randomOnce(enp1s0, home);
+    fixed[model::rule::address] = u"02:00:00:00:00:22"_s;
+    saveRule(login);
+    saveRule(fixed);
+    create();
+    start();
+    machine.scheduler.advance(500ms);
+    giveLease(enp1s0, u"192.0.2.77"_s);
+    machine.scheduler.advance(1min);
+    EXPECT_EQ(machine.helper.changes().size(), 3);
+    EXPECT_EQ(machine.host.addressOf(enp1s0), u"02:00:00:00:00:22"_s);
+}
+
+TEST_F(RuleFeatureTest, WhatFailedWhileTheCableWasMovedIsMadeUpForWithoutAnotherEvent)
+{
+    run();
+    insertRule(randomOnce(enp1s0, home));
+    machine.helper.mood = FakeHelper::Mood::Hanging;
+    giveLease(enp1s0, u"192.0.2.77"_s);
+    machine.scheduler.advance(1s);
+    for (const bool active : {false, true}) {
+        machine.host.at(enp1s0).active = active;
+        machine.networkChanges.networkChanges();
+    }
+    machine.helper.mood = FakeHelper::Mood::Obliging;
+    EXPECT_FALSE(isChanged(enp1s0));
+    machine.helper.timeOut();
+    machine.scheduler.advance(1s);
+    EXPECT_TRUE(isChanged(enp1s0));
+}
+
+TEST_F(RuleFeatureTest, AnAddressThatTheUserChoosesInTheWindowIsNotTakenForAnotherPrograms)
+{
+    saveRule(randomOnce(enp1s0, home));
+    run();
+    machine.scheduler.advance(10s);
+    features().mainWindow.randomizeAddress();
+    machine.scheduler.advance(10s);
+    const QString chosen = machine.host.addressOf(enp1s0);
+    giveLease(enp1s0, u"192.0.2.77"_s);
+    machine.scheduler.advance(10s);
+    EXPECT_EQ(machine.host.addressOf(enp1s0), chosen);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -58,6 +58,15 @@ TYPED_TEST(SchedulerConformance, TheClockIsUtc)
     EXPECT_GE(before.msecsTo(this->scheduler.now()), 30);
 }
 
+TYPED_TEST(SchedulerConformance, TheMonotonicClockGoesAsFastAsTheOther)
+{
+    const auto begin = this->scheduler.monotonic();
+    this->clock.pass(30ms);
+    const auto passed = this->scheduler.monotonic() - begin;
+    EXPECT_GE(passed, 29ms) << "whole milliseconds";
+    EXPECT_LT(passed, 10min);
+}
+
 TYPED_TEST(SchedulerConformance, TasksForTheMainThreadRunLaterAndInOrder)
 {
     QStringList done;
@@ -337,6 +346,16 @@ TEST(SchedulerOnQt, ManyThreadsMayGiveTasksAtOnce)
     clock.pass(100ms);
     EXPECT_EQ(onMain, 400);
     EXPECT_EQ(delayed, 400);
+}
+
+TEST(SchedulerFake, KeepsTheMonotonicClockWhenTheOtherIsSet)
+{
+    test::FakeScheduler scheduler;
+    const QDateTime now = scheduler.now();
+    const auto monotonic = scheduler.monotonic();
+    scheduler.setClock(1h);
+    EXPECT_EQ(now.msecsTo(scheduler.now()), 3'600'000);
+    EXPECT_EQ(scheduler.monotonic(), monotonic);
 }
 
 } // namespace
