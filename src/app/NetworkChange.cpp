@@ -11,8 +11,6 @@
 #include "rules/RuleEvaluation.h"
 #include "rules/RuleExecution.h"
 
-#include <utility>
-
 namespace quillon {
 
 NetworkChange::NetworkChange(const Collaborators &collaborators)
