@@ -234,6 +234,8 @@ TEST_F(RuleFeatureTest, WhatFailedWhileTheCableWasMovedIsMadeUpForWithoutAnother
 
 TEST_F(RuleFeatureTest, AnAddressThatTheUserChoosesInTheWindowIsNotTakenForAnotherPrograms)
 {
+    machine.random.put(QByteArray::fromHex("bb0102030405"
+                                           "cb0102030405"));
     saveRule(randomOnce(enp1s0, home));
     run();
     machine.scheduler.advance(10s);
