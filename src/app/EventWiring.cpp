@@ -226,7 +226,7 @@ void EventWiring::connectVendorField()
     on(vendors.choice, &VendorChoice::vendorFieldUpdated,
         [&field](const QString &text) { field.showText(text); });
     on(vendors.choice, &VendorChoice::vendorSelected,
-        [&field](const std::optional<qsizetype> &row) { field.selectRow(row); });
+        [&field](const QString &entry) { field.selectEntry(entry); });
     on(vendors.lookup, &VendorLookup::vendorButtonShown,
         [&field](bool shown) { field.showVendorButton(shown); });
 }

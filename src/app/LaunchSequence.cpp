@@ -5,6 +5,7 @@
 #include "app/EventWiring.h"
 #include "app/UserNotifications.h"
 #include "app/features/Features.h"
+#include "base/FreedMemory.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/Platform.h"
@@ -104,6 +105,8 @@ void LaunchSequence::checkRules()
     m_features.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices,
         m_startedFromLogin ? RuleChange::LoginAndNetworkRule : RuleChange::OncePerVisit);
     m_startedFromLogin = false;
+    // Of what the start needed much is done with, and from now on the program mostly waits.
+    returnFreedMemory();
 }
 
 bool LaunchSequence::applicationShouldHandleReopen()

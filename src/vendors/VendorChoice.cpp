@@ -53,8 +53,7 @@ void VendorChoice::updateVendorField(const std::optional<QString> &device)
 void VendorChoice::setVendorSelectionForDevice(const QString &device)
 {
     m_list.clearFilter();
-    const qsizetype row = m_list.rowOf(shownChoice(device));
-    Q_EMIT vendorSelected(row >= 0 ? std::optional(row) : std::nullopt);
+    Q_EMIT vendorSelected(shownChoice(device));
 }
 
 void VendorChoice::setVendorSelectionForCurrentDevice()

@@ -35,7 +35,8 @@ public:
     /// Shows the device's choice in the text field. Without a device that is always "Random
     /// Address": the selected interface's name is not used.
     void updateVendorField(const std::optional<QString> &device);
-    /// Selects the device's choice in the list, unfiltered; nothing when it is not in there.
+    /// Selects the device's choice in the list, unfiltered; nothing when it is not in there. Does
+    /// not read the list.
     void setVendorSelectionForDevice(const QString &device);
     /// The same for the selected interface.
     void setVendorSelectionForCurrentDevice();
@@ -45,8 +46,8 @@ public:
 Q_SIGNALS:
     /// The text field is to show `text`.
     void vendorFieldUpdated(const QString &text);
-    /// The list is to select `row` alone and to show it; none: nothing is to be selected.
-    void vendorSelected(const std::optional<qsizetype> &row);
+    /// The list is to select `entry` alone and to show it; nothing when that is not in there.
+    void vendorSelected(const QString &entry);
 
 private:
     DeviceTable &m_devices;

@@ -18,7 +18,10 @@ class Scheduler;
 inline const QString randomAddressChoice = QStringLiteral("Random Address");
 
 /// The list of manufacturers to choose from, with "Random Address" among them, and the part of it
-/// that is shown: all of it, or what begins with the text that is typed. Main thread.
+/// that is shown: all of it, or what begins with the text that is typed.
+///
+/// It takes ten megabytes, so it is read when somebody first asks for one of its entries, which
+/// blocks while the database answers, and is in memory until it is let go. Main thread.
 class VendorList : public QObject
 {
     Q_OBJECT
@@ -26,13 +29,17 @@ class VendorList : public QObject
 public:
     VendorList(Scheduler &scheduler, const VendorDatabase &database);
 
-    /// Rebuilds the list whole, in the background; until then it is what it was. Of several calls
-    /// the last one counts.
+    /// Rebuilds the list whole. One that is in memory is what it was until it has been read anew in
+    /// the background; any other is read by whoever asks next. Of several calls the last one
+    /// counts.
     void loadVendorField();
     /// The whole list; a snapshot that stays as it is.
-    std::shared_ptr<const VendorEntries> vendorItemArray() const { return m_entries; }
+    std::shared_ptr<const VendorEntries> vendorItemArray() const;
+    bool isInMemory() const { return m_entries != nullptr; }
+    /// Nobody looks at the list any more: its memory goes back to the system. The filter stays.
+    void letGo();
 
-    // The arrangement: rows of the entries that are shown.
+    // The arrangement: rows of the entries that are shown. Asking for them reads the list.
     /// Shows what begins with `text`, ignoring case and diacritics; everything when it is empty.
     void filter(const QString &text);
     void clearFilter() { filter({}); }
@@ -49,14 +56,16 @@ Q_SIGNALS:
     void rebuilt();
 
 private:
-    void arrange();
+    void read() const;
+    void arrange() const;
 
     Scheduler &m_scheduler;
     VendorDatabase m_database;
-    std::shared_ptr<const VendorEntries> m_entries = std::make_shared<VendorEntries>();
     QString m_filter;
+    /// None while the list is not in memory.
+    mutable std::shared_ptr<const VendorEntries> m_entries;
     /// The entries shown; none when all are.
-    std::optional<std::vector<qsizetype>> m_shown;
+    mutable std::optional<std::vector<qsizetype>> m_shown;
     quint64 m_load = 0;
 };
 

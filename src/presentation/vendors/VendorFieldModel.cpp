@@ -20,7 +20,7 @@ VendorFieldModel::VendorFieldModel(
 
 qsizetype VendorFieldModel::rowCount() const
 {
-    return m_list.rowCount();
+    return m_state->popoverShown ? m_list.rowCount() : 0;
 }
 
 QString VendorFieldModel::rowText(qsizetype row) const
@@ -58,7 +58,7 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
 bool VendorFieldModel::tableViewShouldSelectRow(qsizetype row)
 {
     m_choice.updateVendorTableSelectionWithRow(row);
-    if (row >= 0 && row < rowCount()) {
+    if (row >= 0 && row < m_list.rowCount()) {
         selectRow(row);
     }
     return true;
@@ -90,12 +90,21 @@ void VendorFieldModel::toggleVendorViewPopover()
 
 void VendorFieldModel::showVendorViewPopover()
 {
-    m_state.update([&](State &state) { state.popoverShown = true; });
+    m_state.update([&](State &state) {
+        if (!state.popoverShown) {
+            state.popoverShown = true;
+            state.selectedRow = selectedRow();
+        }
+    });
 }
 
 void VendorFieldModel::closeVendorViewPopover()
 {
-    m_state.update([&](State &state) { state.popoverShown = false; });
+    m_state.update([&](State &state) {
+        state.popoverShown = false;
+        state.selectedRow = std::nullopt;
+    });
+    m_list.letGo();
 }
 
 void VendorFieldModel::showText(const QString &text)
@@ -110,13 +119,29 @@ void VendorFieldModel::showText(const QString &text)
     });
 }
 
-void VendorFieldModel::selectRow(const std::optional<qsizetype> &row)
+void VendorFieldModel::selectEntry(const QString &entry)
 {
-    m_selectedEntry = row ? m_list.entry(*row) : QString();
-    m_state.update([&](State &state) { state.selectedRow = row; });
-    if (row) {
-        Q_EMIT rowSelected(*row);
+    m_selectedEntry = entry;
+    if (m_list.isInMemory()) {
+        const std::optional<qsizetype> row = selectedRow();
+        m_state.update([&](State &state) { state.selectedRow = row; });
+        if (row) {
+            Q_EMIT rowSelected(*row);
+        }
     }
+}
+
+void VendorFieldModel::selectRow(qsizetype row)
+{
+    m_selectedEntry = m_list.entry(row);
+    m_state.update([&](State &state) { state.selectedRow = row; });
+    Q_EMIT rowSelected(row);
+}
+
+std::optional<qsizetype> VendorFieldModel::selectedRow() const
+{
+    const qsizetype row = m_list.rowOf(m_selectedEntry);
+    return row >= 0 ? std::optional(row) : std::nullopt;
 }
 
 void VendorFieldModel::showVendorButton(bool shown)
@@ -129,8 +154,10 @@ void VendorFieldModel::rearrange()
     Q_EMIT rowsChanged();
     m_state.update([&](State &state) {
         if (state.selectedRow) {
-            const qsizetype row = m_list.rowOf(m_selectedEntry);
-            state.selectedRow = row >= 0 ? std::optional(row) : std::nullopt;
+            state.selectedRow = selectedRow();
+        }
+        if (m_list.isInMemory() && !state.selectedRow) {
+            m_selectedEntry.clear();
         }
     });
 }

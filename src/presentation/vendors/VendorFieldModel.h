@@ -15,7 +15,8 @@ class VendorChoice;
 class VendorList;
 
 /// The vendor text field with its popover, a list of manufacturers that the typed text narrows.
-/// Widgets mirror state() and the rows, and hand on what the user does. Main thread.
+/// Widgets mirror state() and the rows, and hand on what the user does. The list is in memory only
+/// while the popover is shown. Main thread.
 class VendorFieldModel : public QObject
 {
     Q_OBJECT
@@ -27,7 +28,7 @@ public:
         bool enabled = true;
         QString whyDisabled; ///< "" while it is enabled
         bool popoverShown = false;
-        /// The row of the list that is selected.
+        /// The row of the list that is selected; none while the list is not in memory.
         std::optional<qsizetype> selectedRow;
         /// The button of the vendor information.
         bool vendorButtonVisible = false;
@@ -51,6 +52,7 @@ public:
     VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
 
     const State &state() const { return m_state.get(); }
+    /// None while the popover is closed, when nobody needs the list.
     qsizetype rowCount() const;
     /// The text of a row that is there.
     QString rowText(qsizetype row) const;
@@ -71,14 +73,14 @@ public:
 
     // What follows from elsewhere.
     void showText(const QString &text);
-    void selectRow(const std::optional<qsizetype> &row);
+    void selectEntry(const QString &entry);
     void showVendorButton(bool shown);
     void rearrange();
 
 Q_SIGNALS:
     /// Something in state() changed.
     void changed();
-    /// Other rows are shown than before.
+    /// Other rows are shown than before, beyond what opening and closing the popover brings.
     void rowsChanged();
     /// Typing opened the popover: the typed text stays, and typing goes on behind it.
     void openedByTyping();
@@ -88,11 +90,14 @@ Q_SIGNALS:
     void rowSelected(qsizetype row);
 
 private:
+    void selectRow(qsizetype row);
+    std::optional<qsizetype> selectedRow() const;
+
     VendorChoice &m_choice;
     VendorList &m_list;
     NotificationCenter &m_notifications;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
-    /// What the selected row holds, by which it is found again when the rows change.
+    /// What the selected row holds, by which it is found when the list is read or the rows change.
     QString m_selectedEntry;
 };
 

@@ -41,10 +41,19 @@ VendorListRows::VendorListRows(VendorFieldModel &model, QObject *parent)
     : QAbstractListModel(parent)
     , m_model(model)
 {
-    connect(&m_model, &VendorFieldModel::rowsChanged, this, [this] {
-        beginResetModel();
-        endResetModel();
+    connect(&m_model, &VendorFieldModel::rowsChanged, this, &VendorListRows::reset);
+    connect(&m_model, &VendorFieldModel::changed, this, [this] {
+        if (m_model.state().popoverShown != m_popoverShown) {
+            m_popoverShown = !m_popoverShown;
+            reset();
+        }
     });
+}
+
+void VendorListRows::reset()
+{
+    beginResetModel();
+    endResetModel();
 }
 
 int VendorListRows::rowCount(const QModelIndex &parent) const

@@ -9,7 +9,8 @@ namespace quillon {
 
 class VendorFieldModel;
 
-/// The manufacturers that VendorFieldModel shows, as rows of a list.
+/// The manufacturers that VendorFieldModel shows, as rows of a list; none while its popover is
+/// closed.
 class VendorListRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -21,7 +22,10 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
+    void reset();
+
     VendorFieldModel &m_model;
+    bool m_popoverShown = false;
 };
 
 /// The list to choose a manufacturer from. Selecting a row, by pointer or arrow key, is the choice.

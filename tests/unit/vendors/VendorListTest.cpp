@@ -41,19 +41,80 @@ TEST_F(VendorListTest, AreOnlyRandomAddressWithoutADatabase)
     EXPECT_THAT(shown(), ElementsAre("Random Address"));
 }
 
-TEST_F(VendorListTest, AreReadInTheBackground)
+TEST_F(VendorListTest, AreInMemoryFromTheFirstQuestionUntilTheyAreLetGo)
 {
-    list.loadVendorField();
-    EXPECT_THAT(shown(), IsEmpty());
-    scheduler.runPending();
+    loadList();
+    EXPECT_FALSE(list.isInMemory());
     EXPECT_EQ(list.rowCount(), 8);
+    EXPECT_TRUE(list.isInMemory());
+    const std::weak_ptr<const VendorEntries> entries = list.vendorItemArray();
+    list.letGo();
+    EXPECT_FALSE(list.isInMemory());
+    EXPECT_TRUE(entries.expired());
+}
+
+TEST_F(VendorListTest, EachQuestionReadsThemWhenTheyAreNotInMemory)
+{
+    EXPECT_EQ(list.rowOf(u"Sam (000005)"_s), 4);
+    list.letGo();
+    EXPECT_EQ(list.entry(4), u"Sam (000005)"_s);
+    list.letGo();
+    EXPECT_EQ(list.vendorItemArray()->size(), 8);
+}
+
+TEST_F(VendorListTest, AreReadAnewAfterTheyWereLetGoWithTheFilterInForce)
+{
+    list.filter(u"app"_s);
+    EXPECT_EQ(list.rowCount(), 4);
+    list.letGo();
+    makeLive(registryOf({{"000007", "Apply"}, {"000008", "Zeta"}}));
+    EXPECT_THAT(shown(), ElementsAre("Apply (000007)"));
+}
+
+TEST_F(VendorListTest, ThatAreNotInMemoryAreNotReadToBeShownUnfiltered)
+{
+    list.filter(u"app"_s);
+    list.letGo();
+    list.clearFilter();
+    EXPECT_FALSE(list.isInMemory());
+    EXPECT_EQ(list.rowCount(), 8);
+}
+
+TEST_F(VendorListTest, ThatAreNotInMemoryAreRebuiltByWhoeverAsksNext)
+{
+    int rebuilt = 0;
+    QObject::connect(&list, &VendorList::rebuilt, [&rebuilt] { ++rebuilt; });
+    loadList();
+    EXPECT_EQ(rebuilt, 1);
+    EXPECT_FALSE(list.isInMemory());
+}
+
+TEST_F(VendorListTest, AreRebuiltInTheBackground)
+{
+    ASSERT_EQ(list.rowCount(), 8);
+    makeLive(registryOf(2));
+    list.loadVendorField();
+    EXPECT_EQ(list.rowCount(), 8);
+    scheduler.runPending();
+    EXPECT_EQ(list.rowCount(), 3);
+}
+
+TEST_F(VendorListTest, ThatAreLetGoWhileTheyAreRebuiltStayAway)
+{
+    ASSERT_EQ(list.rowCount(), 8);
+    list.loadVendorField();
+    list.letGo();
+    int rebuilt = 0;
+    QObject::connect(&list, &VendorList::rebuilt, [&rebuilt] { ++rebuilt; });
+    scheduler.runPending();
+    EXPECT_EQ(rebuilt, 1);
+    EXPECT_FALSE(list.isInMemory());
 }
 
 TEST_F(VendorListTest, StayWhatTheyWereUntilTheNewOnesAreThere)
 {
-    loadList();
-    makeLive(registryOf(2));
     const auto before = list.vendorItemArray();
+    makeLive(registryOf(2));
     list.loadVendorField();
     EXPECT_EQ(list.rowCount(), 8);
     scheduler.runPending();

@@ -39,6 +39,7 @@ TEST_F(DeviceFeatureTest, FollowUpsOfANewSelectionComeInTheirOrder)
     create(vendors);
     start();
     machine.scheduler.advance(500ms);
+    features().vendors.field.showVendorViewPopover();
     setDeviceRecord(enp2s0, record::vendor, vendor);
     setDeviceRecord(enp2s0, record::hasRule, 1);
     features().rules.countdown.showCountdown(enp1s0, u"of the other one"_s, false);

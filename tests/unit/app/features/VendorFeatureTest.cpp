@@ -54,19 +54,23 @@ TEST_F(VendorFeatureTest, TheShippedDatabaseIsPutInPlaceAndCounted)
     EXPECT_EQ(pane().updatedLabel, u"(null) (added 2 new Identifiers)"_s);
 }
 
-TEST_F(VendorFeatureTest, TheListIsReadAtTheStart)
+TEST_F(VendorFeatureTest, TheListIsNotReadUntilSomebodyLooksAtIt)
 {
-    create(seed);
-    start();
-    EXPECT_EQ(field().rowCount(), 0);
-    machine.scheduler.runPending();
+    startWithSeed();
+    select(enp2s0);
+    EXPECT_FALSE(features().vendors.list.isInMemory());
+    field().showVendorViewPopover();
     EXPECT_EQ(field().rowCount(), 3);
+    field().closeVendorViewPopover();
+    select(enp1s0);
+    EXPECT_FALSE(features().vendors.list.isInMemory());
 }
 
-TEST_F(VendorFeatureTest, TheChoiceIsSelectedOnceTheListIsRead)
+TEST_F(VendorFeatureTest, TheChoiceIsSelectedInTheListThatIsOpened)
 {
     setDeviceRecord(enp1s0, record::vendor, zebra);
     startWithSeed();
+    field().showVendorViewPopover();
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
 }
@@ -95,6 +99,7 @@ TEST_F(VendorFeatureTest, TheFieldAndTheListShowTheChoiceOfTheSelectedInterface)
     setDeviceRecord(enp2s0, record::vendor, zebra);
     select(enp2s0);
     EXPECT_EQ(field().state().text, zebra);
+    field().showVendorViewPopover();
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
     select(enp1s0);
@@ -120,6 +125,7 @@ TEST_F(VendorFeatureTest, ARefreshAsksTheRegistryAndShowsWhatCame)
     startWithSeed();
     machine.http.serve(QUrl(u"https://registry.example/oui/oui.csv"_s),
         registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}, {"00000E", "Mango"}}));
+    field().showVendorViewPopover();
     features().vendors.pane.pressButton();
     EXPECT_EQ(pane().buttonTitle, u"Cancel download..."_s);
     machine.scheduler.advance(1s);

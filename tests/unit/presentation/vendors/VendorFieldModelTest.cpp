@@ -151,6 +151,51 @@ TEST_F(VendorFieldModelTest, TogglesThePopover)
     EXPECT_FALSE(field.state().popoverShown);
 }
 
+TEST_F(VendorFieldModelTest, HasTheListInMemoryOnlyWhileThePopoverIsShown)
+{
+    list.letGo();
+    choice.setVendorSelectionForDevice(u"en0"_s);
+    EXPECT_EQ(field.rowCount(), 0);
+    EXPECT_FALSE(list.isInMemory()) << "a selection or a count alone reads nothing";
+    field.showVendorViewPopover();
+    EXPECT_TRUE(list.isInMemory());
+    EXPECT_EQ(field.rowCount(), 4);
+    field.closeVendorViewPopover();
+    EXPECT_FALSE(list.isInMemory());
+    EXPECT_EQ(field.rowCount(), 0);
+}
+
+TEST_F(VendorFieldModelTest, SelectsTheDevicesChoiceWhenThePopoverIsShown)
+{
+    storeDevice(u"en0"_s, {{record::vendor, u"Sam (000003)"_s}});
+    choice.setVendorSelectionForDevice(u"en0"_s);
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+    field.showVendorViewPopover();
+    EXPECT_EQ(field.state().selectedRow, 3);
+}
+
+TEST_F(VendorFieldModelTest, KeepsItsSelectionAndItsFilterWhileThePopoverIsClosed)
+{
+    field.controlTextDidChange(u"app"_s);
+    field.tableViewShouldSelectRow(1);
+    field.closeVendorViewPopover();
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+    field.showVendorViewPopover();
+    EXPECT_EQ(field.rowCount(), 2);
+    EXPECT_EQ(field.state().selectedRow, 1);
+}
+
+TEST_F(VendorFieldModelTest, HasLostASelectionThatWasFilteredAway)
+{
+    field.controlTextDidChange(u"s"_s);
+    field.tableViewShouldSelectRow(0);
+    field.controlTextDidChange(u"a"_s);
+    field.closeVendorViewPopover();
+    field.showVendorViewPopover();
+    field.controlTextDidChange({});
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+}
+
 TEST_F(VendorFieldModelTest, TellsTheWholeTextOfARow)
 {
     EXPECT_EQ(field.rowText(2), "Random Address"_L1);
