@@ -6,6 +6,7 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/bus/SessionInstance.h"
 #include "platform/linux/desktop/PortalColorScheme.h"
+#include "platform/linux/desktop/Preload.h"
 #include "platform/linux/desktop/TrayHostWatch.h"
 #include "platform/linux/desktop/X11TaskBar.h"
 #include "platform/qt/settings/PropertyListFile.h"
@@ -59,7 +60,9 @@ UserInterface::Models modelsOf(Features &features)
 
 int main(int argc, char **argv)
 {
+    FontConfigurationPreload fontConfiguration;
     QApplication application(argc, argv);
+    const WindowPreload windowPreload(fontConfiguration);
     describe(application);
 
     SessionInstance instance;

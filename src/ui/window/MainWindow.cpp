@@ -87,7 +87,6 @@ MainWindow::MainWindow(
     QAccessible::installFactory(accessibleWindow);
     setObjectName(u"windowView"_s);
     setWindowTitle(u"Quillon"_s);
-    setWindowIcon(QIcon(u":/icons/com.orvandel.Quillon4.svg"_s));
 
     m_header = new InterfaceHeader(model, theme);
     m_readMe = new ReadMeHint(model, theme);
@@ -238,6 +237,10 @@ void MainWindow::bringUp()
 
 void MainWindow::followTaskBar()
 {
+    // A window that was never shown has nothing to be skipped yet; showEvent makes up for it.
+    if (!testAttribute(Qt::WA_WState_Created)) {
+        return;
+    }
     m_taskBar.setSkipped(static_cast<quintptr>(winId()), m_presence.isDockIconHidden());
 }
 
@@ -246,6 +249,16 @@ void MainWindow::showEvent(QShowEvent *event)
     followTaskBar();
     fitScreen();
     QWidget::showEvent(event);
+    if (!testAttribute(Qt::WA_SetWindowIcon)) {
+        // Not before the window is on its way to the display: to draw the icon takes longer than
+        // most of what is in it.
+        QMetaObject::invokeMethod(this, &MainWindow::drawIcon, Qt::QueuedConnection);
+    }
+}
+
+void MainWindow::drawIcon()
+{
+    setWindowIcon(QIcon(u":/icons/com.orvandel.Quillon4.svg"_s));
 }
 
 bool MainWindow::event(QEvent *event)

@@ -56,6 +56,7 @@ private:
     void refresh();
     void bringUp();
     void followTaskBar();
+    void drawIcon();
     void fitScreen();
     bool isGround(const QPoint &place) const;
 

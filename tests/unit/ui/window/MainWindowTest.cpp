@@ -101,6 +101,23 @@ TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
     named<QLabel>("Helper hint");
 }
 
+TEST_F(MainWindowTest, NothingIsMadeForTheDisplayBeforeTheWindowIsShown)
+{
+    view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+    presence.showMenuBarItem(true);
+    presence.setStatusItemAvailable(true);
+    settings.set(keys::hideDock, true);
+    presence.updateDock();
+    EXPECT_EQ(view->windowHandle(), nullptr);
+    EXPECT_FALSE(taskBar.skipped);
+    EXPECT_FALSE(view->testAttribute(Qt::WA_SetWindowIcon));
+    presence.openWindow();
+    EXPECT_TRUE(taskBar.skipped);
+    EXPECT_FALSE(view->testAttribute(Qt::WA_SetWindowIcon)) << "the icon delays the window";
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(view->windowIcon().pixmap(16).isNull());
+}
+
 TEST_F(MainWindowTest, ShowsTheSelectedInterface)
 {
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wired);
