@@ -68,7 +68,11 @@ def measure(report, programs, make_worker, seconds):
 
     report.section(f"Memory, idle for {SETTLING_SECONDS} s (RSS, PSS, USS)", columns=("resident", "shared out", "private", "written"))
     for name, process in {**processes, **servers}.items():
-        report.row(name, *(f"{kilobytes / 1024:.1f} MB" for kilobytes in memory(process)))
+        figures = memory(process)
+        report.row(name, *(f"{kilobytes / 1024:.1f} MB" for kilobytes in figures))
+        if name == "Quillon":
+            written = round(figures[-1] / 1024, 1)
+    report.count_goal("written by Quillon, in MB", written, 8)
 
     with_servers = watch(servers, HELPER_SECONDS)
     time.sleep(max(0.0, begin + SERVICE_END_SECONDS - time.monotonic()))

@@ -220,8 +220,8 @@ class Bench:
         taken = in_turns({name: lambda path=path: start(path) for name, path in programs.items()},
                          self.starts, 3)
         self.report.section("Start to the first window on the display", f"{self.starts} starts in turns")
-        for name, times in taken.items():
-            self.report.times(name, times)
+        medians = {name: self.report.times(name, times) for name, times in taken.items()}
+        self.report.goal("Quillon / the smallest Qt window", medians["Quillon"] / medians["the smallest Qt window"], 1.8)
         starter.end()
         idle.measure(self.report, programs, self.user_worker, self.idle_seconds)
 
