@@ -15,8 +15,12 @@ class CheckTidyTest(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
+        self.cache = os.path.join(os.path.realpath(folder.name), "cache")
+        self.make_checkout(os.path.join(os.path.realpath(folder.name), "first"))
+
+    def make_checkout(self, root):
         # The tool looks at the tree that it stands in.
-        self.root = os.path.realpath(folder.name)
+        self.root = root
         for path in ("tools/check-tidy", ".clang-tidy"):
             os.makedirs(os.path.dirname(os.path.join(self.root, path)), exist_ok=True)
             shutil.copy(os.path.join(ROOT, path), os.path.join(self.root, path))
@@ -38,13 +42,34 @@ class CheckTidyTest(unittest.TestCase):
 
     def looks_at(self):
         result = subprocess.run([os.path.join(self.root, "tools/check-tidy"), self.build], text=True,
-                                capture_output=True, stdin=subprocess.DEVNULL)
+                                capture_output=True, stdin=subprocess.DEVNULL,
+                                env={**os.environ, "XDG_CACHE_HOME": self.cache})
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
         return int(result.stdout.split(" sources, ")[1].split()[0])
 
     def test_looks_at_a_source_once(self):
         self.assertEqual(self.looks_at(), 1)
         self.assertEqual(self.looks_at(), 0)
+
+    def test_looks_once_also_when_files_are_written_anew(self):
+        self.looks_at()
+        self.write("src/base/Error.h", "struct Error {};\n")
+        shutil.rmtree(self.build)
+        self.make_checkout(self.root)
+        self.assertEqual(self.looks_at(), 0)
+
+    def test_looks_once_also_in_another_checkout(self):
+        self.looks_at()
+        self.make_checkout(self.root + "-second")
+        self.assertEqual(self.looks_at(), 0)
+        self.write("src/base/Error.h", "struct Error { int code; };\n")
+        self.assertEqual(self.looks_at(), 1)
+
+    def test_looks_again_when_the_checks_change(self):
+        self.looks_at()
+        with open(os.path.join(self.root, ".clang-tidy"), "a") as file:
+            file.write("# another word\n")
+        self.assertEqual(self.looks_at(), 1)
 
     def test_looks_again_when_a_header_changes(self):
         self.looks_at()
