@@ -85,9 +85,7 @@ std::vector<std::string> FolderRecord::missingFolders() const
     std::set<std::string> missing;
     for (const auto &file : m_layout.files) {
         for (const auto &path : upwards(file.folder)) {
-            struct stat status
-            {
-            };
+            struct stat status{};
             if (lstat((m_guard.root + path).c_str(), &status) != 0 && errno == ENOENT) {
                 missing.insert(path);
             }

@@ -68,9 +68,7 @@ Installation::Installation(std::string root, InstallationLayout layout, uid_t ow
 
 bool Installation::exists(const std::string &path) const
 {
-    struct stat status
-    {
-    };
+    struct stat status{};
     return fstatat(AT_FDCWD, (m_guard.root + path).c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
@@ -82,12 +80,8 @@ bool Installation::isPackaged() const
 bool Installation::isPackagedTool(int program) const
 {
     // By what the file is: its path may lead there through a link.
-    struct stat running
-    {
-    };
-    struct stat packaged
-    {
-    };
+    struct stat running{};
+    struct stat packaged{};
     return fstat(program, &running) == 0 &&
            stat((m_guard.root + m_layout.packagedTool).c_str(), &packaged) == 0 &&
            running.st_dev == packaged.st_dev && running.st_ino == packaged.st_ino;

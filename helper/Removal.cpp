@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/Removal.h"
 
-#include "contract/Interfaces.h"
-#include "contract/Names.h"
 #include "helper/BusCall.h"
 #include "helper/SystemBus.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -19,26 +17,22 @@ namespace quillon {
 
 namespace {
 
-// The root process waits for the bus to read its folders again.
+// The root process waits for the bus and the service manager to read their folders again.
 constexpr std::chrono::microseconds answerTime = std::chrono::seconds{90};
 
-Refusal refusalOf(const sd_bus_error &error, int result)
+Refusal uninstallFailed(std::string why)
 {
-    const std::string_view name = error.name == nullptr ? "" : error.name;
-    return {name == contract::error::ownedByPackage.name ? contract::error::ownedByPackage
-                                                         : contract::error::uninstallFailed,
-        error.message == nullptr ? std::strerror(-result) : error.message};
+    return {contract::error::uninstallFailed, std::move(why)};
 }
 
-int refuse(sd_bus_message &call, const Refusal &refusal)
+Refusal refusalOf(const sd_bus_error &error, int number)
 {
-    const sd_bus_error error{refusal.error.name, refusal.message.c_str(), 0};
-    return sd_bus_reply_method_error(&call, &error);
-}
-
-std::chrono::milliseconds leftUntil(std::chrono::steady_clock::time_point end)
-{
-    return std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+    if (error.name == nullptr) {
+        return uninstallFailed(std::strerror(number));
+    }
+    const bool isPackages = std::string_view{error.name} == contract::error::ownedByPackage.name;
+    return {isPackages ? contract::error::ownedByPackage : contract::error::uninstallFailed,
+        error.message == nullptr ? std::string{error.name} : std::string{error.message}};
 }
 
 } // namespace
@@ -47,18 +41,16 @@ Outcome requestRemoval()
 {
     // A connection of its own: what reaches the helper meanwhile waits in the other one.
     const auto bus = connectToSystemBus();
-    if (!bus) {
-        return Refusal{contract::error::uninstallFailed, "There is no system bus."};
-    }
-    const auto call = busCall(*bus, contract::removalName, contract::removal::path,
-        contract::removal::interface, contract::removal::remove.name);
+    const auto call = bus ? busCall(*bus, contract::removalName, contract::removal::path,
+                                contract::removal::interface, contract::removal::remove.name)
+                          : nullptr;
     if (!call) {
-        return Refusal{contract::error::uninstallFailed, std::strerror(ENOMEM)};
+        return uninstallFailed("There is no system bus.");
     }
     sd_bus_error error{};
-    const auto limit = static_cast<std::uint64_t>(answerTime.count());
-    const int result = sd_bus_call(bus.get(), call.get(), limit, &error, nullptr);
-    auto outcome = result < 0 ? Outcome{refusalOf(error, result)} : std::nullopt;
+    const int result = sd_bus_call(
+        bus.get(), call.get(), static_cast<std::uint64_t>(answerTime.count()), &error, nullptr);
+    const Outcome outcome = result < 0 ? Outcome{refusalOf(error, -result)} : std::nullopt;
     sd_bus_error_free(&error);
     return outcome;
 }
@@ -74,53 +66,52 @@ RemovalService::~RemovalService()
     sd_bus_slot_unref(m_slot);
 }
 
-int RemovalService::called(sd_bus_message *call, void *self, sd_bus_error *)
-{
-    return handleBusMessage([&] { return static_cast<RemovalService *>(self)->remove(*call); });
-}
-
 bool RemovalService::publish()
 {
-    static const sd_bus_vtable start = SD_BUS_VTABLE_START(0);
-    static const sd_bus_vtable method =
+    static const std::array<sd_bus_vtable, 3> table{{SD_BUS_VTABLE_START(0),
         SD_BUS_METHOD(contract::removal::remove.name, contract::removal::remove.inputSignature,
-            contract::removal::remove.outputSignature, called, SD_BUS_VTABLE_UNPRIVILEGED);
-    static const sd_bus_vtable end = SD_BUS_VTABLE_END;
-    static const std::array table{start, method, end};
+            contract::removal::remove.outputSignature, called, SD_BUS_VTABLE_UNPRIVILEGED),
+        SD_BUS_VTABLE_END}};
     return sd_bus_add_object_vtable(&m_bus, &m_slot, contract::removal::path,
                contract::removal::interface, table.data(), this) >= 0 &&
            sd_bus_request_name(&m_bus, contract::removalName, 0) >= 0;
 }
 
+int RemovalService::called(sd_bus_message *call, void *self, sd_bus_error *)
+{
+    return handleBusMessage([&] { return static_cast<RemovalService *>(self)->remove(*call); });
+}
+
 int RemovalService::remove(sd_bus_message &call)
 {
-    if (m_isDone) {
-        return refuse(call, {contract::error::uninstallFailed, "Done already."});
+    const bool isSecond = std::exchange(m_isDone, true);
+    const auto outcome = isSecond ? Outcome{uninstallFailed("Done already.")} : m_uninstallation();
+    if (!outcome) {
+        return sd_bus_reply_method_return(&call, nullptr);
     }
-    m_isDone = true;
-    if (const auto outcome = m_uninstallation()) {
-        return refuse(call, *outcome);
-    }
-    return sd_bus_reply_method_return(&call, "");
+    const sd_bus_error error{outcome->error.name, outcome->message.c_str(), 0};
+    return sd_bus_reply_method_error(&call, &error);
 }
 
 bool RemovalService::serve(std::chrono::milliseconds limit)
 {
-    const auto end = std::chrono::steady_clock::now() + limit;
     if (!publish()) {
         return false;
     }
-    while (!m_isDone) {
-        const int result = sd_bus_process(&m_bus, nullptr);
-        const auto left = leftUntil(end);
-        if (left.count() <= 0 || sd_bus_is_open(&m_bus) <= 0) {
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!m_isDone && sd_bus_is_open(&m_bus) > 0) {
+        if (sd_bus_process(&m_bus, nullptr) != 0) {
+            continue;
+        }
+        const auto left = std::chrono::duration_cast<std::chrono::microseconds>(
+            end - std::chrono::steady_clock::now());
+        if (left.count() <= 0) {
             return false;
         }
-        if (result <= 0) {
-            sd_bus_wait(&m_bus, static_cast<std::uint64_t>(std::chrono::microseconds{left}.count()));
-        }
+        sd_bus_wait(&m_bus, static_cast<std::uint64_t>(left.count()));
     }
-    return sd_bus_flush(&m_bus) >= 0;
+    sd_bus_flush(&m_bus);
+    return m_isDone;
 }
 
 } // namespace quillon

@@ -20,14 +20,14 @@ class RemovalService
 public:
     using Uninstallation = std::function<Outcome()>;
 
-    /// `bus` outlives this.
+    /// `bus` is processed by nobody else; it outlives this.
     RemovalService(sd_bus &bus, Uninstallation uninstallation);
     ~RemovalService();
     RemovalService(const RemovalService &) = delete;
     RemovalService &operator=(const RemovalService &) = delete;
 
-    /// Takes the removal's name and carries out the one request. False when the bus does not give
-    /// the name, goes away, or when no request came within `limit`.
+    /// Takes the removal's name and carries out the one request. False when none came within
+    /// `limit`, or when the bus does not give the name or goes away.
     bool serve(std::chrono::milliseconds limit);
 
 private:

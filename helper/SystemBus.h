@@ -15,8 +15,9 @@ struct CloseBus
 };
 using SystemBus = std::unique_ptr<sd_bus, CloseBus>;
 
-/// Tell the bus, or the service manager, to read their folders again. They wait for the answer; that
-/// nobody is there or refuses is logged and is no failure, since both read at their start anyway.
+/// Tell the bus, or the service manager, to read their folders again. They wait for the answer;
+/// that nobody is there or refuses is logged and is no failure, since both read at their start
+/// anyway.
 void reloadBus(sd_bus &bus);
 void reloadServiceManager(sd_bus &bus);
 

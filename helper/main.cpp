@@ -34,14 +34,16 @@ namespace {
 using namespace quillon;
 
 constexpr std::chrono::seconds idlePeriod{30};
+constexpr int largeAllocation = 64 * 1024;
 /// The helper asks for its removal as soon as the bus has started the process that removes it.
 constexpr std::chrono::seconds removalPeriod{30};
-constexpr int largeAllocation = 64 * 1024;
 
 constexpr int exitDone = 0;
 constexpr int exitFailed = 1;
 constexpr int exitWrongUse = 2;
 constexpr int exitWithoutRights = 3;
+
+constexpr char noBus[] = "ended: there is no system bus";
 
 constexpr char installMode[] = "install";
 constexpr char uninstallMode[] = "uninstall";
@@ -121,15 +123,15 @@ int serve()
     if (installation.isPackaged() && !isPackages) {
         stepAside(layout.packagedTool);
     }
+    // A large message's memory goes back to the system with the message.
+    mallopt(M_MMAP_THRESHOLD, largeAllocation);
     const auto uninstallation = [isPackages] {
         return isPackages ? Outcome{ownedByPackage()} : requestRemoval();
     };
-    // A large message's memory goes back to the system with the message.
-    mallopt(M_MMAP_THRESHOLD, largeAllocation);
     const int stop = stopSignals();
     const auto bus = connectToSystemBus();
     if (!bus) {
-        logLine("ended: there is no system bus");
+        logLine(noBus);
         return exitFailed;
     }
     NetlinkKernelLink kernel;
@@ -140,25 +142,21 @@ int serve()
     return exitDone;
 }
 
-Outcome uninstallAndReloadBus()
-{
-    auto outcome = uninstallFiles();
-    if (const auto bus = outcome ? nullptr : connectToSystemBus()) {
-        reloadBus(*bus);
-    }
-    return outcome;
-}
-
 int removeOnRequest()
 {
     const auto bus = connectToSystemBus();
     if (!bus) {
-        logLine("ended: there is no system bus");
+        logLine(noBus);
         return exitFailed;
     }
-    RemovalService removal{*bus, uninstallAndReloadBus};
+    RemovalService removal{*bus, [] {
+                               auto outcome = uninstallFiles();
+                               if (const auto own = connectToSystemBus(); own && !outcome) {
+                                   reloadBus(*own);
+                               }
+                               return outcome;
+                           }};
     if (!removal.serve(removalPeriod)) {
-        logLine("ended: nobody asked for the removal");
         return exitFailed;
     }
     // A unit that runs while the service manager forgets it would leave its root folder behind.

@@ -121,7 +121,7 @@ void VendorDataCard::refresh()
     m_button->setAccessibleName(state.buttonTitle);
     m_restore->setEnabled(state.canRestore);
     const QString hint = restoreHint(state);
-    m_restore->setToolTip(hint);
+    m_restore->setToolTip(plainToolTip(hint));
     m_restore->setAccessibleDescription(hint);
     m_progress->setVisible(state.progressShown);
     // Below 0 while nobody knows how long the whole is: an empty bar.

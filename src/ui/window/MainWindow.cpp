@@ -65,7 +65,7 @@ QPushButton *makeButton(
 void setUsable(QPushButton &button, bool enabled, const QString &whyNot)
 {
     button.setEnabled(enabled);
-    button.setToolTip(whyNot.isEmpty() ? button.accessibleDescription() : whyNot);
+    button.setToolTip(plainToolTip(whyNot.isEmpty() ? button.accessibleDescription() : whyNot));
 }
 
 /// To assistive technology a plain widget is a part of something; this one is a window.

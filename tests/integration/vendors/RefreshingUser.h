@@ -57,8 +57,7 @@ public:
     }
     /// Presses the button, waits for `label`, and does something in the turn after it came: the
     /// next label may come at any time.
-    void refreshUntil(
-        const QString &label, const std::function<void()> &act = [] {})
+    void refreshUntil(const QString &label, const std::function<void()> &act = [] {})
     {
         labels.clear();
         QObject soon;

@@ -131,9 +131,7 @@ TEST_F(InstallationTest, worksWhereAGroupMayInstallPrograms)
     EXPECT_EQ(listing(), before);
     sharedGroup = getegid();
     ASSERT_EQ(messageOf(install()), "done");
-    struct stat status
-    {
-    };
+    struct stat status{};
     for (const char *made : {"/usr/local/libexec", "/usr/local/libexec/quillon4"}) {
         stat((root + made).c_str(), &status);
         EXPECT_EQ(status.st_mode & 07777U, 0755U) << made;

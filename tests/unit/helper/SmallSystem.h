@@ -65,9 +65,7 @@ protected:
     {
         std::vector<std::string> lines;
         for (const auto &entry : std::filesystem::recursive_directory_iterator(root)) {
-            struct stat status
-            {
-            };
+            struct stat status{};
             lstat(entry.path().c_str(), &status);
             const auto path = entry.path().string().substr(root.size());
             lines.push_back(path + ' ' + std::to_string(status.st_mode) + ' ' +

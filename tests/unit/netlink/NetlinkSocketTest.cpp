@@ -167,7 +167,7 @@ TEST(NetlinkSocket, GivesUpAlsoWhenTheKernelNeverStopsToSend)
 {
     const FakeKernel kernel([](quint32 sequence, const auto &send) {
         for (const auto end = Clock::now() + 1min;
-             Clock::now() < end && send(links(sequence, 1));) {
+            Clock::now() < end && send(links(sequence, 1));) {
         }
     });
     NetlinkSocket socket(kernel.descriptor(), patientFor(100ms));
