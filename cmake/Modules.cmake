@@ -3,16 +3,32 @@
 # A module is one static library with an explicit file list and explicit dependencies, so that the
 # link graph shows the layering. tools/check-layers holds the allowed include edges.
 
+set(QUILLON_COMMON_HEADERS
+    <QDateTime> <QObject> <QString> <QStringList> <QVariant> <functional> <memory> <optional> <vector>)
+
+# quillon_precompiled(TARGET OWNER header…)
+# The headers that most sources include are compiled once, for OWNER, and used by all others. All have the same
+# options; other definitions do not matter to GCC as long as none of the headers asks for them, and it says so
+# (-Winvalid-pch) if one does. Other compilers are stricter.
+function(quillon_precompiled target owner)
+    if(target STREQUAL owner OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    else()
+        target_precompile_headers(${target} REUSE_FROM ${owner})
+    endif()
+endfunction()
+
 # quillon_module(NAME SOURCES file… USES target…)
 function(quillon_module name)
     cmake_parse_arguments(MODULE "" "" "SOURCES;USES" ${ARGN})
     add_library(quillon_${name} STATIC ${MODULE_SOURCES})
     target_include_directories(quillon_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
     target_link_libraries(quillon_${name} PUBLIC Qt6::Core ${MODULE_USES})
-    target_precompile_headers(quillon_${name} PRIVATE
-        <QDateTime> <QObject> <QString> <QStringList> <QVariant> <functional> <memory> <optional> <vector>)
+    quillon_precompiled(quillon_${name} quillon_base ${QUILLON_COMMON_HEADERS})
     set_target_properties(quillon_${name} PROPERTIES AUTOMOC ON)
 endfunction()
+
+set(QUILLON_TEST_HEADERS ${QUILLON_COMMON_HEADERS} <QCoreApplication> <gmock/gmock.h>)
 
 # Seconds after which a test hangs. None depends on how busy the machine is: whatever a test waits for has a
 # limit of two minutes of its own, and says what did not come.
@@ -33,6 +49,7 @@ function(quillon_test name)
     target_link_libraries(${name} PRIVATE ${TEST_USES} quillon_test_main)
     target_compile_definitions(${name} PRIVATE
         QUILLON_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" QUILLON_BUILD="${PROJECT_BINARY_DIR}")
+    quillon_precompiled(${name} quillon_test_main ${QUILLON_TEST_HEADERS})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     if(TEST_SANDBOX)
         set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
