@@ -229,10 +229,10 @@ TEST_F(PlugInTest, AnotherInterfaceThatChangesInTheSameBurstSwallowsNothing)
     }
     ASSERT_TRUE(addRule(records, randomOnceRule(card)));
     ASSERT_TRUE(addRule(records, randomOnceRule(others.last())));
+    const QString before = kernelAddresses().value(others.last());
     startProgram();
     plugCable();
     settle();
-    const QString before = kernelAddresses().value(others.last());
     administrator().run(u"printf 'addr add 203.0.113.4/24 dev eth4\\n"
                         "addr add 203.0.113.68/26 dev eth6\\n"
                         "addr add 198.51.100.5/24 dev %1\\n"
