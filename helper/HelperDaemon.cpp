@@ -28,6 +28,11 @@ constexpr int messagesAtOnce = 64;
 // What went wrong may go wrong again at once; it shall not take the whole processor.
 constexpr int errorPauseMilliseconds = 10;
 constexpr int noDescriptor = -1;
+// Longer than a person has for a prompt: who waits longer waits for what came in meanwhile.
+constexpr std::chrono::seconds longestFinish{150};
+// A service manager stops who gives his name back (TimeoutStopSec is 10 s): what had reached the
+// helper before is still served.
+constexpr std::chrono::seconds finishAfterName{7};
 
 std::chrono::steady_clock::time_point now()
 {
@@ -45,8 +50,9 @@ bool isOwnership(sd_bus_message &answer)
 } // namespace
 
 HelperDaemon::HelperDaemon(sd_bus &bus, KernelLink &kernel, Uninstallation uninstallation,
-    std::chrono::milliseconds idlePeriod)
+    Superseded superseded, std::chrono::milliseconds idlePeriod)
     : m_bus{bus}
+    , m_superseded{std::move(superseded)}
     , m_log{now, logLine}
     , m_addressChange{kernel}
     , m_busCallers{bus}
@@ -103,12 +109,25 @@ int HelperDaemon::nameReleased(sd_bus_message *, void *self, sd_bus_error *)
 
 void HelperDaemon::serve(int stopDescriptor)
 {
-    handleMessagesUntil(stopDescriptor, [this] {
-        if (m_requests.waiting() > 0) {
-            m_idle.used(now());
-        }
-        return m_uninstalled || m_name == NameState::Refused || m_idle.isOver(now());
-    });
+    handleMessagesUntil(stopDescriptor, [this] { return isTimeToLeave(); });
+    m_deadline = IdlePeriod::Time::max();
+}
+
+bool HelperDaemon::isTimeToLeave()
+{
+    const bool somebodyWaits = m_requests.waiting() > 0;
+    if (somebodyWaits) {
+        m_idle.used(now());
+    }
+    if (m_uninstalled || m_name == NameState::Refused || m_idle.isOver(now())) {
+        return true;
+    }
+    if (!m_superseded()) {
+        return false;
+    }
+    // Whoever keeps asking must not keep an older helper in its place.
+    m_deadline = std::min(m_deadline, now() + longestFinish);
+    return !somebodyWaits;
 }
 
 void HelperDaemon::leave(int stopDescriptor)
@@ -120,7 +139,13 @@ void HelperDaemon::leave(int stopDescriptor)
         m_idle.used(now());
         handleMessagesUntil(noDescriptor, [this] { return m_name == NameState::Released; });
     }
-    handleMessagesUntil(stopDescriptor, [this] { return m_requests.waiting() == 0; });
+    const auto nobodyWaits = [this] { return m_requests.waiting() == 0; };
+    if (!m_isStopped) {
+        m_deadline = now() + finishAfterName;
+        handleMessagesUntil(noDescriptor, nobodyWaits);
+    }
+    m_deadline = now() + longestFinish;
+    handleMessagesUntil(stopDescriptor, nobodyWaits);
     m_requests.refuseAll();
     m_log.flush();
 }
@@ -129,7 +154,7 @@ void HelperDaemon::handleMessagesUntil(int stopDescriptor, const std::function<b
 {
     for (;;) {
         const bool more = processMessages();
-        if (isOver() || !isConnected() ||
+        if (isOver() || now() >= m_deadline || !isConnected() ||
             !waitForMessages(stopDescriptor, more ? 0ms : timeToWait())) {
             return;
         }
@@ -168,6 +193,8 @@ std::chrono::milliseconds HelperDaemon::timeToWait() const
         limit = m_idle.left(now());
     }
     limit = std::min(limit, m_log.left().value_or(limit));
+    limit =
+        std::clamp(std::chrono::ceil<std::chrono::milliseconds>(m_deadline - now()), 0ms, limit);
     std::uint64_t busTime = 0;
     if (sd_bus_get_timeout(&m_bus, &busTime) > 0) {
         const auto due = std::chrono::steady_clock::time_point{std::chrono::microseconds{
@@ -187,7 +214,9 @@ bool HelperDaemon::waitForMessages(int stopDescriptor, std::chrono::milliseconds
     const int ready =
         ::poll(descriptors.data(), descriptors.size(), static_cast<int>(limit.count()));
     m_log.flush();
-    return ready <= 0 || (descriptors[1].revents & POLLIN) == 0;
+    const bool isAskedToStop = ready > 0 && (descriptors[1].revents & POLLIN) != 0;
+    m_isStopped = m_isStopped || isAskedToStop;
+    return !isAskedToStop;
 }
 
 } // namespace quillon

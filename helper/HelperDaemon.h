@@ -23,16 +23,19 @@ class HelperDaemon
 public:
     /// Carries out an uninstallation that has been authorized.
     using Uninstallation = std::function<Outcome()>;
+    /// Whether another helper is to serve from now on; looked at with every message.
+    using Superseded = std::function<bool()>;
 
     /// `bus` is processed by nobody else; it outlives the daemon, as `kernel` does.
     HelperDaemon(sd_bus &bus, KernelLink &kernel, Uninstallation uninstallation,
-        std::chrono::milliseconds idlePeriod);
+        Superseded superseded, std::chrono::milliseconds idlePeriod);
     HelperDaemon(const HelperDaemon &) = delete;
     HelperDaemon &operator=(const HelperDaemon &) = delete;
 
-    /// Takes the name and serves until nobody has asked anything for the idle period, until
-    /// `stopDescriptor` becomes readable, or until it has been uninstalled. False when the bus
-    /// refuses the name or goes away; no message of anybody ends it.
+    /// Takes the name and serves until nobody has asked anything for the idle period, until it is
+    /// superseded (whoever asks), until `stopDescriptor` becomes readable, or until it has been
+    /// uninstalled. False when the bus refuses the name or goes away; no message of anybody ends
+    /// it.
     bool run(int stopDescriptor);
 
 private:
@@ -48,8 +51,9 @@ private:
     static int nameReleased(sd_bus_message *answer, void *self, sd_bus_error *error);
     bool begin();
     void serve(int stopDescriptor);
+    bool isTimeToLeave();
     void leave(int stopDescriptor);
-    /// Until `isOver`, the end of the connection, or `stopDescriptor`.
+    /// Until `isOver`, m_deadline, the end of the connection, or `stopDescriptor`.
     void handleMessagesUntil(int stopDescriptor, const std::function<bool()> &isOver);
     bool isConnected() const;
     /// True when there may be more.
@@ -59,6 +63,7 @@ private:
     std::chrono::milliseconds timeToWait() const;
 
     sd_bus &m_bus;
+    Superseded m_superseded;
     RequestLog m_log;
     AddressChange m_addressChange;
     BusCallers m_busCallers;
@@ -69,6 +74,8 @@ private:
     HelperMethods m_methods;
     NameState m_name = NameState::Asked;
     bool m_uninstalled = false;
+    bool m_isStopped = false;
+    IdlePeriod::Time m_deadline = IdlePeriod::Time::max();
 };
 
 } // namespace quillon

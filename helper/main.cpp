@@ -13,6 +13,7 @@
 #include "helper/NetlinkKernelLink.h"
 #include "helper/Privileges.h"
 #include "helper/Removal.h"
+#include "helper/RunningProgram.h"
 #include "helper/SystemAccounts.h"
 #include "helper/SystemBus.h"
 
@@ -134,8 +135,12 @@ int serve()
         logLine(noBus);
         return exitFailed;
     }
+    const RunningProgram program;
+    const auto superseded = [&] {
+        return program.isReplaced() || (!isPackages && installation.isPackaged());
+    };
     NetlinkKernelLink kernel;
-    if (!HelperDaemon{*bus, kernel, uninstallation, idlePeriod}.run(stop)) {
+    if (!HelperDaemon{*bus, kernel, uninstallation, superseded, idlePeriod}.run(stop)) {
         logLine("ended: the bus has gone away, or does not give the name");
         return exitFailed;
     }
@@ -180,8 +185,8 @@ int finishInstallation(const Outcome &outcome, const char *success)
 int yieldToPackage(Installation &installation)
 {
     if (!installation.isInstalled()) {
-        logLine("The distribution's package has installed the helper already.");
-        return exitDone;
+        return finishInstallation(
+            std::nullopt, "The distribution's package has installed the helper already.");
     }
     return finishInstallation(installation.uninstall(),
         "The distribution's package has installed the helper: the self-installed one is removed.");
@@ -195,13 +200,14 @@ int install()
         logLine("The running program cannot be read.");
         return exitFailed;
     }
-    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
-        return yieldToPackage(installation);
-    }
-    // The bus reads its policy, which names the user, only after that.
+    // The bus reads its policy, which names the user, only after that. A package that was not
+    // installed by a package manager has no user yet either.
     if (const auto problem = makeHelperAccount(helperLayout().accountLine); !problem.empty()) {
         logLine(problem);
         return exitFailed;
+    }
+    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
+        return yieldToPackage(installation);
     }
     return finishInstallation(installation.install(tool.number()), "The helper is installed.");
 }

@@ -35,6 +35,15 @@ protected:
         clean = installedThings();
     }
 
+    /// Somebody who asks so often that no idle period is ever over.
+    static bool endsWhileAsked(pid_t helper, BusClient &stranger)
+    {
+        return waitUntil([&] {
+            stranger.version();
+            return run("test -e /proc/" + std::to_string(helper)).exitCode != 0;
+        });
+    }
+
     std::vector<std::string> clean;
 };
 
@@ -85,15 +94,21 @@ TEST_F(InstallTest, isUsableAtOnce)
         [&] { return quillon.change("enp1s0", "02:11:22:33:44:55") == BusClient::done; }));
 }
 
-TEST_F(InstallTest, overAnOlderOneLetsTheRunningHelperFinish)
+TEST_F(InstallTest, overAnOlderOneTakesEffectWhileAStrangerKeepsAsking)
 {
     outputOf(builtTool() + " install");
-    BusClient quillon{"quillon"};
-    ASSERT_EQ(quillon.version(), "2.0");
-    const auto helper = quillon.processOf(contract::helperName);
-    outputOf(builtTool() + " install");
-    EXPECT_EQ(quillon.version(), "2.0");
-    EXPECT_EQ(quillon.processOf(contract::helperName), helper);
+    BusClient stranger{"mallory"};
+    for (const bool likeTheUnit : {false, true}) {
+        if (likeTheUnit) {
+            test::startAsTheUnit("com.orvandel.Quillon4HelperTool.service",
+                "/etc/systemd/system/quillon4-helper.service");
+        }
+        ASSERT_EQ(stranger.version(), "2.0");
+        const auto older = stranger.processOf(contract::helperName);
+        outputOf(builtTool() + " install");
+        EXPECT_TRUE(endsWhileAsked(older, stranger)) << likeTheUnit;
+        EXPECT_EQ(stranger.version(), "2.0");
+    }
     outputOf(builtTool() + " uninstall");
     EXPECT_EQ(installedThings(), clean);
 }
@@ -294,6 +309,14 @@ TEST_F(InstallTestWithPackage, needsNoInstallation)
     EXPECT_EQ(installedThings(), packaged);
 }
 
+TEST_F(InstallTestWithPackage, getsItsUserFromAnInstallation)
+{
+    outputOf("sed -i /^quillon4-helper:/d /etc/passwd /etc/group /etc/shadow");
+    EXPECT_EQ(run(builtTool() + " install").exitCode, 0);
+    EXPECT_THAT(outputOf("getent passwd quillon4-helper"), HasSubstr("nologin"));
+    EXPECT_EQ(BusClient{"quillon"}.version(), "2.0");
+}
+
 /// A self-installed helper from before the package came, whose files hide the package's.
 class InstallTestBeforePackage : public InstallTestWithPackage
 {
@@ -338,6 +361,20 @@ TEST_F(InstallTestBeforePackage, stepsAsideUnderTheUnitToo)
     EXPECT_THAT(pathOf(quillon.processOf(contract::helperName)), testing::EndsWith(packagedTool));
     EXPECT_EQ(installedThings(), packaged);
     EXPECT_EQ(quillon.change("enp1s0", "02:11:22:33:44:55"), BusClient::done);
+}
+
+TEST_F(InstallTestBeforePackage, stepsAsideWhileAStrangerKeepsAsking)
+{
+    outputOf("mv /usr/libexec/quillon4 /tmp/packaged");
+    BusClient stranger{"mallory"};
+    ASSERT_EQ(stranger.version(), "2.0");
+    const auto older = stranger.processOf(contract::helperName);
+    ASSERT_NE(pathOf(older), packagedTool);
+    outputOf("mv /tmp/packaged /usr/libexec/quillon4");
+    EXPECT_TRUE(endsWhileAsked(older, stranger));
+    EXPECT_EQ(stranger.version(), "2.0");
+    EXPECT_EQ(pathOf(stranger.processOf(contract::helperName)), packagedTool);
+    EXPECT_EQ(installedThings(), packaged);
 }
 
 TEST_F(InstallTestBeforePackage, saysSoInTheLog)

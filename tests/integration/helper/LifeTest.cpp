@@ -6,6 +6,7 @@
 #include "helper/SystemBus.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
+#include "integration/helper/RawBus.h"
 #include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
@@ -13,6 +14,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <functional>
 #include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
@@ -25,6 +27,7 @@ using test::BusClient;
 using test::FakePolkit;
 using test::kernelAddress;
 using test::outputOf;
+using test::RawBus;
 using test::waitUntil;
 using testing::HasSubstr;
 
@@ -58,7 +61,11 @@ protected:
     SystemBus bus = connectToSystemBus();
     NetlinkKernelLink kernel;
     HelperDaemon daemon{*bus, kernel,
-        [] { return Outcome{Refusal{contract::error::ownedByPackage, "package"}}; }, idlePeriod};
+        [] { return Outcome{Refusal{contract::error::ownedByPackage, "package"}}; },
+        [this] { return superseded && decide(); }, idlePeriod};
+    std::atomic<bool> superseded = false;
+    /// In the moment in which the daemon finds that it is superseded; set before `superseded`.
+    std::function<bool()> decide = [] { return true; };
     std::atomic<bool> ended = false;
     bool started = false;
     std::thread thread;
@@ -119,6 +126,57 @@ TEST_F(LifeTestWithTime, refusesOpenRequestsWhenItIsStopped)
         waitUntil([this] { return quillon.answers()[contract::error::notAuthorized.name] == 1; }));
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
     EXPECT_TRUE(waitUntil([&] { return polkit.cancelled().size() == 1; }));
+}
+
+TEST_F(LifeTestWithTime, leavesWhenItIsSupersededWhoeverKeepsAsking)
+{
+    ASSERT_TRUE(started);
+    superseded = true;
+    BusClient stranger{"mallory"};
+    EXPECT_TRUE(waitUntil([&] {
+        stranger.version();
+        return ended.load();
+    }));
+}
+
+TEST_F(LifeTestWithTime, waitsForAPersonWhoThinksAlsoWhenItIsSuperseded)
+{
+    ASSERT_TRUE(started);
+    FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::LeaveOpen; }};
+    quillon.changeLater("enp1s0", newAddress);
+    ASSERT_TRUE(waitUntil([&] { return polkit.questions().size() == 1; }));
+    superseded = true;
+    EXPECT_EQ(root.version(), "2.0");
+    EXPECT_FALSE(ended.load());
+    polkit.openQuestionsAreGranted();
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_EQ(quillon.answers()[BusClient::done], 1);
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+}
+
+TEST_F(LifeTestWithTime, servesWhatReachedItBeforeItsNameWasGoneThoughItIsStoppedThen)
+{
+    ASSERT_TRUE(started);
+    FakePolkit polkit{[](const FakePolkit::Question &) { return FakePolkit::Answer::Yes; }};
+    RawBus caller{"quillon"};
+    decide = [&] {
+        caller.send(SD_BUS_MESSAGE_METHOD_CALL, contract::helperName, contract::helper::path,
+            contract::helper::interface, contract::helper::changeAddressOfDevice.name,
+            [](sd_bus_message *message) {
+                const auto bytes = test::someAuthorization();
+                sd_bus_message_append(message, "ssb", "enp1s0", newAddress, 0);
+                sd_bus_message_append_array(message, 'y', bytes.data(), bytes.size());
+            });
+        // Once this is answered the bus has passed the first one on.
+        caller.call("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "GetId");
+        // The service manager stops who gives its name back.
+        eventfd_write(stop, 1);
+        return true;
+    };
+    superseded = true;
+    root.version();
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
 }
 
 class LifeTest : public testing::Test
