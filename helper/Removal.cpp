@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <cstring>
+#include <poll.h>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,6 +18,8 @@ namespace quillon {
 
 namespace {
 
+// What went wrong may go wrong again at once; it shall not take the whole processor.
+constexpr int errorPauseMilliseconds = 10;
 // The root process waits for the bus and the service manager to read their folders again.
 constexpr std::chrono::microseconds answerTime = std::chrono::seconds{90};
 
@@ -100,15 +103,19 @@ bool RemovalService::serve(std::chrono::milliseconds limit)
     }
     const auto end = std::chrono::steady_clock::now() + limit;
     while (!m_isDone && sd_bus_is_open(&m_bus) > 0) {
-        if (sd_bus_process(&m_bus, nullptr) != 0) {
-            continue;
-        }
+        const int result = sd_bus_process(&m_bus, nullptr);
+        // In every round: anybody can have the bus start this process, and messages that never end
+        // must not keep it.
         const auto left = std::chrono::duration_cast<std::chrono::microseconds>(
             end - std::chrono::steady_clock::now());
-        if (left.count() <= 0) {
+        if (!m_isDone && left.count() <= 0) {
             return false;
         }
-        sd_bus_wait(&m_bus, static_cast<std::uint64_t>(left.count()));
+        if (result < 0) {
+            ::poll(nullptr, 0, errorPauseMilliseconds);
+        } else if (result == 0) {
+            sd_bus_wait(&m_bus, static_cast<std::uint64_t>(left.count()));
+        }
     }
     sd_bus_flush(&m_bus);
     return m_isDone;

@@ -3,6 +3,7 @@
 // The service manager's restrictions are narrow, but leave the helper what it needs.
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
+#include "integration/helper/RawBus.h"
 #include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
 
@@ -17,6 +18,7 @@ using test::BusClient;
 using test::installedThings;
 using test::kernelAddress;
 using test::outputOf;
+using test::RawBus;
 using test::waitUntil;
 using testing::HasSubstr;
 
@@ -104,6 +106,34 @@ TEST_F(SystemdUnitTest, ofTheRemovalIsReachableForTheHelperAlone)
             << user;
     }
     EXPECT_EQ(installedThings(), before);
+}
+
+TEST_F(SystemdUnitTest, ofTheRemovalIsKeptFromNobodyByWhoStartsItAndFloodsIt)
+{
+    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+        units + "quillon4-helper-removal.service");
+    RawBus mallory{"mallory"};
+    // The bus starts it for everybody, but lets nothing of them through to it.
+    EXPECT_EQ(mallory.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                  "StartServiceByName",
+                  [](sd_bus_message *message) {
+                      sd_bus_message_append(message, "su", contract::removalName, 0U);
+                  }),
+        BusClient::done);
+    ASSERT_TRUE(quillon.hasOwner(contract::removalName));
+    constexpr int signals = 500;
+    for (int i = 0; i < signals; ++i) {
+        mallory.send(SD_BUS_MESSAGE_SIGNAL, contract::removalName, contract::removal::path,
+            contract::removal::interface, contract::removal::remove.name);
+    }
+    std::vector<std::string> errors;
+    EXPECT_TRUE(waitUntil([&] {
+        const auto more = mallory.settle();
+        errors.insert(errors.end(), more.begin(), more.end());
+        return errors.size() == signals;
+    })) << errors.size();
+    EXPECT_THAT(errors, testing::Each("org.freedesktop.DBus.Error.AccessDenied"));
+    EXPECT_EQ(BusClient{"root"}.uninstall(), BusClient::done);
 }
 
 } // namespace
