@@ -197,7 +197,8 @@ int NetlinkKernelLink::create(int type, int flags, const LinkConfiguration::Mess
         return ENOMEM;
     }
     const int error = m_socket.request(message).error;
-    return error == EEXIST ? 0 : error;
+    // A link that has gone meanwhile has nothing to restore.
+    return error == EEXIST || error == ENODEV ? 0 : error;
 }
 
 int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route, int &pausesLeft)
@@ -236,6 +237,11 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
     const auto note = [&first](int error) { first = first == 0 ? error : first; };
     for (const auto &link : configuration.linksOnTop) {
         note(restoreUp(link));
+    }
+    // Going down again, a link loses the neighbors that it had got back.
+    if (std::any_of(configuration.linksOnTop.begin(), configuration.linksOnTop.end(),
+            [](const LinkState &link) { return (link.flags & IFF_UP) == 0; })) {
+        note(putNeighborsBack(configuration));
     }
     for (const auto &address : configuration.addresses) {
         note(create(RTM_NEWADDR, NLM_F_EXCL, address));

@@ -40,6 +40,15 @@ std::optional<std::string> unguessableName()
     return name;
 }
 
+std::string lineOf(const PrivilegedRequest &request)
+{
+    std::string line = request.caller + ' ' + request.action;
+    for (const auto &[key, value] : request.details) {
+        line += ' ' + key + '=' + harmless(value);
+    }
+    return line;
+}
+
 std::string refusedRequestsOf(std::optional<std::uint32_t> user)
 {
     return "refused requests of " +
@@ -68,7 +77,7 @@ bool PrivilegedRequests::hasRoomFor(const std::string &caller) const
 void PrivilegedRequests::submit(PrivilegedRequest request)
 {
     const auto refuse = [&](const Refusal &refusal) {
-        logOutcome(request, std::nullopt, refusal);
+        logRefusal(request, std::nullopt, refusal);
         request.reply(refusal);
     };
     if (!hasRoomFor(request.caller)) {
@@ -83,7 +92,7 @@ void PrivilegedRequests::submit(PrivilegedRequest request)
     const auto number = ++m_last;
     const auto caller = request.caller;
     m_byCaller[caller].insert(number);
-    m_waiting.emplace(number, Waiting{std::move(request), std::move(*check), {}, false, false});
+    m_waiting.emplace(number, Waiting{std::move(request), std::move(*check), {}});
     m_callers.userOf(caller, [this, number](auto user) { userKnown(number, user); });
 }
 
@@ -153,13 +162,20 @@ void PrivilegedRequests::presenceKnown(Number number, bool present)
         return;
     }
     const auto operation = std::move(place->second.request.operation);
+    place->second.carriedOut = true;
     finish(number, operation());
 }
 
 void PrivilegedRequests::answer(Waiting &waiting, const Outcome &outcome)
 {
     waiting.answered = true;
-    logOutcome(waiting.request, waiting.user, outcome);
+    if (waiting.carriedOut) {
+        // Also what failed halfway may have changed the system.
+        m_log.done(lineOf(waiting.request) + ": " +
+                   (outcome ? outcome->error.name + (' ' + harmless(outcome->message)) : "done"));
+    } else if (outcome) {
+        logRefusal(waiting.request, waiting.user, *outcome);
+    }
     waiting.request.reply(outcome);
     waiting.request.operation = nullptr;
     waiting.request.reply = nullptr;
@@ -229,18 +245,10 @@ void PrivilegedRequests::refuseAll()
     m_identified = 0;
 }
 
-void PrivilegedRequests::logOutcome(
-    const PrivilegedRequest &request, std::optional<std::uint32_t> user, const Outcome &outcome)
+void PrivilegedRequests::logRefusal(
+    const PrivilegedRequest &request, std::optional<std::uint32_t> user, const Refusal &refusal)
 {
-    std::string line = request.caller + ' ' + request.action;
-    for (const auto &[key, value] : request.details) {
-        line += ' ' + key + '=' + harmless(value);
-    }
-    if (!outcome) {
-        m_log.done(line + ": done");
-        return;
-    }
-    m_log.limited(refusedRequestsOf(user), line + ": " + outcome->error.name);
+    m_log.limited(refusedRequestsOf(user), lineOf(request) + ": " + refusal.error.name);
 }
 
 } // namespace quillon

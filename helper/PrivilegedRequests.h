@@ -81,6 +81,8 @@ private:
         /// The authority owes an answer.
         bool asked = false;
         bool answered = false;
+        /// Its operation has run, whatever came of it.
+        bool carriedOut = false;
     };
 
     void userKnown(Number number, std::optional<std::uint32_t> user);
@@ -90,8 +92,8 @@ private:
     void finish(Number number, const Outcome &outcome);
     void forget(Number number);
     void cancel(Number number, const char *why);
-    void logOutcome(const PrivilegedRequest &request, std::optional<std::uint32_t> user,
-        const Outcome &outcome);
+    void logRefusal(const PrivilegedRequest &request, std::optional<std::uint32_t> user,
+        const Refusal &refusal);
 
     Callers &m_callers;
     Authority &m_authority;

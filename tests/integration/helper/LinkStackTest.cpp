@@ -28,7 +28,8 @@ protected:
             "ip addr add 198.51.100.1/24 dev top0; ip addr add fd00:db8:7::1/64 dev top0 nodad;"
             "ip route add 198.18.0.0/24 via 198.51.100.2 dev top0;"
             "ip -6 route add fd00:db8:8::/64 via fd00:db8:7::2 dev top0;"
-            "ip neigh add 198.51.100.2 lladdr 02:00:00:00:00:66 nud permanent dev top0");
+            "ip neigh add 198.51.100.2 lladdr 02:00:00:00:00:66 nud permanent dev top0;"
+            "ip neigh add 198.51.100.3 lladdr 02:00:00:00:00:67 nud permanent dev top1");
         ASSERT_EQ(kernel.findByName("enp1s0", link), 0);
     }
     static std::string shown()
@@ -37,6 +38,8 @@ protected:
             "ip -o addr show dev top0 | grep -v ' fe80'; ip route show dev top0;"
             "ip -6 route show dev top0 | grep -v fe80; ip neigh show nud permanent dev top0");
     }
+    /// Of the one that is down.
+    static std::string neighborsOfTop1() { return outputOf("ip neigh show nud permanent dev top1"); }
 
     NetlinkKernelLink kernel;
     LinkState link;
@@ -46,6 +49,8 @@ TEST_F(LinkStackTestOnTop, getAddressesRoutesNeighborsAndTheirStateBack)
 {
     const auto before = shown();
     ASSERT_THAT(before, HasSubstr("fd00:db8:8::/64 via fd00:db8:7::2"));
+    const auto neighborsBefore = neighborsOfTop1();
+    ASSERT_THAT(neighborsBefore, HasSubstr("198.51.100.3 lladdr 02:00:00:00:00:67"));
     LinkConfiguration configuration;
     ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
     // All that were up go down with the lower one, and all come up with it.
@@ -57,6 +62,7 @@ TEST_F(LinkStackTestOnTop, getAddressesRoutesNeighborsAndTheirStateBack)
     LinkState top1;
     ASSERT_EQ(kernel.findByName("top1", top1), 0);
     EXPECT_EQ(top1.flags & IFF_UP, 0U);
+    EXPECT_EQ(neighborsOfTop1(), neighborsBefore);
     // One that stayed down, as loosely bound ones may, comes up again.
     outputOf("ip link set top0 down");
     EXPECT_EQ(kernel.putNeighborsBack(configuration), 0);
@@ -70,6 +76,7 @@ TEST_F(LinkStackTestOnTop, loseNothingToOneThatHasGone)
     ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
     ASSERT_EQ(configuration.linksOnTop.size(), 2U);
     outputOf("ip link del top1; ip link set top0 down");
+    EXPECT_EQ(kernel.putNeighborsBack(configuration), 0);
     EXPECT_EQ(kernel.putBack(configuration), 0);
     EXPECT_THAT(shown(), HasSubstr("198.18.0.0/24 via 198.51.100.2"));
 }

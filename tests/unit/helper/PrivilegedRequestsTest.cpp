@@ -284,6 +284,20 @@ TEST_F(PrivilegedRequestsTest, isLoggedWithItsOutcome)
                    "com.orvandel.Quillon4.Error.TooManyRequests"));
 }
 
+TEST_F(PrivilegedRequestsTest, thatFailedHalfwayIsAlwaysLoggedWithTheReason)
+{
+    // As many as are refused in the same second.
+    log.limited("refused calls", "a refusal");
+    operationOutcome = Refusal{contract::error::changeFailed, "enp1s0: going \n down"};
+    for (int i = 0; i < 2; ++i) {
+        ask(":1.1");
+        authority.prompts.back().answer(true);
+    }
+    const auto line = std::string{":1.1 com.orvandel.quillon4.change-address device=\"enp1s0\": "} +
+                      contract::error::changeFailed.name + " \"enp1s0: going \\x0a down\"";
+    EXPECT_THAT(lines, ElementsAre("a refusal", line, line));
+}
+
 TEST_F(PrivilegedRequestsTest, makesRoomWhenItIsDecided)
 {
     for (int i = 0; i < 4; ++i) {
