@@ -75,7 +75,7 @@ protected:
 
 TEST_F(RefusalTest, refusesEveryPrivilegedMethodToAnUnauthorizedUser)
 {
-    const auto xml = mallory.call(contract::helperName, contract::helper::path,
+    const auto xml = BusClient{"root"}.call(contract::helperName, contract::helper::path,
         "org.freedesktop.DBus.Introspectable", "Introspect");
     const auto ours =
         xml.substr(xml.find(std::string{"<interface name=\""} + contract::helper::interface));
@@ -359,6 +359,12 @@ TEST_F(RefusalTest, offersNothingElseOnTheBus)
 {
     EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
                     "org.freedesktop.DBus.Properties", "GetAll"),
+        "org.freedesktop.DBus.Error.AccessDenied");
+    EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
+                    "org.freedesktop.DBus.Introspectable", "Introspect"),
+        "org.freedesktop.DBus.Error.AccessDenied");
+    EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
+                    "org.freedesktop.DBus.Peer", "Ping"),
         "org.freedesktop.DBus.Error.AccessDenied");
     EXPECT_THAT(mallory.call(contract::helperName, contract::helper::path,
                     "org.freedesktop.DBus.ObjectManager", "GetManagedObjects"),
