@@ -39,7 +39,10 @@ protected:
             "ip -6 route show dev top0 | grep -v fe80; ip neigh show nud permanent dev top0");
     }
     /// Of the one that is down.
-    static std::string neighborsOfTop1() { return outputOf("ip neigh show nud permanent dev top1"); }
+    static std::string neighborsOfTop1()
+    {
+        return outputOf("ip neigh show nud permanent dev top1");
+    }
 
     NetlinkKernelLink kernel;
     LinkState link;
