@@ -146,8 +146,11 @@ TEST_F(LifeTestWithTime, waitsForAPersonWhoThinksAlsoWhenItIsSuperseded)
     quillon.changeLater("enp1s0", newAddress);
     ASSERT_TRUE(waitUntil([&] { return polkit.questions().size() == 1; }));
     superseded = true;
-    EXPECT_EQ(root.version(), "2.0");
-    EXPECT_FALSE(ended.load());
+    // It keeps its name: the second call comes after the look that the first one brought about.
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(root.version(), "2.0");
+        EXPECT_EQ(root.processOf(contract::helperName), getpid());
+    }
     polkit.openQuestionsAreGranted();
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
     EXPECT_EQ(quillon.answers()[BusClient::done], 1);
