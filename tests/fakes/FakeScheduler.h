@@ -32,6 +32,8 @@ public:
     void runPending();
     /// Turns the hands forward, running every task at its own moment.
     void advance(std::chrono::milliseconds time);
+    /// Time goes by while the main thread is held up: what becomes due runs when it turns again.
+    void pass(std::chrono::milliseconds time) { m_now = m_now.addMSecs(time.count()); }
     /// Sets the clock forward, or back, as a user does, or time that passed while the machine was
     /// suspended: now() jumps, and what waits still waits for as long as before.
     void setClock(std::chrono::milliseconds forward) { m_clockIsAhead += forward; }

@@ -22,9 +22,9 @@ using namespace std::chrono_literals;
 
 // Several changes in a row make one write.
 constexpr auto writeDelay = 50ms;
-// An editor may empty the file, or take it away, before it fills it.
-constexpr auto settlingTime = 1s;
-// So often somebody who waits for that looks.
+// A file that may be in the middle of being written is looked at again after this time, and more
+// often by somebody who waits for it.
+constexpr auto secondLookDelay = 1s;
 constexpr auto settlingPause = 50ms;
 
 } // namespace
@@ -39,7 +39,7 @@ public:
         , m_scheduler(scheduler)
         , m_problem(std::move(problem))
         , m_pause(std::move(pause))
-        , m_file(path, values)
+        , m_file(path, values, scheduler)
         , m_queue(scheduler)
     {
     }
@@ -54,12 +54,11 @@ public:
 
 private:
     using Outcome = SettingsFile::Outcome;
-    using Patience = SettingsFile::Patience;
 
-    void read(Patience patience);
-    void readAgainLater();
+    void read();
+    void lookAgainLater();
     void save();
-    Outcome settled(const std::function<Outcome(Patience)> &access);
+    Outcome settled(Outcome (SettingsFile::*access)());
     void tell();
     template <typename Function>
     void inBackground(Function function);
@@ -85,37 +84,36 @@ void PlistSettingsStore::Core::inBackground(Function function)
     });
 }
 
-/// What `access` comes to once the file has had the time to become whole. Waits until then.
+/// What `access` comes to once the file has had the time to become whole. Waits until then, which
+/// the file bounds.
 PlistSettingsStore::Core::Outcome PlistSettingsStore::Core::settled(
-    const std::function<Outcome(Patience)> &access)
+    Outcome (SettingsFile::*access)())
 {
-    for (auto waited = 0ms; waited < settlingTime; waited += settlingPause) {
-        const Outcome outcome = access(Patience::Some);
-        if (outcome != Outcome::NotYet) {
-            return outcome;
-        }
+    Outcome outcome = (m_file.*access)();
+    while (outcome == Outcome::NotYet) {
         m_pause(settlingPause);
+        outcome = (m_file.*access)();
     }
-    return access(Patience::None);
+    return outcome;
 }
 
 void PlistSettingsStore::Core::load()
 {
-    settled([this](Patience patience) { return m_file.read(patience); });
+    settled(&SettingsFile::read);
     tell();
 }
 
 bool PlistSettingsStore::Core::saveNow()
 {
-    const Outcome outcome = settled([this](Patience patience) { return m_file.save(patience); });
+    const Outcome outcome = settled(&SettingsFile::save);
     tell();
     return outcome == Outcome::Done;
 }
 
 void PlistSettingsStore::Core::save()
 {
-    if (m_file.save(Patience::Some) == Outcome::NotYet) {
-        readAgainLater();
+    if (m_file.save() == Outcome::NotYet) {
+        lookAgainLater();
     }
     tell();
 }
@@ -141,31 +139,33 @@ void PlistSettingsStore::Core::fileChanged()
     if (!m_readPlanned.exchange(true)) {
         inBackground([](Core &self) {
             self.m_readPlanned = false;
-            self.read(Patience::Some);
+            self.read();
         });
     }
 }
 
-void PlistSettingsStore::Core::read(Patience patience)
+void PlistSettingsStore::Core::read()
 {
-    if (m_file.read(patience) == Outcome::NotYet) {
-        readAgainLater();
+    const Outcome outcome = m_file.read();
+    if (outcome == Outcome::NotYet) {
+        lookAgainLater();
     }
     tell();
-    if (patience == Patience::None && values.unsaved()) {
+    if (outcome == Outcome::Lost) {
         save();
     }
 }
 
-void PlistSettingsStore::Core::readAgainLater()
+void PlistSettingsStore::Core::lookAgainLater()
 {
     if (m_secondLookPlanned.exchange(true)) {
         return;
     }
-    m_scheduler.onMainAfter(settlingTime, [weak = weak_from_this()] {
+    m_scheduler.onMainAfter(secondLookDelay, [weak = weak_from_this()] {
         if (const auto core = weak.lock()) {
             core->m_secondLookPlanned = false;
-            core->inBackground([](Core &self) { self.read(Patience::None); });
+            // What could not be written meanwhile is written too.
+            core->inBackground([](Core &self) { self.save(); });
         }
     });
 }

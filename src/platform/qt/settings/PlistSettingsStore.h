@@ -26,8 +26,9 @@ class FileWatch;
 /// runs is written again.
 ///
 /// A file that appears damaged, or is gone, may be in the middle of being written by another
-/// program. Nothing is written over it for a second, and then it is looked at again: background
-/// work comes back later, while reading at the start, flush() and the destructor wait.
+/// program. Nothing is written over it until it has stayed the same for a second, or has not been
+/// whole for ten: background work comes back later, while reading at the start, flush() and the
+/// destructor wait.
 ///
 /// Made and destroyed on the main thread; safe from every thread in between.
 class PlistSettingsStore : public SettingsStore

@@ -3,37 +3,53 @@
 #include "platform/qt/settings/SettingsFile.h"
 
 #include "base/Log.h"
+#include "platform/Scheduler.h"
 #include "platform/qt/settings/PropertyListFile.h"
 #include "platform/qt/settings/XmlPropertyList.h"
 
+#include <QFile>
+
 #include <cerrno>
+#include <sys/stat.h>
 
 namespace quillon {
 
 using Kind = SettingsProblem::Kind;
 
-SettingsFile::SettingsFile(const QString &path, SettingsValues &values)
+namespace {
+
+using namespace std::chrono_literals;
+
+// An editor may empty the file, or take it away, before it fills it, and do so again and again.
+constexpr auto settlingTime = 1s;
+// For somebody who never comes to an end nothing waits for ever.
+constexpr auto longestSettling = 10s;
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString &path, SettingsValues &values, const Scheduler &clock)
     : m_path(path)
     , m_values(values)
+    , m_clock(clock)
 {
 }
 
-SettingsFile::Outcome SettingsFile::read(Patience patience)
+SettingsFile::Outcome SettingsFile::read()
 {
     const std::lock_guard lock(m_mutex);
-    return readLocked(patience);
+    return readLocked();
 }
 
-SettingsFile::Outcome SettingsFile::readLocked(Patience patience)
+SettingsFile::Outcome SettingsFile::readLocked()
 {
     const Result<QByteArray> bytes = readFileContent(m_path);
     if (!bytes) {
         const int code = bytes.error().code;
         if (code == ENOENT || code == ENOTDIR) {
-            return replaceLost(patience);
+            return replaceLost();
         }
         if (code == EFBIG) {
-            return patience == Patience::Some ? Outcome::NotYet : setAside(bytes.error());
+            return isInDoubt({}) ? Outcome::NotYet : setAside(bytes.error());
         }
         arose(Kind::Unreadable, bytes.error());
         return Outcome::Failed;
@@ -41,31 +57,67 @@ SettingsFile::Outcome SettingsFile::readLocked(Patience patience)
     if (m_lastContent.isNull() || bytes.value() != m_lastContent) {
         const Result<QVariantMap> content = readPropertyList(bytes.value());
         if (!content) {
-            return patience == Patience::Some ? Outcome::NotYet : setAside(content.error());
+            return isInDoubt(bytes.value()) ? Outcome::NotYet : setAside(content.error());
         }
         m_values.adopt(content.value());
         m_lastContent = bytes.value();
     }
-    m_lasting.erase(Kind::Unreadable);
-    m_lasting.erase(Kind::Damaged);
+    forgetTroubles();
     return Outcome::Done;
 }
 
-/// A file that is gone says nothing about the values that it held: they are written again.
-SettingsFile::Outcome SettingsFile::replaceLost(Patience patience)
+SettingsFile::Sight SettingsFile::sight(const QByteArray &bytes) const
 {
-    const bool wasThere = !m_lastContent.isNull();
-    if (wasThere && patience == Patience::Some) {
-        return Outcome::NotYet;
+    struct stat status = {};
+    if (::stat(QFile::encodeName(m_path).constData(), &status) != 0) {
+        return {};
     }
+    constexpr qint64 nanosecondsPerSecond = 1'000'000'000;
+    return {true, status.st_ino,
+        status.st_mtim.tv_sec * nanosecondsPerSecond + status.st_mtim.tv_nsec, bytes};
+}
+
+/// Whether the file, which is bad as it is, may still become a good one. Nobody who looks shortens
+/// the time for another one.
+bool SettingsFile::isInDoubt(const QByteArray &bytes)
+{
+    const auto now = m_clock.monotonic();
+    Sight seen = sight(bytes);
+    const bool isSame = m_doubt && m_doubt->sight == seen;
+    if (!m_doubt || (m_doubt->isOver && !isSame)) {
+        m_doubt = Doubt{std::move(seen), now, now};
+    } else if (!isSame) {
+        m_doubt->sight = std::move(seen);
+        m_doubt->since = now;
+    }
+    // It stays over when what follows from it fails: it is tried again without waiting.
+    m_doubt->isOver = m_doubt->isOver || now - m_doubt->since >= settlingTime ||
+                      now - m_doubt->begun >= longestSettling;
+    return !m_doubt->isOver;
+}
+
+void SettingsFile::forgetTroubles()
+{
+    m_doubt.reset();
     m_lasting.erase(Kind::Unreadable);
     m_lasting.erase(Kind::Damaged);
-    if (wasThere) {
-        qCWarning(logSettings) << "The settings file is gone and will be written again:" << m_path;
-        m_lastContent = QByteArray();
-        m_values.markAllUnsaved();
+}
+
+/// A file that is gone says nothing about the values that it held: they are written again.
+SettingsFile::Outcome SettingsFile::replaceLost()
+{
+    const bool wasThere = !m_lastContent.isNull();
+    if (wasThere && isInDoubt({})) {
+        return Outcome::NotYet;
     }
-    return Outcome::Done;
+    forgetTroubles();
+    if (!wasThere) {
+        return Outcome::Done;
+    }
+    qCWarning(logSettings) << "The settings file is gone and will be written again:" << m_path;
+    m_lastContent = QByteArray();
+    m_values.markAllUnsaved();
+    return Outcome::Lost;
 }
 
 SettingsFile::Outcome SettingsFile::setAside(const Error &damage)
@@ -80,17 +132,16 @@ SettingsFile::Outcome SettingsFile::setAside(const Error &damage)
     // over.
     m_lasting.erase(Kind::Damaged);
     arose(Kind::Damaged, damage, kept.value());
-    m_lasting.erase(Kind::Damaged);
-    m_lasting.erase(Kind::Unreadable);
+    forgetTroubles();
     m_lastContent = QByteArray();
     m_values.markAllUnsaved();
-    return Outcome::Done;
+    return Outcome::Lost;
 }
 
-SettingsFile::Outcome SettingsFile::save(Patience patience)
+SettingsFile::Outcome SettingsFile::save()
 {
     const std::lock_guard lock(m_mutex);
-    const Outcome state = readLocked(patience);
+    const Outcome state = readLocked();
     if (state == Outcome::NotYet) {
         return state;
     }

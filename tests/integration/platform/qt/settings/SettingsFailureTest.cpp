@@ -119,6 +119,10 @@ TEST_F(SettingsFailure, ADamagedFileThatCannotBeSetAsideIsNotReplaced)
     EXPECT_FALSE(store->flush());
     EXPECT_EQ(read(path), "scribble");
     EXPECT_TRUE(store->getBool(keys::hideDock));
+    scheduler.advance(10s);
+    EXPECT_FALSE(scheduler.hasTimers()) << "it is not looked at for ever";
+    EXPECT_EQ(waited, 1s) << "once, at the start";
+    EXPECT_EQ(problems.size(), 2U);
 
     setRights(folder.path(), 0700);
     EXPECT_TRUE(store->flush());

@@ -53,6 +53,7 @@ protected:
             [this](const SettingsProblem &problem) { problems.push_back(problem); },
             [this](std::chrono::milliseconds time) {
                 waited += time;
+                scheduler.pass(time);
                 if (meanwhile) {
                     meanwhile();
                 }

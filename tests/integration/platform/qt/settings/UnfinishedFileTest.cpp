@@ -3,6 +3,8 @@
 #include "SettingsFileTest.h"
 #include "base/SettingsKeys.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -163,6 +165,111 @@ TEST_F(UnfinishedFile, ThatIsGoneIsNotMadeByAWriteInTheBackground)
     writeWhole();
     scheduler.advance(1s);
     expectBoth(7);
+}
+
+TEST_F(UnfinishedFile, ThatWasWholeInBetweenIsUnfinishedAnew)
+{
+    for (const bool isGone : {false, true}) {
+        openStore();
+        const auto spoil = [&] { isGone ? void(QFile::remove(path)) : writeHalf(); };
+        spoil();
+        store->synchronize();
+        scheduler.advance(50ms);
+        writeWhole();
+        store->synchronize();
+        scheduler.advance(900ms);
+        EXPECT_EQ(store->getInteger(keys::defaultTimerMinutes), 2);
+        spoil();
+        scheduler.advance(500ms);
+        EXPECT_NE(QFile::exists(path), isGone);
+        EXPECT_TRUE(others().isEmpty());
+        writeWhole();
+        scheduler.advance(2s);
+        EXPECT_EQ(read(path), whole);
+        EXPECT_TRUE(others().isEmpty());
+        EXPECT_TRUE(problems.empty());
+        EXPECT_FALSE(scheduler.hasTimers());
+    }
+}
+
+TEST_F(UnfinishedFile, ThatWasWholeUnseenInBetweenIsUnfinishedAnew)
+{
+    openStore();
+    writeHalf();
+    store->synchronize();
+    scheduler.advance(900ms);
+    writeWhole();
+    // So that the file system, whose clock has steps, tells both halves apart.
+    ASSERT_TRUE(test::holdsSoon([this, before = QFileInfo(path).lastModified()] {
+        writeHalf();
+        return QFileInfo(path).lastModified() != before;
+    }));
+    store->synchronize();
+    scheduler.advance(500ms);
+    EXPECT_TRUE(others().isEmpty());
+    EXPECT_EQ(read(path), whole.left(whole.size() / 2));
+}
+
+TEST_F(UnfinishedFile, ThatGrowsSlowlyIsWaitedForInTheBackground)
+{
+    openStore();
+    store->set(keys::vendorCountValue, 7);
+    for (qsizetype size = 0; size < whole.size(); size += whole.size() / 10) {
+        ASSERT_TRUE(write(path, whole.left(size)));
+        scheduler.advance(400ms);
+        ASSERT_TRUE(others().isEmpty()) << size;
+    }
+    writeWhole();
+    scheduler.advance(1s);
+    expectBoth(7);
+    EXPECT_FALSE(scheduler.hasTimers());
+}
+
+TEST_F(UnfinishedFile, ThatGrowsSlowlyIsWaitedForByFlush)
+{
+    openStore();
+    store->set(keys::vendorCountValue, 7);
+    writeHalf();
+    meanwhile = [this] {
+        const auto most = std::chrono::milliseconds(3000);
+        const qsizetype half = whole.size() / 2;
+        const qsizetype more = (whole.size() - half) * (waited.count() / 500) / (most / 500ms);
+        ASSERT_TRUE(write(path, whole.left(std::min(half + more, whole.size()))));
+    };
+    EXPECT_TRUE(store->flush());
+    EXPECT_EQ(waited, 3s);
+    expectBoth(7);
+}
+
+TEST_F(UnfinishedFile, IsNotCutShortByALookInTheBackgroundWhileFlushWaits)
+{
+    openStore();
+    store->set(keys::vendorCountValue, 7);
+    writeHalf();
+    scheduler.advance(500ms);
+    meanwhile = [this] {
+        if (waited == 400ms) {
+            ASSERT_TRUE(write(path, whole.left(whole.size() / 3)));
+        } else if (waited == 1s) {
+            writeWhole();
+        }
+        scheduler.runPending();
+        ASSERT_TRUE(others().isEmpty()) << waited.count();
+    };
+    EXPECT_TRUE(store->flush());
+    EXPECT_EQ(waited, 1s);
+    expectBoth(7);
+}
+
+TEST_F(UnfinishedFile, ThatIsNeverFinishedIsNotWaitedForForEver)
+{
+    openStore();
+    store->set(keys::vendorCountValue, 7);
+    meanwhile = [this] { ASSERT_TRUE(write(path, QByteArray::number(waited.count()))); };
+    ASSERT_TRUE(write(path, "0"));
+    EXPECT_TRUE(store->flush());
+    EXPECT_EQ(waited, 10s);
+    expectSetAside("10000");
 }
 
 TEST_F(UnfinishedFile, IsNoneWhereThereWasNoFile)
