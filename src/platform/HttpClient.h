@@ -32,7 +32,8 @@ public:
     };
     /// An Error is a failed transfer: no connection, no trust, too many redirects, a body beyond
     /// the limit or shorter than announced. A bad status is a Response, whatever becomes of its
-    /// body: of one that is too long the beginning is given, of one that is cut off what came.
+    /// body, as it says all: of one that is too long the beginning is given, of one that is cut off
+    /// what came.
     using Completion = std::function<void(const Result<Response> &)>;
 
     struct Progress
@@ -48,6 +49,7 @@ public:
         /// `path` is a temporary file with the whole body, whatever the status; it is removed after
         /// the call returns.
         std::function<void(const QString &path)> didFinishDownloading;
+        /// The body did not come whole, whatever the status.
         std::function<void(const Error &)> didFail;
     };
 

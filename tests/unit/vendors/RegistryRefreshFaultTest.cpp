@@ -67,6 +67,18 @@ TEST_F(RegistryRefreshFault, ThatBreaksInTheMiddleKeepsItsLastProgress)
     EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
 }
 
+TEST_F(RegistryRefreshFault, OfWhichABadStatusCameAndThenNotTheWholeBodyWaitsToBeCancelled)
+{
+    const LogCapture log;
+    pane.pressButton();
+    http.deliver(http.last(), "<html>\n<body>Too,\nbusy,\n", 1'000'000);
+    http.finish(http.last(), 503);
+    scheduler.runPending();
+    expectDownloading();
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
+}
+
 TEST_F(RegistryRefreshFault, WithoutALiveDatabaseWritesNothingAndReportsCompletion)
 {
     QFile::remove(files.liveDatabase());

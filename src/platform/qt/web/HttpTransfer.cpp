@@ -131,7 +131,7 @@ void HttpTransfer::readHead()
     const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
     const bool inChunks = m_reply->rawHeader("Transfer-Encoding").toLower().contains("chunked");
     m_expected = isNumber && length >= 0 && !inChunks ? length : -1;
-    if (m_expected > m_limits.bodyLength && !isBadStatus()) {
+    if (m_expected > m_limits.bodyLength && !isSettledByStatus()) {
         end(posixError(EFBIG, "the body is longer than allowed"));
     }
 }
@@ -177,7 +177,7 @@ void HttpTransfer::readBody()
             take(bytes);
             continue;
         }
-        if (isBadStatus() && room > 0) {
+        if (isSettledByStatus() && room > 0) {
             take(bytes.first(room));
         }
         bodyFailed(posixError(EFBIG, "the body is longer than allowed"));
@@ -217,26 +217,25 @@ void HttpTransfer::finish()
     m_sink.finish(finalStatus);
 }
 
-/// What the body says matters only with a good status; a bad one is the answer by itself, however
-/// much of its body came.
 void HttpTransfer::bodyFailed(const Error &error)
 {
     if (m_over) {
         return;
     }
-    if (isBadStatus()) {
+    if (isSettledByStatus()) {
         finish();
     } else {
         end(error);
     }
 }
 
-/// Whether the server, not a proxy on the way, has refused by now.
-bool HttpTransfer::isBadStatus() const
+/// Whether the server, not a proxy on the way, has refused by now, and that is answer enough.
+bool HttpTransfer::isSettledByStatus() const
 {
     constexpr int firstRedirect = 300;
     constexpr int proxyWantsPassword = 407;
-    return status() >= firstRedirect && status() != proxyWantsPassword && !isRedirect();
+    return m_sink.judgesStatus && status() >= firstRedirect && status() != proxyWantsPassword &&
+           !isRedirect();
 }
 
 int HttpTransfer::status() const

@@ -36,6 +36,9 @@ public:
         std::function<std::optional<Error>(const QByteArray &bytes, qint64 expected)> take;
         std::function<void(int status)> finish;
         std::function<void(const Error &)> fail;
+        /// Whether a bad status is all that matters then: it finishes the transfer whatever becomes
+        /// of its body.
+        bool judgesStatus = false;
     };
     struct Limits
     {
@@ -62,7 +65,7 @@ private:
     void replyFinished();
     void finish();
     void bodyFailed(const Error &error);
-    bool isBadStatus() const;
+    bool isSettledByStatus() const;
     void end(const Error &error);
     void stop();
     void leave();

@@ -101,6 +101,7 @@ HttpClient::Token NetworkHttpClient::get(const QUrl &url, qint64 bodyLimit, Comp
         m_transfers.erase(token);
         completion(error);
     };
+    sink.judgesStatus = true;
     add(token, bodyLimit, std::move(sink)).start(url);
     return token;
 }

@@ -156,6 +156,21 @@ TEST_F(Download, FailsWhenTheServerFallsSilentInTheMiddle)
     expectNothingLeft();
 }
 
+TEST_F(Download, FailsWhenTheBodyOfABadStatusDoesNotComeWhole)
+{
+    useFolder(folder.path(), qint64(1) << 30, 3s);
+    for (const int status : {404, 503}) {
+        for (const char *end : {"reset", "close", "stall"}) {
+            web.serve("/page", {{u"status"_s, status}, {u"body"_s, tenDigits}, {u"cut"_s, 4},
+                                   {u"piece"_s, 2}, {u"then"_s, QString::fromLatin1(end)}});
+            const Downloaded result = download(WebServer::secure("/page"));
+            EXPECT_TRUE(result.error) << status << ' ' << end;
+            EXPECT_FALSE(result.body) << status << ' ' << end;
+        }
+    }
+    expectNothingLeft();
+}
+
 TEST_F(Download, FailsWhenThereIsNoServerAndWhenItIsNotTrusted)
 {
     EXPECT_TRUE(download(WebServer::secure("/page", "untrusted.test")).error);

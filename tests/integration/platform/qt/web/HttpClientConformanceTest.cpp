@@ -152,7 +152,20 @@ TYPED_TEST(HttpClientConformance, ABadStatusIsOneWhateverItsLength)
     page.length = 20;
     this->serve(page);
     EXPECT_EQ(this->get(), "503 0123456789") << "cut off";
-    EXPECT_EQ(this->download().body, page.body);
+}
+
+TYPED_TEST(HttpClientConformance, ADownloadThatIsCutOffIsAFailureWhateverItsStatus)
+{
+    for (const int status : {200, 404, 503}) {
+        Page page;
+        page.status = status;
+        page.body = "0123456789";
+        page.length = 20;
+        this->serve(page);
+        const Downloaded result = this->download();
+        EXPECT_TRUE(result.error) << status;
+        EXPECT_FALSE(result.body) << status;
+    }
 }
 
 TYPED_TEST(HttpClientConformance, NoServerIsAFailure)
