@@ -21,10 +21,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// A save that gives up is made again later.
 constexpr int busyTimeoutMs = 1000;
+// An opening that gives up ends the program, while another one may be making the file on a slow
+// disk.
+constexpr int openingTimeoutMs = 10'000;
 // The change to WAL is tried so often, with pauses, as long as for any lock.
-constexpr int logTries = 50;
-constexpr int pauseBetweenTriesMs = busyTimeoutMs / logTries;
+constexpr int pauseBetweenTriesMs = 50;
+constexpr int logTries = openingTimeoutMs / pauseBetweenTriesMs;
 // Reading a larger file whole would hold up the launch; its damage shows when the page is read.
 constexpr qint64 largestQuickCheck = 16LL * 1024 * 1024;
 
@@ -170,7 +174,7 @@ void useLog(SQLite::Database &database)
     if (outcome != SQLITE_OK) {
         throw SQLite::Exception(database.getHandle(), outcome);
     }
-    database.setBusyTimeout(busyTimeoutMs);
+    database.setBusyTimeout(openingTimeoutMs);
 }
 
 } // namespace
@@ -180,7 +184,7 @@ std::unique_ptr<SQLite::Database> openedDatabase(
 {
     makeWhenMissing(path);
     auto database = std::make_unique<SQLite::Database>(
-        QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE, busyTimeoutMs);
+        QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE, openingTimeoutMs);
     // A file that is refused keeps its bytes: closing must not move its log into it.
     sqlite3_db_config(
         database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, static_cast<int *>(nullptr));
@@ -197,6 +201,7 @@ std::unique_ptr<SQLite::Database> openedDatabase(
     useLog(*database);
     // The first read makes the log and its index: a disk without room for them shows here.
     number(*database, "PRAGMA data_version");
+    database->setBusyTimeout(busyTimeoutMs);
     sqlite3_db_config(
         database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, static_cast<int *>(nullptr));
     return database;
