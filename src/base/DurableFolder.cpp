@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/DurableFolder.h"
 
+#include "base/Log.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,17 +24,19 @@ Error posixError(int code)
 
 } // namespace
 
-std::optional<Error> syncFolder(const QString &folder)
+void syncFolder(const QString &folder)
 {
     const int handle =
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) {
-        return posixError(errno);
+    const int code = handle >= 0 && ::fsync(handle) == 0 ? 0 : errno;
+    if (handle >= 0) {
+        ::close(handle);
     }
-    const int code = ::fsync(handle) == 0 ? 0 : errno;
-    ::close(handle);
     // Some file systems keep folders durable by themselves and refuse to be asked.
-    return code == 0 || code == EINVAL ? std::nullopt : std::optional(posixError(code));
+    if (code != 0 && code != EINVAL && code != ENOTSUP) {
+        qCWarning(logBase) << "Names in a folder may not outlive a power cut:" << folder
+                           << posixError(code).message;
+    }
 }
 
 std::optional<Error> makeFolder(
@@ -51,7 +55,8 @@ std::optional<Error> makeFolder(
     if (!isMade && !QFileInfo::exists(path)) {
         return posixError(errno);
     }
-    return syncFolder(parent);
+    syncFolder(parent);
+    return std::nullopt;
 }
 
 } // namespace quillon

@@ -13,12 +13,15 @@ namespace quillon {
 
 // A file survives a power cut only together with its name, and that is kept by its folder.
 
-/// Waits until the names in `folder` are on the disk. Error: posixErrorDomain.
-std::optional<Error> syncFolder(const QString &folder);
+/// Waits until the names in `folder` are on the disk. Where that cannot be waited for, as with some
+/// network file systems or a folder that may not be read, it is logged: the names stand all the
+/// same.
+void syncFolder(const QString &folder);
 
 /// Makes the folder, and those above it that are missing, so that they survive a power cut. One
 /// that is there stays as it is. `permissions` are those of the folder itself; without them, and
-/// for those above, the process's own apply. Error: posixErrorDomain.
+/// for those above, the process's own apply. An error (posixErrorDomain) means that it is not
+/// there.
 std::optional<Error> makeFolder(
     const QString &path, std::optional<QFileDevice::Permissions> permissions = {});
 

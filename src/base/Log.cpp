@@ -5,6 +5,7 @@
 namespace quillon {
 
 Q_LOGGING_CATEGORY(logApp, "quillon.app", QtWarningMsg)
+Q_LOGGING_CATEGORY(logBase, "quillon.base", QtWarningMsg)
 Q_LOGGING_CATEGORY(logDevices, "quillon.devices", QtWarningMsg)
 Q_LOGGING_CATEGORY(logHelperLink, "quillon.helperlink", QtWarningMsg)
 Q_LOGGING_CATEGORY(logSettings, "quillon.settings", QtWarningMsg)

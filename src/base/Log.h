@@ -8,6 +8,7 @@ namespace quillon {
 
 // One category per module, named quillon.<module>; warnings and worse are on by default.
 Q_DECLARE_LOGGING_CATEGORY(logApp)
+Q_DECLARE_LOGGING_CATEGORY(logBase)
 Q_DECLARE_LOGGING_CATEGORY(logDevices)
 Q_DECLARE_LOGGING_CATEGORY(logHelperLink)
 Q_DECLARE_LOGGING_CATEGORY(logSettings)

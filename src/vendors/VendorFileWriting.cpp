@@ -141,8 +141,10 @@ bool VendorFileWriting::keepCopy(const QString &place)
     if (!isNamed) {
         qCWarning(logVendors, "Vendor database not kept as %s", qUtf8Printable(place));
         QFile::remove(copyBeside(place));
+        return false;
     }
-    return isNamed && !syncFolder(QFileInfo(place).path());
+    syncFolder(QFileInfo(place).path());
+    return true;
 }
 
 bool VendorFileWriting::rewriteFrom(QFile &source)

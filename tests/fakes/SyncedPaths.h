@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QStringList>
 
+#include <cerrno>
 #include <functional>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -26,6 +27,13 @@ inline std::function<void()> &beforeSync()
     return call;
 }
 
+/// What each fsync() fails with; 0: with nothing.
+inline int &syncError()
+{
+    static int code = 0;
+    return code;
+}
+
 } // namespace quillon::test
 
 extern "C" int fsync(int handle)
@@ -34,6 +42,10 @@ extern "C" int fsync(int handle)
     quillon::test::syncedPaths() << QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(handle));
     if (quillon::test::beforeSync()) {
         quillon::test::beforeSync()();
+    }
+    if (quillon::test::syncError() != 0) {
+        errno = quillon::test::syncError();
+        return -1;
     }
     return static_cast<int>(::syscall(SYS_fsync, handle));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/DurableFolder.h"
 
+#include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
 #include "fakes/SyncedPaths.h"
 
@@ -21,6 +22,7 @@ class DurableFolder : public ::testing::Test
 {
 protected:
     DurableFolder() { test::syncedPaths().clear(); }
+    ~DurableFolder() override { test::syncError() = 0; }
 
     QTemporaryDir folder;
 };
@@ -60,7 +62,21 @@ TEST_F(DurableFolder, ThatCannotBeMadeSaysWhy)
     ASSERT_TRUE(error);
     EXPECT_EQ(error->domain, posixErrorDomain);
     EXPECT_EQ(error->code, ENOTDIR);
-    EXPECT_EQ(syncFolder(folder.filePath(u"nowhere"_s))->code, ENOENT);
+}
+
+TEST_F(DurableFolder, IsMadeWhereTheDiskCannotBeWaitedFor)
+{
+    const test::LogCapture log;
+    for (const int code : {EIO, EROFS, EACCES, ENOTSUP, EINVAL}) {
+        test::syncError() = code;
+        const QString path = folder.filePath(u"%1/below"_s.arg(code));
+        EXPECT_FALSE(makeFolder(path)) << code;
+        EXPECT_TRUE(QFileInfo(path).isDir()) << code;
+        const bool isNews = code != ENOTSUP && code != EINVAL;
+        EXPECT_EQ(test::LogCapture::taken().size(), isNews ? 2 : 0) << code;
+    }
+    syncFolder(folder.filePath(u"nowhere"_s));
+    EXPECT_EQ(test::LogCapture::taken().size(), 1);
 }
 
 } // namespace

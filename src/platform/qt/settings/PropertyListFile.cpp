@@ -117,7 +117,8 @@ std::optional<Error> replaceFileContent(const QString &path, const QByteArray &b
         return saveError(file, path);
     }
     // Where `path` is a link, the file that was replaced lies elsewhere.
-    return syncFolder(QFileInfo(QFileInfo(path).canonicalFilePath()).path());
+    syncFolder(QFileInfo(QFileInfo(path).canonicalFilePath()).path());
+    return std::nullopt;
 }
 
 Result<QString> setFileAside(const QString &path)

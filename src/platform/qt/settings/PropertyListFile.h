@@ -27,7 +27,8 @@ Result<QByteArray> readFileContent(const QString &path);
 Result<QVariantMap> readPropertyListFile(const QString &path);
 
 /// Replaces the file's content by `bytes` atomically: whoever reads sees the old or the new
-/// content, whole. On return without an error it is durable, the folder's entry included. On an
+/// content, whole. On return without an error it is durable, the folder's entry included where the
+/// file system lets that be waited for. On an
 /// error (posixErrorDomain) the old content stands. A new file is the user's alone; a missing
 /// folder is made.
 std::optional<Error> replaceFileContent(const QString &path, const QByteArray &bytes);

@@ -202,6 +202,19 @@ TEST_F(SettingsFailure, WhatCannotBeWrittenInTheBackgroundIsToldAndGoesOutWithTh
     EXPECT_EQ(problems.size(), 1U);
 }
 
+TEST_F(SettingsFailure, AFolderWhoseNamesCannotBeWaitedForIsWrittenToAllTheSame)
+{
+    setRights(folder.path(), 0300);
+    openStore();
+    store->set(keys::defaultTimerMinutes, 6);
+    EXPECT_TRUE(store->flush());
+    scheduler.runPending();
+    EXPECT_TRUE(problems.empty());
+    setRights(folder.path(), 0700);
+    EXPECT_EQ(content().value(keys::defaultTimerMinutes), QVariant(6LL));
+    EXPECT_TRUE(others().isEmpty());
+}
+
 TEST_F(SettingsFailure, AReadOnlyFileIsRespected)
 {
     replacedByAnother({{keys::defaultTimerMinutes, 5}});
