@@ -46,7 +46,7 @@ private:
     void cleanupTempDBFile() const { QFile::remove(m_files.newDatabase()); }
     void parseFailed();
     void downloadCompleted();
-    bool putPreviousInPlace();
+    qlonglong putPreviousInPlace();
     void tellOwner(std::function<void(RegistryImport &)> what);
 
     QPointer<RegistryImport> m_owner;
@@ -112,28 +112,24 @@ void RegistryImport::Work::replaceDBFile()
 
 void RegistryImport::Work::restorePrevious()
 {
-    if (!putPreviousInPlace()) {
+    const qlonglong count = putPreviousInPlace();
+    if (count == 0) {
         tellOwner(&RegistryImport::reportRestorationFailure);
         return;
     }
-    tellOwner(
-        [count = m_database.count(), since = QFileInfo(m_files.liveDatabase()).lastModified()](
-            RegistryImport &owner) { owner.reportRestoration(count, since); });
+    tellOwner([count, since = QFileInfo(m_files.liveDatabase()).lastModified()](
+                  RegistryImport &owner) { owner.reportRestoration(count, since); });
 }
 
-bool RegistryImport::Work::putPreviousInPlace()
+/// How many vendors are back; 0 when that failed. Counted beforehand: once it is the live database
+/// another program may lock it.
+qlonglong RegistryImport::Work::putPreviousInPlace()
 {
     const QString previous = m_files.previousDatabase();
-    if (VendorDatabase(previous).count() == 0) {
-        return false;
-    }
-    using enum VendorDatabase::Rewriting;
-    const auto outcome = m_database.rewriteFrom(previous, previous);
-    if (outcome != FileMissing) {
-        return outcome == Done;
-    }
-    removeCompanions(m_files.liveDatabase());
-    return QFile::copy(previous, m_files.liveDatabase());
+    const qlonglong count = VendorDatabase(previous).count();
+    const bool isBack =
+        count > 0 && m_database.rewriteFrom(previous, previous) == VendorDatabase::Rewriting::Done;
+    return isBack ? count : 0;
 }
 
 void RegistryImport::Work::parseFailed()

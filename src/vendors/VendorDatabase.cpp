@@ -179,12 +179,17 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
 {
     const std::unique_lock turn(turnstile);
     const std::unique_lock lock(mutex);
-    if (!QFile::exists(path)) {
+    const bool changesPlaces = source == keptAs;
+    const bool isThere = QFile::exists(path);
+    if (!isThere && !changesPlaces) {
         return Rewriting::FileMissing;
     }
     QFile fresh(source);
     if (!fresh.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return Rewriting::Failed;
+    }
+    if (!isThere) {
+        return VendorFileWriting::makeFrom(fresh, path) ? Rewriting::Done : Rewriting::Failed;
     }
     VendorFileWriting live(path);
     if (live.isLockedByAnother()) {
@@ -193,16 +198,16 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
     if (!live.isWritable()) {
         return Rewriting::Failed;
     }
-    const bool changesPlaces = source == keptAs;
-    const bool keeps = !keptAs.isEmpty() && live.holdsIdentifiers();
+    const bool keeps = !keptAs.isEmpty() && live.isWorthKeeping();
     if (keeps && !(live.copyTo(keptAs) && (changesPlaces || VendorFileWriting::keepCopy(keptAs)))) {
         return Rewriting::NotKept;
     }
     if (!live.rewriteFrom(fresh)) {
         return Rewriting::Failed;
     }
-    if (keeps && changesPlaces && !VendorFileWriting::keepCopy(keptAs)) {
-        return Rewriting::Failed;
+    if (keeps && changesPlaces) {
+        // Without the name the file is what was asked for all the same; that is logged.
+        VendorFileWriting::keepCopy(keptAs);
     }
     return Rewriting::Done;
 }

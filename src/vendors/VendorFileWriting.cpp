@@ -108,12 +108,14 @@ void VendorFileWriting::lock()
     }
 }
 
-bool VendorFileWriting::holdsIdentifiers() const
+bool VendorFileWriting::isWorthKeeping() const
 {
     try {
-        return m_guard && m_guard->execAndGet("SELECT EXISTS (SELECT 1 FROM vendor WHERE "
-                                              "Assignment IS NOT NULL AND Assignment <> '')")
-                                  .getInt() != 0;
+        // One that was cut short or torn may still answer the second question.
+        return m_guard && m_guard->execAndGet("PRAGMA quick_check(1)").getString() == "ok" &&
+               m_guard->execAndGet("SELECT EXISTS (SELECT 1 FROM vendor WHERE "
+                                   "Assignment IS NOT NULL AND Assignment <> '')")
+                       .getInt() != 0;
     } catch (const SQLite::Exception &) {
         return false;
     }
@@ -145,6 +147,18 @@ bool VendorFileWriting::keepCopy(const QString &place)
     }
     syncFolder(QFileInfo(place).path());
     return true;
+}
+
+bool VendorFileWriting::makeFrom(QFile &source, const QString &path)
+{
+    QFile copy(copyBeside(path));
+    const bool isCopied =
+        copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && copyWhole(source, copy);
+    if (!isCopied) {
+        qCWarning(logVendors, "Vendor database not made: %s", qUtf8Printable(copy.errorString()));
+        copy.remove();
+    }
+    return isCopied && keepCopy(path);
 }
 
 bool VendorFileWriting::rewriteFrom(QFile &source)

@@ -27,13 +27,16 @@ public:
 
     bool isLockedByAnother() const { return m_isLockedByAnother; }
     bool isWritable() const { return m_file.isOpen(); }
-    /// Whether there is anything in it to look up.
-    bool holdsIdentifiers() const;
+    /// Whether it is undamaged, and there is anything in it to look up. Reads it whole.
+    bool isWorthKeeping() const;
     /// Makes a copy beside `place`, on the disk, with the file's time of change. The folder is made
     /// when it is missing. False, and no copy, when that fails.
     bool copyTo(const QString &place);
     /// Gives the copy that was made beside `place` that name, atomically.
     static bool keepCopy(const QString &place);
+    /// Makes a file that is missing at `path`, atomically: the content of `source`, with its time
+    /// of change, on the disk.
+    static bool makeFrom(QFile &source, const QString &path);
     /// Writes the content of `source` over the file, with its time of change, and waits for the
     /// disk.
     bool rewriteFrom(QFile &source);

@@ -45,6 +45,8 @@ void VendorPaneModel::pressButton()
     case Action::CancelDownload:
         m_download.cancelDownload();
         break;
+    case Action::None:
+        break;
     }
 }
 
@@ -64,11 +66,13 @@ void VendorPaneModel::showStoredTexts()
 
 void VendorPaneModel::showDownloadBegun()
 {
+    m_isDownloading = true;
     m_state.update([&](State &state) {
         state.updatedLabel = localized("Getting download information...");
         state.vendorCount = localized("Updating Vendor Identifier count...");
         state.action = Action::CancelDownload;
         state.canRestore = false;
+        state.isUpdating = true;
         state.buttonTitle = localized("Cancel download...");
     });
 }
@@ -92,11 +96,13 @@ void VendorPaneModel::showProgress(qint64 chunk, qint64 received, qint64 expecte
 
 void VendorPaneModel::showDownloadCancelled()
 {
+    m_isDownloading = false;
     updateLabel(localized("Download cancelled..."));
 }
 
 void VendorPaneModel::showProcessingBegun()
 {
+    m_isDownloading = false;
     updateLabel(localized("Processing data..."));
 }
 
@@ -112,30 +118,36 @@ void VendorPaneModel::showDownloadCompleted(const QString &date)
 
 void VendorPaneModel::showRestorationBegun()
 {
+    m_isRestoring = true;
     m_state.update([](State &state) {
         state.updatedLabel = localized("Restoring the previous database...");
+        state.action = Action::None;
         state.canRestore = false;
     });
 }
 
 void VendorPaneModel::showRestorationFailed()
 {
+    m_isRestoring = false;
     updateLabel(localized("Restoring failed..."));
 }
 
 void VendorPaneModel::showDatabaseRestored(const QString &date)
 {
+    m_isRestoring = false;
     showDownloadCompleted(date);
 }
 
 void VendorPaneModel::resetDownloadButton()
 {
     m_state.update([&](State &state) {
-        state.action = Action::StartDownload;
+        // An earlier refresh that was cancelled ends here as well, whatever has begun since.
+        state.action = m_isRestoring ? Action::None : Action::StartDownload;
         state.buttonTitle = localized("Update database");
         state.progress = 0;
         state.progressShown = false;
-        state.canRestore = m_download.canRestorePrevious();
+        state.isUpdating = m_isDownloading;
+        state.canRestore = !m_isRestoring && !m_isDownloading && m_download.canRestorePrevious();
     });
 }
 

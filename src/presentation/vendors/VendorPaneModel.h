@@ -22,6 +22,7 @@ public:
     {
         StartDownload,
         CancelDownload,
+        None, ///< the database from before the last refresh is being brought back
     };
     struct State
     {
@@ -34,6 +35,8 @@ public:
         QString vendorCount;
         /// The database from before the last refresh is there, and nothing is going on.
         bool canRestore = false;
+        /// A refresh is going on, also where the button already offers the next one.
+        bool isUpdating = false;
 
         bool operator==(const State &) const = default;
     };
@@ -75,6 +78,8 @@ private:
 
     const SettingsStore &m_settings;
     RegistryDownload &m_download;
+    bool m_isDownloading = false;
+    bool m_isRestoring = false;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 

@@ -31,9 +31,18 @@ QString restoreHint(const VendorPaneModel::State &state)
     if (state.canRestore) {
         return localized("Bring back the vendors from before the last update");
     }
-    return state.action == VendorPaneModel::Action::CancelDownload
-               ? localized("Not while the database is being updated")
-               : localized("There are no vendors from before an update");
+    if (state.action == VendorPaneModel::Action::None) {
+        return localized("The vendors from before the last update are being brought back");
+    }
+    return state.isUpdating ? localized("Not while the database is being updated")
+                            : localized("There are no vendors from before an update");
+}
+
+QString downloadHint(const VendorPaneModel::State &state)
+{
+    return state.action == VendorPaneModel::Action::None
+               ? localized("Not while the vendors from before are being brought back")
+               : QString();
 }
 
 } // namespace
@@ -119,6 +128,9 @@ void VendorDataCard::refresh()
     showLine(*m_count, state.vendorCount);
     m_button->setText(state.buttonTitle);
     m_button->setAccessibleName(state.buttonTitle);
+    m_button->setEnabled(state.action != VendorPaneModel::Action::None);
+    m_button->setToolTip(plainToolTip(downloadHint(state)));
+    m_button->setAccessibleDescription(downloadHint(state));
     m_restore->setEnabled(state.canRestore);
     const QString hint = restoreHint(state);
     m_restore->setToolTip(plainToolTip(hint));

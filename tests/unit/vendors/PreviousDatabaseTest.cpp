@@ -3,6 +3,7 @@
 // The way back from a refresh, as it is used in the pane.
 #include "RegistryRefresh.h"
 #include "fakes/LogCapture.h"
+#include "fakes/SyncedPaths.h"
 
 #include <QDateTime>
 
@@ -16,10 +17,21 @@ using ::testing::ElementsAre;
 class PreviousDatabase : public RegistryRefresh
 {
 protected:
+    ~PreviousDatabase() override { beforeSync() = {}; }
+
     void restore()
     {
         pane.pressRestoreButton();
         scheduler.runPending();
+    }
+    /// What happens when the disk is waited for, in place of `path`.
+    static void atSyncOf(const QString &path, const std::function<void()> &interlude)
+    {
+        beforeSync() = [path, interlude] {
+            if (syncedPaths().last() == path) {
+                interlude();
+            }
+        };
     }
     void setLiveTime(const QDateTime &time)
     {
@@ -88,6 +100,94 @@ TEST_F(PreviousDatabase, CannotBeRestoredDuringARefresh)
     EXPECT_EQ(database.count(), 15);
     pane.pressButton();
     EXPECT_TRUE(pane.state().canRestore) << "cancelled";
+}
+
+TEST_F(PreviousDatabase, IsNotOfferedWhenAnEarlierRefreshEndsDuringTheNext)
+{
+    refresh(registryOf(15));
+    http.forget(registry);
+    pane.pressButton();
+    pane.resetDownloadButton();
+    EXPECT_FALSE(pane.state().canRestore);
+    EXPECT_TRUE(pane.state().isUpdating);
+    download.cancelDownload();
+    EXPECT_TRUE(pane.state().canRestore);
+    EXPECT_FALSE(pane.state().isUpdating);
+}
+
+TEST_F(PreviousDatabase, IsNotDisturbedWhileItComesBack)
+{
+    refresh(registryOf(15));
+    const auto requests = http.requests().size();
+    pane.pressRestoreButton();
+    for (const bool anEarlierRefreshEnds : {false, true}) {
+        if (anEarlierRefreshEnds) {
+            pane.resetDownloadButton();
+        }
+        EXPECT_EQ(pane.state().action, VendorPaneModel::Action::None);
+        EXPECT_FALSE(pane.state().canRestore);
+        pane.pressButton();
+        pane.pressRestoreButton();
+    }
+    scheduler.runPending();
+    EXPECT_EQ(http.requests().size(), requests);
+    EXPECT_EQ(database.count(), 10) << "once";
+    EXPECT_TRUE(pane.state().canRestore);
+    expectIdle();
+    writeFile(files.previousDatabase(), "scribble");
+    const LogCapture log;
+    restore();
+    expectIdle();
+}
+
+TEST_F(PreviousDatabase, KeepsItsCountWhenNobodyCanReadItAsItComesBack)
+{
+    refresh(registryOf(15));
+    const QString live = files.liveDatabase();
+    atSyncOf(QFileInfo(files.previousDatabase()).path(), [&] {
+        beforeSync() = {};
+        ASSERT_TRUE(QFile::rename(live, live + u".away"_s) && QDir().mkdir(live));
+    });
+    restore();
+    ASSERT_TRUE(QFileInfo(live).isDir());
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 10);
+    EXPECT_EQ(pane.state().vendorCount, "10 Vendor Identifiers"_L1);
+    ASSERT_TRUE(QDir().rmdir(live) && QFile::rename(live + u".away"_s, live));
+    count.updateVendorCount();
+    EXPECT_FALSE(settings.getString(keys::vendorIDUpdatedDate).contains(u"added"_s));
+}
+
+TEST_F(PreviousDatabase, HasComeBackAlsoWhenWhatItReplacedCannotBeNamed)
+{
+    const LogCapture log;
+    refresh(registryOf(15));
+    atSyncOf(files.liveDatabase(), [this] { QFile::remove(files.previousDatabase() + u".new"_s); });
+    takeLabels();
+    restore();
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_FALSE(takeLabels().contains(u"Restoring failed..."_s));
+    EXPECT_EQ(LogCapture::taken().size(), 1);
+    EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 10);
+    expectIdle();
+}
+
+TEST_F(PreviousDatabase, ComesBackToTheDiskWithItsTimeWhereThereIsNone)
+{
+    const QDateTime before = QDateTime::fromSecsSinceEpoch(1'700'000'000);
+    setLiveTime(before);
+    refresh(registryOf(15));
+    ASSERT_TRUE(QFile::remove(files.liveDatabase()));
+    syncedPaths().clear();
+    bool isNamed = true;
+    beforeSync() = [&] { isNamed = QFile::exists(files.liveDatabase()) && isNamed; };
+    restore();
+    beforeSync() = {};
+    EXPECT_EQ(database.count(), 10);
+    EXPECT_EQ(QFileInfo(files.liveDatabase()).lastModified(), before);
+    EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate),
+        mediumDateShortTime(before.toLocalTime(), QLocale()));
+    EXPECT_EQ(syncedPaths(), QStringList({files.liveDatabase() + u".new"_s, files.folder}));
+    EXPECT_FALSE(isNamed) << "it has no name before it is whole";
 }
 
 TEST_F(PreviousDatabase, IsOfferedAfterARestart)

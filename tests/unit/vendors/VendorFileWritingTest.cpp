@@ -154,6 +154,23 @@ TEST_F(VendorFileWritingTest, DoesNotKeepWhatIsOfNoUseInPlaceOfWhatIs)
     EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 7) << "no database";
 }
 
+TEST_F(VendorFileWritingTest, DoesNotKeepATornDatabaseInPlaceOfAWholeOne)
+{
+    const LogCapture log;
+    makeLive(registryOf(2000));
+    const QByteArray whole = readFile(database.path());
+    const qsizetype half = whole.size() / 2;
+    ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+    for (const QByteArray &rest : {QByteArray(), QByteArray(whole.size() - half, '\0'),
+             QByteArray(whole.size() - half, 'x')}) {
+        writeFile(database.path(), whole.left(half) + rest);
+        ASSERT_TRUE(rest.isEmpty() || database.lookup(u"000000"_s) || database.count() == 0);
+        ASSERT_EQ(
+            database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+        EXPECT_TRUE(readFile(files.previousDatabase()) == whole);
+    }
+}
+
 TEST_F(VendorFileWritingTest, WritesNothingWhenWhatIsThereCannotBeKept)
 {
     const LogCapture log;

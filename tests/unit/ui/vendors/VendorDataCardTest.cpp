@@ -91,10 +91,18 @@ TEST_F(VendorDataCardTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
     scheduler.runPending();
     ASSERT_TRUE(restore->isEnabled());
     EXPECT_EQ(restore->toolTip(), u"Bring back the vendors from before the last update"_s);
+    auto *button = part<QPushButton>("downloadButton");
+    EXPECT_TRUE(button->isEnabled());
+    EXPECT_EQ(button->toolTip(), QString());
     restore->click();
     EXPECT_FALSE(restore->isEnabled());
+    EXPECT_EQ(
+        restore->toolTip(), u"The vendors from before the last update are being brought back"_s);
+    EXPECT_FALSE(button->isEnabled());
+    EXPECT_EQ(button->toolTip(), u"Not while the vendors from before are being brought back"_s);
     scheduler.runPending();
     EXPECT_TRUE(restore->isEnabled());
+    EXPECT_TRUE(button->isEnabled());
     EXPECT_EQ(part<QLabel>("vendorCount")->text(), u"3 Vendor Identifiers"_s);
 }
 
