@@ -65,6 +65,9 @@ void EventWiring::connectHelper()
         f.devices.table.updateNetWorkInterfaces();
         f.mainWindow.renewHexFormatter();
         f.mainWindow.populateSelectionButton();
+        if (installed) {
+            f.rules.execution.helperWasFound();
+        }
     });
     on(f.helper, &XPCMethods::helperInstalledFromMainWindow, [&f] {
         f.mainWindow.hideReadMe();

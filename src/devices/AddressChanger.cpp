@@ -147,7 +147,8 @@ void AddressChanger::requestChange(
     if (record.current == address) {
         tellNotChanged(request.interface, "The new Address and the old Address are identical");
         if (reply) {
-            reply({.isInPlace = true, .address = address, .isReported = true});
+            reply(
+                {.isInPlace = true, .address = address, .requested = address, .isReported = true});
         }
         return;
     }
@@ -162,23 +163,25 @@ void AddressChanger::askHelper(const Request &request)
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
                 const ChangeOutcome outcome = finish(request, success);
+                Q_EMIT changeEnded(request.device, outcome);
                 if (request.reply) {
                     request.reply(outcome);
                 }
-                Q_EMIT changeEnded(request.device, outcome);
             }
         });
 }
 
 ChangeOutcome AddressChanger::finish(const Request &request, bool success)
 {
-    const InterfaceInfo now = m_deps.devices.getInfoForDevice(request.device);
+    const InterfaceInfo now = readBack(request.device);
     // An answer can be lost on its way: what counts is the address that the device has.
-    const ChangeOutcome outcome{.isInPlace = isSameAddress(now.macAddress, request.address),
+    const ChangeOutcome outcome{
+        .isInPlace = now.readFailed ? success : isSameAddress(now.macAddress, request.address),
         .address = now.macAddress,
+        .requested = request.address,
         .isReported = request.reply != nullptr};
     if (now.macAddress.isEmpty()) {
-        // The interface has gone: there is nothing true to say about its address.
+        // The interface has gone, or cannot be read: there is nothing true to say of its address.
         return outcome;
     }
     m_deps.devices.update(request.device, [&now](DeviceRecord &record) {
@@ -186,12 +189,22 @@ ChangeOutcome AddressChanger::finish(const Request &request, bool success)
         record.ipAddress = now.ipAddress;
         record.status = now.status;
     });
+    if (outcome.isInPlace) {
+        m_deps.devices.noteOwnAddress(request.device, now.macAddress);
+    }
     if (request.isCurrent) {
         m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
     tellOutcome(request, success, now.macAddress);
     m_deps.currentInterface.updateHexValues();
     return outcome;
+}
+
+// What fails once is most often a table that changed while it was read.
+InterfaceInfo AddressChanger::readBack(const QString &device) const
+{
+    const InterfaceInfo info = m_deps.devices.getInfoForDevice(device);
+    return info.readFailed ? m_deps.devices.getInfoForDevice(device) : info;
 }
 
 void AddressChanger::tellOutcome(const Request &request, bool success, const QString &readBack)

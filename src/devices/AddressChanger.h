@@ -21,14 +21,17 @@ class Notifier;
 class RandomAddress;
 class SettingsStore;
 class XPCMethods;
+struct InterfaceInfo;
 
 /// What became of a change.
 struct ChangeOutcome
 {
-    /// The device has the address that was asked for, whatever the helper said.
+    /// The device has the address that was asked for, whatever the helper said. Where that cannot
+    /// be read: the helper said so.
     bool isInPlace = false;
     /// The one that it has now, "" when that cannot be read.
     QString address = {};
+    QString requested = {};
     /// A reply of their own tells whoever asked.
     bool isReported = false;
 };
@@ -101,8 +104,8 @@ Q_SIGNALS:
     /// The helper is about to be asked to change `device`; on the main thread. Every one is
     /// followed by changeEnded().
     void changeBegan(const QString &device);
-    /// The helper has answered and the table says what is true now, however the change went; on the
-    /// thread of the helper's reply.
+    /// The helper has answered and the table says what is true now, however the change went; before
+    /// the reply to whoever asked, on the thread of the helper's reply.
     void changeEnded(const QString &device, const ChangeOutcome &outcome);
 
 private:
@@ -123,6 +126,7 @@ private:
     void requestChange(const QString &requestedDevice, const QString &address, const Reply &reply);
     void askHelper(const Request &request);
     ChangeOutcome finish(const Request &request, bool success);
+    InterfaceInfo readBack(const QString &device) const;
     void tellOutcome(const Request &request, bool success, const QString &readBack);
     void tellNotChanged(const QString &interface, const char *reason);
 

@@ -52,9 +52,10 @@ DeviceTable::DeviceTable(
 {
 }
 
-void DeviceTable::updateNetWorkInterfaces()
+bool DeviceTable::updateNetWorkInterfaces()
 {
-    const QList<PortRecord> ports = readPorts().value_or(QList<PortRecord>());
+    const auto read = readPorts();
+    const QList<PortRecord> ports = read.value_or(QList<PortRecord>());
     auto table = stored();
     bool isRefreshed = false;
     for (const PortRecord &port : ports) {
@@ -76,6 +77,7 @@ void DeviceTable::updateNetWorkInterfaces()
         m_settings.set(keys::deviceDict, table);
     }
     m_settings.synchronize();
+    return read.has_value();
 }
 
 std::optional<QList<PortRecord>> DeviceTable::readPorts()
@@ -135,6 +137,15 @@ void DeviceTable::noteUpdate(
     const auto known = m_known.find(device);
     if (known != m_known.end() && before.current != changed.current) {
         known->current = changed.current;
+    }
+}
+
+void DeviceTable::noteOwnAddress(const QString &device, const QString &address)
+{
+    const std::lock_guard lock(m_newsMutex);
+    const auto known = m_known.find(device);
+    if (known != m_known.end()) {
+        known->current = address;
     }
 }
 

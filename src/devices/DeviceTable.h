@@ -29,8 +29,8 @@ public:
     DeviceTable(SettingsStore &settings, NetworkHost &host, const InterfaceAddresses &addresses);
 
     /// Reads the ports of the host into the table, which is written once, and flushes. A reading
-    /// that fails leaves everything as it was.
-    void updateNetWorkInterfaces();
+    /// that fails leaves everything as it was, and returns false.
+    bool updateNetWorkInterfaces();
     /// Changes the record of `device`, a new one when the table has none, flushes, and returns it.
     DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change);
     /// Whether the last reading that succeeded found the device, with an address: the table keeps
@@ -41,6 +41,8 @@ public:
     /// called for them, whoever had the table refreshed meanwhile. An address that the program gave
     /// an interface itself is no news, nor is a device that the table did not hold before.
     QStringList devicesWithNews() const;
+    /// The address is one that the program gave `device`, and no news, whoever saw it first.
+    void noteOwnAddress(const QString &device, const QString &address);
     /// What the table holds of `device` is known from now on to whoever follows the news.
     void forgetNews(const QString &device);
     void forgetAllNews();

@@ -46,6 +46,11 @@ void ChangeLimit::failed(const QString &device, Moment now)
     note(m_failed[device], now);
 }
 
+void ChangeLimit::forgetFailures(const QString &device)
+{
+    m_failed.remove(device);
+}
+
 std::chrono::milliseconds ChangeLimit::wait(const QString &device, Moment now) const
 {
     return std::max(remaining(m_asked.value(device), mostChanges, now),

@@ -20,6 +20,8 @@ public:
 
     void asked(const QString &device, Moment now);
     void failed(const QString &device, Moment now);
+    /// What made changes of `device` fail has gone.
+    void forgetFailures(const QString &device);
     /// How long the next change has to wait; 0 when it may be made now.
     std::chrono::milliseconds wait(const QString &device, Moment now) const;
 

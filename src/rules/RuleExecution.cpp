@@ -108,13 +108,15 @@ void RuleExecution::applyLoginRule(const QString &device, const RuleOutcome &out
 void RuleExecution::followNetwork(const QString &device, const RuleOutcome &outcome)
 {
     const QDateTime now = m_deps.scheduler.now();
+    m_visits.sawAddress(device, outcome.address);
     if (m_visits.isCarriedOut(device, actOf(outcome))) {
         if (outcome.linkIsUp) {
             m_visits.sawOnNetwork(device, now);
         }
     } else if (!outcome.isWifi) {
         m_visits.sawOffNetwork(device, now);
-    } else if (!outcome.ssid.isEmpty() && outcome.ssid != m_visits.ssid(device)) {
+    } else if (outcome.linkIsUp && !outcome.ssid.isEmpty() &&
+               outcome.ssid != m_visits.ssid(device)) {
         m_visits.sawElsewhere(device);
     } else if (!outcome.ssid.isEmpty() || !outcome.linkIsUp) {
         m_visits.sawOffNetwork(device, now, sameNetworkTime);
@@ -130,6 +132,10 @@ void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &
     }
     switch (m_visits.standing(device, actOf(outcome), outcome.address)) {
     case Visits::Standing::UnderWay:
+        // Whether it was only news of the change itself is known when that has its answer.
+        m_unjudged.insert(device);
+        break;
+    case Visits::Standing::OwnNews:
     case Visits::Standing::Done:
         break;
     case Visits::Standing::GivenUp:
@@ -139,7 +145,8 @@ void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &
     case Visits::Standing::New:
     case Visits::Standing::Failed:
     case Visits::Standing::Undone: {
-        const auto wait = m_limit.wait(device, m_deps.scheduler.monotonic());
+        const auto now = m_deps.scheduler.monotonic();
+        const auto wait = std::max(m_limit.wait(device, now), m_visits.pause(device, now));
         if (wait.count() > 0) {
             putOff(device, wait);
         } else {
@@ -157,6 +164,7 @@ void RuleExecution::applyNetworkRule(const QString &device, const RuleOutcome &o
         perform(device, actions, {});
         return;
     }
+    m_unjudged.remove(device);
     m_limit.asked(device, m_deps.scheduler.monotonic());
     const quint64 number = m_visits.carryOut(device, actOf(outcome));
     perform(device, actions,
@@ -190,12 +198,21 @@ void RuleExecution::changeAnswered(
     const QString &device, quint64 number, const ChangeOutcome &outcome)
 {
     if (outcome.isInPlace) {
-        m_visits.succeeded(device, number, outcome.address);
-        return;
+        m_visits.succeeded(device, number, outcome.requested);
+    } else {
+        const auto now = m_deps.scheduler.monotonic();
+        m_limit.failed(device, now);
+        // The cable was moved while somebody was asked: where it is now nobody was.
+        if (m_visits.failed(device, number, outcome.requested, now)) {
+            m_unjudged.insert(device);
+        }
     }
-    m_limit.failed(device, m_deps.scheduler.monotonic());
-    // The cable was moved while somebody was asked: where it is now nobody was.
-    if (m_visits.failed(device, number)) {
+    makeUpForUnjudged(device);
+}
+
+void RuleExecution::makeUpForUnjudged(const QString &device)
+{
+    if (m_unjudged.remove(device)) {
         m_withheld.insert(device);
         Q_EMIT obstacleEnded();
     }
@@ -203,15 +220,28 @@ void RuleExecution::changeAnswered(
 
 void RuleExecution::putOff(const QString &device, std::chrono::milliseconds time)
 {
-    if (m_putOff.contains(device)) {
-        return;
+    // The latest reckoning counts: a pause of another visit may be much longer.
+    if (const auto before = m_putOff.constFind(device); before != m_putOff.constEnd()) {
+        m_deps.scheduler.cancel(*before);
     }
-    m_putOff.insert(device);
-    m_deps.scheduler.onMainAfter(time, this, [this, device] {
+    m_putOff[device] = m_deps.scheduler.onMainAfter(time, this, [this, device] {
         m_putOff.remove(device);
         m_withheld.insert(device);
         Q_EMIT obstacleEnded();
     });
+}
+
+void RuleExecution::helperWasFound()
+{
+    const QStringList failed = m_visits.forgetFailures();
+    if (failed.isEmpty()) {
+        return;
+    }
+    for (const QString &device : failed) {
+        m_limit.forgetFailures(device);
+        m_withheld.insert(device);
+    }
+    Q_EMIT obstacleEnded();
 }
 
 QStringList RuleExecution::withheldDevices() const
@@ -279,9 +309,14 @@ void RuleExecution::addressChangeBegan(const QString &device)
 void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcome &outcome)
 {
     m_visits.changeAnswered(device);
-    // By hand, or by a countdown: a rule never undoes that on the same visit.
-    if (outcome.isInPlace && !outcome.isReported) {
-        m_visits.leaveAsItIs(device);
+    if (!outcome.isReported) {
+        // By hand, or by a countdown: a rule never undoes that on the same visit.
+        if (outcome.isInPlace) {
+            m_visits.leaveAsItIs(device);
+        } else {
+            m_visits.otherChangeFailed(device);
+        }
+        makeUpForUnjudged(device);
     }
     m_deps.scheduler.onMainAfter(settlingTime, this, [this, device] {
         m_visits.changeSettled(

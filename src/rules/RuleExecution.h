@@ -7,6 +7,7 @@
 #include "rules/RuleOutcome.h"
 #include "rules/Visits.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -50,6 +51,8 @@ public:
     /// The devices whose rule was not carried out though there was news of them. To be evaluated
     /// once the internet can be reached.
     QStringList withheldDevices() const;
+    /// The helper was found installed: rules that failed are carried out now.
+    void helperWasFound();
 
 Q_SIGNALS:
     /// What held a rule back, other than the internet, has ended: its device is withheld.
@@ -64,6 +67,7 @@ private:
         const AddressChanger::Reply &reply);
     void changeAnswered(const QString &device, quint64 number, const ChangeOutcome &outcome);
     void putOff(const QString &device, std::chrono::milliseconds time);
+    void makeUpForUnjudged(const QString &device);
     void followDevice(const QString &device);
     void noteSuspension();
 
@@ -71,7 +75,10 @@ private:
     Visits m_visits;
     ChangeLimit m_limit;
     QSet<QString> m_withheld;
-    QSet<QString> m_putOff; ///< until a moment that is coming
+    /// There was news of these while a change had no answer.
+    QSet<QString> m_unjudged;
+    /// What is to come at the end of a pause.
+    QHash<QString, quint64> m_putOff;
     /// How far the wall clock was ahead of the one that stands still in suspension.
     std::chrono::milliseconds m_clockAhead;
 };

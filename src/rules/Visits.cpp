@@ -4,6 +4,11 @@
 
 #include "devices/AddressText.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
 namespace quillon {
 
 namespace {
@@ -12,8 +17,12 @@ using namespace std::chrono_literals;
 
 /// How long a link may take to come back after a change.
 constexpr std::chrono::milliseconds returnTime = 1min;
-/// Three prompts that were dismissed say enough.
-constexpr int mostFailures = 3;
+/// From a failure to the next try, by the number of failures. Most often somebody was asked and
+/// said no: he is asked again, as what was in the way may have gone, but ever more rarely.
+constexpr std::array<std::chrono::milliseconds, 5> pauses = {0s, 1min, 5min, 15min, 1h};
+/// On another network nobody has said no yet. A driver that drops its link at each try looks the
+/// same, so this counts only so often.
+constexpr int mostTriesAtOnce = 2;
 /// A program that has put its own address back three times does so a fourth time.
 constexpr int mostRepeats = 2;
 
@@ -37,11 +46,8 @@ Visits::Standing Visits::standing(
         return Standing::UnderWay;
     }
     if (carried.isFailed) {
-        if (carried.failures >= mostFailures) {
-            return Standing::Done;
-        }
         const bool isOwnNews = visit.changesUnderWay > 0 && !carried.wentOff;
-        return isOwnNews ? Standing::UnderWay : Standing::Failed;
+        return isOwnNews ? Standing::OwnNews : Standing::Failed;
     }
     const bool isKept =
         !carried.address || address.isEmpty() || isSameAddress(*carried.address, address);
@@ -61,6 +67,7 @@ quint64 Visits::carryOut(const QString &device, const Act &act)
         next.repeats = visit.carried->repeats + (isRepeat ? 1 : 0);
     }
     visit.carried = next;
+    visit.isElsewhere = false;
     visit.absence.reset();
     return next.number;
 }
@@ -79,10 +86,12 @@ void Visits::succeeded(const QString &device, quint64 number, const QString &add
     if (Carried *const done = carried(device, number)) {
         done->isAsked = false;
         done->address = address;
+        done->failures = 0;
     }
 }
 
-bool Visits::failed(const QString &device, quint64 number)
+bool Visits::failed(
+    const QString &device, quint64 number, const QString &address, std::chrono::milliseconds now)
 {
     Carried *const tried = carried(device, number);
     if (!tried) {
@@ -90,8 +99,50 @@ bool Visits::failed(const QString &device, quint64 number)
     }
     tried->isAsked = false;
     tried->isFailed = true;
+    tried->failedAt = now;
+    tried->missing = address;
     ++tried->failures;
-    return tried->wentOff && tried->failures < mostFailures;
+    return tried->wentOff;
+}
+
+std::chrono::milliseconds Visits::pause(const QString &device, std::chrono::milliseconds now) const
+{
+    const auto visit = m_visits.constFind(device);
+    if (visit == m_visits.constEnd() || !visit->carried || !visit->carried->isFailed) {
+        return 0ms;
+    }
+    const Carried &tried = *visit->carried;
+    if (tried.wentOff && tried.failures <= mostTriesAtOnce) {
+        return 0ms;
+    }
+    const auto place = std::min(static_cast<std::size_t>(tried.failures), pauses.size()) - 1;
+    return std::max<std::chrono::milliseconds>(tried.failedAt + pauses[place] - now, 0ms);
+}
+
+QStringList Visits::forgetFailures()
+{
+    QStringList devices;
+    for (auto visit = m_visits.begin(); visit != m_visits.end(); ++visit) {
+        if (visit->carried && visit->carried->isFailed) {
+            visit->carried.reset();
+            devices.append(visit.key());
+        }
+    }
+    return devices;
+}
+
+void Visits::sawAddress(const QString &device, const QString &address)
+{
+    const auto visit = m_visits.find(device);
+    if (visit == m_visits.end() || !visit->carried || !visit->carried->isFailed) {
+        return;
+    }
+    Carried &tried = *visit->carried;
+    if (!address.isEmpty() && isSameAddress(tried.missing, address)) {
+        tried.isFailed = false;
+        tried.failures = 0;
+        tried.address = address;
+    }
 }
 
 void Visits::leaveAsItIs(const QString &device)
@@ -143,6 +194,11 @@ void Visits::changeBegan(const QString &device)
     Visit &visit = m_visits[device];
     ++visit.unanswered;
     ++visit.changesUnderWay;
+    const bool isOver = visit.carried && !visit.carried->isAsked && !visit.carried->isFailed;
+    if (isOver) {
+        // What the link did for the change before says nothing about this one.
+        visit.carried->wentOff = false;
+    }
 }
 
 void Visits::changeAnswered(const QString &device)
@@ -151,11 +207,23 @@ void Visits::changeAnswered(const QString &device)
     unanswered = qMax(unanswered - 1, 0);
 }
 
+void Visits::otherChangeFailed(const QString &device)
+{
+    const auto visit = m_visits.find(device);
+    if (visit != m_visits.end() && visit->carried && !visit->carried->isAsked &&
+        visit->carried->wentOff) {
+        visit->carried.reset();
+    }
+}
+
 void Visits::changeSettled(const QString &device, bool linkIsUp, const QDateTime &now)
 {
     Visit &visit = m_visits[device];
     visit.changesUnderWay = qMax(visit.changesUnderWay - 1, 0);
     visit.absence = linkIsUp ? std::nullopt : std::optional(Absence{now, returnTime});
+    if (visit.changesUnderWay == 0 && std::exchange(visit.isElsewhere, false)) {
+        visit.carried.reset();
+    }
 }
 
 void Visits::sawOnNetwork(const QString &device, const QDateTime &now)
@@ -164,6 +232,7 @@ void Visits::sawOnNetwork(const QString &device, const QDateTime &now)
     const auto visit = m_visits.find(device);
     if (visit != m_visits.end()) {
         visit->absence.reset();
+        visit->isElsewhere = false;
     }
 }
 
@@ -204,6 +273,7 @@ void Visits::sawElsewhere(const QString &device)
     }
     if (visit->changesUnderWay > 0) {
         visit->carried->wentOff = true;
+        visit->isElsewhere = true;
     } else {
         visit->carried.reset();
     }
@@ -214,6 +284,7 @@ void Visits::sawGone(const QString &device)
     const auto visit = m_visits.find(device);
     if (visit != m_visits.end()) {
         visit->carried.reset();
+        visit->isElsewhere = false;
         visit->absence.reset();
     }
 }

@@ -34,11 +34,12 @@ public:
     enum class Standing
     {
         New,      ///< not carried out on this visit
-        UnderWay, ///< asked for and not settled yet, or another change is: the news may be its own
-        Done,     ///< as far as it ever will be on this visit
-        Failed,   ///< may be tried again
-        Undone,   ///< another program set another address; may be carried out again
-        GivenUp,  ///< the same, once too often
+        UnderWay, ///< asked for and not answered yet, or another change is: judged afterwards
+        OwnNews,  ///< failed and not settled yet: the news may be its own
+        Done,
+        Failed,  ///< may be tried again after pause()
+        Undone,  ///< another program set another address; may be carried out again
+        GivenUp, ///< the same, once too often
     };
     /// `address` is the one that the device has now, "" when that is not known.
     Standing standing(const QString &device, const Act &act, const QString &address) const;
@@ -47,9 +48,18 @@ public:
     quint64 carryOut(const QString &device, const Act &act);
     /// The device has got the address, or already had it.
     void succeeded(const QString &device, quint64 number, const QString &address);
-    /// It has not. True when it was seen off its network since it was asked for: the network that
-    /// it is on now has had no change.
-    bool failed(const QString &device, quint64 number);
+    /// It has not got `address`, as far as anybody knows. True when it was seen off its network
+    /// since it was asked for: the network that it is on now has had no change. `now` is of a clock
+    /// that nobody sets.
+    bool failed(const QString &device, quint64 number, const QString &address,
+        std::chrono::milliseconds now);
+    /// How long what has failed waits until it is tried again: the longer, the more often it did on
+    /// this visit.
+    std::chrono::milliseconds pause(const QString &device, std::chrono::milliseconds now) const;
+    /// What made acts fail may have gone: those that failed are New. Returns their devices.
+    QStringList forgetFailures();
+    /// The device has `address`: where an act that failed was to set this one, it succeeded late.
+    void sawAddress(const QString &device, const QString &address);
     /// Nothing more is done about it on this visit: somebody chose another address, or was told
     /// that it cannot be kept.
     void leaveAsItIs(const QString &device);
@@ -67,6 +77,9 @@ public:
     /// may go and the network be left without a meaning.
     void changeBegan(const QString &device);
     void changeAnswered(const QString &device);
+    /// One change that was none of a rule's has failed. Where the device was off its network
+    /// meanwhile, what was carried out before was on another visit.
+    void otherChangeFailed(const QString &device);
     /// One change has settled. When the link is still down it is expected back within a minute;
     /// after that, or when the clock was set back, it is down by itself.
     void changeSettled(const QString &device, bool linkIsUp, const QDateTime &now);
@@ -80,7 +93,8 @@ public:
     /// back within `grace`.
     void sawOffNetwork(const QString &device, const QDateTime &now,
         std::chrono::milliseconds grace = std::chrono::milliseconds(0));
-    /// The device was seen on another network: its visit has ended, unless a change is under way.
+    /// The device was seen on another network: its visit has ended. While a change is under way
+    /// that is judged when it has settled: the device may be back by then.
     void sawElsewhere(const QString &device);
     /// The device was taken away, or may have been elsewhere unseen.
     void sawGone(const QString &device);
@@ -96,7 +110,9 @@ private:
         bool wentOff = false;           ///< off the network since it was asked for
         std::optional<QString> address; ///< what it set, while it is looked after
         int failures = 0;
-        int repeats = 0; ///< because another program had undone it
+        std::chrono::milliseconds failedAt{0};
+        QString missing = {}; ///< the address that it failed to set
+        int repeats = 0;      ///< because another program had undone it
     };
     struct Absence
     {
@@ -109,7 +125,8 @@ private:
     {
         std::optional<Carried> carried;
         int unanswered = 0;
-        int changesUnderWay = 0; ///< not settled
+        int changesUnderWay = 0;  ///< not settled
+        bool isElsewhere = false; ///< seen there while a change was under way, and not back yet
         std::optional<Absence> absence;
     };
 

@@ -414,7 +414,7 @@ TEST_F(AddressChangerReply, WithoutHelperOrInterfaceSaysThatItIsNot)
     EXPECT_EQ(outcome.address, QString());
 }
 
-TEST_F(AddressChangerReply, ComesBeforeEverybodyElseHearsWhoKnowsOfIt)
+TEST_F(AddressChangerReply, ComesAfterEverybodyElseHeardWhoKnowsOfIt)
 {
     QStringList course;
     QObject::connect(changer.get(), &AddressChanger::changeEnded,
@@ -425,7 +425,21 @@ TEST_F(AddressChangerReply, ComesBeforeEverybodyElseHearsWhoKnowsOfIt)
         en1, wanted, [&](const ChangeOutcome &) { course << u"reply"_s; });
     scheduler.runPending();
     change(en1, u"02:AA:BB:CC:DD:02"_s);
-    EXPECT_EQ(course, (QStringList{u"reply"_s, u"ended, reported"_s, u"ended"_s}));
+    EXPECT_EQ(course, (QStringList{u"ended, reported"_s, u"reply"_s, u"ended"_s}));
+}
+
+TEST_F(AddressChangerReply, OfAnAddressThatCannotBeReadBackSaysWhatTheHelperSaid)
+{
+    host.at(en1).broken = true;
+    host.clearJournal();
+    const ChangeOutcome outcome = outcomes(wanted).first();
+    EXPECT_TRUE(outcome.isInPlace);
+    EXPECT_EQ(outcome.address, QString());
+    EXPECT_EQ(outcome.requested, wanted);
+    EXPECT_EQ(host.journal().count(u"info "_s + en1), 2) << "read once more";
+    EXPECT_TRUE(notifier.messages().isEmpty()) << "nothing is known to be true";
+    helper.mood = FakeHelper::Mood::Refusing;
+    EXPECT_FALSE(outcomes(wanted).first().isInPlace);
 }
 
 TEST_F(AddressChangerReply, OfARandomAddressComesToo)

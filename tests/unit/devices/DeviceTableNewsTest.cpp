@@ -121,6 +121,29 @@ TEST_F(DeviceTableNews, IsNotTheAddressThatTheProgramGaveAlsoWhereARefreshSawItF
     EXPECT_EQ(news(), QStringList());
 }
 
+TEST_F(DeviceTableNews, IsNotTheAddressThatTheProgramGaveAlsoWhereOnlyARefreshSawItChange)
+{
+    const QString own = u"02:00:00:00:00:01"_s;
+    host.giveAddress(en0, own);
+    refresh();
+    ASSERT_EQ(news(), QStringList(en0));
+    readBack(en0);
+    table.noteOwnAddress(en0, own);
+    EXPECT_EQ(news(), QStringList());
+    host.at(en0).active = false;
+    refresh();
+    EXPECT_EQ(news(), QStringList(en0));
+    table.noteOwnAddress(u"en9"_s, own);
+    EXPECT_EQ(news(), QStringList(en0));
+}
+
+TEST_F(DeviceTableNews, TellsWhetherTheHostCouldBeRead)
+{
+    EXPECT_TRUE(table.updateNetWorkInterfaces());
+    host.setUnreadable(true);
+    EXPECT_FALSE(table.updateNetWorkInterfaces());
+}
+
 TEST_F(DeviceTableNews, IsTheLeaseThatWasReadBackWithAnAddress)
 {
     host.giveAddress(en0, u"02:00:00:00:00:01"_s);

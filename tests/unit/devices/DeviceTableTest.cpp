@@ -353,7 +353,7 @@ TEST_F(DeviceTableQueries, FromManyThreadsReachTheHostOneAtATime)
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&shared, i] {
             for (int n = 0; n < 2000; ++n) {
-                i % 2 == 0 ? shared.updateNetWorkInterfaces()
+                i % 2 == 0 ? static_cast<void>(shared.updateNetWorkInterfaces())
                            : static_cast<void>(shared.getInfoForDevice(u"en0"_s));
             }
         });

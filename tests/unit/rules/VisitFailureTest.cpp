@@ -99,17 +99,119 @@ TEST_F(VisitFailure, ToTellThatItSucceededIsDone)
     EXPECT_EQ(asked(), 1) << "the answer was lost, not the address";
 }
 
-TEST_F(VisitFailure, IsTriedTwiceMoreOnOneVisit)
+TEST_F(VisitFailure, IsTriedEverMoreRarelyOnOneVisit)
 {
     helper.mood = FakeHelper::Mood::Refusing;
-    for (int time = 0; time < 20; ++time) {
-        news(en0);
-        pass(2min);
-    }
-    EXPECT_EQ(changes(en0), 3);
+    const auto newsFor = [this](std::chrono::minutes time) {
+        for (std::chrono::minutes passed{0}; passed < time; passed += 2min) {
+            news(en0);
+            pass(2min);
+        }
+    };
+    newsFor(20min);
+    EXPECT_EQ(changes(en0), 4) << "after 2, 4 and 9 minutes";
+    newsFor(40min);
+    EXPECT_EQ(changes(en0), 5) << "after 24";
+    newsFor(60min);
+    EXPECT_EQ(changes(en0), 6) << "an hour later";
     linkGoes(en0);
     linkComes(en0);
-    EXPECT_EQ(changes(en0), 4) << "another visit";
+    EXPECT_EQ(changes(en0), 7) << "another visit";
+}
+
+TEST_F(VisitFailure, IsNotTriedAgainWithoutNews)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    for (int time = 0; time < 4; ++time) {
+        news(en0);
+        pass(20min);
+    }
+    const qsizetype tries = changes(en0);
+    pass(3h);
+    EXPECT_EQ(changes(en0), tries);
+}
+
+TEST_F(VisitFailure, IsTriedAgainOnceWhenTheHelperIsFound)
+{
+    helper.installed = false;
+    for (int time = 0; time < 3; ++time) {
+        news(en0);
+        pass(6s);
+    }
+    helper.installed = true;
+    ASSERT_EQ(host.addressOf(en0), factory);
+    execution.helperWasFound();
+    pass(1s);
+    EXPECT_NE(host.addressOf(en0), factory);
+    execution.helperWasFound();
+    pass(2h);
+    EXPECT_EQ(changes(en0), 1);
+}
+
+TEST_F(VisitFailure, IsNotTriedAgainForTheHelperWhileTheInternetIsAway)
+{
+    helper.installed = false;
+    news(en0);
+    pass(10s);
+    helper.installed = true;
+    reachability.reachable = false;
+    execution.helperWasFound();
+    pass(1s);
+    EXPECT_EQ(changes(en0), 0);
+    reachability.reachable = true;
+    networkEvent();
+    EXPECT_EQ(changes(en0), 1);
+}
+
+TEST_F(VisitFailure, LeavesTheWithheldRuleOfAnotherVisitToItsOwnPause)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    for (int time = 0; time < 5; ++time) {
+        news(en0);
+        pass(20min);
+    }
+    news(en0); // put off for the greater part of an hour
+    for (int time = 0; time < 4; ++time) {
+        linkGoes(en0);
+        linkComes(en0);
+        pass(6s);
+    }
+    helper.mood = FakeHelper::Mood::Obliging;
+    pass(1min);
+    EXPECT_NE(host.addressOf(en0), factory) << "a minute is what a new visit waits";
+}
+
+TEST_F(VisitFailure, ThatWasAnsweredJustAfterTheLimitIsASuccess)
+{
+    ruleOf(en0).setAddress(fixedAddress);
+    helper.mood = FakeHelper::Mood::Hanging;
+    news(en0);
+    const QString late = changesOf(en0).value(0, fixedAddress);
+    helper.timeOut();
+    pass(10s);
+    helper.mood = FakeHelper::Mood::Obliging;
+    anotherProgramSets(en0, late); // the helper, after all
+    news(en0);
+    pass(10s);
+    EXPECT_EQ(asked(), 1);
+    anotherProgramSets(en0, factory);
+    EXPECT_EQ(asked(), 2) << "what was in place is looked after";
+}
+
+TEST_F(VisitFailure, ToReadTheAddressBackIsNoneWhereTheHelperSaysThatItIsSet)
+{
+    news(en0);
+    host.setUnreadable(true);
+    pass(1s);
+    host.setUnreadable(false);
+    const QString given = host.addressOf(en0);
+    ASSERT_NE(given, factory);
+    for (int time = 0; time < 3; ++time) {
+        pass(10s);
+        news(en0);
+    }
+    EXPECT_EQ(host.addressOf(en0), given);
+    EXPECT_EQ(changes(en0), 1);
 }
 
 TEST_F(VisitFailure, AsksNobodyMoreThanThreeTimesAMinute)

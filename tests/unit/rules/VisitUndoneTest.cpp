@@ -128,6 +128,20 @@ TEST_F(VisitUndone, IsSeenAlsoAfterAChangeOfTheUserThatFailed)
     EXPECT_EQ(changes(en0), 3);
 }
 
+TEST_F(VisitUndone, WhileTheUserIsAskedIsSeenWhenThePromptWasDismissed)
+{
+    helper.mood = FakeHelper::Mood::Hanging;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(1s);
+    anotherProgramSets(en0, factory);
+    helper.mood = FakeHelper::Mood::Obliging;
+    ASSERT_EQ(asked(), 2);
+    helper.timeOut();
+    pass(1s);
+    EXPECT_EQ(asked(), 3);
+    EXPECT_NE(host.addressOf(en0), factory);
+}
+
 TEST_F(VisitUndone, WhileTheInternetIsAwayWaitsForIt)
 {
     reachability.reachable = false;

@@ -7,6 +7,7 @@
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 namespace {
 
 const QString en0 = u"en0"_s;
@@ -165,8 +166,12 @@ protected:
         return rules.standing(en0, home, address);
     }
     /// Asked for, answered and settled.
-    void fail() { EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home))); }
+    void fail(std::chrono::milliseconds at = {})
+    {
+        EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home), own, at));
+    }
     void succeed() { rules.succeeded(en0, rules.carryOut(en0, home), u"02:00:00:00:00:01"_s); }
+    const QString own = u"02:00:00:00:00:01"_s;
     const QString foreign = u"02:00:00:00:00:99"_s;
 };
 
@@ -186,22 +191,80 @@ TEST_F(VisitsStanding, OfAFailureIsItsOwnNewsUntilItHasSettled)
     fail();
     EXPECT_EQ(standing(), Visits::Standing::UnderWay);
     rules.changeAnswered(en0);
-    EXPECT_EQ(standing(), Visits::Standing::UnderWay);
+    EXPECT_EQ(standing(), Visits::Standing::OwnNews);
     rules.changeSettled(en0, true, now);
     EXPECT_EQ(standing(), Visits::Standing::Failed);
 }
 
-TEST_F(VisitsStanding, OfTheThirdFailureIsTheLast)
+TEST_F(VisitsStanding, OfFailuresIsNeverDoneButPausesEverLonger)
 {
-    fail();
-    fail();
-    EXPECT_EQ(standing(), Visits::Standing::Failed);
-    fail();
-    EXPECT_EQ(standing(), Visits::Standing::Done);
+    EXPECT_EQ(rules.pause(en0, 0s), 0s);
+    for (const auto pause : {0min, 1min, 5min, 15min, 60min, 60min}) {
+        fail(10s);
+        EXPECT_EQ(standing(), Visits::Standing::Failed);
+        EXPECT_EQ(rules.pause(en0, 10s), pause);
+        EXPECT_EQ(rules.pause(en0, 10s + pause + 1s), 0s);
+    }
     rules.sawOffNetwork(en0, now);
     EXPECT_EQ(standing(), Visits::Standing::New);
     fail();
-    EXPECT_EQ(standing(), Visits::Standing::Failed);
+    EXPECT_EQ(rules.pause(en0, 0s), 0s);
+}
+
+TEST_F(VisitsStanding, OfFailuresThatWereOvercomeCountsThemNoMore)
+{
+    fail();
+    fail();
+    succeed();
+    fail();
+    EXPECT_EQ(rules.pause(en0, 0s), 0s);
+}
+
+TEST_F(VisitsStanding, OfFailuresWhoseCauseHasGoneIsNew)
+{
+    fail();
+    rules.succeeded(en1, rules.carryOut(en1, home), own);
+    EXPECT_EQ(rules.forgetFailures(), QStringList{en0});
+    EXPECT_EQ(standing(), Visits::Standing::New);
+    EXPECT_TRUE(rules.isCarriedOut(en1, home));
+    EXPECT_EQ(rules.forgetFailures(), QStringList());
+}
+
+TEST_F(VisitsStanding, OfAFailureThatWasNoneIsDone)
+{
+    fail();
+    rules.sawAddress(en0, QString());
+    rules.sawAddress(en0, foreign);
+    rules.sawAddress(en1, own);
+    EXPECT_EQ(standing(own), Visits::Standing::Failed);
+    rules.sawAddress(en0, u"2:0:0:0:0:1"_s);
+    EXPECT_EQ(standing(own), Visits::Standing::Done);
+    EXPECT_EQ(standing(foreign), Visits::Standing::Undone);
+}
+
+TEST_F(VisitsStanding, OfAnAddressThatIsNotToBeHadIsNotLateSuccess)
+{
+    rules.failed(en0, rules.carryOut(en0, home), QString(), 0s);
+    rules.sawAddress(en0, QString());
+    EXPECT_EQ(standing(QString()), Visits::Standing::Failed);
+}
+
+TEST_F(VisitsStanding, IsNewWhereTheDeviceWasMovedDuringAChangeOfTheUserThatFailed)
+{
+    rules.changeBegan(en0);
+    const quint64 number = rules.carryOut(en0, home);
+    rules.sawOffNetwork(en0, now);
+    rules.succeeded(en0, number, own);
+    rules.changeAnswered(en0);
+    rules.changeBegan(en0);
+    rules.changeAnswered(en0);
+    rules.otherChangeFailed(en0);
+    EXPECT_EQ(standing(), Visits::Standing::Done) << "what its own change did to the link";
+    rules.changeBegan(en0);
+    rules.sawOffNetwork(en0, now);
+    rules.changeAnswered(en0);
+    rules.otherChangeFailed(en0);
+    EXPECT_EQ(standing(), Visits::Standing::New);
 }
 
 TEST_F(VisitsStanding, OfAFailureTellsOnceWhetherTheDeviceWasAway)
@@ -209,10 +272,10 @@ TEST_F(VisitsStanding, OfAFailureTellsOnceWhetherTheDeviceWasAway)
     rules.changeBegan(en0);
     const quint64 number = rules.carryOut(en0, home);
     rules.sawOffNetwork(en0, now);
-    EXPECT_TRUE(rules.failed(en0, number));
+    EXPECT_TRUE(rules.failed(en0, number, own, 0s));
     rules.changeAnswered(en0);
     EXPECT_EQ(standing(), Visits::Standing::Failed) << "not settled, but moved";
-    EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home)));
+    EXPECT_FALSE(rules.failed(en0, rules.carryOut(en0, home), own, 0s));
 }
 
 TEST_F(VisitsStanding, OfAnotherAddressIsUndoneTwiceAndThenGivenUp)
@@ -243,7 +306,7 @@ TEST_F(VisitsStanding, IsNotMovedByAnAnswerFromAnotherVisit)
     const quint64 early = rules.carryOut(en0, home);
     rules.sawGone(en0);
     rules.succeeded(en0, early, foreign);
-    EXPECT_FALSE(rules.failed(en0, early));
+    EXPECT_FALSE(rules.failed(en0, early, own, 0s));
     EXPECT_EQ(standing(), Visits::Standing::New);
     rules.carryOut(en0, home);
     rules.succeeded(en0, early, foreign);
@@ -254,13 +317,12 @@ TEST_F(VisitsStanding, LeftAsItIsIsNotTriedAgainWhateverTheAnswer)
 {
     const quint64 number = rules.carryOut(en0, home);
     rules.leaveAsItIs(en0);
-    EXPECT_FALSE(rules.failed(en0, number));
+    EXPECT_FALSE(rules.failed(en0, number, own, 0s));
     EXPECT_EQ(standing(foreign), Visits::Standing::Done);
 }
 
 TEST_F(VisitsTest, OutlivesAnAbsenceWithinItsGrace)
 {
-    using namespace std::chrono_literals;
     rules.carryOut(en0, home);
     rules.sawOffNetwork(en0, now, 10s);
     rules.sawOffNetwork(en0, now.addSecs(10), 10s);
@@ -272,15 +334,38 @@ TEST_F(VisitsTest, OutlivesAnAbsenceWithinItsGrace)
 
 TEST_F(VisitsTest, EndsElsewhereUnlessAChangeIsUnderWay)
 {
-    using namespace std::chrono_literals;
     rules.carryOut(en0, home);
     rules.changeBegan(en0);
     rules.sawElsewhere(en0);
     EXPECT_EQ(rules.ssid(en0), u"Home"_s);
+    rules.sawOnNetwork(en0, now);
     rules.changeSettled(en0, true, now);
+    EXPECT_EQ(rules.ssid(en0), u"Home"_s) << "back before the change had settled";
     rules.sawOffNetwork(en0, now, 10s);
     rules.sawElsewhere(en0);
     EXPECT_EQ(rules.ssid(en0), std::nullopt);
+}
+
+TEST_F(VisitsTest, EndsWhenAllHasSettledWhereTheDeviceIsElsewhereStill)
+{
+    rules.succeeded(en0, rules.carryOut(en0, home), {});
+    rules.changeBegan(en0);
+    rules.changeBegan(en0);
+    rules.sawElsewhere(en0);
+    rules.changeSettled(en0, true, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, home));
+    rules.changeSettled(en0, true, now);
+    EXPECT_FALSE(rules.isCarriedOut(en0, home));
+}
+
+TEST_F(VisitsTest, DoesNotEndWhereTheNextNetworkHasAnActOfItsOwn)
+{
+    rules.succeeded(en0, rules.carryOut(en0, home), {});
+    rules.changeBegan(en0);
+    rules.sawElsewhere(en0);
+    rules.carryOut(en0, office);
+    rules.changeSettled(en0, true, now);
+    EXPECT_TRUE(rules.isCarriedOut(en0, office));
 }
 
 } // namespace
