@@ -18,6 +18,8 @@ namespace quillon {
 namespace {
 
 constexpr std::chrono::milliseconds terminateLoginHelperDelay{1000};
+constexpr std::chrono::milliseconds readingAgainDelay{1000};
+constexpr int readingsAgain = 5;
 
 } // namespace
 
@@ -248,6 +250,7 @@ void EventWiring::setupNotifications()
     // The source outlives this.
     m_platform.networkChanges.start([self = QPointer(this)] {
         if (self) {
+            self->m_failedReadings = 0;
             self->postNetworkChanges();
         }
     });
@@ -305,7 +308,11 @@ void EventWiring::postNetworkChanges()
 {
     // One change of the network is about one interface. The system tells of several at once.
     const QPointer self(this);
-    QStringList changed = m_networkChange.readInterfaces();
+    const std::optional<QStringList> read = m_networkChange.readInterfaces();
+    if (!read) {
+        readInterfacesAgain();
+    }
+    QStringList changed = read.value_or(QStringList());
     if (changed.isEmpty()) {
         changed.append(QString());
     }
@@ -316,8 +323,23 @@ void EventWiring::postNetworkChanges()
         }
     }
     if (self) {
+        m_networkChange.makeUpForWithheld();
         m_features.statusMenu.menuNeedsUpdate();
     }
+}
+
+// The system told of something, and will not tell of it again.
+void EventWiring::readInterfacesAgain()
+{
+    if (m_isReadingAgain || m_failedReadings == readingsAgain) {
+        return;
+    }
+    ++m_failedReadings;
+    m_isReadingAgain = true;
+    m_platform.scheduler.onMainAfter(readingAgainDelay, this, [this] {
+        m_isReadingAgain = false;
+        postNetworkChanges();
+    });
 }
 
 void EventWiring::onSetting(const QString &key, std::function<void()> reactions)

@@ -53,12 +53,15 @@ private:
     void onBroadcast(const QString &name,
         std::function<void(const NotificationCenter::Notification &)> reactions);
     void postNetworkChanges();
+    void readInterfacesAgain();
     void postTerminateLoginHelper();
 
     const Platform &m_platform;
     Features &m_features;
     Termination &m_termination;
     NetworkChange m_networkChange;
+    int m_failedReadings = 0; ///< of the interfaces, since the system told of something
+    bool m_isReadingAgain = false;
     std::vector<SettingsStore::Token> m_settingsTokens;
     std::vector<NotificationCenter::Token> m_notificationTokens;
     std::vector<DistributedNotificationCenter::Token> m_distributedTokens;

@@ -20,19 +20,30 @@ NetworkChange::NetworkChange(const Collaborators &collaborators)
 
 void NetworkChange::networkChanged()
 {
-    networkChanged(readInterfaces().value(0));
+    networkChanged(readInterfaces().value_or(QStringList()).value(0));
+    makeUpForWithheld();
 }
 
-QStringList NetworkChange::readInterfaces()
+std::optional<QStringList> NetworkChange::readInterfaces()
 {
     m_deps.externalAddress.updateExternalIPAddress(false);
-    m_deps.devices.updateNetWorkInterfaces();
+    const bool isRead = m_deps.devices.updateNetWorkInterfaces();
     m_deps.execution.followVisits();
     m_deps.currentInterface.selectAnyIfNone();
-    return m_deps.devices.devicesWithNews();
+    return isRead ? std::optional(m_deps.devices.devicesWithNews()) : std::nullopt;
 }
 
 void NetworkChange::networkChanged(const QString &device)
+{
+    takeNews(device);
+    if (!device.isEmpty()) {
+        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(device,
+            m_deps.reachability.isReachable() ? RuleChange::OncePerVisit : RuleChange::Withheld);
+    }
+    m_deps.rulesList.filterRulesArrayController();
+}
+
+void NetworkChange::takeNews(const QString &device)
 {
     m_deps.devices.forgetNews(device);
     if (m_deps.devices.isDeviceWifi(device)) {
@@ -42,12 +53,6 @@ void NetworkChange::networkChanged(const QString &device)
         // The table was read just now.
         m_deps.currentInterface.selectInterface(device);
     }
-    if (!device.isEmpty()) {
-        m_deps.evaluation.checkDeviceForCurrentRuleAndChange(device,
-            m_deps.reachability.isReachable() ? RuleChange::OncePerVisit : RuleChange::Withheld);
-    }
-    makeUpForWithheld();
-    m_deps.rulesList.filterRulesArrayController();
 }
 
 void NetworkChange::makeUpForWithheld()
@@ -56,12 +61,17 @@ void NetworkChange::makeUpForWithheld()
     if (withheld.isEmpty() || !m_deps.reachability.isReachable()) {
         return;
     }
+    const QStringList withNews = m_deps.devices.devicesWithNews();
     for (const QString &device : withheld) {
-        if (m_deps.devices.isDeviceWifi(device)) {
+        if (withNews.contains(device)) {
+            // Else it would be evaluated again for them.
+            takeNews(device);
+        } else if (m_deps.devices.isDeviceWifi(device)) {
             m_deps.wifi.updateWiFiNetwork();
         }
         m_deps.evaluation.checkDeviceForCurrentRuleAndChange(device, RuleChange::OncePerVisit);
     }
+    m_deps.rulesList.filterRulesArrayController();
 }
 
 } // namespace quillon

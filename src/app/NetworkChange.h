@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace quillon {
 
 class CurrentInterface;
@@ -36,19 +38,22 @@ public:
 
     /// How an event begins: a refresh of the external address is started and the interfaces are
     /// read, once for all of them. The devices that have changed since their last network change,
-    /// in key order.
-    QStringList readInterfaces();
+    /// in key order; none, not even an empty list, when they could not be read.
+    std::optional<QStringList> readInterfaces();
     /// One network change is about one device, "" when none has changed. Its rule is carried out
     /// when the internet can be reached now, but a rule that changes the address once is not
-    /// carried out again while the device stays on its network. What had to be left undone because
-    /// the internet could not be reached is made up for at the first one that finds it reachable.
+    /// carried out again while the device stays on its network.
     void networkChanged(const QString &device);
-    /// Both, for the first device that has changed. Others stay news for the next network change.
+    /// Both, for the first device that has changed, and what was withheld. Others stay news for the
+    /// next network change.
     void networkChanged();
     /// Evaluates the devices whose rules were held back, once, if the internet can be reached now.
+    /// How an event ends: of what it has evaluated itself nothing is held back any more.
     void makeUpForWithheld();
 
 private:
+    void takeNews(const QString &device);
+
     Collaborators m_deps;
 };
 

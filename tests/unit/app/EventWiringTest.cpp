@@ -201,6 +201,57 @@ TEST_F(EventWiringBurst, WithoutAnyNewsIsOneNetworkChangeOfNoInterface)
     EXPECT_TRUE(evaluated.isEmpty());
 }
 
+TEST_F(EventWiringBurst, EvaluatesAnInterfaceThatWasHeldBackOnce)
+{
+    const QString wlp2s0 = u"wlp2s0"_s;
+    runWith(enp1s0, wlp2s0);
+    machine.reachability.reachable = false;
+    for (const QString &device : {enp1s0, wlp2s0}) {
+        giveLease(device);
+    }
+    machine.networkChanges.networkChanges();
+    ASSERT_EQ(evaluated, (QStringList{enp1s0, wlp2s0}));
+    machine.reachability.reachable = true;
+    evaluated.clear();
+    giveLease(wlp2s0);
+    giveLease(enp1s0);
+    machine.networkChanges.networkChanges();
+    EXPECT_EQ(evaluated, (QStringList{enp1s0, wlp2s0}));
+}
+
+TEST_F(EventWiringBurst, ThatCannotBeReadIsReadAgainAFewTimes)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    giveLease(enp1s0);
+    machine.host.setUnreadable(true);
+    machine.networkChanges.networkChanges();
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(1s);
+    machine.host.clearJournal();
+    machine.scheduler.advance(1s);
+    EXPECT_EQ(machine.host.journal(), QStringList(u"ports"_s)) << "once for both";
+    machine.host.setUnreadable(false);
+    EXPECT_TRUE(evaluated.isEmpty());
+    machine.scheduler.advance(1s);
+    EXPECT_EQ(evaluated, QStringList(enp1s0));
+    machine.host.clearJournal();
+    machine.scheduler.advance(1min);
+    EXPECT_FALSE(machine.host.journal().contains(u"ports"_s));
+}
+
+TEST_F(EventWiringBurst, ThatCanNeverBeReadIsGivenUpUntilTheNextOne)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    machine.host.setUnreadable(true);
+    machine.host.clearJournal();
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(1min);
+    EXPECT_EQ(machine.host.journal().count(u"ports"_s), 6);
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(1min);
+    EXPECT_EQ(machine.host.journal().count(u"ports"_s), 12);
+}
+
 TEST_F(EventWiringBurst, ThatEndsTheProgramMeanwhileDoesNoHarm)
 {
     runWith(enp1s0, u"wlp2s0"_s);

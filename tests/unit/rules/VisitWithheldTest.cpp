@@ -80,6 +80,20 @@ TEST_F(VisitWithheld, OfARuleThatRepeatsStartsOneCountdown)
     EXPECT_EQ(changes(en0), 1) << "the countdown was not started again";
 }
 
+TEST_F(VisitWithheld, IsMadeUpForOnceWhereTheDeviceHasNewsToo)
+{
+    ruleOf(en1).setChangeAction(Rule::every);
+    joinHome();
+    news(en1);
+    reachability.reachable = true;
+    overviews.clear();
+    giveLease(en1);
+    news(en0);
+    pass(1s);
+    networkEvent();
+    EXPECT_EQ(overviews.size(), 2) << "one for each";
+}
+
 TEST_F(VisitWithheld, IsNotMadeUpForAfterTheUserHadItCarriedOut)
 {
     news(en0);
