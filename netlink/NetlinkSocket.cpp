@@ -76,6 +76,8 @@ NetlinkAnswer NetlinkSocket::readTable(
     }
     if (!answer.finished) {
         restart();
+    } else if (answer.error == 0 && answer.interrupted) {
+        answer.error = EINTR;
     }
     return answer;
 }

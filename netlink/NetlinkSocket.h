@@ -43,9 +43,9 @@ public:
     /// come to its end (`finished`) the socket is closed, so that the rest of it is never taken for
     /// another; the next request opens a new one.
     NetlinkAnswer request(const NetlinkMessage &message, const Take &take = {});
-    /// The same for a table (NLM_F_DUMP), read again when it changed meanwhile; a table that
-    /// changes all the time is taken as it is (`interrupted`) after a few attempts, which share the
-    /// patience. `restart` is told when nothing of what was taken counts.
+    /// The same for a table (NLM_F_DUMP), read again when it changed meanwhile, a few times, which
+    /// share the patience. The last reading of a table that changes all the time ends in EINTR:
+    /// what was taken may lack entries. `restart` is told when nothing of what was taken counts.
     NetlinkAnswer readTable(
         const NetlinkMessage &message, const std::function<void()> &restart, const Take &take);
 

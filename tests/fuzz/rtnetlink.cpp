@@ -27,7 +27,8 @@ void read(std::span<const std::byte> bytes)
     NetlinkAnswer answer{.sequence = sequence};
     answer.add(bytes, [&](const nlmsghdr &message) { messages.add(message); });
     KnownAddresses known;
-    tellsOfChange(bytes, known);
+    KnownRoutes routes;
+    tellsOfChange(bytes, known, routes);
     const auto records = messages.links.size() + messages.addresses.size() + messages.routes.size();
     require(static_cast<std::size_t>(records) <= bytes.size() / sizeof(nlmsghdr),
         "every record is a message at least");

@@ -117,12 +117,16 @@ void LinkMessages::add(const nlmsghdr &message)
     }
 }
 
-bool tellsOfChange(ByteSpan datagram, KnownAddresses &known)
+bool tellsOfChange(ByteSpan datagram, KnownAddresses &addresses, KnownRoutes &routes)
 {
     bool changed = false;
     const bool readable = forEachMessage(datagram, [&](const nlmsghdr &message) {
-        const bool isRepeated = known.isRepeated(message);
-        changed = changed || (!isRepeated && !isWirelessEvent(message));
+        if (isWirelessEvent(message)) {
+            return;
+        }
+        const bool isRepeatedAddress = addresses.isRepeated(message);
+        const bool isRepeatedRoute = routes.isRepeated(message);
+        changed = changed || (!isRepeatedAddress && !isRepeatedRoute);
     });
     return changed || !readable;
 }

@@ -4,6 +4,7 @@
 
 #include "platform/linux/netlink/DefaultRoute.h"
 #include "platform/linux/netlink/KnownAddresses.h"
+#include "platform/linux/netlink/KnownRoutes.h"
 #include "platform/linux/netlink/NextHopObjects.h"
 
 #include <QList>
@@ -53,9 +54,9 @@ struct LinkMessages
 
 /// Whether a datagram of the groups for links, addresses, routes and nexthop objects tells of a
 /// change. Wireless events (scan finished and the like, IFLA_WIRELESS) are none: they come every
-/// few seconds and carry no state of the link. Nor is an address that is `known` and told again. An
-/// unreadable datagram counts as a change. Aligned as nlmsghdr.
-bool tellsOfChange(ByteSpan datagram, KnownAddresses &known);
+/// few seconds and carry no state of the link. Nor is an address or a route that is known and told
+/// again. An unreadable datagram counts as a change. Aligned as nlmsghdr.
+bool tellsOfChange(ByteSpan datagram, KnownAddresses &addresses, KnownRoutes &routes);
 
 /// Whether the link can carry traffic. IF_OPER_UNKNOWN, which drivers without operational state
 /// report all the time, counts as up when the carrier is there.

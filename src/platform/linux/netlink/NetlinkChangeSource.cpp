@@ -67,9 +67,10 @@ void NetlinkChangeSource::read()
         const bool lost = error == ENOBUFS || error == EMSGSIZE;
         if (lost) {
             error = 0;
-            m_known.forget();
+            m_addresses.forget();
+            m_routes.forget();
         }
-        const bool tells = tellsOfChange(datagram, m_known);
+        const bool tells = tellsOfChange(datagram, m_addresses, m_routes);
         changed = changed || lost || tells;
     }
     if (error != 0 && error != EAGAIN) {

@@ -6,6 +6,7 @@
 #include "platform/NetworkChangeSource.h"
 #include "platform/linux/netlink/BurstCollector.h"
 #include "platform/linux/netlink/KnownAddresses.h"
+#include "platform/linux/netlink/KnownRoutes.h"
 
 #include <QSocketNotifier>
 
@@ -32,7 +33,8 @@ private:
 
     Scheduler &m_scheduler;
     NetlinkSocket m_socket;
-    KnownAddresses m_known;
+    KnownAddresses m_addresses;
+    KnownRoutes m_routes;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<BurstCollector> m_burst;
 };

@@ -101,13 +101,23 @@ InterfaceInfo NetlinkHost::info(const QString &device)
     }
     RouteSocket socket;
     const LinkMessages links = socket.link(name);
-    isRead("Interface", links.error == ENODEV ? 0 : links.error);
-    if (links.links.isEmpty() || links.links.first().name != device) {
-        return {.readFailed = links.error != 0 && links.error != ENODEV};
+    const LinkMessages addresses =
+        links.links.isEmpty() ? LinkMessages{} : socket.addresses(links.links.first().index);
+    return interfaceInfo(device, links, addresses);
+}
+
+InterfaceInfo interfaceInfo(
+    const QString &device, const LinkMessages &link, const LinkMessages &addresses)
+{
+    const bool isLinkRead = isRead("Interface", link.error == ENODEV ? 0 : link.error);
+    if (!isLinkRead || !isRead("IPv4 addresses", addresses.error)) {
+        return {.readFailed = true};
     }
-    const LinkInfo &link = links.links.first();
-    const QList<AddressInfo> addresses = socket.addresses(link.index).addresses;
-    return interfaceInfo(link, firstAddresses(addresses).value(link.index));
+    if (link.links.isEmpty() || link.links.first().name != device) {
+        return {};
+    }
+    const LinkInfo &found = link.links.first();
+    return interfaceInfo(found, firstAddresses(addresses.addresses).value(found.index));
 }
 
 HardwareInfo NetlinkHost::hardwareInfo(const LinkInfo &link) const

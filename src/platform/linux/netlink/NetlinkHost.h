@@ -8,6 +8,11 @@
 
 namespace quillon {
 
+/// What two answers of the kernel tell of one interface: its link, its IPv4 addresses. `readFailed`
+/// where one of them failed; empty where there is no such interface.
+InterfaceInfo interfaceInfo(
+    const QString &device, const LinkMessages &link, const LinkMessages &addresses);
+
 /// What the kernel reports through rtnetlink(7): one dump of the links, one of the IPv4 addresses,
 /// one of the default routes per family, and a look into sysfs for interfaces with hardware behind
 /// them. When one of the dumps fails there is no list at all: half of it would look like a change.

@@ -149,7 +149,8 @@ TEST(LinkMessagesMutation, SurvivesAHundredThousandDamagedTables)
         NetlinkAnswer answer{.sequence = NetlinkBytes::sequence};
         answer.add(damaged, [&](const nlmsghdr &message) { messages.add(message); });
         KnownAddresses known;
-        tellsOfChange(damaged, known);
+        KnownRoutes routes;
+        tellsOfChange(damaged, known, routes);
         unharmed += messages.links.size() == 2 || messages.addresses.size() == 2;
         for (const LinkInfo &link : std::as_const(messages.links)) {
             implausible += !isPlausible(link);

@@ -162,42 +162,64 @@ TEST(LinkMessages, NeverReadsBeyondATruncatedDatagram)
 TEST(LinkMessagesOfChanges, LinksAddressesAndRoutesAreChanges)
 {
     KnownAddresses known;
+    KnownRoutes routes;
     for (const quint16 type : {RTM_NEWLINK, RTM_DELLINK, RTM_NEWADDR, RTM_DELADDR, RTM_NEWROUTE}) {
         NetlinkBytes bytes;
         bytes.message(type, ethernet()).text(IFLA_IFNAME, "eth0");
-        EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << type;
+        EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes)) << type;
     }
 }
 
 TEST(LinkMessagesOfChanges, WirelessEventsAreNone)
 {
     KnownAddresses known;
+    KnownRoutes routes;
     NetlinkBytes bytes;
     bytes.message(RTM_NEWLINK, ethernet())
         .text(IFLA_IFNAME, "wlp2s0")
         .attribute(IFLA_WIRELESS, QByteArray(8, '\1'));
-    EXPECT_FALSE(tellsOfChange(bytes.span(), known));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known, routes));
     bytes.message(RTM_NEWLINK, ethernet()).text(IFLA_IFNAME, "wlp2s0");
-    EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << "with another message beside it";
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes)) << "with another message beside it";
 }
 
 TEST(LinkMessagesOfChanges, WhatCannotBeReadCountsAsAChange)
 {
     KnownAddresses known;
+    KnownRoutes routes;
     NetlinkBytes bytes;
     bytes.message(RTM_NEWLINK, ethernet()).setMessageLength(4000);
-    EXPECT_TRUE(tellsOfChange(bytes.span(), known));
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes));
 }
 
 TEST(LinkMessagesOfChanges, AnAddressThatIsToldAgainIsNone)
 {
     KnownAddresses known;
+    KnownRoutes routes;
     NetlinkBytes bytes;
     bytes.message(RTM_NEWADDR, address(4)).attribute(IFA_LOCAL, QByteArray(4, '\1'));
-    EXPECT_TRUE(tellsOfChange(bytes.span(), known));
-    EXPECT_FALSE(tellsOfChange(bytes.span(), known));
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known, routes));
     bytes.message(RTM_NEWLINK, ethernet()).text(IFLA_IFNAME, "eth0");
-    EXPECT_TRUE(tellsOfChange(bytes.span(), known)) << "with another message beside it";
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes)) << "with another message beside it";
+}
+
+TEST(LinkMessagesOfChanges, ARouteThatIsToldAgainIsNone)
+{
+    KnownAddresses known;
+    KnownRoutes routes;
+    rtmsg header{};
+    header.rtm_family = AF_INET6;
+    NetlinkBytes bytes;
+    bytes.message(RTM_NEWROUTE, header).attribute(RTA_GATEWAY, QByteArray(16, '\1'));
+    EXPECT_TRUE(tellsOfChange(bytes.span(), known, routes));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known, routes));
+    NetlinkBytes scan;
+    scan.message(RTM_NEWLINK, ethernet())
+        .text(IFLA_IFNAME, "wlp2s0")
+        .attribute(IFLA_WIRELESS, QByteArray(8, '\1'));
+    EXPECT_FALSE(tellsOfChange(scan.span(), known, routes));
+    EXPECT_FALSE(tellsOfChange(bytes.span(), known, routes)) << "a scan changes no route";
 }
 
 TEST(LinkMessagesStatus, ActiveWhenTheLinkCanCarryTraffic)
