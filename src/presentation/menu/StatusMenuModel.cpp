@@ -4,7 +4,6 @@
 
 #include "base/Localized.h"
 #include "devices/AddressChanger.h"
-#include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/MenuItem.h"
@@ -90,9 +89,8 @@ std::vector<MenuEntry> StatusMenuModel::sectionForDevice(const QString &device) 
     MenuEntry currentEntry;
     currentEntry.title = filled(localized("%@Current Address \u00B7 %@"), {indent, current});
     if (m_deps.helper.isHelperInstalled()) {
-        const bool canRestore = current != hardware && isStringValidHEX(hardware);
         const auto restore =
-            canRestore ? MenuEntry::Action::RestoreAddress : MenuEntry::Action::None;
+            current != hardware ? MenuEntry::Action::RestoreAddress : MenuEntry::Action::None;
         hardwareEntry.submenu.push_back({localized("Restore"), restore, false, {}});
         currentEntry.submenu.push_back(
             {localized("Randomize"), MenuEntry::Action::RandomizeAddress, false, {}});

@@ -61,7 +61,7 @@ TEST_F(StatusMenuModelTest, RestoreIsDisabledWhileTheAddressIsTheFactoryOne)
     EXPECT_TRUE(entry(7).submenu.at(0).isEnabled());
 }
 
-TEST_F(StatusMenuModelTest, RestoreIsDisabledWhereTheFactoryAddressIsNone)
+TEST_F(StatusMenuModelTest, RestoreIsEnabledWhereverTheAddressesDiffer)
 {
     QVariantMap table = settings.getDictionary(keys::deviceDict);
     QVariantMap record = table.value(wired).toMap();
@@ -69,7 +69,7 @@ TEST_F(StatusMenuModelTest, RestoreIsDisabledWhereTheFactoryAddressIsNone)
     table[wired] = record;
     settings.set(keys::deviceDict, table);
     menu.menuNeedsUpdate();
-    EXPECT_FALSE(entry(7).submenu.at(0).isEnabled());
+    EXPECT_TRUE(entry(7).submenu.at(0).isEnabled());
 }
 
 TEST_F(StatusMenuModelTest, EveryCurrentAddressOffersToRandomize)
