@@ -21,6 +21,7 @@ QUILLON_KEY(channel);
 QUILLON_KEY(country);
 QUILLON_KEY(phyMode);
 QUILLON_KEY(mcs);
+QUILLON_KEY(device);
 
 } // namespace quillon::wifirecord
 

@@ -13,6 +13,8 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -55,6 +57,13 @@ WiFiRecord associatedRecord(const WiFiInterface &wifi)
     };
 }
 
+bool hasOtherRadio(const DeviceTable &devices, const QString &device)
+{
+    const DeviceRecords records = devices.devices();
+    return std::any_of(records.keyValueBegin(), records.keyValueEnd(),
+        [&](const auto &entry) { return entry.second.isWifi() && entry.first != device; });
+}
+
 } // namespace
 
 WiFiNetwork::WiFiNetwork(SettingsStore &settings, WiFiClient &client, const DeviceTable &devices)
@@ -81,6 +90,7 @@ std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
         // writes octets in lower case, as saved networks do.
         const SavedEntry saved = savedEntries(m_settings, keys::savedNetworks).value(wifi.bssid);
         record.name = saved.name.value_or(wifi.ssid);
+        record.device = hasOtherRadio(m_devices, device) ? device : QString();
     }
     record.store(m_settings);
     m_settings.synchronize();

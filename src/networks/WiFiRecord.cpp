@@ -41,6 +41,7 @@ WiFiRecord WiFiRecord::stored(const SettingsStore &settings)
     for (const Field &field : fields) {
         record.*field.text = storedText(dictionary, field.key).value_or(QString());
     }
+    record.device = storedText(dictionary, wifirecord::device).value_or(QString());
     return record;
 }
 
@@ -49,6 +50,11 @@ void WiFiRecord::store(SettingsStore &settings) const
     auto dictionary = settings.getDictionary(keys::currentWiFiDict);
     for (const Field &field : fields) {
         dictionary[field.key] = this->*field.text;
+    }
+    if (device.isEmpty()) {
+        dictionary.remove(wifirecord::device);
+    } else {
+        dictionary[wifirecord::device] = device;
     }
     settings.set(keys::currentWiFiDict, dictionary);
 }

@@ -24,11 +24,15 @@ struct WiFiRecord
     QString country = {};
     QString phyMode = {};
     QString mcs = {};
+    /// The interface that is on it, where there are several; else "".
+    QString device = {};
 
     /// What is no text reads as "".
     static WiFiRecord stored(const SettingsStore &settings);
     /// Rewrites the stored record; keys that are not ours survive.
     void store(SettingsStore &settings) const;
+    /// Whether it is the network of the Wi-Fi interface `one`: another's may be on another network.
+    bool isOf(const QString &one) const { return device.isEmpty() || device == one; }
 };
 
 } // namespace quillon

@@ -82,7 +82,8 @@ RuleOutcome RuleEvaluation::decide(const QString &device)
     outcome.isWifi = record.isWifi();
     outcome.address = record.current.value_or(QString());
     if (outcome.isWifi) {
-        outcome.ssid = WiFiRecord::stored(m_deps.settings).ssid;
+        const WiFiRecord wifi = WiFiRecord::stored(m_deps.settings);
+        outcome.ssid = wifi.isOf(device) ? wifi.ssid : QString();
     }
     markActive(
         m_deps.queries.managedRuleArrayForDevice(device), {outcome.loginRule, outcome.networkRule});

@@ -57,7 +57,7 @@ Predicate RuleQueries::filterPredicateForDevice(const QString &device) const
     }
     const WiFiRecord wifi = WiFiRecord::stored(m_settings);
     const QString bssid = wifi.bssid.toLower();
-    if (bssid.isEmpty()) {
+    if (bssid.isEmpty() || !wifi.isOf(device)) {
         return Predicate::equal(model::rule::network, noNetwork);
     }
     QList<Predicate> networks = {

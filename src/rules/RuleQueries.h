@@ -23,8 +23,8 @@ public:
     /// The rules of one device, or of all for "all".
     RuleList managedRuleArrayForDevice(const QString &device) const;
     /// Selects the rules that apply to `device` on the network that it is on now. For a Wi-Fi
-    /// device that is on none it is a condition that no rule meets, and which does not name the
-    /// device.
+    /// device that is on none, or that is not the one whose network is known, it is a condition
+    /// that no rule meets, and which does not name the device.
     Predicate filterPredicateForDevice(const QString &device) const;
     /// The rules that meet `condition`, in `order`.
     RuleList rules(const Predicate &condition, const QList<SortDescriptor> &order = {}) const;

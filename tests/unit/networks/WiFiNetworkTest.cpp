@@ -3,6 +3,7 @@
 #include "networks/WiFiNetwork.h"
 
 #include "NetworkFixture.h"
+#include "networks/WiFiRecord.h"
 
 #include <limits>
 
@@ -188,6 +189,22 @@ TEST_F(WiFiNetworkTest, ShowsTheAddressOfTheRadioWhoseNetworkItIs)
     radio.interface->device.clear();
     network.updateWiFiNetwork();
     EXPECT_EQ(current(wifirecord::ipAddress), u"198.51.100.7"_s);
+}
+
+TEST_F(WiFiNetworkTest, SaysWhoseItIsWhereThereAreSeveralRadios)
+{
+    host.plug({u"Wi-Fi"_s, u"wlp9s0"_s, {}, u"02:00:00:00:00:09"_s, {}});
+    DeviceTable(settings, host, addresses).updateNetWorkInterfaces();
+    for (const QString &device : {u"wlp9s0"_s, u"wlp2s0"_s}) {
+        radio.interface->device = device;
+        network.updateWiFiNetwork();
+        EXPECT_EQ(current(wifirecord::device), device);
+        EXPECT_TRUE(WiFiRecord::stored(settings).isOf(device));
+        EXPECT_FALSE(WiFiRecord::stored(settings).isOf(u"wlp7s0"_s));
+    }
+    radio.leave();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(settings.getDictionary(keys::currentWiFiDict), notAssociated());
 }
 
 TEST_F(WiFiNetworkTest, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)

@@ -164,6 +164,23 @@ TEST_F(VisitEnd, ComesWithAnotherNetworkJoinedRightAfterTheChange)
     EXPECT_EQ(changes(en1), 3);
 }
 
+TEST_F(VisitEnd, OfOneRadioDoesNotComeWithTheNetworkOfAnother)
+{
+    const QString en9 = u"en9"_s;
+    host.plug({u"Wi-Fi"_s, en9, {}, u"02:00:00:00:00:09"_s, {}});
+    table.updateNetWorkInterfaces();
+    addRule({.name = u"other"_s, .device = en9});
+    joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
+    radio.interface->device = en9;
+    news(en9);
+    EXPECT_EQ(changes(en9), 1);
+    news(en1);
+    EXPECT_EQ(changes(en1), 1) << "that one is on no network that anybody knows";
+    joinHome();
+    news(en1);
+    EXPECT_EQ(changes(en1), 1) << "it has been at home all the time";
+}
+
 TEST_F(VisitEnd, ComesWithACableThatWasMovedWhileTheUserWasAsked)
 {
     helper.mood = FakeHelper::Mood::Hanging;
