@@ -276,8 +276,10 @@ void MainWindowModel::fillButtons(State &state) const
     state.whyNoUpdate =
         why(state.updateEnabled, localized("The field holds no other address to apply"));
     state.whyNoRandomize = why(state.randomizeEnabled, QString());
-    state.whyNoRestore =
-        why(state.restoreEnabled, localized("The interface has its factory address"));
+    state.whyNoRestore = why(state.restoreEnabled,
+        isStringValidHEX(state.hardwareAddress)
+            ? localized("The interface has its factory address")
+            : localized("The interface has no factory address that is known"));
 }
 
 } // namespace quillon

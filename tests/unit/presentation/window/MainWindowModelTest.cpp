@@ -123,6 +123,19 @@ TEST_F(MainWindowModelTest, AButtonThatCanDoNothingSaysWhy)
     EXPECT_EQ(shown().whyNoRestore, u"The helper tool is not installed"_s);
 }
 
+TEST_F(MainWindowModelTest, ARestoreWithoutFactoryAddressSaysSo)
+{
+    for (const QString &hardware : {QString(), u"N/A"_s}) {
+        QVariantMap record = settings.getDictionary(keys::currentInterfaceDict);
+        record[record::hardware] = hardware;
+        settings.set(keys::currentInterfaceDict, record);
+        model.populateHexField();
+        scheduler.runPending();
+        EXPECT_FALSE(shown().restoreEnabled);
+        EXPECT_EQ(shown().whyNoRestore, u"The interface has no factory address that is known"_s);
+    }
+}
+
 TEST_F(MainWindowModelTest, TheIndicatorShowsThatTheAddressInUseIsNotTheFactoryOne)
 {
     EXPECT_FALSE(shown().hardwareIndicatorVisible);
