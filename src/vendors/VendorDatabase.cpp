@@ -74,6 +74,9 @@ struct VendorDatabase::File
     auto inQueue(Ask ask, bool *wasRead = nullptr) const
         -> decltype(ask(std::declval<SQLite::Database &>()))
     {
+        if (wasRead != nullptr) {
+            *wasRead = true;
+        }
         std::unique_lock turn(turnstile);
         const std::shared_lock lock(mutex);
         turn.unlock();
@@ -113,9 +116,6 @@ const QString &VendorDatabase::path() const
 
 qlonglong VendorDatabase::count(bool *wasRead) const
 {
-    if (wasRead != nullptr) {
-        *wasRead = true;
-    }
     return m_file->inQueue(
         [](SQLite::Database &database) {
             SQLite::Statement statement(database, "SELECT COUNT(*) FROM vendor");
@@ -146,19 +146,21 @@ std::optional<VendorRecord> VendorDatabase::lookup(const QString &assignment) co
     });
 }
 
-QStringList VendorDatabase::displayStrings() const
+QStringList VendorDatabase::displayStrings(bool *wasRead) const
 {
-    return m_file->inQueue([](SQLite::Database &database) {
-        SQLite::Statement statement(database, "SELECT * FROM vendor");
-        const int nameColumn = statement.getColumnIndex("Organization_Name");
-        const int assignmentColumn = statement.getColumnIndex("Assignment");
-        QStringList all;
-        while (statement.executeStep()) {
-            all.append(vendorDisplayString(
-                text(statement, nameColumn), text(statement, assignmentColumn)));
-        }
-        return all;
-    });
+    return m_file->inQueue(
+        [](SQLite::Database &database) {
+            SQLite::Statement statement(database, "SELECT * FROM vendor");
+            const int nameColumn = statement.getColumnIndex("Organization_Name");
+            const int assignmentColumn = statement.getColumnIndex("Assignment");
+            QStringList all;
+            while (statement.executeStep()) {
+                all.append(vendorDisplayString(
+                    text(statement, nameColumn), text(statement, assignmentColumn)));
+            }
+            return all;
+        },
+        wasRead);
 }
 
 VendorDatabase::Rewriting VendorDatabase::rewriteFrom(const QString &source, const QString &keptAs)

@@ -45,8 +45,8 @@ public:
     qlonglong count(bool *wasRead = nullptr) const;
     /// The last row whose `Assignment` is exactly `assignment`.
     std::optional<VendorRecord> lookup(const QString &assignment) const;
-    /// The display strings of all rows, in the table's order.
-    QStringList displayStrings() const;
+    /// The display strings of all rows, in the table's order; `wasRead` as for count().
+    QStringList displayStrings(bool *wasRead = nullptr) const;
 
     enum class Rewriting
     {

@@ -15,11 +15,20 @@ namespace {
 
 using Entries = std::shared_ptr<const VendorEntries>;
 
-Entries entriesOf(const VendorDatabase &database)
+constexpr std::chrono::seconds pauseBeforeReadingAgain{1};
+
+Entries entriesOf(const QStringList &vendors)
 {
-    QStringList texts{localized(randomAddressChoice)};
-    texts += database.displayStrings();
-    return std::make_shared<const VendorEntries>(std::move(texts));
+    return std::make_shared<const VendorEntries>(
+        QStringList(localized(randomAddressChoice)) + vendors);
+}
+
+/// None when the database does not answer at the moment.
+Entries readEntries(const VendorDatabase &database)
+{
+    bool wasRead = true;
+    const QStringList vendors = database.displayStrings(&wasRead);
+    return wasRead ? entriesOf(vendors) : nullptr;
 }
 
 } // namespace
@@ -30,25 +39,12 @@ VendorList::VendorList(Scheduler &scheduler, const VendorDatabase &database)
 {
 }
 
-void VendorList::loadVendorField()
+void VendorList::open()
 {
-    const auto show =
-        m_scheduler.replyOnMain<Entries>(this, [this, load = ++m_load](const Entries &entries) {
-            if (m_load != load) {
-                return;
-            }
-            // It may have been let go meanwhile.
-            if (isInMemory() && entries) {
-                m_entries = entries;
-                arrange();
-                Q_EMIT rearranged();
-            }
-            Q_EMIT rebuilt();
-        });
-    if (isInMemory()) {
-        m_scheduler.inBackground([show, database = m_database] { show(entriesOf(database)); });
-    } else {
-        show(nullptr);
+    if (!isInMemory()) {
+        m_entries = entriesOf({});
+        arrange();
+        read();
     }
 }
 
@@ -56,31 +52,61 @@ void VendorList::letGo()
 {
     if (isInMemory()) {
         m_entries.reset();
+        m_isRead = false;
         m_shown.reset();
         returnFreedMemory();
     }
 }
 
-void VendorList::read() const
+void VendorList::loadVendorField()
 {
-    if (!isInMemory()) {
-        m_entries = entriesOf(m_database);
-        arrange();
+    m_rebuilds = true;
+    read();
+}
+
+void VendorList::read()
+{
+    const auto reply =
+        m_scheduler.replyOnMain<Entries>(this, [this, load = ++m_load](const Entries &entries) {
+            if (m_load == load) {
+                take(entries);
+            }
+        });
+    if (isInMemory()) {
+        m_scheduler.inBackground([reply, database = m_database] { reply(readEntries(database)); });
+    } else {
+        reply(nullptr);
     }
 }
 
-void VendorList::arrange() const
+void VendorList::take(const Entries &entries)
+{
+    // It may have been let go meanwhile.
+    if (isInMemory()) {
+        if (!entries) {
+            m_scheduler.onMainAfter(pauseBeforeReadingAgain, this, [this, load = m_load] {
+                if (m_load == load) {
+                    read();
+                }
+            });
+            return;
+        }
+        m_entries = entries;
+        m_isRead = true;
+        arrange();
+        Q_EMIT rearranged();
+    }
+    if (std::exchange(m_rebuilds, false)) {
+        Q_EMIT rebuilt();
+    }
+}
+
+void VendorList::arrange()
 {
     m_shown.reset();
     if (!m_filter.isEmpty()) {
         m_shown = m_entries->beginningWith(m_filter);
     }
-}
-
-std::shared_ptr<const VendorEntries> VendorList::vendorItemArray() const
-{
-    read();
-    return m_entries;
 }
 
 void VendorList::filter(const QString &text)
@@ -91,28 +117,26 @@ void VendorList::filter(const QString &text)
     m_filter = text;
     if (isInMemory()) {
         arrange();
-    } else if (!text.isEmpty()) {
-        read();
     }
     Q_EMIT rearranged();
 }
 
 qsizetype VendorList::rowCount() const
 {
-    read();
+    if (!isInMemory()) {
+        return 0;
+    }
     return m_shown ? static_cast<qsizetype>(m_shown->size()) : m_entries->size();
 }
 
 QString VendorList::entry(qsizetype row) const
 {
-    read();
     return m_entries->texts().at(m_shown ? m_shown->at(static_cast<std::size_t>(row)) : row);
 }
 
 qsizetype VendorList::rowOf(const QString &entry) const
 {
-    read();
-    const qsizetype index = m_entries->indexOf(entry);
+    const qsizetype index = isInMemory() ? m_entries->indexOf(entry) : -1;
     if (index < 0 || !m_shown) {
         return index;
     }

@@ -20,8 +20,9 @@ inline const QString randomAddressChoice = QStringLiteral("Random Address");
 /// The list of manufacturers to choose from, with "Random Address" among them, and the part of it
 /// that is shown: all of it, or what begins with the text that is typed.
 ///
-/// It takes ten megabytes, so it is read when somebody first asks for one of its entries, which
-/// blocks while the database answers, and is in memory until it is let go. Main thread.
+/// It takes ten megabytes, so it is in memory only between open() and letGo(). It is read in the
+/// background: until it is there, and while another program keeps the database locked, an opened
+/// list holds "Random Address" alone. Main thread.
 class VendorList : public QObject
 {
     Q_OBJECT
@@ -29,17 +30,20 @@ class VendorList : public QObject
 public:
     VendorList(Scheduler &scheduler, const VendorDatabase &database);
 
-    /// Rebuilds the list whole. One that is in memory is what it was until it has been read anew in
-    /// the background; any other is read by whoever asks next. Of several calls the last one
-    /// counts.
-    void loadVendorField();
-    /// The whole list; a snapshot that stays as it is.
-    std::shared_ptr<const VendorEntries> vendorItemArray() const;
-    bool isInMemory() const { return m_entries != nullptr; }
+    /// Somebody looks at the list: it is read, again and again until the database answers.
+    void open();
     /// Nobody looks at the list any more: its memory goes back to the system. The filter stays.
     void letGo();
+    bool isInMemory() const { return m_entries != nullptr; }
+    /// It is open, and whole.
+    bool isRead() const { return m_isRead; }
+    /// Rebuilds the list whole. One that is in memory is what it was until it has been read anew;
+    /// any other is read when it is opened. Of several calls the last one counts.
+    void loadVendorField();
+    /// The whole list, none while it is not in memory; a snapshot that stays as it is.
+    std::shared_ptr<const VendorEntries> vendorItemArray() const { return m_entries; }
 
-    // The arrangement: rows of the entries that are shown. Asking for them reads the list.
+    // The arrangement: rows of the entries that are shown; none while the list is not in memory.
     /// Shows what begins with `text`, ignoring case and diacritics; everything when it is empty.
     void filter(const QString &text);
     void clearFilter() { filter({}); }
@@ -56,16 +60,22 @@ Q_SIGNALS:
     void rebuilt();
 
 private:
-    void read() const;
-    void arrange() const;
+    using Entries = std::shared_ptr<const VendorEntries>;
+
+    void read();
+    void take(const Entries &entries);
+    void arrange();
 
     Scheduler &m_scheduler;
     VendorDatabase m_database;
     QString m_filter;
     /// None while the list is not in memory.
-    mutable std::shared_ptr<const VendorEntries> m_entries;
+    Entries m_entries;
+    bool m_isRead = false;
     /// The entries shown; none when all are.
-    mutable std::optional<std::vector<qsizetype>> m_shown;
+    std::optional<std::vector<qsizetype>> m_shown;
+    /// rebuilt() is owed.
+    bool m_rebuilds = false;
     quint64 m_load = 0;
 };
 

@@ -8,6 +8,8 @@
 #include "vendors/VendorChoice.h"
 #include "vendors/VendorList.h"
 
+#include <utility>
+
 namespace quillon {
 
 VendorFieldModel::VendorFieldModel(
@@ -20,7 +22,7 @@ VendorFieldModel::VendorFieldModel(
 
 qsizetype VendorFieldModel::rowCount() const
 {
-    return m_state->popoverShown ? m_list.rowCount() : 0;
+    return m_list.rowCount();
 }
 
 QString VendorFieldModel::rowText(qsizetype row) const
@@ -35,6 +37,8 @@ void VendorFieldModel::controlTextDidChange(const QString &text)
         showVendorViewPopover();
         Q_EMIT openedByTyping();
     }
+    m_opensAtChoice = false;
+    m_firstRowWanted = false;
     m_list.filter(text);
 }
 
@@ -44,10 +48,8 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
     case Command::MoveDown:
         showVendorViewPopover();
         Q_EMIT listEntered();
-        if (rowCount() > 0) {
-            selectRow(0);
-            m_choice.updateVendorTableSelectionWithRow(0);
-        }
+        m_firstRowWanted = true;
+        chooseFirstRowWanted();
         break;
     case Command::Other:
         break;
@@ -55,8 +57,21 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
     return false;
 }
 
+void VendorFieldModel::chooseFirstRowWanted()
+{
+    // The first row of a list that is still being read is another one.
+    if (!m_list.isRead() || !std::exchange(m_firstRowWanted, false)) {
+        return;
+    }
+    if (rowCount() > 0) {
+        selectRow(0);
+        m_choice.updateVendorTableSelectionWithRow(0);
+    }
+}
+
 bool VendorFieldModel::tableViewShouldSelectRow(qsizetype row)
 {
+    m_firstRowWanted = false;
     m_choice.updateVendorTableSelectionWithRow(row);
     if (row >= 0 && row < m_list.rowCount()) {
         selectRow(row);
@@ -72,7 +87,7 @@ bool VendorFieldModel::tableKeyDown(Key key)
         return false;
     case Key::Down:
     case Key::Up:
-        return true;
+        return !m_firstRowWanted;
     case Key::Other:
         break;
     }
@@ -90,21 +105,25 @@ void VendorFieldModel::toggleVendorViewPopover()
 
 void VendorFieldModel::showVendorViewPopover()
 {
+    if (m_state->popoverShown) {
+        return;
+    }
+    m_opensAtChoice = true;
+    m_list.open();
     m_state.update([&](State &state) {
-        if (!state.popoverShown) {
-            state.popoverShown = true;
-            state.selectedRow = selectedRow();
-        }
+        state.popoverShown = true;
+        state.selectedRow = selectedRow();
     });
 }
 
 void VendorFieldModel::closeVendorViewPopover()
 {
+    m_firstRowWanted = false;
+    m_list.letGo();
     m_state.update([&](State &state) {
         state.popoverShown = false;
         state.selectedRow = std::nullopt;
     });
-    m_list.letGo();
 }
 
 void VendorFieldModel::showText(const QString &text)
@@ -152,14 +171,17 @@ void VendorFieldModel::showVendorButton(bool shown)
 void VendorFieldModel::rearrange()
 {
     Q_EMIT rowsChanged();
-    m_state.update([&](State &state) {
-        if (state.selectedRow) {
-            state.selectedRow = selectedRow();
-        }
-        if (m_list.isInMemory() && !state.selectedRow) {
-            m_selectedEntry.clear();
-        }
-    });
+    m_state.update([&](State &state) { state.selectedRow = selectedRow(); });
+    if (!m_list.isRead()) {
+        return;
+    }
+    if (!m_state->selectedRow) {
+        m_selectedEntry.clear();
+    } else if (m_opensAtChoice) {
+        Q_EMIT openedAtChoice();
+    }
+    m_opensAtChoice = false;
+    chooseFirstRowWanted();
 }
 
 } // namespace quillon

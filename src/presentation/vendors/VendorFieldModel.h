@@ -16,7 +16,8 @@ class VendorList;
 
 /// The vendor text field with its popover, a list of manufacturers that the typed text narrows.
 /// Widgets mirror state() and the rows, and hand on what the user does. The list is in memory only
-/// while the popover is shown. Main thread.
+/// while the popover is shown, and whole only a moment later: what is typed until then narrows it
+/// when it is there. Main thread.
 class VendorFieldModel : public QObject
 {
     Q_OBJECT
@@ -52,7 +53,7 @@ public:
     VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
 
     const State &state() const { return m_state.get(); }
-    /// None while the popover is closed, when nobody needs the list.
+    /// None while the popover is closed.
     qsizetype rowCount() const;
     /// The text of a row that is there.
     QString rowText(qsizetype row) const;
@@ -88,9 +89,12 @@ Q_SIGNALS:
     void listEntered();
     /// A row was selected, maybe one out of sight.
     void rowSelected(qsizetype row);
+    /// The list that was opened is there, and the choice is selected in it.
+    void openedAtChoice();
 
 private:
     void selectRow(qsizetype row);
+    void chooseFirstRowWanted();
     std::optional<qsizetype> selectedRow() const;
 
     VendorChoice &m_choice;
@@ -99,6 +103,10 @@ private:
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     /// What the selected row holds, by which it is found when the list is read or the rows change.
     QString m_selectedEntry;
+    /// Nobody has typed since the popover was opened, and the list is not there yet.
+    bool m_opensAtChoice = false;
+    /// The user went into a list that is not there yet: its first row becomes the choice.
+    bool m_firstRowWanted = false;
 };
 
 } // namespace quillon

@@ -145,7 +145,8 @@ bool VendorChooser::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::FocusOut) {
         // Who has the keyboard next is known only after this event.
         QMetaObject::invokeMethod(this, &VendorChooser::closeWhenLeft, Qt::QueuedConnection);
-    } else if (event->type() == QEvent::MouseButtonPress && watched == window()) {
+    } else if (watched == window() &&
+               (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Hide)) {
         close();
     }
     return QFrame::eventFilter(watched, event);

@@ -23,7 +23,8 @@ public:
     VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent = nullptr);
 
 protected:
-    /// The keys of field and list, the moment when both lose the keyboard, presses beside the list.
+    /// The keys of field and list, the moment when both lose the keyboard, presses beside the list,
+    /// the end of the window's being shown.
     bool eventFilter(QObject *watched, QEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
 

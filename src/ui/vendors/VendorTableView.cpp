@@ -94,6 +94,8 @@ VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
     connect(&m_model, &VendorFieldModel::rowSelected, this, [this](qsizetype row) {
         scrollTo(this->model()->index(static_cast<int>(row), 0), QAbstractItemView::EnsureVisible);
     });
+    connect(&m_model, &VendorFieldModel::openedAtChoice, this,
+        [this] { scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter); });
 }
 
 void VendorTableView::refresh()
@@ -142,14 +144,6 @@ void VendorTableView::focusInEvent(QFocusEvent *event)
         QListView::focusInEvent(event);
     }
     refresh();
-}
-
-void VendorTableView::showEvent(QShowEvent *event)
-{
-    QListView::showEvent(event);
-    if (currentIndex().isValid()) {
-        scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter);
-    }
 }
 
 void VendorTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -65,6 +65,7 @@ TEST_F(Refresh, BringsTheRealRegistry)
                   .value(vendordata::vendorCurrentString)
                   .toString(),
         "CERN"_L1);
+    user.list.open();
     EXPECT_TRUE(eventually([&] { return user.list.rowCount() == count + 1; }));
     user.refresh();
     EXPECT_TRUE(user.labels.last().startsWith(u"Last Updated: "_s)) << "nothing new";

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/LaunchSequence.h"
 
+#include "fakes/MemoryTrims.h"
 #include "unit/app/ProgramOnFakes.h"
 #include "unit/app/StateOrder.h"
 #include "unit/vendors/VendorFolder.h"
@@ -256,6 +257,16 @@ TEST_F(LaunchSequenceTest, StartedByTheUserHidingDoesNotApply)
     machine.settings.setBool(keys::hideOnLaunch, true);
     EXPECT_EQ(windowsOpenedByStart(), 1);
     EXPECT_FALSE(program->launch().startupCheck());
+}
+
+TEST_F(LaunchSequenceTest, WhatTheStartNeededGoesBackToTheSystemOnceTheRulesAreChecked)
+{
+    create();
+    const int before = memoryTrims();
+    start();
+    EXPECT_EQ(memoryTrims(), before);
+    machine.scheduler.advance(1s);
+    EXPECT_EQ(memoryTrims() - before, 1);
 }
 
 TEST_F(LaunchSequenceTest, AKnownExternalAddressIsKept)

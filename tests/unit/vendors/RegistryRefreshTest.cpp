@@ -60,6 +60,7 @@ TEST_F(RegistryRefresh, ReplacesTheDatabaseAndCleansUp)
 
 TEST_F(RegistryRefresh, RebuildsTheListAtEveryEnd)
 {
+    openList();
     refresh(registryOf({{"ABCDEF", "Only One"}}));
     EXPECT_THAT(shown(), ElementsAre("Only One (ABCDEF)", "Random Address"));
 }

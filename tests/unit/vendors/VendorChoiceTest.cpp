@@ -23,7 +23,7 @@ protected:
         storeDevice(en0, {{record::current, u"00:11:22:33:44:55"_s}});
         storeDevice(en1, {{record::vendor, maker}});
         select(en0);
-        loadList();
+        openList();
         notifications.addObserver(
             notifications::vendorUpdated, [this](const NotificationCenter::Notification &posted) {
                 EXPECT_EQ(posted.object, nullptr);

@@ -52,6 +52,12 @@ protected:
         list.loadVendorField();
         scheduler.runPending();
     }
+    /// The whole list is there.
+    void openList()
+    {
+        list.open();
+        scheduler.runPending();
+    }
     QStringList shown() const
     {
         QStringList rows;

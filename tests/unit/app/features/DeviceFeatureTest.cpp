@@ -40,6 +40,7 @@ TEST_F(DeviceFeatureTest, FollowUpsOfANewSelectionComeInTheirOrder)
     start();
     machine.scheduler.advance(500ms);
     features().vendors.field.showVendorViewPopover();
+    machine.scheduler.runPending();
     setDeviceRecord(enp2s0, record::vendor, vendor);
     setDeviceRecord(enp2s0, record::hasRule, 1);
     features().rules.countdown.showCountdown(enp1s0, u"of the other one"_s, false);

@@ -27,6 +27,12 @@ protected:
         start();
         machine.scheduler.advance(2s);
     }
+    /// The popover with the list.
+    void open()
+    {
+        field().showVendorViewPopover();
+        machine.scheduler.runPending();
+    }
     VendorFieldModel &field() { return features().vendors.field; }
     const VendorPaneModel::State &pane() { return features().vendors.pane.state(); }
     QString live() const { return machine.data.filePath(u"oui.db"_s); }
@@ -59,7 +65,7 @@ TEST_F(VendorFeatureTest, TheListIsNotReadUntilSomebodyLooksAtIt)
     startWithSeed();
     select(enp2s0);
     EXPECT_FALSE(features().vendors.list.isInMemory());
-    field().showVendorViewPopover();
+    open();
     EXPECT_EQ(field().rowCount(), 3);
     field().closeVendorViewPopover();
     select(enp1s0);
@@ -70,7 +76,7 @@ TEST_F(VendorFeatureTest, TheChoiceIsSelectedInTheListThatIsOpened)
 {
     setDeviceRecord(enp1s0, record::vendor, zebra);
     startWithSeed();
-    field().showVendorViewPopover();
+    open();
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
 }
@@ -99,7 +105,7 @@ TEST_F(VendorFeatureTest, TheFieldAndTheListShowTheChoiceOfTheSelectedInterface)
     setDeviceRecord(enp2s0, record::vendor, zebra);
     select(enp2s0);
     EXPECT_EQ(field().state().text, zebra);
-    field().showVendorViewPopover();
+    open();
     ASSERT_TRUE(field().state().selectedRow);
     EXPECT_EQ(field().rowText(*field().state().selectedRow), zebra);
     select(enp1s0);
@@ -111,6 +117,7 @@ TEST_F(VendorFeatureTest, AChosenManufacturersPrefixIsInTheNextRandomAddress)
 {
     startWithSeed();
     field().controlTextDidChange(u"zeb"_s);
+    machine.scheduler.runPending();
     field().tableViewShouldSelectRow(0);
     EXPECT_EQ(deviceRecord(enp1s0).value(record::vendor), zebra);
     features().mainWindow.randomizeAddress();
@@ -125,7 +132,7 @@ TEST_F(VendorFeatureTest, ARefreshAsksTheRegistryAndShowsWhatCame)
     startWithSeed();
     machine.http.serve(QUrl(u"https://registry.example/oui/oui.csv"_s),
         registryOf({{"3C22FB", "Appian"}, {"00000D", "Zebra"}, {"00000E", "Mango"}}));
-    field().showVendorViewPopover();
+    open();
     features().vendors.pane.pressButton();
     EXPECT_EQ(pane().buttonTitle, u"Cancel download..."_s);
     machine.scheduler.advance(1s);

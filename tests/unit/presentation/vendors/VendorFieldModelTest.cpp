@@ -30,9 +30,23 @@ protected:
             &field, &VendorFieldModel::listEntered, [this] { said << "list entered"; });
         QObject::connect(&field, &VendorFieldModel::rowSelected,
             [this](qsizetype row) { said << "row " + QString::number(row); });
+        QObject::connect(
+            &field, &VendorFieldModel::openedAtChoice, [this] { said << "opened at choice"; });
         QObject::connect(&field, &VendorFieldModel::rowsChanged, [this] { said << "rows"; });
     }
 
+    /// The popover is shown, and the list is there.
+    void open()
+    {
+        field.showVendorViewPopover();
+        scheduler.runPending();
+        said.clear();
+    }
+    void type(const QString &text)
+    {
+        field.controlTextDidChange(text);
+        scheduler.runPending();
+    }
     QString stored() const
     {
         return settings.getDictionary(keys::deviceDict)
@@ -47,12 +61,12 @@ protected:
 
 TEST_F(VendorFieldModelTest, OpensThePopoverAtTheFirstLetter)
 {
-    field.controlTextDidChange(u"a"_s);
+    type(u"a"_s);
     EXPECT_TRUE(field.state().popoverShown);
-    EXPECT_THAT(said, ElementsAre("opened by typing", "rows"));
+    EXPECT_THAT(said, ElementsAre("opened by typing", "rows", "rows"));
     EXPECT_EQ(field.rowCount(), 2);
     said.clear();
-    field.controlTextDidChange(u"apple"_s);
+    type(u"apple"_s);
     EXPECT_THAT(said, ElementsAre("rows"));
     EXPECT_EQ(field.rowCount(), 1);
     EXPECT_EQ(field.state().text, "apple"_L1);
@@ -74,28 +88,65 @@ TEST_F(VendorFieldModelTest, IsDisabledAndSaysWhyWhileNoInterfaceIsSelected)
 
 TEST_F(VendorFieldModelTest, ShowsAllWhenItIsCleared)
 {
-    field.controlTextDidChange(u"app"_s);
-    field.controlTextDidChange({});
+    type(u"app"_s);
+    type({});
     EXPECT_EQ(field.rowCount(), 4);
     EXPECT_TRUE(field.state().popoverShown);
 }
 
 TEST_F(VendorFieldModelTest, GoesToTheFirstRowByTheDownArrowAndChoosesIt)
 {
-    field.controlTextDidChange(u"appl"_s);
+    type(u"appl"_s);
     field.closeVendorViewPopover();
     said.clear();
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
     EXPECT_TRUE(field.state().popoverShown);
-    EXPECT_THAT(said, ElementsAre("list entered", "row 0"));
+    scheduler.runPending();
+    EXPECT_THAT(said, ElementsAre("list entered", "rows", "row 0"));
     EXPECT_EQ(field.state().selectedRow, 0);
     EXPECT_EQ(stored(), "Apple (000001)"_L1);
     EXPECT_EQ(field.state().text, "Apple (000001)"_L1);
 }
 
+TEST_F(VendorFieldModelTest, ChoosesTheFirstRowByTheDownArrowOnlyWhenTheListIsThere)
+{
+    choice.setVendorSelectionForDevice(u"en0"_s);
+    field.controlDoCommandBySelector(Command::MoveDown);
+    EXPECT_EQ(stored(), QString()) << "what stands first is not known yet";
+    EXPECT_FALSE(field.tableKeyDown(Key::Down)) << "nor what comes after it";
+    scheduler.runPending();
+    EXPECT_EQ(stored(), "Apple (000001)"_L1);
+    EXPECT_TRUE(field.tableKeyDown(Key::Down));
+}
+
+TEST_F(VendorFieldModelTest, ForgetsTheDownArrowWhenTheUserDoesSomethingElse)
+{
+    field.controlDoCommandBySelector(Command::MoveDown);
+    field.closeVendorViewPopover();
+    open();
+    EXPECT_EQ(stored(), QString());
+    field.closeVendorViewPopover();
+    field.controlDoCommandBySelector(Command::MoveDown);
+    type(u"s"_s);
+    EXPECT_EQ(stored(), QString());
+}
+
+TEST_F(VendorFieldModelTest, SaysWhenTheOpenedListIsThereWithItsChoice)
+{
+    storeDevice(u"en0"_s, {{record::vendor, u"Sam (000003)"_s}});
+    choice.setVendorSelectionForDevice(u"en0"_s);
+    said.clear();
+    field.showVendorViewPopover();
+    EXPECT_EQ(field.state().selectedRow, std::nullopt);
+    EXPECT_EQ(field.rowCount(), 1) << "until then there is Random Address";
+    scheduler.runPending();
+    EXPECT_EQ(field.state().selectedRow, 3);
+    EXPECT_THAT(said, ElementsAre("rows", "opened at choice"));
+}
+
 TEST_F(VendorFieldModelTest, ChoosesNothingByTheDownArrowWhenNothingIsShown)
 {
-    field.controlTextDidChange(u"nothing like that"_s);
+    type(u"nothing like that"_s);
     EXPECT_FALSE(field.controlDoCommandBySelector(Command::MoveDown));
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
     EXPECT_EQ(stored(), QString());
@@ -110,6 +161,7 @@ TEST_F(VendorFieldModelTest, LeavesOtherCommandsToItself)
 
 TEST_F(VendorFieldModelTest, TakesTheRowThatIsSelected)
 {
+    open();
     EXPECT_TRUE(field.tableViewShouldSelectRow(3));
     EXPECT_EQ(stored(), "Sam (000003)"_L1);
     EXPECT_EQ(field.state().text, "Sam (000003)"_L1);
@@ -120,10 +172,11 @@ TEST_F(VendorFieldModelTest, TakesTheRowThatIsSelected)
 
 TEST_F(VendorFieldModelTest, KeepsTheSelectedEntryWhenOtherRowsAreShown)
 {
+    open();
     field.tableViewShouldSelectRow(3);
-    field.controlTextDidChange(u"s"_s);
+    type(u"s"_s);
     EXPECT_EQ(field.state().selectedRow, 0);
-    field.controlTextDidChange(u"a"_s);
+    type(u"a"_s);
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
 }
 
@@ -157,7 +210,7 @@ TEST_F(VendorFieldModelTest, HasTheListInMemoryOnlyWhileThePopoverIsShown)
     choice.setVendorSelectionForDevice(u"en0"_s);
     EXPECT_EQ(field.rowCount(), 0);
     EXPECT_FALSE(list.isInMemory()) << "a selection or a count alone reads nothing";
-    field.showVendorViewPopover();
+    open();
     EXPECT_TRUE(list.isInMemory());
     EXPECT_EQ(field.rowCount(), 4);
     field.closeVendorViewPopover();
@@ -170,34 +223,35 @@ TEST_F(VendorFieldModelTest, SelectsTheDevicesChoiceWhenThePopoverIsShown)
     storeDevice(u"en0"_s, {{record::vendor, u"Sam (000003)"_s}});
     choice.setVendorSelectionForDevice(u"en0"_s);
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
-    field.showVendorViewPopover();
+    open();
     EXPECT_EQ(field.state().selectedRow, 3);
 }
 
 TEST_F(VendorFieldModelTest, KeepsItsSelectionAndItsFilterWhileThePopoverIsClosed)
 {
-    field.controlTextDidChange(u"app"_s);
+    type(u"app"_s);
     field.tableViewShouldSelectRow(1);
     field.closeVendorViewPopover();
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
-    field.showVendorViewPopover();
+    open();
     EXPECT_EQ(field.rowCount(), 2);
     EXPECT_EQ(field.state().selectedRow, 1);
 }
 
 TEST_F(VendorFieldModelTest, HasLostASelectionThatWasFilteredAway)
 {
-    field.controlTextDidChange(u"s"_s);
+    type(u"s"_s);
     field.tableViewShouldSelectRow(0);
-    field.controlTextDidChange(u"a"_s);
+    type(u"a"_s);
     field.closeVendorViewPopover();
-    field.showVendorViewPopover();
-    field.controlTextDidChange({});
+    open();
+    type({});
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
 }
 
 TEST_F(VendorFieldModelTest, TellsTheWholeTextOfARow)
 {
+    open();
     EXPECT_EQ(field.rowText(2), "Random Address"_L1);
     EXPECT_EQ(field.rowToolTip(3), "Sam (000003)"_L1);
 }

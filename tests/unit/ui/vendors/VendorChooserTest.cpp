@@ -58,10 +58,12 @@ protected:
         makeLive(vendors);
         loadList();
     }
-    static void press(QWidget &widget, int key, const QString &typed = {})
+    // Both until a list that they open is there.
+    void press(QWidget &widget, int key, const QString &typed = {})
     {
         QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
         QCoreApplication::sendEvent(&widget, &down);
+        scheduler.runPending();
     }
     void type(const QString &typed)
     {
@@ -70,7 +72,7 @@ protected:
             press(*text, Qt::Key_unknown, QString(character));
         }
     }
-    static void click(QWidget &widget, const QPoint &place)
+    void click(QWidget &widget, const QPoint &place)
     {
         QMouseEvent down(QEvent::MouseButtonPress, place, widget.mapToGlobal(place), Qt::LeftButton,
             Qt::LeftButton, Qt::NoModifier);
@@ -78,6 +80,7 @@ protected:
         QMouseEvent up(QEvent::MouseButtonRelease, place, widget.mapToGlobal(place), Qt::LeftButton,
             Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&widget, &up);
+        scheduler.runPending();
     }
     QStringList rows() const
     {
@@ -288,6 +291,34 @@ TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
     type(u"a"_s);
     click(window, QPoint(4, window.height() - 4));
     EXPECT_FALSE(table->isVisible());
+}
+
+TEST_F(VendorChooserTest, HidingTheWindowClosesTheListAndItsMemory)
+{
+    for (int time = 0; time < 2; ++time) {
+        click(*toggle, toggle->rect().center());
+        ASSERT_TRUE(list.isInMemory());
+        window.hide();
+        EXPECT_FALSE(list.isInMemory());
+        window.show();
+        EXPECT_FALSE(table->isVisible());
+    }
+}
+
+TEST_F(VendorChooserTest, TheOpenedListHasTheChoiceInTheMiddle)
+{
+    offer(registryOf(400));
+    storeDevice(device, {{record::vendor, u"Maker 0000C8 (0000C8)"_s}});
+    choice.setVendorSelectionForDevice(device);
+    for (int time = 0; time < 2; ++time) {
+        click(*toggle, toggle->rect().center());
+        ASSERT_TRUE(table->currentIndex().isValid());
+        const int middle = table->visualRect(table->currentIndex()).center().y();
+        const int height = table->viewport()->height();
+        EXPECT_GT(middle, height / 3);
+        EXPECT_LT(middle, height * 2 / 3);
+        click(*toggle, toggle->rect().center());
+    }
 }
 
 TEST_F(VendorChooserTest, TheButtonInTheFieldOpensAndClosesAndSaysWhich)
