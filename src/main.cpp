@@ -60,9 +60,8 @@ UserInterface::Models modelsOf(Features &features)
 
 int main(int argc, char **argv)
 {
-    FontConfigurationPreload fontConfiguration;
     QApplication application(argc, argv);
-    const WindowPreload windowPreload(fontConfiguration);
+    WindowPreload windowPreload;
     describe(application);
 
     SessionInstance instance;
@@ -94,6 +93,8 @@ int main(int argc, char **argv)
     launch.awakeFromNib();
     launch.applicationWillFinishLaunching();
     launch.applicationDidFinishLaunching();
+    // From now on another start may bring a token, which goes into the environment.
+    windowPreload.wait();
     const int code = application.exec();
     launch.applicationWillTerminate();
     desktop.shutDown();

@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/desktop/Preload.h"
 
+#include "base/Log.h"
+
 #include <QBuffer>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QImageReader>
 
-#include <dlfcn.h>
+#include <system_error>
 
 namespace quillon {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,33 +26,34 @@ void readVectorImage()
     QImageReader(&buffer, "svg").read();
 }
 
+bool windowsWriteTheEnvironment()
+{
+    return qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN") &&
+           QGuiApplication::platformName().startsWith("wayland"_L1);
+}
+
 } // namespace
 
-FontConfigurationPreload::FontConfigurationPreload()
+WindowPreload::WindowPreload()
 {
-    // Qt has brought the library along, and no other is wanted. FcInit may be called from any
-    // thread and more than once.
-    using Initialize = int (*)();
-    const auto initialize = reinterpret_cast<Initialize>(dlsym(RTLD_DEFAULT, "FcInit"));
-    if (initialize != nullptr) {
-        m_thread = std::jthread([initialize] { initialize(); });
+    if (windowsWriteTheEnvironment()) {
+        return;
+    }
+    try {
+        m_thread = std::jthread([] {
+            QFontDatabase::families();
+            readVectorImage();
+        });
+    } catch (const std::system_error &error) {
+        qCDebug(logPlatform, "nothing is read beforehand: %s", error.what());
     }
 }
 
-void FontConfigurationPreload::wait()
+void WindowPreload::wait()
 {
     if (m_thread.joinable()) {
         m_thread.join();
     }
-}
-
-WindowPreload::WindowPreload(FontConfigurationPreload &fontConfiguration)
-    : m_thread([&fontConfiguration] {
-        fontConfiguration.wait();
-        QFontDatabase::families();
-        readVectorImage();
-    })
-{
 }
 
 } // namespace quillon

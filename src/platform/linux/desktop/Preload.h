@@ -6,29 +6,21 @@
 
 namespace quillon {
 
-// What Qt reads on the main thread before the first window, read beforehand on threads of their
-// own: a good part of the time until there is a window. Only speed depends on it: who comes too
-// early waits for the reading, or reads himself.
-
-/// Reads the system's font configuration while Qt connects to the display. To be made first in
-/// main(); its end waits for the reading. Without fontconfig nothing happens.
-class FontConfigurationPreload
-{
-public:
-    FontConfigurationPreload();
-    /// The configuration has been read. One thread.
-    void wait();
-
-private:
-    std::jthread m_thread;
-};
-
-/// Then, as soon as there is a QGuiApplication: Qt's list of fonts and its reader of vector images.
-/// Lives less long than both.
+/// Reads the system's font configuration, Qt's list of fonts and its reader of vector images
+/// beforehand on a thread of its own: a good part of the time until there is a window. Only speed
+/// depends on it: who comes too early waits for the reading, and without a thread to be had the
+/// first window reads.
+///
+/// Reading the configuration asks for environment variables, which must not be written meanwhile.
+/// So it begins after QGuiApplication has been made, which takes the startup id of X11 out; it does
+/// not begin when the first window will take a token of Wayland out; and wait() comes before
+/// anything else is written. Lives less long than the QGuiApplication. Main thread.
 class WindowPreload
 {
 public:
-    explicit WindowPreload(FontConfigurationPreload &fontConfiguration);
+    WindowPreload();
+    /// What was begun has been read.
+    void wait();
 
 private:
     std::jthread m_thread;
