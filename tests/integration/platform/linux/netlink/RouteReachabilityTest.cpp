@@ -5,7 +5,6 @@
 #include "integration/platform/linux/Commands.h"
 #include "integration/platform/linux/Waiting.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -160,7 +159,7 @@ TEST_F(RouteReachabilityWays, ThroughATunnelWhoseDriverKnowsNoState)
     EXPECT_TRUE(becomesReachable()) << "operational state unknown, carrier there";
 }
 
-TEST_F(RouteReachabilityWays, IsAnsweredAtOnceAmongManyRoutes)
+TEST_F(RouteReachabilityWays, IsNotFoundAmongManyOtherRoutes)
 {
     QByteArray batch;
     for (int i = 0; i < 20'000; ++i) {
@@ -168,10 +167,9 @@ TEST_F(RouteReachabilityWays, IsAnsweredAtOnceAmongManyRoutes)
                  ".0/24 via 192.0.2.1\n";
     }
     command(u"ip -batch -"_s, batch);
-    QElapsedTimer timer;
-    timer.start();
     EXPECT_FALSE(isReachable());
-    EXPECT_LT(timer.elapsed(), 1000);
+    ip("route add default via 192.0.2.1");
+    EXPECT_TRUE(becomesReachable());
 }
 
 } // namespace quillon::test

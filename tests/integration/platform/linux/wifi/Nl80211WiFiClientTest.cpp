@@ -6,7 +6,6 @@
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/linux/wifi/Nl80211Socket.h"
 
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -60,15 +59,12 @@ int isRefusedSilently(quint32 protocol, int error)
 
 } // namespace
 
-TEST(Nl80211WiFiClient, AnswersAtOnceAndSilentlyWhereThereIsNoRadio)
+TEST(Nl80211WiFiClient, AnswersSilentlyWhereThereIsNoRadio)
 {
     const LogCapture log;
-    QElapsedTimer timer;
-    timer.start();
     // A new network namespace holds no radio, whatever the machine has.
     const auto wifi = Nl80211WiFiClient().firstInterface();
     EXPECT_EQ(wifi, std::nullopt);
-    EXPECT_LT(timer.elapsed(), 500);
     EXPECT_EQ(LogCapture::taken(), QStringList());
 }
 
