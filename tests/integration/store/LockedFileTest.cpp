@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <fstream>
+#include <string>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -16,18 +18,33 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// The calling thread's state, for another one: it waits for time to pass.
+class Sleeper
+{
+public:
+    bool sleeps() const
+    {
+        std::ifstream file(m_path);
+        std::string place;
+        return std::getline(file, place) && place.find("nanosleep") != std::string::npos;
+    }
+
+private:
+    const std::string m_path = "/proc/self/task/" + std::to_string(::gettid()) + "/wchan";
+};
+
 /// Another process that holds the file locked against writers, from the end of the constructor
-/// until it is released, or for `period`.
+/// until it is released.
 class LockHolder
 {
 public:
-    explicit LockHolder(const QString &path, std::chrono::milliseconds period = 1h)
+    explicit LockHolder(const QString &path)
     {
         int ready[2] = {};
         EXPECT_EQ(::pipe(ready), 0);
         m_process = ::fork();
         if (m_process == 0) {
-            hold(path, ready[1], period);
+            hold(path, ready[1]);
         }
         ::close(ready[1]);
         char answer = 0;
@@ -48,14 +65,13 @@ public:
     }
 
 private:
-    [[noreturn]] static void hold(const QString &path, int ready, std::chrono::milliseconds period)
+    [[noreturn]] static void hold(const QString &path, int ready)
     {
         SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
         database.exec("BEGIN EXCLUSIVE");
         if (::write(ready, "!", 1) == 1) {
-            std::this_thread::sleep_for(period);
+            std::this_thread::sleep_for(1h);
         }
-        database.exec("ROLLBACK");
         std::_Exit(0);
     }
 
@@ -120,10 +136,17 @@ TEST_F(LockedFile, ReadingGoesOnMeanwhile)
 
 TEST_F(LockedFile, ASaveWaitsForAShortLock)
 {
-    const LockHolder holder(path, 300ms);
+    LockHolder holder(path);
     open();
     test::Batches batches(context());
     batches.change(2);
+    const Sleeper saving;
+    const std::jthread releasing([&](const std::stop_token &saved) {
+        while (!saving.sleeps() && !saved.stop_requested()) {
+            std::this_thread::yield();
+        }
+        holder.release();
+    });
     const auto error = context().save();
     EXPECT_FALSE(error.has_value()) << error->message.toStdString();
     test::expectBatch(path, 2);
