@@ -130,6 +130,17 @@ TEST_F(VendorChooserTest, TheListIsInMemoryOnlyWhileItIsShown)
     }
 }
 
+TEST_F(VendorChooserTest, LooksDisabledWhereThereIsNoInterfaceToChooseFor)
+{
+    other->setFocus();
+    const QImage enabled = text->grab().toImage();
+    settings.set(keys::currentInterfaceDict, QVariantMap());
+    choice.updateVendorField({});
+    ASSERT_FALSE(text->isEnabled());
+    EXPECT_NE(text->grab().toImage().pixelColor(text->rect().center()),
+        enabled.pixelColor(text->rect().center()));
+}
+
 TEST_F(VendorChooserTest, TypingOpensTheListOnWhatBeginsSo)
 {
     type(u"app"_s);
