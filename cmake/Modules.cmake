@@ -47,8 +47,6 @@ function(quillon_test name)
     target_include_directories(${name} PRIVATE
         "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/tests" "${PROJECT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ${TEST_USES} quillon_test_main)
-    target_compile_definitions(${name} PRIVATE
-        QUILLON_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" QUILLON_BUILD="${PROJECT_BINARY_DIR}")
     quillon_precompiled(${name} quillon_test_main ${QUILLON_TEST_HEADERS})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     if(TEST_SANDBOX)

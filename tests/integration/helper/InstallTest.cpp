@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Places.h"
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
@@ -248,7 +249,7 @@ protected:
     void SetUp() override
     {
         InstallTest::SetUp();
-        const auto files = std::string{QUILLON_BUILD} + "/data/helper/packaged/";
+        const auto files = quillon::test::buildFolder().toStdString() + "/data/helper/packaged/";
         outputOf("for folder in /usr/libexec /usr/lib/systemd/system; do mount -t tmpfs -o "
                  "mode=0755 none $folder; done;"
                  "install -D " +

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the real helper refuses, one class of mistakes after another, asked by users who have no
 // rights ("mallory") or who have ("quillon").
+#include "Places.h"
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/FakePolkit.h"
@@ -233,9 +234,10 @@ TEST_F(RefusalTest, takesTheRealPromptAwayWhenItsCallerVanishes)
     // A person who never answers sits in front of this process, and with it in front of its
     // clients.
     outputOf("rm -f /etc/polkit-1/rules.d/10-sandbox.rules /tmp/agent.log /tmp/agent.ready");
-    const auto agent =
-        std::string{QUILLON_TEST_DATA} + "/../../tools/sandbox.d/sandbox-polkit-agent --pid " +
-        std::to_string(getpid()) + " --log /tmp/agent.log --ready /tmp/agent.ready hang";
+    const auto agent = quillon::test::testData().toStdString() +
+                       "/../../tools/sandbox.d/sandbox-polkit-agent --pid " +
+                       std::to_string(getpid()) +
+                       " --log /tmp/agent.log --ready /tmp/agent.ready hang";
     outputOf(agent + " >/tmp/agent.out 2>&1 & ");
     ASSERT_TRUE(waitUntil([] { return test::run("test -e /tmp/agent.ready").exitCode == 0; }));
     auto caller = std::make_unique<BusClient>("mallory");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "integration/helper/Sandbox.h"
 
+#include "Places.h"
 #include "contract/Validation.h"
 
 #include <gtest/gtest.h>
@@ -79,7 +80,7 @@ std::vector<std::string> installedThings()
 
 std::string builtTool()
 {
-    return std::string{QUILLON_BUILD} + "/helper/Quillon4HelperTool";
+    return quillon::test::buildFolder().toStdString() + "/helper/Quillon4HelperTool";
 }
 
 void startAsTheUnit(const std::string &activation, const std::string &unit)

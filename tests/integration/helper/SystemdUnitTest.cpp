@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The service manager's restrictions are narrow, but leave the helper what it needs.
+#include "Places.h"
 #include "contract/Names.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/RawBus.h"
@@ -86,7 +87,8 @@ TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
 
 TEST_F(SystemdUnitTest, ofThePackageChangesAddresses)
 {
-    const auto unit = std::string{QUILLON_BUILD} + "/data/helper/packaged/quillon4-helper.service";
+    const auto unit = quillon::test::buildFolder().toStdString() +
+                      "/data/helper/packaged/quillon4-helper.service";
     // The package's unit, with the program where this sandbox has it.
     outputOf("sed 's|^ExecStart=.*|ExecStart=" + std::string{test::installedTool} + "|' " + unit +
              " >/tmp/unit");

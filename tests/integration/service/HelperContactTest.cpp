@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Places.h"
 #include "contract/Names.h"
 #include "integration/platform/linux/Waiting.h"
 #include "integration/platform/linux/bus/FakePeer.h"
@@ -7,7 +8,6 @@
 #include "platform/linux/GetrandomSource.h"
 #include "platform/linux/bus/DBusHelperLink.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -26,7 +26,7 @@ protected:
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, session.address());
         environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, system.address());
         program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(QUILLON_BUILD "/service/quillon-xpc-service"), QStringList());
+        program.start(buildFolder() + u"/service/quillon-xpc-service"_s, QStringList());
         ASSERT_TRUE(eventually([this] {
             return ours.interface()
                 ->isServiceRegistered(QLatin1String(contract::serviceName))
@@ -120,10 +120,9 @@ TEST_F(HelperContact, AnAnswerThatIsNoTextIsNone)
 TEST_F(HelperContact, AHelperThatHangsIsGivenUpBeforeTheProgramGivesUpTheService)
 {
     helperIs([](const QDBusMessage &) { return QDBusMessage(); });
-    QElapsedTimer time;
-    time.start();
+    static_assert(contract::helperStartLimit < contract::answerLimit);
+    // Else it is an error of the connection, which fails the test.
     EXPECT_FALSE(endpoint());
-    EXPECT_LT(time.elapsed(), contract::answerLimit);
 }
 
 TEST_F(HelperContact, TheSixtyFifthRequestThatWaitsIsRefusedAndTheOthersAreAnswered)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Places.h"
 #include "contract/Names.h"
 #include "integration/helper/Introspection.h"
 #include "integration/platform/linux/Commands.h"
@@ -21,7 +22,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString build = QStringLiteral(QUILLON_BUILD);
+const QString build = buildFolder();
 const QString installedTool = u"/usr/local/libexec/quillon4/Quillon4HelperTool"_s;
 
 /// What one call to the service came to.
@@ -141,10 +142,10 @@ protected:
     {
         const QString ready = u"/tmp/agent-ready"_s;
         QFile::remove(ready);
-        agent = std::make_unique<Running>(
-            QStringLiteral(QUILLON_SOURCE "/tools/sandbox.d/sandbox-polkit-agent"),
-            QStringList{u"--pid"_s, QString::number(serviceProcess()), u"--log"_s, prompts,
-                u"--ready"_s, ready, QLatin1String(answer)});
+        agent =
+            std::make_unique<Running>(testData() + u"/../../tools/sandbox.d/sandbox-polkit-agent"_s,
+                QStringList{u"--pid"_s, QString::number(serviceProcess()), u"--log"_s, prompts,
+                    u"--ready"_s, ready, QLatin1String(answer)});
         ASSERT_TRUE(eventually([&] { return QFile::exists(ready); }))
             << agent->output().toStdString();
     }

@@ -3,6 +3,7 @@
 #include "devices/DeviceTable.h"
 
 #include "DeviceFixture.h"
+#include "Places.h"
 #include "fakes/FakeCommandRunner.h"
 #include "platform/textual/TextualHost.h"
 
@@ -199,8 +200,8 @@ class DeviceTableOfATextualHost : public DeviceFixture
 protected:
     DeviceTableOfATextualHost()
     {
-        QFile ports(QStringLiteral(QUILLON_TEST_DATA "/commands/listallhardwareports.txt"));
-        QFile query(QStringLiteral(QUILLON_TEST_DATA "/commands/ifconfig-en0.txt"));
+        QFile ports(testData() + u"/commands/listallhardwareports.txt"_s);
+        QFile query(testData() + u"/commands/ifconfig-en0.txt"_s);
         EXPECT_TRUE(ports.open(QIODevice::ReadOnly) && query.open(QIODevice::ReadOnly));
         commands.teach(list, QString::fromUtf8(ports.readAll()));
         commands.teach(u"ifconfig en0"_s, QString::fromUtf8(query.readAll()));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Places.h"
 #include "unit/rules/RuleFixture.h"
 
 #include <QFile>
@@ -228,7 +229,7 @@ Situation situationIn(const QStringList &columns)
 
 TEST_F(DecisionTableTest, FollowsTheTable)
 {
-    QFile file(QStringLiteral(QUILLON_TEST_DATA "/rules/decision.txt"));
+    QFile file(testData() + u"/rules/decision.txt"_s);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
     QTextStream stream(&file);
     int cases = 0;

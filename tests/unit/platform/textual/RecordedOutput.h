@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Places.h"
+
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -10,7 +12,7 @@ namespace quillon::test {
 /// What a command printed, from tests/data/commands.
 inline QString recordedOutput(const QString &name)
 {
-    QFile file(QStringLiteral(QUILLON_TEST_DATA "/commands/") + name);
+    QFile file(testData() + QStringLiteral("/commands/") + name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
     return QString::fromUtf8(file.readAll());
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Places.h"
 #include "integration/platform/linux/Waiting.h"
 
 #include <QFile>
@@ -32,7 +33,7 @@ public:
         writeRules();
         QFile::remove(path("ready"));
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(QStringLiteral(QUILLON_TEST_DATA "/../../tools/sandbox.d/sandbox-web"),
+        m_process.start(testData() + QStringLiteral("/../../tools/sandbox.d/sandbox-web"),
             {QStringLiteral("--rules"), path("rules"), QStringLiteral("--log"), path("log"),
                 QStringLiteral("--ready"), path("ready")});
         EXPECT_TRUE(eventually([this] { return QFile::exists(path("ready")); }));

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Places.h"
 #include "netlink/NetlinkAnswer.h"
 #include "platform/linux/wifi/WiFiReading.h"
 #include "wifi/Nl80211Capture.h"
@@ -66,7 +67,7 @@ private:
 
 std::vector<Recorded> recorded(const QString &name)
 {
-    QFile file(QStringLiteral(QUILLON_TEST_DATA "/wifi/") + name);
+    QFile file(testData() + u"/wifi/"_s + name);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
     const auto capture = Nl80211Capture::fromText(file.readAll());
     std::vector<Recorded> answers;
@@ -116,7 +117,7 @@ std::optional<WiFiInterface> wholeReading(const std::vector<Recorded> &answers)
 TEST(DamagedWiFi, AnswersCutAtEveryLengthAreReadAsFarAsTheyGo)
 {
     Effect effect;
-    const auto names = QDir(QStringLiteral(QUILLON_TEST_DATA "/wifi")).entryList(QDir::Files);
+    const auto names = QDir(testData() + u"/wifi"_s).entryList(QDir::Files);
     ASSERT_GE(names.size(), 14);
     for (const QString &name : names) {
         const std::vector<Recorded> answers = recorded(name);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/wifi/WiFiReading.h"
 
+#include "Places.h"
 #include "wifi/Nl80211Capture.h"
 
 #include <QFile>
@@ -20,7 +21,7 @@ using Table = Nl80211Request::Table;
 
 std::optional<WiFiInterface> reading(const char *name)
 {
-    QFile file(QStringLiteral(QUILLON_TEST_DATA "/wifi/%1.nl80211").arg(QLatin1String(name)));
+    QFile file(testData() + u"/wifi/%1.nl80211"_s.arg(QLatin1String(name)));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     auto capture = Nl80211Capture::fromText(file.readAll());
     EXPECT_TRUE(capture) << name;
