@@ -187,6 +187,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
 TEST_P(OutsideTextTest, IsShownAsItIsInToolTips)
 {
     features().vendors.field.showVendorViewPopover();
+    machine.scheduler.runPending();
     features().vendors.field.showText(written);
     QCoreApplication::processEvents();
     auto *field = part<QLineEdit>("vendorTextfield");
