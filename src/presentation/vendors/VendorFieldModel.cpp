@@ -49,7 +49,7 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
         showVendorViewPopover();
         Q_EMIT listEntered();
         m_firstRowWanted = true;
-        chooseFirstRowWanted();
+        selectFirstRowIfEntered();
         break;
     case Command::Other:
         break;
@@ -57,7 +57,7 @@ bool VendorFieldModel::controlDoCommandBySelector(Command command)
     return false;
 }
 
-void VendorFieldModel::chooseFirstRowWanted()
+void VendorFieldModel::selectFirstRowIfEntered()
 {
     // The first row of a list that is still being read is another one.
     if (!m_list.isRead() || !std::exchange(m_firstRowWanted, false)) {
@@ -181,7 +181,7 @@ void VendorFieldModel::rearrange()
         Q_EMIT openedAtChoice();
     }
     m_opensAtChoice = false;
-    chooseFirstRowWanted();
+    selectFirstRowIfEntered();
 }
 
 } // namespace quillon

@@ -94,7 +94,7 @@ Q_SIGNALS:
 
 private:
     void selectRow(qsizetype row);
-    void chooseFirstRowWanted();
+    void selectFirstRowIfEntered();
     std::optional<qsizetype> selectedRow() const;
 
     VendorChoice &m_choice;
