@@ -8,6 +8,7 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "vendors/NullMarker.h"
+#include "vendors/VendorFileWriting.h"
 
 #include <QFile>
 
@@ -27,17 +28,21 @@ VendorCount::VendorCount(SettingsStore &settings, Scheduler &scheduler, const Ve
 void VendorCount::createSupportFolderAndVendorDatabase()
 {
     makeFolder(m_files.folder);
-    const QString live = m_files.liveDatabase();
-    if (!m_files.seed.isEmpty() && !QFile::exists(live)) {
-        removeCompanions(live);
-        if (QFile::copy(m_files.seed, live)) {
-            // A package may install the original for reading only; a refresh writes over the copy.
-            QFile::setPermissions(
-                live, QFile::permissions(live) | QFile::ReadOwner | QFile::WriteOwner);
-        }
-    }
+    installSeed();
     Q_EMIT firstCountBegun();
     updateVendorCount();
+}
+
+void VendorCount::installSeed()
+{
+    const QString live = m_files.liveDatabase();
+    if (m_files.seed.isEmpty() || QFile::exists(live)) {
+        return;
+    }
+    QFile seed(m_files.seed);
+    if (seed.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        VendorFileWriting::makeFrom(seed, live, VendorFileWriting::TimeOfChange::Now);
+    }
 }
 
 void VendorCount::updateVendorCount()

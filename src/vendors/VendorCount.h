@@ -41,6 +41,7 @@ Q_SIGNALS:
     void counted(qlonglong count);
 
 private:
+    void installSeed();
     void onMain(std::function<void(VendorCount &)> report);
 
     SettingsStore &m_settings;

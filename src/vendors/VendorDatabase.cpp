@@ -191,7 +191,9 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
         return Rewriting::Failed;
     }
     if (!isThere) {
-        return VendorFileWriting::makeFrom(fresh, path) ? Rewriting::Done : Rewriting::Failed;
+        const bool isMade =
+            VendorFileWriting::makeFrom(fresh, path, VendorFileWriting::TimeOfChange::OfTheSource);
+        return isMade ? Rewriting::Done : Rewriting::Failed;
     }
     VendorFileWriting live(path);
     if (live.isLockedByAnother()) {

@@ -23,16 +23,20 @@ namespace {
 
 constexpr qint64 pieceSize = qint64{1024} * 1024;
 
+using TimeOfChange = VendorFileWriting::TimeOfChange;
+
 /// The copied bytes have arrived on the disk.
-bool copyWhole(QFile &source, QFile &target)
+bool copyWhole(QFile &source, QFile &target, TimeOfChange time = TimeOfChange::OfTheSource)
 {
     QByteArray piece(pieceSize, Qt::Uninitialized);
     for (;;) {
         const qint64 size = source.read(piece.data(), piece.size());
         if (size == 0) {
             // The time tells when the content became what it is.
-            target.setFileTime(source.fileTime(QFileDevice::FileModificationTime),
-                QFileDevice::FileModificationTime);
+            if (time == TimeOfChange::OfTheSource) {
+                target.setFileTime(source.fileTime(QFileDevice::FileModificationTime),
+                    QFileDevice::FileModificationTime);
+            }
             return fsync(target.handle()) == 0;
         }
         if (size < 0 || target.write(piece.constData(), size) != size) {
@@ -149,11 +153,11 @@ bool VendorFileWriting::keepCopy(const QString &place)
     return true;
 }
 
-bool VendorFileWriting::makeFrom(QFile &source, const QString &path)
+bool VendorFileWriting::makeFrom(QFile &source, const QString &path, TimeOfChange time)
 {
     QFile copy(copyBeside(path));
     const bool isCopied =
-        copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && copyWhole(source, copy);
+        copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && copyWhole(source, copy, time);
     if (!isCopied) {
         qCWarning(logVendors, "Vendor database not made: %s", qUtf8Printable(copy.errorString()));
         copy.remove();

@@ -34,9 +34,13 @@ public:
     bool copyTo(const QString &place);
     /// Gives the copy that was made beside `place` that name, atomically.
     static bool keepCopy(const QString &place);
-    /// Makes a file that is missing at `path`, atomically: the content of `source`, with its time
-    /// of change, on the disk.
-    static bool makeFrom(QFile &source, const QString &path);
+    enum class TimeOfChange
+    {
+        OfTheSource,
+        Now
+    };
+    /// Makes a file that is missing at `path`, atomically: the content of `source`, on the disk.
+    static bool makeFrom(QFile &source, const QString &path, TimeOfChange time);
     /// Writes the content of `source` over the file, with its time of change, and waits for the
     /// disk.
     bool rewriteFrom(QFile &source);

@@ -60,6 +60,27 @@ TEST_F(VendorCountTest, InstallsAReadOnlySeedSoThatItCanBeRefreshed)
     EXPECT_TRUE(QFile::permissions(files.liveDatabase()).testFlag(QFile::WriteOwner));
 }
 
+TEST_F(VendorCountTest, InstallsASeedThatBecomesTheLiveDatabaseNow)
+{
+    makeDatabase(files.seed, registryOf(12));
+    QFile seed(files.seed);
+    ASSERT_TRUE(seed.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        seed.setFileTime(QDateTime::fromSecsSinceEpoch(1), QFileDevice::FileModificationTime));
+    seed.close();
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_GT(QFileInfo(files.liveDatabase()).lastModified(), QDateTime::fromSecsSinceEpoch(1));
+}
+
+TEST_F(VendorCountTest, InstallsTheSeedOverACopyThatWasCutShort)
+{
+    makeDatabase(files.seed, registryOf(12));
+    writeFile(files.liveDatabase() + u".new"_s, "SQLite form");
+    count.createSupportFolderAndVendorDatabase();
+    EXPECT_EQ(settings.getInteger(keys::vendorCountValue), 12);
+    EXPECT_FALSE(QFile::exists(files.liveDatabase() + u".new"_s));
+}
+
 TEST_F(VendorCountTest, AreThoseOfTheSeedThoughALogOfAnEarlierDatabaseIsLeft)
 {
     makeDatabase(files.seed, registryOf(12));
