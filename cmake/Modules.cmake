@@ -15,6 +15,8 @@ function(quillon_precompiled target owner)
         target_precompile_headers(${target} PRIVATE ${ARGN})
     else()
         target_precompile_headers(${target} REUSE_FROM ${owner})
+        # The owner is a library; a program is compiled with -fPIE, unless Qt asks for more.
+        target_compile_options(${target} PRIVATE -fPIC)
     endif()
 endfunction()
 
