@@ -24,7 +24,9 @@ QByteArray number(quint32 value)
 
 QByteArray member(quint32 id)
 {
-    const nexthop_grp entry{.id = id, .weight = 0, .resvd1 = 0, .resvd2 = 0};
+    // Newer kernels have found use for the reserved fields.
+    nexthop_grp entry{};
+    entry.id = id;
     return {reinterpret_cast<const char *>(&entry), sizeof entry};
 }
 
