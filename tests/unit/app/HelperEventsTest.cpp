@@ -83,6 +83,24 @@ TEST_F(HelperEventsTest, AnUpdatedHelperIsAskedForItsVersion)
     EXPECT_TRUE(window().fieldEnabled);
 }
 
+TEST_F(HelperEventsTest, WhatFailedForWantOfAHelperIsCarriedOutOnceItIsFound)
+{
+    insertRule(randomOnce(enp1s0, u"once"_s));
+    removeHelper();
+    machine.host.at(enp1s0).ipv4 = QStringList(u"192.0.2.77"_s);
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(std::chrono::minutes(1));
+    ASSERT_FALSE(isChanged(enp1s0));
+
+    machine.helper.installed = true;
+    deliverHelperUpdated();
+    machine.scheduler.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(isChanged(enp1s0));
+    deliverHelperUpdated();
+    machine.scheduler.advance(std::chrono::hours(2));
+    EXPECT_EQ(machine.helper.changes().size(), 1);
+}
+
 TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
 {
     machine.distributed.deliver(notifications::helperUpdated, u"somebody.else"_s);
