@@ -2,32 +2,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """tools/check-layers finds what it is there to find, and nothing else."""
 import os
-import subprocess
-import tempfile
 import unittest
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.realpath(__file__))))
+from SourceCheck import SourceCheckTest
 
 
-class CheckLayersTest(unittest.TestCase):
+class CheckLayersTest(SourceCheckTest):
+    check = "check-layers"
+
     def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.addCleanup(self.folder.cleanup)
+        super().setUp()
         self.write("src/base/Error.h", "#include <QString>")
-
-    def write(self, path, *lines):
-        path = os.path.join(self.folder.name, path)
-        os.makedirs(os.path.dirname(path), exist_ok=True)
-        with open(path, "w") as file:
-            file.write("\n".join(lines) + "\n")
-
-    def problems(self):
-        result = subprocess.run([os.path.join(ROOT, "tools/check-layers"), self.folder.name],
-                                text=True, capture_output=True, stdin=subprocess.DEVNULL)
-        self.assertEqual(result.stderr, "")
-        lines = result.stdout.splitlines()
-        self.assertEqual(result.returncode, 1 if lines else 0)
-        return lines
 
     def assert_only_problem(self, start):
         problems = self.problems()

@@ -1,12 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """tools/check-plain-text finds the places that let Qt guess what a text is, and nothing else."""
-import os
-import subprocess
-import tempfile
 import unittest
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.realpath(__file__))))
+from SourceCheck import SourceCheckTest
 
 GUESSING = """\
 field->setToolTip(name);
@@ -46,34 +43,27 @@ addAction(action);
 """
 
 
-class CheckPlainTextTest(unittest.TestCase):
-    def problems(self, path, text):
-        with tempfile.TemporaryDirectory() as folder:
-            path = os.path.join(folder, path)
-            os.makedirs(os.path.dirname(path))
-            with open(path, "w") as file:
-                file.write(text + "\n")
-            result = subprocess.run([os.path.join(ROOT, "tools/check-plain-text"), folder],
-                                    text=True, capture_output=True, stdin=subprocess.DEVNULL)
-        self.assertEqual(result.stderr, "")
-        lines = result.stdout.splitlines()
-        self.assertEqual(result.returncode, 1 if lines else 0)
-        return lines
+class CheckPlainTextTest(SourceCheckTest):
+    check = "check-plain-text"
+
+    def problems_of(self, path, text):
+        self.write(path, text)
+        return self.problems()
 
     def test_tells_of_each_place_that_lets_qt_guess(self):
         for line in GUESSING.splitlines():
-            self.assertEqual(len(self.problems("src/ui/Page.cpp", line.replace("\\n", "\n"))), 1, line)
+            self.assertEqual(len(self.problems_of("src/ui/Page.cpp", line.replace("\\n", "\n"))), 1, line)
 
     def test_allows_what_cannot_be_anything_but_text(self):
         for line in PLAIN.splitlines():
-            self.assertEqual(self.problems("src/ui/Page.cpp", line.replace("\\n", "\n")), [], line)
+            self.assertEqual(self.problems_of("src/ui/Page.cpp", line.replace("\\n", "\n")), [], line)
 
     def test_says_where(self):
-        self.assertEqual(self.problems("src/ui/Page.cpp", "// One\n/* Two\n*/\nsetStatusTip(name);"),
+        self.assertEqual(self.problems_of("src/ui/Page.cpp", "// One\n/* Two\n*/\nsetStatusTip(name);"),
                          ["src/ui/Page.cpp:4: setStatusTip(: there is no plain form of it"])
 
     def test_refuses_a_folder_without_sources(self):
-        self.assertEqual(len(self.problems("src/notes.txt", "setStatusTip(name);")), 1)
+        self.assertEqual(len(self.problems_of("src/notes.txt", "setStatusTip(name);")), 1)
 
 
 if __name__ == "__main__":
