@@ -108,6 +108,14 @@ protected:
         return connection;
     }
 
+    /// Its invalidations are counted in `invalidated`.
+    std::shared_ptr<HelperToolConnection> watchedHelper()
+    {
+        auto connection = helper();
+        connection->setInvalidationHandler([this] { ++invalidated; });
+        return connection;
+    }
+
     std::shared_ptr<XPCServiceConnection> service()
     {
         QDBusConnection(peerBus).registerService(QLatin1String(contract::serviceName));
@@ -130,11 +138,46 @@ protected:
         EXPECT_TRUE(outcome.onMainThread);
     }
 
+    Outcome versionFrom(HelperToolConnection &connection)
+    {
+        Outcome outcome;
+        connection.getVersionWithReply(outcome.version(), outcome.failed());
+        EXPECT_FALSE(outcome.ended()) << "not before the call returns";
+        expectEndedOnce(outcome);
+        return outcome;
+    }
+
+    Outcome uninstalled()
+    {
+        Outcome outcome;
+        const auto connection = helper();
+        connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
+        expectEndedOnce(outcome);
+        return outcome;
+    }
+
+    Outcome endpointFromService()
+    {
+        Outcome outcome;
+        const auto connection = service();
+        connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
+        expectEndedOnce(outcome);
+        return outcome;
+    }
+
+    // The peer has got the question, which is open.
+    void askVersion(HelperToolConnection &connection, const FakePeer &peer, Outcome &outcome)
+    {
+        connection.getVersionWithReply(outcome.version(), outcome.failed());
+        ASSERT_TRUE(eventually([&] { return peer.calls.size() == 1; }));
+    }
+
     PrivateBus bus;
     QDBusConnection ourBus = bus.connect();
     QString peerBus = bus.open();
     GetrandomSource random;
     DBusHelperLink link{random, ourBus, ourBus};
+    int invalidated = 0;
 };
 
 TEST_F(DBusHelperLinkTest, AnAuthorizationIsThirtyTwoFreshBytes)
@@ -157,12 +200,7 @@ TEST_F(DBusHelperLinkTest, WithoutRandomBytesThereIsNoAuthorization)
 TEST_F(DBusHelperLinkTest, TheVersionComesInALaterTurn)
 {
     FakePeer peer = peerWith(saying({u"2.0"_s}));
-    Outcome outcome;
-    const auto connection = helper();
-    connection->getVersionWithReply(outcome.version(), outcome.failed());
-    EXPECT_FALSE(outcome.ended()) << "not before the call returns";
-    expectEndedOnce(outcome);
-    EXPECT_EQ(outcome.text, u"2.0"_s);
+    EXPECT_EQ(versionFrom(*helper()).text, u"2.0"_s);
 }
 
 TEST_F(DBusHelperLinkTest, AChangeTravelsAsTheContractSays)
@@ -187,10 +225,7 @@ TEST_F(DBusHelperLinkTest, AnErrorOfTheContractIsTheOperationsOwn)
 {
     for (const contract::ErrorName &name : contract::allErrors) {
         FakePeer peer = peerWith(refusing(name.name));
-        Outcome outcome;
-        const auto connection = helper();
-        connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
-        expectEndedOnce(outcome);
+        const Outcome outcome = uninstalled();
         EXPECT_EQ(outcome.replies, 1) << name.name;
         ASSERT_TRUE(outcome.error);
         EXPECT_EQ(outcome.error->domain, QLatin1String(name.name));
@@ -203,10 +238,7 @@ TEST_F(DBusHelperLinkTest, AnyOtherErrorIsOneOfTheConnection)
     for (const char *name : {"org.freedesktop.DBus.Error.AccessDenied",
              "org.freedesktop.DBus.Error.UnknownMethod", "com.orvandel.Quillon4.Error.Invented"}) {
         FakePeer peer = peerWith(refusing(name));
-        Outcome outcome;
-        const auto connection = helper();
-        connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
-        expectEndedOnce(outcome);
+        const Outcome outcome = uninstalled();
         EXPECT_EQ(outcome.failures, 1) << name;
         EXPECT_EQ(outcome.error->domain, QLatin1String(name));
         EXPECT_EQ(outcome.error->code, 0);
@@ -216,10 +248,7 @@ TEST_F(DBusHelperLinkTest, AnyOtherErrorIsOneOfTheConnection)
 TEST_F(DBusHelperLinkTest, AnErrorInsteadOfAVersionIsAFailure)
 {
     FakePeer peer = peerWith(refusing(contract::error::tooManyRequests.name));
-    Outcome outcome;
-    const auto connection = helper();
-    connection->getVersionWithReply(outcome.version(), outcome.failed());
-    expectEndedOnce(outcome);
+    const Outcome outcome = versionFrom(*helper());
     EXPECT_EQ(outcome.failures, 1);
     EXPECT_EQ(outcome.error->code, contract::error::tooManyRequests.code);
 }
@@ -229,17 +258,11 @@ TEST_F(DBusHelperLinkTest, AnswersOfAnotherShapeAreFailures)
     for (const QVariantList &answer : {QVariantList{}, QVariantList{1}, QVariantList{QString()},
              QVariantList{u"2.0"_s, u"more"_s}, QVariantList{QString(10'000'000, u'2')}}) {
         FakePeer peer = peerWith(saying(answer));
-        Outcome outcome;
-        const auto connection = helper();
-        connection->getVersionWithReply(outcome.version(), outcome.failed());
-        expectEndedOnce(outcome);
+        const Outcome outcome = versionFrom(*helper());
         EXPECT_EQ(outcome.failures, 1) << answer.size();
     }
     FakePeer peer = peerWith(saying({u"yes"_s}));
-    Outcome outcome;
-    const auto connection = helper();
-    connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
-    expectEndedOnce(outcome);
+    const Outcome outcome = uninstalled();
     EXPECT_EQ(outcome.failures, 1);
 }
 
@@ -249,10 +272,7 @@ TEST_F(DBusHelperLinkTest, AHugeErrorTextIsCut)
         return call.createErrorReply(
             QLatin1String(contract::error::changeFailed.name), QString(10'000'000, u'x'));
     });
-    Outcome outcome;
-    const auto connection = helper();
-    connection->uninstallWithAuthorizationAndReply(bytes32, outcome.reply(), outcome.failed());
-    expectEndedOnce(outcome);
+    const Outcome outcome = uninstalled();
     EXPECT_LE(outcome.error->message.size(), 1000);
 }
 
@@ -276,7 +296,6 @@ TEST_F(DBusHelperLinkTest, APeerThatVanishesEndsItsCallsAndInvalidatesOnce)
     FakePeer peer = peerWith(silence);
     Outcome first;
     Outcome second;
-    int invalidated = 0;
     const auto connection = helper();
     bool endedBefore = false;
     connection->setInvalidationHandler([&] {
@@ -294,11 +313,7 @@ TEST_F(DBusHelperLinkTest, APeerThatVanishesEndsItsCallsAndInvalidatesOnce)
     EXPECT_TRUE(eventually([&] { return invalidated == 1; }));
     EXPECT_TRUE(endedBefore);
 
-    Outcome later;
-    connection->getVersionWithReply(later.version(), later.failed());
-    EXPECT_FALSE(later.ended());
-    expectEndedOnce(later);
-    EXPECT_EQ(later.failures, 1);
+    EXPECT_EQ(versionFrom(*connection).failures, 1);
     EXPECT_EQ(invalidated, 1);
 }
 
@@ -306,11 +321,8 @@ TEST_F(DBusHelperLinkTest, ADepartureThatAStrangerTellsOfIsNotBelieved)
 {
     FakePeer peer = peerWith(silence);
     Outcome outcome;
-    int invalidated = 0;
-    const auto connection = helper();
-    connection->setInvalidationHandler([&] { ++invalidated; });
-    connection->getVersionWithReply(outcome.version(), outcome.failed());
-    ASSERT_TRUE(eventually([&] { return peer.calls.size() == 1; }));
+    const auto connection = watchedHelper();
+    ASSERT_NO_FATAL_FAILURE(askVersion(*connection, peer, outcome));
 
     // Anybody can send a signal straight to us; only its sender tells that it is not the bus's.
     QDBusConnection stranger = bus.connect();
@@ -336,9 +348,7 @@ TEST_F(DBusHelperLinkTest, AnAnswerBeforeThePeerLeavesStillCounts)
     // As a helper that removes itself: it answers and is gone.
     FakePeer peer = peerWith(success);
     Outcome outcome;
-    int invalidated = 0;
-    const auto connection = helper();
-    connection->setInvalidationHandler([&] { ++invalidated; });
+    const auto connection = watchedHelper();
     connection->uninstallWithAuthorizationAndReply(
         bytes32,
         [&](const std::optional<Error> &error) {
@@ -356,8 +366,7 @@ TEST_F(DBusHelperLinkTest, AnEndpointThatIsGoneAlreadyIsInvalidated)
     const QString endpoint = QDBusConnection(peerBus).baseService();
     bus.drop(peerBus);
     const auto connection = link.connectToListenerEndpoint(endpoint);
-    int invalidated = 0;
-    connection->setInvalidationHandler([&] { ++invalidated; });
+    connection->setInvalidationHandler([this] { ++invalidated; });
     connection->resume();
     EXPECT_TRUE(eventually([&] { return invalidated == 1; }));
 }
@@ -368,7 +377,7 @@ TEST_F(DBusHelperLinkTest, OnlyAUniqueNameIsAnEndpoint)
     QDBusConnection(peerBus).registerService(u"com.example.Elsewhere"_s);
     for (const QString &endpoint :
         {u"com.example.Elsewhere"_s, QString(), u":"_s, u"not a name"_s, QString(10'000, u':')}) {
-        int invalidated = 0;
+        invalidated = 0;
         Outcome outcome;
         const auto connection = link.connectToListenerEndpoint(endpoint);
         connection->setInvalidationHandler([&] { ++invalidated; });
@@ -396,12 +405,7 @@ TEST_F(DBusHelperLinkTest, ADroppedConnectionStillEndsItsCallsButIsSilent)
 {
     FakePeer peer = peerWith(silence);
     Outcome outcome;
-    int invalidated = 0;
-    {
-        const auto connection = helper();
-        connection->setInvalidationHandler([&] { ++invalidated; });
-        connection->getVersionWithReply(outcome.version(), outcome.failed());
-    }
+    watchedHelper()->getVersionWithReply(outcome.version(), outcome.failed());
     ASSERT_TRUE(eventually([&] { return peer.calls.size() == 1; }));
     bus.drop(peerBus);
     expectEndedOnce(outcome);
@@ -413,11 +417,8 @@ TEST_F(DBusHelperLinkTest, TheBusItselfMayGo)
 {
     FakePeer peer = peerWith(silence);
     Outcome outcome;
-    int invalidated = 0;
-    const auto connection = helper();
-    connection->setInvalidationHandler([&] { ++invalidated; });
-    connection->getVersionWithReply(outcome.version(), outcome.failed());
-    ASSERT_TRUE(eventually([&] { return peer.calls.size() == 1; }));
+    const auto connection = watchedHelper();
+    ASSERT_NO_FATAL_FAILURE(askVersion(*connection, peer, outcome));
     bus.stop();
     expectEndedOnce(outcome);
     EXPECT_EQ(outcome.failures, 1);
@@ -435,10 +436,7 @@ TEST_F(DBusHelperLinkTest, TheBusItselfMayGo)
 TEST_F(DBusHelperLinkTest, TheServiceGivesEndpointAndAuthorization)
 {
     FakePeer peer(peerBus, contract::service::path, saying({u":1.42"_s, bytes32}));
-    Outcome outcome;
-    const auto connection = service();
-    connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
-    expectEndedOnce(outcome);
+    const Outcome outcome = endpointFromService();
     EXPECT_EQ(outcome.endpoint, u":1.42"_s);
     EXPECT_EQ(outcome.authorization, bytes32);
 }
@@ -446,10 +444,7 @@ TEST_F(DBusHelperLinkTest, TheServiceGivesEndpointAndAuthorization)
 TEST_F(DBusHelperLinkTest, AnEmptyEndpointIsNone)
 {
     FakePeer peer(peerBus, contract::service::path, saying({QString(), bytes32}));
-    Outcome outcome;
-    const auto connection = service();
-    connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
-    expectEndedOnce(outcome);
+    const Outcome outcome = endpointFromService();
     EXPECT_EQ(outcome.replies, 1);
     EXPECT_FALSE(outcome.endpoint);
 }
@@ -462,10 +457,7 @@ TEST_F(DBusHelperLinkTest, AServiceThatAnswersSomethingElseFails)
              QVariantList{u":1.42"_s, QByteArray(10'000'000, '\7')},
              QVariantList{u':' + QString(10'000'000, u'1'), bytes32}}) {
         FakePeer peer(peerBus, contract::service::path, saying(answer));
-        Outcome outcome;
-        const auto connection = service();
-        connection->connectWithEndpointAndAuthorizationReply(outcome.connected(), outcome.failed());
-        expectEndedOnce(outcome);
+        const Outcome outcome = endpointFromService();
         EXPECT_EQ(outcome.failures, 1) << answer.size();
     }
 }
