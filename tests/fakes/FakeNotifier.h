@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <mutex>
+#include <ostream>
 
 namespace quillon::test {
 
@@ -20,6 +21,11 @@ public:
         QString body;
 
         bool operator==(const Message &) const = default;
+        /// Lets a failing expectation show it.
+        friend void PrintTo(const Message &message, std::ostream *out)
+        {
+            *out << message.title.toStdString() << ": " << message.body.toStdString();
+        }
     };
 
     void sendNotificationWithBody(const QString &title, const QString &body) override

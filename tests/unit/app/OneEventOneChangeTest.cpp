@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unit/rules/RuleFixture.h"
+#include "unit/rules/VisitFixture.h"
 
 using namespace std::chrono_literals;
 
@@ -9,45 +9,17 @@ namespace quillon::test {
 using namespace Qt::StringLiterals;
 namespace {
 
-inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
-{
-    *out << message.title.toStdString() << ": " << message.body.toStdString();
-}
-
 /// An interface gets its network, the rule changes the address, and the change makes news itself:
 /// the link goes and comes, leases are lost and given. None of it may change the address again.
-class OneEventOneChangeTest : public RuleFixture
+class OneEventOneChangeTest : public VisitFixture
 {
 protected:
-    OneEventOneChangeTest()
-    {
-        addRule({.name = u"once"_s});
-        addRule({.name = u"once"_s, .device = en1});
-        helper.changeTakes = 500ms;
-    }
     /// The event: the interface is given a lease. The change is under way afterwards.
     void plugIn(const QString &device)
     {
-        giveLease(device);
-        networkEvent();
+        news(device);
         ASSERT_EQ(changesOf(device).size(), 1);
     }
-    void linkGoes(const QString &device)
-    {
-        host.at(device).active = false;
-        host.at(device).ipv4.clear();
-        reachability.reachable = false;
-        networkEvent();
-    }
-    void linkComes(const QString &device)
-    {
-        host.at(device).active = true;
-        networkEvent();
-        giveLease(device);
-        reachability.reachable = true;
-        networkEvent();
-    }
-    void pass(std::chrono::milliseconds time) { scheduler.advance(time); }
 };
 
 TEST_F(OneEventOneChangeTest, MakesOneChangeWhenItIsReportedBeforeTheAnswer)
@@ -116,22 +88,20 @@ TEST_F(OneEventOneChangeTest, MakesOneChangeHoweverLateAnotherLeaseComes)
     plugIn(en0);
     for (const auto wait : {100ms, 1000ms, 60'000ms, 3'600'000ms}) {
         pass(wait);
-        giveLease(en0);
-        networkEvent();
+        news(en0);
     }
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
 TEST_F(OneEventOneChangeTest, MakesOneChangeOfTheWifiInterfaceThatLeavesItsNetworkForIt)
 {
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     plugIn(en1);
     radio.leave();
     linkGoes(en1);
     EXPECT_EQ(hasRule(en1), QVariant(0));
     reachability.reachable = true;
-    giveLease(en1);
-    networkEvent();
+    news(en1);
     pass(1s);
     joinWifi(u"Home"_s, u"02:00:00:00:aa:99"_s);
     linkComes(en1);
@@ -170,8 +140,7 @@ TEST_F(OneEventOneChangeTest, DoesNotFeedItselfWhateverEachChangeBringsAbout)
             pass(pace);
             linkComes(en0);
             pass(pace);
-            giveLease(en0);
-            networkEvent();
+            news(en0);
         }
         EXPECT_EQ(helper.changes().size() - before, 1) << pace.count();
     }
@@ -196,8 +165,7 @@ TEST_F(OneEventOneChangeTest, ThatFailsIsNotTriedAgainByItsOwnNews)
     helper.mood = FakeHelper::Mood::Refusing;
     plugIn(en0);
     pass(1s);
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
@@ -256,13 +224,13 @@ TEST_F(OneEventOneChangeUntil, OfAPlugThatWasPutElsewhereWhileTheMachineSleptIsC
 
 TEST_F(OneEventOneChangeUntil, OfAPlugIsSeenAlsoWhenAnotherInterfaceIsTheOneEvaluated)
 {
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     plugInAndSettle(en1);
     giveLease(en0);
     radio.leave();
     linkGoes(en1);
     pass(11s);
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     linkComes(en1);
     EXPECT_EQ(changesOf(en1).size(), 2);
 }
@@ -281,27 +249,25 @@ TEST_F(OneEventOneChangeUntil, OfAnInterfaceThatWasTakenAwayAndPutBackIsCarriedO
 
 TEST_F(OneEventOneChangeUntil, OfAnotherWifiNetworkIsCarriedOutThoughTheLinkWasNeverSeenToGo)
 {
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     plugInAndSettle(en1);
     joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
-    giveLease(en1);
-    networkEvent();
+    news(en1);
     EXPECT_EQ(changesOf(en1).size(), 2);
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
-    giveLease(en1);
-    networkEvent();
+    joinHome();
+    news(en1);
     EXPECT_EQ(changesOf(en1).size(), 3);
 }
 
 TEST_F(OneEventOneChangeUntil, OfAWifiNetworkSeenWhileTheInternetWasAwayEndsTheStay)
 {
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     plugInAndSettle(en1);
     joinWifi(u"Office"_s, u"02:00:00:00:cc:01"_s);
     giveLease(en1);
     reachability.reachable = false;
     networkEvent();
-    joinWifi(u"Home"_s, u"02:00:00:00:aa:01"_s);
+    joinHome();
     giveLease(en1);
     reachability.reachable = true;
     networkEvent();
@@ -314,25 +280,21 @@ TEST_F(OneEventOneChangeUntil, AfterTheRuleWasEditedIsCarriedOut)
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
         rule.setName(u"renamed"_s);
     }
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     EXPECT_EQ(changesOf(en0).size(), 1) << "under another name it is the same rule";
     for (const Rule &rule : queries.managedRuleArrayForDevice(en0)) {
         rule.setVendor(u"Maker (3C22FB)"_s);
     }
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     EXPECT_EQ(changesOf(en0).size(), 2);
 }
 
 TEST_F(OneEventOneChangeUntil, ThatFindsTheInternetWhereItWasMissingIsCarriedOut)
 {
     reachability.reachable = false;
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     reachability.reachable = true;
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
@@ -351,11 +313,9 @@ TEST_F(OneEventOneChangeUntil, OfARuleThatRepeatsRestartsItsCountdownAndEachCoun
         rule.setChangeAction(Rule::every);
         rule.setTimerMins(5);
     }
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     pass(3min);
-    giveLease(en0);
-    networkEvent();
+    news(en0);
     pass(3min);
     EXPECT_TRUE(helper.changes().isEmpty());
     pass(2min);

@@ -17,12 +17,6 @@
 
 namespace quillon::test {
 
-inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
-{
-    PrintTo(message.title, out);
-    PrintTo(message.body, out);
-}
-
 /// The whole road of a change, with a helper that keeps its addresses on the machine. en1, the
 /// Wi-Fi device, is selected.
 class AddressChangeFixture : public DeviceFixture

@@ -27,12 +27,6 @@
 
 namespace quillon::test {
 
-inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
-{
-    PrintTo(message.title, out);
-    PrintTo(message.body, out);
-}
-
 /// Gives what was put into it, then other bytes every time.
 class CountingRandomSource : public FakeRandomSource
 {

@@ -30,6 +30,20 @@ protected:
         news(en0);
         EXPECT_EQ(changes(en0), done) << "done is done";
     }
+    /// During that the helper is in `mood`; afterwards it obliges.
+    void newsInMood(FakeHelper::Mood mood)
+    {
+        helper.mood = mood;
+        news(en0);
+        helper.mood = FakeHelper::Mood::Obliging;
+    }
+    void newsEvery(std::chrono::milliseconds period, int times)
+    {
+        for (int time = 0; time < times; ++time) {
+            news(en0);
+            pass(period);
+        }
+    }
 };
 
 TEST_F(VisitFailure, BecauseThereIsNoHelperIsTriedAgain)
@@ -102,17 +116,11 @@ TEST_F(VisitFailure, ToTellThatItSucceededIsDone)
 TEST_F(VisitFailure, IsTriedEverMoreRarelyOnOneVisit)
 {
     helper.mood = FakeHelper::Mood::Refusing;
-    const auto newsFor = [this](std::chrono::minutes time) {
-        for (std::chrono::minutes passed{0}; passed < time; passed += 2min) {
-            news(en0);
-            pass(2min);
-        }
-    };
-    newsFor(20min);
+    newsEvery(2min, 10);
     EXPECT_EQ(changes(en0), 4) << "after 2, 4 and 9 minutes";
-    newsFor(40min);
+    newsEvery(2min, 20);
     EXPECT_EQ(changes(en0), 5) << "after 24";
-    newsFor(60min);
+    newsEvery(2min, 30);
     EXPECT_EQ(changes(en0), 6) << "an hour later";
     linkGoes(en0);
     linkComes(en0);
@@ -122,10 +130,7 @@ TEST_F(VisitFailure, IsTriedEverMoreRarelyOnOneVisit)
 TEST_F(VisitFailure, IsNotTriedAgainWithoutNews)
 {
     helper.mood = FakeHelper::Mood::Refusing;
-    for (int time = 0; time < 4; ++time) {
-        news(en0);
-        pass(20min);
-    }
+    newsEvery(20min, 4);
     const qsizetype tries = changes(en0);
     pass(3h);
     EXPECT_EQ(changes(en0), tries);
@@ -134,10 +139,7 @@ TEST_F(VisitFailure, IsNotTriedAgainWithoutNews)
 TEST_F(VisitFailure, IsTriedAgainOnceWhenTheHelperIsFound)
 {
     helper.installed = false;
-    for (int time = 0; time < 3; ++time) {
-        news(en0);
-        pass(6s);
-    }
+    newsEvery(6s, 3);
     helper.installed = true;
     ASSERT_EQ(host.addressOf(en0), factory);
     execution.helperWasFound();
@@ -166,10 +168,7 @@ TEST_F(VisitFailure, IsNotTriedAgainForTheHelperWhileTheInternetIsAway)
 TEST_F(VisitFailure, LeavesTheWithheldRuleOfAnotherVisitToItsOwnPause)
 {
     helper.mood = FakeHelper::Mood::Refusing;
-    for (int time = 0; time < 5; ++time) {
-        news(en0);
-        pass(20min);
-    }
+    newsEvery(20min, 5);
     news(en0); // put off for the greater part of an hour
     for (int time = 0; time < 4; ++time) {
         linkGoes(en0);
@@ -242,9 +241,7 @@ TEST_F(VisitFailure, WhileTheCableWasMovedIsTriedAgainAtOnce)
 
 TEST_F(VisitFailure, RightBeforeTheCableIsMovedIsTriedAgain)
 {
-    helper.mood = FakeHelper::Mood::Refusing;
-    news(en0);
-    helper.mood = FakeHelper::Mood::Obliging;
+    newsInMood(FakeHelper::Mood::Refusing);
     pass(600ms);
     linkGoes(en0);
     pass(1s);
@@ -266,9 +263,7 @@ TEST_F(VisitFailure, AtEachRestartOfTheLinkEnds)
 
 TEST_F(VisitFailure, LeavesTheAddressThatTheUserChoseSince)
 {
-    helper.mood = FakeHelper::Mood::Refusing;
-    news(en0);
-    helper.mood = FakeHelper::Mood::Obliging;
+    newsInMood(FakeHelper::Mood::Refusing);
     changer.updateMacAddressWithAddress(en0, fixedAddress);
     pass(10s);
     news(en0);
@@ -278,9 +273,7 @@ TEST_F(VisitFailure, LeavesTheAddressThatTheUserChoseSince)
 
 TEST_F(VisitFailure, AfterTheUserChoseAnAddressLeavesThat)
 {
-    helper.mood = FakeHelper::Mood::Hanging;
-    news(en0);
-    helper.mood = FakeHelper::Mood::Obliging;
+    newsInMood(FakeHelper::Mood::Hanging);
     changer.updateMacAddressWithAddress(en0, fixedAddress);
     pass(10s);
     helper.timeOut();
@@ -311,9 +304,7 @@ TEST_F(VisitFailure, AfterItsDeviceWentIsNoneOfTheNextVisit)
 TEST_F(VisitFailure, OnOneDeviceIsNothingToTheOther)
 {
     joinHome();
-    helper.mood = FakeHelper::Mood::Refusing;
-    news(en0);
-    helper.mood = FakeHelper::Mood::Obliging;
+    newsInMood(FakeHelper::Mood::Refusing);
     pass(10s);
     news(en1);
     pass(10s);

@@ -8,11 +8,6 @@
 
 namespace quillon::test {
 
-inline void PrintTo(const FakeNotifier::Message &message, std::ostream *out)
-{
-    *out << message.title.toStdString() << ": " << message.body.toStdString();
-}
-
 /// A rule that changes the address once for the wired interface and one for the Wi-Fi interface,
 /// and what happens to the two on their networks.
 class VisitFixture : public RuleFixture
