@@ -20,6 +20,15 @@ protected:
         return eventually([&] { return savedHistory(records).size() > before; });
     }
 
+    // The card has a link and nothing that leads to the internet.
+    void startWithRuleAndCable(int speed = 60)
+    {
+        ASSERT_TRUE(addRule(records, randomOnceRule(card)));
+        startProgram(speed);
+        plugCable();
+        settle();
+    }
+
     void expectOneChange()
     {
         const QString now = kernelAddress();
@@ -44,14 +53,20 @@ protected:
             program->messages(changedTitle), QStringList{u"Your new MAC Address is: "_s + now});
         EXPECT_EQ(program->messages(notChangedTitle), QStringList());
     }
+
+    // It comes, and no other comes after it.
+    void expectOneChangeSoon()
+    {
+        ASSERT_TRUE(changeIsRecorded());
+        letPass(2min);
+        settle();
+        expectOneChange();
+    }
 };
 
 TEST_F(PlugInTest, APluggedInterfaceThatReachesTheInternetChangesItsAddressOnceByItself)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     EXPECT_EQ(status(), u"active"_s);
     EXPECT_EQ(kernelAddress(), factoryAddress) << "nothing leads to the internet yet";
 
@@ -67,10 +82,7 @@ TEST_F(PlugInTest, APluggedInterfaceThatReachesTheInternetChangesItsAddressOnceB
 
 TEST_F(PlugInTest, WithoutAWayToTheInternetOnlyTheStatusIsUpdated)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     giveLease(false);
     settle();
     letPass(5min);
@@ -87,11 +99,8 @@ TEST_F(PlugInTest, WithoutAWayToTheInternetOnlyTheStatusIsUpdated)
 
 TEST_F(PlugInTest, ALinkThatGoesDownWithTheChangeDoesNotCauseTheNextOne)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
     // Slow enough that the cable is back while the program still expects it, within a minute.
-    startProgram(2);
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable(2));
     // As a card whose driver takes the link down for a new address: when the helper answers it has
     // gone, and the program has heard of it.
     program->helperLink.whenAnswered = [this] {
@@ -114,10 +123,7 @@ TEST_F(PlugInTest, ALinkThatGoesDownWithTheChangeDoesNotCauseTheNextOne)
 
 TEST_F(PlugInTest, ANewStayIsANewChange)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     giveLease(true);
     ASSERT_TRUE(changeIsRecorded());
     const QString first = kernelAddress();
@@ -152,11 +158,8 @@ TEST_F(PlugInTest, ADisabledRuleChangesNothing)
 
 TEST_F(PlugInTest, OtherInterfacesAreLeftAlone)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
     const auto before = kernelAddresses();
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     giveLease(true);
     ASSERT_TRUE(changeIsRecorded());
     letPass(1min);
@@ -170,51 +173,33 @@ TEST_F(PlugInTest, OtherInterfacesAreLeftAlone)
 
 TEST_F(PlugInTest, ARouteThatComesAfterTheAddressHasBeenToldIsAnEventOfItsOwn)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     giveLease(false);
     settle();
     ASSERT_TRUE(program->helperLink.changes.isEmpty());
     administrator().run(u"ip route add default via 198.51.100.1 dev %1"_s.arg(card));
-    ASSERT_TRUE(changeIsRecorded());
-    letPass(2min);
-    settle();
-    expectOneChange();
+    expectOneChangeSoon();
 }
 
 TEST_F(PlugInTest, ANetworkOfIPv6AloneIsOneToo)
 {
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     administrator().run(u"ip -6 addr add 2001:db8::5/64 dev %1 nodad"_s.arg(card));
     settle();
     ASSERT_TRUE(program->helperLink.changes.isEmpty());
     administrator().run(u"ip -6 route add default via 2001:db8::1 dev %1"_s.arg(card));
-    ASSERT_TRUE(changeIsRecorded());
-    letPass(2min);
-    settle();
-    expectOneChange();
+    expectOneChangeSoon();
 }
 
 TEST_F(PlugInTest, ARouteOfAnInterfaceThatIsNoPortMakesUpForWhatWasMissing)
 {
     administrator().run(u"ip link add ifb7 type ifb && ip link set ifb7 up"_s);
-    ASSERT_TRUE(addRule(records, randomOnceRule(card)));
-    startProgram();
-    plugCable();
-    settle();
+    ASSERT_NO_FATAL_FAILURE(startWithRuleAndCable());
     giveLease(false);
     settle();
     ASSERT_TRUE(program->helperLink.changes.isEmpty());
     administrator().run(u"ip route add default dev ifb7"_s);
-    EXPECT_TRUE(changeIsRecorded());
-    letPass(2min);
-    settle();
-    expectOneChange();
+    expectOneChangeSoon();
     administrator().run(u"ip link del ifb7"_s);
 }
 
