@@ -25,6 +25,15 @@ protected:
         machine.networkChanges.networkChanges();
     }
 
+    /// The first check of the rules comes half a second after the event.
+    void startWithAnEvent()
+    {
+        create();
+        start();
+        machine.scheduler.advance(500ms);
+        giveLease(enp1s0, u"192.0.2.77"_s);
+    }
+
     const QString loginHelper = u"com.orvandel.Quillon4Helper"_s;
     const QString home = u"Home"_s;
 };
@@ -174,10 +183,7 @@ TEST_F(RuleFeatureTest, AnEventJustBeforeTheFirstCheckIsNotActedOnTwice)
 {
     machine.helper.changeTakes = 100ms;
     saveRule(randomOnce(enp1s0, home));
-    create();
-    start();
-    machine.scheduler.advance(500ms);
-    giveLease(enp1s0, u"192.0.2.77"_s);
+    startWithAnEvent();
     machine.scheduler.advance(400ms);
     ASSERT_EQ(machine.helper.changes().size(), 1);
     machine.scheduler.advance(1min);
@@ -188,10 +194,7 @@ TEST_F(RuleFeatureTest, AnEventDuringWhichTheFirstCheckComesIsNotActedOnTwice)
 {
     machine.helper.changeTakes = 800ms;
     saveRule(randomOnce(enp1s0, home));
-    create();
-    start();
-    machine.scheduler.advance(500ms);
-    giveLease(enp1s0, u"192.0.2.77"_s);
+    startWithAnEvent();
     machine.scheduler.advance(1min);
     EXPECT_EQ(machine.helper.changes().size(), 1);
 }
@@ -205,10 +208,7 @@ TEST_F(RuleFeatureTest, AfterALoginRuleTheRuleOfTheNetworkHasTheLastWordAlsoAfte
     fixed[model::rule::address] = u"02:00:00:00:00:22"_s;
     saveRule(login);
     saveRule(fixed);
-    create();
-    start();
-    machine.scheduler.advance(500ms);
-    giveLease(enp1s0, u"192.0.2.77"_s);
+    startWithAnEvent();
     machine.scheduler.advance(1min);
     EXPECT_EQ(machine.helper.changes().size(), 3);
     EXPECT_EQ(machine.host.addressOf(enp1s0), u"02:00:00:00:00:22"_s);
