@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/netlink/KnownAddresses.h"
 
-#include "unit/netlink/NetlinkBytes.h"
+#include "unit/platform/linux/netlink/Repetition.h"
 
 #include <gtest/gtest.h>
 
@@ -34,10 +34,7 @@ bool isRepeated(KnownAddresses &known, const Address &address)
     bytes.message(address.type, header)
         .attribute(IFA_ADDRESS, address.octets)
         .attribute(IFA_FLAGS, QByteArray(reinterpret_cast<const char *>(&address.flags), 4));
-    bool repeated = false;
-    forEachMessage(
-        bytes.span(), [&](const nlmsghdr &message) { repeated = known.isRepeated(message); });
-    return repeated;
+    return lastIsRepeated(known, bytes);
 }
 
 } // namespace
@@ -87,10 +84,8 @@ TEST(KnownAddresses, NothingElseIsRepeated)
     }
     NetlinkBytes bytes;
     bytes.message(RTM_NEWADDR, char{});
-    forEachMessage(bytes.span(), [&](const nlmsghdr &message) {
-        EXPECT_FALSE(known.isRepeated(message)) << "shorter than its header";
-        EXPECT_FALSE(known.isRepeated(message));
-    });
+    EXPECT_FALSE(lastIsRepeated(known, bytes)) << "shorter than its header";
+    EXPECT_FALSE(lastIsRepeated(known, bytes));
 }
 
 } // namespace quillon::test

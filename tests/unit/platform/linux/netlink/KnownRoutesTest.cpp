@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/netlink/KnownRoutes.h"
 
-#include "unit/netlink/NetlinkBytes.h"
+#include "unit/platform/linux/netlink/Repetition.h"
 
 #include <gtest/gtest.h>
 
@@ -51,18 +51,14 @@ bool isRepeated(KnownRoutes &known, const Route &route)
         .attribute(RTA_NH_ID, number(route.object))
         .attribute(RTA_MULTIPATH, route.hops)
         .attribute(RTA_CACHEINFO, QByteArray(28, static_cast<char>(route.expires)));
-    bool repeated = false;
-    forEachMessage(
-        bytes.span(), [&](const nlmsghdr &message) { repeated = known.isRepeated(message); });
-    return repeated;
+    return lastIsRepeated(known, bytes);
 }
 
 void tell(KnownRoutes &known, quint16 type)
 {
     NetlinkBytes bytes;
     bytes.message(type, ifinfomsg{});
-    forEachMessage(bytes.span(),
-        [&](const nlmsghdr &message) { EXPECT_FALSE(known.isRepeated(message)) << type; });
+    EXPECT_FALSE(lastIsRepeated(known, bytes)) << type;
 }
 
 } // namespace
