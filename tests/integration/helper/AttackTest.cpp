@@ -20,22 +20,15 @@
 #include <thread>
 #include <unistd.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
-using test::BusClient;
-using test::FakePolkit;
-using test::kernelAddress;
-using test::outputOf;
-using test::RawBus;
-using test::waitUntil;
 using testing::AnyOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr char newAddress[] = "02:11:22:33:44:55";
 constexpr char log[] = "/tmp/helper.log";
 const std::string invalidAuthorization = contract::error::invalidAuthorization.name;
 const std::string tooManyRequests = contract::error::tooManyRequests.name;
@@ -61,16 +54,6 @@ protected:
         EXPECT_EQ(quillonLater.version(), contract::helperVersion);
     }
 
-    /// From now on the bus lets everything to everybody through.
-    static void openTheBus()
-    {
-        std::ofstream{"/etc/dbus-1/system.d/zz-open.conf"}
-            << "<!DOCTYPE busconfig PUBLIC '-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN' "
-               "'http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd'><busconfig>"
-               "<policy context='mandatory'><allow send_destination='*' eavesdrop='true'/>"
-               "</policy></busconfig>";
-        test::reloadBus();
-    }
     FakePolkit::Decision onlyFor(const BusClient &client)
     {
         return [name = client.uniqueName()](const FakePolkit::Question &question) {
@@ -119,6 +102,28 @@ protected:
             ++found;
         }
         return found;
+    }
+    static std::vector<std::unique_ptr<RawBus>> connectionsOfMallory(int number)
+    {
+        std::vector<std::unique_ptr<RawBus>> connections;
+        for (int i = 0; i < number; ++i) {
+            connections.push_back(std::make_unique<RawBus>("mallory"));
+        }
+        return connections;
+    }
+    /// Each of them asks for so many changes at once.
+    void flood(const std::vector<std::unique_ptr<RawBus>> &connections, int calls) const
+    {
+        for (const auto &bus : connections) {
+            for (int i = 0; i < calls; ++i) {
+                bus->send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
+                    contract::helper::interface, contract::helper::changeAddressOfDevice.name,
+                    [](sd_bus_message *message) {
+                        fillChange(message, "enp1s0", newAddress, someAuthorization());
+                    });
+            }
+            sd_bus_flush(bus->get());
+        }
     }
     static void fillChange(sd_bus_message *message, const char *device, const char *address,
         const std::vector<std::uint8_t> &authorization)
@@ -301,7 +306,7 @@ TEST_F(AttackTest, withAHugeAuthorizationIsRefusedAfterOneLook)
 TEST_F(AttackTest, withHugeTextsIsRefusedAndLogsLittle)
 {
     const std::string text(hugeSize, 'x');
-    const auto authorization = test::someAuthorization();
+    const auto authorization = someAuthorization();
     EXPECT_EQ(mallory.call(helper, contract::helper::path, contract::helper::interface,
                   contract::helper::changeAddressOfDevice.name,
                   [&](sd_bus_message *message) {
@@ -361,23 +366,11 @@ TEST_F(AttackTest, withSignalsIsKeptAwayByTheBus)
 TEST_F(AttackTest, withAllConnectionsOfAUserShutsNobodyElseOut)
 {
     FakePolkit polkit{onlyFor(quillon)};
-    std::vector<std::unique_ptr<RawBus>> flood;
-    for (int i = 0; i < 100; ++i) {
-        flood.push_back(std::make_unique<RawBus>("mallory"));
-    }
+    const auto connections = connectionsOfMallory(100);
     for (int i = 0; i < 49; ++i) {
-        for (const auto &bus : flood) {
-            for (int j = 0; j < 4; ++j) {
-                bus->send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
-                    contract::helper::interface, contract::helper::changeAddressOfDevice.name,
-                    [](sd_bus_message *message) {
-                        fillChange(message, "enp1s0", newAddress, test::someAuthorization());
-                    });
-            }
-            sd_bus_flush(bus->get());
-        }
+        flood(connections, 4);
         EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done) << i;
-        for (const auto &bus : flood) {
+        for (const auto &bus : connections) {
             bus->settle();
         }
     }
@@ -390,20 +383,8 @@ TEST_F(AttackTest, withThousandsOfCallsAtOnceIsAnsweredWhole)
     const auto daemon = quillonLater.processOf("org.freedesktop.DBus");
     const auto before = timeUsed(process);
     const auto busBefore = timeUsed(daemon);
-    std::vector<std::unique_ptr<RawBus>> flood;
-    for (int i = 0; i < 200; ++i) {
-        flood.push_back(std::make_unique<RawBus>("mallory"));
-    }
-    for (const auto &bus : flood) {
-        for (int j = 0; j < 60; ++j) {
-            bus->send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
-                contract::helper::interface, contract::helper::changeAddressOfDevice.name,
-                [](sd_bus_message *message) {
-                    fillChange(message, "enp1s0", newAddress, test::someAuthorization());
-                });
-        }
-        sd_bus_flush(bus->get());
-    }
+    const auto connections = connectionsOfMallory(200);
+    flood(connections, 60);
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
     const std::chrono::duration<double, std::milli> taken =
@@ -415,7 +396,7 @@ TEST_F(AttackTest, withThousandsOfCallsAtOnceIsAnsweredWhole)
     // All but the eight that polkit has not answered.
     std::size_t refused = 0;
     EXPECT_TRUE(waitUntil([&] {
-        for (const auto &bus : flood) {
+        for (const auto &bus : connections) {
             refused += bus->settle().size();
         }
         return refused == 200 * 60 - 8;
@@ -472,8 +453,8 @@ TEST_F(AttackTest, doesNotKeepTheHelperFromEndingWhenItIsToldTo)
         }
     }};
     kill(process, SIGTERM);
-    EXPECT_TRUE(waitUntil(
-        [this] { return test::run("test -e /proc/" + std::to_string(process)).exitCode; }));
+    EXPECT_TRUE(
+        waitUntil([this] { return run("test -e /proc/" + std::to_string(process)).exitCode; }));
     over = true;
     attack.join();
     EXPECT_EQ(quillon.version(), contract::helperVersion);
@@ -481,4 +462,4 @@ TEST_F(AttackTest, doesNotKeepTheHelperFromEndingWhenItIsToldTo)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

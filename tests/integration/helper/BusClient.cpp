@@ -17,6 +17,22 @@ using namespace std::chrono_literals;
 
 constexpr auto patience = 120s;
 
+/// The text of the reply that `call` returns, "done" for one without, or the name of its error.
+template <typename Call>
+std::string answerOf(Call call)
+{
+    try {
+        sdbus::MethodReply reply = call();
+        std::string text = BusClient::done;
+        if (!reply.isEmpty()) {
+            reply >> text;
+        }
+        return text;
+    } catch (const sdbus::Error &error) {
+        return error.getName();
+    }
+}
+
 } // namespace
 
 std::unique_ptr<sdbus::IConnection> connectAs(const std::string &user)
@@ -61,16 +77,7 @@ sdbus::MethodCall BusClient::callOf(const contract::Method &method)
 
 std::string BusClient::send(sdbus::MethodCall &call)
 {
-    try {
-        auto reply = m_helper->callMethod(call, patience);
-        std::string text = done;
-        if (!reply.isEmpty()) {
-            reply >> text;
-        }
-        return text;
-    } catch (const sdbus::Error &error) {
-        return error.getName();
-    }
+    return answerOf([&] { return m_helper->callMethod(call, patience); });
 }
 
 std::string BusClient::version()
@@ -104,17 +111,10 @@ std::string BusClient::call(const std::string &destination, const std::string &p
     const std::string &interface, const std::string &method)
 {
     const auto proxy = sdbus::createProxy(*m_connection, bus::Name{destination}, bus::Path{path});
-    try {
+    return answerOf([&] {
         const auto call = proxy->createMethodCall(bus::Interface{interface}, bus::Member{method});
-        auto reply = proxy->callMethod(call, patience);
-        std::string text = done;
-        if (!reply.isEmpty()) {
-            reply >> text;
-        }
-        return text;
-    } catch (const sdbus::Error &error) {
-        return error.getName();
-    }
+        return proxy->callMethod(call, patience);
+    });
 }
 
 void BusClient::changeLater(const std::string &device, const std::string &address)

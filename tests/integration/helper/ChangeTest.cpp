@@ -7,17 +7,12 @@
 
 #include <gmock/gmock.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
-using test::BusClient;
-using test::kernelAddress;
-using test::outputOf;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
-
-constexpr char newAddress[] = "02:11:22:33:44:55";
 
 /// Everything of the configuration that a person gave, without what the kernel makes of the
 /// address.
@@ -84,7 +79,7 @@ TEST_F(ChangeTest, ofAWiFiInterfacePutsAddressesAndRoutesBack)
         "ip -6 route add fd00:db8:4::/64 dev enp1s0 expires 4000;"
         "ip -6 route add default via fd00:db8::1 dev enp1s0 table 100");
     // Duplicate address detection of the sandbox's own address must be over: its state is shown.
-    ASSERT_TRUE(test::waitUntil([] {
+    ASSERT_TRUE(waitUntil([] {
         return outputOf("ip -6 addr show dev enp1s0").find("tentative") == std::string::npos;
     }));
     const auto before = configuration();
@@ -93,7 +88,7 @@ TEST_F(ChangeTest, ofAWiFiInterfacePutsAddressesAndRoutesBack)
     EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
 
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
-    ASSERT_TRUE(test::waitUntil([] {
+    ASSERT_TRUE(waitUntil([] {
         return outputOf("ip -6 addr show dev enp1s0").find("tentative") == std::string::npos;
     }));
     EXPECT_EQ(configuration(), before);
@@ -222,11 +217,11 @@ TEST_F(ChangeTest, ofManyAtOnceLeavesOneOfTheAddressesAndAllRoutes)
         }
     }
     for (const auto &client : clients) {
-        EXPECT_TRUE(test::waitUntil([&] { return client->answers()[BusClient::done] == 4; }));
+        EXPECT_TRUE(waitUntil([&] { return client->answers()[BusClient::done] == 4; }));
     }
     EXPECT_THAT(kernelAddress("enp1s0"), HasSubstr("02:00:00:00:0"));
     EXPECT_EQ(outputOf("ip route show dev enp1s0"), routes);
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

@@ -6,19 +6,17 @@
 
 #include <gtest/gtest.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
-
-using test::BusClient;
 
 TEST(ContractTest, isWhatTheHelperOffers)
 {
-    const auto documented = test::documentedMembersOf(contract::helper::interface);
+    const auto documented = documentedMembersOf(contract::helper::interface);
     EXPECT_EQ(documented.size(), 4U);
     const auto offered = BusClient{"root"}.call(contract::helperName, contract::helper::path,
         "org.freedesktop.DBus.Introspectable", "Introspect");
-    EXPECT_EQ(test::membersOf(contract::helper::interface, QByteArray::fromStdString(offered)),
-        documented);
+    EXPECT_EQ(
+        membersOf(contract::helper::interface, QByteArray::fromStdString(offered)), documented);
 }
 
 TEST(ContractTest, theVersionIsToldToEverybody)
@@ -36,4 +34,4 @@ TEST(ContractTest, theEndpointIsTheHelpersUniqueName)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

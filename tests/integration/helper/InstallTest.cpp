@@ -9,15 +9,9 @@
 
 #include <gmock/gmock.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
-using test::builtTool;
-using test::BusClient;
-using test::installedThings;
-using test::outputOf;
-using test::run;
-using test::waitUntil;
 using testing::Contains;
 using testing::HasSubstr;
 
@@ -43,6 +37,16 @@ protected:
             stranger.version();
             return run("test -e /proc/" + std::to_string(helper)).exitCode != 0;
         });
+    }
+
+    /// It ends with `exitCode` and says `text`; `things` are installed then.
+    static void expectOutcome(const std::string &command, int exitCode, const std::string &text,
+        const std::vector<std::string> &things)
+    {
+        const auto result = run(command);
+        EXPECT_EQ(result.exitCode, exitCode) << command;
+        EXPECT_THAT(result.output, HasSubstr(text)) << command;
+        EXPECT_EQ(installedThings(), things) << command;
     }
 
     std::vector<std::string> clean;
@@ -74,14 +78,14 @@ TEST_F(InstallTest, doesItsWorkWhateverBecomesOfItsOutput)
 {
     outputOf(builtTool() + " install");
     const auto installed = installedThings();
-    const auto content = outputOf(std::string{"cat "} + test::installedTool + " | sha256sum");
+    const auto content = outputOf(std::string{"cat "} + installedTool + " | sha256sum");
     for (const std::string &output :
         {std::string{"<&- >&- 2>&-"}, std::string{"2>&-"}, std::string{"2>&1 | true"}}) {
         outputOf(builtTool() + " uninstall");
         const auto result = run("bash -o pipefail -c '" + builtTool() + " install " + output + "'");
         EXPECT_EQ(result.exitCode, 0) << output;
         EXPECT_EQ(installedThings(), installed) << output;
-        EXPECT_EQ(outputOf(std::string{"cat "} + test::installedTool + " | sha256sum"), content);
+        EXPECT_EQ(outputOf(std::string{"cat "} + installedTool + " | sha256sum"), content);
     }
 }
 
@@ -101,7 +105,7 @@ TEST_F(InstallTest, overAnOlderOneTakesEffectWhileAStrangerKeepsAsking)
     BusClient stranger{"mallory"};
     for (const bool likeTheUnit : {false, true}) {
         if (likeTheUnit) {
-            test::startAsTheUnit("com.orvandel.Quillon4HelperTool.service",
+            startAsTheUnit("com.orvandel.Quillon4HelperTool.service",
                 "/etc/systemd/system/quillon4-helper.service");
         }
         ASSERT_EQ(stranger.version(), "2.0");
@@ -119,7 +123,7 @@ TEST_F(InstallTest, copiesTheProgramThatRunsAndNotWhatLiesInItsPlace)
     outputOf("cp " + builtTool() + " /tmp/tool");
     // The file is exchanged after the start: the shell holds the old one open and executes it.
     outputOf("exec 9</tmp/tool; rm /tmp/tool; echo evil >/tmp/tool; /proc/self/fd/9 install");
-    EXPECT_EQ(outputOf("cmp " + builtTool() + ' ' + test::installedTool), "");
+    EXPECT_EQ(outputOf("cmp " + builtTool() + ' ' + installedTool), "");
 }
 
 TEST_F(InstallTest, isRefusedToOrdinaryUsers)
@@ -193,11 +197,8 @@ TEST_F(InstallTest, refusesWhereSomebodyIsStaff)
              "sed -i 's/^\\(mallory:x:[0-9]*\\):[0-9]*/\\1:50/' /etc/passwd"}) {
         outputOf(membership);
         clean = installedThings();
-        const auto result = run(builtTool() + " install");
-        EXPECT_EQ(result.exitCode, 1);
-        EXPECT_THAT(
-            result.output, HasSubstr("/usr/local is writable by other users (the group staff)"));
-        EXPECT_EQ(installedThings(), clean);
+        expectOutcome(builtTool() + " install", 1,
+            "/usr/local is writable by other users (the group staff)", clean);
     }
 }
 
@@ -214,21 +215,16 @@ TEST_F(InstallTest, saysSoWhenItsUserCannotBeMade)
     outputOf("sed -i /^quillon4-helper:/d /etc/passwd; mount --bind /bin/false "
              "/usr/bin/systemd-sysusers");
     clean = installedThings();
-    const auto result = run(builtTool() + " install");
-    EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(result.output, HasSubstr("the system user quillon4-helper cannot be made"));
-    EXPECT_EQ(installedThings(), clean);
+    expectOutcome(
+        builtTool() + " install", 1, "the system user quillon4-helper cannot be made", clean);
 }
 
 TEST_F(InstallTest, onAReadOnlySystemSaysSoAndChangesNothing)
 {
     outputOf("mount -o remount,bind,ro /usr/share/polkit-1");
     clean = installedThings();
-    const auto result = run(builtTool() + " install");
-    EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(result.output,
-        HasSubstr("/usr/share/polkit-1/actions/com.orvandel.quillon4.policy.new: Read-only"));
-    EXPECT_EQ(installedThings(), clean);
+    expectOutcome(builtTool() + " install", 1,
+        "/usr/share/polkit-1/actions/com.orvandel.quillon4.policy.new: Read-only", clean);
 }
 
 TEST_F(InstallTest, thatCannotBeRemovedEntirelyStaysEntirely)
@@ -249,7 +245,7 @@ protected:
     void SetUp() override
     {
         InstallTest::SetUp();
-        const auto files = quillon::test::buildFolder().toStdString() + "/data/helper/packaged/";
+        const auto files = buildFolder().toStdString() + "/data/helper/packaged/";
         outputOf("for folder in /usr/libexec /usr/lib/systemd/system; do mount -t tmpfs -o "
                  "mode=0755 none $folder; done;"
                  "install -D " +
@@ -266,7 +262,7 @@ protected:
                  "com.orvandel.Quillon4HelperTool.service /usr/share/dbus-1/system-services/;"
                  "install -m 0644 " +
                  files + "com.orvandel.quillon4.policy /usr/share/polkit-1/actions/");
-        test::reloadBus();
+        reloadBus();
         packaged = installedThings();
     }
 
@@ -286,17 +282,14 @@ TEST_F(InstallTestWithPackage, isNeverRemovedByHand)
 {
     for (const auto &tool :
         {builtTool(), std::string{"/usr/libexec/quillon4/Quillon4HelperTool"}}) {
-        const auto result = run(tool + " uninstall");
-        EXPECT_EQ(result.exitCode, 1);
-        EXPECT_THAT(result.output, HasSubstr("remove that package"));
-        EXPECT_EQ(installedThings(), packaged);
+        expectOutcome(tool + " uninstall", 1, "remove that package", packaged);
     }
 }
 
 TEST_F(InstallTestWithPackage, removesNothingElseEither)
 {
     // Left from before the package came.
-    outputOf("install -D " + builtTool() + ' ' + test::installedTool);
+    outputOf("install -D " + builtTool() + ' ' + installedTool);
     const auto both = installedThings();
     EXPECT_EQ(BusClient{"root"}.uninstall(), contract::error::ownedByPackage.name);
     EXPECT_EQ(installedThings(), both);
@@ -304,10 +297,7 @@ TEST_F(InstallTestWithPackage, removesNothingElseEither)
 
 TEST_F(InstallTestWithPackage, needsNoInstallation)
 {
-    const auto result = run(builtTool() + " install");
-    EXPECT_EQ(result.exitCode, 0);
-    EXPECT_THAT(result.output, HasSubstr("package"));
-    EXPECT_EQ(installedThings(), packaged);
+    expectOutcome(builtTool() + " install", 0, "package", packaged);
 }
 
 TEST_F(InstallTestWithPackage, getsItsUserFromAnInstallation)
@@ -352,9 +342,9 @@ TEST_F(InstallTestBeforePackage, stepsAsideWhenItIsStarted)
 
 TEST_F(InstallTestBeforePackage, stepsAsideUnderTheUnitToo)
 {
-    test::startAsTheUnit(
+    startAsTheUnit(
         "com.orvandel.Quillon4HelperTool.service", "/etc/systemd/system/quillon4-helper.service");
-    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         "/etc/systemd/system/quillon4-helper-removal.service");
     BusClient quillon{"quillon"};
     EXPECT_EQ(quillon.version(), "2.0");
@@ -380,7 +370,7 @@ TEST_F(InstallTestBeforePackage, stepsAsideWhileAStrangerKeepsAsking)
 
 TEST_F(InstallTestBeforePackage, saysSoInTheLog)
 {
-    const auto result = run(std::string{"timeout 2 "} + test::installedTool);
+    const auto result = run(std::string{"timeout 2 "} + installedTool);
     EXPECT_THAT(result.output, HasSubstr("package has brought the helper"));
     EXPECT_EQ(installedThings(), packaged);
 }
@@ -389,10 +379,7 @@ TEST_F(InstallTestBeforePackage, isRemovedByAnInstallation)
 {
     for (const auto &tool :
         {std::string{"/usr/libexec/quillon4/Quillon4HelperTool"}, builtTool()}) {
-        const auto result = run(tool + " install");
-        EXPECT_EQ(result.exitCode, 0);
-        EXPECT_THAT(result.output, HasSubstr("package"));
-        EXPECT_EQ(installedThings(), packaged);
+        expectOutcome(tool + " install", 0, "package", packaged);
     }
     BusClient quillon{"quillon"};
     EXPECT_EQ(quillon.version(), "2.0");
@@ -400,4 +387,4 @@ TEST_F(InstallTestBeforePackage, isRemovedByAnInstallation)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

@@ -19,19 +19,11 @@
 #include <thread>
 #include <unistd.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
-using test::BusClient;
-using test::FakePolkit;
-using test::kernelAddress;
-using test::outputOf;
-using test::RawBus;
-using test::waitUntil;
 using testing::HasSubstr;
-
-constexpr char newAddress[] = "02:11:22:33:44:55";
 
 /// The daemon's class in this process, with an idle period that a test can wait for.
 class LifeTestInProcess : public testing::Test
@@ -166,7 +158,7 @@ TEST_F(LifeTestWithTime, servesWhatReachedItBeforeItsNameWasGoneThoughItIsStoppe
         caller.send(SD_BUS_MESSAGE_METHOD_CALL, contract::helperName, contract::helper::path,
             contract::helper::interface, contract::helper::changeAddressOfDevice.name,
             [](sd_bus_message *message) {
-                const auto bytes = test::someAuthorization();
+                const auto bytes = someAuthorization();
                 sd_bus_message_append(message, "ssb", "enp1s0", newAddress, 0);
                 sd_bus_message_append_array(message, 'y', bytes.data(), bytes.size());
             });
@@ -231,7 +223,7 @@ TEST_F(LifeTest, endsPolitelyWhenItIsAskedTo)
 TEST_F(LifeTest, holdsOneCapabilityAndCanGainNone)
 {
     // Without a service manager, as root; SystemdUnitTest starts it as the unit does.
-    outputOf(std::string{test::installedTool} + " >/tmp/helper.log 2>&1 &");
+    outputOf(std::string{installedTool} + " >/tmp/helper.log 2>&1 &");
     ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }));
     const auto status = outputOf(
         "cat /proc/" + std::to_string(quillon.processOf(contract::helperName)) + "/status");
@@ -242,7 +234,7 @@ TEST_F(LifeTest, holdsOneCapabilityAndCanGainNone)
         EXPECT_THAT(status, HasSubstr(std::string{set} + ":\t0000000000000000\n"));
     }
     EXPECT_THAT(status, HasSubstr("NoNewPrivs:\t1\n"));
-    const auto user = std::to_string(test::userId("quillon4-helper"));
+    const auto user = std::to_string(userId("quillon4-helper"));
     EXPECT_NE(user, "0");
     for (const char *kind : {"Uid", "Gid"}) {
         const auto id = '\t' + (kind == std::string{"Uid"} ? user : groupOf("quillon4-helper"));
@@ -254,7 +246,7 @@ TEST_F(LifeTest, holdsOneCapabilityAndCanGainNone)
 TEST_F(LifeTest, startsForNobodyWhenItsUserIsMissing)
 {
     outputOf("sed -i /^quillon4-helper:/d /etc/passwd");
-    const auto result = test::run(test::installedTool);
+    const auto result = run(installedTool);
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, HasSubstr("there is no system user quillon4-helper"));
 }
@@ -263,14 +255,14 @@ TEST_F(LifeTest, takesNoBusFromItsEnvironment)
 {
     outputOf("env DBUS_SYSTEM_BUS_ADDRESS=unix:path=/tmp/false-bus "
              "DBUS_STARTER_ADDRESS=unix:path=/tmp/false-bus " +
-             std::string{test::installedTool} + " >/tmp/helper.log 2>&1 &");
+             std::string{installedTool} + " >/tmp/helper.log 2>&1 &");
     ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }));
     EXPECT_EQ(quillon.version(), "2.0");
 }
 
 TEST_F(LifeTest, servesWhateverBecomesOfItsLog)
 {
-    const auto tool = std::string{test::installedTool};
+    const auto tool = std::string{installedTool};
     // Closed, without a reader, and with one who does not read what has filled the pipe.
     for (const std::string &command : {tool + " <&- >&- 2>&- &", tool + " 2>&1 >/dev/null | true &",
              "mkfifo /tmp/full; (exec 3<>/tmp/full; head -c 65536 /dev/zero >&3;" + tool +
@@ -305,4 +297,4 @@ TEST_F(LifeTest, startsNoOtherProcess)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

@@ -10,10 +10,9 @@
 
 #include <net/if.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
-using test::outputOf;
 using testing::HasSubstr;
 
 class LinkStackTestOnTop : public testing::Test
@@ -85,4 +84,4 @@ TEST_F(LinkStackTestOnTop, loseNothingToOneThatHasGone)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

@@ -11,7 +11,7 @@
 #include <chrono>
 #include <linux/rtnetlink.h>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
 using namespace std::chrono_literals;
@@ -55,4 +55,4 @@ TEST(PutBackPatienceTest, waitsThreeSecondsForAllRoutesTogether)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

@@ -17,14 +17,9 @@
 #include <set>
 #include <thread>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
-using test::BusClient;
-using test::FakePolkit;
-using test::kernelAddress;
-using test::outputOf;
-using test::waitUntil;
 using testing::AllOf;
 using testing::AnyOf;
 using testing::ElementsAre;
@@ -35,7 +30,6 @@ using testing::Key;
 using testing::Lt;
 using testing::Pair;
 
-constexpr char newAddress[] = "02:11:22:33:44:55";
 const std::string notAuthorized = contract::error::notAuthorized.name;
 const std::string invalidAuthorization = contract::error::invalidAuthorization.name;
 const std::string invalidDevice = contract::error::invalidDevice.name;
@@ -138,7 +132,7 @@ TEST_F(RefusalTest, believesNothingThatACallerSaysOfHimself)
 TEST_F(RefusalTest, gainsNothingFromReplayedAuthorizationBytes)
 {
     changeIsExpected = true;
-    const auto bytes = test::someAuthorization();
+    const auto bytes = someAuthorization();
     EXPECT_EQ(quillon.change("enp1s0", newAddress, false, bytes), BusClient::done);
     EXPECT_EQ(mallory.change("enp1s0", "02:00:00:00:00:66", false, bytes), notAuthorized);
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
@@ -188,7 +182,7 @@ TEST_F(RefusalTest, refusesAddressesThatNoInterfaceMayHaveBeforePolkitIsAsked)
 TEST_F(RefusalTest, refusesWhenPolkitIsAbsent)
 {
     outputOf("rm -f /usr/share/dbus-1/system-services/org.freedesktop.PolicyKit1.service");
-    test::reloadBus();
+    reloadBus();
     ASSERT_FALSE(quillon.hasOwner("org.freedesktop.PolicyKit1"));
     EXPECT_EQ(quillon.change("enp1s0", newAddress), notAuthorized);
     EXPECT_EQ(BusClient{"root"}.uninstall(), notAuthorized);
@@ -234,15 +228,14 @@ TEST_F(RefusalTest, takesTheRealPromptAwayWhenItsCallerVanishes)
     // A person who never answers sits in front of this process, and with it in front of its
     // clients.
     outputOf("rm -f /etc/polkit-1/rules.d/10-sandbox.rules /tmp/agent.log /tmp/agent.ready");
-    const auto agent = quillon::test::testData().toStdString() +
-                       "/../../tools/sandbox.d/sandbox-polkit-agent --pid " +
-                       std::to_string(getpid()) +
-                       " --log /tmp/agent.log --ready /tmp/agent.ready hang";
+    const auto agent =
+        testData().toStdString() + "/../../tools/sandbox.d/sandbox-polkit-agent --pid " +
+        std::to_string(getpid()) + " --log /tmp/agent.log --ready /tmp/agent.ready hang";
     outputOf(agent + " >/tmp/agent.out 2>&1 & ");
-    ASSERT_TRUE(waitUntil([] { return test::run("test -e /tmp/agent.ready").exitCode == 0; }));
+    ASSERT_TRUE(waitUntil([] { return run("test -e /tmp/agent.ready").exitCode == 0; }));
     auto caller = std::make_unique<BusClient>("mallory");
     caller->changeLater("enp1s0", newAddress);
-    const auto log = [] { return test::run("cat /tmp/agent.log").output; };
+    const auto log = [] { return run("cat /tmp/agent.log").output; };
     ASSERT_TRUE(waitUntil([&] { return log().find(contract::actionChange) != std::string::npos; }))
         << log();
     EXPECT_THAT(log(), HasSubstr("change the MAC address of enp1s0 to 02:11:22:33:44:55"));
@@ -350,9 +343,9 @@ TEST_F(RefusalTest, staysSmallAndServesOthersDuringAFlood)
 
 TEST_F(RefusalTest, cannotBeReplacedOnTheBus)
 {
-    EXPECT_EQ(test::run("runuser -u mallory -- gdbus call --system --dest org.freedesktop.DBus "
-                        "--object-path / --method org.freedesktop.DBus.RequestName "
-                        "com.orvandel.Quillon4HelperTool 0")
+    EXPECT_EQ(run("runuser -u mallory -- gdbus call --system --dest org.freedesktop.DBus "
+                  "--object-path / --method org.freedesktop.DBus.RequestName "
+                  "com.orvandel.Quillon4HelperTool 0")
                   .exitCode,
         1);
 }
@@ -377,4 +370,4 @@ TEST_F(RefusalTest, offersNothingElseOnTheBus)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

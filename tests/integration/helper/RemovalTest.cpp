@@ -9,23 +9,13 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
-namespace quillon {
+namespace quillon::test {
 namespace {
-
-using test::RawBus;
 
 /// The removal's class in this process, without any time.
 TEST(RemovalTest, endsInTimeThoughMessagesWait)
 {
-    // Here the bus's policy is open.
-    std::ofstream{"/etc/dbus-1/system.d/zz-open.conf"}
-        << "<!DOCTYPE busconfig PUBLIC '-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN' "
-           "'http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd'><busconfig>"
-           "<policy context='mandatory'><allow send_destination='*' eavesdrop='true'/>"
-           "</policy></busconfig>";
-    test::reloadBus();
+    openTheBus();
     const auto bus = connectToSystemBus();
     const char *name = nullptr;
     ASSERT_GE(sd_bus_get_unique_name(bus.get(), &name), 0);
@@ -52,4 +42,4 @@ TEST(RemovalTest, endsInTimeThoughMessagesWait)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test

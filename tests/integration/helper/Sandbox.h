@@ -30,6 +30,9 @@ std::string kernelAddress(const std::string &device);
 /// Every entry in the folders where software is installed: path, kind, rights, owner.
 std::vector<std::string> installedThings();
 
+/// No interface of the sandbox has it at the beginning.
+inline constexpr char newAddress[] = "02:11:22:33:44:55";
+
 /// Where the helper is after its installation, and in the build.
 inline constexpr char installedTool[] = "/usr/local/libexec/quillon4/Quillon4HelperTool";
 std::string builtTool();
@@ -40,5 +43,8 @@ void startAsTheUnit(const std::string &activation, const std::string &unit);
 
 /// Lets the bus read its folders again.
 void reloadBus();
+
+/// From now on the bus lets everything to everybody through.
+void openTheBus();
 
 } // namespace quillon::test

@@ -12,18 +12,11 @@
 
 #include <regex>
 
-namespace quillon {
+namespace quillon::test {
 namespace {
 
-using test::BusClient;
-using test::installedThings;
-using test::kernelAddress;
-using test::outputOf;
-using test::RawBus;
-using test::waitUntil;
 using testing::HasSubstr;
 
-constexpr char newAddress[] = "02:11:22:33:44:55";
 const std::string units = "/etc/systemd/system/";
 
 class SystemdUnitTest : public testing::Test
@@ -45,7 +38,7 @@ protected:
             BusClient{"mallory"}.change("enp1s0", newAddress), contract::error::notAuthorized.name);
         const auto status = statusOf(contract::helperName);
         EXPECT_THAT(status, HasSubstr("Seccomp:\t2\n"));
-        const auto user = std::to_string(test::userId("quillon4-helper"));
+        const auto user = std::to_string(userId("quillon4-helper"));
         EXPECT_THAT(status, HasSubstr("Uid:\t" + user + '\t' + user + '\t' + user));
         EXPECT_THAT(status, HasSubstr("CapEff:\t0000000000001000\n"));
         EXPECT_THAT(status, HasSubstr("CapBnd:\t0000000000001000\n"));
@@ -72,12 +65,11 @@ protected:
 
 TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
 {
-    outputOf(test::builtTool() + " uninstall");
+    outputOf(builtTool() + " uninstall");
     const auto clean = installedThings();
-    outputOf(test::builtTool() + " install");
-    test::startAsTheUnit(
-        "com.orvandel.Quillon4HelperTool.service", units + "quillon4-helper.service");
-    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+    outputOf(builtTool() + " install");
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.service", units + "quillon4-helper.service");
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         units + "quillon4-helper-removal.service");
     expectThatItWorks();
     EXPECT_EQ(BusClient{"root"}.uninstall(), BusClient::done);
@@ -87,18 +79,17 @@ TEST_F(SystemdUnitTest, changesAddressesAndCanRemoveItself)
 
 TEST_F(SystemdUnitTest, ofThePackageChangesAddresses)
 {
-    const auto unit = quillon::test::buildFolder().toStdString() +
-                      "/data/helper/packaged/quillon4-helper.service";
+    const auto unit = buildFolder().toStdString() + "/data/helper/packaged/quillon4-helper.service";
     // The package's unit, with the program where this sandbox has it.
-    outputOf("sed 's|^ExecStart=.*|ExecStart=" + std::string{test::installedTool} + "|' " + unit +
+    outputOf("sed 's|^ExecStart=.*|ExecStart=" + std::string{installedTool} + "|' " + unit +
              " >/tmp/unit");
-    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.service", "/tmp/unit");
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.service", "/tmp/unit");
     expectThatItWorks();
 }
 
 TEST_F(SystemdUnitTest, ofTheRemovalIsReachableForTheHelperAlone)
 {
-    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         units + "quillon4-helper-removal.service");
     const auto before = installedThings();
     for (const char *user : {"mallory", "quillon", "polkitd"}) {
@@ -112,7 +103,7 @@ TEST_F(SystemdUnitTest, ofTheRemovalIsReachableForTheHelperAlone)
 
 TEST_F(SystemdUnitTest, ofTheRemovalIsKeptFromNobodyByWhoStartsItAndFloodsIt)
 {
-    test::startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
+    startAsTheUnit("com.orvandel.Quillon4HelperTool.Removal.service",
         units + "quillon4-helper-removal.service");
     RawBus mallory{"mallory"};
     // The bus starts it for everybody, but lets nothing of them through to it.
@@ -139,4 +130,4 @@ TEST_F(SystemdUnitTest, ofTheRemovalIsKeptFromNobodyByWhoStartsItAndFloodsIt)
 }
 
 } // namespace
-} // namespace quillon
+} // namespace quillon::test
