@@ -129,13 +129,22 @@ protected:
         connection->resume();
         return connection;
     }
-    Outcome askEndpoint(XPCServiceConnection &connection)
+    /// How a call ends that `ask` makes, a function of the outcome.
+    template <typename Ask>
+    Outcome outcomeOf(Ask ask)
     {
         Outcome outcome;
-        connection.connectWithEndpointAndAuthorizationReply(outcome.endpoint(), outcome.failed());
+        ask(outcome);
         EXPECT_FALSE(outcome.ended()) << "never before the call returns";
         expectEndedOnce(outcome);
         return outcome;
+    }
+    Outcome askEndpoint(XPCServiceConnection &connection)
+    {
+        return outcomeOf([&](Outcome &outcome) {
+            connection.connectWithEndpointAndAuthorizationReply(
+                outcome.endpoint(), outcome.failed());
+        });
     }
     // With the authorization that belongs to it.
     std::shared_ptr<HelperToolConnection> helper()
@@ -149,20 +158,16 @@ protected:
     }
     Outcome askVersion(HelperToolConnection &connection)
     {
-        Outcome outcome;
-        connection.getVersionWithReply(outcome.version(), outcome.failed());
-        EXPECT_FALSE(outcome.ended()) << "never before the call returns";
-        expectEndedOnce(outcome);
-        return outcome;
+        return outcomeOf([&](Outcome &outcome) {
+            connection.getVersionWithReply(outcome.version(), outcome.failed());
+        });
     }
     Outcome change(HelperToolConnection &connection, const QString &where, const QString &wanted)
     {
-        Outcome outcome;
-        connection.changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(
-            where, wanted, false, authorization, outcome.reply(), outcome.failed());
-        EXPECT_FALSE(outcome.ended()) << "never before the call returns";
-        expectEndedOnce(outcome);
-        return outcome;
+        return outcomeOf([&](Outcome &outcome) {
+            connection.changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(
+                where, wanted, false, authorization, outcome.reply(), outcome.failed());
+        });
     }
     void expectRefused(const Outcome &outcome, const contract::ErrorName &error)
     {
