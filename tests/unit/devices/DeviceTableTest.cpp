@@ -30,6 +30,19 @@ QVariantMap wired()
     return {{record::interface, u"Ethernet"_s}};
 }
 
+/// Of the Wi-Fi interface, by whichever host it was read.
+QVariantMap wholeRecord()
+{
+    return {
+        {record::interface, u"Wi-Fi"_s},
+        {record::localizedInterface, u"Wi-Fi"_s},
+        {record::hardware, u"00:16:3e:44:55:66"_s},
+        {record::current, u"02:16:3e:44:55:66"_s},
+        {record::status, u"active"_s},
+        {record::ipAddress, u"198.51.100.7"_s},
+    };
+}
+
 class DeviceTableRefresh : public DeviceFixture
 {
 };
@@ -43,15 +56,7 @@ TEST_F(DeviceTableRefresh, KeepsEthernetWifiAndTheThunderboltBridgeOnly)
 TEST_F(DeviceTableRefresh, FillsEveryKeyOfARecord)
 {
     table.updateNetWorkInterfaces();
-    const QVariantMap expected = {
-        {record::interface, u"Wi-Fi"_s},
-        {record::localizedInterface, u"Wi-Fi"_s},
-        {record::hardware, u"00:16:3e:44:55:66"_s},
-        {record::current, u"02:16:3e:44:55:66"_s},
-        {record::status, u"active"_s},
-        {record::ipAddress, u"198.51.100.7"_s},
-    };
-    EXPECT_EQ(storedRecord(u"en1"_s), expected);
+    EXPECT_EQ(storedRecord(u"en1"_s), wholeRecord());
     EXPECT_EQ(recorded(u"bridge0"_s, record::ipAddress), QString());
     EXPECT_EQ(recorded(u"bridge0"_s, record::status), "inactive"_L1);
 }
@@ -217,15 +222,7 @@ TEST_F(DeviceTableOfATextualHost, FillTheSameRecords)
 {
     textualTable.updateNetWorkInterfaces();
     EXPECT_EQ(textualTable.names(), (QStringList{u"bridge0"_s, u"en0"_s, u"en1"_s}));
-    const QVariantMap expected = {
-        {record::interface, u"Wi-Fi"_s},
-        {record::localizedInterface, u"Wi-Fi"_s},
-        {record::hardware, u"00:16:3e:44:55:66"_s},
-        {record::current, u"02:16:3e:44:55:66"_s},
-        {record::status, u"active"_s},
-        {record::ipAddress, u"198.51.100.7"_s},
-    };
-    EXPECT_EQ(storedRecord(u"en0"_s), expected);
+    EXPECT_EQ(storedRecord(u"en0"_s), wholeRecord());
 }
 
 TEST_F(DeviceTableOfATextualHost, SkipsPortsByTheNameAsTheSystemWritesIt)
