@@ -24,6 +24,20 @@ protected:
     }
     QStringList savedNames() const { return names(another()->context(), {model::Rule, {}, {}}); }
     void theySave() { ASSERT_FALSE(other->context().save()); }
+    void theySave(const QString &name, const QString &device)
+    {
+        theirs->setValue(model::rule::name, name);
+        theirs->setValue(model::rule::device, device);
+        theySave();
+    }
+    void expectInFile(const QString &name, const QString &device) const
+    {
+        const auto third = another();
+        const auto inFile = third->context().objectWithURI(home->uriRepresentation());
+        ASSERT_TRUE(inFile);
+        EXPECT_EQ(nameOf(inFile), name);
+        EXPECT_EQ(inFile->value(model::rule::device), device);
+    }
 
     ManagedObjectPtr home;
     std::unique_ptr<Program> other;
@@ -33,27 +47,19 @@ protected:
 
 TEST_F(Merging, OurChangedAttributesWinAndTheirOthersAreTakenOver)
 {
-    theirs->setValue(model::rule::name, u"Theirs"_s);
-    theirs->setValue(model::rule::device, u"eth9"_s);
-    theySave();
+    theySave(u"Theirs"_s, u"eth9"_s);
     home->setValue(model::rule::name, u"Ours"_s);
     save();
     EXPECT_EQ(nameOf(home), u"Ours"_s);
     EXPECT_EQ(home->value(model::rule::device), u"eth9"_s);
     EXPECT_FALSE(home->hasChanges());
     EXPECT_EQ(merged, 1);
-    const auto third = another();
-    const auto inFile = third->context().objectWithURI(home->uriRepresentation());
-    ASSERT_TRUE(inFile);
-    EXPECT_EQ(nameOf(inFile), u"Ours"_s);
-    EXPECT_EQ(inFile->value(model::rule::device), u"eth9"_s);
+    expectInFile(u"Ours"_s, u"eth9"_s);
 }
 
 TEST_F(Merging, OnDemandTakesOverWhatIsNotChangedHere)
 {
-    theirs->setValue(model::rule::name, u"Theirs"_s);
-    theirs->setValue(model::rule::device, u"eth9"_s);
-    theySave();
+    theySave(u"Theirs"_s, u"eth9"_s);
     home->setValue(model::rule::name, u"Ours"_s);
     EXPECT_FALSE(home->value(model::rule::device).isValid());
     context().mergeChangesFromStore();
@@ -98,11 +104,7 @@ TEST_F(Merging, ARecordThatTheyDeletedAndWeChangedComesBackWhole)
     theySave();
     save();
     EXPECT_FALSE(home->isDeleted());
-    const auto third = another();
-    const auto inFile = third->context().objectWithURI(home->uriRepresentation());
-    ASSERT_TRUE(inFile);
-    EXPECT_EQ(nameOf(inFile), u"Home"_s);
-    EXPECT_EQ(inFile->value(model::rule::device), u"eth0"_s);
+    expectInFile(u"Home"_s, u"eth0"_s);
 }
 
 TEST_F(Merging, ARecordThatTheyDeletedBeforeTheMergeAndWeChangedComesBackWhole)

@@ -40,6 +40,20 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using Rewriting = VendorDatabase::Rewriting;
 
+/// Another program in the midst of reading the database.
+struct Reader
+{
+    explicit Reader(const QString &path)
+        : database(QFile::encodeName(path).constData())
+        , rows(database, "select * from vendor")
+    {
+        EXPECT_TRUE(rows.executeStep());
+    }
+
+    const SQLite::Database database;
+    SQLite::Statement rows;
+};
+
 class VendorDatabaseFile : public VendorFolder
 {
 protected:
@@ -244,9 +258,7 @@ TEST_F(VendorDatabaseFile, IsLeftAloneWhileSomebodyReadsIt)
     makeLive(registryOf(5));
     makeDatabase(files.newDatabase(), registryOf(7));
     {
-        const SQLite::Database other(QFile::encodeName(database.path()).constData());
-        SQLite::Statement reading(other, "select * from vendor");
-        ASSERT_TRUE(reading.executeStep());
+        Reader other(database.path());
         EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
         EXPECT_EQ(LogCapture::taken(),
             QStringList("quillon.vendors: Vendor database is locked by another program"));
@@ -261,9 +273,7 @@ TEST_F(VendorDatabaseFile, AnswersWhileARewritingWaitsForSomebodyWhoReadsIt)
     const LogCapture log;
     makeLive(registryOf(5));
     makeDatabase(files.newDatabase(), registryOf(7));
-    const SQLite::Database other(QFile::encodeName(database.path()).constData());
-    SQLite::Statement reading(other, "select * from vendor");
-    ASSERT_TRUE(reading.executeStep());
+    Reader other(database.path());
     auto rewriting =
         std::async(std::launch::async, [&] { return database.rewriteFrom(files.newDatabase()); });
     int answers = 0;
@@ -279,13 +289,11 @@ TEST_F(VendorDatabaseFile, IsRewrittenOnceSomebodyHasReadIt)
 {
     makeLive(registryOf(5));
     makeDatabase(files.newDatabase(), registryOf(7));
-    const SQLite::Database other(QFile::encodeName(database.path()).constData());
-    SQLite::Statement reading(other, "select * from vendor");
-    ASSERT_TRUE(reading.executeStep());
+    Reader other(database.path());
     int pauses = 0;
     inPause = [&] {
         if (++pauses == 2) {
-            reading.reset();
+            other.rows.reset();
         }
     };
     EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Done);
