@@ -185,6 +185,17 @@ protected:
                heard.contains("string \"com.orvandel.Quillon4MASHelper\""_L1);
     }
 
+    // The person grants it, and the session hears of it.
+    void expectInstalledAfterOnePrompt()
+    {
+        atThePrompt("grant");
+        listen();
+        const Call installed = call(contract::service::installHelperTool);
+        EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
+        EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
+        EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
+    }
+
     const QString prompts = u"/tmp/prompts.log"_s;
     std::unique_ptr<Running> agent;
     std::unique_ptr<Running> listener;
@@ -250,12 +261,7 @@ TEST_F(ServiceTest, AHelperThatIsThereIsNotInstalledAgain)
 TEST_F(ServiceTest, InstallsAfterOnePromptAndAnnouncesIt)
 {
     removeHelper();
-    atThePrompt("grant");
-    listen();
-    const Call installed = call(contract::service::installHelperTool);
-    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
-    EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
-    EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
+    expectInstalledAfterOnePrompt();
 
     const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     EXPECT_FALSE(endpointIn(connected).isEmpty()) << connected.text.toStdString();
@@ -266,12 +272,7 @@ TEST_F(ServiceTest, AnotherBuildsHelperCountsAsNoneUntilItIsReplaced)
     // The same version, which answers, and other bytes.
     makeAnotherBuildOf(installedTool);
     EXPECT_EQ(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
-    atThePrompt("grant");
-    listen();
-    const Call installed = call(contract::service::installHelperTool);
-    EXPECT_TRUE(installed.succeeded) << installed.text.toStdString();
-    EXPECT_EQ(promptLog().count('\n'), 1) << promptLog().toStdString();
-    EXPECT_TRUE(eventually([this] { return heardHelperUpdated(); }));
+    expectInstalledAfterOnePrompt();
     command(u"cmp %1 %2/helper/Quillon4HelperTool"_s.arg(installedTool, build));
     EXPECT_NE(endpointIn(call(contract::service::connectWithEndpointAndAuthorization)), QString());
     EXPECT_TRUE(call(contract::service::installHelperTool).succeeded);
