@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "SettingsFileTest.h"
 #include "base/SettingsKeys.h"
+#include "unit/platform/qt/settings/AnotherLibrary.h"
 #include "unit/platform/qt/settings/EveryKindOfValue.h"
 
-#include <plist/plist.h>
-
-#include <cstdlib>
 #include <sys/stat.h>
 
 namespace quillon {
@@ -26,16 +24,7 @@ ino_t fileNumber(const QString &path)
 
 QByteArray asBinary(const QVariantMap &values)
 {
-    const QByteArray text = xmlPropertyList(values);
-    plist_t root = nullptr;
-    plist_from_xml(text.constData(), static_cast<uint32_t>(text.size()), &root);
-    char *bytes = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(root, &bytes, &length);
-    const QByteArray result(bytes, static_cast<qsizetype>(length));
-    std::free(bytes);
-    plist_free(root);
-    return result;
+    return test::madeByAnotherLibrary(values, plist_to_bin);
 }
 
 TEST_F(PlistSettingsStoreTest, EveryKindOfValueOutlivesTheProgram)

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/settings/XmlPropertyList.h"
 
+#include "AnotherLibrary.h"
 #include "EveryKindOfValue.h"
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
 
-#include <cstdlib>
 #include <string>
 
 namespace quillon {
@@ -24,21 +24,6 @@ Result<QVariant> readBody(const QByteArray &body)
 QByteArray nested(int levels)
 {
     return QByteArray("<array>").repeated(levels) + QByteArray("</array>").repeated(levels);
-}
-
-/// The same values as another library writes them.
-QByteArray madeByAnotherLibrary(const QVariantMap &values)
-{
-    const QByteArray text = xmlPropertyList(values);
-    plist_t root = nullptr;
-    plist_from_xml(text.constData(), static_cast<uint32_t>(text.size()), &root);
-    char *bytes = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(root, &bytes, &length);
-    QByteArray result(bytes, static_cast<qsizetype>(length));
-    std::free(bytes);
-    plist_free(root);
-    return result;
 }
 
 /// What the other library can carry.
@@ -104,7 +89,7 @@ TEST(XmlPropertyList, AnotherLibraryReadsWhatIsWritten)
 TEST(XmlPropertyList, WhatAnotherLibraryWroteIsRead)
 {
     const QVariantMap values = plainValues();
-    const QByteArray text = madeByAnotherLibrary(values);
+    const QByteArray text = test::madeByAnotherLibrary(values, plist_to_xml);
     ASSERT_NE(text, xmlPropertyList(values)) << "nothing is compared";
     const Result<QVariant> read = readXmlPropertyList(text);
     ASSERT_TRUE(read) << read.error().message.toStdString();
