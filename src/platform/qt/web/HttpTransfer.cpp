@@ -3,12 +3,11 @@
 #include "platform/qt/web/HttpTransfer.h"
 
 #include "platform/HttpClient.h"
+#include "platform/qt/web/WebRequest.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QScopedValueRollback>
-#include <QSslConfiguration>
 #include <QStringList>
 
 #include <cerrno>
@@ -20,8 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QLatin1StringView http("http");
-constexpr QLatin1StringView https("https");
 constexpr int mostRedirects = 10;
 constexpr qint64 pieceBytes = 64 * 1024;
 /// What Qt keeps for us before it lets the sender wait.
@@ -30,12 +27,6 @@ constexpr qint64 bufferBytes = 4 * pieceBytes;
 Error posixError(int number, const char *message)
 {
     return {posixErrorDomain, number, QString::fromLatin1(message)};
-}
-
-bool isWebAddress(const QUrl &url)
-{
-    const QString scheme = url.scheme();
-    return url.isValid() && !url.host().isEmpty() && (scheme == http || scheme == https);
 }
 
 } // namespace
@@ -62,33 +53,10 @@ void HttpTransfer::start(const QUrl &url)
     // One for each request. A shared one would keep cookies and connections, and a connection that
     // was made before the address changed leads nowhere. It would also send some requests twice.
     m_network = new QNetworkAccessManager(this);
-    m_reply = m_network->get(request(url));
+    m_reply = m_network->get(webRequest(url));
     m_reply->setReadBufferSize(bufferBytes);
     connectReply();
     m_silence.start();
-}
-
-QNetworkRequest HttpTransfer::request(const QUrl &url) const
-{
-    QNetworkRequest request(url);
-    request.setAttribute(
-        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(
-        QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    // Or a password that stands in the address would be sent to whoever asks for one.
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    // The same from everybody: by default Qt tells the user's language. A name alone is turned away
-    // by servers that expect a browser.
-    request.setRawHeader("User-Agent", "Mozilla/5.0 (compatible; Quillon)");
-    request.setRawHeader("Accept-Language", "*");
-    // A packed body could unfold to any length.
-    request.setRawHeader("Accept-Encoding", "identity");
-    QSslConfiguration security = QSslConfiguration::defaultConfiguration();
-    security.setProtocol(QSsl::TlsV1_2OrLater);
-    security.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    request.setSslConfiguration(security);
-    return request;
 }
 
 void HttpTransfer::connectReply()
@@ -153,7 +121,7 @@ void HttpTransfer::follow()
     };
     if (!isWebAddress(there)) {
         refuse(QNetworkReply::ProtocolUnknownError, "a redirect to what is no web address");
-    } else if (here.scheme() == https && there.scheme() != https) {
+    } else if (here.scheme() == "https"_L1 && there.scheme() != "https"_L1) {
         refuse(QNetworkReply::InsecureRedirectError, "a redirect from https to http");
     } else if (++m_redirects > mostRedirects) {
         refuse(QNetworkReply::TooManyRedirectsError, "too many redirects");

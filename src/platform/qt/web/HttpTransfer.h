@@ -15,7 +15,6 @@
 
 class QNetworkAccessManager;
 class QNetworkReply;
-class QNetworkRequest;
 
 namespace quillon {
 
@@ -55,7 +54,6 @@ public:
     void dispose();
 
 private:
-    QNetworkRequest request(const QUrl &url) const;
     void connectReply();
     void readHead();
     bool isRedirect() const;
