@@ -162,7 +162,7 @@ int HelperMethods::changeAddress(sd_bus_message &call)
                      [this, asked, address, wifi = deviceIsWiFi != 0] {
                          return m_actions.addressChange.change(*asked, *address, wifi);
                      },
-                     {}});
+                     {}, device});
     return 1;
 }
 

@@ -5,6 +5,7 @@
 #include "helper/Log.h"
 #include "helper/RequestLog.h"
 
+#include <algorithm>
 #include <array>
 #include <sys/random.h>
 #include <utility>
@@ -145,10 +146,47 @@ void PrivilegedRequests::decided(Number number, bool authorized)
         finish(number, notAuthorized("The caller is not authorized to do this."));
         return;
     }
+    place->second.held = true;
+    proceed(number);
+}
+
+bool PrivilegedRequests::isBehindAnother(Number number) const
+{
+    const auto &request = m_waiting.at(number).request;
+    const auto &ofCaller = m_byCaller.at(request.caller);
+    return !request.subject.empty() &&
+           std::any_of(ofCaller.begin(), ofCaller.lower_bound(number), [&](auto earlier) {
+               const auto &before = m_waiting.at(earlier);
+               return !before.answered && before.request.subject == request.subject;
+           });
+}
+
+void PrivilegedRequests::proceed(Number number)
+{
+    if (isBehindAnother(number)) {
+        return;
+    }
     // The decision was about a caller who may have left since: what he asked for is no longer
     // wanted.
-    const auto caller = place->second.request.caller;
+    auto &waiting = m_waiting.at(number);
+    waiting.held = false;
+    const auto caller = waiting.request.caller;
     m_callers.isPresent(caller, [this, number](bool present) { presenceKnown(number, present); });
+}
+
+void PrivilegedRequests::proceedWithHeld(const std::string &caller)
+{
+    const auto ofCaller = m_byCaller.find(caller);
+    if (ofCaller == m_byCaller.end()) {
+        return;
+    }
+    // A copy, and looked up each: whoever proceeds may end at once, and others with him.
+    for (const auto numbers = ofCaller->second; const auto number : numbers) {
+        const auto place = m_waiting.find(number);
+        if (place != m_waiting.end() && place->second.held) {
+            proceed(number);
+        }
+    }
 }
 
 void PrivilegedRequests::presenceKnown(Number number, bool present)
@@ -195,13 +233,13 @@ void PrivilegedRequests::forget(Number number)
         ofCaller->second.erase(number) != 0 && ofCaller->second.empty()) {
         m_byCaller.erase(ofCaller);
     }
-    if (!waiting.user) {
-        return;
+    if (waiting.user) {
+        --m_identified;
+        if (const auto ofUser = m_countOfUser.find(*waiting.user); --ofUser->second == 0) {
+            m_countOfUser.erase(ofUser);
+        }
     }
-    --m_identified;
-    if (const auto ofUser = m_countOfUser.find(*waiting.user); --ofUser->second == 0) {
-        m_countOfUser.erase(ofUser);
-    }
+    proceedWithHeld(waiting.request.caller);
 }
 
 void PrivilegedRequests::cancel(Number number, const char *why)
@@ -225,8 +263,10 @@ void PrivilegedRequests::callerVanished(const std::string &caller)
     if (ofCaller == m_byCaller.end()) {
         return;
     }
-    for (const auto numbers = ofCaller->second; const auto number : numbers) {
-        cancel(number, "The caller has left the bus.");
+    // The latest first: none of them is to proceed because one before it has ended.
+    const auto numbers = ofCaller->second;
+    for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
+        cancel(*number, "The caller has left the bus.");
     }
 }
 
@@ -236,8 +276,9 @@ void PrivilegedRequests::refuseAll()
     for (const auto &[number, waiting] : m_waiting) {
         numbers.push_back(number);
     }
-    for (const auto number : numbers) {
-        cancel(number, "The helper ends.");
+    // As above.
+    for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
+        cancel(*number, "The helper ends.");
     }
     m_waiting.clear();
     m_byCaller.clear();

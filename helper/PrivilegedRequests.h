@@ -32,6 +32,9 @@ struct PrivilegedRequest
     std::function<Outcome()> operation;
     /// Called exactly once.
     std::function<void(const Outcome &)> reply;
+    /// What it is about: a caller's requests about the same are carried out in the order in which
+    /// they were asked for, whichever the authority decides first. "" is about nothing else.
+    std::string subject = {};
 };
 
 /// The only way to a privileged operation. A request waits here until the bus has named its
@@ -81,12 +84,18 @@ private:
         /// The authority owes an answer.
         bool asked = false;
         bool answered = false;
+        /// The authority has said yes, and an earlier request about the same may have to come
+        /// first.
+        bool held = false;
         /// Its operation has run, whatever came of it.
         bool carriedOut = false;
     };
 
     void userKnown(Number number, std::optional<std::uint32_t> user);
     void decided(Number number, bool authorized);
+    bool isBehindAnother(Number number) const;
+    void proceed(Number number);
+    void proceedWithHeld(const std::string &caller);
     void presenceKnown(Number number, bool present);
     void answer(Waiting &waiting, const Outcome &outcome);
     void finish(Number number, const Outcome &outcome);

@@ -27,16 +27,19 @@ protected:
         callers.connections = {{":1.1", quillonUser}, {":1.2", malloryUser}};
     }
 
-    void ask(const std::string &caller)
+    void ask(const std::string &caller) { askAbout({}, caller, caller); }
+    void askAbout(
+        const std::string &subject, const std::string &caller, const std::string &operation)
     {
         requests.submit({caller, contract::actionChange, {{"device", "enp1s0"}},
             [this] { return precondition; },
-            [this, caller] {
-                carriedOut.push_back(caller);
+            [this, operation] {
+                carriedOut.push_back(operation);
                 return operationOutcome;
             },
             [this](
-                const Outcome &outcome) { answers.push_back(outcome ? outcome->error.code : 0); }});
+                const Outcome &outcome) { answers.push_back(outcome ? outcome->error.code : 0); },
+            subject});
     }
     void connect(const std::string &caller, std::uint32_t user)
     {
@@ -79,6 +82,63 @@ TEST_F(PrivilegedRequestsTest, isDecidedAboutItsSenderAndItsAction)
     ask(":1.2");
     EXPECT_EQ(authority.prompts.at(0).caller, ":1.2");
     EXPECT_EQ(authority.prompts.at(0).action, contract::actionChange);
+}
+
+TEST_F(PrivilegedRequestsTest, aboutTheSameAreCarriedOutInTheirOrder)
+{
+    askAbout("enp1s0", ":1.1", "first");
+    askAbout("enp1s0", ":1.1", "second");
+    askAbout("enp1s0", ":1.1", "third");
+    authority.prompts.at(2).answer(true);
+    authority.prompts.at(1).answer(true);
+    EXPECT_THAT(carriedOut, IsEmpty());
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(carriedOut, ElementsAre("first", "second", "third"));
+    EXPECT_THAT(answers, ElementsAre(done, done, done));
+    EXPECT_EQ(requests.waiting(), 0U);
+}
+
+TEST_F(PrivilegedRequestsTest, behindOneThatIsRefusedIsCarriedOut)
+{
+    askAbout("enp1s0", ":1.1", "first");
+    askAbout("enp1s0", ":1.1", "second");
+    authority.prompts.at(1).answer(true);
+    authority.prompts.at(0).answer(false);
+    EXPECT_THAT(carriedOut, ElementsAre("second"));
+    EXPECT_THAT(answers, ElementsAre(notAuthorized, done));
+}
+
+TEST_F(PrivilegedRequestsTest, waitsForNobodyElsesAndForNothingElse)
+{
+    askAbout("enp1s0", ":1.1", "first");
+    askAbout("enp2s0", ":1.1", "another device");
+    askAbout("enp1s0", ":1.2", "another caller");
+    authority.prompts.at(1).answer(true);
+    authority.prompts.at(2).answer(true);
+    EXPECT_THAT(carriedOut, ElementsAre("another device", "another caller"));
+}
+
+TEST_F(PrivilegedRequestsTest, behindAnotherOfACallerWhoLeftIsNotCarriedOut)
+{
+    askAbout("enp1s0", ":1.1", "first");
+    askAbout("enp1s0", ":1.1", "second");
+    authority.prompts.at(1).answer(true);
+    // The bus may still take him for present.
+    requests.callerVanished(":1.1");
+    EXPECT_THAT(answers, ElementsAre(notAuthorized, notAuthorized));
+    authority.prompts.at(0).answer(true);
+    EXPECT_THAT(carriedOut, IsEmpty());
+    EXPECT_EQ(requests.waiting(), 0U);
+}
+
+TEST_F(PrivilegedRequestsTest, behindAnotherIsNotCarriedOutByAHelperThatEnds)
+{
+    askAbout("enp1s0", ":1.1", "first");
+    askAbout("enp1s0", ":1.1", "second");
+    authority.prompts.at(1).answer(true);
+    requests.refuseAll();
+    EXPECT_THAT(carriedOut, IsEmpty());
+    EXPECT_THAT(answers, ElementsAre(notAuthorized, notAuthorized));
 }
 
 TEST_F(PrivilegedRequestsTest, isRefusedAfterANo)
