@@ -203,10 +203,12 @@ int NetlinkKernelLink::create(int type, int flags, const LinkConfiguration::Mess
 
 int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route, int &pausesLeft)
 {
-    int error = create(RTM_NEWROUTE, NLM_F_EXCL, route);
+    // Other interfaces may have routes of this destination and metric. Appended, it is refused only
+    // when the very same route is there already.
+    int error = create(RTM_NEWROUTE, NLM_F_APPEND, route);
     for (; error == EINVAL && hasSourceAddress(route) && pausesLeft > 0; --pausesLeft) {
         ::poll(nullptr, 0, detectionPauseMilliseconds);
-        error = create(RTM_NEWROUTE, NLM_F_EXCL, route);
+        error = create(RTM_NEWROUTE, NLM_F_APPEND, route);
     }
     return error;
 }

@@ -106,14 +106,18 @@ std::uint32_t expiry(const RouteAttributes &attributes)
 
 bool othersMakeRoute(const rtmsg &header, const RouteAttributes &attributes)
 {
-    if (header.rtm_type != RTN_UNICAST || (header.rtm_flags & RTM_F_CLONED) != 0 ||
-        header.rtm_protocol == RTPROT_REDIRECT || header.rtm_protocol == RTPROT_RA) {
+    if ((header.rtm_flags & RTM_F_CLONED) != 0 || header.rtm_protocol == RTPROT_REDIRECT ||
+        header.rtm_protocol == RTPROT_RA) {
         return true;
+    }
+    if (header.rtm_protocol != RTPROT_KERNEL) {
+        return false;
     }
     // Prefix routes: managers add them under the kernel's name too, so only those stay away that
     // depend on an address which the kernel forms anew.
-    return header.rtm_family == AF_INET6 && header.rtm_protocol == RTPROT_KERNEL &&
-           (isLinkLocal(attributes.bytes(RTA_DST)) || expiry(attributes) != 0);
+    return header.rtm_type != RTN_UNICAST ||
+           (header.rtm_family == AF_INET6 &&
+               (isLinkLocal(attributes.bytes(RTA_DST)) || expiry(attributes) != 0));
 }
 
 /// The hops' states are the kernel's findings, and it refuses to take them back.

@@ -249,15 +249,13 @@ TEST(PutBackRoute, withHopsOfImpossibleLengthIsNotFollowed)
 
 TEST(PutBackRoute, leavesToOthersWhatOthersMake)
 {
-    auto local = routeHeader(AF_INET);
-    local.rtm_type = RTN_LOCAL;
     auto cloned = routeHeader(AF_INET6);
     cloned.rtm_flags = RTM_F_CLONED;
     auto advertised = routeHeader(AF_INET6);
     advertised.rtm_protocol = RTPROT_RA;
     auto redirected = routeHeader(AF_INET6);
     redirected.rtm_protocol = RTPROT_REDIRECT;
-    for (const auto &header : {local, cloned, advertised, redirected}) {
+    for (const auto &header : {cloned, advertised, redirected}) {
         auto message = route(header);
         message.with(RTA_OIF, unsigned{ourIndex});
         EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
@@ -267,6 +265,25 @@ TEST(PutBackRoute, leavesToOthersWhatOthersMake)
     auto message = route(kernels);
     message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_DST, linkLocal);
     EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
+}
+
+TEST(PutBackRoute, ofAnyTypeIsKeptUnlessTheKernelMadeIt)
+{
+    for (int family : {AF_INET, AF_INET6}) {
+        for (std::uint8_t type : {RTN_LOCAL, RTN_BROADCAST, RTN_ANYCAST, RTN_MULTICAST}) {
+            auto header = routeHeader(family);
+            header.rtm_type = type;
+            auto given = route(header);
+            given.with(RTA_OIF, unsigned{ourIndex});
+            const auto body = routeToPutBack(given.header(), ourLink());
+            ASSERT_TRUE(body) << int{type};
+            EXPECT_EQ(reinterpret_cast<const rtmsg *>(body->data())->rtm_type, type);
+            header.rtm_protocol = RTPROT_KERNEL;
+            auto kernels = route(header);
+            kernels.with(RTA_OIF, unsigned{ourIndex});
+            EXPECT_FALSE(routeToPutBack(kernels.header(), ourLink())) << int{type};
+        }
+    }
 }
 
 TEST(PutBackRoute, keepsPrefixRoutesThatAManagerAddedUnderTheKernelsName)
