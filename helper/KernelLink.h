@@ -31,6 +31,8 @@ struct LinkState
 struct LinkConfiguration
 {
     using Message = std::vector<std::uint8_t>;
+    /// The name of the interface, for the log.
+    std::string device;
     /// The interfaces on top as they were, the lower ones first. Some follow when the interface
     /// goes down, and all that were down come up with it.
     std::vector<LinkState> linksOnTop;

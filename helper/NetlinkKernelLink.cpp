@@ -3,7 +3,11 @@
 #include "helper/NetlinkKernelLink.h"
 
 #include "helper/LinkStack.h"
+#include "helper/Log.h"
+#include "helper/MessageBody.h"
+#include "helper/NetlinkRoutes.h"
 #include "helper/PutBack.h"
+#include "helper/PutBackRoutes.h"
 #include "netlink/NetlinkAttributes.h"
 
 #include <algorithm>
@@ -19,8 +23,7 @@ namespace quillon {
 namespace {
 
 // Duplicate address detection takes a second by default; until then a route may not name the
-// address.
-constexpr int detectionPauses = 60;
+// address. All NetlinkRoutes::maximalPauses make three seconds.
 constexpr int detectionPauseMilliseconds = 50;
 
 NetlinkMessage linkMessage(int type, int index, unsigned change = 0, unsigned flags = 0)
@@ -148,6 +151,7 @@ int NetlinkKernelLink::readTable(const NetlinkMessage &request, ToPutBack *toPut
 int NetlinkKernelLink::readNeighbors(const LinkState &link, LinkConfiguration &configuration)
 {
     configuration = {};
+    configuration.device = link.name;
     std::vector<LinkState> all;
     if (const int error = readLinks(all); error != 0) {
         return error;
@@ -184,35 +188,6 @@ int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguratio
     return error;
 }
 
-int NetlinkKernelLink::create(int type, int flags, const LinkConfiguration::Message &body)
-{
-    const NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
-    if (!message || nlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, type, 0,
-                        NLM_F_CREATE | flags) == nullptr) {
-        return ENOMEM;
-    }
-    // The body is what the kernel would have sent after the header.
-    auto *data = const_cast<std::uint8_t *>(body.data());
-    if (nlmsg_append(message.get(), data, body.size(), NLMSG_ALIGNTO) < 0) {
-        return ENOMEM;
-    }
-    const int error = m_socket.request(message).error;
-    // A link that has gone meanwhile has nothing to restore.
-    return error == EEXIST || error == ENODEV ? 0 : error;
-}
-
-int NetlinkKernelLink::createPatiently(const LinkConfiguration::Message &route, int &pausesLeft)
-{
-    // Other interfaces may have routes of this destination and metric. Appended, it is refused only
-    // when the very same route is there already.
-    int error = create(RTM_NEWROUTE, NLM_F_APPEND, route);
-    for (; error == EINVAL && hasSourceAddress(route) && pausesLeft > 0; --pausesLeft) {
-        ::poll(nullptr, 0, detectionPauseMilliseconds);
-        error = create(RTM_NEWROUTE, NLM_F_APPEND, route);
-    }
-    return error;
-}
-
 int NetlinkKernelLink::restoreUp(const LinkState &before)
 {
     LinkState now;
@@ -227,7 +202,7 @@ int NetlinkKernelLink::putNeighborsBack(const LinkConfiguration &configuration)
 {
     int first = 0;
     for (const auto &neighbor : configuration.neighbors) {
-        const int error = create(RTM_NEWNEIGH, NLM_F_REPLACE, neighbor);
+        const int error = create(m_socket, RTM_NEWNEIGH, NLM_F_REPLACE, neighbor);
         first = first == 0 ? error : first;
     }
     return first;
@@ -246,12 +221,16 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
         note(putNeighborsBack(configuration));
     }
     for (const auto &address : configuration.addresses) {
-        note(create(RTM_NEWADDR, NLM_F_EXCL, address));
+        note(create(m_socket, RTM_NEWADDR, NLM_F_EXCL, address));
     }
-    // Shared by all routes: what is still wrong after that long stays wrong for the next one too.
-    int pausesLeft = detectionPauses;
+    NetlinkRoutes routes{m_socket, [] { ::poll(nullptr, 0, detectionPauseMilliseconds); }};
     for (const auto &route : configuration.routes) {
-        note(createPatiently(route, pausesLeft));
+        note(routes.putBack(route));
+    }
+    if (routes.sourcesLost() > 0) {
+        logLine("device=" + harmless(configuration.device) +
+                ": routes put back without their source address, which cannot be used now: " +
+                std::to_string(routes.sourcesLost()));
     }
     return first;
 }

@@ -31,9 +31,7 @@ private:
     int readLinks(std::vector<LinkState> &links);
     int readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
         const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table);
-    int create(int type, int flags, const LinkConfiguration::Message &message);
     int restoreUp(const LinkState &before);
-    int createPatiently(const LinkConfiguration::Message &route, int &pausesLeft);
 
     NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};
 };

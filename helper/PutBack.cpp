@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/PutBack.h"
 
+#include "helper/MessageBody.h"
 #include "netlink/NetlinkAttributes.h"
-#include "netlink/NextHops.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <linux/if_addr.h>
 #include <linux/neighbour.h>
 #include <linux/rtnetlink.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 namespace quillon {
 
@@ -20,39 +18,11 @@ namespace {
 
 using Message = LinkConfiguration::Message;
 using AddressAttributes = NetlinkAttributes<IFA_MAX>;
-using RouteAttributes = NetlinkAttributes<RTA_MAX>;
 using NeighborAttributes = NetlinkAttributes<NDA_MAX>;
 
 // Of all address flags these are requests; the others are the kernel's findings.
 constexpr std::uint32_t settableAddressFlags =
     IFA_F_NODAD | IFA_F_HOMEADDRESS | IFA_F_MANAGETEMPADDR | IFA_F_NOPREFIXROUTE | IFA_F_MCAUTOJOIN;
-
-constexpr std::size_t aligned(std::size_t size)
-{
-    constexpr std::size_t boundary = NLMSG_ALIGNTO;
-    return (size + boundary - 1) / boundary * boundary;
-}
-
-void append(Message &body, const void *data, std::size_t size)
-{
-    const auto *bytes = static_cast<const std::uint8_t *>(data);
-    body.insert(body.end(), bytes, bytes + size);
-    body.resize(aligned(body.size()));
-}
-
-void appendAttribute(Message &body, const nlattr *attribute)
-{
-    append(body, attribute, attribute->nla_len);
-}
-
-void appendNumber(Message &body, int type, std::uint32_t value)
-{
-    nlattr header{};
-    header.nla_len = static_cast<std::uint16_t>(sizeof header + sizeof value);
-    header.nla_type = static_cast<std::uint16_t>(type);
-    append(body, &header, sizeof header);
-    append(body, &value, sizeof value);
-}
 
 bool isFormedFromLinkAddress(ByteSpan address, const contract::LinkLayerAddress &link)
 {
@@ -75,56 +45,6 @@ bool kernelMakesAddress(const ifaddrmsg &header, const AddressAttributes &attrib
     const bool derived = (flags & (IFA_F_TEMPORARY | IFA_F_STABLE_PRIVACY)) != 0;
     return declared || derived ||
            isFormedFromLinkAddress(attributes.bytes(IFA_ADDRESS), link.address);
-}
-
-/// Where the route goes out by `index`, alone or among several.
-bool goesThrough(const RouteAttributes &attributes, int index)
-{
-    if (const auto interface = attributes.value<int>(RTA_OIF)) {
-        return *interface == index;
-    }
-    bool found = false;
-    if (nlattr *const hops = attributes.find(RTA_MULTIPATH)) {
-        forEachNextHop(
-            hops, [&](const rtnexthop &hop) { found = found || hop.rtnh_ifindex == index; });
-    }
-    return found;
-}
-
-bool isLinkLocal(ByteSpan destination)
-{
-    return destination.size() == 16 && destination[0] == std::byte{0xfe} &&
-           (destination[1] & std::byte{0xc0}) == std::byte{0x80};
-}
-
-std::uint32_t expiry(const RouteAttributes &attributes)
-{
-    const auto info = attributes.value<rta_cacheinfo>(RTA_CACHEINFO).value_or(rta_cacheinfo{});
-    const auto ticks = static_cast<std::uint32_t>(sysconf(_SC_CLK_TCK));
-    return info.rta_expires <= 0 ? 0 : static_cast<std::uint32_t>(info.rta_expires) / ticks + 1;
-}
-
-bool othersMakeRoute(const rtmsg &header, const RouteAttributes &attributes)
-{
-    if ((header.rtm_flags & RTM_F_CLONED) != 0 || header.rtm_protocol == RTPROT_REDIRECT ||
-        header.rtm_protocol == RTPROT_RA) {
-        return true;
-    }
-    if (header.rtm_protocol != RTPROT_KERNEL) {
-        return false;
-    }
-    // Prefix routes: managers add them under the kernel's name too, so only those stay away that
-    // depend on an address which the kernel forms anew.
-    return header.rtm_type != RTN_UNICAST ||
-           (header.rtm_family == AF_INET6 &&
-               (isLinkLocal(attributes.bytes(RTA_DST)) || expiry(attributes) != 0));
-}
-
-/// The hops' states are the kernel's findings, and it refuses to take them back.
-void clearHopStates(Message &body, std::size_t from)
-{
-    forEachNextHop(reinterpret_cast<nlattr *>(body.data() + from),
-        [](rtnexthop &hop) { hop.rtnh_flags &= RTNH_F_ONLINK; });
 }
 
 bool isGivenWithoutResolution(const NeighborAttributes &attributes, const LinkState &link)
@@ -157,14 +77,6 @@ bool othersMakeNeighbor(
     return (header.ndm_flags & NTF_EXT_LEARNED) == 0 || !attributes.has(NDA_LLADDR);
 }
 
-bool hasAttribute(const Message &route, int type)
-{
-    auto *attributes = reinterpret_cast<nlattr *>(
-        const_cast<std::uint8_t *>(route.data() + aligned(sizeof(rtmsg))));
-    const auto length = static_cast<int>(route.size() - aligned(sizeof(rtmsg)));
-    return nla_find(attributes, length, type) != nullptr;
-}
-
 } // namespace
 
 std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState &link)
@@ -193,36 +105,6 @@ std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState
     return body;
 }
 
-std::optional<Message> routeToPutBack(const nlmsghdr *message, const LinkState &link)
-{
-    auto header = headerOf<rtmsg>(*message);
-    if (message->nlmsg_type != RTM_NEWROUTE || !header) {
-        return std::nullopt;
-    }
-    const RouteAttributes attributes(attributesOf<rtmsg>(*message));
-    if (!goesThrough(attributes, link.index) || othersMakeRoute(*header, attributes)) {
-        return std::nullopt;
-    }
-    header->rtm_flags &= RTNH_F_ONLINK;
-    Message body;
-    append(body, &*header, sizeof *header);
-    for (int type = 1; type <= RTA_MAX; ++type) {
-        // A nexthop object goes down with its interface; the route carries the hop itself as well.
-        if (!attributes.has(type) || type == RTA_CACHEINFO || type == RTA_NH_ID) {
-            continue;
-        }
-        const auto start = body.size();
-        appendAttribute(body, attributes.find(type));
-        if (type == RTA_MULTIPATH) {
-            clearHopStates(body, start);
-        }
-    }
-    if (const auto seconds = expiry(attributes); seconds != 0) {
-        appendNumber(body, RTA_EXPIRES, seconds);
-    }
-    return body;
-}
-
 std::optional<Message> neighborToPutBack(const nlmsghdr *message, const LinkState &link)
 {
     auto header = headerOf<ndmsg>(*message);
@@ -247,17 +129,6 @@ std::optional<Message> neighborToPutBack(const nlmsghdr *message, const LinkStat
         }
     }
     return body;
-}
-
-bool hasGateway(const Message &route)
-{
-    return hasAttribute(route, RTA_GATEWAY) || hasAttribute(route, RTA_VIA) ||
-           hasAttribute(route, RTA_MULTIPATH);
-}
-
-bool hasSourceAddress(const Message &route)
-{
-    return hasAttribute(route, RTA_PREFSRC);
 }
 
 } // namespace quillon

@@ -12,7 +12,7 @@ namespace quillon {
 
 /// From the kernel's tables to the messages that restore an interface's configuration after it was
 /// down: pure functions of messages. A result is a message's body (after its header), ready for
-/// RTM_NEWADDR, RTM_NEWROUTE or RTM_NEWNEIGH.
+/// RTM_NEWADDR or RTM_NEWNEIGH. Routes are in PutBackRoutes.h.
 
 /// None when `message` is not an address of `link`, or one that the kernel makes by itself:
 /// temporary and stable-privacy IPv6 addresses and those formed from the
@@ -20,18 +20,9 @@ namespace quillon {
 std::optional<LinkConfiguration::Message> addressToPutBack(
     const nlmsghdr *message, const LinkState &link);
 
-/// None when `message` is not a route through `link`, or one that the kernel or the next router
-/// advertisement makes by itself.
-std::optional<LinkConfiguration::Message> routeToPutBack(
-    const nlmsghdr *message, const LinkState &link);
-
 /// None when `message` is not a neighbor of `link`, or one that the kernel learned or made by
 /// itself. Static entries keep a spoofed answer from being believed.
 std::optional<LinkConfiguration::Message> neighborToPutBack(
     const nlmsghdr *message, const LinkState &link);
-
-/// Of a result of routeToPutBack().
-bool hasGateway(const LinkConfiguration::Message &route);
-bool hasSourceAddress(const LinkConfiguration::Message &route);
 
 } // namespace quillon

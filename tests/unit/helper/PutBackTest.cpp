@@ -2,62 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "helper/PutBack.h"
 
-#include <gtest/gtest.h>
-#include <netlink/attr.h>
-#include <netlink/msg.h>
+#include "unit/helper/KernelMessage.h"
 
-#include <array>
+#include <gtest/gtest.h>
+
 #include <cstring>
 #include <linux/if_addr.h>
 #include <linux/neighbour.h>
 #include <linux/rtnetlink.h>
-#include <memory>
 
 namespace quillon {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-constexpr int ourIndex = 7;
-const Bytes gateway{192, 0, 2, 1};
-const Bytes ourIPv4{192, 0, 2, 10};
-const Bytes otherIPv6{0xfd, 0, 0x0d, 0xb8, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x10};
-// Formed from 02:11:22:33:44:55.
-const Bytes formedIPv6{
-    0xfd, 0, 0x0d, 0xb8, 0, 0, 0, 0, 0x00, 0x11, 0x22, 0xff, 0xfe, 0x33, 0x44, 0x55};
-const Bytes linkLocal{0xfe, 0x80, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
-
-/// A message as the kernel sends it.
-template <typename Header>
-class KernelMessage
-{
-public:
-    KernelMessage(int type, const Header &header)
-        : m_message{nlmsg_alloc_simple(type, 0), nlmsg_free}
-    {
-        auto copy = header;
-        nlmsg_append(m_message.get(), &copy, sizeof copy, NLMSG_ALIGNTO);
-    }
-    KernelMessage &with(int type, const Bytes &value)
-    {
-        nla_put(m_message.get(), type, static_cast<int>(value.size()), value.data());
-        return *this;
-    }
-    KernelMessage &with(int type, std::uint32_t value)
-    {
-        nla_put_u32(m_message.get(), type, value);
-        return *this;
-    }
-    const nlmsghdr *header() const { return nlmsg_hdr(m_message.get()); }
-
-private:
-    std::unique_ptr<nl_msg, decltype(&nlmsg_free)> m_message;
-};
-
-LinkState ourLink()
-{
-    return {ourIndex, "enp1s0", 1, 0, {0x02, 0x11, 0x22, 0x33, 0x44, 0x55}};
-}
+using namespace test;
 
 KernelMessage<ifaddrmsg> address(int family, int index = ourIndex)
 {
@@ -66,44 +23,6 @@ KernelMessage<ifaddrmsg> address(int family, int index = ourIndex)
     header.ifa_index = static_cast<unsigned>(index);
     header.ifa_prefixlen = 24;
     return {RTM_NEWADDR, header};
-}
-
-rtmsg routeHeader(int family)
-{
-    rtmsg header{};
-    header.rtm_family = static_cast<std::uint8_t>(family);
-    header.rtm_type = RTN_UNICAST;
-    header.rtm_protocol = RTPROT_STATIC;
-    header.rtm_table = RT_TABLE_MAIN;
-    return header;
-}
-
-KernelMessage<rtmsg> route(rtmsg header = routeHeader(AF_INET))
-{
-    return {RTM_NEWROUTE, header};
-}
-
-/// The value of an attribute in a message's body, or nothing.
-template <typename Header>
-Bytes attributeOf(const Bytes &body, int type)
-{
-    const auto start = NLMSG_ALIGN(sizeof(Header));
-    auto *attributes = reinterpret_cast<nlattr *>(const_cast<std::uint8_t *>(body.data()) + start);
-    const auto *found = nla_find(attributes, static_cast<int>(body.size() - start), type);
-    if (found == nullptr) {
-        return {};
-    }
-    const auto *data = static_cast<const std::uint8_t *>(nla_data(found));
-    return {data, data + nla_len(found)};
-}
-
-std::uint32_t numberOf(const Bytes &bytes)
-{
-    std::uint32_t number = 0;
-    if (bytes.size() == sizeof number) {
-        std::memcpy(&number, bytes.data(), sizeof number);
-    }
-    return number;
 }
 
 TEST(PutBackAddress, keepsPrefixScopeLabelAndLifetimes)
@@ -167,134 +86,6 @@ TEST(PutBackAddress, keepsALinkLocalAddressThatAPersonGave)
     auto message = address(AF_INET6);
     message.with(IFA_ADDRESS, linkLocal);
     EXPECT_TRUE(addressToPutBack(message.header(), ourLink()));
-}
-
-TEST(PutBackRoute, keepsEverythingButWhatTheKernelFound)
-{
-    auto header = routeHeader(AF_INET);
-    header.rtm_flags = RTNH_F_LINKDOWN | RTNH_F_DEAD | RTNH_F_ONLINK;
-    auto message = route(header);
-    message.with(RTA_OIF, unsigned{ourIndex})
-        .with(RTA_GATEWAY, gateway)
-        .with(RTA_PRIORITY, 100)
-        .with(RTA_TABLE, 1234)
-        .with(RTA_NH_ID, 5);
-    const auto body = routeToPutBack(message.header(), ourLink());
-    ASSERT_TRUE(body);
-    EXPECT_EQ(reinterpret_cast<const rtmsg *>(body->data())->rtm_flags, unsigned{RTNH_F_ONLINK});
-    EXPECT_EQ(attributeOf<rtmsg>(*body, RTA_GATEWAY), gateway);
-    EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_PRIORITY)), 100U);
-    EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_TABLE)), 1234U);
-    EXPECT_TRUE(attributeOf<rtmsg>(*body, RTA_NH_ID).empty());
-    EXPECT_TRUE(hasGateway(*body));
-    EXPECT_FALSE(hasSourceAddress(*body));
-}
-
-TEST(PutBackRoute, turnsWhatIsLeftOfItsTimeIntoANewTime)
-{
-    rta_cacheinfo info{};
-    info.rta_expires = static_cast<int>(60 * sysconf(_SC_CLK_TCK));
-    Bytes bytes(sizeof info);
-    std::memcpy(bytes.data(), &info, sizeof info);
-    auto message = route(routeHeader(AF_INET6));
-    message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_CACHEINFO, bytes);
-    const auto body = routeToPutBack(message.header(), ourLink());
-    ASSERT_TRUE(body);
-    EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_EXPIRES)), 61U);
-    EXPECT_TRUE(attributeOf<rtmsg>(*body, RTA_CACHEINFO).empty());
-}
-
-TEST(PutBackRoute, leavesOtherInterfacesAlone)
-{
-    auto message = route();
-    message.with(RTA_OIF, unsigned{ourIndex + 1});
-    EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
-    EXPECT_FALSE(routeToPutBack(route().header(), ourLink()));
-}
-
-TEST(PutBackRoute, findsTheInterfaceAmongSeveralHopsAndClearsTheirStates)
-{
-    Bytes hops;
-    for (int index : {ourIndex + 1, ourIndex}) {
-        rtnexthop hop{};
-        hop.rtnh_len = sizeof hop;
-        hop.rtnh_flags = RTNH_F_DEAD | RTNH_F_LINKDOWN;
-        hop.rtnh_ifindex = index;
-        const auto *bytes = reinterpret_cast<const std::uint8_t *>(&hop);
-        hops.insert(hops.end(), bytes, bytes + sizeof hop);
-    }
-    auto message = route();
-    message.with(RTA_MULTIPATH, hops);
-    const auto body = routeToPutBack(message.header(), ourLink());
-    ASSERT_TRUE(body);
-    const auto kept = attributeOf<rtmsg>(*body, RTA_MULTIPATH);
-    ASSERT_EQ(kept.size(), hops.size());
-    EXPECT_EQ(reinterpret_cast<const rtnexthop *>(kept.data())->rtnh_flags, 0);
-    EXPECT_TRUE(hasGateway(*body));
-}
-
-TEST(PutBackRoute, withHopsOfImpossibleLengthIsNotFollowed)
-{
-    rtnexthop hop{};
-    hop.rtnh_ifindex = ourIndex;
-    for (std::uint16_t length : {std::uint16_t{0}, std::uint16_t{4}, std::uint16_t{200}}) {
-        hop.rtnh_len = length;
-        Bytes bytes(sizeof hop);
-        std::memcpy(bytes.data(), &hop, sizeof hop);
-        auto message = route();
-        message.with(RTA_MULTIPATH, bytes);
-        EXPECT_FALSE(routeToPutBack(message.header(), ourLink())) << length;
-    }
-}
-
-TEST(PutBackRoute, leavesToOthersWhatOthersMake)
-{
-    auto cloned = routeHeader(AF_INET6);
-    cloned.rtm_flags = RTM_F_CLONED;
-    auto advertised = routeHeader(AF_INET6);
-    advertised.rtm_protocol = RTPROT_RA;
-    auto redirected = routeHeader(AF_INET6);
-    redirected.rtm_protocol = RTPROT_REDIRECT;
-    for (const auto &header : {cloned, advertised, redirected}) {
-        auto message = route(header);
-        message.with(RTA_OIF, unsigned{ourIndex});
-        EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
-    }
-    auto kernels = routeHeader(AF_INET6);
-    kernels.rtm_protocol = RTPROT_KERNEL;
-    auto message = route(kernels);
-    message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_DST, linkLocal);
-    EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
-}
-
-TEST(PutBackRoute, ofAnyTypeIsKeptUnlessTheKernelMadeIt)
-{
-    for (int family : {AF_INET, AF_INET6}) {
-        for (std::uint8_t type : {RTN_LOCAL, RTN_BROADCAST, RTN_ANYCAST, RTN_MULTICAST}) {
-            auto header = routeHeader(family);
-            header.rtm_type = type;
-            auto given = route(header);
-            given.with(RTA_OIF, unsigned{ourIndex});
-            const auto body = routeToPutBack(given.header(), ourLink());
-            ASSERT_TRUE(body) << int{type};
-            EXPECT_EQ(reinterpret_cast<const rtmsg *>(body->data())->rtm_type, type);
-            header.rtm_protocol = RTPROT_KERNEL;
-            auto kernels = route(header);
-            kernels.with(RTA_OIF, unsigned{ourIndex});
-            EXPECT_FALSE(routeToPutBack(kernels.header(), ourLink())) << int{type};
-        }
-    }
-}
-
-TEST(PutBackRoute, keepsPrefixRoutesThatAManagerAddedUnderTheKernelsName)
-{
-    auto header = routeHeader(AF_INET);
-    header.rtm_protocol = RTPROT_KERNEL;
-    auto message = route(header);
-    message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_PREFSRC, ourIPv4);
-    const auto body = routeToPutBack(message.header(), ourLink());
-    ASSERT_TRUE(body);
-    EXPECT_TRUE(hasSourceAddress(*body));
 }
 
 const Bytes routersLinkAddress{0x02, 0, 0, 0, 0, 0x99};
@@ -379,7 +170,7 @@ TEST(PutBackNeighbor, leavesOtherInterfacesFamiliesAndMessagesAlone)
     bridged.with(NDA_DST, gateway).with(NDA_LLADDR, routersLinkAddress);
     EXPECT_FALSE(neighborToPutBack(bridged.header(), ourLink()));
     EXPECT_FALSE(neighborToPutBack(neighbor(NUD_PERMANENT).header(), ourLink()));
-    auto notOne = route();
+    KernelMessage notOne(RTM_NEWROUTE, rtmsg{});
     notOne.with(RTA_OIF, unsigned{ourIndex});
     EXPECT_FALSE(neighborToPutBack(notOne.header(), ourLink()));
 }
