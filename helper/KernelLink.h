@@ -39,6 +39,8 @@ struct LinkConfiguration
     /// Those that a person or a program gave. They are forgotten at every change of the address.
     std::vector<Message> neighbors;
     std::vector<Message> addresses;
+    /// Nexthop objects, then the groups that they are in.
+    std::vector<Message> nexthops;
     /// Those without a gateway first, so that gateways are reachable when their routes come.
     std::vector<Message> routes;
 };

@@ -7,6 +7,7 @@
 #include "helper/MessageBody.h"
 #include "helper/NetlinkRoutes.h"
 #include "helper/PutBack.h"
+#include "helper/PutBackNexthops.h"
 #include "helper/PutBackRoutes.h"
 #include "netlink/NetlinkAttributes.h"
 
@@ -14,6 +15,7 @@
 #include <cerrno>
 #include <cstring>
 #include <linux/neighbour.h>
+#include <linux/nexthop.h>
 #include <linux/rtnetlink.h>
 #include <net/if.h>
 #include <poll.h>
@@ -78,6 +80,19 @@ void restoreOrder(std::vector<LinkConfiguration::Message> &addresses)
     std::reverse(firstIPv6, addresses.end());
 }
 
+void logLosses(const LinkConfiguration &configuration, const NetlinkRoutes &routes)
+{
+    const auto logLoss = [&](const char *what, int count) {
+        if (count > 0) {
+            logLine("device=" + harmless(configuration.device) + ": " + what + ": " +
+                    std::to_string(count));
+        }
+    };
+    logLoss("routes put back without their source address, which cannot be used now",
+        routes.sourcesLost());
+    logLoss("nexthop objects and groups that cannot be put back now", routes.nexthopsLost());
+}
+
 } // namespace
 
 int NetlinkKernelLink::find(int index, const std::string &name, LinkState &state)
@@ -131,7 +146,7 @@ int NetlinkKernelLink::readLinks(std::vector<LinkState> &links)
     return errorOf(answer);
 }
 
-int NetlinkKernelLink::readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
+int NetlinkKernelLink::readTable(const NetlinkMessage &request, const ToPutBack &toPutBack,
     const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table)
 {
     const auto before = table.size();
@@ -179,12 +194,28 @@ int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguratio
             links, configuration.addresses);
     }
     if (error == 0) {
-        error = readTable(netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, rtmsg{}), routeToPutBack, links,
-            configuration.routes);
+        error = readRoutes(links, configuration);
     }
     restoreOrder(configuration.addresses);
-    std::stable_partition(configuration.routes.begin(), configuration.routes.end(),
-        [](const LinkConfiguration::Message &route) { return !hasGateway(route); });
+    return error;
+}
+
+int NetlinkKernelLink::readRoutes(
+    const std::vector<LinkState> &links, LinkConfiguration &configuration)
+{
+    if (const int error = readTable(netlinkMessage(RTM_GETNEXTHOP, NLM_F_DUMP, nhmsg{}),
+            nexthopToPutBack, links, configuration.nexthops);
+        error != 0) {
+        return error;
+    }
+    const auto nexthops = keepConcerned(configuration.nexthops);
+    const auto toPutBack = [&](const nlmsghdr *message, const LinkState &link) {
+        return routeToPutBack(message, link, nexthops);
+    };
+    const int error = readTable(
+        netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, rtmsg{}), toPutBack, links, configuration.routes);
+    std::stable_sort(configuration.routes.begin(), configuration.routes.end(),
+        [](const auto &first, const auto &second) { return orderOf(first) < orderOf(second); });
     return error;
 }
 
@@ -224,14 +255,8 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
         note(create(m_socket, RTM_NEWADDR, NLM_F_EXCL, address));
     }
     NetlinkRoutes routes{m_socket, [] { ::poll(nullptr, 0, detectionPauseMilliseconds); }};
-    for (const auto &route : configuration.routes) {
-        note(routes.putBack(route));
-    }
-    if (routes.sourcesLost() > 0) {
-        logLine("device=" + harmless(configuration.device) +
-                ": routes put back without their source address, which cannot be used now: " +
-                std::to_string(routes.sourcesLost()));
-    }
+    note(routes.putBack(configuration));
+    logLosses(configuration, routes);
     return first;
 }
 

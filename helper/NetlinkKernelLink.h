@@ -5,6 +5,7 @@
 #include "helper/KernelLink.h"
 #include "netlink/NetlinkSocket.h"
 
+#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -24,13 +25,15 @@ public:
     int putBack(const LinkConfiguration &configuration) override;
 
 private:
-    using ToPutBack = std::optional<LinkConfiguration::Message>(
-        const nlmsghdr *, const LinkState &);
+    /// Of a message about one of the links.
+    using ToPutBack = std::function<std::optional<LinkConfiguration::Message>(
+        const nlmsghdr *, const LinkState &)>;
 
     int find(int index, const std::string &name, LinkState &state);
     int readLinks(std::vector<LinkState> &links);
-    int readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
+    int readTable(const NetlinkMessage &request, const ToPutBack &toPutBack,
         const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table);
+    int readRoutes(const std::vector<LinkState> &links, LinkConfiguration &configuration);
     int restoreUp(const LinkState &before);
 
     NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};

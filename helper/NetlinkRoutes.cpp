@@ -3,6 +3,7 @@
 #include "helper/NetlinkRoutes.h"
 
 #include "helper/MessageBody.h"
+#include "helper/PutBackNexthops.h"
 #include "helper/PutBackRoutes.h"
 #include "netlink/NetlinkAttributes.h"
 #include "netlink/NetlinkSocket.h"
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <linux/if.h>
 #include <linux/if_addr.h>
+#include <linux/nexthop.h>
 #include <linux/rtnetlink.h>
 #include <utility>
 
@@ -44,9 +46,65 @@ NetlinkRoutes::NetlinkRoutes(NetlinkSocket &socket, Pause pause)
 {
 }
 
-int NetlinkRoutes::putBack(const LinkConfiguration::Message &route)
+int NetlinkRoutes::putBack(const LinkConfiguration &configuration)
 {
-    int error = putBackPatiently(route);
+    int first = 0;
+    const auto note = [&first](int error) { first = first == 0 ? error : first; };
+    const auto &routes = configuration.routes;
+    auto route = routes.begin();
+    for (; route != routes.end() && orderOf(*route) == 0; ++route) {
+        note(putRouteBack(*route));
+    }
+    for (const auto &nexthop : configuration.nexthops) {
+        note(putNexthopBack(nexthop));
+    }
+    for (; route != routes.end(); ++route) {
+        note(putRouteBack(*route));
+    }
+    return first;
+}
+
+int NetlinkRoutes::putNexthopBack(const LinkConfiguration::Message &nexthop)
+{
+    const auto members = membersOf(nexthop);
+    if (!std::all_of(members.begin(), members.end(),
+            [this](std::uint32_t id) { return nexthopExists(id); })) {
+        ++m_nexthopsLost;
+        return 0;
+    }
+    // A group with other hops has stayed, with these alone.
+    const int flags = members.empty() ? NLM_F_EXCL : NLM_F_REPLACE;
+    const int error = create(m_socket, RTM_NEWNEXTHOP, flags, nexthop);
+    if (error == ENETDOWN) {
+        ++m_nexthopsLost;
+        return 0;
+    }
+    return error;
+}
+
+bool NetlinkRoutes::nexthopExists(std::uint32_t id)
+{
+    const auto message = netlinkMessage(RTM_GETNEXTHOP, 0, nhmsg{});
+    return message && nla_put_u32(message.get(), NHA_ID, id) == 0 &&
+           m_socket.request(message).error == 0;
+}
+
+int NetlinkRoutes::putRouteBack(const LinkConfiguration::Message &route)
+{
+    const auto nexthop = nexthopOf(route);
+    if (!nexthop) {
+        return add(route);
+    }
+    if (nexthopExists(*nexthop)) {
+        return add(withoutHops(route));
+    }
+    // The kernel may be told not to say the hops (net.ipv4.nexthop_compat_mode).
+    return hasHops(route) ? add(withoutNexthop(route)) : ENETUNREACH;
+}
+
+int NetlinkRoutes::add(const LinkConfiguration::Message &route)
+{
+    int error = addPatiently(route);
     if (error == EINVAL && namesSourceIPv6(route)) {
         // As the kernel leaves a route whose source address goes.
         error = create(m_socket, RTM_NEWROUTE, NLM_F_APPEND, withoutSource(route));
@@ -55,12 +113,12 @@ int NetlinkRoutes::putBack(const LinkConfiguration::Message &route)
     return error;
 }
 
-int NetlinkRoutes::putBackPatiently(const LinkConfiguration::Message &route)
+int NetlinkRoutes::addPatiently(const LinkConfiguration::Message &route)
 {
     // Other interfaces may have routes of this destination and metric. Appended, it is refused only
     // when the very same route is there already.
-    const auto add = [&] { return create(m_socket, RTM_NEWROUTE, NLM_F_APPEND, route); };
-    int error = add();
+    const auto attempt = [&] { return create(m_socket, RTM_NEWROUTE, NLM_F_APPEND, route); };
+    int error = attempt();
     while (error == EINVAL && namesSourceIPv6(route)) {
         // Looked at before the next attempt: the address may be usable between the two.
         const bool canStillCome = m_pausesLeft > 0 && isSourceBeingChecked(route);
@@ -68,7 +126,7 @@ int NetlinkRoutes::putBackPatiently(const LinkConfiguration::Message &route)
             --m_pausesLeft;
             m_pause();
         }
-        error = add();
+        error = attempt();
         if (!canStillCome) {
             break;
         }

@@ -10,7 +10,7 @@ namespace quillon {
 
 class NetlinkSocket;
 
-/// Puts the routes of one LinkConfiguration back by rtnetlink.
+/// Puts the routes and nexthop objects of one LinkConfiguration back by rtnetlink.
 class NetlinkRoutes
 {
 public:
@@ -22,14 +22,21 @@ public:
 
     static constexpr int maximalPauses = 60;
 
-    /// 0 or the kernel's errno.
-    int putBack(const LinkConfiguration::Message &route);
+    /// Tries everything and returns 0 or the first errno of the kernel.
+    int putBack(const LinkConfiguration &configuration);
 
-    /// How many came back without the source address that they had named.
+    /// How many routes came back without the source address that they had named.
     int sourcesLost() const { return m_sourcesLost; }
+    /// How many nexthop objects and groups are not as they were: there is no carrier, without which
+    /// the kernel takes none. Their routes come back with the hops written out.
+    int nexthopsLost() const { return m_nexthopsLost; }
 
 private:
-    int putBackPatiently(const LinkConfiguration::Message &route);
+    int putNexthopBack(const LinkConfiguration::Message &nexthop);
+    int putRouteBack(const LinkConfiguration::Message &route);
+    int add(const LinkConfiguration::Message &route);
+    int addPatiently(const LinkConfiguration::Message &route);
+    bool nexthopExists(std::uint32_t id);
     bool isSourceBeingChecked(const LinkConfiguration::Message &route);
     bool hasCarrier(int index);
 
@@ -38,6 +45,7 @@ private:
     /// Shared by all routes: what is still wrong after that long stays wrong for the next one too.
     int m_pausesLeft = maximalPauses;
     int m_sourcesLost = 0;
+    int m_nexthopsLost = 0;
 };
 
 } // namespace quillon

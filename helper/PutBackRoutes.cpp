@@ -74,22 +74,25 @@ void clearHopStates(Message &body, std::size_t from)
 
 } // namespace
 
-std::optional<Message> routeToPutBack(const nlmsghdr *message, const LinkState &link)
+std::optional<Message> routeToPutBack(
+    const nlmsghdr *message, const LinkState &link, const std::set<std::uint32_t> &nexthops)
 {
     auto header = headerOf<rtmsg>(*message);
     if (message->nlmsg_type != RTM_NEWROUTE || !header) {
         return std::nullopt;
     }
     const RouteAttributes attributes(attributesOf<rtmsg>(*message));
-    if (!goesThrough(attributes, link.index) || othersMakeRoute(*header, attributes)) {
+    const auto nexthop = attributes.value<std::uint32_t>(RTA_NH_ID);
+    const bool isAffected =
+        goesThrough(attributes, link.index) || (nexthop && nexthops.contains(*nexthop));
+    if (!isAffected || othersMakeRoute(*header, attributes)) {
         return std::nullopt;
     }
     header->rtm_flags &= RTNH_F_ONLINK;
     Message body;
     append(body, &*header, sizeof *header);
     for (int type = 1; type <= RTA_MAX; ++type) {
-        // A nexthop object goes down with its interface; the route carries the hop itself as well.
-        if (!attributes.has(type) || type == RTA_CACHEINFO || type == RTA_NH_ID) {
+        if (!attributes.has(type) || type == RTA_CACHEINFO) {
             continue;
         }
         const auto start = body.size();
@@ -104,10 +107,35 @@ std::optional<Message> routeToPutBack(const nlmsghdr *message, const LinkState &
     return body;
 }
 
-bool hasGateway(const Message &route)
+int orderOf(const Message &route)
 {
     const auto attributes = attributesOfRoute(route);
-    return attributes.has(RTA_GATEWAY) || attributes.has(RTA_VIA) || attributes.has(RTA_MULTIPATH);
+    if (attributes.has(RTA_GATEWAY) || attributes.has(RTA_VIA) || attributes.has(RTA_MULTIPATH)) {
+        return 2;
+    }
+    return attributes.has(RTA_NH_ID) ? 1 : 0;
+}
+
+std::optional<std::uint32_t> nexthopOf(const Message &route)
+{
+    return attributesOfRoute(route).value<std::uint32_t>(RTA_NH_ID);
+}
+
+Message withoutHops(const Message &route)
+{
+    return without(route, sizeof(rtmsg),
+        {RTA_OIF, RTA_GATEWAY, RTA_VIA, RTA_MULTIPATH, RTA_ENCAP_TYPE, RTA_ENCAP});
+}
+
+Message withoutNexthop(const Message &route)
+{
+    return without(route, sizeof(rtmsg), {RTA_NH_ID});
+}
+
+bool hasHops(const Message &route)
+{
+    const auto attributes = attributesOfRoute(route);
+    return attributes.has(RTA_OIF) || attributes.has(RTA_MULTIPATH);
 }
 
 ByteSpan sourceOf(const Message &route)

@@ -1,16 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "helper/NetlinkRoutes.h"
-
 #include "helper/NetlinkKernelLink.h"
-#include "helper/PutBackRoutes.h"
-#include "integration/helper/BusClient.h"
-#include "integration/helper/Sandbox.h"
-#include "integration/helper/Waiting.h"
+#include "integration/helper/TwoCards.h"
 
 #include <gmock/gmock.h>
-
-#include <linux/netlink.h>
 
 namespace quillon::test {
 namespace {
@@ -18,41 +11,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-/// Changes the address of one of two cards, left0, in a way that takes it down.
-class NetlinkRoutesTest : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        // Without duplicate address detection nothing has to be waited for.
-        outputOf(
-            "for side in left right; do"
-            "  ip link add ${side}0 type veth peer name ${side}1;"
-            "  echo 0 > /proc/sys/net/ipv6/conf/${side}0/accept_dad;"
-            "  ip link set ${side}1 up; ip link set ${side}0 up;"
-            "done;"
-            "ip addr add 10.0.0.1/24 dev left0; ip -6 addr add fd00:1::1/64 dev left0 nodad;"
-            "ip addr add 10.1.0.1/24 dev right0; ip -6 addr add fd00:2::1/64 dev right0 nodad");
-    }
-    /// Each on one line. Of one destination and metric the kernel takes the first IPv4 route, so
-    /// that their order counts.
-    static std::string routes()
-    {
-        return outputOf("ip -o -4 route show table all | grep -e left0 -e right0;"
-                        "ip -o -6 route show table all | grep -e left0 -e right0 | grep -v fe80 |"
-                        "sort");
-    }
-    void expectRoutesKept()
-    {
-        const auto before = routes();
-        EXPECT_EQ(quillon.change("left0", newAddress, true), BusClient::done);
-        EXPECT_EQ(kernelAddress("left0"), newAddress);
-        // The kernel's own routes of an IPv6 address come a moment after it.
-        EXPECT_TRUE(waitUntil([&] { return routes() == before; })) << before << routes();
-    }
-
-    BusClient quillon{"quillon"};
-};
+using NetlinkRoutesTest = TwoCards;
 
 TEST_F(NetlinkRoutesTest, ofADestinationAndMetricThatAnotherInterfaceSharesComeBack)
 {
@@ -102,145 +61,74 @@ TEST_F(NetlinkRoutesTest, ofEveryTypeComeBack)
     expectRoutesKept();
 }
 
-/// Puts three routes back that name the source address fd00:3::1.
-class NetlinkRoutesSource : public NetlinkRoutesTest
+/// Objects lead out of left0, but 11 out of right0.
+class NetlinkRoutesNexthop : public TwoCards
 {
 protected:
     void SetUp() override
     {
-        NetlinkRoutesTest::SetUp();
-        outputOf("ip -6 addr add fd00:3::1/64 dev left0 nodad;"
-                 "for i in 1 2 3; do"
-                 "  ip -6 route add fd00:6$i::/48 via fd00:1::fe dev left0 src fd00:3::1;"
-                 "done");
-        NetlinkKernelLink kernel;
-        LinkState link;
-        LinkConfiguration configuration;
-        ASSERT_EQ(kernel.findByName("left0", link), 0);
-        ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
-        for (const auto &route : configuration.routes) {
-            if (namesSourceIPv6(route)) {
-                m_routes.push_back(route);
-            }
-        }
-        ASSERT_EQ(m_routes.size(), 3U);
-        outputOf("for i in 1 2 3; do ip -6 route del fd00:6$i::/48 dev left0; done;"
-                 "ip -6 addr del fd00:3::1/64 dev left0");
+        TwoCards::SetUp();
+        outputOf("ip nexthop add id 10 via 10.0.0.254 dev left0;"
+                 "ip nexthop add id 11 via 10.1.0.254 dev right0;"
+                 "ip nexthop add id 12 via 10.9.0.1 dev left0 onlink;"
+                 "ip nexthop add id 13 dev left0;"
+                 "ip nexthop add id 14 via fd00:1::fe dev left0;"
+                 "ip nexthop add id 20 group 10,2/11; ip nexthop add id 21 group 10/12,5;"
+                 "ip nexthop add id 22 group 11;"
+                 "ip route add 10.80.0.0/16 nhid 20; ip route add 10.81.0.0/16 nhid 10;"
+                 "ip route add 10.82.0.0/16 nhid 21; ip route add 10.83.0.0/16 nhid 13;"
+                 "ip route add 10.84.0.0/16 nhid 22; ip -6 route add fd00:80::/48 nhid 14");
+        ASSERT_THAT(shown(), HasSubstr("id 21 group 10/12,5"));
     }
-    /// The kernel asks around for it, a second each time, and nobody answers.
-    static void addAddressThatIsCheckedForLong()
+    /// Also those of no interface: the hops of some are told only by their object.
+    static std::string shown()
     {
-        outputOf("echo 1 > /proc/sys/net/ipv6/conf/left0/accept_dad;"
-                 "echo 10000 > /proc/sys/net/ipv6/conf/left0/dad_transmits;"
-                 "ip -6 addr add fd00:3::1/64 dev left0");
-        ASSERT_THAT(
-            outputOf("ip -6 addr show dev left0"), HasSubstr("fd00:3::1/64 scope global t"));
+        return outputOf("ip nexthop; ip -o -4 route show; ip -o -6 route show | grep nhid");
     }
-    /// How many of the routes then name their source address.
-    int putBack(const std::function<void()> &pause = [] {})
+    void expectKept()
     {
-        NetlinkRoutes routes{m_socket, [&] {
-                                 ++pauses;
-                                 pause();
-                             }};
-        for (const auto &route : m_routes) {
-            EXPECT_EQ(routes.putBack(route), 0);
-        }
-        EXPECT_EQ(outputOf("ip -6 route show | grep -c '^fd00:6'"), "3\n");
-        return 3 - routes.sourcesLost();
+        const auto before = shown();
+        EXPECT_EQ(quillon.change("left0", newAddress, true), BusClient::done);
+        EXPECT_EQ(kernelAddress("left0"), newAddress);
+        EXPECT_EQ(shown(), before);
     }
-
-    int pauses = 0;
-
-private:
-    NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};
-    std::vector<LinkConfiguration::Message> m_routes;
 };
 
-TEST_F(NetlinkRoutesSource, isWaitedForWhileItIsChecked)
+TEST_F(NetlinkRoutesNexthop, objectsAndGroupsComeBack)
 {
-    addAddressThatIsCheckedForLong();
-    const int kept = putBack([this] {
-        if (pauses == 2) {
-            outputOf("ip -6 addr del fd00:3::1/64 dev left0;"
-                     "ip -6 addr add fd00:3::1/64 dev left0 nodad");
-        }
-    });
-    EXPECT_EQ(kept, 3);
-    EXPECT_EQ(pauses, 2);
-    EXPECT_EQ(outputOf("ip -6 route show | grep -c 'src fd00:3::1'"), "3\n");
+    expectKept();
 }
 
-TEST_F(NetlinkRoutesSource, isGivenUpForAllTogether)
+TEST_F(NetlinkRoutesNexthop, objectsAndGroupsComeBackThatTheKernelTellsWithoutHops)
 {
-    addAddressThatIsCheckedForLong();
-    EXPECT_EQ(putBack(), 0);
-    EXPECT_EQ(pauses, NetlinkRoutes::maximalPauses);
+    outputOf("echo 0 > /proc/sys/net/ipv4/nexthop_compat_mode");
+    ASSERT_THAT(shown(), HasSubstr("10.81.0.0/16 nhid 10 \n"));
+    expectKept();
 }
 
-TEST_F(NetlinkRoutesSource, isNotWaitedForWithoutACarrier)
+TEST_F(NetlinkRoutesNexthop, objectsAreReplacedByTheirHopsWithoutACarrier)
 {
-    addAddressThatIsCheckedForLong();
-    outputOf("ip link set left1 down");
-    EXPECT_EQ(putBack(), 0);
-    EXPECT_EQ(pauses, 0);
-}
-
-TEST_F(NetlinkRoutesSource, isNotWaitedForWhenTheCarrierGoes)
-{
-    addAddressThatIsCheckedForLong();
-    EXPECT_EQ(putBack([this] {
-        if (pauses == 2) {
-            outputOf("ip link set left1 down");
-        }
-    }),
-        0);
-    EXPECT_EQ(pauses, 2);
-}
-
-TEST_F(NetlinkRoutesSource, isNotWaitedForWhenNobodyHasItOrAnotherMachineHas)
-{
-    EXPECT_EQ(putBack(), 0);
-    outputOf("for i in 1 2 3; do ip -6 route del fd00:6$i::/48 dev left0; done;"
-             "echo 1 > /proc/sys/net/ipv6/conf/left0/accept_dad;"
-             "ip -6 addr add fd00:3::1/64 dev left1 nodad; ip -6 addr add fd00:3::1/64 dev left0");
-    ASSERT_TRUE(waitUntil([] {
-        return outputOf("ip -6 addr show dev left0").find("dadfailed") != std::string::npos;
-    }));
-    outputOf("ip -6 addr del fd00:3::1/64 dev left1");
-    EXPECT_EQ(putBack(), 0);
-    EXPECT_EQ(pauses, 0);
-}
-
-TEST_F(NetlinkRoutesTest, losesNothingButTheSourceAddressWithoutACarrierAndSaysSo)
-{
-    outputOf("ip -6 addr add fd00:3::1/64 dev left0");
-    ASSERT_TRUE(waitUntil([] {
-        return outputOf("ip -6 addr show dev left0").find("tentative") == std::string::npos;
-    }));
-    outputOf("echo 1 > /proc/sys/net/ipv6/conf/left0/accept_dad;"
-             "ip -6 route add fd00:61::/48 via fd00:1::fe dev left0 src fd00:3::1;"
-             "ip -6 route add fd00:62::/48 via fd00:1::fe dev left0;"
-             "ip route add 10.52.0.0/16 via 10.0.0.254 dev left0 src 10.0.0.1");
-    outputOf("ip link set left1 down");
     NetlinkKernelLink kernel;
     LinkState link;
     LinkConfiguration configuration;
     ASSERT_EQ(kernel.findByName("left0", link), 0);
     ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
-    EXPECT_EQ(quillon.change("left0", newAddress, true), BusClient::done);
-    EXPECT_EQ(kernelAddress("left0"), newAddress);
-    const auto after = routes();
-    EXPECT_THAT(after, HasSubstr("fd00:61::/48 via fd00:1::fe dev left0"));
-    EXPECT_THAT(after, Not(HasSubstr("src fd00:3::1")));
-    EXPECT_THAT(after, HasSubstr("fd00:62::/48 via fd00:1::fe dev left0"));
-    EXPECT_THAT(after, HasSubstr("src 10.0.0.1"));
-    outputOf("ip link set left0 down; ip link set left0 up");
+    // As a Wi-Fi interface, which has none until it has joined its network again.
+    outputOf("ip link set left0 down; ip link set left1 down; ip link set left0 up");
     testing::internal::CaptureStderr();
     EXPECT_EQ(kernel.putBack(configuration), 0);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(),
-        HasSubstr("device=\"left0\": routes put back without their source address, which cannot "
-                  "be used now: 1\n"));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+        "device=\"left0\": nexthop objects and groups that cannot be put back now: 6\n");
+    const auto after =
+        outputOf("(ip nexthop; ip -o -4 route show; ip -o -6 route show) | sed 's/ linkdown//g'");
+    EXPECT_THAT(after, Not(HasSubstr("id 10 ")));
+    EXPECT_THAT(after, HasSubstr("\nid 20 group 11 \n"));
+    EXPECT_THAT(after, HasSubstr("10.80.0.0/16 nhid 20 via 10.1.0.254 dev right0"));
+    EXPECT_THAT(after, HasSubstr("10.81.0.0/16 via 10.0.0.254 dev left0"));
+    EXPECT_THAT(after, HasSubstr("10.82.0.0/16 \\\tnexthop via 10.0.0.254 dev left0 weight 1 "
+                                 "\\\tnexthop via 10.9.0.1 dev left0 weight 5 onlink"));
+    EXPECT_THAT(after, HasSubstr("10.83.0.0/16 dev left0"));
+    EXPECT_THAT(after, HasSubstr("fd00:80::/48 via fd00:1::fe dev left0"));
 }
 
 } // namespace

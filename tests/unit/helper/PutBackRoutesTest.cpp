@@ -38,16 +38,14 @@ TEST(PutBackRoutes, keepsEverythingButWhatTheKernelFound)
     message.with(RTA_OIF, unsigned{ourIndex})
         .with(RTA_GATEWAY, gateway)
         .with(RTA_PRIORITY, 100)
-        .with(RTA_TABLE, 1234)
-        .with(RTA_NH_ID, 5);
-    const auto body = routeToPutBack(message.header(), ourLink());
+        .with(RTA_TABLE, 1234);
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
     ASSERT_TRUE(body);
     EXPECT_EQ(reinterpret_cast<const rtmsg *>(body->data())->rtm_flags, unsigned{RTNH_F_ONLINK});
     EXPECT_EQ(attributeOf<rtmsg>(*body, RTA_GATEWAY), gateway);
     EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_PRIORITY)), 100U);
     EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_TABLE)), 1234U);
-    EXPECT_TRUE(attributeOf<rtmsg>(*body, RTA_NH_ID).empty());
-    EXPECT_TRUE(hasGateway(*body));
+    EXPECT_EQ(orderOf(*body), 2);
     EXPECT_TRUE(sourceOf(*body).empty());
 }
 
@@ -59,7 +57,7 @@ TEST(PutBackRoutes, turnsWhatIsLeftOfItsTimeIntoANewTime)
     std::memcpy(bytes.data(), &info, sizeof info);
     auto message = route(routeHeader(AF_INET6));
     message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_CACHEINFO, bytes);
-    const auto body = routeToPutBack(message.header(), ourLink());
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
     ASSERT_TRUE(body);
     EXPECT_EQ(numberOf(attributeOf<rtmsg>(*body, RTA_EXPIRES)), 61U);
     EXPECT_TRUE(attributeOf<rtmsg>(*body, RTA_CACHEINFO).empty());
@@ -69,8 +67,8 @@ TEST(PutBackRoutes, leavesOtherInterfacesAlone)
 {
     auto message = route();
     message.with(RTA_OIF, unsigned{ourIndex + 1});
-    EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
-    EXPECT_FALSE(routeToPutBack(route().header(), ourLink()));
+    EXPECT_FALSE(routeToPutBack(message.header(), ourLink(), {}));
+    EXPECT_FALSE(routeToPutBack(route().header(), ourLink(), {}));
 }
 
 TEST(PutBackRoutes, findsTheInterfaceAmongSeveralHopsAndClearsTheirStates)
@@ -86,12 +84,12 @@ TEST(PutBackRoutes, findsTheInterfaceAmongSeveralHopsAndClearsTheirStates)
     }
     auto message = route();
     message.with(RTA_MULTIPATH, hops);
-    const auto body = routeToPutBack(message.header(), ourLink());
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
     ASSERT_TRUE(body);
     const auto kept = attributeOf<rtmsg>(*body, RTA_MULTIPATH);
     ASSERT_EQ(kept.size(), hops.size());
     EXPECT_EQ(reinterpret_cast<const rtnexthop *>(kept.data())->rtnh_flags, 0);
-    EXPECT_TRUE(hasGateway(*body));
+    EXPECT_EQ(orderOf(*body), 2);
 }
 
 TEST(PutBackRoutes, withHopsOfImpossibleLengthIsNotFollowed)
@@ -104,7 +102,7 @@ TEST(PutBackRoutes, withHopsOfImpossibleLengthIsNotFollowed)
         std::memcpy(bytes.data(), &hop, sizeof hop);
         auto message = route();
         message.with(RTA_MULTIPATH, bytes);
-        EXPECT_FALSE(routeToPutBack(message.header(), ourLink())) << length;
+        EXPECT_FALSE(routeToPutBack(message.header(), ourLink(), {})) << length;
     }
 }
 
@@ -119,13 +117,13 @@ TEST(PutBackRoutes, leavesToOthersWhatOthersMake)
     for (const auto &header : {cloned, advertised, redirected}) {
         auto message = route(header);
         message.with(RTA_OIF, unsigned{ourIndex});
-        EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
+        EXPECT_FALSE(routeToPutBack(message.header(), ourLink(), {}));
     }
     auto kernels = routeHeader(AF_INET6);
     kernels.rtm_protocol = RTPROT_KERNEL;
     auto message = route(kernels);
     message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_DST, linkLocal);
-    EXPECT_FALSE(routeToPutBack(message.header(), ourLink()));
+    EXPECT_FALSE(routeToPutBack(message.header(), ourLink(), {}));
 }
 
 TEST(PutBackRoutes, ofAnyTypeIsKeptUnlessTheKernelMadeIt)
@@ -136,13 +134,13 @@ TEST(PutBackRoutes, ofAnyTypeIsKeptUnlessTheKernelMadeIt)
             header.rtm_type = type;
             auto given = route(header);
             given.with(RTA_OIF, unsigned{ourIndex});
-            const auto body = routeToPutBack(given.header(), ourLink());
+            const auto body = routeToPutBack(given.header(), ourLink(), {});
             ASSERT_TRUE(body) << int{type};
             EXPECT_EQ(reinterpret_cast<const rtmsg *>(body->data())->rtm_type, type);
             header.rtm_protocol = RTPROT_KERNEL;
             auto kernels = route(header);
             kernels.with(RTA_OIF, unsigned{ourIndex});
-            EXPECT_FALSE(routeToPutBack(kernels.header(), ourLink())) << int{type};
+            EXPECT_FALSE(routeToPutBack(kernels.header(), ourLink(), {})) << int{type};
         }
     }
 }
@@ -153,7 +151,7 @@ TEST(PutBackRoutes, keepsPrefixRoutesThatAManagerAddedUnderTheKernelsName)
     header.rtm_protocol = RTPROT_KERNEL;
     auto message = route(header);
     message.with(RTA_OIF, unsigned{ourIndex}).with(RTA_PREFSRC, ourIPv4);
-    const auto body = routeToPutBack(message.header(), ourLink());
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
     ASSERT_TRUE(body);
     EXPECT_EQ(sourceOf(*body).size(), ourIPv4.size());
     EXPECT_FALSE(namesSourceIPv6(*body));
@@ -166,7 +164,7 @@ TEST(PutBackRoutes, canBeWithoutTheirSourceAddress)
         .with(RTA_PREFSRC, otherIPv6)
         .with(RTA_PRIORITY, 100)
         .with(RTA_PREF, Bytes{1});
-    const auto body = routeToPutBack(message.header(), ourLink());
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
     ASSERT_TRUE(body);
     EXPECT_TRUE(namesSourceIPv6(*body));
     const auto bare = withoutSource(*body);
@@ -176,6 +174,44 @@ TEST(PutBackRoutes, canBeWithoutTheirSourceAddress)
     EXPECT_EQ(numberOf(attributeOf<rtmsg>(bare, RTA_PRIORITY)), 100U);
     EXPECT_EQ(attributeOf<rtmsg>(bare, RTA_PREF), Bytes{1});
     EXPECT_EQ(withoutSource(bare), bare);
+}
+
+TEST(PutBackRoutes, throughANexthopObjectNameItAndItsHops)
+{
+    auto message = route();
+    message.with(RTA_OIF, unsigned{ourIndex})
+        .with(RTA_GATEWAY, gateway)
+        .with(RTA_PRIORITY, 100)
+        .with(RTA_NH_ID, 5);
+    const auto body = routeToPutBack(message.header(), ourLink(), {});
+    ASSERT_TRUE(body);
+    EXPECT_EQ(nexthopOf(*body), 5U);
+    const auto bare = withoutHops(*body);
+    EXPECT_EQ(nexthopOf(bare), 5U);
+    EXPECT_TRUE(attributeOf<rtmsg>(bare, RTA_OIF).empty());
+    EXPECT_TRUE(attributeOf<rtmsg>(bare, RTA_GATEWAY).empty());
+    EXPECT_EQ(numberOf(attributeOf<rtmsg>(bare, RTA_PRIORITY)), 100U);
+    EXPECT_FALSE(hasHops(bare));
+    EXPECT_EQ(orderOf(bare), 1);
+    const auto written = withoutNexthop(*body);
+    EXPECT_FALSE(nexthopOf(written));
+    EXPECT_TRUE(hasHops(written));
+    EXPECT_EQ(attributeOf<rtmsg>(written, RTA_GATEWAY), gateway);
+}
+
+TEST(PutBackRoutes, throughANexthopObjectAreFoundByItAlone)
+{
+    auto message = route();
+    message.with(RTA_NH_ID, 5);
+    EXPECT_TRUE(routeToPutBack(message.header(), ourLink(), {4, 5}));
+    EXPECT_FALSE(routeToPutBack(message.header(), ourLink(), {4}));
+}
+
+TEST(PutBackRoutes, withoutAnythingBetweenComeFirst)
+{
+    auto direct = route();
+    direct.with(RTA_OIF, unsigned{ourIndex});
+    EXPECT_EQ(orderOf(*routeToPutBack(direct.header(), ourLink(), {})), 0);
 }
 
 } // namespace
