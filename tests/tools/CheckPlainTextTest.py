@@ -24,6 +24,16 @@ setWindowTitle(name);
 setWindowTitle(u"Records[*]"_s);
 menu->addAction(icon, name);
 tabs->addTab(page, name);
+case Qt::DisplayRole:\\n    return m_model.name(row);
+case Qt::EditRole:
+box->addItems(names);
+box->addItem(name);
+box->setItemText(0, name);
+box->insertItem(0, name);
+field->setText(name);
+field->setText(isOurs ? localized("Ours") : name);
+setText(m_model.text());
+field->setPlaceholderText(name);
 """
 PLAIN = """\
 // QLabel label(name);
@@ -40,6 +50,13 @@ setWindowTitle(u"Quillon"_s);
 setWindowTitle(localized("Preferences"));
 QAction *made = submenu->addAction(QString());
 addAction(action);
+case Qt::DisplayRole:\\n    return plainEntry(m_model.name(row));
+box->addItem(plainLine(name), name);
+grid->addItem(\\n    new QSpacerItem(1, 0), 1, 1);
+field->setText(plainLine(name));
+field->setText(u"–"_s);
+field->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
+field->setPlaceholderText(plainLine(name));
 """
 
 

@@ -81,15 +81,21 @@ void VendorChooser::connectModel()
         m_field->end(false);
     });
     connect(&m_model, &VendorFieldModel::listEntered, this, [this] { m_table->setFocus(); });
-    connect(m_field, &QLineEdit::textEdited, &m_model, &VendorFieldModel::controlTextDidChange);
+    connect(m_field, &QLineEdit::textEdited, this, [this](const QString &typed) {
+        m_text = typed;
+        m_model.controlTextDidChange(typed);
+    });
     connect(m_toggle, &QToolButton::clicked, this, [this] { m_model.toggleVendorViewPopover(); });
 }
 
 void VendorChooser::refresh()
 {
     const auto &state = m_model.state();
-    if (m_field->text() != state.text) {
-        m_field->setText(state.text);
+    // By the text that it stands for: what is shown of a name may differ, and what the user typed
+    // stays as it is.
+    if (m_text != state.text) {
+        m_text = state.text;
+        m_field->setText(plainEntry(state.text));
         // The beginning of a name says more than its end.
         m_field->setCursorPosition(0);
     }

@@ -40,6 +40,7 @@ private:
     void placeList();
 
     VendorFieldModel &m_model;
+    QString m_text; ///< the model's text that the field shows, as it was written
     QLineEdit *m_field;
     QToolButton *m_toggle;
     VendorTableView *m_table;

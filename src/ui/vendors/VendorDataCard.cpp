@@ -126,7 +126,7 @@ void VendorDataCard::refresh()
     const auto &state = m_model.state();
     showLine(*m_updated, state.updatedLabel);
     showLine(*m_count, state.vendorCount);
-    m_button->setText(state.buttonTitle);
+    m_button->setText(plainLine(state.buttonTitle));
     m_button->setAccessibleName(state.buttonTitle);
     m_button->setEnabled(state.action != VendorPaneModel::Action::None);
     m_button->setToolTip(plainToolTip(downloadHint(state)));

@@ -68,7 +68,7 @@ QVariant VendorListRows::data(const QModelIndex &index, int role) const
     }
     switch (role) {
     case Qt::DisplayRole:
-        return m_model.rowText(index.row());
+        return plainEntry(m_model.rowText(index.row()));
     case Qt::ToolTipRole:
         return plainToolTip(m_model.rowToolTip(index.row()));
     default:

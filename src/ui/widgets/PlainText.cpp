@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype longestLine = 120;
+constexpr qsizetype entryEnd = 24;
 constexpr qsizetype longestMessage = 2000;
 constexpr qsizetype longestToolTip = 1000;
 /// A longer tool tip is broken into lines, which only HTML can.
@@ -75,6 +76,19 @@ void showLine(QLabel &label, const QString &text, int widest)
 QString plainLine(const QString &text)
 {
     return cut(clean(text, false), longestLine);
+}
+
+QString plainEntry(const QString &text)
+{
+    const QString line = clean(text, false);
+    if (line.size() <= longestLine) {
+        return line;
+    }
+    QString end = line.right(entryEnd);
+    if (end.front().isLowSurrogate()) {
+        end.remove(0, 1);
+    }
+    return cut(line, longestLine - end.size()) + end;
 }
 
 QString plainParagraphs(const QString &text)

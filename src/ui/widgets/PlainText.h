@@ -22,6 +22,9 @@ void showLine(QLabel &label, const QString &text, int widest = QWIDGETSIZE_MAX);
 /// What a control or a menu shows of a text: one line of at most 120 characters. Line breaks and
 /// other control characters are spaces, and what reverses the text around it is U+FFFD.
 QString plainLine(const QString &text);
+/// The same for an entry that its end tells apart, as a manufacturer's name with the identifier in
+/// it: what is too long is left out in the middle.
+QString plainEntry(const QString &text);
 /// The same for a message: at most 2,000 characters, which keep their line breaks.
 QString plainParagraphs(const QString &text);
 /// A tool tip that reads `text`: on one line, at most 1,000 characters. Tool tips have no format of

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QScopedValueRollback>
 #include <QValidator>
@@ -32,7 +33,7 @@ public:
 
     State validate(QString &text, int &) const override
     {
-        if (text == m_field.m_model.state().fieldText) {
+        if (text == m_field.shownText()) {
             return Acceptable;
         }
         // The model answers an edit with changes of its own, which have to wait for the edit's end.
@@ -56,7 +57,7 @@ AddressField::AddressField(MainWindowModel &model, QWidget *parent)
     setInputMethodHints(Qt::ImhNoPredictiveText | Qt::ImhPreferLatin);
     // Drops belong to the view around the field.
     setAcceptDrops(false);
-    setText(m_model.state().fieldText);
+    setText(shownText());
     setValidator(new EntryRules(*this));
     connect(this, &QLineEdit::textChanged, this, &AddressField::refresh);
     connect(this, &QLineEdit::editingFinished, &m_model, &MainWindowModel::endEditing);
@@ -71,14 +72,19 @@ QSize AddressField::sizeHint() const
     return size;
 }
 
+QString AddressField::shownText() const
+{
+    // What the entry rules let in is plain; the settings may hold anything.
+    return plainLine(m_model.state().fieldText);
+}
+
 void AddressField::refresh()
 {
-    const QString &wanted = m_model.state().fieldText;
-    if (m_asking || text() == wanted) {
+    if (m_asking || text() == shownText()) {
         return;
     }
     const int cursor = cursorPosition();
-    setText(wanted);
+    setText(shownText());
     setCursorPosition(cursor);
 }
 

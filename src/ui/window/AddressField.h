@@ -27,6 +27,8 @@ public:
 private:
     class EntryRules;
 
+    QString shownText() const;
+
     MainWindowModel &m_model;
     bool m_asking = false;
 };

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QHoverEvent>
 #include <QSignalBlocker>
@@ -27,8 +28,9 @@ InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
     // The list's look comes from the style sheet, which the default delegate of a combo box
     // disregards.
     setItemDelegate(new QStyledItemDelegate(this));
-    connect(this, &QComboBox::textActivated, this, [this](const QString &title) {
-        m_model.changeInterfacefromPopup(title);
+    // By the device's name: what is shown of it may differ.
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        m_model.changeInterfacefromPopup(itemData(index).toString());
         refresh();
     });
     refresh();
@@ -39,13 +41,15 @@ void InterfaceSelector::refresh()
     const auto &state = m_model.state();
     QStringList shown;
     for (int index = 0; index < count(); ++index) {
-        shown.append(itemText(index));
+        shown.append(itemData(index).toString());
     }
     {
         const QSignalBlocker blocker(this);
         if (shown != state.devices) {
             clear();
-            addItems(state.devices);
+            for (const QString &device : state.devices) {
+                addItem(plainLine(device), device);
+            }
         }
         setCurrentIndex(static_cast<int>(state.devices.indexOf(state.selectedDevice)));
     }

@@ -212,14 +212,14 @@ void MainWindow::refresh()
     const auto &state = m_model.state();
     m_header->refresh();
     m_field->refresh();
-    m_field->setPlaceholderText(state.fieldPlaceholder);
+    m_field->setPlaceholderText(plainLine(state.fieldPlaceholder));
     m_field->setEnabled(state.fieldEnabled);
     setUsable(*m_apply, state.updateEnabled, state.whyNoUpdate);
     setUsable(*m_randomize, state.randomizeEnabled, state.whyNoRandomize);
     setUsable(*m_restore, state.restoreEnabled, state.whyNoRestore);
     m_readMe->refresh();
     m_details->refresh();
-    m_version->setText(state.versionLabel);
+    m_version->setText(plainLine(state.versionLabel));
 }
 
 void MainWindow::bringUp()

@@ -11,6 +11,7 @@
 #include "vendors/VendorTable.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
@@ -94,6 +95,15 @@ protected:
     QString filledIn(QString text) const { return text.replace(picture, picturePath); }
 
     QString orLine(const QString &text) const { return text.isEmpty() ? line : filledIn(text); }
+
+    /// How an entry is shown that is made of the text and `end`.
+    QString entry(const QString &end = {}) const
+    {
+        constexpr qsizetype keptEnd = 24;
+        return line.endsWith(u'…')
+                   ? QString(95, u'i') + u'…' + (QString(keptEnd, u'i') + end).right(keptEnd)
+                   : QString(line + end);
+    }
 
     /// A manufacturer's name, as the public registry has it.
     void offerVendor()
@@ -195,9 +205,8 @@ TEST_P(OutsideTextTest, IsShownAsItIsInToolTips)
     ASSERT_EQ(list->model()->rowCount(), 2);
     const int row = list->model()->index(0, 0).data().toString() == "Random Address"_L1 ? 1 : 0;
     const QModelIndex index = list->model()->index(row, 0);
-    // A registry's fields have a longest, too.
-    EXPECT_EQ(
-        index.data().toString().left(100), QString(written.trimmed() + u" (0000FF)"_s).left(100));
+    EXPECT_EQ(index.data().toString(), entry(u" (0000FF)"_s));
+    EXPECT_EQ(field->text(), entry());
 
     EXPECT_EQ(readToolTip(*field, field->rect().center()), tip);
     EXPECT_EQ(readToolTip(*list->viewport(), list->visualRect(index).center()),
@@ -209,6 +218,32 @@ TEST_P(OutsideTextTest, IsShownAsItIsInToolTips)
         EXPECT_TRUE(!Qt::mightBeRichText(widget->toolTip()) || widget == field)
             << widget->toolTip().toStdString();
     }
+    EXPECT_FALSE(opened->wasOpened());
+}
+
+TEST_P(OutsideTextTest, IsShownAsItIsInTheFields)
+{
+    features().vendors.choice.updateVendorField(enp1s0);
+    setDeviceRecord(written, record::current, u"3c:22:fb:00:00:04"_s);
+    features().mainWindow.populateSelectionButton();
+    auto *selector = part<QComboBox>("deviceSelectionButton");
+    const int index = selector->findData(written);
+    ASSERT_GE(index, 0);
+    EXPECT_EQ(selector->itemText(index), line);
+    Q_EMIT selector->activated(index);
+    machine.scheduler.runPending();
+    EXPECT_EQ(features().devices.currentInterface.device(), written);
+    EXPECT_EQ(selector->currentText(), line);
+
+    setDeviceRecord(written, record::vendor, written);
+    features().vendors.choice.updateVendorField(written);
+    EXPECT_EQ(part<QLineEdit>("vendorTextfield")->text(), entry());
+    machine.settings.set(keys::currentInterfaceDict,
+        QVariantMap{{record::device, written}, {record::current, written}});
+    features().mainWindow.populateHexField();
+    machine.scheduler.runPending();
+    EXPECT_EQ(part<QLineEdit>("hexField")->text().compare(line, Qt::CaseInsensitive), 0);
+    part<QWidget>("windowView")->grab();
     EXPECT_FALSE(opened->wasOpened());
 }
 

@@ -370,12 +370,47 @@ TEST_F(VendorChooserTest, ALongNameShowsItsBeginningAndTellsTheRest)
     type(u"w"_s);
     press(*text, Qt::Key_Down);
     const QString entry = QString::fromLatin1(name) + u" (00000F)"_s;
-    EXPECT_EQ(text->text(), entry);
+    EXPECT_EQ(saved(), entry);
+    EXPECT_EQ(text->text(), QString(95, u'W') + u'…' + QString(15, u'W') + u" (00000F)"_s);
+    EXPECT_EQ(selected(), text->text());
     EXPECT_EQ(text->cursorPosition(), 0);
     EXPECT_EQ(text->toolTip(), entry);
     EXPECT_EQ(table->model()->index(0, 0).data(Qt::ToolTipRole).toString(), entry);
     EXPECT_EQ(table->textElideMode(), Qt::ElideMiddle) << "the identifier stays in sight";
     EXPECT_EQ(window.width(), 460);
+}
+
+TEST_F(VendorChooserTest, ANameIsShownOnOneLineAndStoredAsItIs)
+{
+    const QByteArray name = "Two\nLines\xE2\x80\xA8\xE2\x80\xAE"
+                            "Apart";
+    const QString entry = QString::fromUtf8(name) + u" (00000F)"_s;
+    const QString shown = u"Two Lines \uFFFDApart (00000F)"_s;
+    offer(registryOf({{"00000F", name}}));
+    type(u"t"_s);
+    press(*text, Qt::Key_Down);
+    EXPECT_EQ(selected(), shown);
+    EXPECT_EQ(text->text(), shown);
+    EXPECT_EQ(saved(), entry);
+    press(*text, Qt::Key_Escape);
+    choice.setVendorSelectionForCurrentDevice();
+    click(*toggle, toggle->rect().center());
+    EXPECT_EQ(selected(), shown) << "the stored choice is found again";
+}
+
+TEST_F(VendorChooserTest, WhatIsTypedStaysAsItWasTyped)
+{
+    const QString odd = u"a\u202Eb\u2028c"_s;
+    text->selectAll();
+    press(*text, Qt::Key_unknown, odd);
+    field.showVendorButton(true);
+    EXPECT_EQ(text->text(), odd);
+    EXPECT_EQ(text->cursorPosition(), odd.size());
+    const QString longText(300, u'a');
+    text->selectAll();
+    press(*text, Qt::Key_unknown, longText);
+    field.showVendorButton(false);
+    EXPECT_EQ(text->text(), longText);
 }
 
 TEST_F(VendorChooserTest, TensOfThousandsOfRowsAreShownAndNarrowed)

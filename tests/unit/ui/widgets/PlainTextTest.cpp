@@ -75,6 +75,20 @@ TEST(PlainText, AToolTipThatLooksLikeHtmlReadsAsItIsWritten)
     }
 }
 
+TEST(PlainText, OfAnEntryThatIsTooLongTheMiddleIsLeftOut)
+{
+    EXPECT_EQ(plainEntry(u"Two\nLines \u202E(00000F)"_s), u"Two Lines \uFFFD(00000F)"_s);
+    EXPECT_EQ(plainEntry(QString(120, u'x')), QString(120, u'x'));
+    const QString longName = plainEntry(QString(4096, u'x') + u" (00000F)"_s);
+    EXPECT_EQ(longName, QString(95, u'x') + u'…' + QString(15, u'x') + u" (00000F)"_s);
+    for (const QString &shift : {QString(), u"x"_s}) {
+        const QString pairs = plainEntry(shift + u"\U0001F600"_s.repeated(100) + shift);
+        EXPECT_LE(pairs.size(), 120);
+        EXPECT_EQ(QString::fromUtf8(pairs.toUtf8()), pairs) << "a pair was cut";
+        EXPECT_FALSE(pairs.contains(QChar::ReplacementCharacter));
+    }
+}
+
 TEST(PlainText, ALongToolTipIsBrokenIntoLines)
 {
     const QString tip = plainToolTip(u"word "_s.repeated(400));

@@ -139,7 +139,7 @@ TEST_F(MainWindowTest, AChoiceSelectsTheInterfaceAndIsShownOnceItIsSelected)
 {
     auto *selector = named<QComboBox>("Interface");
     selector->setCurrentIndex(0);
-    Q_EMIT selector->textActivated(wifi);
+    Q_EMIT selector->activated(selector->findData(wifi));
     EXPECT_EQ(selector->currentText(), wired) << "still the selected one";
     scheduler.runPending();
     EXPECT_EQ(current.device(), wifi);
