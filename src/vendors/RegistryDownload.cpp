@@ -69,6 +69,11 @@ void RegistryDownload::cancelDownload()
     resetDownloadButton();
 }
 
+bool RegistryDownload::isImporting() const
+{
+    return m_import.isAtWork();
+}
+
 bool RegistryDownload::canRestorePrevious() const
 {
     return m_import.canRestorePrevious();

@@ -30,6 +30,8 @@ public:
     void startDownload();
     /// Ends the transfer, if it still runs; an import goes on and resets the button once more.
     void cancelDownload();
+    /// An import runs or waits, also one whose refresh was cancelled; or a restoration does.
+    bool isImporting() const;
     /// Whether the database from before the last refresh can be brought back, and does so.
     bool canRestorePrevious() const;
     void restorePrevious();

@@ -44,7 +44,7 @@ private:
     bool save(QFile &body) const;
     void replaceDBFile();
     void cleanupTempDBFile() const { QFile::remove(m_files.newDatabase()); }
-    void parseFailed();
+    void parseFailed(bool isLast = true);
     void downloadCompleted();
     qlonglong putPreviousInPlace();
     void tellOwner(std::function<void(RegistryImport &)> what);
@@ -102,7 +102,7 @@ void RegistryImport::Work::replaceDBFile()
     using enum VendorDatabase::Rewriting;
     const auto outcome = m_database.rewriteFrom(m_files.newDatabase(), m_files.previousDatabase());
     if (outcome == NotKept || outcome == Failed) {
-        parseFailed();
+        parseFailed(outcome == NotKept);
     }
     if (outcome != NotKept) {
         downloadCompleted();
@@ -132,11 +132,11 @@ qlonglong RegistryImport::Work::putPreviousInPlace()
     return isBack ? count : 0;
 }
 
-void RegistryImport::Work::parseFailed()
+void RegistryImport::Work::parseFailed(bool isLast)
 {
     // Here and not after the report: by then the next import may be building its own.
     cleanupTempDBFile();
-    tellOwner(&RegistryImport::reportFailure);
+    tellOwner([isLast](RegistryImport &owner) { owner.reportFailure(isLast); });
 }
 
 void RegistryImport::Work::downloadCompleted()
@@ -168,30 +168,37 @@ RegistryImport::~RegistryImport() = default;
 
 void RegistryImport::importDownload(std::shared_ptr<QFile> body)
 {
+    ++m_underway;
     Q_EMIT processingBegun();
     m_queue.add([work = m_work, body = std::move(body)] { work->importDownload(*body); });
 }
 
 void RegistryImport::parseDownloadedCSV(const QString &path)
 {
+    ++m_underway;
     Q_EMIT processingBegun();
     m_queue.add([work = m_work, path] { work->parseDownloadedCSV(path); });
 }
 
 bool RegistryImport::canRestorePrevious() const
 {
-    return QFile::exists(m_files.previousDatabase());
+    return !isAtWork() && QFile::exists(m_files.previousDatabase());
 }
 
 void RegistryImport::restorePrevious()
 {
+    if (!canRestorePrevious()) {
+        return;
+    }
+    ++m_underway;
     Q_EMIT restorationBegun();
     m_queue.add([work = m_work] { work->restorePrevious(); });
 }
 
-void RegistryImport::reportFailure()
+void RegistryImport::reportFailure(bool isLast)
 {
     Q_EMIT parsingFailed();
+    m_underway -= isLast ? 1 : 0;
     Q_EMIT ended();
 }
 
@@ -200,12 +207,14 @@ void RegistryImport::reportCompletion()
     const QString date = mediumDateShortTime(m_scheduler.now().toLocalTime(), QLocale());
     m_settings.set(keys::vendorIDUpdatedDate, date);
     Q_EMIT downloadCompleted(date);
+    --m_underway;
     Q_EMIT ended();
 }
 
 void RegistryImport::reportRestorationFailure()
 {
     Q_EMIT restorationFailed();
+    --m_underway;
     Q_EMIT ended();
 }
 
@@ -216,6 +225,7 @@ void RegistryImport::reportRestoration(qlonglong count, const QDateTime &since)
     m_settings.set(keys::vendorCountValue, count);
     m_settings.set(keys::vendorIDUpdatedDate, date);
     Q_EMIT databaseRestored(date);
+    --m_underway;
     Q_EMIT ended();
 }
 

@@ -34,9 +34,13 @@ public:
     /// Imports the registry text at `path`, whatever it holds.
     void parseDownloadedCSV(const QString &path);
 
-    /// Whether the database from before a refresh is there.
+    /// An import or a restoration runs or waits; no more when `ended` tells of the last one.
+    bool isAtWork() const { return m_underway > 0; }
+    /// Whether the database from before a refresh is there, and will still be that one when it is
+    /// brought back: not while it isAtWork().
     bool canRestorePrevious() const;
-    /// Brings it back, with its date and count. What it replaces is the previous one then.
+    /// Brings it back, with its date and count. What it replaces is the previous one then. Nothing
+    /// unless canRestorePrevious().
     void restorePrevious();
 
 Q_SIGNALS:
@@ -52,13 +56,15 @@ Q_SIGNALS:
     /// `date` is when the restored database had become the live one; it is stored in
     /// `vendorIDUpdatedDate`.
     void databaseRestored(const QString &date);
-    /// After each import and each restoration, whatever came of it.
+    /// After each import and each restoration, whatever came of it; after an import that failed and
+    /// still reports its completion, twice.
     void ended();
 
 private:
     class Work;
 
-    void reportFailure();
+    /// `isLast` unless the completion follows.
+    void reportFailure(bool isLast);
     void reportCompletion();
     void reportRestorationFailure();
     void reportRestoration(qlonglong count, const QDateTime &since);
@@ -68,6 +74,7 @@ private:
     VendorFiles m_files;
     std::shared_ptr<Work> m_work;
     SerialQueue m_queue;
+    int m_underway = 0; ///< imports and restorations
 };
 
 } // namespace quillon

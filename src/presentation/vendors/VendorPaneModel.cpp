@@ -146,7 +146,7 @@ void VendorPaneModel::resetDownloadButton()
         state.buttonTitle = localized("Update database");
         state.progress = 0;
         state.progressShown = false;
-        state.isUpdating = m_isDownloading;
+        state.isUpdating = m_isDownloading || m_download.isImporting();
         state.canRestore = !m_isRestoring && !m_isDownloading && m_download.canRestorePrevious();
     });
 }

@@ -115,6 +115,46 @@ TEST_F(PreviousDatabase, IsNotOfferedWhenAnEarlierRefreshEndsDuringTheNext)
     EXPECT_FALSE(pane.state().isUpdating);
 }
 
+TEST_F(PreviousDatabase, IsNotOfferedWhileARefreshThatWasCancelledIsStillImported)
+{
+    refresh(registryOf(1));
+    http.forget(registry);
+    downloadUpToImport(registryOf(30));
+    QObject::connect(&import, &RegistryImport::processingBegun, [&] {
+        // Behind the import's end the previous database would be another one.
+        pane.pressButton();
+        EXPECT_EQ(pane.state().updatedLabel, "Download cancelled..."_L1);
+        EXPECT_FALSE(pane.state().canRestore);
+        EXPECT_TRUE(pane.state().isUpdating);
+        pane.showStoredTexts();
+        pane.pressRestoreButton();
+        import.restorePrevious();
+    });
+    scheduler.runPending();
+    EXPECT_EQ(database.count(), 30);
+    EXPECT_TRUE(pane.state().canRestore) << "it has ended";
+    EXPECT_FALSE(pane.state().isUpdating);
+    restore();
+    EXPECT_LT(database.count(), 30);
+}
+
+TEST_F(PreviousDatabase, IsOfferedOnlyWhenTheLastOfSeveralImportsHasEnded)
+{
+    refresh(registryOf(15));
+    int ends = 0;
+    QObject::connect(&import, &RegistryImport::ended,
+        [&] { EXPECT_EQ(import.canRestorePrevious(), ++ends == 2) << ends; });
+    for (const int rows : {16, 17}) {
+        const QString path = root.filePath(QString::number(rows));
+        writeFile(path, registryOf(rows));
+        import.parseDownloadedCSV(path);
+        EXPECT_FALSE(import.canRestorePrevious());
+    }
+    scheduler.runPending();
+    EXPECT_EQ(ends, 2);
+    EXPECT_TRUE(pane.state().canRestore);
+}
+
 TEST_F(PreviousDatabase, IsNotDisturbedWhileItComesBack)
 {
     refresh(registryOf(15));

@@ -99,6 +99,7 @@ TEST_F(RegistryRefreshFault, ThatCannotWriteTheLiveDatabaseFailsAndCompletes)
             "Processing data...", "Parsing file failed...", lastUpdated()));
     EXPECT_THAT(filesInFolder(), ElementsAre("oui.db"));
     EXPECT_EQ(settings.getString(keys::vendorIDUpdatedDate), stamp);
+    EXPECT_FALSE(import.isAtWork()) << "both reports are of one import";
     expectIdle();
 }
 
