@@ -43,13 +43,6 @@ std::optional<QString> text(const SQLite::Statement &row, int column)
     return text;
 }
 
-/// The file has answered: it holds no vendor table, and will not a moment later.
-bool meansNoTable(const SQLite::Exception &error)
-{
-    const int code = error.getErrorCode();
-    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT || code == SQLITE_ERROR;
-}
-
 } // namespace
 
 QString vendorDisplayString(
@@ -87,7 +80,7 @@ struct VendorDatabase::File
         } catch (const SQLite::Exception &error) {
             qCDebug(logVendors, "Vendor database not read: %s", error.what());
             if (wasRead != nullptr) {
-                *wasRead = meansNoTable(error) || !QFile::exists(path);
+                *wasRead = meansNoVendorTable(error.getErrorCode()) || !QFile::exists(path);
             }
             return {};
         }
@@ -202,7 +195,11 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
     if (!live.isWritable()) {
         return Rewriting::Failed;
     }
-    const bool keeps = !keptAs.isEmpty() && live.isWorthKeeping();
+    const std::optional<bool> isWorthKeeping = live.isWorthKeeping();
+    if (!isWorthKeeping) {
+        return Rewriting::NotKept;
+    }
+    const bool keeps = !keptAs.isEmpty() && *isWorthKeeping;
     if (keeps && !(live.copyTo(keptAs) && (changesPlaces || VendorFileWriting::keepCopy(keptAs)))) {
         return Rewriting::NotKept;
     }

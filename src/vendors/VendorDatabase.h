@@ -52,8 +52,8 @@ public:
     {
         Done,
         FileMissing, ///< nothing was written
-        NotKept,     ///< nothing was written, as what is there could not be kept
-        Failed,      ///< the file may have been cut short, unless another program had locked it
+        NotKept,     ///< nothing was written, as what is there could not be kept, or not read
+        Failed,      ///< the file may have been cut short, unless it could not be locked or opened
     };
     /// Writes the content of the file `source` over this one, which keeps its identity, and waits
     /// for the disk. While another program's lock is waited for, questions are answered. Whatever

@@ -63,10 +63,17 @@ bool hasNoLog(const QString &path)
 
 } // namespace
 
+bool meansNoVendorTable(int sqliteError)
+{
+    // The general error is that of a question about a table or a column that is not there.
+    const int code = sqliteError & 0xff;
+    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT || code == SQLITE_ERROR;
+}
+
 VendorFileWriting::VendorFileWriting(const QString &path)
     : m_file(path)
 {
-    dropStaleLog();
+    m_isWithoutStaleLog = dropStaleLog();
     if (!m_file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered)) {
         qCWarning(
             logVendors, "Vendor database not opened: %s", qUtf8Printable(m_file.errorString()));
@@ -77,7 +84,6 @@ VendorFileWriting::VendorFileWriting(const QString &path)
         lock();
     } catch (const SQLite::Exception &error) {
         qCWarning(logVendors, "Vendor database not locked: %s", error.what());
-        m_guard.reset();
     }
 }
 
@@ -85,13 +91,14 @@ VendorFileWriting::~VendorFileWriting() = default;
 
 /// SQLite reads a file through any log beside it, also through one that was left by a program that
 /// died and is of what the file was before, or of another file.
-void VendorFileWriting::dropStaleLog()
+bool VendorFileWriting::dropStaleLog()
 {
     const QString path = m_file.fileName();
-    if (hasNoLog(path)) {
-        QFile::remove(path + u"-wal"_s);
-        QFile::remove(path + u"-shm"_s);
+    if (!hasNoLog(path) || removeLog(path)) {
+        return true;
     }
+    qCWarning(logVendors, "Vendor database not opened: there is a log beside it");
+    return false;
 }
 
 void VendorFileWriting::lock()
@@ -107,21 +114,27 @@ void VendorFileWriting::lock()
         }
         if (outcome != SQLITE_OK) {
             qCWarning(logVendors, "Vendor database not locked: %s", m_guard->getErrorMsg());
+            m_hasAnswered = meansNoVendorTable(outcome);
             return;
         }
     }
+    m_hasAnswered = true;
 }
 
-bool VendorFileWriting::isWorthKeeping() const
+std::optional<bool> VendorFileWriting::isWorthKeeping() const
 {
+    if (!m_hasAnswered) {
+        return std::nullopt;
+    }
     try {
         // One that was cut short or torn may still answer the second question.
-        return m_guard && m_guard->execAndGet("PRAGMA quick_check(1)").getString() == "ok" &&
+        return m_guard->execAndGet("PRAGMA quick_check(1)").getString() == "ok" &&
                m_guard->execAndGet("SELECT EXISTS (SELECT 1 FROM vendor WHERE "
                                    "Assignment IS NOT NULL AND Assignment <> '')")
                        .getInt() != 0;
-    } catch (const SQLite::Exception &) {
-        return false;
+    } catch (const SQLite::Exception &error) {
+        qCWarning(logVendors, "Vendor database not read: %s", error.what());
+        return meansNoVendorTable(error.getErrorCode()) ? std::optional(false) : std::nullopt;
     }
 }
 
@@ -141,9 +154,9 @@ bool VendorFileWriting::copyTo(const QString &place)
 
 bool VendorFileWriting::keepCopy(const QString &place)
 {
-    removeCompanions(place);
-    const bool isNamed = std::rename(QFile::encodeName(copyBeside(place)).constData(),
-                             QFile::encodeName(place).constData()) == 0;
+    const bool isNamed =
+        removeCompanions(place) && std::rename(QFile::encodeName(copyBeside(place)).constData(),
+                                       QFile::encodeName(place).constData()) == 0;
     if (!isNamed) {
         qCWarning(logVendors, "Vendor database not kept as %s", qUtf8Printable(place));
         QFile::remove(copyBeside(place));
@@ -168,7 +181,10 @@ bool VendorFileWriting::makeFrom(QFile &source, const QString &path, TimeOfChang
 bool VendorFileWriting::rewriteFrom(QFile &source)
 {
     const QString path = m_file.fileName();
-    removeCompanions(path);
+    if (!removeCompanions(path)) {
+        qCWarning(logVendors, "Vendor database not written: there is a log beside it");
+        return false;
+    }
     // Or one of them could come back with a power cut, beside the new content.
     syncFolder(QFileInfo(path).path());
     const bool isEmptied =

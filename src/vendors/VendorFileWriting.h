@@ -5,12 +5,17 @@
 #include <QFile>
 
 #include <memory>
+#include <optional>
 
 namespace SQLite {
 class Database;
 } // namespace SQLite
 
 namespace quillon {
+
+/// SQLite's answer, an error code, is that the file holds no vendor table; it will not a moment
+/// later. Every other error says nothing of what the file holds.
+bool meansNoVendorTable(int sqliteError);
 
 /// A vendor database file that is about to be written over, locked against other programs while
 /// this lives. No connection of this process may have it open meanwhile: closing any descriptor of
@@ -26,9 +31,11 @@ public:
     VendorFileWriting &operator=(const VendorFileWriting &) = delete;
 
     bool isLockedByAnother() const { return m_isLockedByAnother; }
-    bool isWritable() const { return m_file.isOpen(); }
-    /// Whether it is undamaged, and there is anything in it to look up. Reads it whole.
-    bool isWorthKeeping() const;
+    /// It is open, and no stale log lies beside it.
+    bool isWritable() const { return m_file.isOpen() && m_isWithoutStaleLog; }
+    /// Whether it is undamaged, and there is anything in it to look up. Reads it whole. None when
+    /// it does not answer at the moment: it may hold everything.
+    std::optional<bool> isWorthKeeping() const;
     /// Makes a copy beside `place`, on the disk, with the file's time of change. The folder is made
     /// when it is missing. False, and no copy, when that fails.
     bool copyTo(const QString &place);
@@ -46,13 +53,15 @@ public:
     bool rewriteFrom(QFile &source);
 
 private:
-    void dropStaleLog();
+    bool dropStaleLog();
     void lock();
 
     /// Open from before the lock until after it, for the same reason.
     QFile m_file;
-    std::unique_ptr<SQLite::Database> m_guard; ///< null when the file is no database
+    std::unique_ptr<SQLite::Database> m_guard; ///< null when it could not be opened
+    bool m_isWithoutStaleLog = false;
     bool m_isLockedByAnother = false;
+    bool m_hasAnswered = false; ///< it is locked, or it is no database
 };
 
 } // namespace quillon

@@ -5,13 +5,33 @@
 #include <QDir>
 #include <QFile>
 
+#include <cerrno>
+#include <unistd.h>
+
 namespace quillon {
 
-void removeCompanions(const QString &path)
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Whether it is not there any more.
+bool isRemoved(const QString &path)
 {
-    for (const char *const companion : {"-wal", "-shm", "-journal"}) {
-        QFile::remove(path + QLatin1String(companion));
-    }
+    return unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
+}
+
+} // namespace
+
+bool removeLog(const QString &path)
+{
+    const bool isIndexGone = isRemoved(path + "-shm"_L1);
+    return isRemoved(path + "-wal"_L1) && isIndexGone;
+}
+
+bool removeCompanions(const QString &path)
+{
+    const bool isLogGone = removeLog(path);
+    return isRemoved(path + "-journal"_L1) && isLogGone;
 }
 
 QString shippedVendorDatabase(const QString &programFolder)

@@ -23,8 +23,12 @@ struct VendorFiles
 };
 
 /// Removes the log, its index and the journal that SQLite may have left beside the database at
-/// `path`: what takes the place of that database must not be read through them.
-void removeCompanions(const QString &path);
+/// `path`: what takes the place of that database must not be read through them. False when one of
+/// them stays.
+bool removeCompanions(const QString &path);
+
+/// The same for the log and its index alone.
+bool removeLog(const QString &path);
 
 /// The shipped database as seen from the folder of the running program: that of the installation
 /// ("../share/quillon4/oui.db"), else that of the build folder ("../data/oui.db"). Empty when there

@@ -37,9 +37,8 @@ bool createTempDbFile(const QString &path)
 {
     // Removed first: whoever still has the old file open keeps that one.
     QFile::remove(path);
-    removeCompanions(path);
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!removeCompanions(path) || !file.open(QIODevice::WriteOnly)) {
         return false;
     }
     file.close();

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "FileSizeLimit.h"
 #include "RegistryRefresh.h"
 #include "fakes/LogCapture.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <csignal>
-#include <sys/resource.h>
 
 namespace quillon::test {
 
@@ -163,30 +162,6 @@ TEST_F(RegistryRefreshFault, FailsWhereTheNewDatabaseCannotBeMade)
     EXPECT_TRUE(QFile::exists(files.registryText()));
     expectIdle();
 }
-
-/// Files of this process grow no further than `bytes` while it lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : m_previousHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_previous);
-        const rlimit limit = {bytes, m_previous.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_previous);
-        std::signal(SIGXFSZ, m_previousHandler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    void (*m_previousHandler)(int);
-    rlimit m_previous = {};
-};
 
 TEST_F(RegistryRefreshFault, StopsAtTheInsertForWhichThereIsNoRoom)
 {

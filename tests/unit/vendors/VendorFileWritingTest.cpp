@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorFileWriting.h"
 
+#include "FileSizeLimit.h"
 #include "VendorFolder.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
@@ -179,6 +180,62 @@ TEST_F(VendorFileWritingTest, WritesNothingWhenWhatIsThereCannotBeKept)
     EXPECT_EQ(
         database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::NotKept);
     EXPECT_EQ(database.count(), 20);
+}
+
+TEST_F(VendorFileWritingTest, WritesNothingOverWhatDoesNotAnswerAtTheMoment)
+{
+    const LogCapture log;
+    makeLive(registryOf(20));
+    const QByteArray before = readFile(database.path());
+    for (const char *const companion : {"-wal", "-shm", "-journal"}) {
+        const QString inTheWay = database.path() + QLatin1String(companion);
+        ASSERT_TRUE(QDir().mkpath(inTheWay + u"/full"_s));
+        const auto outcome = database.rewriteFrom(files.newDatabase(), files.previousDatabase());
+        EXPECT_TRUE(outcome == Rewriting::NotKept || outcome == Rewriting::Failed) << companion;
+        EXPECT_TRUE(readFile(database.path()) == before) << companion;
+        EXPECT_FALSE(QFile::exists(files.previousDatabase())) << companion;
+        EXPECT_FALSE(LogCapture::taken().isEmpty()) << companion;
+        ASSERT_TRUE(QDir(inTheWay).removeRecursively());
+    }
+    ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+    EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 20);
+}
+
+TEST_F(VendorFileWritingTest, WritesNothingOverAJournalThatCannotBeBroughtIn)
+{
+    const LogCapture log;
+    leave(database.path(), "DELETE");
+    {
+        // No room for what the journal brings back.
+        const FileSizeLimit limit(512);
+        EXPECT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()),
+            Rewriting::NotKept);
+    }
+    ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+    EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 5);
+}
+
+TEST_F(VendorFileWritingTest, ALogThatStaysIsNotLeftBesideAnyDatabase)
+{
+    const LogCapture log;
+    makeLive(registryOf(20));
+    const QString place = files.previousDatabase();
+    ASSERT_TRUE(QDir().mkpath(place + u"-wal/full"_s));
+    EXPECT_EQ(database.rewriteFrom(files.newDatabase(), place), Rewriting::NotKept);
+    EXPECT_EQ(database.count(), 20);
+    EXPECT_FALSE(QFile::exists(place));
+    ASSERT_TRUE(QDir().mkpath(files.newDatabase() + u"-journal/full"_s));
+    EXPECT_FALSE(createTempDbFile(files.newDatabase()));
+}
+
+TEST_F(VendorFileWritingTest, AFolderInPlaceOfTheDatabaseStays)
+{
+    const LogCapture log;
+    ASSERT_TRUE(QDir().mkpath(database.path() + u"/full"_s));
+    EXPECT_EQ(
+        database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Failed);
+    EXPECT_TRUE(QDir(database.path() + u"/full"_s).exists());
+    EXPECT_FALSE(QFile::exists(files.previousDatabase()));
 }
 
 TEST_F(VendorFileWritingTest, AnUnfinishedCopyOfBeforeIsReplaced)
