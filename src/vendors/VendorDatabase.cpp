@@ -195,11 +195,13 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
     if (!live.isWritable()) {
         return Rewriting::Failed;
     }
-    const std::optional<bool> isWorthKeeping = live.isWorthKeeping();
-    if (!isWorthKeeping) {
+    const std::optional<qlonglong> worth = live.identifiers();
+    if (!worth) {
         return Rewriting::NotKept;
     }
-    const bool keeps = !keptAs.isEmpty() && *isWorthKeeping;
+    // What is left after a page that is no registry, or a cut, takes no whole one's place.
+    const qlonglong keptWorth = changesPlaces ? 0 : VendorFileWriting::identifiersIn(keptAs);
+    const bool keeps = !keptAs.isEmpty() && *worth > 0 && 2 * *worth >= keptWorth;
     if (keeps && !(live.copyTo(keptAs) && (changesPlaces || VendorFileWriting::keepCopy(keptAs)))) {
         return Rewriting::NotKept;
     }

@@ -59,9 +59,9 @@ public:
     /// for the disk. While another program's lock is waited for, questions are answered. Whatever
     /// journal or log lies beside the file does not outlive this.
     ///
-    /// With `keptAs`, what is there before is kept as that file first, unless it is damaged or
-    /// holds no identifier. When that is `source` itself the two change places, and a file that is
-    /// missing is made.
+    /// With `keptAs`, what is there before is kept as that file first, unless it is damaged, holds
+    /// no identifier, or not half as many as that file. When that is `source` itself the two change
+    /// places, and a file that is missing is made.
     Rewriting rewriteFrom(const QString &source, const QString &keptAs = {});
 
 private:

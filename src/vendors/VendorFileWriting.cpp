@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -59,6 +60,26 @@ bool hasNoLog(const QString &path)
     const QByteArray header = isOpen ? file.read(readVersion + 1) : QByteArray();
     return header.size() == readVersion + 1 && header.startsWith("SQLite format 3") &&
            header.at(readVersion) == 1;
+}
+
+/// For identifiers(); `opened` may throw as well.
+template <typename Opened>
+std::optional<qlonglong> askForIdentifiers(Opened opened)
+{
+    try {
+        SQLite::Database &database = opened();
+        // One that was cut short or torn may still answer the second question.
+        if (database.execAndGet("PRAGMA quick_check(1)").getString() != "ok") {
+            return 0;
+        }
+        return database
+            .execAndGet("SELECT count(*) FROM vendor WHERE Assignment IS NOT NULL AND "
+                        "Assignment <> ''")
+            .getInt64();
+    } catch (const SQLite::Exception &error) {
+        qCWarning(logVendors, "Vendor database not read: %s", error.what());
+        return meansNoVendorTable(error.getErrorCode()) ? std::optional(0) : std::nullopt;
+    }
 }
 
 } // namespace
@@ -121,21 +142,23 @@ void VendorFileWriting::lock()
     m_hasAnswered = true;
 }
 
-std::optional<bool> VendorFileWriting::isWorthKeeping() const
+std::optional<qlonglong> VendorFileWriting::identifiers() const
 {
-    if (!m_hasAnswered) {
-        return std::nullopt;
+    return m_hasAnswered ? askForIdentifiers([this]() -> SQLite::Database & { return *m_guard; })
+                         : std::nullopt;
+}
+
+qlonglong VendorFileWriting::identifiersIn(const QString &path)
+{
+    if (!QFile::exists(path)) {
+        return 0;
     }
-    try {
-        // One that was cut short or torn may still answer the second question.
-        return m_guard->execAndGet("PRAGMA quick_check(1)").getString() == "ok" &&
-               m_guard->execAndGet("SELECT EXISTS (SELECT 1 FROM vendor WHERE "
-                                   "Assignment IS NOT NULL AND Assignment <> '')")
-                       .getInt() != 0;
-    } catch (const SQLite::Exception &error) {
-        qCWarning(logVendors, "Vendor database not read: %s", error.what());
-        return meansNoVendorTable(error.getErrorCode()) ? std::optional(false) : std::nullopt;
-    }
+    std::optional<SQLite::Database> database;
+    return askForIdentifiers([&]() -> SQLite::Database & {
+        // It takes no lock and reads no journal.
+        const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() + "?immutable=1";
+        return database.emplace(uri.constData(), SQLite::OPEN_READONLY | SQLite::OPEN_URI);
+    }).value_or(0);
 }
 
 bool VendorFileWriting::copyTo(const QString &place)

@@ -33,9 +33,12 @@ public:
     bool isLockedByAnother() const { return m_isLockedByAnother; }
     /// It is open, and no stale log lies beside it.
     bool isWritable() const { return m_file.isOpen() && m_isWithoutStaleLog; }
-    /// Whether it is undamaged, and there is anything in it to look up. Reads it whole. None when
+    /// How many rows with an identifier are in it; 0 when it is damaged. Reads it whole. None when
     /// it does not answer at the moment: it may hold everything.
-    std::optional<bool> isWorthKeeping() const;
+    std::optional<qlonglong> identifiers() const;
+    /// The same of the bytes of a file, whatever lies beside it; 0 also when it is not there or
+    /// cannot be read.
+    static qlonglong identifiersIn(const QString &path);
     /// Makes a copy beside `place`, on the disk, with the file's time of change. The folder is made
     /// when it is missing. False, and no copy, when that fails.
     bool copyTo(const QString &place);

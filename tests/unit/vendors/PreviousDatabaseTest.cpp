@@ -90,6 +90,18 @@ TEST_F(PreviousDatabase, IsTheOneFromBeforeTheLastRefresh)
     EXPECT_EQ(database.count(), 15);
 }
 
+TEST_F(PreviousDatabase, SurvivesOneBadRefreshAfterTheOther)
+{
+    refresh("Assignment\nLog in\n", 511);
+    ASSERT_EQ(database.count(), 1);
+    refresh(registryOf(3));
+    refresh(registryOf(2));
+    restore();
+    EXPECT_EQ(database.count(), 10);
+    restore();
+    EXPECT_EQ(database.count(), 2) << "they change places whatever they hold";
+}
+
 TEST_F(PreviousDatabase, CannotBeRestoredDuringARefresh)
 {
     refresh(registryOf(15));

@@ -139,7 +139,7 @@ TEST_F(VendorFileWritingTest, KeepsWhatWasThereWithItsTime)
 
 TEST_F(VendorFileWritingTest, DoesNotKeepWhatIsOfNoUseInPlaceOfWhatIs)
 {
-    makeLive(registryOf(20));
+    makeLive(registryOf(10));
     ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
     // A page of a captive portal makes rows without identifiers.
     makeDatabase(root.filePath(u"portal.db"_s), "<html>\n<body>Log in,\nhere, please\n");
@@ -153,6 +153,58 @@ TEST_F(VendorFileWritingTest, DoesNotKeepWhatIsOfNoUseInPlaceOfWhatIs)
     writeFile(database.path(), QByteArray(9000, 'x'));
     ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
     EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 7) << "no database";
+}
+
+TEST_F(VendorFileWritingTest, DoesNotKeepAPoorDatabaseInPlaceOfARichOne)
+{
+    const VendorDatabase previous(files.previousDatabase());
+    makeLive(registryOf(20));
+    const auto refreshWith = [&](int vendors) {
+        makeDatabase(files.newDatabase(), registryOf(vendors));
+        return database.rewriteFrom(files.newDatabase(), files.previousDatabase());
+    };
+    ASSERT_EQ(refreshWith(1), Rewriting::Done);
+    ASSERT_EQ(refreshWith(9), Rewriting::Done);
+    EXPECT_EQ(previous.count(), 20) << "not the one vendor";
+    ASSERT_EQ(refreshWith(10), Rewriting::Done);
+    EXPECT_EQ(previous.count(), 20) << "not half as many";
+    ASSERT_EQ(refreshWith(30), Rewriting::Done);
+    EXPECT_EQ(previous.count(), 10) << "half as many";
+}
+
+TEST_F(VendorFileWritingTest, KeepsWholeOnesInPlaceOfADamagedOne)
+{
+    const LogCapture log;
+    makeLive(registryOf(4000));
+    ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+    const QByteArray whole = readFile(files.previousDatabase());
+    const qsizetype half = whole.size() / 2;
+    for (const QByteArray &damaged :
+        {QByteArray("scribble"), whole.left(half) + QByteArray(whole.size() - half, '\0')}) {
+        writeFile(files.previousDatabase(), damaged);
+        makeLive(registryOf(3));
+        ASSERT_EQ(
+            database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+        EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 3);
+    }
+}
+
+TEST_F(VendorFileWritingTest, TellsWhatTheKeptOneHoldsWhateverLiesBesideIt)
+{
+    for (const char *const mode : {"WAL", "DELETE"}) {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(files.previousDatabase()).path()));
+        leave(files.previousDatabase(), mode);
+        makeDatabase(root.filePath(u"rich.db"_s), registryOf(20));
+        ASSERT_TRUE(QFile::remove(files.previousDatabase()) &&
+                    QFile::rename(root.filePath(u"rich.db"_s), files.previousDatabase()));
+        for (const int vendors : {5, 10}) {
+            makeLive(registryOf(vendors));
+            ASSERT_EQ(database.rewriteFrom(files.newDatabase(), files.previousDatabase()),
+                Rewriting::Done);
+            EXPECT_EQ(
+                VendorFileWriting::identifiersIn(files.previousDatabase()), vendors == 5 ? 20 : 10);
+        }
+    }
 }
 
 TEST_F(VendorFileWritingTest, DoesNotKeepATornDatabaseInPlaceOfAWholeOne)
