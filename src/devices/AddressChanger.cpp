@@ -17,6 +17,7 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
+#include <atomic>
 #include <mutex>
 #include <shared_mutex>
 #include <utility>
@@ -158,20 +159,23 @@ void AddressChanger::requestChange(
 void AddressChanger::askHelper(const Request &request)
 {
     Q_EMIT changeBegan(request.device);
-    m_deps.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(request.device,
-        request.address, request.isWifi, [this, life = m_life, request](bool success) {
+    const auto wasAsked = std::make_shared<std::atomic<bool>>(false);
+    m_deps.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
+        request.device, request.address, request.isWifi,
+        [this, life = m_life, request, wasAsked](bool success) {
             const std::shared_lock lock(life->mutex);
             if (life->alive) {
-                const ChangeOutcome outcome = finish(request, success);
+                const ChangeOutcome outcome = finish(request, success, *wasAsked);
                 Q_EMIT changeEnded(request.device, outcome);
                 if (request.reply) {
                     request.reply(outcome);
                 }
             }
-        });
+        },
+        [wasAsked] { *wasAsked = true; });
 }
 
-ChangeOutcome AddressChanger::finish(const Request &request, bool success)
+ChangeOutcome AddressChanger::finish(const Request &request, bool success, bool wasAsked)
 {
     const InterfaceInfo now = readBack(request.device);
     // An answer can be lost on its way: what counts is the address that the device has.
@@ -179,7 +183,9 @@ ChangeOutcome AddressChanger::finish(const Request &request, bool success)
         .isInPlace = now.readFailed ? success : isSameAddress(now.macAddress, request.address),
         .address = now.macAddress,
         .requested = request.address,
-        .isReported = request.reply != nullptr};
+        .isReported = request.reply != nullptr,
+        .isConfirmed = success,
+        .wasAsked = wasAsked};
     if (now.macAddress.isEmpty()) {
         // The interface has gone, or cannot be read: there is nothing true to say of its address.
         return outcome;

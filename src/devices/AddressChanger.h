@@ -34,6 +34,10 @@ struct ChangeOutcome
     QString requested = {};
     /// A reply of their own tells whoever asked.
     bool isReported = false;
+    /// The helper said that it set the address.
+    bool isConfirmed = false;
+    /// The helper could be asked; else nothing has touched the device.
+    bool wasAsked = true;
 };
 
 /// Every change of an address, whoever asks, ends here: it serializes changes, refuses a change to
@@ -125,7 +129,7 @@ private:
     SerialQueue &changeAddressQueue();
     void requestChange(const QString &requestedDevice, const QString &address, const Reply &reply);
     void askHelper(const Request &request);
-    ChangeOutcome finish(const Request &request, bool success);
+    ChangeOutcome finish(const Request &request, bool success, bool wasAsked);
     InterfaceInfo readBack(const QString &device) const;
     void tellOutcome(const Request &request, bool success, const QString &readBack);
     void tellNotChanged(const QString &interface, const char *reason);

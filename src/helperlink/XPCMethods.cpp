@@ -181,15 +181,19 @@ void XPCMethods::getVersionOfHelperToolwithReply(TextReply reply)
     });
 }
 
-void XPCMethods::changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
-    const QString &device, const QString &address, bool deviceIsWiFi, SuccessReply reply)
+void XPCMethods::changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(const QString &device,
+    const QString &address, bool deviceIsWiFi, SuccessReply reply,
+    const std::function<void()> &asked)
 {
-    connectAndExecuteCommandBlock([this, device, address, deviceIsWiFi, reply](
+    connectAndExecuteCommandBlock([this, device, address, deviceIsWiFi, reply, asked](
                                       const std::optional<Error> &error) {
         if (error) {
             logError(error);
             reply(false);
             return;
+        }
+        if (asked) {
+            asked();
         }
         const YesNoReply answer{m_scheduler, reply, m_helperToolConnection};
         m_helperToolConnection->changeAddressOfDeviceToAddressDeviceIsWiFiAuthorizationWithReply(

@@ -47,8 +47,11 @@ public:
     void installHelperToolwithReply(SuccessReply reply);
     /// The helper's version, or an error text, which never equals a version.
     void getVersionOfHelperToolwithReply(TextReply reply);
-    void changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
-        const QString &device, const QString &address, bool deviceIsWiFi, SuccessReply reply);
+    /// `asked` is called on the main thread when the helper could be connected to, before it is
+    /// asked: without that call nothing has touched the device.
+    void changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(const QString &device,
+        const QString &address, bool deviceIsWiFi, SuccessReply reply,
+        const std::function<void()> &asked = {});
     void uninstallHelperToolwithReply(SuccessReply reply);
 
     /// Asks for the version and announces what it means. Any thread.

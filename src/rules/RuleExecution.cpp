@@ -132,10 +132,11 @@ void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &
     }
     switch (m_visits.standing(device, actOf(outcome), outcome.address)) {
     case Visits::Standing::UnderWay:
-        // Whether it was only news of the change itself is known when that has its answer.
+    case Visits::Standing::OwnNews:
+        // Whether it was only news of the change itself is known when that has its answer, and
+        // where it failed, when it has settled.
         m_unjudged.insert(device);
         break;
-    case Visits::Standing::OwnNews:
     case Visits::Standing::Done:
         break;
     case Visits::Standing::GivenUp:
@@ -309,6 +310,9 @@ void RuleExecution::addressChangeBegan(const QString &device)
 void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcome &outcome)
 {
     m_visits.changeAnswered(device);
+    if (!outcome.wasAsked) {
+        m_visits.changeNotAsked(device);
+    }
     if (!outcome.isReported) {
         // By hand, or by a countdown: a rule never undoes that on the same visit.
         if (outcome.isInPlace) {
@@ -318,9 +322,13 @@ void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcom
         }
         makeUpForUnjudged(device);
     }
+    if (!outcome.wasAsked) {
+        return;
+    }
     m_deps.scheduler.onMainAfter(settlingTime, this, [this, device] {
         m_visits.changeSettled(
             device, m_deps.devices.record(device).isUp(), m_deps.scheduler.now());
+        makeUpForUnjudged(device);
     });
 }
 

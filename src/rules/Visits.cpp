@@ -219,8 +219,18 @@ void Visits::otherChangeFailed(const QString &device)
 void Visits::changeSettled(const QString &device, bool linkIsUp, const QDateTime &now)
 {
     Visit &visit = m_visits[device];
-    visit.changesUnderWay = qMax(visit.changesUnderWay - 1, 0);
     visit.absence = linkIsUp ? std::nullopt : std::optional(Absence{now, returnTime});
+    endChange(visit);
+}
+
+void Visits::changeNotAsked(const QString &device)
+{
+    endChange(m_visits[device]);
+}
+
+void Visits::endChange(Visit &visit)
+{
+    visit.changesUnderWay = qMax(visit.changesUnderWay - 1, 0);
     if (visit.changesUnderWay == 0 && std::exchange(visit.isElsewhere, false)) {
         visit.carried.reset();
     }

@@ -35,7 +35,7 @@ public:
     {
         New,      ///< not carried out on this visit
         UnderWay, ///< asked for and not answered yet, or another change is: judged afterwards
-        OwnNews,  ///< failed and not settled yet: the news may be its own
+        OwnNews,  ///< failed and not settled yet: the news may be its own, and is judged then
         Done,
         Failed,  ///< may be tried again after pause()
         Undone,  ///< another program set another address; may be carried out again
@@ -83,6 +83,8 @@ public:
     /// One change has settled. When the link is still down it is expected back within a minute;
     /// after that, or when the clock was set back, it is down by itself.
     void changeSettled(const QString &device, bool linkIsUp, const QDateTime &now);
+    /// One change never reached the helper: what the link does is not of its doing.
+    void changeNotAsked(const QString &device);
 
     /// The device was seen on its network: it is back from where it was, if it was away.
     void sawOnNetwork(const QString &device, const QDateTime &now);
@@ -130,6 +132,7 @@ private:
         std::optional<Absence> absence;
     };
 
+    static void endChange(Visit &visit);
     Carried *carried(const QString &device, quint64 number);
 
     QHash<QString, Visit> m_visits;

@@ -160,12 +160,13 @@ TEST_F(OneEventOneChangeTest, OfAFixedAddressIsToldOnce)
                                        u"Your new MAC Address is: "_s + fixedAddress}}));
 }
 
-TEST_F(OneEventOneChangeTest, ThatFailsIsNotTriedAgainByItsOwnNews)
+TEST_F(OneEventOneChangeTest, ThatFailsIsNotTriedAgainByItsOwnNewsBeforeItHasSettled)
 {
     helper.mood = FakeHelper::Mood::Refusing;
     plugIn(en0);
     pass(1s);
     news(en0);
+    pass(4s);
     EXPECT_EQ(changesOf(en0).size(), 1);
 }
 
