@@ -190,11 +190,14 @@ ChangeOutcome AddressChanger::finish(const Request &request, bool success, bool 
         // The interface has gone, or cannot be read: there is nothing true to say of its address.
         return outcome;
     }
-    m_deps.devices.update(request.device, [&now](DeviceRecord &record) {
-        record.current = now.macAddress;
-        record.ipAddress = now.ipAddress;
-        record.status = now.status;
-    });
+    m_deps.devices.update(
+        request.device,
+        [&now](DeviceRecord &record) {
+            record.current = now.macAddress;
+            record.ipAddress = now.ipAddress;
+            record.status = now.status;
+        },
+        outcome.isInPlace ? DeviceTable::AddressOf::Us : DeviceTable::AddressOf::Others);
     if (outcome.isInPlace) {
         m_deps.devices.noteOwnAddress(request.device, now.macAddress);
     }

@@ -103,14 +103,14 @@ bool DeviceTable::isPresent(const QString &device) const
 }
 
 DeviceRecord DeviceTable::update(
-    const QString &device, const std::function<void(DeviceRecord &)> &change)
+    const QString &device, const std::function<void(DeviceRecord &)> &change, AddressOf whose)
 {
     auto table = stored();
     const DeviceRecord before = DeviceRecord::fromPropertyList(table.value(device));
     DeviceRecord record = before;
     change(record);
     if (table.contains(device)) {
-        noteUpdate(device, before, record);
+        noteUpdate(device, before, record, whose);
     }
     table[device] = record.toPropertyList();
     m_settings.set(keys::deviceDict, table);
@@ -127,8 +127,12 @@ void DeviceTable::noteNews(const QString &device, const DeviceRecord &before)
 }
 
 void DeviceTable::noteUpdate(
-    const QString &device, const DeviceRecord &before, const DeviceRecord &changed)
+    const QString &device, const DeviceRecord &before, const DeviceRecord &changed, AddressOf whose)
 {
+    if (whose == AddressOf::Others && !isSameInterface(before, changed)) {
+        noteNews(device, before);
+        return;
+    }
     // Whoever changed the address read the rest back with it, and that may be news.
     if (before.status != changed.status || before.ipAddress != changed.ipAddress) {
         noteNews(device, before);

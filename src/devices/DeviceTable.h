@@ -31,8 +31,15 @@ public:
     /// Reads the ports of the host into the table, which is written once, and flushes. A reading
     /// that fails leaves everything as it was, and returns false.
     bool updateNetWorkInterfaces();
+    /// Whose doing another address in a record is.
+    enum class AddressOf
+    {
+        Us,
+        Others, ///< which is news
+    };
     /// Changes the record of `device`, a new one when the table has none, flushes, and returns it.
-    DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change);
+    DeviceRecord update(const QString &device, const std::function<void(DeviceRecord &)> &change,
+        AddressOf whose = AddressOf::Us);
     /// Whether the last reading that succeeded found the device, with an address: the table keeps
     /// the last record of one that was taken away.
     bool isPresent(const QString &device) const;
@@ -71,7 +78,8 @@ public:
 private:
     std::optional<QList<PortRecord>> readPorts();
     void noteNews(const QString &device, const DeviceRecord &before);
-    void noteUpdate(const QString &device, const DeviceRecord &before, const DeviceRecord &changed);
+    void noteUpdate(const QString &device, const DeviceRecord &before, const DeviceRecord &changed,
+        AddressOf whose);
     QVariantMap stored() const;
 
     SettingsStore &m_settings;

@@ -198,10 +198,17 @@ void RuleExecution::perform(
 void RuleExecution::changeAnswered(
     const QString &device, quint64 number, const ChangeOutcome &outcome)
 {
+    const auto now = m_deps.scheduler.monotonic();
     if (outcome.isInPlace) {
         m_visits.succeeded(device, number, outcome.requested);
+    } else if (outcome.isConfirmed && !outcome.address.isEmpty()) {
+        // Another program was quicker than the reading, or the driver keeps its address: nobody
+        // will tell of that, so it is judged when the change has settled.
+        m_limit.failed(device, now);
+        m_visits.succeeded(device, number, outcome.requested);
+        m_unjudged.insert(device);
+        return;
     } else {
-        const auto now = m_deps.scheduler.monotonic();
         m_limit.failed(device, now);
         // The cable was moved while somebody was asked: where it is now nobody was.
         if (m_visits.failed(device, number, outcome.requested, now)) {

@@ -75,7 +75,7 @@ private:
     Visits m_visits;
     ChangeLimit m_limit;
     QSet<QString> m_withheld;
-    /// There was news of these while a change had no answer, or had failed and not settled.
+    /// There is something to judge of these when a change has its answer, or has settled.
     QSet<QString> m_unjudged;
     /// What is to come at the end of a pause.
     QHash<QString, quint64> m_putOff;

@@ -156,6 +156,28 @@ TEST_F(DeviceTableNews, IsTheLeaseThatWasReadBackWithAnAddress)
     EXPECT_EQ(news(), QStringList());
 }
 
+TEST_F(DeviceTableNews, IsTheAddressOfOthersThatWasReadBack)
+{
+    const auto readBackOf = [this](const QString &address) {
+        host.giveAddress(en0, address);
+        table.update(
+            en0, [&](DeviceRecord &record) { record.current = host.addressOf(en0); },
+            DeviceTable::AddressOf::Others);
+    };
+    const QString before = host.addressOf(en0);
+    readBackOf(before);
+    EXPECT_EQ(news(), QStringList()) << "it is the one that was known";
+    readBackOf(u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(news(), QStringList(en0));
+    refresh();
+    EXPECT_EQ(news(), QStringList(en0));
+    readBackOf(before);
+    EXPECT_EQ(news(), QStringList()) << "everything is again as it was";
+    readBackOf(u"02:00:00:00:00:02"_s);
+    table.forgetNews(en0);
+    EXPECT_EQ(news(), QStringList());
+}
+
 TEST_F(DeviceTableNews, IsNoneOfADeviceThatTheTableDidNotHold)
 {
     table.update(u"en9"_s, [](DeviceRecord &record) { record.status = u"active"_s; });

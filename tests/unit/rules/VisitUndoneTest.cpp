@@ -101,6 +101,88 @@ TEST_F(VisitUndone, OfAnAddressThatWasInPlaceBeforeIsCarriedOutAgain)
     EXPECT_EQ(changes(en0), before + 1);
 }
 
+TEST_F(VisitUndone, BeforeItWasReadBackIsCarriedOutAgain)
+{
+    for (const QString &other : {factory, foreign}) {
+        linkGoes(en0);
+        linkComes(en0);
+        const qsizetype done = changes(en0);
+        pass(100ms);
+        host.giveAddress(en0, other);
+        pass(400ms);
+        pass(6s);
+        EXPECT_EQ(changes(en0), done + 1) << qPrintable(other) << ", and nothing else was told";
+        EXPECT_NE(host.addressOf(en0), other);
+        pass(1min);
+    }
+    EXPECT_EQ(told(replaced), 0);
+}
+
+TEST_F(VisitUndone, BeforeItWasReadBackIsNewsWhereTheTableDidNotHoldIt)
+{
+    linkGoes(en0);
+    linkComes(en0);
+    pass(100ms);
+    host.giveAddress(en0, foreign);
+    pass(400ms);
+    networkEvent();
+    EXPECT_EQ(changes(en0), 3);
+    pass(10min);
+    EXPECT_EQ(changes(en0), 3) << "it is not judged a second time";
+}
+
+TEST_F(VisitUndone, BeforeItWasReadBackEachTimeIsToldOnceAndLeft)
+{
+    host.at(en0).keepsAddress = true;
+    linkGoes(en0);
+    linkComes(en0);
+    const qsizetype done = changes(en0);
+    pass(1min);
+    EXPECT_EQ(changes(en0), done + 2);
+    EXPECT_EQ(told(replaced), 1);
+    for (int time = 0; time < 100; ++time) {
+        news(en0);
+        pass(2min);
+    }
+    EXPECT_EQ(changes(en0), done + 2);
+    EXPECT_EQ(told(replaced), 1);
+}
+
+TEST_F(VisitUndone, BeforeItWasReadBackWhileTheLinkIsDownWaitsForIt)
+{
+    const QString old = host.addressOf(en0);
+    linkGoes(en0);
+    linkComes(en0);
+    const qsizetype done = changes(en0);
+    pass(100ms);
+    host.giveAddress(en0, old);
+    const FakeNetworkHost::Interface before = host.at(en0);
+    host.at(en0).active = false;
+    host.at(en0).ipv4.clear();
+    pass(7s);
+    ASSERT_EQ(changes(en0), done);
+    host.at(en0) = before;
+    networkEvent();
+    EXPECT_EQ(changes(en0), done + 1) << "though everything is as it was";
+    pass(1min);
+    EXPECT_EQ(changes(en0), done + 1);
+    EXPECT_NE(host.addressOf(en0), old);
+}
+
+TEST_F(VisitUndone, AsAFailedChangeOfTheUserReadItIsCarriedOutAgain)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    host.giveAddress(en0, factory);
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(1s);
+    helper.mood = FakeHelper::Mood::Obliging;
+    ASSERT_EQ(storedRecord(en0).value(record::current).toString(), factory);
+    networkEvent();
+    pass(1s);
+    EXPECT_NE(host.addressOf(en0), factory);
+    EXPECT_NE(host.addressOf(en0), fixedAddress);
+}
+
 TEST_F(VisitUndone, IsNotWhatTheUserChose)
 {
     changer.updateMacAddressWithAddress(en0, fixedAddress);
