@@ -64,12 +64,16 @@ void RuleExecution::applyRulesForDevice(
     followNetwork(device, outcome);
     if (change != RuleChange::None) {
         m_withheld.remove(device);
+        if (!m_visits.isChanging(device)) {
+            m_waiting.remove(device);
+        }
     }
     switch (change) {
     case RuleChange::None:
         break;
     case RuleChange::Withheld:
         m_withheld.insert(device);
+        noteWaiting(device, outcome);
         break;
     case RuleChange::OncePerVisit:
         applyOncePerVisit(device, outcome);
@@ -150,6 +154,7 @@ void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &
         const auto wait = std::max(m_limit.wait(device, now), m_visits.pause(device, now));
         if (wait.count() > 0) {
             putOff(device, wait);
+            noteWaiting(device, outcome);
         } else {
             applyNetworkRule(device, outcome);
         }
@@ -166,6 +171,7 @@ void RuleExecution::applyNetworkRule(const QString &device, const RuleOutcome &o
         return;
     }
     m_unjudged.remove(device);
+    m_waiting.remove(device);
     m_limit.asked(device, m_deps.scheduler.monotonic());
     const quint64 number = m_visits.carryOut(device, actOf(outcome));
     perform(device, actions,
@@ -229,14 +235,42 @@ void RuleExecution::makeUpForUnjudged(const QString &device)
 void RuleExecution::putOff(const QString &device, std::chrono::milliseconds time)
 {
     // The latest reckoning counts: a pause of another visit may be much longer.
-    if (const auto before = m_putOff.constFind(device); before != m_putOff.constEnd()) {
-        m_deps.scheduler.cancel(*before);
-    }
+    cancelPutOff(device);
     m_putOff[device] = m_deps.scheduler.onMainAfter(time, this, [this, device] {
         m_putOff.remove(device);
         m_withheld.insert(device);
         Q_EMIT obstacleEnded();
     });
+}
+
+void RuleExecution::cancelPutOff(const QString &device)
+{
+    if (const auto token = m_putOff.constFind(device); token != m_putOff.constEnd()) {
+        m_deps.scheduler.cancel(*token);
+        m_putOff.erase(token);
+    }
+}
+
+void RuleExecution::noteWaiting(const QString &device, const RuleOutcome &outcome)
+{
+    if (changesAddress(actionsOfNetworkRule(outcome.networkRule, outcome.linkIsUp))) {
+        m_waiting[device] = actOf(outcome);
+    }
+}
+
+// A rule never undoes that on the same visit, whether it has acted there or was about to.
+void RuleExecution::userChose(const QString &device)
+{
+    // A countdown goes on with other addresses, also over one of the user's: what waits has its
+    // turn all the same.
+    const bool isWaiting = m_waiting.contains(device) && !m_deps.timers.timers().contains(device);
+    if (!isWaiting) {
+        m_visits.leaveAsItIs(device);
+        return;
+    }
+    m_visits.leaveAsItIs(device, m_waiting.take(device));
+    m_withheld.remove(device);
+    cancelPutOff(device);
 }
 
 void RuleExecution::helperWasFound()
@@ -321,9 +355,9 @@ void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcom
         m_visits.changeNotAsked(device);
     }
     if (!outcome.isReported) {
-        // By hand, or by a countdown: a rule never undoes that on the same visit.
+        // By hand, or by a countdown.
         if (outcome.isInPlace) {
-            m_visits.leaveAsItIs(device);
+            userChose(device);
         } else {
             m_visits.otherChangeFailed(device);
         }

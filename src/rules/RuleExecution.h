@@ -67,6 +67,9 @@ private:
         const AddressChanger::Reply &reply);
     void changeAnswered(const QString &device, quint64 number, const ChangeOutcome &outcome);
     void putOff(const QString &device, std::chrono::milliseconds time);
+    void cancelPutOff(const QString &device);
+    void noteWaiting(const QString &device, const RuleOutcome &outcome);
+    void userChose(const QString &device);
     void makeUpForUnjudged(const QString &device);
     void followDevice(const QString &device);
     void noteSuspension();
@@ -79,6 +82,8 @@ private:
     QSet<QString> m_unjudged;
     /// What is to come at the end of a pause.
     QHash<QString, quint64> m_putOff;
+    /// What was held back or put off on the network that the device is on.
+    QHash<QString, Visits::Act> m_waiting;
     /// How far the wall clock was ahead of the one that stands still in suspension.
     std::chrono::milliseconds m_clockAhead;
 };

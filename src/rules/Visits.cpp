@@ -157,6 +157,12 @@ void Visits::leaveAsItIs(const QString &device)
     }
 }
 
+void Visits::leaveAsItIs(const QString &device, const Act &act)
+{
+    m_visits[device].carried = Carried{.act = act, .address = std::nullopt};
+    leaveAsItIs(device);
+}
+
 void Visits::forget(const QString &device)
 {
     const auto visit = m_visits.find(device);
@@ -205,6 +211,12 @@ void Visits::changeAnswered(const QString &device)
 {
     int &unanswered = m_visits[device].unanswered;
     unanswered = qMax(unanswered - 1, 0);
+}
+
+bool Visits::isChanging(const QString &device) const
+{
+    const auto visit = m_visits.constFind(device);
+    return visit != m_visits.constEnd() && visit->changesUnderWay > 0;
 }
 
 void Visits::otherChangeFailed(const QString &device)

@@ -63,6 +63,8 @@ public:
     /// Nothing more is done about it on this visit: somebody chose another address, or was told
     /// that it cannot be kept.
     void leaveAsItIs(const QString &device);
+    /// The same for an act that was not carried out yet: it counts as carried out.
+    void leaveAsItIs(const QString &device, const Act &act);
     /// What is remembered is forgotten: the act is New.
     void forget(const QString &device);
 
@@ -77,6 +79,8 @@ public:
     /// may go and the network be left without a meaning.
     void changeBegan(const QString &device);
     void changeAnswered(const QString &device);
+    /// Whether one has not settled.
+    bool isChanging(const QString &device) const;
     /// One change that was none of a rule's has failed. Where the device was off its network
     /// meanwhile, what was carried out before was on another visit.
     void otherChangeFailed(const QString &device);

@@ -104,6 +104,91 @@ TEST_F(VisitWithheld, IsNotMadeUpForAfterTheUserHadItCarriedOut)
     EXPECT_EQ(changes(en0), 1);
 }
 
+TEST_F(VisitWithheld, IsNotMadeUpForAfterTheUserChoseAnAddressOnThatVisit)
+{
+    news(en0);
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    internetComes();
+    news(en0);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+    linkGoes(en0);
+    linkComes(en0);
+    pass(10s);
+    EXPECT_NE(host.addressOf(en0), fixedAddress) << "another visit";
+}
+
+TEST_F(VisitWithheld, IsNotMadeUpForAfterTheUserChoseAnAddressAlsoWhereThatTakesTheLinkDown)
+{
+    joinHome();
+    news(en1);
+    changer.updateMacAddressWithAddress(en1, fixedAddress);
+    scheduler.runPending();
+    linkGoes(en1);
+    pass(1s);
+    linkComes(en1);
+    pass(10s);
+    EXPECT_EQ(host.addressOf(en1), fixedAddress);
+}
+
+TEST_F(VisitWithheld, IsMadeUpForAfterTheUserChoseAnAddressOffTheNetwork)
+{
+    news(en0);
+    linkGoes(en0);
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    linkComes(en0);
+    EXPECT_NE(host.addressOf(en0), fixedAddress);
+}
+
+TEST_F(VisitWithheld, IsMadeUpForAfterAChangeOfTheUserThatFailed)
+{
+    news(en0);
+    helper.mood = FakeHelper::Mood::Refusing;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(10s);
+    helper.mood = FakeHelper::Mood::Obliging;
+    internetComes();
+    pass(1s);
+    EXPECT_NE(host.addressOf(en0), factory);
+}
+
+TEST_F(VisitWithheld, IsMadeUpForAfterACountdownOfTheRuleBefore)
+{
+    reachability.reachable = true;
+    ruleOf(en0).setChangeAction(Rule::every);
+    ruleOf(en0).setTimerMins(1);
+    news(en0);
+    ASSERT_TRUE(isCountingDown(en0));
+    reachability.reachable = false;
+    ruleOf(en0).setChangeAction(Rule::once);
+    ruleOf(en0).setAddress(fixedAddress);
+    news(en0);
+    pass(70s);
+    ASSERT_EQ(changes(en0), 1) << "of the countdown";
+    internetComes();
+    pass(1s);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
+TEST_F(VisitWithheld, ForTheLimitIsNotMadeUpForAfterTheUserChoseAnAddress)
+{
+    reachability.reachable = true;
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    for (int time = 0; time < 4; ++time) {
+        pass(6s);
+        linkGoes(en0);
+        linkComes(en0);
+    }
+    ASSERT_EQ(changes(en0), 3);
+    helper.mood = FakeHelper::Mood::Obliging;
+    changer.updateMacAddressWithAddress(en0, fixedAddress);
+    pass(3min);
+    EXPECT_EQ(host.addressOf(en0), fixedAddress);
+}
+
 TEST_F(VisitWithheld, IsMadeUpForByTheRuleThatIsInForceByThen)
 {
     news(en0);
