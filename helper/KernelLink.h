@@ -31,6 +31,15 @@ struct LinkState
 struct LinkConfiguration
 {
     using Message = std::vector<std::uint8_t>;
+    struct Route
+    {
+        Message body;
+        /// Of IPv4 routes of one destination and metric the kernel takes the first. This one stood
+        /// before another interface's, which stays there meanwhile.
+        bool isAhead = false;
+
+        bool operator==(const Route &) const = default;
+    };
     /// The name of the interface, for the log.
     std::string device;
     /// The interfaces on top as they were, the lower ones first. Some follow when the interface
@@ -42,7 +51,7 @@ struct LinkConfiguration
     /// Nexthop objects, then the groups that they are in.
     std::vector<Message> nexthops;
     /// Those without a gateway first, so that gateways are reachable when their routes come.
-    std::vector<Message> routes;
+    std::vector<Route> routes;
 };
 
 /// The kernel's side of an address change. Every operation waits for the kernel's answer and

@@ -9,6 +9,7 @@
 #include "helper/PutBack.h"
 #include "helper/PutBackNexthops.h"
 #include "helper/PutBackRoutes.h"
+#include "helper/RoutesInOrder.h"
 #include "netlink/NetlinkAttributes.h"
 
 #include <algorithm>
@@ -146,7 +147,7 @@ int NetlinkKernelLink::readLinks(std::vector<LinkState> &links)
     return errorOf(answer);
 }
 
-int NetlinkKernelLink::readTable(const NetlinkMessage &request, const ToPutBack &toPutBack,
+int NetlinkKernelLink::readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
     const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table)
 {
     const auto before = table.size();
@@ -209,14 +210,18 @@ int NetlinkKernelLink::readRoutes(
         return error;
     }
     const auto nexthops = keepConcerned(configuration.nexthops);
-    const auto toPutBack = [&](const nlmsghdr *message, const LinkState &link) {
-        return routeToPutBack(message, link, nexthops);
-    };
-    const int error = readTable(
-        netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, rtmsg{}), toPutBack, links, configuration.routes);
-    std::stable_sort(configuration.routes.begin(), configuration.routes.end(),
-        [](const auto &first, const auto &second) { return orderOf(first) < orderOf(second); });
-    return error;
+    RoutesInOrder routes{links};
+    const NetlinkAnswer answer = m_socket.readTable(
+        netlinkMessage(RTM_GETROUTE, NLM_F_DUMP, rtmsg{}), [&] { routes.clear(); },
+        [&](const nlmsghdr &part) {
+            std::optional<LinkConfiguration::Message> body;
+            for (auto link = links.begin(); link != links.end() && !body; ++link) {
+                body = routeToPutBack(&part, *link, nexthops);
+            }
+            routes.add(part, std::move(body));
+        });
+    configuration.routes = routes.take();
+    return errorOf(answer);
 }
 
 int NetlinkKernelLink::restoreUp(const LinkState &before)

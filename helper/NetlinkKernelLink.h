@@ -5,7 +5,6 @@
 #include "helper/KernelLink.h"
 #include "netlink/NetlinkSocket.h"
 
-#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -25,13 +24,12 @@ public:
     int putBack(const LinkConfiguration &configuration) override;
 
 private:
-    /// Of a message about one of the links.
-    using ToPutBack = std::function<std::optional<LinkConfiguration::Message>(
-        const nlmsghdr *, const LinkState &)>;
+    using ToPutBack = std::optional<LinkConfiguration::Message>(
+        const nlmsghdr *, const LinkState &);
 
     int find(int index, const std::string &name, LinkState &state);
     int readLinks(std::vector<LinkState> &links);
-    int readTable(const NetlinkMessage &request, const ToPutBack &toPutBack,
+    int readTable(const NetlinkMessage &request, ToPutBack *toPutBack,
         const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table);
     int readRoutes(const std::vector<LinkState> &links, LinkConfiguration &configuration);
     int restoreUp(const LinkState &before);

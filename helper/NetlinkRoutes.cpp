@@ -52,7 +52,7 @@ int NetlinkRoutes::putBack(const LinkConfiguration &configuration)
     const auto note = [&first](int error) { first = first == 0 ? error : first; };
     const auto &routes = configuration.routes;
     auto route = routes.begin();
-    for (; route != routes.end() && orderOf(*route) == 0; ++route) {
+    for (; route != routes.end() && orderOf(route->body) == 0; ++route) {
         note(putRouteBack(*route));
     }
     for (const auto &nexthop : configuration.nexthops) {
@@ -89,35 +89,36 @@ bool NetlinkRoutes::nexthopExists(std::uint32_t id)
            m_socket.request(message).error == 0;
 }
 
-int NetlinkRoutes::putRouteBack(const LinkConfiguration::Message &route)
+int NetlinkRoutes::putRouteBack(const LinkConfiguration::Route &route)
 {
-    const auto nexthop = nexthopOf(route);
+    // Other interfaces may have routes of this destination and metric. Asked neither to leave nor
+    // to replace them, the kernel refuses only the very same route; unasked, it adds it in front.
+    const int flags = route.isAhead ? 0 : NLM_F_APPEND;
+    const auto nexthop = nexthopOf(route.body);
     if (!nexthop) {
-        return add(route);
+        return add(route.body, flags);
     }
     if (nexthopExists(*nexthop)) {
-        return add(withoutHops(route));
+        return add(withoutHops(route.body), flags);
     }
     // The kernel may be told not to say the hops (net.ipv4.nexthop_compat_mode).
-    return hasHops(route) ? add(withoutNexthop(route)) : ENETUNREACH;
+    return hasHops(route.body) ? add(withoutNexthop(route.body), flags) : ENETUNREACH;
 }
 
-int NetlinkRoutes::add(const LinkConfiguration::Message &route)
+int NetlinkRoutes::add(const LinkConfiguration::Message &route, int flags)
 {
-    int error = addPatiently(route);
+    int error = addPatiently(route, flags);
     if (error == EINVAL && namesSourceIPv6(route)) {
         // As the kernel leaves a route whose source address goes.
-        error = create(m_socket, RTM_NEWROUTE, NLM_F_APPEND, withoutSource(route));
+        error = create(m_socket, RTM_NEWROUTE, flags, withoutSource(route));
         m_sourcesLost += error == 0 ? 1 : 0;
     }
     return error;
 }
 
-int NetlinkRoutes::addPatiently(const LinkConfiguration::Message &route)
+int NetlinkRoutes::addPatiently(const LinkConfiguration::Message &route, int flags)
 {
-    // Other interfaces may have routes of this destination and metric. Appended, it is refused only
-    // when the very same route is there already.
-    const auto attempt = [&] { return create(m_socket, RTM_NEWROUTE, NLM_F_APPEND, route); };
+    const auto attempt = [&] { return create(m_socket, RTM_NEWROUTE, flags, route); };
     int error = attempt();
     while (error == EINVAL && namesSourceIPv6(route)) {
         // Looked at before the next attempt: the address may be usable between the two.

@@ -33,9 +33,9 @@ public:
 
 private:
     int putNexthopBack(const LinkConfiguration::Message &nexthop);
-    int putRouteBack(const LinkConfiguration::Message &route);
-    int add(const LinkConfiguration::Message &route);
-    int addPatiently(const LinkConfiguration::Message &route);
+    int putRouteBack(const LinkConfiguration::Route &route);
+    int add(const LinkConfiguration::Message &route, int flags);
+    int addPatiently(const LinkConfiguration::Message &route, int flags);
     bool nexthopExists(std::uint32_t id);
     bool isSourceBeingChecked(const LinkConfiguration::Message &route);
     bool hasCarrier(int index);

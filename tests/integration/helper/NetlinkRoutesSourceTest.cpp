@@ -32,7 +32,7 @@ protected:
         ASSERT_EQ(kernel.findByName("left0", link), 0);
         ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
         for (const auto &route : configuration.routes) {
-            if (namesSourceIPv6(route)) {
+            if (namesSourceIPv6(route.body)) {
                 m_named.routes.push_back(route);
             }
         }

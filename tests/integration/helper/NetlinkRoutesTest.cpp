@@ -27,6 +27,21 @@ TEST_F(NetlinkRoutesTest, ofADestinationAndMetricThatAnotherInterfaceSharesComeB
     expectRoutesKept();
 }
 
+TEST_F(NetlinkRoutesTest, thatStoodBeforeThoseOfAnotherInterfaceDoSoAgain)
+{
+    outputOf("ip route add default via 10.0.0.254 dev left0 metric 7;"
+             "ip route append default via 10.0.0.253 dev left0 metric 7;"
+             "ip route append default via 10.1.0.254 dev right0 metric 7;"
+             "ip route append default via 10.0.0.252 dev left0 metric 7;"
+             "ip route add 10.70.0.0/16 dev left0; ip route append 10.70.0.0/16 dev right0;"
+             "ip nexthop add id 10 via 10.0.0.254 dev left0; ip route add 10.71.0.0/16 nhid 10;"
+             "ip route append 10.71.0.0/16 dev right0;"
+             "ip route add 10.72.0.0/16 via 10.0.0.254 dev left0;"
+             "ip route append 10.72.0.0/16 nexthop via 10.0.0.253 dev left0"
+             "  nexthop via 10.1.0.254 dev right0");
+    expectRoutesKept();
+}
+
 TEST_F(NetlinkRoutesTest, thatHaveStayedOrAreBackAlreadyAreThereOnce)
 {
     outputOf("ip route add 10.50.0.0/16 nexthop via 10.0.0.254 dev left0"

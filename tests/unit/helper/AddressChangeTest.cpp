@@ -78,7 +78,8 @@ TEST_F(AddressChangeTest, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEvery
         auto &interface = kernel.add("enp1s0");
         interface.refusesWhileUp = refusal;
         interface.configuration.addresses = {{1, 2, 3}};
-        interface.configuration.routes = {{4, 5}, {6}};
+        const std::vector<LinkConfiguration::Route> routes{{{4, 5}, true}, {{6}, false}};
+        interface.configuration.routes = routes;
         EXPECT_EQ(errorOf(change("enp1s0")), "done");
         EXPECT_THAT(kernel.steps,
             ElementsAre("read neighbors", "set while up", "put neighbors back", "read", "down",
@@ -86,8 +87,7 @@ TEST_F(AddressChangeTest, takesTheInterfaceDownWhereTheDriverRefusesAndPutsEvery
         EXPECT_EQ(interface.state.address, wanted);
         EXPECT_EQ(interface.configuration.addresses,
             (std::vector<LinkConfiguration::Message>{{1, 2, 3}}));
-        EXPECT_EQ(
-            interface.configuration.routes, (std::vector<LinkConfiguration::Message>{{4, 5}, {6}}));
+        EXPECT_EQ(interface.configuration.routes, routes);
     }
 }
 
@@ -115,7 +115,7 @@ TEST_F(AddressChangeTest, thatFailsWhileDownStillBringsTheInterfaceBack)
     auto &interface = kernel.add("enp1s0");
     interface.refusesAlways = EOPNOTSUPP;
     interface.configuration.addresses = {{1}};
-    interface.configuration.routes = {{2}};
+    interface.configuration.routes = {{{2}, false}};
     const auto outcome = change("enp1s0");
     EXPECT_EQ(errorOf(outcome), contract::error::changeFailed.name);
     EXPECT_THAT(
