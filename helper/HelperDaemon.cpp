@@ -4,6 +4,7 @@
 
 #include "contract/Names.h"
 #include "helper/Log.h"
+#include "helper/SystemBus.h"
 
 #include <algorithm>
 #include <array>
@@ -33,6 +34,9 @@ constexpr std::chrono::seconds longestFinish{150};
 // A service manager stops who gives his name back (TimeoutStopSec is 10 s): what had reached the
 // helper before is still served.
 constexpr std::chrono::seconds finishAfterName{7};
+// The bus takes answers within milliseconds, unless it holds too many that nobody reads.
+constexpr std::chrono::seconds longestOutput{5};
+constexpr std::chrono::seconds lastOutput{1};
 
 std::chrono::steady_clock::time_point now()
 {
@@ -78,7 +82,9 @@ bool HelperDaemon::run(int stopDescriptor)
     serve(stopDescriptor);
     const bool ended = isConnected() && m_name == NameState::Owned;
     leave(stopDescriptor);
-    sd_bus_flush(&m_bus);
+    if (!isStuck()) {
+        finishOutput(m_bus, lastOutput);
+    }
     return ended;
 }
 
@@ -111,6 +117,9 @@ void HelperDaemon::serve(int stopDescriptor)
 {
     handleMessagesUntil(stopDescriptor, [this] { return isTimeToLeave(); });
     m_deadline = IdlePeriod::Time::max();
+    if (isStuck()) {
+        logLine("ended: the bus takes no more answers, as somebody does not read his");
+    }
 }
 
 bool HelperDaemon::isTimeToLeave()
@@ -133,15 +142,15 @@ bool HelperDaemon::isTimeToLeave()
 void HelperDaemon::leave(int stopDescriptor)
 {
     // From here on the bus starts a new helper for whoever calls the name. What it had given to
-    // this one before comes before its answer to this, and is served to the end. The answer comes
-    // in any case: the library gives one when the bus does not.
+    // this one before comes before its answer to this, and is served to the end. No answer comes
+    // when the bus reads nothing, or when messages without end are before it.
+    m_deadline = now() + finishAfterName;
     if (sd_bus_release_name_async(&m_bus, nullptr, contract::helperName, nameReleased, this) >= 0) {
         m_idle.used(now());
         handleMessagesUntil(noDescriptor, [this] { return m_name == NameState::Released; });
     }
     const auto nobodyWaits = [this] { return m_requests.waiting() == 0; };
     if (!m_isStopped) {
-        m_deadline = now() + finishAfterName;
         handleMessagesUntil(noDescriptor, nobodyWaits);
     }
     m_deadline = now() + longestFinish;
@@ -154,7 +163,7 @@ void HelperDaemon::handleMessagesUntil(int stopDescriptor, const std::function<b
 {
     for (;;) {
         const bool more = processMessages();
-        if (isOver() || now() >= m_deadline || !isConnected() ||
+        if (isOver() || now() >= m_deadline || !isConnected() || isStuck() ||
             !waitForMessages(stopDescriptor, more ? 0ms : timeToWait())) {
             return;
         }
@@ -166,21 +175,42 @@ bool HelperDaemon::isConnected() const
     return sd_bus_is_open(&m_bus) > 0;
 }
 
+bool HelperDaemon::outputWaits()
+{
+    if (!isOutputWaiting(m_bus)) {
+        m_outputWaitsSince.reset();
+        return false;
+    }
+    m_outputWaitsSince = m_outputWaitsSince.value_or(now());
+    return true;
+}
+
+bool HelperDaemon::isStuck()
+{
+    return outputWaits() && now() - *m_outputWaitsSince >= longestOutput;
+}
+
 bool HelperDaemon::processMessages()
 {
+    int errors = 0;
     for (int i = 0; i < messagesAtOnce; ++i) {
+        // Nothing more is taken in while answers wait to go out, so that few pile up.
+        if (outputWaits() && !takesOutput(m_bus, 0ms)) {
+            return false;
+        }
         const int result = sd_bus_process(&m_bus, nullptr);
+        if (result == 0 || !isConnected()) {
+            return false;
+        }
         if (result < 0) {
-            // The bus being gone is seen by isConnected(). Anything else, such as no memory for a
-            // message, ends with that message.
+            // Mostly it ends with one message.
             m_log.limited("messages that could not be read",
                 std::string{"a message could not be read: "} + std::strerror(-result));
-            ::poll(nullptr, 0, errorPauseMilliseconds);
-            return false;
+            ++errors;
         }
-        if (result == 0) {
-            return false;
-        }
+    }
+    if (errors == messagesAtOnce) {
+        ::poll(nullptr, 0, errorPauseMilliseconds);
     }
     return true;
 }
@@ -195,6 +225,10 @@ std::chrono::milliseconds HelperDaemon::timeToWait() const
     limit = std::min(limit, m_log.left().value_or(limit));
     limit =
         std::clamp(std::chrono::ceil<std::chrono::milliseconds>(m_deadline - now()), 0ms, limit);
+    if (m_outputWaitsSince) {
+        const auto left = *m_outputWaitsSince + longestOutput - now();
+        return std::clamp(std::chrono::ceil<std::chrono::milliseconds>(left), 0ms, limit);
+    }
     std::uint64_t busTime = 0;
     if (sd_bus_get_timeout(&m_bus, &busTime) > 0) {
         const auto due = std::chrono::steady_clock::time_point{std::chrono::microseconds{
@@ -207,7 +241,7 @@ std::chrono::milliseconds HelperDaemon::timeToWait() const
 
 bool HelperDaemon::waitForMessages(int stopDescriptor, std::chrono::milliseconds limit)
 {
-    const int events = sd_bus_get_events(&m_bus);
+    const int events = m_outputWaitsSince ? POLLOUT : sd_bus_get_events(&m_bus);
     std::array<pollfd, 2> descriptors{
         {{sd_bus_get_fd(&m_bus), static_cast<short>(std::max(events, 0)), 0},
             {stopDescriptor, POLLIN, 0}}};

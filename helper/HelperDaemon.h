@@ -13,6 +13,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace quillon {
 
@@ -34,8 +35,9 @@ public:
 
     /// Takes the name and serves until nobody has asked anything for the idle period, until it is
     /// superseded (whoever asks), until `stopDescriptor` becomes readable, or until it has been
-    /// uninstalled. False when the bus refuses the name or goes away; no message of anybody ends
-    /// it.
+    /// uninstalled. It also ends when the bus takes no more of its answers, because somebody does
+    /// not read his: the next one starts without them. False when the bus refuses the name or goes
+    /// away; no message of anybody ends it.
     bool run(int stopDescriptor);
 
 private:
@@ -58,6 +60,10 @@ private:
     bool isConnected() const;
     /// True when there may be more.
     bool processMessages();
+    /// For the bus to take it; what it has taken may wait there for who is to read it.
+    bool outputWaits();
+    /// It has waited for too long.
+    bool isStuck();
     /// False when `stopDescriptor` became readable.
     bool waitForMessages(int stopDescriptor, std::chrono::milliseconds limit);
     std::chrono::milliseconds timeToWait() const;
@@ -76,6 +82,7 @@ private:
     bool m_uninstalled = false;
     bool m_isStopped = false;
     IdlePeriod::Time m_deadline = IdlePeriod::Time::max();
+    std::optional<IdlePeriod::Time> m_outputWaitsSince;
 };
 
 } // namespace quillon

@@ -68,6 +68,7 @@ HelperMethods::HelperMethods(
     , m_requests{requests}
     , m_log{log}
     , m_actions{std::move(actions)}
+    , m_filter{contract::helper::path}
 {
 }
 
@@ -95,6 +96,7 @@ void HelperMethods::add(const contract::Method &description)
         SD_BUS_METHOD_WITH_NAMES(description.name, description.inputSignature, names.c_str(),
             description.outputSignature, , called<method>, SD_BUS_VTABLE_UNPRIVILEGED);
     m_table.push_back(entry);
+    m_filter.allow(contract::helper::interface, description);
 }
 
 bool HelperMethods::publish()
@@ -109,7 +111,8 @@ bool HelperMethods::publish()
     add<&HelperMethods::changeAddress>(contract::helper::changeAddressOfDevice);
     add<&HelperMethods::uninstall>(contract::helper::uninstall);
     m_table.push_back(end);
-    return sd_bus_add_object_vtable(&m_bus, &m_slot, contract::helper::path,
+    return m_filter.begin(m_bus) &&
+           sd_bus_add_object_vtable(&m_bus, &m_slot, contract::helper::path,
                contract::helper::interface, m_table.data(), this) >= 0;
 }
 

@@ -4,6 +4,7 @@
 
 #include "helper/AddressChange.h"
 #include "helper/BusCall.h"
+#include "helper/CallFilter.h"
 #include "helper/PrivilegedRequests.h"
 
 #include <functional>
@@ -57,6 +58,7 @@ private:
     PrivilegedRequests &m_requests;
     RequestLog &m_log;
     Actions m_actions;
+    CallFilter m_filter;
     /// What the bus library keeps pointers to.
     std::vector<std::string> m_argumentNames;
     std::vector<sd_bus_vtable> m_table;

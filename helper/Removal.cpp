@@ -20,6 +20,8 @@ namespace {
 
 // What went wrong may go wrong again at once; it shall not take the whole processor.
 constexpr int errorPauseMilliseconds = 10;
+// For the answer to go out.
+constexpr std::chrono::seconds lastOutput{1};
 // The root process waits for the bus and the service manager to read their folders again.
 constexpr std::chrono::microseconds answerTime = std::chrono::seconds{90};
 
@@ -61,6 +63,7 @@ Outcome requestRemoval()
 RemovalService::RemovalService(sd_bus &bus, Uninstallation uninstallation)
     : m_bus{bus}
     , m_uninstallation{std::move(uninstallation)}
+    , m_filter{contract::removal::path}
 {
 }
 
@@ -75,7 +78,9 @@ bool RemovalService::publish()
         SD_BUS_METHOD(contract::removal::remove.name, contract::removal::remove.inputSignature,
             contract::removal::remove.outputSignature, called, SD_BUS_VTABLE_UNPRIVILEGED),
         SD_BUS_VTABLE_END}};
-    return sd_bus_add_object_vtable(&m_bus, &m_slot, contract::removal::path,
+    m_filter.allow(contract::removal::interface, contract::removal::remove);
+    return m_filter.begin(m_bus) &&
+           sd_bus_add_object_vtable(&m_bus, &m_slot, contract::removal::path,
                contract::removal::interface, table.data(), this) >= 0 &&
            sd_bus_request_name(&m_bus, contract::removalName, 0) >= 0;
 }
@@ -117,7 +122,7 @@ bool RemovalService::serve(std::chrono::milliseconds limit)
             sd_bus_wait(&m_bus, static_cast<std::uint64_t>(left.count()));
         }
     }
-    sd_bus_flush(&m_bus);
+    finishOutput(m_bus, lastOutput);
     return m_isDone;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "helper/CallFilter.h"
 #include "helper/Outcome.h"
 
 #include <chrono>
@@ -37,6 +38,7 @@ private:
 
     sd_bus &m_bus;
     Uninstallation m_uninstallation;
+    CallFilter m_filter;
     sd_bus_slot *m_slot = nullptr;
     bool m_isDone = false;
 };

@@ -5,10 +5,13 @@
 #include "helper/BusCall.h"
 #include "helper/Log.h"
 
+#include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <cstring>
 #include <poll.h>
 #include <string>
+#include <sys/socket.h>
 
 namespace quillon {
 
@@ -65,7 +68,43 @@ SystemBus connectToSystemBus()
         sd_bus_start(created) < 0) {
         bus.reset();
     }
+    if (bus) {
+        limitOutput(*bus);
+    }
     return bus;
+}
+
+void limitOutput(sd_bus &bus)
+{
+    // The library asks for 8 MB, which hold thousands of answers.
+    constexpr int bytes = 128 * 1024;
+    setsockopt(sd_bus_get_fd(&bus), SOL_SOCKET, SO_SNDBUF, &bytes, sizeof(bytes));
+}
+
+bool isOutputWaiting(sd_bus &bus)
+{
+    std::uint64_t waiting = 0;
+    return sd_bus_is_ready(&bus) > 0 && sd_bus_get_n_queued_write(&bus, &waiting) >= 0 &&
+           waiting > 0;
+}
+
+bool takesOutput(sd_bus &bus, std::chrono::milliseconds limit)
+{
+    pollfd output{sd_bus_get_fd(&bus), POLLOUT, 0};
+    return poll(&output, 1, static_cast<int>(limit.count())) > 0;
+}
+
+void finishOutput(sd_bus &bus, std::chrono::milliseconds limit)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + limit;
+    while (isOutputWaiting(bus)) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now());
+        // The library writes before it reads, so that it takes in nothing here.
+        if (left.count() <= 0 || !takesOutput(bus, left) || sd_bus_process(&bus, nullptr) < 0) {
+            return;
+        }
+    }
 }
 
 void reloadBus(sd_bus &bus)

@@ -10,8 +10,8 @@ namespace quillon {
 
 struct CloseBus
 {
-    /// What was sent before still goes out.
-    void operator()(sd_bus *bus) const { sd_bus_flush_close_unref(bus); }
+    /// At once: to wait for a bus that reads nothing could take for ever.
+    void operator()(sd_bus *bus) const { sd_bus_close_unref(bus); }
 };
 using SystemBus = std::unique_ptr<sd_bus, CloseBus>;
 
@@ -20,6 +20,16 @@ using SystemBus = std::unique_ptr<sd_bus, CloseBus>;
 /// anyway.
 void reloadBus(sd_bus &bus);
 void reloadServiceManager(sd_bus &bus);
+
+/// Lets the kernel keep little of what the bus does not read, so that it shows soon.
+void limitOutput(sd_bus &bus);
+/// Whether there is something that the bus has not taken yet. Not while the connection is being
+/// made, when much has to wait.
+bool isOutputWaiting(sd_bus &bus);
+/// Whether the bus takes something now, or within `limit`.
+bool takesOutput(sd_bus &bus, std::chrono::milliseconds limit);
+/// Lets go out what waits; what the bus does not take within `limit` is lost.
+void finishOutput(sd_bus &bus, std::chrono::milliseconds limit);
 
 /// Waits until nobody owns `name`, for `limit` at most.
 void waitUntilGone(sd_bus &bus, const char *name, std::chrono::milliseconds limit);

@@ -240,6 +240,42 @@ TEST_F(AttackTest, withMessagesOfEveryFormIsRefused)
     EXPECT_EQ(quillon.processOf(contract::helperName), process);
 }
 
+TEST_F(AttackTest, withLongNamesGetsShortAnswersThatRepeatNothing)
+{
+    openTheBus();
+    const std::string path = '/' + std::string(60'000, 'a');
+    const std::string member(255, 'a');
+    const std::string interface = "a." + std::string(253, 'a');
+    const char *ours = contract::helper::path;
+    const char *version = contract::helper::getVersion.name;
+    const auto manyArguments = [](sd_bus_message *message) {
+        for (int i = 0; i < 250; ++i) {
+            sd_bus_message_append(message, "y", 'a');
+        }
+    };
+    const struct
+    {
+        const char *path;
+        const char *interface;
+        const char *member;
+        RawBus::Fill fill;
+        const char *error;
+    } calls[] = {{path.c_str(), contract::helper::interface, version, {}, "UnknownObject"},
+        {ours, interface.c_str(), version, {}, "UnknownMethod"},
+        {ours, contract::helper::interface, member.c_str(), {}, "UnknownMethod"},
+        {ours, contract::helper::interface, version, manyArguments, "InvalidArgs"},
+        {ours, "org.freedesktop.DBus.Properties", "GetAll", {}, "UnknownMethod"},
+        {ours, "org.freedesktop.DBus.Peer", "GetMachineId", {}, "UnknownMethod"},
+        {path.c_str(), "org.freedesktop.DBus.Peer", "Ping", {}, "UnknownObject"},
+        {ours, "org.freedesktop.DBus.Introspectable", "Introspect", manyArguments, "InvalidArgs"}};
+    for (const auto &call : calls) {
+        EXPECT_EQ(mallory.call(helper, call.path, call.interface, call.member, call.fill),
+            std::string{"org.freedesktop.DBus.Error."} + call.error);
+        EXPECT_LT(mallory.lastErrorText().size(), 40U) << mallory.lastErrorText();
+    }
+    EXPECT_THAT(outputOf(std::string{"cat "} + log), Not(HasSubstr("could not be read")));
+}
+
 TEST_F(AttackTest, withRepliesToNothingDecidesNothing)
 {
     // Here the bus's policy is what holds: a reply that was not asked of its sender goes nowhere.
@@ -446,6 +482,34 @@ TEST_F(AttackTest, writesOneCountedLineASecondAndEveryDoneOne)
     EXPECT_TRUE(waitUntil([&] { return counted() == refused; })) << counted();
     EXPECT_EQ(count(lines, ": done\n"), changes);
     EXPECT_LE(count(lines, "\n"), changes + seconds + 2) << lines;
+}
+
+TEST_F(AttackTest, withAnswersThatItDoesNotReadSilencesTheHelperForSecondsOnly)
+{
+    // So that it does not take minutes; the bus gives the limit to who connects from now on.
+    outputOf("sed -i 's|</busconfig>|<limit name=\"max_incoming_bytes\">100000</limit>&|' "
+             "/etc/dbus-1/system.d/com.orvandel.Quillon4HelperTool.conf");
+    reloadBus();
+    kill(process, SIGKILL);
+    ASSERT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
+    ASSERT_EQ(quillon.version(), contract::helperVersion);
+    process = quillon.processOf(contract::helperName);
+    helper = quillon.endpoint();
+    const auto isThere = [this] {
+        return run("test -e /proc/" + std::to_string(process)).exitCode == 0;
+    };
+    EXPECT_TRUE(waitUntil([&] {
+        for (int i = 0; i < 20; ++i) {
+            mallory.send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
+                contract::helper::interface, contract::helper::getVersion.name);
+        }
+        return !isThere();
+    }));
+    // Mallory still has not read anything. A bus that reads nothing from the helper sees that it is
+    // gone when the next call is to be passed on.
+    EXPECT_TRUE(
+        waitUntil([this] { return quillon.change("enp1s0", newAddress) == BusClient::done; }));
+    process = quillonLater.processOf(contract::helperName);
 }
 
 TEST_F(AttackTest, doesNotKeepTheHelperFromEndingWhenItIsToldTo)

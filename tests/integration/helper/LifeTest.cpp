@@ -5,6 +5,7 @@
 #include "helper/NetlinkKernelLink.h"
 #include "helper/SystemBus.h"
 #include "integration/helper/BusClient.h"
+#include "integration/helper/DeafBus.h"
 #include "integration/helper/FakePolkit.h"
 #include "integration/helper/RawBus.h"
 #include "integration/helper/Sandbox.h"
@@ -15,6 +16,7 @@
 #include <atomic>
 #include <csignal>
 #include <functional>
+#include <memory>
 #include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
@@ -172,6 +174,48 @@ TEST_F(LifeTestWithTime, servesWhatReachedItBeforeItsNameWasGoneThoughItIsStoppe
     root.version();
     EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+}
+
+/// The daemon's class on a bus that does not do its part.
+class LifeTestOnADeafBus : public testing::Test
+{
+protected:
+    ~LifeTestOnADeafBus() override
+    {
+        // One that still runs ends with its connection.
+        deaf.reset();
+        thread.join();
+        close(stop);
+    }
+
+    std::unique_ptr<DeafBus> deaf = std::make_unique<DeafBus>();
+    int stop = eventfd(0, EFD_CLOEXEC);
+    SystemBus bus = deaf->client();
+    NetlinkKernelLink kernel;
+    HelperDaemon daemon{*bus, kernel, [] { return Outcome{}; }, [] { return false; }, 10min};
+    std::atomic<bool> ended = false;
+    std::thread thread{[this] {
+        daemon.run(stop);
+        // As at the end of the process.
+        bus.reset();
+        ended = true;
+    }};
+};
+
+TEST_F(LifeTestOnADeafBus, endsWhenItIsToldToThoughItsNameIsNotTakenBack)
+{
+    eventfd_write(stop, 1);
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_TRUE(deaf->isLeft());
+}
+
+TEST_F(LifeTestOnADeafBus, endsByItselfWhenTheBusTakesNoMoreAnswers)
+{
+    ASSERT_TRUE(waitUntil([this] { return deaf->isEntered(); }));
+    deaf->readNothing();
+    EXPECT_TRUE(waitUntil([this] { return ended.load(); }));
+    EXPECT_FALSE(deaf->isLeft());
+    EXPECT_GT(deaf->calls(), 0);
 }
 
 class LifeTest : public testing::Test

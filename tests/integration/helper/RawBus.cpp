@@ -87,6 +87,7 @@ std::string RawBus::call(const std::string &destination, const char *path, const
     const std::string name = result >= 0             ? "done"
                              : error.name != nullptr ? std::string{error.name}
                                                      : "not sent";
+    m_lastErrorText = error.message == nullptr ? "" : error.message;
     sd_bus_error_free(&error);
     sd_bus_message_unref(reply);
     sd_bus_message_unref(message);

@@ -33,6 +33,8 @@ public:
     /// The name of the error that answers a call, "done" after a reply.
     std::string call(const std::string &destination, const char *path, const char *interface,
         const char *member, const Fill &fill = {});
+    /// What the last error said in words.
+    const std::string &lastErrorText() const { return m_lastErrorText; }
     /// A yes of polkit's form to a call of this number that nobody made to us.
     int replyToNothing(const std::string &destination, std::uint32_t number);
     /// Lets go out what waits, and takes in what came: the names of errors.
@@ -40,6 +42,7 @@ public:
 
 private:
     sd_bus *m_bus = nullptr;
+    std::string m_lastErrorText;
 };
 
 } // namespace quillon::test
