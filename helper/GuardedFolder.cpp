@@ -8,6 +8,7 @@
 #include <grp.h>
 #include <sstream>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -28,6 +29,13 @@ std::string nameOf(gid_t group)
     return entry == nullptr ? std::to_string(group) : std::string{entry->gr_name};
 }
 
+/// With a list of further users and groups the group's bits only bound what those may do.
+bool hasAccessList(int descriptor)
+{
+    return fgetxattr(descriptor, "system.posix_acl_access", nullptr, 0) >= 0 ||
+           (errno != ENODATA && errno != ENOTSUP);
+}
+
 std::string problemOf(int descriptor, const std::string &path, const FolderGuard &guard)
 {
     struct stat status{};
@@ -45,6 +53,10 @@ std::string problemOf(int descriptor, const std::string &path, const FolderGuard
     if ((status.st_mode & S_IWGRP) != 0 && !isShared) {
         return path + " is writable by other users (the group " + nameOf(status.st_gid) +
                "); refusing to put anything there";
+    }
+    if ((status.st_mode & S_IWGRP) != 0 && hasAccessList(descriptor)) {
+        return path + " may be writable by other users (it has an access control list); refusing "
+                      "to put anything there";
     }
     return {};
 }

@@ -8,6 +8,7 @@
 #include "helper/PendingReply.h"
 #include "helper/RequestLog.h"
 
+#include <cstdint>
 #include <cstring>
 #include <initializer_list>
 #include <memory>
@@ -33,13 +34,19 @@ std::string joined(
     return names;
 }
 
-/// Whether the next argument is an array of exactly 32 bytes. It is looked at where it lies.
+/// Whether the next argument is an array of exactly 32 bytes. No more of it is looked at than
+/// decides, byte by byte: the library hands out whole arrays only of the machine's own byte order.
 bool isAuthorizationSized(sd_bus_message &call)
 {
-    const void *bytes = nullptr;
+    if (sd_bus_message_enter_container(&call, 'a', "y") <= 0) {
+        return false;
+    }
     std::size_t size = 0;
-    return sd_bus_message_read_array(&call, 'y', &bytes, &size) >= 0 &&
-           size == contract::authorizationSize;
+    std::uint8_t byte = 0;
+    while (size <= contract::authorizationSize && sd_bus_message_read(&call, "y", &byte) > 0) {
+        ++size;
+    }
+    return size == contract::authorizationSize;
 }
 
 /// No more of a text than it takes to see that it is too long.

@@ -44,8 +44,12 @@ public:
     }
     void add(std::function<void()> step) { m_steps.push_back(std::move(step)); }
     void forget() { m_steps.clear(); }
+    /// A step could not be undone.
+    void failed() { m_isWhole = false; }
+    bool isWhole() const { return m_isWhole; }
 
 private:
+    bool m_isWhole = true;
     std::vector<std::function<void()>> m_steps;
 };
 
@@ -138,7 +142,11 @@ std::string Installation::writeAll(
     for (auto &file : files) {
         std::vector<std::string> made;
         auto folder = makeGuarded(m_guard, file.folder, made);
-        undo.add([this, made] { removeFolders(made); });
+        undo.add([this, made, &undo] {
+            if (!removeFolders(made).empty()) {
+                undo.failed();
+            }
+        });
         if (!folder.problem.empty()) {
             return folder.problem;
         }
@@ -175,6 +183,24 @@ std::string Installation::putInPlace(std::vector<Place> &places, Undo &undo) con
     return {};
 }
 
+std::string Installation::obstacle() const
+{
+    for (const auto &file : m_layout.files) {
+        const auto folder = openGuarded(m_guard, file.folder);
+        if (folder.isMissing) {
+            continue;
+        }
+        if (!folder.problem.empty()) {
+            return folder.problem;
+        }
+        if (auto problem = problemWithTarget(folder.descriptor.number(), file.name);
+            !problem.empty()) {
+            return file.folder + '/' + problem;
+        }
+    }
+    return {};
+}
+
 Outcome Installation::install(int tool)
 {
     const FolderRecord record{m_guard, m_layout};
@@ -186,7 +212,11 @@ Outcome Installation::install(int tool)
     std::vector<Place> places;
     Undo undo;
     if (!record.hasJournal()) {
-        undo.add([&record] { record.endJournal(); });
+        undo.add([&record, &undo] {
+            if (undo.isWhole()) {
+                record.endJournal();
+            }
+        });
     }
     auto problem = record.beginJournal(folders);
     if (problem.empty()) {
@@ -254,24 +284,35 @@ Outcome Installation::uninstall()
         }
     }
     places.clear();
-    removeFolders(folders);
+    problem = removeFolders(folders);
+    if (!problem.empty()) {
+        // The journal stays, for the next one to know them.
+        return Refusal{contract::error::uninstallFailed, problem};
+    }
     record.endJournal();
     return std::nullopt;
 }
 
-void Installation::removeFolders(const std::vector<std::string> &folders) const
+std::string Installation::removeFolders(const std::vector<std::string> &folders) const
 {
+    std::string problem;
     auto innermostFirst = folders;
     std::sort(innermostFirst.begin(), innermostFirst.end(),
         [](const auto &a, const auto &b) { return a.size() > b.size(); });
     for (const auto &path : innermostFirst) {
         const auto cut = path.rfind('/');
         const auto parent = openGuarded(m_guard, path.substr(0, cut));
-        if (parent.problem.empty()) {
-            // Not when something else lives there by now.
-            unlinkat(parent.descriptor.number(), path.c_str() + cut + 1, AT_REMOVEDIR);
+        if (!parent.problem.empty()) {
+            problem = parent.isMissing ? problem : parent.problem;
+            continue;
+        }
+        // Not when something else lives there by now.
+        if (unlinkat(parent.descriptor.number(), path.c_str() + cut + 1, AT_REMOVEDIR) != 0 &&
+            errno != ENOTEMPTY && errno != EEXIST && errno != ENOENT && problem.empty()) {
+            problem = failure(path);
         }
     }
+    return problem;
 }
 
 } // namespace quillon

@@ -33,10 +33,14 @@ public:
     /// package puts in the very same place.
     bool isInstalled() const;
 
+    /// What would keep install() from its work, as far as it can be seen without changing
+    /// anything; empty when nothing would.
+    std::string obstacle() const;
     /// Copies the program behind `tool` and writes the other files, over an older installation too.
     /// Error: InstallFailed.
     Outcome install(int tool);
-    /// Removes the files and the folders that install() made. Nothing to remove is a success.
+    /// Removes the files and the folders that install() made. Nothing to remove is a success. When
+    /// a folder that nobody else uses cannot go, the next call tries again.
     /// Errors: OwnedByPackage, UninstallFailed.
     Outcome uninstall();
 
@@ -50,7 +54,8 @@ private:
         std::vector<Place> &places, Undo &undo) const;
     std::string putInPlace(std::vector<Place> &places, Undo &undo) const;
     std::string findAll(std::vector<Place> &places) const;
-    void removeFolders(const std::vector<std::string> &folders) const;
+    /// Returns why one of them that is empty is still there; empty otherwise.
+    std::string removeFolders(const std::vector<std::string> &folders) const;
     bool exists(const std::string &path) const;
 
     InstallationLayout m_layout;

@@ -200,13 +200,20 @@ int install()
         logLine("The running program cannot be read.");
         return exitFailed;
     }
+    const bool isPackages =
+        installation.isPackaged() || installation.isPackagedTool(tool.number());
+    if (const auto obstacle = isPackages ? std::string{} : installation.obstacle();
+        !obstacle.empty()) {
+        logLine(obstacle);
+        return exitFailed;
+    }
     // The bus reads its policy, which names the user, only after that. A package that was not
     // installed by a package manager has no user yet either.
     if (const auto problem = makeHelperAccount(helperLayout().accountLine); !problem.empty()) {
         logLine(problem);
         return exitFailed;
     }
-    if (installation.isPackaged() || installation.isPackagedTool(tool.number())) {
+    if (isPackages) {
         return yieldToPackage(installation);
     }
     return finishInstallation(installation.install(tool.number()), "The helper is installed.");

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contract/Names.h"
+#include "integration/helper/BigEndianCaller.h"
 #include "integration/helper/BusClient.h"
 #include "integration/helper/Sandbox.h"
 #include "integration/helper/Waiting.h"
@@ -38,6 +39,17 @@ TEST_F(ChangeTest, reachesTheKernel)
     ASSERT_NE(kernelAddress("enp1s0"), newAddress);
     EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
     EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+}
+
+TEST_F(ChangeTest, isDoneForCallersOfTheOtherByteOrder)
+{
+    const auto before = kernelAddress("enp1s0");
+    BigEndianCaller caller{"quillon"};
+    caller.change("enp1s0", newAddress, 31);
+    caller.change("enp1s0", newAddress, 33);
+    caller.change("enp2s0", newAddress, 32);
+    EXPECT_TRUE(waitUntil([] { return kernelAddress("enp2s0") == newAddress; }));
+    EXPECT_EQ(kernelAddress("enp1s0"), before);
 }
 
 TEST_F(ChangeTest, takesOneDigitOctets)

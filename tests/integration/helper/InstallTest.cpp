@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/mount.h>
+
 namespace quillon::test {
 namespace {
 
@@ -124,6 +126,29 @@ TEST_F(InstallTest, copiesTheProgramThatRunsAndNotWhatLiesInItsPlace)
     // The file is exchanged after the start: the shell holds the old one open and executes it.
     outputOf("exec 9</tmp/tool; rm /tmp/tool; echo evil >/tmp/tool; /proc/self/fd/9 install");
     EXPECT_EQ(outputOf("cmp " + builtTool() + ' ' + installedTool), "");
+}
+
+TEST_F(InstallTest, thatFailsAtTheFirstLookMakesNoUser)
+{
+    outputOf("sed -i /^quillon4-helper:/d /etc/passwd");
+    outputOf("ln -s /dev/null /etc/systemd/system/quillon4-helper.service");
+    const auto result = run(builtTool() + " install");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("refusing to replace it"));
+    EXPECT_NE(run("grep ^quillon4-helper: /etc/passwd").exitCode, 0);
+}
+
+TEST_F(InstallTest, whoseFolderCannotBeRemovedSaysSoAndRemembersIt)
+{
+    const std::string folder = "/usr/local/libexec/quillon4";
+    outputOf(builtTool() + " install");
+    ASSERT_EQ(mount(folder.c_str(), folder.c_str(), nullptr, MS_BIND, nullptr), 0);
+    const auto result = run(builtTool() + " uninstall");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr(folder + ": "));
+    ASSERT_EQ(umount(folder.c_str()), 0);
+    outputOf(builtTool() + " uninstall");
+    EXPECT_EQ(installedThings(), clean);
 }
 
 TEST_F(InstallTest, isRefusedToOrdinaryUsers)

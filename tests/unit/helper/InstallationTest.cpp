@@ -4,8 +4,11 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+#include <cstdint>
 #include <filesystem>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -155,6 +158,48 @@ TEST_F(InstallationTest, letsThatGroupWriteNowhereElseAndEverybodyNowhere)
         chmod((root + attempt.folder).c_str(), 0755);
     }
     ASSERT_EQ(messageOf(install()), "done");
+}
+
+TEST_F(InstallationTest, seesAnObstacleWithoutChangingAnything)
+{
+    const auto clean = listing();
+    EXPECT_EQ(installation().obstacle(), "");
+    EXPECT_EQ(listing(), clean);
+    fs::create_symlink("/dev/null", root + unit);
+    const auto masked = listing();
+    EXPECT_THAT(installation().obstacle(), HasSubstr("refusing to replace it"));
+    fs::remove(root + unit);
+    chmod((root + "/usr/local").c_str(), 0777);
+    EXPECT_THAT(installation().obstacle(), HasSubstr("/usr/local is writable by other users"));
+    chmod((root + "/usr/local").c_str(), 0755);
+    EXPECT_EQ(listing(), clean);
+    EXPECT_NE(masked, clean);
+}
+
+TEST_F(InstallationTest, letsThatGroupWriteNowhereWhereAListNamesFurtherUsers)
+{
+    // user::rwx, user:12345:rwx, group::r-x, mask::rwx, other::r-x: shown like rwx of the group.
+    struct Entry
+    {
+        std::uint16_t tag;
+        std::uint16_t rights;
+        std::uint32_t id;
+    };
+    struct
+    {
+        std::uint32_t version = 2;
+        std::array<Entry, 5> entries{{{0x01, 7, ~0U}, {0x02, 7, 12345}, {0x04, 5, ~0U},
+            {0x10, 7, ~0U}, {0x20, 5, ~0U}}};
+    } const list;
+    sharedGroup = getegid();
+    const auto folder = root + "/usr/local";
+    ASSERT_EQ(setxattr(folder.c_str(), "system.posix_acl_access", &list, sizeof(list), 0), 0);
+    struct stat status{};
+    stat(folder.c_str(), &status);
+    ASSERT_NE(status.st_mode & S_IWGRP, 0U);
+    EXPECT_THAT(messageOf(install()), HasSubstr("/usr/local may be writable by other users"));
+    removexattr(folder.c_str(), "system.posix_acl_access");
+    EXPECT_EQ(messageOf(install()), "done");
 }
 
 TEST_F(InstallationTest, isPackagedToolByWhatTheFileIs)
