@@ -9,6 +9,7 @@
 #include "platform/SettingsStore.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -55,10 +56,10 @@ DeviceTable::DeviceTable(
 bool DeviceTable::updateNetWorkInterfaces()
 {
     const auto read = readPorts();
-    const QList<PortRecord> ports = read.value_or(QList<PortRecord>());
+    const Reading reading = read.value_or(Reading());
     auto table = stored();
     bool isRefreshed = false;
-    for (const PortRecord &port : ports) {
+    for (const PortRecord &port : reading.ports) {
         if (port.device.isEmpty()) {
             continue;
         }
@@ -67,7 +68,9 @@ bool DeviceTable::updateNetWorkInterfaces()
         const DeviceRecord before = DeviceRecord::fromPropertyList(isKnown ? *known : QVariant());
         DeviceRecord record = before;
         refresh(record, port);
-        if (isKnown && !isSameInterface(record, before)) {
+        if (isKnown && reading.arrived.contains(port.device)) {
+            noteReturn(port.device);
+        } else if (isKnown && !isSameInterface(record, before)) {
             noteNews(port.device, before);
         }
         table[port.device] = record.toPropertyList();
@@ -80,20 +83,20 @@ bool DeviceTable::updateNetWorkInterfaces()
     return read.has_value();
 }
 
-std::optional<QList<PortRecord>> DeviceTable::readPorts()
+std::optional<DeviceTable::Reading> DeviceTable::readPorts()
 {
     const std::lock_guard lock(m_hostMutex);
     const auto ports = m_host.ports();
     if (!ports) {
-        return ports;
+        return std::nullopt;
     }
-    m_present.clear();
+    const QSet<QString> before = std::exchange(m_present, {});
     for (const PortRecord &port : *ports) {
         if (!port.info.macAddress.isEmpty()) {
             m_present.insert(port.device);
         }
     }
-    return ports;
+    return Reading{*ports, QSet<QString>(m_present).subtract(before)};
 }
 
 bool DeviceTable::isPresent(const QString &device) const
@@ -124,6 +127,13 @@ void DeviceTable::noteNews(const QString &device, const DeviceRecord &before)
     if (!m_known.contains(device)) {
         m_known.insert(device, before);
     }
+}
+
+// Nobody knows where it was.
+void DeviceTable::noteReturn(const QString &device)
+{
+    const std::lock_guard lock(m_newsMutex);
+    m_known.insert(device, DeviceRecord());
 }
 
 void DeviceTable::noteUpdate(

@@ -46,7 +46,8 @@ public:
 
     /// The devices, in key order, whose interface is not what it was when forgetNews() was last
     /// called for them, whoever had the table refreshed meanwhile. An address that the program gave
-    /// an interface itself is no news, nor is a device that the table did not hold before.
+    /// an interface itself is no news, nor is a device that the table did not hold before. One that
+    /// was away is news when it is back, also where nothing about it differs.
     QStringList devicesWithNews() const;
     /// The address is one that the program gave `device`, and no news, whoever saw it first.
     void noteOwnAddress(const QString &device, const QString &address);
@@ -76,7 +77,13 @@ public:
     QStringList sortedDevicesArray() const;
 
 private:
-    std::optional<QList<PortRecord>> readPorts();
+    struct Reading
+    {
+        QList<PortRecord> ports;
+        QSet<QString> arrived; ///< present now, and not at the reading before
+    };
+    std::optional<Reading> readPorts();
+    void noteReturn(const QString &device);
     void noteNews(const QString &device, const DeviceRecord &before);
     void noteUpdate(const QString &device, const DeviceRecord &before, const DeviceRecord &changed,
         AddressOf whose);

@@ -289,6 +289,7 @@ void RuleExecution::helperWasFound()
 QStringList RuleExecution::withheldDevices() const
 {
     QStringList devices = m_withheld.values();
+    devices.removeIf([this](const QString &device) { return !m_deps.devices.isPresent(device); });
     devices.sort();
     return devices;
 }

@@ -49,7 +49,7 @@ public:
     void addressChangeEnded(const QString &device, const ChangeOutcome &outcome = {});
 
     /// The devices whose rule was not carried out though there was news of them. To be evaluated
-    /// once the internet can be reached.
+    /// once the internet can be reached. One that is away is not among them until it is back.
     QStringList withheldDevices() const;
     /// The helper was found installed: rules that failed are carried out now.
     void helperWasFound();

@@ -81,6 +81,35 @@ TEST_F(DeviceTableNews, IsNotADeviceThatIsNewNorOneThatWasTakenAway)
     EXPECT_EQ(news(), QStringList(u"en5"_s));
 }
 
+TEST_F(DeviceTableNews, IsADeviceThatIsBackAlsoWhereItIsAsItWas)
+{
+    const FakeNetworkHost::Interface taken = host.at(en0);
+    host.unplug(en0);
+    refresh();
+    refresh();
+    host.setUnreadable(true);
+    refresh();
+    host.setUnreadable(false);
+    EXPECT_EQ(news(), QStringList());
+    host.plug(taken);
+    refresh();
+    table.noteOwnAddress(en0, taken.address);
+    refresh();
+    EXPECT_EQ(news(), QStringList(en0));
+    table.forgetNews(en0);
+    refresh();
+    EXPECT_EQ(news(), QStringList());
+}
+
+TEST_F(DeviceTableNews, IsNotADeviceThatCouldNotBeReadForAMoment)
+{
+    host.setUnreadable(true);
+    refresh();
+    host.setUnreadable(false);
+    refresh();
+    EXPECT_EQ(news(), QStringList());
+}
+
 TEST_F(DeviceTableNews, IsNotWhatTheProgramItselfKeepsInTheRecord)
 {
     table.update(en0, [](DeviceRecord &record) {

@@ -37,6 +37,18 @@ protected:
         news(en0);
         helper.mood = FakeHelper::Mood::Obliging;
     }
+    /// With the lease that it had.
+    void takeAwayAndBack(const QString &device)
+    {
+        const FakeNetworkHost::Interface taken = host.at(device);
+        host.unplug(device);
+        networkEvent();
+        helper.mood = FakeHelper::Mood::Obliging;
+        pass(10s);
+        host.plug(taken);
+        networkEvent();
+        pass(1s);
+    }
     void newsEvery(std::chrono::milliseconds period, int times)
     {
         for (int time = 0; time < times; ++time) {
@@ -299,6 +311,22 @@ TEST_F(VisitFailure, AfterItsDeviceWentIsNoneOfTheNextVisit)
     pass(10s);
     news(en0);
     EXPECT_EQ(asked(), 2);
+}
+
+TEST_F(VisitFailure, BeforeItsDeviceWentAndCameBackAsItWasIsTriedAgain)
+{
+    newsInMood(FakeHelper::Mood::Refusing);
+    pass(10s);
+    takeAwayAndBack(en0);
+    EXPECT_EQ(changes(en0), 2);
+}
+
+TEST_F(VisitFailure, WhileItsDeviceWentAndCameBackAsItWasIsTriedAgain)
+{
+    newsInMood(FakeHelper::Mood::Hanging);
+    takeAwayAndBack(en0);
+    EXPECT_EQ(asked(), 2);
+    EXPECT_NE(host.addressOf(en0), factory);
 }
 
 TEST_F(VisitFailure, OnOneDeviceIsNothingToTheOther)

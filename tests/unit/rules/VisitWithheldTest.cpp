@@ -189,6 +189,24 @@ TEST_F(VisitWithheld, ForTheLimitIsNotMadeUpForAfterTheUserChoseAnAddress)
     EXPECT_EQ(host.addressOf(en0), fixedAddress);
 }
 
+TEST_F(VisitWithheld, OfADeviceThatIsAwayWaitsForItsReturn)
+{
+    news(en0);
+    const FakeNetworkHost::Interface taken = host.at(en0);
+    host.unplug(en0);
+    networkEvent();
+    reachability.reachable = true;
+    news(en1);
+    pass(10s);
+    EXPECT_EQ(changes(en0), 0);
+    host.plug(taken);
+    networkEvent();
+    pass(10s);
+    EXPECT_EQ(changes(en0), 1);
+    networkEvent();
+    EXPECT_EQ(changes(en0), 1);
+}
+
 TEST_F(VisitWithheld, IsMadeUpForByTheRuleThatIsInForceByThen)
 {
     news(en0);
