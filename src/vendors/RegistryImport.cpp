@@ -66,6 +66,12 @@ void RegistryImport::Work::importDownload(QFile &body)
 
 bool RegistryImport::Work::save(QFile &body) const
 {
+    // To open a pipe would wait for somebody who reads it.
+    const QFileInfo there(m_files.registryText());
+    if (there.exists() && !there.isFile()) {
+        qCWarning(logVendors, "Registry not saved: there is something in its place");
+        return false;
+    }
     QFile text(m_files.registryText());
     if (!text.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         qCWarning(logVendors, "Registry not saved: %s", qUtf8Printable(text.errorString()));
@@ -182,7 +188,7 @@ void RegistryImport::parseDownloadedCSV(const QString &path)
 
 bool RegistryImport::canRestorePrevious() const
 {
-    return !isAtWork() && QFile::exists(m_files.previousDatabase());
+    return !isAtWork() && isOpenedAtOnce(m_files.previousDatabase());
 }
 
 void RegistryImport::restorePrevious()

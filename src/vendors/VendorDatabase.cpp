@@ -5,8 +5,10 @@
 #include "base/Log.h"
 #include "vendors/NullMarker.h"
 #include "vendors/VendorFileWriting.h"
+#include "vendors/VendorFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -73,6 +75,12 @@ struct VendorDatabase::File
         std::unique_lock turn(turnstile);
         const std::shared_lock lock(mutex);
         turn.unlock();
+        if (!isOpenedAtOnce(path)) {
+            if (wasRead != nullptr) {
+                *wasRead = !QFile::exists(path);
+            }
+            return {};
+        }
         try {
             SQLite::Database database(
                 QFile::encodeName(path).constData(), SQLite::OPEN_READONLY, readerPatience);
@@ -180,13 +188,21 @@ std::optional<VendorDatabase::Rewriting> VendorDatabase::File::tryRewriting(
         return Rewriting::FileMissing;
     }
     QFile fresh(source);
-    if (!fresh.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    if (!QFileInfo(source).isFile() || !fresh.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return Rewriting::Failed;
     }
     if (!isThere) {
         const bool isMade =
             VendorFileWriting::makeFrom(fresh, path, VendorFileWriting::TimeOfChange::OfTheSource);
         return isMade ? Rewriting::Done : Rewriting::Failed;
+    }
+    if (!QFileInfo(path).isFile()) {
+        qCWarning(logVendors, "Vendor database is no file");
+        return Rewriting::Failed;
+    }
+    if (!isOpenedAtOnce(path)) {
+        qCWarning(logVendors, "Vendor database not opened: there is a pipe beside it");
+        return Rewriting::NotKept;
     }
     VendorFileWriting live(path);
     if (live.isLockedByAnother()) {

@@ -46,6 +46,7 @@ bool copyWhole(QFile &source, QFile &target, TimeOfChange time = TimeOfChange::O
     }
 }
 
+/// What lies there is left of a copy that was not finished, or is none, and is removed first.
 QString copyBeside(const QString &place)
 {
     return place + u".new"_s;
@@ -150,7 +151,7 @@ std::optional<qlonglong> VendorFileWriting::identifiers() const
 
 qlonglong VendorFileWriting::identifiersIn(const QString &path)
 {
-    if (!QFile::exists(path)) {
+    if (!QFileInfo(path).isFile()) {
         return 0;
     }
     std::optional<SQLite::Database> database;
@@ -165,6 +166,7 @@ bool VendorFileWriting::copyTo(const QString &place)
 {
     makeFolder(QFileInfo(place).path());
     QFile copy(copyBeside(place));
+    copy.remove();
     const bool isCopied = m_file.seek(0) &&
                           copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                           copyWhole(m_file, copy);
@@ -192,6 +194,7 @@ bool VendorFileWriting::keepCopy(const QString &place)
 bool VendorFileWriting::makeFrom(QFile &source, const QString &path, TimeOfChange time)
 {
     QFile copy(copyBeside(path));
+    copy.remove();
     const bool isCopied =
         copy.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && copyWhole(source, copy, time);
     if (!isCopied) {
@@ -210,10 +213,7 @@ bool VendorFileWriting::rewriteFrom(QFile &source)
     }
     // Or one of them could come back with a power cut, beside the new content.
     syncFolder(QFileInfo(path).path());
-    const bool isEmptied =
-        (m_file.pos() == 0 || m_file.seek(0)) &&
-        // What is no file, and cannot be cut, says at the first write what is wrong.
-        (m_file.resize(0) || m_file.isSequential());
+    const bool isEmptied = (m_file.pos() == 0 || m_file.seek(0)) && m_file.resize(0);
     if (!isEmptied || !copyWhole(source, m_file)) {
         qCWarning(
             logVendors, "Vendor database not written: %s", qUtf8Printable(m_file.errorString()));

@@ -4,8 +4,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -20,6 +22,12 @@ bool isRemoved(const QString &path)
     return unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
 }
 
+bool isPipe(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
 } // namespace
 
 bool removeLog(const QString &path)
@@ -32,6 +40,12 @@ bool removeCompanions(const QString &path)
 {
     const bool isLogGone = removeLog(path);
     return isRemoved(path + "-journal"_L1) && isLogGone;
+}
+
+bool isOpenedAtOnce(const QString &path)
+{
+    return QFileInfo(path).isFile() && !isPipe(path + "-wal"_L1) && !isPipe(path + "-shm"_L1) &&
+           !isPipe(path + "-journal"_L1);
 }
 
 QString shippedVendorDatabase(const QString &programFolder)

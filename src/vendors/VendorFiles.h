@@ -30,6 +30,10 @@ bool removeCompanions(const QString &path);
 /// The same for the log and its index alone.
 bool removeLog(const QString &path);
 
+/// Whether the database at `path` is a file, and no pipe lies beside it: to open a pipe would wait
+/// until somebody writes into it.
+bool isOpenedAtOnce(const QString &path);
+
 /// The shipped database as seen from the folder of the running program: that of the installation
 /// ("../share/quillon4/oui.db"), else that of the build folder ("../data/oui.db"). Empty when there
 /// is none.

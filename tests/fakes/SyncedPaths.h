@@ -12,8 +12,9 @@
 
 namespace quillon::test {
 
-/// The files and folders for which this program waited with fsync(), in order. Include this in one
-/// source of a test program: every fsync() of the program, that of its libraries too, comes here.
+/// The files and folders for which this program waited with fsync(), in order. Where a
+/// source of a test program includes this every fsync() of the program, that of its libraries too,
+/// comes here.
 inline QStringList &syncedPaths()
 {
     static QStringList paths;
@@ -36,7 +37,7 @@ inline int &syncError()
 
 } // namespace quillon::test
 
-extern "C" int fsync(int handle)
+extern "C" [[gnu::used]] inline int fsync(int handle)
 {
     using namespace Qt::StringLiterals;
     quillon::test::syncedPaths() << QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(handle));

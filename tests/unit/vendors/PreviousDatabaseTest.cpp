@@ -7,6 +7,8 @@
 
 #include <QDateTime>
 
+#include <sys/stat.h>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -240,6 +242,16 @@ TEST_F(PreviousDatabase, ComesBackToTheDiskWithItsTimeWhereThereIsNone)
         mediumDateShortTime(before.toLocalTime(), QLocale()));
     EXPECT_EQ(syncedPaths(), QStringList({files.liveDatabase() + u".new"_s, files.folder}));
     EXPECT_FALSE(isNamed) << "it has no name before it is whole";
+}
+
+TEST_F(PreviousDatabase, IsNotOfferedWhereThereIsAPipe)
+{
+    QDir().mkpath(QFileInfo(files.previousDatabase()).path());
+    ASSERT_EQ(mkfifo(QFile::encodeName(files.previousDatabase()).constData(), 0600), 0);
+    pane.resetDownloadButton();
+    EXPECT_FALSE(pane.state().canRestore);
+    refresh(registryOf(15));
+    EXPECT_TRUE(pane.state().canRestore) << "it has made way";
 }
 
 TEST_F(PreviousDatabase, IsOfferedAfterARestart)

@@ -5,6 +5,7 @@
 #include "fakes/LogCapture.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <sys/stat.h>
 
 namespace quillon::test {
 
@@ -120,7 +121,26 @@ TEST_F(RegistryRefreshFault, ThatFindsTheLiveDatabaseLockedFailsAndCompletes)
 TEST_F(RegistryRefreshFault, ThatCannotSaveTheTextFails)
 {
     const LogCapture log;
-    ASSERT_TRUE(QFile::link(u"/dev/full"_s, files.registryText()));
+    const QString downloaded = root.filePath(u"downloaded"_s);
+    writeFile(downloaded, registryOf(15));
+    auto body = std::make_shared<QFile>(downloaded);
+    ASSERT_TRUE(body->open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    import.importDownload(body);
+    {
+        const FileSizeLimit limit(0);
+        scheduler.runPending();
+    }
+    EXPECT_THAT(LogCapture::taken().join(u'\n').toStdString(),
+        ::testing::HasSubstr("Registry not saved: File too large"));
+    EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
+    EXPECT_EQ(database.count(), 10);
+    expectIdle();
+}
+
+TEST_F(RegistryRefreshFault, ThatFindsAPipeInPlaceOfTheTextFails)
+{
+    const LogCapture log;
+    ASSERT_EQ(mkfifo(QFile::encodeName(files.registryText()).constData(), 0600), 0);
     refresh(registryOf(15));
     EXPECT_EQ(takeLabels().last(), "Parsing file failed..."_L1);
     EXPECT_EQ(database.count(), 10);

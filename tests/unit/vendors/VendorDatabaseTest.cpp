@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/VendorDatabase.h"
 
+#include "FileSizeLimit.h"
 #include "VendorFolder.h"
 #include "fakes/LogCapture.h"
 #include "fakes/QtPrinting.h"
+#include "fakes/SyncedPaths.h"
 
 #include <gmock/gmock.h>
 
@@ -246,10 +248,13 @@ TEST_F(VendorDatabaseFile, IsNotWrittenWhereThereIsNoRoom)
 {
     const LogCapture log;
     makeDatabase(files.newDatabase(), registryOf(7));
-    ASSERT_TRUE(QFile::link(u"/dev/full"_s, database.path()));
-    EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
+    makeLive(registryOf(5));
+    {
+        const FileSizeLimit limit(0);
+        EXPECT_EQ(database.rewriteFrom(files.newDatabase()), Rewriting::Failed);
+    }
     EXPECT_THAT(LogCapture::taken().join(u'\n').toStdString(),
-        ::testing::HasSubstr("No space left on device"));
+        ::testing::HasSubstr("Vendor database not written: File too large"));
 }
 
 TEST_F(VendorDatabaseFile, IsLeftAloneWhileSomebodyReadsIt)
@@ -316,23 +321,60 @@ TEST_F(VendorDatabaseFile, LetsQuestionsWaitForARewritingThatTakesItsTime)
 {
     makeLive(registryOf(5));
     makeDatabase(root.filePath(u"large.db"_s), registryOf(3000));
-    const QByteArray bytes = readFile(root.filePath(u"large.db"_s));
-    // A source that gives what the test lets it give.
-    const QByteArray pipe = QFile::encodeName(root.filePath(u"pipe"_s));
-    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    // The disk takes the time that the test lets it take.
+    std::promise<void> begun;
+    std::promise<void> goesOn;
+    beforeSync() = [&] {
+        if (syncedPaths().last() == database.path()) {
+            begun.set_value();
+            goesOn.get_future().wait();
+        }
+    };
     auto rewriting = std::async(
-        std::launch::async, [&] { return database.rewriteFrom(QFile::decodeName(pipe)); });
-    QFile source(QFile::decodeName(pipe));
-    ASSERT_TRUE(source.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    ASSERT_EQ(source.write(bytes.constData(), bytes.size() / 2), bytes.size() / 2);
-    // The file is cut short now. Longer than SQLite would be patient for:
+        std::launch::async, [&] { return database.rewriteFrom(root.filePath(u"large.db"_s)); });
+    begun.get_future().wait();
+    // Longer than SQLite would be patient for:
     auto asking = std::async(std::launch::async, [&] { return database.count(); });
     EXPECT_EQ(asking.wait_for(std::chrono::milliseconds(600)), std::future_status::timeout);
-    EXPECT_GT(
-        source.write(bytes.constData() + bytes.size() / 2, bytes.size() - bytes.size() / 2), 0);
-    source.close();
+    goesOn.set_value();
     EXPECT_EQ(rewriting.get(), Rewriting::Done);
+    beforeSync() = {};
     EXPECT_EQ(asking.get(), 3000);
+}
+
+TEST_F(VendorDatabaseFile, WaitsForNoPipe)
+{
+    const LogCapture log;
+    makeDatabase(files.newDatabase(), registryOf(7));
+    for (const char *const part : {"-journal", "-wal", "-shm", ""}) {
+        makeLive(registryOf(5));
+        const QString pipe = database.path() + QLatin1String(part);
+        QFile::remove(pipe);
+        ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        bool wasRead = true;
+        EXPECT_EQ(database.count(&wasRead), 0);
+        EXPECT_FALSE(wasRead) << part;
+        EXPECT_FALSE(database.lookup(u"000001"_s));
+        EXPECT_NE(
+            database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+        EXPECT_FALSE(QFile::exists(files.previousDatabase())) << part;
+        ASSERT_TRUE(QFile::remove(pipe));
+    }
+    makeLive(registryOf(5));
+    const QString pipe = root.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(database.rewriteFrom(pipe), Rewriting::Failed);
+    // The kept one, and a copy of it that nobody finished.
+    QDir().mkpath(QFileInfo(files.previousDatabase()).path());
+    for (const char *const part : {"", ".new"}) {
+        const QString kept = files.previousDatabase() + QLatin1String(part);
+        QFile::remove(kept);
+        ASSERT_EQ(mkfifo(QFile::encodeName(kept).constData(), 0600), 0);
+        makeLive(registryOf(5));
+        EXPECT_EQ(
+            database.rewriteFrom(files.newDatabase(), files.previousDatabase()), Rewriting::Done);
+        EXPECT_EQ(VendorDatabase(files.previousDatabase()).count(), 5);
+    }
 }
 
 TEST_F(VendorDatabaseFile, GivesWholeAnswersWhileItIsRewritten)
