@@ -58,7 +58,7 @@ const char *CallFilter::errorFor(sd_bus_message &call) const
         return SD_BUS_ERROR_UNKNOWN_METHOD;
     }
     return sd_bus_message_has_signature(&call, known->signature) > 0 ? nullptr
-                                                                    : SD_BUS_ERROR_INVALID_ARGS;
+                                                                     : SD_BUS_ERROR_INVALID_ARGS;
 }
 
 } // namespace quillon

@@ -200,8 +200,7 @@ int install()
         logLine("The running program cannot be read.");
         return exitFailed;
     }
-    const bool isPackages =
-        installation.isPackaged() || installation.isPackagedTool(tool.number());
+    const bool isPackages = installation.isPackaged() || installation.isPackagedTool(tool.number());
     if (const auto obstacle = isPackages ? std::string{} : installation.obstacle();
         !obstacle.empty()) {
         logLine(obstacle);

@@ -25,7 +25,8 @@ constexpr int callsAtOnce = 100;
 DeafBus::DeafBus()
 {
     std::array<int, 2> sockets{};
-    EXPECT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, sockets.data()), 0);
+    EXPECT_EQ(
+        socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, sockets.data()), 0);
     m_clientSocket = sockets[0];
     EXPECT_GE(sd_bus_new(&m_bus), 0);
     EXPECT_GE(sd_bus_set_fd(m_bus, sockets[1], sockets[1]), 0);

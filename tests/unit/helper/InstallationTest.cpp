@@ -188,8 +188,8 @@ TEST_F(InstallationTest, letsThatGroupWriteNowhereWhereAListNamesFurtherUsers)
     struct
     {
         std::uint32_t version = 2;
-        std::array<Entry, 5> entries{{{0x01, 7, ~0U}, {0x02, 7, 12345}, {0x04, 5, ~0U},
-            {0x10, 7, ~0U}, {0x20, 5, ~0U}}};
+        std::array<Entry, 5> entries{
+            {{0x01, 7, ~0U}, {0x02, 7, 12345}, {0x04, 5, ~0U}, {0x10, 7, ~0U}, {0x20, 5, ~0U}}};
     } const list;
     sharedGroup = getegid();
     const auto folder = root + "/usr/local";
