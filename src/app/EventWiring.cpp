@@ -69,6 +69,8 @@ void EventWiring::connectHelper()
         f.mainWindow.populateSelectionButton();
         if (installed) {
             f.rules.execution.helperWasFound();
+        } else {
+            f.rules.execution.helperWasMissed();
         }
     });
     on(f.helper, &XPCMethods::helperInstalledFromMainWindow, [&f] {

@@ -27,6 +27,8 @@ constexpr std::chrono::milliseconds settlingTime = 5s;
 constexpr std::chrono::milliseconds sameNetworkTime = 10s;
 /// Time in suspension from which a cable may be in another socket.
 constexpr std::chrono::milliseconds suspensionTime = 1min;
+/// Failures are forgotten at most this often.
+constexpr std::chrono::milliseconds forgettingTime = 1min;
 
 bool changesAddress(const QList<RuleAction> &actions)
 {
@@ -275,10 +277,17 @@ void RuleExecution::userChose(const QString &device)
 
 void RuleExecution::helperWasFound()
 {
+    const auto now = m_deps.scheduler.monotonic();
+    if (!m_helperIsMissing ||
+        (m_failuresForgottenAt && now - *m_failuresForgottenAt < forgettingTime)) {
+        return;
+    }
+    m_helperIsMissing = false;
     const QStringList failed = m_visits.forgetFailures();
     if (failed.isEmpty()) {
         return;
     }
+    m_failuresForgottenAt = now;
     for (const QString &device : failed) {
         m_limit.forgetFailures(device);
         m_withheld.insert(device);
@@ -354,6 +363,7 @@ void RuleExecution::addressChangeEnded(const QString &device, const ChangeOutcom
     m_visits.changeAnswered(device);
     if (!outcome.wasAsked) {
         m_visits.changeNotAsked(device);
+        helperWasMissed();
     }
     if (!outcome.isReported) {
         // By hand, or by a countdown.

@@ -12,6 +12,7 @@
 #include <QSet>
 
 #include <chrono>
+#include <optional>
 
 namespace quillon {
 
@@ -51,8 +52,11 @@ public:
     /// The devices whose rule was not carried out though there was news of them. To be evaluated
     /// once the internet can be reached. One that is away is not among them until it is back.
     QStringList withheldDevices() const;
-    /// The helper was found installed: rules that failed are carried out now.
+    /// The helper was found installed, or not. Where it was missing, as a status or a change said,
+    /// rules that failed are carried out now, once a minute at most: whoever may have the status
+    /// read must not be able to make questions of it.
     void helperWasFound();
+    void helperWasMissed() { m_helperIsMissing = true; }
 
 Q_SIGNALS:
     /// What held a rule back, other than the internet, has ended: its device is withheld.
@@ -84,6 +88,8 @@ private:
     QHash<QString, quint64> m_putOff;
     /// What was held back or put off on the network that the device is on.
     QHash<QString, Visits::Act> m_waiting;
+    bool m_helperIsMissing = false;
+    std::optional<std::chrono::milliseconds> m_failuresForgottenAt;
     /// How far the wall clock was ahead of the one that stands still in suspension.
     std::chrono::milliseconds m_clockAhead;
 };

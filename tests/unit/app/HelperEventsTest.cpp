@@ -101,6 +101,29 @@ TEST_F(HelperEventsTest, WhatFailedForWantOfAHelperIsCarriedOutOnceItIsFound)
     EXPECT_EQ(machine.helper.changes().size(), 1);
 }
 
+TEST_F(HelperEventsTest, WhatTheUserRefusedIsNotAskedAgainForUpdates)
+{
+    insertRule(randomOnce(enp1s0, u"once"_s));
+    machine.helper.mood = FakeHelper::Mood::Refusing;
+    machine.host.at(enp1s0).ipv4 = QStringList(u"192.0.2.77"_s);
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(std::chrono::seconds(10));
+    const qsizetype asked = machine.helper.changes().size();
+    ASSERT_GT(asked, 0);
+    for (int time = 0; time < 100; ++time) {
+        deliverHelperUpdated();
+        machine.scheduler.advance(std::chrono::seconds(3));
+    }
+    EXPECT_EQ(machine.helper.changes().size(), asked);
+
+    removeHelper();
+    machine.helper.mood = FakeHelper::Mood::Obliging;
+    machine.helper.installed = true;
+    deliverHelperUpdated();
+    machine.scheduler.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(isChanged(enp1s0));
+}
+
 TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
 {
     machine.distributed.deliver(notifications::helperUpdated, u"somebody.else"_s);

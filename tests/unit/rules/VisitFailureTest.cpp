@@ -162,6 +162,29 @@ TEST_F(VisitFailure, IsTriedAgainOnceWhenTheHelperIsFound)
     EXPECT_EQ(changes(en0), 1);
 }
 
+TEST_F(VisitFailure, IsNotTriedAgainForAHelperThatWasThereAllTheTime)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    for (int time = 0; time < 1200; ++time) {
+        execution.helperWasFound();
+        pass(3s);
+    }
+    EXPECT_EQ(changes(en0), 1);
+}
+
+TEST_F(VisitFailure, IsTriedAgainOnceAMinuteHoweverOftenTheHelperComesAndGoes)
+{
+    helper.mood = FakeHelper::Mood::Refusing;
+    news(en0);
+    for (int time = 0; time < 100; ++time) {
+        execution.helperWasMissed();
+        execution.helperWasFound();
+        pass(3s);
+    }
+    EXPECT_EQ(changes(en0), 6) << "in five minutes";
+}
+
 TEST_F(VisitFailure, IsNotTriedAgainForTheHelperWhileTheInternetIsAway)
 {
     helper.installed = false;
