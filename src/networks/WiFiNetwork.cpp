@@ -57,8 +57,12 @@ WiFiRecord associatedRecord(const WiFiInterface &wifi)
     };
 }
 
-bool hasOtherRadio(const DeviceTable &devices, const QString &device)
+/// Before the table has been read it knows of no radio, or not of all.
+bool isOneOfSeveral(const DeviceTable &devices, const QString &device)
 {
+    if (!devices.isDeviceWifi(device)) {
+        return true;
+    }
     const DeviceRecords records = devices.devices();
     return std::any_of(records.keyValueBegin(), records.keyValueEnd(),
         [&](const auto &entry) { return entry.second.isWifi() && entry.first != device; });
@@ -90,7 +94,8 @@ std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
         // writes octets in lower case, as saved networks do.
         const SavedEntry saved = savedEntries(m_settings, keys::savedNetworks).value(wifi.bssid);
         record.name = saved.name.value_or(wifi.ssid);
-        record.device = hasOtherRadio(m_devices, device) ? device : QString();
+        const QString named = wifi.device.isEmpty() ? device : wifi.device;
+        record.device = isOneOfSeveral(m_devices, named) ? named : QString();
     }
     record.store(m_settings);
     m_settings.synchronize();

@@ -24,7 +24,8 @@ struct WiFiRecord
     QString country = {};
     QString phyMode = {};
     QString mcs = {};
-    /// The interface that is on it, where there are several; else "".
+    /// The interface that is on it, where there are several or the device table does not know it
+    /// yet; else "".
     QString device = {};
 
     /// What is no text reads as "".

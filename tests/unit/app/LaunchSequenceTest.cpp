@@ -65,6 +65,25 @@ TEST_F(LaunchSequenceTest, TheWindowComesBeforeTheNetworkAndTheVendorTexts)
     EXPECT_EQ(machine.wifi.reads, 1);
 }
 
+TEST_F(LaunchSequenceTest, AtTheVeryFirstStartNoRadioIsJudgedByTheNetworkOfAnother)
+{
+    const QString first = u"wlp3s0"_s;
+    const QString joined = u"wlp4s0"_s;
+    for (const QString &radio : {first, joined}) {
+        const QString address = u"3c:22:fb:00:00:0%1"_s.arg(radio == first ? 3 : 4);
+        machine.host.plug({u"Wi-Fi"_s, radio, address, address, {u"192.0.2.13"_s}});
+        saveRule(randomOnce(radio, radio));
+    }
+    WiFiInterface network;
+    network.device = joined;
+    network.ssid = u"Home"_s;
+    network.bssid = u"02:00:00:00:aa:01"_s;
+    machine.wifi.join(network);
+    run();
+    ASSERT_EQ(machine.helper.changes().size(), 1);
+    EXPECT_EQ(machine.helper.changes().first().device, joined);
+}
+
 TEST_F(LaunchSequenceTest, BeforeTheEndOfTheLaunchTheDatabaseIsInPlaceAndTheHelperIsAsked)
 {
     create(shippedVendors());

@@ -207,6 +207,19 @@ TEST_F(WiFiNetworkTest, SaysWhoseItIsWhereThereAreSeveralRadios)
     EXPECT_EQ(settings.getDictionary(keys::currentWiFiDict), notAssociated());
 }
 
+TEST_F(WiFiNetworkTest, SaysWhoseItIsWhereTheTableDoesNotKnowTheRadioYet)
+{
+    for (const bool isEmpty : {false, true}) {
+        if (isEmpty) {
+            settings.set(keys::deviceDict, QVariantMap());
+        }
+        radio.interface->device = u"wlp9s0"_s;
+        network.updateWiFiNetwork();
+        EXPECT_TRUE(WiFiRecord::stored(settings).isOf(u"wlp9s0"_s));
+        EXPECT_FALSE(WiFiRecord::stored(settings).isOf(u"wlp2s0"_s)) << isEmpty;
+    }
+}
+
 TEST_F(WiFiNetworkTest, HasAnEmptyAddressWithoutAnyOnTheWiFiDevice)
 {
     host.at(u"wlp2s0"_s).ipv4.clear();
