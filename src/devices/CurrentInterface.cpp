@@ -32,9 +32,14 @@ DeviceRecord CurrentInterface::record() const
     return DeviceRecord::fromPropertyList(m_settings.get(keys::currentInterfaceDict));
 }
 
+bool CurrentInterface::isSelected() const
+{
+    return m_devices.contains(device());
+}
+
 void CurrentInterface::selectInitialDevice()
 {
-    if (!device().isEmpty()) {
+    if (isSelected()) {
         return;
     }
     QStringList devices = m_devices.sortedDevicesArray();
@@ -50,12 +55,12 @@ void CurrentInterface::selectInitialDevice()
 
 void CurrentInterface::selectAnyIfNone()
 {
-    if (!device().isEmpty()) {
+    if (isSelected()) {
         return;
     }
     selectInitialDevice();
-    if (const QString selected = device(); !selected.isEmpty()) {
-        Q_EMIT interfaceSelected(selected);
+    if (isSelected()) {
+        Q_EMIT interfaceSelected(device());
     }
 }
 

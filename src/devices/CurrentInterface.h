@@ -27,10 +27,10 @@ public:
     /// The selected device's name, "" before the first selection.
     QString device() const;
     DeviceRecord record() const;
-    /// While nothing is selected: selects the first device that can be, in the order of every list
-    /// of devices, which puts the Wi-Fi device first; one that is there rather than one that was
-    /// taken away. Otherwise nothing. At once, so that the steps of the launch that follow find it.
-    /// Main thread.
+    /// While nothing is selected, or a device that the table does not know: selects the first
+    /// device that can be, in the order of every list of devices, which puts the Wi-Fi device
+    /// first; one that is there rather than one that was taken away. Otherwise nothing. At once, so
+    /// that the steps of the launch that follow find it. Main thread.
     void selectInitialDevice();
     /// The same after the launch: it also says that an interface was selected.
     void selectAnyIfNone();
@@ -61,6 +61,8 @@ Q_SIGNALS:
     void hexValuesUpdated();
 
 private:
+    /// The selected device is one of the table.
+    bool isSelected() const;
     /// The record of `device` as the selected one; none when its address is not valid.
     std::optional<DeviceRecord> selection(const QString &device) const;
     void rebuild(const QString &device);

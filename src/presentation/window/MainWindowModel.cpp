@@ -78,6 +78,7 @@ void MainWindowModel::populateSelectionButton()
         state.selectionVisible = !state.devices.isEmpty();
         fillInterfaceDetails(state);
     });
+    checkUpdateButton();
 }
 
 void MainWindowModel::resetInfoButtons()
@@ -250,13 +251,14 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
     state.ipAddress = record.ipAddress.value_or(QString());
     state.linkActive = record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
-    state.restoreEnabled = m_helperInstalled && isStringValidHEX(state.hardwareAddress) &&
+    state.restoreEnabled = m_helperInstalled && !isWithoutInterface() &&
+                           isStringValidHEX(state.hardwareAddress) &&
                            state.hardwareIndicatorVisible;
 }
 
 bool MainWindowModel::isWithoutInterface() const
 {
-    return m_interfacesShown && m_deps.currentInterface.device().isEmpty();
+    return m_interfacesShown && !m_deps.devices.isPresent(m_deps.currentInterface.device());
 }
 
 void MainWindowModel::fillButtons(State &state) const
@@ -268,8 +270,10 @@ void MainWindowModel::fillButtons(State &state) const
             return QString();
         }
         if (isWithout) {
-            return localized(
-                "No interface is selected: there is none whose address can be changed");
+            return m_deps.currentInterface.device().isEmpty()
+                       ? localized(
+                             "No interface is selected: there is none whose address can be changed")
+                       : localized("The selected interface is not there");
         }
         return m_helperInstalled ? otherwise : localized("The helper tool is not installed");
     };

@@ -95,6 +95,7 @@ public:
     void disableRandomize();
     void disableUpdate();
 
+    /// After the interfaces were read, too: what was there may be gone, and back again.
     void populateSelectionButton();
     void popupButtonClicked() { populateSelectionButton(); }
     /// Takes the emphasis from every button that may have kept it.
@@ -154,6 +155,7 @@ private:
     void fillInterfaceDetails(State &state) const;
     /// What depends on several facts, after each change of any of them.
     void fillButtons(State &state) const;
+    /// None is selected, or the selected one is not there.
     bool isWithoutInterface() const;
     template <typename Change>
     void update(Change change);

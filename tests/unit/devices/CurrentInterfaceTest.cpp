@@ -253,11 +253,35 @@ TEST_F(CurrentInterfaceSelection, OfADeviceThatVanishedStays)
 {
     const QVariantMap stored = {
         {record::device, u"en8"_s}, {record::current, u"02:00:00:00:00:08"_s}};
+    QVariantMap devices = storedTable();
+    devices[u"en8"_s] = QVariantMap{{record::current, u"02:00:00:00:00:08"_s}};
+    store(devices);
     settings.set(keys::currentInterfaceDict, stored);
     current.selectInitialDevice();
     scheduler.runPending();
     EXPECT_EQ(storedSelection(), stored);
     EXPECT_TRUE(heard.isEmpty());
+}
+
+TEST_F(CurrentInterfaceSelection, OfADeviceThatTheTableDoesNotKnowCountsAsNone)
+{
+    const auto selectUnknown = [this] {
+        settings.set(keys::currentInterfaceDict,
+            QVariantMap{{record::device, u"ghost0"_s}, {record::current, u"02:00:00:00:00:08"_s}});
+    };
+    selectUnknown();
+    current.selectInitialDevice();
+    EXPECT_EQ(current.device(), en1);
+    selectUnknown();
+    heard.clear();
+    current.selectAnyIfNone();
+    EXPECT_EQ(current.device(), en1);
+    EXPECT_EQ(heard.last(), u"selected en1"_s);
+    store({});
+    selectUnknown();
+    heard.clear();
+    current.selectAnyIfNone();
+    EXPECT_TRUE(heard.isEmpty()) << "there is nothing to select in its place";
 }
 
 TEST_F(CurrentInterfaceSelection, SurvivesItsOwnEndWithWorkAhead)

@@ -112,6 +112,32 @@ TEST_F(MainWindowModelTest, WithoutAnInterfaceNothingIsOfferedAndTheButtonsSayWh
     EXPECT_EQ(shown().whyNoUpdate + shown().whyNoRandomize + shown().whyNoRestore, QString());
 }
 
+TEST_F(MainWindowModelTest, NothingIsOfferedForAnInterfaceThatIsNotThereUntilItIsBack)
+{
+    host.giveAddress(wired, u"02:00:00:00:00:01"_s);
+    devices.updateNetWorkInterfaces();
+    select(wired);
+    model.editField(u"02:11:22:33:44:55"_s);
+    ASSERT_TRUE(shown().updateEnabled && shown().randomizeEnabled && shown().restoreEnabled);
+    const FakeNetworkHost::Interface card = host.at(wired);
+    host.unplug(wired);
+    devices.updateNetWorkInterfaces();
+    model.populateSelectionButton();
+    EXPECT_EQ(shown().selectedDevice, wired) << "its record stays";
+    EXPECT_FALSE(shown().updateEnabled || shown().randomizeEnabled || shown().restoreEnabled);
+    for (const QString &why : {shown().whyNoUpdate, shown().whyNoRandomize, shown().whyNoRestore}) {
+        EXPECT_EQ(why, u"The selected interface is not there"_s);
+    }
+    model.editField(u"02:11:22:33:44:56"_s);
+    EXPECT_FALSE(shown().updateEnabled);
+
+    host.plug(card);
+    devices.updateNetWorkInterfaces();
+    model.populateSelectionButton();
+    EXPECT_TRUE(shown().updateEnabled && shown().randomizeEnabled && shown().restoreEnabled);
+    EXPECT_EQ(shown().whyNoUpdate + shown().whyNoRandomize + shown().whyNoRestore, QString());
+}
+
 TEST_F(MainWindowModelTest, AButtonThatCanDoNothingSaysWhy)
 {
     EXPECT_EQ(shown().whyNoUpdate, u"The field holds no other address to apply"_s);
