@@ -56,8 +56,6 @@ void VendorChooser::makeField()
     m_field->setObjectName(u"vendorTextfield"_s);
     m_field->setProperty("look", u"field"_s);
     m_field->setAccessibleName(localized("Vendor of random addresses"));
-    m_field->setAccessibleDescription(
-        localized("Type the beginning of a name, then choose from the list"));
     m_field->installEventFilter(this);
 }
 
@@ -101,11 +99,15 @@ void VendorChooser::refresh()
     }
     m_field->setEnabled(state.enabled);
     m_field->setToolTip(plainToolTip(state.enabled ? state.text : state.whyDisabled));
+    m_field->setAccessibleDescription(
+        state.enabled ? localized("Type the beginning of a name, then choose from the list")
+                      : state.whyDisabled);
     const QString toggles =
         state.popoverShown ? localized("Hide vendors") : localized("Show vendors");
     m_toggle->setAccessibleName(toggles);
     m_toggle->setEnabled(state.enabled);
     m_toggle->setToolTip(plainToolTip(state.enabled ? toggles : state.whyDisabled));
+    m_toggle->setAccessibleDescription(state.whyDisabled);
     if (state.popoverShown && m_table->isHidden()) {
         openList();
     } else if (!state.popoverShown && !m_table->isHidden()) {

@@ -40,6 +40,8 @@ namespace {
 
 /// What a desktop draws around windows, before it has told us.
 constexpr int usualFrame = 32;
+/// The property that says what a button does when it is enabled.
+constexpr const char *whatItDoes = "whatItDoes";
 
 QLabel *makeCaption(const QString &text)
 {
@@ -53,8 +55,7 @@ QPushButton *makeButton(
 {
     auto *button = new QPushButton(text);
     button->setAccessibleName(accessibleName);
-    button->setAccessibleDescription(description);
-    button->setToolTip(plainToolTip(description));
+    button->setProperty(whatItDoes, description);
     button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     // Return presses the focused button, as the space bar does.
     button->setAutoDefault(true);
@@ -65,7 +66,9 @@ QPushButton *makeButton(
 void setUsable(QPushButton &button, bool enabled, const QString &whyNot)
 {
     button.setEnabled(enabled);
-    button.setToolTip(plainToolTip(whyNot.isEmpty() ? button.accessibleDescription() : whyNot));
+    const QString hint = whyNot.isEmpty() ? button.property(whatItDoes).toString() : whyNot;
+    button.setToolTip(plainToolTip(hint));
+    button.setAccessibleDescription(hint);
 }
 
 /// To assistive technology a plain widget is a part of something; this one is a window.

@@ -137,6 +137,10 @@ TEST_F(VendorChooserTest, LooksDisabledWhereThereIsNoInterfaceToChooseFor)
     settings.set(keys::currentInterfaceDict, QVariantMap());
     choice.updateVendorField({});
     ASSERT_FALSE(text->isEnabled());
+    const QString why = field.state().whyDisabled;
+    EXPECT_FALSE(why.isEmpty());
+    EXPECT_EQ(text->accessibleDescription(), why);
+    EXPECT_EQ(toggle->accessibleDescription(), why);
     EXPECT_NE(text->grab().toImage().pixelColor(text->rect().center()),
         enabled.pixelColor(text->rect().center()));
 }

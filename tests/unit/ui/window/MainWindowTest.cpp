@@ -261,10 +261,14 @@ TEST_F(MainWindowTest, AButtonSaysInItsToolTipWhatItDoesOrWhyItDoesNothing)
         EXPECT_FALSE(named<QPushButton>(name)->isEnabled()) << name;
         EXPECT_TRUE(named<QPushButton>(name)->toolTip().startsWith(u"No interface is selected"_s))
             << name;
+        EXPECT_EQ(
+            named<QPushButton>(name)->accessibleDescription(), named<QPushButton>(name)->toolTip())
+            << name;
     }
     select(wired);
     EXPECT_TRUE(randomize->isEnabled());
     EXPECT_EQ(randomize->toolTip(), does);
+    EXPECT_EQ(randomize->accessibleDescription(), does);
 }
 
 TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
