@@ -6,6 +6,9 @@
 #include "base/NotificationNames.h"
 #include "devices/RandomAddress.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -78,6 +81,42 @@ TEST_F(VendorChoiceTest, WithANameThatIsFarTooLongIsStoredCut)
         << "length " << stored(en0).size();
     EXPECT_EQ(vendorPrefix(stored(en0)), u"001A2B"_s);
     EXPECT_EQ(list.rowOf(stored(en0)), 0);
+}
+
+/// A language in which the fixed entry is called otherwise.
+class OtherLanguage : public QTranslator
+{
+public:
+    OtherLanguage() { QCoreApplication::installTranslator(this); }
+    ~OtherLanguage() override { QCoreApplication::removeTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QLatin1String(text) == "Random Address"_L1 ? u"Beliebige Adresse"_s : QString();
+    }
+};
+
+TEST_F(VendorChoiceTest, OfAnyVendorIsStoredInEnglishAndShownInTheUsersLanguage)
+{
+    const OtherLanguage language;
+    const QString anyVendor = u"Beliebige Adresse"_s;
+    storeDevice(en0, {{record::vendor, maker}});
+    loadList();
+    ASSERT_EQ(list.entry(1), anyVendor) << "in its place among the others";
+    choice.updateVendorTableSelectionWithRow(1);
+    EXPECT_EQ(stored(en0), random);
+    EXPECT_THAT(announced, ElementsAre(QVariantMap{{u"device"_s, en0}, {u"newVendor"_s, random}}));
+    EXPECT_EQ(field.state().text, anyVendor);
+    for (const std::optional<QString> &device : {std::optional(en0), std::optional<QString>()}) {
+        field.showText(QString());
+        choice.updateVendorField(device);
+        EXPECT_EQ(field.state().text, anyVendor);
+    }
+    EXPECT_EQ(choice.shownChoice(en0), anyVendor);
+    choice.setVendorSelectionForDevice(en1);
+    ASSERT_NE(field.state().selectedRow, 1);
+    choice.setVendorSelectionForDevice(en0);
+    EXPECT_EQ(field.state().selectedRow, 1);
 }
 
 TEST_F(VendorChoiceTest, IsNotStoredWithoutAKnownInterface)
