@@ -24,15 +24,37 @@ FileWatch::FileWatch(const QString &path, std::function<void()> changed)
 void FileWatch::renew()
 {
     // The folder tells of a file that appears or is replaced, the file of what is written into it.
-    const QString folder = QFileInfo(m_path).path();
-    if (!m_watcher.directories().contains(folder) && QFileInfo::exists(folder)) {
-        m_watcher.addPath(folder);
-    }
+    watchFolder();
     // The kernel refuses to watch a file that cannot be read; the folder tells when its rights
     // change.
     if (!m_watcher.files().contains(m_path) && QFileInfo(m_path).isReadable()) {
         m_watcher.addPath(m_path);
     }
+}
+
+void FileWatch::watchFolder()
+{
+    // While it is missing the one above it tells when it is made, which may be while we look.
+    QString folder;
+    do {
+        folder = nearestFolder();
+        QStringList others = m_watcher.directories();
+        if (!others.removeOne(folder)) {
+            m_watcher.addPath(folder);
+        }
+        if (!others.isEmpty()) {
+            m_watcher.removePaths(others);
+        }
+    } while (folder != nearestFolder());
+}
+
+QString FileWatch::nearestFolder() const
+{
+    QString folder = QFileInfo(m_path).absolutePath();
+    while (!QFileInfo(folder).isDir() && folder != QFileInfo(folder).absolutePath()) {
+        folder = QFileInfo(folder).absolutePath();
+    }
+    return folder;
 }
 
 } // namespace quillon

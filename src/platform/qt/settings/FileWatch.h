@@ -11,7 +11,8 @@
 namespace quillon {
 
 /// The kernel's word that a file may have changed: written in place, replaced, made, removed, or
-/// given other rights. It may come when nothing of the sort happened. Main thread only.
+/// given other rights, with its folder or without. It may come when nothing of the sort happened.
+/// Main thread only.
 class FileWatch : public QObject
 {
     Q_OBJECT
@@ -19,10 +20,13 @@ class FileWatch : public QObject
 public:
     FileWatch(const QString &path, std::function<void()> changed);
 
+private:
     /// Looks after the file and its folder again, as far as they are there and were lost.
     void renew();
+    void watchFolder();
+    /// The folder of the file, or the nearest one above it that exists.
+    QString nearestFolder() const;
 
-private:
     const QString m_path;
     const std::function<void()> m_changed;
     QFileSystemWatcher m_watcher;

@@ -309,6 +309,39 @@ TEST_F(PlistSettingsStoreTest, AFileThatDisappearsIsWrittenAgain)
     EXPECT_TRUE(problems.empty());
 }
 
+TEST_F(PlistSettingsStoreTest, AFileWhoseFolderDisappearedIsWrittenAgainAndStillWatched)
+{
+    const QString above = folder.filePath(u"above"_s);
+    path = above + u"/own/com.orvandel.Quillon4.plist"_s;
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    replacedByAnother({{keys::hideDock, true}});
+    openStore();
+    for (qlonglong round = 1; round <= 2; ++round) {
+        ASSERT_TRUE(QDir(above).removeRecursively());
+        ASSERT_TRUE(test::holdsSoon(
+            [this] { return scheduler.hasTimers(); }, [this] { scheduler.runPending(); }));
+        scheduler.advance(1s);
+        ASSERT_TRUE(content().value(keys::hideDock).toBool());
+        // The first tells that the folder is there again, the second that it is watched.
+        for (const qlonglong minutes : {round * 10, round * 10 + 1}) {
+            replacedByAnother({{keys::hideDock, true}, {keys::defaultTimerMinutes, minutes}});
+            ASSERT_TRUE(storeSoonHas(keys::defaultTimerMinutes, minutes)) << minutes;
+        }
+    }
+    EXPECT_TRUE(problems.empty());
+}
+
+TEST_F(PlistSettingsStoreTest, AFolderThatIsMadeByAnotherProgramIsWatched)
+{
+    path = folder.filePath(u"above/own/com.orvandel.Quillon4.plist"_s);
+    openStore();
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    for (qlonglong minutes = 1; minutes <= 3; ++minutes) {
+        replacedByAnother({{keys::defaultTimerMinutes, minutes}});
+        ASSERT_TRUE(storeSoonHas(keys::defaultTimerMinutes, minutes)) << minutes;
+    }
+}
+
 TEST_F(PlistSettingsStoreTest, ALinkToTheFileStaysALink)
 {
     const QString target = folder.filePath(u"elsewhere.plist"_s);
