@@ -93,7 +93,7 @@ BigEndianCaller::BigEndianCaller(const std::string &user)
     EXPECT_EQ(seteuid(userId(user)), 0);
     m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     EXPECT_EQ(connect(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof(address)), 0);
-    send({"\0AUTH EXTERNAL\r\nDATA\r\n", 23});
+    send({"\0AUTH EXTERNAL\r\nDATA\r\n", 22});
     std::array<char, 256> answer{};
     std::string answers;
     while (answers.find("OK ") == std::string::npos && answers.size() < answer.size()) {
