@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quillon {
@@ -22,10 +21,11 @@ bool isRemoved(const QString &path)
     return unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT;
 }
 
+/// A pipe, or what is like one: neither a file nor a folder.
 bool isPipe(const QString &path)
 {
-    struct stat status = {};
-    return stat(QFile::encodeName(path).constData(), &status) == 0 && S_ISFIFO(status.st_mode);
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 } // namespace

@@ -276,7 +276,7 @@ TEST_F(CurrentInterfaceSelection, OfADeviceThatTheTableDoesNotKnowCountsAsNone)
     heard.clear();
     current.selectAnyIfNone();
     EXPECT_EQ(current.device(), en1);
-    EXPECT_EQ(heard.last(), u"selected en1"_s);
+    EXPECT_TRUE(heard.contains(u"selected en1"_s));
     store({});
     selectUnknown();
     heard.clear();

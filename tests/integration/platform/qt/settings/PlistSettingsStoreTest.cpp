@@ -331,17 +331,6 @@ TEST_F(PlistSettingsStoreTest, AFileWhoseFolderDisappearedIsWrittenAgainAndStill
     EXPECT_TRUE(problems.empty());
 }
 
-TEST_F(PlistSettingsStoreTest, AFolderThatIsMadeByAnotherProgramIsWatched)
-{
-    path = folder.filePath(u"above/own/com.orvandel.Quillon4.plist"_s);
-    openStore();
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
-    for (qlonglong minutes = 1; minutes <= 3; ++minutes) {
-        replacedByAnother({{keys::defaultTimerMinutes, minutes}});
-        ASSERT_TRUE(storeSoonHas(keys::defaultTimerMinutes, minutes)) << minutes;
-    }
-}
-
 TEST_F(PlistSettingsStoreTest, ALinkToTheFileStaysALink)
 {
     const QString target = folder.filePath(u"elsewhere.plist"_s);
