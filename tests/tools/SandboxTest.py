@@ -147,11 +147,12 @@ class SandboxTest(unittest.TestCase):
             self.assertRegex(text, re.escape(name) + r" +\d+|" + re.escape(name) + r" +- - +- +- ")
 
     def test_cannot_change_the_machine_around_it(self):
-        script = ("touch /etc/installed /usr/local/share/dbus-1/x /tmp/x /home/x 2>/dev/null;"
-                  "mkdir -p /usr/local/libexec/x && ! touch /usr/bin/x 2>/dev/null && ! touch /var/lib/x 2>/dev/null")
+        name = f"quillon-test-{os.getpid()}"
+        own = [f"{folder}/{name}" for folder in ("/etc", "/usr/local/libexec", "/usr/local/share/dbus-1", "/tmp", "/home")]
+        others = [f"{folder}/{name}" for folder in ("/usr/bin", "/var/lib")]
+        script = f"mkdir -p {' '.join(own)}; for path in {' '.join(others)}; do ! touch $path 2>/dev/null || exit 1; done"
         self.output("--root", "--no-display", "sh", "-c", script)
-        for path in ("/etc/installed", "/usr/local/libexec/x", "/usr/local/share/dbus-1/x", "/tmp/x",
-                     "/home/x", "/usr/bin/x", "/var/lib/x"):
+        for path in own + others:
             self.assertFalse(os.path.lexists(path), path)
 
     def test_reaches_a_build_in_a_closed_folder(self):
