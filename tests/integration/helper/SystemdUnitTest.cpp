@@ -57,7 +57,6 @@ protected:
         EXPECT_EQ(outputOf("grep -c ' / / ro' " + process + "/mountinfo"), "1\n");
         const auto limits = outputOf("cat " + process + "/limits");
         EXPECT_TRUE(std::regex_search(limits, std::regex{"Max open files +256 +256 "})) << limits;
-        EXPECT_TRUE(std::regex_search(limits, std::regex{"Max processes +8 +8 "})) << limits;
     }
 
     BusClient quillon{"quillon"};
