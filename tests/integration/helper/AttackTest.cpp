@@ -3,22 +3,12 @@
 // What any user of the machine can do to the helper with messages. The real helper under the limits
 // of its own unit, and for most of it a bus that lets everything through: what the bus's policy
 // keeps away today the helper must bear anyway.
-#include "contract/Names.h"
-#include "integration/helper/BusClient.h"
-#include "integration/helper/FakePolkit.h"
-#include "integration/helper/RawBus.h"
-#include "integration/helper/Sandbox.h"
-#include "integration/helper/Waiting.h"
+#include "integration/helper/AttackedHelper.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
-#include <csignal>
-#include <fcntl.h>
-#include <fstream>
-#include <sstream>
 #include <thread>
-#include <unistd.h>
 
 namespace quillon::test {
 namespace {
@@ -29,114 +19,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr char log[] = "/tmp/helper.log";
 const std::string invalidAuthorization = contract::error::invalidAuthorization.name;
-const std::string tooManyRequests = contract::error::tooManyRequests.name;
 constexpr std::size_t mebibyte = std::size_t{1} << 20;
 // What the system bus lets pass in one message is a little more.
 constexpr std::size_t hugeSize = 31 * mebibyte;
 
-class AttackTest : public testing::Test
+class AttackTest : public AttackedHelper
 {
-protected:
-    void SetUp() override
-    {
-        outputOf(std::string{QUILLON_AS_THE_UNIT} +
-                 " /etc/systemd/system/quillon4-helper.service >/dev/null 2>" + log + " &");
-        ASSERT_TRUE(waitUntil([this] { return quillon.hasOwner(contract::helperName); }));
-        helper = quillon.endpoint();
-        process = quillon.processOf(helper);
-    }
-    void TearDown() override
-    {
-        // The same one as at the beginning.
-        EXPECT_EQ(quillonLater.processOf(contract::helperName), process);
-        EXPECT_EQ(quillonLater.version(), contract::helperVersion);
-    }
-
-    FakePolkit::Decision onlyFor(const BusClient &client)
-    {
-        return [name = client.uniqueName()](const FakePolkit::Question &question) {
-            return question.subject.at("name") == name ? FakePolkit::Answer::Yes
-                                                       : FakePolkit::Answer::LeaveOpen;
-        };
-    }
-    /// A number of /proc/PID/status, in kilobytes.
-    long statusOf(const std::string &field) const
-    {
-        std::ifstream status{"/proc/" + std::to_string(process) + "/status"};
-        for (std::string line; std::getline(status, line);) {
-            if (line.rfind(field + ":", 0) == 0) {
-                return std::stol(line.substr(field.size() + 1));
-            }
-        }
-        return 0;
-    }
-    /// At any time since its start: one huge message and no copy of it.
-    void expectLittleMemory() const
-    {
-#ifndef __SANITIZE_ADDRESS__ // which keeps freed memory for a while
-        EXPECT_LT(statusOf("VmHWM"), 64 * 1024);
-#endif
-    }
-    /// Of the processor, in hundredths of a second.
-    static long timeUsed(pid_t of)
-    {
-        std::ifstream file{"/proc/" + std::to_string(of) + "/stat"};
-        std::string text;
-        std::getline(file, text);
-        std::istringstream fields{text.substr(text.rfind(')') + 2)};
-        std::string skipped;
-        for (int i = 0; i < 11; ++i) {
-            fields >> skipped;
-        }
-        long user = 0;
-        long system = 0;
-        fields >> user >> system;
-        return user + system;
-    }
-    static int count(const std::string &text, const std::string &what)
-    {
-        int found = 0;
-        for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) {
-            ++found;
-        }
-        return found;
-    }
-    static std::vector<std::unique_ptr<RawBus>> connectionsOfMallory(int number)
-    {
-        std::vector<std::unique_ptr<RawBus>> connections;
-        for (int i = 0; i < number; ++i) {
-            connections.push_back(std::make_unique<RawBus>("mallory"));
-        }
-        return connections;
-    }
-    /// Each of them asks for so many changes at once.
-    void flood(const std::vector<std::unique_ptr<RawBus>> &connections, int calls) const
-    {
-        for (const auto &bus : connections) {
-            for (int i = 0; i < calls; ++i) {
-                bus->send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
-                    contract::helper::interface, contract::helper::changeAddressOfDevice.name,
-                    [](sd_bus_message *message) {
-                        fillChange(message, "enp1s0", newAddress, someAuthorization());
-                    });
-            }
-            sd_bus_flush(bus->get());
-        }
-    }
-    static void fillChange(sd_bus_message *message, const char *device, const char *address,
-        const std::vector<std::uint8_t> &authorization)
-    {
-        sd_bus_message_append(message, "ssb", device, address, 0);
-        sd_bus_message_append_array(message, 'y', authorization.data(), authorization.size());
-    }
-
-    BusClient quillon{"quillon"};
-    BusClient quillonLater{"quillon"};
-    RawBus mallory{"mallory"};
-    std::string helper;
-    pid_t process = 0;
 };
 
 TEST_F(AttackTest, withDeparturesOfWrongFormLosesNoAnswer)
@@ -273,7 +162,7 @@ TEST_F(AttackTest, withLongNamesGetsShortAnswersThatRepeatNothing)
             std::string{"org.freedesktop.DBus.Error."} + call.error);
         EXPECT_LT(mallory.lastErrorText().size(), 40U) << mallory.lastErrorText();
     }
-    EXPECT_THAT(outputOf(std::string{"cat "} + log), Not(HasSubstr("could not be read")));
+    EXPECT_THAT(outputOf(std::string{"cat "} + helperLog), Not(HasSubstr("could not be read")));
 }
 
 TEST_F(AttackTest, withRepliesToNothingDecidesNothing)
@@ -356,7 +245,7 @@ TEST_F(AttackTest, withHugeTextsIsRefusedAndLogsLittle)
                   }),
         contract::error::invalidAddress.name);
     expectLittleMemory();
-    EXPECT_LT(outputOf(std::string{"cat "} + log).size(), 4096U);
+    EXPECT_LT(outputOf(std::string{"cat "} + helperLog).size(), 4096U);
 }
 
 TEST_F(AttackTest, withDescriptorsReachesNobody)
@@ -406,132 +295,6 @@ TEST_F(AttackTest, withSignalsIsKeptAwayByTheBus)
         })) << destination;
         EXPECT_THAT(errors, testing::ElementsAre("org.freedesktop.DBus.Error.AccessDenied"));
     }
-}
-
-TEST_F(AttackTest, withAllConnectionsOfAUserShutsNobodyElseOut)
-{
-    FakePolkit polkit{onlyFor(quillon)};
-    const auto connections = connectionsOfMallory(100);
-    for (int i = 0; i < 49; ++i) {
-        flood(connections, 4);
-        EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done) << i;
-        for (const auto &bus : connections) {
-            bus->settle();
-        }
-    }
-    EXPECT_EQ(polkit.questions().size(), 8U + 49U);
-}
-
-TEST_F(AttackTest, withThousandsOfCallsAtOnceIsAnsweredWhole)
-{
-    FakePolkit polkit{onlyFor(quillon)};
-    const auto daemon = quillonLater.processOf("org.freedesktop.DBus");
-    const auto before = timeUsed(process);
-    const auto busBefore = timeUsed(daemon);
-    const auto connections = connectionsOfMallory(200);
-    flood(connections, 60);
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
-    const std::chrono::duration<double, std::milli> taken =
-        std::chrono::steady_clock::now() - start;
-    RecordProperty("milliseconds", static_cast<int>(taken.count()));
-    RecordProperty("hundredths", static_cast<int>(timeUsed(process) - before));
-    EXPECT_LT(timeUsed(process) - before, 100) << "for 12,000 calls";
-    RecordProperty("busHundredths", static_cast<int>(timeUsed(daemon) - busBefore));
-    // All but the eight that polkit has not answered.
-    std::size_t refused = 0;
-    EXPECT_TRUE(waitUntil([&] {
-        for (const auto &bus : connections) {
-            refused += bus->settle().size();
-        }
-        return refused == 200 * 60 - 8;
-    })) << refused;
-}
-
-TEST_F(AttackTest, writesOneCountedLineASecondAndEveryDoneOne)
-{
-    FakePolkit polkit{onlyFor(quillon)};
-    const auto start = std::chrono::steady_clock::now();
-    constexpr int refused = 3000;
-    constexpr int changes = 60;
-    for (int i = 0; i < refused; ++i) {
-        EXPECT_EQ(
-            mallory.call(helper, contract::helper::path, contract::helper::interface,
-                contract::helper::changeAddressOfDevice.name,
-                [](sd_bus_message *message) { fillChange(message, "enp1s0", newAddress, {}); }),
-            invalidAuthorization);
-        if (i % (refused / changes) == 0) {
-            EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
-        }
-    }
-    const auto seconds =
-        std::chrono::ceil<std::chrono::seconds>(std::chrono::steady_clock::now() - start).count();
-    // The last count comes by itself, without another message.
-    std::string lines;
-    const auto counted = [&] {
-        lines = outputOf(std::string{"cat "} + log);
-        int sum = count(lines, contract::error::invalidAuthorization.name);
-        std::istringstream stream{lines};
-        for (std::string line; std::getline(stream, line);) {
-            if (line.rfind("in the last second also: ", 0) == 0) {
-                sum += std::stoi(line.substr(line.find(": ") + 2));
-            }
-        }
-        return sum;
-    };
-    EXPECT_TRUE(waitUntil([&] { return counted() == refused; })) << counted();
-    EXPECT_EQ(count(lines, ": done\n"), changes);
-    EXPECT_LE(count(lines, "\n"), changes + seconds + 2) << lines;
-}
-
-TEST_F(AttackTest, withAnswersThatItDoesNotReadSilencesTheHelperForSecondsOnly)
-{
-    // So that it does not take minutes; the bus gives the limit to who connects from now on.
-    outputOf("sed -i 's|</busconfig>|<limit name=\"max_incoming_bytes\">100000</limit>&|' "
-             "/etc/dbus-1/system.d/com.orvandel.Quillon4HelperTool.conf");
-    reloadBus();
-    kill(process, SIGKILL);
-    ASSERT_TRUE(waitUntil([this] { return !quillon.hasOwner(contract::helperName); }));
-    ASSERT_EQ(quillon.version(), contract::helperVersion);
-    process = quillon.processOf(contract::helperName);
-    helper = quillon.endpoint();
-    const auto isThere = [this] {
-        return run("test -e /proc/" + std::to_string(process)).exitCode == 0;
-    };
-    EXPECT_TRUE(waitUntil([&] {
-        for (int i = 0; i < 20; ++i) {
-            mallory.send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
-                contract::helper::interface, contract::helper::getVersion.name);
-        }
-        return !isThere();
-    }));
-    // Mallory still has not read anything. A bus that reads nothing from the helper sees that it is
-    // gone when the next call is to be passed on.
-    EXPECT_TRUE(
-        waitUntil([this] { return quillon.change("enp1s0", newAddress) == BusClient::done; }));
-    process = quillonLater.processOf(contract::helperName);
-}
-
-TEST_F(AttackTest, doesNotKeepTheHelperFromEndingWhenItIsToldTo)
-{
-    std::atomic<bool> over = false;
-    std::thread attack{[&] {
-        RawBus bus{"mallory"};
-        while (!over) {
-            for (int i = 0; i < 20; ++i) {
-                bus.send(SD_BUS_MESSAGE_METHOD_CALL, helper, contract::helper::path,
-                    contract::helper::interface, contract::helper::getVersion.name);
-            }
-            bus.settle();
-        }
-    }};
-    kill(process, SIGTERM);
-    EXPECT_TRUE(
-        waitUntil([this] { return run("test -e /proc/" + std::to_string(process)).exitCode; }));
-    over = true;
-    attack.join();
-    EXPECT_EQ(quillon.version(), contract::helperVersion);
-    process = quillon.processOf(contract::helperName);
 }
 
 } // namespace
