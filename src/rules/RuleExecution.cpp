@@ -4,7 +4,6 @@
 
 #include "base/PropertyList.h"
 #include "devices/DeviceTable.h"
-#include "platform/NetworkHost.h"
 #include "platform/Scheduler.h"
 #include "rules/CountdownTimers.h"
 #include "rules/RuleActions.h"
@@ -22,11 +21,6 @@ using namespace std::chrono_literals;
 
 /// How long after the helper's answer the link may still go down because of the change.
 constexpr std::chrono::milliseconds settlingTime = 5s;
-/// A radio that is back on its network within this time has never left it: access points of one
-/// network hand it over, and a scan takes it away for a moment.
-constexpr std::chrono::milliseconds sameNetworkTime = 10s;
-/// Time in suspension from which a cable may be in another socket.
-constexpr std::chrono::milliseconds suspensionTime = 1min;
 /// Failures are forgotten at most this often.
 constexpr std::chrono::milliseconds forgettingTime = 1min;
 
@@ -47,23 +41,18 @@ Visits::Act actOf(const RuleOutcome &outcome)
     return {normalizedPropertyList(rule).toMap(), outcome.ssid};
 }
 
-std::chrono::milliseconds clockAhead(const Scheduler &scheduler)
-{
-    return std::chrono::milliseconds(scheduler.now().toMSecsSinceEpoch()) - scheduler.monotonic();
-}
-
 } // namespace
 
 RuleExecution::RuleExecution(const Collaborators &collaborators)
     : m_deps(collaborators)
-    , m_clockAhead(clockAhead(collaborators.scheduler))
+    , m_watch(m_visits, collaborators.devices, collaborators.scheduler)
 {
 }
 
 void RuleExecution::applyRulesForDevice(
     const QString &device, const RuleOutcome &outcome, RuleChange change)
 {
-    followNetwork(device, outcome);
+    m_watch.followNetwork(device, outcome, actOf(outcome));
     if (change != RuleChange::None) {
         m_withheld.remove(device);
         if (!m_visits.isChanging(device)) {
@@ -108,26 +97,6 @@ void RuleExecution::applyLoginRule(const QString &device, const RuleOutcome &out
                     applyNetworkRule(device, outcome);
                 }
             }));
-}
-
-// Under another rule, or on another network, what was carried out before is over.
-void RuleExecution::followNetwork(const QString &device, const RuleOutcome &outcome)
-{
-    const QDateTime now = m_deps.scheduler.now();
-    m_visits.sawAddress(device, outcome.address);
-    if (m_visits.isCarriedOut(device, actOf(outcome))) {
-        if (outcome.linkIsUp) {
-            m_visits.sawOnNetwork(device, now);
-        }
-    } else if (!outcome.isWifi) {
-        m_visits.sawOffNetwork(device, now);
-    } else if (outcome.linkIsUp && !outcome.ssid.isEmpty() &&
-               outcome.ssid != m_visits.ssid(device)) {
-        m_visits.sawElsewhere(device);
-    } else if (!outcome.ssid.isEmpty() || !outcome.linkIsUp) {
-        m_visits.sawOffNetwork(device, now, sameNetworkTime);
-    }
-    // A link that is up on no network at all was not read well.
 }
 
 void RuleExecution::applyOncePerVisit(const QString &device, const RuleOutcome &outcome)
@@ -301,56 +270,6 @@ QStringList RuleExecution::withheldDevices() const
     devices.removeIf([this](const QString &device) { return !m_deps.devices.isPresent(device); });
     devices.sort();
     return devices;
-}
-
-void RuleExecution::followVisits()
-{
-    noteSuspension();
-    const QStringList devices = m_visits.devices();
-    for (const QString &device : devices) {
-        followDevice(device);
-    }
-}
-
-void RuleExecution::followDevice(const QString &device)
-{
-    // A table that could not be read, or a device that is no port for now, is not "taken away".
-    if (!m_deps.devices.isPresent(device)) {
-        const InterfaceInfo info = m_deps.devices.getInfoForDevice(device);
-        if (info.macAddress.isEmpty() && !info.readFailed) {
-            m_visits.sawGone(device);
-            return;
-        }
-    }
-    const DeviceRecord record = m_deps.devices.record(device);
-    const QDateTime now = m_deps.scheduler.now();
-    if (!record.isUp()) {
-        const bool isKnown = !record.status.value_or(QString()).isEmpty();
-        if (isKnown) {
-            m_visits.sawOffNetwork(device, now, record.isWifi() ? sameNetworkTime : 0ms);
-        }
-    } else if (record.isWifi()) {
-        // Which network it is on is seen when its rules are evaluated.
-        m_visits.sawLinkUp(device, now);
-    } else {
-        m_visits.sawOnNetwork(device, now);
-    }
-}
-
-// Wired networks have no names: whoever closes a computer may open it in another office.
-void RuleExecution::noteSuspension()
-{
-    const std::chrono::milliseconds before =
-        std::exchange(m_clockAhead, clockAhead(m_deps.scheduler));
-    if (std::chrono::abs(m_clockAhead - before) <= suspensionTime) {
-        return;
-    }
-    const QStringList devices = m_visits.devices();
-    for (const QString &device : devices) {
-        if (!m_deps.devices.isDeviceWifi(device)) {
-            m_visits.sawGone(device);
-        }
-    }
 }
 
 void RuleExecution::addressChangeBegan(const QString &device)

@@ -5,6 +5,7 @@
 #include "devices/AddressChanger.h"
 #include "rules/ChangeLimit.h"
 #include "rules/RuleOutcome.h"
+#include "rules/VisitWatch.h"
 #include "rules/Visits.h"
 
 #include <QHash>
@@ -44,7 +45,7 @@ public:
     void applyRulesForDevice(const QString &device, const RuleOutcome &outcome, RuleChange change);
 
     /// The device table was read anew: visits of devices whose link is down, or that are gone, end.
-    void followVisits();
+    void followVisits() { m_watch.followVisits(); }
     /// An address change of `device` is about to be asked of the helper, or has come to its end.
     void addressChangeBegan(const QString &device);
     void addressChangeEnded(const QString &device, const ChangeOutcome &outcome = {});
@@ -63,7 +64,6 @@ Q_SIGNALS:
     void obstacleEnded();
 
 private:
-    void followNetwork(const QString &device, const RuleOutcome &outcome);
     void applyLoginRule(const QString &device, const RuleOutcome &outcome);
     void applyOncePerVisit(const QString &device, const RuleOutcome &outcome);
     void applyNetworkRule(const QString &device, const RuleOutcome &outcome);
@@ -75,11 +75,10 @@ private:
     void noteWaiting(const QString &device, const RuleOutcome &outcome);
     void userChose(const QString &device);
     void makeUpForUnjudged(const QString &device);
-    void followDevice(const QString &device);
-    void noteSuspension();
 
     Collaborators m_deps;
     Visits m_visits;
+    VisitWatch m_watch;
     ChangeLimit m_limit;
     QSet<QString> m_withheld;
     /// There is something to judge of these when a change has its answer, or has settled.
@@ -90,8 +89,6 @@ private:
     QHash<QString, Visits::Act> m_waiting;
     bool m_helperIsMissing = false;
     std::optional<std::chrono::milliseconds> m_failuresForgottenAt;
-    /// How far the wall clock was ahead of the one that stands still in suspension.
-    std::chrono::milliseconds m_clockAhead;
 };
 
 } // namespace quillon
