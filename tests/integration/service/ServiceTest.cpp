@@ -69,9 +69,9 @@ QStringList asUser(const QStringList &command)
 std::unique_ptr<Running> calling(const contract::Method &method)
 {
     return std::make_unique<Running>(u"runuser"_s,
-        asUser({u"gdbus"_s, u"call"_s, u"--session"_s, u"--timeout"_s, u"60"_s, u"--dest"_s,
-            QLatin1String(contract::serviceName), u"--object-path"_s,
-            QLatin1String(contract::service::path), u"--method"_s,
+        asUser({u"dbus-send"_s, u"--session"_s, u"--print-reply"_s, u"--reply-timeout=60000"_s,
+            u"--dest="_s + QLatin1String(contract::serviceName),
+            QLatin1String(contract::service::path),
             QLatin1String(contract::service::interface) + u'.' + QLatin1String(method.name)}));
 }
 
@@ -82,15 +82,24 @@ Call call(const contract::Method &method)
     return {process->exitCode() == 0, process->output()};
 }
 
-QString endpointIn(const Call &connected)
+// The answer of connectWithEndpointAndAuthorization; neither text nor bytes when it is none.
+QRegularExpressionMatch connectionIn(const Call &connected)
 {
-    static const QRegularExpression answer(u"\\A\\('([^']*)', \\["_s);
-    return answer.match(connected.text).captured(1);
+    static const QRegularExpression answer(
+        u"\\n +string \"([^\"]*)\"\\n +array of bytes \\[([0-9a-f\\s]*)\\]\\s*\\z"_s);
+    const auto match = answer.match(connected.text);
+    EXPECT_TRUE(connected.succeeded && match.hasMatch()) << connected.text.toStdString();
+    return match;
 }
 
-qsizetype authorizationBytesIn(const Call &connected)
+QString endpointIn(const Call &connected)
 {
-    return connected.text.count(u"0x"_s);
+    return connectionIn(connected).captured(1);
+}
+
+QByteArray authorizationIn(const Call &connected)
+{
+    return QByteArray::fromHex(connectionIn(connected).capturedView(2).toLatin1());
 }
 
 bool isError(const Call &result, const contract::ErrorName &error)
@@ -221,16 +230,16 @@ TEST_F(ServiceTest, GivesTheHelpersUniqueNameAndThirtyTwoBytes)
                 "org.freedesktop.DBus.GetNameOwner com.orvandel.Quillon4HelperTool"_s);
     EXPECT_FALSE(endpointIn(connected).isEmpty());
     EXPECT_EQ(QString::fromUtf8(owner).trimmed(), u"('%1',)"_s.arg(endpointIn(connected)));
-    EXPECT_EQ(authorizationBytesIn(connected), 32);
+    EXPECT_EQ(authorizationIn(connected).size(), 32);
 }
 
 TEST_F(ServiceTest, SetupMakesTheAuthorizationAnew)
 {
     const contract::Method &connect = contract::service::connectWithEndpointAndAuthorization;
-    const Call first = call(connect);
-    EXPECT_EQ(call(connect).text, first.text);
+    const QByteArray first = authorizationIn(call(connect));
+    EXPECT_EQ(authorizationIn(call(connect)), first);
     EXPECT_TRUE(call(contract::service::setupAuthorizationRights).succeeded);
-    EXPECT_NE(call(connect).text, first.text);
+    EXPECT_NE(authorizationIn(call(connect)), first);
 }
 
 TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
@@ -239,7 +248,7 @@ TEST_F(ServiceTest, WithoutAHelperThereIsNoEndpoint)
     const Call connected = call(contract::service::connectWithEndpointAndAuthorization);
     ASSERT_TRUE(connected.succeeded) << connected.text.toStdString();
     EXPECT_EQ(endpointIn(connected), QString());
-    EXPECT_EQ(authorizationBytesIn(connected), 32);
+    EXPECT_EQ(authorizationIn(connected).size(), 32);
 }
 
 TEST_F(ServiceTest, WithoutASystemBusThereIsNoEndpoint)
