@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
+#include <sys/stat.h>
+#include <utility>
 
 namespace quillon::service {
 
-/// What an ordinary user sees of the helper's installation. Keeps nothing: each question looks
-/// anew.
+/// What an ordinary user sees of the helper's installation. Each question looks anew.
 class InstalledHelper
 {
 public:
@@ -28,10 +30,25 @@ public:
     /// one, otherwise, byte by byte, the one that would be installed. Every build has the same
     /// version, so without this a repair would never arrive. True as well where nothing is
     /// installed or can be compared: then whether a helper answers, and its version, decide.
-    bool isCurrent() const;
+    bool isCurrent();
 
 private:
+    /// The bytes are the same as long as this is.
+    struct State
+    {
+        dev_t device;
+        ino_t file;
+        off_t size;
+        timespec changed;
+
+        bool operator==(const State &other) const;
+    };
+    using States = std::pair<State, State>;
+
+    static std::optional<State> stateOf(const std::string &path);
+
     Paths m_paths;
+    std::optional<States> m_compared; ///< what was found the same
 };
 
 } // namespace quillon::service

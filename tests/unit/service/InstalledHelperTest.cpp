@@ -19,11 +19,17 @@ protected:
         std::ofstream{pathOf(name)} << text;
     }
     std::string pathOf(const char *name) const { return folder.filePath(name).toStdString(); }
-    bool isCurrent() const
+    InstalledHelper helper() const
     {
         return InstalledHelper(
-            {pathOf("seed"), pathOf("installed"), pathOf("packaged"), pathOf("packaged-unit")})
-            .isCurrent();
+            {pathOf("seed"), pathOf("installed"), pathOf("packaged"), pathOf("packaged-unit")});
+    }
+    bool isCurrent() const { return helper().isCurrent(); }
+    /// A program that was there long before the test.
+    void place(const char *name, const char *program) const
+    {
+        std::filesystem::remove(pathOf(name));
+        std::filesystem::create_symlink(program, pathOf(name));
     }
 
     QTemporaryDir folder;
@@ -63,6 +69,36 @@ TEST_F(InstalledHelperTest, IsThePackagesAloneWhereThereIsOne)
     // The rest of a package that was removed is no package.
     std::filesystem::remove(pathOf("packaged"));
     EXPECT_TRUE(isCurrent());
+}
+
+TEST_F(InstalledHelperTest, NoticesAReplacementOfWhatItHasCompared)
+{
+    place("seed", "/usr/bin/env");
+    place("installed", "/usr/bin/env");
+    auto asked = helper();
+    EXPECT_TRUE(asked.isCurrent());
+    EXPECT_TRUE(asked.isCurrent());
+    for (const char *const name : {"seed", "installed"}) {
+        place(name, "/usr/bin/id");
+        EXPECT_FALSE(asked.isCurrent()) << name;
+        place(name, "/usr/bin/env");
+        EXPECT_TRUE(asked.isCurrent()) << name;
+    }
+    write("packaged", "another build of it");
+    write("packaged-unit", "unit");
+    EXPECT_FALSE(asked.isCurrent());
+}
+
+TEST_F(InstalledHelperTest, NoticesAChangeWithinOneStepOfTheFileSystemsClock)
+{
+    auto asked = helper();
+    for (int i = 0; i < 100; ++i) {
+        write("seed", "program");
+        write("installed", "program");
+        ASSERT_TRUE(asked.isCurrent());
+        write("installed", "PROGRAM");
+        ASSERT_FALSE(asked.isCurrent());
+    }
 }
 
 } // namespace
