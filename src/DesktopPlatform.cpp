@@ -41,6 +41,7 @@ DesktopPlatform::DesktopPlatform()
     , m_groupSettings(settingsPath(u"orvandel.com.orvandel.Quillon4.plist"_s), m_scheduler,
           [this](const SettingsProblem &problem) { tellOfSettings(problem); })
     , m_userNotifications(m_scheduler)
+    , m_addressOwners(m_scheduler, m_groupSettings)
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)
     , m_helperLink(m_random)
@@ -59,6 +60,7 @@ Platform DesktopPlatform::platform()
         .alerts = m_alerts,
         .network = m_network,
         .interfaceAddresses = m_interfaceAddresses,
+        .addressOwners = m_addressOwners,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
         .wifi = m_wifi,

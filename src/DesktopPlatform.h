@@ -14,6 +14,7 @@
 #include "platform/linux/netlink/NetlinkChangeSource.h"
 #include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/linux/netlink/RouteReachability.h"
+#include "platform/linux/owner/LinuxAddressOwners.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
 #include "platform/qt/QtScheduler.h"
@@ -51,6 +52,7 @@ private:
     MessageAlerts m_alerts;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;
+    LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges;
     RouteReachability m_reachability;
     Nl80211WiFiClient m_wifi;

@@ -8,6 +8,7 @@
 #include "base/FreedMemory.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
+#include "platform/AddressOwner.h"
 #include "platform/Platform.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
@@ -94,6 +95,7 @@ void LaunchSequence::startup()
     f.mainWindow.renewHexFormatter();
     f.mainWindow.populateSelectionButton();
 
+    m_platform.addressOwners.finishInterrupted();
     m_wiring.setupNotifications();
     f.networks.locationPermission.requestNetworkPermissions();
     f.networks.externalAddress.updateExternalIPAddress(false);

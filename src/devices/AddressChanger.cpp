@@ -56,6 +56,7 @@ AddressChanger::AddressChanger(const Collaborators &collaborators)
     : m_deps(collaborators)
     , m_displayCase(collaborators.settings)
     , m_life(std::make_shared<Life>())
+    , m_participation(collaborators.owners, collaborators.scheduler)
 {
 }
 
@@ -146,45 +147,55 @@ void AddressChanger::requestChange(
         .reply = reply,
     };
     if (record.current == address) {
-        tellNotChanged(request.interface, "The new Address and the old Address are identical");
+        tellNotChanged(
+            request.interface, localized("The new Address and the old Address are identical"));
         if (reply) {
             reply(
                 {.isInPlace = true, .address = address, .requested = address, .isReported = true});
         }
         return;
     }
-    m_deps.scheduler.onMain(this, [this, request] { askHelper(request); });
+    m_deps.scheduler.onMain(this, [this, request] { carryOut(request); });
 }
 
-void AddressChanger::askHelper(const Request &request)
+void AddressChanger::carryOut(const Request &request)
 {
     Q_EMIT changeBegan(request.device);
-    const auto wasAsked = std::make_shared<std::atomic<bool>>(false);
-    m_deps.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
-        request.device, request.address, request.isWifi,
-        [this, life = m_life, request, wasAsked](bool success) {
-            const std::shared_lock lock(life->mutex);
-            if (life->alive) {
-                const ChangeOutcome outcome = finish(request, success, *wasAsked);
-                Q_EMIT changeEnded(request.device, outcome);
-                if (request.reply) {
-                    request.reply(outcome);
+    const auto wasAsked = std::make_shared<std::atomic<bool>>(true);
+    const auto change = [this, request, wasAsked](const std::function<void(bool)> &done) {
+        *wasAsked = false;
+        m_deps.helper.changeAddressOfDeviceToAddressDeviceIsWiFiWithReply(
+            request.device, request.address, request.isWifi,
+            [life = m_life, done](bool success) {
+                const std::shared_lock lock(life->mutex);
+                if (life->alive) {
+                    done(success);
                 }
+            },
+            [wasAsked] { *wasAsked = true; });
+    };
+    m_participation.carryOut(request.device, change,
+        [this, request, wasAsked](const OwnerParticipation::Result &result) {
+            const ChangeOutcome outcome = finish(request, result, *wasAsked);
+            Q_EMIT changeEnded(request.device, outcome);
+            if (request.reply) {
+                request.reply(outcome);
             }
-        },
-        [wasAsked] { *wasAsked = true; });
+        });
 }
 
-ChangeOutcome AddressChanger::finish(const Request &request, bool success, bool wasAsked)
+ChangeOutcome AddressChanger::finish(
+    const Request &request, const OwnerParticipation::Result &result, bool wasAsked)
 {
     const InterfaceInfo now = readBack(request.device);
     // An answer can be lost on its way: what counts is the address that the device has.
-    const ChangeOutcome outcome{
-        .isInPlace = now.readFailed ? success : isSameAddress(now.macAddress, request.address),
+    const ChangeOutcome outcome{.isInPlace = now.readFailed
+                                                 ? result.isChanged
+                                                 : isSameAddress(now.macAddress, request.address),
         .address = now.macAddress,
         .requested = request.address,
         .isReported = request.reply != nullptr,
-        .isConfirmed = success,
+        .isConfirmed = result.isChanged,
         .wasAsked = wasAsked};
     if (now.macAddress.isEmpty()) {
         // The interface has gone, or cannot be read: there is nothing true to say of its address.
@@ -204,7 +215,7 @@ ChangeOutcome AddressChanger::finish(const Request &request, bool success, bool 
     if (request.isCurrent) {
         m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
-    tellOutcome(request, success, now.macAddress);
+    tellOutcome(request, result, now.macAddress);
     m_deps.currentInterface.updateHexValues();
     return outcome;
 }
@@ -216,22 +227,57 @@ InterfaceInfo AddressChanger::readBack(const QString &device) const
     return info.readFailed ? m_deps.devices.getInfoForDevice(device) : info;
 }
 
-void AddressChanger::tellOutcome(const Request &request, bool success, const QString &readBack)
+void AddressChanger::tellOutcome(
+    const Request &request, const OwnerParticipation::Result &result, const QString &readBack)
 {
-    if (!success) {
-        tellNotChanged(request.interface, "Please make sure you have installed the HelperTool");
+    if (result.isRefused) {
+        tellNotChanged(
+            request.interface, filled(localized("%@ did not let go of it"), {result.owner}));
+        return;
+    }
+    if (!result.isChanged) {
+        tellNotChanged(
+            request.interface, localized("Please make sure you have installed the HelperTool"));
+        return;
+    }
+    if (result.settlement && !isSameAddress(readBack, request.address)) {
+        tellNotChanged(request.interface,
+            filled(localized("%@ gives this network an Address of its own. Look for it in the "
+                             "network's settings"),
+                {result.owner}));
         return;
     }
     if (readBack == request.oldAddress) {
-        tellNotChanged(request.interface, "Please make sure your Device is enabled");
+        tellNotChanged(request.interface, localized("Please make sure your Device is enabled"));
         return;
     }
     m_deps.notifier.sendNotificationWithBody(
         filled(localized("%@ Address Changed"), {request.interface}),
         filled(localized("Your new MAC Address is: %@"), {readBack}));
+    tellOfOwner(request.interface, result);
     Q_EMIT addressChanged(request.device, request.address);
     m_deps.notifications.post(
         notifications::addressUpdated, this, {{record::device, request.device}});
+}
+
+void AddressChanger::tellOfOwner(const QString &interface, const OwnerParticipation::Result &result)
+{
+    switch (result.settlement.value_or(AddressOwner::Outcome::Settled)) {
+    case AddressOwner::Outcome::Settled:
+        return;
+    case AddressOwner::Outcome::NotBack:
+        m_deps.notifier.sendNotificationWithBody(
+            filled(localized("%@ is not connected again"), {interface}),
+            filled(localized("Please connect it again with %@"), {result.owner}));
+        return;
+    case AddressOwner::Outcome::Untold:
+        m_deps.notifier.sendNotificationWithBody(
+            filled(localized("%@ Address may be replaced"), {interface}),
+            filled(localized("This session may not control %@. The new Address holds until the "
+                             "interface connects the next time"),
+                {result.owner}));
+        return;
+    }
 }
 
 void AddressChanger::tellUndone(const QString &device)
@@ -243,10 +289,10 @@ void AddressChanger::tellUndone(const QString &device)
                   "when you join a network"));
 }
 
-void AddressChanger::tellNotChanged(const QString &interface, const char *reason)
+void AddressChanger::tellNotChanged(const QString &interface, const QString &reason)
 {
     m_deps.notifier.sendNotificationWithBody(
-        filled(localized("%@ Address was not Changed"), {interface}), localized(reason));
+        filled(localized("%@ Address was not Changed"), {interface}), reason);
 }
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "devices/HexValueTransformer.h"
+#include "devices/OwnerParticipation.h"
 #include "platform/SerialQueue.h"
 
 #include <QObject>
@@ -41,8 +42,8 @@ struct ChangeOutcome
 };
 
 /// Every change of an address, whoever asks, ends here: it serializes changes, refuses a change to
-/// the address in use, has the helper do it, reads the address back, updates the device table,
-/// tells the user and announces it.
+/// the address in use, has the helper do it and the interface's owner take part, reads the address
+/// back, updates the device table, tells the user and announces it.
 ///
 /// The queue serializes the test and the hand-over to the helper, not the helper's work: a second
 /// change may start before the first one's reply has come.
@@ -58,6 +59,7 @@ public:
         NotificationCenter &notifications;
         Notifier &notifier;
         XPCMethods &helper;
+        AddressOwners &owners;
         DeviceTable &devices;
         CurrentInterface &currentInterface;
         const RandomAddress &random;
@@ -128,16 +130,20 @@ private:
 
     SerialQueue &changeAddressQueue();
     void requestChange(const QString &requestedDevice, const QString &address, const Reply &reply);
-    void askHelper(const Request &request);
-    ChangeOutcome finish(const Request &request, bool success, bool wasAsked);
+    void carryOut(const Request &request);
+    ChangeOutcome finish(
+        const Request &request, const OwnerParticipation::Result &result, bool wasAsked);
     InterfaceInfo readBack(const QString &device) const;
-    void tellOutcome(const Request &request, bool success, const QString &readBack);
-    void tellNotChanged(const QString &interface, const char *reason);
+    void tellOutcome(
+        const Request &request, const OwnerParticipation::Result &result, const QString &readBack);
+    void tellOfOwner(const QString &interface, const OwnerParticipation::Result &result);
+    void tellNotChanged(const QString &interface, const QString &reason);
 
     Collaborators m_deps;
     HexValueTransformer m_displayCase;
     std::shared_ptr<Life> m_life;
     std::optional<SerialQueue> m_changeAddressQueue;
+    OwnerParticipation m_participation;
 };
 
 } // namespace quillon

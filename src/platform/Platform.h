@@ -7,6 +7,7 @@
 
 namespace quillon {
 
+class AddressOwners;
 class AlertPresenter;
 class DistributedNotificationCenter;
 class HelperLink;
@@ -51,6 +52,7 @@ struct Platform
     AlertPresenter &alerts;
     NetworkHost &network;
     InterfaceAddresses &interfaceAddresses;
+    AddressOwners &addressOwners;
     NetworkChangeSource &networkChanges;
     Reachability &reachability;
     WiFiClient &wifi;

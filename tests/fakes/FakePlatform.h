@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fakes/FakeAddressOwners.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeHelper.h"
@@ -51,6 +52,7 @@ struct FakePlatform
             .alerts = alerts,
             .network = host,
             .interfaceAddresses = addresses,
+            .addressOwners = owners,
             .networkChanges = networkChanges,
             .reachability = reachability,
             .wifi = wifi,
@@ -77,6 +79,7 @@ struct FakePlatform
     FakeAlertPresenter alerts;
     FakeNetworkHost host;
     FakeInterfaceAddresses addresses{host};
+    FakeAddressOwners owners{scheduler};
     FakeNetworkChangeSource networkChanges;
     FakeReachability reachability;
     FakeWiFiClient wifi;

@@ -11,7 +11,7 @@ DeviceFeature::DeviceFeature(const Platform &platform, Notifier &notifier, XPCMe
     , currentInterface(platform.settings, platform.scheduler, table)
     , randomAddress(platform.random, table)
     , addressChanger({platform.settings, platform.scheduler, platform.notifications, notifier,
-          helper, table, currentInterface, randomAddress})
+          helper, platform.addressOwners, table, currentInterface, randomAddress})
 {
 }
 

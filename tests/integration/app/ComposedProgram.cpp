@@ -43,6 +43,7 @@ ComposedProgram::ComposedProgram(const QString &folder, int speed)
         .alerts = alerts,
         .network = m_network,
         .interfaceAddresses = m_interfaceAddresses,
+        .addressOwners = m_addressOwners,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
         .wifi = wifi,

@@ -18,6 +18,7 @@
 #include "platform/linux/netlink/NetlinkChangeSource.h"
 #include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/linux/netlink/RouteReachability.h"
+#include "platform/linux/owner/LinuxAddressOwners.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
@@ -71,6 +72,7 @@ private:
     SessionBusNotificationCenter m_distributedNotifications;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;
+    LinuxAddressOwners m_addressOwners{m_real, groupSettings};
     NetlinkChangeSource m_networkChanges{m_real};
     RouteReachability m_reachability;
     Nl80211LocationAuthorization m_location{m_real};

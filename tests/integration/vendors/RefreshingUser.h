@@ -108,6 +108,7 @@ private:
             .alerts = fakes.alerts,
             .network = fakes.network,
             .interfaceAddresses = fakes.interfaceAddresses,
+            .addressOwners = fakes.addressOwners,
             .networkChanges = fakes.networkChanges,
             .reachability = fakes.reachability,
             .wifi = fakes.wifi,

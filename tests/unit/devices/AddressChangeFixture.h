@@ -7,6 +7,7 @@
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/RandomAddress.h"
+#include "fakes/FakeAddressOwners.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeNotifier.h"
 #include "fakes/FakeRandomSource.h"
@@ -27,8 +28,8 @@ protected:
         table.updateNetWorkInterfaces();
         select(en1);
         // The program asserts its main thread: the first connection is made on it.
-        changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{
-            settings, scheduler, notifications, notifier, xpc, table, current, randomAddress});
+        changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{settings,
+            scheduler, notifications, notifier, xpc, owners, table, current, randomAddress});
         QObject::connect(changer.get(), &AddressChanger::addressChanged,
             [this](const QString &device, const QString &requested) {
                 order << QStringLiteral("history %1 %2").arg(device, requested);
@@ -65,6 +66,7 @@ protected:
     NotificationCenter notifications;
     FakeNotifier notifier;
     FakeHelper helper{scheduler, host};
+    FakeAddressOwners owners{scheduler};
     XPCMethods xpc{helper, scheduler, notifications};
     FakeRandomSource random;
     RandomAddress randomAddress{random, table};

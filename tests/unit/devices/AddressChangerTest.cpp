@@ -315,7 +315,7 @@ protected:
     {
         SlowNotifier slow;
         changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{
-            settings, scheduler, notifications, slow, xpc, table, current, randomAddress});
+            settings, scheduler, notifications, slow, xpc, owners, table, current, randomAddress});
         changer->updateMacAddressWithAddress(en1, address);
         std::thread others([this] { scheduler.runPending(); });
         slow.waitUntilCalled();
@@ -348,7 +348,7 @@ TEST_F(AddressChangerTest, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesI
         void sendNotificationWithBody(const QString &, const QString &) override {}
     } silent;
     AddressChanger quiet(
-        {settings, scheduler, notifications, silent, xpc, table, current, randomAddress});
+        {settings, scheduler, notifications, silent, xpc, owners, table, current, randomAddress});
     QStringList history;
     QObject::connect(&quiet, &AddressChanger::addressChanged,
         [&history](const QString &device) { history << device; });

@@ -8,6 +8,7 @@
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
+#include "fakes/FakeAddressOwners.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeInterfaceAddresses.h"
 #include "fakes/FakeNetworkHost.h"
@@ -115,10 +116,11 @@ protected:
     CountingRandomSource random;
     RandomAddress randomAddress{random, table};
     FakeHelper helper{scheduler, host};
+    FakeAddressOwners owners{scheduler};
     XPCMethods xpc{helper, scheduler, notifications};
     CurrentInterface current{settings, scheduler, table};
     AddressChanger changer{
-        {settings, scheduler, notifications, notifier, xpc, table, current, randomAddress}};
+        {settings, scheduler, notifications, notifier, xpc, owners, table, current, randomAddress}};
     std::unique_ptr<CountdownTimers> timers = std::make_unique<CountdownTimers>(
         CountdownTimers::Collaborators{scheduler, notifications, notifier, table, changer});
     int ticks = 0;

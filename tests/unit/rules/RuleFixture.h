@@ -10,6 +10,7 @@
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/RandomAddress.h"
+#include "fakes/FakeAddressOwners.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
@@ -212,12 +213,13 @@ protected:
     NotificationCenter notifications;
     FakeNotifier notifier;
     FakeHelper helper{scheduler, host};
+    FakeAddressOwners owners{scheduler};
     XPCMethods xpc{helper, scheduler, notifications};
     CurrentInterface current{settings, scheduler, table};
     FakeRandomSource random;
     RandomAddress randomAddress{random, table};
     AddressChanger changer{
-        {settings, scheduler, notifications, notifier, xpc, table, current, randomAddress}};
+        {settings, scheduler, notifications, notifier, xpc, owners, table, current, randomAddress}};
     FakeWiFiClient radio;
     WiFiNetwork wifi{settings, radio, table};
     FakeHttpClient http{scheduler};

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/owner/NetworkManager.h"
+
+#include "base/Log.h"
+#include "platform/linux/bus/BusCall.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QVariantMap>
+
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// It answers at once or hangs.
+constexpr auto answerLimit = 5s;
+constexpr auto lastCallLimit = 2s;
+
+const QString service = u"org.freedesktop.NetworkManager"_s;
+const QString path = u"/org/freedesktop/NetworkManager"_s;
+const QString deviceInterface = u"org.freedesktop.NetworkManager.Device"_s;
+const QString activeInterface = u"org.freedesktop.NetworkManager.Connection.Active"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
+const QString controlPermission = u"org.freedesktop.NetworkManager.network-control"_s;
+const QString noObject = u"/"_s;
+constexpr uint wifiDevice = 2; // NM_DEVICE_TYPE_WIFI
+
+// Where it is not started it owns nothing, and is not started for our sake.
+QDBusMessage callTo(const QString &object, const QString &interface, const QString &method,
+    const QVariantList &arguments = {})
+{
+    auto call = QDBusMessage::createMethodCall(service, object, interface, method);
+    call.setArguments(arguments);
+    call.setAutoStartService(false);
+    return call;
+}
+
+bool isAnswer(const QDBusMessage &message)
+{
+    if (message.type() == QDBusMessage::ReplyMessage) {
+        return true;
+    }
+    qCDebug(logPlatform, "NetworkManager: %ls", qUtf16Printable(message.errorMessage()));
+    return false;
+}
+
+QString objectIn(const QVariant &value)
+{
+    const QString object = value.value<QDBusObjectPath>().path();
+    return object == noObject ? QString() : object;
+}
+
+NetworkManager::Device deviceIn(const QString &devicePath, const QVariantMap &properties)
+{
+    return {.path = devicePath,
+        .isManaged = properties.value(u"Managed"_s).toBool(),
+        .isWiFi = properties.value(u"DeviceType"_s).toUInt() == wifiDevice,
+        .state = properties.value(u"State"_s).toUInt(),
+        .activeConnection = objectIn(properties.value(u"ActiveConnection"_s))};
+}
+
+} // namespace
+
+NetworkManager::NetworkManager(QDBusConnection bus)
+    : m_bus(std::move(bus))
+    , m_watcher(
+          new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this))
+{
+    connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManager::changed);
+    m_bus.connect(service, QString(), deviceInterface, u"StateChanged"_s, this, SIGNAL(changed()));
+}
+
+void NetworkManager::findDevice(const QString &name, QObject *context,
+    const std::function<void(const std::optional<Device> &)> &reply)
+{
+    const auto onPath = [this, context, reply](const QDBusMessage &answer) {
+        const QString devicePath =
+            isAnswer(answer) ? objectIn(answer.arguments().value(0)) : QString();
+        if (devicePath.isEmpty()) {
+            reply(std::nullopt);
+            return;
+        }
+        const auto onProperties = [reply, devicePath](const QDBusMessage &properties) {
+            if (!isAnswer(properties)) {
+                reply(std::nullopt);
+                return;
+            }
+            reply(deviceIn(devicePath, qdbus_cast<QVariantMap>(properties.arguments().value(0))));
+        };
+        callBus(m_bus, context,
+            callTo(devicePath, propertiesInterface, u"GetAll"_s, {deviceInterface}), answerLimit,
+            onProperties);
+    };
+    callBus(m_bus, context, callTo(path, service, u"GetDeviceByIpIface"_s, {name}), answerLimit,
+        onPath);
+}
+
+void NetworkManager::askPermission(
+    QObject *context, const std::function<void(bool isGranted)> &reply)
+{
+    callBus(m_bus, context, callTo(path, service, u"GetPermissions"_s), answerLimit,
+        [reply](const QDBusMessage &answer) {
+            const auto permissions =
+                isAnswer(answer) ? qdbus_cast<QMap<QString, QString>>(answer.arguments().value(0))
+                                 : QMap<QString, QString>();
+            reply(permissions.value(controlPermission) == "yes"_L1);
+        });
+}
+
+void NetworkManager::findProfile(const QString &activeConnection, QObject *context,
+    const std::function<void(const QString &)> &reply)
+{
+    callBus(m_bus, context,
+        callTo(activeConnection, propertiesInterface, u"Get"_s, {activeInterface, u"Connection"_s}),
+        answerLimit, [reply](const QDBusMessage &answer) {
+            reply(isAnswer(answer)
+                      ? objectIn(answer.arguments().value(0).value<QDBusVariant>().variant())
+                      : QString());
+        });
+}
+
+QDBusMessage NetworkManager::managedCall(const QString &devicePath, bool isManaged) const
+{
+    return callTo(devicePath, propertiesInterface, u"Set"_s,
+        {deviceInterface, u"Managed"_s, QVariant::fromValue(QDBusVariant(isManaged))});
+}
+
+void NetworkManager::setManaged(const QString &devicePath, bool isManaged, QObject *context,
+    const std::function<void(bool isDone)> &reply)
+{
+    callBus(m_bus, context, managedCall(devicePath, isManaged), answerLimit,
+        [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
+}
+
+void NetworkManager::setManagedNow(const QString &devicePath)
+{
+    const auto limit = static_cast<int>(std::chrono::milliseconds(lastCallLimit).count());
+    isAnswer(m_bus.call(managedCall(devicePath, true), QDBus::Block, limit));
+}
+
+void NetworkManager::activate(const QString &profile, const QString &devicePath, QObject *context,
+    const std::function<void(bool isBegun)> &reply)
+{
+    callBus(m_bus, context,
+        callTo(path, service, u"ActivateConnection"_s,
+            {QVariant::fromValue(QDBusObjectPath(profile)),
+                QVariant::fromValue(QDBusObjectPath(devicePath)),
+                QVariant::fromValue(QDBusObjectPath(noObject))}),
+        answerLimit, [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
+}
+
+} // namespace quillon

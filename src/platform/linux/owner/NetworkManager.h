@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <optional>
+
+class QDBusMessage;
+class QDBusServiceWatcher;
+
+namespace quillon {
+
+/// What NetworkManager (its D-Bus interface, 1.42 and later) knows of a device, and what it may be
+/// asked to do with one. No profile is written and no secret read. Replies come once, in a
+/// later turn, unless their context has gone before. Main thread.
+class NetworkManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Of NMDeviceState.
+    enum State : uint
+    {
+        Unmanaged = 10,
+        Disconnected = 30,
+        Activated = 100,
+        Failed = 120,
+    };
+    struct Device
+    {
+        QString path;
+        bool isManaged = false;
+        bool isWiFi = false;
+        uint state = 0;
+        QString activeConnection; ///< its path, "" when there is none
+    };
+
+    explicit NetworkManager(QDBusConnection bus);
+
+    /// None when it does not run, or knows no such device.
+    void findDevice(const QString &name, QObject *context,
+        const std::function<void(const std::optional<Device> &)> &reply);
+    /// Whether it lets this session control networks without a prompt.
+    void askPermission(QObject *context, const std::function<void(bool isGranted)> &reply);
+    /// The path of the profile behind an active connection, "" when that has gone.
+    void findProfile(const QString &activeConnection, QObject *context,
+        const std::function<void(const QString &)> &reply);
+    void setManaged(const QString &devicePath, bool isManaged, QObject *context,
+        const std::function<void(bool isDone)> &reply);
+    /// The same without waiting for the loop, for the end of the program; for seconds at most.
+    void setManagedNow(const QString &devicePath);
+    void activate(const QString &profile, const QString &devicePath, QObject *context,
+        const std::function<void(bool isBegun)> &reply);
+
+Q_SIGNALS:
+    /// A device has another state, or NetworkManager has come or gone.
+    void changed();
+
+private:
+    QDBusMessage managedCall(const QString &devicePath, bool isManaged) const;
+
+    QDBusConnection m_bus;
+    QDBusServiceWatcher *m_watcher;
+};
+
+} // namespace quillon

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/owner/NetworkManagerWiFi.h"
+
+#include "platform/linux/owner/ReleasedDevices.h"
+
+#include <utility>
+
+namespace quillon {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto releaseLimit = 10s;
+// Association, and a DHCP server that takes its time.
+constexpr auto connectLimit = 60s;
+
+} // namespace
+
+NetworkManagerWiFi::NetworkManagerWiFi(NetworkManager &networkManager, Scheduler &scheduler,
+    ReleasedDevices &released, const QString &name, NetworkManager::Device device)
+    : m_networkManager(networkManager)
+    , m_scheduler(scheduler)
+    , m_released(released)
+    , m_name(name)
+    , m_device(std::move(device))
+    , m_watch(networkManager, scheduler, name)
+{
+}
+
+NetworkManagerWiFi::~NetworkManagerWiFi()
+{
+    if (m_isReleased) {
+        m_networkManager.setManagedNow(m_device.path);
+    }
+}
+
+QString NetworkManagerWiFi::name() const
+{
+    return QStringLiteral("NetworkManager");
+}
+
+void NetworkManagerWiFi::prepare(Prepared prepared)
+{
+    m_networkManager.askPermission(this, [this, prepared = std::move(prepared)](bool isGranted) {
+        if (!isGranted) {
+            // Changed nevertheless: the address holds until the next connection.
+            prepared(true);
+            return;
+        }
+        if (m_device.activeConnection.isEmpty()) {
+            release(prepared);
+            return;
+        }
+        m_networkManager.findProfile(
+            m_device.activeConnection, this, [this, prepared](const QString &profile) {
+                m_profile = profile;
+                release(prepared);
+            });
+    });
+}
+
+void NetworkManagerWiFi::release(const Prepared &prepared)
+{
+    // Noted first: if we die, somebody must know.
+    m_released.add(m_name);
+    m_isReleased = true;
+    m_networkManager.setManaged(m_device.path, false, this, [this, prepared](bool isDone) {
+        const auto isLetGo = [](const std::optional<NetworkManager::Device> &device) {
+            return device && device->state == NetworkManager::Unmanaged;
+        };
+        if (!isDone) {
+            settle(false, [prepared](Outcome) { prepared(false); });
+            return;
+        }
+        m_watch.waitUntil(releaseLimit, isLetGo, [this, prepared](bool isInTime) {
+            if (isInTime) {
+                prepared(true);
+            } else {
+                settle(false, [prepared](Outcome) { prepared(false); });
+            }
+        });
+    });
+}
+
+void NetworkManagerWiFi::settle(bool isChanged, Settled settled)
+{
+    if (!m_isReleased) {
+        m_scheduler.onMain(this, [settled = std::move(settled), isChanged] {
+            settled(isChanged ? Outcome::Untold : Outcome::Settled);
+        });
+        return;
+    }
+    if (!m_profile.isEmpty()) {
+        m_reactivation.emplace(m_networkManager, m_profile, m_device.activeConnection);
+    }
+    m_watch.waitUntil(
+        connectLimit,
+        [this](const std::optional<NetworkManager::Device> &device) { return isBack(device); },
+        [settled = std::move(settled)](
+            bool isInTime) { settled(isInTime ? Outcome::Settled : Outcome::NotBack); });
+}
+
+bool NetworkManagerWiFi::isBack(const std::optional<NetworkManager::Device> &device)
+{
+    if (!device) {
+        return false;
+    }
+    if (!device->isManaged) {
+        takeBack(*device);
+        return false;
+    }
+    if (m_isReleased) {
+        m_isReleased = false;
+        m_released.remove(m_name);
+    }
+    return !m_reactivation || m_reactivation->look(*device);
+}
+
+void NetworkManagerWiFi::takeBack(const NetworkManager::Device &device)
+{
+    if (m_isAskedToTakeBack) {
+        return;
+    }
+    m_isAskedToTakeBack = true;
+    m_networkManager.setManaged(device.path, true, this, [this](bool) {
+        // Asked again at the next look, if it is not managed then.
+        m_isAskedToTakeBack = false;
+    });
+}
+
+} // namespace quillon

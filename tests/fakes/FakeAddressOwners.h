@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fakes/FakeScheduler.h"
+#include "platform/AddressOwner.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <utility>
+
+namespace quillon::test {
+
+/// A network manager that owns the interfaces that it was given; the others are nobody's.
+class FakeAddressOwners : public AddressOwners
+{
+public:
+    explicit FakeAddressOwners(FakeScheduler &scheduler)
+        : m_scheduler(scheduler)
+    {
+    }
+
+    void own(const QString &device) { m_owned.append(device); }
+    void keepHold() { m_letsGo = false; }
+    /// It does not answer before answer() is called.
+    void think() { m_isThinking = true; }
+    void answer()
+    {
+        m_isThinking = false;
+        const auto waiting = std::exchange(m_waiting, {});
+        for (const auto &answer : waiting) {
+            m_scheduler.onMain(answer);
+        }
+    }
+    void settleAs(AddressOwner::Outcome outcome) { m_outcome = outcome; }
+    /// Called when it takes the interface back.
+    void whenSettling(std::function<void()> act) { m_whenSettling = std::move(act); }
+    /// "prepare en1", "settle en1 changed", "settle en1 unchanged", "gone en1", in order.
+    const QStringList &journal() const { return m_journal; }
+    int interruptionsFinished() const { return m_interruptionsFinished; }
+
+    void find(const QString &device, Found found) override
+    {
+        found(m_owned.contains(device) ? std::make_unique<Owner>(*this, device) : nullptr);
+    }
+    void finishInterrupted() override { ++m_interruptionsFinished; }
+
+private:
+    class Owner : public AddressOwner
+    {
+    public:
+        Owner(FakeAddressOwners &owners, QString device)
+            : m_owners(owners)
+            , m_device(std::move(device))
+        {
+        }
+        ~Owner() override
+        {
+            if (m_isReleased) {
+                m_owners.note(QStringLiteral("gone ") + m_device);
+            }
+        }
+        QString name() const override { return QStringLiteral("NetworkManager"); }
+        void prepare(Prepared prepared) override
+        {
+            m_owners.note(QStringLiteral("prepare ") + m_device);
+            m_isReleased = m_owners.m_letsGo;
+            m_owners.later([prepared, ready = m_isReleased] { prepared(ready); });
+        }
+        void settle(bool isChanged, Settled settled) override
+        {
+            m_isReleased = false;
+            m_owners.note(QStringLiteral("settle %1 %2")
+                    .arg(m_device,
+                        isChanged ? QStringLiteral("changed") : QStringLiteral("unchanged")));
+            if (m_owners.m_whenSettling) {
+                m_owners.m_whenSettling();
+            }
+            m_owners.later([settled, outcome = m_owners.m_outcome] { settled(outcome); });
+        }
+
+    private:
+        FakeAddressOwners &m_owners;
+        const QString m_device;
+        bool m_isReleased = false;
+    };
+
+    void note(const QString &what) { m_journal.append(what); }
+    void later(const std::function<void()> &answer)
+    {
+        if (m_isThinking) {
+            m_waiting.append(answer);
+        } else {
+            m_scheduler.onMain(answer);
+        }
+    }
+
+    FakeScheduler &m_scheduler;
+    QStringList m_owned;
+    QStringList m_journal;
+    bool m_letsGo = true;
+    bool m_isThinking = false;
+    QList<std::function<void()>> m_waiting;
+    AddressOwner::Outcome m_outcome = AddressOwner::Outcome::Settled;
+    std::function<void()> m_whenSettling;
+    int m_interruptionsFinished = 0;
+};
+
+} // namespace quillon::test

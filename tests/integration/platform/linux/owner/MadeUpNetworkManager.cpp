@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "MadeUpNetworkManager.h"
+
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QMap>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString service = u"org.freedesktop.NetworkManager"_s;
+const QString root = u"/org/freedesktop/NetworkManager"_s;
+
+QVariant object(const QString &path)
+{
+    return QVariant::fromValue(QDBusObjectPath(path));
+}
+
+} // namespace
+
+MadeUpNetworkManager::MadeUpNetworkManager(PrivateBus &bus, Kind kind)
+    : m_bus(bus)
+    , m_kind(kind)
+{
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    begin();
+}
+
+void MadeUpNetworkManager::begin()
+{
+    ++m_life;
+    m_connection = m_bus.open();
+    QDBusConnection connection(m_connection);
+    EXPECT_TRUE(connection.registerVirtualObject(root, this, QDBusConnection::SubPath));
+    EXPECT_TRUE(connection.registerService(service));
+}
+
+void MadeUpNetworkManager::end()
+{
+    QDBusConnection(m_connection).unregisterObject(root, QDBusConnection::UnregisterTree);
+    m_bus.drop(m_connection);
+}
+
+void MadeUpNetworkManager::restart()
+{
+    end();
+    m_activation = 1;
+    begin();
+}
+
+QString MadeUpNetworkManager::name() const
+{
+    return m_kind == Kind::WiFi ? u"wlan0"_s : u"eth0"_s;
+}
+
+QString MadeUpNetworkManager::devicePath() const
+{
+    return root + u"/Devices/%1"_s.arg(m_life);
+}
+
+uint MadeUpNetworkManager::state() const
+{
+    if (!isManaged) {
+        return 10;
+    }
+    return isConnected ? 100 : 30;
+}
+
+void MadeUpNetworkManager::note(const QString &what)
+{
+    whenAsked(what);
+    m_journal.append(what);
+}
+
+bool MadeUpNetworkManager::handleMessage(const QDBusMessage &call, const QDBusConnection &)
+{
+    const QVariant answer = answerTo(call);
+    if (!answer.isValid()) {
+        QDBusConnection(m_connection).send(call.createErrorReply(service + u".Refused"_s, u"No"_s));
+    } else {
+        QDBusConnection(m_connection).send(call.createReply(answer));
+    }
+    return true;
+}
+
+QVariant MadeUpNetworkManager::answerTo(const QDBusMessage &call)
+{
+    if (call.member() == "GetDeviceByIpIface"_L1) {
+        return call.arguments().value(0) == name() ? object(devicePath()) : QVariant();
+    }
+    if (call.member() == "GetPermissions"_L1) {
+        return QVariant::fromValue(QMap<QString, QString>{
+            {u"org.freedesktop.NetworkManager.network-control"_s, permission},
+            {u"org.freedesktop.NetworkManager.reload"_s, u"auth"_s}});
+    }
+    if (call.member() == "ActivateConnection"_L1) {
+        return activate(call) ? object(root + u"/ActiveConnection/%1"_s.arg(m_activation))
+                              : QVariant();
+    }
+    return propertyAnswer(call);
+}
+
+QVariant MadeUpNetworkManager::propertyAnswer(const QDBusMessage &call)
+{
+    if (call.member() == "Get"_L1) {
+        return QVariant::fromValue(QDBusVariant(object(profile())));
+    }
+    if (call.path() != devicePath()) {
+        return {};
+    }
+    if (call.member() == "Set"_L1) {
+        setManaged(call.arguments().value(2).value<QDBusVariant>().variant().toBool());
+        return true;
+    }
+    const QString active = root + u"/ActiveConnection/%1"_s.arg(m_activation);
+    return QVariantMap{{u"Managed"_s, isManaged}, {u"State"_s, state()},
+        {u"DeviceType"_s, static_cast<uint>(m_kind)},
+        {u"ActiveConnection"_s, object(state() == 100 ? active : u"/"_s)}};
+}
+
+void MadeUpNetworkManager::setManaged(bool managed)
+{
+    note(managed ? u"managed true"_s : u"managed false"_s);
+    if (managed || letsGo) {
+        isManaged = managed;
+        isConnected = false;
+    }
+    tellState();
+}
+
+bool MadeUpNetworkManager::activate(const QDBusMessage &call)
+{
+    if (refusals > 0) {
+        --refusals;
+        return false;
+    }
+    note(u"activate "_s + call.arguments().value(0).value<QDBusObjectPath>().path());
+    EXPECT_EQ(call.arguments().value(1).value<QDBusObjectPath>().path(), devicePath());
+    ++m_activation;
+    isConnected = connects;
+    tellState();
+    return true;
+}
+
+void MadeUpNetworkManager::tellState()
+{
+    auto signal =
+        QDBusMessage::createSignal(devicePath(), service + u".Device"_s, u"StateChanged"_s);
+    signal.setArguments({state(), 0U, 0U});
+    QDBusConnection(m_connection).send(signal);
+}
+
+} // namespace quillon::test

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "integration/platform/linux/bus/PrivateBus.h"
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QStringList>
+
+#include <functional>
+
+namespace quillon::test {
+
+/// A program that answers like NetworkManager about one interface, "wlan0" or "eth0". What it
+/// cannot show is how the real one gets along with the kernel.
+class MadeUpNetworkManager : public QDBusVirtualObject
+{
+public:
+    enum class Kind : uint
+    {
+        Ethernet = 1,
+        WiFi = 2,
+    };
+
+    MadeUpNetworkManager(PrivateBus &bus, Kind kind);
+
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &call, const QDBusConnection &) override;
+
+    /// Ends, and comes back as another process that has numbered everything anew and goes by what
+    /// it wrote down: a device that was let go stays so.
+    void restart();
+    void end();
+
+    // What it is like.
+    bool isManaged = true;
+    bool isConnected = true;
+    QString permission = QStringLiteral("yes");
+    bool letsGo = true;   ///< else it says so and keeps the device
+    bool connects = true; ///< else an activation never gets anywhere
+    int refusals = 0;     ///< so many activations are refused first
+    /// Called before it does what it was asked.
+    std::function<void(const QString &what)> whenAsked = [](const QString &) {};
+
+    /// "managed false", "managed true", "activate PROFILE", in order.
+    const QStringList &journal() const { return m_journal; }
+    QString name() const;
+    static QString profile()
+    {
+        return QStringLiteral("/org/freedesktop/NetworkManager/Settings/7");
+    }
+
+private:
+    void begin();
+    void note(const QString &what);
+    QString devicePath() const;
+    uint state() const;
+    QVariant answerTo(const QDBusMessage &call);
+    QVariant propertyAnswer(const QDBusMessage &call);
+    void setManaged(bool managed);
+    bool activate(const QDBusMessage &call);
+    void tellState();
+
+    PrivateBus &m_bus;
+    const Kind m_kind;
+    QString m_connection;
+    QStringList m_journal;
+    int m_life = 0;
+    int m_activation = 1;
+};
+
+} // namespace quillon::test
