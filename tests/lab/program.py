@@ -1,0 +1,58 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The program in the user's session, asked to do what a person does in its window."""
+import os
+import shutil
+import subprocess
+from collections import namedtuple
+
+Changed = namedtuple("Changed", "in_place address seconds")
+FOLDER = "/home/quillon/lab-program"
+
+
+class Program:
+    """With nothing remembered, unless it is `again`."""
+
+    def __init__(self, again=False):
+        if not again:
+            shutil.rmtree(FOLDER, ignore_errors=True)
+            os.mkdir(FOLDER)
+            shutil.chown(FOLDER, "quillon", "quillon")
+        path = os.path.join(os.environ["QUILLON_BUILD"], "tests", "lab", "lab-program")
+        self.process = subprocess.Popen(("as-user", path, FOLDER), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        text=True, bufsize=1)
+
+    def ask(self, *words):
+        self.process.stdin.write("\t".join(words) + "\n")
+        answer = self.process.stdout.readline().rstrip("\n").split("\t")
+        if answer[0] in ("error", ""):
+            raise AssertionError(f"{' '.join(words)}: {' '.join(answer[1:]) or 'the program is gone'}")
+        return answer
+
+    def change(self, device, address):
+        in_place, now, nanoseconds = self.ask("change", device, address)
+        return Changed(in_place == "in place", now, int(nanoseconds) / 1e9)
+
+    def begin_change(self, device, address):
+        self.ask("begin", device, address)
+
+    def messages(self):
+        """The titles that the user was told since the last time."""
+        return self.ask("messages")[1:]
+
+    def kill(self):
+        self.process.kill()
+        self.close()
+
+    def end(self):
+        self.process.stdin.close()
+        self.close()
+
+    def close(self):
+        self.process.wait()
+        self.process.stdout.close()
+        if not self.process.stdin.closed:
+            try:
+                self.process.stdin.close()
+            except BrokenPipeError:
+                pass
