@@ -41,7 +41,7 @@ DesktopPlatform::DesktopPlatform()
     , m_groupSettings(settingsPath(u"orvandel.com.orvandel.Quillon4.plist"_s), m_scheduler,
           [this](const SettingsProblem &problem) { tellOfSettings(problem); })
     , m_userNotifications(m_scheduler)
-    , m_addressOwners(m_scheduler, m_groupSettings)
+    , m_addressOwners(m_scheduler, m_settings, TakeBackGuard::ownCommand())
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)
     , m_helperLink(m_random)
@@ -63,6 +63,7 @@ Platform DesktopPlatform::platform()
         .addressOwners = m_addressOwners,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
+        .sleep = m_sleep,
         .wifi = m_wifi,
         .location = m_location,
         .systemSettings = m_systemSettings,

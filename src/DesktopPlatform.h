@@ -8,6 +8,7 @@
 #include "platform/linux/bus/BusRunningApplications.h"
 #include "platform/linux/bus/DBusHelperLink.h"
 #include "platform/linux/bus/FreedesktopNotifications.h"
+#include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
@@ -15,6 +16,8 @@
 #include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/linux/netlink/RouteReachability.h"
 #include "platform/linux/owner/LinuxAddressOwners.h"
+#include "platform/linux/owner/PortalReachability.h"
+#include "platform/linux/owner/TakeBackGuard.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
 #include "platform/qt/QtScheduler.h"
@@ -54,7 +57,9 @@ private:
     GetifaddrsAddresses m_interfaceAddresses;
     LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges;
-    RouteReachability m_reachability;
+    RouteReachability m_route;
+    PortalReachability m_reachability{m_route};
+    LogindSleep m_sleep;
     Nl80211WiFiClient m_wifi;
     Nl80211LocationAuthorization m_location;
     DesktopSystemSettings m_systemSettings;

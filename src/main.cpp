@@ -56,10 +56,20 @@ UserInterface::Models modelsOf(Features &features)
         features.vendors.field, features.vendors.pane};
 }
 
+int guard(const QString &device, int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    QtScheduler scheduler;
+    return TakeBackGuard::standGuard(device, scheduler);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (const auto device = TakeBackGuard::guardedDevice(argc, argv)) {
+        return guard(*device, argc, argv);
+    }
     QApplication application(argc, argv);
     WindowPreload windowPreload;
     describe(application);

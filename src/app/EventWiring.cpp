@@ -8,6 +8,8 @@
 #include "base/SettingsKeys.h"
 #include "platform/NetworkChangeSource.h"
 #include "platform/Platform.h"
+#include "platform/Reachability.h"
+#include "platform/SystemSleep.h"
 
 #include <QPointer>
 
@@ -249,13 +251,17 @@ void EventWiring::setupNotifications()
     observeBroadcasts();
     // What startup read is what is known; the first rule check looks at all of it.
     m_features.devices.table.forgetAllNews();
-    // The source outlives this.
-    m_platform.networkChanges.start([self = QPointer(this)] {
+    // The sources outlive this.
+    const auto lookAgain = [self = QPointer(this)] {
         if (self) {
             self->m_failedReadings = 0;
             self->postNetworkChanges();
         }
-    });
+    };
+    m_platform.networkChanges.start(lookAgain);
+    // Much can have happened in a sleep, and not all of it is told of.
+    m_platform.sleep.watch(lookAgain);
+    m_platform.reachability.watch(lookAgain);
     // A login item that started us has done its work.
     postTerminateLoginHelper();
 }

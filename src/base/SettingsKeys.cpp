@@ -41,6 +41,7 @@ std::span<const Entry> all()
         {SUAutomaticallyUpdate, Boolean},
         {SUScheduledCheckInterval, Integer},
         {SUFeedURL, String},
+        {releasedDevices, Array},
     };
     return table;
 }

@@ -46,6 +46,7 @@ QUILLON_KEY(SUEnableAutomaticChecks);
 QUILLON_KEY(SUAutomaticallyUpdate);
 QUILLON_KEY(SUScheduledCheckInterval);
 QUILLON_KEY(SUFeedURL);
+QUILLON_KEY(releasedDevices);
 #undef QUILLON_KEY
 
 /// A key and the type that it holds; none where the platform's own value is stored as it is given

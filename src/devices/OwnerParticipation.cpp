@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -18,46 +19,69 @@ OwnerParticipation::OwnerParticipation(AddressOwners &owners, Scheduler &schedul
 
 void OwnerParticipation::carryOut(const QString &device, Change change, End end)
 {
-    m_owners.find(device, [self = QPointer(this), change = std::move(change), end = std::move(end)](
-                              std::unique_ptr<AddressOwner> owner) {
-        if (self && owner) {
-            self->carryOut(std::move(owner), change, end);
-        } else if (self) {
-            change([end](bool isChanged) { end({.isChanged = isChanged}); });
-        }
-    });
+    begin({device, std::move(change), std::move(end)});
 }
 
-void OwnerParticipation::carryOut(
-    std::unique_ptr<AddressOwner> owner, const Change &change, const End &end)
+void OwnerParticipation::begin(const Request &request)
 {
-    AddressOwner &takesPart = *m_takingPart.emplace_back(std::move(owner));
-    takesPart.prepare([this, &takesPart, change, end](bool ready) {
-        if (ready) {
-            change(m_scheduler.replyOnMain<bool>(this,
-                [this, &takesPart, end](bool isChanged) { settle(takesPart, isChanged, end); }));
+    m_owners.find(request.device, [self = QPointer(this), request](
+                                      std::unique_ptr<AddressOwner> owner) {
+        if (!self) {
+            return;
+        }
+        if (self->m_takingPart.contains(request.device)) {
+            // Whoever is asked now may have let go of it for the other change.
+            self->m_waiting.push_back(request);
+        } else if (owner) {
+            self->begin(request, std::move(owner));
         } else {
-            finish(takesPart, {.isRefused = true}, end);
+            request.change([end = request.end](bool isChanged) { end({.isChanged = isChanged}); });
+            self->beginNext(request.device);
         }
     });
 }
 
-void OwnerParticipation::settle(AddressOwner &owner, bool isChanged, const End &end)
+void OwnerParticipation::begin(const Request &request, std::unique_ptr<AddressOwner> owner)
 {
-    owner.settle(isChanged, [this, &owner, isChanged, end](AddressOwner::Outcome settlement) {
-        finish(owner, {.isChanged = isChanged, .settlement = settlement}, end);
+    m_takingPart.emplace(request.device, std::move(owner));
+    ownerOf(request).prepare([this, request](bool ready) {
+        if (ready) {
+            request.change(m_scheduler.replyOnMain<bool>(
+                this, [this, request](bool isChanged) { settle(request, isChanged); }));
+        } else {
+            finish(request, {.isRefused = true});
+        }
     });
 }
 
-void OwnerParticipation::finish(AddressOwner &owner, const Result &result, const End &end)
+void OwnerParticipation::settle(const Request &request, bool isChanged)
+{
+    ownerOf(request).settle(
+        isChanged, [this, request, isChanged](AddressOwner::Outcome settlement) {
+            finish(request, {.isChanged = isChanged, .settlement = settlement});
+        });
+}
+
+void OwnerParticipation::finish(const Request &request, const Result &result)
 {
     Result named = result;
-    named.owner = owner.name();
+    named.owner = ownerOf(request).name();
     // In a turn of its own, as it is the owner who calls.
-    m_scheduler.onMain(this, [this, &owner, named, end] {
-        std::erase_if(m_takingPart, [&owner](const auto &one) { return one.get() == &owner; });
-        end(named);
+    m_scheduler.onMain(this, [this, request, named] {
+        m_takingPart.erase(request.device);
+        request.end(named);
+        beginNext(request.device);
     });
+}
+
+void OwnerParticipation::beginNext(const QString &device)
+{
+    const auto next = std::ranges::find(m_waiting, device, &Request::device);
+    if (next != m_waiting.end()) {
+        const Request request = std::move(*next);
+        m_waiting.erase(next);
+        begin(request);
+    }
 }
 
 } // namespace quillon

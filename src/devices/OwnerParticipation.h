@@ -6,17 +6,19 @@
 
 #include <QObject>
 
+#include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace quillon {
 
 class Scheduler;
 
-/// Has the owner of an interface take part in a change of its address. When this goes, owners take
-/// back what they have let go of, and nothing more is called. Main thread.
+/// Has the owner of an interface take part in a change of its address. Another change of the same
+/// interface waits meanwhile, as its owner has it in no state to be asked. When this goes, owners
+/// take back what they have let go of, and nothing more is called. Main thread.
 class OwnerParticipation : public QObject
 {
     Q_OBJECT
@@ -40,13 +42,24 @@ public:
     void carryOut(const QString &device, Change change, End end);
 
 private:
-    void carryOut(std::unique_ptr<AddressOwner> owner, const Change &change, const End &end);
-    void settle(AddressOwner &owner, bool isChanged, const End &end);
-    void finish(AddressOwner &owner, const Result &result, const End &end);
+    struct Request
+    {
+        QString device;
+        Change change;
+        End end;
+    };
+
+    void begin(const Request &request);
+    void begin(const Request &request, std::unique_ptr<AddressOwner> owner);
+    void settle(const Request &request, bool isChanged);
+    void finish(const Request &request, const Result &result);
+    AddressOwner &ownerOf(const Request &request) { return *m_takingPart.at(request.device); }
+    void beginNext(const QString &device);
 
     AddressOwners &m_owners;
     Scheduler &m_scheduler;
-    std::vector<std::unique_ptr<AddressOwner>> m_takingPart;
+    std::map<QString, std::unique_ptr<AddressOwner>> m_takingPart; ///< by interface
+    std::deque<Request> m_waiting;
 };
 
 } // namespace quillon

@@ -23,6 +23,7 @@ class RunningApplications;
 class Scheduler;
 class SettingsStore;
 class SystemSettings;
+class SystemSleep;
 class UserNotificationCenter;
 class WiFiClient;
 
@@ -55,6 +56,7 @@ struct Platform
     AddressOwners &addressOwners;
     NetworkChangeSource &networkChanges;
     Reachability &reachability;
+    SystemSleep &sleep;
     WiFiClient &wifi;
     LocationAuthorization &location;
     SystemSettings &systemSettings;

@@ -17,6 +17,7 @@
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/FakeSystemSettings.h"
+#include "fakes/FakeSystemSleep.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
 #include "platform/NotificationCenter.h"
@@ -55,6 +56,7 @@ struct FakePlatform
             .addressOwners = owners,
             .networkChanges = networkChanges,
             .reachability = reachability,
+            .sleep = sleep,
             .wifi = wifi,
             .location = location,
             .systemSettings = systemSettings,
@@ -82,6 +84,7 @@ struct FakePlatform
     FakeAddressOwners owners{scheduler};
     FakeNetworkChangeSource networkChanges;
     FakeReachability reachability;
+    FakeSystemSleep sleep;
     FakeWiFiClient wifi;
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;

@@ -4,6 +4,8 @@
 
 #include "platform/Reachability.h"
 
+#include <utility>
+
 namespace quillon::test {
 
 /// The internet, there or not.
@@ -16,8 +18,19 @@ public:
         return reachable;
     }
 
+    void watch(std::function<void()> changed) override { m_changed = std::move(changed); }
+    /// A portal lets us in, or closes.
+    void become(bool isReachable)
+    {
+        reachable = isReachable;
+        m_changed();
+    }
+
     bool reachable = true;
     int questions = 0;
+
+private:
+    std::function<void()> m_changed;
 };
 
 } // namespace quillon::test

@@ -10,9 +10,9 @@
 #include "bench/ServeInLoop.h"
 #include "integration/app/ComposedProgram.h"
 #include "integration/platform/linux/Waiting.h"
+#include "platform/linux/owner/TakeBackGuard.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 
 #include <stdexcept>
 
@@ -27,7 +27,7 @@ class ProgramInLab
 {
 public:
     explicit ProgramInLab(const QString &folder)
-        : m_program(folder, realTime)
+        : m_program(folder, realTime, TakeBackGuard::ownCommand())
     {
         m_program.launch();
     }
@@ -76,6 +76,10 @@ private:
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    if (const auto device = TakeBackGuard::guardedDevice(argc, argv)) {
+        QtScheduler scheduler;
+        return TakeBackGuard::standGuard(*device, scheduler);
+    }
     if (argc != 2) {
         return 2;
     }

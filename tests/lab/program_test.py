@@ -149,8 +149,16 @@ class InterruptedChangeTest(ProgramCase):
 
     def test_the_program_is_killed(self):
         self.program.kill()
-        self.assertFalse(is_managed(WIRELESS))
+        self.expect_back()
         self.let_helper_go_on()
+        self.program = Program(again=True)
+
+    def test_the_program_and_its_guard_are_killed(self):
+        guard, = run("pgrep", "--full", "--", "--take-back").split()
+        os.kill(int(guard), signal.SIGKILL)
+        self.program.kill()
+        self.let_helper_go_on()
+        self.assertFalse(is_managed(WIRELESS))
         self.program = Program(again=True)
         self.expect_back()
 
@@ -158,10 +166,9 @@ class InterruptedChangeTest(ProgramCase):
         run("systemctl", "restart", "NetworkManager.service")
         self.let_helper_go_on()
         self.expect_back()
-        self.assertEqual(address(WIRELESS), NEW[WIRELESS])
-        # The new NetworkManager keeps the IPv4 address that it finds beside the one that it gets.
-        wait_until(lambda: NEW[WIRELESS] in [leases().get(one) for one in ipv4_addresses(WIRELESS)],
-                   "there is no lease for the new address")
+        wait_until(lambda: [leases().get(one) for one in ipv4_addresses(WIRELESS)] == [NEW[WIRELESS]],
+                   lambda: f"{ipv4_addresses(WIRELESS)} are not of the new address alone")
+        self.expect_in_use(WIRELESS, NEW[WIRELESS])
 
 
 class ProfileTest(ProgramCase):

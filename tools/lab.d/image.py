@@ -112,13 +112,21 @@ def make(folder, release, sources):
         shutil.rmtree(making, ignore_errors=True)
 
 
+def is_root_mounted():
+    """As proc(5) tells: the root of a chroot(2) may be a folder of somebody else's mount."""
+    with open("/proc/self/mountinfo") as file:
+        return any(line.split()[4] == "/" for line in file)
+
+
 def bootstrap(release, sources, root, making, log):
     """The packages by mmdebstrap; the kernel's package lies beside them in `making`. It is not installed: of its
     hundreds of megabytes a few are needed, and nothing of its machinery for boot loaders."""
     fetch = ("cd /var/cache/apt/archives && apt-get download $(apt-cache depends linux-image-amd64 | "
              "sed -n 's/^ *Depends: \\(linux-image-[0-9]\\)/\\1/p')")
-    # In namespaces of its own: when we are killed, it goes with its children, and with what it has mounted.
-    run(["unshare", "--mount", "--pid", "--fork", "--kill-child", "--mount-proc",
+    # In namespaces of its own: when we are killed, it goes with its children, and with what it has mounted. In a
+    # changed root that is no mount of its own there is nothing to make private.
+    propagation = "private" if is_root_mounted() else "unchanged"
+    run(["unshare", "--mount", "--propagation", propagation, "--pid", "--fork", "--kill-child", "--mount-proc",
          "mmdebstrap", "--mode=root", "--variant=minbase", f"--include={','.join(wishes())}",
          "--aptopt=APT::Install-Recommends false", "--aptopt=Acquire::Languages none",
          "--aptopt=Acquire::Retries 3", "--dpkgopt=force-unsafe-io",

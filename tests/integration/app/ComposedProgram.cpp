@@ -27,10 +27,11 @@ QVariantMap packagedDefaults()
 
 } // namespace
 
-ComposedProgram::ComposedProgram(const QString &folder, int speed)
+ComposedProgram::ComposedProgram(const QString &folder, int speed, const QStringList &guard)
     : m_scheduler(m_real, speed)
     , settings(folder + u"/settings.plist"_s, m_real, {})
     , groupSettings(folder + u"/group-settings.plist"_s, m_real, {})
+    , m_addressOwners(m_real, settings, guard)
 {
     QuillonAppDelegate::initialize(settings, packagedDefaults());
     m_delegate = std::make_unique<QuillonAppDelegate>(Platform{
@@ -46,6 +47,7 @@ ComposedProgram::ComposedProgram(const QString &folder, int speed)
         .addressOwners = m_addressOwners,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
+        .sleep = m_sleep,
         .wifi = wifi,
         .location = m_location,
         .systemSettings = m_systemSettings,

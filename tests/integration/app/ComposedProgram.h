@@ -13,6 +13,7 @@
 #include "platform/linux/GetrandomSource.h"
 #include "platform/linux/bus/BusRunningApplications.h"
 #include "platform/linux/bus/DBusHelperLink.h"
+#include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
@@ -35,8 +36,9 @@ class ComposedProgram
 {
 public:
     /// `folder` holds its settings and its data, as a user's home does. `speed` is how many times
-    /// faster its clock runs.
-    explicit ComposedProgram(const QString &folder, int speed = 60);
+    /// faster its clock runs. `guard` is the command of TakeBackGuard.
+    explicit ComposedProgram(
+        const QString &folder, int speed = 60, const QStringList &guard = QStringList());
     /// Ends in order.
     ~ComposedProgram();
     ComposedProgram(const ComposedProgram &) = delete;
@@ -72,9 +74,10 @@ private:
     SessionBusNotificationCenter m_distributedNotifications;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;
-    LinuxAddressOwners m_addressOwners{m_real, groupSettings};
+    LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges{m_real};
     RouteReachability m_reachability;
+    LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
     NetworkHttpClient m_http;

@@ -111,6 +111,7 @@ private:
             .addressOwners = fakes.addressOwners,
             .networkChanges = fakes.networkChanges,
             .reachability = fakes.reachability,
+            .sleep = fakes.sleep,
             .wifi = fakes.wifi,
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,

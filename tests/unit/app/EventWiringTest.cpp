@@ -201,6 +201,28 @@ TEST_F(EventWiringBurst, WithoutAnyNewsIsOneNetworkChangeOfNoInterface)
     EXPECT_TRUE(evaluated.isEmpty());
 }
 
+TEST_F(EventWiringBurst, EvaluatesOnceWhenAPortalHasLetUsIn)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    machine.reachability.reachable = false;
+    giveLease(enp1s0);
+    machine.networkChanges.networkChanges();
+    evaluated.clear();
+    machine.reachability.become(true);
+    EXPECT_EQ(evaluated, QStringList(enp1s0));
+    machine.networkChanges.networkChanges();
+    EXPECT_EQ(evaluated, QStringList(enp1s0)) << "once";
+}
+
+TEST_F(EventWiringBurst, AfterASleepNeedsNoEventOfTheNetwork)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    giveLease(enp1s0);
+    machine.sleep.resume();
+    EXPECT_EQ(broadcasts, QStringList(enp1s0));
+    EXPECT_EQ(evaluated, QStringList(enp1s0));
+}
+
 TEST_F(EventWiringBurst, EvaluatesAnInterfaceThatWasHeldBackOnce)
 {
     const QString wlp2s0 = u"wlp2s0"_s;

@@ -237,6 +237,13 @@ TEST_F(LaunchSequenceTest, TheDevicesAreReadAndTheAddressFieldIsFilled)
     EXPECT_EQ(window().fieldText, u"3C:22:FB:00:00:01"_s);
 }
 
+TEST_F(LaunchSequenceTest, WhatAProgramThatDiedHadLetGoIsTakenBack)
+{
+    create();
+    start();
+    EXPECT_EQ(machine.owners.interruptionsFinished(), 1);
+}
+
 TEST_F(LaunchSequenceTest, AnEarlierSelectionStaysAndTheDevicesAreOfferedAtOnce)
 {
     machine.settings.set(keys::currentInterfaceDict, QVariantMap{{record::device, enp2s0}});

@@ -130,6 +130,20 @@ TEST_F(AddressOwnerTest, ThatGivesAnAddressOfItsOwnIsTold)
     EXPECT_EQ(order.filter(u"history"_s), QStringList()) << "no change to remember";
 }
 
+TEST_F(AddressOwnerTest, SeesOneChangeOfItsInterfaceAtATime)
+{
+    owners.think();
+    change(en1, u"02:aa:bb:cc:dd:05"_s);
+    change(en1, wanted);
+    EXPECT_EQ(owners.journal(), QStringList{u"prepare en1"_s});
+    owners.answer();
+    scheduler.runPending();
+    EXPECT_EQ(owners.journal(), (QStringList{u"prepare en1"_s, u"settle en1 changed"_s,
+                                    u"prepare en1"_s, u"settle en1 changed"_s}));
+    EXPECT_EQ(host.addressOf(en1), "02:aa:bb:cc:dd:01"_L1);
+    EXPECT_EQ(titles(), (QStringList{u"Wi-Fi Address Changed"_s, u"Wi-Fi Address Changed"_s}));
+}
+
 TEST_F(AddressOwnerTest, OfOneInterfaceDoesNotHoldUpAnother)
 {
     owners.think();

@@ -13,6 +13,8 @@ class RouteReachability : public Reachability
 {
 public:
     bool isReachable() override;
+    /// It depends on nothing else.
+    void watch(std::function<void()>) override {}
 };
 
 } // namespace quillon

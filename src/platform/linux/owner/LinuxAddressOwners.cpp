@@ -9,19 +9,11 @@
 
 namespace quillon {
 
-namespace {
-
-using namespace std::chrono_literals;
-
-// At login the program may be there before NetworkManager is.
-constexpr auto takeBackLimit = 60s;
-
-} // namespace
-
 LinuxAddressOwners::LinuxAddressOwners(
-    Scheduler &scheduler, SettingsStore &settings, const QDBusConnection &bus)
+    Scheduler &scheduler, SettingsStore &settings, QStringList guard, const QDBusConnection &bus)
     : m_scheduler(scheduler)
     , m_released(settings)
+    , m_guard(std::move(guard))
     , m_networkManager(bus)
 {
 }
@@ -35,7 +27,7 @@ void LinuxAddressOwners::find(const QString &device, Found found)
                 found(nullptr);
             } else if (known->isWiFi) {
                 found(std::make_unique<NetworkManagerWiFi>(
-                    m_networkManager, m_scheduler, m_released, device, *known));
+                    m_networkManager, m_scheduler, m_released, m_guard, device, *known));
             } else {
                 found(std::make_unique<NetworkManagerEthernet>(
                     m_networkManager, m_scheduler, device, *known));
@@ -47,25 +39,13 @@ void LinuxAddressOwners::finishInterrupted()
 {
     const QStringList devices = m_released.names();
     for (const QString &device : devices) {
-        takeBack(device);
+        m_interrupted.push_back(std::make_unique<TakingBack>(
+            m_networkManager, m_scheduler, device, [this, device](bool isInTime) {
+                if (isInTime) {
+                    m_released.remove(device);
+                }
+            }));
     }
-}
-
-void LinuxAddressOwners::takeBack(const QString &device)
-{
-    auto &watch = *m_watches.emplace_back(
-        std::make_unique<DeviceWatch>(m_networkManager, m_scheduler, device));
-    const auto look = [this](const std::optional<NetworkManager::Device> &known) {
-        if (known && !known->isManaged) {
-            m_networkManager.setManaged(known->path, true, this, [](bool) {});
-        }
-        return known && known->isManaged;
-    };
-    watch.waitUntil(takeBackLimit, look, [this, device](bool isInTime) {
-        if (isInTime) {
-            m_released.remove(device);
-        }
-    });
 }
 
 } // namespace quillon

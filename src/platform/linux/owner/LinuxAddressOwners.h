@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/AddressOwner.h"
-#include "platform/linux/owner/DeviceWatch.h"
 #include "platform/linux/owner/NetworkManager.h"
 #include "platform/linux/owner/ReleasedDevices.h"
+#include "platform/linux/owner/TakingBack.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -23,20 +23,19 @@ class LinuxAddressOwners : public QObject, public AddressOwners
     Q_OBJECT
 
 public:
-    /// `bus` is the system's.
-    LinuxAddressOwners(Scheduler &scheduler, SettingsStore &settings,
+    /// `guard` is the command of TakeBackGuard; `bus` is the system's.
+    LinuxAddressOwners(Scheduler &scheduler, SettingsStore &settings, QStringList guard,
         const QDBusConnection &bus = QDBusConnection::systemBus());
 
     void find(const QString &device, Found found) override;
     void finishInterrupted() override;
 
 private:
-    void takeBack(const QString &device);
-
     Scheduler &m_scheduler;
     ReleasedDevices m_released;
+    const QStringList m_guard;
     NetworkManager m_networkManager;
-    std::vector<std::unique_ptr<DeviceWatch>> m_watches; ///< of finishInterrupted()
+    std::vector<std::unique_ptr<TakingBack>> m_interrupted;
 };
 
 } // namespace quillon

@@ -76,6 +76,8 @@ NetworkManager::NetworkManager(QDBusConnection bus)
     , m_watcher(
           new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this))
 {
+    connect(
+        m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManager::ownerChanged);
     connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManager::changed);
     m_bus.connect(service, QString(), deviceInterface, u"StateChanged"_s, this, SIGNAL(changed()));
 }
@@ -146,6 +148,13 @@ void NetworkManager::setManagedNow(const QString &devicePath)
 {
     const auto limit = static_cast<int>(std::chrono::milliseconds(lastCallLimit).count());
     isAnswer(m_bus.call(managedCall(devicePath, true), QDBus::Block, limit));
+}
+
+void NetworkManager::disconnectDevice(
+    const QString &devicePath, QObject *context, const std::function<void(bool isDone)> &reply)
+{
+    callBus(m_bus, context, callTo(devicePath, deviceInterface, u"Disconnect"_s), answerLimit,
+        [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
 }
 
 void NetworkManager::activate(const QString &profile, const QString &devicePath, QObject *context,

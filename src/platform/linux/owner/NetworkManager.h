@@ -53,12 +53,17 @@ public:
         const std::function<void(bool isDone)> &reply);
     /// The same without waiting for the loop, for the end of the program; for seconds at most.
     void setManagedNow(const QString &devicePath);
+    /// Ends the device's connection, with its IP addresses.
+    void disconnectDevice(
+        const QString &devicePath, QObject *context, const std::function<void(bool isDone)> &reply);
     void activate(const QString &profile, const QString &devicePath, QObject *context,
         const std::function<void(bool isBegun)> &reply);
 
 Q_SIGNALS:
     /// A device has another state, or NetworkManager has come or gone.
     void changed();
+    /// It has come or gone; before changed().
+    void ownerChanged();
 
 private:
     QDBusMessage managedCall(const QString &devicePath, bool isManaged) const;

@@ -19,14 +19,18 @@ constexpr auto connectLimit = 60s;
 } // namespace
 
 NetworkManagerWiFi::NetworkManagerWiFi(NetworkManager &networkManager, Scheduler &scheduler,
-    ReleasedDevices &released, const QString &name, NetworkManager::Device device)
+    ReleasedDevices &released, QStringList guard, const QString &name,
+    NetworkManager::Device device)
     : m_networkManager(networkManager)
     , m_scheduler(scheduler)
     , m_released(released)
+    , m_guardCommand(std::move(guard))
     , m_name(name)
     , m_device(std::move(device))
     , m_watch(networkManager, scheduler, name)
 {
+    connect(&networkManager, &NetworkManager::ownerChanged, this,
+        [this] { m_isRestarted = m_isReleased; });
 }
 
 NetworkManagerWiFi::~NetworkManagerWiFi()
@@ -63,8 +67,9 @@ void NetworkManagerWiFi::prepare(Prepared prepared)
 
 void NetworkManagerWiFi::release(const Prepared &prepared)
 {
-    // Noted first: if we die, somebody must know.
+    // First of all: if we die, somebody must know.
     m_released.add(m_name);
+    m_guard.emplace(m_guardCommand, m_name);
     m_isReleased = true;
     m_networkManager.setManaged(m_device.path, false, this, [this, prepared](bool isDone) {
         const auto isLetGo = [](const std::optional<NetworkManager::Device> &device) {
@@ -114,8 +119,27 @@ bool NetworkManagerWiFi::isBack(const std::optional<NetworkManager::Device> &dev
     if (m_isReleased) {
         m_isReleased = false;
         m_released.remove(m_name);
+        m_guard.reset();
     }
-    return !m_reactivation || m_reactivation->look(*device);
+    if (!m_profile.isEmpty() && !(m_reactivation && m_reactivation->look(*device))) {
+        return false;
+    }
+    if (std::exchange(m_isRestarted, false) && m_reactivation) {
+        connectOnceMore(*device);
+        return false;
+    }
+    return true;
+}
+
+void NetworkManagerWiFi::connectOnceMore(const NetworkManager::Device &device)
+{
+    // A new NetworkManager takes the IP address that it finds for somebody's, and keeps it beside
+    // its own: one who sees both would know that the old link-layer address and the new are one's.
+    m_reactivation.reset();
+    m_networkManager.disconnectDevice(
+        device.path, this, [this, before = device.activeConnection](bool) {
+            m_reactivation.emplace(m_networkManager, m_profile, before);
+        });
 }
 
 void NetworkManagerWiFi::takeBack(const NetworkManager::Device &device)

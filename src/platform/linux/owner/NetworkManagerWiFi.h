@@ -6,6 +6,7 @@
 #include "platform/linux/owner/DeviceWatch.h"
 #include "platform/linux/owner/NetworkManager.h"
 #include "platform/linux/owner/Reactivation.h"
+#include "platform/linux/owner/TakeBackGuard.h"
 
 #include <QObject>
 
@@ -25,7 +26,8 @@ class NetworkManagerWiFi : public QObject, public AddressOwner
 public:
     /// `device` as NetworkManager has it now.
     NetworkManagerWiFi(NetworkManager &networkManager, Scheduler &scheduler,
-        ReleasedDevices &released, const QString &name, NetworkManager::Device device);
+        ReleasedDevices &released, QStringList guard, const QString &name,
+        NetworkManager::Device device);
     /// NetworkManager takes the interface back, if it has not.
     ~NetworkManagerWiFi() override;
 
@@ -36,16 +38,20 @@ public:
 private:
     void release(const Prepared &prepared);
     void takeBack(const NetworkManager::Device &device);
+    void connectOnceMore(const NetworkManager::Device &device);
     bool isBack(const std::optional<NetworkManager::Device> &device);
 
     NetworkManager &m_networkManager;
     Scheduler &m_scheduler;
     ReleasedDevices &m_released;
+    const QStringList m_guardCommand;
     const QString m_name;
     const NetworkManager::Device m_device;
     DeviceWatch m_watch;
     QString m_profile;
     bool m_isReleased = false;
+    bool m_isRestarted = false; ///< NetworkManager, since the release
+    std::optional<TakeBackGuard> m_guard;
     bool m_isAskedToTakeBack = false;
     std::optional<Reactivation> m_reactivation;
 };

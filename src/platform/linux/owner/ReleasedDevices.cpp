@@ -2,17 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/owner/ReleasedDevices.h"
 
+#include "base/SettingsKeys.h"
 #include "platform/SettingsStore.h"
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-const QString key = u"releasedDevices"_s;
-
-} // namespace
 
 ReleasedDevices::ReleasedDevices(SettingsStore &settings)
     : m_settings(settings)
@@ -37,12 +30,12 @@ void ReleasedDevices::remove(const QString &device)
 
 QStringList ReleasedDevices::names() const
 {
-    return m_settings.get(key).toStringList();
+    return m_settings.get(keys::releasedDevices).toStringList();
 }
 
 void ReleasedDevices::write(const QStringList &names)
 {
-    m_settings.set(key, QVariantList(names.begin(), names.end()));
+    m_settings.set(keys::releasedDevices, QVariantList(names.begin(), names.end()));
     m_settings.flush();
 }
 

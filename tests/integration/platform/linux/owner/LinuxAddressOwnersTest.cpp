@@ -69,7 +69,7 @@ protected:
     QDBusConnection connection = bus.connect();
     FakeScheduler scheduler;
     FakeSettingsStore settings{scheduler};
-    LinuxAddressOwners owners{scheduler, settings, connection};
+    LinuxAddressOwners owners{scheduler, settings, {}, connection};
     const QString activated = u"activate "_s + MadeUpNetworkManager::profile();
 };
 
@@ -216,6 +216,9 @@ TEST_F(LinuxAddressOwnersTest, TakeTheInterfaceBackFromARestartedNetworkManager)
     networkManager.restart();
     EXPECT_EQ(settle(*owner, true), Outcome::Settled);
     EXPECT_TRUE(networkManager.isConnected);
+    // The IP address from before goes with a disconnection only.
+    EXPECT_EQ(networkManager.journal(), (QStringList{u"managed false"_s, u"managed true"_s,
+                                            activated, u"disconnect"_s, activated}));
 }
 
 TEST_F(LinuxAddressOwnersTest, WaitForANetworkManagerThatIsBeingRestarted)

@@ -102,6 +102,12 @@ QVariant MadeUpNetworkManager::answerTo(const QDBusMessage &call)
         return activate(call) ? object(root + u"/ActiveConnection/%1"_s.arg(m_activation))
                               : QVariant();
     }
+    if (call.member() == "Disconnect"_L1) {
+        note(u"disconnect"_s);
+        isConnected = false;
+        tellState();
+        return true;
+    }
     return propertyAnswer(call);
 }
 

@@ -43,7 +43,7 @@ public:
     /// Called before it does what it was asked.
     std::function<void(const QString &what)> whenAsked = [](const QString &) {};
 
-    /// "managed false", "managed true", "activate PROFILE", in order.
+    /// "managed false", "managed true", "activate PROFILE", "disconnect", in order.
     const QStringList &journal() const { return m_journal; }
     QString name() const;
     static QString profile()

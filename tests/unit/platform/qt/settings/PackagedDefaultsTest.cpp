@@ -48,11 +48,11 @@ TEST_F(PackagedDefaults, EverySwitchHasADefault)
 
 TEST_F(PackagedDefaults, WhatIsLearntOnThisMachineHasNone)
 {
-    for (const QString &key :
-        {keys::deviceDict, keys::currentInterfaceDict, keys::currentWiFiDict, keys::savedNetworks,
-            keys::savedAddresses, keys::externalIPAddress, keys::editingRuleNetwork,
-            keys::iCloudToken, keys::vendorCountValue, keys::vendorIDUpdatedDate,
-            keys::currentVendorData, keys::showKeyCombo, keys::randomKeyCombo, keys::SUFeedURL}) {
+    for (const QString &key : {keys::deviceDict, keys::currentInterfaceDict, keys::currentWiFiDict,
+             keys::savedNetworks, keys::savedAddresses, keys::externalIPAddress,
+             keys::editingRuleNetwork, keys::iCloudToken, keys::vendorCountValue,
+             keys::vendorIDUpdatedDate, keys::currentVendorData, keys::showKeyCombo,
+             keys::randomKeyCombo, keys::SUFeedURL, keys::releasedDevices}) {
         EXPECT_FALSE(defaults.contains(key)) << key.toStdString();
     }
 }
