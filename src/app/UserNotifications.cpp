@@ -10,9 +10,24 @@
 
 namespace quillon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::chrono::milliseconds notificationDelay{1000};
+
+// No Base64 text, so never that of a title.
+QString requestIdentifier(const QString &question)
+{
+    return u"question:"_s + question;
+}
+
+void noteFailure(const std::optional<Error> &error)
+{
+    if (error) {
+        qCWarning(logApp, "Quillon Local Notification failed to send");
+    }
+}
 
 } // namespace
 
@@ -56,12 +71,29 @@ void UserNotifications::sendNotificationWithBody(const QString &title, const QSt
         request.delay = notificationDelay;
         center.removePending(request.identifier);
         center.removeDelivered(request.identifier);
-        center.add(request, [](const std::optional<Error> &error) {
-            if (error) {
-                qCWarning(logApp, "Quillon Local Notification failed to send");
-            }
-        });
+        center.add(request, noteFailure);
     });
+}
+
+void UserNotifications::ask(const Question &question)
+{
+    if (!m_settings.getBool(keys::displayNotifications)) {
+        return;
+    }
+    UserNotificationRequest request;
+    request.identifier = requestIdentifier(question.identifier);
+    request.title = question.title;
+    request.body = question.body;
+    for (const NotificationAction &action : question.actions) {
+        request.actions.append({action.title, action.chosen});
+    }
+    m_center.add(request, noteFailure);
+}
+
+void UserNotifications::withdraw(const QString &identifier)
+{
+    m_center.removePending(requestIdentifier(identifier));
+    m_center.removeDelivered(requestIdentifier(identifier));
 }
 
 } // namespace quillon

@@ -11,7 +11,8 @@ class SettingsStore;
 class UserNotificationCenter;
 
 /// Shows results to the user as desktop notifications, one per title: a newer message replaces the
-/// older one with the same title. Silent while `displayNotifications` is off.
+/// older one with the same title, a newer question the one with its identifier. Silent while
+/// `displayNotifications` is off.
 class UserNotifications : public Notifier
 {
 public:
@@ -23,6 +24,8 @@ public:
     void checkNotificationCenter();
 
     void sendNotificationWithBody(const QString &title, const QString &body) override;
+    void ask(const Question &question) override;
+    void withdraw(const QString &identifier) override;
 
 private:
     SettingsStore &m_settings;

@@ -5,7 +5,9 @@
 #include "base/Notifier.h"
 
 #include <QList>
+#include <gtest/gtest.h>
 
+#include <algorithm>
 #include <mutex>
 #include <ostream>
 
@@ -33,6 +35,32 @@ public:
         const std::lock_guard lock(m_mutex);
         m_messages.append({title, body});
     }
+
+    void ask(const Question &question) override
+    {
+        withdraw(question.identifier);
+        questions.append(question);
+        ++questionsEver;
+    }
+    void withdraw(const QString &identifier) override
+    {
+        questions.removeIf([&](const Question &shown) { return shown.identifier == identifier; });
+    }
+    /// The user answers the question, which then is on the screen no longer.
+    void choose(const QString &identifier, const QString &action)
+    {
+        const auto question = std::ranges::find(questions, identifier, &Question::identifier);
+        ASSERT_NE(question, questions.end());
+        const auto chosen =
+            std::ranges::find(question->actions, action, &NotificationAction::title);
+        ASSERT_NE(chosen, question->actions.end());
+        const auto act = chosen->chosen;
+        questions.erase(question);
+        act();
+    }
+
+    QList<Question> questions; ///< on the screen
+    int questionsEver = 0;
 
     QList<Message> messages() const
     {

@@ -4,6 +4,7 @@
 
 #include "base/Error.h"
 
+#include <QList>
 #include <QString>
 
 #include <chrono>
@@ -12,6 +13,12 @@
 
 namespace quillon {
 
+struct UserNotificationAction
+{
+    QString label; ///< plain text
+    std::function<void()> chosen;
+};
+
 struct UserNotificationRequest
 {
     QString identifier;
@@ -19,6 +26,10 @@ struct UserNotificationRequest
     QString body; ///< plain text; markup in it is shown as it is written
     bool defaultSound = true;
     std::chrono::milliseconds delay{0}; ///< from add() to the moment it is shown
+    /// Shown where the desktop can, in this order. One of them is chosen at most, and not once the
+    /// message was removed or replaced. A message with actions stays until the user has done with
+    /// it.
+    QList<UserNotificationAction> actions = {};
 };
 
 /// Messages that the desktop shows to the user. Main thread only; callbacks come on the main

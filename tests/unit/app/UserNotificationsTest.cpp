@@ -131,6 +131,61 @@ TEST_F(UserNotificationsTest, AMessageThatCannotBeShownIsLogged)
     EXPECT_TRUE(log.contains(u"Quillon Local Notification failed to send"_s));
 }
 
+TEST_F(UserNotificationsTest, AQuestionIsShownAtOnceWithItsActions)
+{
+    QStringList chosen;
+    notifications.ask({u"en1"_s, u"Title"_s, u"body"_s,
+        {{u"Apply again"_s, [&] { chosen << u"again"_s; }},
+            {u"Accept"_s, [&] { chosen << u"accepted"_s; }}}});
+    scheduler.advance(0ms);
+    ASSERT_EQ(center.onScreen.size(), 1);
+    const UserNotificationRequest shown = center.onScreen.first();
+    EXPECT_EQ(shown.title, u"Title"_s);
+    EXPECT_EQ(shown.body, u"body"_s);
+    ASSERT_EQ(shown.actions.size(), 2);
+    EXPECT_EQ(shown.actions.at(1).label, u"Accept"_s);
+    shown.actions.at(1).chosen();
+    EXPECT_EQ(chosen, QStringList{u"accepted"_s});
+}
+
+TEST_F(UserNotificationsTest, AQuestionStandsBesideTheMessagesAndTakesThePlaceOfItsOwnKind)
+{
+    notifications.sendNotificationWithBody(u"en1"_s, u"a message"_s);
+    scheduler.advance(1s);
+    notifications.ask({u"en1"_s, u"en1"_s, u"first"_s, {}});
+    notifications.ask({u"en2"_s, u"en1"_s, u"other"_s, {}});
+    scheduler.advance(0ms);
+    notifications.ask({u"en1"_s, u"en1"_s, u"second"_s, {}});
+    scheduler.advance(0ms);
+    QStringList bodies;
+    for (const UserNotificationRequest &shown : center.onScreen) {
+        bodies << shown.body;
+    }
+    EXPECT_EQ(bodies, (QStringList{u"a message"_s, u"other"_s, u"second"_s}));
+}
+
+TEST_F(UserNotificationsTest, AQuestionIsWithdrawnShownOrNot)
+{
+    notifications.ask({u"en1"_s, u"Title"_s, u"first"_s, {}});
+    notifications.withdraw(u"en1"_s);
+    scheduler.advance(0ms);
+    EXPECT_TRUE(center.everShown.isEmpty());
+
+    notifications.ask({u"en1"_s, u"Title"_s, u"second"_s, {}});
+    scheduler.advance(0ms);
+    notifications.withdraw(u"en1"_s);
+    notifications.withdraw(u"unknown"_s);
+    EXPECT_TRUE(center.onScreen.isEmpty());
+}
+
+TEST_F(UserNotificationsTest, WithNotificationsSwitchedOffThereAreNoQuestions)
+{
+    settings.setBool(keys::displayNotifications, false);
+    notifications.ask({u"en1"_s, u"Title"_s, u"body"_s, {}});
+    scheduler.advance(5s);
+    EXPECT_TRUE(center.everShown.isEmpty());
+}
+
 TEST_F(UserNotificationsTest, AMessageFromAnotherThreadIsShownByTheMainThread)
 {
     scheduler.asBackground([&] { notifications.sendNotificationWithBody(u"Title"_s, u"body"_s); });

@@ -288,7 +288,7 @@ TEST_F(AddressChangerTest, ToTheAddressInUseNeverBegins)
 }
 
 /// Holds up whoever tells the user something until it is let go.
-class SlowNotifier : public Notifier
+class SlowNotifier : public FakeNotifier
 {
 public:
     void sendNotificationWithBody(const QString &, const QString &) override
@@ -343,7 +343,7 @@ TEST_F(AddressChangerAtTheEnd, WaitsForATestOnTheQueue)
 /// A user who switched notifications off: the notifier says nothing.
 TEST_F(AddressChangerTest, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesIt)
 {
-    class Silent : public Notifier
+    class Silent : public FakeNotifier
     {
         void sendNotificationWithBody(const QString &, const QString &) override {}
     } silent;

@@ -8,6 +8,7 @@
 #include <QDBusServiceWatcher>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -28,6 +29,19 @@ QDBusMessage serverCall(const QString &method)
     return QDBusMessage::createMethodCall(serverName, serverPath, serverName, method);
 }
 
+// Only such a message stays on the screen until the user has taken it away.
+constexpr uchar urgencyCritical = 2;
+
+// Keys and labels in turn; an action's key is its number.
+QStringList keysAndLabels(const QList<UserNotificationAction> &actions)
+{
+    QStringList words;
+    for (const UserNotificationAction &action : actions) {
+        words << QString::number(words.size() / 2) << action.label;
+    }
+    return words;
+}
+
 Error malformedAnswer()
 {
     return {busErrorDomain, 0, u"The notification server's answer is malformed"_s};
@@ -41,6 +55,8 @@ FreedesktopNotifications::FreedesktopNotifications(Scheduler &scheduler, QDBusCo
 {
     m_bus.connect(serverName, serverPath, serverName, u"NotificationClosed"_s, this,
         SLOT(closed(quint32, quint32)));
+    m_bus.connect(serverName, serverPath, serverName, u"ActionInvoked"_s, this,
+        SLOT(invoked(quint32, QString)));
     auto *watcher =
         new QDBusServiceWatcher(serverName, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -123,14 +139,15 @@ void FreedesktopNotifications::show(const UserNotificationRequest &request, cons
     const quint32 replaces = delivered.serverId;
     delivered = {number, replaces};
     callBus(m_bus, this, notifyCall(request, replaces), serverLimit,
-        [this, identifier = request.identifier, number, reply](
-            const QDBusMessage &answer) { shown(identifier, number, answer, reply); });
+        [this, request, number, reply](
+            const QDBusMessage &answer) { shown(request, number, answer, reply); });
 }
 
 QDBusMessage FreedesktopNotifications::notifyCall(
     const UserNotificationRequest &request, quint32 replaces) const
 {
     const bool hasMarkup = m_capabilities && m_capabilities->contains(u"body-markup"_s);
+    const bool hasActions = m_capabilities && m_capabilities->contains(u"actions"_s);
     QVariantMap hints{{u"desktop-entry"_s, QString::fromLatin1(contract::applicationName)}};
     if (request.defaultSound) {
         hints.insert(u"sound-name"_s, u"message-new-instant"_s);
@@ -138,17 +155,21 @@ QDBusMessage FreedesktopNotifications::notifyCall(
         hints.insert(u"suppress-sound"_s, true);
     }
     const int serversOwnTime = -1;
+    if (!request.actions.isEmpty()) {
+        hints.insert(u"urgency"_s, QVariant::fromValue(urgencyCritical));
+    }
     QDBusMessage call = serverCall(u"Notify"_s);
     call << u"Quillon"_s << replaces << QString::fromLatin1(contract::applicationName)
          << request.title << (hasMarkup ? request.body.toHtmlEscaped() : request.body)
-         << QStringList() << hints << serversOwnTime;
+         << (hasActions ? keysAndLabels(request.actions) : QStringList()) << hints
+         << serversOwnTime;
     return call;
 }
 
-void FreedesktopNotifications::shown(
-    const QString &identifier, quint64 number, const QDBusMessage &answer, const AddReply &reply)
+void FreedesktopNotifications::shown(const UserNotificationRequest &request, quint64 number,
+    const QDBusMessage &answer, const AddReply &reply)
 {
-    const auto current = m_delivered.find(identifier);
+    const auto current = m_delivered.find(request.identifier);
     const bool isCurrent = current != m_delivered.end() && current->number == number;
     if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != "u"_L1) {
         if (isCurrent) {
@@ -160,6 +181,7 @@ void FreedesktopNotifications::shown(
     const quint32 serverId = answer.arguments().constFirst().toUInt();
     if (isCurrent) {
         current->serverId = serverId;
+        current->actions = request.actions;
     } else if (current == m_delivered.end() || current->serverId != serverId) {
         // It was removed, or replaced by a newer one, while the server was still answering.
         close(serverId);
@@ -192,6 +214,22 @@ void FreedesktopNotifications::closed(quint32 serverId, quint32)
     }
     m_delivered.removeIf(
         [serverId](const auto &delivered) { return delivered.value().serverId == serverId; });
+}
+
+void FreedesktopNotifications::invoked(quint32 serverId, const QString &actionKey)
+{
+    const auto found = std::ranges::find(m_delivered, serverId, &Delivered::serverId);
+    bool isNumber = false;
+    const int number = actionKey.toInt(&isNumber);
+    if (serverId == 0 || found == m_delivered.end() || !isNumber || number < 0 ||
+        number >= found->actions.size()) {
+        return;
+    }
+    const auto chosen = found->actions.at(number).chosen;
+    m_delivered.erase(found);
+    // Not every server takes away what was answered.
+    close(serverId);
+    chosen();
 }
 
 } // namespace quillon

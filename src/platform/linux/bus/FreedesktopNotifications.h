@@ -43,18 +43,20 @@ private:
     struct Delivered
     {
         quint64 number = 0;
-        quint32 serverId = 0; ///< 0 until the server answered
+        quint32 serverId = 0;                       ///< 0 until the server answered
+        QList<UserNotificationAction> actions = {}; ///< none until the server answered
     };
 
     void withCapabilities(CapabilityUse use);
     void show(const UserNotificationRequest &request, const AddReply &reply);
-    void shown(const QString &identifier, quint64 number, const QDBusMessage &answer,
+    void shown(const UserNotificationRequest &request, quint64 number, const QDBusMessage &answer,
         const AddReply &reply);
     QDBusMessage notifyCall(const UserNotificationRequest &request, quint32 replaces) const;
     void close(quint32 serverId);
     void serverChanged();
     // Called through the meta-object system by the bus connection.
     Q_SLOT void closed(quint32 serverId, quint32 reason);
+    Q_SLOT void invoked(quint32 serverId, const QString &actionKey);
 
     Scheduler &m_scheduler;
     QDBusConnection m_bus;

@@ -261,6 +261,116 @@ TEST_F(FreedesktopNotificationsTest, AlertsAreGrantedWhereThereIsAServer)
     EXPECT_FALSE(problem);
 }
 
+/// A message that asks something, and what was answered.
+class FreedesktopNotificationsActions : public FreedesktopNotificationsTest
+{
+protected:
+    void ask(const char *body)
+    {
+        const int before = reply.count;
+        UserNotificationRequest question = request(body, 0ms);
+        const QString asked = question.body;
+        question.actions = {{u"Yes"_s, [this, asked] { answers << u"yes "_s + asked; }},
+            {u"No"_s, [this, asked] { answers << u"no "_s + asked; }}};
+        add(question);
+        scheduler.advance(0ms);
+        ASSERT_TRUE(eventually([&] { return reply.count == before + 1; }));
+    }
+
+    QStringList answers;
+};
+
+TEST_F(FreedesktopNotificationsActions, AreShownInOrderAndStay)
+{
+    NotificationServer server(bus, {u"body"_s, u"actions"_s});
+    ask("first?");
+    const QVariantList arguments = server.notified[0].arguments();
+    EXPECT_EQ(arguments[5].toStringList(), (QStringList{u"0"_s, u"Yes"_s, u"1"_s, u"No"_s}));
+    const auto hints = qdbus_cast<QVariantMap>(arguments[6]);
+    EXPECT_EQ(hints[u"urgency"_s], QVariant::fromValue<uchar>(2));
+    EXPECT_EQ(hints[u"urgency"_s].typeId(), QMetaType::UChar);
+}
+
+TEST_F(FreedesktopNotificationsActions, AreLeftAwayWhereTheServerHasNone)
+{
+    NotificationServer server(bus, {u"body"_s});
+    ask("first?");
+    EXPECT_TRUE(server.notified[0].arguments()[5].toStringList().isEmpty());
+    EXPECT_EQ(server.onScreen.first(), u"first?"_s);
+}
+
+TEST_F(FreedesktopNotificationsActions, OneIsChosenOnceAndTheMessageGoes)
+{
+    NotificationServer server(bus, {u"actions"_s});
+    ask("first?");
+    server.invoke(41, u"1"_s);
+    server.invoke(41, u"0"_s);
+    hearTheServerOut();
+    EXPECT_EQ(answers, QStringList{u"no first?"_s});
+    EXPECT_TRUE(eventually([&] { return server.onScreen.isEmpty(); }));
+}
+
+TEST_F(FreedesktopNotificationsActions, WhatNobodyOfferedIsNotChosen)
+{
+    NotificationServer server(bus, {u"actions"_s});
+    ask("first?");
+    for (const QString &key : {u"2"_s, u"-1"_s, u"default"_s, u""_s, u"0x0"_s}) {
+        server.invoke(41, key);
+    }
+    server.invoke(0, u"0"_s);
+    server.invoke(40, u"0"_s);
+    hearTheServerOut();
+    EXPECT_TRUE(answers.isEmpty());
+}
+
+TEST_F(FreedesktopNotificationsActions, OthersThanTheServerChooseNothing)
+{
+    NotificationServer server(bus, {u"actions"_s});
+    ask("first?");
+    QDBusMessage forged = QDBusMessage::createSignal(
+        NotificationServer::path, NotificationServer::name, u"ActionInvoked"_s);
+    forged << 41U << u"0"_s;
+    QDBusConnection stranger = bus.connect();
+    ASSERT_TRUE(stranger.send(forged));
+    stranger.call(QDBusMessage::createMethodCall(
+        u"org.freedesktop.DBus"_s, u"/"_s, u"org.freedesktop.DBus"_s, u"GetId"_s));
+    hearTheServerOut();
+    EXPECT_TRUE(answers.isEmpty());
+}
+
+TEST_F(FreedesktopNotificationsActions, OfARemovedOrClosedMessageNoneIsChosen)
+{
+    NotificationServer server(bus, {u"actions"_s});
+    ask("first?");
+    center.removeDelivered(u"id"_s);
+    server.invoke(41, u"0"_s);
+    ask("second?");
+    server.close(42);
+    server.invoke(42, u"0"_s);
+    hearTheServerOut();
+    EXPECT_TRUE(answers.isEmpty());
+}
+
+TEST_F(FreedesktopNotificationsActions, OfAReplacedMessageNoneIsTakenForTheNewOnes)
+{
+    NotificationServer server(bus, {u"actions"_s});
+    ask("first?");
+    server.holdsBack = true;
+    UserNotificationRequest question = request("second?", 0ms);
+    question.actions = {{u"Yes"_s, [this] { answers << u"yes second?"_s; }}};
+    add(question);
+    scheduler.advance(0ms);
+    ASSERT_TRUE(eventually([&] { return server.notified.size() == 2; }));
+    server.invoke(41, u"0"_s);
+    server.answerHeld();
+    ASSERT_TRUE(eventually([&] { return reply.count == 2; }));
+    EXPECT_TRUE(answers.isEmpty()) << "the user saw the first one";
+
+    server.invoke(41, u"0"_s);
+    hearTheServerOut();
+    EXPECT_EQ(answers, QStringList{u"yes second?"_s});
+}
+
 TEST(FreedesktopNotificationsWithoutASession, ReportTheirFailureInALaterTurn)
 {
     FakeScheduler scheduler;

@@ -57,6 +57,14 @@ public:
         signal << id << 2U;
         reply(signal);
     }
+    /// A person chooses an action; the message stays, as with some servers.
+    void invoke(quint32 id, const QString &key)
+    {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(path, name, QStringLiteral("ActionInvoked"));
+        signal << id << key;
+        reply(signal);
+    }
     void answerHeld()
     {
         for (const QDBusMessage &answer : held) {
