@@ -118,8 +118,10 @@ void EventWiring::connectAddressChange()
 {
     Features &f = m_features;
     AddressChanger &changer = f.devices.addressChanger;
-    on(changer, &AddressChanger::changeBegan,
-        [&f](const QString &device) { f.rules.execution.addressChangeBegan(device); });
+    on(changer, &AddressChanger::changeBegan, [&f](const QString &device) {
+        f.devices.driftAlarm.changeBegan(device);
+        f.rules.execution.addressChangeBegan(device);
+    });
     // Direct: the history is written between the user's message and the broadcast, on their thread.
     connect(
         &changer, &AddressChanger::addressChanged, this,
@@ -129,6 +131,7 @@ void EventWiring::connectAddressChange()
         Qt::DirectConnection);
     on(changer, &AddressChanger::changeEnded,
         [&f](const QString &device, const ChangeOutcome &outcome) {
+            f.devices.driftAlarm.changeEnded(device, outcome);
             f.rules.execution.addressChangeEnded(device, outcome);
         });
 }
@@ -251,6 +254,7 @@ void EventWiring::setupNotifications()
     observeBroadcasts();
     // What startup read is what is known; the first rule check looks at all of it.
     m_features.devices.table.forgetAllNews();
+    m_features.devices.driftAlarm.begin();
     // The sources outlive this.
     const auto lookAgain = [self = QPointer(this)] {
         if (self) {
@@ -317,7 +321,9 @@ void EventWiring::postNetworkChanges()
     // One change of the network is about one interface. The system tells of several at once.
     const QPointer self(this);
     const std::optional<QStringList> read = m_networkChange.readInterfaces();
-    if (!read) {
+    if (read) {
+        m_features.devices.driftAlarm.look();
+    } else {
         readInterfacesAgain();
     }
     QStringList changed = read.value_or(QStringList());

@@ -12,6 +12,7 @@ std::span<const Entry> all()
         {currentInterfaceDict, Dictionary},
         {lowerCaseHEX, Boolean},
         {displayNotifications, Boolean},
+        {driftAlarm, Boolean},
         {hideOnLaunch, Boolean},
         {showInMenu, Boolean},
         {hideDock, Boolean},
@@ -42,6 +43,7 @@ std::span<const Entry> all()
         {SUScheduledCheckInterval, Integer},
         {SUFeedURL, String},
         {releasedDevices, Array},
+        {givenAddresses, Dictionary},
     };
     return table;
 }

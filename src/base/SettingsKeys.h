@@ -17,6 +17,7 @@ QUILLON_KEY(deviceDict);
 QUILLON_KEY(currentInterfaceDict);
 QUILLON_KEY(lowerCaseHEX);
 QUILLON_KEY(displayNotifications);
+QUILLON_KEY(driftAlarm);
 QUILLON_KEY(hideOnLaunch);
 QUILLON_KEY(showInMenu);
 QUILLON_KEY(hideDock);
@@ -47,6 +48,7 @@ QUILLON_KEY(SUAutomaticallyUpdate);
 QUILLON_KEY(SUScheduledCheckInterval);
 QUILLON_KEY(SUFeedURL);
 QUILLON_KEY(releasedDevices);
+QUILLON_KEY(givenAddresses);
 #undef QUILLON_KEY
 
 /// A key and the type that it holds; none where the platform's own value is stored as it is given

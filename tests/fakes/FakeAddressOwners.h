@@ -23,6 +23,8 @@ public:
 
     void own(const QString &device) { m_owned.append(device); }
     void keepHold() { m_letsGo = false; }
+    /// It never says whose an interface is.
+    void hang() { m_isSilent = true; }
     /// It does not answer before answer() is called.
     void think() { m_isThinking = true; }
     void answer()
@@ -42,6 +44,9 @@ public:
 
     void find(const QString &device, Found found) override
     {
+        if (m_isSilent) {
+            return;
+        }
         found(m_owned.contains(device) ? std::make_unique<Owner>(*this, device) : nullptr);
     }
     void finishInterrupted() override { ++m_interruptionsFinished; }
@@ -100,6 +105,7 @@ private:
     QStringList m_owned;
     QStringList m_journal;
     bool m_letsGo = true;
+    bool m_isSilent = false;
     bool m_isThinking = false;
     QList<std::function<void()>> m_waiting;
     AddressOwner::Outcome m_outcome = AddressOwner::Outcome::Settled;

@@ -12,6 +12,8 @@ DeviceFeature::DeviceFeature(const Platform &platform, Notifier &notifier, XPCMe
     , randomAddress(platform.random, table)
     , addressChanger({platform.settings, platform.scheduler, platform.notifications, notifier,
           helper, platform.addressOwners, table, currentInterface, randomAddress})
+    , driftAlarm({platform.settings, platform.scheduler, notifier, platform.addressOwners, table,
+          addressChanger})
 {
 }
 

@@ -5,6 +5,7 @@
 #include "devices/AddressChanger.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
+#include "devices/DriftAlarm.h"
 #include "devices/RandomAddress.h"
 
 namespace quillon {
@@ -20,6 +21,7 @@ struct DeviceFeature
     CurrentInterface currentInterface;
     RandomAddress randomAddress;
     AddressChanger addressChanger;
+    DriftAlarm driftAlarm;
 };
 
 } // namespace quillon

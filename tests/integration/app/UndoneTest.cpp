@@ -72,6 +72,26 @@ TEST_F(UndoneTest, AFixedAddressThatAnotherProgramPutsBackIsSetAgain)
     EXPECT_EQ(program->helperLink.changes.size(), 2);
 }
 
+TEST_F(UndoneTest, TheUserIsAskedAndHasItAppliedAgain)
+{
+    startProgram();
+    program->delegate().features().devices.addressChanger.updateMacAddressWithAddress(
+        card, u"02:00:5e:10:00:55"_s);
+    ASSERT_TRUE(changesAreRecorded(1));
+    anotherProgramSets(u"02:00:5e:10:00:66"_s);
+    const auto &shown = program->userNotifications.onScreen;
+    const auto question = [&shown] {
+        return std::ranges::find(
+            shown, u"Ethernet shows another Address"_s, &UserNotificationRequest::title);
+    };
+    ASSERT_TRUE(eventually([&] { return question() != shown.end(); }));
+    EXPECT_EQ(question()->body, u"eth5 now has 02:00:5e:10:00:66 in place of 02:00:5e:10:00:55."_s);
+    const auto applyAgain = question()->actions.at(0).chosen;
+    applyAgain();
+    EXPECT_TRUE(eventually([&] { return question() == shown.end(); }));
+    EXPECT_EQ(kernelAddress(), u"02:00:5e:10:00:55"_s);
+}
+
 TEST_F(UndoneTest, AnAddressThatTheUserChoseOnTheVisitStays)
 {
     ASSERT_TRUE(addRule(records, randomOnceRule(card)));

@@ -96,6 +96,30 @@ TEST_F(EventWiringTest, OneSystemNetworkChangeIsExactlyOneBroadcast)
     machine.notifications.removeObserver(token);
 }
 
+TEST_F(EventWiringTest, AnAddressThatSomebodyElseReplacedIsAsked)
+{
+    machine.settings.setBool(keys::driftAlarm, true);
+    const QString device = machine.host.interfaces().constFirst().device;
+    features().devices.addressChanger.updateMacAddressWithAddress(device, u"02:00:5e:00:53:01"_s);
+    machine.scheduler.advance(1s);
+    machine.networkChanges.networkChanges();
+    machine.scheduler.advance(1s);
+    const auto questions = [this] {
+        return std::ranges::count_if(machine.userNotifications.onScreen,
+            [](const UserNotificationRequest &shown) { return !shown.actions.isEmpty(); });
+    };
+    EXPECT_EQ(questions(), 0) << "it was this program's doing";
+
+    machine.host.giveAddress(device, u"02:00:5e:00:53:99"_s);
+    machine.sleep.resume();
+    machine.scheduler.advance(1s);
+    EXPECT_EQ(questions(), 1);
+
+    features().devices.addressChanger.updateMacAddressWithAddress(device, u"02:00:5e:00:53:01"_s);
+    machine.scheduler.advance(1s);
+    EXPECT_EQ(questions(), 0);
+}
+
 class EventWiringBurst : public ProgramOnFakes
 {
 protected:

@@ -52,7 +52,7 @@ TEST_F(PackagedDefaults, WhatIsLearntOnThisMachineHasNone)
              keys::savedNetworks, keys::savedAddresses, keys::externalIPAddress,
              keys::editingRuleNetwork, keys::iCloudToken, keys::vendorCountValue,
              keys::vendorIDUpdatedDate, keys::currentVendorData, keys::showKeyCombo,
-             keys::randomKeyCombo, keys::SUFeedURL, keys::releasedDevices}) {
+             keys::randomKeyCombo, keys::SUFeedURL, keys::releasedDevices, keys::givenAddresses}) {
         EXPECT_FALSE(defaults.contains(key)) << key.toStdString();
     }
 }
@@ -70,6 +70,7 @@ TEST_F(PackagedDefaults, TheProgramCanBeSeenAndSpeaks)
     EXPECT_EQ(defaults.value(keys::showInMenu), QVariant(true));
     EXPECT_EQ(defaults.value(keys::hideDock), QVariant(false));
     EXPECT_EQ(defaults.value(keys::displayNotifications), QVariant(true));
+    EXPECT_EQ(defaults.value(keys::driftAlarm), QVariant(true));
     EXPECT_EQ(defaults.value(keys::historySearchType), QVariant(u"all"_s));
     EXPECT_EQ(defaults.value(keys::defaultTimerMinutes), QVariant(30LL));
 }
