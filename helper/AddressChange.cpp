@@ -24,14 +24,15 @@ bool driverWantsItDown(int error)
 
 } // namespace
 
-AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi)
+AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi, bool leavesFormedAddresses)
 {
+    if ((link.flags & IFF_UP) == 0) {
+        return AddressStrategy::Live;
+    }
     // A Wi-Fi interface has to leave its network, whatever its driver would let pass: going down
     // leaves.
-    if (deviceIsWiFi && (link.flags & IFF_UP) != 0) {
-        return AddressStrategy::DownSetUp;
-    }
-    return AddressStrategy::Live;
+    return deviceIsWiFi || leavesFormedAddresses ? AddressStrategy::DownSetUp
+                                                 : AddressStrategy::Live;
 }
 
 AddressChange::AddressChange(KernelLink &kernel)
@@ -50,8 +51,12 @@ Outcome AddressChange::change(
         return Refusal{contract::error::noSuchDevice,
             asked.name + " is another interface than the one that the request was about."};
     }
+    LinkConfiguration formed;
+    if (const int error = m_kernel.readFormedAddresses(link, formed); error != 0) {
+        return changeFailed(link, "reading the IPv6 addresses", error);
+    }
     Outcome refusal;
-    switch (strategyFor(link, deviceIsWiFi)) {
+    switch (strategyFor(link, deviceIsWiFi, !formed.formedAddresses.empty())) {
     case AddressStrategy::Live:
         refusal = setLive(link, address);
         break;
@@ -108,6 +113,8 @@ Outcome AddressChange::setWhileDown(
         return changeFailed(link, "taking the interface down", error);
     }
     const int setError = m_kernel.setAddress(link.index, address);
+    const int followersError = setError == 0 ? takeFollowersDown(configuration) : 0;
+    const int formedError = setError == 0 ? m_kernel.removeFormedAddresses(configuration) : 0;
     // Before it comes up: no packet leaves by what a stranger answers meanwhile.
     const int neighborError = m_kernel.putNeighborsBack(configuration);
     // Whatever the outcome, the interface is brought up again.
@@ -119,6 +126,12 @@ Outcome AddressChange::setWhileDown(
     if (upError != 0) {
         return changeFailed(link, "bringing the interface up", upError);
     }
+    if (followersError != 0) {
+        return changeFailed(link, "taking the interfaces on top down", followersError);
+    }
+    if (formedError != 0) {
+        return changeFailed(link, "removing the IPv6 addresses of before", formedError);
+    }
     if (neighborError != 0) {
         return changeFailed(link, "putting the static neighbors back", neighborError);
     }
@@ -126,6 +139,22 @@ Outcome AddressChange::setWhileDown(
         return changeFailed(link, "putting addresses and routes back", putBackError);
     }
     return std::nullopt;
+}
+
+// A bridge takes its port's address over and stays up without it: it keeps the IPv6 addresses of
+// before. Putting everything back brings it up again.
+int AddressChange::takeFollowersDown(const LinkConfiguration &configuration)
+{
+    int first = 0;
+    for (const LinkState &before : configuration.linksOnTop) {
+        LinkState now;
+        if (before.formsAddresses && m_kernel.findByIndex(before.index, now) == 0 &&
+            now.address != before.address && (now.flags & IFF_UP) != 0) {
+            const int error = m_kernel.setUp(before.index, false);
+            first = first == 0 ? error : first;
+        }
+    }
+    return first;
 }
 
 Outcome AddressChange::confirm(const LinkState &link, const contract::LinkLayerAddress &address)

@@ -24,6 +24,8 @@ struct LinkState
     int lower = 0;
     /// The index of the bridge, bond or the like that this one is a port of; 0 for none.
     int master = 0;
+    /// The kernel forms IPv6 addresses of this link from its link-layer address (EUI-64).
+    bool formsAddresses = false;
 };
 
 /// What the kernel forgets of an interface and of those on top of it when its address changes or it
@@ -48,6 +50,9 @@ struct LinkConfiguration
     /// Those that a person or a program gave. They are forgotten at every change of the address.
     std::vector<Message> neighbors;
     std::vector<Message> addresses;
+    /// IPv6 addresses formed from the link-layer address, of the link and of those on top that have
+    /// the same one. They would betray it and do not come back.
+    std::vector<Message> formedAddresses;
     /// Nexthop objects, then the groups that they are in.
     std::vector<Message> nexthops;
     /// Those without a gateway first, so that gateways are reachable when their routes come.
@@ -67,9 +72,15 @@ public:
     virtual int setUp(int index, bool up) = 0;
     /// What is forgotten when the address changes: the neighbors alone.
     virtual int readNeighbors(const LinkState &link, LinkConfiguration &configuration) = 0;
+    /// Nothing but the formed addresses of links where the kernel is who forms them: it renews them
+    /// when the link comes up, and not before.
+    virtual int readFormedAddresses(const LinkState &link, LinkConfiguration &configuration) = 0;
     /// What is forgotten when `link` goes down: everything, without what the kernel made of the
     /// addresses of links by itself.
     virtual int readConfiguration(const LinkState &link, LinkConfiguration &configuration) = 0;
+    /// Those that the kernel keeps while a link is down, where it was told to keep addresses. Tries
+    /// everything and returns the first failure.
+    virtual int removeFormedAddresses(const LinkConfiguration &configuration) = 0;
     /// Also while the link is down. Replaces what the kernel has learned meanwhile. Tries
     /// everything and returns the first failure.
     virtual int putNeighborsBack(const LinkConfiguration &configuration) = 0;

@@ -19,6 +19,21 @@ constexpr std::size_t aligned(std::size_t size)
     return (size + boundary - 1) / boundary * boundary;
 }
 
+int send(NetlinkSocket &socket, int type, int flags, const Message &body)
+{
+    const NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
+    if (!message ||
+        nlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, type, 0, flags) == nullptr) {
+        return ENOMEM;
+    }
+    // The body is what the kernel would have sent after the header.
+    auto *data = const_cast<std::uint8_t *>(body.data());
+    if (nlmsg_append(message.get(), data, body.size(), NLMSG_ALIGNTO) < 0) {
+        return ENOMEM;
+    }
+    return socket.request(message).error;
+}
+
 } // namespace
 
 void append(Message &body, const void *data, std::size_t size)
@@ -64,19 +79,15 @@ Message without(const Message &body, std::size_t headerSize, std::initializer_li
 
 int create(NetlinkSocket &socket, int type, int flags, const Message &body)
 {
-    const NetlinkMessage message{nlmsg_alloc_size(body.size() + NLMSG_HDRLEN + NLMSG_ALIGNTO)};
-    if (!message || nlmsg_put(message.get(), NL_AUTO_PORT, NL_AUTO_SEQ, type, 0,
-                        NLM_F_CREATE | flags) == nullptr) {
-        return ENOMEM;
-    }
-    // The body is what the kernel would have sent after the header.
-    auto *data = const_cast<std::uint8_t *>(body.data());
-    if (nlmsg_append(message.get(), data, body.size(), NLMSG_ALIGNTO) < 0) {
-        return ENOMEM;
-    }
-    const int error = socket.request(message).error;
+    const int error = send(socket, type, NLM_F_CREATE | flags, body);
     // A link that has gone meanwhile has nothing to restore.
     return error == EEXIST || error == ENODEV ? 0 : error;
+}
+
+int remove(NetlinkSocket &socket, int type, const Message &body)
+{
+    const int error = send(socket, type, 0, body);
+    return error == EADDRNOTAVAIL || error == ENODEV ? 0 : error;
 }
 
 } // namespace quillon

@@ -27,6 +27,10 @@ ByteSpan attributesOf(const LinkConfiguration::Message &body, std::size_t header
 LinkConfiguration::Message without(const LinkConfiguration::Message &body, std::size_t headerSize,
     std::initializer_list<int> types);
 
+/// Has the kernel remove what `body` describes: `type` is RTM_DEL…. Returns 0 or the kernel's
+/// errno; what is not there, or belongs to an interface that has gone, is no error.
+int remove(NetlinkSocket &socket, int type, const LinkConfiguration::Message &body);
+
 /// Has the kernel create what `body` describes: `type` is RTM_NEW…, `flags` NLM_F_… beside
 /// NLM_F_CREATE. Returns 0 or the kernel's errno; what is there already, or belongs to an interface
 /// that has gone, is no error.

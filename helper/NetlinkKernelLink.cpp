@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <linux/if_link.h>
 #include <linux/neighbour.h>
 #include <linux/nexthop.h>
 #include <linux/rtnetlink.h>
@@ -38,6 +39,13 @@ NetlinkMessage linkMessage(int type, int index, unsigned change = 0, unsigned fl
     return netlinkMessage(type, 0, header);
 }
 
+bool formsAddresses(const NetlinkAttributes<IFLA_MAX> &link)
+{
+    const NetlinkAttributes<AF_INET6> families(link.bytes(IFLA_AF_SPEC));
+    const NetlinkAttributes<IFLA_INET6_MAX> ipv6(families.bytes(AF_INET6));
+    return ipv6.value<std::uint8_t>(IFLA_INET6_ADDR_GEN_MODE) == IN6_ADDR_GEN_MODE_EUI64;
+}
+
 bool readLink(const nlmsghdr &message, LinkState &state)
 {
     const auto link = headerOf<ifinfomsg>(message);
@@ -53,6 +61,7 @@ bool readLink(const nlmsghdr &message, LinkState &state)
     // An index of another namespace is no link of ours.
     state.lower =
         attributes.has(IFLA_LINK_NETNSID) ? 0 : attributes.value<int>(IFLA_LINK).value_or(0);
+    state.formsAddresses = formsAddresses(attributes);
     state.address = {};
     if (const ByteSpan address = attributes.bytes(IFLA_ADDRESS);
         address.size() == state.address.size()) {
@@ -71,6 +80,15 @@ std::vector<LinkState> withLinksOnTop(const LinkState &link, const LinkConfigura
     std::vector<LinkState> links{link};
     links.insert(links.end(), configuration.linksOnTop.begin(), configuration.linksOnTop.end());
     return links;
+}
+
+/// Of these links, the first and those on top of it that have the same address: they follow it.
+std::vector<LinkState> thoseThatFollow(const std::vector<LinkState> &links)
+{
+    std::vector<LinkState> found;
+    std::copy_if(links.begin(), links.end(), std::back_inserter(found),
+        [&](const LinkState &link) { return link.address == links.front().address; });
+    return found;
 }
 
 /// The kernel appends IPv4 addresses to its list, but puts IPv6 addresses at the head of theirs.
@@ -186,6 +204,20 @@ int NetlinkKernelLink::readNeighbors(const LinkState &link, LinkConfiguration &c
     return 0;
 }
 
+int NetlinkKernelLink::readFormedAddresses(const LinkState &link, LinkConfiguration &configuration)
+{
+    configuration = {};
+    std::vector<LinkState> all;
+    if (const int error = readLinks(all); error != 0) {
+        return error;
+    }
+    configuration.linksOnTop = linksOnTop(link, all);
+    auto links = thoseThatFollow(withLinksOnTop(link, configuration));
+    std::erase_if(links, [](const LinkState &one) { return !one.formsAddresses; });
+    return readTable(netlinkMessage(RTM_GETADDR, NLM_F_DUMP, ifaddrmsg{}), formedAddress, links,
+        configuration.formedAddresses);
+}
+
 int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguration &configuration)
 {
     int error = readNeighbors(link, configuration);
@@ -193,6 +225,10 @@ int NetlinkKernelLink::readConfiguration(const LinkState &link, LinkConfiguratio
     if (error == 0) {
         error = readTable(netlinkMessage(RTM_GETADDR, NLM_F_DUMP, ifaddrmsg{}), addressToPutBack,
             links, configuration.addresses);
+    }
+    if (error == 0) {
+        error = readTable(netlinkMessage(RTM_GETADDR, NLM_F_DUMP, ifaddrmsg{}), formedAddress,
+            thoseThatFollow(links), configuration.formedAddresses);
     }
     if (error == 0) {
         error = readRoutes(links, configuration);
@@ -232,6 +268,16 @@ int NetlinkKernelLink::restoreUp(const LinkState &before)
         return 0;
     }
     return setUp(before.index, (before.flags & IFF_UP) != 0);
+}
+
+int NetlinkKernelLink::removeFormedAddresses(const LinkConfiguration &configuration)
+{
+    int first = 0;
+    for (const auto &address : configuration.formedAddresses) {
+        const int error = remove(m_socket, RTM_DELADDR, address);
+        first = first == 0 ? error : first;
+    }
+    return first;
 }
 
 int NetlinkKernelLink::putNeighborsBack(const LinkConfiguration &configuration)

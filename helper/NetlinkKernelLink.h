@@ -19,7 +19,9 @@ public:
     int setAddress(int index, const contract::LinkLayerAddress &address) override;
     int setUp(int index, bool up) override;
     int readNeighbors(const LinkState &link, LinkConfiguration &configuration) override;
+    int readFormedAddresses(const LinkState &link, LinkConfiguration &configuration) override;
     int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override;
+    int removeFormedAddresses(const LinkConfiguration &configuration) override;
     int putNeighborsBack(const LinkConfiguration &configuration) override;
     int putBack(const LinkConfiguration &configuration) override;
 

@@ -24,6 +24,19 @@ using NeighborAttributes = NetlinkAttributes<NDA_MAX>;
 constexpr std::uint32_t settableAddressFlags =
     IFA_F_NODAD | IFA_F_HOMEADDRESS | IFA_F_MANAGETEMPADDR | IFA_F_NOPREFIXROUTE | IFA_F_MCAUTOJOIN;
 
+bool kernelDeclaresIts(const AddressAttributes &attributes)
+{
+    // Kernels since 5.18 say which are their own, also those of an earlier link-layer address.
+    const auto origin = attributes.value<std::uint8_t>(IFA_PROTO).value_or(IFAPROT_UNSPEC);
+    return origin == IFAPROT_KERNEL_RA || origin == IFAPROT_KERNEL_LL;
+}
+
+/// What the identifier of an EUI-48 has in its middle; few others do.
+bool isFormedFromSomeLinkAddress(ByteSpan address)
+{
+    return address.size() == 16 && address[11] == std::byte{0xff} && address[12] == std::byte{0xfe};
+}
+
 bool isFormedFromLinkAddress(ByteSpan address, const contract::LinkLayerAddress &link)
 {
     // RFC 4291, appendix A: the interface identifier of an EUI-48.
@@ -39,11 +52,8 @@ bool kernelMakesAddress(const ifaddrmsg &header, const AddressAttributes &attrib
     if (header.ifa_family != AF_INET6) {
         return false;
     }
-    // Kernels since 5.18 say which are their own, also those of an earlier link-layer address.
-    const auto origin = attributes.value<std::uint8_t>(IFA_PROTO).value_or(IFAPROT_UNSPEC);
-    const bool declared = origin == IFAPROT_KERNEL_RA || origin == IFAPROT_KERNEL_LL;
     const bool derived = (flags & (IFA_F_TEMPORARY | IFA_F_STABLE_PRIVACY)) != 0;
-    return declared || derived ||
+    return kernelDeclaresIts(attributes) || derived ||
            isFormedFromLinkAddress(attributes.bytes(IFA_ADDRESS), link.address);
 }
 
@@ -102,6 +112,25 @@ std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState
         }
     }
     appendNumber(body, IFA_FLAGS, flags & settableAddressFlags);
+    return body;
+}
+
+std::optional<Message> formedAddress(const nlmsghdr *message, const LinkState &link)
+{
+    const auto header = headerOf<ifaddrmsg>(*message);
+    if (message->nlmsg_type != RTM_NEWADDR || !header || header->ifa_family != AF_INET6 ||
+        static_cast<int>(header->ifa_index) != link.index) {
+        return std::nullopt;
+    }
+    const AddressAttributes attributes(attributesOf<ifaddrmsg>(*message));
+    const ByteSpan address = attributes.bytes(IFA_ADDRESS);
+    if (!isFormedFromLinkAddress(address, link.address) &&
+        !(kernelDeclaresIts(attributes) && isFormedFromSomeLinkAddress(address))) {
+        return std::nullopt;
+    }
+    Message body;
+    append(body, &*header, sizeof *header);
+    appendAttribute(body, attributes.find(IFA_ADDRESS));
     return body;
 }
 

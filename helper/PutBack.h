@@ -20,6 +20,12 @@ namespace quillon {
 std::optional<LinkConfiguration::Message> addressToPutBack(
     const nlmsghdr *message, const LinkState &link);
 
+/// The IPv6 address in `message` as a body for RTM_DELADDR. None when it is not of `link`, or was
+/// formed from no link-layer address: not from that of `link`, nor by the kernel from an earlier
+/// one.
+std::optional<LinkConfiguration::Message> formedAddress(
+    const nlmsghdr *message, const LinkState &link);
+
 /// None when `message` is not a neighbor of `link`, or one that the kernel learned or made by
 /// itself. Static entries keep a spoofed answer from being believed.
 std::optional<LinkConfiguration::Message> neighborToPutBack(

@@ -102,6 +102,16 @@ public:
         m_lastRead = link.index;
         return failsToRead;
     }
+    int readFormedAddresses(const LinkState &link, LinkConfiguration &configuration) override
+    {
+        configuration.formedAddresses = m_interfaces[link.index].configuration.formedAddresses;
+        return failsToReadFormed;
+    }
+    int removeFormedAddresses(const LinkConfiguration &configuration) override
+    {
+        formedRemoved = configuration.formedAddresses;
+        return failsToRemoveFormed;
+    }
     int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override
     {
         steps.push_back("read");
@@ -137,6 +147,9 @@ public:
     std::vector<std::string> steps;
     std::map<std::string, std::string> alternativeNames;
     int failsToRead = 0;
+    int failsToReadFormed = 0;
+    int failsToRemoveFormed = 0;
+    std::vector<LinkConfiguration::Message> formedRemoved;
     int failsToGoDown = 0;
     int failsToComeUp = 0;
     int failsToPutBack = 0;

@@ -126,6 +126,71 @@ TEST_F(ChangeTest, ofAWiFiInterfaceForgetsTheKernelsAddressOfBefore)
     EXPECT_THAT(outputOf("ip -6 addr show dev enp1s0"), Not(HasSubstr("fe80::200:5eff:fe00:5301")));
 }
 
+std::string ipv6Of(const std::string &device)
+{
+    return outputOf("ip -o -6 addr show dev " + device);
+}
+
+TEST_F(ChangeTest, leavesNoIPv6AddressThatTheKernelFormedFromTheAddressOfBefore)
+{
+    outputOf("ip -6 addr add fd00:db8:1::5/64 dev enp1s0 nodad;"
+             "ip -6 route add fd00:db8:3::/64 via fd00:db8::1 dev enp1s0 metric 300");
+    const auto routes = outputOf("ip route show dev enp1s0");
+    for (const auto &[address, identifier] : {std::pair{newAddress, "fe80::11:22ff:fe33:4455"},
+             std::pair{"02:00:00:00:00:77", "fe80::ff:fe00:77"}}) {
+        const auto before = outputOf(
+            "ip -o -6 addr show dev enp1s0 scope link | sed 's/.* \\(fe80[^/]*\\).*/\\1/'");
+        EXPECT_EQ(quillon.change("enp1s0", address), BusClient::done);
+        EXPECT_EQ(kernelAddress("enp1s0"), address);
+        EXPECT_TRUE(waitUntil([&, wanted = identifier] {
+            return ipv6Of("enp1s0").find(wanted) != std::string::npos;
+        })) << ipv6Of("enp1s0");
+        EXPECT_THAT(ipv6Of("enp1s0"), Not(HasSubstr(before.substr(0, before.find('\n')))));
+    }
+    EXPECT_THAT(ipv6Of("enp1s0"), HasSubstr("fd00:db8:1::5/64"));
+    EXPECT_EQ(outputOf("ip route show dev enp1s0"), routes);
+    EXPECT_THAT(outputOf("ip -6 route show dev enp1s0"), HasSubstr("fd00:db8:3::/64"));
+}
+
+TEST_F(ChangeTest, leavesNoneAlsoWhereTheKernelKeepsAddressesWhileDown)
+{
+    outputOf("sysctl -qw net.ipv6.conf.enp1s0.keep_addr_on_down=1;"
+             "ip -6 addr add fd00:db8:9::200:5eff:fe00:5301/64 dev enp1s0 nodad;"
+             "ip -6 addr add fd00:db8:9::7/64 dev enp1s0 nodad");
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_THAT(ipv6Of("enp1s0"),
+        AllOf(Not(HasSubstr("200:5eff:fe00:5301")), HasSubstr("fd00:db8:9::7/64")));
+}
+
+TEST_F(ChangeTest, staysLiveWhereSomebodyElseFormsTheIPv6Addresses)
+{
+    // As a network manager has it. What it formed would be gone if the interface had been down.
+    outputOf("ip link set enp1s0 addrgenmode none");
+    const auto before = ipv6Of("enp1s0");
+    ASSERT_THAT(before, HasSubstr("fe80::200:5eff:fe00:5301"));
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_EQ(kernelAddress("enp1s0"), newAddress);
+    EXPECT_THAT(ipv6Of("enp1s0"), HasSubstr("fe80::200:5eff:fe00:5301"));
+}
+
+TEST_F(ChangeTest, renewsTheIPv6AddressOfABridgeThatTakesItsPortsAddress)
+{
+    outputOf("ip link add brx type bridge; ip link set enp2s0 master brx; ip link set brx up;"
+             "ip addr add 203.0.113.1/24 dev brx; ip route add 198.18.9.0/24 via 203.0.113.2");
+    ASSERT_EQ(kernelAddress("brx"), kernelAddress("enp2s0"));
+    ASSERT_TRUE(waitUntil([] { return ipv6Of("brx").find("fe80::") != std::string::npos; }));
+    const auto before = ipv6Of("brx");
+    const auto identifier =
+        before.substr(before.find("fe80::"), before.find("/64") - before.find("fe80::"));
+    EXPECT_EQ(quillon.change("enp2s0", newAddress), BusClient::done);
+    EXPECT_EQ(kernelAddress("brx"), newAddress);
+    EXPECT_TRUE(waitUntil([] {
+        return ipv6Of("brx").find("fe80::11:22ff:fe33:4455") != std::string::npos;
+    })) << ipv6Of("brx");
+    EXPECT_THAT(ipv6Of("brx"), Not(HasSubstr(identifier + "/")));
+    EXPECT_THAT(outputOf("ip route show dev brx"), HasSubstr("198.18.9.0/24 via 203.0.113.2"));
+}
+
 /// Neighbors of the interface that a person or a program gave, in the order of their addresses.
 std::string neighborsOf(const std::string &device)
 {
@@ -159,6 +224,7 @@ protected:
 
 TEST_F(ChangeTestNeighbors, thatAreStaticAreKeptByAChangeMadeLive)
 {
+    outputOf("ip link set enp1s0 addrgenmode none");
     EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
     EXPECT_EQ(neighborsOf("enp1s0"), before);
     EXPECT_THAT(outputOf("ip neigh show nud all dev enp1s0"), Not(HasSubstr("192.0.2.4")));

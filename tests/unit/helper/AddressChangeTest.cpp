@@ -42,6 +42,46 @@ TEST_F(AddressChangeTest, isMadeLiveWhereTheDriverAllows)
     EXPECT_EQ(kernel.named("enp1s0").state.address, wanted);
 }
 
+TEST_F(AddressChangeTest, takesTheInterfaceDownWhereIPv6AddressesOfBeforeWouldStay)
+{
+    auto &interface = kernel.add("enp1s0");
+    interface.configuration.formedAddresses = {{7, 8}};
+    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_THAT(kernel.steps,
+        ElementsAre("read", "down", "set while down", "put neighbors back", "up", "put back"));
+    // A kernel that was told to keep addresses keeps them while the interface is down.
+    EXPECT_THAT(kernel.formedRemoved, ElementsAre(LinkConfiguration::Message{7, 8}));
+}
+
+TEST_F(AddressChangeTest, takesThoseOnTopDownThatTookTheAddressOverAndStayedUp)
+{
+    auto &interface = kernel.add("enp1s0");
+    interface.configuration.formedAddresses = {{7, 8}};
+    // All have its old address; the first two show another one now.
+    for (const char *name : {"br0", "br1", "br2", "br3"}) {
+        auto &onTop = kernel.add(name);
+        onTop.state.formsAddresses = true;
+        interface.configuration.linksOnTop.push_back(onTop.state);
+    }
+    kernel.named("br0").state.address = wanted;
+    kernel.named("br1").state.address = wanted;
+    kernel.named("br1").state.flags = 0;
+    kernel.named("br2").state.address = wanted;
+    interface.configuration.linksOnTop[2].formsAddresses = false;
+    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_THAT(kernel.steps, ElementsAre("read", "down", "set while down", "down",
+                                  "put neighbors back", "up", "put back"));
+    EXPECT_EQ(kernel.named("br0").state.flags & IFF_UP, 0U);
+}
+
+TEST_F(AddressChangeTest, isNotMadeWhereItIsUnknownWhichAddressesWouldStay)
+{
+    kernel.add("enp1s0");
+    kernel.failsToReadFormed = EINTR;
+    EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
+    EXPECT_THAT(kernel.steps, IsEmpty());
+}
+
 TEST_F(AddressChangeTest, putsStaticNeighborsBackInEveryCase)
 {
     const std::vector<LinkConfiguration::Message> neighbors{{1, 2}, {3}};
@@ -143,6 +183,9 @@ TEST_F(AddressChangeTest, saysWhichStepFailed)
     EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("bringing the interface up"));
     kernel.failsToComeUp = 0;
     kernel.named("wlp2s0").state.flags |= IFF_UP;
+    kernel.failsToRemoveFormed = ENOMEM;
+    EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("removing the IPv6 addresses"));
+    kernel.failsToRemoveFormed = 0;
     kernel.failsToPutBack = EINVAL;
     EXPECT_THAT(change("wlp2s0", true)->message, HasSubstr("putting addresses and routes back"));
     kernel.failsToPutNeighborsBack = ENOBUFS;

@@ -81,6 +81,47 @@ TEST(PutBackAddress, leavesToTheKernelWhatTheKernelMade)
     }
 }
 
+TEST(PutBackFormedAddress, isWhatWasFormedFromTheLinkAddressWhoeverDidIt)
+{
+    auto message = address(AF_INET6);
+    message.with(IFA_ADDRESS, formedIPv6);
+    const auto body = formedAddress(message.header(), ourLink());
+    ASSERT_TRUE(body);
+    EXPECT_EQ(attributeOf<ifaddrmsg>(*body, IFA_ADDRESS), formedIPv6);
+    EXPECT_EQ(reinterpret_cast<const ifaddrmsg *>(body->data())->ifa_prefixlen, 24);
+}
+
+TEST(PutBackFormedAddress, isWhatTheKernelFormedFromAnEarlierLinkAddress)
+{
+    Bytes ofAnother = formedIPv6;
+    ofAnother[15] ^= 1;
+    for (std::uint8_t origin : {std::uint8_t{IFAPROT_KERNEL_RA}, std::uint8_t{IFAPROT_KERNEL_LL}}) {
+        auto message = address(AF_INET6);
+        message.with(IFA_ADDRESS, ofAnother).with(IFA_PROTO, Bytes{origin});
+        EXPECT_TRUE(formedAddress(message.header(), ourLink())) << int{origin};
+    }
+    auto given = address(AF_INET6);
+    given.with(IFA_ADDRESS, ofAnother);
+    EXPECT_FALSE(formedAddress(given.header(), ourLink())) << "it may be a person's choice";
+}
+
+TEST(PutBackFormedAddress, isNothingElse)
+{
+    auto temporary = address(AF_INET6);
+    temporary.with(IFA_ADDRESS, otherIPv6)
+        .with(IFA_FLAGS, unsigned{IFA_F_TEMPORARY})
+        .with(IFA_PROTO, Bytes{IFAPROT_KERNEL_RA});
+    EXPECT_FALSE(formedAddress(temporary.header(), ourLink()));
+    auto another = address(AF_INET6, ourIndex + 1);
+    another.with(IFA_ADDRESS, formedIPv6);
+    EXPECT_FALSE(formedAddress(another.header(), ourLink()));
+    auto ipv4 = address(AF_INET);
+    ipv4.with(IFA_ADDRESS, ourIPv4);
+    EXPECT_FALSE(formedAddress(ipv4.header(), ourLink()));
+    auto without = address(AF_INET6);
+    EXPECT_FALSE(formedAddress(without.header(), ourLink()));
+}
+
 TEST(PutBackAddress, keepsALinkLocalAddressThatAPersonGave)
 {
     auto message = address(AF_INET6);
