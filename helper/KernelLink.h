@@ -49,6 +49,7 @@ struct LinkConfiguration
     std::vector<LinkState> linksOnTop;
     /// Those that a person or a program gave. They are forgotten at every change of the address.
     std::vector<Message> neighbors;
+    /// Of these the kernel forgets the IPv6 ones; the IPv4 ones tell which routes can come back.
     std::vector<Message> addresses;
     /// IPv6 addresses formed from the link-layer address, of the link and of those on top that have
     /// the same one. They would betray it and do not come back.

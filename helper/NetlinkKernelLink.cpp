@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
+#include <linux/if_addr.h>
 #include <linux/if_link.h>
 #include <linux/neighbour.h>
 #include <linux/nexthop.h>
@@ -99,6 +101,23 @@ void restoreOrder(std::vector<LinkConfiguration::Message> &addresses)
     std::reverse(firstIPv6, addresses.end());
 }
 
+bool isIPv4(const LinkConfiguration::Message &address)
+{
+    return address.front() == AF_INET;
+}
+
+/// Whether `message` is about the IPv4 address `before`, of the same link.
+bool isSameIPv4(const nlmsghdr &message, const LinkConfiguration::Message &before)
+{
+    const auto now = headerOf<ifaddrmsg>(message);
+    ifaddrmsg then{};
+    std::memcpy(&then, before.data(), std::min(before.size(), sizeof then));
+    const NetlinkAttributes<IFA_MAX> ofNow(attributesOf<ifaddrmsg>(message));
+    const NetlinkAttributes<IFA_MAX> ofThen(attributesOf(before, sizeof then));
+    return message.nlmsg_type == RTM_NEWADDR && now && now->ifa_index == then.ifa_index &&
+           std::ranges::equal(ofNow.bytes(IFA_LOCAL), ofThen.bytes(IFA_LOCAL));
+}
+
 void logLosses(const LinkConfiguration &configuration, const NetlinkRoutes &routes)
 {
     const auto logLoss = [&](const char *what, int count) {
@@ -109,6 +128,8 @@ void logLosses(const LinkConfiguration &configuration, const NetlinkRoutes &rout
     };
     logLoss("routes put back without their source address, which cannot be used now",
         routes.sourcesLost());
+    logLoss("routes that went with an IPv4 address that was taken away meanwhile",
+        routes.takenWithAddress());
     logLoss("nexthop objects and groups that cannot be put back now", routes.nexthopsLost());
 }
 
@@ -280,6 +301,25 @@ int NetlinkKernelLink::removeFormedAddresses(const LinkConfiguration &configurat
     return first;
 }
 
+// The kernel keeps IPv4 addresses while a link is down. One that is missing was taken away by who
+// owns it: the lease of the network that was left. Given back it would stand beside that of the new
+// one.
+bool NetlinkKernelLink::isIPv4AddressTaken(const LinkConfiguration &configuration)
+{
+    std::vector<LinkConfiguration::Message> left;
+    std::copy_if(configuration.addresses.begin(), configuration.addresses.end(),
+        std::back_inserter(left), isIPv4);
+    ifaddrmsg header{};
+    header.ifa_family = AF_INET;
+    const auto all = left;
+    const NetlinkAnswer answer = m_socket.readTable(
+        netlinkMessage(RTM_GETADDR, NLM_F_DUMP, header), [&] { left = all; },
+        [&](const nlmsghdr &part) {
+            std::erase_if(left, [&](const auto &before) { return isSameIPv4(part, before); });
+        });
+    return errorOf(answer) == 0 && !left.empty();
+}
+
 int NetlinkKernelLink::putNeighborsBack(const LinkConfiguration &configuration)
 {
     int first = 0;
@@ -303,9 +343,14 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
         note(putNeighborsBack(configuration));
     }
     for (const auto &address : configuration.addresses) {
-        note(create(m_socket, RTM_NEWADDR, NLM_F_EXCL, address));
+        if (!isIPv4(address)) {
+            note(create(m_socket, RTM_NEWADDR, NLM_F_EXCL, address));
+        }
     }
     NetlinkRoutes routes{m_socket, [] { ::poll(nullptr, 0, detectionPauseMilliseconds); }};
+    if (isIPv4AddressTaken(configuration)) {
+        routes.expectAddressTaken();
+    }
     note(routes.putBack(configuration));
     logLosses(configuration, routes);
     return first;

@@ -35,6 +35,7 @@ private:
         const std::vector<LinkState> &links, std::vector<LinkConfiguration::Message> &table);
     int readRoutes(const std::vector<LinkState> &links, LinkConfiguration &configuration);
     int restoreUp(const LinkState &before);
+    bool isIPv4AddressTaken(const LinkConfiguration &configuration);
 
     NetlinkSocket m_socket{{.protocol = NETLINK_ROUTE}};
 };

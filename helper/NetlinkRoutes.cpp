@@ -14,6 +14,7 @@
 #include <linux/if_addr.h>
 #include <linux/nexthop.h>
 #include <linux/rtnetlink.h>
+#include <sys/socket.h>
 #include <utility>
 
 namespace quillon {
@@ -53,15 +54,25 @@ int NetlinkRoutes::putBack(const LinkConfiguration &configuration)
     const auto &routes = configuration.routes;
     auto route = routes.begin();
     for (; route != routes.end() && orderOf(route->body) == 0; ++route) {
-        note(putRouteBack(*route));
+        note(errorOf(*route, putRouteBack(*route)));
     }
     for (const auto &nexthop : configuration.nexthops) {
         note(putNexthopBack(nexthop));
     }
     for (; route != routes.end(); ++route) {
-        note(putRouteBack(*route));
+        note(errorOf(*route, putRouteBack(*route)));
     }
     return first;
+}
+
+int NetlinkRoutes::errorOf(const LinkConfiguration::Route &route, int error)
+{
+    const bool needsAddress = error == EINVAL || error == ENETUNREACH || error == EHOSTUNREACH;
+    if (m_isAddressTaken && needsAddress && route.body.front() == AF_INET) {
+        ++m_takenWithAddress;
+        return 0;
+    }
+    return error;
 }
 
 int NetlinkRoutes::putNexthopBack(const LinkConfiguration::Message &nexthop)

@@ -83,5 +83,31 @@ TEST_F(LinkStackTestOnTop, loseNothingToOneThatHasGone)
     EXPECT_THAT(shown(), HasSubstr("198.18.0.0/24 via 198.51.100.2"));
 }
 
+TEST(LinkStackTestOfOneLink, GivesNoIPv4AddressBackThatItsOwnerTookAwayMeanwhile)
+{
+    // As iwd does, which leaves its network when the interface goes down.
+    outputOf("ip addr add 198.51.100.7/24 dev enp2s0 valid_lft 4000 preferred_lft 3000;"
+             "ip addr add 203.0.113.7/24 dev enp2s0; ip link set enp2s0 up;"
+             "ip -6 addr add fd00:db8:5::5/64 dev enp2s0 nodad;"
+             "ip route add 198.18.0.0/24 via 198.51.100.1 dev enp2s0;"
+             "ip route add 198.18.1.0/24 dev enp2s0 scope link src 198.51.100.7;"
+             "ip route add 198.18.2.0/24 via 203.0.113.1 dev enp2s0");
+    NetlinkKernelLink kernel;
+    LinkState link;
+    ASSERT_EQ(kernel.findByName("enp2s0", link), 0);
+    LinkConfiguration configuration;
+    ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
+    outputOf("ip link set enp2s0 down; ip addr del 198.51.100.7/24 dev enp2s0; ip link set enp2s0 "
+             "up");
+    EXPECT_EQ(kernel.putBack(configuration), 0) << "what goes with the address is no failure";
+    const auto addresses = outputOf("ip addr show dev enp2s0");
+    EXPECT_THAT(addresses, testing::Not(HasSubstr("198.51.100.7")));
+    EXPECT_THAT(addresses, HasSubstr("203.0.113.7/24"));
+    EXPECT_THAT(addresses, HasSubstr("fd00:db8:5::5/64"));
+    const auto routes = outputOf("ip route show dev enp2s0");
+    EXPECT_THAT(routes, testing::Not(HasSubstr("198.18.0.0/24")));
+    EXPECT_THAT(routes, HasSubstr("198.18.2.0/24 via 203.0.113.1"));
+}
+
 } // namespace
 } // namespace quillon::test
