@@ -240,7 +240,7 @@ void AddressChanger::tellOutcome(
             request.interface, localized("Please make sure you have installed the HelperTool"));
         return;
     }
-    if (result.settlement && !isSameAddress(readBack, request.address)) {
+    if (!result.owner.isEmpty() && !isSameAddress(readBack, request.address)) {
         tellNotChanged(request.interface,
             filled(localized("%@ gives this network an Address of its own. Look for it in the "
                              "network's settings"),
@@ -262,22 +262,25 @@ void AddressChanger::tellOutcome(
 
 void AddressChanger::tellOfOwner(const QString &interface, const OwnerParticipation::Result &result)
 {
-    switch (result.settlement.value_or(AddressOwner::Outcome::Settled)) {
-    case AddressOwner::Outcome::Settled:
-        return;
-    case AddressOwner::Outcome::NotBack:
-        m_deps.notifier.sendNotificationWithBody(
-            filled(localized("%@ is not connected again"), {interface}),
-            filled(localized("Please connect it again with %@"), {result.owner}));
-        return;
-    case AddressOwner::Outcome::Untold:
-        m_deps.notifier.sendNotificationWithBody(
-            filled(localized("%@ Address may be replaced"), {interface}),
-            filled(localized("This session may not control %@. The new Address holds until the "
-                             "interface connects the next time"),
-                {result.owner}));
-        return;
-    }
+    using Outcome = AddressOwner::Outcome;
+    const auto outcomes = result.settlement.value_or(Outcome::Settled);
+    const auto tell = [&](Outcome outcome, const QString &title, const QString &body) {
+        if (outcomes.testFlag(outcome)) {
+            m_deps.notifier.sendNotificationWithBody(filled(title, {interface}), body);
+        }
+    };
+    const QString connectAgain =
+        result.owner.isEmpty()
+            ? localized("Please connect it again with the program that connects it")
+            : filled(localized("Please connect it again with %@"), {result.owner});
+    tell(Outcome::NotBack, localized("%@ is not connected again"), connectAgain);
+    tell(Outcome::KeepsIPAddress, localized("%@ keeps the IP Address of before"), connectAgain);
+    tell(Outcome::KeepsIPv6Address, localized("%@ keeps an IPv6 Address made from the old one"),
+        connectAgain);
+    tell(Outcome::Untold, localized("%@ Address may be replaced"),
+        filled(localized("This session may not control %@. The new Address holds until the "
+                         "interface connects the next time"),
+            {result.owner}));
 }
 
 void AddressChanger::tellUndone(const QString &device)

@@ -57,7 +57,7 @@ void OwnerParticipation::begin(const Request &request, std::unique_ptr<AddressOw
 void OwnerParticipation::settle(const Request &request, bool isChanged)
 {
     ownerOf(request).settle(
-        isChanged, [this, request, isChanged](AddressOwner::Outcome settlement) {
+        isChanged, [this, request, isChanged](AddressOwner::Outcomes settlement) {
             finish(request, {.isChanged = isChanged, .settlement = settlement});
         });
 }

@@ -27,10 +27,10 @@ public:
     struct Result
     {
         bool isChanged = false;
-        QString owner = {}; ///< who took part, "" where nobody needs to
+        QString owner = {}; ///< who took part, "" where nobody needs to, or is known
         /// The owner did not let go, and nothing was carried out.
         bool isRefused = false;
-        std::optional<AddressOwner::Outcome> settlement = {};
+        std::optional<AddressOwner::Outcomes> settlement = {};
     };
     /// Changes the address, and says once, on any thread, whether that was done.
     using Change = std::function<void(std::function<void(bool isChanged)> done)>;

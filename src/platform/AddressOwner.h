@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFlags>
 #include <QString>
 
 #include <functional>
@@ -18,24 +19,30 @@ class AddressOwner
 public:
     enum class Outcome
     {
-        Settled, ///< the interface is back on its network, or was on none
-        NotBack, ///< it was on a network, and is not back on it in time
-        Untold,  ///< the owner takes no word from this session: it may put its own address back
+        Settled = 0, ///< the interface is back on its network, or was on none
+        NotBack = 1, ///< it was on a network, and is not back on it in time
+        Untold = 2,  ///< the owner takes no word from this session: it may put its own address back
+        KeepsIPAddress = 4,   ///< an IPv4 address of before, for a lease of the old address
+        KeepsIPv6Address = 8, ///< one that was formed from the link-layer address of before
     };
+    Q_DECLARE_FLAGS(Outcomes, Outcome)
     /// False: the owner did not let go, and has the interface again; nothing may be changed.
     using Prepared = std::function<void(bool ready)>;
-    using Settled = std::function<void(Outcome outcome)>;
+    /// What is missing when the time is over, Outcome::Settled alone when nothing is.
+    using Settled = std::function<void(Outcomes outcomes)>;
 
     AddressOwner() = default;
     virtual ~AddressOwner() = default;
     AddressOwner(const AddressOwner &) = delete;
     AddressOwner &operator=(const AddressOwner &) = delete;
 
-    /// For the user, "NetworkManager".
+    /// For the user, "NetworkManager"; "" when nobody is known to own the interface.
     virtual QString name() const = 0;
     virtual void prepare(Prepared prepared) = 0;
     virtual void settle(bool isChanged, Settled settled) = 0;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(AddressOwner::Outcomes)
 
 /// Finds the owner of an interface by asking those who may be it. Main thread.
 class AddressOwners

@@ -35,7 +35,8 @@ public:
             m_scheduler.onMain(answer);
         }
     }
-    void settleAs(AddressOwner::Outcome outcome) { m_outcome = outcome; }
+    void settleAs(AddressOwner::Outcomes outcomes) { m_outcomes = outcomes; }
+    void setName(const QString &name) { m_name = name; }
     /// Called when it takes the interface back.
     void whenSettling(std::function<void()> act) { m_whenSettling = std::move(act); }
     /// "prepare en1", "settle en1 changed", "settle en1 unchanged", "gone en1", in order.
@@ -66,7 +67,7 @@ private:
                 m_owners.note(QStringLiteral("gone ") + m_device);
             }
         }
-        QString name() const override { return QStringLiteral("NetworkManager"); }
+        QString name() const override { return m_owners.m_name; }
         void prepare(Prepared prepared) override
         {
             m_owners.note(QStringLiteral("prepare ") + m_device);
@@ -82,7 +83,7 @@ private:
             if (m_owners.m_whenSettling) {
                 m_owners.m_whenSettling();
             }
-            m_owners.later([settled, outcome = m_owners.m_outcome] { settled(outcome); });
+            m_owners.later([settled, outcomes = m_owners.m_outcomes] { settled(outcomes); });
         }
 
     private:
@@ -108,7 +109,8 @@ private:
     bool m_isSilent = false;
     bool m_isThinking = false;
     QList<std::function<void()>> m_waiting;
-    AddressOwner::Outcome m_outcome = AddressOwner::Outcome::Settled;
+    AddressOwner::Outcomes m_outcomes = AddressOwner::Outcome::Settled;
+    QString m_name = QStringLiteral("NetworkManager");
     std::function<void()> m_whenSettling;
     int m_interruptionsFinished = 0;
 };

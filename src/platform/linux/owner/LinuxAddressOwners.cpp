@@ -4,10 +4,24 @@
 
 #include "platform/linux/owner/NetworkManagerEthernet.h"
 #include "platform/linux/owner/NetworkManagerWiFi.h"
+#include "platform/linux/owner/WatchedInterface.h"
+#include "platform/linux/wifi/Nl80211Socket.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
+
+namespace {
+
+bool isRadio(const QString &device)
+{
+    const Nl80211Messages answer = Nl80211Socket().ask({});
+    return std::ranges::any_of(
+        answer.interfaces, [&](const StationInterface &one) { return one.name == device; });
+}
+
+} // namespace
 
 LinuxAddressOwners::LinuxAddressOwners(
     Scheduler &scheduler, SettingsStore &settings, QStringList guard, const QDBusConnection &bus)
@@ -15,6 +29,7 @@ LinuxAddressOwners::LinuxAddressOwners(
     , m_released(settings)
     , m_guard(std::move(guard))
     , m_networkManager(bus)
+    , m_others(bus)
 {
 }
 
@@ -24,7 +39,10 @@ void LinuxAddressOwners::find(const QString &device, Found found)
         [this, device, found = std::move(found)](
             const std::optional<NetworkManager::Device> &known) {
             if (!known || !known->isManaged) {
-                found(nullptr);
+                m_others.find(
+                    device, isRadio(device), this, [this, device, found](const QString &name) {
+                        found(std::make_unique<WatchedInterface>(m_scheduler, device, name));
+                    });
             } else if (known->isWiFi) {
                 found(std::make_unique<NetworkManagerWiFi>(
                     m_networkManager, m_scheduler, m_released, m_guard, device, *known));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/AddressOwner.h"
+#include "platform/linux/owner/BusOwners.h"
 #include "platform/linux/owner/NetworkManager.h"
 #include "platform/linux/owner/ReleasedDevices.h"
 #include "platform/linux/owner/TakingBack.h"
@@ -15,9 +16,9 @@
 
 namespace quillon {
 
-/// Asks the network managers of a Linux desktop, over the bus and none by its files. Where none has
-/// the interface in its hands, or the one that has it follows the kernel by itself, nobody needs to
-/// take part.
+/// Asks those who may own an interface on Linux, over the bus and none by its files. NetworkManager
+/// takes part in a change. The others, and nobody, are not asked for anything: what comes of the
+/// change is seen in the kernel.
 class LinuxAddressOwners : public QObject, public AddressOwners
 {
     Q_OBJECT
@@ -35,6 +36,7 @@ private:
     ReleasedDevices m_released;
     const QStringList m_guard;
     NetworkManager m_networkManager;
+    BusOwners m_others;
     std::vector<std::unique_ptr<TakingBack>> m_interrupted;
 };
 

@@ -76,14 +76,14 @@ void NetworkManagerWiFi::release(const Prepared &prepared)
             return device && device->state == NetworkManager::Unmanaged;
         };
         if (!isDone) {
-            settle(false, [prepared](Outcome) { prepared(false); });
+            settle(false, [prepared](Outcomes) { prepared(false); });
             return;
         }
         m_watch.waitUntil(releaseLimit, isLetGo, [this, prepared](bool isInTime) {
             if (isInTime) {
                 prepared(true);
             } else {
-                settle(false, [prepared](Outcome) { prepared(false); });
+                settle(false, [prepared](Outcomes) { prepared(false); });
             }
         });
     });

@@ -36,6 +36,12 @@ protected:
         EXPECT_TRUE(soon([&] { return found.has_value(); }));
         return found ? std::move(*found) : nullptr;
     }
+    QString nameOf(const QString &device)
+    {
+        const auto owner = find(device);
+        EXPECT_NE(owner, nullptr);
+        return owner ? owner->name() : u"none"_s;
+    }
     /// Time goes by, and what is asked then is answered: answers come in the order of questions.
     void advance(std::chrono::milliseconds time)
     {
@@ -56,10 +62,10 @@ protected:
         EXPECT_TRUE(soon([&] { return ready.has_value(); }));
         return ready.value_or(false);
     }
-    Outcome settle(AddressOwner &owner, bool isChanged)
+    AddressOwner::Outcomes settle(AddressOwner &owner, bool isChanged)
     {
-        std::optional<Outcome> outcome;
-        owner.settle(isChanged, [&outcome](Outcome came) { outcome = came; });
+        std::optional<AddressOwner::Outcomes> outcome;
+        owner.settle(isChanged, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
         EXPECT_TRUE(soon([&] { return outcome.has_value(); }));
         return outcome.value_or(Outcome::NotBack);
     }
@@ -73,17 +79,18 @@ protected:
     const QString activated = u"activate "_s + MadeUpNetworkManager::profile();
 };
 
-TEST_F(LinuxAddressOwnersTest, FindNobodyWhereNothingManagesNetworks)
+TEST_F(LinuxAddressOwnersTest, KnowNobodyWhereNothingManagesNetworks)
 {
-    EXPECT_EQ(find(u"wlan0"_s), nullptr);
+    EXPECT_EQ(nameOf(u"wlan0"_s), QString());
 }
 
-TEST_F(LinuxAddressOwnersTest, FindNobodyForAnInterfaceThatIsNotManaged)
+TEST_F(LinuxAddressOwnersTest, KnowNobodyForAnInterfaceThatIsNotManaged)
 {
     MadeUpNetworkManager networkManager(bus, Kind::WiFi);
-    EXPECT_EQ(find(u"eth7"_s), nullptr);
+    EXPECT_EQ(nameOf(u"eth7"_s), QString());
     networkManager.isManaged = false;
-    EXPECT_EQ(find(u"wlan0"_s), nullptr);
+    EXPECT_EQ(nameOf(u"wlan0"_s), QString());
+    EXPECT_EQ(networkManager.journal(), QStringList());
 }
 
 TEST_F(LinuxAddressOwnersTest, EthernetConnectsAnewWithItsProfile)
@@ -155,8 +162,8 @@ TEST_F(LinuxAddressOwnersTest, AskAgainWhenAnActivationIsRefusedForAMoment)
     networkManager.refusals = 2;
     const auto owner = find(u"wlan0"_s);
     EXPECT_TRUE(prepare(*owner));
-    std::optional<Outcome> outcome;
-    owner->settle(true, [&outcome](Outcome came) { outcome = came; });
+    std::optional<AddressOwner::Outcomes> outcome;
+    owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
     for (int second = 0; second < 30 && !outcome; ++second) {
         advance(1s);
     }
@@ -199,8 +206,8 @@ TEST_F(LinuxAddressOwnersTest, WaitForNoNetworkForEver)
     networkManager.connects = false;
     const auto owner = find(u"wlan0"_s);
     EXPECT_TRUE(prepare(*owner));
-    std::optional<Outcome> outcome;
-    owner->settle(true, [&outcome](Outcome came) { outcome = came; });
+    std::optional<AddressOwner::Outcomes> outcome;
+    owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
     EXPECT_TRUE(soon([&] { return networkManager.journal().contains(activated); }));
     EXPECT_FALSE(outcome);
     advance(61s);
@@ -227,8 +234,8 @@ TEST_F(LinuxAddressOwnersTest, WaitForANetworkManagerThatIsBeingRestarted)
     const auto owner = find(u"wlan0"_s);
     EXPECT_TRUE(prepare(*owner));
     networkManager.end();
-    std::optional<Outcome> outcome;
-    owner->settle(true, [&outcome](Outcome came) { outcome = came; });
+    std::optional<AddressOwner::Outcomes> outcome;
+    owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
     advance(5s);
     EXPECT_FALSE(outcome);
     networkManager.restart();
