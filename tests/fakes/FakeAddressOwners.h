@@ -6,6 +6,8 @@
 #include "platform/AddressOwner.h"
 
 #include <QHash>
+#include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 #include <utility>
@@ -31,8 +33,10 @@ public:
     {
         m_isThinking = false;
         const auto waiting = std::exchange(m_waiting, {});
-        for (const auto &answer : waiting) {
-            m_scheduler.onMain(answer);
+        for (const auto &[owner, answer] : waiting) {
+            if (owner) {
+                m_scheduler.onMain(owner, answer);
+            }
         }
     }
     void settleAs(AddressOwner::Outcomes outcomes) { m_outcomes = outcomes; }
@@ -53,7 +57,7 @@ public:
     void finishInterrupted() override { ++m_interruptionsFinished; }
 
 private:
-    class Owner : public AddressOwner
+    class Owner : public QObject, public AddressOwner
     {
     public:
         Owner(FakeAddressOwners &owners, QString device)
@@ -72,7 +76,7 @@ private:
         {
             m_owners.note(QStringLiteral("prepare ") + m_device);
             m_isReleased = m_owners.m_letsGo;
-            m_owners.later([prepared, ready = m_isReleased] { prepared(ready); });
+            m_owners.later(this, [prepared, ready = m_isReleased] { prepared(ready); });
         }
         void settle(bool isChanged, Settled settled) override
         {
@@ -83,7 +87,7 @@ private:
             if (m_owners.m_whenSettling) {
                 m_owners.m_whenSettling();
             }
-            m_owners.later([settled, outcomes = m_owners.m_outcomes] { settled(outcomes); });
+            m_owners.later(this, [settled, outcomes = m_owners.m_outcomes] { settled(outcomes); });
         }
 
     private:
@@ -93,12 +97,12 @@ private:
     };
 
     void note(const QString &what) { m_journal.append(what); }
-    void later(const std::function<void()> &answer)
+    void later(const QObject *owner, const std::function<void()> &answer)
     {
         if (m_isThinking) {
-            m_waiting.append(answer);
+            m_waiting.append({owner, answer});
         } else {
-            m_scheduler.onMain(answer);
+            m_scheduler.onMain(owner, answer);
         }
     }
 
@@ -108,7 +112,7 @@ private:
     bool m_letsGo = true;
     bool m_isSilent = false;
     bool m_isThinking = false;
-    QList<std::function<void()>> m_waiting;
+    QList<std::pair<QPointer<const QObject>, std::function<void()>>> m_waiting;
     AddressOwner::Outcomes m_outcomes = AddressOwner::Outcome::Settled;
     QString m_name = QStringLiteral("NetworkManager");
     std::function<void()> m_whenSettling;

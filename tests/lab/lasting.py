@@ -8,11 +8,11 @@ import subprocess
 import sys
 import time
 
-from guest import WIRED, WIRELESS, address, call, ipv4_addresses, leases, links, run
+from guest import WIRED, WIRELESS, address, call, ipv4_addresses, leases, links, network, run
 from program import Program
 
 NEW = {WIRED: "02:00:00:00:55:11", WIRELESS: "02:00:00:00:55:22"}
-PATIENCE = 60  # seconds that an owner has to come back
+PATIENCE = 120  # seconds that an owner has to come back
 OWNERS = os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "..", "tools", "lab.d", "guest", "owners")
 
 
@@ -38,13 +38,24 @@ def has_lease(device):
     return call("has-lease", device)[0] == 0
 
 
+def is_connected(device):
+    return device in links() and has_lease(device) and (device == WIRED or network(device) is not None)
+
+
 def leased_addresses(device):
     """The link-layer addresses for which the IPv4 addresses of the interface were given out."""
     return {leases().get(one) for one in ipv4_addresses(device)}
 
 
-def link_local(device):
-    return run("ip", "-6", "-oneline", "address", "show", "dev", device, "scope", "link")
+def ipv6(device):
+    return run("ip", "-6", "-oneline", "address", "show", "dev", device)
+
+
+def told(program):
+    """What the program gave for missing."""
+    time.sleep(2)  # messages go their own way, and there may be none
+    titles = [title for title in program.messages() if not title.endswith("Address Changed")]
+    return "; ".join(titles) or "nothing"
 
 
 def interface_identifier(link_address):
@@ -74,7 +85,9 @@ def lose_link(device):
         time.sleep(2)
         run("plug", "in")
     else:
-        run("systemctl", "restart", "lab-access-points.service")
+        run("systemctl", "stop", "lab-access-points.service")
+        becomes(lambda: network(device) is None)
+        run("systemctl", "start", "lab-access-points.service")
 
 
 def restart_owner():
@@ -89,24 +102,29 @@ def look_at(device):
         return {"change": "nobody's here"}
     factory = address(device)
     new = NEW[device]
+    # For comparison: what the owner and the machine do by themselves.
+    lose_link(device)
+    by_itself = seconds(becomes(lambda: is_connected(device)))
     program = Program()
     try:
         changed = program.change(device, new)
         if not changed.in_place:
             return {"change": "no"}
         found = {"change": f"{changed.seconds:.1f} s",
-                 "network again": seconds(becomes(lambda: has_lease(device))),
+                 "told": told(program),
+                 "network again": seconds(becomes(lambda: is_connected(device))),
                  "lease for it": yes(becomes(lambda: new in leased_addresses(device)) is not None),
                  "none of before": yes(factory not in leased_addresses(device)),
-                 "IPv6 of before gone": yes(interface_identifier(factory) not in link_local(device))}
+                 "IPv6 of before gone": yes(interface_identifier(factory) not in ipv6(device)),
+                 "back after a loss": by_itself}
         for case, act in (("link lost", lambda: lose_link(device)), ("owner restarted", restart_owner)):
             act()
-            back = becomes(lambda: has_lease(device))
+            back = seconds(becomes(lambda: is_connected(device)))
             # Given time to put an address of its own back.
             time.sleep(5)
-            found[case] = yes(device in links() and address(device) == new) + ("" if back is not None else ", no network")
+            found[case] = yes(device in links() and address(device) == new) + f", back: {back}"
         restored = program.change(device, factory) if device in links() else None
-        found["factory again"] = yes(restored and restored.in_place)
+        found["factory again"] = yes(restored and restored.in_place) + f", told: {told(program)}"
         return found
     finally:
         program.end()

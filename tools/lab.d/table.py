@@ -8,8 +8,8 @@ import sys
 
 from common import SOURCE, owners
 
-CASES = ("change", "network again", "lease for it", "none of before", "IPv6 of before gone", "link lost",
-         "owner restarted", "factory again")
+CASES = ("change", "told", "network again", "lease for it", "none of before", "IPv6 of before gone",
+         "back after a loss", "link lost", "owner restarted", "factory again")
 LOOK = os.path.join(SOURCE, "tests", "lab", "lasting.py")
 MARK = "lasting "
 

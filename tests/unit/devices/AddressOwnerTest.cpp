@@ -104,6 +104,40 @@ TEST_F(AddressOwnerTest, ThatDoesNotConnectAgainIsTold)
             .first());
 }
 
+TEST_F(AddressOwnerTest, ThatLeavesSomethingOfBeforeIsTold)
+{
+    owners.setName(u"systemd-networkd"_s);
+    owners.settleAs(Outcome::KeepsIPAddress | Outcome::KeepsIPv6Address);
+    EXPECT_TRUE(changed().isInPlace);
+    constexpr char advice[] = "Please connect it again with systemd-networkd";
+    EXPECT_EQ(
+        notifier.messages().value(1), told("Wi-Fi keeps the IP Address of before", advice).first());
+    EXPECT_EQ(notifier.messages().value(2),
+        told("Wi-Fi keeps an IPv6 Address made from the old one", advice).first());
+    EXPECT_EQ(notifier.messages().size(), 3);
+}
+
+TEST_F(AddressOwnerTest, ThatNobodyKnowsIsNotNamed)
+{
+    owners.setName({});
+    owners.settleAs(Outcome::NotBack);
+    EXPECT_TRUE(changed().isInPlace);
+    EXPECT_EQ(notifier.messages().value(1),
+        told("Wi-Fi is not connected again",
+            "Please connect it again with the program that connects it")
+            .first());
+}
+
+TEST_F(AddressOwnerTest, ThatNobodyKnowsHasNoNetworksSettings)
+{
+    owners.setName({});
+    // The address from before.
+    owners.whenSettling([this] { EXPECT_TRUE(host.giveAddress(en1, u"02:16:3e:44:55:66"_s)); });
+    EXPECT_FALSE(changed().isInPlace);
+    EXPECT_EQ(notifier.messages().last(),
+        told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled").first());
+}
+
 TEST_F(AddressOwnerTest, ThatTakesNoWordIsTold)
 {
     owners.settleAs(Outcome::Untold);
