@@ -128,7 +128,7 @@ void logLosses(const LinkConfiguration &configuration, const NetlinkRoutes &rout
     };
     logLoss("routes put back without their source address, which cannot be used now",
         routes.sourcesLost());
-    logLoss("routes that went with an IPv4 address that was taken away meanwhile",
+    logLoss("routes and nexthops that went with an IPv4 address that was taken away meanwhile",
         routes.takenWithAddress());
     logLoss("nexthop objects and groups that cannot be put back now", routes.nexthopsLost());
 }
@@ -348,9 +348,7 @@ int NetlinkKernelLink::putBack(const LinkConfiguration &configuration)
         }
     }
     NetlinkRoutes routes{m_socket, [] { ::poll(nullptr, 0, detectionPauseMilliseconds); }};
-    if (isIPv4AddressTaken(configuration)) {
-        routes.expectAddressTaken();
-    }
+    routes.watchAddresses([&] { return isIPv4AddressTaken(configuration); });
     note(routes.putBack(configuration));
     logLosses(configuration, routes);
     return first;

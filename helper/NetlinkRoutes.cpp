@@ -21,6 +21,12 @@ namespace quillon {
 
 namespace {
 
+/// Whether the kernel refused a route for want of its source or of a way to its gateway.
+bool needsAddress(int error)
+{
+    return error == EINVAL || error == ENETUNREACH || error == EHOSTUNREACH;
+}
+
 /// The interface of an IPv6 address message when the address is this one and duplicate address
 /// detection has it in hand.
 std::optional<int> holderWhileChecked(const nlmsghdr &message, ByteSpan address)
@@ -50,27 +56,39 @@ NetlinkRoutes::NetlinkRoutes(NetlinkSocket &socket, Pause pause)
 int NetlinkRoutes::putBack(const LinkConfiguration &configuration)
 {
     int first = 0;
-    const auto note = [&first](int error) { first = first == 0 ? error : first; };
+    const auto note = [&](const LinkConfiguration::Message &body, const auto &attempt) {
+        const int error = unlessTaken(body.front(), attempt);
+        first = first == 0 ? error : first;
+    };
     const auto &routes = configuration.routes;
     auto route = routes.begin();
     for (; route != routes.end() && orderOf(route->body) == 0; ++route) {
-        note(errorOf(*route, putRouteBack(*route)));
+        note(route->body, [&] { return putRouteBack(*route); });
     }
     for (const auto &nexthop : configuration.nexthops) {
-        note(putNexthopBack(nexthop));
+        note(nexthop, [&] { return putNexthopBack(nexthop); });
     }
     for (; route != routes.end(); ++route) {
-        note(errorOf(*route, putRouteBack(*route)));
+        note(route->body, [&] { return putRouteBack(*route); });
     }
     return first;
 }
 
-int NetlinkRoutes::errorOf(const LinkConfiguration::Route &route, int error)
+int NetlinkRoutes::unlessTaken(int family, const std::function<int()> &attempt)
 {
-    const bool needsAddress = error == EINVAL || error == ENETUNREACH || error == EHOSTUNREACH;
-    if (m_isAddressTaken && needsAddress && route.body.front() == AF_INET) {
-        ++m_takenWithAddress;
-        return 0;
+    constexpr int mostPauses = 10;
+    int error = attempt();
+    for (int pauses = 0; needsAddress(error) && family == AF_INET && m_isAddressTaken; ++pauses) {
+        if (m_isAddressTaken()) {
+            ++m_takenWithAddress;
+            return 0;
+        }
+        if (pauses == mostPauses || m_pausesLeft == 0) {
+            break;
+        }
+        --m_pausesLeft;
+        m_pause();
+        error = attempt();
     }
     return error;
 }

@@ -5,6 +5,7 @@
 #include "helper/KernelLink.h"
 
 #include <functional>
+#include <utility>
 
 namespace quillon {
 
@@ -22,9 +23,10 @@ public:
 
     static constexpr int maximalPauses = 60;
 
-    /// Somebody has taken an IPv4 address away that the routes were read with: those that need it
-    /// do not come back, and that is no error.
-    void expectAddressTaken() { m_isAddressTaken = true; }
+    /// `isTaken` tells whether somebody has taken an IPv4 address away that the routes were read
+    /// with. What needs it then does not come back, and that is no error. It may be taken at any
+    /// moment, a little after its routes.
+    void watchAddresses(std::function<bool()> isTaken) { m_isAddressTaken = std::move(isTaken); }
 
     /// Tries everything and returns 0 or the first errno of the kernel.
     int putBack(const LinkConfiguration &configuration);
@@ -34,13 +36,13 @@ public:
     /// How many nexthop objects and groups are not as they were: there is no carrier, without which
     /// the kernel takes none. Their routes come back with the hops written out.
     int nexthopsLost() const { return m_nexthopsLost; }
-    /// How many routes went with an address that was taken.
+    /// How many routes and nexthop objects went with an address that was taken.
     int takenWithAddress() const { return m_takenWithAddress; }
 
 private:
     int putNexthopBack(const LinkConfiguration::Message &nexthop);
     int putRouteBack(const LinkConfiguration::Route &route);
-    int errorOf(const LinkConfiguration::Route &route, int error);
+    int unlessTaken(int family, const std::function<int()> &attempt);
     int add(const LinkConfiguration::Message &route, int flags);
     int addPatiently(const LinkConfiguration::Message &route, int flags);
     bool nexthopExists(std::uint32_t id);
@@ -51,7 +53,7 @@ private:
     Pause m_pause;
     /// Shared by all routes: what is still wrong after that long stays wrong for the next one too.
     int m_pausesLeft = maximalPauses;
-    bool m_isAddressTaken = false;
+    std::function<bool()> m_isAddressTaken;
     int m_takenWithAddress = 0;
     int m_sourcesLost = 0;
     int m_nexthopsLost = 0;

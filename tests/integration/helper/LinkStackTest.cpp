@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <linux/rtnetlink.h>
 #include <net/if.h>
 
 namespace quillon::test {
@@ -107,6 +108,26 @@ TEST(LinkStackTestOfOneLink, GivesNoIPv4AddressBackThatItsOwnerTookAwayMeanwhile
     const auto routes = outputOf("ip route show dev enp2s0");
     EXPECT_THAT(routes, testing::Not(HasSubstr("198.18.0.0/24")));
     EXPECT_THAT(routes, HasSubstr("198.18.2.0/24 via 203.0.113.1"));
+}
+
+TEST(LinkStackTestOfOneLink, LosesNothingToAnOwnerWhoTakesTheRoutesFirst)
+{
+    // The subnet's route goes, then the gateway's cannot come back, then the address goes.
+    outputOf("ip addr add 198.51.100.7/24 dev enp2s0 noprefixroute; ip link set enp2s0 up;"
+             "ip route add 198.51.100.0/24 dev enp2s0 scope link;"
+             "ip route add 198.18.0.0/24 via 198.51.100.1 dev enp2s0");
+    NetlinkKernelLink kernel;
+    LinkState link;
+    ASSERT_EQ(kernel.findByName("enp2s0", link), 0);
+    LinkConfiguration configuration;
+    ASSERT_EQ(kernel.readConfiguration(link, configuration), 0);
+    std::erase_if(configuration.routes, [](const LinkConfiguration::Route &route) {
+        return reinterpret_cast<const rtmsg *>(route.body.data())->rtm_scope == RT_SCOPE_LINK;
+    });
+    outputOf("ip link set enp2s0 down; ip link set enp2s0 up;"
+             "(sleep 0.1; ip addr del 198.51.100.7/24 dev enp2s0) >/dev/null 2>&1 &");
+    EXPECT_EQ(kernel.putBack(configuration), 0);
+    EXPECT_THAT(outputOf("ip addr show dev enp2s0"), testing::Not(HasSubstr("198.51.100.7")));
 }
 
 } // namespace

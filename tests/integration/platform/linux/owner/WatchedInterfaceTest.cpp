@@ -112,6 +112,23 @@ TEST_F(WatchedInterfaceTest, TellsInTheEndThatItIsNotConnected)
     EXPECT_EQ(outcomes, Outcome::NotBack);
 }
 
+TEST_F(WatchedInterfaceTest, IsTheSameWhenItWasMadeAnewUnderItsName)
+{
+    prepare();
+    // As iwd does it when it is restarted: another index.
+    pair.remove();
+    WiredPair::ip("link add own0 address 02:00:00:00:00:a2 type veth peer name far0");
+    settle();
+    eventually([&] { return outcomes.has_value(); }, 200ms);
+    EXPECT_FALSE(outcomes);
+    WiredPair::ip("link set far0 up");
+    WiredPair::ip("link set own0 up");
+    WiredPair::ip("address add 198.51.100.78/24 dev own0 valid_lft 4000 preferred_lft 3000");
+    EXPECT_TRUE(isSettled());
+    EXPECT_EQ(outcomes, Outcome::Settled);
+    WiredPair::ip("link delete own0");
+}
+
 TEST_F(WatchedInterfaceTest, WithStaticAddressesHasSettledAtOnce)
 {
     WiredPair::ip("address delete 192.0.2.77/24 dev own0");
