@@ -13,10 +13,10 @@ SERVICE = "com.orvandel.Quillon4XPCService"
 CHANGE = "com.orvandel.quillon4.change-address"
 NOBODY = ("setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups")  # a user without a session
 # As tools/lab.d/guest/air makes them: the beginning of the addresses there, and what NetworkManager calls it.
-AccessPoint = namedtuple("AccessPoint", "subnet security")
-ACCESS_POINTS = {"lab-open": AccessPoint("198.51.100.", ""),
-                 "lab-wpa2": AccessPoint("198.51.100.", "WPA2"),
-                 "lab-wpa3": AccessPoint("203.0.113.", "WPA3")}
+AccessPoint = namedtuple("AccessPoint", "subnet security bssid")
+ACCESS_POINTS = {"lab-open": AccessPoint("198.51.100.", "", "02:00:00:00:01:00"),
+                 "lab-wpa2": AccessPoint("198.51.100.", "WPA2", "02:00:00:00:02:00"),
+                 "lab-wpa3": AccessPoint("203.0.113.", "WPA3", "02:00:00:00:03:00")}
 DEADLINE = 120  # seconds; only a hang takes that long, however busy the machine is
 
 

@@ -7,20 +7,23 @@ import subprocess
 from collections import namedtuple
 
 Changed = namedtuple("Changed", "in_place address seconds")
+ANY_NETWORK, UNKNOWN_NETWORK = "Any Network", "An Unknown Network"
 FOLDER = "/home/quillon/lab-program"
 
 
 class Program:
-    """With nothing remembered, unless it is `again`."""
+    """With nothing remembered, unless it is `again`; its clock runs `speed` times as fast. In the user's session at the
+    terminal, or in the one with that number."""
 
-    def __init__(self, again=False):
+    def __init__(self, again=False, speed=1, at_login=False, session=None):
         if not again:
             shutil.rmtree(FOLDER, ignore_errors=True)
             os.mkdir(FOLDER)
             shutil.chown(FOLDER, "quillon", "quillon")
         path = os.path.join(os.environ["QUILLON_BUILD"], "tests", "lab", "lab-program")
-        self.process = subprocess.Popen(("as-user", path, FOLDER), stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        text=True, bufsize=1)
+        where = ("--session", session) if session else ()
+        self.process = subprocess.Popen(("as-user", *where, path, FOLDER, str(speed), *["login"] * at_login),
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, bufsize=1)
 
     def ask(self, *words):
         self.process.stdin.write("\t".join(words) + "\n")
@@ -35,6 +38,29 @@ class Program:
 
     def begin_change(self, device, address):
         self.ask("begin", device, address)
+
+    def make_rule(self, device, network=ANY_NETWORK, address="random", minutes=0):
+        """Which acts once, or every so many minutes; it is switched off. `network` may be a BSSID, "" is that of
+        login rules."""
+        return self.ask("rule", device, network, address, str(minutes))[0]
+
+    def switch(self, rule, is_on):
+        self.ask("switch", rule, "on" if is_on else "off")
+
+    def pause(self, device):
+        self.ask("pause", device)
+
+    def resume(self, device):
+        self.ask("resume", device)
+
+    def countdowns(self):
+        """The interfaces that have one."""
+        return self.ask("countdowns")[1:]
+
+    def history(self, device):
+        """The addresses that were set, the first one first."""
+        changes = [change.split() for change in self.ask("history")[1:]]
+        return [changed_to.lower() for changed, changed_to in changes if changed == device]
 
     def messages(self):
         """The titles that the user was told since the last time."""

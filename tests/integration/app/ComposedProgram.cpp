@@ -27,7 +27,8 @@ QVariantMap packagedDefaults()
 
 } // namespace
 
-ComposedProgram::ComposedProgram(const QString &folder, int speed, const QStringList &guard)
+ComposedProgram::ComposedProgram(
+    const QString &folder, int speed, const QStringList &guard, WiFiClient *radio)
     : m_scheduler(m_real, speed)
     , settings(folder + u"/settings.plist"_s, m_real, {})
     , groupSettings(folder + u"/group-settings.plist"_s, m_real, {})
@@ -48,7 +49,7 @@ ComposedProgram::ComposedProgram(const QString &folder, int speed, const QString
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
         .sleep = m_sleep,
-        .wifi = wifi,
+        .wifi = radio != nullptr ? *radio : wifi,
         .location = m_location,
         .systemSettings = m_systemSettings,
         .http = m_http,

@@ -20,6 +20,7 @@
 #include "platform/linux/netlink/NetlinkHost.h"
 #include "platform/linux/netlink/RouteReachability.h"
 #include "platform/linux/owner/LinuxAddressOwners.h"
+#include "platform/linux/owner/PortalReachability.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
@@ -31,14 +32,15 @@ namespace quillon::test {
 
 /// The program without windows, put together as main() does it on the real kernel, buses, helper
 /// and files. Its own clock runs fast; what it stands on keeps to the real one. Messages to the
-/// user are kept, not shown, and the Wi-Fi joins what a test tells it to: there is no radio.
+/// user are kept, not shown. Where there is no radio, the Wi-Fi joins what a test tells it to.
 class ComposedProgram
 {
 public:
     /// `folder` holds its settings and its data, as a user's home does. `speed` is how many times
-    /// faster its clock runs. `guard` is the command of TakeBackGuard.
-    explicit ComposedProgram(
-        const QString &folder, int speed = 60, const QStringList &guard = QStringList());
+    /// faster its clock runs. `guard` is the command of TakeBackGuard. `radio`, which outlives
+    /// this, is asked instead of `wifi`.
+    explicit ComposedProgram(const QString &folder, int speed = 60,
+        const QStringList &guard = QStringList(), WiFiClient *radio = nullptr);
     /// Ends in order.
     ~ComposedProgram();
     ComposedProgram(const ComposedProgram &) = delete;
@@ -76,7 +78,8 @@ private:
     GetifaddrsAddresses m_interfaceAddresses;
     LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges{m_real};
-    RouteReachability m_reachability;
+    RouteReachability m_route;
+    PortalReachability m_reachability{m_route};
     LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
