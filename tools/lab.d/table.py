@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The table of `tools/lab all`: what lasts of a change, by owner and interface."""
+"""The tables of `tools/lab all`: what lasts of a change, by owner and interface, and what the long suites found."""
+import glob
 import json
 import os
 import subprocess
@@ -10,28 +11,74 @@ from common import SOURCE, owners
 
 CASES = ("change", "told", "network again", "lease for it", "none of before", "IPv6 of before gone",
          "back after a loss", "link lost", "owner restarted", "factory again")
-LOOK = os.path.join(SOURCE, "tests", "lab", "lasting.py")
-MARK = "lasting "
+LAB = os.path.join(SOURCE, "tools", "lab")
+TESTS = os.path.join(SOURCE, "tests", "lab")
+LONG = os.path.join(TESTS, "long")
+LASTING, CASE = "lasting ", "case "  # what the lines begin with that are for us
+SUITE_OWNER = "networkmanager"
+SUITE_LIMIT = "5400"  # seconds for a machine; only a hang reaches them
 
 
-def rows_of(owner, build):
-    """The device and the cases of each interface, and whether all could be looked at."""
-    result = subprocess.run([os.path.join(SOURCE, "tools", "lab"), "--owner", owner, "--build", build,
-                             "/usr/bin/python3", "-B", LOOK], stdout=subprocess.PIPE, text=True)
-    found = [json.loads(line[len(MARK):]) for line in result.stdout.splitlines() if line.startswith(MARK)]
-    return [(row["device"], row["cases"]) for row in found], result.returncode == 0 and len(found) == 2
+def lines_of(owner, build, mark, limit, *command):
+    """What a command in a machine of that owner says for us, and whether it succeeded. The rest is shown aside."""
+    result = subprocess.run([LAB, "--owner", owner, "--build", build, "--limit", limit, "/usr/bin/python3", "-B",
+                             *command], stdout=subprocess.PIPE, text=True)
+    found = [json.loads(line[len(mark):]) for line in result.stdout.splitlines() if line.startswith(mark)]
+    return found, result.returncode
 
 
-def show(build):
-    """0 when every case of every owner could be looked at, whatever it came to."""
-    code = 0
-    print("| Owner | Interface | " + " | ".join(CASES) + " |")
-    print("|" + "---|" * (len(CASES) + 2), flush=True)
+def suites():
+    return sorted(os.path.basename(path).removesuffix("_test.py") for path in glob.glob(os.path.join(LONG, "*_test.py")))
+
+
+def print_row(*cells):
+    print("| " + " | ".join(str(cell).replace("|", "/") for cell in cells) + " |", flush=True)
+
+
+def print_head(*cells):
+    print_row(*cells)
+    print("|" + "---|" * len(cells), flush=True)
+
+
+def show_lasting(build):
+    """Whether every case of every owner could be looked at, whatever it came to."""
+    is_whole = True
+    print_head("Owner", "Interface", *CASES)
     for owner in owners():
-        rows, is_whole = rows_of(owner, build)
-        for device, cases in rows:
-            print(f"| {owner} | {device} | " + " | ".join(cases.get(case, "") for case in CASES) + " |", flush=True)
-        if not is_whole:
+        rows, code = lines_of(owner, build, LASTING, "900", os.path.join(TESTS, "lasting.py"))
+        for row in rows:
+            print_row(owner, row["device"], *(row["cases"].get(case, "") for case in CASES))
+        if code != 0 or len(rows) != 2:
             print(f"lab: not everything could be looked at under {owner}", file=sys.stderr)
-            code = 1
-    return code
+            is_whole = False
+    return is_whole
+
+
+def show_suites(names, build):
+    """Whether every case held."""
+    is_whole = True
+    print_head("Owner", "Interface", "Suite", "Case", "Result", "Seconds")
+    for name in names:
+        cases, code = lines_of(SUITE_OWNER, build, CASE, SUITE_LIMIT, os.path.join(TESTS, "suite.py"), LONG,
+                               f"{name}_test.py")
+        for case in cases:
+            print_row(SUITE_OWNER, case["interface"], name, case["case"], case["result"], case["seconds"])
+        if not cases:
+            print_row(SUITE_OWNER, "both", name, "all", f"could not be looked at: it ended with {code}", "")
+        is_whole = is_whole and code == 0 and bool(cases)
+    return is_whole
+
+
+def show(build, wanted):
+    """Everything, or only what is named: "lasting", or one of suites(). Returns the exit code: 0 when all could be
+    looked at and every case of the suites held."""
+    unknown = set(wanted) - {"lasting", *suites()}
+    if unknown:
+        print(f"lab: there are lasting, {', '.join(suites())}, but no {', '.join(sorted(unknown))}", file=sys.stderr)
+        return 125
+    is_whole = show_lasting(build) if not wanted or "lasting" in wanted else True
+    names = [name for name in suites() if not wanted or name in wanted]
+    if names:
+        print(flush=True)
+        is_whole = show_suites(names, build) and is_whole
+    return 0 if is_whole else 1
