@@ -17,11 +17,16 @@
 //   countdowns             the interfaces that have a countdown
 //   history                what rules and people have changed: DEVICE ADDRESS for each
 //   messages               the titles that the user was told since the last time
+//   wifi                   what the window shows of the network that the radio is on: KEY=TEXT, …
+//   install                as the window's button does it: whether the helper is installed now
+//   uninstall              the same of its other button
+#include "base/SettingsKeys.h"
 #include "bench/ServeInLoop.h"
 #include "contract/Names.h"
 #include "integration/app/ComposedProgram.h"
 #include "integration/app/RecordsFile.h"
 #include "integration/platform/linux/Waiting.h"
+#include "networks/WiFiNetwork.h"
 #include "platform/linux/owner/TakeBackGuard.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
 #include "rules/Rule.h"
@@ -78,6 +83,12 @@ public:
         }
         if (what == "messages") {
             return messages();
+        }
+        if (what == "wifi") {
+            return wifi();
+        }
+        if (what == "install" || what == "uninstall") {
+            return helper(what == "install");
         }
         throw std::runtime_error("no such request: " + what);
     }
@@ -148,6 +159,35 @@ private:
                            change.value(model::connection::address).toString());
         }
         return words("changed", changes);
+    }
+
+    Words wifi()
+    {
+        features().networks.wifi.updateWiFiNetwork();
+        const QVariantMap shown = m_program.settings.getDictionary(keys::currentWiFiDict);
+        Words words{"wifi"};
+        for (const auto &[key, text] : shown.asKeyValueRange()) {
+            words.push_back((key + u'=' + text.toString()).toStdString());
+        }
+        return words;
+    }
+
+    Words helper(bool shallBeThere)
+    {
+        XPCMethods &helper = features().helper;
+        const auto success = std::make_shared<std::optional<bool>>();
+        const auto reply = [success](bool came) { // on any thread
+            QMetaObject::invokeMethod(qApp, [success, came] { *success = came; });
+        };
+        if (shallBeThere) {
+            helper.installHelperToolwithReply(reply);
+        } else {
+            helper.uninstallHelperToolwithReply(reply);
+        }
+        if (!test::eventually([&] { return success->has_value(); })) {
+            throw std::runtime_error("nobody answers");
+        }
+        return {success->value() ? "done" : "not done"};
     }
 
     Words messages()

@@ -66,6 +66,14 @@ class Program:
         """The titles that the user was told since the last time."""
         return self.ask("messages")[1:]
 
+    def wifi(self):
+        """What the window shows of the network that the radio is on."""
+        return dict(word.split("=", 1) for word in self.ask("wifi")[1:])
+
+    def press(self, button):
+        """The window's "install" or "uninstall": whether that was done."""
+        return self.ask(button)[0] == "done"
+
     def kill(self):
         self.process.kill()
         self.close()
