@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// usage: lab-probe list | lab-probe NAME
+// usage: lab-probe list | lab-probe NAME | lab-probe execute NAME
 // Tries one thing that the helper has no business with, and says "NAME begun" and then "NAME done"
 // or "NAME refused: WHY" in one line each. The exit code is 0 when it was done. It is a program of
 // its own, and of few system calls: those of an interpreter alone are refused within the helper's
@@ -120,12 +120,6 @@ long gainCapability()
     std::array<__user_cap_data_struct, 2> sets{};
     sets[0].effective = sets[0].permitted = 1U << CAP_SYS_ADMIN | 1U << CAP_NET_ADMIN;
     return syscall(SYS_capset, &header, sets.data());
-}
-
-long execute()
-{
-    const char *const arguments[] = {"/usr/bin/echo", "exec done", nullptr};
-    return execve(arguments[0], const_cast<char *const *>(arguments), environ);
 }
 
 long forkChild()
@@ -302,7 +296,6 @@ std::vector<Probe> probes()
         {"shared-memory", [] { return shmget(IPC_PRIVATE, 4096, IPC_CREAT | 0600); }},
         {"fork", forkChild},
         {"many-files", openManyFiles},
-        {"exec", execute},
         {"other-architecture", callAsOtherArchitecture},
         // The last: its end may be the unit's.
         {"memory", takeMemory},
@@ -328,6 +321,9 @@ int probe(const Probe &one)
 
 int main(int argc, char **argv)
 {
+    if (argc == 3 && std::strcmp(argv[1], "execute") == 0) {
+        return execv(argv[0], std::array<char *, 3>{argv[0], argv[2], nullptr}.data());
+    }
     const std::string wanted = argc == 2 ? argv[1] : "";
     for (const Probe &one : probes()) {
         if (wanted == "list") {
