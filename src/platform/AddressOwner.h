@@ -42,8 +42,6 @@ public:
     virtual void settle(bool isChanged, Settled settled) = 0;
 };
 
-Q_DECLARE_OPERATORS_FOR_FLAGS(AddressOwner::Outcomes)
-
 /// Finds the owner of an interface by asking those who may be it. Main thread.
 class AddressOwners
 {
@@ -61,3 +59,6 @@ public:
 };
 
 } // namespace quillon
+
+// Not in the namespace, where they would hide those of Qt's own enumerations.
+Q_DECLARE_OPERATORS_FOR_FLAGS(quillon::AddressOwner::Outcomes)
