@@ -24,15 +24,14 @@ bool driverWantsItDown(int error)
 
 } // namespace
 
-AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi, bool leavesFormedAddresses)
+AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi)
 {
-    if ((link.flags & IFF_UP) == 0) {
-        return AddressStrategy::Live;
-    }
     // A Wi-Fi interface has to leave its network, whatever its driver would let pass: going down
     // leaves.
-    return deviceIsWiFi || leavesFormedAddresses ? AddressStrategy::DownSetUp
-                                                 : AddressStrategy::Live;
+    if (deviceIsWiFi && (link.flags & IFF_UP) != 0) {
+        return AddressStrategy::DownSetUp;
+    }
+    return AddressStrategy::Live;
 }
 
 AddressChange::AddressChange(KernelLink &kernel)
@@ -51,12 +50,8 @@ Outcome AddressChange::change(
         return Refusal{contract::error::noSuchDevice,
             asked.name + " is another interface than the one that the request was about."};
     }
-    LinkConfiguration formed;
-    if (const int error = m_kernel.readFormedAddresses(link, formed); error != 0) {
-        return changeFailed(link, "reading the IPv6 addresses", error);
-    }
     Outcome refusal;
-    switch (strategyFor(link, deviceIsWiFi, !formed.formedAddresses.empty())) {
+    switch (strategyFor(link, deviceIsWiFi)) {
     case AddressStrategy::Live:
         refusal = setLive(link, address);
         break;
@@ -87,6 +82,9 @@ Outcome AddressChange::setLive(const LinkState &link, const contract::LinkLayerA
     if (const int error = m_kernel.readNeighbors(link, configuration); error != 0) {
         return changeFailed(link, "reading the static neighbors", error);
     }
+    if (const int error = m_kernel.readFormedAddresses(link, configuration); error != 0) {
+        return changeFailed(link, "reading the IPv6 addresses", error);
+    }
     const int error = m_kernel.setAddress(link.index, address);
     const int putBackError = m_kernel.putNeighborsBack(configuration);
     if (driverWantsItDown(error) && (link.flags & IFF_UP) != 0) {
@@ -94,6 +92,9 @@ Outcome AddressChange::setLive(const LinkState &link, const contract::LinkLayerA
     }
     if (error != 0) {
         return changeFailed(link, "setting the address", error);
+    }
+    if (const int formedError = m_kernel.renewFormedAddresses(configuration); formedError != 0) {
+        return changeFailed(link, "renewing the IPv6 addresses", formedError);
     }
     if (putBackError != 0) {
         return changeFailed(link, "putting the static neighbors back", putBackError);

@@ -14,12 +14,12 @@ enum class AddressStrategy
 {
     /// Set while the interface is up, falling back to the other way where its driver refuses that.
     Live,
-    /// Take the interface down, set, bring it up, and put its addresses and routes back.
+    /// Take the interface down, set, bring it up, and put its addresses and routes back. The kernel
+    /// then forms its IPv6 addresses anew.
     DownSetUp,
 };
 
-/// The way for this interface. The one place where it is decided who owns the interface: one that a
-/// network manager manages belongs to that manager and would get its address through it.
+/// The way for this interface, the one place where that is decided.
 AddressStrategy strategyFor(const LinkState &link, bool deviceIsWiFi);
 
 /// Changes the link-layer address of one interface. Blocks while the kernel works; requests that
@@ -41,6 +41,7 @@ public:
 private:
     Outcome setLive(const LinkState &link, const contract::LinkLayerAddress &address);
     Outcome setWhileDown(const LinkState &link, const contract::LinkLayerAddress &address);
+    int takeFollowersDown(const LinkConfiguration &configuration);
     Outcome confirm(const LinkState &link, const contract::LinkLayerAddress &address);
 
     KernelLink &m_kernel;

@@ -73,12 +73,16 @@ public:
     virtual int setUp(int index, bool up) = 0;
     /// What is forgotten when the address changes: the neighbors alone.
     virtual int readNeighbors(const LinkState &link, LinkConfiguration &configuration) = 0;
-    /// Nothing but the formed addresses of links where the kernel is who forms them: it renews them
-    /// when the link comes up, and not before.
+    /// Adds the formed addresses of links where the kernel is who forms them: it renews them when
+    /// the link comes up, and not before. After readNeighbors().
     virtual int readFormedAddresses(const LinkState &link, LinkConfiguration &configuration) = 0;
     /// What is forgotten when `link` goes down: everything, without what the kernel made of the
     /// addresses of links by itself.
     virtual int readConfiguration(const LinkState &link, LinkConfiguration &configuration) = 0;
+    /// Puts those that are formed from the address of now in the place of these; on a link that is
+    /// down nothing, as the kernel forms them when it comes up. Tries everything and returns the
+    /// first failure.
+    virtual int renewFormedAddresses(const LinkConfiguration &configuration) = 0;
     /// Those that the kernel keeps while a link is down, where it was told to keep addresses. Tries
     /// everything and returns the first failure.
     virtual int removeFormedAddresses(const LinkConfiguration &configuration) = 0;

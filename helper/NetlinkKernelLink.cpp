@@ -227,12 +227,6 @@ int NetlinkKernelLink::readNeighbors(const LinkState &link, LinkConfiguration &c
 
 int NetlinkKernelLink::readFormedAddresses(const LinkState &link, LinkConfiguration &configuration)
 {
-    configuration = {};
-    std::vector<LinkState> all;
-    if (const int error = readLinks(all); error != 0) {
-        return error;
-    }
-    configuration.linksOnTop = linksOnTop(link, all);
     auto links = thoseThatFollow(withLinksOnTop(link, configuration));
     std::erase_if(links, [](const LinkState &one) { return !one.formsAddresses; });
     return readTable(netlinkMessage(RTM_GETADDR, NLM_F_DUMP, ifaddrmsg{}), formedAddress, links,
@@ -289,6 +283,29 @@ int NetlinkKernelLink::restoreUp(const LinkState &before)
         return 0;
     }
     return setUp(before.index, (before.flags & IFF_UP) != 0);
+}
+
+int NetlinkKernelLink::renewFormedAddresses(const LinkConfiguration &configuration)
+{
+    int first = 0;
+    const auto note = [&first](int error) { first = first == 0 ? error : first; };
+    for (const auto &before : configuration.formedAddresses) {
+        LinkState link;
+        if (findByIndex(linkOfAddress(before), link) != 0) {
+            continue;
+        }
+        const auto now = formedAnew(before, link.address);
+        if (now == before) {
+            // On top of the link, and has not followed it.
+            continue;
+        }
+        // The new one first: a subnet without an address loses its route.
+        if ((link.flags & IFF_UP) != 0) {
+            note(create(m_socket, RTM_NEWADDR, NLM_F_EXCL, now));
+        }
+        note(remove(m_socket, RTM_DELADDR, before));
+    }
+    return first;
 }
 
 int NetlinkKernelLink::removeFormedAddresses(const LinkConfiguration &configuration)

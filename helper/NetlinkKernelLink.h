@@ -21,6 +21,7 @@ public:
     int readNeighbors(const LinkState &link, LinkConfiguration &configuration) override;
     int readFormedAddresses(const LinkState &link, LinkConfiguration &configuration) override;
     int readConfiguration(const LinkState &link, LinkConfiguration &configuration) override;
+    int renewFormedAddresses(const LinkConfiguration &configuration) override;
     int removeFormedAddresses(const LinkConfiguration &configuration) override;
     int putNeighborsBack(const LinkConfiguration &configuration) override;
     int putBack(const LinkConfiguration &configuration) override;

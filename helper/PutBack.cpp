@@ -5,6 +5,7 @@
 #include "helper/MessageBody.h"
 #include "netlink/NetlinkAttributes.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <linux/if_addr.h>
@@ -37,13 +38,39 @@ bool isFormedFromSomeLinkAddress(ByteSpan address)
     return address.size() == 16 && address[11] == std::byte{0xff} && address[12] == std::byte{0xfe};
 }
 
+constexpr std::size_t ipv6Octets = 16;
+constexpr std::size_t identifierOffset = 8;
+using Identifier = std::array<std::uint8_t, ipv6Octets - identifierOffset>;
+
+// RFC 4291, appendix A: the interface identifier of an EUI-48.
+Identifier identifierOf(const contract::LinkLayerAddress &link)
+{
+    return {static_cast<std::uint8_t>(link[0] ^ 2U), link[1], link[2], 0xff, 0xfe, link[3], link[4],
+        link[5]};
+}
+
 bool isFormedFromLinkAddress(ByteSpan address, const contract::LinkLayerAddress &link)
 {
-    // RFC 4291, appendix A: the interface identifier of an EUI-48.
-    const std::array<std::uint8_t, 8> identifier{static_cast<std::uint8_t>(link[0] ^ 2U), link[1],
-        link[2], 0xff, 0xfe, link[3], link[4], link[5]};
-    return address.size() == 16 &&
-           std::memcmp(address.data() + 8, identifier.data(), identifier.size()) == 0;
+    const Identifier identifier = identifierOf(link);
+    return address.size() == ipv6Octets && std::memcmp(address.data() + identifierOffset,
+                                               identifier.data(), identifier.size()) == 0;
+}
+
+/// Header and what can be set of an address. The lifetimes (IFA_CACHEINFO) are what is left of
+/// them.
+Message addressBody(
+    ifaddrmsg header, const AddressAttributes &attributes, std::uint32_t flags, auto... more)
+{
+    header.ifa_flags = static_cast<std::uint8_t>(flags & settableAddressFlags);
+    Message body;
+    append(body, &header, sizeof header);
+    for (int type : {IFA_ADDRESS, IFA_LOCAL, IFA_CACHEINFO, IFA_RT_PRIORITY, more...}) {
+        if (attributes.has(type)) {
+            appendAttribute(body, attributes.find(type));
+        }
+    }
+    appendNumber(body, IFA_FLAGS, flags & settableAddressFlags);
+    return body;
 }
 
 bool kernelMakesAddress(const ifaddrmsg &header, const AddressAttributes &attributes,
@@ -101,18 +128,7 @@ std::optional<Message> addressToPutBack(const nlmsghdr *message, const LinkState
     if (kernelMakesAddress(*header, attributes, flags, link)) {
         return std::nullopt;
     }
-    header->ifa_flags = static_cast<std::uint8_t>(flags & settableAddressFlags);
-    Message body;
-    append(body, &*header, sizeof *header);
-    // The lifetimes (IFA_CACHEINFO) are what is left of them.
-    for (int type : {IFA_ADDRESS, IFA_LOCAL, IFA_LABEL, IFA_BROADCAST, IFA_CACHEINFO,
-             IFA_RT_PRIORITY, IFA_PROTO}) {
-        if (attributes.has(type)) {
-            appendAttribute(body, attributes.find(type));
-        }
-    }
-    appendNumber(body, IFA_FLAGS, flags & settableAddressFlags);
-    return body;
+    return addressBody(*header, attributes, flags, IFA_LABEL, IFA_BROADCAST, IFA_PROTO);
 }
 
 std::optional<Message> formedAddress(const nlmsghdr *message, const LinkState &link)
@@ -128,10 +144,31 @@ std::optional<Message> formedAddress(const nlmsghdr *message, const LinkState &l
         !(kernelDeclaresIts(attributes) && isFormedFromSomeLinkAddress(address))) {
         return std::nullopt;
     }
-    Message body;
-    append(body, &*header, sizeof *header);
-    appendAttribute(body, attributes.find(IFA_ADDRESS));
-    return body;
+    const auto flags = attributes.value<std::uint32_t>(IFA_FLAGS).value_or(header->ifa_flags);
+    return addressBody(*header, attributes, flags);
+}
+
+Message formedAnew(const Message &formed, const contract::LinkLayerAddress &link)
+{
+    const AddressAttributes attributes(attributesOf(formed, sizeof(ifaddrmsg)));
+    const ByteSpan address = attributes.bytes(IFA_ADDRESS);
+    Message anew = formed;
+    if (address.size() == ipv6Octets) {
+        const Identifier identifier = identifierOf(link);
+        const auto *begin = reinterpret_cast<const std::uint8_t *>(address.data());
+        const auto offset = (begin - formed.data()) + std::ptrdiff_t{identifierOffset};
+        std::copy(identifier.begin(), identifier.end(), anew.begin() + offset);
+    }
+    return anew;
+}
+
+int linkOfAddress(const Message &address)
+{
+    ifaddrmsg header{};
+    if (address.size() >= sizeof header) {
+        std::memcpy(&header, address.data(), sizeof header);
+    }
+    return static_cast<int>(header.ifa_index);
 }
 
 std::optional<Message> neighborToPutBack(const nlmsghdr *message, const LinkState &link)

@@ -20,11 +20,18 @@ namespace quillon {
 std::optional<LinkConfiguration::Message> addressToPutBack(
     const nlmsghdr *message, const LinkState &link);
 
-/// The IPv6 address in `message` as a body for RTM_DELADDR. None when it is not of `link`, or was
-/// formed from no link-layer address: not from that of `link`, nor by the kernel from an earlier
-/// one.
+/// The IPv6 address in `message` as a body for RTM_DELADDR, or for formedAnew(). None when it is
+/// not of `link`, or was formed from no link-layer address: not from that of `link`, nor by the
+/// kernel from an earlier one.
 std::optional<LinkConfiguration::Message> formedAddress(
     const nlmsghdr *message, const LinkState &link);
+
+/// The same address, flags and what is left of its lifetimes, for a link with that link-layer
+/// address: a body for RTM_NEWADDR.
+LinkConfiguration::Message formedAnew(
+    const LinkConfiguration::Message &formed, const contract::LinkLayerAddress &link);
+/// The index of the link that it is an address of; 0 for what is no body of an address.
+int linkOfAddress(const LinkConfiguration::Message &address);
 
 /// None when `message` is not a neighbor of `link`, or one that the kernel learned or made by
 /// itself. Static entries keep a spoofed answer from being believed.

@@ -107,6 +107,11 @@ public:
         configuration.formedAddresses = m_interfaces[link.index].configuration.formedAddresses;
         return failsToReadFormed;
     }
+    int renewFormedAddresses(const LinkConfiguration &configuration) override
+    {
+        formedRenewed = configuration.formedAddresses;
+        return failsToRenewFormed;
+    }
     int removeFormedAddresses(const LinkConfiguration &configuration) override
     {
         formedRemoved = configuration.formedAddresses;
@@ -148,7 +153,9 @@ public:
     std::map<std::string, std::string> alternativeNames;
     int failsToRead = 0;
     int failsToReadFormed = 0;
+    int failsToRenewFormed = 0;
     int failsToRemoveFormed = 0;
+    std::vector<LinkConfiguration::Message> formedRenewed;
     std::vector<LinkConfiguration::Message> formedRemoved;
     int failsToGoDown = 0;
     int failsToComeUp = 0;

@@ -152,12 +152,34 @@ TEST_F(ChangeTest, leavesNoIPv6AddressThatTheKernelFormedFromTheAddressOfBefore)
     EXPECT_THAT(outputOf("ip -6 route show dev enp1s0"), HasSubstr("fd00:db8:3::/64"));
 }
 
+TEST_F(ChangeTest, keepsASubnetWithItsLifetimesUnderTheNewAddressWithoutALossOfTheLink)
+{
+    outputOf("sysctl -qw net.ipv6.conf.enp1s0.use_tempaddr=2;"
+             "ip -6 addr add fd00:db8:9::200:5eff:fe00:5301/64 dev enp1s0 mngtmpaddr nodad"
+             " valid_lft 4000 preferred_lft 3000");
+    const auto temporary = [] { return outputOf("ip -o -6 addr show dev enp1s0 temporary"); };
+    ASSERT_TRUE(waitUntil([&] { return !temporary().empty(); }));
+    const auto ofBefore = temporary().substr(temporary().find("fd00:"), 30);
+    // Seconds that the link was ever down.
+    const auto losses = outputOf("cat /sys/class/net/enp1s0/carrier_changes");
+    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    const auto now = ipv6Of("enp1s0");
+    EXPECT_THAT(now, Not(HasSubstr("200:5eff:fe00:5301")));
+    EXPECT_THAT(now, HasSubstr("fd00:db8:9:0:11:22ff:fe33:4455/64"));
+    EXPECT_THAT(now, testing::ContainsRegex("mngtmpaddr.* valid_lft (39[0-9][0-9]|4000)sec "
+                                            "preferred_lft (29[0-9][0-9]|3000)sec"));
+    EXPECT_TRUE(waitUntil([&] { return !temporary().empty(); }));
+    EXPECT_THAT(temporary(), Not(HasSubstr(ofBefore)));
+    EXPECT_THAT(outputOf("ip -6 route show dev enp1s0"), HasSubstr("fd00:db8:9::/64"));
+    EXPECT_EQ(outputOf("cat /sys/class/net/enp1s0/carrier_changes"), losses);
+}
+
 TEST_F(ChangeTest, leavesNoneAlsoWhereTheKernelKeepsAddressesWhileDown)
 {
     outputOf("sysctl -qw net.ipv6.conf.enp1s0.keep_addr_on_down=1;"
              "ip -6 addr add fd00:db8:9::200:5eff:fe00:5301/64 dev enp1s0 nodad;"
              "ip -6 addr add fd00:db8:9::7/64 dev enp1s0 nodad");
-    EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
+    EXPECT_EQ(quillon.change("enp1s0", newAddress, true), BusClient::done);
     EXPECT_THAT(ipv6Of("enp1s0"),
         AllOf(Not(HasSubstr("200:5eff:fe00:5301")), HasSubstr("fd00:db8:9::7/64")));
 }
@@ -224,7 +246,6 @@ protected:
 
 TEST_F(ChangeTestNeighbors, thatAreStaticAreKeptByAChangeMadeLive)
 {
-    outputOf("ip link set enp1s0 addrgenmode none");
     EXPECT_EQ(quillon.change("enp1s0", newAddress), BusClient::done);
     EXPECT_EQ(neighborsOf("enp1s0"), before);
     EXPECT_THAT(outputOf("ip neigh show nud all dev enp1s0"), Not(HasSubstr("192.0.2.4")));

@@ -42,13 +42,29 @@ TEST_F(AddressChangeTest, isMadeLiveWhereTheDriverAllows)
     EXPECT_EQ(kernel.named("enp1s0").state.address, wanted);
 }
 
-TEST_F(AddressChangeTest, takesTheInterfaceDownWhereIPv6AddressesOfBeforeWouldStay)
+TEST_F(AddressChangeTest, renewsIPv6AddressesThatWouldTellTheAddressOfBefore)
 {
     auto &interface = kernel.add("enp1s0");
     interface.configuration.formedAddresses = {{7, 8}};
     EXPECT_EQ(errorOf(change("enp1s0")), "done");
-    EXPECT_THAT(kernel.steps,
-        ElementsAre("read", "down", "set while down", "put neighbors back", "up", "put back"));
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors", "set while up", "put neighbors back"));
+    EXPECT_THAT(kernel.formedRenewed, ElementsAre(LinkConfiguration::Message{7, 8}));
+    EXPECT_THAT(kernel.formedRemoved, IsEmpty());
+
+    kernel.failsToRenewFormed = ENOMEM;
+    EXPECT_THAT(change("enp1s0")->message, HasSubstr("renewing the IPv6 addresses"));
+}
+
+TEST_F(AddressChangeTest, removesThemWhereTheKernelFormsThemAnewByItself)
+{
+    auto &interface = kernel.add("enp1s0");
+    interface.refusesWhileUp = EBUSY;
+    interface.configuration.formedAddresses = {{7, 8}};
+    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_THAT(
+        kernel.steps, ElementsAre("read neighbors", "set while up", "put neighbors back", "read",
+                          "down", "set while down", "put neighbors back", "up", "put back"));
+    EXPECT_THAT(kernel.formedRenewed, IsEmpty());
     // A kernel that was told to keep addresses keeps them while the interface is down.
     EXPECT_THAT(kernel.formedRemoved, ElementsAre(LinkConfiguration::Message{7, 8}));
 }
@@ -56,7 +72,6 @@ TEST_F(AddressChangeTest, takesTheInterfaceDownWhereIPv6AddressesOfBeforeWouldSt
 TEST_F(AddressChangeTest, takesThoseOnTopDownThatTookTheAddressOverAndStayedUp)
 {
     auto &interface = kernel.add("enp1s0");
-    interface.configuration.formedAddresses = {{7, 8}};
     // All have its old address; the first two show another one now.
     for (const char *name : {"br0", "br1", "br2", "br3"}) {
         auto &onTop = kernel.add(name);
@@ -68,7 +83,7 @@ TEST_F(AddressChangeTest, takesThoseOnTopDownThatTookTheAddressOverAndStayedUp)
     kernel.named("br1").state.flags = 0;
     kernel.named("br2").state.address = wanted;
     interface.configuration.linksOnTop[2].formsAddresses = false;
-    EXPECT_EQ(errorOf(change("enp1s0")), "done");
+    EXPECT_EQ(errorOf(change("enp1s0", true)), "done");
     EXPECT_THAT(kernel.steps, ElementsAre("read", "down", "set while down", "down",
                                   "put neighbors back", "up", "put back"));
     EXPECT_EQ(kernel.named("br0").state.flags & IFF_UP, 0U);
@@ -79,7 +94,7 @@ TEST_F(AddressChangeTest, isNotMadeWhereItIsUnknownWhichAddressesWouldStay)
     kernel.add("enp1s0");
     kernel.failsToReadFormed = EINTR;
     EXPECT_EQ(errorOf(change("enp1s0")), contract::error::changeFailed.name);
-    EXPECT_THAT(kernel.steps, IsEmpty());
+    EXPECT_THAT(kernel.steps, ElementsAre("read neighbors"));
 }
 
 TEST_F(AddressChangeTest, putsStaticNeighborsBackInEveryCase)

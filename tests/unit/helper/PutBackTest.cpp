@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <linux/if_addr.h>
 #include <linux/neighbour.h>
@@ -103,6 +104,37 @@ TEST(PutBackFormedAddress, isWhatTheKernelFormedFromAnEarlierLinkAddress)
     auto given = address(AF_INET6);
     given.with(IFA_ADDRESS, ofAnother);
     EXPECT_FALSE(formedAddress(given.header(), ourLink())) << "it may be a person's choice";
+}
+
+TEST(PutBackFormedAddress, isFormedAnewWithItsSubnetFlagsAndLifetimes)
+{
+    const ifa_cacheinfo lifetimes{100, 200, 0, 0};
+    Bytes left(sizeof lifetimes);
+    std::memcpy(left.data(), &lifetimes, sizeof lifetimes);
+    auto message = address(AF_INET6);
+    message.with(IFA_ADDRESS, formedIPv6)
+        .with(IFA_CACHEINFO, left)
+        .with(IFA_FLAGS, unsigned{IFA_F_MANAGETEMPADDR | IFA_F_DEPRECATED});
+    const auto before = formedAddress(message.header(), ourLink());
+    ASSERT_TRUE(before);
+    EXPECT_EQ(linkOfAddress(*before), ourIndex);
+    EXPECT_EQ(formedAnew(*before, ourLink().address), *before);
+
+    const auto now = formedAnew(*before, {0x02, 0x11, 0x22, 0x33, 0x44, 0x55});
+    Bytes expected = formedIPv6;
+    const Bytes identifier{0x00, 0x11, 0x22, 0xff, 0xfe, 0x33, 0x44, 0x55};
+    std::copy(identifier.begin(), identifier.end(), expected.begin() + 8);
+    EXPECT_EQ(attributeOf<ifaddrmsg>(now, IFA_ADDRESS), expected);
+    EXPECT_EQ(attributeOf<ifaddrmsg>(now, IFA_CACHEINFO), left);
+    EXPECT_EQ(attributeOf<ifaddrmsg>(now, IFA_FLAGS), (Bytes{0, 1, 0, 0}))
+        << "what the kernel found is no request";
+}
+
+TEST(PutBackFormedAddress, ofWhatIsNoneStaysAsItIs)
+{
+    const LinkConfiguration::Message nothing{1, 2, 3};
+    EXPECT_EQ(formedAnew(nothing, ourLink().address), nothing);
+    EXPECT_EQ(linkOfAddress(nothing), 0);
 }
 
 TEST(PutBackFormedAddress, isNothingElse)
