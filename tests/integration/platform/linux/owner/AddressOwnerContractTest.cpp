@@ -62,7 +62,7 @@ public:
     }
     AddressOwners &owners() override { return m_owners; }
     QString device() const override { return m_networkManager.name(); }
-    void silence() override { m_networkManager.connects = false; }
+    void silence() override { m_networkManager.answers = false; }
     void remove() override { m_networkManager.end(); }
 
 private:
@@ -225,6 +225,13 @@ TEST_P(AddressOwnerContractTest, TellsWithinItsLimitWhenNothingComes)
     EXPECT_NE(outcomes, Outcome::Settled);
     letTimePass();
     EXPECT_EQ(settlements, 1);
+}
+
+TEST_P(AddressOwnerContractTest, PreparesWithinItsLimitWhenNobodyAnswers)
+{
+    interface->silence();
+    prepare();
+    EXPECT_TRUE(soon([&] { return preparations > 0; }));
 }
 
 TEST_P(AddressOwnerContractTest, ThatGoesWhileItPreparesCallsNothing)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/owner/LinuxAddressOwners.h"
 
+#include "MadeUpBusOwner.h"
 #include "MadeUpNetworkManager.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
@@ -91,6 +92,14 @@ TEST_F(LinuxAddressOwnersTest, KnowNobodyForAnInterfaceThatIsNotManaged)
     networkManager.isManaged = false;
     EXPECT_EQ(nameOf(u"wlan0"_s), QString());
     EXPECT_EQ(networkManager.journal(), QStringList());
+}
+
+TEST_F(LinuxAddressOwnersTest, AskTheOthersWhenNetworkManagerHangs)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::Ethernet);
+    networkManager.answers = false;
+    const MadeUpBusOwner networkd(bus, u"org.freedesktop.network1"_s);
+    EXPECT_EQ(nameOf(u"dev0"_s), u"systemd-networkd"_s);
 }
 
 TEST_F(LinuxAddressOwnersTest, EthernetConnectsAnewWithItsProfile)

@@ -39,6 +39,7 @@ public:
     QString permission = QStringLiteral("yes");
     bool letsGo = true;   ///< else it says so and keeps the device
     bool connects = true; ///< else an activation never gets anywhere
+    bool answers = true;  ///< else it hangs
     int refusals = 0;     ///< so many activations are refused first
     /// Called before it does what it was asked.
     std::function<void(const QString &what)> whenAsked = [](const QString &) {};
