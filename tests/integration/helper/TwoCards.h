@@ -25,6 +25,13 @@ protected:
             "done;"
             "ip addr add 10.0.0.1/24 dev left0; ip -6 addr add fd00:1::1/64 dev left0 nodad;"
             "ip addr add 10.1.0.1/24 dev right0; ip -6 addr add fd00:2::1/64 dev right0 nodad");
+        // The kernel looks at carriers in its own time, and makes more routes then.
+        ASSERT_TRUE(waitUntil([] { return isConfigured("left0") && isConfigured("right0"); }));
+    }
+    static bool isConfigured(const std::string &device)
+    {
+        return outputOf("ip -o link show dev " + device).find("state UP") != std::string::npos &&
+               outputOf("ip -o addr show dev " + device).find("fe80::") != std::string::npos;
     }
     /// Each on one line. Of one destination and metric the kernel takes the first IPv4 route, so
     /// that their order counts.
