@@ -107,7 +107,7 @@ TEST_F(AddressOwnerTest, ThatDoesNotConnectAgainIsTold)
 TEST_F(AddressOwnerTest, ThatLeavesSomethingOfBeforeIsTold)
 {
     owners.setName(u"systemd-networkd"_s);
-    owners.settleAs(Outcome::KeepsIPAddress | Outcome::KeepsIPv6Address);
+    owners.settleAs(AddressOwner::Outcomes(Outcome::KeepsIPAddress) | Outcome::KeepsIPv6Address);
     EXPECT_TRUE(changed().isInPlace);
     constexpr char advice[] = "Please connect it again with systemd-networkd";
     EXPECT_EQ(

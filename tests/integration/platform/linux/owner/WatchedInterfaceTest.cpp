@@ -96,7 +96,8 @@ TEST_F(WatchedInterfaceTest, TellsInTheEndWhatStays)
     EXPECT_FALSE(outcomes);
     scheduler.advance(2s);
     ASSERT_TRUE(outcomes);
-    EXPECT_EQ(*outcomes, Outcome::KeepsIPAddress | Outcome::KeepsIPv6Address);
+    EXPECT_EQ(
+        *outcomes, AddressOwner::Outcomes(Outcome::KeepsIPAddress) | Outcome::KeepsIPv6Address);
     EXPECT_FALSE(scheduler.hasTimers());
 }
 

@@ -67,7 +67,8 @@ TEST_F(InterfaceTracesTest, KeepAnIPv6AddressOfBeforeInAnyNetwork)
     now.ipv6.append(QByteArray::fromHex("20010db800000001025056fffe000001"));
     EXPECT_EQ(lacking(before, now), Outcome::KeepsIPv6Address);
     now.leases = before.leases;
-    EXPECT_EQ(lacking(before, now), Outcome::KeepsIPv6Address | Outcome::KeepsIPAddress);
+    EXPECT_EQ(lacking(before, now),
+        AddressOwner::Outcomes(Outcome::KeepsIPv6Address) | Outcome::KeepsIPAddress);
 }
 
 TEST_F(InterfaceTracesTest, AreToldOnlyOfAChange)
