@@ -241,6 +241,13 @@ void AddressChanger::tellOutcome(
         return;
     }
     if (!result.owner.isEmpty() && !isSameAddress(readBack, request.address)) {
+        using Outcome = AddressOwner::Outcome;
+        if (result.settlement.value_or(Outcome::Settled).testFlag(Outcome::NotBack)) {
+            // On no network it may have one for scanning, which says nothing about what it comes
+            // back with.
+            tellOfOwner(request.interface, result);
+            return;
+        }
         tellNotChanged(request.interface,
             filled(localized("%@ gives this network an Address of its own. Look for it in the "
                              "network's settings"),

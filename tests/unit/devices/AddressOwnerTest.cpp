@@ -138,6 +138,15 @@ TEST_F(AddressOwnerTest, ThatNobodyKnowsHasNoNetworksSettings)
         told("Wi-Fi Address was not Changed", "Please make sure your Device is enabled").first());
 }
 
+TEST_F(AddressOwnerTest, AnAddressForScanningIsNoneOfANetwork)
+{
+    owners.settleAs(Outcome::NotBack);
+    owners.whenSettling([this] { EXPECT_TRUE(host.giveAddress(en1, u"6e:87:7e:9b:4a:58"_s)); });
+    EXPECT_FALSE(changed().isInPlace);
+    EXPECT_EQ(notifier.messages(),
+        told("Wi-Fi is not connected again", "Please connect it again with NetworkManager"));
+}
+
 TEST_F(AddressOwnerTest, ThatTakesNoWordIsTold)
 {
     owners.settleAs(Outcome::Untold);
