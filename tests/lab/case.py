@@ -74,6 +74,10 @@ class ProgramCase(unittest.TestCase):
         self.assertEqual(address(device), new)
         self.assertEqual(leases()[ipv4(device)], new)
 
+    def expect_among_told(self, title):
+        told = []
+        wait_until(lambda: told.extend(self.program.messages()) or title in told, lambda: f"only told {told}", 20)
+
     def expect_told(self, title):
         """That alone of this interface."""
         told = []

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Runs suites of cases in the lab's machine, says how long each case took, and ends with a line of JSON for each, of
-which `tools/lab all` makes its table.
+"""Runs suites of cases in the lab's machine, says how long each case took, and writes a line of JSON for each when it
+has ended, of which `tools/lab all` makes its table.
 usage: suite.py FOLDER [PATTERN [NAME]...]      PATTERN of the files' names; only cases with one of NAME in theirs
 """
 import json
@@ -29,12 +29,21 @@ class Result(unittest.TextTestResult):
     def stopTest(self, test):
         super().stopTest(test)
         self.found[test.id()][2] = time.monotonic() - self.begin
+        self.write(test.id())
+
+    def write(self, identity):
+        interface, came_to, seconds = self.found[identity]
+        print(MARK + json.dumps({"interface": interface, "case": case_name(identity), "result": came_to,
+                                 "seconds": round(seconds, 1)}), flush=True)
 
     def note(self, test, came_to):
-        # What failed first, in the case or in a part of it, is what counts.
-        entry = self.found.setdefault(test.id(), ["both", "yes", 0.0])
-        if entry[1] == "yes":
-            entry[1] = came_to
+        if test.id() not in self.found:
+            # No case: what comes before or after those of a class.
+            self.found[test.id()] = ["both", came_to, 0.0]
+            self.write(test.id())
+        elif self.found[test.id()][1] == "yes":
+            # What failed first, in the case or in a part of it, is what counts.
+            self.found[test.id()][1] = came_to
 
     def addFailure(self, test, problem):
         super().addFailure(test, problem)
@@ -61,7 +70,7 @@ def last_line(problem):
 
 def case_name(identity):
     """Without the file: "ChangeTest test_of_a_radio" reads "change of a radio"."""
-    *_, suite, case = identity.split(".")
+    *_, suite, case = ("", *identity.split("."))
     return f"{suite.removesuffix('Test')}: {case.removeprefix('test_').replace('_', ' ')}"
 
 
@@ -73,9 +82,6 @@ def main(folder, pattern="*_test.py", *names):
     result = runner.run(loader.discover(folder, pattern))
     for identity, (_, _, seconds) in sorted(result.found.items(), key=lambda entry: -entry[1][2]):
         print(f"{seconds:7.1f} s  {case_name(identity)}", file=sys.stderr)
-    for identity, (interface, came_to, seconds) in result.found.items():
-        print(MARK + json.dumps({"interface": interface, "case": case_name(identity), "result": came_to,
-                                 "seconds": round(seconds, 1)}), flush=True)
     # A case that was not looked at has not passed.
     return 0 if result.wasSuccessful() and not result.skipped and result.testsRun > 0 else 1
 
