@@ -24,6 +24,8 @@ using namespace std::chrono_literals;
 
 // It answers at once or hangs.
 constexpr auto answerLimit = 5s;
+// It asks polkit first, which may have to be started, and about one thing after the other.
+constexpr auto decisionLimit = 25s;
 constexpr auto lastCallLimit = 2s;
 
 const QString service = u"org.freedesktop.NetworkManager"_s;
@@ -110,7 +112,7 @@ void NetworkManager::findDevice(const QString &name, QObject *context,
 void NetworkManager::askPermission(
     QObject *context, const std::function<void(bool isGranted)> &reply)
 {
-    callBus(m_bus, context, callTo(path, service, u"GetPermissions"_s), answerLimit,
+    callBus(m_bus, context, callTo(path, service, u"GetPermissions"_s), decisionLimit,
         [reply](const QDBusMessage &answer) {
             const auto permissions =
                 isAnswer(answer) ? qdbus_cast<QMap<QString, QString>>(answer.arguments().value(0))
@@ -140,7 +142,7 @@ QDBusMessage NetworkManager::managedCall(const QString &devicePath, bool isManag
 void NetworkManager::setManaged(const QString &devicePath, bool isManaged, QObject *context,
     const std::function<void(bool isDone)> &reply)
 {
-    callBus(m_bus, context, managedCall(devicePath, isManaged), answerLimit,
+    callBus(m_bus, context, managedCall(devicePath, isManaged), decisionLimit,
         [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
 }
 
@@ -153,7 +155,7 @@ void NetworkManager::setManagedNow(const QString &devicePath)
 void NetworkManager::disconnectDevice(
     const QString &devicePath, QObject *context, const std::function<void(bool isDone)> &reply)
 {
-    callBus(m_bus, context, callTo(devicePath, deviceInterface, u"Disconnect"_s), answerLimit,
+    callBus(m_bus, context, callTo(devicePath, deviceInterface, u"Disconnect"_s), decisionLimit,
         [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
 }
 
@@ -165,7 +167,7 @@ void NetworkManager::activate(const QString &profile, const QString &devicePath,
             {QVariant::fromValue(QDBusObjectPath(profile)),
                 QVariant::fromValue(QDBusObjectPath(devicePath)),
                 QVariant::fromValue(QDBusObjectPath(noObject))}),
-        answerLimit, [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
+        decisionLimit, [reply](const QDBusMessage &answer) { reply(isAnswer(answer)); });
 }
 
 } // namespace quillon

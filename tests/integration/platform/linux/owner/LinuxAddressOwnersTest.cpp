@@ -193,6 +193,17 @@ TEST_F(LinuxAddressOwnersTest, TellWhoMayNotControlNetworks)
     }
 }
 
+TEST_F(LinuxAddressOwnersTest, WaitUntilItIsKnownWhoMayControlNetworks)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::Ethernet);
+    // A polkit that is only starting, on a slow machine. The bus's own clock measures it.
+    networkManager.thinking = 6s;
+    const auto owner = find(u"eth0"_s);
+    EXPECT_TRUE(prepare(*owner));
+    EXPECT_EQ(settle(*owner, true), Outcome::Settled);
+    EXPECT_EQ(networkManager.journal(), QStringList{activated});
+}
+
 TEST_F(LinuxAddressOwnersTest, AnInterfaceThatIsNotLetGoIsTakenBack)
 {
     MadeUpNetworkManager networkManager(bus, Kind::WiFi);

@@ -8,6 +8,7 @@
 #include <QDBusVirtualObject>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 
 namespace quillon::test {
@@ -37,10 +38,11 @@ public:
     bool isManaged = true;
     bool isConnected = true;
     QString permission = QStringLiteral("yes");
-    bool letsGo = true;   ///< else it says so and keeps the device
-    bool connects = true; ///< else an activation never gets anywhere
-    bool answers = true;  ///< else it hangs
-    int refusals = 0;     ///< so many activations are refused first
+    std::chrono::milliseconds thinking{0}; ///< before it tells who may do what
+    bool letsGo = true;                    ///< else it says so and keeps the device
+    bool connects = true;                  ///< else an activation never gets anywhere
+    bool answers = true;                   ///< else it hangs
+    int refusals = 0;                      ///< so many activations are refused first
     /// Called before it does what it was asked.
     std::function<void(const QString &what)> whenAsked = [](const QString &) {};
 
