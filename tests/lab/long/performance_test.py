@@ -96,8 +96,9 @@ class Nmcli:
         pass
 
     def let_go(self):
-        """The profile's address would win over everybody else's."""
+        """The profile's address would win over everybody else's, and is in force until the next activation."""
         run("nmcli", "connection", "modify", self.profile, self.setting, "")
+        run("nmcli", "--wait", str(PATIENCE), "connection", "up", self.profile)
 
     def end(self):
         self.let_go()
@@ -197,6 +198,12 @@ class RequestToConnectedTest(unittest.TestCase):
         rows = [Row(device, kind(device), number) for number, kind in enumerate(kinds)]
         for row in rows:
             self.addCleanup(row.way.end)
+            # It has begun: its first calls are of its start.
+            row.way.change(f"02:00:00:{0x60 + row.number:02x}:fe:00")
+            row.way.finish()
+            if isinstance(row.way, Nmcli):
+                row.way.let_go()
+            begin_anew(device)
         for count in range(ROUNDS):
             for row in rows:
                 row.round(count)
