@@ -192,7 +192,7 @@ class Row:
 class RequestToConnectedTest(unittest.TestCase):
     def measure(self, device):
         if not is_connected(device, read(device, "address")):
-            print(f"| {OWNER} | {device} | nobody's here | | | | | |", flush=True)
+            print(f"\n| {OWNER} | {device} | nobody's here | | | | | |", flush=True)
             return
         kinds = (Quillon, Nmcli, Macchanger) if HAS_NETWORK_MANAGER else (Quillon, Macchanger)
         rows = [Row(device, kind(device), number) for number, kind in enumerate(kinds)]
@@ -213,7 +213,7 @@ class RequestToConnectedTest(unittest.TestCase):
             holds = row.holds()
             if isinstance(row.way, Nmcli):
                 row.way.let_go()
-            print(row.text(holds), flush=True)
+            print("\n" + row.text(holds), flush=True)
             begin_anew(device)
         for row in rows:
             self.assertTrue(row.failed == 2 or len(row.taken) + row.failed == ROUNDS, row.way.name)

@@ -81,7 +81,8 @@ class LabNetworksTest(RadioCase):
     @staticmethod
     def begin_scan():
         """Returns the scanner; NetworkManager may be at it at that moment."""
-        while True:
+        end = time.monotonic() + DEADLINE
+        while time.monotonic() < end:
             scanning = subprocess.Popen(("iw", "dev", WIRELESS, "scan"), stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL)
             try:
@@ -90,6 +91,7 @@ class LabNetworksTest(RadioCase):
                 return scanning
             if scanning.returncode == 0:
                 raise AssertionError("a scan takes no time")
+        raise AssertionError(f"no scan can begin within {DEADLINE} s")
 
     def test_on_no_network(self):
         as_user("nmcli", "device", "disconnect", WIRELESS)
