@@ -21,6 +21,12 @@ namespace {
 // The user is to know within a second, whether or not the owner answers.
 constexpr std::chrono::milliseconds ownerLimit{500};
 
+// A radio on no network: its owner scans with addresses of its own.
+bool isScanning(const DeviceRecord &record)
+{
+    return record.isWifi() && !record.isUp();
+}
+
 } // namespace
 
 DriftAlarm::DriftAlarm(const Collaborators &collaborators)
@@ -70,8 +76,7 @@ void DriftAlarm::look(const QString &device)
         endDrift(device);
         return;
     }
-    const bool isScanning = record.isWifi() && !record.isUp();
-    if (isScanning || m_drifts.contains(device)) {
+    if (isScanning(record) || m_drifts.contains(device)) {
         return;
     }
     m_drifts.insert(device, {current});
@@ -138,8 +143,8 @@ void DriftAlarm::changeEnded(const QString &device, const ChangeOutcome &outcome
         m_changesUnderWay.erase(underWay);
     }
     const DeviceRecord record = m_deps.devices.record(device);
-    if (outcome.isInPlace &&
-        !isSameAddress(outcome.requested, record.hardware.value_or(QString()))) {
+    const bool isGiven = outcome.isInPlace || (outcome.isConfirmed && isScanning(record));
+    if (isGiven && !isSameAddress(outcome.requested, record.hardware.value_or(QString()))) {
         give(device, outcome.requested);
     } else if (outcome.isInPlace || outcome.isConfirmed) {
         // Restored; or what it had was replaced by us, and the user knows what it has instead.

@@ -203,6 +203,21 @@ TEST_F(DriftAlarmTest, ARadioOnNoNetworkScansWithAddressesOfItsOwners)
     EXPECT_EQ(notifier.questionsEver, 1) << "now it is on a network with it";
 }
 
+TEST_F(DriftAlarmTest, ARadioThatLostItsNetworkInAChangeIsExpectedBackWithTheNewAddress)
+{
+    owners.settleAs(AddressOwner::Outcome::NotBack);
+    owners.whenSettling([this] {
+        host.at(en1).active = false;
+        host.giveAddress(en1, theirs);
+    });
+    change(en1, wanted);
+    host.at(en1).active = true;
+    setBySomebodyElse(en1, wanted);
+    EXPECT_EQ(notifier.questionsEver, 0);
+    setBySomebodyElse(en1, others);
+    EXPECT_EQ(notifier.questionsEver, 1);
+}
+
 TEST_F(DriftAlarmTest, AWireWithoutALinkDoesNotScan)
 {
     change(en0, wanted);
