@@ -39,6 +39,10 @@ public:
         QString activeConnection; ///< its path, "" when there is none
     };
 
+    /// In place of a profile's path: the one that NetworkManager itself takes for the device. Paths
+    /// of profiles mean nothing after a restart of NetworkManager, or another profile.
+    static constexpr const char *bestProfile = "/";
+
     explicit NetworkManager(QDBusConnection bus);
 
     /// None when it does not run, or knows no such device.

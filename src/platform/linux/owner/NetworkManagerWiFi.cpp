@@ -29,8 +29,12 @@ NetworkManagerWiFi::NetworkManagerWiFi(NetworkManager &networkManager, Scheduler
     , m_device(std::move(device))
     , m_watch(networkManager, scheduler, name)
 {
-    connect(&networkManager, &NetworkManager::ownerChanged, this,
-        [this] { m_isRestarted = m_isReleased; });
+    connect(&networkManager, &NetworkManager::ownerChanged, this, [this] {
+        m_isRestarted = m_isReleased;
+        if (!m_profile.isEmpty()) {
+            m_profile = QString::fromLatin1(NetworkManager::bestProfile);
+        }
+    });
 }
 
 NetworkManagerWiFi::~NetworkManagerWiFi()

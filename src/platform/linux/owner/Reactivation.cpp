@@ -20,6 +20,11 @@ Reactivation::Reactivation(
     , m_before(std::move(activeConnection))
     , m_triesLeft(mostTries)
 {
+    connect(&networkManager, &NetworkManager::ownerChanged, this, [this] {
+        m_profile = QString::fromLatin1(NetworkManager::bestProfile);
+        m_triesLeft = mostTries;
+        m_isAsked = false;
+    });
 }
 
 bool Reactivation::look(const NetworkManager::Device &device)

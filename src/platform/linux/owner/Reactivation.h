@@ -27,7 +27,7 @@ public:
 
 private:
     NetworkManager &m_networkManager;
-    const QString m_profile;
+    QString m_profile;
     const QString m_before;
     int m_triesLeft;
     bool m_isAsked = false;
