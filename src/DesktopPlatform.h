@@ -58,7 +58,7 @@ private:
     LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges;
     RouteReachability m_route;
-    PortalReachability m_reachability{m_route};
+    PortalReachability m_reachability{m_route, m_scheduler};
     LogindSleep m_sleep;
     Nl80211WiFiClient m_wifi;
     Nl80211LocationAuthorization m_location;

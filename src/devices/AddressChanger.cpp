@@ -215,7 +215,7 @@ ChangeOutcome AddressChanger::finish(
     if (request.isCurrent) {
         m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
-    tellOutcome(request, result, now.macAddress);
+    tellOutcome(request, result, outcome);
     m_deps.currentInterface.updateHexValues();
     return outcome;
 }
@@ -228,21 +228,25 @@ InterfaceInfo AddressChanger::readBack(const QString &device) const
 }
 
 void AddressChanger::tellOutcome(
-    const Request &request, const OwnerParticipation::Result &result, const QString &readBack)
+    const Request &request, const OwnerParticipation::Result &result, const ChangeOutcome &outcome)
 {
+    using Outcome = AddressOwner::Outcome;
+    const QString &readBack = outcome.address;
+    const auto settlement = result.settlement.value_or(Outcome::Settled);
     if (result.isRefused) {
         tellNotChanged(
             request.interface, filled(localized("%@ did not let go of it"), {result.owner}));
         return;
     }
     if (!result.isChanged) {
-        tellNotChanged(
-            request.interface, localized("Please make sure you have installed the HelperTool"));
+        const bool isSession = outcome.wasAsked && settlement.testFlag(Outcome::Untold);
+        tellNotChanged(request.interface,
+            isSession ? localized("Only the session in front of this computer may change it")
+                      : localized("Please make sure you have installed the HelperTool"));
         return;
     }
     if (!result.owner.isEmpty() && !isSameAddress(readBack, request.address)) {
-        using Outcome = AddressOwner::Outcome;
-        if (result.settlement.value_or(Outcome::Settled).testFlag(Outcome::NotBack)) {
+        if (settlement.testFlag(Outcome::NotBack)) {
             // On no network it may have one for scanning, which says nothing about what it comes
             // back with.
             tellOfOwner(request.interface, result);

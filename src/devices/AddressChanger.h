@@ -134,8 +134,8 @@ private:
     ChangeOutcome finish(
         const Request &request, const OwnerParticipation::Result &result, bool wasAsked);
     InterfaceInfo readBack(const QString &device) const;
-    void tellOutcome(
-        const Request &request, const OwnerParticipation::Result &result, const QString &readBack);
+    void tellOutcome(const Request &request, const OwnerParticipation::Result &result,
+        const ChangeOutcome &outcome);
     void tellOfOwner(const QString &interface, const OwnerParticipation::Result &result);
     void tellNotChanged(const QString &interface, const QString &reason);
 

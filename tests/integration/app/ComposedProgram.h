@@ -79,7 +79,7 @@ private:
     LinuxAddressOwners m_addressOwners;
     NetlinkChangeSource m_networkChanges{m_real};
     RouteReachability m_route;
-    PortalReachability m_reachability{m_route};
+    PortalReachability m_reachability{m_route, m_real};
     LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;

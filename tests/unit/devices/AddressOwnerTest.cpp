@@ -147,6 +147,20 @@ TEST_F(AddressOwnerTest, AnAddressForScanningIsNoneOfANetwork)
         told("Wi-Fi is not connected again", "Please connect it again with NetworkManager"));
 }
 
+TEST_F(AddressOwnerTest, ThatTakesNoWordFromASessionThatMayChangeNothingIsTold)
+{
+    owners.settleAs(Outcome::Untold);
+    helper.mood = FakeHelper::Mood::Refusing;
+    EXPECT_FALSE(changed().isInPlace);
+    EXPECT_EQ(notifier.messages(), told("Wi-Fi Address was not Changed",
+                                       "Only the session in front of this computer may change it"));
+
+    helper.installed = false;
+    EXPECT_FALSE(changed().isInPlace);
+    EXPECT_EQ(
+        notifier.messages().last().body, u"Please make sure you have installed the HelperTool"_s);
+}
+
 TEST_F(AddressOwnerTest, ThatTakesNoWordIsTold)
 {
     owners.settleAs(Outcome::Untold);

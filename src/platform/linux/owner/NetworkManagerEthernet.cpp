@@ -53,7 +53,8 @@ void NetworkManagerEthernet::prepare(Prepared prepared)
 void NetworkManagerEthernet::settle(bool isChanged, Settled settled)
 {
     if (!isChanged || m_profile.isEmpty() || !m_mayControl) {
-        const bool isTold = !isChanged || m_profile.isEmpty();
+        // On no network there was nothing to say to it.
+        const bool isTold = m_mayControl || (isChanged && m_profile.isEmpty());
         m_scheduler.onMain(this, [settled = std::move(settled), isTold] {
             settled(isTold ? Outcome::Settled : Outcome::Untold);
         });

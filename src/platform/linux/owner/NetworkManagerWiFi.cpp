@@ -93,12 +93,10 @@ void NetworkManagerWiFi::release(const Prepared &prepared)
     });
 }
 
-void NetworkManagerWiFi::settle(bool isChanged, Settled settled)
+void NetworkManagerWiFi::settle(bool, Settled settled)
 {
     if (!m_isReleased) {
-        m_scheduler.onMain(this, [settled = std::move(settled), isChanged] {
-            settled(isChanged ? Outcome::Untold : Outcome::Settled);
-        });
+        m_scheduler.onMain(this, [settled = std::move(settled)] { settled(Outcome::Untold); });
         return;
     }
     if (!m_profile.isEmpty()) {

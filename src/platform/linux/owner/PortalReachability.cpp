@@ -19,7 +19,19 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto answerLimit = 5s;
-constexpr uint portal = 2; // NM_CONNECTIVITY_PORTAL
+// NMConnectivityState.
+constexpr uint none = 1;
+constexpr uint portal = 2;
+constexpr uint limited = 3;
+
+// From the first route of a network to what NetworkManager finds behind it: it goes through none
+// and limited. Where it finds no more than that, the route counts.
+constexpr auto findingLimit = 10s;
+
+bool isFinding(uint connectivity)
+{
+    return connectivity == none || connectivity == limited;
+}
 
 const QString service = u"org.freedesktop.NetworkManager"_s;
 const QString path = u"/org/freedesktop/NetworkManager"_s;
@@ -28,8 +40,10 @@ const QString connectivity = u"Connectivity"_s;
 
 } // namespace
 
-PortalReachability::PortalReachability(Reachability &network, QDBusConnection bus)
+PortalReachability::PortalReachability(
+    Reachability &network, Scheduler &scheduler, QDBusConnection bus)
     : m_network(network)
+    , m_scheduler(scheduler)
     , m_bus(std::move(bus))
     , m_watcher(
           new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this))
@@ -40,9 +54,38 @@ PortalReachability::PortalReachability(Reachability &network, QDBusConnection bu
     ask();
 }
 
+PortalReachability::~PortalReachability()
+{
+    endWait();
+}
+
 bool PortalReachability::isReachable()
 {
-    return !m_isPortal && m_network.isReachable();
+    if (!m_network.isReachable()) {
+        endWait();
+        return false;
+    }
+    return isFinding(m_connectivity) ? hasWaited() : m_connectivity != portal;
+}
+
+bool PortalReachability::hasWaited()
+{
+    if (!m_waitsUntil) {
+        m_waitsUntil = m_scheduler.monotonic() + findingLimit;
+        m_waiting = m_scheduler.onMainAfter(findingLimit, this, [this] {
+            if (m_changed) {
+                m_changed();
+            }
+        });
+    }
+    return m_scheduler.monotonic() >= *m_waitsUntil;
+}
+
+void PortalReachability::endWait()
+{
+    if (std::exchange(m_waitsUntil, std::nullopt)) {
+        m_scheduler.cancel(m_waiting);
+    }
 }
 
 void PortalReachability::watch(std::function<void()> changed)
@@ -66,7 +109,7 @@ void PortalReachability::ask()
     call.setAutoStartService(false);
     const quint64 question = ++m_question;
     callBus(m_bus, this, call, answerLimit, [this, question](const QDBusMessage &answer) {
-        // An error has a text as its first argument, which is no variant: no portal is known of.
+        // An error has a text as its first argument, which is no variant: nothing is known (0).
         if (question == m_question) {
             note(answer.arguments().value(0).value<QDBusVariant>().variant().toUInt());
         }
@@ -75,8 +118,14 @@ void PortalReachability::ask()
 
 void PortalReachability::note(uint connectivity)
 {
-    const bool isPortal = connectivity == portal;
-    if (std::exchange(m_isPortal, isPortal) != isPortal && m_changed) {
+    const uint before = std::exchange(m_connectivity, connectivity);
+    if (before == connectivity) {
+        return;
+    }
+    if (!isFinding(before) || !isFinding(connectivity)) {
+        endWait();
+    }
+    if (m_changed) {
         m_changed();
     }
 }

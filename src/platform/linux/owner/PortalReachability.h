@@ -3,25 +3,31 @@
 #pragma once
 
 #include "platform/Reachability.h"
+#include "platform/Scheduler.h"
 
 #include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
+
+#include <chrono>
+#include <optional>
 
 class QDBusServiceWatcher;
 
 namespace quillon {
 
 /// What another one says, but for a network whose portal wants a log-in first, as far as
-/// NetworkManager finds that out (its property Connectivity). Main thread.
+/// NetworkManager finds that out (its property Connectivity). It needs a moment for that: meanwhile
+/// the internet counts as out of reach. Main thread.
 class PortalReachability : public QObject, public Reachability
 {
     Q_OBJECT
 
 public:
     /// `network` outlives this; `bus` is the system's.
-    explicit PortalReachability(
-        Reachability &network, QDBusConnection bus = QDBusConnection::systemBus());
+    PortalReachability(Reachability &network, Scheduler &scheduler,
+        QDBusConnection bus = QDBusConnection::systemBus());
+    ~PortalReachability() override;
 
     bool isReachable() override;
     void watch(std::function<void()> changed) override;
@@ -32,11 +38,16 @@ private Q_SLOTS:
 private:
     void ask();
     void note(uint connectivity);
+    bool hasWaited();
+    void endWait();
 
     Reachability &m_network;
+    Scheduler &m_scheduler;
     QDBusConnection m_bus;
     QDBusServiceWatcher *m_watcher;
-    bool m_isPortal = false;
+    uint m_connectivity = 0;
+    std::optional<std::chrono::milliseconds> m_waitsUntil;
+    Scheduler::Token m_waiting = 0;
     quint64 m_question = 0; ///< an older answer says nothing about now
     std::function<void()> m_changed;
 };

@@ -188,6 +188,7 @@ TEST_F(LinuxAddressOwnersTest, TellWhoMayNotControlNetworks)
         ASSERT_NE(owner, nullptr);
         EXPECT_TRUE(prepare(*owner));
         EXPECT_EQ(settle(*owner, true), Outcome::Untold);
+        EXPECT_EQ(settle(*owner, false), Outcome::Untold);
         EXPECT_EQ(networkManager.journal(), QStringList()) << "no prompt comes from this";
         networkManager.end();
     }

@@ -3,6 +3,7 @@
 #include "platform/linux/owner/PortalReachability.h"
 
 #include "fakes/FakeReachability.h"
+#include "fakes/FakeScheduler.h"
 #include "integration/platform/linux/Waiting.h"
 #include "integration/platform/linux/bus/FakePeer.h"
 #include "integration/platform/linux/bus/PrivateBus.h"
@@ -17,7 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using namespace std::chrono_literals;
+
 // Of NMConnectivityState.
+constexpr uint none = 1;
 constexpr uint portal = 2;
 constexpr uint limited = 3;
 constexpr uint full = 4;
@@ -71,7 +75,8 @@ protected:
     std::optional<FakePeer> networkManager;
     FakeReachability network;
     QDBusConnection connection = bus.connect();
-    PortalReachability reachability{network, connection};
+    FakeScheduler scheduler;
+    PortalReachability reachability{network, scheduler, connection};
 };
 
 TEST_F(PortalReachabilityTest, IsThatOfTheNetworkWhereNobodyLooksForPortals)
@@ -95,12 +100,56 @@ TEST_F(PortalReachabilityTest, EndsAtAPortalUntilTheLogIn)
     EXPECT_TRUE(becomes(false));
 }
 
-TEST_F(PortalReachabilityTest, DoesNotEndWhereAPortalIsNotCertain)
+TEST_F(PortalReachabilityTest, WaitsUntilItIsKnownWhetherANewNetworkHasAPortal)
 {
-    startNetworkManager(portal);
-    EXPECT_TRUE(becomes(false));
+    network.reachable = false;
+    startNetworkManager(none);
+    int changes = 0;
+    reachability.watch([&changes] { ++changes; });
+    ASSERT_TRUE(eventually([&] { return changes == 1; }));
+    scheduler.advance(1min);
+    EXPECT_FALSE(reachability.isReachable());
+
+    network.reachable = true;
+    EXPECT_FALSE(reachability.isReachable())
+        << "NetworkManager has not looked behind the route yet";
+    scheduler.advance(3s);
     find(limited);
+    ASSERT_TRUE(eventually([&] { return changes == 2; }));
+    EXPECT_FALSE(reachability.isReachable());
+    find(portal);
+    ASSERT_TRUE(eventually([&] { return changes == 3; }));
+    scheduler.advance(1min);
+    EXPECT_FALSE(reachability.isReachable());
+    EXPECT_EQ(changes, 3);
+    find(full);
     EXPECT_TRUE(becomes(true));
+}
+
+TEST_F(PortalReachabilityTest, IsThatOfTheNetworkWhereNothingIsFoundInTenSeconds)
+{
+    startNetworkManager(none);
+    int changes = 0;
+    reachability.watch([&changes] { ++changes; });
+    ASSERT_TRUE(eventually([&] { return changes == 1; }));
+    EXPECT_FALSE(reachability.isReachable());
+    scheduler.advance(4s);
+    find(limited);
+    ASSERT_TRUE(eventually([&] { return changes == 2; }));
+    EXPECT_FALSE(reachability.isReachable());
+    scheduler.advance(5999ms);
+    EXPECT_FALSE(reachability.isReachable());
+    scheduler.advance(1ms);
+    EXPECT_EQ(changes, 3) << "nobody else would tell that it is time";
+    EXPECT_TRUE(reachability.isReachable());
+
+    // The next network is looked at anew.
+    network.reachable = false;
+    EXPECT_FALSE(reachability.isReachable());
+    network.reachable = true;
+    EXPECT_FALSE(reachability.isReachable());
+    scheduler.advance(10s);
+    EXPECT_TRUE(reachability.isReachable());
 }
 
 TEST_F(PortalReachabilityTest, KnowsOfNoPortalWithoutNetworkManager)
