@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/AddressChanger.h"
 
-#include "base/Localized.h"
 #include "base/NotificationNames.h"
-#include "base/Notifier.h"
 #include "base/SettingsKeys.h"
 #include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
@@ -56,6 +54,7 @@ AddressChanger::AddressChanger(const Collaborators &collaborators)
     : m_deps(collaborators)
     , m_displayCase(collaborators.settings)
     , m_life(std::make_shared<Life>())
+    , m_messages(collaborators.notifier)
     , m_participation(collaborators.owners, collaborators.scheduler)
 {
 }
@@ -147,8 +146,7 @@ void AddressChanger::requestChange(
         .reply = reply,
     };
     if (record.current == address) {
-        tellNotChanged(
-            request.interface, localized("The new Address and the old Address are identical"));
+        m_messages.tellIdentical(request.interface);
         if (reply) {
             reply(
                 {.isInPlace = true, .address = address, .requested = address, .isReported = true});
@@ -215,9 +213,18 @@ ChangeOutcome AddressChanger::finish(
     if (request.isCurrent) {
         m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
-    tellOutcome(request, result, outcome);
+    if (m_messages.tell({request.interface, request.oldAddress}, result, outcome)) {
+        Q_EMIT addressChanged(request.device, request.address);
+        m_deps.notifications.post(
+            notifications::addressUpdated, this, {{record::device, request.device}});
+    }
     m_deps.currentInterface.updateHexValues();
     return outcome;
+}
+
+void AddressChanger::tellUndone(const QString &device)
+{
+    m_messages.tellUndone(m_deps.devices.record(device).interface.value_or(QString()));
 }
 
 // What fails once is most often a table that changed while it was read.
@@ -225,88 +232,6 @@ InterfaceInfo AddressChanger::readBack(const QString &device) const
 {
     const InterfaceInfo info = m_deps.devices.getInfoForDevice(device);
     return info.readFailed ? m_deps.devices.getInfoForDevice(device) : info;
-}
-
-void AddressChanger::tellOutcome(
-    const Request &request, const OwnerParticipation::Result &result, const ChangeOutcome &outcome)
-{
-    using Outcome = AddressOwner::Outcome;
-    const QString &readBack = outcome.address;
-    const auto settlement = result.settlement.value_or(Outcome::Settled);
-    if (result.isRefused) {
-        tellNotChanged(
-            request.interface, filled(localized("%@ did not let go of it"), {result.owner}));
-        return;
-    }
-    if (!result.isChanged) {
-        const bool isSession = outcome.wasAsked && settlement.testFlag(Outcome::Untold);
-        tellNotChanged(request.interface,
-            isSession ? localized("Only the session in front of this computer may change it")
-                      : localized("Please make sure you have installed the HelperTool"));
-        return;
-    }
-    if (!result.owner.isEmpty() && !isSameAddress(readBack, request.address)) {
-        if (settlement.testFlag(Outcome::NotBack)) {
-            // On no network it may have one for scanning, which says nothing about what it comes
-            // back with.
-            tellOfOwner(request.interface, result);
-            return;
-        }
-        tellNotChanged(request.interface,
-            filled(localized("%@ gives this network an Address of its own. Look for it in the "
-                             "network's settings"),
-                {result.owner}));
-        return;
-    }
-    if (readBack == request.oldAddress) {
-        tellNotChanged(request.interface, localized("Please make sure your Device is enabled"));
-        return;
-    }
-    m_deps.notifier.sendNotificationWithBody(
-        filled(localized("%@ Address Changed"), {request.interface}),
-        filled(localized("Your new MAC Address is: %@"), {readBack}));
-    tellOfOwner(request.interface, result);
-    Q_EMIT addressChanged(request.device, request.address);
-    m_deps.notifications.post(
-        notifications::addressUpdated, this, {{record::device, request.device}});
-}
-
-void AddressChanger::tellOfOwner(const QString &interface, const OwnerParticipation::Result &result)
-{
-    using Outcome = AddressOwner::Outcome;
-    const auto outcomes = result.settlement.value_or(Outcome::Settled);
-    const auto tell = [&](Outcome outcome, const QString &title, const QString &body) {
-        if (outcomes.testFlag(outcome)) {
-            m_deps.notifier.sendNotificationWithBody(filled(title, {interface}), body);
-        }
-    };
-    const QString connectAgain =
-        result.owner.isEmpty()
-            ? localized("Please connect it again with the program that connects it")
-            : filled(localized("Please connect it again with %@"), {result.owner});
-    tell(Outcome::NotBack, localized("%@ is not connected again"), connectAgain);
-    tell(Outcome::KeepsIPAddress, localized("%@ keeps the IP Address of before"), connectAgain);
-    tell(Outcome::KeepsIPv6Address, localized("%@ keeps an IPv6 Address made from the old one"),
-        connectAgain);
-    tell(Outcome::Untold, localized("%@ Address may be replaced"),
-        filled(localized("This session may not control %@. The new Address holds until the "
-                         "interface connects the next time"),
-            {result.owner}));
-}
-
-void AddressChanger::tellUndone(const QString &device)
-{
-    m_deps.notifier.sendNotificationWithBody(
-        filled(localized("%@ Address was replaced"),
-            {m_deps.devices.record(device).interface.value_or(QString())}),
-        localized("Another program keeps setting an Address of its own. Your rule acts again "
-                  "when you join a network"));
-}
-
-void AddressChanger::tellNotChanged(const QString &interface, const QString &reason)
-{
-    m_deps.notifier.sendNotificationWithBody(
-        filled(localized("%@ Address was not Changed"), {interface}), reason);
 }
 
 } // namespace quillon

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "devices/ChangeMessages.h"
+#include "devices/ChangeOutcome.h"
 #include "devices/HexValueTransformer.h"
 #include "devices/OwnerParticipation.h"
 #include "platform/SerialQueue.h"
@@ -23,23 +25,6 @@ class RandomAddress;
 class SettingsStore;
 class XPCMethods;
 struct InterfaceInfo;
-
-/// What became of a change.
-struct ChangeOutcome
-{
-    /// The device has the address that was asked for, whatever the helper said. Where that cannot
-    /// be read: the helper said so.
-    bool isInPlace = false;
-    /// The one that it has now, "" when that cannot be read.
-    QString address = {};
-    QString requested = {};
-    /// A reply of their own tells whoever asked.
-    bool isReported = false;
-    /// The helper said that it set the address.
-    bool isConfirmed = false;
-    /// The helper could be asked; else nothing has touched the device.
-    bool wasAsked = true;
-};
 
 /// Every change of an address, whoever asks, ends here: it serializes changes, refuses a change to
 /// the address in use, has the helper do it and the interface's owner take part, reads the address
@@ -134,15 +119,12 @@ private:
     ChangeOutcome finish(
         const Request &request, const OwnerParticipation::Result &result, bool wasAsked);
     InterfaceInfo readBack(const QString &device) const;
-    void tellOutcome(const Request &request, const OwnerParticipation::Result &result,
-        const ChangeOutcome &outcome);
-    void tellOfOwner(const QString &interface, const OwnerParticipation::Result &result);
-    void tellNotChanged(const QString &interface, const QString &reason);
 
     Collaborators m_deps;
     HexValueTransformer m_displayCase;
     std::shared_ptr<Life> m_life;
     std::optional<SerialQueue> m_changeAddressQueue;
+    ChangeMessages m_messages;
     OwnerParticipation m_participation;
 };
 

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// What became of a change.
+struct ChangeOutcome
+{
+    /// The device has the address that was asked for, whatever the helper said. Where that cannot
+    /// be read: the helper said so.
+    bool isInPlace = false;
+    /// The one that it has now, "" when that cannot be read.
+    QString address = {};
+    QString requested = {};
+    /// A reply of their own tells whoever asked.
+    bool isReported = false;
+    /// The helper said that it set the address.
+    bool isConfirmed = false;
+    /// The helper could be asked; else nothing has touched the device.
+    bool wasAsked = true;
+};
+
+} // namespace quillon
