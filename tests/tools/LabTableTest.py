@@ -18,9 +18,9 @@ import table  # noqa: E402
 
 CASES = """
 import unittest
-class SomeTest(unittest.TestCase):
+class {2}(unittest.TestCase):
     interface = "wlan0"
-    def test_that_{0}(self):
+    def {3}_{0}(self):
         {1}
 """
 
@@ -30,7 +30,7 @@ class SuiteTest(unittest.TestCase):
         """What one case came to, and the suite's exit code."""
         with tempfile.TemporaryDirectory() as folder:
             with open(os.path.join(folder, "some_test.py"), "w") as file:
-                file.write(CASES.format(name, body))
+                file.write(CASES.format(name, body, "SomeTest", "test_that"))
             result = subprocess.run([sys.executable, "-B", os.path.join(SOURCE, "tests", "lab", "suite.py"), folder],
                                     capture_output=True, text=True)
         lines = [line for line in result.stdout.splitlines() if line.startswith(table.CASE)]
