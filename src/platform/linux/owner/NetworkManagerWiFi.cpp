@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 constexpr auto releaseLimit = 10s;
 // Association, and a DHCP server that takes its time.
 constexpr auto connectLimit = 60s;
+constexpr auto unavailableLimit = 5s;
 
 } // namespace
 
@@ -118,10 +119,8 @@ bool NetworkManagerWiFi::isBack(const std::optional<NetworkManager::Device> &dev
         takeBack(*device);
         return false;
     }
-    if (m_isReleased) {
-        m_isReleased = false;
-        m_released.remove(m_name);
-        m_guard.reset();
+    if (!isTakenBack(*device)) {
+        return false;
     }
     if (!m_profile.isEmpty() && !(m_reactivation && m_reactivation->look(*device))) {
         return false;
@@ -129,6 +128,24 @@ bool NetworkManagerWiFi::isBack(const std::optional<NetworkManager::Device> &dev
     if (std::exchange(m_isRestarted, false) && m_reactivation) {
         connectOnceMore(*device);
         return false;
+    }
+    return true;
+}
+
+// Until it has come so far, NetworkManager's own notes on disk say that it does not manage the
+// interface: killed now, it would leave it so at its next start.
+bool NetworkManagerWiFi::isTakenBack(const NetworkManager::Device &device)
+{
+    if (device.state < NetworkManager::Disconnected) {
+        const auto now = m_scheduler.monotonic();
+        m_unavailableSince = m_unavailableSince.value_or(now);
+        // A radio that is blocked does not come further.
+        return now - *m_unavailableSince >= unavailableLimit;
+    }
+    if (m_isReleased) {
+        m_isReleased = false;
+        m_released.remove(m_name);
+        m_guard.reset();
     }
     return true;
 }

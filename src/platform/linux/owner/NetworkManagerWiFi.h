@@ -39,6 +39,7 @@ private:
     void release(const Prepared &prepared);
     void takeBack(const NetworkManager::Device &device);
     void connectOnceMore(const NetworkManager::Device &device);
+    bool isTakenBack(const NetworkManager::Device &device);
     bool isBack(const std::optional<NetworkManager::Device> &device);
 
     NetworkManager &m_networkManager;
@@ -53,6 +54,7 @@ private:
     bool m_isRestarted = false; ///< NetworkManager, since the release
     std::optional<TakeBackGuard> m_guard;
     bool m_isAskedToTakeBack = false;
+    std::optional<std::chrono::milliseconds> m_unavailableSince;
     std::optional<Reactivation> m_reactivation;
 };
 

@@ -4,6 +4,7 @@
 
 #include "MadeUpBusOwner.h"
 #include "MadeUpNetworkManager.h"
+#include "base/SettingsKeys.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
 #include "integration/platform/linux/Waiting.h"
@@ -177,6 +178,49 @@ TEST_F(LinuxAddressOwnersTest, AskAgainWhenAnActivationIsRefusedForAMoment)
         advance(1s);
     }
     EXPECT_EQ(outcome, Outcome::Settled);
+}
+
+TEST_F(LinuxAddressOwnersTest, AreNotDoneBeforeNetworkManagerHasNotedThatItManagesTheRadio)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::WiFi);
+    networkManager.isConnected = false;
+    const auto owner = find(networkManager.name());
+    ASSERT_NE(owner, nullptr);
+    ASSERT_TRUE(prepare(*owner));
+    networkManager.isBlocked = true;
+    std::optional<AddressOwner::Outcomes> outcome;
+    owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
+    ASSERT_TRUE(soon([&] { return networkManager.isManaged; }));
+    advance(4s);
+    EXPECT_FALSE(outcome);
+    // Killed at that moment, as what it last noted has it.
+    networkManager.isManaged = false;
+    networkManager.restart();
+    networkManager.isBlocked = false;
+    for (int second = 0; second < 10 && !outcome; ++second) {
+        advance(1s);
+    }
+    EXPECT_EQ(outcome, Outcome::Settled);
+    EXPECT_TRUE(networkManager.isManaged);
+}
+
+TEST_F(LinuxAddressOwnersTest, DoNotWaitLongForARadioThatIsBlocked)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::WiFi);
+    networkManager.isConnected = false;
+    networkManager.isBlocked = true;
+    const auto owner = find(networkManager.name());
+    ASSERT_NE(owner, nullptr);
+    ASSERT_TRUE(prepare(*owner));
+    std::optional<AddressOwner::Outcomes> outcome;
+    owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
+    for (int second = 0; second < 8 && !outcome; ++second) {
+        advance(1s);
+    }
+    EXPECT_EQ(outcome, Outcome::Settled);
+    EXPECT_TRUE(networkManager.isManaged);
+    EXPECT_EQ(settings.get(keys::releasedDevices).toStringList(), QStringList{u"wlan0"_s})
+        << "the next start has it taken back, should NetworkManager forget it";
 }
 
 TEST_F(LinuxAddressOwnersTest, TellWhoMayNotControlNetworks)

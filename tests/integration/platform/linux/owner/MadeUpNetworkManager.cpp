@@ -69,6 +69,9 @@ uint MadeUpNetworkManager::state() const
     if (!isManaged) {
         return 10;
     }
+    if (isBlocked) {
+        return 20;
+    }
     return isConnected ? 100 : 30;
 }
 

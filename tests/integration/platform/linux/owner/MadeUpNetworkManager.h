@@ -39,6 +39,7 @@ public:
     bool isConnected = true;
     QString permission = QStringLiteral("yes");
     std::chrono::milliseconds thinking{0}; ///< before it tells who may do what
+    bool isBlocked = false;                ///< the radio: it is managed, and no more
     bool letsGo = true;                    ///< else it says so and keeps the device
     bool connects = true;                  ///< else an activation never gets anywhere
     bool answers = true;                   ///< else it hangs
