@@ -4,6 +4,9 @@
 
 #include "integration/platform/linux/Commands.h"
 
+#include <chrono>
+#include <thread>
+
 namespace quillon::test {
 
 /// In the sandbox, a card "own0" with a lease of an IPv4 address, at a wire whose other end is
@@ -17,6 +20,8 @@ public:
         ip("link set far0 up");
         ip("link set own0 up");
         ip("address add 192.0.2.77/24 dev own0 valid_lft 4000 preferred_lft 3000");
+        // The kernel dates a lease in hundredths of a second: a renewal shall have another date.
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     ~WiredPair()
     {
