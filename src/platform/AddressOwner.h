@@ -54,7 +54,7 @@ public:
     /// `found` is called once, within seconds, perhaps before the call returns.
     virtual void find(const QString &device, Found found) = 0;
     /// Has owners take back what a program that died between prepare() and settle() had them let go
-    /// of.
+    /// of. To be called at the start.
     virtual void finishInterrupted() = 0;
 };
 

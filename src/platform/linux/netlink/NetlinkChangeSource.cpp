@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto quietTime = 100ms;
-constexpr auto longestBurst = 1s;
+constexpr auto longestBurst = 500ms;
 // A burst that is longer is read on at the main loop's next turn.
 constexpr int datagramsAtOnce = 1000;
 

@@ -19,7 +19,7 @@ class Scheduler;
 /// The rtnetlink(7) groups for links, addresses and routes, IPv4 and IPv6, and for the objects that
 /// routes may lead to. One action of a person or a network manager gives several messages within
 /// milliseconds: they are one change, told when it has been quiet for 100 ms, at the latest after
-/// one second. What happens from the construction on is told, after start(). Main thread.
+/// half a second. What happens from the construction on is told, after start(). Main thread.
 class NetlinkChangeSource : public NetworkChangeSource
 {
 public:

@@ -31,6 +31,9 @@ LinuxAddressOwners::LinuxAddressOwners(
     , m_networkManager(bus)
     , m_others(bus)
 {
+    // One that was let go of, and of which it had not noted that it has it back, stays so.
+    connect(&m_networkManager, &NetworkManager::ownerChanged, this,
+        &LinuxAddressOwners::finishInterrupted);
 }
 
 void LinuxAddressOwners::find(const QString &device, Found found)
@@ -44,6 +47,7 @@ void LinuxAddressOwners::find(const QString &device, Found found)
                         found(std::make_unique<WatchedInterface>(m_scheduler, device, name));
                     });
             } else if (known->isWiFi) {
+                m_takingBack.erase(device); // it has it, and may be asked to let go of it now
                 found(std::make_unique<NetworkManagerWiFi>(
                     m_networkManager, m_scheduler, m_released, m_guard, device, *known));
             } else {
@@ -55,14 +59,15 @@ void LinuxAddressOwners::find(const QString &device, Found found)
 
 void LinuxAddressOwners::finishInterrupted()
 {
-    const QStringList devices = m_released.names();
+    const QStringList devices = m_released.abandoned();
     for (const QString &device : devices) {
-        m_interrupted.push_back(std::make_unique<TakingBack>(
-            m_networkManager, m_scheduler, device, [this, device](bool isInTime) {
-                if (isInTime) {
-                    m_released.remove(device);
-                }
-            }));
+        const auto end = [this, device](bool isInTime) {
+            if (isInTime) {
+                m_released.remove(device);
+            }
+        };
+        m_takingBack[device] =
+            std::make_unique<TakingBack>(m_networkManager, m_scheduler, device, end);
     }
 }
 

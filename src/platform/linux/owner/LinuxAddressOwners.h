@@ -11,8 +11,8 @@
 #include <QDBusConnection>
 #include <QObject>
 
+#include <map>
 #include <memory>
-#include <vector>
 
 namespace quillon {
 
@@ -37,7 +37,7 @@ private:
     const QStringList m_guard;
     NetworkManager m_networkManager;
     BusOwners m_others;
-    std::vector<std::unique_ptr<TakingBack>> m_interrupted;
+    std::map<QString, std::unique_ptr<TakingBack>> m_takingBack; ///< by device
 };
 
 } // namespace quillon

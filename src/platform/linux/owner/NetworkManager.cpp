@@ -31,9 +31,13 @@ constexpr auto lastCallLimit = 2s;
 const QString service = u"org.freedesktop.NetworkManager"_s;
 const QString path = u"/org/freedesktop/NetworkManager"_s;
 const QString deviceInterface = u"org.freedesktop.NetworkManager.Device"_s;
+const QString settingsPath = u"/org/freedesktop/NetworkManager/Settings"_s;
+const QString settingsInterface = u"org.freedesktop.NetworkManager.Settings"_s;
 const QString activeInterface = u"org.freedesktop.NetworkManager.Connection.Active"_s;
 const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 const QString controlPermission = u"org.freedesktop.NetworkManager.network-control"_s;
+const QString unknownProfile =
+    u"org.freedesktop.NetworkManager.Settings.InvalidConnection"_s; // an error
 const QString noObject = u"/"_s;
 constexpr uint wifiDevice = 2; // NM_DEVICE_TYPE_WIFI
 
@@ -81,6 +85,9 @@ NetworkManager::NetworkManager(QDBusConnection bus)
     connect(
         m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManager::ownerChanged);
     connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &NetworkManager::changed);
+    connect(m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        &NetworkManager::forgetPermission);
+    m_bus.connect(service, path, service, u"CheckPermissions"_s, this, SLOT(forgetPermission()));
     m_bus.connect(service, QString(), deviceInterface, u"StateChanged"_s, this, SIGNAL(changed()));
 }
 
@@ -112,23 +119,41 @@ void NetworkManager::findDevice(const QString &name, QObject *context,
 void NetworkManager::askPermission(
     QObject *context, const std::function<void(bool isGranted)> &reply)
 {
-    callBus(m_bus, context, callTo(path, service, u"GetPermissions"_s), decisionLimit,
-        [reply](const QDBusMessage &answer) {
-            const auto permissions =
-                isAnswer(answer) ? qdbus_cast<QMap<QString, QString>>(answer.arguments().value(0))
-                                 : QMap<QString, QString>();
-            reply(permissions.value(controlPermission) == "yes"_L1);
-        });
+    if (m_mayControl) {
+        QMetaObject::invokeMethod(
+            context, [reply, isGranted = *m_mayControl] { reply(isGranted); },
+            Qt::QueuedConnection);
+        return;
+    }
+    const auto onAnswer = [this, reply, asked = m_permissionChanges](const QDBusMessage &answer) {
+        if (!isAnswer(answer)) {
+            reply(false);
+            return;
+        }
+        const bool isGranted = qdbus_cast<QMap<QString, QString>>(answer.arguments().value(0))
+                                   .value(controlPermission) == "yes"_L1;
+        if (asked == m_permissionChanges) {
+            m_mayControl = isGranted;
+        }
+        reply(isGranted);
+    };
+    callBus(m_bus, context, callTo(path, service, u"GetPermissions"_s), decisionLimit, onAnswer);
+}
+
+void NetworkManager::forgetPermission()
+{
+    m_mayControl.reset();
+    ++m_permissionChanges;
 }
 
 void NetworkManager::findProfile(const QString &activeConnection, QObject *context,
     const std::function<void(const QString &)> &reply)
 {
     callBus(m_bus, context,
-        callTo(activeConnection, propertiesInterface, u"Get"_s, {activeInterface, u"Connection"_s}),
+        callTo(activeConnection, propertiesInterface, u"Get"_s, {activeInterface, u"Uuid"_s}),
         answerLimit, [reply](const QDBusMessage &answer) {
             reply(isAnswer(answer)
-                      ? objectIn(answer.arguments().value(0).value<QDBusVariant>().variant())
+                      ? answer.arguments().value(0).value<QDBusVariant>().variant().toString()
                       : QString());
         });
 }
@@ -162,6 +187,24 @@ void NetworkManager::disconnectDevice(
 void NetworkManager::activate(const QString &profile, const QString &devicePath, QObject *context,
     const std::function<void(bool isBegun)> &reply)
 {
+    const auto onPath = [this, devicePath, context, reply](const QDBusMessage &answer) {
+        if (isAnswer(answer)) {
+            activateByPath(objectIn(answer.arguments().value(0)), devicePath, context, reply);
+        } else if (answer.errorName() == unknownProfile) {
+            activateByPath(QString(), devicePath, context, reply);
+        } else {
+            reply(false);
+        }
+    };
+    callBus(m_bus, context,
+        callTo(settingsPath, settingsInterface, u"GetConnectionByUuid"_s, {profile}), answerLimit,
+        onPath);
+}
+
+void NetworkManager::activateByPath(const QString &profilePath, const QString &devicePath,
+    QObject *context, const std::function<void(bool isBegun)> &reply)
+{
+    const QString profile = profilePath.isEmpty() ? noObject : profilePath;
     callBus(m_bus, context,
         callTo(path, service, u"ActivateConnection"_s,
             {QVariant::fromValue(QDBusObjectPath(profile)),

@@ -39,18 +39,16 @@ public:
         QString activeConnection; ///< its path, "" when there is none
     };
 
-    /// In place of a profile's path: the one that NetworkManager itself takes for the device. Paths
-    /// of profiles mean nothing after a restart of NetworkManager, or another profile.
-    static constexpr const char *bestProfile = "/";
-
     explicit NetworkManager(QDBusConnection bus);
 
     /// None when it does not run, or knows no such device.
     void findDevice(const QString &name, QObject *context,
         const std::function<void(const std::optional<Device> &)> &reply);
-    /// Whether it lets this session control networks without a prompt.
+    /// Whether it lets this session control networks without a prompt. What it said last holds
+    /// until it says that this may have changed: it asks polkit about some twenty things to know.
     void askPermission(QObject *context, const std::function<void(bool isGranted)> &reply);
-    /// The path of the profile behind an active connection, "" when that has gone.
+    /// The UUID of the profile behind an active connection, "" when that has gone. A path would be
+    /// another profile's after a restart of NetworkManager.
     void findProfile(const QString &activeConnection, QObject *context,
         const std::function<void(const QString &)> &reply);
     void setManaged(const QString &devicePath, bool isManaged, QObject *context,
@@ -60,6 +58,8 @@ public:
     /// Ends the device's connection, with its IP addresses.
     void disconnectDevice(
         const QString &devicePath, QObject *context, const std::function<void(bool isDone)> &reply);
+    /// With the profile of that UUID, or, where there is none any more, with the one that
+    /// NetworkManager itself takes for the device.
     void activate(const QString &profile, const QString &devicePath, QObject *context,
         const std::function<void(bool isBegun)> &reply);
 
@@ -69,11 +69,18 @@ Q_SIGNALS:
     /// It has come or gone; before changed().
     void ownerChanged();
 
+private Q_SLOTS:
+    void forgetPermission();
+
 private:
     QDBusMessage managedCall(const QString &devicePath, bool isManaged) const;
+    void activateByPath(const QString &profilePath, const QString &devicePath, QObject *context,
+        const std::function<void(bool isBegun)> &reply);
 
     QDBusConnection m_bus;
     QDBusServiceWatcher *m_watcher;
+    std::optional<bool> m_mayControl;
+    int m_permissionChanges = 0;
 };
 
 } // namespace quillon

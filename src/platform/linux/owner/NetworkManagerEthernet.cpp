@@ -22,11 +22,6 @@ NetworkManagerEthernet::NetworkManagerEthernet(NetworkManager &networkManager, S
     , m_device(std::move(device))
     , m_watch(networkManager, scheduler, name)
 {
-    connect(&networkManager, &NetworkManager::ownerChanged, this, [this] {
-        if (!m_profile.isEmpty()) {
-            m_profile = QString::fromLatin1(NetworkManager::bestProfile);
-        }
-    });
 }
 
 QString NetworkManagerEthernet::name() const

@@ -30,18 +30,15 @@ NetworkManagerWiFi::NetworkManagerWiFi(NetworkManager &networkManager, Scheduler
     , m_device(std::move(device))
     , m_watch(networkManager, scheduler, name)
 {
-    connect(&networkManager, &NetworkManager::ownerChanged, this, [this] {
-        m_isRestarted = m_isReleased;
-        if (!m_profile.isEmpty()) {
-            m_profile = QString::fromLatin1(NetworkManager::bestProfile);
-        }
-    });
+    connect(&networkManager, &NetworkManager::ownerChanged, this,
+        [this] { m_isRestarted = m_isReleased; });
 }
 
 NetworkManagerWiFi::~NetworkManagerWiFi()
 {
     if (m_isReleased) {
         m_networkManager.setManagedNow(m_device.path);
+        m_released.abandon(m_name);
     }
 }
 

@@ -21,7 +21,6 @@ Reactivation::Reactivation(
     , m_triesLeft(mostTries)
 {
     connect(&networkManager, &NetworkManager::ownerChanged, this, [this] {
-        m_profile = QString::fromLatin1(NetworkManager::bestProfile);
         m_triesLeft = mostTries;
         m_isAsked = false;
     });

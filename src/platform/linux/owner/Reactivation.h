@@ -18,7 +18,7 @@ class Reactivation : public QObject
     Q_OBJECT
 
 public:
-    /// `activeConnection` is the one from before, by its path.
+    /// `profile` by its UUID; `activeConnection` is the one from before, by its path.
     Reactivation(NetworkManager &networkManager, QString profile, QString activeConnection);
 
     /// To be told what the device is like whenever that may have changed. True when it is connected
@@ -27,7 +27,7 @@ public:
 
 private:
     NetworkManager &m_networkManager;
-    QString m_profile;
+    const QString m_profile;
     const QString m_before;
     int m_triesLeft;
     bool m_isAsked = false;

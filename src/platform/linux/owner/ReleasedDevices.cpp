@@ -14,18 +14,32 @@ ReleasedDevices::ReleasedDevices(SettingsStore &settings)
 
 void ReleasedDevices::add(const QString &device)
 {
+    m_inHand.insert(device);
     QStringList all = names();
     if (!all.contains(device)) {
         write(all << device);
     }
 }
 
+void ReleasedDevices::abandon(const QString &device)
+{
+    m_inHand.remove(device);
+}
+
 void ReleasedDevices::remove(const QString &device)
 {
+    m_inHand.remove(device);
     QStringList all = names();
     if (all.removeAll(device) > 0) {
         write(all);
     }
+}
+
+QStringList ReleasedDevices::abandoned() const
+{
+    QStringList all = names();
+    all.removeIf([this](const QString &device) { return m_inHand.contains(device); });
+    return all;
 }
 
 QStringList ReleasedDevices::names() const

@@ -24,7 +24,8 @@ TakingBack::TakingBack(NetworkManager &networkManager, Scheduler &scheduler, con
         if (known && !known->isManaged) {
             m_networkManager.setManaged(known->path, true, this, [](bool) {});
         }
-        return known && known->isManaged;
+        // What it notes on disk says so from then on.
+        return known && known->isManaged && known->state >= NetworkManager::Disconnected;
     };
     m_watch.waitUntil(limit, look, std::move(end));
 }

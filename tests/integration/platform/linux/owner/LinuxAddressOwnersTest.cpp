@@ -78,7 +78,10 @@ protected:
     FakeScheduler scheduler;
     FakeSettingsStore settings{scheduler};
     LinuxAddressOwners owners{scheduler, settings, {}, connection};
-    const QString activated = u"activate "_s + MadeUpNetworkManager::profile();
+    static QString activated(const MadeUpNetworkManager &networkManager)
+    {
+        return u"activate "_s + networkManager.profile();
+    }
 };
 
 TEST_F(LinuxAddressOwnersTest, KnowNobodyWhereNothingManagesNetworks)
@@ -112,7 +115,7 @@ TEST_F(LinuxAddressOwnersTest, EthernetConnectsAnewWithItsProfile)
     EXPECT_TRUE(prepare(*owner));
     EXPECT_EQ(networkManager.journal(), QStringList());
     EXPECT_EQ(settle(*owner, true), Outcome::Settled);
-    EXPECT_EQ(networkManager.journal(), QStringList{activated});
+    EXPECT_EQ(networkManager.journal(), QStringList{activated(networkManager)});
 }
 
 TEST_F(LinuxAddressOwnersTest, EthernetStaysAsItIsWhenNothingWasChangedOrConnected)
@@ -143,8 +146,8 @@ TEST_F(LinuxAddressOwnersTest, WiFiIsLetGoTakenBackAndConnectedAnew)
     EXPECT_TRUE(networkManager.isManaged);
     EXPECT_TRUE(networkManager.isConnected);
     // Known on disk before it is let go, until it is back.
-    EXPECT_EQ(known,
-        (QStringList{u"managed false: wlan0"_s, u"managed true: wlan0"_s, activated + u": "_s}));
+    EXPECT_EQ(known, (QStringList{u"managed false: wlan0"_s, u"managed true: wlan0"_s,
+                         activated(networkManager) + u": "_s}));
 }
 
 TEST_F(LinuxAddressOwnersTest, WiFiOnNoNetworkIsConnectedToNone)
@@ -246,7 +249,7 @@ TEST_F(LinuxAddressOwnersTest, WaitUntilItIsKnownWhoMayControlNetworks)
     const auto owner = find(u"eth0"_s);
     EXPECT_TRUE(prepare(*owner));
     EXPECT_EQ(settle(*owner, true), Outcome::Settled);
-    EXPECT_EQ(networkManager.journal(), QStringList{activated});
+    EXPECT_EQ(networkManager.journal(), QStringList{activated(networkManager)});
 }
 
 TEST_F(LinuxAddressOwnersTest, AnInterfaceThatIsNotLetGoIsTakenBack)
@@ -273,7 +276,7 @@ TEST_F(LinuxAddressOwnersTest, WaitForNoNetworkForEver)
     EXPECT_TRUE(prepare(*owner));
     std::optional<AddressOwner::Outcomes> outcome;
     owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
-    EXPECT_TRUE(soon([&] { return networkManager.journal().contains(activated); }));
+    EXPECT_TRUE(soon([&] { return networkManager.journal().contains(activated(networkManager)); }));
     EXPECT_FALSE(outcome);
     advance(61s);
     EXPECT_EQ(outcome, Outcome::NotBack);
@@ -288,23 +291,88 @@ TEST_F(LinuxAddressOwnersTest, TakeTheInterfaceBackFromARestartedNetworkManager)
     networkManager.restart();
     EXPECT_EQ(settle(*owner, true), Outcome::Settled);
     EXPECT_TRUE(networkManager.isConnected);
-    // The IP address from before goes with a disconnection only; the path of the profile from
-    // before may be another profile's now.
-    const QString best = u"activate /"_s;
+    // The IP address from before goes with a disconnection only.
+    const QString again = activated(networkManager);
     EXPECT_EQ(networkManager.journal(),
-        (QStringList{u"managed false"_s, u"managed true"_s, best, u"disconnect"_s, best}));
+        (QStringList{u"managed false"_s, u"managed true"_s, again, u"disconnect"_s, again}));
 }
 
-TEST_F(LinuxAddressOwnersTest, AskARestartedNetworkManagerForNoProfileOfTheOldOne)
+TEST_F(LinuxAddressOwnersTest, ARestartedNetworkManagerConnectsWithTheProfileFromBefore)
 {
     MadeUpNetworkManager networkManager(bus, Kind::Ethernet);
+    const QString before = activated(networkManager);
     const auto owner = find(u"eth0"_s);
     EXPECT_TRUE(prepare(*owner));
     networkManager.restart();
     advance(1s);
     EXPECT_EQ(settle(*owner, true), Outcome::Settled);
     EXPECT_TRUE(networkManager.isConnected);
-    EXPECT_FALSE(networkManager.journal().contains(activated));
+    EXPECT_NE(activated(networkManager), before) << "it has another path now";
+    EXPECT_EQ(networkManager.journal(), QStringList{activated(networkManager)});
+}
+
+TEST_F(LinuxAddressOwnersTest, AProfileThatIsGoneIsReplacedByTheBest)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::WiFi);
+    const auto owner = find(u"wlan0"_s);
+    EXPECT_TRUE(prepare(*owner));
+    networkManager.knowsProfile = false;
+    EXPECT_EQ(settle(*owner, true), Outcome::Settled);
+    EXPECT_EQ(networkManager.journal(),
+        (QStringList{u"managed false"_s, u"managed true"_s, u"activate /"_s}));
+}
+
+TEST_F(LinuxAddressOwnersTest, AskOnceWhoMayControlNetworksUntilThatChanges)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::Ethernet);
+    const auto change = [&] {
+        const auto owner = find(u"eth0"_s);
+        EXPECT_TRUE(prepare(*owner));
+        return settle(*owner, true);
+    };
+    EXPECT_EQ(change(), Outcome::Settled);
+    EXPECT_EQ(change(), Outcome::Settled);
+    EXPECT_EQ(networkManager.permissionQuestions(), 1);
+    networkManager.changePermission(u"auth"_s);
+    advance(1s);
+    const int before = networkManager.permissionQuestions();
+    EXPECT_EQ(change(), Outcome::Untold);
+    EXPECT_EQ(networkManager.permissionQuestions(), before + 1);
+    networkManager.permission = u"yes"_s;
+    networkManager.restart();
+    advance(1s);
+    EXPECT_EQ(change(), Outcome::Settled);
+}
+
+TEST_F(LinuxAddressOwnersTest, ABlockedRadioIsTakenBackFromANetworkManagerThatWasKilled)
+{
+    MadeUpNetworkManager networkManager(bus, Kind::WiFi);
+    networkManager.isConnected = false;
+    networkManager.isBlocked = true;
+    {
+        const auto owner = find(networkManager.name());
+        ASSERT_TRUE(prepare(*owner));
+        std::optional<AddressOwner::Outcomes> outcome;
+        owner->settle(true, [&outcome](AddressOwner::Outcomes came) { outcome = came; });
+        for (int second = 0; second < 8 && !outcome; ++second) {
+            advance(1s);
+        }
+        ASSERT_EQ(outcome, Outcome::Settled);
+    }
+    advance(1s);
+    // As what it last noted has it.
+    networkManager.isManaged = false;
+    networkManager.restart();
+    for (int second = 0; second < 8 && !networkManager.isManaged; ++second) {
+        advance(1s);
+    }
+    EXPECT_TRUE(networkManager.isManaged);
+    EXPECT_EQ(released(), QStringList{u"wlan0"_s}) << "not noted yet";
+    networkManager.isBlocked = false;
+    for (int second = 0; second < 8 && !released().isEmpty(); ++second) {
+        advance(1s);
+    }
+    EXPECT_EQ(released(), QStringList());
 }
 
 TEST_F(LinuxAddressOwnersTest, WaitForANetworkManagerThatIsBeingRestarted)

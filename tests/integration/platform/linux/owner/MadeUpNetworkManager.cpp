@@ -17,6 +17,8 @@ namespace {
 const QString service = u"org.freedesktop.NetworkManager"_s;
 const QString root = u"/org/freedesktop/NetworkManager"_s;
 
+const QString uuid = u"3d3ef0d3-0833-37fe-b8e0-ace7910f45bd"_s;
+
 QVariant object(const QString &path)
 {
     return QVariant::fromValue(QDBusObjectPath(path));
@@ -64,6 +66,17 @@ QString MadeUpNetworkManager::devicePath() const
     return root + u"/Devices/%1"_s.arg(m_life);
 }
 
+QString MadeUpNetworkManager::profile() const
+{
+    return root + u"/Settings/%1"_s.arg(10 - m_life);
+}
+
+void MadeUpNetworkManager::changePermission(const QString &now)
+{
+    permission = now;
+    send(root, service, u"CheckPermissions"_s);
+}
+
 uint MadeUpNetworkManager::state() const
 {
     if (!isManaged) {
@@ -91,6 +104,13 @@ bool MadeUpNetworkManager::handleMessage(const QDBusMessage &call, const QDBusCo
             [this, call] { QDBusConnection(m_connection).send(call.createReply(answerTo(call))); });
         return true;
     }
+    if (call.member() == "GetConnectionByUuid"_L1 &&
+        (!knowsProfile || call.arguments().value(0) != uuid)) {
+        QDBusConnection(m_connection)
+            .send(call.createErrorReply(
+                service + u".Settings.InvalidConnection"_s, u"No connection with the UUID"_s));
+        return true;
+    }
     const QVariant answer = answerTo(call);
     if (!answer.isValid()) {
         QDBusConnection(m_connection).send(call.createErrorReply(service + u".Refused"_s, u"No"_s));
@@ -105,7 +125,11 @@ QVariant MadeUpNetworkManager::answerTo(const QDBusMessage &call)
     if (call.member() == "GetDeviceByIpIface"_L1) {
         return call.arguments().value(0) == name() ? object(devicePath()) : QVariant();
     }
+    if (call.member() == "GetConnectionByUuid"_L1) {
+        return object(profile());
+    }
     if (call.member() == "GetPermissions"_L1) {
+        ++m_permissionQuestions;
         return QVariant::fromValue(QMap<QString, QString>{
             {u"org.freedesktop.NetworkManager.network-control"_s, permission},
             {u"org.freedesktop.NetworkManager.reload"_s, u"auth"_s}});
@@ -126,7 +150,7 @@ QVariant MadeUpNetworkManager::answerTo(const QDBusMessage &call)
 QVariant MadeUpNetworkManager::propertyAnswer(const QDBusMessage &call)
 {
     if (call.member() == "Get"_L1) {
-        return QVariant::fromValue(QDBusVariant(object(profile())));
+        return QVariant::fromValue(QDBusVariant(uuid));
     }
     if (call.path() != devicePath()) {
         return {};
@@ -167,10 +191,15 @@ bool MadeUpNetworkManager::activate(const QDBusMessage &call)
 
 void MadeUpNetworkManager::tellState()
 {
-    auto signal =
-        QDBusMessage::createSignal(devicePath(), service + u".Device"_s, u"StateChanged"_s);
-    signal.setArguments({state(), 0U, 0U});
-    QDBusConnection(m_connection).send(signal);
+    send(devicePath(), service + u".Device"_s, u"StateChanged"_s, {state(), 0U, 0U});
+}
+
+void MadeUpNetworkManager::send(const QString &object, const QString &interface,
+    const QString &signal, const QVariantList &arguments)
+{
+    auto message = QDBusMessage::createSignal(object, interface, signal);
+    message.setArguments(arguments);
+    QDBusConnection(m_connection).send(message);
 }
 
 } // namespace quillon::test

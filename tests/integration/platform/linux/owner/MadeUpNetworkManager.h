@@ -44,19 +44,23 @@ public:
     bool connects = true;                  ///< else an activation never gets anywhere
     bool answers = true;                   ///< else it hangs
     int refusals = 0;                      ///< so many activations are refused first
+    bool knowsProfile = true;              ///< else it was in memory only and is gone
     /// Called before it does what it was asked.
     std::function<void(const QString &what)> whenAsked = [](const QString &) {};
 
     /// "managed false", "managed true", "activate PROFILE", "disconnect", in order.
     const QStringList &journal() const { return m_journal; }
     QString name() const;
-    static QString profile()
-    {
-        return QStringLiteral("/org/freedesktop/NetworkManager/Settings/7");
-    }
+    /// By its path, which a restart changes.
+    QString profile() const;
+    int permissionQuestions() const { return m_permissionQuestions; }
+    /// It has heard from polkit that somebody may have other rights now.
+    void changePermission(const QString &now);
 
 private:
     void begin();
+    void send(const QString &object, const QString &interface, const QString &signal,
+        const QVariantList &arguments = {});
     void note(const QString &what);
     QString devicePath() const;
     uint state() const;
@@ -72,6 +76,7 @@ private:
     QStringList m_journal;
     int m_life = 0;
     int m_activation = 1;
+    int m_permissionQuestions = 0;
 };
 
 } // namespace quillon::test
