@@ -18,8 +18,9 @@ namespace quillon {
 
 namespace {
 
-// The user is to know within a second, whether or not the owner answers.
-constexpr std::chrono::milliseconds ownerLimit{500};
+// The user is to know within a second of the change, whether or not the owner answers; in a storm
+// of events half of that has gone before we look.
+constexpr std::chrono::milliseconds ownerLimit{400};
 
 // A radio on no network: its owner scans with addresses of its own.
 bool isScanning(const DeviceRecord &record)

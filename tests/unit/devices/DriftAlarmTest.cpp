@@ -83,13 +83,13 @@ TEST_F(DriftAlarmTest, NamesNoOwnerWhereThereIsNone)
         u"en0 now has 02:00:5e:00:53:99 in place of 02:AA:BB:CC:DD:01."_s);
 }
 
-TEST_F(DriftAlarmTest, WaitsHalfASecondForAnOwnerWhoDoesNotAnswer)
+TEST_F(DriftAlarmTest, WaitsALittleForAnOwnerWhoDoesNotAnswer)
 {
     change(en1, wanted);
     owners.hang();
     setBySomebodyElse(en1, theirs);
     EXPECT_TRUE(notifier.questions.isEmpty());
-    scheduler.advance(500ms);
+    scheduler.advance(400ms);
     ASSERT_EQ(notifier.questions.size(), 1);
     EXPECT_FALSE(notifier.questions.first().body.contains(u"owns"_s));
 }
