@@ -38,10 +38,10 @@ LinuxAddressOwners::LinuxAddressOwners(
 
 void LinuxAddressOwners::find(const QString &device, Found found)
 {
-    m_networkManager.findDevice(device, this,
+    m_networkManager.findDeviceWithProfile(device, this,
         [this, device, found = std::move(found)](
             const std::optional<NetworkManager::Device> &known) {
-            if (!known || !known->isManaged) {
+            if (!known || !known->isManaged || known->isExternal) {
                 m_others.find(
                     device, isRadio(device), this, [this, device, found](const QString &name) {
                         found(std::make_unique<WatchedInterface>(m_scheduler, device, name));

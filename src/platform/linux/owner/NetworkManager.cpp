@@ -39,7 +39,8 @@ const QString controlPermission = u"org.freedesktop.NetworkManager.network-contr
 const QString unknownProfile =
     u"org.freedesktop.NetworkManager.Settings.InvalidConnection"_s; // an error
 const QString noObject = u"/"_s;
-constexpr uint wifiDevice = 2; // NM_DEVICE_TYPE_WIFI
+constexpr uint wifiDevice = 2;      // NM_DEVICE_TYPE_WIFI
+constexpr uint externalFlag = 0x80; // NM_ACTIVATION_STATE_FLAG_EXTERNAL
 
 // Where it is not started it owns nothing, and is not started for our sake.
 QDBusMessage callTo(const QString &object, const QString &interface, const QString &method,
@@ -91,8 +92,7 @@ NetworkManager::NetworkManager(QDBusConnection bus)
     m_bus.connect(service, QString(), deviceInterface, u"StateChanged"_s, this, SIGNAL(changed()));
 }
 
-void NetworkManager::findDevice(const QString &name, QObject *context,
-    const std::function<void(const std::optional<Device> &)> &reply)
+void NetworkManager::findDevice(const QString &name, QObject *context, const FoundDevice &reply)
 {
     const auto onPath = [this, context, reply](const QDBusMessage &answer) {
         const QString devicePath =
@@ -114,6 +114,29 @@ void NetworkManager::findDevice(const QString &name, QObject *context,
     };
     callBus(m_bus, context, callTo(path, service, u"GetDeviceByIpIface"_s, {name}), answerLimit,
         onPath);
+}
+
+void NetworkManager::findDeviceWithProfile(
+    const QString &name, QObject *context, const FoundDevice &reply)
+{
+    findDevice(name, context, [this, context, reply](const std::optional<Device> &found) {
+        if (!found || found->activeConnection.isEmpty()) {
+            reply(found);
+            return;
+        }
+        const auto onProperties = [reply, device = *found](const QDBusMessage &answer) {
+            const auto properties = isAnswer(answer)
+                                        ? qdbus_cast<QVariantMap>(answer.arguments().value(0))
+                                        : QVariantMap();
+            Device complete = device;
+            complete.profile = properties.value(u"Uuid"_s).toString();
+            complete.isExternal = (properties.value(u"StateFlags"_s).toUInt() & externalFlag) != 0;
+            reply(complete);
+        };
+        callBus(m_bus, context,
+            callTo(found->activeConnection, propertiesInterface, u"GetAll"_s, {activeInterface}),
+            answerLimit, onProperties);
+    });
 }
 
 void NetworkManager::askPermission(
@@ -144,18 +167,6 @@ void NetworkManager::forgetPermission()
 {
     m_mayControl.reset();
     ++m_permissionChanges;
-}
-
-void NetworkManager::findProfile(const QString &activeConnection, QObject *context,
-    const std::function<void(const QString &)> &reply)
-{
-    callBus(m_bus, context,
-        callTo(activeConnection, propertiesInterface, u"Get"_s, {activeInterface, u"Uuid"_s}),
-        answerLimit, [reply](const QDBusMessage &answer) {
-            reply(isAnswer(answer)
-                      ? answer.arguments().value(0).value<QDBusVariant>().variant().toString()
-                      : QString());
-        });
 }
 
 QDBusMessage NetworkManager::managedCall(const QString &devicePath, bool isManaged) const

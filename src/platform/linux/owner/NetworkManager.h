@@ -37,20 +37,24 @@ public:
         bool isWiFi = false;
         uint state = 0;
         QString activeConnection; ///< its path, "" when there is none
+        // Of the active connection, known by findDeviceWithProfile() only.
+        /// The UUID of its profile, "" when there is none: a path would be another profile's after
+        /// a restart of NetworkManager.
+        QString profile = {};
+        /// NetworkManager has made that profile up for an interface that somebody else connected,
+        /// and leaves the interface alone.
+        bool isExternal = false;
     };
+    using FoundDevice = std::function<void(const std::optional<Device> &)>;
 
     explicit NetworkManager(QDBusConnection bus);
 
     /// None when it does not run, or knows no such device.
-    void findDevice(const QString &name, QObject *context,
-        const std::function<void(const std::optional<Device> &)> &reply);
+    void findDevice(const QString &name, QObject *context, const FoundDevice &reply);
+    void findDeviceWithProfile(const QString &name, QObject *context, const FoundDevice &reply);
     /// Whether it lets this session control networks without a prompt. What it said last holds
     /// until it says that this may have changed: it asks polkit about some twenty things to know.
     void askPermission(QObject *context, const std::function<void(bool isGranted)> &reply);
-    /// The UUID of the profile behind an active connection, "" when that has gone. A path would be
-    /// another profile's after a restart of NetworkManager.
-    void findProfile(const QString &activeConnection, QObject *context,
-        const std::function<void(const QString &)> &reply);
     void setManaged(const QString &devicePath, bool isManaged, QObject *context,
         const std::function<void(bool isDone)> &reply);
     /// The same without waiting for the loop, for the end of the program; for seconds at most.

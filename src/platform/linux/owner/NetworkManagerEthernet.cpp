@@ -33,29 +33,21 @@ void NetworkManagerEthernet::prepare(Prepared prepared)
 {
     m_networkManager.askPermission(this, [this, prepared = std::move(prepared)](bool isGranted) {
         m_mayControl = isGranted;
-        if (m_device.activeConnection.isEmpty()) {
-            prepared(true);
-            return;
-        }
-        m_networkManager.findProfile(
-            m_device.activeConnection, this, [this, prepared](const QString &profile) {
-                m_profile = profile;
-                prepared(true);
-            });
+        prepared(true);
     });
 }
 
 void NetworkManagerEthernet::settle(bool isChanged, Settled settled)
 {
-    if (!isChanged || m_profile.isEmpty() || !m_mayControl) {
+    if (!isChanged || m_device.profile.isEmpty() || !m_mayControl) {
         // On no network there was nothing to say to it.
-        const bool isTold = m_mayControl || (isChanged && m_profile.isEmpty());
+        const bool isTold = m_mayControl || (isChanged && m_device.profile.isEmpty());
         m_scheduler.onMain(this, [settled = std::move(settled), isTold] {
             settled(isTold ? Outcome::Settled : Outcome::Untold);
         });
         return;
     }
-    m_reactivation.emplace(m_networkManager, m_profile, m_device.activeConnection);
+    m_reactivation.emplace(m_networkManager, m_device.profile, m_device.activeConnection);
     m_watch.waitUntil(
         connectLimit,
         [this](const std::optional<NetworkManager::Device> &device) {

@@ -21,7 +21,7 @@ class NetworkManagerEthernet : public QObject, public AddressOwner
     Q_OBJECT
 
 public:
-    /// `device` as NetworkManager has it now.
+    /// `device` as NetworkManager has it now, with its profile.
     NetworkManagerEthernet(NetworkManager &networkManager, Scheduler &scheduler,
         const QString &name, NetworkManager::Device device);
 
@@ -35,7 +35,6 @@ private:
     const NetworkManager::Device m_device;
     DeviceWatch m_watch;
     bool m_mayControl = false;
-    QString m_profile;
     std::optional<Reactivation> m_reactivation;
 };
 

@@ -55,15 +55,7 @@ void NetworkManagerWiFi::prepare(Prepared prepared)
             prepared(true);
             return;
         }
-        if (m_device.activeConnection.isEmpty()) {
-            release(prepared);
-            return;
-        }
-        m_networkManager.findProfile(
-            m_device.activeConnection, this, [this, prepared](const QString &profile) {
-                m_profile = profile;
-                release(prepared);
-            });
+        release(prepared);
     });
 }
 
@@ -97,8 +89,8 @@ void NetworkManagerWiFi::settle(bool, Settled settled)
         m_scheduler.onMain(this, [settled = std::move(settled)] { settled(Outcome::Untold); });
         return;
     }
-    if (!m_profile.isEmpty()) {
-        m_reactivation.emplace(m_networkManager, m_profile, m_device.activeConnection);
+    if (!m_device.profile.isEmpty()) {
+        m_reactivation.emplace(m_networkManager, m_device.profile, m_device.activeConnection);
     }
     m_watch.waitUntil(
         connectLimit,
@@ -119,7 +111,7 @@ bool NetworkManagerWiFi::isBack(const std::optional<NetworkManager::Device> &dev
     if (!isTakenBack(*device)) {
         return false;
     }
-    if (!m_profile.isEmpty() && !(m_reactivation && m_reactivation->look(*device))) {
+    if (!m_device.profile.isEmpty() && !(m_reactivation && m_reactivation->look(*device))) {
         return false;
     }
     if (std::exchange(m_isRestarted, false) && m_reactivation) {
@@ -154,7 +146,7 @@ void NetworkManagerWiFi::connectOnceMore(const NetworkManager::Device &device)
     m_reactivation.reset();
     m_networkManager.disconnectDevice(
         device.path, this, [this, before = device.activeConnection](bool) {
-            m_reactivation.emplace(m_networkManager, m_profile, before);
+            m_reactivation.emplace(m_networkManager, m_device.profile, before);
         });
 }
 

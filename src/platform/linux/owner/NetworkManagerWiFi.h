@@ -24,7 +24,7 @@ class NetworkManagerWiFi : public QObject, public AddressOwner
     Q_OBJECT
 
 public:
-    /// `device` as NetworkManager has it now.
+    /// `device` as NetworkManager has it now, with its profile.
     NetworkManagerWiFi(NetworkManager &networkManager, Scheduler &scheduler,
         ReleasedDevices &released, QStringList guard, const QString &name,
         NetworkManager::Device device);
@@ -49,7 +49,6 @@ private:
     const QString m_name;
     const NetworkManager::Device m_device;
     DeviceWatch m_watch;
-    QString m_profile;
     bool m_isReleased = false;
     bool m_isRestarted = false; ///< NetworkManager, since the release
     std::optional<TakeBackGuard> m_guard;

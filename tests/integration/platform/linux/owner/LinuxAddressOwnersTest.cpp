@@ -98,6 +98,21 @@ TEST_F(LinuxAddressOwnersTest, KnowNobodyForAnInterfaceThatIsNotManaged)
     EXPECT_EQ(networkManager.journal(), QStringList());
 }
 
+TEST_F(LinuxAddressOwnersTest, KnowNobodyForAnInterfaceThatSomebodyConnectedByHand)
+{
+    for (const Kind kind : {Kind::Ethernet, Kind::WiFi}) {
+        MadeUpNetworkManager networkManager(bus, kind);
+        networkManager.isExternal = true;
+        const auto owner = find(networkManager.name());
+        ASSERT_NE(owner, nullptr);
+        EXPECT_EQ(owner->name(), QString());
+        EXPECT_TRUE(prepare(*owner));
+        EXPECT_EQ(settle(*owner, false), Outcome::Settled);
+        EXPECT_EQ(networkManager.journal(), QStringList());
+        networkManager.end();
+    }
+}
+
 TEST_F(LinuxAddressOwnersTest, AskTheOthersWhenNetworkManagerHangs)
 {
     MadeUpNetworkManager networkManager(bus, Kind::Ethernet);

@@ -149,8 +149,8 @@ QVariant MadeUpNetworkManager::answerTo(const QDBusMessage &call)
 
 QVariant MadeUpNetworkManager::propertyAnswer(const QDBusMessage &call)
 {
-    if (call.member() == "Get"_L1) {
-        return QVariant::fromValue(QDBusVariant(uuid));
+    if (call.path().startsWith(root + u"/ActiveConnection/"_s)) {
+        return QVariantMap{{u"Uuid"_s, uuid}, {u"StateFlags"_s, isExternal ? 0xccU : 0x4cU}};
     }
     if (call.path() != devicePath()) {
         return {};

@@ -37,6 +37,7 @@ public:
     // What it is like.
     bool isManaged = true;
     bool isConnected = true;
+    bool isExternal = false; ///< connected by somebody else, which it only looks at
     QString permission = QStringLiteral("yes");
     std::chrono::milliseconds thinking{0}; ///< before it tells who may do what
     bool isBlocked = false;                ///< the radio: it is managed, and no more
