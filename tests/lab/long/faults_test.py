@@ -54,6 +54,23 @@ class OwnerKilledTest(HeldChangeCase):
     test_in_the_middle_of_a_radios_change.interface = WIRELESS
 
 
+class OnlyLookedAtTest(ProgramCase):
+    """A wire that NetworkManager did not connect, or does not know of any more that it did."""
+    interface = WIRED
+
+    def test_it_is_changed_and_left_to_whoever_connected_it(self):
+        profile = run("nmcli", "--get-values", "GENERAL.CONNECTION", "device", "show", WIRED)
+        run("systemctl", "stop", "NetworkManager.service")
+        os.remove(f"/run/NetworkManager/devices/{links()[WIRED]['ifindex']}")
+        run("systemctl", "start", "NetworkManager.service")
+        self.addCleanup(run, "nmcli", "--wait", "90", "connection", "up", profile)
+        wait_until(lambda: "externally" in run("nmcli", "--get-values", "GENERAL.STATE", "device", "show", WIRED),
+                   "NetworkManager has connected it itself")
+        self.change(WIRED, NEW[WIRED])
+        self.expect_among_told("Ethernet keeps the IP Address of before")
+        self.assertEqual(address(WIRED), NEW[WIRED])
+
+
 class AirFaultTest(ProgramCase):
     interface = WIRELESS
 

@@ -95,6 +95,8 @@ class HoursTest(ProgramCase):
         return "NetworkManager restarted"
 
     def kill_owner(self):
+        # Killed before it has noted what it connected, it only looks at the interfaces the next time.
+        self.expect_at_rest()
         run("systemctl", "kill", "--signal=KILL", "NetworkManager.service")
         wait_until(lambda: call("nmcli", "general")[0] == 0, "NetworkManager does not come back")
         return "NetworkManager killed"
