@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/AccessibleRole.h"
+
+#include <QAccessibleWidget>
+#include <QVariant>
+#include <QWidget>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char *roleProperty = "accessibleRole";
+constexpr const char *valueProperty = "accessibleValue";
+
+class WidgetWithRole : public QAccessibleWidget
+{
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::Role role() const override
+    {
+        return static_cast<QAccessible::Role>(object()->property(roleProperty).toInt());
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value) {
+            return object()->property(valueProperty).toString();
+        }
+        // To Linux a value is a number: what it says in words is its description.
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description && text.isEmpty()
+                   ? object()->property(valueProperty).toString()
+                   : text;
+    }
+};
+
+QAccessibleInterface *withRole(const QString &, QObject *object)
+{
+    auto *const widget = qobject_cast<QWidget *>(object);
+    return widget != nullptr && widget->property(roleProperty).isValid()
+               ? new WidgetWithRole(widget)
+               : nullptr;
+}
+
+} // namespace
+
+void setAccessibleRole(QWidget &widget, QAccessible::Role role)
+{
+    // Asked before those of Qt; the same function is installed once only.
+    QAccessible::removeFactory(withRole);
+    QAccessible::installFactory(withRole);
+    widget.setProperty(roleProperty, static_cast<int>(role));
+}
+
+void setAccessibleValue(QWidget &widget, const QString &value)
+{
+    if (widget.property(valueProperty).toString() != value) {
+        widget.setProperty(valueProperty, value);
+        QAccessibleEvent changed(&widget, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
+void announce(QWidget &widget, const QString &message)
+{
+    widget.setAccessibleName(message);
+    QAccessibleEvent alert(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace quillon
