@@ -25,6 +25,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QTextStream>
 #include <QVBoxLayout>
 
@@ -75,6 +76,7 @@ class Gallery : public QWidget
 public:
     Gallery(const Theme &theme, Scheduler &scheduler)
         : m_theme(theme)
+        , m_scheduler(scheduler)
         , m_toast(new Toast(theme, scheduler, this))
     {
         setWindowTitle(u"Widgets"_s);
@@ -86,7 +88,7 @@ public:
         addRows(*column);
         addSmall(*column);
         addEmpty(*column);
-        resize(Theme::windowWidth, sizeHint().height());
+        resize(Theme::windowWidth, column->totalHeightForWidth(Theme::windowWidth));
         setFixedWidth(Theme::windowWidth);
     }
 
@@ -119,6 +121,17 @@ private:
     {
         connect(&row, &RowButton::clicked, this, [&row, &popover] { popover.toggle(row); });
         connect(&popover, &Popover::aboutToShow, this, [name] { say(u"opening "_s + name); });
+        // Where it lies is known some time after it is shown.
+        connect(&row, &RowButton::clicked, &popover, [this, &popover, name] {
+            m_scheduler.onMainAfter(std::chrono::milliseconds(300), &popover, [&popover, name] {
+                say(u"placed %1 at %2 %3 %4x%5 arrow %6"_s.arg(name)
+                        .arg(popover.x())
+                        .arg(popover.y())
+                        .arg(popover.width())
+                        .arg(popover.height())
+                        .arg(popover.hasArrow() ? u"shown"_s : u"none"_s));
+            });
+        });
         connect(&popover, &Popover::aboutToClose, this, [name] { say(u"closing "_s + name); });
     }
 
@@ -178,7 +191,8 @@ private:
         auto *popover = new Popover(m_theme, content, this);
         connect(tokens, &TokenField::activated, this,
             [](int index) { say(u"activated %1"_s.arg(index)); });
-        connect(tokens, &TokenField::dragBegan, popover, &Popover::close);
+        connect(tokens, &TokenField::dragBegan, popover, &Popover::stepAside);
+        connect(tokens, &TokenField::dragEnded, popover, &Popover::close);
         connect(tokens, &TokenField::dragEnded, this, [] { say(u"drag ended"_s); });
         return popover;
     }
@@ -246,6 +260,7 @@ private:
     }
 
     const Theme &m_theme;
+    Scheduler &m_scheduler;
     Toast *m_toast;
 };
 

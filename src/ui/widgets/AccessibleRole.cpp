@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/AccessibleRole.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QVariant>
 #include <QWidget>
@@ -24,6 +25,30 @@ public:
     {
         return static_cast<QAccessible::Role>(object()->property(roleProperty).toInt());
     }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (role() == QAccessible::ButtonMenu) {
+            state.hasPopup = true;
+            state.expandable = true;
+            state.expanded = object()->property("open").toBool();
+            state.collapsed = !state.expanded;
+        }
+        return state;
+    }
+    QStringList actionNames() const override
+    {
+        const QStringList names = QAccessibleWidget::actionNames();
+        return canBePressed() ? QStringList{pressAction()} + names : names;
+    }
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction() && canBePressed()) {
+            qobject_cast<QAbstractButton *>(object())->click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Value) {
@@ -34,6 +59,13 @@ public:
         return kind == QAccessible::Description && text.isEmpty()
                    ? object()->property(valueProperty).toString()
                    : text;
+    }
+
+private:
+    bool canBePressed() const
+    {
+        return role() == QAccessible::ButtonMenu && widget()->isEnabled() &&
+               qobject_cast<QAbstractButton *>(object()) != nullptr;
     }
 };
 

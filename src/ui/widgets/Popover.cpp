@@ -5,6 +5,7 @@
 #include "ui/theme/Theme.h"
 
 #include <QApplication>
+#include <QGraphicsOpacityEffect>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -13,6 +14,7 @@
 #include <QVariantAnimation>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -30,7 +32,7 @@ bool screenIsKnown()
     return QGuiApplication::platformName() != "wayland"_L1;
 }
 
-/// Where a popover may be. Without a screen to speak of the compositor slides what it has to.
+/// Where a popover may be. Without a screen to speak of the compositor moves what it has to.
 QRect roomFor(const QWidget &anchor)
 {
     constexpr int endless = 1 << 20;
@@ -117,9 +119,31 @@ void Popover::place()
     const QRect anchor(m_anchor->mapToGlobal(QPoint(0, 0)), m_anchor->size());
     m_placement = PopoverPlacement::find(
         anchor, body().size(), roomFor(*m_anchor), m_side, layoutDirection());
+    if (!screenIsKnown()) {
+        // A compositor moves it where there is no room, and nobody is told: no arrow rather than a
+        // wrong one.
+        m_placement.arrow.reset();
+    }
     m_target = m_placement.position - QPoint(m_margin, m_margin);
     move(m_target);
     update();
+}
+
+void Popover::stepAside()
+{
+    if (!isOpen() || m_isAside) {
+        return;
+    }
+    m_isAside = true;
+    m_motion->stop();
+    auto *invisible = new QGraphicsOpacityEffect(m_content);
+    invisible->setOpacity(0);
+    m_content->setGraphicsEffect(invisible);
+    // Under Wayland the mask is only what takes the pointer, and nothing outside of it is drawn
+    // anew: so first there is nothing to see. Under X11 the mask is the window's shape.
+    repaint();
+    setMask(QRegion(-1, -1, 1, 1));
+    tellAnchor(false);
 }
 
 QRect Popover::body() const
@@ -175,6 +199,9 @@ QPainterPath Popover::outline() const
 
 void Popover::paintEvent(QPaintEvent *)
 {
+    if (m_isAside) {
+        return;
+    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_theme.colors().popoverBorder, 1));
@@ -222,19 +249,13 @@ void Popover::hideEvent(QHideEvent *event)
     }
     Q_EMIT aboutToClose();
     tellAnchor(false);
+    if (std::exchange(m_isAside, false)) {
+        clearMask();
+        m_content->setGraphicsEffect(nullptr);
+    }
     m_anchor = nullptr;
     if (anchor != nullptr && anchor->isVisible() && anchor->focusPolicy() != Qt::NoFocus) {
         anchor->setFocus(Qt::PopupFocusReason);
-    }
-}
-
-void Popover::moveEvent(QMoveEvent *event)
-{
-    QWidget::moveEvent(event);
-    // A compositor that slid it elsewhere has left the anchor: no arrow rather than a wrong one.
-    if (!screenIsKnown() && isOpen() && m_placement.arrow && pos() != m_target) {
-        m_placement.arrow.reset();
-        update();
     }
 }
 

@@ -41,6 +41,11 @@ public:
     void open(QWidget &anchor, Side side = Side::Right);
     bool isOpen() const { return m_anchor != nullptr && isVisible(); }
 
+    /// Goes out of the way of a drag that began in it: nothing of it is seen, and what is dropped
+    /// falls on what lies under it. It is to be closed when the drag has ended. It cannot be closed
+    /// before: under Wayland the window where a drag began must live as long as the drag.
+    void stepAside();
+
     /// Whether it has an arrow now: only where it is known to lie beside its anchor, on a display
     /// that shows what is around the arrow.
     bool hasArrow() const { return m_placement.arrow.has_value() && m_margin > 0; }
@@ -57,7 +62,6 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
-    void moveEvent(QMoveEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -77,6 +81,7 @@ private:
     PopoverPlacement m_placement;
     /// Room for the arrow around the body: none where the display cannot show that it is empty.
     int m_margin = 0;
+    bool m_isAside = false;
     QPoint m_target;
 };
 

@@ -31,7 +31,7 @@ constexpr int chevronSize = Theme::inlineIconSize;
 } // namespace
 
 RowButton::RowButton(const Theme &theme, const QString &label, QWidget *parent)
-    : QPushButton(parent)
+    : QAbstractButton(parent)
     , m_theme(theme)
     , m_label(label)
 {
@@ -154,7 +154,7 @@ bool RowButton::event(QEvent *event)
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(tip), this);
         return true;
     }
-    return QPushButton::event(event);
+    return QAbstractButton::event(event);
 }
 
 void RowButton::paintEvent(QPaintEvent *)
@@ -204,13 +204,13 @@ void RowButton::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         click();
     } else {
-        QPushButton::keyPressEvent(event);
+        QAbstractButton::keyPressEvent(event);
     }
 }
 
 bool RowButton::hitButton(const QPoint &position) const
 {
-    return m_hasPopover && QPushButton::hitButton(position);
+    return m_hasPopover && QAbstractButton::hitButton(position);
 }
 
 } // namespace quillon

@@ -4,7 +4,7 @@
 
 #include "ui/theme/Theme.h"
 
-#include <QPushButton>
+#include <QAbstractButton>
 
 #include <optional>
 
@@ -15,7 +15,7 @@ namespace quillon {
 /// is a text that takes no focus. The labels of rows in one parent are equally wide. The context
 /// menu and Ctrl+C copy the value. A value that is too wide is left out in its middle, and is the
 /// tool tip then.
-class RowButton : public QPushButton
+class RowButton : public QAbstractButton
 {
     Q_OBJECT
     /// Whether its popover is open; set by the popover.

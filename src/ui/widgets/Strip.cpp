@@ -42,9 +42,9 @@ Strip::Strip(const Theme &theme, QWidget *parent)
     m_cross->setToolTip(plainToolTip(localized("Close")));
 
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(inset, Theme::unit, Theme::unit, Theme::unit);
+    row->setContentsMargins(Theme::unit, Theme::unit, Theme::unit, Theme::unit);
     row->setSpacing(Theme::unit);
-    row->addSpacing(Theme::iconSize);
+    row->addSpacing(inset + Theme::iconSize);
     row->addWidget(m_sentence, 1);
     row->addWidget(m_button, 0, Qt::AlignVCenter);
     row->addWidget(m_cross, 0, Qt::AlignVCenter);

@@ -70,17 +70,12 @@ void Token::drag()
 {
     auto *content = new QMimeData;
     content->setText(m_text);
-    // The token may go while it is dragged: the list that it shows can change.
-    const QPointer<Token> self(this);
     auto *drag = new QDrag(this);
     drag->setMimeData(content);
     drag->setPixmap(grab());
     drag->setHotSpot(m_pressed);
-    Q_EMIT dragBegan();
+    Q_EMIT dragBegan(drag);
     drag->exec(Qt::CopyAction);
-    if (self) {
-        Q_EMIT dragEnded();
-    }
 }
 
 void Token::paintEvent(QPaintEvent *)

@@ -21,9 +21,9 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// A drag is about to begin; then it has ended, with or without a drop.
-    void dragBegan();
-    void dragEnded();
+    /// `drag` is about to begin. It is destroyed when it has ended, with or without a drop, also
+    /// when the token has gone meanwhile.
+    void dragBegan(QObject *drag);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;

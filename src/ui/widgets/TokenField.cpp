@@ -104,8 +104,10 @@ Token *TokenField::makeToken(const Entry &entry)
         moveTo(m_tokens.indexOf(token));
         Q_EMIT activated(static_cast<int>(m_tokens.indexOf(token)));
     });
-    connect(token, &Token::dragBegan, this, &TokenField::dragBegan);
-    connect(token, &Token::dragEnded, this, &TokenField::dragEnded);
+    connect(token, &Token::dragBegan, this, [this](QObject *drag) {
+        connect(drag, &QObject::destroyed, this, &TokenField::dragEnded);
+        Q_EMIT dragBegan();
+    });
     return token;
 }
 

@@ -45,7 +45,8 @@ public:
 Q_SIGNALS:
     void activated(int index);
     void opened(int index);
-    /// A drag begins: whatever lies over what it may be dropped on goes out of its way.
+    /// A drag begins: whatever lies over what it may be dropped on goes out of its way. Then it has
+    /// ended, with or without a drop.
     void dragBegan();
     void dragEnded();
 
