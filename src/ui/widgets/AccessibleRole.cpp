@@ -28,7 +28,7 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        if (role() == QAccessible::ButtonMenu) {
+        if (role() == QAccessible::Button) {
             state.hasPopup = true;
             state.expandable = true;
             state.expanded = object()->property("open").toBool();
@@ -64,7 +64,7 @@ public:
 private:
     bool canBePressed() const
     {
-        return role() == QAccessible::ButtonMenu && widget()->isEnabled() &&
+        return role() == QAccessible::Button && widget()->isEnabled() &&
                qobject_cast<QAbstractButton *>(object()) != nullptr;
     }
 };

@@ -98,6 +98,7 @@ void Popover::open(QWidget &anchor, Side side)
     m_anchor = &anchor;
     m_side = side;
     setLayoutDirection(anchor.layoutDirection());
+    setAccessibleName(anchor.accessibleName());
     Q_EMIT aboutToShow();
     m_margin = m_theme.windowsBlend() ? arrowRoom : 0;
     const int around = m_margin + Theme::popoverMargin;
@@ -203,7 +204,7 @@ void Popover::paintEvent(QPaintEvent *)
         return;
     }
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, m_margin > 0);
     painter.setPen(QPen(m_theme.colors().popoverBorder, 1));
     painter.setBrush(m_theme.colors().control);
     painter.drawPath(outline());

@@ -18,7 +18,7 @@ class Theme;
 /// takes the keyboard, Tab stays in it, and Escape, its anchor or a press outside closes it, which
 /// does nothing else. Then its anchor has the keyboard again.
 /// While it is open the anchor's property "open" is true; what is dressed by the style sheet is
-/// dressed anew. It closes when its anchor is hidden.
+/// dressed anew. It closes when its anchor is hidden. Its accessible name is that of its anchor.
 class Popover : public QWidget
 {
     Q_OBJECT

@@ -70,7 +70,7 @@ void RowButton::setHasPopover(bool hasPopover)
 {
     m_hasPopover = hasPopover;
     setFocusPolicy(hasPopover ? Qt::StrongFocus : Qt::NoFocus);
-    setAccessibleRole(*this, hasPopover ? QAccessible::ButtonMenu : QAccessible::StaticText);
+    setAccessibleRole(*this, hasPopover ? QAccessible::Button : QAccessible::StaticText);
     describe();
 }
 

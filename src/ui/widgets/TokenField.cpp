@@ -56,12 +56,17 @@ void TokenField::setEntries(const QList<Entry> &entries)
         m_flow->addWidget(m_tokens.back());
     }
     const qsizetype again = m_entries.indexOf(current);
-    m_current =
-        again >= 0 ? again : std::max<qsizetype>(0, std::min(m_current, m_tokens.size() - 1));
-    for (qsizetype index = 0; index < m_tokens.size(); ++index) {
-        m_tokens[index]->setFocusPolicy(index == m_current ? Qt::StrongFocus : Qt::ClickFocus);
-        m_tokens[index]->show();
+    const qsizetype last = m_tokens.size() - 1;
+    makeCurrent(again >= 0 ? again : std::max<qsizetype>(0, std::min(m_current, last)));
+    // The order begins at the label, which counts only while it takes the keyboard itself.
+    m_empty->setFocusPolicy(Qt::TabFocus);
+    QWidget *before = m_empty;
+    for (Token *token : m_tokens) {
+        token->show();
+        setTabOrder(before, token);
+        before = token;
     }
+    m_empty->setFocusPolicy(Qt::NoFocus);
     if (hadFocus && !m_tokens.isEmpty()) {
         m_tokens[m_current]->setFocus();
     }
@@ -100,10 +105,8 @@ Token *TokenField::makeToken(const Entry &entry)
 {
     auto *token = new Token(entry.title, entry.text, this);
     token->installEventFilter(this);
-    connect(token, &Token::clicked, this, [this, token] {
-        moveTo(m_tokens.indexOf(token));
-        Q_EMIT activated(static_cast<int>(m_tokens.indexOf(token)));
-    });
+    connect(token, &Token::clicked, this,
+        [this, token] { Q_EMIT activated(static_cast<int>(m_tokens.indexOf(token))); });
     connect(token, &Token::dragBegan, this, [this](QObject *drag) {
         connect(drag, &QObject::destroyed, this, &TokenField::dragEnded);
         Q_EMIT dragBegan();
@@ -113,13 +116,18 @@ Token *TokenField::makeToken(const Entry &entry)
 
 void TokenField::moveTo(qsizetype index)
 {
-    if (index < 0 || index >= m_tokens.size()) {
-        return;
+    if (index >= 0 && index < m_tokens.size()) {
+        m_tokens[index]->setFocus(Qt::TabFocusReason);
     }
-    m_tokens[m_current]->setFocusPolicy(Qt::ClickFocus);
+}
+
+void TokenField::makeCurrent(qsizetype index)
+{
     m_current = index;
-    m_tokens[m_current]->setFocusPolicy(Qt::StrongFocus);
-    m_tokens[m_current]->setFocus(Qt::TabFocusReason);
+    for (qsizetype other = 0; other < m_tokens.size(); ++other) {
+        // The others are for the arrow keys and the pointer.
+        m_tokens[other]->setFocusPolicy(other == index ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 bool TokenField::handleKey(qsizetype index, int key)
@@ -150,6 +158,9 @@ bool TokenField::eventFilter(QObject *watched, QEvent *event)
     if (index >= 0 && event->type() == QEvent::KeyPress &&
         handleKey(index, static_cast<QKeyEvent *>(event)->key())) {
         return true;
+    }
+    if (index >= 0 && event->type() == QEvent::FocusIn) {
+        makeCurrent(index);
     }
     if (index >= 0 && event->type() == QEvent::ContextMenu) {
         Q_EMIT opened(static_cast<int>(index));

@@ -56,6 +56,8 @@ protected:
 private:
     Token *makeToken(const Entry &entry);
     void moveTo(qsizetype index);
+    /// The one that Tab comes to.
+    void makeCurrent(qsizetype index);
     bool handleKey(qsizetype index, int key);
 
     FlowLayout *m_flow;
