@@ -41,6 +41,24 @@ void say(const QString &fact)
     QTextStream(stdout) << fact << Qt::endl;
 }
 
+QString nameOf(const QWidget &widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    return widget.accessibleName().isEmpty() && button != nullptr ? button->text()
+                                                                  : widget.accessibleName();
+}
+
+/// Where everything with a name is: on the screen, or in the window where nobody knows more.
+void sayPlaces(const QWidget &root)
+{
+    for (const QWidget *widget : root.findChildren<QWidget *>()) {
+        if (widget->isVisible() && !nameOf(*widget).isEmpty()) {
+            const QPoint middle = widget->mapToGlobal(widget->rect().center());
+            say(u"at %1 %2 %3"_s.arg(middle.x()).arg(middle.y()).arg(nameOf(*widget)));
+        }
+    }
+}
+
 QFrame *makeCard(QLayout *content)
 {
     auto *card = new QFrame;
@@ -63,6 +81,11 @@ public:
     }
 
 protected:
+    void dragEnterEvent(QDragEnterEvent *event) override
+    {
+        QLineEdit::dragEnterEvent(event);
+        say(u"drag over"_s);
+    }
     void dropEvent(QDropEvent *event) override
     {
         setText(event->mimeData()->text());
@@ -76,7 +99,6 @@ class Gallery : public QWidget
 public:
     Gallery(const Theme &theme, Scheduler &scheduler)
         : m_theme(theme)
-        , m_scheduler(scheduler)
         , m_toast(new Toast(theme, scheduler, this))
     {
         setWindowTitle(u"Widgets"_s);
@@ -121,16 +143,11 @@ private:
     {
         connect(&row, &RowButton::clicked, this, [&row, &popover] { popover.toggle(row); });
         connect(&popover, &Popover::aboutToShow, this, [name] { say(u"opening "_s + name); });
-        // Where it lies is known some time after it is shown.
-        connect(&row, &RowButton::clicked, &popover, [this, &popover, name] {
-            m_scheduler.onMainAfter(std::chrono::milliseconds(300), &popover, [&popover, name] {
-                say(u"placed %1 at %2 %3 %4x%5 arrow %6"_s.arg(name)
-                        .arg(popover.x())
-                        .arg(popover.y())
-                        .arg(popover.width())
-                        .arg(popover.height())
-                        .arg(popover.hasArrow() ? u"shown"_s : u"none"_s));
-            });
+        connect(&row, &RowButton::clicked, &popover, [&popover] {
+            if (popover.isOpen()) {
+                say(popover.hasArrow() ? u"arrow"_s : u"no arrow"_s);
+                sayPlaces(popover);
+            }
         });
         connect(&popover, &Popover::aboutToClose, this, [name] { say(u"closing "_s + name); });
     }
@@ -221,8 +238,8 @@ private:
     {
         auto *line = new QHBoxLayout;
         line->setSpacing(Theme::unit);
-        line->addWidget(new Badge(u"Changed"_s));
-        line->addWidget(new Badge(u"Hardware"_s, Badge::Tone::Neutral));
+        line->addWidget(new Badge(m_theme, u"Changed"_s));
+        line->addWidget(new Badge(m_theme, u"Hardware"_s, Badge::Tone::Neutral));
         auto *off = new ToggleSwitch(m_theme);
         off->setAccessibleName(u"Rule one"_s);
         auto *on = new ToggleSwitch(m_theme);
@@ -260,7 +277,6 @@ private:
     }
 
     const Theme &m_theme;
-    Scheduler &m_scheduler;
     Toast *m_toast;
 };
 
@@ -285,8 +301,17 @@ int main(int argc, char **argv)
     Gallery gallery(theme, scheduler);
     QObject::connect(
         &application, &QApplication::focusChanged, &gallery, [](QWidget *, QWidget *now) {
-            say(u"focus %1"_s.arg(now == nullptr ? QString() : now->accessibleName()));
+            say(u"focus %1"_s.arg(now == nullptr ? QString() : nameOf(*now)));
         });
     gallery.show();
+    gallery.activateWindow();
+    // Once the window manager has put it where it stays.
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &gallery,
+        [&gallery](Qt::ApplicationState state) {
+            if (state == Qt::ApplicationActive) {
+                sayPlaces(gallery);
+                say(u"ready"_s);
+            }
+        });
     return QApplication::exec();
 }

@@ -4,7 +4,6 @@
 
 A client of its own, as the devices have to stay: a seat whose last pointer goes takes every popup along.
 """
-import os
 import socket
 import struct
 import tempfile
@@ -25,10 +24,11 @@ DISPLAY, REGISTRY = 1, 2  # objects
 
 
 class Input:
-    def __init__(self, screen):
+    def __init__(self, path, screen):
+        """`path` of the compositor's socket; `screen` is its width and height in pixels."""
         self.screen = screen
         self.socket = socket.socket(socket.AF_UNIX, socket.SOCK_STREAM)
-        self.socket.connect(os.path.join(os.environ["XDG_RUNTIME_DIR"], os.environ["WAYLAND_DISPLAY"]))
+        self.socket.connect(path)
         self.received = b""
         self.last_object = REGISTRY
         self.globals = {}

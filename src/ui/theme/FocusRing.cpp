@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
-#include <QTextEdit>
 
 namespace quillon {
 
@@ -77,8 +76,7 @@ bool takesLetters(const QWidget &widget)
 {
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
     return (edit != nullptr && !edit->isReadOnly()) ||
-           qobject_cast<const QAbstractSpinBox *>(&widget) != nullptr ||
-           qobject_cast<const QTextEdit *>(&widget) != nullptr;
+           qobject_cast<const QAbstractSpinBox *>(&widget) != nullptr;
 }
 
 bool cameByKeyboard(Qt::FocusReason reason, bool keyboardUsedLast)

@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLabel>
+#include <QWidget>
 
 namespace quillon {
 
-/// A word in a pill: "Changed" and "Active" on a tint, "Hardware" and "Login" in neutral. On a
-/// tinted row its ground is that of a card. It is decoration to assistive technology unless it is
-/// given an accessible name: what it says belongs into the description of what it stands beside.
-class Badge : public QLabel
+class Theme;
+
+/// A word in a pill: "Changed" and "Active" on a tint, "Hardware" and "Login" in neutral. On a tinted
+/// row its ground is that of a card. What it says belongs into the accessible description of what it
+/// stands beside.
+class Badge : public QWidget
 {
     Q_OBJECT
 
@@ -20,10 +22,25 @@ public:
         Neutral,
     };
 
-    explicit Badge(const QString &text, Tone tone = Tone::Tint, QWidget *parent = nullptr);
+    Badge(const Theme &theme, const QString &text, Tone tone = Tone::Tint,
+        QWidget *parent = nullptr);
 
+    const QString &text() const { return m_text; }
+    void setWord(const QString &text);
     void setTone(Tone tone);
     void setOnTint(bool onTint);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    const Theme &m_theme;
+    QString m_text;
+    Tone m_tone;
+    bool m_onTint = false;
 };
 
 } // namespace quillon

@@ -38,7 +38,7 @@ EmptyState::EmptyState(const Theme &theme, const QString &icon, QWidget *parent)
 void EmptyState::say(const QString &sentence, const QString &action)
 {
     m_sentence->setText(plainParagraphs(sentence));
-    m_button->setText(action);
+    m_button->setText(plainLine(action));
     m_button->setVisible(!action.isEmpty());
 }
 

@@ -9,11 +9,10 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -41,8 +40,12 @@ RowButton::RowButton(const Theme &theme, const QString &label, QWidget *parent)
     auto *copy = new QAction(localized("Copy"), this);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this,
-        [this] { QGuiApplication::clipboard()->setText(m_value); });
+    connect(copy, &QAction::triggered, this, [this] {
+        auto *content = new QMimeData;
+        // As it came: it is not shown.
+        content->setData(u"text/plain"_s, m_value.toUtf8());
+        QGuiApplication::clipboard()->setMimeData(content);
+    });
     addAction(copy);
     connect(&theme, &Theme::changed, this, qOverload<>(&QWidget::update));
     setHasPopover(true);
@@ -91,6 +94,8 @@ void RowButton::describe()
     const QString said = m_value.isEmpty() ? localized("None") : plainLine(m_value);
     setAccessibleName(u"%1, %2"_s.arg(m_label, said));
     setAccessibleDescription(plainLine(m_toolTip));
+    const bool isCut = !m_value.isEmpty() && shownValue() != plainLine(m_value);
+    setToolTip(plainToolTip(!m_toolTip.isEmpty() ? m_toolTip : isCut ? m_value : QString()));
     actions().constFirst()->setEnabled(!m_value.isEmpty());
     update();
 }
@@ -144,17 +149,10 @@ QSize RowButton::minimumSizeHint() const
     return {width, std::max(Theme::rowHeight, text + 2 * Theme::unit)};
 }
 
-bool RowButton::event(QEvent *event)
+void RowButton::resizeEvent(QResizeEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) {
-        const QString line = plainLine(m_value);
-        const QString tip = !m_toolTip.isEmpty()                         ? m_toolTip
-                            : shownValue() != line && !m_value.isEmpty() ? m_value
-                                                                         : QString();
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(tip), this);
-        return true;
-    }
-    return QAbstractButton::event(event);
+    QAbstractButton::resizeEvent(event);
+    describe();
 }
 
 void RowButton::paintEvent(QPaintEvent *)

@@ -61,8 +61,8 @@ void Strip::say(const QString &sentence, const QString &action)
 {
     const QString text = plainParagraphs(sentence);
     const bool isNew = isHidden() || text != m_sentence->text();
-    m_sentence->setText(text);
-    m_button->setText(action);
+    m_sentence->setText(plainParagraphs(sentence));
+    m_button->setText(plainLine(action));
     m_button->setVisible(!action.isEmpty());
     m_cross->setVisible(action.isEmpty());
     show();

@@ -69,7 +69,8 @@ void Token::mouseMoveEvent(QMouseEvent *event)
 void Token::drag()
 {
     auto *content = new QMimeData;
-    content->setText(m_text);
+    // As it came: it is not shown.
+    content->setData(u"text/plain"_s, m_text.toUtf8());
     auto *drag = new QDrag(this);
     drag->setMimeData(content);
     drag->setPixmap(grab());
