@@ -44,7 +44,7 @@ class X11:
 
     @staticmethod
     def point(x, y):
-        xdotool("mousemove", "--sync", x, y)
+        xdotool("mousemove", x, y)
 
     @staticmethod
     def button(pressed):
@@ -60,7 +60,7 @@ class ComposedX11(X11):
 
     def __init__(self, test):
         super().__init__(test)
-        start(test, "xcompmgr")
+        start(test, "xcompmgr", stderr=subprocess.DEVNULL)
         wait_until(lambda: self.has_compositor(), "the compositor did not start")
 
     @staticmethod
@@ -98,6 +98,7 @@ class Wayland:
         name = wait_until(display, "the compositor did not start")
         self.environment = {"XDG_RUNTIME_DIR": runtime, "WAYLAND_DISPLAY": name, "QT_QPA_PLATFORM": "wayland"}
         self.input = wait_until(lambda: self.connected(os.path.join(runtime, name)), "no input came")
+        test.addCleanup(self.input.socket.close)
 
     @staticmethod
     def connected(path):
