@@ -69,6 +69,35 @@ QFrame *makeCard(QLayout *content)
     return card;
 }
 
+/// Tells once how a popover came to be, when it is drawn: then the display has it.
+class ShownTeller : public QObject
+{
+public:
+    explicit ShownTeller(Popover &popover)
+        : QObject(&popover)
+        , m_popover(popover)
+    {
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && !m_told) {
+            m_told = true;
+            say(m_popover.hasArrow() ? u"arrow"_s : u"no arrow"_s);
+            sayPlaces(m_popover);
+            say(u"shown"_s);
+        } else if (event->type() == QEvent::Hide) {
+            m_told = false;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Popover &m_popover;
+    bool m_told = false;
+};
+
 /// A field that takes what is dropped on it, as the window's address field does.
 class DropField : public QLineEdit
 {
@@ -143,12 +172,7 @@ private:
     {
         connect(&row, &RowButton::clicked, this, [&row, &popover] { popover.toggle(row); });
         connect(&popover, &Popover::aboutToShow, this, [name] { say(u"opening "_s + name); });
-        connect(&row, &RowButton::clicked, &popover, [&popover] {
-            if (popover.isOpen()) {
-                say(popover.hasArrow() ? u"arrow"_s : u"no arrow"_s);
-                sayPlaces(popover);
-            }
-        });
+        popover.installEventFilter(new ShownTeller(popover));
         connect(&popover, &Popover::aboutToClose, this, [name] { say(u"closing "_s + name); });
     }
 
