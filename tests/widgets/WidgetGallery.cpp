@@ -98,6 +98,22 @@ private:
     bool m_told = false;
 };
 
+/// Tells that the pointer came: then the display has put the window where it stays.
+class PointerTeller : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Enter) {
+            say(u"pointer on %1"_s.arg(nameOf(*qobject_cast<QWidget *>(watched))));
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 /// A field that takes what is dropped on it, as the window's address field does.
 class DropField : public QLineEdit
 {
@@ -110,9 +126,9 @@ public:
     }
 
 protected:
-    void dragEnterEvent(QDragEnterEvent *event) override
+    void dragMoveEvent(QDragMoveEvent *event) override
     {
-        QLineEdit::dragEnterEvent(event);
+        QLineEdit::dragMoveEvent(event);
         say(u"drag over"_s);
     }
     void dropEvent(QDropEvent *event) override
@@ -188,6 +204,7 @@ private:
         vendor->setHasPopover(false);
         auto *network = addRow(*rows, u"Network"_s,
             u"A network whose name is so long that it does not fit into any row of any window"_s);
+        network->installEventFilter(new PointerTeller(network));
         auto *rules = addRow(*rows, u"Rules"_s, u"Active rule"_s);
         rules->setDot(RowButton::Dot{Theme::Ink::Positive, true});
         column.addWidget(makeCard(rows));

@@ -8,9 +8,9 @@ namespace quillon {
 
 class Theme;
 
-/// A word in a pill: "Changed" and "Active" on a tint, "Hardware" and "Login" in neutral. On a tinted
-/// row its ground is that of a card. What it says belongs into the accessible description of what it
-/// stands beside.
+/// A word in a pill: "Changed" and "Active" on a tint, "Hardware" and "Login" in neutral. On a
+/// tinted row its ground is that of a card. What it says belongs into the accessible description of
+/// what it stands beside.
 class Badge : public QWidget
 {
     Q_OBJECT
@@ -22,8 +22,8 @@ public:
         Neutral,
     };
 
-    Badge(const Theme &theme, const QString &text, Tone tone = Tone::Tint,
-        QWidget *parent = nullptr);
+    Badge(
+        const Theme &theme, const QString &text, Tone tone = Tone::Tint, QWidget *parent = nullptr);
 
     const QString &text() const { return m_text; }
     void setWord(const QString &text);

@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -106,7 +107,17 @@ void Popover::open(QWidget &anchor, Side side)
     place();
     tellAnchor(true);
     slideIn();
+    if (!screenIsKnown()) {
+        drawNothingUntilExposed();
+    }
     show();
+}
+
+void Popover::drawNothingUntilExposed()
+{
+    create();
+    setUpdatesEnabled(false);
+    windowHandle()->installEventFilter(this);
 }
 
 void Popover::place()
@@ -262,7 +273,11 @@ void Popover::hideEvent(QHideEvent *event)
 
 bool Popover::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Hide || event->type() == QEvent::Close) {
+    if (watched == windowHandle()) {
+        if (event->type() == QEvent::Expose && windowHandle()->isExposed()) {
+            setUpdatesEnabled(true);
+        }
+    } else if (event->type() == QEvent::Hide || event->type() == QEvent::Close) {
         close();
     }
     return QWidget::eventFilter(watched, event);

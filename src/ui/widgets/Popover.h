@@ -69,6 +69,9 @@ private:
     QRect body() const;
     QPainterPath outline() const;
     void slideIn();
+    /// Under Wayland: Qt 6.4 would draw between the compositor's first word on a window and its own
+    /// answer, which ends the connection.
+    void drawNothingUntilExposed();
     void giveFocus();
     void tellAnchor(bool open);
 

@@ -186,7 +186,10 @@ void RowButton::paintEvent(QPaintEvent *)
     const bool isMuted = m_look == ValueLook::Muted || m_value.isEmpty();
     painter.setPen(!isEnabled() ? colors.disabledText : isMuted ? colors.mutedText : colors.text);
     painter.setFont(valueFont());
-    painter.drawText(place(valueRect()), start, shownValue());
+    const QString value = shownValue();
+    // It reads in its own direction: an address would be torn apart by that of the window.
+    painter.setLayoutDirection(value.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(place(valueRect()), start | int(Qt::AlignAbsolute), value);
     if (m_hasPopover) {
         const QRect chevron(
             width() - inset - chevronSize, (height() - chevronSize) / 2, chevronSize, chevronSize);

@@ -86,6 +86,8 @@ void Token::paintEvent(QPaintEvent *)
     option.text = fontMetrics().elidedText(m_title, Qt::ElideMiddle, width() - 2 * inset + 2);
     option.text.replace(u'&', u"&&"_s);
     QStylePainter painter(this);
+    // It reads in its own direction: an address would be torn apart by that of the window.
+    painter.setLayoutDirection(m_title.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter.drawControl(QStyle::CE_PushButton, option);
 }
 

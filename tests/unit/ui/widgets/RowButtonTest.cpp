@@ -144,6 +144,23 @@ TEST_F(RowButtonTest, IsTintedWhileItsPopoverIsOpen)
     EXPECT_TRUE(shows(theme.colors().tint, 0, row->width()));
 }
 
+TEST_F(RowButtonTest, AnAddressReadsTheSameInAMirroredWindow)
+{
+    // Drawn alone, as wide as it is.
+    const auto picture = [this](const QString &value) {
+        row->setValue(value, RowButton::ValueLook::Address);
+        const int end = row->width() - Theme::unit - Theme::rowLabelWidth;
+        const int wide = QFontMetrics(Theme::font(Theme::Type::Address)).horizontalAdvance(value);
+        return row->grab(QRect(end - Theme::unit - wide, 0, wide, row->height())).toImage();
+    };
+    window.setLayoutDirection(Qt::RightToLeft);
+    window.resize(500, 300);
+    settle();
+    const QString address = u"00:16:CB:7A:10:02"_s;
+    // The sign in front of it has no width, and makes it read from left to right in any case.
+    EXPECT_EQ(picture(address), picture(QChar(0x200E) + address));
+}
+
 TEST_F(RowButtonTest, IsMirrored)
 {
     row->setDot(RowButton::Dot{Theme::Ink::Positive, true});

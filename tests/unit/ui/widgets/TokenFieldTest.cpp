@@ -5,6 +5,7 @@
 #include "ui/widgets/Token.h"
 #include "unit/ui/WidgetFixture.h"
 
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 
@@ -166,6 +167,17 @@ TEST_F(TokenFieldTest, SaysThatThereAreNone)
     settle();
     EXPECT_FALSE(empty->isVisible());
     EXPECT_TRUE(field->token(0)->isVisible());
+}
+
+TEST_F(TokenFieldTest, AnAddressReadsTheSameInAMirroredWindow)
+{
+    const QString address = u"00:16:CB:7A:10:02"_s;
+    field->setEntries({{address, address}});
+    settle();
+    const QImage usual = field->token(0)->grab().toImage();
+    window.setLayoutDirection(Qt::RightToLeft);
+    settle();
+    EXPECT_EQ(field->token(0)->grab().toImage(), usual);
 }
 
 TEST_F(TokenFieldTest, ALongNameIsCutAndSaidInFull)
