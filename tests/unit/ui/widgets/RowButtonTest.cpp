@@ -153,12 +153,13 @@ TEST_F(RowButtonTest, AnAddressReadsTheSameInAMirroredWindow)
         const int wide = QFontMetrics(Theme::font(Theme::Type::Address)).horizontalAdvance(value);
         return row->grab(QRect(end - Theme::unit - wide, 0, wide, row->height())).toImage();
     };
-    window.setLayoutDirection(Qt::RightToLeft);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
     window.resize(500, 300);
     settle();
     const QString address = u"00:16:CB:7A:10:02"_s;
     // The sign in front of it has no width, and makes it read from left to right in any case.
     EXPECT_EQ(picture(address), picture(QChar(0x200E) + address));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(RowButtonTest, IsMirrored)

@@ -175,9 +175,10 @@ TEST_F(TokenFieldTest, AnAddressReadsTheSameInAMirroredWindow)
     field->setEntries({{address, address}});
     settle();
     const QImage usual = field->token(0)->grab().toImage();
-    window.setLayoutDirection(Qt::RightToLeft);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
     settle();
     EXPECT_EQ(field->token(0)->grab().toImage(), usual);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(TokenFieldTest, ALongNameIsCutAndSaidInFull)
