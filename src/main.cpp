@@ -5,6 +5,7 @@
 #include "base/Log.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/bus/SessionInstance.h"
+#include "platform/linux/desktop/DisplayCompositing.h"
 #include "platform/linux/desktop/PortalColorScheme.h"
 #include "platform/linux/desktop/Preload.h"
 #include "platform/linux/desktop/TrayHostWatch.h"
@@ -88,8 +89,9 @@ int main(int argc, char **argv)
     TrayHostWatch trayHost;
     X11TaskBar taskBar;
     PortalColorScheme colorScheme;
+    const DisplayCompositing compositing;
     const UserInterface userInterface(
-        modelsOf(delegate.features()), {trayHost, taskBar, colorScheme});
+        modelsOf(delegate.features()), {trayHost, taskBar, colorScheme, compositing});
 
     LaunchSequence &launch = delegate.launch();
     QObject::connect(

@@ -35,6 +35,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,
         [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
+    m_theme.setCompositing(desktop.compositing);
     desktop.colorScheme.watch([this](ColorScheme scheme) { m_theme.setScheme(scheme); });
 }
 

@@ -10,6 +10,7 @@
 namespace quillon {
 
 class ColorSchemeSource;
+class Compositing;
 class VendorFieldModel;
 class VendorPaneModel;
 
@@ -32,6 +33,7 @@ public:
         TrayHost &trayHost;
         TaskBar &taskBar;
         ColorSchemeSource &colorScheme;
+        const Compositing &compositing;
     };
 
     UserInterface(const Models &models, const Desktop &desktop);

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/theme/Theme.h"
 
+#include "platform/desktop/Compositing.h"
+#include "ui/theme/FocusRing.h"
 #include "ui/theme/SymbolicIcon.h"
+#include "ui/theme/ThemeStyle.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
 #include <QRegularExpression>
-#include <QStyleFactory>
 
 #include <utility>
 
@@ -37,6 +39,7 @@ QHash<QString, QString> namedColors(const ThemeColors &colors)
         {"window", colors.window},
         {"surface", colors.surface},
         {"surfaceBorder", colors.surfaceBorder},
+        {"popoverBorder", colors.popoverBorder},
         {"control", colors.control},
         {"controlHover", colors.controlHover},
         {"controlPressed", colors.controlPressed},
@@ -48,10 +51,16 @@ QHash<QString, QString> namedColors(const ThemeColors &colors)
         {"accentHover", colors.accentHover},
         {"accentPressed", colors.accentPressed},
         {"onAccent", colors.onAccent},
+        {"tint", colors.tint},
+        {"tintEdge", colors.tintEdge},
+        {"onTint", colors.onTint},
         {"disabledFill", colors.disabledFill},
         {"positive", colors.positive},
         {"notice", colors.notice},
         {"noticeSurface", colors.noticeSurface},
+        {"danger", colors.danger},
+        {"dangerSurface", colors.dangerSurface},
+        {"heart", colors.heart},
         {"hint", colors.hint},
         {"hintText", colors.hintText},
         {"hintBody", colors.hintBody},
@@ -75,6 +84,8 @@ Theme::Theme(ColorScheme scheme)
     initializeResources();
 }
 
+Theme::~Theme() = default;
+
 QColor Theme::ink(Ink ink) const
 {
     switch (ink) {
@@ -86,10 +97,16 @@ QColor Theme::ink(Ink ink) const
         return m_colors.accent;
     case Ink::OnAccent:
         return m_colors.onAccent;
+    case Ink::OnTint:
+        return m_colors.onTint;
     case Ink::Positive:
         return m_colors.positive;
     case Ink::Notice:
         return m_colors.notice;
+    case Ink::Danger:
+        return m_colors.danger;
+    case Ink::Heart:
+        return m_colors.heart;
     case Ink::Hint:
         return m_colors.hintText;
     case Ink::OnHintButton:
@@ -102,7 +119,10 @@ QColor Theme::ink(Ink ink) const
 
 void Theme::apply()
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new ThemeStyle);
+    if (!m_focusRing) {
+        m_focusRing = std::make_unique<FocusRing>(*this);
+    }
     QFont font = QApplication::font();
     const QString preferred = u"Inter"_s;
     if (isGenericFamily(font.family()) && QFontDatabase::families().contains(preferred)) {
@@ -120,18 +140,63 @@ void Theme::apply()
 
 void Theme::setScheme(ColorScheme scheme)
 {
-    if (scheme == m_scheme) {
-        return;
+    if (scheme != m_scheme) {
+        m_scheme = scheme;
+        recolor();
     }
-    m_scheme = scheme;
-    m_colors = ThemeColors::forScheme(scheme);
+}
+
+void Theme::setContrast(Contrast contrast)
+{
+    if (contrast != m_contrast) {
+        m_contrast = contrast;
+        recolor();
+    }
+}
+
+void Theme::recolor()
+{
+    m_colors = ThemeColors::forScheme(m_scheme, m_contrast);
     apply();
     Q_EMIT changed();
+}
+
+int Theme::motion(std::chrono::milliseconds wanted) const
+{
+    return m_animated ? static_cast<int>(wanted.count()) : 0;
+}
+
+bool Theme::windowsBlend() const
+{
+    return m_compositing != nullptr && m_compositing->isActive();
 }
 
 QIcon Theme::icon(const QString &name, Ink ink) const
 {
     return QIcon(new SymbolicIcon(*this, name, ink));
+}
+
+QFont Theme::font(Type type)
+{
+    switch (type) {
+    case Type::Title:
+        return textFont(1.3, QFont::DemiBold);
+    case Type::Head:
+        return textFont(1.1, QFont::DemiBold);
+    case Type::Body:
+        return textFont(1.0);
+    case Type::Strong:
+        return textFont(1.0, QFont::DemiBold);
+    case Type::Caption:
+        return textFont(0.9);
+    case Type::Badge:
+        return textFont(0.9, QFont::DemiBold);
+    case Type::AddressField:
+        return addressFont(1.6);
+    case Type::Address:
+        return addressFont(1.0);
+    }
+    Q_UNREACHABLE();
 }
 
 QFont Theme::addressFont(double scale)

@@ -27,21 +27,28 @@ ThemeColors lightColors()
     colors.window = QColor(0xf3f5fa);
     colors.surface = QColor(0xffffff);
     colors.surfaceBorder = QColor(0xdbe1ec);
+    colors.popoverBorder = QColor(0xb4bdcd);
     colors.control = QColor(0xffffff);
     colors.controlHover = QColor(0xeaf0fd);
     colors.controlPressed = QColor(0xdbe5fb);
     colors.controlBorder = QColor(0x7c889f);
     colors.text = QColor(0x161c28);
     colors.mutedText = QColor(0x536078);
-    colors.disabledText = QColor(0x8d97a9);
+    colors.disabledText = QColor(0x6f7b91);
     colors.accent = QColor(0x2457d6);
     colors.accentHover = QColor(0x1d4abc);
     colors.accentPressed = QColor(0x173c9c);
     colors.onAccent = QColor(0xffffff);
+    colors.tint = QColor(0xe3ebfd);
+    colors.tintEdge = QColor(0xe3ebfd);
+    colors.onTint = QColor(0x1d4abc);
     colors.disabledFill = QColor(0xe6eaf2);
     colors.positive = QColor(0x147548);
     colors.notice = QColor(0x7f4600);
     colors.noticeSurface = QColor(0xfff0d3);
+    colors.danger = QColor(0xb3261e);
+    colors.dangerSurface = QColor(0xfdeceb);
+    colors.heart = QColor(0xc2255c);
     addHintColors(colors);
     return colors;
 }
@@ -52,23 +59,53 @@ ThemeColors darkColors()
     colors.window = QColor(0x12161e);
     colors.surface = QColor(0x1b212c);
     colors.surfaceBorder = QColor(0x2c3545);
+    colors.popoverBorder = QColor(0x465268);
     colors.control = QColor(0x232b38);
     colors.controlHover = QColor(0x2d3748);
     colors.controlPressed = QColor(0x364257);
     colors.controlBorder = QColor(0x738099);
     colors.text = QColor(0xeef2f9);
     colors.mutedText = QColor(0xa8b4c9);
-    colors.disabledText = QColor(0x67738a);
+    colors.disabledText = QColor(0x7d89a0);
     colors.accent = QColor(0x6e9cfc);
     colors.accentHover = QColor(0x8db2ff);
     colors.accentPressed = QColor(0x5a8af0);
     colors.onAccent = QColor(0x0b1326);
+    colors.tint = QColor(0x22335a);
+    colors.tintEdge = QColor(0x22335a);
+    colors.onTint = QColor(0xb4cbff);
     colors.disabledFill = QColor(0x222936);
     colors.positive = QColor(0x4cc38a);
     colors.notice = QColor(0xffcc80);
     colors.noticeSurface = QColor(0x3a2d14);
+    colors.danger = QColor(0xff9d94);
+    colors.dangerSurface = QColor(0x402022);
+    colors.heart = QColor(0xff8fab);
     addHintColors(colors);
     return colors;
+}
+
+ThemeColors withHighContrast(ThemeColors colors)
+{
+    colors.surfaceBorder = colors.text;
+    colors.popoverBorder = colors.text;
+    colors.controlBorder = colors.text;
+    colors.mutedText = colors.text;
+    colors.tint = colors.window;
+    colors.tintEdge = colors.accent;
+    colors.onTint = colors.text;
+    return colors;
+}
+
+ThemeColors normalColors(ColorScheme scheme)
+{
+    switch (scheme) {
+    case ColorScheme::Light:
+        return lightColors();
+    case ColorScheme::Dark:
+        return darkColors();
+    }
+    Q_UNREACHABLE();
 }
 
 double linear(double channel)
@@ -84,15 +121,10 @@ double luminance(const QColor &color)
 
 } // namespace
 
-ThemeColors ThemeColors::forScheme(ColorScheme scheme)
+ThemeColors ThemeColors::forScheme(ColorScheme scheme, Contrast contrast)
 {
-    switch (scheme) {
-    case ColorScheme::Light:
-        return lightColors();
-    case ColorScheme::Dark:
-        return darkColors();
-    }
-    Q_UNREACHABLE();
+    const ThemeColors colors = normalColors(scheme);
+    return contrast == Contrast::High ? withHighContrast(colors) : colors;
 }
 
 QPalette ThemeColors::palette() const
@@ -134,6 +166,11 @@ QList<ColorPair> meaningfulPairs(const ThemeColors &colors)
         {"text on a card", colors.text, colors.surface, text},
         {"secondary text on the window", colors.mutedText, colors.window, text},
         {"secondary text on a card", colors.mutedText, colors.surface, text},
+        {"secondary text on a popover", colors.mutedText, colors.control, text},
+        {"text on a badge, a token or an open row", colors.text, colors.tint, text},
+        {"secondary text on an open row", colors.mutedText, colors.tint, text},
+        {"a badge or a token", colors.onTint, colors.tint, text},
+        {"a badge on an open row", colors.onTint, colors.surface, text},
         {"a secondary button", colors.text, colors.control, text},
         {"a secondary button under the pointer", colors.text, colors.controlHover, text},
         {"a secondary button while pressed", colors.text, colors.controlPressed, text},
@@ -141,7 +178,17 @@ QList<ColorPair> meaningfulPairs(const ThemeColors &colors)
         {"the primary button under the pointer", colors.onAccent, colors.accentHover, text},
         {"the primary button while pressed", colors.onAccent, colors.accentPressed, text},
         {"an active link", colors.positive, colors.window, text},
+        {"what works, on a card", colors.positive, colors.surface, text},
         {"the notice", colors.notice, colors.noticeSurface, text},
+        {"the notice on a card", colors.notice, colors.surface, text},
+        {"the notice on a popover", colors.notice, colors.control, text},
+        {"a failure on its own ground", colors.danger, colors.dangerSurface, text},
+        {"a failure on a card", colors.danger, colors.surface, text},
+        {"a failure on a popover", colors.danger, colors.control, text},
+        {"a toast", colors.window, colors.text, text},
+        {"the heart on a card", colors.heart, colors.surface, shape},
+        {"the heart on a popover", colors.heart, colors.control, shape},
+        {"a disabled control", colors.disabledText, colors.disabledFill, shape},
         {"the hint", colors.hintText, colors.hint, text},
         {"the hint's explanation", colors.hintBody, colors.hint, text},
         {"the hint's button", colors.onHintButton, colors.hintButton, text},

@@ -10,13 +10,20 @@
 
 namespace quillon {
 
+enum class Contrast
+{
+    Normal,
+    High,
+};
+
 /// Every color of the program's windows, by what it is for.
 struct ThemeColors
 {
     QColor window;        ///< behind everything
     QColor surface;       ///< cards
     QColor surfaceBorder; ///< decoration only
-    QColor control;       ///< secondary buttons, selectors
+    QColor popoverBorder; ///< the edge of what lies over a window
+    QColor control;       ///< what is raised: secondary buttons, selectors, popovers, menus
     QColor controlHover;
     QColor controlPressed;
     QColor controlBorder; ///< the outline by which a control is recognized
@@ -24,6 +31,9 @@ struct ThemeColors
     QColor mutedText;
     QColor disabledText;
     QColor accent; ///< the primary button, links, the ring around the focused control
+    QColor tint;   ///< badges, tokens, the selection, the row whose popover is open
+    QColor tintEdge;
+    QColor onTint;
     QColor accentHover;
     QColor accentPressed;
     QColor onAccent;
@@ -31,6 +41,9 @@ struct ThemeColors
     QColor positive;
     QColor notice; ///< text on noticeSurface
     QColor noticeSurface;
+    QColor danger; ///< what failed, and what cannot be taken back
+    QColor dangerSurface;
+    QColor heart;
     QColor hint; ///< the panel that offers the helper: dark in both schemes
     QColor hintText;
     QColor hintBody;
@@ -38,7 +51,8 @@ struct ThemeColors
     QColor hintButtonHover;
     QColor onHintButton;
 
-    static ThemeColors forScheme(ColorScheme scheme);
+    /// With high contrast every edge is as dark as text, and nothing is told by a tint alone.
+    static ThemeColors forScheme(ColorScheme scheme, Contrast contrast = Contrast::Normal);
     QPalette palette() const;
 };
 
@@ -59,7 +73,7 @@ struct ColorPair
     double leastContrast;
 };
 
-/// All pairs that carry meaning. Disabled controls are not among them.
+/// All pairs that carry meaning.
 QList<ColorPair> meaningfulPairs(const ThemeColors &colors);
 
 } // namespace quillon

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeCompositing.h"
 #include "platform/desktop/ColorSchemeSource.h"
 #include "ui/UserInterface.h"
 #include "ui/menu/StatusMenu.h"
@@ -83,7 +84,7 @@ protected:
                 {features().networks.externalAddressShown, features().rules.status,
                     features().rules.countdown},
                 features().vendors.field, features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, colorScheme});
+            UserInterface::Desktop{trayHost, taskBar, colorScheme, compositing});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
         machine.settings.set(keys::externalIPAddress, written);
@@ -160,6 +161,7 @@ protected:
     FakeTrayHost trayHost;
     FakeTaskBar taskBar;
     NoColorScheme colorScheme;
+    FakeCompositing compositing;
     std::optional<UserInterface> ui;
 };
 

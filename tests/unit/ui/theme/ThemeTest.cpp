@@ -35,6 +35,58 @@ TEST_P(ThemeInEachScheme, WhatCarriesMeaningIsLegible)
     }
 }
 
+TEST_P(ThemeInEachScheme, WhatCarriesMeaningIsLegibleWithHighContrast)
+{
+    for (const ColorPair &pair :
+        meaningfulPairs(ThemeColors::forScheme(GetParam(), Contrast::High))) {
+        EXPECT_GE(contrastRatio(pair.foreground, pair.background), pair.leastContrast) << pair.use;
+    }
+}
+
+TEST_P(ThemeInEachScheme, WithHighContrastEdgesAreAsDarkAsText)
+{
+    const auto colors = ThemeColors::forScheme(GetParam(), Contrast::High);
+    EXPECT_EQ(colors.surfaceBorder, colors.text);
+    EXPECT_EQ(colors.popoverBorder, colors.text);
+    EXPECT_EQ(colors.controlBorder, colors.text);
+    EXPECT_EQ(colors.tint, colors.window);
+    EXPECT_EQ(colors.tintEdge, colors.accent);
+}
+
+TEST_P(ThemeInEachScheme, HasTheContrastThatTheDesignPromises)
+{
+    const ThemeColors colors = ThemeColors::forScheme(GetParam());
+    struct Promise
+    {
+        const char *use;
+        QColor foreground, background;
+        double light, dark;
+    };
+    const Promise promises[] = {
+        {"outline", colors.controlBorder, colors.surface, 3.6, 4.1},
+        {"outline on the window", colors.controlBorder, colors.window, 3.3, 4.6},
+        {"text on what is pressed", colors.text, colors.controlPressed, 13.5, 9.0},
+        {"text", colors.text, colors.surface, 17.1, 14.4},
+        {"muted", colors.mutedText, colors.surface, 6.3, 7.7},
+        {"disabled", colors.disabledText, colors.disabledFill, 3.5, 4.1},
+        {"on accent", colors.onAccent, colors.accent, 6.2, 6.9},
+        {"ring on the window", colors.accent, colors.window, 5.6, 6.7},
+        {"on tint", colors.onTint, colors.tint, 6.4, 7.7},
+        {"text on tint", colors.text, colors.tint, 14.3, 11.1},
+        {"muted on tint", colors.mutedText, colors.tint, 5.3, 5.9},
+        {"positive", colors.positive, colors.surface, 5.7, 7.3},
+        {"notice", colors.notice, colors.noticeSurface, 6.7, 9.1},
+        {"danger", colors.danger, colors.dangerSurface, 5.7, 7.3},
+        {"heart", colors.heart, colors.surface, 5.7, 7.5},
+        {"read-me strip", colors.hintText, colors.hint, 6.0, 6.0},
+    };
+    for (const Promise &promise : promises) {
+        const double least = GetParam() == ColorScheme::Dark ? promise.dark : promise.light;
+        EXPECT_NEAR(contrastRatio(promise.foreground, promise.background), least, 0.06)
+            << promise.use;
+    }
+}
+
 TEST_P(ThemeInEachScheme, TheStatusItemIsVisibleOnEveryPanel)
 {
     const Theme theme(GetParam());
@@ -108,6 +160,38 @@ TEST(ThemeSymbolicIcons, OfAnUnknownNameAreEmpty)
     const Theme theme;
     const QIcon icon = theme.icon(u"no-such-icon"_s, Theme::Ink::Text);
     EXPECT_TRUE(icon.pixmap(QSize(20, 20)).isNull());
+}
+
+TEST(ThemeOfTheApplication, HasASizeForEachUseOfText)
+{
+    const double body = QApplication::font().pointSizeF();
+    EXPECT_DOUBLE_EQ(Theme::font(Theme::Type::Title).pointSizeF(), 1.3 * body);
+    EXPECT_DOUBLE_EQ(Theme::font(Theme::Type::Head).pointSizeF(), 1.1 * body);
+    EXPECT_DOUBLE_EQ(Theme::font(Theme::Type::Body).pointSizeF(), body);
+    EXPECT_DOUBLE_EQ(Theme::font(Theme::Type::Caption).pointSizeF(), 0.9 * body);
+    EXPECT_DOUBLE_EQ(Theme::font(Theme::Type::AddressField).pointSizeF(), 1.6 * body);
+    EXPECT_EQ(Theme::font(Theme::Type::Badge).weight(), QFont::DemiBold);
+    EXPECT_EQ(Theme::font(Theme::Type::Address).styleHint(), QFont::Monospace);
+}
+
+TEST(ThemeOfTheApplication, ContrastIsAChangeToo)
+{
+    Theme theme;
+    int changes = 0;
+    QObject::connect(&theme, &Theme::changed, [&] { ++changes; });
+    theme.setContrast(Contrast::High);
+    theme.setContrast(Contrast::High);
+    EXPECT_EQ(changes, 1);
+    theme.setScheme(ColorScheme::Dark);
+    EXPECT_EQ(theme.colors().controlBorder, theme.colors().text);
+}
+
+TEST(ThemeOfTheApplication, NothingMovesWhereNothingShall)
+{
+    Theme theme;
+    EXPECT_EQ(theme.motion(Theme::popoverMotion), 120);
+    theme.setAnimated(false);
+    EXPECT_EQ(theme.motion(Theme::popoverMotion), 0);
 }
 
 TEST(ThemeOfTheApplication, ChangesWithTheDesktop)

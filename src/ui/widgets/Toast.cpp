@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/Toast.h"
+
+#include "base/Localized.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/PlainText.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+Toast::Toast(const Theme &theme, Scheduler &scheduler, QWidget *window)
+    : QFrame(window)
+    , m_theme(theme)
+    , m_scheduler(scheduler)
+    , m_message(plainLabel())
+    , m_undoButton(new QPushButton(localized("Undo")))
+    , m_undoKey(new QShortcut(QKeySequence::Undo, window))
+{
+    setProperty("look", u"toast"_s);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
+    m_message->setWordWrap(true);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::unit, Theme::unit);
+    row->setSpacing(Theme::cardMargin);
+    row->addWidget(m_message, 1);
+    row->addWidget(m_undoButton, 0, Qt::AlignVCenter);
+    m_undoKey->setEnabled(false);
+    connect(m_undoButton, &QPushButton::clicked, this, &Toast::takeBack);
+    connect(m_undoKey, &QShortcut::activated, this, &Toast::takeBack);
+    // Enter and Leave come to this itself; the keyboard goes to its button.
+    m_undoButton->installEventFilter(this);
+    window->installEventFilter(this);
+    hide();
+}
+
+void Toast::say(const QString &message, std::function<void()> undo)
+{
+    m_undo = std::move(undo);
+    m_message->setText(plainParagraphs(message));
+    m_undoButton->setVisible(m_undo != nullptr);
+    m_undoKey->setEnabled(m_undo != nullptr);
+    place();
+    show();
+    raise();
+    announce(*this, m_message->text());
+    waitAnew();
+}
+
+void Toast::dismiss()
+{
+    cancelWait();
+    m_undo = nullptr;
+    m_undoKey->setEnabled(false);
+    hide();
+}
+
+QString Toast::message() const
+{
+    return isHidden() ? QString() : m_message->text();
+}
+
+void Toast::takeBack()
+{
+    const auto undo = std::exchange(m_undo, nullptr);
+    dismiss();
+    if (undo) {
+        undo();
+    }
+}
+
+void Toast::place()
+{
+    const QWidget &window = *parentWidget();
+    const int widest = window.width() - 2 * Theme::windowMargin;
+    // On one line where it fits; otherwise over the window's width, on as many as it takes.
+    const QMargins margins = layout()->contentsMargins();
+    const int button =
+        m_undoButton->isHidden() ? 0 : layout()->spacing() + m_undoButton->sizeHint().width();
+    const int wanted = margins.left() + margins.right() + button +
+                       m_message->fontMetrics().horizontalAdvance(m_message->text()) +
+                       2 * Theme::unit;
+    const int width = std::min(wanted, widest);
+    const int height = layout()->totalHeightForWidth(width);
+    setGeometry((window.width() - width) / 2, window.height() - height - Theme::windowMargin, width,
+        height);
+}
+
+void Toast::waitAnew()
+{
+    cancelWait();
+    if (!isLookedAt()) {
+        m_wait = m_scheduler.onMainAfter(shownFor, this, [this] {
+            m_wait.reset();
+            dismiss();
+        });
+    }
+}
+
+void Toast::cancelWait()
+{
+    if (m_wait) {
+        m_scheduler.cancel(*m_wait);
+        m_wait.reset();
+    }
+}
+
+bool Toast::isLookedAt() const
+{
+    return testAttribute(Qt::WA_UnderMouse) || m_undoButton->hasFocus();
+}
+
+bool Toast::event(QEvent *event)
+{
+    const bool done = QFrame::event(event);
+    if (isVisible() && (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
+        waitAnew();
+    }
+    return done;
+}
+
+bool Toast::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_undoButton &&
+        (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        // It is decided once the button knows it too.
+        m_scheduler.onMain(this, [this] {
+            if (isVisible()) {
+                waitAnew();
+            }
+        });
+    } else if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible()) {
+        place();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace quillon

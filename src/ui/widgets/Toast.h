@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Scheduler.h"
+
+#include <QFrame>
+
+#include <optional>
+
+class QLabel;
+class QPushButton;
+class QShortcut;
+
+namespace quillon {
+
+class Theme;
+
+/// Says at the bottom of a window what the user just did, and offers to undo it, by its button and
+/// by Ctrl+Z. It goes after ten seconds, which begin anew when the pointer or the focus leaves it.
+/// A new one takes the place of one that is shown.
+class Toast : public QFrame
+{
+    Q_OBJECT
+
+public:
+    static constexpr std::chrono::seconds shownFor{10};
+
+    /// `scheduler` outlives it; `window` is what it lies over.
+    Toast(const Theme &theme, Scheduler &scheduler, QWidget *window);
+
+    /// As "Rule deleted". `undo` is called at most once; none means that there is nothing to undo.
+    void say(const QString &message, std::function<void()> undo = {});
+    void dismiss();
+    QString message() const;
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void place();
+    void waitAnew();
+    void cancelWait();
+    bool isLookedAt() const;
+    void takeBack();
+
+    const Theme &m_theme;
+    Scheduler &m_scheduler;
+    QLabel *m_message;
+    QPushButton *m_undoButton;
+    QShortcut *m_undoKey;
+    std::function<void()> m_undo;
+    std::optional<Scheduler::Token> m_wait;
+};
+
+} // namespace quillon

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPushButton>
+
+namespace quillon {
+
+/// One pill of a TokenField: a button that can be dragged away as plain text.
+class Token : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    static constexpr int widest = 220; ///< then its end is left out
+
+    /// `text` is what it is dragged as.
+    Token(const QString &title, const QString &text, QWidget *parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// `drag` is about to begin. It is destroyed when it has ended, with or without a drop, also
+    /// when the token has gone meanwhile.
+    void dragBegan(QObject *drag);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drag();
+
+    QString m_title;
+    QString m_text;
+    QPoint m_pressed;
+};
+
+} // namespace quillon

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/widgets/Toast.h"
+
+#include "fakes/FakeScheduler.h"
+#include "unit/ui/WidgetFixture.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+using namespace std::chrono_literals;
+
+class ToastTest : public WidgetFixture
+{
+protected:
+    ToastTest()
+    {
+        show();
+        toast->say(u"Rule deleted"_s, [this] { ++undone; });
+        settle();
+    }
+    ~ToastTest() override { delete toast; }
+
+    QPushButton &button() const { return *toast->findChild<QPushButton *>(); }
+    void pointAt(bool isThere) const
+    {
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QEvent leave(QEvent::Leave);
+        // What the display does before it tells.
+        toast->setAttribute(Qt::WA_UnderMouse, isThere);
+        QApplication::sendEvent(toast, isThere ? static_cast<QEvent *>(&enter) : &leave);
+    }
+
+    FakeScheduler scheduler;
+    Toast *toast = new Toast(theme, scheduler, &window);
+    int undone = 0;
+};
+
+TEST_F(ToastTest, LiesAtTheBottomInTheMiddleForTenSeconds)
+{
+    EXPECT_TRUE(toast->isVisible());
+    EXPECT_EQ(toast->message(), u"Rule deleted"_s);
+    EXPECT_NEAR(toast->geometry().center().x(), window.rect().center().x(), 1);
+    EXPECT_EQ(toast->geometry().bottom(), window.height() - Theme::windowMargin - 1);
+    scheduler.advance(9'900ms);
+    EXPECT_TRUE(toast->isVisible());
+    scheduler.advance(200ms);
+    EXPECT_FALSE(toast->isVisible());
+    EXPECT_FALSE(scheduler.hasTimers());
+    EXPECT_EQ(undone, 0);
+}
+
+TEST_F(ToastTest, UndoesOnce)
+{
+    button().click();
+    EXPECT_EQ(undone, 1);
+    EXPECT_FALSE(toast->isVisible());
+    Q_EMIT window.findChild<QShortcut *>()->activated();
+    EXPECT_EQ(undone, 1);
+}
+
+TEST_F(ToastTest, UndoesByItsKey)
+{
+    auto *key = window.findChild<QShortcut *>();
+    EXPECT_EQ(key->key(), QKeySequence(QKeySequence::Undo));
+    EXPECT_TRUE(key->isEnabled());
+    Q_EMIT key->activated();
+    EXPECT_EQ(undone, 1);
+    EXPECT_FALSE(key->isEnabled());
+}
+
+TEST_F(ToastTest, WaitsUnderThePointer)
+{
+    pointAt(true);
+    scheduler.advance(60s);
+    EXPECT_TRUE(toast->isVisible());
+    pointAt(false);
+    scheduler.advance(9'900ms);
+    EXPECT_TRUE(toast->isVisible());
+    scheduler.advance(200ms);
+    EXPECT_FALSE(toast->isVisible());
+}
+
+TEST_F(ToastTest, WaitsWhileItHasTheKeyboard)
+{
+    button().setFocus();
+    scheduler.advance(60s);
+    EXPECT_TRUE(toast->isVisible());
+    button().clearFocus();
+    scheduler.advance(10'100ms);
+    EXPECT_FALSE(toast->isVisible());
+}
+
+TEST_F(ToastTest, ANextOneTakesItsPlaceAndItsTime)
+{
+    scheduler.advance(8s);
+    toast->say(u"Favorite removed"_s);
+    EXPECT_TRUE(button().isHidden());
+    scheduler.advance(8s);
+    EXPECT_EQ(toast->message(), u"Favorite removed"_s);
+    Q_EMIT window.findChild<QShortcut *>()->activated();
+    EXPECT_EQ(undone, 0);
+    scheduler.advance(3s);
+    EXPECT_EQ(toast->message(), QString());
+}
+
+TEST_F(ToastTest, StaysInItsWindow)
+{
+    toast->say(
+        u"A message that is so long that it does not fit into one line of this window, by far"_s,
+        [] {});
+    settle();
+    EXPECT_TRUE(window.rect().contains(toast->geometry()));
+    const auto *label = toast->findChild<QLabel *>();
+    EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+    window.resize(600, 500);
+    settle();
+    EXPECT_EQ(toast->geometry().bottom(), window.height() - Theme::windowMargin - 1);
+}
+
+TEST_F(ToastTest, IsAMessageToAssistiveTechnology)
+{
+    EXPECT_EQ(accessible(*toast).role(), QAccessible::AlertMessage);
+    EXPECT_EQ(accessible(*toast).text(QAccessible::Name), u"Rule deleted"_s);
+}
+
+} // namespace
+} // namespace quillon::test
