@@ -94,12 +94,14 @@ void LaunchSequence::startup()
     f.vendors.choice.updateVendorField({});
     f.mainWindow.renewHexFormatter();
     f.mainWindow.populateSelectionButton();
+    f.fileMenu.menuNeedsUpdate();
 
     m_platform.addressOwners.finishInterrupted();
     m_wiring.setupNotifications();
     f.networks.locationPermission.requestNetworkPermissions();
     f.networks.externalAddress.updateExternalIPAddress(false);
     m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });
+    f.statusItemAbsence.begin();
 }
 
 void LaunchSequence::checkRules()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/menu/FileMenu.h"
 #include "ui/menu/StatusItem.h"
 #include "ui/theme/Theme.h"
 #include "ui/window/MainWindow.h"
@@ -10,6 +11,7 @@
 namespace quillon {
 
 class ColorSchemeSource;
+class FileMenuModel;
 class VendorFieldModel;
 class VendorPaneModel;
 
@@ -22,6 +24,7 @@ public:
     {
         MainWindowModel &mainWindow;
         StatusMenuModel &statusMenu;
+        FileMenuModel &fileMenu;
         Presence &presence;
         StatusRows::Models status;
         VendorFieldModel &vendorField;
@@ -38,6 +41,7 @@ public:
 
 private:
     Theme m_theme;
+    FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;
     StatusItem m_statusItem;
 };

@@ -9,6 +9,8 @@
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
 #include "presence/Presence.h"
+#include "presence/StatusItemAbsence.h"
+#include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
 #include "presentation/window/MainWindowModel.h"
@@ -23,6 +25,7 @@ struct Features
     Features(const Platform &platform, Notifier &notifier, RecordStore::OpenFailure openFailure);
 
     Presence presence;
+    StatusItemAbsence statusItemAbsence;
     XPCMethods helper;
     DeviceFeature devices;
     HistoryFeature history;
@@ -32,6 +35,7 @@ struct Features
 
     MainWindowModel mainWindow;
     StatusMenuModel statusMenu;
+    FileMenuModel fileMenu;
     AdvancedPreferencesModel advancedPreferences;
 };
 

@@ -106,7 +106,10 @@ MainWindow::MainWindow(
     m_column->setSpacing(Theme::spacing);
     // The window is as large as its texts need, in any language and at any scale.
     m_column->setSizeConstraint(QLayout::SetFixedSize);
-    m_column->addWidget(m_header);
+    m_top = new QHBoxLayout;
+    m_top->setSpacing(Theme::unit);
+    m_top->addWidget(m_header, 1);
+    m_column->addLayout(m_top);
     m_column->addWidget(m_readMe);
     m_column->addWidget(makeAddressCard());
     m_column->addWidget(makeButtons());
@@ -118,6 +121,11 @@ MainWindow::MainWindow(
     connectPresence();
     refresh();
     m_field->setFocus();
+}
+
+void MainWindow::addMenuButton(QWidget *button)
+{
+    m_top->addWidget(button);
 }
 
 void MainWindow::addChoice(QWidget *section)
@@ -183,8 +191,6 @@ void MainWindow::makeShortcuts()
         connect(action, &QAction::triggered, this, reaction);
         addAction(action);
     };
-    add(localized("Close Window"), QKeySequence(Qt::CTRL | Qt::Key_W),
-        [this] { m_presence.closeWindow(); });
     add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
         [this] { m_presence.quit(); });
 
@@ -208,6 +214,17 @@ void MainWindow::connectPresence()
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
     connect(&m_presence, &Presence::windowClosed, this, &QWidget::close);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &MainWindow::followTaskBar);
+    connect(&m_presence, &Presence::windowMinimized, this, &QWidget::showMinimized);
+    connect(&m_presence, &Presence::minimizedWindowHidden, this, [this] {
+        if (isMinimized()) {
+            hide();
+        }
+    });
+    connect(&m_presence, &Presence::windowBroughtToFront, this, [this] {
+        if (isVisible() && !isMinimized()) {
+            bringUp();
+        }
+    });
 }
 
 void MainWindow::refresh()
@@ -252,11 +269,19 @@ void MainWindow::showEvent(QShowEvent *event)
     followTaskBar();
     fitScreen();
     QWidget::showEvent(event);
+    m_presence.setWindowShown(true);
     if (!testAttribute(Qt::WA_SetWindowIcon)) {
         // Not before the window is on its way to the display: to draw the icon takes longer than
         // most of what is in it.
         QMetaObject::invokeMethod(this, &MainWindow::drawIcon, Qt::QueuedConnection);
     }
+}
+
+void MainWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    // A window that is minimized gets this event, too, and is still open.
+    m_presence.setWindowShown(isVisible());
 }
 
 void MainWindow::drawIcon()
