@@ -291,6 +291,13 @@ void EventWiring::observeSettings()
     });
     onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
     onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
+    // The recorder may write the combination after its switch was turned on.
+    for (const QString &key : {keys::showKeyEnabled, keys::showKeyCombo}) {
+        onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
+    }
+    for (const QString &key : {keys::randomKeyEnabled, keys::randomKeyCombo}) {
+        onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
+    }
     onSetting(keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
     onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });

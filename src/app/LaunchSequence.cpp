@@ -83,6 +83,8 @@ void LaunchSequence::startup()
     f.mainWindow.disableUpdate();
     f.rules.countdown.hideTimerLabel();
 
+    f.hotKeys.updateShowKey();
+    f.hotKeys.updateRandomKey();
     f.vendors.count.updateVendorCount();
     f.vendors.list.loadVendorField();
     f.networks.savedLists.updateQuickAddressesField();

@@ -8,6 +8,7 @@
 #include "app/features/RuleFeature.h"
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
+#include "hotkeys/GlobalHotKeys.h"
 #include "presence/Presence.h"
 #include "presence/StatusItemAbsence.h"
 #include "presentation/menu/FileMenuModel.h"
@@ -33,6 +34,7 @@ struct Features
     RuleFeature rules;
     VendorFeature vendors;
 
+    GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;
     StatusMenuModel statusMenu;
     FileMenuModel fileMenu;
