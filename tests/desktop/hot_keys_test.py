@@ -72,21 +72,21 @@ class HotKeyTest(ProgramTest):
         wait_until(lambda: kernel_addresses()[selected] != new, "the second press did nothing")
 
     def test_another_combination_takes_its_place(self):
+        selected = self.selector.name
         self.hide()
         write_settings(showKeyCombo="Ctrl+Shift+F8")
         self.press_until("ctrl+shift+F8", self.is_open, "the new combination does nothing")
         self.hide()
         xdotool("key", "ctrl+alt+q")
         # What comes later has come: the keys before it did nothing.
-        selected = self.selector.name
         xdotool("key", "super+F7")
         self.expect_only_changed(selected)
         self.assertFalse(self.is_open())
 
     def test_switched_off_the_keys_belong_to_others_again(self):
+        selected = self.selector.name
         self.hide()
         write_settings(showKeyEnabled=False, randomKeyCombo="Ctrl+Alt+Q")
-        selected = self.selector.name
         self.press_until("ctrl+alt+q", lambda: kernel_addresses() != self.addresses, "the key is not free")
         self.expect_only_changed(selected)
 

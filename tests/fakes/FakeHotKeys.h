@@ -29,12 +29,11 @@ public:
         if (result == HotKeyResult::Bound) {
             bound[hotKey.identifier] = hotKey;
         }
-        m_scheduler.onMain(
-            [this, id = hotKey.identifier, wish, result, reply = std::move(reply)] {
-                if (m_wishes.value(id) == wish) {
-                    reply(result);
-                }
-            });
+        m_scheduler.onMain([this, id = hotKey.identifier, wish, result, reply = std::move(reply)] {
+            if (m_wishes.value(id) == wish) {
+                reply(result);
+            }
+        });
     }
 
     void release(const QString &identifier) override

@@ -3,15 +3,19 @@
 """A real panel in the sandbox: xfce4-panel with its tray, in the place of tray-host; and its menus, read and clicked
 as a person does.
 
-GTK's menus are in no window's tree of accessible objects: they are found by what they announce when they open.
+GTK's menus are in no window's tree of accessible objects: they are found by what they announce when they open. The
+name of an entry stays what it was when the entry was made, whatever is on the screen: what it says later only its
+picture tells.
 """
 import os
 import signal
 import subprocess
+import tempfile
 
 from gi.repository import Atspi, Gio, GLib
 
 import pictures
+import trayclient
 from accessibility import Control, wait_until, xdotool
 
 WATCHER = "org.kde.StatusNotifierWatcher"
@@ -41,6 +45,7 @@ CONFIGURATION = f"""<?xml version="1.0" encoding="UTF-8"?>
   </property>
 </channel>
 """
+TRY_AGAIN = 60  # looks
 MENU_ITEMS = (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM, Atspi.Role.MENU)
 
 
@@ -88,9 +93,11 @@ class Panel:
         self.process.wait()
 
     def open_menu(self):
-        """Right-clicks the status item, again until it is there, and gives the menu when it is open."""
+        """Right-clicks the status item when the panel shows it, and gives the menu when it is open."""
+        wait_until(trayclient.items, "the panel has no status item")
+        pictures.wait_for_still_screen()
         announced = []
-        listener = Atspi.EventListener.new(lambda event: announced.append(event.source))
+        listener = Atspi.EventListener.new(lambda event: event.detail1 and announced.append(event.source))
         listener.register("object:state-changed:showing")
         main_loop = GLib.MainContext.default()
         width = pictures.screen_size()[0]
@@ -98,9 +105,11 @@ class Panel:
 
         def look():
             nonlocal tries
-            # The icon comes after the item was announced to the panel; a menu that is open takes the click.
-            if tries % 40 == 0:
-                xdotool("mousemove", width - HEIGHT // 2, HEIGHT // 2, "click", 3)
+            # The icon may come later still; what else was clicked then is closed again.
+            if tries % TRY_AGAIN == 0:
+                Menu.close()
+                announced.clear()
+                xdotool("mousemove", str(width - HEIGHT // 2), str(HEIGHT // 2), "click", "3")
             tries += 1
             while main_loop.iteration(False):
                 pass
@@ -145,6 +154,16 @@ class Menu:
             items = [child for item in items if item.name == title for child in item.children if child.name]
         found = [item for item in items if item.name == titles[-1]]
         return found[0] if found else None
+
+    def picture(self, *titles):
+        """What is on the screen where the entry is."""
+        x, y, width, height = self.wait_for(*titles).extents
+        # The pointer would mark the entry under it.
+        xdotool("mousemove", "1", "300")
+        pictures.wait_for_still_screen()
+        with tempfile.NamedTemporaryFile(suffix=".ppm") as file:
+            pictures.take_area(x, y, width, height, file.name)
+            return file.read()
 
     def wait_for(self, *titles):
         return wait_until(lambda: self.item(*titles), lambda: f"{titles} is not in {self.titles}")

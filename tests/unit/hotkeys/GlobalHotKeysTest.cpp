@@ -93,8 +93,8 @@ TEST_F(GlobalHotKeysTest, ACombinationThatAnotherProgramHasIsTold)
     EXPECT_EQ(hotKeys.showKeyState(), State::Taken);
     ASSERT_EQ(notifier.messages().size(), 1);
     EXPECT_EQ(notifier.messages().first().title, u"Shortcut for \u201CShow window\u201D not set"_s);
-    EXPECT_EQ(notifier.messages().first().body,
-        u"Ctrl+Alt+Q: Another program uses this shortcut."_s);
+    EXPECT_EQ(
+        notifier.messages().first().body, u"Ctrl+Alt+Q: Another program uses this shortcut."_s);
 }
 
 TEST_F(GlobalHotKeysTest, OneCombinationIsNotForBoth)

@@ -47,9 +47,10 @@ public:
     explicit KeyboardMap(xcb_connection_t *x)
         : m_first(xcb_get_setup(x)->min_keycode)
         , m_count(xcb_get_setup(x)->max_keycode - m_first + 1)
-        , m_reply(xcb_get_keyboard_mapping_reply(
-              x, xcb_get_keyboard_mapping(x, static_cast<xcb_keycode_t>(m_first),
-                  static_cast<uint8_t>(m_count)), nullptr))
+        , m_reply(xcb_get_keyboard_mapping_reply(x,
+              xcb_get_keyboard_mapping(
+                  x, static_cast<xcb_keycode_t>(m_first), static_cast<uint8_t>(m_count)),
+              nullptr))
     {
     }
 

@@ -122,8 +122,8 @@ private:
 
     void respond(const QString &request, uint code, const QVariantMap &results)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(request,
-            QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+        QDBusMessage signal = QDBusMessage::createSignal(
+            request, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
         signal << code << results;
         send(signal);
     }
@@ -162,8 +162,7 @@ private:
         }
         const QString request = requestPath(call, options);
         send(call.createReply(QVariant::fromValue(QDBusObjectPath(request))));
-        const QVariantMap results{
-            {QStringLiteral("shortcuts"), QVariant::fromValue(granted)}};
+        const QVariantMap results{{QStringLiteral("shortcuts"), QVariant::fromValue(granted)}};
         if (holdsBack) {
             m_held.append({request, results});
         } else {
