@@ -10,6 +10,8 @@ from gi.repository import Gio, GLib
 from program import (DEADLINE, NAME, PROGRAM, TITLE, ProgramTest, accessibility, start, trayclient, wait_until,
                      xdotool)
 
+import pictures
+
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 APPLICATION = """
 <node><interface name="org.freedesktop.Application">
@@ -62,36 +64,26 @@ class LifecycleTest(ProgramTest):
         self.item.activate()
         accessibility.window(NAME, TITLE)
 
-    def test_the_file_menu_closes_the_window(self):
+    def open_file_menu(self):
+        # A menu of a button is in no tree of accessible objects: what its keys do is what is seen of it.
         self.press_keys("F10")
-        item = self.window.find("menu item", "Close Window")
-        wait_until(lambda: item.showing, "the menu did not open")
-        self.assertFalse(self.window.find("menu item", "New Network Rule…").enabled, "there is no such form yet")
-        item.click()
+        pictures.wait_for_still_screen()
+
+    def test_the_file_menu_closes_the_window(self):
+        self.open_file_menu()
+        xdotool("key", "c")
         wait_until(lambda: not accessibility.has_window(NAME, TITLE), "the window stayed")
         self.assertIsNone(self.program.poll())
 
-    def test_the_file_menu_by_keyboard_selects_an_interface(self):
-        other = next(name for name in ("enp2s0", "enp1s0") if name != self.selector.name)
-        self.press_keys("F10")
-        wait_until(lambda: self.window.find("menu item", "Close Window").showing, "the menu did not open")
-        # Up from the first entry leads to the last ones.
-        def at_it():
-            xdotool("key", "Up")
-            return any(item.focused and item.name.endswith(" · " + other) for item in self.window.all("menu item"))
-        wait_until(at_it, "the keys do not lead to it")
+    def test_an_interface_is_selected_in_the_file_menu_by_keyboard(self):
+        interfaces = ["enp1s0", "enp2s0"]
+        other = next(name for name in interfaces if name != self.selector.name)
+        self.open_file_menu()
+        # "Ethernet" begins both: each press goes on to the next.
+        for _ in range(interfaces.index(other) + 1):
+            xdotool("key", "e")
         xdotool("key", "Return")
         self.expect_shown(self.addresses[other])
-
-    def test_the_file_menu_has_the_interfaces_of_the_status_menu(self):
-        self.press_keys("F10")
-        wait_until(lambda: self.window.find("menu item", "Close Window").showing, "the menu did not open")
-        shown = [item.name for item in self.window.all("menu item")]
-        for entry in self.item.menu().entries:
-            if entry.visible and " · " in entry.label:
-                self.assertIn(entry.label, shown)
-        self.assertNotIn("Quit Quillon", shown)
-        xdotool("key", "Escape")
 
     def test_a_second_start_brings_the_first_to_the_front(self):
         self.hide()

@@ -31,6 +31,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -214,7 +215,7 @@ void MainWindow::connectPresence()
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
     connect(&m_presence, &Presence::windowClosed, this, &QWidget::close);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &MainWindow::followTaskBar);
-    connect(&m_presence, &Presence::windowMinimized, this, &QWidget::showMinimized);
+    connect(&m_presence, &Presence::windowMinimized, this, &MainWindow::minimize);
     connect(&m_presence, &Presence::minimizedWindowHidden, this, [this] {
         if (isMinimized()) {
             hide();
@@ -244,6 +245,7 @@ void MainWindow::refresh()
 
 void MainWindow::bringUp()
 {
+    m_minimizesOncePainted = false;
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -253,6 +255,20 @@ void MainWindow::bringUp()
     if (QGuiApplication::focusWindow() == windowHandle()) {
         QApplication::setActiveWindow(this);
     }
+}
+
+void MainWindow::minimize()
+{
+    if (windowHandle() != nullptr) {
+        showMinimized();
+        return;
+    }
+    // Under X11 a window comes up open for the first time, whatever state is wished for: it is
+    // minimized when it has been painted.
+    m_minimizesOncePainted = true;
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    show();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 void MainWindow::followTaskBar()
@@ -293,6 +309,9 @@ bool MainWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
         fitScreen();
+    }
+    if (event->type() == QEvent::Paint && std::exchange(m_minimizesOncePainted, false)) {
+        QMetaObject::invokeMethod(this, &QWidget::showMinimized, Qt::QueuedConnection);
     }
     return QWidget::event(event);
 }

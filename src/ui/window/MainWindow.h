@@ -59,6 +59,7 @@ private:
     void connectPresence();
     void refresh();
     void bringUp();
+    void minimize();
     void followTaskBar();
     void drawIcon();
     void fitScreen();
@@ -69,6 +70,7 @@ private:
     const Theme &m_theme;
     TaskBar &m_taskBar;
     bool m_reachableWhenClosed = false;
+    bool m_minimizesOncePainted = false;
 
     InterfaceHeader *m_header;
     AddressField *m_field;
