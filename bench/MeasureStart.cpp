@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Requests: "start PROGRAM" starts it and answers with the nanoseconds until its first window was
-// on the display, and its process; "end" ends it and waits.
+// on the display, and its process; "menu PROGRAM ARGUMENT..." runs one that presses a key or a
+// button and answers with the nanoseconds until a menu was on the display; "end" ends what was
+// started and waits.
 #include "bench/Request.h"
 
 #include <cstdlib>
@@ -12,6 +14,7 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 #include <xcb/xcb.h>
 
 namespace {
@@ -52,12 +55,18 @@ public:
         }
     }
 
-    Clock::time_point waitForWindow()
+    enum class Kind
+    {
+        Window,
+        Menu,
+    };
+
+    Clock::time_point waitFor(Kind kind)
     {
         const Clock::time_point limit = Clock::now() + startLimit;
         while (Clock::now() < limit) {
             while (const Event event{xcb_poll_for_event(m_connection)}) {
-                if (isWindow(*event)) {
+                if (isShown(*event, kind)) {
                     return Clock::now();
                 }
             }
@@ -68,12 +77,14 @@ public:
     }
 
 private:
-    static bool isWindow(const xcb_generic_event_t &event)
+    static bool isShown(const xcb_generic_event_t &event, Kind kind)
     {
         if ((event.response_type & 0x7f) != XCB_MAP_NOTIFY) {
             return false;
         }
-        return !reinterpret_cast<const xcb_map_notify_event_t &>(event).override_redirect;
+        // A menu is none of the window manager's.
+        const auto &mapped = reinterpret_cast<const xcb_map_notify_event_t &>(event);
+        return (mapped.override_redirect != 0) == (kind == Kind::Menu);
     }
 
     xcb_connection_t *m_connection;
@@ -86,6 +97,9 @@ public:
     {
         if (request.at(0) == "start") {
             return start(request.at(1));
+        }
+        if (request.at(0) == "menu") {
+            return menu({request.begin() + 1, request.end()});
         }
         if (request.at(0) == "end") {
             return end();
@@ -102,8 +116,27 @@ private:
         if (posix_spawn(&m_process, arguments[0], nullptr, nullptr, arguments, environ) != 0) {
             throw std::runtime_error("cannot start " + program);
         }
-        const Clock::time_point mapped = m_display.waitForWindow();
+        const Clock::time_point mapped = m_display.waitFor(Display::Kind::Window);
         return {word(mapped - begin), std::to_string(m_process)};
+    }
+
+    Words menu(Words command)
+    {
+        m_display.forget();
+        std::vector<char *> arguments;
+        for (std::string &word : command) {
+            arguments.push_back(word.data());
+        }
+        arguments.push_back(nullptr);
+        pid_t process = 0;
+        const Clock::time_point begin = Clock::now();
+        if (posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments.data(), environ) !=
+            0) {
+            throw std::runtime_error("cannot start " + command.at(0));
+        }
+        const Clock::time_point mapped = m_display.waitFor(Display::Kind::Menu);
+        waitpid(process, nullptr, 0);
+        return {word(mapped - begin)};
     }
 
     Words end()

@@ -18,6 +18,7 @@ import time
 
 import end_to_end
 import idle
+import menu
 import records
 import vendors
 from report import Report
@@ -52,6 +53,7 @@ class Bench:
             "change": self.change,
             "end-to-end": self.end_to_end,
             "start": self.start_and_idle,
+            "menu": self.menu,
             "interfaces": self.many_interfaces,
             "history": self.history,
             "vendors": self.vendors,
@@ -137,6 +139,13 @@ class Bench:
         with tempfile.TemporaryDirectory(dir=self.settings) as folder:
             shutil.chown(folder, USER, USER)
             end_to_end.measure(self.report, self.user_worker, self.build, folder, max(10, self.rounds // 4))
+
+    # The menus
+
+    def menu(self):
+        starter = self.user_worker("measure-start")
+        menu.measure(self.report, starter, os.path.join(self.build, "src", "quillon"), max(10, self.rounds // 4))
+        starter.end()
 
     # Many interfaces
 

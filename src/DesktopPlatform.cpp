@@ -67,6 +67,7 @@ Platform DesktopPlatform::platform()
         .wifi = m_wifi,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .hotKeys = m_hotKeys,
         .http = m_http,
         .helperLink = m_helperLink,
         .random = m_random,

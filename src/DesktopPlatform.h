@@ -10,6 +10,7 @@
 #include "platform/linux/bus/FreedesktopNotifications.h"
 #include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
+#include "platform/linux/desktop/DesktopHotKeys.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
@@ -63,6 +64,7 @@ private:
     Nl80211WiFiClient m_wifi;
     Nl80211LocationAuthorization m_location;
     DesktopSystemSettings m_systemSettings;
+    DesktopHotKeys m_hotKeys;
     NetworkHttpClient m_http;
     GetrandomSource m_random;
     DBusHelperLink m_helperLink;

@@ -52,7 +52,7 @@ int bringOtherToTheFront(QApplication &application, SessionInstance &instance)
 
 UserInterface::Models modelsOf(Features &features)
 {
-    return {features.mainWindow, features.statusMenu, features.presence,
+    return {features.mainWindow, features.statusMenu, features.fileMenu, features.presence,
         {features.networks.externalAddressShown, features.rules.status, features.rules.countdown},
         features.vendors.field, features.vendors.pane};
 }

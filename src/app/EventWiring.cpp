@@ -112,6 +112,8 @@ void EventWiring::connectSelection()
     // The lists of interfaces in menu and window never differ.
     on(f.statusMenu, &StatusMenuModel::rebuildStarted,
         [&f] { f.mainWindow.populateSelectionButton(); });
+    on(f.fileMenu, &FileMenuModel::rebuildStarted,
+        [&f] { f.mainWindow.populateSelectionButton(); });
 }
 
 void EventWiring::connectAddressChange()
@@ -148,7 +150,9 @@ void EventWiring::connectRules()
         [&rules] { rules.list.filterRulesArrayController(); });
 
     on(rules.timers, &CountdownTimers::ticked,
-        [&rules](const QString &device, const QString &text, bool isPaused) {
+        [this, &rules](const QString &device, const QString &text, bool isPaused) {
+            m_features.statusMenu.showCountdown(device, text);
+            m_features.fileMenu.showCountdown(device, text);
             rules.countdown.showCountdown(device, text, isPaused);
         });
     on(rules.timers, &CountdownTimers::stopped, [&rules] { rules.countdown.hideTimerLabel(); });
@@ -245,7 +249,13 @@ void EventWiring::connectVendorField()
 
 void EventWiring::connectProgram()
 {
-    on(m_features.presence, &Presence::terminated, [this] { m_termination.terminate(); });
+    Features &f = m_features;
+    on(f.presence, &Presence::destinationOffered, [&f] {
+        f.statusMenu.menuNeedsUpdate();
+        f.fileMenu.menuNeedsUpdate();
+    });
+    on(f.presence, &Presence::reachChanged, [&f] { f.statusItemAbsence.look(); });
+    on(f.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }
 
 void EventWiring::setupNotifications()
@@ -281,6 +291,13 @@ void EventWiring::observeSettings()
     });
     onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
     onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
+    // The recorder may write the combination after its switch was turned on.
+    for (const QString &key : {keys::showKeyEnabled, keys::showKeyCombo}) {
+        onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
+    }
+    for (const QString &key : {keys::randomKeyEnabled, keys::randomKeyCombo}) {
+        onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
+    }
     onSetting(keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
     onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });

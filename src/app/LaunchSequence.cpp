@@ -83,6 +83,8 @@ void LaunchSequence::startup()
     f.mainWindow.disableUpdate();
     f.rules.countdown.hideTimerLabel();
 
+    f.hotKeys.updateShowKey();
+    f.hotKeys.updateRandomKey();
     f.vendors.count.updateVendorCount();
     f.vendors.list.loadVendorField();
     f.networks.savedLists.updateQuickAddressesField();
@@ -94,12 +96,14 @@ void LaunchSequence::startup()
     f.vendors.choice.updateVendorField({});
     f.mainWindow.renewHexFormatter();
     f.mainWindow.populateSelectionButton();
+    f.fileMenu.menuNeedsUpdate();
 
     m_platform.addressOwners.finishInterrupted();
     m_wiring.setupNotifications();
     f.networks.locationPermission.requestNetworkPermissions();
     f.networks.externalAddress.updateExternalIPAddress(false);
     m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });
+    f.statusItemAbsence.begin();
 }
 
 void LaunchSequence::checkRules()

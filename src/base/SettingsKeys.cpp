@@ -44,6 +44,7 @@ std::span<const Entry> all()
         {SUFeedURL, String},
         {releasedDevices, Array},
         {givenAddresses, Dictionary},
+        {statusItemAbsenceTold, Boolean},
     };
     return table;
 }

@@ -11,6 +11,7 @@ class AddressOwners;
 class AlertPresenter;
 class DistributedNotificationCenter;
 class HelperLink;
+class HotKeys;
 class HttpClient;
 class InterfaceAddresses;
 class LocationAuthorization;
@@ -60,6 +61,7 @@ struct Platform
     WiFiClient &wifi;
     LocationAuthorization &location;
     SystemSettings &systemSettings;
+    HotKeys &hotKeys;
     HttpClient &http;
     HelperLink &helperLink;
     RandomSource &random;

@@ -14,7 +14,7 @@ Presence::Presence(SettingsStore &settings)
 
 bool Presence::isDockIconHidden() const
 {
-    return m_statusItemShown && m_statusItemAvailable && m_settings.getBool(keys::hideDock);
+    return isStatusItemInSight() && m_settings.getBool(keys::hideDock);
 }
 
 void Presence::updateMenu()
@@ -31,20 +31,25 @@ void Presence::showMenuBarItem(bool shown)
     if (shown != m_statusItemShown) {
         m_statusItemShown = shown;
         Q_EMIT statusItemShownChanged(shown);
-        updateDock();
+        Q_EMIT dockIconHiddenChanged(isDockIconHidden());
+        Q_EMIT reachChanged();
     }
 }
 
 void Presence::updateDock()
 {
     Q_EMIT dockIconHiddenChanged(isDockIconHidden());
+    if (m_windowShown) {
+        Q_EMIT windowBroughtToFront();
+    }
 }
 
 void Presence::setStatusItemAvailable(bool available)
 {
     if (available != m_statusItemAvailable) {
         m_statusItemAvailable = available;
-        updateDock();
+        Q_EMIT dockIconHiddenChanged(isDockIconHidden());
+        Q_EMIT reachChanged();
     }
 }
 
@@ -53,9 +58,40 @@ void Presence::openWindow()
     Q_EMIT windowOpened();
 }
 
+void Presence::offer(Destination destination)
+{
+    m_offered.insert(destination);
+    Q_EMIT destinationOffered();
+}
+
+void Presence::goTo(Destination destination)
+{
+    if (isOffered(destination)) {
+        Q_EMIT destinationChosen(destination);
+    }
+}
+
 void Presence::hideWindow()
 {
     Q_EMIT windowHidden();
+}
+
+void Presence::minimizeWindow()
+{
+    Q_EMIT windowMinimized();
+}
+
+void Presence::hideMinimizedWindow()
+{
+    Q_EMIT minimizedWindowHidden();
+}
+
+void Presence::setWindowShown(bool shown)
+{
+    if (shown != m_windowShown) {
+        m_windowShown = shown;
+        Q_EMIT reachChanged();
+    }
 }
 
 void Presence::closeWindow()

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "presence/Destination.h"
+
 #include <QObject>
+#include <QSet>
 
 namespace quillon {
 
@@ -18,6 +21,10 @@ public:
     explicit Presence(SettingsStore &settings);
 
     bool isStatusItemShown() const { return m_statusItemShown; }
+    /// Switched on, and there is a desktop that shows it.
+    bool isStatusItemInSight() const { return m_statusItemShown && m_statusItemAvailable; }
+    /// Open, be it minimized.
+    bool isWindowShown() const { return m_windowShown; }
     /// The setting `hideDock`, unless there is no status item before the user: then the program
     /// could not be reached any more.
     bool isDockIconHidden() const;
@@ -26,13 +33,24 @@ public:
     void updateMenu();
     /// Off also switches `hideDock` off, so that the program never loses both.
     void showMenuBarItem(bool shown);
-    /// Follows `hideDock`.
+    /// Follows `hideDock`; a window that is open comes to the front.
     void updateDock();
     /// Whether a desktop shows our status item.
     void setStatusItemAvailable(bool available);
 
     void openWindow();
+    /// A window for `destination` exists: menus lead there from now on.
+    void offer(Destination destination);
+    bool isOffered(Destination destination) const { return m_offered.contains(destination); }
+    /// Ignored while it is not offered.
+    void goTo(Destination destination);
     void hideWindow();
+    /// Opens the window no further than into the list of open windows.
+    void minimizeWindow();
+    /// Hides the window unless the user has taken it up meanwhile.
+    void hideMinimizedWindow();
+    /// The window was opened or hidden.
+    void setWindowShown(bool shown);
     /// Closes the window in use.
     void closeWindow();
     /// The window's quit command: hides the program when the Dock icon is hidden, else ends it.
@@ -44,14 +62,23 @@ Q_SIGNALS:
     void statusItemShownChanged(bool shown);
     void dockIconHiddenChanged(bool hidden);
     void windowOpened();
+    void destinationChosen(Destination destination);
+    void destinationOffered();
     void windowHidden();
     void windowClosed();
+    void windowMinimized();
+    void minimizedWindowHidden();
+    void windowBroughtToFront();
+    /// isStatusItemInSight() or isWindowShown() is not what it was.
+    void reachChanged();
     void terminated();
 
 private:
     SettingsStore &m_settings;
+    QSet<Destination> m_offered;
     bool m_statusItemShown = false;
     bool m_statusItemAvailable = false;
+    bool m_windowShown = false;
 };
 
 } // namespace quillon

@@ -203,6 +203,15 @@ void CountdownTimers::setMenuItemShown(const QString &device, bool shown)
     }
 }
 
+std::optional<CountdownTimers::Showing> CountdownTimers::showing(const QString &device) const
+{
+    const auto found = m_timers.constFind(device);
+    if (found == m_timers.constEnd()) {
+        return std::nullopt;
+    }
+    return Showing{found->display, found->pausedRemaining.has_value()};
+}
+
 QVariantMap CountdownTimers::timers() const
 {
     QVariantMap table;

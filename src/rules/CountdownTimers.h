@@ -55,6 +55,15 @@ public:
     /// tick on, holding "display" and, while the menu shows the countdown, "menu", the title of its
     /// item.
     QVariantMap timers() const;
+    /// What menus show of a countdown.
+    struct Showing
+    {
+        std::optional<QString> display; ///< from the first tick on
+        bool isPaused = false;
+    };
+    /// None for a device without countdown.
+    std::optional<Showing> showing(const QString &device) const;
+
     /// The menu has an item that shows the countdown of `device`, or no longer. Its title follows
     /// the ticks; every start takes it away.
     void setMenuItemShown(const QString &device, bool shown);

@@ -3,11 +3,13 @@
 #include "ui/UserInterface.h"
 
 #include "platform/desktop/ColorSchemeSource.h"
+#include "presentation/menu/FileMenuModel.h"
 #include "ui/vendors/VendorChooser.h"
 #include "ui/vendors/VendorDataCard.h"
 #include "ui/window/InterfaceDetails.h"
 
 #include <QApplication>
+#include <QToolButton>
 
 namespace quillon {
 
@@ -24,9 +26,11 @@ Theme &applied(Theme &theme)
 
 UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     : m_theme(schemeOf(QGuiApplication::palette()))
+    , m_fileMenu(models.fileMenu)
     , m_mainWindow(models.mainWindow, models.presence, applied(m_theme), desktop.taskBar)
     , m_statusItem(models.statusMenu, models.presence, desktop.trayHost, m_theme)
 {
+    m_mainWindow.addMenuButton(m_fileMenu.makeButton(m_theme));
     m_mainWindow.addChoice(new VendorChooser(models.vendorField, m_theme));
     // It belongs to the details.
     new StatusRows(models.status, m_theme, m_mainWindow.details());

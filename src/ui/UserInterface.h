@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/menu/FileMenu.h"
 #include "ui/menu/StatusItem.h"
 #include "ui/theme/Theme.h"
 #include "ui/window/MainWindow.h"
@@ -11,6 +12,7 @@ namespace quillon {
 
 class ColorSchemeSource;
 class Compositing;
+class FileMenuModel;
 class VendorFieldModel;
 class VendorPaneModel;
 
@@ -23,6 +25,7 @@ public:
     {
         MainWindowModel &mainWindow;
         StatusMenuModel &statusMenu;
+        FileMenuModel &fileMenu;
         Presence &presence;
         StatusRows::Models status;
         VendorFieldModel &vendorField;
@@ -40,6 +43,7 @@ public:
 
 private:
     Theme m_theme;
+    FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;
     StatusItem m_statusItem;
 };

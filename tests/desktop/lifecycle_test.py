@@ -10,6 +10,8 @@ from gi.repository import Gio, GLib
 from program import (DEADLINE, NAME, PROGRAM, TITLE, ProgramTest, accessibility, start, trayclient, wait_until,
                      xdotool)
 
+import pictures
+
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 APPLICATION = """
 <node><interface name="org.freedesktop.Application">
@@ -61,6 +63,30 @@ class LifecycleTest(ProgramTest):
         self.hide()
         self.item.activate()
         accessibility.window(NAME, TITLE)
+
+    def open_file_menu(self):
+        # A menu of a button is in no tree of accessible objects: what its keys do is what is seen of it.
+        self.press_keys("F10")
+        pictures.wait_for_still_screen()
+
+    def go_up_in_menu(self, count):
+        """From no entry to one counted from the end; each interface has three."""
+        xdotool("key", *(["Up"] * count))
+        xdotool("key", "Return")
+
+    def test_the_file_menu_closes_the_window(self):
+        self.open_file_menu()
+        self.go_up_in_menu(3 * len(self.addresses) + 1)
+        wait_until(lambda: not accessibility.has_window(NAME, TITLE), "the window stayed")
+        self.assertIsNone(self.program.poll())
+
+    def test_an_interface_is_selected_in_the_file_menu_by_keyboard(self):
+        titles = [entry.label for entry in self.item.menu().entries if entry.visible and entry.enabled]
+        devices = [title.split(" · ")[1] for title in titles if " · " in title and not title.startswith(" ")]
+        other = next(name for name in devices if name != self.selector.name)
+        self.open_file_menu()
+        self.go_up_in_menu(3 * (len(devices) - devices.index(other)))
+        self.expect_shown(self.addresses[other])
 
     def test_a_second_start_brings_the_first_to_the_front(self):
         self.hide()

@@ -62,6 +62,16 @@ class StatusItemTest(ProgramTest):
         self.item.click(self.section(self.selected)[0].label)
         self.expect_shown(self.addresses[self.selected])
 
+    def test_the_windows_come_first_and_quit_last(self):
+        entries = [entry for entry in self.item.menu().entries if entry.visible]
+        windows = ["Open Quillon", "Overview", "History", "Rules", "Saved Networks and Addresses", "Preferences",
+                   "About Quillon"]
+        self.assertEqual([entry.label for entry in entries[:7]], windows)
+        self.assertEqual([entry.enabled for entry in entries[:7]], [True] + 6 * [False], "there are no such windows yet")
+        self.assertTrue(entries[7].separator)
+        self.assertEqual(entries[-1].label, "Quit Quillon")
+        self.assertNotIn("Close Window", [entry.label for entry in entries])
+
     def test_quit_ends_the_program(self):
         self.item.click("Quit Quillon")
         self.assertEqual(self.program.wait(DEADLINE), 0)

@@ -6,6 +6,7 @@
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeHelper.h"
+#include "fakes/FakeHotKeys.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
 #include "fakes/FakeLocationAuthorization.h"
@@ -60,6 +61,7 @@ struct FakePlatform
             .wifi = wifi,
             .location = location,
             .systemSettings = systemSettings,
+            .hotKeys = hotKeys,
             .http = http,
             .helperLink = helper,
             .random = random,
@@ -88,6 +90,7 @@ struct FakePlatform
     FakeWiFiClient wifi;
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;
+    FakeHotKeys hotKeys{scheduler};
     FakeHttpClient http{scheduler};
     FakeHelper helper{scheduler, host};
     FakeRandomSource random;

@@ -100,7 +100,7 @@ class SetupTest(unittest.TestCase):
 
     def test_installs_what_only_a_tool_needs_for_that_tool(self):
         self.assertEqual(self.installs("fuzz", installed=("compiler", "icons"), archive=OLD), {"fuzzer"})
-        self.assertIsNone(self.installs("screenshots", installed=("compiler", "icons"), archive=OLD))
+        self.assertIsNone(self.installs("bench", installed=("compiler", "icons"), archive=OLD))
 
 
 if __name__ == "__main__":

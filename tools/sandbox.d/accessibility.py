@@ -25,7 +25,7 @@ ROLES = {
     "entry": (Atspi.Role.TEXT, Atspi.Role.ENTRY),
     "label": (Atspi.Role.LABEL, Atspi.Role.STATIC),
     "list item": (Atspi.Role.LIST_ITEM,),
-    "menu item": (Atspi.Role.MENU_ITEM,),
+    "menu item": (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM),
     "window": WINDOWS,
 }
 

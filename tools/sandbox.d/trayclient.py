@@ -53,6 +53,10 @@ class StatusItem:
         return self._bus.call_sync(owner or self._owner, path, interface, method, arguments, None,
                                    Gio.DBusCallFlags.NONE, TIMEOUT_MS, None).unpack()
 
+    @property
+    def owner(self):
+        return self._owner
+
     def value_of(self, name):
         return self._call(self._path, "org.freedesktop.DBus.Properties", "Get",
                           GLib.Variant("(ss)", (ITEM, name)))[0]

@@ -11,16 +11,20 @@ namespace quillon {
 Features::Features(
     const Platform &platform, Notifier &notifier, RecordStore::OpenFailure openFailure)
     : presence(platform.settings)
+    , statusItemAbsence(platform.settings, platform.scheduler, notifier, presence)
     , helper(platform.helperLink, platform.scheduler, platform.notifications)
     , devices(platform, notifier, helper)
     , history(platform, devices.table, std::move(openFailure))
     , networks(platform, devices.table)
     , rules(platform, notifier, devices, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
+    , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
           devices.addressChanger, helper})
     , statusMenu({platform.settings, devices.table, devices.currentInterface,
-          devices.addressChanger, helper, presence})
+          devices.addressChanger, helper, presence, rules.timers})
+    , fileMenu({platform.settings, devices.table, devices.currentInterface, devices.addressChanger,
+          helper, presence, rules.timers})
     , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
 {
 }

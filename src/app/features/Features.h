@@ -8,7 +8,10 @@
 #include "app/features/RuleFeature.h"
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
+#include "hotkeys/GlobalHotKeys.h"
 #include "presence/Presence.h"
+#include "presence/StatusItemAbsence.h"
+#include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
 #include "presentation/window/MainWindowModel.h"
@@ -23,6 +26,7 @@ struct Features
     Features(const Platform &platform, Notifier &notifier, RecordStore::OpenFailure openFailure);
 
     Presence presence;
+    StatusItemAbsence statusItemAbsence;
     XPCMethods helper;
     DeviceFeature devices;
     HistoryFeature history;
@@ -30,8 +34,10 @@ struct Features
     RuleFeature rules;
     VendorFeature vendors;
 
+    GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;
     StatusMenuModel statusMenu;
+    FileMenuModel fileMenu;
     AdvancedPreferencesModel advancedPreferences;
 };
 

@@ -5,7 +5,7 @@
 #include "platform/desktop/TrayHost.h"
 #include "presence/Presence.h"
 #include "presentation/menu/StatusMenuModel.h"
-#include "ui/menu/StatusMenu.h"
+#include "ui/menu/MenuView.h"
 #include "ui/theme/Theme.h"
 
 #include <QSystemTrayIcon>
@@ -42,7 +42,7 @@ void StatusItem::follow()
         m_menu.reset();
     } else if (m_hostWasThere && m_icon == nullptr) {
         // A host that goes away and comes back finds the same item again.
-        m_menu = std::make_unique<StatusMenu>(m_model);
+        m_menu = std::make_unique<MenuView>(m_model);
         m_icon = std::make_unique<QSystemTrayIcon>(m_theme.icon(u"menu"_s, Theme::Ink::Tray));
         m_icon->setToolTip(u"Quillon"_s);
         m_icon->setContextMenu(m_menu.get());

@@ -11,7 +11,7 @@ class QSystemTrayIcon;
 namespace quillon {
 
 class Presence;
-class StatusMenu;
+class MenuView;
 class StatusMenuModel;
 class Theme;
 class TrayHost;
@@ -43,7 +43,7 @@ private:
     bool m_hostAvailable = false;
     bool m_hostWasThere = false;
     bool m_reportedShown = false;
-    std::unique_ptr<StatusMenu> m_menu;
+    std::unique_ptr<MenuView> m_menu;
     std::unique_ptr<QSystemTrayIcon> m_icon;
 };
 

@@ -31,6 +31,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -106,7 +107,10 @@ MainWindow::MainWindow(
     m_column->setSpacing(Theme::spacing);
     // The window is as large as its texts need, in any language and at any scale.
     m_column->setSizeConstraint(QLayout::SetFixedSize);
-    m_column->addWidget(m_header);
+    m_top = new QHBoxLayout;
+    m_top->setSpacing(Theme::unit);
+    m_top->addWidget(m_header, 1);
+    m_column->addLayout(m_top);
     m_column->addWidget(m_readMe);
     m_column->addWidget(makeAddressCard());
     m_column->addWidget(makeButtons());
@@ -118,6 +122,11 @@ MainWindow::MainWindow(
     connectPresence();
     refresh();
     m_field->setFocus();
+}
+
+void MainWindow::addMenuButton(QWidget *button)
+{
+    m_top->addWidget(button);
 }
 
 void MainWindow::addChoice(QWidget *section)
@@ -183,8 +192,6 @@ void MainWindow::makeShortcuts()
         connect(action, &QAction::triggered, this, reaction);
         addAction(action);
     };
-    add(localized("Close Window"), QKeySequence(Qt::CTRL | Qt::Key_W),
-        [this] { m_presence.closeWindow(); });
     add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
         [this] { m_presence.quit(); });
 
@@ -208,6 +215,17 @@ void MainWindow::connectPresence()
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
     connect(&m_presence, &Presence::windowClosed, this, &QWidget::close);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &MainWindow::followTaskBar);
+    connect(&m_presence, &Presence::windowMinimized, this, &MainWindow::minimize);
+    connect(&m_presence, &Presence::minimizedWindowHidden, this, [this] {
+        if (isMinimized()) {
+            hide();
+        }
+    });
+    connect(&m_presence, &Presence::windowBroughtToFront, this, [this] {
+        if (isVisible() && !isMinimized()) {
+            bringUp();
+        }
+    });
 }
 
 void MainWindow::refresh()
@@ -227,6 +245,7 @@ void MainWindow::refresh()
 
 void MainWindow::bringUp()
 {
+    m_minimizesOncePainted = false;
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -236,6 +255,20 @@ void MainWindow::bringUp()
     if (QGuiApplication::focusWindow() == windowHandle()) {
         QApplication::setActiveWindow(this);
     }
+}
+
+void MainWindow::minimize()
+{
+    if (windowHandle() != nullptr) {
+        showMinimized();
+        return;
+    }
+    // Under X11 a window comes up open for the first time, whatever state is wished for: it is
+    // minimized when it has been painted.
+    m_minimizesOncePainted = true;
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    show();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 void MainWindow::followTaskBar()
@@ -252,11 +285,19 @@ void MainWindow::showEvent(QShowEvent *event)
     followTaskBar();
     fitScreen();
     QWidget::showEvent(event);
+    m_presence.setWindowShown(true);
     if (!testAttribute(Qt::WA_SetWindowIcon)) {
         // Not before the window is on its way to the display: to draw the icon takes longer than
         // most of what is in it.
         QMetaObject::invokeMethod(this, &MainWindow::drawIcon, Qt::QueuedConnection);
     }
+}
+
+void MainWindow::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    // A window that is minimized gets this event, too, and is still open.
+    m_presence.setWindowShown(isVisible());
 }
 
 void MainWindow::drawIcon()
@@ -268,6 +309,9 @@ bool MainWindow::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
         fitScreen();
+    }
+    if (event->type() == QEvent::Paint && std::exchange(m_minimizesOncePainted, false)) {
+        QMetaObject::invokeMethod(this, &QWidget::showMinimized, Qt::QueuedConnection);
     }
     return QWidget::event(event);
 }

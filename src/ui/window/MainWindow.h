@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -33,6 +34,8 @@ public:
     /// it; otherwise closing is the quit command, so that no program runs that nobody can reach.
     void setReachableWhenClosed(bool reachable) { m_reachableWhenClosed = reachable; }
 
+    /// Puts the button that opens the File menu beside the header.
+    void addMenuButton(QWidget *button);
     /// Puts a section under the buttons, where the next address is chosen.
     void addChoice(QWidget *section);
     /// Puts a section under the details, in the order of the calls.
@@ -46,6 +49,7 @@ protected:
     /// The window can be moved by its ground.
     void mousePressEvent(QMouseEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     QWidget *makeAddressCard();
@@ -55,6 +59,7 @@ private:
     void connectPresence();
     void refresh();
     void bringUp();
+    void minimize();
     void followTaskBar();
     void drawIcon();
     void fitScreen();
@@ -65,6 +70,7 @@ private:
     const Theme &m_theme;
     TaskBar &m_taskBar;
     bool m_reachableWhenClosed = false;
+    bool m_minimizesOncePainted = false;
 
     InterfaceHeader *m_header;
     AddressField *m_field;
@@ -76,6 +82,7 @@ private:
     DetailsArea *m_area;
     QLabel *m_version;
     QVBoxLayout *m_column;
+    QHBoxLayout *m_top;
 };
 
 } // namespace quillon

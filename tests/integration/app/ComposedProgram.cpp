@@ -52,6 +52,7 @@ ComposedProgram::ComposedProgram(
         .wifi = radio != nullptr ? *radio : wifi,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .hotKeys = m_hotKeys,
         .http = m_http,
         .helperLink = helperLink,
         .random = m_random,

@@ -4,6 +4,7 @@
 
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
+#include "fakes/FakeHotKeys.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -83,6 +84,7 @@ private:
     LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
+    FakeHotKeys m_hotKeys{m_scheduler};
     NetworkHttpClient m_http;
     GetrandomSource m_random;
     DBusHelperLink m_helperLink{m_random};

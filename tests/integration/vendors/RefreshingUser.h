@@ -115,6 +115,7 @@ private:
             .wifi = fakes.wifi,
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,
+            .hotKeys = fakes.hotKeys,
             .http = http,
             .helperLink = fakes.helperLink,
             .random = fakes.random,

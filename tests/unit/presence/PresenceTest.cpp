@@ -85,6 +85,21 @@ TEST_F(PresenceTest, TheDockIconFollowsTheStatusItem)
     EXPECT_EQ(told, (QList<bool>{false, true}));
 }
 
+TEST_F(PresenceTest, ADockIconThatComesOrGoesBringsAnOpenWindowToTheFront)
+{
+    int raised = 0;
+    QObject::connect(&presence, &Presence::windowBroughtToFront, [&] { ++raised; });
+    presence.updateDock();
+    EXPECT_EQ(raised, 0) << "there is no window";
+    presence.setWindowShown(true);
+    presence.updateDock();
+    EXPECT_EQ(raised, 1);
+    presence.showMenuBarItem(true);
+    presence.setStatusItemAvailable(true);
+    presence.setStatusItemAvailable(false);
+    EXPECT_EQ(raised, 1) << "a panel that restarts is no reason to come into the user's way";
+}
+
 TEST_F(PresenceTest, QuitOfTheWindowEndsTheProgramWhileItHasADockIcon)
 {
     presence.quit();

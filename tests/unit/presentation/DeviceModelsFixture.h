@@ -9,6 +9,7 @@
 #include "fakes/QtPrinting.h"
 #include "helperlink/XPCMethods.h"
 #include "presence/Presence.h"
+#include "rules/CountdownTimers.h"
 
 #include <gmock/gmock.h>
 
@@ -35,6 +36,14 @@ protected:
         helper.updateHelperInstalledStatus();
         scheduler.runPending();
     }
+    /// A rule that gives `device` a new address every two minutes, and its countdown.
+    void startCountdown(const QString &device)
+    {
+        devices.update(device, [](DeviceRecord &record) {
+            record.rule = QVariantMap{{QStringLiteral("timerMinutes"), 2}};
+        });
+        timers.startCountDownTimer(device);
+    }
     QString addressOf(const QString &device) const { return host.addressOf(device).toUpper(); }
 
     const QString wired = QStringLiteral("enp1s0");
@@ -51,6 +60,7 @@ protected:
     CurrentInterface &current = feature.currentInterface;
     AddressChanger &changer = feature.addressChanger;
     Presence presence{settings};
+    CountdownTimers timers{{scheduler, notifications, notifier, devices, changer}};
 };
 
 } // namespace quillon::test

@@ -3,7 +3,7 @@
 #include "fakes/FakeCompositing.h"
 #include "platform/desktop/ColorSchemeSource.h"
 #include "ui/UserInterface.h"
-#include "ui/menu/StatusMenu.h"
+#include "ui/menu/MenuView.h"
 #include "ui/vendors/VendorTableView.h"
 #include "ui/widgets/MessageAlerts.h"
 #include "unit/app/ProgramOnFakes.h"
@@ -79,11 +79,11 @@ protected:
         machine.settings.set(keys::vendorIDUpdatedDate, written);
         create();
         offerVendor();
-        ui.emplace(
-            UserInterface::Models{features().mainWindow, features().statusMenu, features().presence,
-                {features().networks.externalAddressShown, features().rules.status,
-                    features().rules.countdown},
-                features().vendors.field, features().vendors.pane},
+        ui.emplace(UserInterface::Models{features().mainWindow, features().statusMenu,
+                       features().fileMenu, features().presence,
+                       {features().networks.externalAddressShown, features().rules.status,
+                           features().rules.countdown},
+                       features().vendors.field, features().vendors.pane},
             UserInterface::Desktop{trayHost, taskBar, colorScheme, compositing});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
@@ -255,7 +255,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheMenu)
     QString expected = line.endsWith(u'…') ? line : QString(line + u" \u00B7 zzz0"_s);
     QStringList shown;
     for (QWidget *widget : QApplication::allWidgets()) {
-        if (auto *menu = qobject_cast<StatusMenu *>(widget)) {
+        if (auto *menu = qobject_cast<MenuView *>(widget)) {
             menu->grab();
             for (const QAction *action : menu->actions()) {
                 shown << action->text();

@@ -27,6 +27,7 @@ protected:
         window.prepareWindow();
         window.setHelperInstalled(true);
         menu.menuWillOpen();
+        menu.menuDidClose();
     }
 
     void select(const QString &device)
@@ -55,7 +56,7 @@ protected:
     }
 
     MainWindowModel window{{settings, scheduler, devices, current, changer, helper}};
-    StatusMenuModel menu{{settings, devices, current, changer, helper, presence}};
+    StatusMenuModel menu{{settings, devices, current, changer, helper, presence, timers}};
 };
 
 /// A task bar that remembers.

@@ -316,11 +316,32 @@ TEST_F(MainWindowTest, TheHelperIsExplainedOnDemand)
 TEST_F(MainWindowTest, ClosedWithTheStatusItemInSightItOnlyHides)
 {
     view->setReachableWhenClosed(true);
-    trigger(Qt::CTRL | Qt::Key_W);
+    presence.closeWindow();
     EXPECT_FALSE(view->isVisible());
     EXPECT_EQ(terminations, 0);
     presence.openWindow();
     EXPECT_TRUE(view->isVisible());
+}
+
+TEST_F(MainWindowTest, SaysWhetherItIsOpen)
+{
+    EXPECT_TRUE(presence.isWindowShown());
+    presence.hideWindow();
+    EXPECT_FALSE(presence.isWindowShown());
+    presence.minimizeWindow();
+    EXPECT_TRUE(view->isMinimized());
+    EXPECT_TRUE(presence.isWindowShown()) << "in the list of open windows it is in reach";
+    presence.openWindow();
+    EXPECT_FALSE(view->isMinimized());
+}
+
+TEST_F(MainWindowTest, OnlyAMinimizedWindowGoesWhenTheStatusItemIsBack)
+{
+    presence.hideMinimizedWindow();
+    EXPECT_TRUE(view->isVisible());
+    presence.minimizeWindow();
+    presence.hideMinimizedWindow();
+    EXPECT_FALSE(view->isVisible());
 }
 
 TEST_F(MainWindowTest, ClosedWithNothingElseInSightItEndsTheProgram)

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/menu/StatusMenu.h"
+#include "ui/menu/MenuView.h"
 
 #include "ui/widgets/PlainText.h"
 
@@ -40,53 +40,34 @@ QString exportedMenuText(const QString &title)
     return text;
 }
 
-QStringList menuEntryKeys(const std::vector<MenuEntry> &entries)
-{
-    QStringList keys;
-    QString section = u"top"_s;
-    int place = 0;
-    for (const MenuEntry &entry : entries) {
-        if (entry.action == MenuEntry::Action::ChangeInterface) {
-            section = u"interface "_s + entry.title;
-            place = 0;
-        } else if (entry.action == MenuEntry::Action::Quit) {
-            section = u"quit"_s;
-            place = 0;
-        }
-        keys.append(section + u'/' + QString::number(place++));
-    }
-    return keys;
-}
-
-StatusMenu::StatusMenu(StatusMenuModel &model)
+MenuView::MenuView(MenuModel &model)
     : m_model(model)
 {
+    setToolTipsVisible(true);
     connect(this, &QMenu::aboutToShow, this, [this] { m_model.menuWillOpen(); });
-    connect(&m_model, &StatusMenuModel::changed, this, &StatusMenu::refresh);
+    connect(this, &QMenu::aboutToHide, this, [this] { m_model.menuDidClose(); });
+    connect(&m_model, &MenuModel::changed, this, &MenuView::refresh);
+    connect(&m_model, &MenuModel::retitled, this, &MenuView::retitle);
     refresh();
 }
 
-void StatusMenu::refresh()
+void MenuView::setShortcut(const QString &entryKey, const QKeySequence &keys)
+{
+    m_shortcuts[entryKey] = keys;
+    if (QAction *action = m_actions.value(entryKey)) {
+        action->setShortcut(keys);
+    }
+}
+
+void MenuView::refresh()
 {
     const auto &entries = m_model.entries();
-    const QStringList keys = menuEntryKeys(entries);
-    const QSet<QString> wanted(keys.begin(), keys.end());
-    for (auto entry = m_actions.begin(); entry != m_actions.end();) {
-        if (wanted.contains(entry.key())) {
-            ++entry;
-        } else {
-            removeAction(entry.value());
-            dropSubmenu(*entry.value());
-            entry.value()->deleteLater();
-            entry = m_actions.erase(entry);
-        }
-    }
+    dropOthers(entries);
     bool afterSeparator = true;
-    for (qsizetype index = 0; index < keys.size(); ++index) {
-        const MenuEntry &entry = entries[static_cast<size_t>(index)];
-        QAction *action = takeOrMake(keys.at(index));
-        const auto present = actions();
-        QAction *there = index < present.size() ? present.at(index) : nullptr;
+    for (size_t index = 0; index < entries.size(); ++index) {
+        const MenuEntry &entry = entries[index];
+        QAction *action = takeOrMake(entry.key);
+        QAction *there = actions().value(static_cast<qsizetype>(index));
         show(*action, entry, afterSeparator);
         if (there != action) {
             insertAction(there, action);
@@ -95,34 +76,59 @@ void StatusMenu::refresh()
     }
 }
 
-QAction *StatusMenu::takeOrMake(const QString &key)
+void MenuView::dropOthers(const std::vector<MenuEntry> &entries)
+{
+    QSet<QString> wanted;
+    for (const MenuEntry &entry : entries) {
+        wanted.insert(entry.key);
+    }
+    for (auto action = m_actions.begin(); action != m_actions.end();) {
+        if (wanted.contains(action.key())) {
+            ++action;
+        } else {
+            removeAction(action.value());
+            dropSubmenu(*action.value());
+            action.value()->deleteLater();
+            action = m_actions.erase(action);
+        }
+    }
+}
+
+void MenuView::retitle(int index)
+{
+    actions().at(index)->setText(textOf(m_model.entries()[static_cast<size_t>(index)]));
+}
+
+QAction *MenuView::takeOrMake(const QString &key)
 {
     QAction *&action = m_actions[key];
     if (action == nullptr) {
         action = new QAction(this);
+        action->setShortcut(m_shortcuts.value(key));
         connect(action, &QAction::triggered, this, [this, made = action] { activate(*made); });
     }
     return action;
 }
 
-QString StatusMenu::textOf(const MenuEntry &entry)
+QString MenuView::textOf(const MenuEntry &entry)
 {
     const bool isExported = platformMenu() != nullptr;
     return isExported ? exportedMenuText(entry.title) : menuText(entry.title);
 }
 
-void StatusMenu::show(QAction &action, const MenuEntry &entry, bool afterSeparator)
+void MenuView::show(QAction &action, const MenuEntry &entry, bool afterSeparator)
 {
     action.setSeparator(entry.isSeparator());
     action.setVisible(!entry.isSeparator() || !afterSeparator);
     action.setText(textOf(entry));
+    action.setToolTip(plainToolTip(entry.hint));
     action.setEnabled(entry.isEnabled());
     action.setCheckable(entry.action == MenuEntry::Action::ChangeInterface);
     action.setChecked(entry.checked);
     showSubmenu(action, entry.submenu);
 }
 
-void StatusMenu::showSubmenu(QAction &action, const std::vector<MenuEntry> &entries)
+void MenuView::showSubmenu(QAction &action, const std::vector<MenuEntry> &entries)
 {
     QMenu *submenu = action.menu();
     if (entries.empty()) {
@@ -154,7 +160,7 @@ void StatusMenu::showSubmenu(QAction &action, const std::vector<MenuEntry> &entr
     }
 }
 
-void StatusMenu::activate(const QAction &action)
+void MenuView::activate(const QAction &action)
 {
     const int index = static_cast<int>(actions().indexOf(&action));
     m_model.activate({index});
@@ -162,7 +168,7 @@ void StatusMenu::activate(const QAction &action)
     refresh();
 }
 
-void StatusMenu::activate(const QAction &parent, const QAction &action)
+void MenuView::activate(const QAction &parent, const QAction &action)
 {
     const int index = static_cast<int>(actions().indexOf(&parent));
     const int place =

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hotkeys/GlobalHotKeys.h"
+
+#include "base/Localized.h"
+#include "base/Notifier.h"
+#include "base/SettingsKeys.h"
+#include "devices/AddressChanger.h"
+#include "platform/SettingsStore.h"
+#include "presence/Presence.h"
+
+#include <QPointer>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+GlobalHotKeys::State stateAfter(HotKeyResult result)
+{
+    switch (result) {
+    case HotKeyResult::Bound:
+        return GlobalHotKeys::State::Bound;
+    case HotKeyResult::Taken:
+        return GlobalHotKeys::State::Taken;
+    case HotKeyResult::Refused:
+        return GlobalHotKeys::State::Refused;
+    case HotKeyResult::NoSuchKey:
+        return GlobalHotKeys::State::NoSuchKey;
+    case HotKeyResult::NotOffered:
+        break;
+    }
+    return GlobalHotKeys::State::NotOffered;
+}
+
+} // namespace
+
+GlobalHotKeys::GlobalHotKeys(const Collaborators &collaborators)
+    : m_deps(collaborators)
+    , m_show{keys::showKeyEnabled, keys::showKeyCombo}
+    , m_random{keys::randomKeyEnabled, keys::randomKeyCombo}
+{
+}
+
+void GlobalHotKeys::updateShowKey()
+{
+    update(
+        m_show, localized("Show window"), [&presence = m_deps.presence] { presence.openWindow(); });
+}
+
+void GlobalHotKeys::updateRandomKey()
+{
+    update(m_random, localized("Randomize address"),
+        [&changer = m_deps.addressChanger] { changer.randomizeAddress(); });
+}
+
+void GlobalHotKeys::update(
+    Key &key, const QString &description, const std::function<void()> &pressed)
+{
+    const QString text = m_deps.settings.getString(key.combination);
+    const auto combination = KeyCombination::fromText(text);
+    if (!m_deps.settings.getBool(key.enabled) || text.isEmpty()) {
+        m_deps.hotKeys.release(key.combination);
+        setState(key, State::Off);
+    } else if (!combination) {
+        m_deps.hotKeys.release(key.combination);
+        setState(key, State::Unusable);
+        tell(key, description, text);
+    } else {
+        setState(key, State::Pending);
+        m_deps.hotKeys.bind({key.combination, description, *combination, pressed},
+            [self = QPointer(this), &key, description, text](HotKeyResult result) {
+                if (self) {
+                    self->setState(key, stateAfter(result));
+                    self->tell(key, description, text);
+                }
+            });
+    }
+}
+
+void GlobalHotKeys::setState(Key &key, State state)
+{
+    if (key.state != state) {
+        key.state = state;
+        Q_EMIT stateChanged();
+    }
+}
+
+void GlobalHotKeys::tell(const Key &key, const QString &description, const QString &combination)
+{
+    const QString problem = problemOf(key.state);
+    if (!problem.isEmpty()) {
+        m_deps.notifier.sendNotificationWithBody(
+            filled(localized("Shortcut for \u201C%@\u201D not set"), {description}),
+            filled(u"%@: %@"_s, {combination, problem}));
+    }
+}
+
+QString GlobalHotKeys::problemOf(State state)
+{
+    switch (state) {
+    case State::Off:
+    case State::Pending:
+    case State::Bound:
+        break;
+    case State::Unusable:
+        return localized("A shortcut needs Ctrl, Alt or Meta and one more key.");
+    case State::Taken:
+        return localized("Another program uses this shortcut.");
+    case State::Refused:
+        return localized("The desktop refused this shortcut.");
+    case State::NoSuchKey:
+        return localized("This keyboard has no such key.");
+    case State::NotOffered:
+        return localized("This desktop does not let programs set global shortcuts.");
+    }
+    return {};
+}
+
+} // namespace quillon
