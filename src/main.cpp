@@ -52,9 +52,20 @@ int bringOtherToTheFront(QApplication &application, SessionInstance &instance)
 
 UserInterface::Models modelsOf(Features &features)
 {
-    return {features.mainWindow, features.statusMenu, features.fileMenu, features.presence,
-        {features.networks.externalAddressShown, features.rules.status, features.rules.countdown},
-        features.vendors.field, features.vendors.pane};
+    NetworkFeature &networks = features.networks;
+    RuleFeature &rules = features.rules;
+    VendorFeature &vendors = features.vendors;
+    return {.window = {features.mainWindow, features.readMe, features.presence},
+        .statusMenu = features.statusMenu,
+        .fileMenu = features.fileMenu,
+        .savedLists = networks.savedLists,
+        .network = networks.info,
+        .externalAddress = networks.externalAddressShown,
+        .rules = {rules.status, rules.list},
+        .countdown = rules.countdown,
+        .vendorField = vendors.field,
+        .vendorInfo = vendors.info,
+        .vendorPane = vendors.pane};
 }
 
 int guard(const QString &device, int &argc, char **argv)

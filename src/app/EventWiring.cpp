@@ -62,7 +62,8 @@ void EventWiring::connectHelper()
     Features &f = m_features;
     on(f.helper, &XPCMethods::helperStatusRead, [&f](bool installed) {
         f.mainWindow.setHelperInstalled(installed);
-        f.mainWindow.readMeReset();
+        f.readMe.setHelperInstalled(installed);
+        f.readMe.readMeReset();
         f.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices, RuleChange::None);
         f.mainWindow.resetInfoButtons();
         f.devices.currentInterface.updateHexValues();
@@ -76,7 +77,7 @@ void EventWiring::connectHelper()
         }
     });
     on(f.helper, &XPCMethods::helperInstalledFromMainWindow, [&f] {
-        f.mainWindow.hideReadMe();
+        f.readMe.hide();
         f.mainWindow.resetInfoButtons();
         f.devices.currentInterface.updateHexValues();
         f.devices.table.updateNetWorkInterfaces();
@@ -84,9 +85,8 @@ void EventWiring::connectHelper()
         f.mainWindow.populateSelectionButton();
         f.presence.openWindow();
     });
-    on(f.helper, &XPCMethods::helperInstallationStarted,
-        [&f] { f.mainWindow.setInstalling(true); });
-    on(f.helper, &XPCMethods::helperInstallationEnded, [&f] { f.mainWindow.setInstalling(false); });
+    on(f.helper, &XPCMethods::helperInstallationStarted, [&f] { f.readMe.setInstalling(true); });
+    on(f.helper, &XPCMethods::helperInstallationEnded, [&f] { f.readMe.setInstalling(false); });
 }
 
 void EventWiring::connectSelection()
@@ -244,7 +244,7 @@ void EventWiring::connectVendorField()
     on(vendors.choice, &VendorChoice::vendorSelected,
         [&field](const QString &entry) { field.selectEntry(entry); });
     on(vendors.lookup, &VendorLookup::vendorButtonShown,
-        [&field](bool shown) { field.showVendorButton(shown); });
+        [&vendors](bool shown) { vendors.info.showVendorButton(shown); });
 }
 
 void EventWiring::connectProgram()

@@ -187,9 +187,9 @@ ChangeOutcome AddressChanger::finish(
 {
     const InterfaceInfo now = readBack(request.device);
     // An answer can be lost on its way: what counts is the address that the device has.
-    const ChangeOutcome outcome{.isInPlace = now.readFailed
-                                                 ? result.isChanged
-                                                 : isSameAddress(now.macAddress, request.address),
+    ChangeOutcome outcome{.isInPlace = now.readFailed
+                                           ? result.isChanged
+                                           : isSameAddress(now.macAddress, request.address),
         .address = now.macAddress,
         .requested = request.address,
         .isReported = request.reply != nullptr,
@@ -213,7 +213,9 @@ ChangeOutcome AddressChanger::finish(
     if (request.isCurrent) {
         m_deps.currentInterface.updateCurrentInterfaceDict(request.device);
     }
-    if (m_messages.tell({request.interface, request.oldAddress}, result, outcome)) {
+    const auto failure = m_messages.tell({request.interface, request.oldAddress}, result, outcome);
+    outcome.failure = failure.value_or(QString());
+    if (failure && failure->isEmpty()) {
         Q_EMIT addressChanged(request.device, request.address);
         m_deps.notifications.post(
             notifications::addressUpdated, this, {{record::device, request.device}});

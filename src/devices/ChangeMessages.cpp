@@ -14,46 +14,43 @@ ChangeMessages::ChangeMessages(Notifier &notifier)
 {
 }
 
-bool ChangeMessages::tell(
+std::optional<QString> ChangeMessages::tell(
     const Subject &subject, const OwnerParticipation::Result &result, const ChangeOutcome &outcome)
 {
     using Outcome = AddressOwner::Outcome;
     const QString &readBack = outcome.address;
     const auto settlement = result.settlement.value_or(Outcome::Settled);
     if (result.isRefused) {
-        tellNotChanged(
+        return tellNotChanged(
             subject.interface, filled(localized("%@ did not let go of it"), {result.owner}));
-        return false;
     }
     if (!result.isChanged) {
         const bool isSession = outcome.wasAsked && settlement.testFlag(Outcome::Untold);
-        tellNotChanged(subject.interface,
+        return tellNotChanged(subject.interface,
             isSession ? localized("Only the session in front of this computer may change it")
                       : localized("Please make sure you have installed the HelperTool"));
-        return false;
     }
     if (!result.owner.isEmpty() && !isSameAddress(readBack, outcome.requested)) {
         if (settlement.testFlag(Outcome::NotBack)) {
             // On no network it may have one for scanning, which says nothing about what it comes
             // back with.
             tellOfOwner(subject.interface, result);
-            return false;
+            return std::nullopt;
         }
-        tellNotChanged(subject.interface,
+        return tellNotChanged(subject.interface,
             filled(localized("%@ gives this network an Address of its own. Look for it in the "
                              "network's settings"),
                 {result.owner}));
-        return false;
     }
     if (readBack == subject.oldAddress) {
-        tellNotChanged(subject.interface, localized("Please make sure your Device is enabled"));
-        return false;
+        return tellNotChanged(
+            subject.interface, localized("Please make sure your Device is enabled"));
     }
     m_notifier.sendNotificationWithBody(
         filled(localized("%@ Address Changed"), {subject.interface}),
         filled(localized("Your new MAC Address is: %@"), {readBack}));
     tellOfOwner(subject.interface, result);
-    return true;
+    return QString();
 }
 
 void ChangeMessages::tellOfOwner(const QString &interface, const OwnerParticipation::Result &result)
@@ -91,10 +88,11 @@ void ChangeMessages::tellUndone(const QString &interface)
                   "when you join a network"));
 }
 
-void ChangeMessages::tellNotChanged(const QString &interface, const QString &reason)
+QString ChangeMessages::tellNotChanged(const QString &interface, const QString &reason)
 {
     m_notifier.sendNotificationWithBody(
         filled(localized("%@ Address was not Changed"), {interface}), reason);
+    return reason;
 }
 
 } // namespace quillon

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace quillon {
 
 class Notifier;
@@ -22,8 +24,9 @@ public:
         QString interface;  ///< for the user, "Wi-Fi"
         QString oldAddress; ///< before the change
     };
-    /// True when the user was told of a successful change.
-    bool tell(const Subject &subject, const OwnerParticipation::Result &result,
+    /// Why the address was not changed, "" when it was and the user was told so; none when neither
+    /// can be said.
+    std::optional<QString> tell(const Subject &subject, const OwnerParticipation::Result &result,
         const ChangeOutcome &outcome);
     /// Nothing was asked of anybody: the interface has that address.
     void tellIdentical(const QString &interface);
@@ -32,7 +35,8 @@ public:
 
 private:
     void tellOfOwner(const QString &interface, const OwnerParticipation::Result &result);
-    void tellNotChanged(const QString &interface, const QString &reason);
+    /// Returns the reason.
+    QString tellNotChanged(const QString &interface, const QString &reason);
 
     Notifier &m_notifier;
 };

@@ -21,6 +21,9 @@ struct ChangeOutcome
     bool isConfirmed = false;
     /// The helper could be asked; else nothing has touched the device.
     bool wasAsked = true;
+    /// Why the device does not have the address, as the user was told; "" when it has, or when
+    /// nothing is known.
+    QString failure = {};
 };
 
 } // namespace quillon

@@ -2,13 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/UserInterface.h"
 
+#include "base/Localized.h"
 #include "platform/desktop/ColorSchemeSource.h"
 #include "presentation/menu/FileMenuModel.h"
+#include "presentation/networks/SavedListsModel.h"
+#include "presentation/rules/CountdownModel.h"
+#include "ui/networks/ExternalAddressRow.h"
+#include "ui/networks/NetworkRow.h"
+#include "ui/networks/SavedAddressesRow.h"
+#include "ui/rules/CountdownRow.h"
 #include "ui/vendors/VendorChooser.h"
 #include "ui/vendors/VendorDataCard.h"
-#include "ui/window/InterfaceDetails.h"
+#include "ui/vendors/VendorRow.h"
+#include "ui/window/AddressCard.h"
+#include "ui/window/FactsCard.h"
+#include "ui/window/HardwareRow.h"
 
 #include <QApplication>
+#include <QKeySequence>
 #include <QToolButton>
 
 namespace quillon {
@@ -27,13 +38,13 @@ Theme &applied(Theme &theme)
 UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     : m_theme(schemeOf(QGuiApplication::palette()))
     , m_fileMenu(models.fileMenu)
-    , m_mainWindow(models.mainWindow, models.presence, applied(m_theme), desktop.taskBar)
-    , m_statusItem(models.statusMenu, models.presence, desktop.trayHost, m_theme)
+    , m_mainWindow(models.window, applied(m_theme), desktop.taskBar)
+    , m_statusItem(models.statusMenu, models.window.presence, desktop.trayHost, m_theme)
 {
     m_mainWindow.addMenuButton(m_fileMenu.makeButton(m_theme));
-    m_mainWindow.addChoice(new VendorChooser(models.vendorField, m_theme));
-    // It belongs to the details.
-    new StatusRows(models.status, m_theme, m_mainWindow.details());
+    m_mainWindow.addressCard().addChoice(new VendorChooser(models.vendorField, m_theme));
+    makeFacts(models);
+    makeShortcuts(models);
     m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -41,6 +52,37 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
         [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
     m_theme.setCompositing(desktop.compositing);
     desktop.colorScheme.watch([this](ColorScheme scheme) { m_theme.setScheme(scheme); });
+}
+
+void UserInterface::makeFacts(const Models &models)
+{
+    FactsCard &facts = m_mainWindow.facts();
+    facts.add(new HardwareRow(models.window.window, m_theme));
+    auto *saved = new SavedAddressesRow(models.savedLists, models.window.window, m_theme);
+    QObject::connect(saved, &SavedAddressesRow::filled, &m_mainWindow, &MainWindow::focusApply);
+    facts.add(saved);
+    facts.add(new VendorRow(models.vendorInfo, m_theme));
+    facts.add(new NetworkRow(models.network, m_theme));
+    facts.add(new RulesRow(models.rules, m_theme));
+    facts.add(new CountdownRow(models.countdown, m_theme));
+    facts.add(new ExternalAddressRow(models.externalAddress, m_theme));
+}
+
+void UserInterface::makeShortcuts(const Models &models)
+{
+    SavedListsModel &saved = models.savedLists;
+    CountdownModel &countdown = models.countdown;
+    m_mainWindow.addShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), localized("Favorite"),
+        [&saved] { saved.chooseFavoriteButton(); });
+    m_mainWindow.addShortcut(
+        QKeySequence(Qt::CTRL | Qt::Key_T), localized("Pause or Resume Timer"), [&countdown] {
+            const auto &state = countdown.state();
+            if (state.buttonsVisible && state.pauseEnabled) {
+                countdown.pauseCountdownTimer();
+            } else if (state.buttonsVisible && state.resumeEnabled) {
+                countdown.resumeCountdownTimer();
+            }
+        });
 }
 
 } // namespace quillon

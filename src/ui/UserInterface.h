@@ -4,16 +4,21 @@
 
 #include "ui/menu/FileMenu.h"
 #include "ui/menu/StatusItem.h"
+#include "ui/rules/RulesRow.h"
 #include "ui/theme/Theme.h"
 #include "ui/window/MainWindow.h"
-#include "ui/window/StatusRows.h"
 
 namespace quillon {
 
 class ColorSchemeSource;
 class Compositing;
+class CountdownModel;
+class ExternalAddressModel;
 class FileMenuModel;
+class NetworkInfoModel;
+class SavedListsModel;
 class VendorFieldModel;
+class VendorInfoModel;
 class VendorPaneModel;
 
 /// Everything that is seen of the program, put together: the look, the main window, the status
@@ -23,12 +28,16 @@ class UserInterface
 public:
     struct Models
     {
-        MainWindowModel &mainWindow;
+        MainWindow::Models window;
         StatusMenuModel &statusMenu;
         FileMenuModel &fileMenu;
-        Presence &presence;
-        StatusRows::Models status;
+        SavedListsModel &savedLists;
+        NetworkInfoModel &network;
+        ExternalAddressModel &externalAddress;
+        RulesRow::Models rules;
+        CountdownModel &countdown;
         VendorFieldModel &vendorField;
+        VendorInfoModel &vendorInfo;
         VendorPaneModel &vendorPane;
     };
     struct Desktop
@@ -42,6 +51,9 @@ public:
     UserInterface(const Models &models, const Desktop &desktop);
 
 private:
+    void makeFacts(const Models &models);
+    void makeShortcuts(const Models &models);
+
     Theme m_theme;
     FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;

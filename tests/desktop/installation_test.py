@@ -29,7 +29,7 @@ class InstallationTest(ProgramTest):
         return [entry["action"] for entry in entries if "action" in entry]
 
     def test_the_helper_is_installed_from_the_window(self):
-        self.window.find("label", "Helper hint")
+        self.window.find("button", "Helper hint")
         self.assertFalse(self.field.enabled)
         self.assertFalse(self.button("Randomize address").enabled)
         self.assertFalse(self.button("Apply address").enabled)
@@ -43,7 +43,7 @@ class InstallationTest(ProgramTest):
         self.answer("grant")
         self.button("Install helper").press()
         wait_until(lambda: self.field.enabled, "the field is still disabled")
-        wait_until(lambda: not self.window.has("label", "Helper hint"), "the hint is still there")
+        wait_until(lambda: not self.window.has("button", "Helper hint"), "the hint is still there")
         # Before the first installation polkit knows no action of ours.
         self.assertEqual(self.asked(), ["org.freedesktop.policykit.exec"] * 2)
 

@@ -11,6 +11,7 @@ from program import DEADLINE, NAME, TITLE, ProgramTest, accessibility, dunst, ke
 import panel
 
 FOLDER = os.path.expanduser("~/.local/share/Quillon")
+SETTINGS = os.path.expanduser("~/.config/Quillon")
 RECORDS = os.path.join(FOLDER, "Quillon.sqlite")
 WRITE_RULE = os.path.join(os.environ["QUILLON_BUILD"], "tests", "integration", "app", "write-rule")
 FACTORY, CURRENT = "    Hardware Address · ", "    Current Address · "
@@ -93,9 +94,12 @@ class TimerTest(PanelTest):
         shutil.rmtree(FOLDER, ignore_errors=True)
         os.makedirs(FOLDER)
         self.addCleanup(shutil.rmtree, FOLDER)
+        # The first interface is selected, not the one of the test before.
+        shutil.rmtree(SETTINGS, ignore_errors=True)
         subprocess.run([WRITE_RULE, RECORDS, "every-minute", "enp1s0"], check=True, stdin=subprocess.DEVNULL,
                        timeout=DEADLINE)
         super().setUp()
+        self.assertEqual(self.selector.name, "enp1s0")
 
     def test_a_timer_ticks_in_the_open_menu_and_is_paused_and_resumed(self):
         self.open_menu().close()

@@ -64,6 +64,25 @@ class ProgramTest(unittest.TestCase):
     def button(self, name):
         return self.window.find("button", name)
 
+    def row(self, label):
+        """What says its label and its value in one, "Rules, No rules"."""
+        return wait_until(lambda: next((control for control in self.window.everything_below()
+                                        if control.showing and control.name.startswith(label + ", ")), None),
+                          lambda: f"no row “{label}”; there is {self.window.overview()}")
+
+    def value_of(self, label):
+        return self.row(label).name.partition(", ")[2]
+
+    def popover(self, label):
+        """That of a row, which has it opened if it is not."""
+        row = self.row(label)
+        if not row.children:
+            row.press()
+        return wait_until(lambda: next(iter(row.children), None), f"“{label}” opened nothing")
+
+    def has_popover(self, label):
+        return bool(self.row(label).children)
+
     @property
     def selector(self):
         return self.window.labelled("Interface", "combo box")

@@ -23,7 +23,7 @@ class ExternalAddressTest(ProgramTest):
 
     @property
     def shown(self):
-        return self.window.labelled("External address", "label").name
+        return self.value_of("External address")
 
     def refresh_to(self, address):
         self.web.serve({EXTERNAL_ADDRESS: {"body": '{"ip": "%s"}' % address}})
@@ -75,7 +75,7 @@ class CountdownTest(ProgramTest):
     def test_a_countdown_is_shown_paused_and_resumed(self):
         wait_until(lambda: self.countdown, "no countdown came")
         self.assertRegex(self.countdown, r"in 00:0[01]:\d\d$")
-        self.assertEqual(self.window.labelled("Rules", "label").name, "Active rule")
+        self.assertEqual(self.value_of("Rules"), "Active rule")
         self.wait_for_another(self.countdown)
         self.assertFalse(self.button("Resume").enabled)
 

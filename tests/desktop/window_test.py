@@ -16,22 +16,29 @@ class MainWindowTest(ProgramTest):
         super().setUp()
         self.selected = self.selector.name
         self.assertIn(self.selected, self.addresses)
-        self.factory = self.window.labelled("Factory address", "label").name
+        self.factory = self.value_of("Hardware address")
+
+    def restore_button(self):
+        """In its popover, which is then open."""
+        return self.popover("Hardware address").find("button", "Restore hardware address")
 
     def test_randomize_and_restore(self):
         self.button("Randomize address").press()
         new = self.expect_only_changed(self.selected)
         self.expect_shown(new)
         self.assertIn(int(new[:2], 16) & 3, (2,), "locally administered and unicast")
-        wait_until(lambda: self.window.labelled("Current address", "label").name == new,
-                   "the details kept the old address")
+        self.window.find("label", "Changed: this is the address in use now.")
+        self.assertEqual(self.value_of("Hardware address"), self.factory)
 
-        self.button("Restore factory address").press()
+        self.restore_button().press()
         wait_until(lambda: kernel_addresses()[self.selected] == self.factory,
                    "the kernel did not get the factory address back")
         self.expect_shown(self.factory)
-        wait_until(lambda: not self.button("Restore factory address").enabled,
-                   "there is nothing to restore any more")
+        wait_until(lambda: not self.has_popover("Hardware address"), "the popover stays open")
+        wait_until(lambda: not self.restore_button().enabled, "there is nothing to restore any more")
+        xdotool("key", "Escape")
+        wait_until(lambda: not self.has_popover("Hardware address"), "Escape does not close it")
+        self.assertTrue(self.row("Hardware address").focused, "its button has the keyboard again")
 
     def test_an_address_is_typed_and_applied(self):
         self.assertFalse(self.button("Apply address").enabled, "the address in use cannot be applied")
@@ -60,7 +67,7 @@ class MainWindowTest(ProgramTest):
         self.expect_shown(self.addresses[other])
         self.button("Randomize address").press()
         self.expect_shown(self.expect_only_changed(other))
-        self.button("Restore factory address").press()
+        self.restore_button().press()
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
         self.selector.choose(self.selected)
         self.expect_shown(self.addresses[self.selected])
@@ -70,8 +77,8 @@ class MainWindowTest(ProgramTest):
         xdotool("key", "alt+r")
         new = self.expect_only_changed(self.selected)
         self.expect_shown(new)
-        wait_until(lambda: self.button("Restore factory address").enabled, "it can be restored")
-        xdotool("key", "alt+f")
+        self.window.find("label", "Changed")
+        xdotool("key", "ctrl+shift+r")
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
 
     def test_it_is_announced_as_a_window(self):

@@ -91,6 +91,8 @@ class Panel:
     def end(self):
         self.process.terminate()
         self.process.wait()
+        # Its tray is a process of its own, which ends after it.
+        wait_until(lambda: not has_tray(), "the panel's tray stayed")
 
     def open_menu(self):
         """Right-clicks the status item when the panel shows it, and gives the menu when it is open."""

@@ -20,7 +20,8 @@ Features::Features(
     , vendors(platform, devices.table, devices.currentInterface)
     , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
-          devices.addressChanger, helper})
+          devices.addressChanger})
+    , readMe(helper)
     , statusMenu({platform.settings, devices.table, devices.currentInterface,
           devices.addressChanger, helper, presence, rules.timers})
     , fileMenu({platform.settings, devices.table, devices.currentInterface, devices.addressChanger,

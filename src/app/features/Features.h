@@ -15,6 +15,7 @@
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
 #include "presentation/window/MainWindowModel.h"
+#include "presentation/window/ReadMeModel.h"
 
 namespace quillon {
 
@@ -36,6 +37,7 @@ struct Features
 
     GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;
+    ReadMeModel readMe;
     StatusMenuModel statusMenu;
     FileMenuModel fileMenu;
     AdvancedPreferencesModel advancedPreferences;

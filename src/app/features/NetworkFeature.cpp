@@ -15,7 +15,7 @@ NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devi
     , networkEditing({platform.settings, platform.scheduler, wifi})
     , addressEditing(platform.settings, platform.scheduler)
     , externalAddress(platform.http, platform.settings, platform.places.externalAddressService)
-    , info({platform.settings, platform.scheduler, wifi, savedNetworks})
+    , info({platform.settings, platform.scheduler, devices, wifi, savedNetworks})
     , savedLists(platform.settings, savedAddresses)
     , savedEntryPopover(networkEditing, addressEditing, platform.scheduler)
     , externalAddressShown(platform.settings, externalAddress)

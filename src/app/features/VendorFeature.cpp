@@ -18,6 +18,7 @@ VendorFeature::VendorFeature(
     , download(platform.http, platform.places.vendorRegistry, import, count, list)
     , pane(platform.settings, download)
     , field(choice, list, platform.notifications)
+    , info(platform.settings)
 {
 }
 

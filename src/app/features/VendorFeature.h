@@ -3,6 +3,7 @@
 #pragma once
 
 #include "presentation/vendors/VendorFieldModel.h"
+#include "presentation/vendors/VendorInfoModel.h"
 #include "presentation/vendors/VendorPaneModel.h"
 #include "vendors/RegistryDownload.h"
 #include "vendors/RegistryImport.h"
@@ -37,6 +38,7 @@ struct VendorFeature
 
     VendorPaneModel pane;
     VendorFieldModel field;
+    VendorInfoModel info;
 };
 
 } // namespace quillon

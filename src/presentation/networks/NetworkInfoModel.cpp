@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
+#include "devices/DeviceTable.h"
 #include "networks/SavedNetworks.h"
 #include "networks/WiFiNetwork.h"
 #include "networks/WiFiRecord.h"
@@ -24,20 +25,18 @@ struct Detail
 
 QList<NetworkInfoModel::Row> detailsOf(const WiFiRecord &record)
 {
-    const bool associated = !record.bssid.isEmpty();
-    const Detail details[] = {
-        {"Network", &WiFiRecord::name, !associated},
-        {"SSID", &WiFiRecord::ssid},
+    static constexpr Detail details[] = {
+        {"Network name", &WiFiRecord::ssid},
         {"BSSID", &WiFiRecord::bssid},
-        {"IP Address", &WiFiRecord::ipAddress},
+        {"IP address", &WiFiRecord::ipAddress},
         {"Security", &WiFiRecord::security, true},
-        {"Channel", &WiFiRecord::channel},
-        {"Country Code", &WiFiRecord::country},
-        {"RSSI", &WiFiRecord::rssi},
+        {"Signal", &WiFiRecord::rssi},
         {"Noise", &WiFiRecord::noise},
-        {"Transmit Rate", &WiFiRecord::txRate},
-        {"PHY Mode", &WiFiRecord::phyMode, true},
-        {"MCS Index", &WiFiRecord::mcs},
+        {"Rate", &WiFiRecord::txRate},
+        {"Channel", &WiFiRecord::channel},
+        {"Mode", &WiFiRecord::phyMode, true},
+        {"MCS", &WiFiRecord::mcs},
+        {"Country", &WiFiRecord::country},
     };
     QList<NetworkInfoModel::Row> rows;
     for (const Detail &detail : details) {
@@ -59,6 +58,9 @@ NetworkInfoModel::NetworkInfoModel(const Collaborators &collaborators)
     }));
     m_observed.push_back(m_deps.settings.addObserver(
         keys::savedNetworks, [this](const auto &) { updateFavNetworkButton(); }));
+    m_observed.push_back(
+        m_deps.settings.addObserver(keys::deviceDict, [this](const auto &) { lookForRadio(); }));
+    lookForRadio();
     showDetails();
     updateFavNetworkButton();
 }
@@ -82,9 +84,16 @@ void NetworkInfoModel::toggleNetworkInfoPopover()
         popoverWillClose();
         return;
     }
-    m_deps.wifi.updateWiFiNetwork();
+    refresh();
     startNetworkTimer();
     popoverWillShow();
+}
+
+void NetworkInfoModel::refresh()
+{
+    m_deps.wifi.updateWiFiNetwork();
+    m_signal.add(WiFiRecord::stored(m_deps.settings), m_deps.scheduler.monotonic());
+    m_state.update([&](State &state) { state.signal = m_signal.samples(); });
 }
 
 void NetworkInfoModel::popoverWillShow()
@@ -102,8 +111,7 @@ void NetworkInfoModel::popoverWillClose()
 void NetworkInfoModel::startNetworkTimer()
 {
     stopNetworkTimer();
-    m_networkTimer =
-        m_deps.scheduler.repeat(refreshInterval, [this] { m_deps.wifi.updateWiFiNetwork(); });
+    m_networkTimer = m_deps.scheduler.repeat(refreshInterval, [this] { refresh(); });
 }
 
 void NetworkInfoModel::stopNetworkTimer()
@@ -130,10 +138,19 @@ void NetworkInfoModel::chooseFavoriteButton()
     }
 }
 
+void NetworkInfoModel::lookForRadio()
+{
+    const bool hasRadio = !m_deps.devices.getWifiDevice().isEmpty();
+    m_state.update([&](State &state) { state.hasRadio = hasRadio; });
+}
+
 void NetworkInfoModel::showDetails()
 {
-    m_state.update(
-        [&](State &state) { state.rows = detailsOf(WiFiRecord::stored(m_deps.settings)); });
+    const WiFiRecord record = WiFiRecord::stored(m_deps.settings);
+    m_state.update([&](State &state) {
+        state.name = record.bssid.isEmpty() ? localized(record.name) : record.name;
+        state.rows = detailsOf(record);
+    });
 }
 
 } // namespace quillon

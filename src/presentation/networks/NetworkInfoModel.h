@@ -6,6 +6,7 @@
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "presentation/networks/FavoriteButton.h"
+#include "presentation/networks/SignalHistory.h"
 
 #include <QList>
 #include <QObject>
@@ -15,6 +16,7 @@
 
 namespace quillon {
 
+class DeviceTable;
 class SavedNetworks;
 class WiFiNetwork;
 
@@ -35,10 +37,14 @@ public:
     };
     struct State
     {
+        bool hasRadio = false; ///< without one there is nothing to show at all
         bool buttonVisible = false;
         bool popoverShown = false;
-        QList<Row> rows; ///< the network's name first; one row for each detail, also an empty one
+        QString name;    ///< of the saved network, else its SSID; or that there is none
+        QList<Row> rows; ///< one for each detail, also an empty one
         FavoriteButton favorite;
+        /// Taken while the popover is shown.
+        QList<SignalHistory::Sample> signal;
 
         bool operator==(const State &) const = default;
     };
@@ -46,6 +52,7 @@ public:
     {
         SettingsStore &settings;
         Scheduler &scheduler;
+        const DeviceTable &devices;
         WiFiNetwork &wifi;
         SavedNetworks &savedNetworks;
     };
@@ -75,10 +82,13 @@ Q_SIGNALS:
 
 private:
     void popoverWillShow();
+    void refresh();
+    void lookForRadio();
     void showDetails();
 
     Collaborators m_deps;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
+    SignalHistory m_signal;
     std::optional<Scheduler::Token> m_networkTimer;
     std::vector<SettingsStore::Token> m_observed;
 };

@@ -32,13 +32,13 @@ SavedEntryPopoverModel::SavedEntryPopoverModel(
 }
 
 void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
-    TokenField field, const SavedEntry &entry, const QPointF &position)
+    TokenFieldKind field, const SavedEntry &entry, const QPointF &position)
 {
     if (!tokenFieldHasMenuForRepresentedObject(field)) {
         return;
     }
     closeBoth();
-    const bool isNetwork = field == TokenField::SavedNetworks;
+    const bool isNetwork = field == TokenFieldKind::SavedNetworks;
     if (isNetwork) {
         m_networks.beginEditing(entry);
     } else {

@@ -63,7 +63,7 @@ public:
     /// A token was chosen with the pointer at `position`. What was open closes at once; where the
     /// field's tokens have a menu, the token's popover opens in the next turn of the main loop.
     void tokenFieldMenuForRepresentedObject(
-        TokenField field, const SavedEntry &entry, const QPointF &position);
+        TokenFieldKind field, const SavedEntry &entry, const QPointF &position);
     /// Editing of the open popover's name field ended. To be told before the popover closes.
     void controlTextDidEndEditing(const QString &typed);
     /// The remove button was chosen.

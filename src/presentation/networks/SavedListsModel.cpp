@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QList<SavedListsModel::Token> tokensOf(
-    const SavedEntries &entries, SavedField keyField, TokenField field)
+    const SavedEntries &entries, SavedField keyField, TokenFieldKind field)
 {
     QList<SavedListsModel::Token> tokens;
     for (auto saved = entries.cbegin(); saved != entries.cend(); ++saved) {
@@ -27,7 +27,7 @@ QList<SavedListsModel::Token> tokensOf(
     return tokens;
 }
 
-QList<SavedListsModel::Token> addressTokens(const SettingsStore &settings, TokenField field)
+QList<SavedListsModel::Token> addressTokens(const SettingsStore &settings, TokenFieldKind field)
 {
     return tokensOf(savedEntries(settings, keys::savedAddresses), &SavedEntry::address, field);
 }
@@ -39,14 +39,14 @@ bool isBeforeIgnoringCase(const SavedListsModel::Token &a, const SavedListsModel
 
 } // namespace
 
-QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const SavedEntry &entry)
+QString tokenFieldDisplayStringForRepresentedObject(TokenFieldKind field, const SavedEntry &entry)
 {
-    return field == TokenField::Other ? u"name"_s : entry.name.value_or(QString());
+    return field == TokenFieldKind::Other ? u"name"_s : entry.name.value_or(QString());
 }
 
-bool tokenFieldHasMenuForRepresentedObject(TokenField field)
+bool tokenFieldHasMenuForRepresentedObject(TokenFieldKind field)
 {
-    return field == TokenField::SavedNetworks || field == TokenField::SavedAddresses;
+    return field == TokenFieldKind::SavedNetworks || field == TokenFieldKind::SavedAddresses;
 }
 
 SavedListsModel::SavedListsModel(SettingsStore &settings, SavedAddresses &savedAddresses)
@@ -76,15 +76,15 @@ void SavedListsModel::refillSavedFields()
 {
     m_state.update([&](State &state) {
         state.networks = tokensOf(savedEntries(m_settings, keys::savedNetworks), &SavedEntry::bssid,
-            TokenField::SavedNetworks);
-        state.addresses = addressTokens(m_settings, TokenField::SavedAddresses);
+            TokenFieldKind::SavedNetworks);
+        state.addresses = addressTokens(m_settings, TokenFieldKind::SavedAddresses);
     });
 }
 
 void SavedListsModel::updateQuickAddressesField()
 {
     m_state.update([&](State &state) {
-        state.quickAddresses = addressTokens(m_settings, TokenField::QuickAddresses);
+        state.quickAddresses = addressTokens(m_settings, TokenFieldKind::QuickAddresses);
         std::stable_sort(
             state.quickAddresses.begin(), state.quickAddresses.end(), isBeforeIgnoringCase);
     });

@@ -17,7 +17,7 @@ namespace quillon {
 class SavedAddresses;
 
 /// The fields that show saved entries as tokens; Other stands for any other token field.
-enum class TokenField
+enum class TokenFieldKind
 {
     SavedNetworks,
     SavedAddresses,
@@ -26,9 +26,9 @@ enum class TokenField
 };
 
 /// A token's text: its entry's name; the word "name" in a field that shows no saved entries.
-QString tokenFieldDisplayStringForRepresentedObject(TokenField field, const SavedEntry &entry);
+QString tokenFieldDisplayStringForRepresentedObject(TokenFieldKind field, const SavedEntry &entry);
 /// Whether choosing a token of the field opens something.
-bool tokenFieldHasMenuForRepresentedObject(TokenField field);
+bool tokenFieldHasMenuForRepresentedObject(TokenFieldKind field);
 
 /// What the token fields hold, and the button that keeps the current address among the saved ones.
 /// Main thread.

@@ -23,6 +23,21 @@ RulesListModel::RulesListModel(const Collaborators &collaborators)
 {
 }
 
+void RulesListModel::toggleRulesPopover()
+{
+    if (m_state->popoverShown) {
+        popoverWillClose();
+        return;
+    }
+    filterRulesArrayController();
+    m_state.update([](State &state) { state.popoverShown = true; });
+}
+
+void RulesListModel::popoverWillClose()
+{
+    m_state.update([](State &state) { state.popoverShown = false; });
+}
+
 void RulesListModel::filterRulesArrayController()
 {
     const DeviceRecord current = m_deps.currentInterface.record();

@@ -40,6 +40,7 @@ public:
         QString title;    ///< of the header
         QList<Row> rows;
         qsizetype selectedRow = -1; ///< -1 in an empty list
+        bool popoverShown = false;
 
         bool operator==(const State &) const = default;
     };
@@ -55,6 +56,11 @@ public:
 
     const State &state() const { return m_state.get(); }
 
+    /// The button of the rules was chosen: opens the popover on the rules of the selected
+    /// interface, or closes it.
+    void toggleRulesPopover();
+    /// However it is closed.
+    void popoverWillClose();
     /// Points list and header at the selected interface.
     void filterRulesArrayController();
     /// Rules changed: the same filter again.

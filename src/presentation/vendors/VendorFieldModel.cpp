@@ -163,11 +163,6 @@ std::optional<qsizetype> VendorFieldModel::selectedRow() const
     return row >= 0 ? std::optional(row) : std::nullopt;
 }
 
-void VendorFieldModel::showVendorButton(bool shown)
-{
-    m_state.update([&](State &state) { state.vendorButtonVisible = shown; });
-}
-
 void VendorFieldModel::rearrange()
 {
     Q_EMIT rowsChanged();

@@ -31,8 +31,6 @@ public:
         bool popoverShown = false;
         /// The row of the list that is selected; none while the list is not in memory.
         std::optional<qsizetype> selectedRow;
-        /// The button of the vendor information.
-        bool vendorButtonVisible = false;
 
         bool operator==(const State &) const = default;
     };
@@ -75,7 +73,6 @@ public:
     // What follows from elsewhere.
     void showText(const QString &text);
     void selectEntry(const QString &entry);
-    void showVendorButton(bool shown);
     void rearrange();
 
 Q_SIGNALS:

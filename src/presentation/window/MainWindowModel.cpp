@@ -7,7 +7,6 @@
 #include "devices/AddressText.h"
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
-#include "helperlink/XPCMethods.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 
@@ -27,7 +26,11 @@ constexpr qsizetype fullLength = 17;
 MainWindowModel::MainWindowModel(const Collaborators &collaborators)
     : m_deps(collaborators)
     , m_displayCase(collaborators.settings)
+    , m_progress(collaborators.addressChanger)
 {
+    connect(&m_progress, &ChangeProgress::changed, this, [this] { update([](State &) {}); });
+    connect(&m_deps.addressChanger, &AddressChanger::restoreRequested, this,
+        &MainWindowModel::hardwarePopoverWillClose);
 }
 
 template <typename Change>
@@ -35,25 +38,19 @@ void MainWindowModel::update(Change change)
 {
     m_state.update([&](State &state) {
         change(state);
+        state.changing = m_progress.isUnderWay(m_deps.currentInterface.device());
         fillButtons(state);
+        state.fieldLine = lineFor(state);
     });
-}
-
-QString MainWindowModel::readMeText()
-{
-    return localized(
-        "Changing an address needs administrator rights, which Quillon itself never has. A "
-        "small helper tool, installed once with your administrator password, makes the "
-        "change and nothing else.");
 }
 
 void MainWindowModel::prepareWindow()
 {
     m_mayRandomize = false;
+    m_isHelperKnown = false;
     update([&](State &state) {
         state.restoreEnabled = false;
         state.fieldEnabled = false;
-        state.readMeVisible = false;
         const QString version = QCoreApplication::applicationVersion();
         state.versionLabel = filled(u"v%@"_s, {version});
     });
@@ -86,33 +83,18 @@ void MainWindowModel::resetInfoButtons()
     Q_EMIT infoButtonsReset();
 }
 
-void MainWindowModel::readMeReset()
-{
-    Q_EMIT readMeStyleReset();
-}
-
 void MainWindowModel::setHelperInstalled(bool installed)
 {
+    m_isHelperKnown = true;
     m_helperInstalled = installed;
     m_mayRandomize = installed;
     update([&](State &state) {
         state.fieldEnabled = installed;
-        state.readMeVisible = !installed;
         if (!installed) {
             state.updateEnabled = false;
         }
         fillInterfaceDetails(state);
     });
-}
-
-void MainWindowModel::hideReadMe()
-{
-    update([&](State &state) { state.readMeVisible = false; });
-}
-
-void MainWindowModel::setInstalling(bool installing)
-{
-    update([&](State &state) { state.installing = installing; });
 }
 
 void MainWindowModel::showPlaceholder(const QString &address)
@@ -149,6 +131,7 @@ void MainWindowModel::populateHexFieldFromDrop(const QString &text)
     if (!isStringValidHEX(text)) {
         return;
     }
+    m_progress.forgetResult(m_deps.currentInterface.device());
     setFieldText(m_displayCase.transformedValue(text));
     checkUpdateButton();
 }
@@ -190,9 +173,14 @@ void MainWindowModel::restoreDefaultAddress()
     m_deps.addressChanger.restoreDefaultAddress();
 }
 
-void MainWindowModel::installHelper()
+void MainWindowModel::toggleHardwarePopover()
 {
-    m_deps.helper.installHelper();
+    update([](State &state) { state.hardwarePopoverShown = !state.hardwarePopoverShown; });
+}
+
+void MainWindowModel::hardwarePopoverWillClose()
+{
+    update([](State &state) { state.hardwarePopoverShown = false; });
 }
 
 void MainWindowModel::changeInterfacefromPopup(const QString &title)
@@ -206,6 +194,7 @@ bool MainWindowModel::editField(const QString &text)
         Q_EMIT fieldRestored();
         return false;
     }
+    m_progress.forgetResult(m_deps.currentInterface.device());
     setFieldText(text);
     checkUpdateButton();
     return true;
@@ -259,6 +248,18 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
 bool MainWindowModel::isWithoutInterface() const
 {
     return m_interfacesShown && !m_deps.devices.isPresent(m_deps.currentInterface.device());
+}
+
+AddressFieldLine MainWindowModel::lineFor(const State &state) const
+{
+    if (m_interfacesShown && state.devices.isEmpty()) {
+        return AddressFieldLine::withoutInterface();
+    }
+    if (!m_helperInstalled) {
+        return m_isHelperKnown ? AddressFieldLine::withoutHelper() : AddressFieldLine();
+    }
+    return m_progress.lineFor(m_deps.currentInterface.device(), state.currentAddress)
+        .value_or(AddressFieldLine::forText(state.fieldText, state.currentAddress));
 }
 
 void MainWindowModel::fillButtons(State &state) const

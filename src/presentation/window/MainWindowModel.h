@@ -5,6 +5,7 @@
 #include "base/Shown.h"
 #include "devices/HexFormatter.h"
 #include "devices/HexValueTransformer.h"
+#include "presentation/window/ChangeProgress.h"
 
 #include <QObject>
 #include <QStringList>
@@ -16,7 +17,6 @@ class CurrentInterface;
 class DeviceTable;
 class Scheduler;
 class SettingsStore;
-class XPCMethods;
 
 /// What the main window shows, as plain state that widgets mirror, and the rules by which it
 /// changes. Main thread, except where an operation says that it moves there by itself.
@@ -35,6 +35,7 @@ public:
         QString fieldText;
         QString fieldPlaceholder;
         bool fieldEnabled = false;
+        AddressFieldLine fieldLine;
         bool updateEnabled = false; ///< the apply button
         bool randomizeEnabled = false;
         bool restoreEnabled = false;
@@ -43,10 +44,10 @@ public:
         QString whyNoRandomize;
         QString whyNoRestore;
 
-        /// The hint to install the helper, with its install button.
-        bool readMeVisible = false;
-        bool installing = false; ///< an installation was asked for and has not ended
+        /// An address of the selected interface is being changed, whoever asked for it.
+        bool changing = false;
 
+        bool hardwarePopoverShown = false;
         bool hardwareIndicatorVisible = false; ///< the address in use is not the factory address
         /// The button of the saved addresses.
         bool softwareButtonVisible = false;
@@ -63,16 +64,6 @@ public:
         bool operator==(const State &) const = default;
     };
 
-    /// How the hint is drawn: left-aligned, bold, of this size in points, in this color (0 to 1).
-    struct ReadMeStyle
-    {
-        int pointSize = 14;
-        double red = 0.43;
-        double green = 0.61;
-        double blue = 0.99;
-        double alpha = 1.0;
-    };
-
     struct Collaborators
     {
         const SettingsStore &settings;
@@ -80,15 +71,11 @@ public:
         const DeviceTable &devices;
         CurrentInterface &currentInterface;
         AddressChanger &addressChanger;
-        XPCMethods &helper;
     };
 
     explicit MainWindowModel(const Collaborators &collaborators);
 
     const State &state() const { return m_state.get(); }
-    static ReadMeStyle readMeStyle() { return {}; }
-    /// A text that explains the helper, shown on demand beside the hint.
-    static QString readMeText();
 
     /// Before the first device is read: everything that needs the helper is disabled.
     void prepareWindow();
@@ -100,13 +87,8 @@ public:
     void popupButtonClicked() { populateSelectionButton(); }
     /// Takes the emphasis from every button that may have kept it.
     void resetInfoButtons();
-    /// Gives the hint its own style again without changing its text.
-    void readMeReset();
-    /// Enables the address field exactly when the helper is installed, and shows the hint
-    /// otherwise.
+    /// Enables the address field exactly when the helper is installed.
     void setHelperInstalled(bool installed);
-    void hideReadMe();
-    void setInstalling(bool installing);
     void showPlaceholder(const QString &address);
     /// A fresh formatter on the address field.
     void renewHexFormatter();
@@ -125,7 +107,11 @@ public:
     /// Requests the address in the field, which then shows it in display case.
     void changeMacAddress();
     void restoreDefaultAddress();
-    void installHelper();
+    /// The button of the hardware address was chosen: opens its popover or closes it. A restore,
+    /// also one from the menu, closes it.
+    void toggleHardwarePopover();
+    /// However it is closed.
+    void hardwarePopoverWillClose();
     void changeInterfacefromPopup(const QString &title);
 
     /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
@@ -148,13 +134,13 @@ Q_SIGNALS:
     void fieldRestored();
     /// Buttons that may be emphasised are to look normal again.
     void infoButtonsReset();
-    void readMeStyleReset();
 
 private:
     void showCurrentAddress();
     void fillInterfaceDetails(State &state) const;
     /// What depends on several facts, after each change of any of them.
     void fillButtons(State &state) const;
+    AddressFieldLine lineFor(const State &state) const;
     /// None is selected, or the selected one is not there.
     bool isWithoutInterface() const;
     template <typename Change>
@@ -163,9 +149,11 @@ private:
     Collaborators m_deps;
     HexValueTransformer m_displayCase;
     HexFormatter m_hexFormatter;
+    bool m_isHelperKnown = false; ///< whether it is installed
     bool m_helperInstalled = false;
     bool m_interfacesShown = false; ///< before that nobody has looked for one to select
     bool m_mayRandomize = false;    ///< by the helper's status alone
+    ChangeProgress m_progress;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 

@@ -28,25 +28,24 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     , m_toggle(new QToolButton)
     , m_table(new VendorTableView(model, this))
 {
-    setProperty("look", u"card"_s);
     setObjectName(u"vendorFieldView"_s);
     makeField();
     makeToggle(theme);
     m_table->hide();
     m_table->installEventFilter(this);
-    auto *caption = plainLabel(localized("&Vendor of random addresses"));
+    // Inside the field, as in any box that opens a list.
+    auto *caption = plainLabel(localized("&Vendor"));
     caption->setProperty("look", u"caption"_s);
     caption->setBuddy(m_field);
-
+    caption->setAttribute(Qt::WA_TransparentForMouseEvents);
     auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(
-        Theme::cardMargin, Theme::unit + 4, Theme::cardMargin, Theme::cardMargin);
-    grid->setVerticalSpacing(6);
-    grid->addWidget(caption, 0, 0);
-    grid->addWidget(m_field, 1, 0);
-    // Inside the field, as in any box that opens a list.
-    grid->addWidget(m_toggle, 1, 0, Qt::AlignRight | Qt::AlignVCenter);
-    m_field->setTextMargins(0, 0, m_toggle->sizeHint().width() - Theme::unit / 2, 0);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(m_field, 0, 0);
+    grid->addWidget(caption, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    grid->addWidget(m_toggle, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    caption->setContentsMargins(Theme::unit + 4, 0, 0, 0);
+    m_field->setTextMargins(caption->sizeHint().width() - Theme::unit / 2, 0,
+        m_toggle->sizeHint().width() - Theme::unit / 2, 0);
     connectModel();
     refresh();
 }

@@ -36,6 +36,22 @@ public:
         }
         return state;
     }
+    // Qt leaves popups out of the tree: one that is open is found in what opened it.
+    int childCount() const override
+    {
+        return popup() != nullptr ? 1 : QAccessibleWidget::childCount();
+    }
+    QAccessibleInterface *child(int index) const override
+    {
+        return popup() != nullptr && index == 0 ? QAccessible::queryAccessibleInterface(popup())
+                                                : QAccessibleWidget::child(index);
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return popup() != nullptr && child->object() == popup()
+                   ? 0
+                   : QAccessibleWidget::indexOfChild(child);
+    }
     QStringList actionNames() const override
     {
         const QStringList names = QAccessibleWidget::actionNames();
@@ -62,6 +78,16 @@ public:
     }
 
 private:
+    QWidget *popup() const
+    {
+        for (auto *child :
+            widget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (child->isWindow() && child->isVisible()) {
+                return child;
+            }
+        }
+        return nullptr;
+    }
     bool canBePressed() const
     {
         return role() == QAccessible::Button && widget()->isEnabled() &&

@@ -23,6 +23,8 @@ QString lookOf(InlineLine::Kind kind)
     switch (kind) {
     case InlineLine::Kind::Muted:
         return u"caption"_s;
+    case InlineLine::Kind::Positive:
+        return u"positive"_s;
     case InlineLine::Kind::Notice:
         return u"noticeLine"_s;
     case InlineLine::Kind::Danger:
@@ -58,7 +60,7 @@ void InlineLine::say(const QString &text, Kind kind)
     m_text->style()->unpolish(m_text);
     m_text->style()->polish(m_text);
     makeRoom();
-    if (isNew && kind == Kind::Danger) {
+    if (isNew && (kind == Kind::Danger || kind == Kind::Positive)) {
         announce(*m_text, m_text->text());
     } else {
         m_text->setAccessibleName(m_text->text());
@@ -72,7 +74,7 @@ QString InlineLine::text() const
 
 bool InlineLine::hasSign() const
 {
-    return m_kind != Kind::Muted && !m_text->text().isEmpty();
+    return (m_kind == Kind::Notice || m_kind == Kind::Danger) && !m_text->text().isEmpty();
 }
 
 void InlineLine::makeRoom()

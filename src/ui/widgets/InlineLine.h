@@ -20,6 +20,7 @@ public:
     enum class Kind
     {
         Muted,
+        Positive,
         Notice,
         Danger,
     };

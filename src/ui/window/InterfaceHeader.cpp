@@ -10,6 +10,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLayout>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -19,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int portIconSize = 32;
 constexpr int linkDotSize = 10;
 
 } // namespace
@@ -29,25 +29,37 @@ InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWi
     , m_model(model)
     , m_theme(theme)
     , m_selector(new InterfaceSelector(model))
-    , m_selectorCaption(plainLabel(localized("&Interface")))
     , m_portIcon(plainLabel())
     , m_portName(plainLabel())
     , m_linkDot(plainLabel())
     , m_linkText(plainLabel())
+    , m_separator(plainLabel(u"·"_s))
+    , m_ipAddress(plainLabel())
 {
     setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
-    m_portIcon->setFixedSize(portIconSize, portIconSize);
-    m_selectorCaption->setProperty("look", u"caption"_s);
-    m_selectorCaption->setBuddy(m_selector);
+    // Nobody sees it: it names the button, whose own name is its value, to assistive technology.
+    auto *caption = plainLabel(localized("Interface"));
+    caption->setParent(this);
+    caption->setBuddy(m_selector);
+    caption->hide();
+    m_portIcon->setFixedSize(Theme::headerIconSize, Theme::headerIconSize);
     m_portName->setObjectName(u"portName"_s);
-    m_portName->setFont(Theme::textFont(1.0, QFont::DemiBold));
+    m_portName->setFont(Theme::font(Theme::Type::Strong));
     m_linkDot->setFixedSize(linkDotSize, linkDotSize);
     m_linkText->setObjectName(u"linkState"_s);
+    m_ipAddress->setObjectName(u"ipAddress"_s);
+    m_ipAddress->setProperty("look", u"caption"_s);
+    m_ipAddress->setToolTip(plainToolTip(localized("IPv4 address")));
+    m_separator->setProperty("look", u"caption"_s);
+    m_ipAddress->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *link = new QHBoxLayout;
     link->setSpacing(6);
     link->addWidget(m_linkDot);
     link->addWidget(m_linkText);
+    link->addWidget(m_separator);
+    link->addWidget(m_ipAddress);
+    link->addStretch(1);
     auto *port = new QVBoxLayout;
     port->setSpacing(2);
     port->addWidget(m_portName);
@@ -59,18 +71,24 @@ InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWi
     row->addWidget(m_portIcon);
     row->addLayout(port);
     row->addStretch(1);
-    row->addWidget(m_selectorCaption);
     row->addWidget(m_selector);
     connect(&m_theme, &Theme::changed, this, &InterfaceHeader::refreshLink);
     refresh();
+}
+
+void InterfaceHeader::addAtEnd(QWidget *control)
+{
+    layout()->addWidget(control);
 }
 
 void InterfaceHeader::refresh()
 {
     const auto &state = m_model.state();
     m_selector->refresh();
-    m_selectorCaption->setVisible(state.selectionVisible);
     showLine(*m_portName, state.interfaceName, Theme::windowWidth / 2);
+    m_separator->setVisible(!state.ipAddress.isEmpty());
+    m_ipAddress->setVisible(!state.ipAddress.isEmpty());
+    showLine(*m_ipAddress, state.ipAddress, Theme::windowWidth / 3);
     refreshLink();
 }
 
@@ -92,7 +110,7 @@ void InterfaceHeader::refreshLink()
     style()->polish(m_linkText);
     const bool wireless = state.interfaceName == localized("Wi-Fi");
     m_portIcon->setPixmap(
-        picture(wireless ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent, portIconSize));
+        picture(wireless ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent, Theme::headerIconSize));
 }
 
 } // namespace quillon

@@ -22,6 +22,8 @@ public:
     InterfaceHeader(MainWindowModel &model, const Theme &theme, QWidget *parent = nullptr);
 
     InterfaceSelector &selector() { return *m_selector; }
+    /// Puts a control at the end of the line.
+    void addAtEnd(QWidget *control);
     void refresh();
 
 private:
@@ -30,11 +32,12 @@ private:
     MainWindowModel &m_model;
     const Theme &m_theme;
     InterfaceSelector *m_selector;
-    QLabel *m_selectorCaption;
     QLabel *m_portIcon;
     QLabel *m_portName;
     QLabel *m_linkDot;
     QLabel *m_linkText;
+    QLabel *m_separator;
+    QLabel *m_ipAddress;
 };
 
 } // namespace quillon

@@ -9,23 +9,20 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/DetailsArea.h"
 #include "ui/widgets/PlainText.h"
+#include "ui/window/AddressCard.h"
 #include "ui/window/AddressField.h"
-#include "ui/window/InterfaceDetails.h"
+#include "ui/window/FactsCard.h"
 #include "ui/window/InterfaceHeader.h"
 #include "ui/window/InterfaceSelector.h"
-#include "ui/window/ReadMeHint.h"
-#include "ui/window/TextFieldBackgroundView.h"
+#include "ui/window/ReadMeStrip.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -41,37 +38,6 @@ namespace {
 
 /// What a desktop draws around windows, before it has told us.
 constexpr int usualFrame = 32;
-/// The property that says what a button does when it is enabled.
-constexpr const char *whatItDoes = "whatItDoes";
-
-QLabel *makeCaption(const QString &text)
-{
-    auto *label = plainLabel(text);
-    label->setProperty("look", u"caption"_s);
-    return label;
-}
-
-QPushButton *makeButton(
-    const QString &text, const QString &accessibleName, const QString &description)
-{
-    auto *button = new QPushButton(text);
-    button->setAccessibleName(accessibleName);
-    button->setProperty(whatItDoes, description);
-    button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
-    // Return presses the focused button, as the space bar does.
-    button->setAutoDefault(true);
-    return button;
-}
-
-/// Says what the button does, or why it does nothing.
-void setUsable(QPushButton &button, bool enabled, const QString &whyNot)
-{
-    button.setEnabled(enabled);
-    const QString hint = whyNot.isEmpty() ? button.property(whatItDoes).toString() : whyNot;
-    button.setToolTip(plainToolTip(hint));
-    button.setAccessibleDescription(hint);
-}
-
 /// To assistive technology a plain widget is a part of something; this one is a window.
 QAccessibleInterface *accessibleWindow(const QString &, QObject *object)
 {
@@ -81,39 +47,33 @@ QAccessibleInterface *accessibleWindow(const QString &, QObject *object)
 
 } // namespace
 
-MainWindow::MainWindow(
-    MainWindowModel &model, Presence &presence, const Theme &theme, TaskBar &taskBar)
-    : m_model(model)
-    , m_presence(presence)
-    , m_theme(theme)
+MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBar)
+    : m_model(models.window)
+    , m_presence(models.presence)
     , m_taskBar(taskBar)
+    , m_header(new InterfaceHeader(models.window, theme))
+    , m_addressCard(new AddressCard(models.window, theme))
+    , m_facts(new FactsCard(theme))
+    , m_area(new DetailsArea)
+    , m_version(plainLabel())
+    , m_column(new QVBoxLayout(this))
 {
     QAccessible::installFactory(accessibleWindow);
     setObjectName(u"windowView"_s);
     setWindowTitle(u"Quillon"_s);
-
-    m_header = new InterfaceHeader(model, theme);
-    m_readMe = new ReadMeHint(model, theme);
-    m_details = new InterfaceDetails(model);
-    m_area = new DetailsArea;
-    m_area->add(m_details);
-    m_version = makeCaption(QString());
-    m_version->setFont(Theme::textFont(0.9));
+    m_area->add(m_facts);
+    m_version->setProperty("look", u"caption"_s);
+    m_version->setFont(Theme::font(Theme::Type::Caption));
     m_version->setAccessibleName(localized("Version"));
 
-    m_column = new QVBoxLayout(this);
-    m_column->setContentsMargins(
-        Theme::windowMargin, Theme::windowMargin, Theme::windowMargin, Theme::cardMargin);
+    m_column->setContentsMargins(Theme::windowMargin, Theme::windowMargin - Theme::unit / 2,
+        Theme::windowMargin, Theme::unit);
     m_column->setSpacing(Theme::spacing);
     // The window is as large as its texts need, in any language and at any scale.
     m_column->setSizeConstraint(QLayout::SetFixedSize);
-    m_top = new QHBoxLayout;
-    m_top->setSpacing(Theme::unit);
-    m_top->addWidget(m_header, 1);
-    m_column->addLayout(m_top);
-    m_column->addWidget(m_readMe);
-    m_column->addWidget(makeAddressCard());
-    m_column->addWidget(makeButtons());
+    m_column->addWidget(m_header);
+    m_column->addWidget(new ReadMeStrip(models.readMe, theme));
+    m_column->addWidget(m_addressCard);
     m_column->addWidget(m_area);
     m_column->addWidget(m_version, 0, Qt::AlignRight);
 
@@ -121,17 +81,18 @@ MainWindow::MainWindow(
     connectModel();
     connectPresence();
     refresh();
-    m_field->setFocus();
+    m_addressCard->field().setFocus();
 }
 
 void MainWindow::addMenuButton(QWidget *button)
 {
-    m_top->addWidget(button);
+    m_header->addAtEnd(button);
 }
 
-void MainWindow::addChoice(QWidget *section)
+MainWindow::~MainWindow()
 {
-    m_column->insertWidget(m_column->indexOf(m_area), section);
+    // Popovers close with it, and say so, while it is still whole.
+    hide();
 }
 
 void MainWindow::addDetails(QWidget *section)
@@ -139,72 +100,40 @@ void MainWindow::addDetails(QWidget *section)
     m_area->add(section);
 }
 
-QWidget *MainWindow::makeAddressCard()
+void MainWindow::addShortcut(
+    const QKeySequence &keys, const QString &text, std::function<void()> act)
 {
-    auto *card = new TextFieldBackgroundView(m_model);
-    auto *caption = makeCaption(localized("A&ddress"));
-    m_field = new AddressField(m_model);
-    caption->setBuddy(m_field);
-    m_apply = makeButton(localized("&Apply"), localized("Apply address"),
-        localized("Gives the interface the address in the field"));
-    m_apply->setObjectName(u"updateButton"_s);
-    m_apply->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::MinimumExpanding);
-
-    auto *grid = new QGridLayout(card);
-    grid->setContentsMargins(
-        Theme::cardMargin, Theme::unit + 4, Theme::cardMargin, Theme::cardMargin);
-    grid->setHorizontalSpacing(Theme::unit);
-    grid->setVerticalSpacing(6);
-    grid->setColumnStretch(0, 1);
-    grid->addWidget(caption, 0, 0, 1, 2);
-    grid->addWidget(m_field, 1, 0);
-    grid->addWidget(m_apply, 1, 1);
-    return card;
+    auto *action = new QAction(text, this);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, std::move(act));
+    addAction(action);
 }
 
-QWidget *MainWindow::makeButtons()
+void MainWindow::focusApply()
 {
-    auto *buttons = new QWidget;
-    m_randomize = makeButton(localized("&Randomize address"), localized("Randomize address"),
-        localized("Gives the interface a random, locally administered address"));
-    m_randomize->setObjectName(u"randomizeButton"_s);
-    m_randomize->setProperty("look", u"primary"_s);
-    m_randomize->setIcon(m_theme.icon(u"random"_s, Theme::Ink::OnAccent));
-    m_restore =
-        makeButton(localized("Restore &factory address"), localized("Restore factory address"),
-            localized("Gives the interface the address back that it was made with"));
-    m_restore->setObjectName(u"restoreButton"_s);
-    m_restore->setIcon(m_theme.icon(u"restore"_s, Theme::Ink::Text));
-
-    auto *row = new QHBoxLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Theme::unit);
-    row->addWidget(m_randomize, 1);
-    row->addWidget(m_restore, 1);
-    return buttons;
+    m_addressCard->focusApply();
 }
 
 void MainWindow::makeShortcuts()
 {
-    const auto add = [this](const QString &text, const QKeySequence &keys, auto reaction) {
-        auto *action = new QAction(text, this);
-        action->setShortcut(keys);
-        connect(action, &QAction::triggered, this, reaction);
-        addAction(action);
-    };
-    add(localized("Quit Quillon"), QKeySequence(Qt::CTRL | Qt::Key_Q),
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), localized("Quit Quillon"),
         [this] { m_presence.quit(); });
-
-    connect(m_apply, &QPushButton::clicked, &m_model, &MainWindowModel::changeMacAddress);
-    connect(m_randomize, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
-    connect(m_restore, &QPushButton::clicked, &m_model, &MainWindowModel::restoreDefaultAddress);
-    connect(m_field, &QLineEdit::returnPressed, m_apply, &QPushButton::click);
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_L), localized("Address"), [this] {
+        m_addressCard->field().setFocus(Qt::ShortcutFocusReason);
+        m_addressCard->field().selectAll();
+    });
+    addShortcut(QKeySequence(Qt::CTRL | Qt::Key_R), localized("Randomize"),
+        [this] { m_addressCard->randomize(); });
+    addShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R), localized("Restore"), [this] {
+        if (m_model.state().restoreEnabled) {
+            m_model.restoreDefaultAddress();
+        }
+    });
 }
 
 void MainWindow::connectModel()
 {
     connect(&m_model, &MainWindowModel::changed, this, &MainWindow::refresh);
-    connect(&m_model, &MainWindowModel::fieldRestored, m_field, &AddressField::refresh);
     connect(&m_model, &MainWindowModel::infoButtonsReset, &m_header->selector(),
         &InterfaceSelector::resetEmphasis);
 }
@@ -230,17 +159,8 @@ void MainWindow::connectPresence()
 
 void MainWindow::refresh()
 {
-    const auto &state = m_model.state();
     m_header->refresh();
-    m_field->refresh();
-    m_field->setPlaceholderText(plainLine(state.fieldPlaceholder));
-    m_field->setEnabled(state.fieldEnabled);
-    setUsable(*m_apply, state.updateEnabled, state.whyNoUpdate);
-    setUsable(*m_randomize, state.randomizeEnabled, state.whyNoRandomize);
-    setUsable(*m_restore, state.restoreEnabled, state.whyNoRestore);
-    m_readMe->refresh();
-    m_details->refresh();
-    m_version->setText(plainLine(state.versionLabel));
+    m_version->setText(plainLine(m_model.state().versionLabel));
 }
 
 void MainWindow::bringUp()

@@ -4,20 +4,21 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
+#include <functional>
+
+class QKeySequence;
 class QLabel;
-class QPushButton;
 class QVBoxLayout;
 
 namespace quillon {
 
-class AddressField;
+class AddressCard;
 class DetailsArea;
-class InterfaceDetails;
+class FactsCard;
 class InterfaceHeader;
 class MainWindowModel;
 class Presence;
-class ReadMeHint;
+class ReadMeModel;
 class TaskBar;
 class Theme;
 
@@ -28,7 +29,15 @@ class MainWindow : public QWidget
     Q_OBJECT
 
 public:
-    MainWindow(MainWindowModel &model, Presence &presence, const Theme &theme, TaskBar &taskBar);
+    struct Models
+    {
+        MainWindowModel &window;
+        ReadMeModel &readMe;
+        Presence &presence;
+    };
+
+    MainWindow(const Models &models, const Theme &theme, TaskBar &taskBar);
+    ~MainWindow() override;
 
     /// Whether the program stays within reach once the window is closed. Then closing only hides
     /// it; otherwise closing is the quit command, so that no program runs that nobody can reach.
@@ -36,12 +45,15 @@ public:
 
     /// Puts the button that opens the File menu beside the header.
     void addMenuButton(QWidget *button);
-    /// Puts a section under the buttons, where the next address is chosen.
-    void addChoice(QWidget *section);
-    /// Puts a section under the details, in the order of the calls.
+    AddressCard &addressCard() const { return *m_addressCard; }
+    /// What is known of the selected interface.
+    FactsCard &facts() const { return *m_facts; }
+    /// Puts a section under the facts, in the order of the calls.
     void addDetails(QWidget *section);
-    /// What is known of the selected interface; rows can be added.
-    InterfaceDetails &details() { return *m_details; }
+    /// `keys` anywhere in the window, as long as no popover is open.
+    void addShortcut(const QKeySequence &keys, const QString &text, std::function<void()> act);
+    /// Puts the keyboard where the address that was put into the field is applied.
+    void focusApply();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -52,8 +64,6 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    QWidget *makeAddressCard();
-    QWidget *makeButtons();
     void makeShortcuts();
     void connectModel();
     void connectPresence();
@@ -67,22 +77,16 @@ private:
 
     MainWindowModel &m_model;
     Presence &m_presence;
-    const Theme &m_theme;
     TaskBar &m_taskBar;
     bool m_reachableWhenClosed = false;
     bool m_minimizesOncePainted = false;
 
     InterfaceHeader *m_header;
-    AddressField *m_field;
-    QPushButton *m_apply;
-    QPushButton *m_randomize;
-    QPushButton *m_restore;
-    ReadMeHint *m_readMe;
-    InterfaceDetails *m_details;
+    AddressCard *m_addressCard;
+    FactsCard *m_facts;
     DetailsArea *m_area;
     QLabel *m_version;
     QVBoxLayout *m_column;
-    QHBoxLayout *m_top;
 };
 
 } // namespace quillon

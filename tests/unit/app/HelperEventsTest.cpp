@@ -29,7 +29,7 @@ protected:
     }
     void installFromWindow()
     {
-        features().mainWindow.installHelper();
+        features().readMe.installHelper();
         machine.scheduler.runPending();
     }
     /// The selected interface has lost its address in the table and is away, so that reading the
@@ -74,12 +74,12 @@ private:
 TEST_F(HelperEventsTest, AnUpdatedHelperIsAskedForItsVersion)
 {
     removeHelper();
-    EXPECT_TRUE(window().readMeVisible);
+    EXPECT_TRUE(features().readMe.state().visible);
     EXPECT_FALSE(window().fieldEnabled);
 
     machine.helper.installed = true;
     deliverHelperUpdated();
-    EXPECT_FALSE(window().readMeVisible);
+    EXPECT_FALSE(features().readMe.state().visible);
     EXPECT_TRUE(window().fieldEnabled);
 }
 
@@ -134,9 +134,9 @@ TEST_F(HelperEventsTest, AnUpdateOfAnotherObjectIsIgnored)
 TEST_F(HelperEventsTest, ItsStatusIsFollowedInItsOrder)
 {
     StateOrder order;
-    order.expect(
-        u"field and hint"_s, [this] { return window().readMeVisible && !window().fieldEnabled; });
-    order.expectSignal(u"hint style"_s, features().mainWindow, &MainWindowModel::readMeStyleReset);
+    order.expect(u"field and hint"_s,
+        [this] { return features().readMe.state().visible && !window().fieldEnabled; });
+    order.expectSignal(u"hint style"_s, features().readMe, &ReadMeModel::styleReset);
     order.expectSignal(
         u"rules"_s, features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated);
     QObject::connect(&features().rules.evaluation, &RuleEvaluation::ruleStatusEvaluated,
@@ -159,7 +159,7 @@ TEST_F(HelperEventsTest, AnInstallationFromTheWindowIsFollowedInItsOrder)
     makeTableStale();
 
     StateOrder order;
-    order.expect(u"hint hidden"_s, [this] { return !window().readMeVisible; });
+    order.expect(u"hint hidden"_s, [this] { return !features().readMe.state().visible; });
     expectRefresh(order);
     order.expectSignal(u"window opened"_s, features().presence, &Presence::windowOpened);
     installFromWindow();
@@ -175,19 +175,19 @@ TEST_F(HelperEventsTest, AFailedInstallationChangesNothing)
     machine.helper.installFails = true;
     installFromWindow();
     EXPECT_EQ(fronts, 0);
-    EXPECT_TRUE(window().readMeVisible);
+    EXPECT_TRUE(features().readMe.state().visible);
 }
 
 TEST_F(HelperEventsTest, TheInstallButtonIsBusyUntilTheInstallationHasEnded)
 {
     for (const bool fails : {true, false}) {
         machine.helper.installFails = fails;
-        features().mainWindow.installHelper();
-        EXPECT_TRUE(window().installing);
+        features().readMe.installHelper();
+        EXPECT_TRUE(features().readMe.state().installing);
         machine.scheduler.runPending();
-        EXPECT_FALSE(window().installing);
+        EXPECT_FALSE(features().readMe.state().installing);
     }
-    EXPECT_FALSE(window().readMeVisible);
+    EXPECT_FALSE(features().readMe.state().visible);
 }
 
 TEST_F(HelperEventsTest, PreferencesAndMenuFollowItsStatusWithTheBroadcast)

@@ -204,7 +204,7 @@ TEST_F(LaunchSequenceTest, BeforeTheHelperAnsweredNothingCanBeChanged)
     EXPECT_FALSE(window().restoreEnabled);
     EXPECT_FALSE(window().updateEnabled);
     EXPECT_FALSE(window().fieldEnabled);
-    EXPECT_FALSE(window().readMeVisible);
+    EXPECT_FALSE(features().readMe.state().visible);
 }
 
 TEST_F(LaunchSequenceTest, TheHelperIsAuthorizedBeforeItsVersionIsAsked)
@@ -222,7 +222,7 @@ TEST_F(LaunchSequenceTest, WithoutTheServiceTheHintIsShownAndTheFieldStaysDisabl
 {
     machine.helper.serviceExists = false;
     run();
-    EXPECT_TRUE(window().readMeVisible);
+    EXPECT_TRUE(features().readMe.state().visible);
     EXPECT_FALSE(window().fieldEnabled);
     EXPECT_FALSE(window().randomizeEnabled);
 }

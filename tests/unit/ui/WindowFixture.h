@@ -6,6 +6,7 @@
 #include "platform/desktop/TrayHost.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/window/MainWindowModel.h"
+#include "presentation/window/ReadMeModel.h"
 #include "unit/presentation/DeviceModelsFixture.h"
 
 #include <QCoreApplication>
@@ -55,7 +56,8 @@ protected:
         }
     }
 
-    MainWindowModel window{{settings, scheduler, devices, current, changer, helper}};
+    MainWindowModel window{{settings, scheduler, devices, current, changer}};
+    ReadMeModel readMe{helper};
     StatusMenuModel menu{{settings, devices, current, changer, helper, presence, timers}};
 };
 

@@ -114,7 +114,7 @@ TEST_F(NetworkFeatureTest, TheNetworkButtonFollowsTheAssociation)
 TEST_F(NetworkFeatureTest, TheNetworksPopoverShowsItsModeAndClosesWhenItIsDone)
 {
     run();
-    popover().tokenFieldMenuForRepresentedObject(TokenField::SavedNetworks, saveNetwork(), {});
+    popover().tokenFieldMenuForRepresentedObject(TokenFieldKind::SavedNetworks, saveNetwork(), {});
     machine.scheduler.runPending();
     ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Network);
     popover().chooseSsidTickButton();
@@ -131,7 +131,7 @@ TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
     saveAddress(u"Mine"_s);
     const auto entry =
         SavedEntry::fromPropertyList(machine.settings.getDictionary(keys::savedAddresses).first());
-    popover().tokenFieldMenuForRepresentedObject(TokenField::SavedAddresses, entry, {});
+    popover().tokenFieldMenuForRepresentedObject(TokenFieldKind::SavedAddresses, entry, {});
     machine.scheduler.runPending();
     ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Address);
     popover().removeEntry();

@@ -160,7 +160,7 @@ TEST_F(RuleFeatureTest, ANetworksNewModeIsEvaluatedForItsRules)
     network.bssid = bssid;
     machine.settings.set(keys::savedNetworks, QVariantMap{{bssid, network.toPropertyList()}});
     SavedEntryPopoverModel &popover = features().networks.savedEntryPopover;
-    popover.tokenFieldMenuForRepresentedObject(TokenField::SavedNetworks, network, {});
+    popover.tokenFieldMenuForRepresentedObject(TokenFieldKind::SavedNetworks, network, {});
     machine.scheduler.runPending();
     popover.chooseSsidTickButton();
     EXPECT_TRUE(rule->value(model::rule::ssidDefined).toBool());

@@ -96,7 +96,7 @@ TEST_F(VendorFeatureTest, WhoMadeTheSelectedInterfaceIsLookedUp)
     select(enp2s0);
     EXPECT_TRUE(
         machine.settings.getDictionary(keys::currentVendorData).values().contains(u"Appian"_s));
-    EXPECT_TRUE(field().state().vendorButtonVisible);
+    EXPECT_TRUE(features().vendors.info.state().buttonVisible);
 }
 
 TEST_F(VendorFeatureTest, TheFieldAndTheListShowTheChoiceOfTheSelectedInterface)

@@ -37,7 +37,7 @@ protected:
 
     SavedNetworks saved{settings, network};
     std::unique_ptr<NetworkInfoModel> model = std::make_unique<NetworkInfoModel>(
-        NetworkInfoModel::Collaborators{settings, scheduler, network, saved});
+        NetworkInfoModel::Collaborators{settings, scheduler, table, network, saved});
     int changes = 0;
 };
 
@@ -55,37 +55,56 @@ TEST_F(NetworkInfoModelTest, ShowsEveryDetail)
 {
     network.updateWiFiNetwork();
     const QList<NetworkInfoModel::Row> expected = {
-        {u"Network"_s, u"Home"_s},
-        {u"SSID"_s, u"Home"_s},
+        {u"Network name"_s, u"Home"_s},
         {u"BSSID"_s, homeBssid},
-        {u"IP Address"_s, u"198.51.100.7"_s},
+        {u"IP address"_s, u"198.51.100.7"_s},
         {u"Security"_s, u"WPA2 Personal"_s},
-        {u"Channel"_s, u"36 (5 GHz, 80 MHz)"_s},
-        {u"Country Code"_s, u"DE"_s},
-        {u"RSSI"_s, u"-54 dBm"_s},
+        {u"Signal"_s, u"-54 dBm"_s},
         {u"Noise"_s, u"-92 dBm"_s},
-        {u"Transmit Rate"_s, u"866.7 Mbps"_s},
-        {u"PHY Mode"_s, u"802.11ac"_s},
-        {u"MCS Index"_s, u"9"_s},
+        {u"Rate"_s, u"866.7 Mbps"_s},
+        {u"Channel"_s, u"36 (5 GHz, 80 MHz)"_s},
+        {u"Mode"_s, u"802.11ac"_s},
+        {u"MCS"_s, u"9"_s},
+        {u"Country"_s, u"DE"_s},
     };
+    EXPECT_EQ(model->state().name, u"Home"_s);
     EXPECT_EQ(model->state().rows, expected);
+}
+
+TEST_F(NetworkInfoModelTest, KnowsWhetherThereIsARadio)
+{
+    EXPECT_TRUE(model->state().hasRadio);
+    settings.set(keys::deviceDict, QVariant());
+    EXPECT_FALSE(model->state().hasRadio);
+}
+
+TEST_F(NetworkInfoModelTest, KeepsTheSignalWhileItIsShown)
+{
+    model->toggleNetworkInfoPopover();
+    scheduler.advance(6s);
+    ASSERT_EQ(model->state().signal.size(), 3);
+    EXPECT_EQ(model->state().signal.last().signal, -54);
+    EXPECT_EQ(model->state().signal.last().noise, -92);
+    model->popoverWillClose();
+    scheduler.advance(6s);
+    EXPECT_EQ(model->state().signal.size(), 3);
 }
 
 TEST_F(NetworkInfoModelTest, ShowsThatThereIsNoNetwork)
 {
     radio.leave();
     network.updateWiFiNetwork();
-    EXPECT_EQ(shown("Network"), u"Not currently connected..."_s);
+    EXPECT_EQ(model->state().name, u"Not currently connected..."_s);
     EXPECT_EQ(shown("Security"), QString());
-    EXPECT_EQ(model->state().rows.size(), 12);
+    EXPECT_EQ(model->state().rows.size(), 11);
 }
 
 TEST_F(NetworkInfoModelTest, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
 {
     settings.set(keys::currentWiFiDict,
         QVariantMap{{wifirecord::name, u"Before"_s}, {wifirecord::BSSID, officeBssid}});
-    const NetworkInfoModel later({settings, scheduler, network, saved});
-    EXPECT_EQ(later.state().rows.first().value, u"Before"_s);
+    const NetworkInfoModel later({settings, scheduler, table, network, saved});
+    EXPECT_EQ(later.state().name, u"Before"_s);
 }
 
 TEST_F(NetworkInfoModelTest, IsRefreshedBeforeItOpens)
@@ -93,7 +112,7 @@ TEST_F(NetworkInfoModelTest, IsRefreshedBeforeItOpens)
     model->toggleNetworkInfoPopover();
     EXPECT_TRUE(model->state().popoverShown);
     EXPECT_EQ(radio.reads, 1);
-    EXPECT_EQ(shown("SSID"), u"Home"_s);
+    EXPECT_EQ(shown("Network name"), u"Home"_s);
 }
 
 TEST_F(NetworkInfoModelTest, IsRefreshedEveryThreeSecondsWhileItIsOpen)
@@ -104,7 +123,7 @@ TEST_F(NetworkInfoModelTest, IsRefreshedEveryThreeSecondsWhileItIsOpen)
     EXPECT_EQ(radio.reads, 1);
     scheduler.advance(1ms);
     EXPECT_EQ(radio.reads, 2);
-    EXPECT_EQ(shown("RSSI"), u"-60 dBm"_s);
+    EXPECT_EQ(shown("Signal"), u"-60 dBm"_s);
     scheduler.advance(9s);
     EXPECT_EQ(radio.reads, 5);
 }
@@ -198,9 +217,9 @@ TEST_F(NetworkInfoModelTest, PassesOverValuesThatAreNoTexts)
     settings.set(
         keys::currentWiFiDict, QVariantMap{{wifirecord::SSID, 5},
                                    {wifirecord::BSSID, QVariantList{1}}, {wifirecord::name, true}});
-    EXPECT_EQ(shown("SSID"), QString());
+    EXPECT_EQ(shown("Network name"), QString());
     EXPECT_EQ(shown("BSSID"), QString());
-    EXPECT_EQ(shown("Network"), QString());
+    EXPECT_EQ(model->state().name, QString());
 }
 
 TEST_F(NetworkInfoModelTest, LeavesNothingBehind)

@@ -31,18 +31,18 @@ protected:
             &SavedEntryPopoverModel::closeAddressPopover);
     }
 
-    void choose(TokenField field, const SavedEntry &entry)
+    void choose(TokenFieldKind field, const SavedEntry &entry)
     {
         model->tokenFieldMenuForRepresentedObject(field, entry, {100, 40});
     }
     void openNetwork()
     {
-        choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
+        choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(homeBssid));
         scheduler.runPending();
     }
     void openAddress()
     {
-        choose(TokenField::SavedAddresses, savedAddressEntry(address));
+        choose(TokenFieldKind::SavedAddresses, savedAddressEntry(address));
         scheduler.runPending();
     }
     const SavedEntryPopoverModel::State &state() const { return model->state(); }
@@ -54,7 +54,7 @@ protected:
 
 TEST_F(SavedEntryPopoverModelTest, OpensInTheNextTurnAroundThePointer)
 {
-    choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
+    choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(homeBssid));
     EXPECT_EQ(state().open, Popover::None);
     EXPECT_EQ(editing->editingNetworkDict(), savedNetworkEntry(homeBssid));
     scheduler.runPending();
@@ -86,8 +86,8 @@ TEST_F(SavedEntryPopoverModelTest, ShowsTheAddress)
 
 TEST_F(SavedEntryPopoverModelTest, OpensFromNoOtherField)
 {
-    choose(TokenField::QuickAddresses, savedAddressEntry(address));
-    choose(TokenField::Other, savedAddressEntry(address));
+    choose(TokenFieldKind::QuickAddresses, savedAddressEntry(address));
+    choose(TokenFieldKind::Other, savedAddressEntry(address));
     scheduler.runPending();
     EXPECT_EQ(state(), SavedEntryPopoverModel::State());
     EXPECT_FALSE(addressEditing.editingAddressDict());
@@ -96,7 +96,7 @@ TEST_F(SavedEntryPopoverModelTest, OpensFromNoOtherField)
 TEST_F(SavedEntryPopoverModelTest, GivesWayAtOnceToTheNextChosenToken)
 {
     openNetwork();
-    choose(TokenField::SavedAddresses, savedAddressEntry(address));
+    choose(TokenFieldKind::SavedAddresses, savedAddressEntry(address));
     EXPECT_EQ(state().open, Popover::None);
     EXPECT_FALSE(editing->editingNetworkDict());
     scheduler.runPending();
@@ -105,8 +105,8 @@ TEST_F(SavedEntryPopoverModelTest, GivesWayAtOnceToTheNextChosenToken)
 
 TEST_F(SavedEntryPopoverModelTest, OpensForTheLastOfTwoTokensChosenInOneTurn)
 {
-    choose(TokenField::SavedAddresses, savedAddressEntry(address));
-    choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
+    choose(TokenFieldKind::SavedAddresses, savedAddressEntry(address));
+    choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(officeBssid));
     QList<Popover> opened;
     QObject::connect(
         model.get(), &SavedEntryPopoverModel::changed, [&] { opened << state().open; });
@@ -141,7 +141,7 @@ TEST_F(SavedEntryPopoverModelTest, OfTheNextTokenIsNotClosedByTheNameBeforeIt)
 {
     openNetwork();
     model->controlTextDidEndEditing(u"Our house"_s);
-    choose(TokenField::SavedNetworks, savedNetworkEntry(officeBssid));
+    choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(officeBssid));
     scheduler.runPending();
     EXPECT_EQ(state().open, Popover::Network);
     EXPECT_EQ(state().name, u"Office"_s);
@@ -234,7 +234,7 @@ TEST_F(SavedEntryPopoverModelTest, HasNoTickButtonsForAnAddress)
 
 TEST_F(SavedEntryPopoverModelTest, MayBeGoneWhenItsTurnComes)
 {
-    choose(TokenField::SavedNetworks, savedNetworkEntry(homeBssid));
+    choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(homeBssid));
     model.reset();
     scheduler.runPending();
     EXPECT_TRUE(editing->editingNetworkDict());

@@ -62,20 +62,20 @@ TEST_F(SavedListsModelTest, ShowAtOnceWhatWasSavedBefore)
 TEST_F(SavedListsModelTest, ShowTheWordNameInAnyOtherField)
 {
     const SavedEntry entry{.name = u"X"_s, .bssid = homeBssid};
-    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, entry), u"name"_s);
-    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenField::Other, {}), u"name"_s);
-    for (const TokenField field :
-        {TokenField::SavedNetworks, TokenField::SavedAddresses, TokenField::QuickAddresses}) {
+    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenFieldKind::Other, entry), u"name"_s);
+    EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(TokenFieldKind::Other, {}), u"name"_s);
+    for (const TokenFieldKind field : {TokenFieldKind::SavedNetworks,
+             TokenFieldKind::SavedAddresses, TokenFieldKind::QuickAddresses}) {
         EXPECT_EQ(tokenFieldDisplayStringForRepresentedObject(field, entry), u"X"_s);
     }
 }
 
 TEST_F(SavedListsModelTest, OpenSomethingFromTheirTwoFieldsOnly)
 {
-    EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenField::SavedNetworks));
-    EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenField::SavedAddresses));
-    EXPECT_FALSE(tokenFieldHasMenuForRepresentedObject(TokenField::QuickAddresses));
-    EXPECT_FALSE(tokenFieldHasMenuForRepresentedObject(TokenField::Other));
+    EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenFieldKind::SavedNetworks));
+    EXPECT_TRUE(tokenFieldHasMenuForRepresentedObject(TokenFieldKind::SavedAddresses));
+    EXPECT_FALSE(tokenFieldHasMenuForRepresentedObject(TokenFieldKind::QuickAddresses));
+    EXPECT_FALSE(tokenFieldHasMenuForRepresentedObject(TokenFieldKind::Other));
 }
 
 TEST_F(SavedListsModelTest, OrderQuickAddressesByTheirAddressIgnoringCase)

@@ -66,6 +66,21 @@ TEST_F(RulesListModelTest, OfTheWifiInterfaceStandUnderTheNetworksName)
     EXPECT_EQ(format(model.state().filter), u"network == 'empty'"_s);
 }
 
+TEST_F(RulesListModelTest, AreThoseOfTheSelectedInterfaceWheneverTheyAreShown)
+{
+    addRule({.name = u"mine"_s});
+    model.toggleRulesPopover();
+    EXPECT_TRUE(model.state().popoverShown);
+    EXPECT_EQ(names(), QStringList{u"mine"_s});
+    model.toggleRulesPopover();
+    EXPECT_FALSE(model.state().popoverShown);
+    select(en1);
+    model.toggleRulesPopover();
+    EXPECT_EQ(names(), QStringList());
+    model.popoverWillClose();
+    EXPECT_FALSE(model.state().popoverShown);
+}
+
 TEST_F(RulesListModelTest, StandEnabledFirstAndByName)
 {
     addRule({.name = u"b"_s, .enabled = false});

@@ -30,7 +30,7 @@ protected:
 
     const MainWindowModel::State &shown() const { return model.state(); }
 
-    MainWindowModel model{{settings, scheduler, devices, current, changer, helper}};
+    MainWindowModel model{{settings, scheduler, devices, current, changer}};
 };
 
 TEST_F(MainWindowModelTest, TheSelectionButtonListsTheDevicesInTheirOrderWithTheSelectedOne)
@@ -76,18 +76,16 @@ TEST_F(MainWindowModelTest, TheDetailsAreThoseOfTheSelectedInterface)
     EXPECT_FALSE(shown().linkActive);
 }
 
-TEST_F(MainWindowModelTest, WithoutTheHelperTheFieldIsDisabledAndTheHintIsShown)
+TEST_F(MainWindowModelTest, WithoutTheHelperTheFieldIsDisabled)
 {
     model.setHelperInstalled(false);
     EXPECT_FALSE(shown().fieldEnabled);
     EXPECT_FALSE(shown().randomizeEnabled);
     EXPECT_FALSE(shown().restoreEnabled);
-    EXPECT_TRUE(shown().readMeVisible);
 
     model.setHelperInstalled(true);
     EXPECT_TRUE(shown().fieldEnabled);
     EXPECT_TRUE(shown().randomizeEnabled);
-    EXPECT_FALSE(shown().readMeVisible);
 }
 
 TEST_F(MainWindowModelTest, WithoutAnInterfaceNothingIsOfferedAndTheButtonsSayWhy)
@@ -303,14 +301,6 @@ TEST_F(MainWindowModelTest, AnAppliedAddressIsShownInDisplayCase)
     EXPECT_EQ(shown().fieldText, u"02:AA:BB:CC:DD:EE"_s);
 }
 
-TEST_F(MainWindowModelTest, TheInstallButtonAsksTheService)
-{
-    machine.helper.clearJournal();
-    model.installHelper();
-    scheduler.runPending();
-    EXPECT_TRUE(machine.helper.journal().contains(u"install"_s));
-}
-
 TEST_F(MainWindowModelTest, AChosenInterfaceIsSelected)
 {
     model.changeInterfacefromPopup(wifi);
@@ -327,14 +317,66 @@ TEST_F(MainWindowModelTest, NothingIsAnnouncedWhenNothingChanges)
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(MainWindowModelTest, TheHintIsBoldBlueAndFourteenPointsLarge)
+TEST_F(MainWindowModelTest, TheLineBelowTheFieldSaysWhatCanBeDone)
 {
-    const MainWindowModel::ReadMeStyle style = MainWindowModel::readMeStyle();
-    EXPECT_EQ(style.pointSize, 14);
-    EXPECT_DOUBLE_EQ(style.red, 0.43);
-    EXPECT_DOUBLE_EQ(style.green, 0.61);
-    EXPECT_DOUBLE_EQ(style.blue, 0.99);
-    EXPECT_DOUBLE_EQ(style.alpha, 1.0);
+    using Line = AddressFieldLine;
+    EXPECT_EQ(shown().fieldLine, Line::forText({}, {})) << "the address in use";
+    model.editField(u"02:00"_s);
+    EXPECT_EQ(shown().fieldLine, Line::forText(u"02:00"_s, {}));
+    model.setHelperInstalled(false);
+    EXPECT_EQ(shown().fieldLine, Line::withoutHelper());
+    model.prepareWindow();
+    EXPECT_EQ(shown().fieldLine, Line()) << "nothing is known of the helper yet";
+    model.setHelperInstalled(true);
+    settings.set(keys::deviceDict, QVariant());
+    model.populateSelectionButton();
+    EXPECT_EQ(shown().fieldLine, Line::withoutInterface());
+}
+
+TEST_F(MainWindowModelTest, AChangeUnderWayAndItsResultStandBelowTheField)
+{
+    machine.helper.changeTakes = std::chrono::seconds(3);
+    model.editField(u"02:AA:BB:CC:DD:EE"_s);
+    model.changeMacAddress();
+    scheduler.advance(std::chrono::seconds(1));
+    EXPECT_TRUE(shown().changing);
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::changing());
+    scheduler.advance(std::chrono::seconds(5));
+    model.populateHexField();
+    scheduler.runPending();
+    EXPECT_FALSE(shown().changing);
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult(true, {}));
+    model.editField(u"02"_s);
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forText(u"02"_s, {}));
+}
+
+TEST_F(MainWindowModelTest, AChangeOfAnotherInterfaceIsNotShown)
+{
+    changer.updateMacAddressWithAddress(wifi, u"02:AA:BB:CC:DD:EE"_s);
+    const AddressFieldLine before = shown().fieldLine;
+    scheduler.advance(std::chrono::seconds(5));
+    EXPECT_EQ(shown().fieldLine, before);
+    EXPECT_FALSE(shown().changing);
+    select(wifi);
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult(true, {})) << "but with it";
+}
+
+TEST_F(MainWindowModelTest, ItsButtonOpensAndClosesTheHardwarePopover)
+{
+    model.toggleHardwarePopover();
+    EXPECT_TRUE(shown().hardwarePopoverShown);
+    model.toggleHardwarePopover();
+    EXPECT_FALSE(shown().hardwarePopoverShown);
+    model.toggleHardwarePopover();
+    model.hardwarePopoverWillClose();
+    EXPECT_FALSE(shown().hardwarePopoverShown);
+}
+
+TEST_F(MainWindowModelTest, ARestoreClosesTheHardwarePopover)
+{
+    model.toggleHardwarePopover();
+    model.restoreDefaultAddress();
+    EXPECT_FALSE(shown().hardwarePopoverShown);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "ui/widgets/DetailsArea.h"
 
 #include "ui/theme/Theme.h"
-#include "ui/window/InterfaceDetails.h"
+#include "ui/window/FactsCard.h"
 #include "ui/window/MainWindow.h"
 #include "unit/ui/WindowFixture.h"
 
@@ -23,9 +23,15 @@ protected:
     DetailsAreaTest()
     {
         theme.apply();
-        view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+        view = std::make_unique<MainWindow>(
+            MainWindow::Models{window, readMe, presence}, theme, taskBar);
         presence.openWindow();
         area = view->findChild<DetailsArea *>();
+        for (int row = 0; row < 6; ++row) {
+            auto *fact = new QLabel(u"fact"_s);
+            fact->setFixedHeight(Theme::rowHeight);
+            view->facts().add(fact);
+        }
         section->setFixedHeight(20);
         view->addDetails(section);
         settle();
@@ -77,11 +83,11 @@ TEST_F(DetailsAreaTest, TheHintTakesItsRoomFromTheDetails)
 {
     makeSection(3000);
     const int before = area->height();
-    window.setHelperInstalled(false);
+    readMe.setHelperInstalled(false);
     settle();
     EXPECT_LT(area->height(), before);
     EXPECT_LE(view->height(), view->screen()->availableGeometry().height());
-    window.setHelperInstalled(true);
+    readMe.setHelperInstalled(true);
     settle();
     EXPECT_EQ(area->height(), before);
 }
@@ -96,7 +102,7 @@ TEST_F(DetailsAreaTest, AFewRowsStayInSight)
 TEST_F(DetailsAreaTest, TakesNoKeyboardForItself)
 {
     EXPECT_EQ(area->focusPolicy(), Qt::NoFocus);
-    EXPECT_TRUE(area->isAncestorOf(&view->details()));
+    EXPECT_TRUE(area->isAncestorOf(&view->facts()));
 }
 
 } // namespace

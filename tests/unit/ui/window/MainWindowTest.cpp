@@ -3,6 +3,9 @@
 #include "ui/window/MainWindow.h"
 
 #include "ui/theme/Theme.h"
+#include "ui/widgets/InlineLine.h"
+#include "ui/window/FactsCard.h"
+#include "ui/window/HardwareRow.h"
 #include "unit/ui/WindowFixture.h"
 
 #include <QAccessible>
@@ -44,8 +47,16 @@ protected:
 
     void makeView()
     {
-        view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+        view = std::make_unique<MainWindow>(models(), theme, taskBar);
+        view->facts().add(new HardwareRow(window, theme));
         presence.openWindow();
+    }
+
+    MainWindow::Models models() { return {window, readMe, presence}; }
+
+    QString shownIn(const char *row) const
+    {
+        return view->findChild<RowButton *>(QString::fromLatin1(row))->value();
     }
 
     template <typename T>
@@ -92,18 +103,17 @@ TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
             EXPECT_FALSE(widget->accessibleDescription().isEmpty()) << name.toStdString();
         }
     }
-    for (const char *name :
-        {"Apply address", "Randomize address", "Restore factory address", "Install helper"}) {
+    for (const char *name : {"Apply address", "Randomize address", "Restore hardware address",
+             "Install helper", "Helper hint"}) {
         named<QPushButton>(name);
     }
     named<QLineEdit>("Address");
     named<QComboBox>("Interface");
-    named<QLabel>("Helper hint");
 }
 
 TEST_F(MainWindowTest, NothingIsMadeForTheDisplayBeforeTheWindowIsShown)
 {
-    view = std::make_unique<MainWindow>(window, presence, theme, taskBar);
+    view = std::make_unique<MainWindow>(models(), theme, taskBar);
     presence.showMenuBarItem(true);
     presence.setStatusItemAvailable(true);
     settings.set(keys::hideDock, true);
@@ -121,18 +131,18 @@ TEST_F(MainWindowTest, NothingIsMadeForTheDisplayBeforeTheWindowIsShown)
 TEST_F(MainWindowTest, ShowsTheSelectedInterface)
 {
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wired);
-    EXPECT_EQ(view->findChild<QLabel *>(u"currentAddress"_s)->text(), u"02:00:00:00:00:01"_s);
-    EXPECT_EQ(view->findChild<QLabel *>(u"hardwareAddress"_s)->text(), u"3C:22:FB:00:00:01"_s);
+    EXPECT_EQ(named<QLineEdit>("Address")->text(), u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(shownIn("hardwareButton"), u"3C:22:FB:00:00:01"_s);
     EXPECT_EQ(view->findChild<QLabel *>(u"ipAddress"_s)->text(), u"192.0.2.10"_s);
-    EXPECT_TRUE(view->findChild<QLabel *>(u"hardwareIndicator"_s)->isVisible());
+    EXPECT_TRUE(view->findChild<QWidget *>(u"hardwareIndicator"_s)->isVisible());
     EXPECT_EQ(view->findChild<QLabel *>(u"portName"_s)->text(), u"Ethernet"_s);
     EXPECT_EQ(view->findChild<QLabel *>(u"linkState"_s)->text(), u"Active"_s);
 
     select(wifi);
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wifi);
-    EXPECT_FALSE(view->findChild<QLabel *>(u"hardwareIndicator"_s)->isVisible());
+    EXPECT_FALSE(view->findChild<QWidget *>(u"hardwareIndicator"_s)->isVisible());
     EXPECT_EQ(view->findChild<QLabel *>(u"linkState"_s)->text(), u"Inactive"_s);
-    EXPECT_FALSE(named<QPushButton>("Restore factory address")->isEnabled());
+    EXPECT_FALSE(named<QPushButton>("Restore hardware address")->isEnabled());
 }
 
 TEST_F(MainWindowTest, AChoiceSelectsTheInterfaceAndIsShownOnceItIsSelected)
@@ -222,14 +232,13 @@ TEST_F(MainWindowTest, ToAssistiveTechnologyItIsAWindow)
 
 TEST_F(MainWindowTest, TheHintIsDrawnInTheModelsStyle)
 {
-    window.setHelperInstalled(false);
-    const auto *hint = named<QLabel>("Helper hint");
-    const auto look = MainWindowModel::readMeStyle();
+    readMe.setHelperInstalled(false);
+    const auto *hint = named<QPushButton>("Helper hint");
+    const auto look = ReadMeModel::style();
     EXPECT_EQ(look.pointSize, 14);
     EXPECT_EQ(hint->font().pointSize(), look.pointSize);
     EXPECT_TRUE(hint->font().bold());
-    EXPECT_TRUE(hint->alignment().testFlag(Qt::AlignLeft));
-    const QColor color = hint->palette().color(QPalette::WindowText);
+    const QColor color = hint->palette().color(QPalette::ButtonText);
     EXPECT_NEAR(color.redF(), look.red, 0.005);
     EXPECT_NEAR(color.greenF(), look.green, 0.005);
     EXPECT_NEAR(color.blueF(), look.blue, 0.005);
@@ -241,7 +250,7 @@ TEST_F(MainWindowTest, ItsButtonsChangeTheAddress)
     named<QPushButton>("Randomize address")->click();
     scheduler.runPending();
     EXPECT_EQ(addressOf(wired), u"AA:01:02:03:04:05"_s);
-    named<QPushButton>("Restore factory address")->click();
+    named<QPushButton>("Restore hardware address")->click();
     scheduler.runPending();
     EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
     window.editField(u"02:00:5e:10:ab:cd"_s);
@@ -257,7 +266,7 @@ TEST_F(MainWindowTest, AButtonSaysInItsToolTipWhatItDoesOrWhyItDoesNothing)
     EXPECT_EQ(does, randomize->accessibleDescription());
     settings.set(keys::currentInterfaceDict, QVariantMap());
     window.populateSelectionButton();
-    for (const char *name : {"Apply address", "Randomize address", "Restore factory address"}) {
+    for (const char *name : {"Apply address", "Randomize address", "Restore hardware address"}) {
         EXPECT_FALSE(named<QPushButton>(name)->isEnabled()) << name;
         EXPECT_TRUE(named<QPushButton>(name)->toolTip().startsWith(u"No interface is selected"_s))
             << name;
@@ -287,30 +296,87 @@ TEST_F(MainWindowTest, ReturnInTheFieldAppliesOnlyWhatCanBeApplied)
 
 TEST_F(MainWindowTest, WithoutTheHelperItOffersToInstallIt)
 {
-    auto *install = named<QPushButton>("Install helper");
+    auto *install = view->findChild<QPushButton *>(u"installButton"_s);
+    EXPECT_EQ(install->accessibleName(), u"Install helper"_s);
     EXPECT_FALSE(install->isVisible());
     window.setHelperInstalled(false);
+    readMe.setHelperInstalled(false);
     EXPECT_TRUE(install->isVisible());
-    EXPECT_TRUE(named<QLabel>("Helper hint")->isVisible());
+    EXPECT_TRUE(named<QPushButton>("Helper hint")->isVisible());
     EXPECT_FALSE(named<QLineEdit>("Address")->isEnabled());
     install->click();
     EXPECT_TRUE(machine.helper.journal().contains(u"install"_s));
-    window.setInstalling(true);
+    readMe.setInstalling(true);
     EXPECT_FALSE(install->isEnabled());
 }
 
 TEST_F(MainWindowTest, TheHelperIsExplainedOnDemand)
 {
-    window.setHelperInstalled(false);
+    readMe.setHelperInstalled(false);
     auto *explanation = named<QLabel>("About the helper");
     EXPECT_FALSE(explanation->isVisible());
-    for (auto *button : view->findChildren<QPushButton *>()) {
-        if (button->isCheckable()) {
-            button->click();
-        }
-    }
+    named<QPushButton>("Helper hint")->click();
     EXPECT_TRUE(explanation->isVisible());
-    EXPECT_EQ(explanation->text(), MainWindowModel::readMeText());
+    EXPECT_EQ(explanation->text(), ReadMeModel::text());
+    named<QPushButton>("Helper hint")->click();
+    EXPECT_FALSE(explanation->isVisible());
+}
+
+TEST_F(MainWindowTest, TheHardwareAddressIsRestoredFromItsPopover)
+{
+    auto *row = view->findChild<RowButton *>(u"hardwareButton"_s);
+    auto *restore = named<QPushButton>("Restore hardware address");
+    EXPECT_FALSE(restore->isVisible());
+    row->click();
+    EXPECT_TRUE(restore->isVisible());
+    EXPECT_TRUE(restore->isEnabled());
+    restore->click();
+    EXPECT_FALSE(restore->isVisible()) << "it closes with the act";
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    select(wired);
+    EXPECT_FALSE(restore->isEnabled());
+}
+
+TEST_F(MainWindowTest, TheLineBelowTheFieldSaysWhatTheModelSays)
+{
+    const auto *line = view->findChild<InlineLine *>();
+    EXPECT_EQ(line->text(), window.state().fieldLine.text);
+    EXPECT_EQ(line->kind(), InlineLine::Kind::Muted);
+    window.editField(u"03:00:5e:10:ab:cd"_s);
+    EXPECT_EQ(line->text(), u"Group address: most adapters refuse it."_s);
+    EXPECT_EQ(line->kind(), InlineLine::Kind::Notice);
+    machine.helper.mood = FakeHelper::Mood::Refusing;
+    window.changeMacAddress();
+    scheduler.runPending();
+    EXPECT_EQ(line->kind(), InlineLine::Kind::Danger);
+    EXPECT_TRUE(line->text().startsWith(u"Not changed: "_s)) << line->text().toStdString();
+}
+
+TEST_F(MainWindowTest, KeysDoWhatTheirControlsDo)
+{
+    auto *field = named<QLineEdit>("Address");
+    view->setFocus();
+    trigger(Qt::CTRL | Qt::Key_L);
+    EXPECT_EQ(view->focusWidget(), field);
+    EXPECT_EQ(field->selectedText(), field->text());
+    trigger(Qt::CTRL | Qt::Key_R);
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), u"AA:01:02:03:04:05"_s);
+    select(wired);
+    trigger(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    scheduler.runPending();
+    EXPECT_EQ(addressOf(wired), u"3C:22:FB:00:00:01"_s);
+    select(wired);
+    const auto before = machine.helper.changes().size();
+    trigger(Qt::CTRL | Qt::SHIFT | Qt::Key_R);
+    scheduler.runPending();
+    EXPECT_EQ(machine.helper.changes().size(), before) << "there is nothing to restore";
+}
+
+TEST_F(MainWindowTest, TheFieldHasTheKeyboardFirst)
+{
+    EXPECT_EQ(view->focusWidget(), named<QLineEdit>("Address"));
 }
 
 TEST_F(MainWindowTest, ClosedWithTheStatusItemInSightItOnlyHides)
@@ -387,7 +453,7 @@ TEST_F(MainWindowTest, NothingIsCutOffInAWordyLanguage)
 {
     WordyLanguage language;
     QCoreApplication::installTranslator(&language);
-    window.setHelperInstalled(false);
+    readMe.setHelperInstalled(false);
     makeView();
     QCoreApplication::removeTranslator(&language);
     QCoreApplication::processEvents();
@@ -413,19 +479,17 @@ TEST_F(MainWindowTest, TheTabKeyGoesFromTopToBottom)
 {
     window.editField(u"02:00:5e:10:ab:cd"_s);
     QList<QPoint> places;
-    QWidget *first = named<QComboBox>("Interface");
+    QWidget *first = named<QLineEdit>("Address");
     QWidget *widget = first;
     do {
         if (widget->isEnabled() && widget->isVisible() &&
             (widget->focusPolicy() & Qt::TabFocus) != 0 &&
-            (qobject_cast<QPushButton *>(widget) ||
-                widget->parentWidget() == first->parentWidget() ||
-                qobject_cast<QLineEdit *>(widget))) {
+            (qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget))) {
             places.append(widget->mapTo(view.get(), QPoint(0, widget->height() / 2)));
         }
         widget = widget->nextInFocusChain();
     } while (widget != first);
-    ASSERT_EQ(places.size(), 5);
+    ASSERT_EQ(places.size(), 4) << "field, Apply, Randomize, hardware address";
     for (qsizetype index = 1; index < places.size(); ++index) {
         const QPoint before = places.at(index - 1);
         const QPoint after = places.at(index);

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// The line below the address field: what the text in the field is, and what can be done with it.
+struct AddressFieldLine
+{
+    enum class Kind
+    {
+        Hint,
+        Done,
+        Notice,
+        Failure,
+    };
+
+    Kind kind = Kind::Hint;
+    QString text;
+
+    bool operator==(const AddressFieldLine &) const = default;
+
+    /// For `fieldText`, in display form, while the interface has the address `current`.
+    static AddressFieldLine forText(const QString &fieldText, const QString &current);
+    static AddressFieldLine forResult(bool isInPlace, const QString &failure);
+    static AddressFieldLine changing();
+    static AddressFieldLine withoutHelper();
+    static AddressFieldLine withoutInterface();
+};
+
+} // namespace quillon

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/networks/NetworkRow.h"
+
+#include "base/Localized.h"
+#include "presentation/networks/NetworkInfoModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/HeartButton.h"
+#include "ui/widgets/LiveGraph.h"
+#include "ui/widgets/PlainText.h"
+#include "ui/widgets/Popover.h"
+#include "ui/widgets/PopoverHead.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int popoverWidth = 330;
+constexpr int widestValue = 190;
+
+} // namespace
+
+NetworkRow::NetworkRow(NetworkInfoModel &model, const Theme &theme, QWidget *parent)
+    : PopoverRow(theme, localized("Network"), new QWidget, parent)
+    , m_model(model)
+    , m_head(new PopoverHead(theme, u"wireless"_s))
+    , m_heart(new HeartButton(theme))
+    , m_grid(new QGridLayout)
+    , m_graph(new LiveGraph(theme))
+{
+    setObjectName(u"networkButton"_s);
+    popover().setBodyWidth(popoverWidth);
+    makeContent();
+    connect(this, &RowButton::clicked, &m_model, &NetworkInfoModel::toggleNetworkInfoPopover);
+    connect(this, &PopoverRow::popoverClosed, &m_model, &NetworkInfoModel::popoverWillClose);
+    connect(m_heart, &QToolButton::clicked, &m_model, &NetworkInfoModel::chooseFavoriteButton);
+    connect(&m_model, &NetworkInfoModel::changed, this, &NetworkRow::refresh);
+    refresh();
+}
+
+void NetworkRow::makeContent()
+{
+    m_head->addAtEnd(m_heart);
+    m_grid->setHorizontalSpacing(Theme::unit + 4);
+    m_grid->setVerticalSpacing(Theme::unit / 2);
+    m_grid->setColumnStretch(1, 1);
+    for (const auto &row : m_model.state().rows) {
+        auto *label = plainLabel(row.label);
+        label->setProperty("look", u"caption"_s);
+        auto *value = plainLabel();
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setBuddy(value);
+        const int line = static_cast<int>(m_values.size());
+        m_grid->addWidget(label, line, 0);
+        m_grid->addWidget(value, line, 1);
+        m_values.append(value);
+    }
+    auto *column = new QVBoxLayout(popover().content());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::unit);
+    column->addWidget(m_head);
+    column->addLayout(m_grid);
+    column->addWidget(m_graph);
+}
+
+void NetworkRow::refresh()
+{
+    const auto &state = m_model.state();
+    setVisible(state.hasRadio);
+    setHasPopover(state.buttonVisible);
+    setValue(state.name, state.buttonVisible ? ValueLook::Text : ValueLook::Muted);
+    refreshDetails();
+    setPopoverShown(state.popoverShown);
+}
+
+void NetworkRow::refreshDetails()
+{
+    const auto &state = m_model.state();
+    m_head->setTitle(state.name);
+    m_heart->setVisible(state.buttonVisible);
+    m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
+    for (qsizetype row = 0; row < m_values.size(); ++row) {
+        const QString value = state.rows.value(row).value;
+        QLabel &label = *m_values.at(row);
+        const QString look = value.isEmpty() ? u"caption"_s : u"value"_s;
+        if (label.property("look") != look) {
+            label.setProperty("look", look);
+            label.setStyleSheet(label.styleSheet());
+        }
+        showLine(label, value.isEmpty() ? u"–"_s : value, widestValue);
+        if (value.isEmpty()) {
+            label.setAccessibleName(localized("None"));
+        }
+    }
+    m_graph->clear();
+    for (const auto &sample : state.signal) {
+        m_graph->add({sample.time, sample.signal, sample.noise});
+    }
+}
+
+} // namespace quillon

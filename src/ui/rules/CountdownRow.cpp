@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/rules/CountdownRow.h"
+
+#include "base/Localized.h"
+#include "presentation/rules/CountdownModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/PlainText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+CountdownRow::CountdownRow(CountdownModel &model, const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_label(plainLabel())
+    , m_pause(makeButton(
+          u"pauseButton"_s, localized("Pause"), theme.icon(u"pause"_s, Theme::Ink::Text)))
+    , m_resume(makeButton(
+          u"resumeButton"_s, localized("Resume"), theme.icon(u"resume"_s, Theme::Ink::Text)))
+{
+    m_label->setObjectName(u"timerLabel"_s);
+    // A text that is too long takes a second line instead of widening the window.
+    m_label->setWordWrap(true);
+    setMinimumHeight(Theme::rowHeight);
+    auto *line = new QHBoxLayout(this);
+    line->setContentsMargins(Theme::unit, 0, Theme::unit / 2, 0);
+    line->setSpacing(Theme::unit / 2);
+    line->addWidget(m_label, 1);
+    line->addWidget(m_pause);
+    line->addWidget(m_resume);
+    connect(m_pause, &QToolButton::clicked, &m_model, &CountdownModel::pauseCountdownTimer);
+    connect(m_resume, &QToolButton::clicked, &m_model, &CountdownModel::resumeCountdownTimer);
+    connect(&m_model, &CountdownModel::changed, this, &CountdownRow::refresh);
+    refresh();
+}
+
+QToolButton *CountdownRow::makeButton(
+    const QString &objectName, const QString &name, const QIcon &icon)
+{
+    auto *button = new QToolButton;
+    button->setObjectName(objectName);
+    button->setProperty("look", u"quiet"_s);
+    button->setIcon(icon);
+    button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
+    button->setFixedSize(Theme::target, Theme::target);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setAccessibleName(name);
+    button->setToolTip(plainToolTip(name));
+    return button;
+}
+
+void CountdownRow::refresh()
+{
+    const auto &state = m_model.state();
+    showLine(*m_label, state.label);
+    m_pause->setVisible(state.buttonsVisible);
+    m_resume->setVisible(state.buttonsVisible);
+    m_pause->setEnabled(state.pauseEnabled);
+    m_resume->setEnabled(state.resumeEnabled);
+    setVisible(state.buttonsVisible || !state.label.isEmpty());
+}
+
+} // namespace quillon

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/rules/RuleSwitchLine.h"
+
+#include "base/Localized.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/Badge.h"
+#include "ui/widgets/PlainText.h"
+#include "ui/widgets/ToggleSwitch.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace quillon {
+
+namespace {
+
+constexpr int widestName = 150;
+
+} // namespace
+
+RuleSwitchLine::RuleSwitchLine(const Theme &theme, QWidget *parent)
+    : QWidget(parent)
+    , m_switch(new ToggleSwitch(theme))
+    , m_name(plainLabel())
+    , m_active(new Badge(theme, localized("Active")))
+{
+    setMinimumHeight(Theme::rowHeight);
+    auto *line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(Theme::unit + 4);
+    line->addWidget(m_switch);
+    line->addWidget(m_name, 1);
+    line->addWidget(m_active);
+    connect(m_switch, &QCheckBox::clicked, this, &RuleSwitchLine::switched);
+}
+
+void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
+{
+    const QString name = plainLine(rule.name);
+    showLine(*m_name, rule.name, widestName);
+    m_name->setToolTip(plainToolTip(rule.name));
+    m_switch->setChecked(rule.enabled);
+    m_switch->setAccessibleName(name);
+    m_switch->setAccessibleDescription(rule.active ? localized("Active") : QString());
+    m_active->setVisible(rule.active);
+}
+
+} // namespace quillon

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/window/TextFieldBackgroundView.h"
+
+class QHBoxLayout;
+class QPushButton;
+
+namespace quillon {
+
+class AddressField;
+class Badge;
+class InlineLine;
+class Theme;
+
+/// The address that the interface shows, and the ways to another one.
+class AddressCard : public TextFieldBackgroundView
+{
+    Q_OBJECT
+
+public:
+    AddressCard(MainWindowModel &model, const Theme &theme, QWidget *parent = nullptr);
+
+    /// Puts a control beside the button for a random address.
+    void addChoice(QWidget *control);
+    AddressField &field() const { return *m_field; }
+    /// Puts the keyboard on the button that applies what is in the field, if that can be applied.
+    void focusApply();
+
+public Q_SLOTS:
+    void randomize();
+
+private:
+    QWidget *makeHead();
+    void makeField();
+    void makeRandomize(const Theme &theme);
+    void refresh();
+
+    MainWindowModel &m_model;
+    Badge *m_changed;
+    AddressField *m_field;
+    QPushButton *m_apply;
+    InlineLine *m_line;
+    QPushButton *m_randomize;
+    QHBoxLayout *m_choices;
+};
+
+} // namespace quillon

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFrame>
+
+class QPushButton;
+
+namespace quillon {
+
+class Popover;
+class ReadMeModel;
+class Theme;
+
+/// Says that the helper is missing, and has it installed. The hint itself opens what explains it.
+class ReadMeStrip : public QFrame
+{
+    Q_OBJECT
+
+public:
+    ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent = nullptr);
+    ~ReadMeStrip() override;
+
+private:
+    QPushButton *makeInstall();
+    void makePopover();
+    void refresh();
+    void resetStyle();
+
+    ReadMeModel &m_model;
+    const Theme &m_theme;
+    QPushButton *m_hint;
+    QPushButton *m_install;
+    QPushButton *m_installExplained;
+    Popover *m_popover;
+};
+
+} // namespace quillon

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/networks/NetworkRow.h"
+
+#include "networks/SavedNetworks.h"
+#include "presentation/networks/NetworkInfoModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/HeartButton.h"
+#include "ui/widgets/LiveGraph.h"
+#include "ui/widgets/Popover.h"
+#include "unit/networks/NetworkFixture.h"
+
+#include <QLabel>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+using namespace std::chrono_literals;
+
+class NetworkRowTest : public NetworkFixture
+{
+protected:
+    NetworkRowTest()
+    {
+        QObject::connect(&network, &WiFiNetwork::networkButtonShown, &model,
+            &NetworkInfoModel::showNetworkButton);
+        network.updateWiFiNetwork();
+    }
+    QStringList texts() const
+    {
+        QStringList texts;
+        for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {
+            texts.append(label->text());
+        }
+        return texts;
+    }
+
+    Theme theme;
+    SavedNetworks saved{settings, network};
+    NetworkInfoModel model{{settings, scheduler, table, network, saved}};
+    NetworkRow row{model, theme};
+};
+
+TEST_F(NetworkRowTest, ShowsTheNetworkAndWhatTheRadioKnowsOfIt)
+{
+    EXPECT_EQ(row.value(), u"Home"_s);
+    EXPECT_TRUE(row.hasPopover());
+    row.click();
+    EXPECT_TRUE(model.state().popoverShown);
+    for (const auto &text : {u"WPA2 Personal"_s, u"-54 dBm"_s, u"866.7 Mbps"_s, u"9"_s}) {
+        EXPECT_TRUE(texts().contains(text)) << text.toStdString();
+    }
+}
+
+TEST_F(NetworkRowTest, ItsGraphGrowsWhileItIsShown)
+{
+    row.click();
+    scheduler.advance(6s);
+    EXPECT_EQ(row.popover().content()->findChild<LiveGraph *>()->samples().size(), 3);
+}
+
+TEST_F(NetworkRowTest, ItsHeartSavesTheNetworkAndForgetsIt)
+{
+    auto *heart = row.popover().content()->findChild<HeartButton *>();
+    EXPECT_EQ(heart->accessibleName(), u"Add Network to Favorites"_s);
+    heart->click();
+    EXPECT_TRUE(saved.isCurrentNetworkSaved());
+    EXPECT_TRUE(heart->isFavorite());
+    EXPECT_EQ(heart->accessibleName(), u"Remove Network from Favorites"_s);
+    heart->click();
+    EXPECT_FALSE(saved.isCurrentNetworkSaved());
+}
+
+TEST_F(NetworkRowTest, OnNoNetworkItSaysSoAndOpensNothing)
+{
+    radio.leave();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(row.value(), u"Not currently connected..."_s);
+    EXPECT_FALSE(row.hasPopover());
+    EXPECT_TRUE(texts().contains(u"–"_s));
+}
+
+TEST_F(NetworkRowTest, WithoutARadioThereIsNoRow)
+{
+    EXPECT_FALSE(row.isHidden());
+    settings.set(keys::deviceDict, QVariant());
+    EXPECT_TRUE(row.isHidden());
+}
+
+} // namespace
+} // namespace quillon::test

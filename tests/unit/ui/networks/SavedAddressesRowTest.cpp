@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/networks/SavedAddressesRow.h"
+
+#include "networks/SavedAddresses.h"
+#include "presentation/networks/SavedListsModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/HeartButton.h"
+#include "ui/widgets/Popover.h"
+#include "ui/widgets/TokenField.h"
+#include "unit/ui/WindowFixture.h"
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+class SavedAddressesRowTest : public WindowFixture
+{
+protected:
+    SavedAddressesRowTest()
+    {
+        QObject::connect(&row, &SavedAddressesRow::filled, [this] { ++filled; });
+        settings.addObserver(
+            keys::savedAddresses, [this](const auto &) { saved.updateQuickAddressesField(); });
+    }
+    TokenField *tokens() const
+    {
+        return row.popover().content()->findChild<TokenField *>(u"quickAddressesField"_s);
+    }
+    HeartButton *heart() const { return row.popover().content()->findChild<HeartButton *>(); }
+
+    Theme theme;
+    SavedAddresses addresses{settings};
+    SavedListsModel saved{settings, addresses};
+    SavedAddressesRow row{saved, window, theme};
+    int filled = 0;
+};
+
+TEST_F(SavedAddressesRowTest, ItsHeartSavesTheCurrentAddressAndForgetsIt)
+{
+    EXPECT_EQ(row.value(), u"None"_s);
+    EXPECT_EQ(heart()->accessibleName(), u"Add Address to Favorites"_s);
+    heart()->click();
+    EXPECT_EQ(row.value(), u"02:00:00:00:00:01"_s);
+    EXPECT_TRUE(heart()->isFavorite());
+    ASSERT_EQ(tokens()->entries().size(), 1);
+    EXPECT_EQ(tokens()->entries().first().text, u"02:00:00:00:00:01"_s);
+    heart()->click();
+    EXPECT_TRUE(tokens()->entries().isEmpty());
+}
+
+TEST_F(SavedAddressesRowTest, AChosenAddressIsPutIntoTheFieldAndThePopoverCloses)
+{
+    settings.set(keys::savedAddresses,
+        QVariantMap{{u"02:00:00:00:00:77"_s,
+            QVariantMap{{u"address"_s, u"02:00:00:00:00:77"_s}, {u"name"_s, u"Office"_s}}}});
+    EXPECT_EQ(row.value(), u"Office"_s);
+    row.click();
+    EXPECT_TRUE(saved.state().softwarePopoverShown);
+    Q_EMIT tokens()->activated(0);
+    EXPECT_FALSE(saved.state().softwarePopoverShown);
+    EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:77"_s);
+    EXPECT_TRUE(window.state().updateEnabled);
+    EXPECT_EQ(filled, 1);
+}
+
+TEST_F(SavedAddressesRowTest, ThePopoverClosesWhenADragHasEnded)
+{
+    row.click();
+    Q_EMIT tokens()->dragBegan();
+    EXPECT_TRUE(saved.state().softwarePopoverShown) << "it is what is dragged from";
+    Q_EMIT tokens()->dragEnded();
+    EXPECT_FALSE(saved.state().softwarePopoverShown);
+}
+
+} // namespace
+} // namespace quillon::test
