@@ -43,9 +43,13 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     grid->addWidget(m_field, 0, 0);
     grid->addWidget(caption, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(m_toggle, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
-    caption->setContentsMargins(Theme::unit + 4, 0, 0, 0);
-    m_field->setTextMargins(caption->sizeHint().width() - Theme::unit / 2, 0,
-        m_toggle->sizeHint().width() - Theme::unit / 2, 0);
+    // Margins are not mirrored by themselves.
+    const bool isMirrored = isRightToLeft();
+    const int inset = Theme::unit + 4;
+    caption->setContentsMargins(isMirrored ? 0 : inset, 0, isMirrored ? inset : 0, 0);
+    const int before = caption->sizeHint().width() - Theme::unit / 2;
+    const int after = m_toggle->sizeHint().width() - Theme::unit / 2;
+    m_field->setTextMargins(isMirrored ? after : before, 0, isMirrored ? before : after, 0);
     connectModel();
     refresh();
 }
