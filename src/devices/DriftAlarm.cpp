@@ -20,7 +20,7 @@ namespace {
 
 // The user is to know within a second of the change, whether or not the owner answers; in a storm
 // of events half of that has gone before we look.
-constexpr std::chrono::milliseconds ownerLimit{400};
+constexpr std::chrono::milliseconds ownerLimit{500};
 
 // A radio on no network: its owner scans with addresses of its own.
 bool isScanning(const DeviceRecord &record)

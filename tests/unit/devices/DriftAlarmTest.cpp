@@ -89,7 +89,7 @@ TEST_F(DriftAlarmTest, WaitsALittleForAnOwnerWhoDoesNotAnswer)
     owners.hang();
     setBySomebodyElse(en1, theirs);
     EXPECT_TRUE(notifier.questions.isEmpty());
-    scheduler.advance(400ms);
+    scheduler.advance(500ms);
     ASSERT_EQ(notifier.questions.size(), 1);
     EXPECT_FALSE(notifier.questions.first().body.contains(u"owns"_s));
 }
