@@ -154,7 +154,8 @@ bool TokenField::handleKey(qsizetype index, int key)
 
 bool TokenField::eventFilter(QObject *watched, QEvent *event)
 {
-    const qsizetype index = m_tokens.indexOf(static_cast<Token *>(watched));
+    // A token tells of its own end when it is only a widget any more: compared as objects.
+    const qsizetype index = m_tokens.indexOf(watched);
     if (index >= 0 && event->type() == QEvent::KeyPress &&
         handleKey(index, static_cast<QKeyEvent *>(event)->key())) {
         return true;
