@@ -15,6 +15,7 @@
 #include "platform/linux/bus/DBusHelperLink.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkHost.h"
+#include "platform/linux/owner/LinuxAddressOwners.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
 
@@ -23,7 +24,7 @@
 namespace quillon::bench {
 
 /// The program's side of one address change, put together as main() does it, without windows. The
-/// user is told nothing: a notification is sent without waiting for anybody.
+/// user is told nothing and asked nothing: neither waits for anybody.
 class LinkUnderTest : private Notifier
 {
 public:
@@ -51,6 +52,8 @@ private:
     };
 
     void sendNotificationWithBody(const QString &title, const QString &body) override;
+    void ask(const Question &) override {}
+    void withdraw(const QString &) override {}
     Reached reach();
     Words callHelper(const contract::Method &method, const QVariantList &arguments);
     QDBusMessage call(const QDBusConnection &bus, const QDBusMessage &message);
@@ -63,6 +66,8 @@ private:
     GetifaddrsAddresses m_addresses;
     GetrandomSource m_random;
     DBusHelperLink m_link{m_random};
+    /// No interface here is owned by anybody: nothing is let go that a guard would take back.
+    LinuxAddressOwners m_owners{m_scheduler, m_settings, {}};
     XPCMethods m_helper{m_link, m_scheduler, m_notifications};
     DeviceTable m_devices{m_settings, m_host, m_addresses};
     CurrentInterface m_currentInterface{m_settings, m_scheduler, m_devices};

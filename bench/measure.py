@@ -19,6 +19,7 @@ import time
 import end_to_end
 import idle
 import menu
+import peers
 import records
 import vendors
 from report import Report
@@ -54,6 +55,7 @@ class Bench:
             "end-to-end": self.end_to_end,
             "start": self.start_and_idle,
             "menu": self.menu,
+            "peers": self.peers,
             "interfaces": self.many_interfaces,
             "history": self.history,
             "vendors": self.vendors,
@@ -146,6 +148,14 @@ class Bench:
         starter = self.user_worker("measure-start")
         menu.measure(self.report, starter, os.path.join(self.build, "src", "quillon"), max(10, self.rounds // 4))
         starter.end()
+
+    # Other programs' windows
+
+    def peers(self):
+        programs = {"Quillon": os.path.join(self.build, "src", "quillon"),
+                    peers.REFERENCE: os.path.join(self.folder, "reference-window")}
+        write_rule = os.path.join(self.build, "tests", "integration", "app", "write-rule")
+        peers.measure(self.report, self.user_worker, programs, write_rule, DEVICE, self.starts, self.idle_seconds)
 
     # Many interfaces
 
