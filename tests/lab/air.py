@@ -32,8 +32,10 @@ def roam():
     def is_there():
         if access_point() == target:
             return True
-        interface = run("busctl", "call", SUPPLICANT, "/fi/w1/wpa_supplicant1", SUPPLICANT, "GetInterface", "s",
-                        WIRELESS).split('"')[1]
+        code, text = call("busctl", "call", SUPPLICANT, "/fi/w1/wpa_supplicant1", SUPPLICANT, "GetInterface", "s", WIRELESS)
+        if code != 0:
+            return False  # a rule of the program has just had the radio let go
+        interface = text.split('"')[1]
         # It must have seen the other one first.
         call("nmcli", "device", "wifi", "list", "ifname", WIRELESS, "--rescan", "yes")
         call("busctl", "call", SUPPLICANT, interface, f"{SUPPLICANT}.Interface", "Roam", "s", target)
