@@ -23,8 +23,8 @@ const QString failureTitle = u"was not Changed"_s;
 
 LinkUnderTest::LinkUnderTest(const QString &settings)
     : m_settings(settings, m_scheduler, {})
-    , m_changer({m_settings, m_scheduler, m_notifications, *this, m_helper,
-          m_owners, m_devices, m_currentInterface, m_randomAddress})
+    , m_changer({m_settings, m_scheduler, m_notifications, *this, m_helper, m_owners, m_devices,
+          m_currentInterface, m_randomAddress})
 {
     QObject::connect(&m_changer, &AddressChanger::addressChanged, [this] { m_announced = true; });
     m_helper.authorizeHelperTool(true);

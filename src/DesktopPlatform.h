@@ -5,6 +5,7 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/linux/GetrandomSource.h"
+#include "platform/linux/RealtimeAlarm.h"
 #include "platform/linux/bus/BusRunningApplications.h"
 #include "platform/linux/bus/DBusHelperLink.h"
 #include "platform/linux/bus/FreedesktopNotifications.h"
@@ -47,7 +48,7 @@ private:
     void tellOfSettings(const SettingsProblem &problem) const;
 
     Notifier *m_notifier = nullptr;
-    QtScheduler m_scheduler;
+    QtScheduler m_scheduler{RealtimeAlarm::make};
     PlistSettingsStore m_settings;
     PlistSettingsStore m_groupSettings;
     NotificationCenter m_notifications;

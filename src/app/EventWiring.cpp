@@ -32,6 +32,8 @@ EventWiring::EventWiring(const Platform &platform, Features &features, Terminati
     , m_networkChange({features.networks.externalAddress, features.devices.table,
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
           features.rules.execution, features.rules.evaluation, features.rules.list})
+    , m_countdownAudience(
+          features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
 {
     connectHelper();
     connectSelection();

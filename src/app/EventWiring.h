@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/CountdownAudience.h"
 #include "app/NetworkChange.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/NotificationCenter.h"
@@ -60,6 +61,7 @@ private:
     Features &m_features;
     Termination &m_termination;
     NetworkChange m_networkChange;
+    CountdownAudience m_countdownAudience;
     int m_failedReadings = 0; ///< of the interfaces, since the system told of something
     bool m_isReadingAgain = false;
     std::vector<SettingsStore::Token> m_settingsTokens;

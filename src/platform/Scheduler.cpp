@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -19,7 +20,31 @@ Scheduler::Task whileAlive(const QObject *context, Scheduler::Task task)
     };
 }
 
+/// A wait of a scheduler that outlives it.
+class Wait : public Scheduler::Alarm
+{
+public:
+    Wait(Scheduler &scheduler, Scheduler::Token token)
+        : m_scheduler(scheduler)
+        , m_token(token)
+    {
+    }
+    ~Wait() override { m_scheduler.cancel(m_token); }
+    Wait(const Wait &) = delete;
+    Wait &operator=(const Wait &) = delete;
+
+private:
+    Scheduler &m_scheduler;
+    Scheduler::Token m_token;
+};
+
 } // namespace
+
+std::unique_ptr<Scheduler::Alarm> Scheduler::alarmAt(const QDateTime &moment, Task task)
+{
+    const std::chrono::milliseconds wait(std::max<qint64>(now().msecsTo(moment), 0));
+    return std::make_unique<Wait>(*this, onMainAfter(wait, std::move(task)));
+}
 
 void Scheduler::onMain(const QObject *context, Task task)
 {

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace quillon {
@@ -54,6 +55,18 @@ public:
     /// Runs `task` on the main thread every `interval`, first after one interval, until cancelled;
     /// also while a menu is open.
     virtual Token repeat(std::chrono::milliseconds interval, Task task) = 0;
+
+    /// Cancels what it stands for when it goes. Main thread.
+    class Alarm
+    {
+    public:
+        virtual ~Alarm() = default;
+    };
+    /// Runs `task` on the main thread once now() has come to `moment`, be it that the clock was set
+    /// there, or that the machine was suspended meanwhile; nothing wakes up before. As this class
+    /// has it, for schedulers whose clock nobody sets, by onMainAfter(). Main thread.
+    virtual std::unique_ptr<Alarm> alarmAt(const QDateTime &moment, Task task);
+
     /// Unknown or used-up tokens are ignored.
     virtual void cancel(Token token) = 0;
 

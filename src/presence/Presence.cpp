@@ -5,6 +5,8 @@
 #include "base/SettingsKeys.h"
 #include "platform/SettingsStore.h"
 
+#include <utility>
+
 namespace quillon {
 
 Presence::Presence(SettingsStore &settings)
@@ -91,6 +93,13 @@ void Presence::setWindowShown(bool shown)
     if (shown != m_windowShown) {
         m_windowShown = shown;
         Q_EMIT reachChanged();
+    }
+}
+
+void Presence::setWindowInSight(bool inSight)
+{
+    if (std::exchange(m_windowInSight, inSight) != inSight) {
+        Q_EMIT windowInSightChanged();
     }
 }
 

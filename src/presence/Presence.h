@@ -51,6 +51,10 @@ public:
     void hideMinimizedWindow();
     /// The window was opened or hidden.
     void setWindowShown(bool shown);
+    /// Whether there is anything of the window to see: not while it is hidden or minimized. Taken
+    /// for granted until the user interface says otherwise.
+    bool isWindowInSight() const { return m_windowInSight; }
+    void setWindowInSight(bool inSight);
     /// Closes the window in use.
     void closeWindow();
     /// The window's quit command: hides the program when the Dock icon is hidden, else ends it.
@@ -71,6 +75,7 @@ Q_SIGNALS:
     void windowBroughtToFront();
     /// isStatusItemInSight() or isWindowShown() is not what it was.
     void reachChanged();
+    void windowInSightChanged();
     void terminated();
 
 private:
@@ -79,6 +84,7 @@ private:
     bool m_statusItemShown = false;
     bool m_statusItemAvailable = false;
     bool m_windowShown = false;
+    bool m_windowInSight = true;
 };
 
 } // namespace quillon

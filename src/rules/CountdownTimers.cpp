@@ -25,6 +25,9 @@ namespace {
 constexpr std::chrono::milliseconds tickInterval{1000};
 constexpr qint64 secondsInMinute = 60;
 constexpr int warnedInterval = 1;
+// Nobody sees when an unwatched countdown acts: in the middle of the time in which 0 seconds
+// remain.
+constexpr std::chrono::milliseconds halfTick = tickInterval / 2;
 
 namespace key {
 
@@ -54,9 +57,55 @@ CountdownTimers::CountdownTimers(const Collaborators &collaborators)
 
 CountdownTimers::~CountdownTimers()
 {
-    for (const Countdown &countdown : std::as_const(m_timers)) {
-        m_deps.scheduler.cancel(countdown.timer);
+    for (Countdown &countdown : m_timers) {
+        dropTimer(countdown);
     }
+}
+
+void CountdownTimers::setWatched(bool watched)
+{
+    if (std::exchange(m_isWatched, watched) == watched) {
+        return;
+    }
+    for (auto entry = m_timers.begin(); entry != m_timers.end(); ++entry) {
+        setTimer(entry.key(), *entry);
+    }
+    const QStringList devices = watched ? m_timers.keys() : QStringList();
+    for (const QString &device : devices) {
+        checkCountdownTimer(device);
+    }
+}
+
+void CountdownTimers::setTimer(const QString &device, Countdown &countdown)
+{
+    dropTimer(countdown);
+    // The destructor ends what is set here.
+    const Scheduler::Task check = [this, device] { checkCountdownTimer(device); };
+    if (m_isWatched) {
+        countdown.ticker = m_deps.scheduler.repeat(tickInterval, check);
+    } else if (const std::optional<QDateTime> moment = nextAct(countdown)) {
+        countdown.alarm = m_deps.scheduler.alarmAt(*moment, check);
+    }
+}
+
+void CountdownTimers::dropTimer(Countdown &countdown)
+{
+    m_deps.scheduler.cancel(std::exchange(countdown.ticker, 0));
+    countdown.alarm.reset();
+}
+
+/// When an unwatched countdown has something to do; a paused one never has.
+std::optional<QDateTime> CountdownTimers::nextAct(const Countdown &countdown) const
+{
+    if (countdown.pausedRemaining) {
+        return std::nullopt;
+    }
+    const bool isNextTick = countdown.interval <= 0 ||
+                            (countdown.interval == warnedInterval && !countdown.minuteWarningGiven);
+    const QDateTime soon = m_deps.scheduler.now().addMSecs(halfTick.count());
+    const QDateTime end = countdown.startDate.addSecs(countdown.interval * secondsInMinute)
+                              .addMSecs(-halfTick.count());
+    return isNextTick ? soon.addMSecs(halfTick.count()) : std::max(soon, end);
 }
 
 void CountdownTimers::startCountDownTimer(const QString &device)
@@ -65,11 +114,8 @@ void CountdownTimers::startCountDownTimer(const QString &device)
     Countdown countdown;
     countdown.startDate = m_deps.scheduler.now();
     countdown.interval = minutesOfRule(device);
-    countdown.timer = m_deps.scheduler.repeat(tickInterval, [this, device] {
-        // The destructor ends the ticking.
-        checkCountdownTimer(device);
-    });
-    m_timers[device] = countdown;
+    countdown.number = ++m_lastNumber;
+    setTimer(device, m_timers[device] = countdown);
     // By now the start has passed, if by less than the clock tells.
     const QDateTime soon = countdown.startDate.addMSecs(1);
     const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
@@ -89,10 +135,10 @@ int CountdownTimers::minutesOfRule(const QString &device) const
 
 void CountdownTimers::stopCountdownTimer(const QString &device)
 {
-    const auto found = m_timers.constFind(device);
-    const bool wasRunning = found != m_timers.constEnd();
+    const auto found = m_timers.find(device);
+    const bool wasRunning = found != m_timers.end();
     if (wasRunning) {
-        m_deps.scheduler.cancel(found->timer);
+        dropTimer(*found);
         m_timers.erase(found);
     }
     if (wasRunning || m_timers.isEmpty()) {
@@ -105,10 +151,15 @@ void CountdownTimers::pauseCountdownTimer(const QString &device)
 {
     Q_EMIT pauseOrResumeRequested();
     const auto found = m_timers.find(device);
-    if (found != m_timers.end()) {
-        found->pausedRemaining = generateTimerCountdownStringForStartDateAndInterval(
-            found->startDate, found->interval, m_deps.scheduler.now())
-                                     .remaining;
+    if (found == m_timers.end()) {
+        return;
+    }
+    const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
+        found->startDate, found->interval, m_deps.scheduler.now());
+    found->pausedRemaining = text.remaining;
+    if (!m_isWatched) {
+        found->display = text.displayString;
+        setTimer(device, *found);
     }
 }
 
@@ -116,8 +167,14 @@ void CountdownTimers::resumeCountdownTimer(const QString &device)
 {
     Q_EMIT pauseOrResumeRequested();
     const auto found = m_timers.find(device);
-    if (found != m_timers.end()) {
-        found->pausedRemaining.reset();
+    if (found == m_timers.end() || !found->pausedRemaining) {
+        return;
+    }
+    const qint64 remaining = *std::exchange(found->pausedRemaining, std::nullopt);
+    if (!m_isWatched) {
+        // No tick has done it.
+        goOnFrom(*found, remaining, m_deps.scheduler.now());
+        setTimer(device, *found);
     }
 }
 
@@ -138,8 +195,11 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
     if (warns) {
         m_deps.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
     }
-    if (isRunning(device, countdown.timer)) {
+    if (isRunning(device, countdown.number)) {
         actOnRemaining(device, countdown, text.remaining);
+    }
+    if (!m_isWatched && isRunning(device, countdown.number)) {
+        setTimer(device, m_timers[device]);
     }
     postOverview();
 }
@@ -149,10 +209,15 @@ void CountdownTimers::showTime(Countdown &countdown, const QString &text, const 
     QString shown = text;
     if (const std::optional<qint64> paused = countdown.pausedRemaining) {
         shown = markedAsPaused(countdown.display.value_or(text));
-        // After resuming it goes on from where it was paused.
-        countdown.startDate = now.addSecs(*paused - countdown.interval * secondsInMinute + 1);
+        goOnFrom(countdown, *paused, now);
     }
     countdown.display = shown;
+}
+
+/// So that after resuming it goes on from where it was paused.
+void CountdownTimers::goOnFrom(Countdown &countdown, qint64 remaining, const QDateTime &now)
+{
+    countdown.startDate = now.addSecs(remaining - countdown.interval * secondsInMinute + 1);
 }
 
 bool CountdownTimers::takeMinuteWarning(Countdown &countdown, qint64 remaining)
@@ -168,10 +233,10 @@ bool CountdownTimers::takeMinuteWarning(Countdown &countdown, qint64 remaining)
     return due;
 }
 
-bool CountdownTimers::isRunning(const QString &device, Scheduler::Token timer) const
+bool CountdownTimers::isRunning(const QString &device, qulonglong number) const
 {
     const auto found = m_timers.constFind(device);
-    return found != m_timers.constEnd() && found->timer == timer && !found->pausedRemaining;
+    return found != m_timers.constEnd() && found->number == number && !found->pausedRemaining;
 }
 
 void CountdownTimers::actOnRemaining(
@@ -182,14 +247,14 @@ void CountdownTimers::actOnRemaining(
     } else if (remaining == 0) {
         // The change comes after all that belongs to this tick.
         m_deps.scheduler.onMain(
-            this, [this, device, timer = countdown.timer] { expire(device, timer); });
+            this, [this, device, number = countdown.number] { expire(device, number); });
     }
 }
 
-void CountdownTimers::expire(const QString &device, Scheduler::Token timer)
+void CountdownTimers::expire(const QString &device, qulonglong number)
 {
     // It may have been stopped or restarted since, and two ticks may have met the same zero.
-    if (isRunning(device, timer)) {
+    if (isRunning(device, number)) {
         m_deps.addressChanger.genRandomMacAddressWithVendor(device);
         startCountDownTimer(device);
     }
@@ -227,7 +292,7 @@ QVariantMap CountdownTimers::asPropertyList(const QString &device, const Countdo
         {record::device, device},
         {key::startDate, countdown.startDate},
         {key::interval, static_cast<qlonglong>(countdown.interval)},
-        {key::timer, static_cast<qlonglong>(countdown.timer)},
+        {key::timer, static_cast<qlonglong>(countdown.number)},
     };
     if (countdown.pausedRemaining) {
         entry[key::isPaused] = QVariantMap{{key::remaining, *countdown.pausedRemaining}};

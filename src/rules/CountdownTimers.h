@@ -18,8 +18,9 @@ class NotificationCenter;
 class Notifier;
 
 /// The countdowns of rules that change an address again and again: one for each device, ticking
-/// once a second. Every tick computes what is left from the wall clock, so late ticks never add
-/// up. They end with the program. Main thread.
+/// once a second while somebody can see it, else only when there is something to do. Every tick
+/// computes what is left from the wall clock, so late ticks never add up. They end with the
+/// program. Main thread.
 class CountdownTimers : public QObject
 {
     Q_OBJECT
@@ -37,6 +38,10 @@ public:
     explicit CountdownTimers(const Collaborators &collaborators);
     ~CountdownTimers() override;
 
+    /// Whether anything shows a countdown now; until somebody says so, it is taken for granted.
+    /// From then on, and at once, the countdowns tick.
+    void setWatched(bool watched);
+
     /// Starts the countdown of `device` anew, as long as the "timerMinutes" of the rule in its
     /// record say. At its end the device gets a random address, and it starts again. That address
     /// is one of the manufacturer that was chosen for the device, if any; the rule's own choice
@@ -50,10 +55,10 @@ public:
     void resumeCountdownTimer(const QString &device);
 
     /// The running and paused countdowns as property-list data, device to dictionary: "device";
-    /// "startDate" (moved while paused); "interval", minutes; "timer", the number of the running
-    /// timer; "isPaused" only while paused, holding "remaining", seconds; "label" from the first
-    /// tick on, holding "display" and, while the menu shows the countdown, "menu", the title of its
-    /// item.
+    /// "startDate" (moved while paused); "interval", minutes; "timer", a number that no other
+    /// start has; "isPaused" only while paused, holding "remaining", seconds; "label" from the
+    /// first tick on, holding "display" and, while the menu shows the countdown, "menu", the title
+    /// of its item.
     QVariantMap timers() const;
     /// What menus show of a countdown.
     struct Showing
@@ -69,7 +74,7 @@ public:
     void setMenuItemShown(const QString &device, bool shown);
 
 Q_SIGNALS:
-    /// Every second, for each device; `text` tells what is left.
+    /// At every tick, for each device; `text` tells what is left.
     void ticked(const QString &device, const QString &text, bool isPaused);
     /// A countdown was stopped, or none is running.
     void stopped();
@@ -80,9 +85,11 @@ private:
     struct Countdown
     {
         QDateTime startDate;
-        int interval = 0; ///< minutes
-        Scheduler::Token timer = 0;
-        std::optional<qint64> pausedRemaining; ///< seconds; while paused
+        int interval = 0;                        ///< minutes
+        qulonglong number = 0;                   ///< no other start has it
+        Scheduler::Token ticker = 0;             ///< while watched
+        std::shared_ptr<Scheduler::Alarm> alarm; ///< while not
+        std::optional<qint64> pausedRemaining;   ///< seconds; while paused
         std::optional<QString> display;
         bool hasMenuItem = false;
         bool minuteWarningGiven = false;
@@ -91,14 +98,20 @@ private:
     int minutesOfRule(const QString &device) const;
     static QVariantMap asPropertyList(const QString &device, const Countdown &countdown);
     static void showTime(Countdown &countdown, const QString &text, const QDateTime &now);
+    static void goOnFrom(Countdown &countdown, qint64 remaining, const QDateTime &now);
     static bool takeMinuteWarning(Countdown &countdown, qint64 remaining);
-    bool isRunning(const QString &device, Scheduler::Token timer) const;
+    bool isRunning(const QString &device, qulonglong number) const;
+    void setTimer(const QString &device, Countdown &countdown);
+    void dropTimer(Countdown &countdown);
+    std::optional<QDateTime> nextAct(const Countdown &countdown) const;
     void checkCountdownTimer(const QString &device);
     void actOnRemaining(const QString &device, const Countdown &countdown, qint64 remaining);
-    void expire(const QString &device, Scheduler::Token timer);
+    void expire(const QString &device, qulonglong number);
     void postOverview();
 
     Collaborators m_deps;
+    bool m_isWatched = true;
+    qulonglong m_lastNumber = 0;
     QHash<QString, Countdown> m_timers;
 };
 

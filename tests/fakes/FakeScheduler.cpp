@@ -7,6 +7,38 @@
 
 namespace quillon::test {
 
+class FakeScheduler::HeldAlarm : public Scheduler::Alarm
+{
+public:
+    HeldAlarm(FakeScheduler &scheduler, Token token)
+        : m_scheduler(scheduler)
+        , m_token(token)
+    {
+    }
+    ~HeldAlarm() override { m_scheduler.cancel(m_token); }
+
+private:
+    FakeScheduler &m_scheduler;
+    Token m_token;
+};
+
+std::unique_ptr<Scheduler::Alarm> FakeScheduler::alarmAt(const QDateTime &moment, Task task)
+{
+    const QDateTime due = moment.addMSecs(-m_clockIsAhead.count());
+    m_timers.emplace(m_nextToken, Timer{due, {}, std::move(task), true});
+    return std::make_unique<HeldAlarm>(*this, m_nextToken++);
+}
+
+void FakeScheduler::setClock(std::chrono::milliseconds forward)
+{
+    m_clockIsAhead += forward;
+    for (auto &[token, timer] : m_timers) {
+        if (timer.followsClock) {
+            timer.due = timer.due.addMSecs(-forward.count());
+        }
+    }
+}
+
 void FakeScheduler::onMain(Task task)
 {
     m_main.push_back(std::move(task));
@@ -66,6 +98,7 @@ bool FakeScheduler::runTimersDue()
     if (next == m_timers.end() || next->second.due > m_now) {
         return false;
     }
+    ++m_wakeUps;
     const Task task = next->second.task;
     if (next->second.interval.count() > 0) {
         next->second.due = next->second.due.addMSecs(next->second.interval.count());

@@ -26,6 +26,7 @@ public:
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
     Token repeat(std::chrono::milliseconds interval, Task task) override;
     void cancel(Token token) override;
+    std::unique_ptr<Alarm> alarmAt(const QDateTime &moment, Task task) override;
     void inBackground(Task task) override;
 
     /// Runs what is due now, and what that asks for, until nothing is left.
@@ -35,11 +36,13 @@ public:
     /// Time goes by while the main thread is held up: what becomes due runs when it turns again.
     void pass(std::chrono::milliseconds time) { m_now = m_now.addMSecs(time.count()); }
     /// Sets the clock forward, or back, as a user does, or time that passed while the machine was
-    /// suspended: now() jumps, and what waits still waits for as long as before.
-    void setClock(std::chrono::milliseconds forward) { m_clockIsAhead += forward; }
+    /// suspended: now() jumps, and what waits still waits for as long as before; alarms do not.
+    void setClock(std::chrono::milliseconds forward);
     /// Calls `task` as if from another thread.
     void asBackground(const Task &task);
     bool hasTimers() const { return !m_timers.empty(); }
+    /// How often the main thread was woken by a timer or an alarm.
+    int wakeUps() const { return m_wakeUps; }
 
 private:
     struct Timer
@@ -47,7 +50,9 @@ private:
         QDateTime due;
         std::chrono::milliseconds interval{0};
         Task task;
+        bool followsClock = false; ///< `due` is when the hands come there as the clock is now
     };
+    class HeldAlarm;
 
     bool runTimersDue();
 
@@ -58,6 +63,7 @@ private:
     std::deque<Task> m_background;
     std::map<Token, Timer> m_timers;
     Token m_nextToken = 1;
+    int m_wakeUps = 0;
 };
 
 } // namespace quillon::test

@@ -21,7 +21,8 @@ constexpr std::chrono::milliseconds longestWait = std::chrono::hours(24 * 20);
 
 } // namespace
 
-QtScheduler::QtScheduler()
+QtScheduler::QtScheduler(MakeAlarm makeAlarm)
+    : m_makeAlarm(std::move(makeAlarm))
 {
     m_pool.setMaxThreadCount(std::max(leastThreads, QThread::idealThreadCount()));
 }
@@ -70,6 +71,12 @@ Scheduler::Token QtScheduler::repeat(std::chrono::milliseconds interval, Task ta
 {
     const auto atLeastOne = std::max(interval, std::chrono::milliseconds(1));
     return addTimed({std::move(task), atLeastOne, {}}, atLeastOne);
+}
+
+std::unique_ptr<Scheduler::Alarm> QtScheduler::alarmAt(const QDateTime &moment, Task task)
+{
+    std::unique_ptr<Alarm> alarm = m_makeAlarm ? m_makeAlarm(moment, task) : nullptr;
+    return alarm ? std::move(alarm) : Scheduler::alarmAt(moment, std::move(task));
 }
 
 Scheduler::Token QtScheduler::addTimed(Timed timed, std::chrono::milliseconds first)

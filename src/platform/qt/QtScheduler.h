@@ -21,7 +21,11 @@ namespace quillon {
 class QtScheduler : public Scheduler
 {
 public:
-    QtScheduler();
+    /// Alarms of the platform's wall clock. One that cannot be had is none; then a timer stands in
+    /// for it, which does not follow a clock that is set.
+    using MakeAlarm = std::function<std::unique_ptr<Alarm>(const QDateTime &moment, Task task)>;
+
+    explicit QtScheduler(MakeAlarm makeAlarm = {});
     ~QtScheduler() override;
 
     QDateTime now() const override;
@@ -32,6 +36,7 @@ public:
     void onMain(Task task) override;
     Token onMainAfter(std::chrono::milliseconds delay, Task task) override;
     Token repeat(std::chrono::milliseconds interval, Task task) override;
+    std::unique_ptr<Alarm> alarmAt(const QDateTime &moment, Task task) override;
     void cancel(Token token) override;
     void inBackground(Task task) override;
 
@@ -54,6 +59,7 @@ private:
     void startTimer(Token token);
     void timeOut(Token token);
 
+    MakeAlarm m_makeAlarm;
     QObject m_loop; ///< receives what runs on the main thread
     QThreadPool m_pool;
     std::mutex m_mutex;

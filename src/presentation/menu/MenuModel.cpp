@@ -42,6 +42,7 @@ MenuModel::MenuModel(const Collaborators &collaborators)
 
 void MenuModel::menuWillOpen()
 {
+    Q_EMIT willOpen();
     m_isOpen = false;
     m_deps.devices.updateNetWorkInterfaces();
     menuNeedsUpdate();
@@ -54,6 +55,7 @@ void MenuModel::menuDidClose()
     if (std::exchange(m_isStale, false)) {
         rebuild();
     }
+    Q_EMIT didClose();
 }
 
 void MenuModel::menuNeedsUpdate()

@@ -41,6 +41,9 @@ Q_SIGNALS:
     void changed();
     /// Only the title of the entry at `index` is not what it was.
     void retitled(int index);
+    /// Between these two it can be seen.
+    void willOpen();
+    void didClose();
     /// The menu is being rebuilt; lists of devices elsewhere follow first.
     void rebuildStarted();
 

@@ -80,6 +80,7 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     makeShortcuts();
     connectModel();
     connectPresence();
+    m_presence.setWindowInSight(false);
     refresh();
     m_addressCard->field().setFocus();
 }
@@ -206,6 +207,7 @@ void MainWindow::showEvent(QShowEvent *event)
     fitScreen();
     QWidget::showEvent(event);
     m_presence.setWindowShown(true);
+    m_presence.setWindowInSight(true);
     if (!testAttribute(Qt::WA_SetWindowIcon)) {
         // Not before the window is on its way to the display: to draw the icon takes longer than
         // most of what is in it.
@@ -218,6 +220,7 @@ void MainWindow::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
     // A window that is minimized gets this event, too, and is still open.
     m_presence.setWindowShown(isVisible());
+    m_presence.setWindowInSight(false);
 }
 
 void MainWindow::drawIcon()

@@ -50,6 +50,26 @@ protected:
 using Clocks = ::testing::Types<FakeClock, RealClock>;
 TYPED_TEST_SUITE(SchedulerConformance, Clocks);
 
+TYPED_TEST(SchedulerConformance, AnAlarmComesAtItsMomentAndOnlyOnce)
+{
+    const QDateTime moment = this->scheduler.now().addMSecs(20);
+    QList<QDateTime> rings;
+    const auto alarm =
+        this->scheduler.alarmAt(moment, [&] { rings.append(this->scheduler.now()); });
+    this->clock.pass(60ms);
+    ASSERT_EQ(rings.size(), 1);
+    EXPECT_GE(rings.first(), moment);
+}
+
+TYPED_TEST(SchedulerConformance, AnAlarmThatIsDroppedNeverComes)
+{
+    bool rang = false;
+    auto alarm = this->scheduler.alarmAt(this->scheduler.now(), [&rang] { rang = true; });
+    alarm.reset();
+    this->clock.pass(20ms);
+    EXPECT_FALSE(rang);
+}
+
 TYPED_TEST(SchedulerConformance, TheClockIsUtc)
 {
     const QDateTime before = this->scheduler.now();
