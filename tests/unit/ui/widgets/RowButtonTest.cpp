@@ -128,6 +128,21 @@ TEST_F(RowButtonTest, TheLongestLabelMakesRoomInAllRows)
     EXPECT_GT(row->minimumSizeHint().width(), before);
 }
 
+TEST_F(RowButtonTest, TheLongestLabelMakesRoomInARowThatSharesItsLine)
+{
+    auto *line = new QWidget;
+    auto *shared = new RowButton(theme, u"Rules"_s, line);
+    column->addWidget(line);
+    settle();
+    EXPECT_EQ(shared->minimumSizeHint().width(), row->minimumSizeHint().width());
+    auto *longest = new RowButton(theme, u"A label longer than all others by far"_s);
+    column->addWidget(longest);
+    settle();
+    EXPECT_EQ(shared->minimumSizeHint().width(), longest->minimumSizeHint().width());
+    longest->hide();
+    EXPECT_LT(shared->minimumSizeHint().width(), longest->minimumSizeHint().width());
+}
+
 TEST_F(RowButtonTest, IsAsHighAsItsTextNeeds)
 {
     EXPECT_EQ(row->sizeHint().height(), Theme::rowHeight);
