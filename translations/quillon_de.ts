@@ -873,7 +873,7 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     </message>
     <message>
         <source>The helper is not installed</source>
-        <translation>Das Hilfsprogramm ist nicht installiert</translation>
+        <translation>Das Hilfsprogramm fehlt</translation>
     </message>
     <message>
         <source>Helper hint</source>
@@ -901,7 +901,7 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     </message>
     <message>
         <source>&amp;Install Helper</source>
-        <translation>Hilfsprogramm &amp;installieren</translation>
+        <translation>&amp;Installieren</translation>
     </message>
     <message>
         <source>%@ (added %@ new Identifiers)</source>
