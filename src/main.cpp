@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DesktopPlatform.h"
 #include "app/QuillonAppDelegate.h"
+#include "base/Languages.h"
 #include "base/Log.h"
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/bus/SessionInstance.h"
@@ -14,6 +15,7 @@
 #include "ui/UserInterface.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QSessionManager>
 
 using namespace Qt::StringLiterals;
@@ -83,6 +85,7 @@ int main(int argc, char **argv)
         return guard(*device, argc, argv);
     }
     QApplication application(argc, argv);
+    const UserLanguage language(QLocale::system().uiLanguages());
     WindowPreload windowPreload;
     describe(application);
 

@@ -16,7 +16,7 @@ QString localized(const QString &english)
 
 QString localized(const char *english)
 {
-    return QCoreApplication::translate("Quillon", english);
+    return QCoreApplication::translate(textContext, english);
 }
 
 QString filled(const QString &text, const QStringList &values)

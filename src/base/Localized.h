@@ -7,9 +7,14 @@
 
 namespace quillon {
 
+/// The one context of all texts in the tables (translations/).
+inline constexpr const char *textContext = "Quillon";
+
 /// The user's language for an English text, which is the key of the table. Unknown texts come back
-/// as they are. Stored values stay English, except the two that are kept for display only (a
-/// record's `localizedInterface`, the external address before it is known).
+/// as they are. A text that stands elsewhere than in the brackets is marked there with
+/// QT_TRANSLATE_NOOP("Quillon", …): tools/check-translations finds it by that. Stored values stay
+/// English, except those that are stored as shown (isInAnyLanguage in base/Languages.h). Any
+/// thread.
 QString localized(const QString &english);
 QString localized(const char *english);
 

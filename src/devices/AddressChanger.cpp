@@ -140,7 +140,7 @@ void AddressChanger::requestChange(
         .device = device,
         .isCurrent = device == current,
         .isWifi = record.isWifi(),
-        .interface = record.interface.value_or(QString()),
+        .interface = record.shownInterface(),
         .oldAddress = record.current.value_or(QString()),
         .address = address,
         .reply = reply,
@@ -226,7 +226,7 @@ ChangeOutcome AddressChanger::finish(
 
 void AddressChanger::tellUndone(const QString &device)
 {
-    m_messages.tellUndone(m_deps.devices.record(device).interface.value_or(QString()));
+    m_messages.tellUndone(m_deps.devices.record(device).shownInterface());
 }
 
 // What fails once is most often a table that changed while it was read.

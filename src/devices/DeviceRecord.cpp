@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/DeviceRecord.h"
 
+#include "base/Localized.h"
 #include "base/PropertyList.h"
 #include "base/SettingsKeys.h"
 
@@ -66,6 +67,11 @@ bool DeviceRecord::isWifi() const
     return interface == u"Wi-Fi"_s;
 }
 
+QString DeviceRecord::shownInterface() const
+{
+    return isWifi() ? localized("Wi-Fi") : interface.value_or(QString());
+}
+
 bool DeviceRecord::isUp() const
 {
     return status == u"active"_s;
@@ -74,8 +80,8 @@ bool DeviceRecord::isUp() const
 bool isSameInterface(const DeviceRecord &one, const DeviceRecord &other)
 {
     const auto facts = [](const DeviceRecord &record) {
-        return std::tie(record.interface, record.localizedInterface, record.hardware,
-            record.current, record.status, record.ipAddress, record.router);
+        return std::tie(record.interface, record.hardware, record.current, record.status,
+            record.ipAddress, record.router);
     };
     return facts(one) == facts(other);
 }

@@ -16,9 +16,9 @@ struct DeviceRecord
 {
     std::optional<QString> device = {};    ///< in the record of the selected interface only
     std::optional<QString> interface = {}; ///< the port's name, in English
-    std::optional<QString> localizedInterface = {};
-    std::optional<QString> hardware = {}; ///< the factory address
-    std::optional<QString> current = {};  ///< the address in use
+    std::optional<QString> localizedInterface = {}; ///< shownInterface() when it was written
+    std::optional<QString> hardware = {};           ///< the factory address
+    std::optional<QString> current = {};            ///< the address in use
     std::optional<QString> status = {};
     std::optional<QString> ipAddress = {};
     std::optional<QString> router = {};    ///< see PortRecord; missing when it has none
@@ -35,6 +35,8 @@ struct DeviceRecord
 
     /// The port's name is exactly "Wi-Fi".
     bool isWifi() const;
+    /// The port's name for the user; of all names only "Wi-Fi" has one in other languages.
+    QString shownInterface() const;
     /// The link is up.
     bool isUp() const;
 
@@ -45,7 +47,7 @@ struct DeviceRecord
 using DeviceRecords = QMap<QString, DeviceRecord>;
 
 /// Whether both records say the same of the interface; what the program itself keeps there, such as
-/// rules, is left aside.
+/// rules and what the port is called in the user's language, is left aside.
 bool isSameInterface(const DeviceRecord &one, const DeviceRecord &other);
 
 } // namespace quillon

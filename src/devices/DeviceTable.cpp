@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/DeviceTable.h"
 
-#include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/InterfaceAddresses.h"
 #include "platform/NetworkHost.h"
@@ -29,7 +28,7 @@ void refresh(DeviceRecord &record, const PortRecord &port)
 {
     record.hardware = factoryAddress(port, record);
     record.interface = port.interface;
-    record.localizedInterface = record.isWifi() ? localized(port.interface) : port.interface;
+    record.localizedInterface = record.shownInterface();
     record.current = port.info.macAddress;
     record.status = port.info.status;
     record.ipAddress = port.info.ipAddress;

@@ -104,7 +104,7 @@ void DriftAlarm::tell(const QString &device, const QString &owner)
         return;
     }
     drift->isTold = true;
-    const QString interface = m_deps.devices.record(device).interface.value_or(QString());
+    const QString interface = m_deps.devices.record(device).shownInterface();
     QString body = filled(localized("%@ now has %@ in place of %@."),
         {device, drift->address, m_given.value(device)});
     if (!owner.isEmpty()) {

@@ -86,7 +86,8 @@ std::optional<WiFiNetwork::Identity> WiFiNetwork::updateWiFiNetwork()
     const QString ipAddress = m_devices.ipAddressForDevice(device);
     const bool associated = !wifi.bssid.isEmpty() && !wifi.ssid.isEmpty();
     Q_EMIT networkButtonShown(associated);
-    WiFiRecord record{.name = u"Not currently connected..."_s};
+    WiFiRecord record{
+        .name = QStringLiteral(QT_TRANSLATE_NOOP("Quillon", "Not currently connected..."))};
     if (associated) {
         record = associatedRecord(wifi);
         record.ipAddress = ipAddress;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networks/WiFiRecord.h"
 
+#include "base/Localized.h"
 #include "base/NetworkKeys.h"
 #include "base/SettingsKeys.h"
 #include "base/StoredText.h"
@@ -33,6 +34,11 @@ const Field fields[] = {
 };
 
 } // namespace
+
+QString WiFiRecord::shownName() const
+{
+    return bssid.isEmpty() ? localized(name) : name;
+}
 
 WiFiRecord WiFiRecord::stored(const SettingsStore &settings)
 {

@@ -28,6 +28,8 @@ struct WiFiRecord
     /// yet; else "".
     QString device = {};
 
+    /// `name`, which is a word of ours while it is on no network, in the user's language.
+    QString shownName() const;
     /// What is no text reads as "".
     static WiFiRecord stored(const SettingsStore &settings);
     /// Rewrites the stored record; keys that are not ours survive.

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const char *unknown = "Unknown";
-constexpr const char *none = "None";
+constexpr const char *unknown = QT_TRANSLATE_NOOP("Quillon", "Unknown");
+constexpr const char *none = QT_TRANSLATE_NOOP("Quillon", "None");
 
 /// `texts` begin with the text of `first`.
 QString textFor(int number, int first, std::span<const char *const> texts, const char *otherwise)
@@ -27,9 +27,13 @@ QString textFor(int number, int first, std::span<const char *const> texts, const
 
 QString securityStringForNetwork(int security)
 {
-    static constexpr std::array texts = {none, "WEP", "WPA Personal", "WPA Personal Mixed",
-        "WPA2 Personal", "Personal", "Dynamic WEP", "WPA Enterprise", "WPA Enterprise Mixed",
-        "WPA2 Enterprise", "Enterprise"};
+    static constexpr std::array texts = {none, "WEP", QT_TRANSLATE_NOOP("Quillon", "WPA Personal"),
+        QT_TRANSLATE_NOOP("Quillon", "WPA Personal Mixed"),
+        QT_TRANSLATE_NOOP("Quillon", "WPA2 Personal"), QT_TRANSLATE_NOOP("Quillon", "Personal"),
+        QT_TRANSLATE_NOOP("Quillon", "Dynamic WEP"), QT_TRANSLATE_NOOP("Quillon", "WPA Enterprise"),
+        QT_TRANSLATE_NOOP("Quillon", "WPA Enterprise Mixed"),
+        QT_TRANSLATE_NOOP("Quillon", "WPA2 Enterprise"),
+        QT_TRANSLATE_NOOP("Quillon", "Enterprise")};
     return textFor(security, WiFiInterface::None, texts, unknown);
 }
 

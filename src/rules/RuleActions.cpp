@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/RuleActions.h"
 
+#include "base/Languages.h"
 #include "base/Localized.h"
+#include "devices/AddressText.h"
 #include "rules/Rule.h"
 #include "store/model/QuillonModel.h"
 
@@ -12,9 +14,12 @@ namespace {
 
 using Kind = RuleAction::Kind;
 
+/// Rules keep the title as it was shown. Who has another language today still means the same, and
+/// without this such a rule would give an address that is none.
 bool isRandom(const Rule &rule)
 {
-    return rule.address() == randomAddressTitle();
+    const QString address = rule.address();
+    return !isStringValidHEX(address) && isInAnyLanguage(address, "Random Address");
 }
 
 RuleAction addressChange(const Rule &rule)

@@ -15,7 +15,8 @@ namespace quillon {
 class Scheduler;
 
 /// What a device's choice is called that means no manufacturer; the stored value.
-inline const QString randomAddressChoice = QStringLiteral("Random Address");
+inline const QString randomAddressChoice =
+    QStringLiteral(QT_TRANSLATE_NOOP("Quillon", "Random Address"));
 
 /// The list of manufacturers to choose from, with "Random Address" among them, and the part of it
 /// that is shown: all of it, or what begins with the text that is typed.

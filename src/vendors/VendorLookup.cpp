@@ -14,9 +14,11 @@ namespace {
 
 constexpr qsizetype identifierLength = 6;
 
-const QString pending = u"Getting Vendor infomation..."_s;
-const QString unknown = u"Unknown..."_s;
-const QString noInformation = u"No Vendor Information available..."_s;
+const QString pending =
+    QStringLiteral(QT_TRANSLATE_NOOP("Quillon", "Getting Vendor infomation..."));
+const QString unknown = QStringLiteral(QT_TRANSLATE_NOOP("Quillon", "Unknown..."));
+const QString noInformation =
+    QStringLiteral(QT_TRANSLATE_NOOP("Quillon", "No Vendor Information available..."));
 
 } // namespace
 

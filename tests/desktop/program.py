@@ -27,8 +27,8 @@ def kernel_addresses():
             if link["ifname"] != "lo"}
 
 
-def start():
-    return subprocess.Popen([PROGRAM], stdin=subprocess.DEVNULL)
+def start(**environment):
+    return subprocess.Popen([PROGRAM], stdin=subprocess.DEVNULL, env={**os.environ, **environment})
 
 
 def dunst(*words):

@@ -71,6 +71,8 @@ class Services:
             "PATH": PATH,
             "LANG": "C.UTF-8",
             **self.passed_on,
+            # What is started here is found by its English texts, whatever language the caller has.
+            "LANGUAGE": "en",
             "HOME": "/root" if root else QUILLON.home,
             "USER": "root" if root else QUILLON.name,
             "LOGNAME": "root" if root else QUILLON.name,

@@ -30,12 +30,8 @@ QString keyOf(const QString &device, const QString &part)
 MenuEntry deviceEntry(
     const QString &device, const DeviceRecord &record, const CurrentInterface &selected)
 {
-    QString interface = record.interface.value_or(QString());
-    if (record.isWifi()) {
-        interface = localized(interface);
-    }
     return {.key = keyOf(device, u"device"_s),
-        .title = filled(u"%@ \u00B7 %@"_s, {interface, device}),
+        .title = filled(u"%@ \u00B7 %@"_s, {record.shownInterface(), device}),
         .action = Action::ChangeInterface,
         .checked = device == selected.device()};
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/networks/ExternalAddressModel.h"
 
+#include "base/Languages.h"
+#include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "networks/ExternalIPAddress.h"
 
@@ -19,6 +21,12 @@ ExternalAddressModel::ExternalAddressModel(
 ExternalAddressModel::~ExternalAddressModel()
 {
     m_settings.removeObserver(m_observed);
+}
+
+QString ExternalAddressModel::text() const
+{
+    const QString stored = m_settings.getString(m_key);
+    return isInAnyLanguage(stored, "Unknown...") ? localized("Unknown...") : stored;
 }
 
 void ExternalAddressModel::refreshExternalIP()

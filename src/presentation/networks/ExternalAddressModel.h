@@ -20,8 +20,9 @@ public:
     ExternalAddressModel(SettingsStore &settings, ExternalIPAddress &externalAddress);
     ~ExternalAddressModel() override;
 
-    /// "" before anything is known.
-    QString text() const { return m_settings.getString(m_key); }
+    /// "" before anything is known; that an answer was of no use is said in the user's language of
+    /// today.
+    QString text() const;
     /// Asks whether or not that happens by itself; the button then looks normal again.
     void refreshExternalIP();
 

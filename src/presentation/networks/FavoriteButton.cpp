@@ -10,11 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-FavoriteButton favoriteButton(bool saved, const char *add, const char *remove)
+FavoriteButton favoriteButton(bool saved, const QString &actionNow)
 {
     return {
         .symbol = saved ? u"heart.fill"_s : u"heart"_s,
-        .accessibilityText = localized(saved ? remove : add),
+        .accessibilityText = actionNow,
         .removes = saved,
     };
 }
@@ -23,12 +23,14 @@ FavoriteButton favoriteButton(bool saved, const char *add, const char *remove)
 
 FavoriteButton favoriteNetworkButton(bool saved)
 {
-    return favoriteButton(saved, "Add Network to Favorites", "Remove Network from Favorites");
+    return favoriteButton(saved,
+        saved ? localized("Remove Network from Favorites") : localized("Add Network to Favorites"));
 }
 
 FavoriteButton favoriteAddressButton(bool saved)
 {
-    return favoriteButton(saved, "Add Address to Favorites", "Remove Address from Favorites");
+    return favoriteButton(saved,
+        saved ? localized("Remove Address from Favorites") : localized("Add Address to Favorites"));
 }
 
 } // namespace quillon

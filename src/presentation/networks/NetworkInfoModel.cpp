@@ -26,17 +26,17 @@ struct Detail
 QList<NetworkInfoModel::Row> detailsOf(const WiFiRecord &record)
 {
     static constexpr Detail details[] = {
-        {"Network name", &WiFiRecord::ssid},
-        {"BSSID", &WiFiRecord::bssid},
-        {"IP address", &WiFiRecord::ipAddress},
-        {"Security", &WiFiRecord::security, true},
-        {"Signal", &WiFiRecord::rssi},
-        {"Noise", &WiFiRecord::noise},
-        {"Rate", &WiFiRecord::txRate},
-        {"Channel", &WiFiRecord::channel},
-        {"Mode", &WiFiRecord::phyMode, true},
-        {"MCS", &WiFiRecord::mcs},
-        {"Country", &WiFiRecord::country},
+        {QT_TRANSLATE_NOOP("Quillon", "Network name"), &WiFiRecord::ssid},
+        {QT_TRANSLATE_NOOP("Quillon", "BSSID"), &WiFiRecord::bssid},
+        {QT_TRANSLATE_NOOP("Quillon", "IP address"), &WiFiRecord::ipAddress},
+        {QT_TRANSLATE_NOOP("Quillon", "Security"), &WiFiRecord::security, true},
+        {QT_TRANSLATE_NOOP("Quillon", "Signal"), &WiFiRecord::rssi},
+        {QT_TRANSLATE_NOOP("Quillon", "Noise"), &WiFiRecord::noise},
+        {QT_TRANSLATE_NOOP("Quillon", "Rate"), &WiFiRecord::txRate},
+        {QT_TRANSLATE_NOOP("Quillon", "Channel"), &WiFiRecord::channel},
+        {QT_TRANSLATE_NOOP("Quillon", "Mode"), &WiFiRecord::phyMode, true},
+        {QT_TRANSLATE_NOOP("Quillon", "MCS"), &WiFiRecord::mcs},
+        {QT_TRANSLATE_NOOP("Quillon", "Country"), &WiFiRecord::country},
     };
     QList<NetworkInfoModel::Row> rows;
     for (const Detail &detail : details) {
@@ -148,7 +148,7 @@ void NetworkInfoModel::showDetails()
 {
     const WiFiRecord record = WiFiRecord::stored(m_deps.settings);
     m_state.update([&](State &state) {
-        state.name = record.bssid.isEmpty() ? localized(record.name) : record.name;
+        state.name = record.shownName();
         state.rows = detailsOf(record);
     });
 }

@@ -46,7 +46,7 @@ void RulesListModel::filterRulesArrayController()
         state.filter = m_deps.queries.filterPredicateForDevice(device);
         if (current.isWifi()) {
             state.symbol = u"wifi"_s;
-            state.title = WiFiRecord::stored(m_deps.settings).name;
+            state.title = WiFiRecord::stored(m_deps.settings).shownName();
         } else {
             state.symbol = u"network"_s;
             state.title = current.interface.value_or(QString()) + titleSeparator + device;

@@ -234,7 +234,7 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
     const QString device = m_deps.currentInterface.device();
     state.selectedDevice = state.devices.contains(device) ? device : QString();
     const DeviceRecord record = m_deps.currentInterface.record();
-    state.interfaceName = record.localizedInterface.value_or(QString());
+    state.interfaceName = record.shownInterface();
     state.currentAddress = m_displayCase.transformedValue(record.current.value_or(QString()));
     state.hardwareAddress = m_displayCase.transformedValue(record.hardware.value_or(QString()));
     state.ipAddress = record.ipAddress.value_or(QString());

@@ -102,16 +102,19 @@ void RowButton::describe()
 
 int RowButton::labelWidth() const
 {
-    int widest = Theme::rowLabelWidth;
-    const auto rows = parentWidget() == nullptr ? QList<RowButton *>()
-                                                : parentWidget()->findChildren<RowButton *>(
-                                                      QString(), Qt::FindDirectChildrenOnly);
+    // The values of a card begin at one place, also of a row that shares its line with a button.
+    const QWidget *card = this;
+    while (card->parentWidget() != nullptr && !card->isWindow() && !card->inherits("QFrame")) {
+        card = card->parentWidget();
+    }
+    int widest = std::max(Theme::rowLabelWidth, fontMetrics().horizontalAdvance(m_label));
+    const auto rows = card->findChildren<RowButton *>();
     for (const RowButton *row : rows) {
-        if (!row->isHidden()) {
+        if (row->window() == window() && row->isVisibleTo(card)) {
             widest = std::max(widest, fontMetrics().horizontalAdvance(row->m_label));
         }
     }
-    return std::max(widest, fontMetrics().horizontalAdvance(m_label));
+    return widest;
 }
 
 QRect RowButton::valueRect() const

@@ -99,15 +99,16 @@ TEST(DeviceRecord, IsTheSameInterfaceUnlessSomethingOfTheInterfaceDiffers)
 {
     const DeviceRecord record{.interface = u"Ethernet"_s, .status = u"active"_s};
     DeviceRecord other = record;
+    other.localizedInterface = u"Réseau"_s;
     other.vendor = u"Maker (A1B2C3)"_s;
     other.hasRule = 1;
     other.rule = QVariantMap{{u"name"_s, u"home"_s}};
     other.loginRule = QVariantMap();
     other.other = {{u"future"_s, true}};
     EXPECT_TRUE(isSameInterface(record, other)) << "what the program keeps there";
-    for (std::optional<QString> DeviceRecord::*field : {&DeviceRecord::interface,
-             &DeviceRecord::localizedInterface, &DeviceRecord::hardware, &DeviceRecord::current,
-             &DeviceRecord::status, &DeviceRecord::ipAddress, &DeviceRecord::router}) {
+    for (std::optional<QString> DeviceRecord::*field :
+        {&DeviceRecord::interface, &DeviceRecord::hardware, &DeviceRecord::current,
+            &DeviceRecord::status, &DeviceRecord::ipAddress, &DeviceRecord::router}) {
         DeviceRecord changed = record;
         changed.*field = u"other"_s;
         EXPECT_FALSE(isSameInterface(record, changed));

@@ -141,6 +141,11 @@ TEST_F(DeviceTableRefresh, ShowsWifiInTheUsersLanguageAndNothingElse)
     EXPECT_EQ(recorded(u"en1"_s, record::interface), "Wi-Fi"_L1);
     EXPECT_EQ(recorded(u"en1"_s, record::localizedInterface), "<Wi-Fi>"_L1);
     EXPECT_EQ(recorded(u"en0"_s, record::localizedInterface), "Ethernet"_L1);
+
+    table.forgetAllNews();
+    table.updateNetWorkInterfaces();
+    EXPECT_EQ(recorded(u"en1"_s, record::localizedInterface), "Wi-Fi"_L1);
+    EXPECT_EQ(table.devicesWithNews(), QStringList()) << "another language is no other network";
 }
 
 TEST_F(DeviceTableRefresh, HoldsTheRouterOnlyWhileThereIsOne)

@@ -145,9 +145,19 @@ TEST_F(RuleActionsInTheUsersLanguage, ARandomAddressIsStoredAndReadInIt)
         actionsOfNetworkRule(rule(u"Zufallsadresse"_s), true).last().kind, Kind::RandomAddress);
     EXPECT_EQ(actionsOfNetworkRule(rule(u"Zufallsadresse"_s, 1, 1), true).last(), start);
     EXPECT_EQ(actionsOfLoginRule(rule(u"Zufallsadresse"_s)).last().kind, Kind::RandomAddress);
-    EXPECT_EQ(actionsOfNetworkRule(rule(randomAddress), true).last(),
-        (RuleAction{Kind::FixedAddress, randomAddress, {}}))
-        << "as it stands there";
+}
+
+TEST_F(RuleActionsInTheUsersLanguage, ARandomAddressOfAnyOtherLanguageIsOneToo)
+{
+    for (const QString &title : {randomAddress, u"Zufällige Adresse"_s}) {
+        EXPECT_EQ(actionsOfNetworkRule(rule(title), true).last().kind, Kind::RandomAddress);
+        EXPECT_EQ(actionsOfLoginRule(rule(title)).last().kind, Kind::RandomAddress);
+    }
+    for (const QString &other : {fixedAddress, u"Random address"_s, QString()}) {
+        EXPECT_EQ(actionsOfNetworkRule(rule(other), true).last(),
+            (RuleAction{Kind::FixedAddress, other, {}}))
+            << "as it stands there";
+    }
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/RulesListModel.h"
 
+#include "base/Languages.h"
 #include "fakes/PredicateFormat.h"
 #include "unit/rules/RuleFixture.h"
 
@@ -64,6 +65,20 @@ TEST_F(RulesListModelTest, OfTheWifiInterfaceStandUnderTheNetworksName)
     EXPECT_EQ(model.state().symbol, u"wifi"_s);
     EXPECT_EQ(model.state().title, u"Home"_s);
     EXPECT_EQ(format(model.state().filter), u"network == 'empty'"_s);
+}
+
+TEST_F(RulesListModelTest, OfAWifiInterfaceWithoutNetworkSaySoInTheUsersLanguage)
+{
+    const UserLanguage german({u"de"_s});
+    select(en1);
+    settings.set(
+        keys::currentWiFiDict, QVariantMap{{wifirecord::name, u"Not currently connected..."_s}});
+    model.filterRulesArrayController();
+    EXPECT_EQ(model.state().title, u"Derzeit nicht verbunden..."_s);
+    settings.set(keys::currentWiFiDict,
+        QVariantMap{{wifirecord::name, u"Address"_s}, {wifirecord::BSSID, u"02:00:00:00:00:01"_s}});
+    model.filterRulesArrayController();
+    EXPECT_EQ(model.state().title, u"Address"_s) << "as the network calls itself";
 }
 
 TEST_F(RulesListModelTest, AreThoseOfTheSelectedInterfaceWheneverTheyAreShown)

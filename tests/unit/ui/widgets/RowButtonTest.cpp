@@ -128,6 +128,27 @@ TEST_F(RowButtonTest, TheLongestLabelMakesRoomInAllRows)
     EXPECT_GT(row->minimumSizeHint().width(), before);
 }
 
+TEST_F(RowButtonTest, TheLongestLabelMakesRoomInARowThatSharesItsLine)
+{
+    // A card of its own: the fixture's window is older than the theme's font.
+    QWidget card;
+    auto *rows = new QVBoxLayout(&card);
+    auto *plain = new RowButton(theme, u"Network"_s);
+    auto *line = new QWidget;
+    auto *shared = new RowButton(theme, u"Rules"_s, line);
+    auto *longest = new RowButton(theme, u"A label longer than all others by far"_s);
+    for (QWidget *added : std::initializer_list<QWidget *>{plain, line, longest}) {
+        rows->addWidget(added);
+    }
+    card.show();
+    settle();
+    EXPECT_EQ(shared->minimumSizeHint().width(), longest->minimumSizeHint().width());
+    EXPECT_EQ(plain->minimumSizeHint().width(), longest->minimumSizeHint().width());
+    longest->hide();
+    EXPECT_EQ(shared->minimumSizeHint().width(), plain->minimumSizeHint().width());
+    EXPECT_LT(shared->minimumSizeHint().width(), longest->minimumSizeHint().width());
+}
+
 TEST_F(RowButtonTest, IsAsHighAsItsTextNeeds)
 {
     EXPECT_EQ(row->sizeHint().height(), Theme::rowHeight);

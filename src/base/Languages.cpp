@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Languages.h"
+
+#include "base/Localized.h"
+
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QFile>
+#include <QLibraryInfo>
+
+#include <algorithm>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString sourceLanguage = u"en"_s;
+const QString tables = u":/translations"_s;
+
+QString tableOf(const QString &language)
+{
+    return tables + u"/quillon_"_s + language + u".qm"_s;
+}
+
+/// "de-Latn-AT": the table of de_Latn_AT, else of de_Latn, else of de.
+QString tableNameFor(QString language)
+{
+    language.replace(u'-', u'_');
+    while (!language.isEmpty() && !QFile::exists(tableOf(language))) {
+        language.truncate(std::max<qsizetype>(language.lastIndexOf(u'_'), 0));
+    }
+    return language;
+}
+
+/// "C" is the locale of a system that is not told any.
+bool isEnglish(const QString &language)
+{
+    return language == "C"_L1 || language == sourceLanguage || language.startsWith("en-"_L1) ||
+           language.startsWith("en_"_L1);
+}
+
+QString chosenFrom(const QStringList &wanted)
+{
+    for (const QString &language : wanted) {
+        if (isEnglish(language)) {
+            break;
+        }
+        if (const QString name = tableNameFor(language); !name.isEmpty()) {
+            return name;
+        }
+    }
+    return sourceLanguage;
+}
+
+} // namespace
+
+UserLanguage::UserLanguage(const QStringList &wanted)
+    : m_name(chosenFrom(wanted))
+{
+    if (m_name == sourceLanguage) {
+        return;
+    }
+    if (m_ofQt.load(u"qtbase_"_s + m_name, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&m_ofQt);
+    }
+    if (m_own.load(tableOf(m_name))) {
+        QCoreApplication::installTranslator(&m_own);
+    }
+}
+
+UserLanguage::~UserLanguage()
+{
+    QCoreApplication::removeTranslator(&m_own);
+    QCoreApplication::removeTranslator(&m_ofQt);
+}
+
+bool isInAnyLanguage(const QString &text, const char *english)
+{
+    if (text.isEmpty()) {
+        return false;
+    }
+    if (text == QLatin1String(english) || text == localized(english)) {
+        return true;
+    }
+    QDirIterator files(tables, QDir::Files);
+    while (files.hasNext()) {
+        QTranslator table;
+        if (table.load(files.next()) && text == table.translate(textContext, english)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace quillon

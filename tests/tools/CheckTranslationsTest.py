@@ -1,0 +1,120 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""tools/check-translations finds what is missing in a table of texts, and what does not fit its text."""
+import os
+import subprocess
+import unittest
+from xml.sax.saxutils import escape
+
+from SourceCheck import ROOT, SourceCheckTest
+
+TABLE = "translations/quillon_de.ts"
+
+
+class CheckTranslationsTest(SourceCheckTest):
+    check = "check-translations"
+
+    def setUp(self):
+        super().setUp()
+        # A folder that is fine, to which each test adds something.
+        self.texts = {"Address": "Adresse"}
+        self.source('localized("Address");')
+        self.table()
+
+    def source(self, *lines, file="src/ui/Window.cpp"):
+        self.write(file, "namespace quillon {", "void Window::show()", "{", *lines, "}", "}")
+
+    def table(self, **unfinished):
+        messages = [f"<message><source>{escape(text)}</source>"
+                    f"<translation{' type=%s' % repr('unfinished') if text in unfinished else ''}>"
+                    f"{escape(translation)}</translation></message>"
+                    for text, translation in self.texts.items()]
+        self.write(TABLE, '<?xml version="1.0" encoding="utf-8"?>', "<!DOCTYPE TS>",
+                   '<TS version="2.1" language="de" sourcelanguage="en">', "<context><name>Quillon</name>",
+                   *messages, "</context></TS>")
+
+    def translate(self, text, translation):
+        """Both in the source and in the table."""
+        self.texts[text] = translation
+        quoted = text.replace("\n", "\\n").replace('"', '\\"')
+        self.source('localized("Address");', f'localized("{quoted}");')
+        self.table()
+
+    def fix(self):
+        return subprocess.run([os.path.join(ROOT, "tools", self.check), "--fix", self.folder.name],
+                              capture_output=True, text=True, stdin=subprocess.DEVNULL)
+
+    def test_says_nothing_of_a_table_that_fits(self):
+        self.assertEqual(self.problems(), [])
+        self.translate('%@\n\nThe "%d" & … · <b>', "%@\n\nDas „%d“ & … · <b>")
+        self.assertEqual(self.problems(), [])
+
+    def test_finds_a_text_without_a_translation_wherever_it_stands(self):
+        self.source('localized("Address");', 'filled(localized("%@ is "', '                 "new"), {localized(',
+                    '    "Name")});', 'const char *c = QT_TRANSLATE_NOOP("Quillon", "Marked");',
+                    'isInAnyLanguage(text(a, b), "Random");', "localized(label);", '// localized("Comment")')
+        self.assertEqual(self.problems(), [
+            "src/ui/Window.cpp:5: not in translations/quillon_de.ts: '%@ is new'",
+            "src/ui/Window.cpp:6: not in translations/quillon_de.ts: 'Name'",
+            "src/ui/Window.cpp:8: not in translations/quillon_de.ts: 'Marked'",
+            "src/ui/Window.cpp:9: not in translations/quillon_de.ts: 'Random'"])
+
+    def test_finds_a_text_that_is_hidden_in_an_expression(self):
+        self.source('localized("Address");', "localized(", '    isNew ? "New" : name(")", "("));')
+        self.assertEqual(self.problems(), [
+            "src/ui/Window.cpp:5: a text within an expression, which lupdate does not see: "
+            "localized(isNew ? \"New\" : name(\")\", \"(\"))"])
+
+    def test_finds_what_nobody_shows_any_more(self):
+        self.texts["Gone"] = "Weg"
+        self.table()
+        self.assertEqual(self.problems(), [f"{TABLE}: unused: 'Gone'"])
+
+    def test_finds_what_is_not_translated_yet(self):
+        self.table(Address=True)
+        self.assertEqual(self.problems(), [f"{TABLE}: unfinished: 'Address'"])
+        self.texts["Address"] = ""
+        self.table()
+        self.assertEqual(self.problems(), [f"{TABLE}: unfinished: 'Address'"])
+
+    def test_finds_translations_that_do_not_fit(self):
+        for text, translation, problem in (
+                ("%@ of %d", "%d von %@", "other placeholders"), ("%@ is", "%@ ist %@", "other placeholders"),
+                ("Current Address · %@", "Aktuelle Adresse: %@", "other separators “ · ”"),
+                ("Random", "Zufall · frei", "other separators “ · ”"),
+                ("a\nb", "a b", "other line breaks"),
+                ("&Apply", "Anwenden", "other mnemonics"), ("Apply", "&Anwenden", "other mnemonics"),
+                ("Loading...", "Lädt…", "other ellipses at the end"), ("New…", "Neu", "other ellipses at the end"),
+                ("    %@", "%@", "other blanks at the beginning"), ("to ", "zu", "other blanks at the end"),
+                ("the “name”", 'der "Name"', "straight quotation marks")):
+            with self.subTest(text):
+                self.texts = {"Address": "Adresse"}
+                self.translate(text, translation)
+                self.assertEqual(self.problems(), [f"{TABLE}: {problem}: {text!r} → {translation!r}"])
+
+    def test_looks_at_every_table(self):
+        with open(os.path.join(self.folder.name, TABLE)) as table:
+            self.write("translations/quillon_fr.ts", table.read().replace("Address", "Adress"))
+        self.assertEqual(self.problems(), [
+            "src/ui/Window.cpp:4: not in translations/quillon_fr.ts: 'Address'",
+            "translations/quillon_fr.ts: unused: 'Adress'"])
+
+    def test_refuses_a_folder_without_tables(self):
+        os.remove(os.path.join(self.folder.name, TABLE))
+        self.assertEqual(len(self.problems()), 1)
+
+    def test_puts_in_what_is_missing_and_takes_out_what_is_unused(self):
+        self.texts["Gone"] = "Weg"
+        self.table()
+        self.source('localized("Address");', 'localized("New");')
+        result = self.fix()
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (1, f"{TABLE}: unfinished: 'New'\n", ""))
+        with open(os.path.join(self.folder.name, TABLE)) as table:
+            content = table.read()
+        self.assertIn("<translation>Adresse</translation>", content)
+        self.assertNotIn("Weg", content)
+        self.assertEqual(self.problems(), [f"{TABLE}: unfinished: 'New'"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Languages.h"
+
+#include "base/Localized.h"
+
+#include <QCoreApplication>
+#include <gtest/gtest.h>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+TEST(Languages, AreUsedAsLongAsTheirObjectLives)
+{
+    EXPECT_EQ(localized("Address"), u"Address"_s);
+    {
+        const UserLanguage german({u"de"_s});
+        EXPECT_EQ(german.name(), u"de"_s);
+        EXPECT_EQ(localized("Address"), u"Adresse"_s);
+        EXPECT_EQ(localized(u"Address"_s), u"Adresse"_s);
+        EXPECT_EQ(localized("in no table"), u"in no table"_s);
+    }
+    EXPECT_EQ(localized("Address"), u"Address"_s);
+}
+
+TEST(Languages, TheFirstThatThereIsATableForIsChosenAndEnglishNeedsNone)
+{
+    const auto chosen = [](const QStringList &wanted) { return UserLanguage(wanted).name(); };
+    for (const char *wanted : {"de", "de-DE", "de_AT", "de-Latn-CH", "de-1996"}) {
+        EXPECT_EQ(chosen({QString::fromLatin1(wanted)}), u"de"_s) << wanted;
+    }
+    EXPECT_EQ(chosen({u"tlh"_s, u"de-DE"_s, u"en"_s}), u"de"_s) << "the second, better than none";
+    for (const char *english : {"en", "en-GB", "en_US", "en-Latn-US", "C"}) {
+        EXPECT_EQ(chosen({QString::fromLatin1(english), u"de"_s}), u"en"_s) << english;
+    }
+    for (const char *none : {"", "tlh", "d", "deutsch", "_", "-de", "../quillon_de", "DE"}) {
+        EXPECT_EQ(chosen({QString::fromLatin1(none)}), u"en"_s) << none;
+    }
+    EXPECT_EQ(chosen({}), u"en"_s);
+}
+
+TEST(Languages, BringQtsOwnTexts)
+{
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    EXPECT_EQ(cancel(), u"Cancel"_s);
+    const UserLanguage german({u"de"_s});
+    EXPECT_EQ(cancel(), u"Abbrechen"_s);
+}
+
+TEST(Languages, ATextIsFoundInEachOfThem)
+{
+    const auto isRandom = [](const QString &text) {
+        return isInAnyLanguage(text, "Random Address");
+    };
+    for (const QStringList &users : {QStringList{u"en"_s}, QStringList{u"de"_s}}) {
+        const UserLanguage language(users);
+        EXPECT_TRUE(isRandom(u"Random Address"_s));
+        EXPECT_TRUE(isRandom(u"Zufällige Adresse"_s));
+        for (const QString &other : {u""_s, QString(), u"random address"_s, u"Adresse"_s,
+                 u"Random Address "_s, u"Address"_s}) {
+            EXPECT_FALSE(isRandom(other)) << other.toStdString();
+        }
+    }
+    EXPECT_FALSE(isInAnyLanguage({}, "in no table"));
+}
+
+TEST(Languages, WhatIsCutOutOfAStoredTextIsThereInEachOfThem)
+{
+    // The note of new identifiers stands behind the date, which ends at its bracket.
+    const UserLanguage german({u"de"_s});
+    EXPECT_TRUE(localized("%@ (added %@ new Identifiers)").startsWith("%@ ("_L1));
+}
+
+} // namespace
+} // namespace quillon

@@ -1,0 +1,919 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Quillon</name>
+    <message>
+        <source>Unknown...</source>
+        <translation>Unbekannt...</translation>
+    </message>
+    <message>
+        <source>Another program is using the file.</source>
+        <translation>Ein anderes Programm verwendet die Datei.</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk.</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The disk could not be read or written.</source>
+        <translation>Der Datenträger konnte nicht gelesen oder beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Rules and history could not be saved. They are kept while Quillon runs. %@</source>
+        <translation>Regeln und Verlauf konnten nicht gespeichert werden. Sie bleiben erhalten, solange Quillon läuft. %@</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>The records were written by a newer version of Quillon</source>
+        <translation>Die Aufzeichnungen stammen von einer neueren Version von Quillon</translation>
+    </message>
+    <message>
+        <source>They are left untouched; please install that version again to use them: %@</source>
+        <translation>Sie bleiben unverändert; um sie zu verwenden, bitte jene Version wieder installieren: %@</translation>
+    </message>
+    <message>
+        <source>The records cannot be opened</source>
+        <translation>Die Aufzeichnungen lassen sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>%@
+
+Rules and history are in this file, which is left as it is: %@</source>
+        <translation>%@
+
+Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translation>
+    </message>
+    <message>
+        <source>Settings are damaged</source>
+        <translation>Einstellungen sind beschädigt</translation>
+    </message>
+    <message>
+        <source>Quillon goes on with what it knows, or with its defaults. The damaged file was left as it was: %@</source>
+        <translation>Quillon arbeitet mit den bekannten Einstellungen oder mit seinen Vorgaben weiter. Die beschädigte Datei blieb unverändert: %@</translation>
+    </message>
+    <message>
+        <source>Settings were damaged</source>
+        <translation>Einstellungen waren beschädigt</translation>
+    </message>
+    <message>
+        <source>Quillon goes on with what it knows, or with its defaults. The damaged file is kept: %@</source>
+        <translation>Quillon arbeitet mit den bekannten Einstellungen oder mit seinen Vorgaben weiter. Die beschädigte Datei bleibt erhalten: %@</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read</source>
+        <translation>Einstellungen lassen sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>Quillon uses its defaults and leaves the file alone: %@</source>
+        <translation>Quillon verwendet seine Vorgaben und ändert die Datei nicht: %@</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved</source>
+        <translation>Einstellungen lassen sich nicht speichern</translation>
+    </message>
+    <message>
+        <source>Changes last until Quillon quits. Please check the permissions of %@</source>
+        <translation>Änderungen gelten, bis Quillon beendet wird. Bitte die Zugriffsrechte prüfen: %@</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk. Changes last until Quillon quits: %@</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr. Änderungen gelten, bis Quillon beendet wird: %@</translation>
+    </message>
+    <message>
+        <source>Could not save changes while quitting. Quit anyway?</source>
+        <translation>Änderungen konnten beim Beenden nicht gespeichert werden. Trotzdem beenden?</translation>
+    </message>
+    <message>
+        <source>Quitting now will lose any changes you have made since the last successful save</source>
+        <translation>Wird Quillon jetzt beendet, gehen alle Änderungen seit dem letzten erfolgreichen Speichern verloren</translation>
+    </message>
+    <message>
+        <source>Quit anyway</source>
+        <translation>Trotzdem beenden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%@ did not let go of it</source>
+        <translation>%@ hat die Schnittstelle nicht freigegeben</translation>
+    </message>
+    <message>
+        <source>Only the session in front of this computer may change it</source>
+        <translation>Nur eine Sitzung direkt an diesem Rechner darf die Adresse ändern</translation>
+    </message>
+    <message>
+        <source>Please make sure you have installed the HelperTool</source>
+        <translation>Bitte sicherstellen, dass das Hilfsprogramm installiert ist</translation>
+    </message>
+    <message>
+        <source>%@ gives this network an Address of its own. Look for it in the network&apos;s settings</source>
+        <translation>%@ gibt diesem Netzwerk eine eigene Adresse. Sie steht in den Einstellungen des Netzwerks</translation>
+    </message>
+    <message>
+        <source>Please make sure your Device is enabled</source>
+        <translation>Bitte sicherstellen, dass das Gerät aktiviert ist</translation>
+    </message>
+    <message>
+        <source>%@ Address Changed</source>
+        <translation>%@: Adresse geändert</translation>
+    </message>
+    <message>
+        <source>Your new MAC Address is: %@</source>
+        <translation>Die neue MAC-Adresse ist: %@</translation>
+    </message>
+    <message>
+        <source>Please connect it again with the program that connects it</source>
+        <translation>Bitte mit dem zuständigen Programm neu verbinden</translation>
+    </message>
+    <message>
+        <source>Please connect it again with %@</source>
+        <translation>Bitte mit %@ neu verbinden</translation>
+    </message>
+    <message>
+        <source>%@ is not connected again</source>
+        <translation>%@ ist nicht wieder verbunden</translation>
+    </message>
+    <message>
+        <source>%@ keeps the IP Address of before</source>
+        <translation>%@ behält die bisherige IP-Adresse</translation>
+    </message>
+    <message>
+        <source>%@ keeps an IPv6 Address made from the old one</source>
+        <translation>%@ behält eine aus der alten Adresse gebildete IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>%@ Address may be replaced</source>
+        <translation>%@: Adresse wird eventuell ersetzt</translation>
+    </message>
+    <message>
+        <source>This session may not control %@. The new Address holds until the interface connects the next time</source>
+        <translation>Diese Sitzung darf %@ nicht steuern. Die neue Adresse gilt, bis sich die Schnittstelle das nächste Mal verbindet</translation>
+    </message>
+    <message>
+        <source>The new Address and the old Address are identical</source>
+        <translation>Die neue und die alte Adresse sind identisch</translation>
+    </message>
+    <message>
+        <source>%@ Address was replaced</source>
+        <translation>%@: Adresse wurde ersetzt</translation>
+    </message>
+    <message>
+        <source>Another program keeps setting an Address of its own. Your rule acts again when you join a network</source>
+        <translation>Ein anderes Programm setzt immer wieder eine eigene Adresse. Die Regel greift wieder bei der nächsten Verbindung mit einem Netzwerk</translation>
+    </message>
+    <message>
+        <source>%@ Address was not Changed</source>
+        <translation>%@: Adresse wurde nicht geändert</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>%@ now has %@ in place of %@.</source>
+        <translation>%@ hat jetzt %@ statt %@.</translation>
+    </message>
+    <message>
+        <source>%@ owns this interface.</source>
+        <translation>%@ verwaltet diese Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>%@ shows another Address</source>
+        <translation>%@ zeigt eine andere Adresse</translation>
+    </message>
+    <message>
+        <source>Apply again</source>
+        <translation>Erneut anwenden</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Akzeptieren</translation>
+    </message>
+    <message>
+        <source>Show window</source>
+        <translation>Fenster anzeigen</translation>
+    </message>
+    <message>
+        <source>Randomize address</source>
+        <translation>Adresse zufällig ändern</translation>
+    </message>
+    <message>
+        <source>Shortcut for “%@” not set</source>
+        <translation>Tastenkürzel für „%@“ nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>A shortcut needs Ctrl, Alt or Meta and one more key.</source>
+        <translation>Ein Tastenkürzel braucht Strg, Alt oder Meta und eine weitere Taste.</translation>
+    </message>
+    <message>
+        <source>Another program uses this shortcut.</source>
+        <translation>Ein anderes Programm verwendet dieses Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>The desktop refused this shortcut.</source>
+        <translation>Die Arbeitsumgebung hat dieses Tastenkürzel abgelehnt.</translation>
+    </message>
+    <message>
+        <source>This keyboard has no such key.</source>
+        <translation>Diese Tastatur hat keine solche Taste.</translation>
+    </message>
+    <message>
+        <source>This desktop does not let programs set global shortcuts.</source>
+        <translation>In dieser Arbeitsumgebung können Programme keine globalen Tastenkürzel setzen.</translation>
+    </message>
+    <message>
+        <source>Quillon requires Location Services to determine your current network details</source>
+        <translation>Quillon benötigt die Standortdienste, um Angaben zum aktuellen Netzwerk zu ermitteln</translation>
+    </message>
+    <message>
+        <source>You need to give Quillon access in System Settings &gt; Privacy &amp; Security &gt; Privacy &gt; Location Services</source>
+        <translation>Der Zugriff für Quillon wird hier erlaubt: Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Datenschutz &gt; Standortdienste</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Random Address</source>
+        <translation>Zufällige Adresse</translation>
+    </message>
+    <message>
+        <source>Not currently connected...</source>
+        <translation>Derzeit nicht verbunden...</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>WPA Personal</source>
+        <translation>WPA Personal</translation>
+    </message>
+    <message>
+        <source>WPA Personal Mixed</source>
+        <translation>WPA Personal (gemischt)</translation>
+    </message>
+    <message>
+        <source>WPA2 Personal</source>
+        <translation>WPA2 Personal</translation>
+    </message>
+    <message>
+        <source>Personal</source>
+        <translation>Personal</translation>
+    </message>
+    <message>
+        <source>Dynamic WEP</source>
+        <translation>Dynamisches WEP</translation>
+    </message>
+    <message>
+        <source>WPA Enterprise</source>
+        <translation>WPA Enterprise</translation>
+    </message>
+    <message>
+        <source>WPA Enterprise Mixed</source>
+        <translation>WPA Enterprise (gemischt)</translation>
+    </message>
+    <message>
+        <source>WPA2 Enterprise</source>
+        <translation>WPA2 Enterprise</translation>
+    </message>
+    <message>
+        <source>Enterprise</source>
+        <translation>Enterprise</translation>
+    </message>
+    <message>
+        <source>Quillon is not in the status bar</source>
+        <translation>Quillon ist nicht in der Statusleiste</translation>
+    </message>
+    <message>
+        <source>This desktop shows no status items. Minimize the window to keep Quillon running: closing it ends Quillon.</source>
+        <translation>Diese Arbeitsumgebung zeigt keine Statussymbole. Damit Quillon weiterläuft, das Fenster minimieren: Schließen beendet Quillon.</translation>
+    </message>
+    <message>
+        <source>New Network Rule…</source>
+        <translation>Neue Netzwerkregel…</translation>
+    </message>
+    <message>
+        <source>New Login Rule…</source>
+        <translation>Neue Anmelderegel…</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>%@Hardware Address · %@</source>
+        <translation>%@Hardware-Adresse · %@</translation>
+    </message>
+    <message>
+        <source>%@Current Address · %@</source>
+        <translation>%@Aktuelle Adresse · %@</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Randomize</source>
+        <translation>Zufällig ändern</translation>
+    </message>
+    <message>
+        <source>%@Resume Timer</source>
+        <translation>%@Timer fortsetzen</translation>
+    </message>
+    <message>
+        <source>%@Pause Timer</source>
+        <translation>%@Timer anhalten</translation>
+    </message>
+    <message>
+        <source>Not part of this version yet</source>
+        <translation>In dieser Version noch nicht enthalten</translation>
+    </message>
+    <message>
+        <source>Open Quillon</source>
+        <translation>Quillon öffnen</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Saved Networks and Addresses</source>
+        <translation>Gespeicherte Netzwerke und Adressen</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>About Quillon</source>
+        <translation>Über Quillon</translation>
+    </message>
+    <message>
+        <source>Quit Quillon</source>
+        <translation>Quillon beenden</translation>
+    </message>
+    <message>
+        <source>Remove Network from Favorites</source>
+        <translation>Netzwerk aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add Network to Favorites</source>
+        <translation>Netzwerk zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Address from Favorites</source>
+        <translation>Adresse aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add Address to Favorites</source>
+        <translation>Adresse zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Network name</source>
+        <translation>Netzwerkname</translation>
+    </message>
+    <message>
+        <source>BSSID</source>
+        <translation>BSSID</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Noise</source>
+        <translation>Rauschen</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Datenrate</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>MCS</source>
+        <translation>MCS</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>no rules have been configured</source>
+        <translation>Keine Regeln eingerichtet</translation>
+    </message>
+    <message>
+        <source>has an Active rule</source>
+        <translation>Eine Regel ist aktiv</translation>
+    </message>
+    <message>
+        <source>no rules are currently Active</source>
+        <translation>Derzeit ist keine Regel aktiv</translation>
+    </message>
+    <message>
+        <source>No interface is selected: there is none to choose a vendor for</source>
+        <translation>Keine Schnittstelle ausgewählt, für die sich ein Hersteller wählen ließe</translation>
+    </message>
+    <message>
+        <source>Update database</source>
+        <translation>Datenbank aktualisieren</translation>
+    </message>
+    <message>
+        <source>Getting download information...</source>
+        <translation>Angaben zum Download werden abgerufen...</translation>
+    </message>
+    <message>
+        <source>Updating Vendor Identifier count...</source>
+        <translation>Anzahl der Herstellerkennungen wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Cancel download...</source>
+        <translation>Download abbrechen...</translation>
+    </message>
+    <message>
+        <source>Downloading... %@MB</source>
+        <translation>Herunterladen... %@MB</translation>
+    </message>
+    <message>
+        <source>Downloading... %@% of %@MB</source>
+        <translation>Herunterladen... %@% von %@MB</translation>
+    </message>
+    <message>
+        <source>Download cancelled...</source>
+        <translation>Download abgebrochen...</translation>
+    </message>
+    <message>
+        <source>Processing data...</source>
+        <translation>Daten werden verarbeitet...</translation>
+    </message>
+    <message>
+        <source>Parsing file failed...</source>
+        <translation>Datei konnte nicht ausgewertet werden...</translation>
+    </message>
+    <message>
+        <source>Last Updated: %@</source>
+        <translation>Zuletzt aktualisiert: %@</translation>
+    </message>
+    <message>
+        <source>Restoring the previous database...</source>
+        <translation>Vorherige Datenbank wird wiederhergestellt...</translation>
+    </message>
+    <message>
+        <source>Restoring failed...</source>
+        <translation>Wiederherstellen fehlgeschlagen...</translation>
+    </message>
+    <message>
+        <source>Getting Vendor Identifier count...</source>
+        <translation>Herstellerkennungen werden gezählt...</translation>
+    </message>
+    <message>
+        <source>%@ Vendor Identifiers</source>
+        <translation>%@ Herstellerkennungen</translation>
+    </message>
+    <message>
+        <source>This is the address in use. Type or drop another to change it.</source>
+        <translation>Dies ist die verwendete Adresse. Zum Ändern eine andere eingeben oder hierher ziehen.</translation>
+    </message>
+    <message>
+        <source>A MAC address has 12 hexadecimal digits.</source>
+        <translation>Eine MAC-Adresse hat 12 hexadezimale Ziffern.</translation>
+    </message>
+    <message>
+        <source>This is not a MAC address.</source>
+        <translation>Dies ist keine MAC-Adresse.</translation>
+    </message>
+    <message>
+        <source>Group address: most adapters refuse it.</source>
+        <translation>Gruppenadresse: Die meisten Adapter lehnen sie ab.</translation>
+    </message>
+    <message>
+        <source>Press Return or Apply to use this address.</source>
+        <translation>Die Eingabetaste oder „Anwenden“ setzt diese Adresse.</translation>
+    </message>
+    <message>
+        <source>Changed: this is the address in use now.</source>
+        <translation>Geändert: Dies ist jetzt die verwendete Adresse.</translation>
+    </message>
+    <message>
+        <source>The address was not changed.</source>
+        <translation>Die Adresse wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Not changed: %@.</source>
+        <translation>Nicht geändert: %@.</translation>
+    </message>
+    <message>
+        <source>Changing…</source>
+        <translation>Wird geändert…</translation>
+    </message>
+    <message>
+        <source>Install the helper to change the address.</source>
+        <translation>Zum Ändern der Adresse das Hilfsprogramm installieren.</translation>
+    </message>
+    <message>
+        <source>No interface here can be changed.</source>
+        <translation>Keine Schnittstelle lässt sich ändern.</translation>
+    </message>
+    <message>
+        <source>No interface is selected: there is none whose address can be changed</source>
+        <translation>Keine Schnittstelle ausgewählt, deren Adresse sich ändern ließe</translation>
+    </message>
+    <message>
+        <source>The selected interface is not there</source>
+        <translation>Die ausgewählte Schnittstelle ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>The helper tool is not installed</source>
+        <translation>Das Hilfsprogramm ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>The field holds no other address to apply</source>
+        <translation>Im Feld steht keine andere Adresse</translation>
+    </message>
+    <message>
+        <source>The interface has its factory address</source>
+        <translation>Die Schnittstelle hat ihre Werksadresse</translation>
+    </message>
+    <message>
+        <source>The interface has no factory address that is known</source>
+        <translation>Die Werksadresse der Schnittstelle ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Changing an address needs administrator rights, which Quillon itself never has. A small helper makes the change and nothing else. Installing it asks for an administrator&apos;s password once; Preferences › Advanced removes it again.</source>
+        <translation>Das Ändern einer Adresse erfordert Systemverwalterrechte, die Quillon selbst nie hat. Ein kleines Hilfsprogramm nimmt die Änderung vor und sonst nichts. Seine Installation fragt einmal nach dem Passwort eines Systemverwalters; unter Einstellungen › Erweitert lässt es sich wieder entfernen.</translation>
+    </message>
+    <message>
+        <source>...changing MAC Address in %@</source>
+        <translation>...neue MAC-Adresse in %@</translation>
+    </message>
+    <message>
+        <source>(paused)</source>
+        <translation>(angehalten)</translation>
+    </message>
+    <message>
+        <source>Quillon Timer started</source>
+        <translation>Quillon-Timer gestartet</translation>
+    </message>
+    <message>
+        <source>Quillon</source>
+        <translation>Quillon</translation>
+    </message>
+    <message>
+        <source>File menu</source>
+        <translation>Dateimenü</translation>
+    </message>
+    <message>
+        <source>File menu (F10)</source>
+        <translation>Dateimenü (F10)</translation>
+    </message>
+    <message>
+        <source>External address</source>
+        <translation>Externe Adresse</translation>
+    </message>
+    <message>
+        <source>Refresh external address</source>
+        <translation>Externe Adresse aktualisieren</translation>
+    </message>
+    <message>
+        <source>Asks a public service under which address it sees you</source>
+        <translation>Fragt einen öffentlichen Dienst, unter welcher Adresse dieser Rechner dort erscheint</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Saved addresses</source>
+        <translation>Gespeicherte Adressen</translation>
+    </message>
+    <message>
+        <source>Add the current address with the heart.</source>
+        <translation>Das Herz fügt die aktuelle Adresse hinzu.</translation>
+    </message>
+    <message>
+        <source>Click to put one into the field, or drag it there.</source>
+        <translation>Ein Klick setzt eine Adresse ins Feld; sie lässt sich auch dorthin ziehen.</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Active rule</source>
+        <translation>Aktive Regel</translation>
+    </message>
+    <message>
+        <source>No active rules</source>
+        <translation>Keine aktiven Regeln</translation>
+    </message>
+    <message>
+        <source>No rules</source>
+        <translation>Keine Regeln</translation>
+    </message>
+    <message>
+        <source>No rule for this interface.</source>
+        <translation>Keine Regel für diese Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Pause or Resume Timer</source>
+        <translation>Timer anhalten oder fortsetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Vendor</source>
+        <translation>&amp;Hersteller</translation>
+    </message>
+    <message>
+        <source>Vendor of random addresses</source>
+        <translation>Hersteller zufälliger Adressen</translation>
+    </message>
+    <message>
+        <source>Type the beginning of a name, then choose from the list</source>
+        <translation>Den Anfang eines Namens eingeben, dann aus der Liste wählen</translation>
+    </message>
+    <message>
+        <source>Hide vendors</source>
+        <translation>Hersteller ausblenden</translation>
+    </message>
+    <message>
+        <source>Show vendors</source>
+        <translation>Hersteller anzeigen</translation>
+    </message>
+    <message>
+        <source>Bring back the vendors from before the last update</source>
+        <translation>Den Stand vor der letzten Aktualisierung zurückholen</translation>
+    </message>
+    <message>
+        <source>The vendors from before the last update are being brought back</source>
+        <translation>Der Stand vor der letzten Aktualisierung wird zurückgeholt</translation>
+    </message>
+    <message>
+        <source>Not while the database is being updated</source>
+        <translation>Nicht während die Datenbank aktualisiert wird</translation>
+    </message>
+    <message>
+        <source>There are no vendors from before an update</source>
+        <translation>Es gibt keinen Stand vor einer Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Not while the vendors from before are being brought back</source>
+        <translation>Nicht während der vorherige Stand zurückgeholt wird</translation>
+    </message>
+    <message>
+        <source>Vendor Data</source>
+        <translation>Herstellerdaten</translation>
+    </message>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Fortschritt des Downloads</translation>
+    </message>
+    <message>
+        <source>Restore previous</source>
+        <translation>Vorherige wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Folded</source>
+        <translation>Eingeklappt</translation>
+    </message>
+    <message>
+        <source>Unfolded</source>
+        <translation>Ausgeklappt</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Registry</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>Vendors</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Signal and noise are not known</source>
+        <translation>Signal und Rauschen sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Signal %@</source>
+        <translation>Signal %@</translation>
+    </message>
+    <message>
+        <source>Noise %@</source>
+        <translation>Rauschen %@</translation>
+    </message>
+    <message>
+        <source>Signal %@, noise %@</source>
+        <translation>Signal %@, Rauschen %@</translation>
+    </message>
+    <message>
+        <source>Signal and noise over the last five minutes</source>
+        <translation>Signal und Rauschen der letzten fünf Minuten</translation>
+    </message>
+    <message>
+        <source>5 minutes</source>
+        <translation>5 Minuten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>A&amp;ddress</source>
+        <translation>A&amp;dresse</translation>
+    </message>
+    <message>
+        <source>The address in use is not the hardware address</source>
+        <translation>Die verwendete Adresse ist nicht die Hardware-Adresse</translation>
+    </message>
+    <message>
+        <source>Apply address</source>
+        <translation>Adresse anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Randomize</source>
+        <translation>&amp;Zufällig ändern</translation>
+    </message>
+    <message>
+        <source>Changed: the address in use is not the hardware address</source>
+        <translation>Geändert: Die verwendete Adresse ist nicht die Hardware-Adresse</translation>
+    </message>
+    <message>
+        <source>Twelve hexadecimal digits. Return applies the address.</source>
+        <translation>Zwölf hexadezimale Ziffern. Die Eingabetaste setzt die Adresse.</translation>
+    </message>
+    <message>
+        <source>Gives the interface the address in the field</source>
+        <translation>Gibt der Schnittstelle die Adresse im Feld</translation>
+    </message>
+    <message>
+        <source>Gives the interface a random, locally administered address</source>
+        <translation>Gibt der Schnittstelle eine zufällige, lokal verwaltete Adresse</translation>
+    </message>
+    <message>
+        <source>Twelve hexadecimal digits, with or without colons. Return applies the address.</source>
+        <translation>Zwölf hexadezimale Ziffern, mit oder ohne Doppelpunkte. Die Eingabetaste setzt die Adresse.</translation>
+    </message>
+    <message>
+        <source>Hardware address</source>
+        <translation>Hardware-Adresse</translation>
+    </message>
+    <message>
+        <source>The address the device was made with.</source>
+        <translation>Die Adresse, mit der das Gerät hergestellt wurde.</translation>
+    </message>
+    <message>
+        <source>Restore hardware address</source>
+        <translation>Hardware-Adresse wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Gives the interface the address back that it was made with</source>
+        <translation>Gibt der Schnittstelle die Adresse zurück, mit der sie hergestellt wurde</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inaktiv</translation>
+    </message>
+    <message>
+        <source>Link active</source>
+        <translation>Verbindung aktiv</translation>
+    </message>
+    <message>
+        <source>Link inactive</source>
+        <translation>Verbindung inaktiv</translation>
+    </message>
+    <message>
+        <source>The network interface whose address is shown and changed</source>
+        <translation>Die Netzwerkschnittstelle, deren Adresse angezeigt und geändert wird</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>The helper is not installed</source>
+        <translation>Das Hilfsprogramm fehlt</translation>
+    </message>
+    <message>
+        <source>Helper hint</source>
+        <translation>Hinweis zum Hilfsprogramm</translation>
+    </message>
+    <message>
+        <source>What is the helper?</source>
+        <translation>Was ist das Hilfsprogramm?</translation>
+    </message>
+    <message>
+        <source>Install helper</source>
+        <translation>Hilfsprogramm installieren</translation>
+    </message>
+    <message>
+        <source>Asks for an administrator&apos;s password</source>
+        <translation>Fragt nach dem Passwort eines Systemverwalters</translation>
+    </message>
+    <message>
+        <source>About the helper</source>
+        <translation>Über das Hilfsprogramm</translation>
+    </message>
+    <message>
+        <source>Installing…</source>
+        <translation>Wird installiert…</translation>
+    </message>
+    <message>
+        <source>&amp;Install Helper</source>
+        <translation>&amp;Installieren</translation>
+    </message>
+    <message>
+        <source>%@ (added %@ new Identifiers)</source>
+        <translation>%@ (%@ neue Kennungen)</translation>
+    </message>
+    <message>
+        <source>Getting Vendor infomation...</source>
+        <translation>Angaben zum Hersteller werden abgerufen...</translation>
+    </message>
+    <message>
+        <source>No Vendor Information available...</source>
+        <translation>Kein Hersteller bekannt...</translation>
+    </message>
+</context>
+</TS>
