@@ -20,6 +20,13 @@ void randomize(FaceProgram &program)
     program.features().mainWindow.randomizeAddress();
 }
 
+template <FakeHelper::Mood mood>
+void randomizeBy(FaceProgram &program)
+{
+    program.machine.helper.mood = mood;
+    randomize(program);
+}
+
 void type(FaceProgram &program, const QString &text)
 {
     program.features().mainWindow.editField(text);
@@ -114,10 +121,8 @@ const QList<FaceScene> scenes{
     {u"incomplete"_s, nullptr, [](P &program) { type(program, u"02:00:5E"_s); }},
     {u"refused"_s, nullptr, [](P &program) { type(program, u"02::0:5E:10:AB:CD"_s); }},
     {u"group-address"_s, nullptr, [](P &program) { type(program, u"03:00:5E:10:AB:CD"_s); }},
-    {u"changing"_s, [](P &program) { program.machine.helper.mood = FakeHelper::Mood::Hanging; },
-        randomize},
-    {u"change-refused"_s,
-        [](P &program) { program.machine.helper.mood = FakeHelper::Mood::Refusing; }, randomize},
+    {u"changing"_s, nullptr, randomizeBy<FakeHelper::Mood::Hanging>},
+    {u"change-refused"_s, nullptr, randomizeBy<FakeHelper::Mood::Refusing>},
     {u"helper-not-installed"_s, removeHelper, nullptr},
     {u"helper-installing"_s, removeHelper,
         [](P &program) { program.features().readMe.setInstalling(true); }},

@@ -3,8 +3,9 @@
 // Shows the program's windows in one state after the other, on a machine of fakes.
 //
 // usage: quillon-face-scenes [--dark] [--mirrored] [--large-text] [--wordy] [--list]
-// Reads the name of a state per line and answers, once it is shown, with the place of its windows
-// on the screen in pixels: "at X Y WIDTH HEIGHT". Ends with its input. --list tells the names.
+// Reads the name of a state per line and answers "shown" when it is on its way to the screen. To a
+// "?" it answers with the place of its windows there, in pixels: "at X Y WIDTH HEIGHT". Ends with
+// its input. --list tells the names.
 #include "face/FaceLook.h"
 #include "face/FaceProgram.h"
 #include "face/FaceScenes.h"
@@ -75,6 +76,11 @@ void show(const FaceScene &scene, std::unique_ptr<FaceProgram> &program, ColorSc
     program = std::make_unique<FaceProgram>(scheme);
     enter(scene, *program, waitUntilShown);
     waitUntilShown();
+    say(u"shown"_s);
+}
+
+void tellPlace()
+{
     const QRect shown = place();
     say(u"at %1 %2 %3 %4"_s.arg(shown.x()).arg(shown.y()).arg(shown.width()).arg(shown.height()));
 }
@@ -102,6 +108,8 @@ int main(int argc, char **argv)
         }
         return 0;
     }
+    // A cursor that blinks is there or not, as it happens.
+    QApplication::setCursorFlashTime(0);
     const FaceLook look = lookOf(arguments);
     const DressedApplication dressed(look);
     std::unique_ptr<FaceProgram> program;
@@ -113,6 +121,10 @@ int main(int argc, char **argv)
     QObject::connect(&notifier, &QSocketNotifier::activated, &application, [&] {
         const QString name = QString::fromUtf8(input.readLine()).trimmed();
         const FaceScene *scene = sceneNamed(name);
+        if (name == "?"_L1) {
+            tellPlace();
+            return;
+        }
         if (scene == nullptr) {
             notifier.setEnabled(false);
             QCoreApplication::exit(name.isEmpty() ? 0 : 1);
