@@ -9,6 +9,11 @@
 #include "face/FaceLook.h"
 #include "face/FaceProgram.h"
 #include "face/FaceScenes.h"
+#if __has_include("base/Languages.h")
+#include "base/Languages.h"
+
+#include <QLocale>
+#endif
 
 #include <QApplication>
 #include <QFile>
@@ -108,6 +113,9 @@ int main(int argc, char **argv)
         }
         return 0;
     }
+#if __has_include("base/Languages.h")
+    const UserLanguage language(QLocale::system().uiLanguages());
+#endif
     // A cursor that blinks is there or not, as it happens.
     QApplication::setCursorFlashTime(0);
     const FaceLook look = lookOf(arguments);
