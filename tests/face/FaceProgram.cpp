@@ -46,7 +46,10 @@ void FaceProgram::fillMachine()
     machine.host.at(wire).active = false;
     machine.host.plug(
         {u"Wi-Fi"_s, radio, radioAddress, radioAddress, {u"192.0.2.10"_s}, true, u"192.0.2.1"_s});
-    machine.random.put(QByteArray::fromHex("626866 48dc27"));
+    const QByteArray address = QByteArray::fromHex("62686648dc27");
+    // Beside what every machine of fakes begins with.
+    machine.random.bytes(static_cast<int>(address.size()));
+    machine.random.put(address);
     machine.wifi.join({.device = radio,
         .ssid = u"Harbor Café"_s,
         .bssid = u"a4:2b:b0:11:22:33"_s,

@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int widestName = 150;
+constexpr int widestName = 22; ///< in characters of average width
 
 } // namespace
 
@@ -43,7 +43,7 @@ RuleSwitchLine::RuleSwitchLine(const Theme &theme, QWidget *parent)
 void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
 {
     const QString name = plainLine(rule.name);
-    showLine(*m_name, rule.name, widestName);
+    showLine(*m_name, rule.name, widestName * m_name->fontMetrics().averageCharWidth());
     m_name->setToolTip(plainToolTip(rule.name));
     m_isOn = rule.enabled;
     m_switch->setChecked(rule.enabled);

@@ -103,9 +103,8 @@ void RowButton::describe()
 int RowButton::labelWidth() const
 {
     int widest = Theme::rowLabelWidth;
-    const auto rows = parentWidget() == nullptr ? QList<RowButton *>()
-                                                : parentWidget()->findChildren<RowButton *>(
-                                                      QString(), Qt::FindDirectChildrenOnly);
+    // Some stand within another widget, together with a button.
+    const auto rows = window()->findChildren<RowButton *>();
     for (const RowButton *row : rows) {
         if (!row->isHidden()) {
             widest = std::max(widest, fontMetrics().horizontalAdvance(row->m_label));
