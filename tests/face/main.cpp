@@ -17,6 +17,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QScreen>
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QWindow>
@@ -64,6 +65,17 @@ void waitUntilShown()
     }
 }
 
+/// To the middle of the upper edge: there is room on both sides and below, wherever the window
+/// manager has put it.
+void placeWindow()
+{
+    waitUntilShown();
+    QWidget &window = *FaceProgram::windows().constFirst();
+    const QRect screen = window.screen()->availableGeometry();
+    window.move(
+        screen.left() + (screen.width() - window.frameGeometry().width()) / 2, screen.top());
+}
+
 /// Where on the screen the windows are, in its own pixels.
 QRect place()
 {
@@ -79,7 +91,7 @@ void show(const FaceScene &scene, std::unique_ptr<FaceProgram> &program, ColorSc
 {
     program.reset();
     program = std::make_unique<FaceProgram>(scheme);
-    enter(scene, *program, waitUntilShown);
+    enter(scene, *program, placeWindow);
     waitUntilShown();
     say(u"shown"_s);
 }
