@@ -46,6 +46,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     makeFacts(models);
     makeShortcuts(models);
     m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
+    m_mainWindow.putHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,

@@ -3,6 +3,7 @@
 """The program under test, started as a person starts it, and the kernel to compare with."""
 import json
 import os
+import shutil
 import subprocess
 import sys
 import unittest
@@ -18,6 +19,24 @@ from accessibility import wait_until, xdotool  # noqa: E402,F401
 NAME = TITLE = "Quillon"
 PROGRAM = os.path.join(os.environ["QUILLON_BUILD"], "src", "quillon")
 DEADLINE = 120  # seconds; only a hang takes that long, however busy the machine is
+
+
+FOLDER = os.path.expanduser("~/.local/share/Quillon")
+RECORDS = os.path.join(FOLDER, "Quillon.sqlite")
+SETTINGS = os.path.expanduser("~/.config/Quillon")
+WRITE_RULE = os.path.join(os.environ["QUILLON_BUILD"], "tests", "integration", "app", "write-rule")
+
+
+def forget_everything():
+    """As if the program had never run: no settings, no records."""
+    for folder in (FOLDER, SETTINGS):
+        shutil.rmtree(folder, ignore_errors=True)
+
+
+def write_rule(kind, device):
+    """A rule in the records of the program, which must not run: "once", "every-minute" or "login"."""
+    os.makedirs(FOLDER, exist_ok=True)
+    subprocess.run([WRITE_RULE, RECORDS, kind, device], check=True, stdin=subprocess.DEVNULL, timeout=DEADLINE)
 
 
 def kernel_addresses():
@@ -54,7 +73,7 @@ class ProgramTest(unittest.TestCase):
         self.field = self.window.find("entry", "Address")
         wait_until(lambda: self.field.text, "the window showed no address")
         # Only now has the window manager put the window where it stays.
-        wait_until(lambda: self.selector.focused, "the window did not get the keyboard")
+        wait_until(self.focused, "the window did not get the keyboard")
 
     def end_program(self):
         if self.program.poll() is None:
@@ -82,6 +101,10 @@ class ProgramTest(unittest.TestCase):
 
     def has_popover(self, label):
         return bool(self.row(label).children)
+
+    def focused(self):
+        """What has the keyboard, of the window and what is open of it."""
+        return next((control for control in self.window.everything_below() if control.focused), None)
 
     @property
     def selector(self):

@@ -51,6 +51,11 @@ def take_area(x, y, width, height, path):
     _run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "-strip", path)
 
 
+def read_area(x, y, width, height):
+    """What is on the screen there, to be compared."""
+    return _run("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "-depth", "8", "rgb:-")
+
+
 def wait_for_still_screen(seconds=0.4, deadline=10.0):
     """Until nothing on the screen has moved for a while: animations are over, everything is painted.
 

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int popoverWidth = 330;
-constexpr int widestValue = 190;
+constexpr int widestValue = 24; ///< in characters of average width
 
 } // namespace
 
@@ -93,7 +93,9 @@ void NetworkRow::refreshDetails()
             label.setProperty("look", look);
             label.setStyleSheet(label.styleSheet());
         }
-        showLine(label, value.isEmpty() ? u"–"_s : value, widestValue);
+        showLine(label, value.isEmpty() ? u"–"_s : value,
+            widestValue * label.fontMetrics().averageCharWidth());
+        label.setToolTip(plainToolTip(value));
         if (value.isEmpty()) {
             label.setAccessibleName(localized("None"));
         }

@@ -15,7 +15,7 @@ namespace quillon {
 
 namespace {
 
-constexpr int widestName = 150;
+constexpr int widestName = 22; ///< in characters of average width
 
 } // namespace
 
@@ -32,14 +32,20 @@ RuleSwitchLine::RuleSwitchLine(const Theme &theme, QWidget *parent)
     line->addWidget(m_switch);
     line->addWidget(m_name, 1);
     line->addWidget(m_active);
-    connect(m_switch, &QCheckBox::clicked, this, &RuleSwitchLine::switched);
+    // Not its click: assistive technology toggles it without one.
+    connect(m_switch, &QCheckBox::toggled, this, [this](bool isOn) {
+        if (isOn != m_isOn) {
+            Q_EMIT switched(isOn);
+        }
+    });
 }
 
 void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
 {
     const QString name = plainLine(rule.name);
-    showLine(*m_name, rule.name, widestName);
+    showLine(*m_name, rule.name, widestName * m_name->fontMetrics().averageCharWidth());
     m_name->setToolTip(plainToolTip(rule.name));
+    m_isOn = rule.enabled;
     m_switch->setChecked(rule.enabled);
     m_switch->setAccessibleName(name);
     m_switch->setAccessibleDescription(rule.active ? localized("Active") : QString());

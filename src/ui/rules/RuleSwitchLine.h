@@ -32,6 +32,7 @@ private:
     ToggleSwitch *m_switch;
     QLabel *m_name;
     Badge *m_active;
+    bool m_isOn = false; ///< as the rule is
 };
 
 } // namespace quillon

@@ -50,6 +50,9 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     const int before = caption->sizeHint().width() - Theme::unit / 2;
     const int after = m_toggle->sizeHint().width() - Theme::unit / 2;
     m_field->setTextMargins(isMirrored ? after : before, 0, isMirrored ? before : after, 0);
+    // What stands there unless somebody chooses is always legible.
+    const int usual = m_field->fontMetrics().horizontalAdvance(localized("Random Address"));
+    m_field->setMinimumWidth(before + usual + after + 2 * inset + Theme::unit / 2);
     connectModel();
     refresh();
 }

@@ -5,6 +5,7 @@
 #include "ui/theme/Theme.h"
 
 #include <QEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -67,7 +68,9 @@ int DetailsArea::heightForWidth(int width) const
 QSize DetailsArea::sizeHint() const
 {
     const int width = m_column->totalMinimumSize().width();
-    return {width, heightForWidth(width)};
+    const int height = heightForWidth(width);
+    const bool scrolls = height == m_tallest;
+    return {width + (scrolls ? verticalScrollBar()->sizeHint().width() : 0), height};
 }
 
 bool DetailsArea::eventFilter(QObject *watched, QEvent *event)

@@ -45,6 +45,13 @@ QString inWords(const LiveGraph::Sample &latest)
     return filled(localized("Signal %@, noise %@"), {dBm(*latest.signal), dBm(*latest.noise)});
 }
 
+/// They read in their own direction: that of the window would put a unit before its number.
+void drawWords(QPainter &painter, const QRect &place, Qt::AlignmentFlag side, const QString &words)
+{
+    painter.setLayoutDirection(words.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(place, int(side) | int(Qt::AlignVCenter) | int(Qt::AlignAbsolute), words);
+}
+
 } // namespace
 
 LiveGraph::LiveGraph(const Theme &theme, QWidget *parent)
@@ -91,7 +98,13 @@ QSize LiveGraph::sizeHint() const
 
 QSize LiveGraph::minimumSizeHint() const
 {
-    return {120, sizeHint().height()};
+    // The legend, with its words side by side.
+    int width = 0;
+    for (const QString &name : {localized("Signal"), localized("Noise")}) {
+        width += 4 * Theme::unit + gap + fontMetrics().horizontalAdvance(name) + 2;
+    }
+    return {
+        width + fontMetrics().horizontalAdvance(localized("5 minutes")) + 2, sizeHint().height()};
 }
 
 QRect LiveGraph::plot() const
@@ -127,7 +140,7 @@ void LiveGraph::drawScale(QPainter &painter) const
         const QRect label = isRightToLeft() ? QRect(area.right() + gap, y - height / 2,
                                                   width() - area.right() - gap, height)
                                             : QRect(0, y - height / 2, area.left() - gap, height);
-        painter.drawText(label, int(Qt::AlignVCenter) | int(Qt::AlignRight), dBm(tick));
+        drawWords(painter, label, isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight, dBm(tick));
     }
 }
 
@@ -177,8 +190,8 @@ void LiveGraph::drawLegend(QPainter &painter) const
         const int width = fontMetrics().horizontalAdvance(name) + 1;
         const QRect text(dash.right() + 1 + gap, line.top(), width, height);
         painter.setPen(m_theme.colors().mutedText);
-        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), text),
-            int(Qt::AlignVCenter) | int(Qt::AlignHCenter), name);
+        drawWords(
+            painter, QStyle::visualRect(layoutDirection(), rect(), text), Qt::AlignHCenter, name);
         x = text.right() + 1 + 2 * Theme::unit;
     };
     entry(signalPen(), localized("Signal"));
@@ -186,7 +199,7 @@ void LiveGraph::drawLegend(QPainter &painter) const
     const QString time = localized("5 minutes");
     const QRect end(width() - fontMetrics().horizontalAdvance(time) - 1, line.top(),
         fontMetrics().horizontalAdvance(time) + 1, height);
-    painter.drawText(QStyle::visualRect(layoutDirection(), rect(), end), Qt::AlignVCenter, time);
+    drawWords(painter, QStyle::visualRect(layoutDirection(), rect(), end), Qt::AlignHCenter, time);
 }
 
 QPen LiveGraph::signalPen() const

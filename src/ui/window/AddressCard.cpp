@@ -103,6 +103,8 @@ void AddressCard::makeField()
     m_apply->setObjectName(u"updateButton"_s);
     m_apply->setAccessibleName(localized("Apply address"));
     m_apply->setAutoDefault(true);
+    // As high as the field, whose text is larger.
+    m_apply->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     connect(m_apply, &QPushButton::clicked, &m_model, &MainWindowModel::changeMacAddress);
     connect(m_field, &QLineEdit::returnPressed, m_apply, &QPushButton::click);
 }
@@ -116,6 +118,7 @@ void AddressCard::makeRandomize(const Theme &theme)
     m_randomize->setIcon(theme.icon(u"random"_s, Theme::Ink::OnAccent));
     m_randomize->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     m_randomize->setAutoDefault(true);
+    m_randomize->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     connect(m_randomize, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
 }
 

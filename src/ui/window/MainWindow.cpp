@@ -82,7 +82,6 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     connectPresence();
     m_presence.setWindowInSight(false);
     refresh();
-    m_addressCard->field().setFocus();
 }
 
 void MainWindow::addMenuButton(QWidget *button)
@@ -99,6 +98,28 @@ MainWindow::~MainWindow()
 void MainWindow::addDetails(QWidget *section)
 {
     m_area->add(section);
+}
+
+void MainWindow::putHeaderLast()
+{
+    const auto takesTab = [](const QWidget *widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) != 0;
+    };
+    QWidget *last = previousInFocusChain();
+    while (last != this && (!takesTab(last) || m_header->isAncestorOf(last))) {
+        last = last->previousInFocusChain();
+    }
+    QList<QWidget *> stops;
+    for (QWidget *widget = nextInFocusChain(); widget != this;
+        widget = widget->nextInFocusChain()) {
+        if (takesTab(widget) && m_header->isAncestorOf(widget)) {
+            stops.append(widget);
+        }
+    }
+    for (QWidget *stop : std::as_const(stops)) {
+        setTabOrder(last, stop);
+        last = stop;
+    }
 }
 
 void MainWindow::addShortcut(
@@ -161,6 +182,11 @@ void MainWindow::connectPresence()
 void MainWindow::refresh()
 {
     m_header->refresh();
+    if (!m_fieldHadFocus && m_model.state().fieldEnabled) {
+        // Before anybody knows of the helper it cannot have the keyboard.
+        m_fieldHadFocus = true;
+        m_addressCard->field().setFocus();
+    }
     m_version->setText(plainLine(m_model.state().versionLabel));
 }
 

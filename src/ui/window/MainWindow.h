@@ -50,6 +50,8 @@ public:
     FactsCard &facts() const { return *m_facts; }
     /// Puts a section under the facts, in the order of the calls.
     void addDetails(QWidget *section);
+    /// For the keyboard the header comes after everything that was added so far.
+    void putHeaderLast();
     /// `keys` anywhere in the window, as long as no popover is open.
     void addShortcut(const QKeySequence &keys, const QString &text, std::function<void()> act);
     /// Puts the keyboard where the address that was put into the field is applied.
@@ -80,6 +82,7 @@ private:
     TaskBar &m_taskBar;
     bool m_reachableWhenClosed = false;
     bool m_minimizesOncePainted = false;
+    bool m_fieldHadFocus = false;
 
     InterfaceHeader *m_header;
     AddressCard *m_addressCard;

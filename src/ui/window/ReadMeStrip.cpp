@@ -30,7 +30,7 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     : QFrame(parent)
     , m_model(model)
     , m_theme(theme)
-    , m_hint(new QPushButton(localized("The helper is not installed")))
+    , m_hint(new QPushButton)
     , m_install(makeInstall())
     , m_installExplained(makeInstall())
     , m_popover(new Popover(theme, new QWidget, m_hint))
@@ -38,6 +38,9 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     setObjectName(u"readMe"_s);
     setAttribute(Qt::WA_StyledBackground);
     setMinimumHeight(Theme::tallRowHeight);
+    // Before its text: what assistive technology has once seen keeps its role.
+    setAccessibleRole(*m_hint, QAccessible::Button);
+    m_hint->setText(localized("The helper is not installed"));
     m_hint->setObjectName(u"readMeLabel"_s);
     m_hint->setAccessibleName(localized("Helper hint"));
     m_hint->setAccessibleDescription(m_hint->text());
@@ -83,10 +86,9 @@ QPushButton *ReadMeStrip::makeInstall()
 
 void ReadMeStrip::makePopover()
 {
+    setAccessibleRole(*m_popover, QAccessible::Dialog);
     m_popover->setBodyWidth(popoverWidth);
     m_popover->setAccessibleName(localized("What is the helper?"));
-    setAccessibleRole(*m_popover, QAccessible::Dialog);
-    setAccessibleRole(*m_hint, QAccessible::Button);
     auto *head = new PopoverHead(m_theme, u"shield"_s);
     head->setTitle(localized("What is the helper?"));
     auto *explanation = plainLabel(ReadMeModel::text());

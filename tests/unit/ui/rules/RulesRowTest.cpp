@@ -94,6 +94,21 @@ TEST_F(RulesRowTest, ASwitchIsToldWithItsRule)
     EXPECT_EQ(told.value(u"state"_s).toBool(), !before);
 }
 
+TEST_F(RulesRowTest, AssistiveTechnologySwitchesWithoutAClick)
+{
+    addRule({.name = u"Café"_s});
+    list.filterRulesArrayController();
+    int told = 0;
+    notifications.addObserver(notifications::toggleCheckbox, [&told](const auto &) { ++told; });
+    auto *button = lines().first()->findChild<ToggleSwitch *>();
+    button->toggle();
+    EXPECT_EQ(told, 1);
+    // The row follows the rule, which nobody changed here.
+    list.filterRulesArrayController();
+    lines().first()->setRule(list.state().rows.first());
+    EXPECT_EQ(told, 1) << "only what the user does is told";
+}
+
 TEST_F(RulesRowTest, RowsFollowTheRules)
 {
     addRule({.name = u"Café"_s});

@@ -42,8 +42,52 @@ protected:
         return columns;
     }
 
+    /// How high the first sign of the uppermost number beside the plot is, in pixels.
+    int heightOfFirstSign() const
+    {
+        const int height = graph->fontMetrics().height();
+        const int width = graph->fontMetrics().horizontalAdvance(u"−30 dBm"_s) + 2;
+        const int start = graph->isRightToLeft() ? graph->width() - width : 0;
+        const QImage picture = graph->grab({start, 0, width, 2 * height}).toImage();
+        const QRgb ground = picture.pixel(0, 0);
+        for (int x = 0; x < picture.width(); ++x) {
+            int inked = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                inked += picture.pixel(x, y) != ground ? 1 : 0;
+            }
+            if (inked > 0) {
+                return inked;
+            }
+        }
+        return 0;
+    }
+
     LiveGraph *graph = new LiveGraph(theme);
 };
+
+TEST_F(LiveGraphTest, MirroredItsUnitsStillFollowTheirNumbers)
+{
+    // It is a minus, not a letter.
+    constexpr int heightOfMinus = 3;
+    EXPECT_LE(heightOfFirstSign(), heightOfMinus);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    settle();
+    EXPECT_GT(heightOfFirstSign(), 0);
+    EXPECT_LE(heightOfFirstSign(), heightOfMinus);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(LiveGraphTest, IsAsWideAsItsLegend)
+{
+    const int before = graph->minimumSizeHint().width();
+    QFont large = graph->font();
+    large.setPointSizeF(2 * large.pointSizeF());
+    graph->setFont(large);
+    EXPECT_GT(graph->minimumSizeHint().width(), before);
+    const QFontMetrics metrics(large);
+    EXPECT_GT(graph->minimumSizeHint().width(),
+        metrics.horizontalAdvance(u"Signal"_s + u"Noise"_s + u"5 minutes"_s));
+}
 
 TEST_F(LiveGraphTest, SaysTheLatestInWordsWithItsUnit)
 {

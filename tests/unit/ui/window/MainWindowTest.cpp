@@ -379,6 +379,20 @@ TEST_F(MainWindowTest, TheFieldHasTheKeyboardFirst)
     EXPECT_EQ(view->focusWidget(), named<QLineEdit>("Address"));
 }
 
+TEST_F(MainWindowTest, TheFieldGetsTheKeyboardOnceItCanBeUsed)
+{
+    window.setHelperInstalled(false);
+    view = std::make_unique<MainWindow>(models(), theme, taskBar);
+    presence.openWindow();
+    EXPECT_NE(view->focusWidget(), named<QLineEdit>("Address"));
+    window.setHelperInstalled(true);
+    EXPECT_EQ(view->focusWidget(), named<QLineEdit>("Address"));
+    named<QPushButton>("Randomize address")->setFocus();
+    window.setHelperInstalled(false);
+    window.setHelperInstalled(true);
+    EXPECT_NE(view->focusWidget(), named<QLineEdit>("Address")) << "only once";
+}
+
 TEST_F(MainWindowTest, ClosedWithTheStatusItemInSightItOnlyHides)
 {
     view->setReachableWhenClosed(true);

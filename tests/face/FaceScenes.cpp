@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "face/FaceScenes.h"
+
+#include "base/SettingsKeys.h"
+#include "face/FaceProgram.h"
+
+#include <QAbstractButton>
+#include <QMenu>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+void randomize(FaceProgram &program)
+{
+    program.features().mainWindow.randomizeAddress();
+}
+
+template <FakeHelper::Mood mood>
+void randomizeBy(FaceProgram &program)
+{
+    program.machine.helper.mood = mood;
+    randomize(program);
+}
+
+void type(FaceProgram &program, const QString &text)
+{
+    program.features().mainWindow.editField(text);
+}
+
+void removeHelper(FaceProgram &program)
+{
+    program.machine.helper.installed = false;
+}
+
+void saveAddresses(FaceProgram &program)
+{
+    program.saveAddress(u"02:00:5e:00:53:0a"_s, u"Home"_s);
+    program.saveAddress(u"02:00:5e:00:53:0b"_s, u"Office"_s);
+    program.saveAddress(u"02:00:5e:00:53:0c"_s, u"Guest lab"_s);
+    program.saveAddress(u"02:00:5e:00:53:0d"_s, u"02:00:5e:00:53:0d"_s);
+    program.saveAddress(u"02:00:5e:00:53:0e"_s, u"The old printer on the third floor, east wing"_s);
+}
+
+void saveRules(FaceProgram &program)
+{
+    program.saveRule(FaceProgram::repeatedRule(u"Harbor Café"_s));
+    for (const auto &name : {u"Office"_s, u"Any network that has no rule of its own"_s}) {
+        QVariantMap rule = FaceProgram::repeatedRule(name);
+        rule[u"enabled"_s] = false;
+        program.saveRule(rule);
+    }
+}
+
+void leaveNetwork(FaceProgram &program)
+{
+    program.machine.wifi.leave();
+    auto &radio = program.machine.host.at(FaceProgram::radio);
+    radio.ipv4.clear();
+    radio.router.clear();
+    radio.active = false;
+    program.machine.settings.set(keys::externalIPAddress, u"Unknown..."_s);
+}
+
+void unplugEverything(FaceProgram &program)
+{
+    program.machine.host.unplug(FaceProgram::radio);
+    program.machine.host.unplug(FaceProgram::wire);
+    program.machine.wifi.interface.reset();
+}
+
+/// A name that is as long as one can be, from somebody who likes that.
+void joinLongName(FaceProgram &program)
+{
+    program.machine.wifi.interface->ssid = u"Free guest network of the harbor"_s;
+    program.machine.wifi.interface->security = WiFiInterface::WPAEnterpriseMixed;
+}
+
+void openNetwork(FaceProgram &program)
+{
+    program.features().networks.info.toggleNetworkInfoPopover();
+    constexpr int readings = 60;
+    for (int reading = 0; reading < readings; ++reading) {
+        program.machine.wifi.interface->rssi = -54 - (reading * 7) % 11;
+        program.machine.wifi.interface->noise = -92 + reading % 3;
+        program.machine.scheduler.advance(3s);
+    }
+}
+
+void openVendors(FaceProgram &program)
+{
+    program.features().vendors.field.showVendorViewPopover();
+}
+
+void typeVendor(FaceProgram &program)
+{
+    program.features().vendors.field.controlTextDidChange(u"al"_s);
+}
+
+void typeUnknownVendor(FaceProgram &program)
+{
+    program.features().vendors.field.controlTextDidChange(u"xyz"_s);
+}
+
+void openMenu(const QString &name)
+{
+    auto &button = FaceProgram::part<QWidget>(u"fileMenuButton"_s);
+    FaceProgram::part<QMenu>(name).popup(button.mapToGlobal(QPoint(0, button.height())));
+}
+
+using P = FaceProgram;
+
+const QList<FaceScene> scenes{
+    {u"main-window"_s, nullptr, randomize},
+    {u"plain"_s, nullptr, nullptr},
+    {u"typed"_s, nullptr, [](P &program) { type(program, u"02:00:5E:10:AB:CD"_s); }},
+    {u"incomplete"_s, nullptr, [](P &program) { type(program, u"02:00:5E"_s); }},
+    {u"refused"_s, nullptr, [](P &program) { type(program, u"02::0:5E:10:AB:CD"_s); }},
+    {u"group-address"_s, nullptr, [](P &program) { type(program, u"03:00:5E:10:AB:CD"_s); }},
+    {u"changing"_s, nullptr, randomizeBy<FakeHelper::Mood::Hanging>},
+    {u"change-refused"_s, nullptr, randomizeBy<FakeHelper::Mood::Refusing>},
+    {u"helper-not-installed"_s, removeHelper, nullptr},
+    {u"helper-installing"_s, removeHelper,
+        [](P &program) { program.features().readMe.setInstalling(true); }},
+    {u"no-interface"_s, unplugEverything, nullptr},
+    {u"not-connected"_s, leaveNetwork, nullptr},
+    {u"countdown"_s, saveRules, nullptr},
+    {u"countdown-paused"_s, saveRules,
+        [](P &program) {
+            program.features().rules.countdown.pauseCountdownTimer();
+            program.machine.scheduler.advance(2s);
+        }},
+    {u"popover-hardware"_s, nullptr,
+        [](P &program) {
+            randomize(program);
+            program.settle();
+            program.features().mainWindow.toggleHardwarePopover();
+        }},
+    {u"popover-saved-addresses"_s, saveAddresses,
+        [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
+    {u"popover-saved-addresses-empty"_s, nullptr,
+        [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
+    {u"popover-network"_s, nullptr, openNetwork},
+    {u"popover-network-long"_s, joinLongName, openNetwork},
+    {u"popover-vendor"_s, nullptr,
+        [](P &program) { program.features().vendors.info.toggleVendorPopover(); }},
+    {u"popover-rules"_s, saveRules,
+        [](P &program) { program.features().rules.list.toggleRulesPopover(); }},
+    {u"popover-rules-empty"_s, nullptr,
+        [](P &program) { program.features().rules.list.toggleRulesPopover(); }},
+    {u"popover-read-me"_s, removeHelper,
+        [](P &program) { program.features().readMe.toggleReadMePopover(); }},
+    {u"vendors"_s, nullptr, openVendors},
+    {u"vendors-typed"_s, nullptr, typeVendor},
+    {u"vendors-none-found"_s, nullptr, typeUnknownVendor},
+    {u"vendor-data"_s, nullptr,
+        [](P &) { FaceProgram::part<QAbstractButton>(u"vendorDataTitle"_s).click(); }},
+    {u"file-menu"_s, saveRules, [](P &) { openMenu(u"fileMenu"_s); }},
+};
+
+} // namespace
+
+const QList<FaceScene> &faceScenes()
+{
+    return scenes;
+}
+
+void enter(const FaceScene &scene, FaceProgram &program, const std::function<void()> &windowShown)
+{
+    if (scene.prepare != nullptr) {
+        scene.prepare(program);
+    }
+    program.start();
+    windowShown();
+    if (scene.act != nullptr) {
+        scene.act(program);
+    }
+    program.settle();
+}
+
+} // namespace quillon::test

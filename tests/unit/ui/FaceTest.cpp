@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "face/ContrastCheck.h"
+#include "face/FaceLook.h"
+#include "face/FaceProgram.h"
+#include "face/FaceScenes.h"
+#include "face/LayoutCheck.h"
+#include "fakes/QtPrinting.h"
+
+#include <gmock/gmock.h>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+using ::testing::IsEmpty;
+
+const QList<FaceLook> looks{
+    {.name = u"Light"_s},
+    {.name = u"Dark"_s, .scheme = ColorScheme::Dark},
+    {.name = u"Mirrored"_s, .mirrored = true},
+    {.name = u"Wordy"_s, .wordy = true},
+    {.name = u"German"_s, .language = u"de"_s},
+    {.name = u"LargeText"_s, .textScale = 2},
+    {.name = u"LargeTextGerman"_s, .textScale = 2, .language = u"de"_s},
+    {.name = u"LargeTextMirrored"_s, .textScale = 2, .mirrored = true},
+    {.name = u"LargeTextWordy"_s, .textScale = 2, .wordy = true},
+};
+
+class FaceTest : public ::testing::TestWithParam<std::tuple<FaceScene, FaceLook>>
+{
+protected:
+    const FaceScene &scene() const { return std::get<0>(GetParam()); }
+    const FaceLook &look() const { return std::get<1>(GetParam()); }
+};
+
+std::string nameOf(const ::testing::TestParamInfo<FaceTest::ParamType> &info)
+{
+    QString name;
+    for (const QString &word : std::get<0>(info.param).name.split(u'-')) {
+        name += word.left(1).toUpper() + word.mid(1);
+    }
+    return (name + u"In"_s + std::get<1>(info.param).name).toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(, FaceTest,
+    ::testing::Combine(::testing::ValuesIn(faceScenes()), ::testing::ValuesIn(looks)), nameOf);
+
+TEST_P(FaceTest, CanBeRead)
+{
+    const DressedApplication dressed(look());
+    FaceProgram program(look().scheme);
+    enter(scene(), program);
+    ASSERT_FALSE(FaceProgram::windows().isEmpty());
+    for (QWidget *window : FaceProgram::windows()) {
+        EXPECT_THAT(layoutFindings(*window), IsEmpty());
+        EXPECT_THAT(contrastFindings(*window), IsEmpty());
+    }
+}
+
+} // namespace
+} // namespace quillon::test
