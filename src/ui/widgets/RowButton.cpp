@@ -103,8 +103,9 @@ void RowButton::describe()
 int RowButton::labelWidth() const
 {
     int widest = Theme::rowLabelWidth;
-    // Some stand within another widget, together with a button.
-    const auto rows = window()->findChildren<RowButton *>();
+    const auto rows = parentWidget() == nullptr ? QList<RowButton *>()
+                                                : parentWidget()->findChildren<RowButton *>(
+                                                      QString(), Qt::FindDirectChildrenOnly);
     for (const RowButton *row : rows) {
         if (!row->isHidden()) {
             widest = std::max(widest, fontMetrics().horizontalAdvance(row->m_label));
