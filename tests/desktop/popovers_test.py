@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Each popover of the main window: opened by its row, read, used and closed in every way; and who has the keyboard
-then. That of the network needs a radio, which no sandbox has: tests/unit/ui/networks."""
+then. That of the network is in network_popover_test."""
 import os
 import plistlib
 import sqlite3

@@ -67,13 +67,16 @@ class ProgramTest(unittest.TestCase):
 
     def setUp(self):
         self.addresses = kernel_addresses()
-        self.program = start()
+        self.program = self.start_program()
         self.addCleanup(self.end_program)
         self.window = accessibility.window(NAME, TITLE)
         self.field = self.window.find("entry", "Address")
         wait_until(lambda: self.field.text, "the window showed no address")
         # Only now has the window manager put the window where it stays.
         wait_until(self.focused, "the window did not get the keyboard")
+
+    def start_program(self):
+        return start()
 
     def end_program(self):
         if self.program.poll() is None:

@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QSocketNotifier>
 #include <QTextStream>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -28,6 +29,8 @@ using namespace quillon::test;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::chrono::milliseconds turnInterval{20};
 
 void say(const QString &text)
 {
@@ -132,6 +135,14 @@ int main(int argc, char **argv)
     if (!input.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return 1;
     }
+    // The machine's clock stands still, but what is used answers.
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, &application, [&program] {
+        if (program != nullptr) {
+            program->machine.scheduler.runPending();
+        }
+    });
+    turns.start(turnInterval);
     QSocketNotifier notifier(input.handle(), QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &application, [&] {
         const QString name = QString::fromUtf8(input.readLine()).trimmed();

@@ -54,17 +54,6 @@ TEST_F(RowButtonTest, IsOneButtonWithLabelAndValue)
     EXPECT_EQ(accessible(*row).text(QAccessible::Name), u"Network, None"_s);
 }
 
-TEST_F(RowButtonTest, ValuesStandBelowEachOtherWhereverTheirRowsAre)
-{
-    auto *wide = new RowButton(theme, u"A label that is wider than the others are"_s);
-    auto *line = new QWidget;
-    (new QHBoxLayout(line))->addWidget(wide);
-    EXPECT_LT(row->minimumSizeHint().width(), wide->minimumSizeHint().width());
-    column->addWidget(line);
-    show();
-    EXPECT_EQ(row->minimumSizeHint().width(), wide->minimumSizeHint().width());
-}
-
 TEST_F(RowButtonTest, IsPressedByPointerKeyboardAndAssistiveTechnology)
 {
     const SignalLog clicks(row, &RowButton::clicked);
