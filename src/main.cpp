@@ -59,6 +59,9 @@ UserInterface::Models modelsOf(Features &features)
         .statusMenu = features.statusMenu,
         .fileMenu = features.fileMenu,
         .savedLists = networks.savedLists,
+        .removedInMainWindow = networks.removedInMainWindow,
+        .savedItems = {{networks.savedLists, networks.savedEntryPopover},
+            networks.removedFromSavedItems, features.presence},
         .network = networks.info,
         .externalAddress = networks.externalAddressShown,
         .rules = {rules.status, rules.list},
@@ -101,8 +104,8 @@ int main(int argc, char **argv)
     X11TaskBar taskBar;
     PortalColorScheme colorScheme;
     const DisplayCompositing compositing;
-    const UserInterface userInterface(
-        modelsOf(delegate.features()), {trayHost, taskBar, colorScheme, compositing});
+    const UserInterface userInterface(modelsOf(delegate.features()),
+        {trayHost, taskBar, colorScheme, compositing, platform.scheduler});
 
     LaunchSequence &launch = delegate.launch();
     QObject::connect(
