@@ -58,6 +58,7 @@ UserInterface::Models modelsOf(Features &features)
     return {.window = {features.mainWindow, features.readMe, features.presence},
         .statusMenu = features.statusMenu,
         .fileMenu = features.fileMenu,
+        .editMenu = features.editMenu,
         .savedLists = networks.savedLists,
         .removedInMainWindow = networks.removedInMainWindow,
         .savedItems = {{networks.savedLists, networks.savedEntryPopover},

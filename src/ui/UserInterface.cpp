@@ -39,7 +39,7 @@ Theme &applied(Theme &theme)
 
 UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     : m_theme(schemeOf(QGuiApplication::palette()))
-    , m_fileMenu(models.fileMenu)
+    , m_fileMenu(models.fileMenu, models.editMenu)
     , m_mainWindow(models.window, applied(m_theme), desktop.taskBar)
     , m_statusItem(models.statusMenu, models.window.presence, desktop.trayHost, m_theme)
 {

@@ -16,6 +16,7 @@ namespace quillon {
 class ColorSchemeSource;
 class Compositing;
 class CountdownModel;
+class EditMenuModel;
 class ExternalAddressModel;
 class FileMenuModel;
 class NetworkInfoModel;
@@ -35,6 +36,7 @@ public:
         MainWindow::Models window;
         StatusMenuModel &statusMenu;
         FileMenuModel &fileMenu;
+        EditMenuModel &editMenu;
         SavedListsModel &savedLists;
         RemovedFavorite &removedInMainWindow;
         SavedItemsWindow::Models savedItems;

@@ -85,6 +85,7 @@ protected:
                                              features().presence},
                        .statusMenu = features().statusMenu,
                        .fileMenu = features().fileMenu,
+                       .editMenu = features().editMenu,
                        .savedLists = features().networks.savedLists,
                        .removedInMainWindow = features().networks.removedInMainWindow,
                        .savedItems = {{features().networks.savedLists,
