@@ -60,8 +60,10 @@ SavedNetworkPopover::SavedNetworkPopover(
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(caption);
-    column->addWidget(m_bySsid);
-    column->addWidget(m_byBssid);
+    // Room for the ring of what has the keyboard.
+    column->addSpacing(Theme::unit / 2);
+    column->addWidget(m_bySsid, 0, Qt::AlignLeading);
+    column->addWidget(m_byBssid, 0, Qt::AlignLeading);
     add(choices, {m_bySsid, m_byBssid});
     connect(
         m_bySsid, &QRadioButton::clicked, &model, &SavedEntryPopoverModel::chooseSsidTickButton);

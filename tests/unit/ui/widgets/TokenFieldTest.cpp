@@ -206,6 +206,21 @@ TEST_F(TokenFieldTest, ATokenThatIsRenamedStaysTheSame)
     EXPECT_EQ(focused(), 1) << "the next one has the keyboard";
 }
 
+TEST_F(TokenFieldTest, WhatIsSaidOfAnEmptyOneTakesTheWholeLine)
+{
+    column->addStretch();
+    window.resize(320, 400);
+    field->setEntries({});
+    field->setEmptyText(u"Join a network and press its heart."_s);
+    settle();
+    const auto *sentence = field->findChild<QLabel *>();
+    EXPECT_TRUE(sentence->isVisible());
+    EXPECT_EQ(sentence->width(), field->width());
+    EXPECT_GE(field->height(), sentence->heightForWidth(sentence->width()));
+    field->setEntries(entries);
+    EXPECT_FALSE(sentence->isVisible());
+}
+
 TEST_F(TokenFieldTest, ATokenWithoutANameIsCalledByWhatItStandsFor)
 {
     field->setEntries({{QString(), u"02:00:00:00:00:01"_s}});
