@@ -60,7 +60,11 @@ UserInterface::Models modelsOf(Features &features)
     return {.window = {features.mainWindow, features.readMe, features.presence},
         .statusMenu = features.statusMenu,
         .fileMenu = features.fileMenu,
+        .editMenu = features.editMenu,
         .savedLists = networks.savedLists,
+        .removedInMainWindow = networks.removedInMainWindow,
+        .savedItems = {{networks.savedLists, networks.savedEntryPopover},
+            networks.removedFromSavedItems, features.presence},
         .network = networks.info,
         .externalAddress = networks.externalAddressShown,
         .rules = {rules.status, rules.list},
@@ -104,8 +108,8 @@ int main(int argc, char **argv)
     X11TaskBar taskBar;
     PortalColorScheme colorScheme;
     const DisplayCompositing compositing;
-    const UserInterface userInterface(
-        modelsOf(delegate.features()), {trayHost, taskBar, colorScheme, compositing});
+    const UserInterface userInterface(modelsOf(delegate.features()),
+        {trayHost, taskBar, colorScheme, compositing, platform.scheduler});
 
     LaunchSequence &launch = delegate.launch();
     QObject::connect(

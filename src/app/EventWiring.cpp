@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/EventWiring.h"
 
+#include "app/RecordSaving.h"
 #include "app/Termination.h"
 #include "app/features/Features.h"
 #include "base/NotificationNames.h"
@@ -25,9 +26,11 @@ constexpr int readingsAgain = 5;
 
 } // namespace
 
-EventWiring::EventWiring(const Platform &platform, Features &features, Termination &termination)
+EventWiring::EventWiring(const Platform &platform, Features &features, RecordSaving &recordSaving,
+    Termination &termination)
     : m_platform(platform)
     , m_features(features)
+    , m_recordSaving(recordSaving)
     , m_termination(termination)
     , m_networkChange({features.networks.externalAddress, features.devices.table,
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
@@ -166,16 +169,26 @@ void EventWiring::connectRecords()
 {
     RuleFeature &rules = m_features.rules;
     RecordStore &store = m_features.history.store;
-    on(store, &RecordStore::objectsDidChange, [&rules](const ObjectsDidChange &change) {
+    EditMenuModel &editMenu = m_features.editMenu;
+    on(store, &RecordStore::objectsDidChange, [&rules, &editMenu](const ObjectsDidChange &change) {
         rules.invariants.contextDidChange(change);
         rules.list.reloadAfter(change);
+        if (change.isUndone) {
+            // What they say is in force is shown; an address that they gave stays.
+            rules.evaluation.rulesWereChanged();
+        }
+        editMenu.refresh();
     });
+    on(store, &RecordStore::saved, [&editMenu] { editMenu.refresh(); });
+    on(store, &RecordStore::undoChanged, [&editMenu] { editMenu.refresh(); });
+    on(editMenu, &EditMenuModel::saveRequested, [this] { m_recordSaving.saveAction(); });
     on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
     onBroadcast(notifications::updateNamesArray,
         [&rules](const auto &) { rules.queries.updateNamesArray(); });
-    const auto showOtherRecords = [&rules] {
+    const auto showOtherRecords = [&rules, &editMenu] {
         rules.queries.updateNamesArray();
         rules.list.reload();
+        editMenu.refresh();
     };
     on(store, &RecordStore::recordsMerged, showOtherRecords);
     on(store, &RecordStore::managedObjectContextReplaced, showOtherRecords);

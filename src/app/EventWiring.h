@@ -15,6 +15,7 @@
 
 namespace quillon {
 
+class RecordSaving;
 class Termination;
 struct Features;
 struct Platform;
@@ -26,7 +27,8 @@ class EventWiring : public QObject
     Q_OBJECT
 
 public:
-    EventWiring(const Platform &platform, Features &features, Termination &termination);
+    EventWiring(const Platform &platform, Features &features, RecordSaving &recordSaving,
+        Termination &termination);
     ~EventWiring() override;
 
     /// The event sources: settings, broadcasts, the system. Once, from startup.
@@ -59,6 +61,7 @@ private:
 
     const Platform &m_platform;
     Features &m_features;
+    RecordSaving &m_recordSaving;
     Termination &m_termination;
     NetworkChange m_networkChange;
     CountdownAudience m_countdownAudience;

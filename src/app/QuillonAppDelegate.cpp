@@ -23,7 +23,7 @@ QuillonAppDelegate::QuillonAppDelegate(const Platform &platform)
               const QString &path) { presentOpenFailure(settings, alerts, error, path); })
     , m_recordSaving(m_features.history.store, platform.alerts)
     , m_termination(m_features.history.store, platform.alerts)
-    , m_wiring(m_platform, m_features, m_termination)
+    , m_wiring(m_platform, m_features, m_recordSaving, m_termination)
     , m_launch(m_platform, m_features, m_userNotifications, m_wiring)
 {
 }

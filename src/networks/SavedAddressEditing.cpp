@@ -3,7 +3,6 @@
 #include "networks/SavedAddressEditing.h"
 
 #include "base/SettingsKeys.h"
-#include "networks/SavedEntries.h"
 #include "platform/Scheduler.h"
 
 namespace quillon {
@@ -40,15 +39,16 @@ void SavedAddressEditing::changeSavedAddressName(const QString &typed)
     finishInNextTurn();
 }
 
-void SavedAddressEditing::removeSavedAddress()
+std::optional<RemovedEntry> SavedAddressEditing::removeSavedAddress()
 {
     if (!m_editingAddressDict) {
-        return;
+        return std::nullopt;
     }
-    removeEntry(
-        m_settings, keys::savedAddresses, m_editingAddressDict->address.value_or(QString()));
+    const QString address = m_editingAddressDict->address.value_or(QString());
+    auto removed = removeEntry(m_settings, keys::savedAddresses, address);
     m_editingAddressDict.reset();
     finishInNextTurn();
+    return removed;
 }
 
 void SavedAddressEditing::finishInNextTurn()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "networks/SavedEntry.h"
+#include "networks/SavedEntries.h"
 
 #include <QObject>
 
@@ -30,7 +30,8 @@ public:
 
     /// The name was edited to `typed`; a name that another address has gets a suffix.
     void changeSavedAddressName(const QString &typed);
-    void removeSavedAddress();
+    /// None when it was not saved any more.
+    std::optional<RemovedEntry> removeSavedAddress();
 
 Q_SIGNALS:
     /// In the turn after a rename or a removal: the popover has done its work.

@@ -5,7 +5,6 @@
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "devices/DeviceRecord.h"
-#include "networks/SavedEntries.h"
 #include "platform/SettingsStore.h"
 
 namespace quillon {
@@ -30,11 +29,12 @@ void SavedAddresses::addCurrentAddressToSavedList()
     }
 }
 
-void SavedAddresses::removeCurrentAddressFromSavedList()
+std::optional<RemovedEntry> SavedAddresses::removeCurrentAddressFromSavedList()
 {
-    if (isCurrentAddressSaved()) {
-        removeEntry(m_settings, keys::savedAddresses, currentAddress());
+    if (!isCurrentAddressSaved()) {
+        return std::nullopt;
     }
+    return removeEntry(m_settings, keys::savedAddresses, currentAddress());
 }
 
 bool SavedAddresses::isCurrentAddressSaved() const

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "networks/SavedEntries.h"
 
 namespace quillon {
 
@@ -23,7 +23,8 @@ public:
     /// Saves the address, in lower case and as its own name. One that is saved already is left as
     /// it is; without an address nothing happens.
     void addCurrentAddressToSavedList();
-    void removeCurrentAddressFromSavedList();
+    /// None when it is not saved.
+    std::optional<RemovedEntry> removeCurrentAddressFromSavedList();
     bool isCurrentAddressSaved() const;
 
 private:

@@ -6,6 +6,8 @@
 #include "base/UniqueName.h"
 #include "platform/SettingsStore.h"
 
+#include <utility>
+
 namespace quillon {
 
 SavedEntries savedEntries(const SettingsStore &settings, const QString &list)
@@ -34,12 +36,27 @@ void saveEntry(
     settings.synchronize();
 }
 
-void removeEntry(SettingsStore &settings, const QString &list, const QString &key)
+std::optional<RemovedEntry> removeEntry(
+    SettingsStore &settings, const QString &list, const QString &key)
 {
     auto stored = settings.getDictionary(list);
-    stored.remove(key);
+    const bool isThere = stored.contains(key);
+    RemovedEntry removed{list, key, stored.take(key)};
     settings.set(list, stored);
     settings.synchronize();
+    return isThere ? std::optional(std::move(removed)) : std::nullopt;
+}
+
+bool restoreEntry(SettingsStore &settings, const RemovedEntry &removed)
+{
+    auto stored = settings.getDictionary(removed.list);
+    if (stored.contains(removed.key)) {
+        return false;
+    }
+    stored[removed.key] = removed.stored;
+    settings.set(removed.list, stored);
+    settings.synchronize();
+    return true;
 }
 
 QStringList fieldOfEach(const SavedEntries &entries, SavedField field)

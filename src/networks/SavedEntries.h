@@ -21,10 +21,27 @@ using SavedField = std::optional<QString> SavedEntry::*;
 SavedEntries savedEntries(const SettingsStore &settings, const QString &list);
 /// Whether anything is saved under `key`.
 bool isSaved(const SettingsStore &settings, const QString &list, const QString &key);
-/// These two write the list and flush.
+
+/// What was taken out of a list, as it was stored.
+struct RemovedEntry
+{
+    QString list;
+    QString key;
+    QVariant stored;
+
+    bool operator==(const RemovedEntry &) const = default;
+};
+
+// These write the list and flush.
+
 void saveEntry(
     SettingsStore &settings, const QString &list, const QString &key, const SavedEntry &entry);
-void removeEntry(SettingsStore &settings, const QString &list, const QString &key);
+/// None when nothing was saved under `key`; the list is written all the same.
+std::optional<RemovedEntry> removeEntry(
+    SettingsStore &settings, const QString &list, const QString &key);
+/// Puts it back exactly as it was. False, and nothing is written, when something is saved under its
+/// key again.
+bool restoreEntry(SettingsStore &settings, const RemovedEntry &removed);
 
 /// The `field` of every entry that has one, in the list's key order.
 QStringList fieldOfEach(const SavedEntries &entries, SavedField field);

@@ -3,7 +3,6 @@
 #include "networks/SavedNetworkEditing.h"
 
 #include "base/SettingsKeys.h"
-#include "networks/SavedEntries.h"
 #include "networks/WiFiNetwork.h"
 #include "platform/Scheduler.h"
 
@@ -59,15 +58,17 @@ void SavedNetworkEditing::changeSavedNetworkName(const QString &typed)
     finishInNextTurn();
 }
 
-void SavedNetworkEditing::removeSavedNetwork()
+std::optional<RemovedEntry> SavedNetworkEditing::removeSavedNetwork()
 {
     if (!m_editingNetworkDict) {
-        return;
+        return std::nullopt;
     }
-    removeEntry(m_deps.settings, keys::savedNetworks, bssidOf(*m_editingNetworkDict));
+    const QString bssid = bssidOf(*m_editingNetworkDict);
+    auto removed = removeEntry(m_deps.settings, keys::savedNetworks, bssid);
     m_editingNetworkDict.reset();
     finishInNextTurn();
     m_deps.wifi.updateWiFiNetwork();
+    return removed;
 }
 
 void SavedNetworkEditing::updateNetworkDefinition(const QString &senderIdentifier)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "networks/SavedEntry.h"
+#include "networks/SavedEntries.h"
 
 #include <QObject>
 
@@ -43,7 +43,8 @@ public:
 
     /// The name was edited to `typed`; a name that another network has gets a suffix.
     void changeSavedNetworkName(const QString &typed);
-    void removeSavedNetwork();
+    /// None when it was not saved any more.
+    std::optional<RemovedEntry> removeSavedNetwork();
     /// A tick button was chosen: ssidButton recognizes the network by its SSID, any other by its
     /// BSSID.
     void updateNetworkDefinition(const QString &senderIdentifier);

@@ -3,7 +3,6 @@
 #include "networks/SavedNetworks.h"
 
 #include "base/SettingsKeys.h"
-#include "networks/SavedEntries.h"
 #include "networks/SpecialNetworks.h"
 #include "networks/WiFiNetwork.h"
 #include "networks/WiFiRecord.h"
@@ -66,12 +65,13 @@ void SavedNetworks::addCurrentNetworkToSavedList()
     }
 }
 
-void SavedNetworks::removeCurrentNetworkFromSavedList()
+std::optional<RemovedEntry> SavedNetworks::removeCurrentNetworkFromSavedList()
 {
     const auto network = m_wifi.updateWiFiNetwork();
-    if (network && isSaved(m_settings, keys::savedNetworks, network->bssid)) {
-        removeEntry(m_settings, keys::savedNetworks, network->bssid);
+    if (!network || !isSaved(m_settings, keys::savedNetworks, network->bssid)) {
+        return std::nullopt;
     }
+    return removeEntry(m_settings, keys::savedNetworks, network->bssid);
 }
 
 bool SavedNetworks::isCurrentNetworkSaved() const

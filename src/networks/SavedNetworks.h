@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QStringList>
+#include "networks/SavedEntries.h"
 
 namespace quillon {
 
@@ -34,7 +34,8 @@ public:
     /// Refreshes the Wi-Fi record and saves its network under its SSID as the name. One that is
     /// saved already is left as it is; without a network nothing happens.
     void addCurrentNetworkToSavedList();
-    void removeCurrentNetworkFromSavedList();
+    /// None when there is no network, or it is not saved.
+    std::optional<RemovedEntry> removeCurrentNetworkFromSavedList();
     /// Whether the network of the Wi-Fi record, as it stands, is saved.
     bool isCurrentNetworkSaved() const;
 

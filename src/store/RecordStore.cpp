@@ -8,6 +8,7 @@
 #include "store/model/QuillonModel.h"
 
 #include <QDir>
+#include <QUndoStack>
 
 #include <cstdlib>
 #include <utility>
@@ -34,7 +35,13 @@ RecordStore::RecordStore(Scheduler &scheduler, QString folder, OpenFailure openF
 {
 }
 
-RecordStore::~RecordStore() = default;
+RecordStore::~RecordStore()
+{
+    // A stack tells of its end by being empty.
+    if (m_context) {
+        m_context->undoManager().disconnect(this);
+    }
+}
 
 ManagedObjectContext &RecordStore::managedObjectContext()
 {
@@ -57,6 +64,35 @@ void RecordStore::refreshPersistentContainer()
     Q_EMIT managedObjectContextReplaced();
 }
 
+bool RecordStore::canUndo() const
+{
+    return m_context && m_context->undoManager().canUndo();
+}
+
+bool RecordStore::canRedo() const
+{
+    return m_context && m_context->undoManager().canRedo();
+}
+
+bool RecordStore::hasChanges() const
+{
+    return m_context && m_context->hasChanges();
+}
+
+void RecordStore::undo()
+{
+    if (m_context) {
+        m_context->undoManager().undo();
+    }
+}
+
+void RecordStore::redo()
+{
+    if (m_context) {
+        m_context->undoManager().redo();
+    }
+}
+
 std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
     // For its owner alone: records tell where somebody has been. What prevents it shows when the
@@ -73,11 +109,16 @@ std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
     }
     if (m_context) {
         m_context->disconnect(this);
+        m_context->undoManager().disconnect(this);
     }
     ManagedObjectContext &context = *opened.value();
     connect(
         &context, &ManagedObjectContext::objectsDidChange, this, &RecordStore::objectsDidChange);
     connect(&context, &ManagedObjectContext::recordsMerged, this, &RecordStore::recordsMerged);
+    connect(&context, &ManagedObjectContext::saved, this, &RecordStore::saved);
+    const QUndoStack &undoManager = context.undoManager();
+    connect(&undoManager, &QUndoStack::canUndoChanged, this, &RecordStore::undoChanged);
+    connect(&undoManager, &QUndoStack::canRedoChanged, this, &RecordStore::undoChanged);
     return std::exchange(m_context, std::move(opened.value()));
 }
 

@@ -39,12 +39,23 @@ public:
     /// itself goes when managedObjectContextReplaced has been told.
     void refreshPersistentContainer();
 
+    // Undo and redo of edits, and whether there is something to save. Nobody's question makes a
+    // context.
+    bool canUndo() const;
+    bool canRedo() const;
+    bool hasChanges() const;
+    void undo();
+    void redo();
+
 Q_SIGNALS:
     /// A new context stands in place of the old one: whoever shows records fetches anew.
     void managedObjectContextReplaced();
     // Of whichever context is the current one.
     void objectsDidChange(const quillon::ObjectsDidChange &change);
     void recordsMerged();
+    void saved();
+    /// canUndo() or canRedo() is not what it was.
+    void undoChanged();
 
 private:
     /// Puts a new context in place of the present one, which it gives back.

@@ -4,10 +4,12 @@
 
 #include "base/Localized.h"
 #include "platform/desktop/ColorSchemeSource.h"
+#include "presence/Presence.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "presentation/rules/CountdownModel.h"
 #include "ui/networks/ExternalAddressRow.h"
+#include "ui/networks/FavoriteToast.h"
 #include "ui/networks/NetworkRow.h"
 #include "ui/networks/SavedAddressesRow.h"
 #include "ui/rules/CountdownRow.h"
@@ -37,7 +39,7 @@ Theme &applied(Theme &theme)
 
 UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     : m_theme(schemeOf(QGuiApplication::palette()))
-    , m_fileMenu(models.fileMenu)
+    , m_fileMenu(models.fileMenu, models.editMenu)
     , m_mainWindow(models.window, applied(m_theme), desktop.taskBar)
     , m_statusItem(models.statusMenu, models.window.presence, desktop.trayHost, m_theme)
 {
@@ -45,6 +47,8 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     m_mainWindow.addressCard().addChoice(new VendorChooser(models.vendorField, m_theme));
     makeFacts(models);
     makeShortcuts(models);
+    new FavoriteToast(models.removedInMainWindow, m_theme, desktop.scheduler, &m_mainWindow);
+    offerSavedItems(models.savedItems, desktop);
     m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
     m_mainWindow.putHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
@@ -59,7 +63,8 @@ void UserInterface::makeFacts(const Models &models)
 {
     FactsCard &facts = m_mainWindow.facts();
     facts.add(new HardwareRow(models.window.window, m_theme));
-    auto *saved = new SavedAddressesRow(models.savedLists, models.window.window, m_theme);
+    auto *saved = new SavedAddressesRow(
+        {models.savedLists, models.window.window, models.window.presence}, m_theme);
     QObject::connect(saved, &SavedAddressesRow::filled, &m_mainWindow, &MainWindow::focusApply);
     facts.add(saved);
     facts.add(new VendorRow(models.vendorInfo, m_theme));
@@ -67,6 +72,22 @@ void UserInterface::makeFacts(const Models &models)
     facts.add(new RulesRow(models.rules, m_theme));
     facts.add(new CountdownRow(models.countdown, m_theme));
     facts.add(new ExternalAddressRow(models.externalAddress, m_theme));
+}
+
+void UserInterface::offerSavedItems(const SavedItemsWindow::Models &models, const Desktop &desktop)
+{
+    QObject::connect(&models.presence, &Presence::destinationChosen, &m_mainWindow,
+        [this, models, desktop](Destination destination) {
+            if (destination != Destination::SavedItems) {
+                return;
+            }
+            if (m_savedItems == nullptr) {
+                m_savedItems = std::make_unique<SavedItemsWindow>(
+                    models, m_theme, desktop.scheduler, desktop.taskBar);
+            }
+            m_savedItems->bringUp();
+        });
+    models.presence.offer(Destination::SavedItems);
 }
 
 void UserInterface::makeShortcuts(const Models &models)

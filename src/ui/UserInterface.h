@@ -4,18 +4,23 @@
 
 #include "ui/menu/FileMenu.h"
 #include "ui/menu/StatusItem.h"
+#include "ui/networks/SavedItemsWindow.h"
 #include "ui/rules/RulesRow.h"
 #include "ui/theme/Theme.h"
 #include "ui/window/MainWindow.h"
+
+#include <memory>
 
 namespace quillon {
 
 class ColorSchemeSource;
 class Compositing;
 class CountdownModel;
+class EditMenuModel;
 class ExternalAddressModel;
 class FileMenuModel;
 class NetworkInfoModel;
+class RemovedFavorite;
 class SavedListsModel;
 class VendorFieldModel;
 class VendorInfoModel;
@@ -31,7 +36,10 @@ public:
         MainWindow::Models window;
         StatusMenuModel &statusMenu;
         FileMenuModel &fileMenu;
+        EditMenuModel &editMenu;
         SavedListsModel &savedLists;
+        RemovedFavorite &removedInMainWindow;
+        SavedItemsWindow::Models savedItems;
         NetworkInfoModel &network;
         ExternalAddressModel &externalAddress;
         RulesRow::Models rules;
@@ -46,17 +54,20 @@ public:
         TaskBar &taskBar;
         ColorSchemeSource &colorScheme;
         const Compositing &compositing;
+        Scheduler &scheduler;
     };
 
     UserInterface(const Models &models, const Desktop &desktop);
 
 private:
     void makeFacts(const Models &models);
+    void offerSavedItems(const SavedItemsWindow::Models &models, const Desktop &desktop);
     void makeShortcuts(const Models &models);
 
     Theme m_theme;
     FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;
+    std::unique_ptr<SavedItemsWindow> m_savedItems; ///< made when it is first looked at
     StatusItem m_statusItem;
 };
 

@@ -24,8 +24,10 @@ ROLES = {
     "combo box": (Atspi.Role.COMBO_BOX,),
     "entry": (Atspi.Role.TEXT, Atspi.Role.ENTRY),
     "label": (Atspi.Role.LABEL, Atspi.Role.STATIC),
+    "list": (Atspi.Role.LIST,),
     "list item": (Atspi.Role.LIST_ITEM,),
     "menu item": (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM),
+    "radio button": (Atspi.Role.RADIO_BUTTON,),
     "window": WINDOWS,
 }
 

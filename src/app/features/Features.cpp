@@ -26,6 +26,7 @@ Features::Features(
           devices.addressChanger, helper, presence, rules.timers})
     , fileMenu({platform.settings, devices.table, devices.currentInterface, devices.addressChanger,
           helper, presence, rules.timers})
+    , editMenu(history.store)
     , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
 {
 }

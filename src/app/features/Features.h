@@ -11,6 +11,7 @@
 #include "hotkeys/GlobalHotKeys.h"
 #include "presence/Presence.h"
 #include "presence/StatusItemAbsence.h"
+#include "presentation/menu/EditMenuModel.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
@@ -40,6 +41,7 @@ struct Features
     ReadMeModel readMe;
     StatusMenuModel statusMenu;
     FileMenuModel fileMenu;
+    EditMenuModel editMenu;
     AdvancedPreferencesModel advancedPreferences;
 };
 

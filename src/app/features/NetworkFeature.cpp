@@ -15,9 +15,13 @@ NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devi
     , networkEditing({platform.settings, platform.scheduler, wifi})
     , addressEditing(platform.settings, platform.scheduler)
     , externalAddress(platform.http, platform.settings, platform.places.externalAddressService)
-    , info({platform.settings, platform.scheduler, devices, wifi, savedNetworks})
-    , savedLists(platform.settings, savedAddresses)
-    , savedEntryPopover(networkEditing, addressEditing, platform.scheduler)
+    , removedInMainWindow(platform.settings, wifi)
+    , removedFromSavedItems(platform.settings, wifi)
+    , info({platform.settings, platform.scheduler, devices, wifi, savedNetworks,
+          removedInMainWindow})
+    , savedLists(platform.settings, savedAddresses, removedInMainWindow)
+    , savedEntryPopover({platform.settings, platform.scheduler, networkEditing, addressEditing,
+          removedFromSavedItems})
     , externalAddressShown(platform.settings, externalAddress)
 {
 }

@@ -11,6 +11,7 @@
 #include "networks/WiFiNetwork.h"
 #include "presentation/networks/ExternalAddressModel.h"
 #include "presentation/networks/NetworkInfoModel.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "presentation/networks/SavedEntryPopoverModel.h"
 #include "presentation/networks/SavedListsModel.h"
 
@@ -33,6 +34,8 @@ struct NetworkFeature
     SavedAddressEditing addressEditing;
     ExternalIPAddress externalAddress;
 
+    RemovedFavorite removedInMainWindow;
+    RemovedFavorite removedFromSavedItems;
     NetworkInfoModel info;
     SavedListsModel savedLists;
     SavedEntryPopoverModel savedEntryPopover;

@@ -8,6 +8,7 @@
 #include "networks/SavedNetworks.h"
 #include "networks/WiFiNetwork.h"
 #include "networks/WiFiRecord.h"
+#include "presentation/networks/RemovedFavorite.h"
 
 namespace quillon {
 
@@ -132,7 +133,7 @@ void NetworkInfoModel::updateFavNetworkButton()
 void NetworkInfoModel::chooseFavoriteButton()
 {
     if (m_state->favorite.removes) {
-        m_deps.savedNetworks.removeCurrentNetworkFromSavedList();
+        m_deps.removed.remember(m_deps.savedNetworks.removeCurrentNetworkFromSavedList());
     } else {
         m_deps.savedNetworks.addCurrentNetworkToSavedList();
     }

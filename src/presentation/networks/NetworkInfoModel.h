@@ -17,6 +17,7 @@
 namespace quillon {
 
 class DeviceTable;
+class RemovedFavorite;
 class SavedNetworks;
 class WiFiNetwork;
 
@@ -55,6 +56,7 @@ public:
         const DeviceTable &devices;
         WiFiNetwork &wifi;
         SavedNetworks &savedNetworks;
+        RemovedFavorite &removed;
     };
 
     explicit NetworkInfoModel(const Collaborators &collaborators);

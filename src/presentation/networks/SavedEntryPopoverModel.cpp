@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/networks/SavedEntryPopoverModel.h"
 
+#include "base/SettingsKeys.h"
 #include "networks/SavedAddressEditing.h"
 #include "networks/SavedNetworkEditing.h"
 #include "platform/Scheduler.h"
+#include "presentation/networks/RemovedFavorite.h"
 
 namespace quillon {
 
@@ -23,12 +25,20 @@ QRectF anchorAt(const QPointF &position)
 
 } // namespace
 
-SavedEntryPopoverModel::SavedEntryPopoverModel(
-    SavedNetworkEditing &networks, SavedAddressEditing &addresses, Scheduler &scheduler)
-    : m_networks(networks)
-    , m_addresses(addresses)
-    , m_scheduler(scheduler)
+SavedEntryPopoverModel::SavedEntryPopoverModel(const Collaborators &collaborators)
+    : m_deps(collaborators)
 {
+    for (const QString &list : {keys::savedNetworks, keys::savedAddresses}) {
+        m_observed.push_back(
+            m_deps.settings.addObserver(list, [this](const auto &) { closeIfGone(); }));
+    }
+}
+
+SavedEntryPopoverModel::~SavedEntryPopoverModel()
+{
+    for (const auto token : m_observed) {
+        m_deps.settings.removeObserver(token);
+    }
 }
 
 void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
@@ -40,14 +50,40 @@ void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
     closeBoth();
     const bool isNetwork = field == TokenFieldKind::SavedNetworks;
     if (isNetwork) {
-        m_networks.beginEditing(entry);
+        m_deps.networks.beginEditing(entry);
     } else {
-        m_addresses.beginEditing(entry);
+        m_deps.addresses.beginEditing(entry);
     }
     // The token field finishes its own event first.
-    m_scheduler.onMain(this, [this, choice = m_choice, isNetwork, position] {
+    m_deps.scheduler.onMain(this, [this, choice = m_choice, isNetwork, position] {
         if (m_choice == choice) {
             open(isNetwork ? Popover::Network : Popover::Address, position);
+        }
+    });
+}
+
+bool SavedEntryPopoverModel::isGone() const
+{
+    if (const auto &network = m_deps.networks.editingNetworkDict()) {
+        return !isSaved(m_deps.settings, keys::savedNetworks, network->bssid.value_or(QString()));
+    }
+    const auto &address = m_deps.addresses.editingAddressDict();
+    return address &&
+           !isSaved(m_deps.settings, keys::savedAddresses, address->address.value_or(QString()));
+}
+
+void SavedEntryPopoverModel::closeIfGone()
+{
+    if (!isGone()) {
+        return;
+    }
+    // At once: neither a popover that is on its way nor a typed name must bring it back.
+    ++m_choice;
+    m_deps.networks.endEditing();
+    m_deps.addresses.endEditing();
+    m_deps.scheduler.onMain(this, [this, choice = m_choice] {
+        if (m_choice == choice) {
+            closeBoth();
         }
     });
 }
@@ -55,8 +91,8 @@ void SavedEntryPopoverModel::tokenFieldMenuForRepresentedObject(
 void SavedEntryPopoverModel::closeBoth()
 {
     ++m_choice;
-    m_networks.endEditing();
-    m_addresses.endEditing();
+    m_deps.networks.endEditing();
+    m_deps.addresses.endEditing();
     m_state.update([](State &state) { state = {}; });
 }
 
@@ -72,12 +108,12 @@ void SavedEntryPopoverModel::open(Popover popover, const QPointF &position)
 
 void SavedEntryPopoverModel::fill(State &state) const
 {
-    if (const auto &network = m_networks.editingNetworkDict()) {
+    if (const auto &network = m_deps.networks.editingNetworkDict()) {
         state.name = network->name.value_or(QString());
         state.ssid = network->ssid.value_or(QString());
         state.bssid = network->bssid.value_or(QString());
         fixButtonActions(state);
-    } else if (const auto &address = m_addresses.editingAddressDict()) {
+    } else if (const auto &address = m_deps.addresses.editingAddressDict()) {
         state.name = address->name.value_or(QString());
         state.address = address->address.value_or(QString());
     }
@@ -87,7 +123,7 @@ void SavedEntryPopoverModel::fill(State &state) const
 
 void SavedEntryPopoverModel::fixButtonActions(State &state) const
 {
-    const bool bySsid = m_networks.isSsidDefined();
+    const bool bySsid = m_deps.networks.isSsidDefined();
     state.ssidTickButton = {.on = bySsid, .hasAction = !bySsid};
     state.bssidTickButton = {.on = !bySsid, .hasAction = bySsid};
 }
@@ -95,38 +131,38 @@ void SavedEntryPopoverModel::fixButtonActions(State &state) const
 void SavedEntryPopoverModel::controlTextDidEndEditing(const QString &typed)
 {
     if (m_state->open == Popover::Network) {
-        m_networks.changeSavedNetworkName(typed);
+        m_deps.networks.changeSavedNetworkName(typed);
     } else if (m_state->open == Popover::Address) {
-        m_addresses.changeSavedAddressName(typed);
+        m_deps.addresses.changeSavedAddressName(typed);
     }
 }
 
 void SavedEntryPopoverModel::removeEntry()
 {
     if (m_state->open == Popover::Network) {
-        m_networks.removeSavedNetwork();
+        m_deps.removed.remember(m_deps.networks.removeSavedNetwork());
     } else if (m_state->open == Popover::Address) {
-        m_addresses.removeSavedAddress();
+        m_deps.removed.remember(m_deps.addresses.removeSavedAddress());
     }
 }
 
 void SavedEntryPopoverModel::chooseSsidTickButton()
 {
     if (m_state->ssidTickButton.hasAction) {
-        m_networks.updateNetworkDefinition(SavedNetworkEditing::ssidButton);
+        m_deps.networks.updateNetworkDefinition(SavedNetworkEditing::ssidButton);
     }
 }
 
 void SavedEntryPopoverModel::chooseBssidTickButton()
 {
     if (m_state->bssidTickButton.hasAction) {
-        m_networks.updateNetworkDefinition(u"bssidbutton"_s);
+        m_deps.networks.updateNetworkDefinition(u"bssidbutton"_s);
     }
 }
 
 void SavedEntryPopoverModel::showNetworkDefinition()
 {
-    const auto &network = m_networks.editingNetworkDict();
+    const auto &network = m_deps.networks.editingNetworkDict();
     if (m_state->open != Popover::Network || !network) {
         return;
     }

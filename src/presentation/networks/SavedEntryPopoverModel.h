@@ -8,16 +8,17 @@
 #include <QObject>
 #include <QRectF>
 
-#include <optional>
+#include <vector>
 
 namespace quillon {
 
+class RemovedFavorite;
 class SavedAddressEditing;
 class SavedNetworkEditing;
 class Scheduler;
 
-/// The two popovers that edit one saved network or one saved address. At most one is open. Main
-/// thread.
+/// The two popovers that edit one saved network or one saved address. At most one is open; it
+/// closes when what it edits is removed, whoever does that. Main thread.
 class SavedEntryPopoverModel : public QObject
 {
     Q_OBJECT
@@ -55,8 +56,17 @@ public:
         bool operator==(const State &) const = default;
     };
 
-    SavedEntryPopoverModel(
-        SavedNetworkEditing &networks, SavedAddressEditing &addresses, Scheduler &scheduler);
+    struct Collaborators
+    {
+        SettingsStore &settings;
+        Scheduler &scheduler;
+        SavedNetworkEditing &networks;
+        SavedAddressEditing &addresses;
+        RemovedFavorite &removed;
+    };
+
+    explicit SavedEntryPopoverModel(const Collaborators &collaborators);
+    ~SavedEntryPopoverModel() override;
 
     const State &state() const { return m_state.get(); }
 
@@ -82,16 +92,18 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// What is edited may be removed elsewhere: by another program, by synchronization.
+    void closeIfGone();
+    bool isGone() const;
     void closeBoth();
     void open(Popover popover, const QPointF &position);
     void fill(State &state) const;
     void fixButtonActions(State &state) const;
 
-    SavedNetworkEditing &m_networks;
-    SavedAddressEditing &m_addresses;
-    Scheduler &m_scheduler;
+    Collaborators m_deps;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     quint64 m_choice = 0; ///< counts chosen tokens; an older one no longer opens anything
+    std::vector<SettingsStore::Token> m_observed;
 };
 
 } // namespace quillon

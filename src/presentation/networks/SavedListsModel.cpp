@@ -5,6 +5,7 @@
 #include "base/SettingsKeys.h"
 #include "networks/SavedAddresses.h"
 #include "networks/SavedEntries.h"
+#include "presentation/networks/RemovedFavorite.h"
 
 #include <algorithm>
 
@@ -49,9 +50,11 @@ bool tokenFieldHasMenuForRepresentedObject(TokenFieldKind field)
     return field == TokenFieldKind::SavedNetworks || field == TokenFieldKind::SavedAddresses;
 }
 
-SavedListsModel::SavedListsModel(SettingsStore &settings, SavedAddresses &savedAddresses)
+SavedListsModel::SavedListsModel(
+    SettingsStore &settings, SavedAddresses &savedAddresses, RemovedFavorite &removed)
     : m_settings(settings)
     , m_savedAddresses(savedAddresses)
+    , m_removed(removed)
 {
     const auto observe = [this](const QString &key, void (SavedListsModel::*reaction)()) {
         m_observed.push_back(
@@ -115,7 +118,7 @@ void SavedListsModel::updateFavAddressButton()
 void SavedListsModel::chooseFavoriteButton()
 {
     if (m_state->favorite.removes) {
-        m_savedAddresses.removeCurrentAddressFromSavedList();
+        m_removed.remember(m_savedAddresses.removeCurrentAddressFromSavedList());
     } else {
         m_savedAddresses.addCurrentAddressToSavedList();
     }

@@ -14,6 +14,7 @@
 
 namespace quillon {
 
+class RemovedFavorite;
 class SavedAddresses;
 
 /// The fields that show saved entries as tokens; Other stands for any other token field.
@@ -55,7 +56,8 @@ public:
         bool operator==(const State &) const = default;
     };
 
-    SavedListsModel(SettingsStore &settings, SavedAddresses &savedAddresses);
+    SavedListsModel(
+        SettingsStore &settings, SavedAddresses &savedAddresses, RemovedFavorite &removed);
     ~SavedListsModel() override;
 
     const State &state() const { return m_state.get(); }
@@ -80,6 +82,7 @@ private:
 
     SettingsStore &m_settings;
     SavedAddresses &m_savedAddresses;
+    RemovedFavorite &m_removed;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     std::vector<SettingsStore::Token> m_observed;
 };

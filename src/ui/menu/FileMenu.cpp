@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/menu/FileMenuModel.h"
+#include "ui/menu/EditMenu.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
@@ -13,7 +14,7 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-FileMenu::FileMenu(FileMenuModel &model)
+FileMenu::FileMenu(FileMenuModel &model, EditMenuModel &editModel)
     : MenuView(model)
 {
     setObjectName(u"fileMenu"_s);
@@ -21,6 +22,8 @@ FileMenu::FileMenu(FileMenuModel &model)
     setShortcut(FileMenuModel::newNetworkRule, QKeySequence(Qt::CTRL | Qt::Key_N));
     setShortcut(FileMenuModel::newLoginRule, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
     setShortcut(FileMenuModel::closeWindow, QKeySequence(Qt::CTRL | Qt::Key_W));
+    // Behind what the model has: it says where its own entries are by their numbers.
+    insertMenu(nullptr, new EditMenu(editModel, this));
 }
 
 QToolButton *FileMenu::makeButton(const Theme &theme)
@@ -32,7 +35,8 @@ QToolButton *FileMenu::makeButton(const Theme &theme)
     button->setIcon(theme.icon(u"file-menu"_s, Theme::Ink::Text));
     button->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     button->setProperty("look", u"flat"_s);
-    button->setFocusPolicy(Qt::StrongFocus);
+    // A click leaves the keyboard where the Edit menu acts.
+    button->setFocusPolicy(Qt::TabFocus);
     button->setPopupMode(QToolButton::InstantPopup);
     button->setShortcut(QKeySequence(Qt::Key_F10));
     button->setMenu(this);

@@ -3,6 +3,7 @@
 #include "ui/networks/SavedAddressesRow.h"
 
 #include "base/Localized.h"
+#include "presence/Presence.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
@@ -13,17 +14,16 @@
 #include "ui/widgets/TokenField.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-SavedAddressesRow::SavedAddressesRow(
-    SavedListsModel &saved, MainWindowModel &window, const Theme &theme, QWidget *parent)
+SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme, QWidget *parent)
     : PopoverRow(theme, localized("Saved addresses"), new QWidget, parent)
-    , m_saved(saved)
-    , m_window(window)
+    , m_models(models)
     , m_heart(new HeartButton(theme))
     , m_tokens(new TokenField)
 {
@@ -43,29 +43,44 @@ SavedAddressesRow::SavedAddressesRow(
     column->addWidget(head);
     column->addWidget(m_tokens);
     column->addWidget(hint);
+    column->addSpacing(Theme::unit / 2);
+    auto *edit = new QPushButton(localized("Edit Saved Items"));
+    edit->setObjectName(u"editSavedItems"_s);
+    edit->setAutoDefault(true);
+    column->addWidget(edit, 0, Qt::AlignRight);
 
-    connect(this, &RowButton::clicked, &m_saved, &SavedListsModel::toggleSoftwarePopover);
-    connect(this, &PopoverRow::popoverClosed, &m_saved, &SavedListsModel::softwarePopoverWillClose);
-    connect(m_heart, &QToolButton::clicked, &m_saved, &SavedListsModel::chooseFavoriteButton);
+    connect(edit, &QPushButton::clicked, this, &SavedAddressesRow::editSavedItems);
+    connect(this, &RowButton::clicked, &m_models.saved, &SavedListsModel::toggleSoftwarePopover);
+    connect(this, &PopoverRow::popoverClosed, &m_models.saved,
+        &SavedListsModel::softwarePopoverWillClose);
+    connect(
+        m_heart, &QToolButton::clicked, &m_models.saved, &SavedListsModel::chooseFavoriteButton);
     connect(m_tokens, &TokenField::activated, this, &SavedAddressesRow::choose);
     // The popover is what is dragged from: it must be there until the drag has ended.
     connect(m_tokens, &TokenField::dragBegan, &popover(), &Popover::stepAside);
-    connect(m_tokens, &TokenField::dragEnded, &m_saved, &SavedListsModel::softwarePopoverWillClose);
-    connect(&m_saved, &SavedListsModel::changed, this, &SavedAddressesRow::refresh);
-    connect(&m_window, &MainWindowModel::changed, this, &SavedAddressesRow::refresh);
+    connect(m_tokens, &TokenField::dragEnded, &m_models.saved,
+        &SavedListsModel::softwarePopoverWillClose);
+    connect(&m_models.saved, &SavedListsModel::changed, this, &SavedAddressesRow::refresh);
+    connect(&m_models.window, &MainWindowModel::changed, this, &SavedAddressesRow::refresh);
     refresh();
 }
 
 void SavedAddressesRow::choose(int index)
 {
-    m_window.populateHexFieldFromDrop(m_tokens->entries().value(index).text);
-    m_saved.softwarePopoverWillClose();
+    m_models.window.populateHexFieldFromDrop(m_tokens->entries().value(index).text);
+    m_models.saved.softwarePopoverWillClose();
     Q_EMIT filled();
+}
+
+void SavedAddressesRow::editSavedItems()
+{
+    m_models.saved.softwarePopoverWillClose();
+    m_models.presence.goTo(Destination::SavedItems);
 }
 
 void SavedAddressesRow::refresh()
 {
-    const auto &state = m_saved.state();
+    const auto &state = m_models.saved.state();
     QList<TokenField::Entry> entries;
     QStringList names;
     for (const auto &token : state.quickAddresses) {
@@ -78,7 +93,7 @@ void SavedAddressesRow::refresh()
     } else {
         setValue(names.join(u", "_s));
     }
-    setHasPopover(m_window.state().softwareButtonVisible);
+    setHasPopover(m_models.window.state().softwareButtonVisible);
     m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
     setPopoverShown(state.softwarePopoverShown);
 }

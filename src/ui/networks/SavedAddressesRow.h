@@ -8,6 +8,7 @@ namespace quillon {
 
 class HeartButton;
 class MainWindowModel;
+class Presence;
 class SavedListsModel;
 class TokenField;
 
@@ -17,8 +18,14 @@ class SavedAddressesRow : public PopoverRow
     Q_OBJECT
 
 public:
-    SavedAddressesRow(SavedListsModel &saved, MainWindowModel &window, const Theme &theme,
-        QWidget *parent = nullptr);
+    struct Models
+    {
+        SavedListsModel &saved;
+        MainWindowModel &window;
+        Presence &presence;
+    };
+
+    SavedAddressesRow(const Models &models, const Theme &theme, QWidget *parent = nullptr);
 
 Q_SIGNALS:
     /// An address was put into the field.
@@ -29,8 +36,9 @@ private:
     void refresh();
     void choose(int index);
 
-    SavedListsModel &m_saved;
-    MainWindowModel &m_window;
+    void editSavedItems();
+
+    Models m_models;
     HeartButton *m_heart;
     TokenField *m_tokens;
 };

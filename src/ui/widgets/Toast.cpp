@@ -10,9 +10,9 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 
 #include <algorithm>
 #include <utility>
@@ -27,7 +27,6 @@ Toast::Toast(const Theme &theme, Scheduler &scheduler, QWidget *window)
     , m_scheduler(scheduler)
     , m_message(plainLabel())
     , m_undoButton(new QPushButton(localized("Undo")))
-    , m_undoKey(new QShortcut(QKeySequence::Undo, window))
 {
     setProperty("look", u"toast"_s);
     setAccessibleRole(*this, QAccessible::AlertMessage);
@@ -37,9 +36,7 @@ Toast::Toast(const Theme &theme, Scheduler &scheduler, QWidget *window)
     row->setSpacing(Theme::cardMargin);
     row->addWidget(m_message, 1);
     row->addWidget(m_undoButton, 0, Qt::AlignVCenter);
-    m_undoKey->setEnabled(false);
     connect(m_undoButton, &QPushButton::clicked, this, &Toast::takeBack);
-    connect(m_undoKey, &QShortcut::activated, this, &Toast::takeBack);
     // Enter and Leave come to this itself; the keyboard goes to its button.
     m_undoButton->installEventFilter(this);
     window->installEventFilter(this);
@@ -51,7 +48,7 @@ void Toast::say(const QString &message, std::function<void()> undo)
     m_undo = std::move(undo);
     m_message->setText(plainParagraphs(message));
     m_undoButton->setVisible(m_undo != nullptr);
-    m_undoKey->setEnabled(m_undo != nullptr);
+    watchKeys(m_undo != nullptr);
     place();
     show();
     raise();
@@ -63,7 +60,7 @@ void Toast::dismiss()
 {
     cancelWait();
     m_undo = nullptr;
-    m_undoKey->setEnabled(false);
+    watchKeys(false);
     hide();
 }
 
@@ -131,8 +128,37 @@ bool Toast::event(QEvent *event)
     return done;
 }
 
+void Toast::watchKeys(bool watched)
+{
+    QCoreApplication::instance()->removeEventFilter(this);
+    if (watched) {
+        // A field of text takes the key for itself before any shortcut has it.
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+}
+
+bool Toast::isUndoKey(const QObject *watched, QEvent &event) const
+{
+    if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto *widget = qobject_cast<const QWidget *>(watched);
+    while (widget != nullptr && widget != parentWidget()) {
+        widget = widget->parentWidget();
+    }
+    return m_undo && widget != nullptr &&
+           static_cast<QKeyEvent &>(event).matches(QKeySequence::Undo);
+}
+
 bool Toast::eventFilter(QObject *watched, QEvent *event)
 {
+    if (isUndoKey(watched, *event)) {
+        event->accept();
+        if (event->type() == QEvent::KeyPress) {
+            takeBack();
+        }
+        return true;
+    }
     if (watched == m_undoButton &&
         (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
         // It is decided once the button knows it too.

@@ -10,15 +10,15 @@
 
 class QLabel;
 class QPushButton;
-class QShortcut;
 
 namespace quillon {
 
 class Theme;
 
 /// Says at the bottom of a window what the user just did, and offers to undo it, by its button and
-/// by Ctrl+Z. It goes after ten seconds, which begin anew when the pointer or the focus leaves it.
-/// A new one takes the place of one that is shown.
+/// by Ctrl+Z, which it has first: before fields of text, and before popovers over its window. It
+/// goes after ten seconds, which begin anew when the pointer or the focus leaves it. A new one
+/// takes the place of one that is shown.
 class Toast : public QFrame
 {
     Q_OBJECT
@@ -43,13 +43,14 @@ private:
     void waitAnew();
     void cancelWait();
     bool isLookedAt() const;
+    bool isUndoKey(const QObject *watched, QEvent &event) const;
+    void watchKeys(bool watched);
     void takeBack();
 
     const Theme &m_theme;
     Scheduler &m_scheduler;
     QLabel *m_message;
     QPushButton *m_undoButton;
-    QShortcut *m_undoKey;
     std::function<void()> m_undo;
     std::optional<Scheduler::Token> m_wait;
 };

@@ -27,15 +27,22 @@ constexpr int inset = 13;
 
 Token::Token(const QString &title, const QString &text, QWidget *parent)
     : QPushButton(parent)
-    , m_title(plainLine(title))
     , m_text(text)
 {
     setProperty("look", u"token"_s);
     setProperty("ringRadius", pillHeight / 2);
-    setAccessibleName(m_title);
-    // Its name is not the whole story where it is not what it stands for.
-    setToolTip(plainToolTip(title == text ? title : u"%1 · %2"_s.arg(title, text)));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setTitle(title);
+}
+
+void Token::setTitle(const QString &title)
+{
+    m_title = plainLine(title);
+    setAccessibleName(m_title.isEmpty() ? plainLine(m_text) : m_title);
+    // Its name is not the whole story where it is not what it stands for.
+    setToolTip(plainToolTip(title == m_text ? title : u"%1 · %2"_s.arg(title, m_text)));
+    updateGeometry();
+    update();
 }
 
 QSize Token::sizeHint() const

@@ -17,6 +17,9 @@ public:
     /// `text` is what it is dragged as.
     Token(const QString &title, const QString &text, QWidget *parent);
 
+    void setTitle(const QString &title);
+    QString text() const { return m_text; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -13,6 +13,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -40,24 +41,24 @@ void TokenField::setEntries(const QList<Entry> &entries)
     }
     const bool hadFocus = std::any_of(
         m_tokens.cbegin(), m_tokens.cend(), [](const Token *token) { return token->hasFocus(); });
-    const Entry current = m_entries.value(m_current);
+    const Token *const current = m_tokens.value(m_current);
     while (QLayoutItem *item = m_flow->takeAt(0)) {
         delete item;
     }
-    for (Token *token : m_tokens) {
+    QList<Token *> gone = std::exchange(m_tokens, {});
+    m_entries = entries;
+    for (const Entry &entry : m_entries) {
+        m_tokens.append(takeOrMake(gone, entry));
+        m_flow->addWidget(m_tokens.back());
+    }
+    const qsizetype again = m_tokens.indexOf(current);
+    const qsizetype last = m_tokens.size() - 1;
+    makeCurrent(again >= 0 ? again : std::max<qsizetype>(0, std::min(m_current, last)));
+    for (Token *token : std::as_const(gone)) {
         // It may be in the middle of its own click.
         token->hide();
         token->deleteLater();
     }
-    m_tokens.clear();
-    m_entries = entries;
-    for (const Entry &entry : m_entries) {
-        m_tokens.append(makeToken(entry));
-        m_flow->addWidget(m_tokens.back());
-    }
-    const qsizetype again = m_entries.indexOf(current);
-    const qsizetype last = m_tokens.size() - 1;
-    makeCurrent(again >= 0 ? again : std::max<qsizetype>(0, std::min(m_current, last)));
     // The order begins at the label, which counts only while it takes the keyboard itself.
     m_empty->setFocusPolicy(Qt::TabFocus);
     QWidget *before = m_empty;
@@ -99,6 +100,18 @@ QSize TokenField::sizeHint() const
 int TokenField::heightForWidth(int width) const
 {
     return m_tokens.isEmpty() ? m_empty->heightForWidth(width) : m_flow->heightForWidth(width);
+}
+
+Token *TokenField::takeOrMake(QList<Token *> &from, const Entry &entry)
+{
+    const auto same = std::ranges::find(from, entry.text, &Token::text);
+    if (same == from.end()) {
+        return makeToken(entry);
+    }
+    Token *const token = *same;
+    from.erase(same);
+    token->setTitle(entry.title);
+    return token;
 }
 
 Token *TokenField::makeToken(const Entry &entry)

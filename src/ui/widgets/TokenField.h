@@ -30,7 +30,8 @@ public:
 
     explicit TokenField(QWidget *parent = nullptr);
 
-    /// Tokens that are there already keep their place and the keyboard.
+    /// A token whose entry stands for the same text stays, with its new title: it keeps the
+    /// keyboard and what is open beside it.
     void setEntries(const QList<Entry> &entries);
     const QList<Entry> &entries() const { return m_entries; }
     /// Said while there are none.
@@ -54,6 +55,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    Token *takeOrMake(QList<Token *> &from, const Entry &entry);
     Token *makeToken(const Entry &entry);
     void moveTo(qsizetype index);
     /// The one that Tab comes to.

@@ -7,6 +7,10 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QValidator>
 
@@ -60,6 +64,12 @@ AddressField::AddressField(MainWindowModel &model, QWidget *parent)
     setText(shownText());
     setValidator(new EntryRules(*this));
     connect(this, &QLineEdit::textChanged, this, &AddressField::refresh);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this](int, int cursor) {
+        if (!m_rewriting) {
+            m_history.moveCursor({text(), cursor});
+        }
+    });
+    note();
     connect(this, &QLineEdit::editingFinished, &m_model, &MainWindowModel::endEditing);
 }
 
@@ -80,12 +90,94 @@ QString AddressField::shownText() const
 
 void AddressField::refresh()
 {
-    if (m_asking || text() == shownText()) {
+    if (m_asking) {
         return;
     }
-    const int cursor = cursorPosition();
+    if (text() != shownText()) {
+        const QScopedValueRollback<bool> rewriting(m_rewriting, true);
+        const int cursor = cursorPosition();
+        setText(shownText());
+        setCursorPosition(cursor);
+    }
+    note();
+}
+
+void AddressField::note()
+{
+    if (m_rewriting) {
+        return;
+    }
+    const auto &state = m_model.state();
+    const TextHistory::Moment now{text(), cursorPosition()};
+    const bool isUntouched = !m_history.canUndo() && !m_history.canRedo();
+    const bool isInUse = now.text == plainLine(state.currentAddress);
+    if (m_device != state.selectedDevice || (isUntouched && isInUse)) {
+        m_device = state.selectedDevice;
+        m_history.begin(now);
+    } else {
+        m_history.note(now);
+    }
+}
+
+void AddressField::goTo(const TextHistory::Moment &moment)
+{
+    const QScopedValueRollback<bool> rewriting(m_rewriting, true);
+    setText(plainLine(moment.text));
     setText(shownText());
-    setCursorPosition(cursor);
+    setCursorPosition(moment.cursor);
+}
+
+void AddressField::undo()
+{
+    goTo(m_history.undo());
+}
+
+void AddressField::redo()
+{
+    goTo(m_history.redo());
+}
+
+bool AddressField::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        // With nothing to undo of its own the key is the window's.
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if ((key->matches(QKeySequence::Undo) && !isUndoAvailable()) ||
+            (key->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
+void AddressField::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Undo)) {
+        undo();
+    } else if (event->matches(QKeySequence::Redo)) {
+        redo();
+    } else {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void AddressField::contextMenuEvent(QContextMenuEvent *event)
+{
+    QMenu *const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto actions = menu->actions();
+    if (!isReadOnly() && actions.size() > 1) {
+        // These two come first, and would undo in the base class's history.
+        for (QAction *action : {actions[0], actions[1]}) {
+            action->disconnect(this);
+        }
+        actions[0]->setEnabled(isUndoAvailable());
+        actions[1]->setEnabled(isRedoAvailable());
+        connect(actions[0], &QAction::triggered, this, &AddressField::undo);
+        connect(actions[1], &QAction::triggered, this, &AddressField::redo);
+    }
+    menu->popup(event->globalPos());
 }
 
 } // namespace quillon

@@ -4,6 +4,8 @@
 
 #include "unit/app/ProgramOnFakes.h"
 
+#include <QUndoStack>
+
 #include <algorithm>
 
 namespace quillon::test {
@@ -453,6 +455,39 @@ TEST_F(EventWiringTest, TheRecordsFollowTheSwitchOfTheCloud)
         &features().history.store, &RecordStore::managedObjectContextReplaced, [&] { ++replaced; });
     machine.settings.setBool(keys::iCloudSync, true);
     EXPECT_EQ(replaced, 1);
+}
+
+TEST_F(EventWiringTest, ASwitchedRuleIsUndoneAndRedoneAndWhatIsInForceFollows)
+{
+    const ManagedObjectPtr rule = insertRule(randomOnce(enp1s0, u"Any network"_s));
+    machine.scheduler.runPending();
+    context().undoManager().clear();
+    const auto isOn = [&] { return rule->value(model::rule::enabled).toBool(); };
+    const auto status = [this] { return features().rules.status.state().image; };
+    features().rules.switches.updateEnabledWithID(false, rule->uriRepresentation());
+    machine.scheduler.runPending();
+    ASSERT_FALSE(isOn());
+    const QString off = status();
+    EditMenuModel &edit = features().editMenu;
+    ASSERT_TRUE(edit.state().undoEnabled);
+    EXPECT_FALSE(edit.state().redoEnabled);
+    EXPECT_FALSE(edit.state().saveEnabled) << "the switch saves";
+
+    edit.undo();
+    machine.scheduler.runPending();
+    EXPECT_TRUE(isOn());
+    EXPECT_NE(status(), off) << "it is in force again";
+    EXPECT_TRUE(edit.state().redoEnabled);
+    EXPECT_TRUE(edit.state().saveEnabled);
+    edit.save();
+    machine.scheduler.runPending();
+    EXPECT_FALSE(context().hasChanges());
+    EXPECT_FALSE(edit.state().saveEnabled);
+
+    edit.redo();
+    machine.scheduler.runPending();
+    EXPECT_FALSE(isOn());
+    EXPECT_EQ(status(), off);
 }
 
 } // namespace

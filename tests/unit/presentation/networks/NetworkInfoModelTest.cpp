@@ -3,6 +3,7 @@
 #include "presentation/networks/NetworkInfoModel.h"
 
 #include "networks/SavedNetworks.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "unit/networks/NetworkFixture.h"
 
 #include <memory>
@@ -36,8 +37,9 @@ protected:
     const FavoriteButton &heart() const { return model->state().favorite; }
 
     SavedNetworks saved{settings, network};
+    std::unique_ptr<RemovedFavorite> removed = std::make_unique<RemovedFavorite>(settings, network);
     std::unique_ptr<NetworkInfoModel> model = std::make_unique<NetworkInfoModel>(
-        NetworkInfoModel::Collaborators{settings, scheduler, table, network, saved});
+        NetworkInfoModel::Collaborators{settings, scheduler, table, network, saved, *removed});
     int changes = 0;
 };
 
@@ -103,7 +105,7 @@ TEST_F(NetworkInfoModelTest, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
 {
     settings.set(keys::currentWiFiDict,
         QVariantMap{{wifirecord::name, u"Before"_s}, {wifirecord::BSSID, officeBssid}});
-    const NetworkInfoModel later({settings, scheduler, table, network, saved});
+    const NetworkInfoModel later({settings, scheduler, table, network, saved, *removed});
     EXPECT_EQ(later.state().name, u"Before"_s);
 }
 
@@ -227,7 +229,20 @@ TEST_F(NetworkInfoModelTest, LeavesNothingBehind)
     model->toggleNetworkInfoPopover();
     model.reset();
     EXPECT_FALSE(scheduler.hasTimers());
+    removed.reset();
     EXPECT_FALSE(settings.hasObservers());
+}
+
+TEST_F(NetworkInfoModelTest, CanHaveANetworkBackThatItsHeartRemoved)
+{
+    network.updateWiFiNetwork();
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s, true);
+    model->chooseFavoriteButton();
+    EXPECT_FALSE(saved.isCurrentNetworkSaved());
+    ASSERT_TRUE(removed->entry());
+    removed->undo();
+    EXPECT_EQ(savedNetworkEntry(homeBssid).name, u"Our house"_s);
+    EXPECT_TRUE(savedNetworkEntry(homeBssid).isSsidDefined());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "presentation/networks/SavedEntryPopoverModel.h"
 
 #include "networks/SavedAddressEditing.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "unit/networks/NetworkEditingFixture.h"
 
 #include <memory>
@@ -22,7 +23,8 @@ protected:
     {
         editing->endEditing();
         saveAddress(address, u"Printer"_s);
-        model = std::make_unique<SavedEntryPopoverModel>(*editing, addressEditing, scheduler);
+        model = std::make_unique<SavedEntryPopoverModel>(SavedEntryPopoverModel::Collaborators{
+            settings, scheduler, *editing, addressEditing, removed});
         QObject::connect(editing.get(), &SavedNetworkEditing::networkDefinitionChanged, model.get(),
             &SavedEntryPopoverModel::showNetworkDefinition);
         QObject::connect(editing.get(), &SavedNetworkEditing::editingFinished, model.get(),
@@ -49,6 +51,7 @@ protected:
 
     const QString address = u"a4:83:e7:01:02:03"_s;
     SavedAddressEditing addressEditing{settings, scheduler};
+    RemovedFavorite removed{settings, network};
     std::unique_ptr<SavedEntryPopoverModel> model;
 };
 
@@ -230,6 +233,72 @@ TEST_F(SavedEntryPopoverModelTest, HasNoTickButtonsForAnAddress)
     EXPECT_EQ(state().ssidTickButton, TickButton());
     EXPECT_EQ(state().bssidTickButton, TickButton());
     EXPECT_TRUE(modes.isEmpty());
+}
+
+TEST_F(SavedEntryPopoverModelTest, ClosesInTheNextTurnWhenItsEntryIsRemovedElsewhere)
+{
+    openNetwork();
+    settings.changeFromOutside(keys::savedNetworks, QVariantMap{});
+    scheduler.runPending();
+    EXPECT_EQ(state(), SavedEntryPopoverModel::State());
+    EXPECT_FALSE(editing->editingNetworkDict());
+    openAddress();
+    settings.changeFromOutside(keys::savedAddresses, QVariantMap{});
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::None);
+}
+
+TEST_F(SavedEntryPopoverModelTest, DoesNotBringBackWhatWasRemovedElsewhere)
+{
+    openNetwork();
+    settings.set(keys::savedNetworks, QVariantMap{});
+    ASSERT_EQ(state().open, Popover::Network) << "it closes in the next turn";
+    settings.clearJournal();
+    model->controlTextDidEndEditing(u"Our house"_s);
+    model->chooseSsidTickButton();
+    EXPECT_TRUE(settings.journal().isEmpty());
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::None);
+    EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
+}
+
+TEST_F(SavedEntryPopoverModelTest, DoesNotOpenForWhatWasRemovedMeanwhile)
+{
+    choose(TokenFieldKind::SavedNetworks, savedNetworkEntry(homeBssid));
+    settings.set(keys::savedNetworks, QVariantMap{});
+    QList<Popover> opened;
+    QObject::connect(
+        model.get(), &SavedEntryPopoverModel::changed, [&] { opened << state().open; });
+    scheduler.runPending();
+    EXPECT_TRUE(opened.isEmpty());
+}
+
+TEST_F(SavedEntryPopoverModelTest, StaysWhenAnotherEntryIsRemovedElsewhere)
+{
+    openNetwork();
+    QVariantMap list = settings.getDictionary(keys::savedNetworks);
+    list.remove(officeBssid);
+    settings.changeFromOutside(keys::savedNetworks, list);
+    scheduler.runPending();
+    EXPECT_EQ(state().open, Popover::Network);
+}
+
+TEST_F(SavedEntryPopoverModelTest, CanHaveBackWhatItRemoved)
+{
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s, true);
+    const QVariantMap before = savedNetwork(homeBssid);
+    openNetwork();
+    model->removeEntry();
+    scheduler.runPending();
+    removed.undo();
+    EXPECT_EQ(savedNetwork(homeBssid), before);
+    EXPECT_TRUE(modes.isEmpty()) << "its rules are as they were";
+
+    openAddress();
+    model->removeEntry();
+    scheduler.runPending();
+    removed.undo();
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
 }
 
 TEST_F(SavedEntryPopoverModelTest, MayBeGoneWhenItsTurnComes)

@@ -3,6 +3,7 @@
 #include "presentation/networks/SavedListsModel.h"
 
 #include "networks/SavedAddresses.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "unit/networks/NetworkFixture.h"
 
 #include <memory>
@@ -37,7 +38,9 @@ protected:
 
     const QString address = u"a4:83:e7:01:02:03"_s;
     SavedAddresses saved{settings};
-    std::unique_ptr<SavedListsModel> model = std::make_unique<SavedListsModel>(settings, saved);
+    std::unique_ptr<RemovedFavorite> removed = std::make_unique<RemovedFavorite>(settings, network);
+    std::unique_ptr<SavedListsModel> model =
+        std::make_unique<SavedListsModel>(settings, saved, *removed);
     int changes = 0;
 };
 
@@ -55,7 +58,7 @@ TEST_F(SavedListsModelTest, ShowEntriesByTheirNames)
 TEST_F(SavedListsModelTest, ShowAtOnceWhatWasSavedBefore)
 {
     saveNetwork(homeBssid, u"Home"_s, u"Our house"_s);
-    const SavedListsModel later(settings, saved);
+    const SavedListsModel later(settings, saved, *removed);
     EXPECT_EQ(texts(later.state().networks), QStringList{u"Our house"_s});
 }
 
@@ -113,6 +116,16 @@ TEST_F(SavedListsModelTest, OfferToAddAnAddressThatIsNotSaved)
     EXPECT_EQ(heart().symbol, u"heart"_s);
 }
 
+TEST_F(SavedListsModelTest, CanHaveAnAddressBackThatTheirHeartRemoved)
+{
+    saveAddress(address, u"Printer"_s);
+    model->chooseFavoriteButton();
+    ASSERT_TRUE(removed->entry());
+    removed->undo();
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+    EXPECT_TRUE(heart().removes);
+}
+
 TEST_F(SavedListsModelTest, OfferWhatFitsTheAddressInUse)
 {
     saveAddress(address, u"Printer"_s);
@@ -166,6 +179,7 @@ TEST_F(SavedListsModelTest, SayOnlyWhatChanged)
 TEST_F(SavedListsModelTest, LeaveNothingBehind)
 {
     model.reset();
+    removed.reset();
     EXPECT_FALSE(settings.hasObservers());
 }
 

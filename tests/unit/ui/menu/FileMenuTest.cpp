@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/menu/FileMenu.h"
 
+#include "presentation/menu/EditMenuModel.h"
 #include "presentation/menu/FileMenuModel.h"
+#include "store/RecordStore.h"
 #include "ui/theme/Theme.h"
 #include "unit/ui/WindowFixture.h"
 
@@ -38,7 +40,9 @@ protected:
 
     Theme theme;
     FileMenuModel model{{settings, devices, current, changer, helper, presence, timers}};
-    FileMenu view{model};
+    RecordStore records{scheduler, machine.data.path()};
+    EditMenuModel editModel{records};
+    FileMenu view{model, editModel};
     QWidget anyWindow;
     QToolButton *button = view.makeButton(theme);
 };

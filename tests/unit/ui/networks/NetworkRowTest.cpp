@@ -4,6 +4,7 @@
 
 #include "networks/SavedNetworks.h"
 #include "presentation/networks/NetworkInfoModel.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/LiveGraph.h"
@@ -39,7 +40,8 @@ protected:
 
     Theme theme;
     SavedNetworks saved{settings, network};
-    NetworkInfoModel model{{settings, scheduler, table, network, saved}};
+    RemovedFavorite removed{settings, network};
+    NetworkInfoModel model{{settings, scheduler, table, network, saved, removed}};
     NetworkRow row{model, theme};
 };
 

@@ -2,13 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/networks/SavedAddressesRow.h"
 
+#include "fakes/FakeWiFiClient.h"
 #include "networks/SavedAddresses.h"
+#include "networks/WiFiNetwork.h"
+#include "presentation/networks/RemovedFavorite.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/TokenField.h"
 #include "unit/ui/WindowFixture.h"
+
+#include <QPushButton>
 
 namespace quillon::test {
 
@@ -32,8 +37,11 @@ protected:
 
     Theme theme;
     SavedAddresses addresses{settings};
-    SavedListsModel saved{settings, addresses};
-    SavedAddressesRow row{saved, window, theme};
+    FakeWiFiClient radio;
+    WiFiNetwork network{settings, radio, devices};
+    RemovedFavorite removed{settings, network};
+    SavedListsModel saved{settings, addresses, removed};
+    SavedAddressesRow row{{saved, window, presence}, theme};
     int filled = 0;
 };
 
@@ -63,6 +71,18 @@ TEST_F(SavedAddressesRowTest, AChosenAddressIsPutIntoTheFieldAndThePopoverCloses
     EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:77"_s);
     EXPECT_TRUE(window.state().updateEnabled);
     EXPECT_EQ(filled, 1);
+}
+
+TEST_F(SavedAddressesRowTest, LeadsToWhereSavedItemsAreEdited)
+{
+    QList<Destination> chosen;
+    QObject::connect(&presence, &Presence::destinationChosen,
+        [&](Destination destination) { chosen << destination; });
+    presence.offer(Destination::SavedItems);
+    row.click();
+    row.popover().content()->findChild<QPushButton *>(u"editSavedItems"_s)->click();
+    EXPECT_EQ(chosen, QList<Destination>{Destination::SavedItems});
+    EXPECT_FALSE(saved.state().softwarePopoverShown);
 }
 
 TEST_F(SavedAddressesRowTest, ThePopoverClosesWhenADragHasEnded)

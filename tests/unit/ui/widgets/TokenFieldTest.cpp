@@ -191,5 +191,41 @@ TEST_F(TokenFieldTest, ALongNameIsCutAndSaidInFull)
     EXPECT_TRUE(field->token(0)->toolTip().contains(u"02:00:00:00:00:01"_s));
 }
 
+TEST_F(TokenFieldTest, ATokenThatIsRenamedStaysTheSame)
+{
+    QWidget *const office = field->token(1);
+    focusToken(1);
+    field->setEntries({{u"Bakery"_s, u"02:00:00:00:00:00"_s}, entries[0],
+        {u"Work"_s, entries[1].text}, entries[2]});
+    settle();
+    EXPECT_EQ(field->token(2), office);
+    EXPECT_EQ(focused(), 2);
+    EXPECT_EQ(accessible(*office).text(QAccessible::Name), u"Work"_s);
+    EXPECT_TRUE(office->toolTip().contains(u"Work"_s));
+    field->setEntries({entries[0], entries[2]});
+    EXPECT_EQ(focused(), 1) << "the next one has the keyboard";
+}
+
+TEST_F(TokenFieldTest, WhatIsSaidOfAnEmptyOneTakesTheWholeLine)
+{
+    column->addStretch();
+    window.resize(320, 400);
+    field->setEntries({});
+    field->setEmptyText(u"Join a network and press its heart."_s);
+    settle();
+    const auto *sentence = field->findChild<QLabel *>();
+    EXPECT_TRUE(sentence->isVisible());
+    EXPECT_EQ(sentence->width(), field->width());
+    EXPECT_GE(field->height(), sentence->heightForWidth(sentence->width()));
+    field->setEntries(entries);
+    EXPECT_FALSE(sentence->isVisible());
+}
+
+TEST_F(TokenFieldTest, ATokenWithoutANameIsCalledByWhatItStandsFor)
+{
+    field->setEntries({{QString(), u"02:00:00:00:00:01"_s}});
+    EXPECT_EQ(accessible(*field->token(0)).text(QAccessible::Name), u"02:00:00:00:00:01"_s);
+}
+
 } // namespace
 } // namespace quillon::test

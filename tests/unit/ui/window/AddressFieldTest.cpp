@@ -5,10 +5,13 @@
 #include "ui/window/TextFieldBackgroundView.h"
 #include "unit/ui/WindowFixture.h"
 
+#include <QAction>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMimeData>
 
 namespace quillon::test {
@@ -106,6 +109,102 @@ TEST_F(AddressFieldTest, WhatUndoBringsBackIsWhatTheModelHolds)
     EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:0"_s);
     field.undo();
     EXPECT_EQ(field.text(), window.state().fieldText);
+}
+
+TEST_F(AddressFieldTest, UndoGoesPastWhatTheProgramMadeOfWhatWasTyped)
+{
+    field.selectAll();
+    type(field, u"aabbccddeeff"_s);
+    ASSERT_EQ(field.text(), u"AABBCCDDEEFF"_s);
+    press(field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
+    EXPECT_EQ(window.state().fieldText, field.text());
+    press(field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(field.text(), u"AABBCCDDEEFF"_s);
+    EXPECT_EQ(window.state().fieldText, field.text());
+}
+
+TEST_F(AddressFieldTest, UndoBringsBackTheAddressThatAPasteReplacedAndTheCursor)
+{
+    field.setCursorPosition(3);
+    field.selectAll();
+    paste(u"02:00:5e:10:ab:cd"_s);
+    EXPECT_TRUE(window.state().updateEnabled);
+    field.undo();
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
+    EXPECT_FALSE(window.state().updateEnabled);
+    EXPECT_TRUE(field.isRedoAvailable());
+    field.redo();
+    EXPECT_EQ(field.text(), u"02:00:5E:10:AB:CD"_s);
+    EXPECT_TRUE(window.state().updateEnabled);
+}
+
+TEST_F(AddressFieldTest, WhatWasPutIntoTheFieldIsUndoneLikeTyping)
+{
+    window.populateHexFieldFromDrop(u"02:00:5e:10:ab:cd"_s);
+    EXPECT_EQ(field.text(), u"02:00:5E:10:AB:CD"_s);
+    field.undo();
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:01"_s);
+}
+
+TEST_F(AddressFieldTest, WhatIsTypedIsKeptForUndoWhenTheAddressInUseComesOverIt)
+{
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    window.populateHexField();
+    scheduler.runPending();
+    ASSERT_EQ(field.text(), u"02:00:00:00:00:01"_s);
+    field.undo();
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:0"_s);
+}
+
+TEST_F(AddressFieldTest, AnotherInterfaceBeginsAnew)
+{
+    EXPECT_FALSE(field.isUndoAvailable()) << "nobody has edited anything";
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    EXPECT_TRUE(field.isUndoAvailable());
+    select(u"wlp2s0"_s);
+    EXPECT_FALSE(field.isUndoAvailable());
+    EXPECT_FALSE(field.isRedoAvailable());
+}
+
+TEST_F(AddressFieldTest, LeavesTheKeyToTheWindowWhenItHasNothingToUndo)
+{
+    const auto takes = [this](int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent asked(QEvent::ShortcutOverride, key, modifiers);
+        asked.ignore();
+        QCoreApplication::sendEvent(&field, &asked);
+        return asked.isAccepted();
+    };
+    EXPECT_FALSE(takes(Qt::Key_Z, Qt::ControlModifier));
+    EXPECT_FALSE(takes(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier));
+    EXPECT_TRUE(takes(Qt::Key_V, Qt::ControlModifier));
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    EXPECT_TRUE(takes(Qt::Key_Z, Qt::ControlModifier));
+    field.undo();
+    EXPECT_TRUE(takes(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier));
+}
+
+TEST_F(AddressFieldTest, ItsContextMenuUndoesAsItsKeysDo)
+{
+    field.selectAll();
+    type(field, u"aabbccddeeff"_s);
+    field.show();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(&field, &event);
+    auto *shown = field.findChild<QMenu *>();
+    ASSERT_NE(shown, nullptr);
+    EXPECT_TRUE(shown->actions().at(0)->isEnabled());
+    EXPECT_FALSE(shown->actions().at(1)->isEnabled());
+    shown->actions().at(0)->trigger();
+    EXPECT_NE(field.text(), u"AABBCCDDEEFF"_s);
+    EXPECT_TRUE(field.isRedoAvailable());
+    shown->actions().at(1)->setEnabled(true);
+    shown->actions().at(1)->trigger();
+    EXPECT_EQ(field.text(), u"AABBCCDDEEFF"_s);
+    shown->close();
 }
 
 TEST_F(AddressFieldTest, AProgramThatWritesPastTheKeyboardIsHeldToTheRulesToo)

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/networks/FavoriteToast.h"
+
+#include "unit/ui/networks/SavedItemsFixture.h"
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+class FavoriteToastTest : public SavedItemsFixture
+{
+protected:
+    void remove() { removed.remember(removeEntry(settings, keys::savedAddresses, address)); }
+
+    FavoriteToast *toast = new FavoriteToast(removed, theme, scheduler, &view);
+};
+
+TEST_F(FavoriteToastTest, SaysWhatWasRemovedAndHasItBack)
+{
+    EXPECT_EQ(toast->message(), QString());
+    remove();
+    EXPECT_EQ(toast->message(), u"Favorite removed"_s);
+    toast->findChild<QPushButton *>()->click();
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+    EXPECT_EQ(toast->message(), QString());
+}
+
+TEST_F(FavoriteToastTest, GoesWhenThereIsNothingToHaveBack)
+{
+    remove();
+    saveAddress(address, u"Theirs"_s);
+    EXPECT_EQ(toast->message(), QString());
+}
+
+TEST_F(FavoriteToastTest, HasItBackByItsKeyInAPopoverOverItsWindow)
+{
+    remove();
+    open(networks(), 0);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier);
+    QApplication::sendEvent(QApplication::focusWidget(), &key);
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+}
+
+} // namespace
+} // namespace quillon::test
