@@ -3,7 +3,7 @@
 #include "ui/UserInterface.h"
 
 #include "base/Localized.h"
-#include "platform/desktop/ColorSchemeSource.h"
+#include "platform/desktop/AppearanceSource.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "presentation/rules/CountdownModel.h"
@@ -51,7 +51,12 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,
         [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
     m_theme.setCompositing(desktop.compositing);
-    desktop.colorScheme.watch([this](ColorScheme scheme) { m_theme.setScheme(scheme); });
+    const ColorScheme usual = m_theme.scheme();
+    desktop.appearance.watch([this, usual](const Appearance &wanted) {
+        m_theme.setScheme(wanted.scheme.value_or(usual));
+        m_theme.setContrast(wanted.isHighContrast ? Contrast::High : Contrast::Normal);
+        m_theme.setAnimated(!wanted.isStill);
+    });
 }
 
 void UserInterface::makeFacts(const Models &models)

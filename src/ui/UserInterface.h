@@ -10,7 +10,7 @@
 
 namespace quillon {
 
-class ColorSchemeSource;
+class AppearanceSource;
 class Compositing;
 class CountdownModel;
 class ExternalAddressModel;
@@ -44,7 +44,7 @@ public:
     {
         TrayHost &trayHost;
         TaskBar &taskBar;
-        ColorSchemeSource &colorScheme;
+        AppearanceSource &appearance;
         const Compositing &compositing;
     };
 

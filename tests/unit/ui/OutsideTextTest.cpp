@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeAppearance.h"
 #include "fakes/FakeCompositing.h"
-#include "platform/desktop/ColorSchemeSource.h"
 #include "ui/UserInterface.h"
 #include "ui/menu/MenuView.h"
 #include "ui/vendors/VendorTableView.h"
@@ -59,12 +59,6 @@ const QList<OutsideText> outsideTexts{
         QString(1999, u'i') + u'…'},
 };
 
-class NoColorScheme : public ColorSchemeSource
-{
-public:
-    void watch(std::function<void(ColorScheme)>) override {}
-};
-
 /// The whole program with its windows, on a machine that somebody filled with such texts.
 class OutsideTextTest : public ProgramOnFakes, public ::testing::WithParamInterface<qsizetype>
 {
@@ -93,7 +87,7 @@ protected:
                        .vendorField = features().vendors.field,
                        .vendorInfo = features().vendors.info,
                        .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, colorScheme, compositing});
+            UserInterface::Desktop{trayHost, taskBar, appearance, compositing});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
         machine.settings.set(keys::externalIPAddress, written);
@@ -169,7 +163,7 @@ protected:
     std::optional<OpenedFile> opened;
     FakeTrayHost trayHost;
     FakeTaskBar taskBar;
-    NoColorScheme colorScheme;
+    FakeAppearance appearance;
     FakeCompositing compositing;
     std::optional<UserInterface> ui;
 };
@@ -183,8 +177,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
     auto *window = part<QWidget>("windowView");
     window->grab();
 
-    for (const char *name :
-        {"portName", "updatedLabel", "timerLabel", "hardwareAddress", "ipAddress"}) {
+    for (const char *name : {"portName", "updatedLabel", "timerLabel", "hardwareAddress", "ipAddress"}) {
         const auto *label = part<QLabel>(name);
         const QString expected =
             QString::fromLatin1(name).endsWith("Address"_L1) ? label->accessibleName() : line;
