@@ -11,6 +11,7 @@
 #include "ui/networks/NetworkRow.h"
 #include "ui/networks/SavedAddressesRow.h"
 #include "ui/rules/CountdownRow.h"
+#include "ui/vendors/MissingVendors.h"
 #include "ui/vendors/VendorChooser.h"
 #include "ui/vendors/VendorDataCard.h"
 #include "ui/vendors/VendorRow.h"
@@ -67,6 +68,7 @@ void UserInterface::makeFacts(const Models &models)
     QObject::connect(saved, &SavedAddressesRow::filled, &m_mainWindow, &MainWindow::focusApply);
     facts.add(saved);
     facts.add(new VendorRow(models.vendorInfo, m_theme));
+    facts.add(new MissingVendors(models.vendorPane));
     facts.add(new NetworkRow(models.network, m_theme));
     facts.add(new RulesRow(models.rules, m_theme));
     facts.add(new CountdownRow(models.countdown, m_theme));

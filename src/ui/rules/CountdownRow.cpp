@@ -5,11 +5,14 @@
 #include "base/Localized.h"
 #include "presentation/rules/CountdownModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PlainText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+
+#include <utility>
 
 namespace quillon {
 
@@ -27,6 +30,9 @@ CountdownRow::CountdownRow(CountdownModel &model, const Theme &theme, QWidget *p
     m_label->setObjectName(u"timerLabel"_s);
     // A text that is too long takes a second line instead of widening the window.
     m_label->setWordWrap(true);
+    // Its text is its description: a name that changes each second would be said each second.
+    setAccessibleRole(*m_label, QAccessible::StaticText);
+    m_label->setAccessibleName(localized("Countdown"));
     setMinimumHeight(Theme::rowHeight);
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(Theme::unit, 0, Theme::unit / 2, 0);
@@ -58,12 +64,28 @@ QToolButton *CountdownRow::makeButton(
 void CountdownRow::refresh()
 {
     const auto &state = m_model.state();
-    showLine(*m_label, state.label);
+    const QString text = plainLine(state.label);
+    m_label->setText(plainLine(text));
+    setQuietAccessibleValue(*m_label, text);
+    announcePause();
     m_pause->setVisible(state.buttonsVisible);
     m_resume->setVisible(state.buttonsVisible);
     m_pause->setEnabled(state.pauseEnabled);
     m_resume->setEnabled(state.resumeEnabled);
     setVisible(state.buttonsVisible || !state.label.isEmpty());
+}
+
+void CountdownRow::announcePause()
+{
+    const auto &state = m_model.state();
+    // Both are disabled between a press and the next tick.
+    if (!state.buttonsVisible || state.pauseEnabled == state.resumeEnabled) {
+        return;
+    }
+    const bool isPaused = state.resumeEnabled;
+    if (std::exchange(m_isPaused, isPaused) != isPaused && isVisible()) {
+        announce(*this, isPaused ? localized("Countdown paused") : localized("Countdown resumed"));
+    }
 }
 
 } // namespace quillon

@@ -4,10 +4,12 @@
 
 #include "base/Localized.h"
 #include "presentation/vendors/VendorFieldModel.h"
+#include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -76,9 +78,10 @@ QVariant VendorListRows::data(const QModelIndex &index, int role) const
     }
 }
 
-VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
+VendorTableView::VendorTableView(VendorFieldModel &model, const Theme &theme, QWidget *parent)
     : QListView(parent)
     , m_model(model)
+    , m_theme(theme)
 {
     setObjectName(u"vendorTable"_s);
     setAccessibleName(localized("Vendors"));
@@ -109,6 +112,23 @@ void VendorTableView::refresh()
     if (!wanted.isValid()) {
         clearSelection();
     }
+    const QString message = plainLine(m_model.state().message);
+    if (accessibleDescription() != message) {
+        setAccessibleDescription(message);
+        viewport()->update();
+    }
+}
+
+void VendorTableView::paintEvent(QPaintEvent *event)
+{
+    QListView::paintEvent(event);
+    // Below the row that is always there, if it is shown.
+    const int rows = visualRect(model()->index(model()->rowCount() - 1, 0)).bottom() + 1;
+    const QRect room = viewport()->rect().adjusted(Theme::unit, rows, -Theme::unit, 0);
+    QPainter painter(viewport());
+    painter.setPen(m_theme.colors().mutedText);
+    painter.drawText(
+        room, int(Qt::AlignCenter) | int(Qt::TextWordWrap), plainLine(m_model.state().message));
 }
 
 QSize VendorTableView::sizeHint() const
