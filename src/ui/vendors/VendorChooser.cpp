@@ -120,6 +120,9 @@ void VendorChooser::refresh()
         m_table->hide();
     }
     m_table->refresh();
+    if (!m_table->isHidden()) {
+        placeList();
+    }
 }
 
 void VendorChooser::openList()

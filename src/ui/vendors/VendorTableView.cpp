@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int shownRows = 6;
+constexpr int rowsOfMessage = 2;
 
 VendorFieldModel::Key keyOf(int key)
 {
@@ -134,7 +135,11 @@ void VendorTableView::paintEvent(QPaintEvent *event)
 QSize VendorTableView::sizeHint() const
 {
     const int row = std::max(sizeHintForRow(0), fontMetrics().height() + 8);
-    return {QListView::sizeHint().width(), shownRows * row + 2 * frameWidth()};
+    // With a message it is no higher than that takes: below it may stand what helps.
+    const int rows = m_model.state().message.isEmpty()
+                         ? shownRows
+                         : static_cast<int>(m_model.rowCount()) + rowsOfMessage;
+    return {QListView::sizeHint().width(), rows * row + 2 * frameWidth()};
 }
 
 void VendorTableView::keyPressEvent(QKeyEvent *event)
