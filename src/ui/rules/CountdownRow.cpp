@@ -30,9 +30,6 @@ CountdownRow::CountdownRow(CountdownModel &model, const Theme &theme, QWidget *p
     m_label->setObjectName(u"timerLabel"_s);
     // A text that is too long takes a second line instead of widening the window.
     m_label->setWordWrap(true);
-    // Its text is its description: a name that changes each second would be said each second.
-    setAccessibleRole(*m_label, QAccessible::StaticText);
-    m_label->setAccessibleName(localized("Countdown"));
     setMinimumHeight(Theme::rowHeight);
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(Theme::unit, 0, Theme::unit / 2, 0);
@@ -64,9 +61,8 @@ QToolButton *CountdownRow::makeButton(
 void CountdownRow::refresh()
 {
     const auto &state = m_model.state();
-    const QString text = plainLine(state.label);
-    m_label->setText(plainLine(text));
-    setQuietAccessibleValue(*m_label, text);
+    // Its name is what it shows, for who asks; only what announcePause() says is said unasked.
+    showLine(*m_label, state.label);
     announcePause();
     m_pause->setVisible(state.buttonsVisible);
     m_resume->setVisible(state.buttonsVisible);

@@ -122,11 +122,6 @@ void setAccessibleValue(QWidget &widget, const QString &value)
     }
 }
 
-void setQuietAccessibleValue(QWidget &widget, const QString &value)
-{
-    widget.setProperty(valueProperty, value);
-}
-
 void announce(QWidget &widget, const QString &message)
 {
     widget.setAccessibleName(message);

