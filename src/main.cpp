@@ -7,7 +7,7 @@
 #include "platform/linux/TerminationSignals.h"
 #include "platform/linux/bus/SessionInstance.h"
 #include "platform/linux/desktop/DisplayCompositing.h"
-#include "platform/linux/desktop/PortalColorScheme.h"
+#include "platform/linux/desktop/PortalAppearance.h"
 #include "platform/linux/desktop/Preload.h"
 #include "platform/linux/desktop/TrayHostWatch.h"
 #include "platform/linux/desktop/X11TaskBar.h"
@@ -106,10 +106,10 @@ int main(int argc, char **argv)
 
     TrayHostWatch trayHost;
     X11TaskBar taskBar;
-    PortalColorScheme colorScheme;
+    PortalAppearance appearance;
     const DisplayCompositing compositing;
     const UserInterface userInterface(modelsOf(delegate.features()),
-        {trayHost, taskBar, colorScheme, compositing, platform.scheduler});
+        {trayHost, taskBar, appearance, compositing, platform.scheduler});
 
     LaunchSequence &launch = delegate.launch();
     QObject::connect(

@@ -147,6 +147,7 @@ void AddressChanger::requestChange(
     };
     if (record.current == address) {
         m_messages.tellIdentical(request.interface);
+        Q_EMIT changeSpared(request.device);
         if (reply) {
             reply(
                 {.isInPlace = true, .address = address, .requested = address, .isReported = true});
@@ -215,6 +216,7 @@ ChangeOutcome AddressChanger::finish(
     }
     const auto failure = m_messages.tell({request.interface, request.oldAddress}, result, outcome);
     outcome.failure = failure.value_or(QString());
+    outcome.isSettled = failure.has_value();
     if (failure && failure->isEmpty()) {
         Q_EMIT addressChanged(request.device, request.address);
         m_deps.notifications.post(

@@ -92,6 +92,9 @@ Q_SIGNALS:
     /// After the user was told of a successful change and before "addressUpdated" is posted; on the
     /// thread of the helper's reply.
     void addressChanged(const QString &device, const QString &requestedAddress);
+    /// Nothing was done for a request, as `device` has that address; the user was told so. On the
+    /// thread of the change queue.
+    void changeSpared(const QString &device);
     /// The helper is about to be asked to change `device`; on the main thread. Every one is
     /// followed by changeEnded().
     void changeBegan(const QString &device);

@@ -24,6 +24,9 @@ struct ChangeOutcome
     /// Why the device does not have the address, as the user was told; "" when it has, or when
     /// nothing is known.
     QString failure = {};
+    /// The address that it has now says what became of the change: not so while its owner has not
+    /// connected it again.
+    bool isSettled = true;
 };
 
 } // namespace quillon

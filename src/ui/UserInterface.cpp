@@ -3,7 +3,7 @@
 #include "ui/UserInterface.h"
 
 #include "base/Localized.h"
-#include "platform/desktop/ColorSchemeSource.h"
+#include "platform/desktop/AppearanceSource.h"
 #include "presence/Presence.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/networks/SavedListsModel.h"
@@ -13,6 +13,7 @@
 #include "ui/networks/NetworkRow.h"
 #include "ui/networks/SavedAddressesRow.h"
 #include "ui/rules/CountdownRow.h"
+#include "ui/vendors/MissingVendors.h"
 #include "ui/vendors/VendorChooser.h"
 #include "ui/vendors/VendorDataCard.h"
 #include "ui/vendors/VendorRow.h"
@@ -56,7 +57,12 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,
         [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
     m_theme.setCompositing(desktop.compositing);
-    desktop.colorScheme.watch([this](ColorScheme scheme) { m_theme.setScheme(scheme); });
+    const ColorScheme usual = m_theme.scheme();
+    desktop.appearance.watch([this, usual](const Appearance &wanted) {
+        m_theme.setScheme(wanted.scheme.value_or(usual));
+        m_theme.setContrast(wanted.isHighContrast ? Contrast::High : Contrast::Normal);
+        m_theme.setAnimated(!wanted.isStill);
+    });
 }
 
 void UserInterface::makeFacts(const Models &models)
@@ -68,6 +74,7 @@ void UserInterface::makeFacts(const Models &models)
     QObject::connect(saved, &SavedAddressesRow::filled, &m_mainWindow, &MainWindow::focusApply);
     facts.add(saved);
     facts.add(new VendorRow(models.vendorInfo, m_theme));
+    facts.add(new MissingVendors(models.vendorPane));
     facts.add(new NetworkRow(models.network, m_theme));
     facts.add(new RulesRow(models.rules, m_theme));
     facts.add(new CountdownRow(models.countdown, m_theme));

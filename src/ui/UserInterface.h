@@ -13,7 +13,7 @@
 
 namespace quillon {
 
-class ColorSchemeSource;
+class AppearanceSource;
 class Compositing;
 class CountdownModel;
 class EditMenuModel;
@@ -52,7 +52,7 @@ public:
     {
         TrayHost &trayHost;
         TaskBar &taskBar;
-        ColorSchemeSource &colorScheme;
+        AppearanceSource &appearance;
         const Compositing &compositing;
         Scheduler &scheduler;
     };

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Languages.h"
-#include "platform/desktop/ColorSchemeSource.h"
+#include "platform/desktop/AppearanceSource.h"
 
 #include <QFont>
 #include <QTranslator>

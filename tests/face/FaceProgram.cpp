@@ -127,7 +127,11 @@ UserInterface::Models FaceProgram::modelsOf(Features &features)
     return {.window = {features.mainWindow, features.readMe, features.presence},
         .statusMenu = features.statusMenu,
         .fileMenu = features.fileMenu,
+        .editMenu = features.editMenu,
         .savedLists = features.networks.savedLists,
+        .removedInMainWindow = features.networks.removedInMainWindow,
+        .savedItems = {{features.networks.savedLists, features.networks.savedEntryPopover},
+            features.networks.removedFromSavedItems, features.presence},
         .network = features.networks.info,
         .externalAddress = features.networks.externalAddressShown,
         .rules = {features.rules.status, features.rules.list},
@@ -141,7 +145,7 @@ void FaceProgram::start()
 {
     m_program.emplace(machine.platform());
     m_interface.emplace(modelsOf(features()),
-        UserInterface::Desktop{m_trayHost, m_taskBar, m_scheme, m_compositing});
+        UserInterface::Desktop{m_trayHost, m_taskBar, m_scheme, m_compositing, machine.scheduler});
     LaunchSequence &launch = m_program->launch();
     launch.awakeFromNib();
     launch.applicationWillFinishLaunching();

@@ -5,7 +5,7 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeCompositing.h"
 #include "fakes/FakePlatform.h"
-#include "platform/desktop/ColorSchemeSource.h"
+#include "platform/desktop/AppearanceSource.h"
 #include "platform/desktop/TaskBar.h"
 #include "platform/desktop/TrayHost.h"
 #include "ui/UserInterface.h"
@@ -61,14 +61,17 @@ public:
     FakePlatform machine;
 
 private:
-    class ChosenScheme : public ColorSchemeSource
+    class ChosenScheme : public AppearanceSource
     {
     public:
         explicit ChosenScheme(ColorScheme scheme)
             : m_scheme(scheme)
         {
         }
-        void watch(std::function<void(ColorScheme)> observer) override { observer(m_scheme); }
+        void watch(std::function<void(const Appearance &)> observer) override
+        {
+            observer({.scheme = m_scheme});
+        }
 
     private:
         ColorScheme m_scheme;

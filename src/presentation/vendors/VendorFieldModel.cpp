@@ -32,7 +32,7 @@ QString VendorFieldModel::rowText(qsizetype row) const
 
 void VendorFieldModel::controlTextDidChange(const QString &text)
 {
-    showText(text);
+    takeText(text);
     if (!m_state->popoverShown) {
         showVendorViewPopover();
         Q_EMIT openedByTyping();
@@ -123,10 +123,37 @@ void VendorFieldModel::closeVendorViewPopover()
     m_state.update([&](State &state) {
         state.popoverShown = false;
         state.selectedRow = std::nullopt;
+        state.message.clear();
     });
 }
 
+void VendorFieldModel::giveUpTyping()
+{
+    closeVendorViewPopover();
+    m_list.clearFilter();
+    takeText(m_chosenText);
+}
+
 void VendorFieldModel::showText(const QString &text)
+{
+    m_chosenText = text;
+    takeText(text);
+}
+
+QString VendorFieldModel::message() const
+{
+    if (!m_state->popoverShown || !m_list.isRead()) {
+        return {};
+    }
+    // "Random Address" is in every list.
+    if (m_list.vendorItemArray()->size() <= 1) {
+        return localized("The list of vendors is missing.");
+    }
+    return rowCount() > 0 ? QString()
+                          : filled(localized("No vendor begins with “%@”."), {m_state->text});
+}
+
+void VendorFieldModel::takeText(const QString &text)
 {
     const bool canChoose = m_choice.canChoose();
     m_state.update([&](State &state) {
@@ -166,7 +193,10 @@ std::optional<qsizetype> VendorFieldModel::selectedRow() const
 void VendorFieldModel::rearrange()
 {
     Q_EMIT rowsChanged();
-    m_state.update([&](State &state) { state.selectedRow = selectedRow(); });
+    m_state.update([&](State &state) {
+        state.selectedRow = selectedRow();
+        state.message = message();
+    });
     if (!m_list.isRead()) {
         return;
     }

@@ -31,6 +31,8 @@ public:
         bool popoverShown = false;
         /// The row of the list that is selected; none while the list is not in memory.
         std::optional<qsizetype> selectedRow;
+        /// Why there is nothing in the list to choose; "" where there is.
+        QString message;
 
         bool operator==(const State &) const = default;
     };
@@ -69,6 +71,8 @@ public:
     void toggleVendorViewPopover();
     void showVendorViewPopover();
     void closeVendorViewPopover();
+    /// The user gives up what was typed: the popover closes, and the choice stands in the field.
+    void giveUpTyping();
 
     // What follows from elsewhere.
     void showText(const QString &text);
@@ -90,6 +94,8 @@ Q_SIGNALS:
     void openedAtChoice();
 
 private:
+    void takeText(const QString &text);
+    QString message() const;
     void selectRow(qsizetype row);
     void selectFirstRowIfEntered();
     std::optional<qsizetype> selectedRow() const;
@@ -100,6 +106,7 @@ private:
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     /// What the selected row holds, by which it is found when the list is read or the rows change.
     QString m_selectedEntry;
+    QString m_chosenText; ///< what the field shows of the choice
     /// Nobody has typed since the popover was opened, and the list is not there yet.
     bool m_opensAtChoice = false;
     /// The user went into a list that is not there yet: its first row becomes the choice.

@@ -19,6 +19,11 @@ QString megabytes(qint64 bytes)
     return QString::asprintf("%.01f", static_cast<double>(bytes) / bytesPerMegabyte);
 }
 
+QString countText(qlonglong count)
+{
+    return filled(localized("%@ Vendor Identifiers"), {QString::number(count)});
+}
+
 /// In single precision. An empty download has no share to speak of.
 float share(qint64 received, qint64 expected)
 {
@@ -60,7 +65,7 @@ void VendorPaneModel::pressRestoreButton()
 void VendorPaneModel::showStoredTexts()
 {
     m_state.update([this](State &state) { state.canRestore = m_download.canRestorePrevious(); });
-    showCount(m_settings.getInteger(keys::vendorCountValue));
+    updateCount(countText(m_settings.getInteger(keys::vendorCountValue)));
     showDownloadCompleted(storedUpdateDate(m_settings));
 }
 
@@ -163,7 +168,8 @@ void VendorPaneModel::showAdditionNoted(const QString &note)
 
 void VendorPaneModel::showCount(qlonglong count)
 {
-    updateCount(filled(localized("%@ Vendor Identifiers"), {QString::number(count)}));
+    m_state.update([&](State &state) { state.isMissing = count == 0; });
+    updateCount(countText(count));
 }
 
 void VendorPaneModel::updateLabel(const QString &text)

@@ -33,6 +33,8 @@ public:
         bool progressShown = false;
         QString updatedLabel;
         QString vendorCount;
+        /// The database is missing or empty, as far as it was counted.
+        bool isMissing = false;
         /// The database from before the last refresh is there, and nothing is going on.
         bool canRestore = false;
         /// A refresh is going on, also where the button already offers the next one.

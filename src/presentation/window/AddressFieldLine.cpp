@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "devices/AddressText.h"
+#include "devices/ChangeOutcome.h"
 
 namespace quillon {
 
@@ -38,13 +39,24 @@ AddressFieldLine AddressFieldLine::forText(const QString &fieldText, const QStri
     return {Kind::Hint, localized("Press Return or Apply to use this address.")};
 }
 
-AddressFieldLine AddressFieldLine::forResult(bool isInPlace, const QString &failure)
+AddressFieldLine AddressFieldLine::forResult(const ChangeOutcome &outcome)
 {
-    if (isInPlace) {
+    if (outcome.isInPlace) {
         return {Kind::Done, localized("Changed: this is the address in use now.")};
     }
-    return {Kind::Failure, failure.isEmpty() ? localized("The address was not changed.")
-                                             : filled(localized("Not changed: %@."), {failure})};
+    if (!outcome.failure.isEmpty()) {
+        return {Kind::Failure, filled(localized("Not changed: %@."), {outcome.failure})};
+    }
+    if (outcome.address.isEmpty()) {
+        return {Kind::Failure, localized("The interface does not say which address it has now.")};
+    }
+    if (!outcome.isSettled) {
+        return {Kind::Notice, localized("Not connected again: look at the address when it is.")};
+    }
+    if (outcome.isConfirmed) {
+        return {Kind::Notice, localized("Changed, but to another address than you asked for.")};
+    }
+    return {Kind::Failure, localized("The address was not changed.")};
 }
 
 AddressFieldLine AddressFieldLine::changing()
@@ -60,6 +72,11 @@ AddressFieldLine AddressFieldLine::withoutHelper()
 AddressFieldLine AddressFieldLine::withoutInterface()
 {
     return {Kind::Hint, localized("No interface here can be changed.")};
+}
+
+AddressFieldLine AddressFieldLine::interfaceGone()
+{
+    return {Kind::Notice, localized("This interface is not there: select another.")};
 }
 
 } // namespace quillon

@@ -6,6 +6,8 @@
 
 namespace quillon {
 
+struct ChangeOutcome;
+
 /// The line below the address field: what the text in the field is, and what can be done with it.
 struct AddressFieldLine
 {
@@ -24,10 +26,12 @@ struct AddressFieldLine
 
     /// For `fieldText`, in display form, while the interface has the address `current`.
     static AddressFieldLine forText(const QString &fieldText, const QString &current);
-    static AddressFieldLine forResult(bool isInPlace, const QString &failure);
+    static AddressFieldLine forResult(const ChangeOutcome &outcome);
     static AddressFieldLine changing();
     static AddressFieldLine withoutHelper();
     static AddressFieldLine withoutInterface();
+    /// There are others, but the selected one was taken away.
+    static AddressFieldLine interfaceGone();
 };
 
 } // namespace quillon

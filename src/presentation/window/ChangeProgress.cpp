@@ -5,11 +5,14 @@
 #include "devices/AddressChanger.h"
 #include "devices/AddressText.h"
 
+#include <utility>
+
 namespace quillon {
 
 ChangeProgress::ChangeProgress(const AddressChanger &changer)
 {
     connect(&changer, &AddressChanger::changeBegan, this, &ChangeProgress::begin);
+    connect(&changer, &AddressChanger::changeSpared, this, &ChangeProgress::spare);
     connect(&changer, &AddressChanger::changeEnded, this, &ChangeProgress::end);
 }
 
@@ -20,26 +23,53 @@ std::optional<AddressFieldLine> ChangeProgress::lineFor(
         return AddressFieldLine::changing();
     }
     const auto result = m_results.constFind(device);
-    if (result == m_results.constEnd() || !isSameAddress(result->address, current)) {
+    const bool isOld = result != m_results.constEnd() && !result->address.isEmpty() &&
+                       !isSameAddress(result->address, current);
+    if (result == m_results.constEnd() || isOld) {
         return std::nullopt;
     }
     return result->line;
 }
 
+void ChangeProgress::ask(const QString &device, ChangeButton button)
+{
+    UnderWay &underWay = m_underWay[device];
+    ++underWay.changes;
+    underWay.isAwaited = true;
+    underWay.button = button;
+    Q_EMIT changed();
+}
+
 void ChangeProgress::begin(const QString &device)
 {
-    ++m_underWay[device];
+    UnderWay &underWay = m_underWay[device];
+    if (!std::exchange(underWay.isAwaited, false)) {
+        ++underWay.changes;
+    }
     Q_EMIT changed();
+}
+
+void ChangeProgress::spare(const QString &device)
+{
+    const auto underWay = m_underWay.find(device);
+    if (underWay != m_underWay.end() && std::exchange(underWay->isAwaited, false)) {
+        endOne(device);
+        Q_EMIT changed();
+    }
 }
 
 void ChangeProgress::end(const QString &device, const ChangeOutcome &outcome)
 {
-    if (--m_underWay[device] <= 0) {
+    endOne(device);
+    m_results.insert(device, {outcome.address, AddressFieldLine::forResult(outcome)});
+    Q_EMIT changed();
+}
+
+void ChangeProgress::endOne(const QString &device)
+{
+    if (--m_underWay[device].changes <= 0) {
         m_underWay.remove(device);
     }
-    m_results.insert(
-        device, {outcome.address, AddressFieldLine::forResult(outcome.isInPlace, outcome.failure)});
-    Q_EMIT changed();
 }
 
 } // namespace quillon

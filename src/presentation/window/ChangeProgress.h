@@ -14,6 +14,15 @@ namespace quillon {
 class AddressChanger;
 struct ChangeOutcome;
 
+/// The buttons of the main window that change an address.
+enum class ChangeButton
+{
+    None,
+    Randomize,
+    Apply,
+    Restore,
+};
+
 /// Which interfaces are being changed, whoever asked for it, and what became of the last change of
 /// each. Main thread.
 class ChangeProgress : public QObject
@@ -24,6 +33,10 @@ public:
     explicit ChangeProgress(const AddressChanger &changer);
 
     bool isUnderWay(const QString &device) const { return m_underWay.contains(device); }
+    /// A button asks for a change of `device`: it is under way from now on.
+    void ask(const QString &device, ChangeButton button);
+    /// The button that the change under way came from; none where it came from elsewhere.
+    ChangeButton buttonOf(const QString &device) const { return m_underWay.value(device).button; }
     /// What there is to say of a device that has the address `current`: once it has another one,
     /// nothing.
     std::optional<AddressFieldLine> lineFor(const QString &device, const QString &current) const;
@@ -34,16 +47,25 @@ Q_SIGNALS:
     void changed();
 
 private:
+    struct UnderWay
+    {
+        int changes = 0; ///< never 0
+        /// A button asked, and nothing has begun since: what begins next is counted already.
+        bool isAwaited = false;
+        ChangeButton button = ChangeButton::None;
+    };
     struct Result
     {
-        QString address; ///< that the device had afterwards
+        QString address; ///< that the device had afterwards, "" where it did not say
         AddressFieldLine line;
     };
 
     void begin(const QString &device);
+    void spare(const QString &device);
     void end(const QString &device, const ChangeOutcome &outcome);
+    void endOne(const QString &device);
 
-    QHash<QString, int> m_underWay; ///< never 0
+    QHash<QString, UnderWay> m_underWay;
     QHash<QString, Result> m_results;
 };
 

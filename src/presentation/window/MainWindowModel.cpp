@@ -38,7 +38,9 @@ void MainWindowModel::update(Change change)
 {
     m_state.update([&](State &state) {
         change(state);
-        state.changing = m_progress.isUnderWay(m_deps.currentInterface.device());
+        const QString device = m_deps.currentInterface.device();
+        state.changing = m_progress.isUnderWay(device);
+        state.busyButton = m_progress.buttonOf(device);
         fillButtons(state);
         state.fieldLine = lineFor(state);
     });
@@ -48,8 +50,8 @@ void MainWindowModel::prepareWindow()
 {
     m_mayRandomize = false;
     m_isHelperKnown = false;
+    m_canRestore = false;
     update([&](State &state) {
-        state.restoreEnabled = false;
         state.fieldEnabled = false;
         const QString version = QCoreApplication::applicationVersion();
         state.versionLabel = filled(u"v%@"_s, {version});
@@ -64,7 +66,8 @@ void MainWindowModel::disableRandomize()
 
 void MainWindowModel::disableUpdate()
 {
-    update([&](State &state) { state.updateEnabled = false; });
+    m_canUpdate = false;
+    update([](State &) {});
 }
 
 void MainWindowModel::populateSelectionButton()
@@ -73,6 +76,7 @@ void MainWindowModel::populateSelectionButton()
     update([&](State &state) {
         state.devices = m_deps.devices.sortedDevicesArray();
         state.selectionVisible = !state.devices.isEmpty();
+        state.withoutInterfaces = state.devices.isEmpty();
         fillInterfaceDetails(state);
     });
     checkUpdateButton();
@@ -88,11 +92,9 @@ void MainWindowModel::setHelperInstalled(bool installed)
     m_isHelperKnown = true;
     m_helperInstalled = installed;
     m_mayRandomize = installed;
+    m_canUpdate = m_canUpdate && installed;
     update([&](State &state) {
         state.fieldEnabled = installed;
-        if (!installed) {
-            state.updateEnabled = false;
-        }
         fillInterfaceDetails(state);
     });
 }
@@ -152,25 +154,35 @@ void MainWindowModel::checkUpdateButton()
         if (isBare || state.fieldText.size() == fullLength) {
             state.fieldText = shown;
         }
-        state.updateEnabled = !isWithoutInterface() && state.fieldText.size() == fullLength &&
-                              isStringValidHEX(shown) &&
-                              shown.compare(current, Qt::CaseInsensitive) != 0;
+        m_canUpdate = !isWithoutInterface() && state.fieldText.size() == fullLength &&
+                      isStringValidHEX(shown) && shown.compare(current, Qt::CaseInsensitive) != 0;
     });
+}
+
+template <typename Act>
+void MainWindowModel::request(ChangeButton button, Act act)
+{
+    const QString device = m_deps.currentInterface.device();
+    if (!m_progress.isUnderWay(device)) {
+        m_progress.ask(device, button);
+        act();
+    }
 }
 
 void MainWindowModel::randomizeAddress()
 {
-    m_deps.addressChanger.randomizeAddress();
+    request(ChangeButton::Randomize, [this] { m_deps.addressChanger.randomizeAddress(); });
 }
 
 void MainWindowModel::changeMacAddress()
 {
-    setFieldText(m_deps.addressChanger.changeMacAddress(m_state->fieldText));
+    request(ChangeButton::Apply,
+        [this] { setFieldText(m_deps.addressChanger.changeMacAddress(m_state->fieldText)); });
 }
 
 void MainWindowModel::restoreDefaultAddress()
 {
-    m_deps.addressChanger.restoreDefaultAddress();
+    request(ChangeButton::Restore, [this] { m_deps.addressChanger.restoreDefaultAddress(); });
 }
 
 void MainWindowModel::toggleHardwarePopover()
@@ -229,7 +241,7 @@ void MainWindowModel::concludeDragOperation(const QString &text)
     }
 }
 
-void MainWindowModel::fillInterfaceDetails(State &state) const
+void MainWindowModel::fillInterfaceDetails(State &state)
 {
     const QString device = m_deps.currentInterface.device();
     state.selectedDevice = state.devices.contains(device) ? device : QString();
@@ -240,9 +252,8 @@ void MainWindowModel::fillInterfaceDetails(State &state) const
     state.ipAddress = record.ipAddress.value_or(QString());
     state.linkActive = record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
-    state.restoreEnabled = m_helperInstalled && !isWithoutInterface() &&
-                           isStringValidHEX(state.hardwareAddress) &&
-                           state.hardwareIndicatorVisible;
+    m_canRestore = m_helperInstalled && !isWithoutInterface() &&
+                   isStringValidHEX(state.hardwareAddress) && state.hardwareIndicatorVisible;
 }
 
 bool MainWindowModel::isWithoutInterface() const
@@ -258,33 +269,46 @@ AddressFieldLine MainWindowModel::lineFor(const State &state) const
     if (!m_helperInstalled) {
         return m_isHelperKnown ? AddressFieldLine::withoutHelper() : AddressFieldLine();
     }
+    if (isWithoutInterface() && !m_deps.currentInterface.device().isEmpty()) {
+        return AddressFieldLine::interfaceGone();
+    }
     return m_progress.lineFor(m_deps.currentInterface.device(), state.currentAddress)
         .value_or(AddressFieldLine::forText(state.fieldText, state.currentAddress));
 }
 
 void MainWindowModel::fillButtons(State &state) const
 {
-    const bool isWithout = isWithoutInterface();
-    state.randomizeEnabled = m_mayRandomize && !isWithout;
-    const auto why = [&](bool enabled, const QString &otherwise) {
-        if (enabled) {
-            return QString();
-        }
-        if (isWithout) {
-            return m_deps.currentInterface.device().isEmpty()
-                       ? localized(
-                             "No interface is selected: there is none whose address can be changed")
-                       : localized("The selected interface is not there");
-        }
-        return m_helperInstalled ? otherwise : localized("The helper tool is not installed");
+    const auto enabled = [&state](ChangeButton button, bool isPossible) {
+        return state.changing ? state.busyButton == button : isPossible;
     };
-    state.whyNoUpdate =
-        why(state.updateEnabled, localized("The field holds no other address to apply"));
-    state.whyNoRandomize = why(state.randomizeEnabled, QString());
-    state.whyNoRestore = why(state.restoreEnabled,
+    state.updateEnabled = enabled(ChangeButton::Apply, m_canUpdate);
+    state.randomizeEnabled =
+        enabled(ChangeButton::Randomize, m_mayRandomize && !isWithoutInterface());
+    state.restoreEnabled = enabled(ChangeButton::Restore, m_canRestore);
+    const auto why = [&](ChangeButton button, bool isEnabled, const QString &otherwise) {
+        return isEnabled && state.busyButton != button ? QString() : whyDisabled(state, otherwise);
+    };
+    state.whyNoUpdate = why(ChangeButton::Apply, state.updateEnabled,
+        localized("The field holds no other address to apply"));
+    state.whyNoRandomize = why(ChangeButton::Randomize, state.randomizeEnabled, QString());
+    state.whyNoRestore = why(ChangeButton::Restore, state.restoreEnabled,
         isStringValidHEX(state.hardwareAddress)
             ? localized("The interface has its factory address")
             : localized("The interface has no factory address that is known"));
+}
+
+QString MainWindowModel::whyDisabled(const State &state, const QString &otherwise) const
+{
+    if (state.changing) {
+        return localized("The address is being changed");
+    }
+    if (isWithoutInterface()) {
+        return m_deps.currentInterface.device().isEmpty()
+                   ? localized("No interface is selected: there is none whose address can be "
+                               "changed")
+                   : localized("The selected interface is not there");
+    }
+    return m_helperInstalled ? otherwise : localized("The helper tool is not installed");
 }
 
 } // namespace quillon

@@ -44,8 +44,10 @@ public:
         QString whyNoRandomize;
         QString whyNoRestore;
 
-        /// An address of the selected interface is being changed, whoever asked for it.
+        /// An address of the selected interface is being changed, whoever asked for it: the
+        /// buttons are disabled, but for the one that was used, which is busy.
         bool changing = false;
+        ChangeButton busyButton = ChangeButton::None;
 
         bool hardwarePopoverShown = false;
         bool hardwareIndicatorVisible = false; ///< the address in use is not the factory address
@@ -58,6 +60,9 @@ public:
         QString hardwareAddress;
         QString ipAddress; ///< "" when none
         bool linkActive = false;
+
+        /// No interface can be changed: there is nothing to show of one.
+        bool withoutInterfaces = false;
 
         QString versionLabel;
 
@@ -102,7 +107,8 @@ public:
     /// thread.
     void checkUpdateButton();
 
-    // The window's buttons and its selection button.
+    // The window's buttons and its selection button. While the selected interface is being changed
+    // the buttons do nothing.
     void randomizeAddress();
     /// Requests the address in the field, which then shows it in display case.
     void changeMacAddress();
@@ -137,14 +143,17 @@ Q_SIGNALS:
 
 private:
     void showCurrentAddress();
-    void fillInterfaceDetails(State &state) const;
+    void fillInterfaceDetails(State &state);
     /// What depends on several facts, after each change of any of them.
     void fillButtons(State &state) const;
+    QString whyDisabled(const State &state, const QString &otherwise) const;
     AddressFieldLine lineFor(const State &state) const;
     /// None is selected, or the selected one is not there.
     bool isWithoutInterface() const;
     template <typename Change>
     void update(Change change);
+    template <typename Act>
+    void request(ChangeButton button, Act act);
 
     Collaborators m_deps;
     HexValueTransformer m_displayCase;
@@ -152,7 +161,10 @@ private:
     bool m_isHelperKnown = false; ///< whether it is installed
     bool m_helperInstalled = false;
     bool m_interfacesShown = false; ///< before that nobody has looked for one to select
-    bool m_mayRandomize = false;    ///< by the helper's status alone
+    // What could be done if nothing were under way.
+    bool m_mayRandomize = false; ///< by the helper's status alone
+    bool m_canUpdate = false;
+    bool m_canRestore = false;
     ChangeProgress m_progress;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };

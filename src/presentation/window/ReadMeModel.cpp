@@ -40,7 +40,9 @@ void ReadMeModel::readMeReset()
 
 void ReadMeModel::installHelper()
 {
-    m_helper.installHelper();
+    if (!m_state->installing) {
+        m_helper.installHelper();
+    }
 }
 
 void ReadMeModel::toggleReadMePopover()

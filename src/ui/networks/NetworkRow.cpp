@@ -23,6 +23,8 @@ namespace {
 
 constexpr int popoverWidth = 330;
 constexpr int widestValue = 24; ///< in characters of average width
+/// Above it stands which network it is, below how the radio hears it.
+constexpr qsizetype firstOfRadio = 4;
 
 } // namespace
 
@@ -56,7 +58,12 @@ void NetworkRow::makeContent()
         auto *value = plainLabel();
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         label->setBuddy(value);
-        const int line = static_cast<int>(m_values.size());
+        if (m_values.size() == firstOfRadio) {
+            auto *rule = new QFrame;
+            rule->setProperty("look", u"rule"_s);
+            m_grid->addWidget(rule, m_grid->rowCount(), 0, 1, 2);
+        }
+        const int line = m_grid->rowCount();
         m_grid->addWidget(label, line, 0);
         m_grid->addWidget(value, line, 1);
         m_values.append(value);
@@ -88,14 +95,19 @@ void NetworkRow::refreshDetails()
     for (qsizetype row = 0; row < m_values.size(); ++row) {
         const QString value = state.rows.value(row).value;
         QLabel &label = *m_values.at(row);
-        const QString look = value.isEmpty() ? u"caption"_s : u"value"_s;
+        const bool isKnown = !value.isEmpty() && value != localized("Unknown");
+        const QString look = isKnown ? u"value"_s : u"caption"_s;
         if (label.property("look") != look) {
             label.setProperty("look", look);
             label.setStyleSheet(label.styleSheet());
         }
-        showLine(label, value.isEmpty() ? u"–"_s : value,
-            widestValue * label.fontMetrics().averageCharWidth());
-        label.setToolTip(plainToolTip(value));
+        const QString line = value.isEmpty() ? u"–"_s : plainLine(value);
+        const QFontMetrics metrics = label.fontMetrics();
+        const QString shown =
+            metrics.elidedText(line, Qt::ElideMiddle, widestValue * metrics.averageCharWidth());
+        label.setText(plainLine(shown));
+        label.setAccessibleName(line);
+        label.setToolTip(plainToolTip(shown == line ? QString() : value));
         if (value.isEmpty()) {
             label.setAccessibleName(localized("None"));
         }

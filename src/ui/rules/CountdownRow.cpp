@@ -5,11 +5,14 @@
 #include "base/Localized.h"
 #include "presentation/rules/CountdownModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PlainText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
+
+#include <utility>
 
 namespace quillon {
 
@@ -58,12 +61,27 @@ QToolButton *CountdownRow::makeButton(
 void CountdownRow::refresh()
 {
     const auto &state = m_model.state();
+    // Its name is what it shows, for who asks; only what announcePause() says is said unasked.
     showLine(*m_label, state.label);
+    announcePause();
     m_pause->setVisible(state.buttonsVisible);
     m_resume->setVisible(state.buttonsVisible);
     m_pause->setEnabled(state.pauseEnabled);
     m_resume->setEnabled(state.resumeEnabled);
     setVisible(state.buttonsVisible || !state.label.isEmpty());
+}
+
+void CountdownRow::announcePause()
+{
+    const auto &state = m_model.state();
+    // Both are disabled between a press and the next tick.
+    if (!state.buttonsVisible || state.pauseEnabled == state.resumeEnabled) {
+        return;
+    }
+    const bool isPaused = state.resumeEnabled;
+    if (std::exchange(m_isPaused, isPaused) != isPaused && isVisible()) {
+        announce(*this, isPaused ? localized("Countdown paused") : localized("Countdown resumed"));
+    }
 }
 
 } // namespace quillon

@@ -24,11 +24,13 @@ public:
 private:
     QToolButton *makeButton(const QString &objectName, const QString &name, const QIcon &icon);
     void refresh();
+    void announcePause();
 
     CountdownModel &m_model;
     QLabel *m_label;
     QToolButton *m_pause;
     QToolButton *m_resume;
+    bool m_isPaused = false;
 };
 
 } // namespace quillon

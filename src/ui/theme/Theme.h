@@ -49,6 +49,7 @@ public:
     static constexpr std::chrono::milliseconds popoverMotion{120};
     static constexpr std::chrono::milliseconds switchMotion{120};
     static constexpr std::chrono::milliseconds toastMotion{150};
+    static constexpr std::chrono::milliseconds fieldMotion{400}; ///< of a field that changed
 
     /// What a text is for. All sizes follow the desktop's font.
     enum class Type

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/desktop/ColorSchemeSource.h"
+#include "platform/desktop/AppearanceSource.h"
 
 #include <QColor>
 #include <QList>

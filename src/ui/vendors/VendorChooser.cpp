@@ -26,7 +26,7 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     , m_model(model)
     , m_field(new QLineEdit)
     , m_toggle(new QToolButton)
-    , m_table(new VendorTableView(model, this))
+    , m_table(new VendorTableView(model, theme, this))
 {
     setObjectName(u"vendorFieldView"_s);
     makeField();
@@ -123,6 +123,9 @@ void VendorChooser::refresh()
         m_table->hide();
     }
     m_table->refresh();
+    if (!m_table->isHidden()) {
+        placeList();
+    }
 }
 
 void VendorChooser::openList()
@@ -171,7 +174,7 @@ bool VendorChooser::takesKey(QObject *watched, int key)
     using Command = VendorFieldModel::Command;
     const bool inField = watched == m_field;
     if (key == Qt::Key_Escape && m_model.state().popoverShown && (inField || watched == m_table)) {
-        close();
+        m_model.giveUpTyping();
         return true;
     }
     return inField && m_model.controlDoCommandBySelector(

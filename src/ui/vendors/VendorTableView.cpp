@@ -4,10 +4,12 @@
 
 #include "base/Localized.h"
 #include "presentation/vendors/VendorFieldModel.h"
+#include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -19,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int shownRows = 6;
+constexpr int rowsOfMessage = 2;
 
 VendorFieldModel::Key keyOf(int key)
 {
@@ -76,9 +79,10 @@ QVariant VendorListRows::data(const QModelIndex &index, int role) const
     }
 }
 
-VendorTableView::VendorTableView(VendorFieldModel &model, QWidget *parent)
+VendorTableView::VendorTableView(VendorFieldModel &model, const Theme &theme, QWidget *parent)
     : QListView(parent)
     , m_model(model)
+    , m_theme(theme)
 {
     setObjectName(u"vendorTable"_s);
     setAccessibleName(localized("Vendors"));
@@ -109,12 +113,33 @@ void VendorTableView::refresh()
     if (!wanted.isValid()) {
         clearSelection();
     }
+    const QString message = plainLine(m_model.state().message);
+    if (accessibleDescription() != message) {
+        setAccessibleDescription(message);
+        viewport()->update();
+    }
+}
+
+void VendorTableView::paintEvent(QPaintEvent *event)
+{
+    QListView::paintEvent(event);
+    // Below the row that is always there, if it is shown.
+    const int rows = visualRect(model()->index(model()->rowCount() - 1, 0)).bottom() + 1;
+    const QRect room = viewport()->rect().adjusted(Theme::unit, rows, -Theme::unit, 0);
+    QPainter painter(viewport());
+    painter.setPen(m_theme.colors().mutedText);
+    painter.drawText(
+        room, int(Qt::AlignCenter) | int(Qt::TextWordWrap), plainLine(m_model.state().message));
 }
 
 QSize VendorTableView::sizeHint() const
 {
     const int row = std::max(sizeHintForRow(0), fontMetrics().height() + 8);
-    return {QListView::sizeHint().width(), shownRows * row + 2 * frameWidth()};
+    // With a message it is no higher than that takes: below it may stand what helps.
+    const int rows = m_model.state().message.isEmpty()
+                         ? shownRows
+                         : static_cast<int>(m_model.rowCount()) + rowsOfMessage;
+    return {QListView::sizeHint().width(), rows * row + 2 * frameWidth()};
 }
 
 void VendorTableView::keyPressEvent(QKeyEvent *event)

@@ -7,6 +7,7 @@
 
 namespace quillon {
 
+class Theme;
 class VendorFieldModel;
 
 /// The manufacturers that VendorFieldModel shows, as rows of a list; none while its popover is
@@ -34,7 +35,7 @@ class VendorTableView : public QListView
     Q_OBJECT
 
 public:
-    explicit VendorTableView(VendorFieldModel &model, QWidget *parent = nullptr);
+    VendorTableView(VendorFieldModel &model, const Theme &theme, QWidget *parent = nullptr);
 
     /// Selects what the model says is selected.
     void refresh();
@@ -42,12 +43,14 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
     VendorFieldModel &m_model;
+    const Theme &m_theme;
     bool m_mirrors = false; ///< the selection comes from the model, not from the user
 };
 

@@ -39,6 +39,9 @@ void EmptyState::say(const QString &sentence, const QString &action)
 {
     m_sentence->setText(plainParagraphs(sentence));
     m_button->setText(plainLine(action));
+    m_button->setAccessibleName(plainLine(action));
+    m_button->setAccessibleDescription(m_sentence->text());
+    m_button->setFocusPolicy(action.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     m_button->setVisible(!action.isEmpty());
 }
 

@@ -60,7 +60,7 @@ void InlineLine::say(const QString &text, Kind kind)
     m_text->style()->unpolish(m_text);
     m_text->style()->polish(m_text);
     makeRoom();
-    if (isNew && (kind == Kind::Danger || kind == Kind::Positive)) {
+    if (isNew && kind != Kind::Muted) {
         announce(*m_text, m_text->text());
     } else {
         m_text->setAccessibleName(m_text->text());

@@ -27,7 +27,7 @@ public:
 
     explicit InlineLine(const Theme &theme, QWidget *parent = nullptr);
 
-    /// A failure is announced once when it appears.
+    /// What is not muted is announced once when it appears.
     void say(const QString &text, Kind kind = Kind::Muted);
     QString text() const;
     Kind kind() const { return m_kind; }

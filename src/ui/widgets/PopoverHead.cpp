@@ -4,6 +4,7 @@
 
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
+#include "ui/widgets/Sign.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,8 +15,7 @@ using namespace Qt::StringLiterals;
 
 PopoverHead::PopoverHead(const Theme &theme, const QString &icon, QWidget *parent)
     : QWidget(parent)
-    , m_theme(theme)
-    , m_icon(plainLabel())
+    , m_icon(new Sign(theme, Theme::iconSize))
     , m_text(plainLabel())
     , m_line(new QHBoxLayout(this))
 {
@@ -40,8 +40,7 @@ void PopoverHead::setIcon(const QString &icon)
 {
     m_icon->setVisible(!icon.isEmpty());
     if (!icon.isEmpty()) {
-        m_icon->setPixmap(m_theme.icon(icon, Theme::Ink::Accent)
-                .pixmap(QSize(Theme::iconSize, Theme::iconSize), devicePixelRatioF()));
+        m_icon->setSign(icon, Theme::Ink::Accent);
     }
 }
 

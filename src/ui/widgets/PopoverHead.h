@@ -9,6 +9,7 @@ class QLabel;
 
 namespace quillon {
 
+class Sign;
 class Theme;
 
 /// What a popover is about, at its top; what can be done with it stands at the end of the line.
@@ -25,8 +26,7 @@ public:
     void addAtEnd(QWidget *control);
 
 private:
-    const Theme &m_theme;
-    QLabel *m_icon;
+    Sign *m_icon;
     QLabel *m_text;
     QHBoxLayout *m_line;
 };

@@ -6,13 +6,14 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/Badge.h"
+#include "ui/widgets/BusyButton.h"
 #include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/window/AddressField.h"
+#include "ui/window/ChangedTint.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -37,8 +38,7 @@ InlineLine::Kind kindOf(AddressFieldLine::Kind kind)
 }
 
 /// Says what the button does, or why it does nothing.
-void setUsable(
-    QPushButton &button, bool isEnabled, const QString &whatItDoes, const QString &whyNot)
+void setUsable(BusyButton &button, bool isEnabled, const QString &whatItDoes, const QString &whyNot)
 {
     const QString hint = whyNot.isEmpty() ? whatItDoes : whyNot;
     button.setEnabled(isEnabled);
@@ -53,9 +53,10 @@ AddressCard::AddressCard(MainWindowModel &model, const Theme &theme, QWidget *pa
     , m_model(model)
     , m_changed(new Badge(theme, localized("Changed")))
     , m_field(new AddressField(model))
-    , m_apply(new QPushButton(localized("&Apply")))
+    , m_tint(new ChangedTint(theme, *m_field))
+    , m_apply(new BusyButton(theme, Theme::Ink::Text, localized("&Apply")))
     , m_line(new InlineLine(theme))
-    , m_randomize(new QPushButton)
+    , m_randomize(new BusyButton(theme, Theme::Ink::OnAccent, localized("&Randomize")))
     , m_choices(new QHBoxLayout)
 {
     makeField();
@@ -102,6 +103,7 @@ void AddressCard::makeField()
 {
     m_apply->setObjectName(u"updateButton"_s);
     m_apply->setAccessibleName(localized("Apply address"));
+    m_apply->setBusyName(localized("Applying…"));
     m_apply->setAutoDefault(true);
     // As high as the field, whose text is larger.
     m_apply->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
@@ -113,10 +115,9 @@ void AddressCard::makeRandomize(const Theme &theme)
 {
     m_randomize->setObjectName(u"randomizeButton"_s);
     m_randomize->setProperty("look", u"primary"_s);
-    m_randomize->setText(localized("&Randomize"));
+    m_randomize->setBusyText(localized("Randomizing…"));
     m_randomize->setAccessibleName(localized("Randomize address"));
     m_randomize->setIcon(theme.icon(u"random"_s, Theme::Ink::OnAccent));
-    m_randomize->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     m_randomize->setAutoDefault(true);
     m_randomize->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     connect(m_randomize, &QPushButton::clicked, &m_model, &MainWindowModel::randomizeAddress);
@@ -153,11 +154,25 @@ void AddressCard::refresh()
             ? localized("Changed: the address in use is not the hardware address")
             : localized("Twelve hexadecimal digits. Return applies the address."));
     m_line->say(state.fieldLine.text, kindOf(state.fieldLine.kind));
+    m_apply->setBusy(state.busyButton == ChangeButton::Apply);
+    m_randomize->setBusy(state.busyButton == ChangeButton::Randomize);
     setUsable(*m_apply, state.updateEnabled,
         localized("Gives the interface the address in the field"), state.whyNoUpdate);
     setUsable(*m_randomize, state.randomizeEnabled,
         localized("Gives the interface a random, locally administered address"),
         state.whyNoRandomize);
+    flashIfChanged();
+}
+
+void AddressCard::flashIfChanged()
+{
+    const auto &state = m_model.state();
+    const bool isSameDevice = m_device == state.selectedDevice && !m_device.isEmpty();
+    if (isSameDevice && !m_address.isEmpty() && m_address != state.currentAddress) {
+        m_tint->flash();
+    }
+    m_device = state.selectedDevice;
+    m_address = state.currentAddress;
 }
 
 } // namespace quillon

@@ -5,12 +5,13 @@
 #include "ui/window/TextFieldBackgroundView.h"
 
 class QHBoxLayout;
-class QPushButton;
 
 namespace quillon {
 
 class AddressField;
 class Badge;
+class BusyButton;
+class ChangedTint;
 class InlineLine;
 class Theme;
 
@@ -36,13 +37,18 @@ private:
     void makeField();
     void makeRandomize(const Theme &theme);
     void refresh();
+    void flashIfChanged();
 
     MainWindowModel &m_model;
     Badge *m_changed;
     AddressField *m_field;
-    QPushButton *m_apply;
+    ChangedTint *m_tint;
+    BusyButton *m_apply;
     InlineLine *m_line;
-    QPushButton *m_randomize;
+    BusyButton *m_randomize;
+    // What was shown before, by which a change of the address is told.
+    QString m_device;
+    QString m_address;
     QHBoxLayout *m_choices;
 };
 

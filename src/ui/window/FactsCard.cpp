@@ -20,6 +20,7 @@ FactsCard::FactsCard(const Theme &theme, QWidget *parent)
 {
     setObjectName(u"facts"_s);
     setProperty("look", u"card"_s);
+    setProperty("rows", true);
     m_column->setContentsMargins(Theme::unit, Theme::unit / 2, Theme::unit, Theme::unit / 2);
     m_column->setSpacing(1);
     connect(&theme, &Theme::changed, this, qOverload<>(&QWidget::update));

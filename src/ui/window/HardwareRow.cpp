@@ -5,11 +5,11 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/BusyButton.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/Popover.h"
 
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -20,7 +20,7 @@ HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme, QWidget *pa
     : PopoverRow(theme, localized("Hardware address"), new QWidget, parent)
     , m_model(model)
     , m_address(plainLabel())
-    , m_restore(new QPushButton(localized("Restore")))
+    , m_restore(new BusyButton(theme, Theme::Ink::OnAccent, localized("Restore")))
 {
     setObjectName(u"hardwareButton"_s);
     makeContent();
@@ -42,6 +42,7 @@ void HardwareRow::makeContent()
     m_restore->setObjectName(u"restoreButton"_s);
     m_restore->setProperty("look", u"primary"_s);
     m_restore->setAccessibleName(localized("Restore hardware address"));
+    m_restore->setBusyText(localized("Restoring…"));
     m_restore->setAutoDefault(true);
 
     auto *column = new QVBoxLayout(popover().content());
@@ -58,6 +59,7 @@ void HardwareRow::refresh()
     const auto &state = m_model.state();
     setValue(state.hardwareAddress, ValueLook::Address);
     showLine(*m_address, state.hardwareAddress);
+    m_restore->setBusy(state.busyButton == ChangeButton::Restore);
     m_restore->setEnabled(state.restoreEnabled);
     const QString hint =
         state.restoreEnabled

@@ -5,10 +5,10 @@
 #include "ui/widgets/PopoverRow.h"
 
 class QLabel;
-class QPushButton;
 
 namespace quillon {
 
+class BusyButton;
 class MainWindowModel;
 
 /// The address that the interface was made with, and the way back to it.
@@ -25,7 +25,7 @@ private:
 
     MainWindowModel &m_model;
     QLabel *m_address;
-    QPushButton *m_restore;
+    BusyButton *m_restore;
 };
 
 } // namespace quillon

@@ -5,7 +5,9 @@
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/PlainText.h"
+#include "ui/widgets/Sign.h"
 #include "ui/window/InterfaceSelector.h"
 
 #include <QHBoxLayout>
@@ -27,25 +29,23 @@ constexpr int linkDotSize = 10;
 InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
-    , m_theme(theme)
     , m_selector(new InterfaceSelector(model))
-    , m_portIcon(plainLabel())
+    , m_portIcon(new Sign(theme, Theme::headerIconSize))
     , m_portName(plainLabel())
-    , m_linkDot(plainLabel())
+    , m_linkDot(new Sign(theme, linkDotSize))
     , m_linkText(plainLabel())
     , m_separator(plainLabel(u"·"_s))
     , m_ipAddress(plainLabel())
 {
+    setAccessibleRole(*this, QAccessible::Grouping);
     setMinimumWidth(Theme::windowWidth - 2 * Theme::windowMargin);
     // Nobody sees it: it names the button, whose own name is its value, to assistive technology.
     auto *caption = plainLabel(localized("Interface"));
     caption->setParent(this);
     caption->setBuddy(m_selector);
     caption->hide();
-    m_portIcon->setFixedSize(Theme::headerIconSize, Theme::headerIconSize);
     m_portName->setObjectName(u"portName"_s);
     m_portName->setFont(Theme::font(Theme::Type::Strong));
-    m_linkDot->setFixedSize(linkDotSize, linkDotSize);
     m_linkText->setObjectName(u"linkState"_s);
     m_ipAddress->setObjectName(u"ipAddress"_s);
     m_ipAddress->setProperty("look", u"caption"_s);
@@ -72,7 +72,6 @@ InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWi
     row->addLayout(port);
     row->addStretch(1);
     row->addWidget(m_selector);
-    connect(&m_theme, &Theme::changed, this, &InterfaceHeader::refreshLink);
     refresh();
 }
 
@@ -90,6 +89,27 @@ void InterfaceHeader::refresh()
     m_ipAddress->setVisible(!state.ipAddress.isEmpty());
     showLine(*m_ipAddress, state.ipAddress, Theme::windowWidth / 3);
     refreshLink();
+    announceState();
+}
+
+void InterfaceHeader::announceState()
+{
+    const auto &state = m_model.state();
+    if (state.selectedDevice.isEmpty()) {
+        return;
+    }
+    const QString said = QStringList{state.interfaceName, state.selectedDevice,
+        state.linkActive ? localized("Link active") : localized("Link inactive"), state.ipAddress}
+                             .join(u", "_s);
+    const QString line = plainLine(said);
+    if (line == accessibleName()) {
+        return;
+    }
+    if (isVisible() && !accessibleName().isEmpty()) {
+        announce(*this, line);
+    } else {
+        setAccessibleName(line);
+    }
 }
 
 void InterfaceHeader::refreshLink()
@@ -97,20 +117,17 @@ void InterfaceHeader::refreshLink()
     const auto &state = m_model.state();
     const bool known = !state.interfaceName.isEmpty();
     const bool active = state.linkActive;
-    const auto picture = [this](const QString &name, Theme::Ink ink, int size) {
-        return m_theme.icon(name, ink).pixmap(QSize(size, size), devicePixelRatioF());
-    };
     m_linkDot->setVisible(known);
-    m_linkDot->setPixmap(active ? picture(u"link-active"_s, Theme::Ink::Positive, linkDotSize)
-                                : picture(u"link-inactive"_s, Theme::Ink::Muted, linkDotSize));
+    m_linkDot->setSign(active ? u"link-active"_s : u"link-inactive"_s,
+        active ? Theme::Ink::Positive : Theme::Ink::Muted);
     m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
     m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
     m_linkText->setProperty("look", active ? u"active"_s : u"inactive"_s);
     style()->unpolish(m_linkText);
     style()->polish(m_linkText);
     const bool wireless = state.interfaceName == localized("Wi-Fi");
-    m_portIcon->setPixmap(
-        picture(wireless ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent, Theme::headerIconSize));
+    m_portIcon->setVisible(known);
+    m_portIcon->setSign(wireless ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent);
 }
 
 } // namespace quillon

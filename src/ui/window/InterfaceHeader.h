@@ -10,6 +10,7 @@ namespace quillon {
 
 class InterfaceSelector;
 class MainWindowModel;
+class Sign;
 class Theme;
 
 /// The top of the main window: what the selected interface is, whether its link is active, and the
@@ -28,13 +29,13 @@ public:
 
 private:
     void refreshLink();
+    void announceState();
 
     MainWindowModel &m_model;
-    const Theme &m_theme;
     InterfaceSelector *m_selector;
-    QLabel *m_portIcon;
+    Sign *m_portIcon;
     QLabel *m_portName;
-    QLabel *m_linkDot;
+    Sign *m_linkDot;
     QLabel *m_linkText;
     QLabel *m_separator;
     QLabel *m_ipAddress;

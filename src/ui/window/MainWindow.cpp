@@ -8,6 +8,7 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/DetailsArea.h"
+#include "ui/widgets/EmptyState.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/window/AddressCard.h"
 #include "ui/window/AddressField.h"
@@ -54,6 +55,7 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     , m_header(new InterfaceHeader(models.window, theme))
     , m_addressCard(new AddressCard(models.window, theme))
     , m_facts(new FactsCard(theme))
+    , m_noInterface(new EmptyState(theme, u"wired"_s))
     , m_area(new DetailsArea)
     , m_version(plainLabel())
     , m_column(new QVBoxLayout(this))
@@ -62,6 +64,8 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     setObjectName(u"windowView"_s);
     setWindowTitle(u"Quillon"_s);
     m_area->add(m_facts);
+    m_noInterface->setObjectName(u"noInterface"_s);
+    m_noInterface->say(localized("No interface here can be changed."));
     m_version->setProperty("look", u"caption"_s);
     m_version->setFont(Theme::font(Theme::Type::Caption));
     m_version->setAccessibleName(localized("Version"));
@@ -74,6 +78,7 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     m_column->addWidget(m_header);
     m_column->addWidget(new ReadMeStrip(models.readMe, theme));
     m_column->addWidget(m_addressCard);
+    m_column->addWidget(m_noInterface);
     m_column->addWidget(m_area);
     m_column->addWidget(m_version, 0, Qt::AlignRight);
 
@@ -181,6 +186,10 @@ void MainWindow::connectPresence()
 
 void MainWindow::refresh()
 {
+    const bool isWithout = m_model.state().withoutInterfaces;
+    m_noInterface->setVisible(isWithout);
+    m_addressCard->setVisible(!isWithout);
+    m_facts->setVisible(!isWithout);
     m_header->refresh();
     if (!m_fieldHadFocus && m_model.state().fieldEnabled) {
         // Before anybody knows of the helper it cannot have the keyboard.

@@ -14,6 +14,7 @@ namespace quillon {
 
 class AddressCard;
 class DetailsArea;
+class EmptyState;
 class FactsCard;
 class InterfaceHeader;
 class MainWindowModel;
@@ -87,6 +88,7 @@ private:
     InterfaceHeader *m_header;
     AddressCard *m_addressCard;
     FactsCard *m_facts;
+    EmptyState *m_noInterface; ///< in place of address and facts
     DetailsArea *m_area;
     QLabel *m_version;
     QVBoxLayout *m_column;

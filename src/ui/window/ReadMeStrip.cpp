@@ -6,9 +6,11 @@
 #include "presentation/window/ReadMeModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/BusyButton.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/PopoverHead.h"
+#include "ui/widgets/Sign.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -31,8 +33,8 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     , m_model(model)
     , m_theme(theme)
     , m_hint(new QPushButton)
-    , m_install(makeInstall())
-    , m_installExplained(makeInstall())
+    , m_install(makeInstall(Theme::Ink::OnHintButton))
+    , m_installExplained(makeInstall(Theme::Ink::OnAccent))
     , m_popover(new Popover(theme, new QWidget, m_hint))
 {
     setObjectName(u"readMe"_s);
@@ -48,9 +50,8 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     m_hint->setToolTip(plainToolTip(localized("What is the helper?")));
     m_install->setObjectName(u"installButton"_s);
     m_installExplained->setProperty("look", u"primary"_s);
-    auto *shield = plainLabel();
-    shield->setPixmap(theme.icon(u"shield"_s, Theme::Ink::Hint)
-            .pixmap(QSize(shieldSize, shieldSize), devicePixelRatioF()));
+    auto *shield = new Sign(theme, shieldSize);
+    shield->setSign(u"shield"_s, Theme::Ink::Hint);
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(Theme::cardMargin, Theme::unit, Theme::cardMargin, Theme::unit);
     line->setSpacing(Theme::unit);
@@ -74,9 +75,11 @@ ReadMeStrip::~ReadMeStrip()
     delete m_popover;
 }
 
-QPushButton *ReadMeStrip::makeInstall()
+BusyButton *ReadMeStrip::makeInstall(Theme::Ink ink)
 {
-    auto *install = new QPushButton;
+    auto *install = new BusyButton(m_theme, ink, localized("&Install Helper"));
+    install->setBusyText(localized("Installing…"));
+    install->setToolTip(plainToolTip(localized("Asks for an administrator's password")));
     install->setAccessibleName(localized("Install helper"));
     install->setAccessibleDescription(localized("Asks for an administrator's password"));
     install->setAutoDefault(true);
@@ -108,9 +111,7 @@ void ReadMeStrip::refresh()
 {
     const auto &state = m_model.state();
     for (auto *install : {m_install, m_installExplained}) {
-        install->setEnabled(!state.installing);
-        install->setText(
-            state.installing ? localized("Installing…") : localized("&Install Helper"));
+        install->setBusy(state.installing);
     }
     setVisible(state.visible);
     if (state.popoverShown && !m_popover->isOpen()) {

@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/theme/Theme.h"
+
 #include <QFrame>
 
 class QPushButton;
 
 namespace quillon {
 
+class BusyButton;
 class Popover;
 class ReadMeModel;
-class Theme;
 
 /// Says that the helper is missing, and has it installed. The hint itself opens what explains it.
 class ReadMeStrip : public QFrame
@@ -22,7 +24,7 @@ public:
     ~ReadMeStrip() override;
 
 private:
-    QPushButton *makeInstall();
+    BusyButton *makeInstall(Theme::Ink ink);
     void makePopover();
     void refresh();
     void resetStyle();
@@ -30,8 +32,8 @@ private:
     ReadMeModel &m_model;
     const Theme &m_theme;
     QPushButton *m_hint;
-    QPushButton *m_install;
-    QPushButton *m_installExplained;
+    BusyButton *m_install;
+    BusyButton *m_installExplained;
     Popover *m_popover;
 };
 

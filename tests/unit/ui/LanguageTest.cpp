@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Languages.h"
 #include "base/Localized.h"
+#include "fakes/FakeAppearance.h"
 #include "fakes/FakeCompositing.h"
-#include "platform/desktop/ColorSchemeSource.h"
 #include "ui/UserInterface.h"
 #include "unit/app/ProgramOnFakes.h"
 #include "unit/ui/WindowFixture.h"
@@ -24,12 +24,6 @@ using ::testing::Contains;
 using ::testing::Each;
 using ::testing::SizeIs;
 
-class NoColorScheme : public ColorSchemeSource
-{
-public:
-    void watch(std::function<void(ColorScheme)>) override {}
-};
-
 /// The whole program with its windows, in a language.
 class LanguageTest : public ProgramOnFakes, public ::testing::WithParamInterface<const char *>
 {
@@ -42,7 +36,12 @@ protected:
                                              features().presence},
                        .statusMenu = features().statusMenu,
                        .fileMenu = features().fileMenu,
+                       .editMenu = features().editMenu,
                        .savedLists = features().networks.savedLists,
+                       .removedInMainWindow = features().networks.removedInMainWindow,
+                       .savedItems = {{features().networks.savedLists,
+                                          features().networks.savedEntryPopover},
+                           features().networks.removedFromSavedItems, features().presence},
                        .network = features().networks.info,
                        .externalAddress = features().networks.externalAddressShown,
                        .rules = {features().rules.status, features().rules.list},
@@ -50,7 +49,7 @@ protected:
                        .vendorField = features().vendors.field,
                        .vendorInfo = features().vendors.info,
                        .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, colorScheme, compositing});
+            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
         features().presence.openWindow();
@@ -101,7 +100,7 @@ protected:
     std::optional<UserLanguage> language;
     FakeTrayHost trayHost;
     FakeTaskBar taskBar;
-    NoColorScheme colorScheme;
+    FakeAppearance appearance;
     FakeCompositing compositing;
     std::optional<UserInterface> ui;
 };

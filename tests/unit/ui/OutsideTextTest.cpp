@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakes/FakeAppearance.h"
 #include "fakes/FakeCompositing.h"
-#include "platform/desktop/ColorSchemeSource.h"
 #include "ui/UserInterface.h"
 #include "ui/menu/MenuView.h"
 #include "ui/vendors/VendorTableView.h"
@@ -59,12 +59,6 @@ const QList<OutsideText> outsideTexts{
         QString(1999, u'i') + u'…'},
 };
 
-class NoColorScheme : public ColorSchemeSource
-{
-public:
-    void watch(std::function<void(ColorScheme)>) override {}
-};
-
 /// The whole program with its windows, on a machine that somebody filled with such texts.
 class OutsideTextTest : public ProgramOnFakes, public ::testing::WithParamInterface<qsizetype>
 {
@@ -98,7 +92,7 @@ protected:
                        .vendorField = features().vendors.field,
                        .vendorInfo = features().vendors.info,
                        .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, colorScheme, compositing, machine.scheduler});
+            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
         machine.settings.set(keys::externalIPAddress, written);
@@ -174,7 +168,7 @@ protected:
     std::optional<OpenedFile> opened;
     FakeTrayHost trayHost;
     FakeTaskBar taskBar;
-    NoColorScheme colorScheme;
+    FakeAppearance appearance;
     FakeCompositing compositing;
     std::optional<UserInterface> ui;
 };

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/window/AddressFieldLine.h"
 
+#include "devices/ChangeOutcome.h"
+
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -40,6 +42,26 @@ TEST(AddressFieldLineTest, SaysWhatIsWrong)
 {
     const AddressFieldLine wrong{Kind::Failure, u"This is not a MAC address."_s};
     EXPECT_EQ(lineFor(u"02::0:5E:00:53:02"_s), wrong);
+}
+
+TEST(AddressFieldLineTest, SaysWhatBecameOfAChange)
+{
+    const auto after = [](const ChangeOutcome &outcome) {
+        return AddressFieldLine::forResult(outcome);
+    };
+    EXPECT_EQ(after({.isInPlace = true, .address = current}).kind, Kind::Done);
+    EXPECT_EQ(after({.address = current, .failure = u"It was asleep"_s}),
+        (AddressFieldLine{Kind::Failure, u"Not changed: It was asleep."_s}));
+    EXPECT_EQ(after({.address = {}, .isConfirmed = true}),
+        (AddressFieldLine{
+            Kind::Failure, u"The interface does not say which address it has now."_s}));
+    EXPECT_EQ(after({.address = current, .isConfirmed = true, .isSettled = false}),
+        (AddressFieldLine{
+            Kind::Notice, u"Not connected again: look at the address when it is."_s}));
+    EXPECT_EQ(after({.address = current, .isConfirmed = true}),
+        (AddressFieldLine{Kind::Notice, u"Changed, but to another address than you asked for."_s}));
+    EXPECT_EQ(after({.address = current}),
+        (AddressFieldLine{Kind::Failure, u"The address was not changed."_s}));
 }
 
 TEST(AddressFieldLineTest, WarnsOfGroupAddresses)

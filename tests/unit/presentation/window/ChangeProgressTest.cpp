@@ -40,7 +40,7 @@ TEST_F(ChangeProgressTest, AChangeIsUnderWayUntilTheHelperHasAnswered)
     EXPECT_FALSE(progress.isUnderWay(wifi));
     scheduler.advance(5s);
     EXPECT_FALSE(progress.isUnderWay(wired));
-    EXPECT_EQ(line(wired), AddressFieldLine::forResult(true, {}));
+    EXPECT_EQ(line(wired), AddressFieldLine::forResult({.isInPlace = true}));
 }
 
 TEST_F(ChangeProgressTest, OfTwoChangesTheLastOneEndsIt)
@@ -68,11 +68,79 @@ TEST_F(ChangeProgressTest, SaysWhyAnAddressWasNotChanged)
                          u"Not changed: Please make sure you have installed the HelperTool."_s}));
 }
 
+TEST_F(ChangeProgressTest, WhatAButtonAskedForIsUnderWayAtOnceAndEndsWithItsChange)
+{
+    progress.ask(wired, ChangeButton::Randomize);
+    EXPECT_TRUE(progress.isUnderWay(wired));
+    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::Randomize);
+    machine.helper.changeTakes = 3s;
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::Randomize);
+    scheduler.advance(5s);
+    EXPECT_FALSE(progress.isUnderWay(wired));
+    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::None);
+}
+
+TEST_F(ChangeProgressTest, AChangeFromElsewhereCameFromNoButton)
+{
+    machine.helper.changeTakes = 3s;
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    EXPECT_TRUE(progress.isUnderWay(wired));
+    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::None);
+}
+
+TEST_F(ChangeProgressTest, ItEndsAlsoWhereNothingIsToBeDone)
+{
+    progress.ask(wired, ChangeButton::Apply);
+    changer.updateMacAddressWithAddress(wired, devices.record(wired).current.value_or(QString()));
+    scheduler.runPending();
+    EXPECT_FALSE(progress.isUnderWay(wired));
+}
+
+TEST_F(ChangeProgressTest, ItEndsWhateverBecomesOfTheHelper)
+{
+    for (const auto mood : {FakeHelper::Mood::Refusing, FakeHelper::Mood::Dropping,
+             FakeHelper::Mood::Lying, FakeHelper::Mood::Hanging}) {
+        machine.helper.mood = mood;
+        progress.ask(wired, ChangeButton::Apply);
+        changer.updateMacAddressWithAddress(wired, wanted);
+        scheduler.runPending();
+        machine.helper.timeOut();
+        scheduler.advance(1s);
+        EXPECT_FALSE(progress.isUnderWay(wired)) << int(mood);
+        ASSERT_TRUE(line(wired)) << int(mood);
+        EXPECT_EQ(line(wired)->kind, Kind::Failure) << int(mood);
+    }
+    machine.helper.mood = FakeHelper::Mood::Obliging;
+    machine.helper.installed = false;
+    progress.ask(wired, ChangeButton::Apply);
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    EXPECT_FALSE(progress.isUnderWay(wired)) << "the helper is gone";
+    EXPECT_EQ(line(wired)->kind, Kind::Failure);
+}
+
+TEST_F(ChangeProgressTest, ItEndsWhenTheInterfaceGoes)
+{
+    machine.helper.changeTakes = 3s;
+    progress.ask(wired, ChangeButton::Randomize);
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    host.unplug(wired);
+    scheduler.advance(20s);
+    EXPECT_FALSE(progress.isUnderWay(wired));
+    EXPECT_EQ(progress.lineFor(wired, u"02:00:00:00:00:01"_s)->kind, Kind::Failure)
+        << "it does not say which address it has";
+}
+
 TEST_F(ChangeProgressTest, AResultHoldsAsLongAsTheAddressAndUntilTheUserGoesOn)
 {
     changer.updateMacAddressWithAddress(wired, wanted);
     scheduler.advance(1s);
-    EXPECT_EQ(progress.lineFor(wired, wanted.toLower()), AddressFieldLine::forResult(true, {}));
+    EXPECT_EQ(progress.lineFor(wired, wanted.toLower()),
+        AddressFieldLine::forResult({.isInPlace = true}));
     EXPECT_EQ(progress.lineFor(wired, u"02:00:00:00:00:99"_s), std::nullopt)
         << "somebody else changed it since";
     progress.forgetResult(wired);

@@ -345,9 +345,39 @@ TEST_F(MainWindowModelTest, AChangeUnderWayAndItsResultStandBelowTheField)
     model.populateHexField();
     scheduler.runPending();
     EXPECT_FALSE(shown().changing);
-    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult(true, {}));
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult({.isInPlace = true}));
     model.editField(u"02"_s);
     EXPECT_EQ(shown().fieldLine, AddressFieldLine::forText(u"02"_s, {}));
+}
+
+TEST_F(MainWindowModelTest, OnlyTheButtonThatWasUsedIsBusyAndASecondPressDoesNothing)
+{
+    model.randomizeAddress();
+    EXPECT_EQ(shown().busyButton, ChangeButton::Randomize);
+    EXPECT_TRUE(shown().randomizeEnabled) << "it keeps the keyboard";
+    EXPECT_FALSE(shown().restoreEnabled);
+    EXPECT_FALSE(shown().updateEnabled);
+    EXPECT_EQ(shown().whyNoRestore, u"The address is being changed"_s);
+    model.randomizeAddress();
+    model.restoreDefaultAddress();
+    model.changeMacAddress();
+    scheduler.runPending();
+    EXPECT_EQ(machine.helper.changes().size(), 1);
+    EXPECT_EQ(shown().busyButton, ChangeButton::None);
+    EXPECT_TRUE(shown().randomizeEnabled);
+}
+
+TEST_F(MainWindowModelTest, AChangeFromElsewhereDisablesTheButtonsAndMakesNoneBusy)
+{
+    machine.helper.changeTakes = std::chrono::seconds(3);
+    changer.updateMacAddressWithAddress(wired, u"02:AA:BB:CC:DD:EE"_s);
+    scheduler.advance(std::chrono::seconds(1));
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::changing());
+    EXPECT_EQ(shown().busyButton, ChangeButton::None);
+    EXPECT_FALSE(shown().randomizeEnabled);
+    EXPECT_EQ(shown().whyNoRandomize, u"The address is being changed"_s);
+    scheduler.advance(std::chrono::seconds(5));
+    EXPECT_TRUE(shown().randomizeEnabled);
 }
 
 TEST_F(MainWindowModelTest, AChangeOfAnotherInterfaceIsNotShown)
@@ -358,7 +388,7 @@ TEST_F(MainWindowModelTest, AChangeOfAnotherInterfaceIsNotShown)
     EXPECT_EQ(shown().fieldLine, before);
     EXPECT_FALSE(shown().changing);
     select(wifi);
-    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult(true, {})) << "but with it";
+    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult({.isInPlace = true})) << "but with it";
 }
 
 TEST_F(MainWindowModelTest, ItsButtonOpensAndClosesTheHardwarePopover)

@@ -56,6 +56,27 @@ TEST_F(NetworkRowTest, ShowsTheNetworkAndWhatTheRadioKnowsOfIt)
     }
 }
 
+TEST_F(NetworkRowTest, AValueThatIsTooWideIsCutInItsMiddleAndTold)
+{
+    QVariantMap stored = settings.getDictionary(keys::currentWiFiDict);
+    const QString name = QString(16, u'W') + QString(16, u'M');
+    stored[u"SSID"_s] = name;
+    stored[u"security"_s] = u"Unknown"_s;
+    settings.set(keys::currentWiFiDict, stored);
+    const QLabel *cut = nullptr;
+    const QLabel *unknown = nullptr;
+    for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {
+        cut = label->accessibleName() == name ? label : cut;
+        unknown = label->text() == "Unknown"_L1 ? label : unknown;
+    }
+    ASSERT_NE(cut, nullptr);
+    EXPECT_TRUE(cut->text().startsWith(u'W') && cut->text().endsWith(u'M'));
+    EXPECT_TRUE(cut->text().contains(u'…'));
+    EXPECT_EQ(cut->toolTip(), name);
+    ASSERT_NE(unknown, nullptr);
+    EXPECT_EQ(unknown->property("look"), u"caption"_s) << "quiet";
+}
+
 TEST_F(NetworkRowTest, ItsGraphGrowsWhileItIsShown)
 {
     row.click();

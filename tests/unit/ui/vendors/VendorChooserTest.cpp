@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -287,6 +288,31 @@ TEST_F(VendorChooserTest, EscapeClosesTheListWhereverTheKeyboardIs)
     press(*table, Qt::Key_Escape);
     EXPECT_FALSE(table->isVisible());
     EXPECT_TRUE(text->hasFocus());
+}
+
+TEST_F(VendorChooserTest, EscapeKeepsWhatWasChosen)
+{
+    type(u"xyz"_s);
+    press(*text, Qt::Key_Escape);
+    EXPECT_EQ(text->text(), u"Random Address"_s);
+    click(*toggle, toggle->rect().center());
+    EXPECT_EQ(rows().size(), 6) << "what was typed narrows the list no more";
+}
+
+TEST_F(VendorChooserTest, SaysWhyThereIsNothingToChoose)
+{
+    type(u"xyz"_s);
+    EXPECT_EQ(table->accessibleDescription(), u"No vendor begins with “xyz”."_s);
+    EXPECT_EQ(rows(), QStringList());
+    const int low = table->height();
+    type(u"a"_s);
+    EXPECT_GT(table->height(), low) << "below the sentence may stand what helps";
+    EXPECT_EQ(table->accessibleDescription(), QString());
+    press(*text, Qt::Key_Escape);
+    QFile::remove(files.liveDatabase());
+    loadList();
+    click(*toggle, toggle->rect().center());
+    EXPECT_EQ(table->accessibleDescription(), u"The list of vendors is missing."_s);
 }
 
 TEST_F(VendorChooserTest, TurningToAnotherControlClosesTheList)

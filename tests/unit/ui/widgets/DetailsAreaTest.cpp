@@ -8,6 +8,7 @@
 #include "unit/ui/WindowFixture.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -43,6 +44,17 @@ protected:
         for (int round = 0; round < 5; ++round) {
             QCoreApplication::processEvents();
         }
+    }
+    QList<QWidget *> addRows(int count)
+    {
+        QList<QWidget *> rows;
+        for (int row = 0; row < count; ++row) {
+            auto *fact = new QPushButton(u"fact"_s);
+            fact->setFixedHeight(Theme::rowHeight);
+            view->facts().add(fact);
+            rows.append(fact);
+        }
+        return rows;
     }
     void makeSection(int height)
     {
@@ -81,7 +93,8 @@ TEST_F(DetailsAreaTest, OnASmallScreenItScrollsAndTheWindowStaysOnTheScreen)
 
 TEST_F(DetailsAreaTest, TheHintTakesItsRoomFromTheDetails)
 {
-    makeSection(3000);
+    addRows(40);
+    settle();
     const int before = area->height();
     readMe.setHelperInstalled(false);
     settle();
@@ -96,7 +109,37 @@ TEST_F(DetailsAreaTest, AFewRowsStayInSight)
 {
     area->setTallest(1);
     settle();
-    EXPECT_GE(area->sizeHint().height(), 4 * Theme::rowHeight);
+    EXPECT_GE(area->sizeHint().height(), 2 * Theme::rowHeight);
+}
+
+TEST_F(DetailsAreaTest, ShowsWholeRowsWhereverItScrolls)
+{
+    const QList<QWidget *> rows = addRows(40);
+    makeSection(50);
+    ASSERT_TRUE(scrolls());
+    QScrollBar &bar = *area->verticalScrollBar();
+    for (int value = 0; value <= bar.maximum(); value += 7) {
+        bar.setValue(value);
+        settle();
+        for (const QWidget *row : rows) {
+            const int top = row->mapTo(area->viewport(), QPoint(0, 0)).y();
+            const int bottom = top + row->height();
+            const int height = area->viewport()->height();
+            // The card's edge, and the line between two rows, may be.
+            const bool isOut = bottom <= 6 || top >= height - 6;
+            EXPECT_TRUE(isOut || (top >= 0 && bottom <= height))
+                << value << ": from " << top << " to " << bottom << " of " << height;
+        }
+    }
+    bar.setValue(0);
+    rows.last()->setFocus(Qt::TabFocusReason);
+    settle();
+    const int last = rows.last()->mapTo(area->viewport(), QPoint(0, 0)).y();
+    EXPECT_GE(last, 0);
+    EXPECT_LE(last + rows.last()->height(), area->viewport()->height());
+    view->facts().findChild<QLabel *>()->setFocusPolicy(Qt::StrongFocus);
+    view->facts().findChild<QLabel *>()->setFocus(Qt::BacktabFocusReason);
+    EXPECT_EQ(bar.value(), 0);
 }
 
 TEST_F(DetailsAreaTest, TakesNoKeyboardForItself)

@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/UserInterface.h"
+
+#include "fakes/FakeAppearance.h"
+#include "fakes/FakeCompositing.h"
+#include "ui/widgets/Popover.h"
+#include "ui/widgets/RowButton.h"
+#include "unit/app/ProgramOnFakes.h"
+#include "unit/ui/WindowFixture.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+/// The whole program with its window open.
+class UserInterfaceTest : public ProgramOnFakes
+{
+protected:
+    UserInterfaceTest()
+    {
+        create();
+        ui.emplace(UserInterface::Models{.window = {features().mainWindow, features().readMe,
+                                             features().presence},
+                       .statusMenu = features().statusMenu,
+                       .fileMenu = features().fileMenu,
+                       .savedLists = features().networks.savedLists,
+                       .network = features().networks.info,
+                       .externalAddress = features().networks.externalAddressShown,
+                       .rules = {features().rules.status, features().rules.list},
+                       .countdown = features().rules.countdown,
+                       .vendorField = features().vendors.field,
+                       .vendorInfo = features().vendors.info,
+                       .vendorPane = features().vendors.pane},
+            UserInterface::Desktop{trayHost, taskBar, appearance, compositing});
+        start();
+        machine.scheduler.advance(std::chrono::seconds(2));
+        features().presence.openWindow();
+        machine.scheduler.runPending();
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "windowView"_L1) {
+                window = widget;
+            }
+        }
+    }
+
+    /// The ones that are shown, in `root` and not in a popover below it.
+    static QList<QWidget *> shownIn(QWidget &root)
+    {
+        QList<QWidget *> shown;
+        for (auto *widget : root.findChildren<QWidget *>()) {
+            if (widget->window() == root.window() && widget->isVisible()) {
+                shown.append(widget);
+            }
+        }
+        return shown;
+    }
+
+    /// What somebody who does not see it needs to know of each control and each picture.
+    static void expectDescribed(QWidget &root)
+    {
+        QSet<std::pair<QString, int>> known;
+        for (QWidget *widget : shownIn(root)) {
+            const auto *label = qobject_cast<QLabel *>(widget);
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            const std::string which =
+                (QString::fromLatin1(widget->metaObject()->className()) + u' ' +
+                    widget->objectName() + u' ' + widget->accessibleName())
+                    .toStdString();
+            if (label != nullptr && !label->pixmap(Qt::ReturnByValue).isNull()) {
+                EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
+                    << "a nameless picture: " << which;
+            }
+            // The label of a text that can be selected takes the pointer, not the keyboard.
+            if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) {
+                continue;
+            }
+            const QString name = accessible->text(QAccessible::Name);
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << which;
+            const bool isRow = qobject_cast<RowButton *>(widget) != nullptr;
+            EXPECT_FALSE(!isRow && widget->toolTip().isEmpty() &&
+                         accessible->text(QAccessible::Description).isEmpty())
+                << "says nothing more: " << which;
+            const std::pair key(widget->accessibleName(), int(accessible->role()));
+            EXPECT_FALSE(known.contains(key)) << "twice: " << which;
+            known.insert(key);
+        }
+        EXPECT_FALSE(known.isEmpty());
+    }
+
+    template <typename T>
+    T *part(const QString &name) const
+    {
+        auto *found = window->findChild<T *>(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        return found;
+    }
+
+    FakeTrayHost trayHost;
+    FakeTaskBar taskBar;
+    FakeAppearance appearance;
+    FakeCompositing compositing;
+    std::optional<UserInterface> ui;
+    QWidget *window = nullptr;
+};
+
+TEST_F(UserInterfaceTest, EveryControlOfTheWindowSaysWhatItIs)
+{
+    expectDescribed(*window);
+    features().readMe.setHelperInstalled(false);
+    features().rules.countdown.showCountdown(
+        features().devices.currentInterface.device(), u"...in 00:01:00"_s, false);
+    QCoreApplication::processEvents();
+    expectDescribed(*window);
+}
+
+TEST_F(UserInterfaceTest, EveryControlOfEveryPopoverSaysWhatItIs)
+{
+    int opened = 0;
+    features().readMe.setHelperInstalled(false);
+    QList<QWidget *> anchors{part<QWidget>(u"readMeLabel"_s)};
+    for (auto *row : window->findChildren<RowButton *>()) {
+        if (row->hasPopover() && row->isVisible()) {
+            anchors.append(row);
+        }
+    }
+    for (QWidget *anchor : std::as_const(anchors)) {
+        qobject_cast<QAbstractButton *>(anchor)->click();
+        machine.scheduler.runPending();
+        QCoreApplication::processEvents();
+        auto *popover = qobject_cast<Popover *>(QApplication::activePopupWidget());
+        ASSERT_NE(popover, nullptr) << anchor->objectName().toStdString();
+        ++opened;
+        for (QWidget *widget : shownIn(*popover)) {
+            const auto *label = qobject_cast<QLabel *>(widget);
+            const bool isPicture = label != nullptr && !label->pixmap(Qt::ReturnByValue).isNull();
+            const bool isControl = (widget->focusPolicy() & Qt::TabFocus) != 0;
+            EXPECT_FALSE((isPicture || isControl) && widget->accessibleName().isEmpty())
+                << anchor->objectName().toStdString() << ": " << widget->metaObject()->className();
+            EXPECT_FALSE(isControl && widget->toolTip().isEmpty() &&
+                         widget->accessibleDescription().isEmpty())
+                << anchor->objectName().toStdString() << ": "
+                << widget->accessibleName().toStdString();
+        }
+        popover->close();
+    }
+    EXPECT_GE(opened, 4);
+}
+
+TEST_F(UserInterfaceTest, LooksAndMovesAsTheDesktopWants)
+{
+    const QColor usual = QApplication::palette().color(QPalette::Window);
+    appearance.become({ColorScheme::Dark, false, false});
+    const QColor dark = QApplication::palette().color(QPalette::Window);
+    EXPECT_LT(dark.lightness(), 64);
+    const QImage normal = part<QWidget>(u"updateButton"_s)->grab().toImage();
+    appearance.become({ColorScheme::Dark, true, false});
+    EXPECT_NE(part<QWidget>(u"updateButton"_s)->grab().toImage(), normal) << "higher contrast";
+    appearance.become({});
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual) << "no preference any more";
+}
+
+TEST_F(UserInterfaceTest, WithoutAnInterfaceThereIsASentenceAndNoDeadControl)
+{
+    EXPECT_TRUE(part<QWidget>(u"noInterface"_s)->isHidden());
+    machine.settings.set(keys::deviceDict, QVariantMap());
+    machine.settings.set(keys::currentInterfaceDict, QVariantMap());
+    features().mainWindow.populateSelectionButton();
+    EXPECT_TRUE(part<QWidget>(u"noInterface"_s)->isVisible());
+    EXPECT_FALSE(part<QWidget>(u"hexField"_s)->isVisible());
+    EXPECT_FALSE(part<QWidget>(u"hardwareButton"_s)->isVisible());
+}
+
+TEST_F(UserInterfaceTest, AMissingListOfVendorsIsDownloadedFromTheWindow)
+{
+    auto *missing = part<QWidget>(u"missingVendors"_s);
+    ASSERT_TRUE(missing->isVisible()) << "there is no database here";
+    auto *download = part<QPushButton>(u"missingVendorsButton"_s);
+    EXPECT_EQ(download->accessibleName(), u"Download the list of vendors"_s);
+    download->click();
+    EXPECT_TRUE(features().vendors.pane.state().isUpdating);
+    EXPECT_EQ(download->accessibleName(), u"Cancel the download of vendors"_s);
+    features().vendors.pane.showCount(3);
+    EXPECT_TRUE(missing->isHidden());
+}
+
+TEST_F(UserInterfaceTest, ACountdownIsNotSaidEachSecond)
+{
+    const QString device = features().devices.currentInterface.device();
+    const auto show = [&](const QString &text, bool isPaused) {
+        features().rules.countdown.showCountdown(device, text, isPaused);
+    };
+    show(u"...in 00:01:00"_s, false);
+    auto *label = part<QLabel>(u"timerLabel"_s);
+    const QWidget *row = label->parentWidget();
+    const QString name = row->accessibleName();
+    show(u"...in 00:00:59"_s, false);
+    EXPECT_EQ(row->accessibleName(), name) << "nothing is announced";
+    EXPECT_EQ(label->accessibleName(), u"...in 00:00:59"_s) << "for who asks";
+    show(u"...in 00:00:59 (paused)"_s, true);
+    EXPECT_EQ(row->accessibleName(), u"Countdown paused"_s);
+    show(u"...in 00:00:58"_s, false);
+    EXPECT_EQ(row->accessibleName(), u"Countdown resumed"_s);
+}
+
+TEST_F(UserInterfaceTest, TheStateLineSaysInterfaceLinkAndAddressAsOne)
+{
+    const auto *header = part<QWidget>(u"portName"_s)->parentWidget();
+    const QString said = header->accessibleName();
+    const QString device = features().devices.currentInterface.device();
+    EXPECT_TRUE(said.contains(device)) << said.toStdString();
+    EXPECT_TRUE(said.contains(u"Link active"_s)) << said.toStdString();
+    EXPECT_TRUE(said.contains(features().mainWindow.state().ipAddress)) << said.toStdString();
+    machine.settings.set(keys::externalIPAddress, u"203.0.113.9"_s);
+    EXPECT_EQ(header->accessibleName(), said);
+}
+
+} // namespace
+} // namespace quillon::test
