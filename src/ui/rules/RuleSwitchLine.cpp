@@ -32,7 +32,12 @@ RuleSwitchLine::RuleSwitchLine(const Theme &theme, QWidget *parent)
     line->addWidget(m_switch);
     line->addWidget(m_name, 1);
     line->addWidget(m_active);
-    connect(m_switch, &QCheckBox::clicked, this, &RuleSwitchLine::switched);
+    // Assistive technology toggles it without a click.
+    connect(m_switch, &QCheckBox::toggled, this, [this](bool isOn) {
+        if (isOn != m_isEnabled) {
+            Q_EMIT switched(isOn);
+        }
+    });
 }
 
 void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
@@ -40,6 +45,7 @@ void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
     const QString name = plainLine(rule.name);
     showLine(*m_name, rule.name, widestName);
     m_name->setToolTip(plainToolTip(rule.name));
+    m_isEnabled = rule.enabled;
     m_switch->setChecked(rule.enabled);
     m_switch->setAccessibleName(name);
     m_switch->setAccessibleDescription(rule.active ? localized("Active") : QString());

@@ -30,6 +30,7 @@ Q_SIGNALS:
 
 private:
     ToggleSwitch *m_switch;
+    bool m_isEnabled = false; ///< as the rule is
     QLabel *m_name;
     Badge *m_active;
 };

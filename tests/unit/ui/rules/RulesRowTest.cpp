@@ -11,6 +11,7 @@
 #include "ui/widgets/ToggleSwitch.h"
 #include "unit/rules/RuleFixture.h"
 
+#include <QAccessible>
 #include <QLabel>
 
 namespace quillon::test {
@@ -90,6 +91,21 @@ TEST_F(RulesRowTest, ASwitchIsToldWithItsRule)
     auto *button = lines().first()->findChild<ToggleSwitch *>();
     const bool before = button->isChecked();
     button->click();
+    EXPECT_EQ(told.value(u"objID"_s).toString(), list.state().rows.first().objID);
+    EXPECT_EQ(told.value(u"state"_s).toBool(), !before);
+}
+
+TEST_F(RulesRowTest, ASwitchIsToldAlsoWhenAssistiveTechnologyTogglesIt)
+{
+    addRule({.name = u"Café"_s});
+    list.filterRulesArrayController();
+    QVariantMap told;
+    notifications.addObserver(notifications::toggleCheckbox,
+        [&told](const auto &notification) { told = notification.userInfo; });
+    auto *button = lines().first()->findChild<ToggleSwitch *>();
+    const bool before = button->isChecked();
+    QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+        QAccessibleActionInterface::toggleAction());
     EXPECT_EQ(told.value(u"objID"_s).toString(), list.state().rows.first().objID);
     EXPECT_EQ(told.value(u"state"_s).toBool(), !before);
 }
