@@ -65,10 +65,17 @@ SavedNetworkPopover::SavedNetworkPopover(
     column->addWidget(m_bySsid, 0, Qt::AlignLeading);
     column->addWidget(m_byBssid, 0, Qt::AlignLeading);
     add(choices, {m_bySsid, m_byBssid});
-    connect(
-        m_bySsid, &QRadioButton::clicked, &model, &SavedEntryPopoverModel::chooseSsidTickButton);
-    connect(
-        m_byBssid, &QRadioButton::clicked, &model, &SavedEntryPopoverModel::chooseBssidTickButton);
+    // Assistive technology toggles them without a click. What is on already has no action.
+    connect(m_bySsid, &QRadioButton::toggled, &model, [&model](bool isOn) {
+        if (isOn) {
+            model.chooseSsidTickButton();
+        }
+    });
+    connect(m_byBssid, &QRadioButton::toggled, &model, [&model](bool isOn) {
+        if (isOn) {
+            model.chooseBssidTickButton();
+        }
+    });
 }
 
 void SavedNetworkPopover::refreshDetails()

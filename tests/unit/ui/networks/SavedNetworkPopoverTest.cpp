@@ -131,6 +131,19 @@ TEST_F(SavedNetworkPopoverTest, TheArrowKeysChoose)
     EXPECT_FALSE(savedNetworkEntry(homeBssid).isSsidDefined());
 }
 
+TEST_F(SavedNetworkPopoverTest, AssistiveTechnologyChooses)
+{
+    open();
+    auto *accessible = QAccessible::queryAccessibleInterface(&choice(u"ssidbutton"_s));
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(savedNetworkEntry(homeBssid).isSsidDefined());
+    settings.clearJournal();
+    press(Qt::Key_Escape);
+    turn();
+    open();
+    EXPECT_EQ(settings.writeCount(keys::savedNetworks), 0) << "to show it chooses nothing";
+}
+
 TEST_F(SavedNetworkPopoverTest, ANameThatCannotBeShownWholeStaysUnlessItIsEdited)
 {
     saveNetwork(homeBssid, u"Home"_s, u"two\nlines"_s);
