@@ -20,6 +20,7 @@ void CountdownModel::showCountdown(const QString &device, const QString &text, b
     }
     m_state.update([&](State &state) {
         state.label = text;
+        state.hasEnded = false;
         state.buttonsVisible = true;
         state.identifier = device;
     });
@@ -29,6 +30,7 @@ void CountdownModel::showCountdown(const QString &device, const QString &text, b
 void CountdownModel::hideTimerLabel()
 {
     m_state.update([&](State &state) {
+        state.hasEnded = !state.identifier.isEmpty() && !m_timers.showing(state.identifier);
         state.label.clear();
         state.buttonsVisible = false;
     });

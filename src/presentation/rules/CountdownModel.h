@@ -26,6 +26,8 @@ public:
         bool pauseEnabled = true;
         bool resumeEnabled = true;
         QString identifier; ///< the device that the buttons act on
+        /// What was shown is not only out of sight: there is no such countdown any more.
+        bool hasEnded = false;
 
         bool operator==(const State &) const = default;
     };

@@ -74,6 +74,9 @@ void CountdownRow::refresh()
 void CountdownRow::announcePause()
 {
     const auto &state = m_model.state();
+    if (state.hasEnded && isVisible()) {
+        announce(*this, localized("Countdown ended"));
+    }
     // Both are disabled between a press and the next tick.
     if (!state.buttonsVisible || state.pauseEnabled == state.resumeEnabled) {
         return;

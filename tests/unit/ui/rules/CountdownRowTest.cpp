@@ -52,6 +52,20 @@ TEST_F(CountdownRowTest, ComesAndGoesWithTheCountdown)
     EXPECT_TRUE(row.isHidden());
 }
 
+TEST_F(CountdownRowTest, OnlyItsEndIsAnnouncedNotThatItIsOutOfSight)
+{
+    row.show();
+    startCountdown(wired);
+    scheduler.advance(1s);
+    model.hideTimerLabel();
+    EXPECT_EQ(row.accessibleName(), QString()) << "another interface is being looked at";
+    scheduler.advance(1s);
+    ASSERT_TRUE(row.isVisible());
+    timers.stopCountdownTimer(wired);
+    EXPECT_EQ(row.accessibleName(), u"Countdown ended"_s);
+    EXPECT_FALSE(row.isVisible());
+}
+
 TEST_F(CountdownRowTest, ThatOfAnotherInterfaceIsNotShown)
 {
     startCountdown(wifi);

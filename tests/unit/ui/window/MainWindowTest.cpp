@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -69,6 +70,37 @@ protected:
         }
         ADD_FAILURE() << "nothing is called " << accessibleName;
         return nullptr;
+    }
+
+    /// The window anew, without the helper, in a language that needs more room.
+    void speakWordily()
+    {
+        WordyLanguage language;
+        QCoreApplication::installTranslator(&language);
+        readMe.setHelperInstalled(false);
+        makeView();
+        QCoreApplication::removeTranslator(&language);
+        QCoreApplication::processEvents();
+    }
+
+    void expectNothingCutOff() const
+    {
+        for (QWidget *widget : view->findChildren<QWidget *>()) {
+            const bool hasText = qobject_cast<QLabel *>(widget) != nullptr ||
+                                 qobject_cast<QPushButton *>(widget) != nullptr;
+            if (!hasText || !widget->isVisible()) {
+                continue;
+            }
+            const auto *label = qobject_cast<QLabel *>(widget);
+            if (label != nullptr && label->wordWrap()) {
+                EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                    << label->text().toStdString();
+            } else {
+                EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
+                    << widget->accessibleName().toStdString();
+                EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
+            }
+        }
     }
 
     void trigger(const QKeySequence &keys)
@@ -469,28 +501,22 @@ TEST_F(MainWindowTest, ItsTaskBarEntryFollowsTheDockIcon)
 
 TEST_F(MainWindowTest, NothingIsCutOffInAWordyLanguage)
 {
-    WordyLanguage language;
-    QCoreApplication::installTranslator(&language);
-    readMe.setHelperInstalled(false);
-    makeView();
-    QCoreApplication::removeTranslator(&language);
-    QCoreApplication::processEvents();
-    for (QWidget *widget : view->findChildren<QWidget *>()) {
-        const bool hasText = qobject_cast<QLabel *>(widget) != nullptr ||
-                             qobject_cast<QPushButton *>(widget) != nullptr;
-        if (!hasText || !widget->isVisible()) {
-            continue;
-        }
-        const auto *label = qobject_cast<QLabel *>(widget);
-        if (label != nullptr && label->wordWrap()) {
-            EXPECT_GE(label->height(), label->heightForWidth(label->width()))
-                << label->text().toStdString();
-        } else {
-            EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
-                << widget->accessibleName().toStdString();
-            EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
-        }
-    }
+    speakWordily();
+    expectNothingCutOff();
+}
+
+TEST_F(MainWindowTest, NothingIsCutOffInLargeTypeAndFromRightToLeft)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(2 * usual.pointSizeF());
+    QApplication::setFont(large);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    theme.apply();
+    speakWordily();
+    expectNothingCutOff();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    QApplication::setFont(usual);
 }
 
 TEST_F(MainWindowTest, TheTabKeyGoesFromTopToBottom)
