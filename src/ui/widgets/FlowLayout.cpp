@@ -38,11 +38,10 @@ int FlowLayout::arrange(int width, QList<QRect> &places) const
     int y = 0;
     int lineHeight = 0;
     for (const QLayoutItem *item : m_items) {
-        const QSize wanted = item->sizeHint();
-        // A text that wraps is as low as it can be.
-        const bool wraps = item->hasHeightForWidth();
-        const int wide = wraps ? width : std::min(wanted.width(), width);
-        const QSize size(wide, wraps ? item->heightForWidth(wide) : wanted.height());
+        // A sentence that goes on below takes whole lines.
+        const QSize wanted = item->hasHeightForWidth() ? QSize(width, item->heightForWidth(width))
+                                                       : item->sizeHint();
+        const QSize size(std::min(wanted.width(), width), wanted.height());
         if (x > 0 && x + size.width() > width) {
             x = 0;
             y += lineHeight + m_gap;
