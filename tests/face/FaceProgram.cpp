@@ -161,7 +161,8 @@ void FaceProgram::start()
 void FaceProgram::settle()
 {
     machine.scheduler.runPending();
-    constexpr int rounds = 5;
+    // What grows within what grows is laid out a step at a time.
+    constexpr int rounds = 20;
     for (int round = 0; round < rounds; ++round) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents();

@@ -196,7 +196,9 @@ QSize DetailsArea::sizeHint() const
 {
     const int width = m_column->totalMinimumSize().width();
     const int height = heightForWidth(width);
-    const bool scrolls = height == m_tallest;
+    const int whole = m_column->hasHeightForWidth() ? m_column->totalHeightForWidth(width)
+                                                    : m_column->totalSizeHint().height();
+    const bool scrolls = height < whole - m_column->contentsMargins().bottom();
     return {width + (scrolls ? verticalScrollBar()->sizeHint().width() : 0), height};
 }
 
