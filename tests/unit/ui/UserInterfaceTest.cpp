@@ -31,7 +31,12 @@ protected:
                                              features().presence},
                        .statusMenu = features().statusMenu,
                        .fileMenu = features().fileMenu,
+                       .editMenu = features().editMenu,
                        .savedLists = features().networks.savedLists,
+                       .removedInMainWindow = features().networks.removedInMainWindow,
+                       .savedItems = {{features().networks.savedLists,
+                                          features().networks.savedEntryPopover},
+                           features().networks.removedFromSavedItems, features().presence},
                        .network = features().networks.info,
                        .externalAddress = features().networks.externalAddressShown,
                        .rules = {features().rules.status, features().rules.list},
@@ -39,7 +44,7 @@ protected:
                        .vendorField = features().vendors.field,
                        .vendorInfo = features().vendors.info,
                        .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, appearance, compositing});
+            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
         start();
         machine.scheduler.advance(std::chrono::seconds(2));
         features().presence.openWindow();
