@@ -31,7 +31,19 @@ class ChangesTest(ProgramTest):
         kept = {name: address for name, address in kernel_addresses().items() if name != self.selected}
         self.assertEqual(kept, {name: self.addresses[name] for name in kept})
 
+    def wait_until_over(self):
+        """The change has ended, everywhere: what is shown first is not all of it."""
+        self.window.find("label", "Changed")
+        self.window.find("label", "Changed: this is the address in use now.")
+
+        def can_be_restored():
+            entries = trayclient.only_item().menu().entries
+            place = next(place for place, entry in enumerate(entries) if entry.label.endswith(" · " + self.selected))
+            return entries[place + 1].entries[0].enabled
+        wait_until(can_be_restored, "the status item's menu does not offer the hardware address")
+
     def restore(self):
+        self.wait_until_over()
         xdotool("key", "ctrl+shift+r")
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
         self.expect_shown(self.addresses[self.selected])
@@ -97,6 +109,7 @@ class ChangesTest(ProgramTest):
         place = 3 * (len(devices) - devices.index(self.selected))
         self.choose_in_file_menu(place - 2)
         self.expect_shown(self.expect_only_changed(self.selected))
+        self.wait_until_over()
         self.choose_in_file_menu(place - 1)
         wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
 

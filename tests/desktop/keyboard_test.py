@@ -14,6 +14,7 @@ TYPED = "02:00:5E:10:AB:CD"
 ORDER = ["Address", "Apply address", "Randomize address", "Vendor of random addresses", "Hardware address",
          "Saved addresses", "Vendor", "Rules", "Resume", "Refresh external address"]
 AT_THE_END = ["enp1s0", "File menu"]
+DONE = "Changed: this is the address in use now."
 MOST = 40  # stops; more are a circle that never comes back
 
 
@@ -117,6 +118,8 @@ class UseTest(KeyboardTest):
         xdotool("key", "space")
         wait_until(lambda: kernel_addresses()["enp1s0"] not in (TYPED, self.addresses["enp1s0"]),
                    "the address is not another one")
+        self.expect_shown(kernel_addresses()["enp1s0"])
+        self.window.find("label", DONE)
         self.open("Hardware address", "space")
         wait_until(lambda: self.place() == "Restore hardware address", lambda: f"the keyboard is at {self.place()}")
         xdotool("key", "space")
@@ -131,6 +134,7 @@ class UseTest(KeyboardTest):
         self.type_address()
         xdotool("key", "Return")
         self.expect_only_changed("enp1s0")
+        self.window.find("label", DONE)
         xdotool("key", "ctrl+d")
         second = TYPED.lower()
         wait_until(lambda: set(self.value_of(label).split(", ")) == {first, second}, lambda: self.value_of(label))
