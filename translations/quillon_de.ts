@@ -915,5 +915,141 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>No Vendor Information available...</source>
         <translation>Kein Hersteller bekannt...</translation>
     </message>
+    <message>
+        <source>Favorite removed</source>
+        <translation>Favorit entfernt</translation>
+    </message>
+    <message>
+        <source>The list of vendors is missing.</source>
+        <translation>Die Liste der Hersteller fehlt.</translation>
+    </message>
+    <message>
+        <source>No vendor begins with “%@”.</source>
+        <translation>Kein Hersteller beginnt mit „%@“.</translation>
+    </message>
+    <message>
+        <source>The interface does not say which address it has now.</source>
+        <translation>Die Schnittstelle nennt ihre jetzige Adresse nicht.</translation>
+    </message>
+    <message>
+        <source>Not connected again: look at the address when it is.</source>
+        <translation>Noch nicht wieder verbunden: dann die Adresse prüfen.</translation>
+    </message>
+    <message>
+        <source>Changed, but to another address than you asked for.</source>
+        <translation>Geändert, aber nicht in die gewünschte Adresse.</translation>
+    </message>
+    <message>
+        <source>This interface is not there: select another.</source>
+        <translation>Diese Schnittstelle ist nicht da: eine andere wählen.</translation>
+    </message>
+    <message>
+        <source>The address is being changed</source>
+        <translation>Die Adresse wird gerade geändert</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Edit Saved Items</source>
+        <translation>Gespeichertes bearbeiten</translation>
+    </message>
+    <message>
+        <source>Opens the window of saved networks and addresses</source>
+        <translation>Öffnet das Fenster der gespeicherten Netzwerke und Adressen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Networks</source>
+        <translation>Netzwerke</translation>
+    </message>
+    <message>
+        <source>Join a network and press its heart.</source>
+        <translation>Mit einem Netzwerk verbinden und dessen Herz drücken.</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>Adressen</translation>
+    </message>
+    <message>
+        <source>Open the saved addresses and press the heart.</source>
+        <translation>Die gespeicherten Adressen öffnen und das Herz drücken.</translation>
+    </message>
+    <message>
+        <source>Recognize by</source>
+        <translation>Erkennen an</translation>
+    </message>
+    <message>
+        <source>Name %@</source>
+        <translation>Name %@</translation>
+    </message>
+    <message>
+        <source>Access point %@</source>
+        <translation>Zugangspunkt %@</translation>
+    </message>
+    <message>
+        <source>Countdown ended</source>
+        <translation>Countdown beendet</translation>
+    </message>
+    <message>
+        <source>Countdown paused</source>
+        <translation>Countdown angehalten</translation>
+    </message>
+    <message>
+        <source>Countdown resumed</source>
+        <translation>Countdown fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Cancel the download of vendors</source>
+        <translation>Herunterladen der Hersteller abbrechen</translation>
+    </message>
+    <message>
+        <source>Download the list of vendors</source>
+        <translation>Liste der Hersteller herunterladen</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Wird angewendet…</translation>
+    </message>
+    <message>
+        <source>Randomizing…</source>
+        <translation>Wird geändert…</translation>
+    </message>
+    <message>
+        <source>Restoring…</source>
+        <translation>Wird wiederhergestellt…</translation>
+    </message>
 </context>
 </TS>

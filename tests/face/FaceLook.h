@@ -16,7 +16,7 @@ namespace quillon::test {
 struct FaceLook
 {
     QString name;
-    ColorScheme scheme = ColorScheme::Light;
+    Appearance appearance{.scheme = ColorScheme::Light, .isStill = true};
     int textScale = 1;  ///< how many times larger than usual texts are
     bool wordy = false; ///< in a language whose words are longer by two fifths
     bool mirrored = false;

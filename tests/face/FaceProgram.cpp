@@ -30,8 +30,8 @@ const QString radioAddress = u"00:00:5e:00:53:01"_s;
 const QString FaceProgram::radio = u"wlp2s0"_s;
 const QString FaceProgram::wire = u"enp1s0"_s;
 
-FaceProgram::FaceProgram(ColorScheme scheme)
-    : m_scheme(scheme)
+FaceProgram::FaceProgram(const Appearance &appearance)
+    : m_appearance(appearance)
 {
     fillMachine();
     fillRegistry();
@@ -144,8 +144,8 @@ UserInterface::Models FaceProgram::modelsOf(Features &features)
 void FaceProgram::start()
 {
     m_program.emplace(machine.platform());
-    m_interface.emplace(modelsOf(features()),
-        UserInterface::Desktop{m_trayHost, m_taskBar, m_scheme, m_compositing, machine.scheduler});
+    m_interface.emplace(modelsOf(features()), UserInterface::Desktop{m_trayHost, m_taskBar,
+                                                  m_appearance, m_compositing, machine.scheduler});
     LaunchSequence &launch = m_program->launch();
     launch.awakeFromNib();
     launch.applicationWillFinishLaunching();

@@ -23,7 +23,7 @@ class FaceProgram
 {
 public:
     /// Not started yet: the machine can still be changed.
-    explicit FaceProgram(ColorScheme scheme);
+    explicit FaceProgram(const Appearance &appearance);
     ~FaceProgram();
 
     /// A rule in the records; before start().
@@ -61,20 +61,20 @@ public:
     FakePlatform machine;
 
 private:
-    class ChosenScheme : public AppearanceSource
+    class ChosenAppearance : public AppearanceSource
     {
     public:
-        explicit ChosenScheme(ColorScheme scheme)
-            : m_scheme(scheme)
+        explicit ChosenAppearance(const Appearance &appearance)
+            : m_appearance(appearance)
         {
         }
         void watch(std::function<void(const Appearance &)> observer) override
         {
-            observer({.scheme = m_scheme});
+            observer(m_appearance);
         }
 
     private:
-        ColorScheme m_scheme;
+        Appearance m_appearance;
     };
     class NoTrayHost : public TrayHost
     {
@@ -91,7 +91,7 @@ private:
     void fillRegistry();
     static UserInterface::Models modelsOf(Features &features);
 
-    ChosenScheme m_scheme;
+    ChosenAppearance m_appearance;
     NoTrayHost m_trayHost;
     NoTaskBar m_taskBar;
     FakeCompositing m_compositing;

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "face/FaceScenes.h"
 
+#include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "face/FaceProgram.h"
+#include "ui/widgets/TokenField.h"
 
 #include <QAbstractButton>
 #include <QMenu>
@@ -112,6 +114,34 @@ void openMenu(const QString &name)
     FaceProgram::part<QMenu>(name).popup(button.mapToGlobal(QPoint(0, button.height())));
 }
 
+void openSavedItems(FaceProgram &program)
+{
+    program.features().networks.savedNetworks.addCurrentNetworkToSavedList();
+    program.features().presence.goTo(Destination::SavedItems);
+    program.settle();
+}
+
+/// What the first token of the field opens.
+void openToken(FaceProgram &program, const QString &field)
+{
+    openSavedItems(program);
+    for (QWidget *widget : QApplication::allWidgets()) {
+        auto *tokens = qobject_cast<TokenField *>(widget);
+        if (tokens != nullptr && tokens->isVisible() && tokens->accessibleName() == field) {
+            Q_EMIT tokens->opened(0);
+            return;
+        }
+    }
+    qFatal("no %s", qUtf8Printable(field));
+}
+
+void removeFavorite(FaceProgram &program)
+{
+    program.features().networks.savedLists.chooseFavoriteButton();
+    program.settle();
+    program.features().networks.savedLists.chooseFavoriteButton();
+}
+
 using P = FaceProgram;
 
 const QList<FaceScene> scenes{
@@ -159,6 +189,14 @@ const QList<FaceScene> scenes{
     {u"vendors-none-found"_s, nullptr, typeUnknownVendor},
     {u"vendor-data"_s, nullptr,
         [](P &) { FaceProgram::part<QAbstractButton>(u"vendorDataTitle"_s).click(); }},
+    {u"favorite-removed"_s, nullptr, removeFavorite},
+    {u"saved-items"_s, saveAddresses, openSavedItems},
+    {u"saved-items-empty"_s, nullptr,
+        [](P &program) { program.features().presence.goTo(Destination::SavedItems); }},
+    {u"popover-saved-address"_s, saveAddresses,
+        [](P &program) { openToken(program, localized("Addresses")); }},
+    {u"popover-saved-network"_s, saveAddresses,
+        [](P &program) { openToken(program, localized("Networks")); }},
     {u"file-menu"_s, saveRules, [](P &) { openMenu(u"fileMenu"_s); }},
 };
 

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shows the program's windows in one state after the other, on a machine of fakes.
 //
-// usage: quillon-face-scenes [--dark] [--mirrored] [--large-text] [--wordy] [--list]
-// Reads the name of a state per line and answers "shown" when it is on its way to the screen. To a
+// usage: quillon-face-scenes [--dark] [--high-contrast] [--mirrored] [--large-text] [--wordy]
+// [--list] Reads the name of a state per line and answers "shown" when it is on its way to the
+// screen. To a
 // "?" it answers with the place of its windows there, in pixels: "at X Y WIDTH HEIGHT". Ends with
 // its input. --list tells the names.
 #include "base/Languages.h"
@@ -40,7 +41,10 @@ void say(const QString &text)
 FaceLook lookOf(const QStringList &arguments)
 {
     return {.name = {},
-        .scheme = arguments.contains(u"--dark"_s) ? ColorScheme::Dark : ColorScheme::Light,
+        .appearance = {.scheme =
+                           arguments.contains(u"--dark"_s) ? ColorScheme::Dark : ColorScheme::Light,
+            .isHighContrast = arguments.contains(u"--high-contrast"_s),
+            .isStill = true},
         .textScale = arguments.contains(u"--large-text"_s) ? 2 : 1,
         .wordy = arguments.contains(u"--wordy"_s),
         .mirrored = arguments.contains(u"--mirrored"_s)};
@@ -87,10 +91,11 @@ QRect place()
     return {(QPointF(all.topLeft()) * ratio).toPoint(), all.size() * ratio};
 }
 
-void show(const FaceScene &scene, std::unique_ptr<FaceProgram> &program, ColorScheme scheme)
+void show(
+    const FaceScene &scene, std::unique_ptr<FaceProgram> &program, const Appearance &appearance)
 {
     program.reset();
-    program = std::make_unique<FaceProgram>(scheme);
+    program = std::make_unique<FaceProgram>(appearance);
     enter(scene, *program, placeWindow);
     waitUntilShown();
     say(u"shown"_s);
@@ -156,7 +161,7 @@ int main(int argc, char **argv)
             QCoreApplication::exit(name.isEmpty() ? 0 : 1);
             return;
         }
-        show(*scene, program, look.scheme);
+        show(*scene, program, look.appearance);
     });
     return QApplication::exec();
 }

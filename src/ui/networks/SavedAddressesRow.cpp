@@ -46,6 +46,8 @@ SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme, Q
     column->addSpacing(Theme::unit / 2);
     auto *edit = new QPushButton(localized("Edit Saved Items"));
     edit->setObjectName(u"editSavedItems"_s);
+    edit->setAccessibleName(localized("Edit Saved Items"));
+    edit->setToolTip(plainToolTip(localized("Opens the window of saved networks and addresses")));
     edit->setAutoDefault(true);
     column->addWidget(edit, 0, Qt::AlignRight);
 

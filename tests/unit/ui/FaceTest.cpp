@@ -18,7 +18,11 @@ using ::testing::IsEmpty;
 
 const QList<FaceLook> looks{
     {.name = u"Light"_s},
-    {.name = u"Dark"_s, .scheme = ColorScheme::Dark},
+    {.name = u"Dark"_s, .appearance = {.scheme = ColorScheme::Dark, .isStill = true}},
+    {.name = u"HighContrast"_s,
+        .appearance = {.scheme = ColorScheme::Light, .isHighContrast = true, .isStill = true}},
+    {.name = u"HighContrastDark"_s,
+        .appearance = {.scheme = ColorScheme::Dark, .isHighContrast = true, .isStill = true}},
     {.name = u"Mirrored"_s, .mirrored = true},
     {.name = u"Wordy"_s, .wordy = true},
     {.name = u"German"_s, .language = u"de"_s},
@@ -50,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(, FaceTest,
 TEST_P(FaceTest, CanBeRead)
 {
     const DressedApplication dressed(look());
-    FaceProgram program(look().scheme);
+    FaceProgram program(look().appearance);
     enter(scene(), program);
     ASSERT_FALSE(FaceProgram::windows().isEmpty());
     for (QWidget *window : FaceProgram::windows()) {
