@@ -98,10 +98,10 @@ class ChangesTest(ProgramTest):
 
     def choose_in_file_menu(self, from_end):
         """A menu of a button is in no tree of accessible objects: it is gone through from its end, where each
-        interface has three entries. The submenu there has one."""
+        interface has three entries, before the Edit menu. The submenu there has one."""
         xdotool("key", "F10")
         pictures.wait_for_still_screen()
-        xdotool("key", *(["Up"] * from_end), "Right", "Return")
+        xdotool("key", *(["Up"] * (from_end + 1)), "Right", "Return")
 
     def test_the_file_menu(self):
         titles = [entry.label for entry in trayclient.only_item().menu().entries]

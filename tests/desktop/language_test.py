@@ -18,7 +18,7 @@ class GermanTest(ProgramTest):
         self.window = accessibility.window(NAME, TITLE)
         self.field = self.window.find("entry", "Adresse")
         wait_until(lambda: self.field.text, "the window showed no address")
-        wait_until(lambda: self.selector.focused, "the window did not get the keyboard")
+        wait_until(lambda: self.field.focused, "the window did not get the keyboard")
         self.selected = self.selector.name
 
     @property
