@@ -56,6 +56,13 @@ DetailsArea::DetailsArea(QWidget *parent)
         [this](const QWidget *, const QWidget *now) { reveal(now); });
 }
 
+DetailsArea::~DetailsArea()
+{
+    // Its sections go when it is only a widget any more, and the keyboard with them.
+    disconnect(qApp, nullptr, this, nullptr);
+    disconnect(verticalScrollBar(), nullptr, this, nullptr);
+}
+
 void DetailsArea::add(QWidget *section)
 {
     m_column->addWidget(section);

@@ -17,6 +17,7 @@ class DetailsArea : public QScrollArea
 
 public:
     explicit DetailsArea(QWidget *parent = nullptr);
+    ~DetailsArea() override;
 
     void add(QWidget *section);
     /// In device-independent pixels; it is never less than a few rows.
