@@ -119,6 +119,8 @@ QColor Theme::ink(Ink ink) const
 
 void Theme::apply()
 {
+    // A cursor that blinks would wake the program twice a second as long as its window is in use.
+    QApplication::setCursorFlashTime(0);
     QApplication::setStyle(new ThemeStyle);
     if (!m_focusRing) {
         m_focusRing = std::make_unique<FocusRing>(*this);
