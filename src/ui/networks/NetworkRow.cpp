@@ -4,16 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/networks/NetworkInfoModel.h"
-#include "ui/theme/Theme.h"
-#include "ui/widgets/HeartButton.h"
-#include "ui/widgets/LiveGraph.h"
-#include "ui/widgets/PlainText.h"
-#include "ui/widgets/Popover.h"
-#include "ui/widgets/PopoverHead.h"
-
-#include <QGridLayout>
-#include <QLabel>
-#include <QVBoxLayout>
+#include "ui/networks/NetworkDetails.h"
 
 namespace quillon {
 
@@ -22,58 +13,23 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int popoverWidth = 330;
-constexpr int widestValue = 24; ///< in characters of average width
-/// Above it stands which network it is, below how the radio hears it.
-constexpr qsizetype firstOfRadio = 4;
 
 } // namespace
 
-NetworkRow::NetworkRow(NetworkInfoModel &model, const Theme &theme, QWidget *parent)
-    : PopoverRow(theme, localized("Network"), new QWidget, parent)
+NetworkRow::NetworkRow(NetworkInfoModel &model, const Theme &theme)
+    : PopoverRow(theme, localized("Network"), popoverWidth)
     , m_model(model)
-    , m_head(new PopoverHead(theme, u"wireless"_s))
-    , m_heart(new HeartButton(theme))
-    , m_grid(new QGridLayout)
-    , m_graph(new LiveGraph(theme))
 {
     setObjectName(u"networkButton"_s);
-    popover().setBodyWidth(popoverWidth);
-    makeContent();
     connect(this, &RowButton::clicked, &m_model, &NetworkInfoModel::toggleNetworkInfoPopover);
     connect(this, &PopoverRow::popoverClosed, &m_model, &NetworkInfoModel::popoverWillClose);
-    connect(m_heart, &QToolButton::clicked, &m_model, &NetworkInfoModel::chooseFavoriteButton);
     connect(&m_model, &NetworkInfoModel::changed, this, &NetworkRow::refresh);
     refresh();
 }
 
-void NetworkRow::makeContent()
+PopoverDetails *NetworkRow::makeDetails()
 {
-    m_head->addAtEnd(m_heart);
-    m_grid->setHorizontalSpacing(Theme::unit + 4);
-    m_grid->setVerticalSpacing(Theme::unit / 2);
-    m_grid->setColumnStretch(1, 1);
-    for (const auto &row : m_model.state().rows) {
-        auto *label = plainLabel(row.label);
-        label->setProperty("look", u"caption"_s);
-        auto *value = plainLabel();
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label->setBuddy(value);
-        if (m_values.size() == firstOfRadio) {
-            auto *rule = new QFrame;
-            rule->setProperty("look", u"rule"_s);
-            m_grid->addWidget(rule, m_grid->rowCount(), 0, 1, 2);
-        }
-        const int line = m_grid->rowCount();
-        m_grid->addWidget(label, line, 0);
-        m_grid->addWidget(value, line, 1);
-        m_values.append(value);
-    }
-    auto *column = new QVBoxLayout(popover().content());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
-    column->addWidget(m_head);
-    column->addLayout(m_grid);
-    column->addWidget(m_graph);
+    return new NetworkDetails(m_model, theme());
 }
 
 void NetworkRow::refresh()
@@ -82,40 +38,7 @@ void NetworkRow::refresh()
     setVisible(state.hasRadio);
     setHasPopover(state.buttonVisible);
     setValue(state.name, state.buttonVisible ? ValueLook::Text : ValueLook::Muted);
-    refreshDetails();
     setPopoverShown(state.popoverShown);
-}
-
-void NetworkRow::refreshDetails()
-{
-    const auto &state = m_model.state();
-    m_head->setTitle(state.name);
-    m_heart->setVisible(state.buttonVisible);
-    m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
-    for (qsizetype row = 0; row < m_values.size(); ++row) {
-        const QString value = state.rows.value(row).value;
-        QLabel &label = *m_values.at(row);
-        const bool isKnown = !value.isEmpty() && value != localized("Unknown");
-        const QString look = isKnown ? u"value"_s : u"caption"_s;
-        if (label.property("look") != look) {
-            label.setProperty("look", look);
-            label.setStyleSheet(label.styleSheet());
-        }
-        const QString line = value.isEmpty() ? u"–"_s : plainLine(value);
-        const QFontMetrics metrics = label.fontMetrics();
-        const QString shown =
-            metrics.elidedText(line, Qt::ElideMiddle, widestValue * metrics.averageCharWidth());
-        label.setText(plainLine(shown));
-        label.setAccessibleName(line);
-        label.setToolTip(plainToolTip(shown == line ? QString() : value));
-        if (value.isEmpty()) {
-            label.setAccessibleName(localized("None"));
-        }
-    }
-    m_graph->clear();
-    for (const auto &sample : state.signal) {
-        m_graph->add({sample.time, sample.signal, sample.noise});
-    }
 }
 
 } // namespace quillon

@@ -6,70 +6,41 @@
 #include "presence/Presence.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "presentation/window/MainWindowModel.h"
-#include "ui/theme/Theme.h"
-#include "ui/widgets/HeartButton.h"
-#include "ui/widgets/PlainText.h"
-#include "ui/widgets/Popover.h"
-#include "ui/widgets/PopoverHead.h"
-#include "ui/widgets/TokenField.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
+#include "ui/networks/SavedAddressesDetails.h"
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme, QWidget *parent)
-    : PopoverRow(theme, localized("Saved addresses"), new QWidget, parent)
+SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme)
+    : PopoverRow(theme, localized("Saved addresses"))
     , m_models(models)
-    , m_heart(new HeartButton(theme))
-    , m_tokens(new TokenField)
 {
     setObjectName(u"softwareButton"_s);
-    auto *head = new PopoverHead(theme);
-    head->setTitle(localized("Saved addresses"));
-    head->addAtEnd(m_heart);
-    m_tokens->setObjectName(u"quickAddressesField"_s);
-    m_tokens->setAccessibleName(localized("Saved addresses"));
-    m_tokens->setEmptyText(localized("Add the current address with the heart."));
-    auto *hint = plainLabel(localized("Click to put one into the field, or drag it there."));
-    hint->setProperty("look", u"caption"_s);
-    hint->setWordWrap(true);
-    auto *column = new QVBoxLayout(popover().content());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
-    column->addWidget(head);
-    column->addWidget(m_tokens);
-    column->addWidget(hint);
-    column->addSpacing(Theme::unit / 2);
-    auto *edit = new QPushButton(localized("Edit Saved Items"));
-    edit->setObjectName(u"editSavedItems"_s);
-    edit->setAccessibleName(localized("Edit Saved Items"));
-    edit->setToolTip(plainToolTip(localized("Opens the window of saved networks and addresses")));
-    edit->setAutoDefault(true);
-    column->addWidget(edit, 0, Qt::AlignRight);
-
-    connect(edit, &QPushButton::clicked, this, &SavedAddressesRow::editSavedItems);
     connect(this, &RowButton::clicked, &m_models.saved, &SavedListsModel::toggleSoftwarePopover);
     connect(this, &PopoverRow::popoverClosed, &m_models.saved,
-        &SavedListsModel::softwarePopoverWillClose);
-    connect(
-        m_heart, &QToolButton::clicked, &m_models.saved, &SavedListsModel::chooseFavoriteButton);
-    connect(m_tokens, &TokenField::activated, this, &SavedAddressesRow::choose);
-    // The popover is what is dragged from: it must be there until the drag has ended.
-    connect(m_tokens, &TokenField::dragBegan, &popover(), &Popover::stepAside);
-    connect(m_tokens, &TokenField::dragEnded, &m_models.saved,
         &SavedListsModel::softwarePopoverWillClose);
     connect(&m_models.saved, &SavedListsModel::changed, this, &SavedAddressesRow::refresh);
     connect(&m_models.window, &MainWindowModel::changed, this, &SavedAddressesRow::refresh);
     refresh();
 }
 
-void SavedAddressesRow::choose(int index)
+PopoverDetails *SavedAddressesRow::makeDetails()
 {
-    m_models.window.populateHexFieldFromDrop(m_tokens->entries().value(index).text);
+    auto *details = new SavedAddressesDetails(m_models.saved, theme());
+    connect(details, &SavedAddressesDetails::chosen, this, &SavedAddressesRow::choose);
+    connect(details, &SavedAddressesDetails::editingWanted, this,
+        &SavedAddressesRow::editSavedItems);
+    // The popover is what is dragged from: it must be there until the drag has ended.
+    connect(details, &SavedAddressesDetails::dragBegan, this, [this] { popover().stepAside(); });
+    connect(details, &SavedAddressesDetails::dragEnded, &m_models.saved,
+        &SavedListsModel::softwarePopoverWillClose);
+    return details;
+}
+
+void SavedAddressesRow::choose(const QString &text)
+{
+    m_models.window.populateHexFieldFromDrop(text);
     m_models.saved.softwarePopoverWillClose();
     Q_EMIT filled();
 }
@@ -82,22 +53,17 @@ void SavedAddressesRow::editSavedItems()
 
 void SavedAddressesRow::refresh()
 {
-    const auto &state = m_models.saved.state();
-    QList<TokenField::Entry> entries;
     QStringList names;
-    for (const auto &token : state.quickAddresses) {
-        entries.append({token.text, token.entry.address.value_or(QString())});
+    for (const auto &token : m_models.saved.state().quickAddresses) {
         names.append(token.text);
     }
-    m_tokens->setEntries(entries);
     if (names.isEmpty()) {
         setValue(localized("None"), ValueLook::Muted);
     } else {
         setValue(names.join(u", "_s));
     }
     setHasPopover(m_models.window.state().softwareButtonVisible);
-    m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
-    setPopoverShown(state.softwarePopoverShown);
+    setPopoverShown(m_models.saved.state().softwarePopoverShown);
 }
 
 } // namespace quillon

@@ -6,13 +6,12 @@
 
 namespace quillon {
 
-class HeartButton;
 class MainWindowModel;
 class Presence;
 class SavedListsModel;
-class TokenField;
 
 /// The saved addresses: a click puts one into the address field.
+/// The addresses that the user has saved.
 class SavedAddressesRow : public PopoverRow
 {
     Q_OBJECT
@@ -25,22 +24,21 @@ public:
         Presence &presence;
     };
 
-    SavedAddressesRow(const Models &models, const Theme &theme, QWidget *parent = nullptr);
+    SavedAddressesRow(const Models &models, const Theme &theme);
 
 Q_SIGNALS:
     /// An address was put into the field.
     void filled();
 
-private:
-    void makeContent();
-    void refresh();
-    void choose(int index);
+protected:
+    PopoverDetails *makeDetails() override;
 
+private:
+    void refresh();
+    void choose(const QString &text);
     void editSavedItems();
 
     Models m_models;
-    HeartButton *m_heart;
-    TokenField *m_tokens;
 };
 
 } // namespace quillon

@@ -5,73 +5,28 @@
 #include "base/Localized.h"
 #include "presentation/rules/RuleStatusModel.h"
 #include "presentation/rules/RulesListModel.h"
-#include "ui/rules/RuleSwitchLine.h"
-#include "ui/theme/Theme.h"
-#include "ui/widgets/PlainText.h"
-#include "ui/widgets/Popover.h"
-#include "ui/widgets/PopoverHead.h"
-
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QVBoxLayout>
-
-#include <memory>
+#include "ui/rules/RulesDetails.h"
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void shouldAddStrikeThroughToTextfield(bool isStruck, QLabel &label)
-{
-    QFont font = label.font();
-    font.setStrikeOut(isStruck);
-    label.setFont(font);
-    label.setEnabled(!isStruck);
-}
-
-} // namespace
-
-RulesRow::RulesRow(const Models &models, const Theme &theme, QWidget *parent)
-    : PopoverRow(theme, localized("Rules"), new QWidget, parent)
+RulesRow::RulesRow(const Models &models, const Theme &theme)
+    : PopoverRow(theme, localized("Rules"))
     , m_models(models)
-    , m_theme(theme)
-    , m_head(new PopoverHead(theme))
-    , m_activeRule(plainLabel(localized("Active rule")))
-    , m_noActiveRules(plainLabel(localized("No active rules")))
-    , m_noRules(plainLabel(localized("No rules")))
-    , m_rules(new QVBoxLayout)
-    , m_empty(plainLabel(localized("No rule for this interface.")))
 {
     setObjectName(u"rulesButton"_s);
-    makeContent();
     connect(this, &RowButton::clicked, &m_models.list, &RulesListModel::toggleRulesPopover);
     connect(this, &PopoverRow::popoverClosed, &m_models.list, &RulesListModel::popoverWillClose);
     connect(&m_models.status, &RuleStatusModel::changed, this, &RulesRow::refreshStatus);
-    connect(&m_models.list, &RulesListModel::changed, this, &RulesRow::refreshList);
+    connect(&m_models.list, &RulesListModel::changed, this, &RulesRow::refreshPopover);
     refreshStatus();
-    refreshList();
+    refreshPopover();
 }
 
-void RulesRow::makeContent()
+PopoverDetails *RulesRow::makeDetails()
 {
-    auto *labels = new QHBoxLayout;
-    labels->setSpacing(Theme::unit + 4);
-    for (auto *label : {m_activeRule, m_noActiveRules, m_noRules}) {
-        label->setFont(Theme::font(Theme::Type::Caption));
-        labels->addWidget(label);
-    }
-    labels->addStretch();
-    m_rules->setSpacing(0);
-    m_empty->setProperty("look", u"caption"_s);
-    auto *column = new QVBoxLayout(popover().content());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
-    column->addWidget(m_head);
-    column->addLayout(labels);
-    column->addLayout(m_rules);
-    column->addWidget(m_empty);
+    return new RulesDetails(m_models.status, m_models.list, theme());
 }
 
 void RulesRow::refreshStatus()
@@ -87,41 +42,11 @@ void RulesRow::refreshStatus()
                           : Theme::Ink::Muted,
         isActive});
     setRowToolTip(state.toolTip);
-    shouldAddStrikeThroughToTextfield(state.activeRuleStruckThrough, *m_activeRule);
-    shouldAddStrikeThroughToTextfield(state.noActiveRulesStruckThrough, *m_noActiveRules);
-    shouldAddStrikeThroughToTextfield(state.noRulesStruckThrough, *m_noRules);
 }
 
-void RulesRow::refreshList()
+void RulesRow::refreshPopover()
 {
-    const auto &state = m_models.list.state();
-    m_head->setTitle(state.title);
-    m_head->setIcon(state.symbol == "wifi"_L1 ? u"wireless"_s : u"wired"_s);
-    makeRules();
-    setPopoverShown(state.popoverShown);
-}
-
-void RulesRow::makeRules()
-{
-    const auto &rows = m_models.list.state().rows;
-    m_empty->setVisible(rows.isEmpty());
-    // Rows that are there already keep the keyboard.
-    while (m_rules->count() > rows.size()) {
-        const std::unique_ptr<QLayoutItem> last(m_rules->takeAt(m_rules->count() - 1));
-        last->widget()->hide();
-        last->widget()->deleteLater();
-    }
-    for (qsizetype row = 0; row < rows.size(); ++row) {
-        if (row == m_rules->count()) {
-            auto *line = new RuleSwitchLine(m_theme);
-            connect(line, &RuleSwitchLine::switched, this,
-                [this, row](bool isOn) { m_models.list.toggle(row, isOn); });
-            m_rules->addWidget(line);
-        }
-        auto *line =
-            static_cast<RuleSwitchLine *>(m_rules->itemAt(static_cast<int>(row))->widget());
-        line->setRule(rows.at(row));
-    }
+    setPopoverShown(m_models.list.state().popoverShown);
 }
 
 } // namespace quillon

@@ -4,16 +4,13 @@
 
 #include "ui/widgets/PopoverRow.h"
 
-class QLabel;
-class QVBoxLayout;
-
 namespace quillon {
 
-class PopoverHead;
 class RuleStatusModel;
 class RulesListModel;
 
 /// Whether a rule holds for the interface now; its popover switches the interface's rules.
+/// Whether a rule holds for the selected interface.
 class RulesRow : public PopoverRow
 {
     Q_OBJECT
@@ -25,23 +22,16 @@ public:
         RulesListModel &list;
     };
 
-    RulesRow(const Models &models, const Theme &theme, QWidget *parent = nullptr);
+    RulesRow(const Models &models, const Theme &theme);
+
+protected:
+    PopoverDetails *makeDetails() override;
 
 private:
-    void makeContent();
     void refreshStatus();
-    void refreshList();
-    void makeRules();
+    void refreshPopover();
 
     Models m_models;
-    const Theme &m_theme;
-    PopoverHead *m_head;
-    /// The three things that can be said of an interface: two of them are struck through.
-    QLabel *m_activeRule;
-    QLabel *m_noActiveRules;
-    QLabel *m_noRules;
-    QVBoxLayout *m_rules;
-    QLabel *m_empty;
 };
 
 } // namespace quillon

@@ -24,15 +24,13 @@ using namespace Qt::StringLiterals;
 VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
+    , m_theme(theme)
     , m_field(new QLineEdit)
     , m_toggle(new QToolButton)
-    , m_table(new VendorTableView(model, theme, this))
 {
     setObjectName(u"vendorFieldView"_s);
     makeField();
     makeToggle(theme);
-    m_table->hide();
-    m_table->installEventFilter(this);
     // Inside the field, as in any box that opens a list.
     auto *caption = plainLabel(localized("&Vendor"));
     caption->setProperty("look", u"caption"_s);
@@ -84,7 +82,11 @@ void VendorChooser::connectModel()
         m_field->selectAll();
         m_field->end(false);
     });
-    connect(&m_model, &VendorFieldModel::listEntered, this, [this] { m_table->setFocus(); });
+    connect(&m_model, &VendorFieldModel::listEntered, this, [this] {
+        if (isListOpen()) {
+            m_table->setFocus();
+        }
+    });
     connect(m_field, &QLineEdit::textEdited, this, [this](const QString &typed) {
         m_text = typed;
         m_model.controlTextDidChange(typed);
@@ -114,30 +116,46 @@ void VendorChooser::refresh()
     m_toggle->setEnabled(state.enabled);
     m_toggle->setToolTip(plainToolTip(state.enabled ? toggles : state.whyDisabled));
     m_toggle->setAccessibleDescription(state.whyDisabled);
-    if (state.popoverShown && m_table->isHidden()) {
+    if (state.popoverShown && !isListOpen()) {
         openList();
-    } else if (!state.popoverShown && !m_table->isHidden()) {
-        if (m_table->hasFocus()) {
-            m_field->setFocus();
-        }
-        m_table->hide();
+    } else if (!state.popoverShown && isListOpen()) {
+        hideList();
     }
-    m_table->refresh();
-    if (!m_table->isHidden()) {
+    if (isListOpen()) {
         placeList();
     }
 }
 
+bool VendorChooser::isListOpen() const
+{
+    return m_table != nullptr && !m_table->isHidden();
+}
+
+void VendorChooser::makeList()
+{
+    m_table = new VendorTableView(m_model, m_theme, window());
+    m_table->hide();
+    m_table->installEventFilter(this);
+    setTabOrder(m_field, m_table);
+    window()->installEventFilter(this);
+}
+
 void VendorChooser::openList()
 {
-    if (m_table->parentWidget() != window()) {
-        m_table->setParent(window());
-        setTabOrder(m_field, m_table);
-        window()->installEventFilter(this);
+    if (m_table == nullptr) {
+        makeList();
     }
     placeList();
     m_table->show();
     m_table->raise();
+}
+
+void VendorChooser::hideList()
+{
+    if (m_table->hasFocus()) {
+        m_field->setFocus();
+    }
+    m_table->hide();
 }
 
 void VendorChooser::placeList()
@@ -151,7 +169,9 @@ void VendorChooser::placeList()
 void VendorChooser::moveEvent(QMoveEvent *event)
 {
     QFrame::moveEvent(event);
-    placeList();
+    if (isListOpen()) {
+        placeList();
+    }
 }
 
 bool VendorChooser::eventFilter(QObject *watched, QEvent *event)

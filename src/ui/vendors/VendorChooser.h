@@ -36,14 +36,18 @@ private:
     bool takesKey(QObject *watched, int key);
     void close();
     void closeWhenLeft();
+    bool isListOpen() const;
+    void makeList();
     void openList();
+    void hideList();
     void placeList();
 
     VendorFieldModel &m_model;
+    const Theme &m_theme;
     QString m_text; ///< the model's text that the field shows, as it was written
     QLineEdit *m_field;
     QToolButton *m_toggle;
-    VendorTableView *m_table;
+    VendorTableView *m_table = nullptr; ///< made when it is shown for the first time
 };
 
 } // namespace quillon

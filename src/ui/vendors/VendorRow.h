@@ -4,30 +4,25 @@
 
 #include "ui/widgets/PopoverRow.h"
 
-class QLabel;
-
 namespace quillon {
 
-class PopoverHead;
 class VendorInfoModel;
 
-/// Who made the interface, by the address that it has; its popover tells more of them.
+/// Who made the selected interface.
 class VendorRow : public PopoverRow
 {
     Q_OBJECT
 
 public:
-    VendorRow(VendorInfoModel &model, const Theme &theme, QWidget *parent = nullptr);
+    VendorRow(VendorInfoModel &model, const Theme &theme);
+
+protected:
+    PopoverDetails *makeDetails() override;
 
 private:
-    void makeContent();
     void refresh();
 
     VendorInfoModel &m_model;
-    PopoverHead *m_head;
-    QLabel *m_address;
-    QLabel *m_identifier;
-    QLabel *m_registry;
 };
 
 } // namespace quillon

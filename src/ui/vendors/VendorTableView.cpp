@@ -43,6 +43,7 @@ VendorFieldModel::Key keyOf(int key)
 VendorListRows::VendorListRows(VendorFieldModel &model, QObject *parent)
     : QAbstractListModel(parent)
     , m_model(model)
+    , m_popoverShown(model.state().popoverShown)
 {
     connect(&m_model, &VendorFieldModel::rowsChanged, this, &VendorListRows::reset);
     connect(&m_model, &VendorFieldModel::changed, this, [this] {
@@ -94,12 +95,16 @@ VendorTableView::VendorTableView(VendorFieldModel &model, const Theme &theme, QW
     setTabKeyNavigation(false);
     const QScopedValueRollback mirrors(m_mirrors, true);
     setModel(new VendorListRows(model, this));
+    // After the rows have become others: a reset takes the selection away.
+    connect(&m_model, &VendorFieldModel::changed, this, &VendorTableView::refresh);
+    connect(&m_model, &VendorFieldModel::rowsChanged, this, &VendorTableView::refresh);
     connect(&m_model, &VendorFieldModel::rowsChanged, this, &QListView::scrollToTop);
     connect(&m_model, &VendorFieldModel::rowSelected, this, [this](qsizetype row) {
         scrollTo(this->model()->index(static_cast<int>(row), 0), QAbstractItemView::EnsureVisible);
     });
     connect(&m_model, &VendorFieldModel::openedAtChoice, this,
         [this] { scrollTo(currentIndex(), QAbstractItemView::PositionAtCenter); });
+    refresh();
 }
 
 void VendorTableView::refresh()

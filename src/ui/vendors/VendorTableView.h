@@ -26,7 +26,7 @@ private:
     void reset();
 
     VendorFieldModel &m_model;
-    bool m_popoverShown = false;
+    bool m_popoverShown;
 };
 
 /// The list to choose a manufacturer from. Selecting a row, by pointer or arrow key, is the choice.
@@ -37,8 +37,6 @@ class VendorTableView : public QListView
 public:
     VendorTableView(VendorFieldModel &model, const Theme &theme, QWidget *parent = nullptr);
 
-    /// Selects what the model says is selected.
-    void refresh();
     QSize sizeHint() const override;
 
 protected:
@@ -49,6 +47,9 @@ protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
+    /// Selects what the model says is selected.
+    void refresh();
+
     VendorFieldModel &m_model;
     const Theme &m_theme;
     bool m_mirrors = false; ///< the selection comes from the model, not from the user

@@ -48,7 +48,7 @@ RowButton::RowButton(const Theme &theme, const QString &label, QWidget *parent)
     });
     addAction(copy);
     connect(&theme, &Theme::changed, this, qOverload<>(&QWidget::update));
-    setHasPopover(true);
+    takeRole();
 }
 
 void RowButton::setValue(const QString &value, ValueLook look)
@@ -71,9 +71,16 @@ void RowButton::setDot(const std::optional<Dot> &dot)
 
 void RowButton::setHasPopover(bool hasPopover)
 {
-    m_hasPopover = hasPopover;
-    setFocusPolicy(hasPopover ? Qt::StrongFocus : Qt::NoFocus);
-    setAccessibleRole(*this, hasPopover ? QAccessible::Button : QAccessible::StaticText);
+    if (hasPopover != m_hasPopover) {
+        m_hasPopover = hasPopover;
+        takeRole();
+    }
+}
+
+void RowButton::takeRole()
+{
+    setFocusPolicy(m_hasPopover ? Qt::StrongFocus : Qt::NoFocus);
+    setAccessibleRole(*this, m_hasPopover ? QAccessible::Button : QAccessible::StaticText);
     describe();
 }
 
@@ -107,14 +114,22 @@ int RowButton::labelWidth() const
     while (card->parentWidget() != nullptr && !card->isWindow() && !card->inherits("QFrame")) {
         card = card->parentWidget();
     }
-    int widest = std::max(Theme::rowLabelWidth, fontMetrics().horizontalAdvance(m_label));
+    int widest = std::max(Theme::rowLabelWidth, ownLabelWidth());
     const auto rows = card->findChildren<RowButton *>();
     for (const RowButton *row : rows) {
         if (row->window() == window() && row->isVisibleTo(card)) {
-            widest = std::max(widest, fontMetrics().horizontalAdvance(row->m_label));
+            widest = std::max(widest, row->ownLabelWidth());
         }
     }
     return widest;
+}
+
+int RowButton::ownLabelWidth() const
+{
+    if (!m_labelWidth) {
+        m_labelWidth = fontMetrics().horizontalAdvance(m_label);
+    }
+    return *m_labelWidth;
 }
 
 QRect RowButton::valueRect() const
@@ -156,6 +171,14 @@ void RowButton::resizeEvent(QResizeEvent *event)
 {
     QAbstractButton::resizeEvent(event);
     describe();
+}
+
+void RowButton::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_labelWidth.reset();
+    }
+    QAbstractButton::changeEvent(event);
 }
 
 void RowButton::paintEvent(QPaintEvent *)

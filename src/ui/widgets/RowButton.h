@@ -59,18 +59,22 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool hitButton(const QPoint &position) const override;
 
 private:
+    void takeRole();
     void describe();
     int labelWidth() const;
+    int ownLabelWidth() const;
     QRect valueRect() const;
     QFont valueFont() const;
     QString shownValue() const;
 
     const Theme &m_theme;
     QString m_label;
+    mutable std::optional<int> m_labelWidth; ///< in pixels, until the font changes
     QString m_value;
     QString m_toolTip;
     ValueLook m_look = ValueLook::Text;

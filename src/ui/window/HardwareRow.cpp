@@ -4,70 +4,32 @@
 
 #include "base/Localized.h"
 #include "presentation/window/MainWindowModel.h"
-#include "ui/theme/Theme.h"
-#include "ui/widgets/BusyButton.h"
-#include "ui/widgets/PlainText.h"
-#include "ui/widgets/Popover.h"
-
-#include <QLabel>
-#include <QVBoxLayout>
+#include "ui/window/HardwareDetails.h"
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme, QWidget *parent)
-    : PopoverRow(theme, localized("Hardware address"), new QWidget, parent)
+HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme)
+    : PopoverRow(theme, localized("Hardware address"))
     , m_model(model)
-    , m_address(plainLabel())
-    , m_restore(new BusyButton(theme, Theme::Ink::OnAccent, localized("Restore")))
 {
     setObjectName(u"hardwareButton"_s);
-    makeContent();
     connect(this, &RowButton::clicked, &m_model, &MainWindowModel::toggleHardwarePopover);
     connect(this, &PopoverRow::popoverClosed, &m_model, &MainWindowModel::hardwarePopoverWillClose);
-    connect(m_restore, &QPushButton::clicked, &m_model, &MainWindowModel::restoreDefaultAddress);
     connect(&m_model, &MainWindowModel::changed, this, &HardwareRow::refresh);
     refresh();
 }
 
-void HardwareRow::makeContent()
+PopoverDetails *HardwareRow::makeDetails()
 {
-    m_address->setObjectName(u"hardwareAddress"_s);
-    m_address->setFont(Theme::font(Theme::Type::AddressField));
-    m_address->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *explanation = plainLabel(localized("The address the device was made with."));
-    explanation->setProperty("look", u"caption"_s);
-    explanation->setWordWrap(true);
-    m_restore->setObjectName(u"restoreButton"_s);
-    m_restore->setProperty("look", u"primary"_s);
-    m_restore->setAccessibleName(localized("Restore hardware address"));
-    m_restore->setBusyText(localized("Restoring…"));
-    m_restore->setAutoDefault(true);
-
-    auto *column = new QVBoxLayout(popover().content());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
-    column->addWidget(m_address);
-    column->addWidget(explanation);
-    column->addSpacing(Theme::unit / 2);
-    column->addWidget(m_restore, 0, Qt::AlignRight);
+    return new HardwareDetails(m_model, theme());
 }
 
 void HardwareRow::refresh()
 {
-    const auto &state = m_model.state();
-    setValue(state.hardwareAddress, ValueLook::Address);
-    showLine(*m_address, state.hardwareAddress);
-    m_restore->setBusy(state.busyButton == ChangeButton::Restore);
-    m_restore->setEnabled(state.restoreEnabled);
-    const QString hint =
-        state.restoreEnabled
-            ? localized("Gives the interface the address back that it was made with")
-            : state.whyNoRestore;
-    m_restore->setToolTip(plainToolTip(hint));
-    m_restore->setAccessibleDescription(hint);
-    setPopoverShown(state.hardwarePopoverShown);
+    setValue(m_model.state().hardwareAddress, ValueLook::Address);
+    setPopoverShown(m_model.state().hardwarePopoverShown);
 }
 
 } // namespace quillon

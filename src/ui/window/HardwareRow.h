@@ -4,11 +4,8 @@
 
 #include "ui/widgets/PopoverRow.h"
 
-class QLabel;
-
 namespace quillon {
 
-class BusyButton;
 class MainWindowModel;
 
 /// The address that the interface was made with, and the way back to it.
@@ -17,15 +14,15 @@ class HardwareRow : public PopoverRow
     Q_OBJECT
 
 public:
-    HardwareRow(MainWindowModel &model, const Theme &theme, QWidget *parent = nullptr);
+    HardwareRow(MainWindowModel &model, const Theme &theme);
+
+protected:
+    PopoverDetails *makeDetails() override;
 
 private:
-    void makeContent();
     void refresh();
 
     MainWindowModel &m_model;
-    QLabel *m_address;
-    BusyButton *m_restore;
 };
 
 } // namespace quillon

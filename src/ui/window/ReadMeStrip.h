@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ui/theme/Theme.h"
-
 #include <QFrame>
 
 class QPushButton;
 
 namespace quillon {
 
-class BusyButton;
 class Popover;
 class ReadMeModel;
+class Theme;
 
-/// Says that the helper is missing, and has it installed. The hint itself opens what explains it.
+/// Says that the helper is not installed, as long as it is not. Its label opens the read-me popover.
 class ReadMeStrip : public QFrame
 {
     Q_OBJECT
@@ -24,7 +22,7 @@ public:
     ~ReadMeStrip() override;
 
 private:
-    BusyButton *makeInstall(Theme::Ink ink);
+    void makeHint();
     void makePopover();
     void refresh();
     void resetStyle();
@@ -32,9 +30,7 @@ private:
     ReadMeModel &m_model;
     const Theme &m_theme;
     QPushButton *m_hint;
-    BusyButton *m_install;
-    BusyButton *m_installExplained;
-    Popover *m_popover;
+    Popover *m_popover = nullptr; ///< made when it is opened for the first time
 };
 
 } // namespace quillon

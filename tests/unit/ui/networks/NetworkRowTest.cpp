@@ -29,7 +29,7 @@ protected:
             &NetworkInfoModel::showNetworkButton);
         network.updateWiFiNetwork();
     }
-    QStringList texts() const
+    QStringList texts()
     {
         QStringList texts;
         for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {

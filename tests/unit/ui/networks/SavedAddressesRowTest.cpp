@@ -29,11 +29,11 @@ protected:
         settings.addObserver(
             keys::savedAddresses, [this](const auto &) { saved.updateQuickAddressesField(); });
     }
-    TokenField *tokens() const
+    TokenField *tokens()
     {
         return row.popover().content()->findChild<TokenField *>(u"quickAddressesField"_s);
     }
-    HeartButton *heart() const { return row.popover().content()->findChild<HeartButton *>(); }
+    HeartButton *heart() { return row.popover().content()->findChild<HeartButton *>(); }
 
     Theme theme;
     SavedAddresses addresses{settings};

@@ -21,7 +21,7 @@ namespace {
 class RulesRowTest : public RuleFixture
 {
 protected:
-    QList<RuleSwitchLine *> lines() const
+    QList<RuleSwitchLine *> lines()
     {
         QList<RuleSwitchLine *> shown;
         for (auto *line : row.popover().content()->findChildren<RuleSwitchLine *>()) {
@@ -31,7 +31,7 @@ protected:
         }
         return shown;
     }
-    QStringList struckThrough() const
+    QStringList struckThrough()
     {
         QStringList texts;
         for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {

@@ -49,7 +49,6 @@ protected:
         QApplication::setActiveWindow(&window);
         text = window.findChild<QLineEdit *>(u"vendorTextfield"_s);
         toggle = window.findChild<QToolButton *>(u"vendorToggle"_s);
-        table = window.findChild<VendorTableView *>();
         text->setFocus();
     }
     ~VendorChooserTest() override { notifications.removeObserver(token); }
@@ -83,15 +82,18 @@ protected:
         QCoreApplication::sendEvent(&widget, &up);
         scheduler.runPending();
     }
+    /// Made when it is shown for the first time.
+    VendorTableView *table() const { return window.findChild<VendorTableView *>(); }
+    bool isListShown() const { return table() != nullptr && table()->isVisible(); }
     QStringList rows() const
     {
         QStringList rows;
-        for (int row = 0; row < table->model()->rowCount(); ++row) {
-            rows << table->model()->index(row, 0).data().toString();
+        for (int row = 0; table() != nullptr && row < table()->model()->rowCount(); ++row) {
+            rows << table()->model()->index(row, 0).data().toString();
         }
         return rows;
     }
-    QString selected() const { return table->currentIndex().data().toString(); }
+    QString selected() const { return table()->currentIndex().data().toString(); }
     QString saved() const
     {
         return settings.getDictionary(keys::deviceDict)
@@ -107,13 +109,12 @@ protected:
     QLineEdit *other = new QLineEdit;
     QLineEdit *text = nullptr;
     QToolButton *toggle = nullptr;
-    VendorTableView *table = nullptr;
 };
 
 TEST_F(VendorChooserTest, ShowsTheChoiceAndKeepsItsListToItself)
 {
     EXPECT_EQ(text->text(), u"Random Address"_s);
-    EXPECT_FALSE(table->isVisible());
+    EXPECT_FALSE(isListShown());
     EXPECT_EQ(rows(), QStringList());
     EXPECT_FALSE(list.isInMemory()) << "nobody has looked at the list yet";
 }
@@ -149,7 +150,7 @@ TEST_F(VendorChooserTest, LooksDisabledWhereThereIsNoInterfaceToChooseFor)
 TEST_F(VendorChooserTest, TypingOpensTheListOnWhatBeginsSo)
 {
     type(u"app"_s);
-    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(isListShown());
     EXPECT_EQ(rows(), (QStringList{u"Appian (00000A)"_s, u"apple (00000C)"_s}));
     EXPECT_EQ(text->text(), u"app"_s);
     EXPECT_EQ(text->cursorPosition(), 3);
@@ -171,7 +172,7 @@ TEST_F(VendorChooserTest, DownMovesIntoTheListAndChoosesItsFirstRow)
 {
     type(u"app"_s);
     press(*text, Qt::Key_Down);
-    EXPECT_TRUE(table->hasFocus());
+    EXPECT_TRUE(table()->hasFocus());
     EXPECT_EQ(selected(), u"Appian (00000A)"_s);
     EXPECT_EQ(saved(), u"Appian (00000A)"_s);
     EXPECT_EQ(text->text(), u"Appian (00000A)"_s);
@@ -180,16 +181,16 @@ TEST_F(VendorChooserTest, DownMovesIntoTheListAndChoosesItsFirstRow)
 TEST_F(VendorChooserTest, DownOpensAListThatIsClosed)
 {
     press(*text, Qt::Key_Down);
-    EXPECT_TRUE(table->isVisible());
-    EXPECT_TRUE(table->hasFocus());
-    EXPECT_EQ(table->currentIndex().row(), 0);
+    EXPECT_TRUE(isListShown());
+    EXPECT_TRUE(table()->hasFocus());
+    EXPECT_EQ(table()->currentIndex().row(), 0);
 }
 
 TEST_F(VendorChooserTest, DownInAnEmptyListChoosesNothing)
 {
     type(u"nobody"_s);
     press(*text, Qt::Key_Down);
-    EXPECT_FALSE(table->currentIndex().isValid());
+    EXPECT_FALSE(table()->currentIndex().isValid());
     EXPECT_EQ(saved(), QString());
 }
 
@@ -197,11 +198,11 @@ TEST_F(VendorChooserTest, ArrowsInTheListChoose)
 {
     type(u"ap"_s);
     press(*text, Qt::Key_Down);
-    press(*table, Qt::Key_Down);
+    press(*table(), Qt::Key_Down);
     EXPECT_EQ(saved(), selected());
-    EXPECT_EQ(table->currentIndex().row(), 1);
-    press(*table, Qt::Key_Up);
-    EXPECT_EQ(table->currentIndex().row(), 0);
+    EXPECT_EQ(table()->currentIndex().row(), 1);
+    press(*table(), Qt::Key_Up);
+    EXPECT_EQ(table()->currentIndex().row(), 0);
     EXPECT_EQ(saved(), u"Appian (00000A)"_s);
     EXPECT_EQ(rows().size(), 3) << "the choice keeps what was typed for";
 }
@@ -209,12 +210,12 @@ TEST_F(VendorChooserTest, ArrowsInTheListChoose)
 TEST_F(VendorChooserTest, ReturnClosesTheListAndGivesTheKeyboardBack)
 {
     press(*text, Qt::Key_Down);
-    press(*table, Qt::Key_Return);
-    EXPECT_FALSE(table->isVisible());
+    press(*table(), Qt::Key_Return);
+    EXPECT_FALSE(isListShown());
     EXPECT_TRUE(text->hasFocus());
     press(*text, Qt::Key_Down);
-    press(*table, Qt::Key_Enter);
-    EXPECT_FALSE(table->isVisible());
+    press(*table(), Qt::Key_Enter);
+    EXPECT_FALSE(isListShown());
 }
 
 TEST_F(VendorChooserTest, OtherKeysDoNothingInTheList)
@@ -223,21 +224,21 @@ TEST_F(VendorChooserTest, OtherKeysDoNothingInTheList)
     const QString before = selected();
     for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Right,
              Qt::Key_Delete, Qt::Key_F2}) {
-        press(*table, key);
+        press(*table(), key);
         EXPECT_EQ(selected(), before) << key;
     }
-    press(*table, Qt::Key_Z, u"z"_s);
+    press(*table(), Qt::Key_Z, u"z"_s);
     EXPECT_EQ(selected(), before);
     EXPECT_EQ(saved(), before);
-    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(isListShown());
 }
 
 TEST_F(VendorChooserTest, ThePointerChooses)
 {
     click(*toggle, toggle->rect().center());
     const auto row = rows().indexOf(u"Zebra (00000D)"_s);
-    const QModelIndex zebra = table->model()->index(static_cast<int>(row), 0);
-    click(*table->viewport(), table->visualRect(zebra).center());
+    const QModelIndex zebra = table()->model()->index(static_cast<int>(row), 0);
+    click(*table()->viewport(), table()->visualRect(zebra).center());
     EXPECT_EQ(saved(), u"Zebra (00000D)"_s);
     EXPECT_EQ(text->text(), u"Zebra (00000D)"_s);
 }
@@ -249,7 +250,7 @@ TEST_F(VendorChooserTest, ThePointerChoosesTheSelectedRowToo)
     choice.setVendorSelectionForDevice(device);
     type(u"zeb"_s);
     ASSERT_EQ(selected(), zebra);
-    click(*table->viewport(), table->visualRect(table->currentIndex()).center());
+    click(*table()->viewport(), table()->visualRect(table()->currentIndex()).center());
     EXPECT_EQ(text->text(), zebra);
 }
 
@@ -271,11 +272,11 @@ TEST_F(VendorChooserTest, WhatTheProgramSelectsIsNoChoice)
 TEST_F(VendorChooserTest, AListThatGetsTheKeyboardWithoutASelectionChoosesNothing)
 {
     type(u"m"_s);
-    table->setFocus();
-    ASSERT_TRUE(table->hasFocus());
+    table()->setFocus();
+    ASSERT_TRUE(table()->hasFocus());
     EXPECT_EQ(saved(), QString());
-    EXPECT_FALSE(table->currentIndex().isValid());
-    press(*table, Qt::Key_Down);
+    EXPECT_FALSE(table()->currentIndex().isValid());
+    press(*table(), Qt::Key_Down);
     EXPECT_EQ(saved(), u"Mango (00000E)"_s);
 }
 
@@ -283,10 +284,10 @@ TEST_F(VendorChooserTest, EscapeClosesTheListWhereverTheKeyboardIs)
 {
     type(u"a"_s);
     press(*text, Qt::Key_Escape);
-    EXPECT_FALSE(table->isVisible());
+    EXPECT_FALSE(isListShown());
     press(*text, Qt::Key_Down);
-    press(*table, Qt::Key_Escape);
-    EXPECT_FALSE(table->isVisible());
+    press(*table(), Qt::Key_Escape);
+    EXPECT_FALSE(isListShown());
     EXPECT_TRUE(text->hasFocus());
 }
 
@@ -302,28 +303,28 @@ TEST_F(VendorChooserTest, EscapeKeepsWhatWasChosen)
 TEST_F(VendorChooserTest, SaysWhyThereIsNothingToChoose)
 {
     type(u"xyz"_s);
-    EXPECT_EQ(table->accessibleDescription(), u"No vendor begins with “xyz”."_s);
+    EXPECT_EQ(table()->accessibleDescription(), u"No vendor begins with “xyz”."_s);
     EXPECT_EQ(rows(), QStringList());
-    const int low = table->height();
+    const int low = table()->height();
     type(u"a"_s);
-    EXPECT_GT(table->height(), low) << "below the sentence may stand what helps";
-    EXPECT_EQ(table->accessibleDescription(), QString());
+    EXPECT_GT(table()->height(), low) << "below the sentence may stand what helps";
+    EXPECT_EQ(table()->accessibleDescription(), QString());
     press(*text, Qt::Key_Escape);
     QFile::remove(files.liveDatabase());
     loadList();
     click(*toggle, toggle->rect().center());
-    EXPECT_EQ(table->accessibleDescription(), u"The list of vendors is missing."_s);
+    EXPECT_EQ(table()->accessibleDescription(), u"The list of vendors is missing."_s);
 }
 
 TEST_F(VendorChooserTest, TurningToAnotherControlClosesTheList)
 {
     type(u"a"_s);
-    table->setFocus();
+    table()->setFocus();
     QCoreApplication::processEvents();
-    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(isListShown());
     other->setFocus();
     QCoreApplication::processEvents();
-    EXPECT_FALSE(table->isVisible());
+    EXPECT_FALSE(isListShown());
     EXPECT_TRUE(other->hasFocus());
 }
 
@@ -331,7 +332,7 @@ TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
 {
     type(u"a"_s);
     click(window, QPoint(4, window.height() - 4));
-    EXPECT_FALSE(table->isVisible());
+    EXPECT_FALSE(isListShown());
 }
 
 TEST_F(VendorChooserTest, HidingTheWindowClosesTheListAndItsMemory)
@@ -342,7 +343,7 @@ TEST_F(VendorChooserTest, HidingTheWindowClosesTheListAndItsMemory)
         window.hide();
         EXPECT_FALSE(list.isInMemory());
         window.show();
-        EXPECT_FALSE(table->isVisible());
+        EXPECT_FALSE(isListShown());
     }
 }
 
@@ -353,9 +354,9 @@ TEST_F(VendorChooserTest, TheOpenedListHasTheChoiceInTheMiddle)
     choice.setVendorSelectionForDevice(device);
     for (int time = 0; time < 2; ++time) {
         click(*toggle, toggle->rect().center());
-        ASSERT_TRUE(table->currentIndex().isValid());
-        const int middle = table->visualRect(table->currentIndex()).center().y();
-        const int height = table->viewport()->height();
+        ASSERT_TRUE(table()->currentIndex().isValid());
+        const int middle = table()->visualRect(table()->currentIndex()).center().y();
+        const int height = table()->viewport()->height();
         EXPECT_GT(middle, height / 3);
         EXPECT_LT(middle, height * 2 / 3);
         click(*toggle, toggle->rect().center());
@@ -366,11 +367,11 @@ TEST_F(VendorChooserTest, TheButtonInTheFieldOpensAndClosesAndSaysWhich)
 {
     EXPECT_EQ(toggle->accessibleName(), u"Show vendors"_s);
     click(*toggle, toggle->rect().center());
-    EXPECT_TRUE(table->isVisible());
+    EXPECT_TRUE(isListShown());
     EXPECT_EQ(toggle->accessibleName(), u"Hide vendors"_s);
     EXPECT_TRUE(text->hasFocus()) << "the button does not take the keyboard";
     click(*toggle, toggle->rect().center());
-    EXPECT_FALSE(table->isVisible());
+    EXPECT_FALSE(isListShown());
     EXPECT_TRUE(text->rect().contains(
         toggle->mapTo(text->window(), QPoint()) - text->mapTo(text->window(), QPoint())));
 }
@@ -385,12 +386,12 @@ TEST_F(VendorChooserTest, TheListLiesOverTheWindowAndLeavesItsSizeAlone)
     QCoreApplication::processEvents();
     EXPECT_EQ(window.size(), size);
     EXPECT_EQ(window.sizeHint(), wanted);
-    EXPECT_TRUE(window.rect().contains(table->geometry()));
-    EXPECT_GT(table->geometry().top(), text->mapTo(&window, text->rect().bottomLeft()).y());
-    EXPECT_EQ(table->width(), text->width());
+    EXPECT_TRUE(window.rect().contains(table()->geometry()));
+    EXPECT_GT(table()->geometry().top(), text->mapTo(&window, text->rect().bottomLeft()).y());
+    EXPECT_EQ(table()->width(), text->width());
     EXPECT_TRUE(
-        table->geometry().intersects(QRect(other->mapTo(&window, QPoint()), other->size())));
-    EXPECT_EQ(window.childAt(table->geometry().center())->parentWidget(), table);
+        table()->geometry().intersects(QRect(other->mapTo(&window, QPoint()), other->size())));
+    EXPECT_EQ(window.childAt(table()->geometry().center())->parentWidget(), table());
 }
 
 TEST_F(VendorChooserTest, ALongNameShowsItsBeginningAndTellsTheRest)
@@ -405,8 +406,8 @@ TEST_F(VendorChooserTest, ALongNameShowsItsBeginningAndTellsTheRest)
     EXPECT_EQ(selected(), text->text());
     EXPECT_EQ(text->cursorPosition(), 0);
     EXPECT_EQ(text->toolTip(), entry);
-    EXPECT_EQ(table->model()->index(0, 0).data(Qt::ToolTipRole).toString(), entry);
-    EXPECT_EQ(table->textElideMode(), Qt::ElideMiddle) << "the identifier stays in sight";
+    EXPECT_EQ(table()->model()->index(0, 0).data(Qt::ToolTipRole).toString(), entry);
+    EXPECT_EQ(table()->textElideMode(), Qt::ElideMiddle) << "the identifier stays in sight";
     EXPECT_EQ(window.width(), 460);
 }
 
@@ -447,14 +448,14 @@ TEST_F(VendorChooserTest, TensOfThousandsOfRowsAreShownAndNarrowed)
 {
     offer(registryOf(40'000));
     click(*toggle, toggle->rect().center());
-    ASSERT_EQ(table->model()->rowCount(), 40'001);
+    ASSERT_EQ(table()->model()->rowCount(), 40'001);
     EXPECT_EQ(selected(), u"Random Address"_s);
-    EXPECT_EQ(table->currentIndex().row(), 40'000);
-    EXPECT_GT(table->verticalScrollBar()->value(), 1000) << "the choice is in sight";
-    EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->currentIndex())));
+    EXPECT_EQ(table()->currentIndex().row(), 40'000);
+    EXPECT_GT(table()->verticalScrollBar()->value(), 1000) << "the choice is in sight";
+    EXPECT_TRUE(table()->viewport()->rect().contains(table()->visualRect(table()->currentIndex())));
     type(u"maker 0001"_s);
-    EXPECT_EQ(table->model()->rowCount(), 256);
-    EXPECT_EQ(table->verticalScrollBar()->value(), 0) << "the best match is in sight";
+    EXPECT_EQ(table()->model()->rowCount(), 256);
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 0) << "the best match is in sight";
 }
 
 TEST_F(VendorChooserTest, ToAssistiveTechnologyFieldAndListHaveNames)
@@ -462,7 +463,7 @@ TEST_F(VendorChooserTest, ToAssistiveTechnologyFieldAndListHaveNames)
     EXPECT_EQ(text->accessibleName(), u"Vendor of random addresses"_s);
     EXPECT_FALSE(text->accessibleDescription().isEmpty());
     press(*text, Qt::Key_Down);
-    QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(table);
+    QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(table());
     ASSERT_NE(shown, nullptr);
     EXPECT_EQ(shown->role(), QAccessible::List);
     EXPECT_EQ(shown->text(QAccessible::Name), u"Vendors"_s);

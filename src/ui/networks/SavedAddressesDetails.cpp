@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/networks/SavedAddressesDetails.h"
+
+#include "base/Localized.h"
+#include "presentation/networks/SavedListsModel.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/HeartButton.h"
+#include "ui/widgets/PlainText.h"
+#include "ui/widgets/PopoverHead.h"
+#include "ui/widgets/TokenField.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme &theme)
+    : m_model(model)
+    , m_heart(new HeartButton(theme))
+    , m_tokens(new TokenField)
+{
+    auto *head = new PopoverHead(theme);
+    head->setTitle(localized("Saved addresses"));
+    head->addAtEnd(m_heart);
+    m_tokens->setObjectName(u"quickAddressesField"_s);
+    m_tokens->setAccessibleName(localized("Saved addresses"));
+    m_tokens->setEmptyText(localized("Add the current address with the heart."));
+    auto *hint = plainLabel(localized("Click to put one into the field, or drag it there."));
+    hint->setProperty("look", u"caption"_s);
+    hint->setWordWrap(true);
+    auto *edit = new QPushButton(localized("Edit Saved Items"));
+    edit->setObjectName(u"editSavedItems"_s);
+    edit->setAccessibleName(localized("Edit Saved Items"));
+    edit->setToolTip(plainToolTip(localized("Opens the window of saved networks and addresses")));
+    edit->setAutoDefault(true);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::unit);
+    column->addWidget(head);
+    column->addWidget(m_tokens);
+    column->addWidget(hint);
+    column->addSpacing(Theme::unit / 2);
+    column->addWidget(edit, 0, Qt::AlignRight);
+
+    connect(edit, &QPushButton::clicked, this, &SavedAddressesDetails::editingWanted);
+    connect(m_heart, &QToolButton::clicked, &m_model, &SavedListsModel::chooseFavoriteButton);
+    connect(m_tokens, &TokenField::activated, this,
+        [this](int index) { Q_EMIT chosen(m_tokens->entries().value(index).text); });
+    connect(m_tokens, &TokenField::dragBegan, this, &SavedAddressesDetails::dragBegan);
+    connect(m_tokens, &TokenField::dragEnded, this, &SavedAddressesDetails::dragEnded);
+    connect(&m_model, &SavedListsModel::changed, this, &SavedAddressesDetails::refresh);
+}
+
+void SavedAddressesDetails::refresh()
+{
+    const auto &state = m_model.state();
+    QList<TokenField::Entry> entries;
+    for (const auto &token : state.quickAddresses) {
+        entries.append({token.text, token.entry.address.value_or(QString())});
+    }
+    m_tokens->setEntries(entries);
+    m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
+}
+
+} // namespace quillon

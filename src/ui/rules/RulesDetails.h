@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/widgets/PopoverDetails.h"
+
+class QLabel;
+class QVBoxLayout;
+
+namespace quillon {
+
+class PopoverHead;
+class RuleStatusModel;
+class RulesListModel;
+class Theme;
+
+/// The rules of the selected interface, each with its switch, and which of them holds.
+class RulesDetails : public PopoverDetails
+{
+    Q_OBJECT
+
+public:
+    RulesDetails(RuleStatusModel &status, RulesListModel &list, const Theme &theme);
+
+    void refresh() override;
+
+private:
+    void refreshStatus();
+    void refreshList();
+
+    RuleStatusModel &m_status;
+    RulesListModel &m_list;
+    const Theme &m_theme;
+    PopoverHead *m_head;
+    /// The three things that can be said of an interface: two of them are struck through.
+    QLabel *m_activeRule;
+    QLabel *m_noActiveRules;
+    QLabel *m_noRules;
+    QVBoxLayout *m_rules;
+    QLabel *m_empty;
+};
+
+} // namespace quillon
