@@ -7,12 +7,7 @@
 #include "app/features/Features.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
-#include "platform/NetworkChangeSource.h"
 #include "platform/Platform.h"
-#include "platform/Reachability.h"
-#include "platform/SystemSleep.h"
-
-#include <QPointer>
 
 #include <utility>
 
@@ -21,8 +16,6 @@ namespace quillon {
 namespace {
 
 constexpr std::chrono::milliseconds terminateLoginHelperDelay{1000};
-constexpr std::chrono::milliseconds readingAgainDelay{1000};
-constexpr int readingsAgain = 5;
 
 } // namespace
 
@@ -35,6 +28,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     , m_networkChange({features.networks.externalAddress, features.devices.table,
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
           features.rules.execution, features.rules.evaluation, features.rules.list})
+    , m_networkEvents(platform, m_networkChange)
     , m_countdownAudience(
           features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
 {
@@ -44,6 +38,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectRules();
     connectRecords();
     connectNetworks();
+    connectNetworkEvents();
     connectVendorData();
     connectVendorField();
     connectProgram();
@@ -214,6 +209,13 @@ void EventWiring::connectNetworks()
         [&networks] { networks.savedEntryPopover.closeAddressPopover(); });
 }
 
+void EventWiring::connectNetworkEvents()
+{
+    Features &f = m_features;
+    on(m_networkEvents, &NetworkEvents::interfacesRead, [&f] { f.devices.driftAlarm.look(); });
+    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
+}
+
 void EventWiring::connectVendorData()
 {
     VendorFeature &vendors = m_features.vendors;
@@ -280,17 +282,7 @@ void EventWiring::setupNotifications()
     // What startup read is what is known; the first rule check looks at all of it.
     m_features.devices.table.forgetAllNews();
     m_features.devices.driftAlarm.begin();
-    // The sources outlive this.
-    const auto lookAgain = [self = QPointer(this)] {
-        if (self) {
-            self->m_failedReadings = 0;
-            self->postNetworkChanges();
-        }
-    };
-    m_platform.networkChanges.start(lookAgain);
-    // Much can have happened in a sleep, and not all of it is told of.
-    m_platform.sleep.watch(lookAgain);
-    m_platform.reachability.watch(lookAgain);
+    m_networkEvents.begin();
     // A login item that started us has done its work.
     postTerminateLoginHelper();
 }
@@ -346,46 +338,6 @@ void EventWiring::observeBroadcasts()
     m_distributedTokens.push_back(
         m_platform.distributedNotifications.addObserver(notifications::helperUpdated,
             notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); }));
-}
-
-void EventWiring::postNetworkChanges()
-{
-    // One change of the network is about one interface. The system tells of several at once.
-    const QPointer self(this);
-    const std::optional<QStringList> read = m_networkChange.readInterfaces();
-    if (read) {
-        m_features.devices.driftAlarm.look();
-    } else {
-        readInterfacesAgain();
-    }
-    QStringList changed = read.value_or(QStringList());
-    if (changed.isEmpty()) {
-        changed.append(QString());
-    }
-    for (const QString &device : std::as_const(changed)) {
-        if (self) {
-            m_platform.notifications.post(
-                notifications::networkChanged, this, {{record::device, device}});
-        }
-    }
-    if (self) {
-        m_networkChange.makeUpForWithheld();
-        m_features.statusMenu.menuNeedsUpdate();
-    }
-}
-
-// The system told of something, and will not tell of it again.
-void EventWiring::readInterfacesAgain()
-{
-    if (m_isReadingAgain || m_failedReadings == readingsAgain) {
-        return;
-    }
-    ++m_failedReadings;
-    m_isReadingAgain = true;
-    m_platform.scheduler.onMainAfter(readingAgainDelay, this, [this] {
-        m_isReadingAgain = false;
-        postNetworkChanges();
-    });
 }
 
 void EventWiring::onSetting(const QString &key, std::function<void()> reactions)

@@ -4,6 +4,7 @@
 
 #include "app/CountdownAudience.h"
 #include "app/NetworkChange.h"
+#include "app/NetworkEvents.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/NotificationCenter.h"
 #include "platform/SettingsStore.h"
@@ -41,6 +42,7 @@ private:
     void connectRules();
     void connectRecords();
     void connectNetworks();
+    void connectNetworkEvents();
     void connectVendorData();
     void connectVendorField();
     void connectProgram();
@@ -55,8 +57,6 @@ private:
     void onSetting(const QString &key, std::function<void()> reactions);
     void onBroadcast(const QString &name,
         std::function<void(const NotificationCenter::Notification &)> reactions);
-    void postNetworkChanges();
-    void readInterfacesAgain();
     void postTerminateLoginHelper();
 
     const Platform &m_platform;
@@ -64,9 +64,8 @@ private:
     RecordSaving &m_recordSaving;
     Termination &m_termination;
     NetworkChange m_networkChange;
+    NetworkEvents m_networkEvents;
     CountdownAudience m_countdownAudience;
-    int m_failedReadings = 0; ///< of the interfaces, since the system told of something
-    bool m_isReadingAgain = false;
     std::vector<SettingsStore::Token> m_settingsTokens;
     std::vector<NotificationCenter::Token> m_notificationTokens;
     std::vector<DistributedNotificationCenter::Token> m_distributedTokens;
