@@ -9,8 +9,6 @@
 #include "base/SettingsKeys.h"
 #include "platform/Platform.h"
 
-#include <utility>
-
 namespace quillon {
 
 namespace {
@@ -31,6 +29,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     , m_networkEvents(platform, m_networkChange)
     , m_countdownAudience(
           features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
+    , m_observations(platform)
 {
     connectHelper();
     connectSelection();
@@ -42,19 +41,6 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectVendorData();
     connectVendorField();
     connectProgram();
-}
-
-EventWiring::~EventWiring()
-{
-    for (const auto token : m_notificationTokens) {
-        m_platform.notifications.removeObserver(token);
-    }
-    for (const auto token : m_distributedTokens) {
-        m_platform.distributedNotifications.removeObserver(token);
-    }
-    for (const auto token : m_settingsTokens) {
-        m_platform.settings.removeObserver(token);
-    }
 }
 
 void EventWiring::connectHelper()
@@ -178,7 +164,7 @@ void EventWiring::connectRecords()
     on(store, &RecordStore::undoChanged, [&editMenu] { editMenu.refresh(); });
     on(editMenu, &EditMenuModel::saveRequested, [this] { m_recordSaving.saveAction(); });
     on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
-    onBroadcast(notifications::updateNamesArray,
+    m_observations.onBroadcast(notifications::updateNamesArray,
         [&rules](const auto &) { rules.queries.updateNamesArray(); });
     const auto showOtherRecords = [&rules, &editMenu] {
         rules.queries.updateNamesArray();
@@ -290,31 +276,34 @@ void EventWiring::setupNotifications()
 void EventWiring::observeSettings()
 {
     Features &f = m_features;
-    onSetting(keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
-    onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
-    onSetting(keys::loginStart, [this] {
+    m_observations.onSetting(
+        keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
+    m_observations.onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
+    m_observations.onSetting(keys::loginStart, [this] {
         m_platform.scheduler.onMainAfter(
             terminateLoginHelperDelay, this, [this] { postTerminateLoginHelper(); });
     });
-    onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
-    onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
+    m_observations.onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
+    m_observations.onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
     // The recorder may write the combination after its switch was turned on.
     for (const QString &key : {keys::showKeyEnabled, keys::showKeyCombo}) {
-        onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
+        m_observations.onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
     }
     for (const QString &key : {keys::randomKeyEnabled, keys::randomKeyCombo}) {
-        onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
+        m_observations.onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
     }
-    onSetting(keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
-    onSetting(keys::shouldUpdateExternalIP,
+    m_observations.onSetting(
+        keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
+    m_observations.onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });
-    onSetting(keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
+    m_observations.onSetting(
+        keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
 }
 
 void EventWiring::observeBroadcasts()
 {
     Features &f = m_features;
-    onBroadcast(notifications::networkChanged, [this](const auto &posted) {
+    m_observations.onBroadcast(notifications::networkChanged, [this](const auto &posted) {
         const QVariant device = posted.userInfo.value(record::device);
         if (device.isValid()) {
             m_networkChange.networkChanged(device.toString());
@@ -323,34 +312,20 @@ void EventWiring::observeBroadcasts()
             m_features.statusMenu.menuNeedsUpdate();
         }
     });
-    onBroadcast(notifications::addressUpdated, [this](const auto &) {
+    m_observations.onBroadcast(notifications::addressUpdated, [this](const auto &) {
         m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
     });
-    onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
+    m_observations.onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
         f.advancedPreferences.checkButtonStatus();
         f.statusMenu.menuNeedsUpdate();
     });
-    onBroadcast(notifications::closeVendorViewPopover,
+    m_observations.onBroadcast(notifications::closeVendorViewPopover,
         [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
-    onBroadcast(notifications::toggleCheckbox,
+    m_observations.onBroadcast(notifications::toggleCheckbox,
         [&f](const auto &toggled) { f.rules.switches.toggleRule(toggled.userInfo); });
 
-    m_distributedTokens.push_back(
-        m_platform.distributedNotifications.addObserver(notifications::helperUpdated,
-            notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); }));
-}
-
-void EventWiring::onSetting(const QString &key, std::function<void()> reactions)
-{
-    m_settingsTokens.push_back(m_platform.settings.addObserver(
-        key, [reactions = std::move(reactions)](const SettingsStore::Change &) { reactions(); }));
-}
-
-void EventWiring::onBroadcast(
-    const QString &name, std::function<void(const NotificationCenter::Notification &)> reactions)
-{
-    m_notificationTokens.push_back(
-        m_platform.notifications.addObserver(name, std::move(reactions)));
+    m_observations.onBroadcastOfOthers(notifications::helperUpdated,
+        notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); });
 }
 
 void EventWiring::postTerminateLoginHelper()

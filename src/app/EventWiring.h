@@ -5,14 +5,9 @@
 #include "app/CountdownAudience.h"
 #include "app/NetworkChange.h"
 #include "app/NetworkEvents.h"
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/NotificationCenter.h"
-#include "platform/SettingsStore.h"
+#include "app/Observations.h"
 
 #include <QObject>
-
-#include <functional>
-#include <vector>
 
 namespace quillon {
 
@@ -30,7 +25,6 @@ class EventWiring : public QObject
 public:
     EventWiring(const Platform &platform, Features &features, RecordSaving &recordSaving,
         Termination &termination);
-    ~EventWiring() override;
 
     /// The event sources: settings, broadcasts, the system. Once, from startup.
     void setupNotifications();
@@ -54,9 +48,6 @@ private:
     {
         connect(&from, signal, this, reactions);
     }
-    void onSetting(const QString &key, std::function<void()> reactions);
-    void onBroadcast(const QString &name,
-        std::function<void(const NotificationCenter::Notification &)> reactions);
     void postTerminateLoginHelper();
 
     const Platform &m_platform;
@@ -66,9 +57,7 @@ private:
     NetworkChange m_networkChange;
     NetworkEvents m_networkEvents;
     CountdownAudience m_countdownAudience;
-    std::vector<SettingsStore::Token> m_settingsTokens;
-    std::vector<NotificationCenter::Token> m_notificationTokens;
-    std::vector<DistributedNotificationCenter::Token> m_distributedTokens;
+    Observations m_observations;
 };
 
 } // namespace quillon
