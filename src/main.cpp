@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "DesktopPlatform.h"
-#include "app/QuillonAppDelegate.h"
+#include "UserInterfaceModels.h"
 #include "base/Languages.h"
 #include "base/Log.h"
 #include "platform/linux/TerminationSignals.h"
@@ -12,7 +12,6 @@
 #include "platform/linux/desktop/TrayHostWatch.h"
 #include "platform/linux/desktop/X11TaskBar.h"
 #include "platform/qt/settings/PropertyListFile.h"
-#include "ui/UserInterface.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -50,28 +49,6 @@ int bringOtherToTheFront(QApplication &application, SessionInstance &instance)
 {
     instance.activateOther([&application](bool reached) { application.exit(reached ? 0 : 1); });
     return application.exec();
-}
-
-UserInterface::Models modelsOf(Features &features)
-{
-    NetworkFeature &networks = features.networks;
-    RuleFeature &rules = features.rules;
-    VendorFeature &vendors = features.vendors;
-    return {.window = {features.mainWindow, features.readMe, features.presence},
-        .statusMenu = features.statusMenu,
-        .fileMenu = features.fileMenu,
-        .editMenu = features.editMenu,
-        .savedLists = networks.savedLists,
-        .removedInMainWindow = networks.removedInMainWindow,
-        .savedItems = {{networks.savedLists, networks.savedEntryPopover},
-            networks.removedFromSavedItems, features.presence},
-        .network = networks.info,
-        .externalAddress = networks.externalAddressShown,
-        .rules = {rules.status, rules.list},
-        .countdown = rules.countdown,
-        .vendorField = vendors.field,
-        .vendorInfo = vendors.info,
-        .vendorPane = vendors.pane};
 }
 
 int guard(const QString &device, int &argc, char **argv)

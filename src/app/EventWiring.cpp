@@ -7,22 +7,13 @@
 #include "app/features/Features.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
-#include "platform/NetworkChangeSource.h"
 #include "platform/Platform.h"
-#include "platform/Reachability.h"
-#include "platform/SystemSleep.h"
-
-#include <QPointer>
-
-#include <utility>
 
 namespace quillon {
 
 namespace {
 
 constexpr std::chrono::milliseconds terminateLoginHelperDelay{1000};
-constexpr std::chrono::milliseconds readingAgainDelay{1000};
-constexpr int readingsAgain = 5;
 
 } // namespace
 
@@ -35,8 +26,10 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     , m_networkChange({features.networks.externalAddress, features.devices.table,
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
           features.rules.execution, features.rules.evaluation, features.rules.list})
+    , m_networkEvents(platform, m_networkChange)
     , m_countdownAudience(
           features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
+    , m_observations(platform)
 {
     connectHelper();
     connectSelection();
@@ -44,22 +37,10 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectRules();
     connectRecords();
     connectNetworks();
+    connectNetworkEvents();
     connectVendorData();
     connectVendorField();
     connectProgram();
-}
-
-EventWiring::~EventWiring()
-{
-    for (const auto token : m_notificationTokens) {
-        m_platform.notifications.removeObserver(token);
-    }
-    for (const auto token : m_distributedTokens) {
-        m_platform.distributedNotifications.removeObserver(token);
-    }
-    for (const auto token : m_settingsTokens) {
-        m_platform.settings.removeObserver(token);
-    }
 }
 
 void EventWiring::connectHelper()
@@ -183,7 +164,7 @@ void EventWiring::connectRecords()
     on(store, &RecordStore::undoChanged, [&editMenu] { editMenu.refresh(); });
     on(editMenu, &EditMenuModel::saveRequested, [this] { m_recordSaving.saveAction(); });
     on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
-    onBroadcast(notifications::updateNamesArray,
+    m_observations.onBroadcast(notifications::updateNamesArray,
         [&rules](const auto &) { rules.queries.updateNamesArray(); });
     const auto showOtherRecords = [&rules, &editMenu] {
         rules.queries.updateNamesArray();
@@ -212,6 +193,13 @@ void EventWiring::connectNetworks()
         [&networks] { networks.savedEntryPopover.closeNetworkPopover(); });
     on(networks.addressEditing, &SavedAddressEditing::editingFinished,
         [&networks] { networks.savedEntryPopover.closeAddressPopover(); });
+}
+
+void EventWiring::connectNetworkEvents()
+{
+    Features &f = m_features;
+    on(m_networkEvents, &NetworkEvents::interfacesRead, [&f] { f.devices.driftAlarm.look(); });
+    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
 }
 
 void EventWiring::connectVendorData()
@@ -280,17 +268,7 @@ void EventWiring::setupNotifications()
     // What startup read is what is known; the first rule check looks at all of it.
     m_features.devices.table.forgetAllNews();
     m_features.devices.driftAlarm.begin();
-    // The sources outlive this.
-    const auto lookAgain = [self = QPointer(this)] {
-        if (self) {
-            self->m_failedReadings = 0;
-            self->postNetworkChanges();
-        }
-    };
-    m_platform.networkChanges.start(lookAgain);
-    // Much can have happened in a sleep, and not all of it is told of.
-    m_platform.sleep.watch(lookAgain);
-    m_platform.reachability.watch(lookAgain);
+    m_networkEvents.begin();
     // A login item that started us has done its work.
     postTerminateLoginHelper();
 }
@@ -298,31 +276,34 @@ void EventWiring::setupNotifications()
 void EventWiring::observeSettings()
 {
     Features &f = m_features;
-    onSetting(keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
-    onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
-    onSetting(keys::loginStart, [this] {
+    m_observations.onSetting(
+        keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
+    m_observations.onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
+    m_observations.onSetting(keys::loginStart, [this] {
         m_platform.scheduler.onMainAfter(
             terminateLoginHelperDelay, this, [this] { postTerminateLoginHelper(); });
     });
-    onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
-    onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
+    m_observations.onSetting(keys::showInMenu, [&f] { f.presence.updateMenu(); });
+    m_observations.onSetting(keys::hideDock, [&f] { f.presence.updateDock(); });
     // The recorder may write the combination after its switch was turned on.
     for (const QString &key : {keys::showKeyEnabled, keys::showKeyCombo}) {
-        onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
+        m_observations.onSetting(key, [&f] { f.hotKeys.updateShowKey(); });
     }
     for (const QString &key : {keys::randomKeyEnabled, keys::randomKeyCombo}) {
-        onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
+        m_observations.onSetting(key, [&f] { f.hotKeys.updateRandomKey(); });
     }
-    onSetting(keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
-    onSetting(keys::shouldUpdateExternalIP,
+    m_observations.onSetting(
+        keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
+    m_observations.onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });
-    onSetting(keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
+    m_observations.onSetting(
+        keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
 }
 
 void EventWiring::observeBroadcasts()
 {
     Features &f = m_features;
-    onBroadcast(notifications::networkChanged, [this](const auto &posted) {
+    m_observations.onBroadcast(notifications::networkChanged, [this](const auto &posted) {
         const QVariant device = posted.userInfo.value(record::device);
         if (device.isValid()) {
             m_networkChange.networkChanged(device.toString());
@@ -331,74 +312,20 @@ void EventWiring::observeBroadcasts()
             m_features.statusMenu.menuNeedsUpdate();
         }
     });
-    onBroadcast(notifications::addressUpdated, [this](const auto &) {
+    m_observations.onBroadcast(notifications::addressUpdated, [this](const auto &) {
         m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
     });
-    onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
+    m_observations.onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
         f.advancedPreferences.checkButtonStatus();
         f.statusMenu.menuNeedsUpdate();
     });
-    onBroadcast(notifications::closeVendorViewPopover,
+    m_observations.onBroadcast(notifications::closeVendorViewPopover,
         [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
-    onBroadcast(notifications::toggleCheckbox,
+    m_observations.onBroadcast(notifications::toggleCheckbox,
         [&f](const auto &toggled) { f.rules.switches.toggleRule(toggled.userInfo); });
 
-    m_distributedTokens.push_back(
-        m_platform.distributedNotifications.addObserver(notifications::helperUpdated,
-            notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); }));
-}
-
-void EventWiring::postNetworkChanges()
-{
-    // One change of the network is about one interface. The system tells of several at once.
-    const QPointer self(this);
-    const std::optional<QStringList> read = m_networkChange.readInterfaces();
-    if (read) {
-        m_features.devices.driftAlarm.look();
-    } else {
-        readInterfacesAgain();
-    }
-    QStringList changed = read.value_or(QStringList());
-    if (changed.isEmpty()) {
-        changed.append(QString());
-    }
-    for (const QString &device : std::as_const(changed)) {
-        if (self) {
-            m_platform.notifications.post(
-                notifications::networkChanged, this, {{record::device, device}});
-        }
-    }
-    if (self) {
-        m_networkChange.makeUpForWithheld();
-        m_features.statusMenu.menuNeedsUpdate();
-    }
-}
-
-// The system told of something, and will not tell of it again.
-void EventWiring::readInterfacesAgain()
-{
-    if (m_isReadingAgain || m_failedReadings == readingsAgain) {
-        return;
-    }
-    ++m_failedReadings;
-    m_isReadingAgain = true;
-    m_platform.scheduler.onMainAfter(readingAgainDelay, this, [this] {
-        m_isReadingAgain = false;
-        postNetworkChanges();
-    });
-}
-
-void EventWiring::onSetting(const QString &key, std::function<void()> reactions)
-{
-    m_settingsTokens.push_back(m_platform.settings.addObserver(
-        key, [reactions = std::move(reactions)](const SettingsStore::Change &) { reactions(); }));
-}
-
-void EventWiring::onBroadcast(
-    const QString &name, std::function<void(const NotificationCenter::Notification &)> reactions)
-{
-    m_notificationTokens.push_back(
-        m_platform.notifications.addObserver(name, std::move(reactions)));
+    m_observations.onBroadcastOfOthers(notifications::helperUpdated,
+        notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); });
 }
 
 void EventWiring::postTerminateLoginHelper()

@@ -4,14 +4,10 @@
 
 #include "app/CountdownAudience.h"
 #include "app/NetworkChange.h"
-#include "platform/DistributedNotificationCenter.h"
-#include "platform/NotificationCenter.h"
-#include "platform/SettingsStore.h"
+#include "app/NetworkEvents.h"
+#include "app/Observations.h"
 
 #include <QObject>
-
-#include <functional>
-#include <vector>
 
 namespace quillon {
 
@@ -29,7 +25,6 @@ class EventWiring : public QObject
 public:
     EventWiring(const Platform &platform, Features &features, RecordSaving &recordSaving,
         Termination &termination);
-    ~EventWiring() override;
 
     /// The event sources: settings, broadcasts, the system. Once, from startup.
     void setupNotifications();
@@ -41,6 +36,7 @@ private:
     void connectRules();
     void connectRecords();
     void connectNetworks();
+    void connectNetworkEvents();
     void connectVendorData();
     void connectVendorField();
     void connectProgram();
@@ -52,11 +48,6 @@ private:
     {
         connect(&from, signal, this, reactions);
     }
-    void onSetting(const QString &key, std::function<void()> reactions);
-    void onBroadcast(const QString &name,
-        std::function<void(const NotificationCenter::Notification &)> reactions);
-    void postNetworkChanges();
-    void readInterfacesAgain();
     void postTerminateLoginHelper();
 
     const Platform &m_platform;
@@ -64,12 +55,9 @@ private:
     RecordSaving &m_recordSaving;
     Termination &m_termination;
     NetworkChange m_networkChange;
+    NetworkEvents m_networkEvents;
     CountdownAudience m_countdownAudience;
-    int m_failedReadings = 0; ///< of the interfaces, since the system told of something
-    bool m_isReadingAgain = false;
-    std::vector<SettingsStore::Token> m_settingsTokens;
-    std::vector<NotificationCenter::Token> m_notificationTokens;
-    std::vector<DistributedNotificationCenter::Token> m_distributedTokens;
+    Observations m_observations;
 };
 
 } // namespace quillon

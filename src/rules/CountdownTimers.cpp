@@ -9,7 +9,6 @@
 #include "devices/AddressChanger.h"
 #include "devices/DeviceTable.h"
 #include "platform/NotificationCenter.h"
-#include "rules/CountdownText.h"
 #include "rules/RuleQueries.h"
 
 #include <algorithm>
@@ -18,35 +17,9 @@
 
 namespace quillon {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr std::chrono::milliseconds tickInterval{1000};
-constexpr qint64 secondsInMinute = 60;
-constexpr int warnedInterval = 1;
-// Nobody sees when an unwatched countdown acts: in the middle of the time in which 0 seconds
-// remain.
-constexpr std::chrono::milliseconds halfTick = tickInterval / 2;
-
-namespace key {
-
-const QString startDate = u"startDate"_s;
-const QString interval = u"interval"_s;
-const QString timer = u"timer"_s;
-const QString isPaused = u"isPaused"_s;
-const QString remaining = u"remaining"_s;
-const QString label = u"label"_s;
-const QString display = u"display"_s;
-const QString menu = u"menu"_s;
-
-} // namespace key
-
-QString markedAsPaused(const QString &text)
-{
-    const QString mark = localized("(paused)");
-    return text.contains(mark) ? text : text + u' ' + mark;
-}
 
 } // namespace
 
@@ -57,8 +30,8 @@ CountdownTimers::CountdownTimers(const Collaborators &collaborators)
 
 CountdownTimers::~CountdownTimers()
 {
-    for (Countdown &countdown : m_timers) {
-        dropTimer(countdown);
+    for (Timer &timer : m_timers) {
+        drop(timer);
     }
 }
 
@@ -68,7 +41,7 @@ void CountdownTimers::setWatched(bool watched)
         return;
     }
     for (auto entry = m_timers.begin(); entry != m_timers.end(); ++entry) {
-        setTimer(entry.key(), *entry);
+        set(entry.key(), *entry);
     }
     const QStringList devices = watched ? m_timers.keys() : QStringList();
     for (const QString &device : devices) {
@@ -76,36 +49,23 @@ void CountdownTimers::setWatched(bool watched)
     }
 }
 
-void CountdownTimers::setTimer(const QString &device, Countdown &countdown)
+void CountdownTimers::set(const QString &device, Timer &timer)
 {
-    dropTimer(countdown);
+    drop(timer);
     // The destructor ends what is set here.
     const Scheduler::Task check = [this, device] { checkCountdownTimer(device); };
     if (m_isWatched) {
-        countdown.ticker = m_deps.scheduler.repeat(tickInterval, check);
-    } else if (const std::optional<QDateTime> moment = nextAct(countdown)) {
-        countdown.alarm = m_deps.scheduler.alarmAt(*moment, check);
+        timer.ticker = m_deps.scheduler.repeat(tickInterval, check);
+    } else if (const std::optional<QDateTime> moment =
+                   timer.countdown.nextAct(m_deps.scheduler.now(), tickInterval)) {
+        timer.alarm = m_deps.scheduler.alarmAt(*moment, check);
     }
 }
 
-void CountdownTimers::dropTimer(Countdown &countdown)
+void CountdownTimers::drop(Timer &timer)
 {
-    m_deps.scheduler.cancel(std::exchange(countdown.ticker, 0));
-    countdown.alarm.reset();
-}
-
-/// When an unwatched countdown has something to do; a paused one never has.
-std::optional<QDateTime> CountdownTimers::nextAct(const Countdown &countdown) const
-{
-    if (countdown.pausedRemaining) {
-        return std::nullopt;
-    }
-    const bool isNextTick = countdown.interval <= 0 ||
-                            (countdown.interval == warnedInterval && !countdown.minuteWarningGiven);
-    const QDateTime soon = m_deps.scheduler.now().addMSecs(halfTick.count());
-    const QDateTime end = countdown.startDate.addSecs(countdown.interval * secondsInMinute)
-                              .addMSecs(-halfTick.count());
-    return isNextTick ? soon.addMSecs(halfTick.count()) : std::max(soon, end);
+    m_deps.scheduler.cancel(std::exchange(timer.ticker, 0));
+    timer.alarm.reset();
 }
 
 void CountdownTimers::startCountDownTimer(const QString &device)
@@ -115,11 +75,10 @@ void CountdownTimers::startCountDownTimer(const QString &device)
     countdown.startDate = m_deps.scheduler.now();
     countdown.interval = minutesOfRule(device);
     countdown.number = ++m_lastNumber;
-    setTimer(device, m_timers[device] = countdown);
+    set(device, m_timers[device] = Timer{.countdown = countdown});
     // By now the start has passed, if by less than the clock tells.
     const QDateTime soon = countdown.startDate.addMSecs(1);
-    const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
-        countdown.startDate, countdown.interval, std::max(soon, m_deps.scheduler.now()));
+    const CountdownText text = countdown.textAt(std::max(soon, m_deps.scheduler.now()));
     m_deps.notifier.sendNotificationWithBody(
         localized("Quillon Timer started"), text.displayString);
 }
@@ -138,7 +97,7 @@ void CountdownTimers::stopCountdownTimer(const QString &device)
     const auto found = m_timers.find(device);
     const bool wasRunning = found != m_timers.end();
     if (wasRunning) {
-        dropTimer(*found);
+        drop(*found);
         m_timers.erase(found);
     }
     if (wasRunning || m_timers.isEmpty()) {
@@ -154,12 +113,12 @@ void CountdownTimers::pauseCountdownTimer(const QString &device)
     if (found == m_timers.end()) {
         return;
     }
-    const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
-        found->startDate, found->interval, m_deps.scheduler.now());
-    found->pausedRemaining = text.remaining;
+    Countdown &countdown = found->countdown;
+    const CountdownText text = countdown.textAt(m_deps.scheduler.now());
+    countdown.pausedRemaining = text.remaining;
     if (!m_isWatched) {
-        found->display = text.displayString;
-        setTimer(device, *found);
+        countdown.display = text.displayString;
+        set(device, *found);
     }
 }
 
@@ -167,14 +126,14 @@ void CountdownTimers::resumeCountdownTimer(const QString &device)
 {
     Q_EMIT pauseOrResumeRequested();
     const auto found = m_timers.find(device);
-    if (found == m_timers.end() || !found->pausedRemaining) {
+    if (found == m_timers.end() || !found->countdown.pausedRemaining) {
         return;
     }
-    const qint64 remaining = *std::exchange(found->pausedRemaining, std::nullopt);
+    const qint64 remaining = *std::exchange(found->countdown.pausedRemaining, std::nullopt);
     if (!m_isWatched) {
         // No tick has done it.
-        goOnFrom(*found, remaining, m_deps.scheduler.now());
-        setTimer(device, *found);
+        found->countdown.goOnFrom(remaining, m_deps.scheduler.now());
+        set(device, *found);
     }
 }
 
@@ -185,12 +144,13 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
         return;
     }
     const QDateTime now = m_deps.scheduler.now();
-    const CountdownText text =
-        generateTimerCountdownStringForStartDateAndInterval(found->startDate, found->interval, now);
-    showTime(*found, text.displayString, now);
-    const bool warns = takeMinuteWarning(*found, text.remaining);
-    // A copy: whoever hears of the tick may end or restart the countdown.
-    const Countdown countdown = *found;
+    const CountdownText text = found->countdown.textAt(now);
+    found->countdown.showTime(text.displayString, now);
+    const bool warns = found->countdown.takeMinuteWarning(text.remaining);
+    // A copy: whoever hears of the tick may end or restart the countdown. Its alarm, whose task
+    // this may be, is kept as well.
+    const Timer timer = *found;
+    const Countdown &countdown = timer.countdown;
     Q_EMIT ticked(device, *countdown.display, countdown.pausedRemaining.has_value());
     if (warns) {
         m_deps.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
@@ -199,44 +159,16 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
         actOnRemaining(device, countdown, text.remaining);
     }
     if (!m_isWatched && isRunning(device, countdown.number)) {
-        setTimer(device, m_timers[device]);
+        set(device, m_timers[device]);
     }
     postOverview();
-}
-
-void CountdownTimers::showTime(Countdown &countdown, const QString &text, const QDateTime &now)
-{
-    QString shown = text;
-    if (const std::optional<qint64> paused = countdown.pausedRemaining) {
-        shown = markedAsPaused(countdown.display.value_or(text));
-        goOnFrom(countdown, *paused, now);
-    }
-    countdown.display = shown;
-}
-
-/// So that after resuming it goes on from where it was paused.
-void CountdownTimers::goOnFrom(Countdown &countdown, qint64 remaining, const QDateTime &now)
-{
-    countdown.startDate = now.addSecs(remaining - countdown.interval * secondsInMinute + 1);
-}
-
-bool CountdownTimers::takeMinuteWarning(Countdown &countdown, qint64 remaining)
-{
-    if (remaining > secondsInMinute) {
-        countdown.minuteWarningGiven = false;
-    }
-    // The tick that passes the minute counts: the first one comes when a second is gone already.
-    const bool due = countdown.interval == warnedInterval && remaining > 0 &&
-                     remaining <= secondsInMinute && !countdown.minuteWarningGiven &&
-                     !countdown.pausedRemaining;
-    countdown.minuteWarningGiven = countdown.minuteWarningGiven || due;
-    return due;
 }
 
 bool CountdownTimers::isRunning(const QString &device, qulonglong number) const
 {
     const auto found = m_timers.constFind(device);
-    return found != m_timers.constEnd() && found->number == number && !found->pausedRemaining;
+    return found != m_timers.constEnd() && found->countdown.number == number &&
+           !found->countdown.pausedRemaining;
 }
 
 void CountdownTimers::actOnRemaining(
@@ -264,7 +196,7 @@ void CountdownTimers::setMenuItemShown(const QString &device, bool shown)
 {
     const auto found = m_timers.find(device);
     if (found != m_timers.end()) {
-        found->hasMenuItem = shown;
+        found->countdown.hasMenuItem = shown;
     }
 }
 
@@ -274,40 +206,18 @@ std::optional<CountdownTimers::Showing> CountdownTimers::showing(const QString &
     if (found == m_timers.constEnd()) {
         return std::nullopt;
     }
-    return Showing{found->display, found->pausedRemaining.has_value()};
+    return Showing{found->countdown.display, found->countdown.pausedRemaining.has_value()};
 }
 
 QVariantMap CountdownTimers::timers() const
 {
     QVariantMap table;
     for (auto entry = m_timers.cbegin(); entry != m_timers.cend(); ++entry) {
-        table[entry.key()] = asPropertyList(entry.key(), *entry);
+        QVariantMap countdown = entry->countdown.asPropertyList();
+        countdown[record::device] = entry.key();
+        table[entry.key()] = countdown;
     }
     return table;
-}
-
-QVariantMap CountdownTimers::asPropertyList(const QString &device, const Countdown &countdown)
-{
-    QVariantMap entry{
-        {record::device, device},
-        {key::startDate, countdown.startDate},
-        {key::interval, static_cast<qlonglong>(countdown.interval)},
-        {key::timer, static_cast<qlonglong>(countdown.number)},
-    };
-    if (countdown.pausedRemaining) {
-        entry[key::isPaused] = QVariantMap{{key::remaining, *countdown.pausedRemaining}};
-    }
-    QVariantMap label;
-    if (countdown.display) {
-        label[key::display] = *countdown.display;
-    }
-    if (countdown.hasMenuItem) {
-        label[key::menu] = countdownMenuTitle(countdown.display.value_or(QString()));
-    }
-    if (!label.isEmpty()) {
-        entry[key::label] = label;
-    }
-    return entry;
 }
 
 void CountdownTimers::postOverview()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Scheduler.h"
+#include "rules/Countdown.h"
 
 #include <QHash>
 #include <QObject>
@@ -82,28 +83,17 @@ Q_SIGNALS:
     void pauseOrResumeRequested();
 
 private:
-    struct Countdown
+    struct Timer
     {
-        QDateTime startDate;
-        int interval = 0;                        ///< minutes
-        qulonglong number = 0;                   ///< no other start has it
-        Scheduler::Token ticker = 0;             ///< while watched
-        std::shared_ptr<Scheduler::Alarm> alarm; ///< while not
-        std::optional<qint64> pausedRemaining;   ///< seconds; while paused
-        std::optional<QString> display;
-        bool hasMenuItem = false;
-        bool minuteWarningGiven = false;
+        Countdown countdown;
+        Scheduler::Token ticker = {};                 ///< while watched
+        std::shared_ptr<Scheduler::Alarm> alarm = {}; ///< while not
     };
 
     int minutesOfRule(const QString &device) const;
-    static QVariantMap asPropertyList(const QString &device, const Countdown &countdown);
-    static void showTime(Countdown &countdown, const QString &text, const QDateTime &now);
-    static void goOnFrom(Countdown &countdown, qint64 remaining, const QDateTime &now);
-    static bool takeMinuteWarning(Countdown &countdown, qint64 remaining);
     bool isRunning(const QString &device, qulonglong number) const;
-    void setTimer(const QString &device, Countdown &countdown);
-    void dropTimer(Countdown &countdown);
-    std::optional<QDateTime> nextAct(const Countdown &countdown) const;
+    void set(const QString &device, Timer &timer);
+    void drop(Timer &timer);
     void checkCountdownTimer(const QString &device);
     void actOnRemaining(const QString &device, const Countdown &countdown, qint64 remaining);
     void expire(const QString &device, qulonglong number);
@@ -112,7 +102,7 @@ private:
     Collaborators m_deps;
     bool m_isWatched = true;
     qulonglong m_lastNumber = 0;
-    QHash<QString, Countdown> m_timers;
+    QHash<QString, Timer> m_timers;
 };
 
 } // namespace quillon

@@ -122,30 +122,11 @@ void FaceProgram::saveAddress(const QString &address, const QString &name)
     machine.settings.set(keys::savedAddresses, list);
 }
 
-UserInterface::Models FaceProgram::modelsOf(Features &features)
-{
-    return {.window = {features.mainWindow, features.readMe, features.presence},
-        .statusMenu = features.statusMenu,
-        .fileMenu = features.fileMenu,
-        .editMenu = features.editMenu,
-        .savedLists = features.networks.savedLists,
-        .removedInMainWindow = features.networks.removedInMainWindow,
-        .savedItems = {{features.networks.savedLists, features.networks.savedEntryPopover},
-            features.networks.removedFromSavedItems, features.presence},
-        .network = features.networks.info,
-        .externalAddress = features.networks.externalAddressShown,
-        .rules = {features.rules.status, features.rules.list},
-        .countdown = features.rules.countdown,
-        .vendorField = features.vendors.field,
-        .vendorInfo = features.vendors.info,
-        .vendorPane = features.vendors.pane};
-}
-
 void FaceProgram::start()
 {
     m_program.emplace(machine.platform());
-    m_interface.emplace(modelsOf(features()), UserInterface::Desktop{m_trayHost, m_taskBar,
-                                                  m_appearance, m_compositing, machine.scheduler});
+    m_interface.emplace(features(), machine.scheduler);
+    m_interface->appearance.become(m_appearance);
     LaunchSequence &launch = m_program->launch();
     launch.awakeFromNib();
     launch.applicationWillFinishLaunching();

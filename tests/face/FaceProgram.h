@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/QuillonAppDelegate.h"
-#include "fakes/FakeCompositing.h"
+#include "face/InterfaceOnFakes.h"
 #include "fakes/FakePlatform.h"
-#include "platform/desktop/AppearanceSource.h"
-#include "platform/desktop/TaskBar.h"
-#include "platform/desktop/TrayHost.h"
-#include "ui/UserInterface.h"
 
 #include <QApplication>
 
@@ -61,42 +56,12 @@ public:
     FakePlatform machine;
 
 private:
-    class ChosenAppearance : public AppearanceSource
-    {
-    public:
-        explicit ChosenAppearance(const Appearance &appearance)
-            : m_appearance(appearance)
-        {
-        }
-        void watch(std::function<void(const Appearance &)> observer) override
-        {
-            observer(m_appearance);
-        }
-
-    private:
-        Appearance m_appearance;
-    };
-    class NoTrayHost : public TrayHost
-    {
-    public:
-        void watch(std::function<void(bool)>) override {}
-    };
-    class NoTaskBar : public TaskBar
-    {
-    public:
-        void setSkipped(quintptr, bool) override {}
-    };
-
     void fillMachine();
     void fillRegistry();
-    static UserInterface::Models modelsOf(Features &features);
 
-    ChosenAppearance m_appearance;
-    NoTrayHost m_trayHost;
-    NoTaskBar m_taskBar;
-    FakeCompositing m_compositing;
+    Appearance m_appearance;
     std::optional<QuillonAppDelegate> m_program;
-    std::optional<UserInterface> m_interface;
+    std::optional<InterfaceOnFakes> m_interface;
 };
 
 } // namespace quillon::test

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "presentation/window/AddressFieldLine.h"
+#include "presentation/window/ChangeButtons.h"
 
 #include <QHash>
 #include <QObject>
@@ -13,15 +14,6 @@ namespace quillon {
 
 class AddressChanger;
 struct ChangeOutcome;
-
-/// The buttons of the main window that change an address.
-enum class ChangeButton
-{
-    None,
-    Randomize,
-    Apply,
-    Restore,
-};
 
 /// Which interfaces are being changed, whoever asked for it, and what became of the last change of
 /// each. Main thread.

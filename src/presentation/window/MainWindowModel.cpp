@@ -154,7 +154,7 @@ void MainWindowModel::checkUpdateButton()
         if (isBare || state.fieldText.size() == fullLength) {
             state.fieldText = shown;
         }
-        m_canUpdate = !isWithoutInterface() && state.fieldText.size() == fullLength &&
+        m_canUpdate = isSelectedPresent() && state.fieldText.size() == fullLength &&
                       isStringValidHEX(shown) && shown.compare(current, Qt::CaseInsensitive) != 0;
     });
 }
@@ -252,13 +252,17 @@ void MainWindowModel::fillInterfaceDetails(State &state)
     state.ipAddress = record.ipAddress.value_or(QString());
     state.linkActive = record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
-    m_canRestore = m_helperInstalled && !isWithoutInterface() &&
+    m_canRestore = m_helperInstalled && isSelectedPresent() &&
                    isStringValidHEX(state.hardwareAddress) && state.hardwareIndicatorVisible;
 }
 
-bool MainWindowModel::isWithoutInterface() const
+ChangeButtons::Selected MainWindowModel::selected() const
 {
-    return m_interfacesShown && !m_deps.devices.isPresent(m_deps.currentInterface.device());
+    const QString device = m_deps.currentInterface.device();
+    if (!m_interfacesShown || m_deps.devices.isPresent(device)) {
+        return ChangeButtons::Selected::Present;
+    }
+    return device.isEmpty() ? ChangeButtons::Selected::None : ChangeButtons::Selected::Gone;
 }
 
 AddressFieldLine MainWindowModel::lineFor(const State &state) const
@@ -269,7 +273,7 @@ AddressFieldLine MainWindowModel::lineFor(const State &state) const
     if (!m_helperInstalled) {
         return m_isHelperKnown ? AddressFieldLine::withoutHelper() : AddressFieldLine();
     }
-    if (isWithoutInterface() && !m_deps.currentInterface.device().isEmpty()) {
+    if (selected() == ChangeButtons::Selected::Gone) {
         return AddressFieldLine::interfaceGone();
     }
     return m_progress.lineFor(m_deps.currentInterface.device(), state.currentAddress)
@@ -278,37 +282,20 @@ AddressFieldLine MainWindowModel::lineFor(const State &state) const
 
 void MainWindowModel::fillButtons(State &state) const
 {
-    const auto enabled = [&state](ChangeButton button, bool isPossible) {
-        return state.changing ? state.busyButton == button : isPossible;
-    };
-    state.updateEnabled = enabled(ChangeButton::Apply, m_canUpdate);
-    state.randomizeEnabled =
-        enabled(ChangeButton::Randomize, m_mayRandomize && !isWithoutInterface());
-    state.restoreEnabled = enabled(ChangeButton::Restore, m_canRestore);
-    const auto why = [&](ChangeButton button, bool isEnabled, const QString &otherwise) {
-        return isEnabled && state.busyButton != button ? QString() : whyDisabled(state, otherwise);
-    };
-    state.whyNoUpdate = why(ChangeButton::Apply, state.updateEnabled,
-        localized("The field holds no other address to apply"));
-    state.whyNoRandomize = why(ChangeButton::Randomize, state.randomizeEnabled, QString());
-    state.whyNoRestore = why(ChangeButton::Restore, state.restoreEnabled,
-        isStringValidHEX(state.hardwareAddress)
-            ? localized("The interface has its factory address")
-            : localized("The interface has no factory address that is known"));
-}
-
-QString MainWindowModel::whyDisabled(const State &state, const QString &otherwise) const
-{
-    if (state.changing) {
-        return localized("The address is being changed");
-    }
-    if (isWithoutInterface()) {
-        return m_deps.currentInterface.device().isEmpty()
-                   ? localized("No interface is selected: there is none whose address can be "
-                               "changed")
-                   : localized("The selected interface is not there");
-    }
-    return m_helperInstalled ? otherwise : localized("The helper tool is not installed");
+    const ChangeButtons buttons{.canRandomize = m_mayRandomize,
+        .canApply = m_canUpdate,
+        .canRestore = m_canRestore,
+        .isHelperInstalled = m_helperInstalled,
+        .hasFactoryAddress = isStringValidHEX(state.hardwareAddress),
+        .selected = selected(),
+        .isChanging = state.changing,
+        .busy = state.busyButton};
+    state.updateEnabled = buttons.isEnabled(ChangeButton::Apply);
+    state.randomizeEnabled = buttons.isEnabled(ChangeButton::Randomize);
+    state.restoreEnabled = buttons.isEnabled(ChangeButton::Restore);
+    state.whyNoUpdate = buttons.whyNot(ChangeButton::Apply);
+    state.whyNoRandomize = buttons.whyNot(ChangeButton::Randomize);
+    state.whyNoRestore = buttons.whyNot(ChangeButton::Restore);
 }
 
 } // namespace quillon

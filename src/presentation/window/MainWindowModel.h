@@ -146,10 +146,10 @@ private:
     void fillInterfaceDetails(State &state);
     /// What depends on several facts, after each change of any of them.
     void fillButtons(State &state) const;
-    QString whyDisabled(const State &state, const QString &otherwise) const;
     AddressFieldLine lineFor(const State &state) const;
-    /// None is selected, or the selected one is not there.
-    bool isWithoutInterface() const;
+    /// Until the interfaces were shown for the first time the selected one counts as present.
+    ChangeButtons::Selected selected() const;
+    bool isSelectedPresent() const { return selected() == ChangeButtons::Selected::Present; }
     template <typename Change>
     void update(Change change);
     template <typename Act>

@@ -2,12 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "AddressChangeFixture.h"
 
-#include <atomic>
-#include <chrono>
-#include <future>
-#include <latch>
-#include <thread>
-
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -287,59 +281,6 @@ TEST_F(AddressChangerTest, ToTheAddressInUseNeverBegins)
     EXPECT_EQ(news, 0);
 }
 
-/// Holds up whoever tells the user something until it is let go.
-class SlowNotifier : public FakeNotifier
-{
-public:
-    void sendNotificationWithBody(const QString &, const QString &) override
-    {
-        m_entered.count_down();
-        m_letGo.wait();
-        m_done = true;
-    }
-    void waitUntilCalled() const { m_entered.wait(); }
-    void letGo() { m_letGo.count_down(); }
-    bool isDone() const { return m_done; }
-
-private:
-    std::latch m_entered{1};
-    std::latch m_letGo{1};
-    std::atomic_bool m_done{false};
-};
-
-class AddressChangerAtTheEnd : public AddressChangeFixture
-{
-protected:
-    /// Ends the changer while another thread tells the user of the change to `address`.
-    void endWhileTelling(const QString &address)
-    {
-        SlowNotifier slow;
-        changer = std::make_unique<AddressChanger>(AddressChanger::Collaborators{
-            settings, scheduler, notifications, slow, xpc, owners, table, current, randomAddress});
-        changer->updateMacAddressWithAddress(en1, address);
-        std::thread others([this] { scheduler.runPending(); });
-        slow.waitUntilCalled();
-        auto end = std::async(std::launch::async, [this, &slow] {
-            changer.reset();
-            return slow.isDone();
-        });
-        EXPECT_EQ(end.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
-        slow.letGo();
-        EXPECT_TRUE(end.get()) << "ended under the feet of another thread";
-        others.join();
-    }
-};
-
-TEST_F(AddressChangerAtTheEnd, WaitsForAReplyThatIsBeingHandled)
-{
-    endWhileTelling(wanted);
-}
-
-TEST_F(AddressChangerAtTheEnd, WaitsForATestOnTheQueue)
-{
-    endWhileTelling(u"02:16:3e:44:55:66"_s);
-}
-
 /// A user who switched notifications off: the notifier says nothing.
 TEST_F(AddressChangerTest, WithoutVisibleMessageStillRecordsHistoryAndAnnouncesIt)
 {
@@ -367,97 +308,6 @@ TEST_F(AddressChangerTest, ThatIsReadBackInOtherLettersIsAnother)
     change(en1, wanted);
     EXPECT_EQ(notifier.messages(),
         told("Wi-Fi Address Changed", "Your new MAC Address is: 02:16:3e:44:55:66"));
-}
-
-class AddressChangerReply : public AddressChangeFixture
-{
-protected:
-    /// What whoever asked is told.
-    QList<ChangeOutcome> outcomes(const QString &address)
-    {
-        QList<ChangeOutcome> answers;
-        changer->updateMacAddressWithAddress(
-            en1, address, [&](const ChangeOutcome &outcome) { answers.append(outcome); });
-        scheduler.runPending();
-        EXPECT_EQ(answers.size(), 1);
-        return answers;
-    }
-    const QString before = host.addressOf(en1);
-};
-
-TEST_F(AddressChangerReply, SaysWhetherTheAddressIsInPlace)
-{
-    const ChangeOutcome outcome = outcomes(wanted).first();
-    EXPECT_TRUE(outcome.isInPlace);
-    EXPECT_EQ(outcome.address, wanted.toLower());
-    helper.mood = FakeHelper::Mood::Lying;
-    EXPECT_FALSE(outcomes(u"02:AA:BB:CC:DD:02"_s).first().isInPlace);
-    helper.mood = FakeHelper::Mood::Refusing;
-    EXPECT_FALSE(outcomes(u"02:AA:BB:CC:DD:02"_s).first().isInPlace);
-    EXPECT_TRUE(outcomes(u"2:AA:BB:CC:DD:1"_s).first().isInPlace) << "it had that one already";
-}
-
-TEST_F(AddressChangerReply, OfTheAddressInUseSaysThatItIsInPlace)
-{
-    EXPECT_TRUE(outcomes(before).first().isInPlace);
-    EXPECT_TRUE(helper.journal().isEmpty());
-}
-
-TEST_F(AddressChangerReply, WithoutHelperOrInterfaceSaysThatItIsNot)
-{
-    helper.installed = false;
-    EXPECT_FALSE(outcomes(wanted).first().isInPlace);
-    helper.installed = true;
-    host.unplug(en1);
-    const ChangeOutcome outcome = outcomes(wanted).first();
-    EXPECT_FALSE(outcome.isInPlace);
-    EXPECT_EQ(outcome.address, QString());
-}
-
-TEST_F(AddressChangerReply, ComesAfterEverybodyElseHeardWhoKnowsOfIt)
-{
-    QStringList course;
-    QObject::connect(changer.get(), &AddressChanger::changeEnded,
-        [&](const QString &, const ChangeOutcome &outcome) {
-            course << (outcome.isReported ? u"ended, reported"_s : u"ended"_s);
-        });
-    changer->updateMacAddressWithAddress(
-        en1, wanted, [&](const ChangeOutcome &) { course << u"reply"_s; });
-    scheduler.runPending();
-    change(en1, u"02:AA:BB:CC:DD:02"_s);
-    EXPECT_EQ(course, (QStringList{u"ended, reported"_s, u"reply"_s, u"ended"_s}));
-}
-
-TEST_F(AddressChangerReply, OfAnAddressThatCannotBeReadBackSaysWhatTheHelperSaid)
-{
-    host.at(en1).broken = true;
-    host.clearJournal();
-    const ChangeOutcome outcome = outcomes(wanted).first();
-    EXPECT_TRUE(outcome.isInPlace);
-    EXPECT_EQ(outcome.address, QString());
-    EXPECT_EQ(outcome.requested, wanted);
-    EXPECT_EQ(host.journal().count(u"info "_s + en1), 2) << "read once more";
-    EXPECT_TRUE(notifier.messages().isEmpty()) << "nothing is known to be true";
-    helper.mood = FakeHelper::Mood::Refusing;
-    EXPECT_FALSE(outcomes(wanted).first().isInPlace);
-}
-
-TEST_F(AddressChangerReply, OfARandomAddressComesToo)
-{
-    random.put(QByteArray::fromHex("c0abcdef0009"));
-    bool inPlace = false;
-    changer->genRandomMacAddressWithVendor(
-        en1, std::nullopt, [&](const ChangeOutcome &outcome) { inPlace = outcome.isInPlace; });
-    scheduler.runPending();
-    EXPECT_TRUE(inPlace);
-}
-
-TEST_F(AddressChangerReply, IsNotTheMessageThatAnAddressCannotBeKept)
-{
-    changer->tellUndone(en1);
-    ASSERT_EQ(notifier.messages().size(), 1);
-    EXPECT_EQ(notifier.messages().first().title, "Wi-Fi Address was replaced"_L1);
-    EXPECT_TRUE(notifier.messages().first().body.startsWith("Another program"_L1));
 }
 
 } // namespace

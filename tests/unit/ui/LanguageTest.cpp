@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Languages.h"
 #include "base/Localized.h"
-#include "fakes/FakeAppearance.h"
-#include "fakes/FakeCompositing.h"
-#include "ui/UserInterface.h"
-#include "unit/app/ProgramOnFakes.h"
-#include "unit/ui/WindowFixture.h"
+#include "unit/ui/UserInterfaceFixture.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -25,35 +21,16 @@ using ::testing::Each;
 using ::testing::SizeIs;
 
 /// The whole program with its windows, in a language.
-class LanguageTest : public ProgramOnFakes, public ::testing::WithParamInterface<const char *>
+class LanguageTest : public UserInterfaceFixture, public ::testing::WithParamInterface<const char *>
 {
 protected:
     void runIn(const char *users)
     {
         language.emplace(QStringList{QString::fromLatin1(users)});
-        create();
-        ui.emplace(UserInterface::Models{.window = {features().mainWindow, features().readMe,
-                                             features().presence},
-                       .statusMenu = features().statusMenu,
-                       .fileMenu = features().fileMenu,
-                       .editMenu = features().editMenu,
-                       .savedLists = features().networks.savedLists,
-                       .removedInMainWindow = features().networks.removedInMainWindow,
-                       .savedItems = {{features().networks.savedLists,
-                                          features().networks.savedEntryPopover},
-                           features().networks.removedFromSavedItems, features().presence},
-                       .network = features().networks.info,
-                       .externalAddress = features().networks.externalAddressShown,
-                       .rules = {features().rules.status, features().rules.list},
-                       .countdown = features().rules.countdown,
-                       .vendorField = features().vendors.field,
-                       .vendorInfo = features().vendors.info,
-                       .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
-        start();
-        machine.scheduler.advance(std::chrono::seconds(2));
+        createWithWindows();
+        startWithWindows();
         features().presence.openWindow();
-        trayHost.become(true);
+        desktop->trayHost.become(true);
         machine.scheduler.runPending();
         QCoreApplication::processEvents();
     }
@@ -98,11 +75,6 @@ protected:
     }
 
     std::optional<UserLanguage> language;
-    FakeTrayHost trayHost;
-    FakeTaskBar taskBar;
-    FakeAppearance appearance;
-    FakeCompositing compositing;
-    std::optional<UserInterface> ui;
 };
 
 TEST_P(LanguageTest, EveryMnemonicOfTheWindowLeadsToOneControl)

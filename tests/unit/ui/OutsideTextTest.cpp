@@ -1,16 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "fakes/FakeAppearance.h"
-#include "fakes/FakeCompositing.h"
-#include "ui/UserInterface.h"
 #include "ui/menu/MenuView.h"
 #include "ui/vendors/VendorTableView.h"
 #include "ui/widgets/MessageAlerts.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/RowButton.h"
-#include "unit/app/ProgramOnFakes.h"
 #include "unit/ui/OpenedFile.h"
-#include "unit/ui/WindowFixture.h"
+#include "unit/ui/UserInterfaceFixture.h"
 #include "vendors/VendorTable.h"
 
 #include <QApplication>
@@ -60,7 +56,7 @@ const QList<OutsideText> outsideTexts{
 };
 
 /// The whole program with its windows, on a machine that somebody filled with such texts.
-class OutsideTextTest : public ProgramOnFakes, public ::testing::WithParamInterface<qsizetype>
+class OutsideTextTest : public UserInterfaceFixture, public ::testing::WithParamInterface<qsizetype>
 {
 protected:
     OutsideTextTest()
@@ -73,31 +69,12 @@ protected:
         machine.host.plug({written, u"zzz0"_s, written, u"3c:22:fb:00:00:03"_s, {written}});
         setDeviceRecord(enp1s0, record::vendor, written);
         machine.settings.set(keys::vendorIDUpdatedDate, written);
-        create();
+        createWithWindows();
         offerVendor();
-        ui.emplace(UserInterface::Models{.window = {features().mainWindow, features().readMe,
-                                             features().presence},
-                       .statusMenu = features().statusMenu,
-                       .fileMenu = features().fileMenu,
-                       .editMenu = features().editMenu,
-                       .savedLists = features().networks.savedLists,
-                       .removedInMainWindow = features().networks.removedInMainWindow,
-                       .savedItems = {{features().networks.savedLists,
-                                          features().networks.savedEntryPopover},
-                           features().networks.removedFromSavedItems, features().presence},
-                       .network = features().networks.info,
-                       .externalAddress = features().networks.externalAddressShown,
-                       .rules = {features().rules.status, features().rules.list},
-                       .countdown = features().rules.countdown,
-                       .vendorField = features().vendors.field,
-                       .vendorInfo = features().vendors.info,
-                       .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
-        start();
-        machine.scheduler.advance(std::chrono::seconds(2));
+        startWithWindows();
         machine.settings.set(keys::externalIPAddress, written);
         features().presence.openWindow();
-        trayHost.become(true);
+        desktop->trayHost.become(true);
         machine.scheduler.runPending();
     }
 
@@ -166,11 +143,6 @@ protected:
     const QString tip = orLine(outsideTexts.at(GetParam()).tip);
     const QString message = orLine(outsideTexts.at(GetParam()).message);
     std::optional<OpenedFile> opened;
-    FakeTrayHost trayHost;
-    FakeTaskBar taskBar;
-    FakeAppearance appearance;
-    FakeCompositing compositing;
-    std::optional<UserInterface> ui;
 };
 
 TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)

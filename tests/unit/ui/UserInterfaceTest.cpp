@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/UserInterface.h"
 
-#include "fakes/FakeAppearance.h"
-#include "fakes/FakeCompositing.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/RowButton.h"
-#include "unit/app/ProgramOnFakes.h"
-#include "unit/ui/WindowFixture.h"
+#include "unit/ui/UserInterfaceFixture.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -21,32 +18,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The whole program with its window open.
-class UserInterfaceTest : public ProgramOnFakes
+class UserInterfaceTest : public UserInterfaceFixture
 {
 protected:
     UserInterfaceTest()
     {
-        create();
-        ui.emplace(UserInterface::Models{.window = {features().mainWindow, features().readMe,
-                                             features().presence},
-                       .statusMenu = features().statusMenu,
-                       .fileMenu = features().fileMenu,
-                       .editMenu = features().editMenu,
-                       .savedLists = features().networks.savedLists,
-                       .removedInMainWindow = features().networks.removedInMainWindow,
-                       .savedItems = {{features().networks.savedLists,
-                                          features().networks.savedEntryPopover},
-                           features().networks.removedFromSavedItems, features().presence},
-                       .network = features().networks.info,
-                       .externalAddress = features().networks.externalAddressShown,
-                       .rules = {features().rules.status, features().rules.list},
-                       .countdown = features().rules.countdown,
-                       .vendorField = features().vendors.field,
-                       .vendorInfo = features().vendors.info,
-                       .vendorPane = features().vendors.pane},
-            UserInterface::Desktop{trayHost, taskBar, appearance, compositing, machine.scheduler});
-        start();
-        machine.scheduler.advance(std::chrono::seconds(2));
+        createWithWindows();
+        startWithWindows();
         features().presence.openWindow();
         machine.scheduler.runPending();
         for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -108,11 +86,6 @@ protected:
         return found;
     }
 
-    FakeTrayHost trayHost;
-    FakeTaskBar taskBar;
-    FakeAppearance appearance;
-    FakeCompositing compositing;
-    std::optional<UserInterface> ui;
     QWidget *window = nullptr;
 };
 
@@ -162,13 +135,13 @@ TEST_F(UserInterfaceTest, EveryControlOfEveryPopoverSaysWhatItIs)
 TEST_F(UserInterfaceTest, LooksAndMovesAsTheDesktopWants)
 {
     const QColor usual = QApplication::palette().color(QPalette::Window);
-    appearance.become({ColorScheme::Dark, false, false});
+    desktop->appearance.become({ColorScheme::Dark, false, false});
     const QColor dark = QApplication::palette().color(QPalette::Window);
     EXPECT_LT(dark.lightness(), 64);
     const QImage normal = part<QWidget>(u"updateButton"_s)->grab().toImage();
-    appearance.become({ColorScheme::Dark, true, false});
+    desktop->appearance.become({ColorScheme::Dark, true, false});
     EXPECT_NE(part<QWidget>(u"updateButton"_s)->grab().toImage(), normal) << "higher contrast";
-    appearance.become({});
+    desktop->appearance.become({});
     EXPECT_EQ(QApplication::palette().color(QPalette::Window), usual) << "no preference any more";
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/desktop/TaskBar.h"
-#include "platform/desktop/TrayHost.h"
+#include "fakes/FakeTaskBar.h"
+#include "fakes/FakeTrayHost.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "presentation/window/ReadMeModel.h"
@@ -59,26 +59,6 @@ protected:
     MainWindowModel window{{settings, scheduler, devices, current, changer}};
     ReadMeModel readMe{helper};
     StatusMenuModel menu{{settings, devices, current, changer, helper, presence, timers}};
-};
-
-/// A task bar that remembers.
-class FakeTaskBar : public TaskBar
-{
-public:
-    void setSkipped(quintptr, bool isSkipped) override { skipped = isSkipped; }
-
-    bool skipped = false;
-};
-
-/// A desktop whose tray host comes and goes.
-class FakeTrayHost : public TrayHost
-{
-public:
-    void watch(std::function<void(bool)> observer) override { m_observer = std::move(observer); }
-    void become(bool available) { m_observer(available); }
-
-private:
-    std::function<void(bool)> m_observer;
 };
 
 } // namespace quillon::test

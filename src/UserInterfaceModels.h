@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/QuillonAppDelegate.h"
+#include "ui/UserInterface.h"
+
+namespace quillon {
+
+/// Which models of the features the user interface shows. They outlive it.
+inline UserInterface::Models modelsOf(Features &features)
+{
+    NetworkFeature &networks = features.networks;
+    RuleFeature &rules = features.rules;
+    VendorFeature &vendors = features.vendors;
+    return {.window = {features.mainWindow, features.readMe, features.presence},
+        .statusMenu = features.statusMenu,
+        .fileMenu = features.fileMenu,
+        .editMenu = features.editMenu,
+        .savedLists = networks.savedLists,
+        .removedInMainWindow = networks.removedInMainWindow,
+        .savedItems = {{networks.savedLists, networks.savedEntryPopover},
+            networks.removedFromSavedItems, features.presence},
+        .network = networks.info,
+        .externalAddress = networks.externalAddressShown,
+        .rules = {rules.status, rules.list},
+        .countdown = rules.countdown,
+        .vendorField = vendors.field,
+        .vendorInfo = vendors.info,
+        .vendorPane = vendors.pane};
+}
+
+} // namespace quillon

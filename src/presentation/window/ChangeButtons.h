@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace quillon {
+
+/// The buttons of the main window that change an address.
+enum class ChangeButton
+{
+    None,
+    Randomize,
+    Apply,
+    Restore,
+};
+
+/// What decides which of these buttons can be used, and what the others say of it.
+struct ChangeButtons
+{
+    enum class Selected
+    {
+        Present,
+        Gone, ///< an interface that is not there
+        None,
+    };
+
+    // What could be done if nothing else were in the way.
+    bool canRandomize = false;
+    bool canApply = false;
+    bool canRestore = false;
+
+    bool isHelperInstalled = false;
+    bool hasFactoryAddress = false;
+    Selected selected = Selected::Present;
+    /// An address of the selected interface is being changed, whoever asked for it.
+    bool isChanging = false;
+    ChangeButton busy = ChangeButton::None; ///< the button that asked for it
+
+    bool isEnabled(ChangeButton button) const;
+    /// Why it is disabled, or what it is busy with; "" while it can be used.
+    QString whyNot(ChangeButton button) const;
+
+private:
+    bool isPossible(ChangeButton button) const;
+};
+
+} // namespace quillon
