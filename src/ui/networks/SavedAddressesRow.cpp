@@ -29,8 +29,8 @@ PopoverDetails *SavedAddressesRow::makeDetails()
 {
     auto *details = new SavedAddressesDetails(m_models.saved, theme());
     connect(details, &SavedAddressesDetails::chosen, this, &SavedAddressesRow::choose);
-    connect(details, &SavedAddressesDetails::editingWanted, this,
-        &SavedAddressesRow::editSavedItems);
+    connect(
+        details, &SavedAddressesDetails::editingWanted, this, &SavedAddressesRow::editSavedItems);
     // The popover is what is dragged from: it must be there until the drag has ended.
     connect(details, &SavedAddressesDetails::dragBegan, this, [this] { popover().stepAside(); });
     connect(details, &SavedAddressesDetails::dragEnded, &m_models.saved,

@@ -18,8 +18,8 @@ InstallHelperButton::InstallHelperButton(ReadMeModel &model, const Theme &theme,
     setAutoDefault(true);
     setBusy(model.state().installing);
     connect(this, &QPushButton::clicked, &model, &ReadMeModel::installHelper);
-    connect(&model, &ReadMeModel::changed, this,
-        [this, &model] { setBusy(model.state().installing); });
+    connect(
+        &model, &ReadMeModel::changed, this, [this, &model] { setBusy(model.state().installing); });
 }
 
 } // namespace quillon

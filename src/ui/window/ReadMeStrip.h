@@ -12,7 +12,8 @@ class Popover;
 class ReadMeModel;
 class Theme;
 
-/// Says that the helper is not installed, as long as it is not. Its label opens the read-me popover.
+/// Says that the helper is not installed, as long as it is not. Its label opens the read-me
+/// popover.
 class ReadMeStrip : public QFrame
 {
     Q_OBJECT

@@ -4,6 +4,7 @@
 #include "ui/vendors/VendorTableView.h"
 #include "ui/widgets/MessageAlerts.h"
 #include "ui/widgets/PlainText.h"
+#include "ui/widgets/PopoverRow.h"
 #include "ui/widgets/RowButton.h"
 #include "unit/ui/OpenedFile.h"
 #include "unit/ui/UserInterfaceFixture.h"
@@ -152,6 +153,9 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
     features().vendors.pane.showAdditionNoted(written);
     QCoreApplication::processEvents();
     auto *window = part<QWidget>("windowView");
+    for (auto *row : window->findChildren<PopoverRow *>()) {
+        row->popover();
+    }
     window->grab();
 
     for (const char *name :

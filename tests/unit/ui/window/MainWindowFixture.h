@@ -29,7 +29,9 @@ protected:
     void makeView()
     {
         view = std::make_unique<MainWindow>(models(), theme, taskBar);
-        view->facts().add(new HardwareRow(window, theme));
+        auto *row = new HardwareRow(window, theme);
+        view->facts().add(row);
+        row->popover(); // not only once it is opened: its parts are looked for
         presence.openWindow();
     }
 
