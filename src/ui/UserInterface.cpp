@@ -44,6 +44,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     , m_mainWindow(models.window, applied(m_theme), desktop.taskBar)
     , m_statusItem(models.statusMenu, models.window.presence, desktop.trayHost, m_theme)
 {
+    qApp->installEventFilter(&m_heldKeys);
     m_mainWindow.addMenuButton(m_fileMenu.makeButton(m_theme));
     m_mainWindow.addressCard().addChoice(new VendorChooser(models.vendorField, m_theme));
     makeFacts(models);

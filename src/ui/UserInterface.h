@@ -7,6 +7,7 @@
 #include "ui/networks/SavedItemsWindow.h"
 #include "ui/rules/RulesRow.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/HeldKeys.h"
 #include "ui/window/MainWindow.h"
 
 #include <memory>
@@ -65,6 +66,7 @@ private:
     void makeShortcuts(const Models &models);
 
     Theme m_theme;
+    HeldKeys m_heldKeys;
     FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;
     std::unique_ptr<SavedItemsWindow> m_savedItems; ///< made when it is first looked at

@@ -52,6 +52,7 @@ EditMenu::EditMenu(EditMenuModel &model, QWidget *parent)
     addSeparator();
     m_save = addAction(localized("Save"));
     m_save->setShortcut(QKeySequence::Save);
+    m_save->setAutoRepeat(false);
     connect(m_save, &QAction::triggered, &m_model, &EditMenuModel::save);
     connect(&m_model, &EditMenuModel::changed, this, &EditMenu::refresh);
     connect(this, &QMenu::aboutToShow, this, &EditMenu::refresh);

@@ -105,6 +105,7 @@ QAction *MenuView::takeOrMake(const QString &key)
     if (action == nullptr) {
         action = new QAction(this);
         action->setShortcut(m_shortcuts.value(key));
+        action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this, [this, made = action] { activate(*made); });
     }
     return action;

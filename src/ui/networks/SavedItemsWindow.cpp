@@ -70,6 +70,7 @@ void SavedItemsWindow::makeShortcuts()
     const auto add = [this](const QKeySequence &keys, const QString &text, auto act) {
         auto *action = new QAction(text, this);
         action->setShortcut(keys);
+        action->setAutoRepeat(false);
         connect(action, &QAction::triggered, this, act);
         addAction(action);
     };

@@ -132,6 +132,7 @@ void MainWindow::addShortcut(
 {
     auto *action = new QAction(text, this);
     action->setShortcut(keys);
+    action->setAutoRepeat(false);
     connect(action, &QAction::triggered, this, std::move(act));
     addAction(action);
 }

@@ -7,7 +7,9 @@
 #include "unit/ui/UserInterfaceFixture.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
@@ -130,6 +132,34 @@ TEST_F(UserInterfaceTest, EveryControlOfEveryPopoverSaysWhatItIs)
         popover->close();
     }
     EXPECT_GE(opened, 4);
+}
+
+TEST_F(UserInterfaceTest, AKeyThatIsHeldDoesNothingInThePopoverThatItOpens)
+{
+    const QString current = features().mainWindow.state().fieldText;
+    auto *row = part<QWidget>(u"hardwareButton"_s);
+    row->setFocus();
+    for (int time = 0; time < 5; ++time) {
+        QWidget *popup = QApplication::activePopupWidget();
+        QWidget *target = popup == nullptr ? row : popup->focusWidget();
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, time > 0);
+        QCoreApplication::sendEvent(target, &down);
+        machine.scheduler.runPending();
+    }
+    EXPECT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(features().mainWindow.state().fieldText, current) << "nobody pressed Restore";
+    EXPECT_TRUE(machine.helper.changes().isEmpty());
+}
+
+TEST_F(UserInterfaceTest, NoShortcutOfAWindowRepeats)
+{
+    for (const auto *action : window->findChildren<QAction *>()) {
+        const bool edits = action->shortcutContext() == Qt::WidgetShortcut ||
+                           action->shortcut() == QKeySequence(QKeySequence::Undo) ||
+                           action->shortcut() == QKeySequence(QKeySequence::Redo);
+        EXPECT_TRUE(edits || action->shortcut().isEmpty() || !action->autoRepeat())
+            << action->text().toStdString();
+    }
 }
 
 TEST_F(UserInterfaceTest, LooksAndMovesAsTheDesktopWants)
