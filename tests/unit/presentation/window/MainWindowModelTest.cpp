@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/window/MainWindowModel.h"
 
+#include "devices/MenuItem.h"
 #include "unit/presentation/DeviceModelsFixture.h"
 
 namespace quillon::test {
@@ -406,6 +407,13 @@ TEST_F(MainWindowModelTest, ARestoreClosesTheHardwarePopover)
 {
     model.toggleHardwarePopover();
     model.restoreDefaultAddress();
+    EXPECT_FALSE(shown().hardwarePopoverShown);
+}
+
+TEST_F(MainWindowModelTest, ARestoreInTheMenuClosesTheHardwarePopoverWhateverItFinds)
+{
+    model.toggleHardwarePopover();
+    changer.restoreDefaultAddress(MenuItem(u"Restore"_s));
     EXPECT_FALSE(shown().hardwarePopoverShown);
 }
 
