@@ -4,6 +4,7 @@
 
 #include "app/CountdownAudience.h"
 #include "app/NetworkChange.h"
+#include "app/OpenMenuLimit.h"
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/NotificationCenter.h"
 #include "platform/SettingsStore.h"
@@ -65,6 +66,7 @@ private:
     Termination &m_termination;
     NetworkChange m_networkChange;
     CountdownAudience m_countdownAudience;
+    OpenMenuLimit m_openMenuLimit;
     int m_failedReadings = 0; ///< of the interfaces, since the system told of something
     bool m_isReadingAgain = false;
     std::vector<SettingsStore::Token> m_settingsTokens;

@@ -83,7 +83,13 @@ void CountdownTimers::setTimer(const QString &device, Countdown &countdown)
     const Scheduler::Task check = [this, device] { checkCountdownTimer(device); };
     if (m_isWatched) {
         countdown.ticker = m_deps.scheduler.repeat(tickInterval, check);
-    } else if (const std::optional<QDateTime> moment = nextAct(countdown)) {
+        return;
+    }
+    if (!countdown.display) {
+        // A menu that is closed lists it all the same: no tick gives it its text.
+        countdown.display = textOf(countdown);
+    }
+    if (const std::optional<QDateTime> moment = nextAct(countdown)) {
         countdown.alarm = m_deps.scheduler.alarmAt(*moment, check);
     }
 }
@@ -116,12 +122,17 @@ void CountdownTimers::startCountDownTimer(const QString &device)
     countdown.interval = minutesOfRule(device);
     countdown.number = ++m_lastNumber;
     setTimer(device, m_timers[device] = countdown);
+    m_deps.notifier.sendNotificationWithBody(localized("Quillon Timer started"), textOf(countdown));
+    Q_EMIT menuItemsChanged();
+}
+
+QString CountdownTimers::textOf(const Countdown &countdown) const
+{
     // By now the start has passed, if by less than the clock tells.
     const QDateTime soon = countdown.startDate.addMSecs(1);
-    const CountdownText text = generateTimerCountdownStringForStartDateAndInterval(
-        countdown.startDate, countdown.interval, std::max(soon, m_deps.scheduler.now()));
-    m_deps.notifier.sendNotificationWithBody(
-        localized("Quillon Timer started"), text.displayString);
+    return generateTimerCountdownStringForStartDateAndInterval(
+        countdown.startDate, countdown.interval, std::max(soon, m_deps.scheduler.now()))
+        .displayString;
 }
 
 int CountdownTimers::minutesOfRule(const QString &device) const
@@ -144,6 +155,9 @@ void CountdownTimers::stopCountdownTimer(const QString &device)
     if (wasRunning || m_timers.isEmpty()) {
         Q_EMIT stopped();
     }
+    if (wasRunning) {
+        Q_EMIT menuItemsChanged();
+    }
     postOverview();
 }
 
@@ -161,6 +175,7 @@ void CountdownTimers::pauseCountdownTimer(const QString &device)
         found->display = text.displayString;
         setTimer(device, *found);
     }
+    Q_EMIT menuItemsChanged();
 }
 
 void CountdownTimers::resumeCountdownTimer(const QString &device)
@@ -176,6 +191,7 @@ void CountdownTimers::resumeCountdownTimer(const QString &device)
         goOnFrom(*found, remaining, m_deps.scheduler.now());
         setTimer(device, *found);
     }
+    Q_EMIT menuItemsChanged();
 }
 
 void CountdownTimers::checkCountdownTimer(const QString &device)
@@ -187,11 +203,15 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
     const QDateTime now = m_deps.scheduler.now();
     const CountdownText text =
         generateTimerCountdownStringForStartDateAndInterval(found->startDate, found->interval, now);
+    const bool isFirst = !found->display;
     showTime(*found, text.displayString, now);
     const bool warns = takeMinuteWarning(*found, text.remaining);
     // A copy: whoever hears of the tick may end or restart the countdown.
     const Countdown countdown = *found;
     Q_EMIT ticked(device, *countdown.display, countdown.pausedRemaining.has_value());
+    if (isFirst) {
+        Q_EMIT menuItemsChanged();
+    }
     if (warns) {
         m_deps.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
     }
