@@ -29,6 +29,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     , m_networkEvents(platform, m_networkChange)
     , m_countdownAudience(
           features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
+    , m_openMenuLimit(platform.scheduler, features.statusMenu)
     , m_observations(platform)
 {
     connectHelper();
@@ -144,6 +145,10 @@ void EventWiring::connectRules()
     on(rules.timers, &CountdownTimers::stopped, [&rules] { rules.countdown.hideTimerLabel(); });
     on(rules.timers, &CountdownTimers::pauseOrResumeRequested,
         [&rules] { rules.countdown.resetTimerButtons(); });
+    // Later: a countdown that starts again is stopped first.
+    on(rules.timers, &CountdownTimers::menuItemsChanged, [this] {
+        m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
+    });
 }
 
 void EventWiring::connectRecords()

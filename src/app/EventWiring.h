@@ -6,6 +6,7 @@
 #include "app/NetworkChange.h"
 #include "app/NetworkEvents.h"
 #include "app/Observations.h"
+#include "app/OpenMenuLimit.h"
 
 #include <QObject>
 
@@ -57,6 +58,7 @@ private:
     NetworkChange m_networkChange;
     NetworkEvents m_networkEvents;
     CountdownAudience m_countdownAudience;
+    OpenMenuLimit m_openMenuLimit;
     Observations m_observations;
 };
 

@@ -82,7 +82,11 @@ void CurrentInterface::selectInterface(const QString &device)
 
 void CurrentInterface::changeInterface(const QString &menuItemTitle)
 {
-    updateInterface(menuItemTitle.split(titleSeparator).last());
+    const QString device = menuItemTitle.split(titleSeparator).last();
+    m_devices.updateNetWorkInterfaces();
+    if (m_devices.contains(device)) {
+        selectInterface(device);
+    }
 }
 
 void CurrentInterface::changeInterfacefromPopup(const QString &selectedTitle)

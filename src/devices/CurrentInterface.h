@@ -39,7 +39,8 @@ public:
     void updateInterface(const QString &device);
     /// The same with the table as it is.
     void selectInterface(const QString &device);
-    /// A menu item's title, "label · device".
+    /// The same for a menu item's title, "label · device"; ignored when the table has no such
+    /// device any more.
     void changeInterface(const QString &menuItemTitle);
     /// The popup button's selected title, a device name.
     void changeInterfacefromPopup(const QString &selectedTitle);

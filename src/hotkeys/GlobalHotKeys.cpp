@@ -11,6 +11,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -45,22 +47,36 @@ GlobalHotKeys::GlobalHotKeys(const Collaborators &collaborators)
 
 void GlobalHotKeys::updateShowKey()
 {
-    update(
+    const auto freed = update(
         m_show, localized("Show window"), [&presence = m_deps.presence] { presence.openWindow(); });
+    if (lacks(m_random, freed)) {
+        updateRandomKey();
+    }
 }
 
 void GlobalHotKeys::updateRandomKey()
 {
-    update(m_random, localized("Randomize address"),
+    const auto freed = update(m_random, localized("Randomize address"),
         [&changer = m_deps.addressChanger] { changer.randomizeAddress(); });
+    if (lacks(m_show, freed)) {
+        updateShowKey();
+    }
 }
 
-void GlobalHotKeys::update(
+/// Two keys that swap their combinations change one after the other.
+bool GlobalHotKeys::lacks(const Key &key, const std::optional<KeyCombination> &combination)
+{
+    return combination && key.asked == combination && key.state != State::Bound;
+}
+
+std::optional<KeyCombination> GlobalHotKeys::update(
     Key &key, const QString &description, const std::function<void()> &pressed)
 {
     const QString text = m_deps.settings.getString(key.combination);
     const auto combination = KeyCombination::fromText(text);
-    if (!m_deps.settings.getBool(key.enabled) || text.isEmpty()) {
+    const bool isOn = m_deps.settings.getBool(key.enabled) && !text.isEmpty();
+    const auto before = std::exchange(key.asked, isOn ? combination : std::nullopt);
+    if (!isOn) {
         m_deps.hotKeys.release(key.combination);
         setState(key, State::Off);
     } else if (!combination) {
@@ -77,6 +93,7 @@ void GlobalHotKeys::update(
                 }
             });
     }
+    return before == key.asked ? std::nullopt : before;
 }
 
 void GlobalHotKeys::setState(Key &key, State state)

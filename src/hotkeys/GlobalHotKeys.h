@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 namespace quillon {
 
 class AddressChanger;
@@ -62,9 +64,13 @@ private:
         const QString &enabled; ///< settings keys
         const QString &combination;
         State state = State::Off;
+        std::optional<KeyCombination> asked = {}; ///< for, last
     };
 
-    void update(Key &key, const QString &description, const std::function<void()> &pressed);
+    /// Returns the combination that is free for others now, if any.
+    std::optional<KeyCombination> update(
+        Key &key, const QString &description, const std::function<void()> &pressed);
+    static bool lacks(const Key &key, const std::optional<KeyCombination> &combination);
     void setState(Key &key, State state);
     void tell(const Key &key, const QString &description, const QString &combination);
 

@@ -41,9 +41,7 @@ void Presence::showMenuBarItem(bool shown)
 void Presence::updateDock()
 {
     Q_EMIT dockIconHiddenChanged(isDockIconHidden());
-    if (m_windowShown) {
-        Q_EMIT windowBroughtToFront();
-    }
+    Q_EMIT openWindowsBroughtToFront();
 }
 
 void Presence::setStatusItemAvailable(bool available)

@@ -33,7 +33,7 @@ public:
     void updateMenu();
     /// Off also switches `hideDock` off, so that the program never loses both.
     void showMenuBarItem(bool shown);
-    /// Follows `hideDock`; a window that is open comes to the front.
+    /// Follows `hideDock`; windows that are open come to the front.
     void updateDock();
     /// Whether a desktop shows our status item.
     void setStatusItemAvailable(bool available);
@@ -72,7 +72,7 @@ Q_SIGNALS:
     void windowClosed();
     void windowMinimized();
     void minimizedWindowHidden();
-    void windowBroughtToFront();
+    void openWindowsBroughtToFront();
     /// isStatusItemInSight() or isWindowShown() is not what it was.
     void reachChanged();
     void windowInSightChanged();

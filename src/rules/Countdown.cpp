@@ -41,6 +41,13 @@ CountdownText Countdown::textAt(const QDateTime &now) const
     return generateTimerCountdownStringForStartDateAndInterval(startDate, interval, now);
 }
 
+QString Countdown::firstTextAt(const QDateTime &now) const
+{
+    // The start has passed, if by less than the clock tells.
+    const QDateTime soon = startDate.addMSecs(1);
+    return textAt(std::max(soon, now)).displayString;
+}
+
 std::optional<QDateTime> Countdown::nextAct(
     const QDateTime &now, std::chrono::milliseconds tick) const
 {

@@ -24,6 +24,8 @@ struct Countdown
     bool minuteWarningGiven = false;
 
     CountdownText textAt(const QDateTime &now) const;
+    /// That of one that has just been started: its first second runs already.
+    QString firstTextAt(const QDateTime &now) const;
     /// When one that nobody sees has something to do; a paused one never has.
     std::optional<QDateTime> nextAct(const QDateTime &now, std::chrono::milliseconds tick) const;
 

@@ -56,8 +56,14 @@ void CountdownTimers::set(const QString &device, Timer &timer)
     const Scheduler::Task check = [this, device] { checkCountdownTimer(device); };
     if (m_isWatched) {
         timer.ticker = m_deps.scheduler.repeat(tickInterval, check);
-    } else if (const std::optional<QDateTime> moment =
-                   timer.countdown.nextAct(m_deps.scheduler.now(), tickInterval)) {
+        return;
+    }
+    const QDateTime now = m_deps.scheduler.now();
+    if (!timer.countdown.display) {
+        // A menu that is closed lists it all the same: no tick gives it its text.
+        timer.countdown.display = timer.countdown.firstTextAt(now);
+    }
+    if (const std::optional<QDateTime> moment = timer.countdown.nextAct(now, tickInterval)) {
         timer.alarm = m_deps.scheduler.alarmAt(*moment, check);
     }
 }
@@ -76,11 +82,9 @@ void CountdownTimers::startCountDownTimer(const QString &device)
     countdown.interval = minutesOfRule(device);
     countdown.number = ++m_lastNumber;
     set(device, m_timers[device] = Timer{.countdown = countdown});
-    // By now the start has passed, if by less than the clock tells.
-    const QDateTime soon = countdown.startDate.addMSecs(1);
-    const CountdownText text = countdown.textAt(std::max(soon, m_deps.scheduler.now()));
     m_deps.notifier.sendNotificationWithBody(
-        localized("Quillon Timer started"), text.displayString);
+        localized("Quillon Timer started"), countdown.firstTextAt(m_deps.scheduler.now()));
+    Q_EMIT menuItemsChanged();
 }
 
 int CountdownTimers::minutesOfRule(const QString &device) const
@@ -103,6 +107,9 @@ void CountdownTimers::stopCountdownTimer(const QString &device)
     if (wasRunning || m_timers.isEmpty()) {
         Q_EMIT stopped();
     }
+    if (wasRunning) {
+        Q_EMIT menuItemsChanged();
+    }
     postOverview();
 }
 
@@ -120,6 +127,7 @@ void CountdownTimers::pauseCountdownTimer(const QString &device)
         countdown.display = text.displayString;
         set(device, *found);
     }
+    Q_EMIT menuItemsChanged();
 }
 
 void CountdownTimers::resumeCountdownTimer(const QString &device)
@@ -135,6 +143,7 @@ void CountdownTimers::resumeCountdownTimer(const QString &device)
         found->countdown.goOnFrom(remaining, m_deps.scheduler.now());
         set(device, *found);
     }
+    Q_EMIT menuItemsChanged();
 }
 
 void CountdownTimers::checkCountdownTimer(const QString &device)
@@ -145,6 +154,7 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
     }
     const QDateTime now = m_deps.scheduler.now();
     const CountdownText text = found->countdown.textAt(now);
+    const bool isFirst = !found->countdown.display;
     found->countdown.showTime(text.displayString, now);
     const bool warns = found->countdown.takeMinuteWarning(text.remaining);
     // A copy: whoever hears of the tick may end or restart the countdown. Its alarm, whose task
@@ -152,6 +162,9 @@ void CountdownTimers::checkCountdownTimer(const QString &device)
     const Timer timer = *found;
     const Countdown &countdown = timer.countdown;
     Q_EMIT ticked(device, *countdown.display, countdown.pausedRemaining.has_value());
+    if (isFirst) {
+        Q_EMIT menuItemsChanged();
+    }
     if (warns) {
         m_deps.notifier.sendNotificationWithBody(localized("Quillon"), *countdown.display);
     }

@@ -58,13 +58,13 @@ public:
     /// The running and paused countdowns as property-list data, device to dictionary: "device";
     /// "startDate" (moved while paused); "interval", minutes; "timer", a number that no other
     /// start has; "isPaused" only while paused, holding "remaining", seconds; "label" from the
-    /// first tick on, holding "display" and, while the menu shows the countdown, "menu", the title
-    /// of its item.
+    /// first tick on, or at once where nobody watches, holding "display" and, while the menu shows
+    /// the countdown, "menu", the title of its item.
     QVariantMap timers() const;
     /// What menus show of a countdown.
     struct Showing
     {
-        std::optional<QString> display; ///< from the first tick on
+        std::optional<QString> display; ///< as "label"
         bool isPaused = false;
     };
     /// None for a device without countdown.
@@ -81,6 +81,9 @@ Q_SIGNALS:
     void stopped();
     /// Pause or resume was asked for, of whatever device; it follows.
     void pauseOrResumeRequested();
+    /// Menus have other items for a countdown: it was started, stopped, paused or resumed, or got
+    /// its text.
+    void menuItemsChanged();
 
 private:
     struct Timer

@@ -55,6 +55,11 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     m_mainWindow.putHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(&models.window.presence, &Presence::windowClosed, &m_mainWindow, [] {
+        if (QWidget *inUse = QApplication::activeWindow()) {
+            inUse->close();
+        }
+    });
     QObject::connect(&m_statusItem, &StatusItem::shownChanged, &m_mainWindow,
         [this](bool shown) { m_mainWindow.setReachableWhenClosed(shown); });
     m_theme.setCompositing(desktop.compositing);

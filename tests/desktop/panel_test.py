@@ -82,6 +82,17 @@ class ReadingTest(PanelTest):
         self.open_menu().click("Open Quillon")
         accessibility.window(NAME, TITLE)
 
+    def test_opened_and_closed_in_haste_it_opens_again_and_is_up_to_date(self):
+        device = next(name for name in self.addresses if name != self.selector.name)
+        width = panel.pictures.screen_size()[0]
+        self.open_menu().close()
+        for _ in range(5):
+            xdotool("mousemove", width - panel.HEIGHT // 2, panel.HEIGHT // 2, "click", "3", "click", "3")
+        panel.Menu.close()
+        self.open_menu().click(CURRENT + self.addresses[device], "Randomize")
+        self.expect_only_changed(device)
+        self.close_message()
+
     def test_a_panel_that_crashes_finds_the_item_again(self):
         self.panel.crash()
         self.panel.start()

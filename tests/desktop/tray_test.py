@@ -23,6 +23,15 @@ class StatusItemTest(ProgramTest):
                 return entries[place:place + 3]
         return self.fail(f"no section for {device} in\n{self.item.menu_text()}")
 
+    def test_it_has_a_name_and_a_picture(self):
+        self.assertEqual(self.item.value_of("Id"), "quillon")
+        self.assertEqual(self.item.value_of("Category"), "ApplicationStatus")
+        sizes = {(width, height): pixels for width, height, pixels in self.item.value_of("IconPixmap")}
+        self.assertTrue(sizes, "it has no picture")
+        for (width, height), pixels in sizes.items():
+            self.assertEqual(len(pixels), width * height * 4)
+            self.assertTrue(any(pixels), "the picture is empty")
+
     def test_every_interface_has_its_section(self):
         for device, address in self.addresses.items():
             title, factory, current = self.section(device)

@@ -63,8 +63,8 @@ class Program:
         return [changed_to.lower() for changed, changed_to in changes if changed == device]
 
     def messages(self):
-        """The titles that the user was told since the last time."""
-        return self.ask("messages")[1:]
+        """The titles that the user was told since the last time; not that this desktop has no status bar."""
+        return [title for title in self.ask("messages")[1:] if title != "Quillon is not in the status bar"]
 
     def wifi(self):
         """What the window shows of the network that the radio is on."""

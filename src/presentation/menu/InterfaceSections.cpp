@@ -6,6 +6,7 @@
 #include "devices/CurrentInterface.h"
 #include "devices/DeviceTable.h"
 #include "devices/HexValueTransformer.h"
+#include "devices/MenuItem.h"
 #include "helperlink/XPCMethods.h"
 #include "rules/CountdownText.h"
 #include "rules/CountdownTimers.h"
@@ -27,11 +28,20 @@ QString keyOf(const QString &device, const QString &part)
     return u"interface "_s + device + u'/' + part;
 }
 
+/// Actions find the device behind the first separator of the title.
+QString withoutSeparator(QString name)
+{
+    while (name.contains(titleSeparator)) {
+        name.replace(titleSeparator, u" - "_s);
+    }
+    return name;
+}
+
 MenuEntry deviceEntry(
     const QString &device, const DeviceRecord &record, const CurrentInterface &selected)
 {
     return {.key = keyOf(device, u"device"_s),
-        .title = filled(u"%@ \u00B7 %@"_s, {record.shownInterface(), device}),
+        .title = filled(u"%@ \u00B7 %@"_s, {withoutSeparator(record.shownInterface()), device}),
         .action = Action::ChangeInterface,
         .checked = device == selected.device()};
 }

@@ -36,6 +36,8 @@ Q_SIGNALS:
 private:
     void hostChanged(bool available);
     void follow();
+    void make();
+    void drop();
 
     StatusMenuModel &m_model;
     Presence &m_presence;

@@ -57,6 +57,11 @@ SavedItemsWindow::SavedItemsWindow(
     makeShortcuts();
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &SavedItemsWindow::followTaskBar);
+    connect(&m_presence, &Presence::openWindowsBroughtToFront, this, [this] {
+        if (isVisible() && !isMinimized()) {
+            bringUp();
+        }
+    });
 }
 
 SavedItemsWindow::~SavedItemsWindow()

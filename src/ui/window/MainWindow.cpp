@@ -170,7 +170,6 @@ void MainWindow::connectPresence()
 {
     connect(&m_presence, &Presence::windowOpened, this, &MainWindow::bringUp);
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
-    connect(&m_presence, &Presence::windowClosed, this, &QWidget::close);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &MainWindow::followTaskBar);
     connect(&m_presence, &Presence::windowMinimized, this, &MainWindow::minimize);
     connect(&m_presence, &Presence::minimizedWindowHidden, this, [this] {
@@ -178,7 +177,7 @@ void MainWindow::connectPresence()
             hide();
         }
     });
-    connect(&m_presence, &Presence::windowBroughtToFront, this, [this] {
+    connect(&m_presence, &Presence::openWindowsBroughtToFront, this, [this] {
         if (isVisible() && !isMinimized()) {
             bringUp();
         }

@@ -4,6 +4,7 @@
 
 #include "unit/app/ProgramOnFakes.h"
 
+#include <QRegularExpression>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -196,6 +197,79 @@ TEST_F(EventWiringTest, TheMenuFollowsAChangedAddressInALaterTurn)
     EXPECT_FALSE(menuTitles().contains(title));
     machine.scheduler.runPending();
     EXPECT_TRUE(menuTitles().contains(title));
+}
+
+TEST_F(EventWiringTest, AClosedMenuHasTheItemsOfACountdownBeforeItIsOpened)
+{
+    CountdownTimers &timers = features().rules.timers;
+    features().presence.setWindowInSight(false);
+    features().devices.table.update(
+        enp1s0, [](DeviceRecord &record) { record.rule = QVariantMap{{u"timerMinutes"_s, 30}}; });
+    const auto timerItems = [this] {
+        machine.scheduler.runPending();
+        return menuTitles().filter(QRegularExpression(u"Timer|\\.\\.\\."_s));
+    };
+    const QString countdown = u"    ...changing MAC Address in 00:29:59"_s;
+    timers.startCountDownTimer(enp1s0);
+    EXPECT_EQ(timerItems(), (QStringList{countdown, u"    Pause Timer"_s}));
+    timers.pauseCountdownTimer(enp1s0);
+    EXPECT_EQ(timerItems().last(), u"    Resume Timer"_s);
+    timers.resumeCountdownTimer(enp1s0);
+    EXPECT_EQ(timerItems().last(), u"    Pause Timer"_s);
+    {
+        const QObject listener;
+        QObject::connect(&features().statusMenu, &StatusMenuModel::changed, &listener, [this] {
+            EXPECT_TRUE(menuTitles().contains(u"    Pause Timer"_s)) << "another start takes it";
+        });
+        timers.startCountDownTimer(enp1s0);
+        EXPECT_EQ(timerItems(), (QStringList{countdown, u"    Pause Timer"_s}));
+    }
+    timers.stopCountdownTimer(enp1s0);
+    EXPECT_EQ(timerItems(), QStringList());
+}
+
+TEST_F(EventWiringTest, ACountdownThatEndsWhileTheMenuIsOpenLeavesItWithTheClosing)
+{
+    CountdownTimers &timers = features().rules.timers;
+    features().devices.table.update(
+        enp1s0, [](DeviceRecord &record) { record.rule = QVariantMap{{u"timerMinutes"_s, 30}}; });
+    timers.startCountDownTimer(enp1s0);
+    features().statusMenu.menuWillOpen();
+    const QStringList open = menuTitles();
+    ASSERT_TRUE(open.contains(u"    Pause Timer"_s));
+    timers.stopCountdownTimer(enp1s0);
+    machine.scheduler.advance(2s);
+    EXPECT_EQ(menuTitles(), open) << "nothing moves under the pointer";
+    features().statusMenu.menuDidClose();
+    EXPECT_FALSE(menuTitles().contains(u"    Pause Timer"_s));
+}
+
+TEST_F(EventWiringTest, TheHotKeysFollowTheirSettings)
+{
+    FakeHotKeys &desktop = machine.hotKeys;
+    machine.settings.set(keys::showKeyCombo, u"Ctrl+Alt+Q"_s);
+    machine.settings.setBool(keys::showKeyEnabled, true);
+    machine.settings.setBool(keys::randomKeyEnabled, true);
+    machine.settings.set(keys::randomKeyCombo, u"Meta+R"_s);
+    machine.scheduler.runPending();
+    EXPECT_EQ(features().hotKeys.showKeyState(), GlobalHotKeys::State::Bound);
+    int opened = 0;
+    QObject::connect(&features().presence, &Presence::windowOpened, [&] { ++opened; });
+    desktop.press(u"Ctrl+Alt+Q"_s);
+    EXPECT_EQ(opened, 1);
+    desktop.press(u"Meta+R"_s);
+    machine.scheduler.advance(1s);
+    EXPECT_TRUE(isChanged(enp1s0));
+    EXPECT_FALSE(isChanged(enp2s0));
+
+    machine.settings.set(keys::showKeyCombo, u"F9"_s);
+    machine.settings.setBool(keys::randomKeyEnabled, false);
+    machine.scheduler.runPending();
+    desktop.press(u"Ctrl+Alt+Q"_s);
+    EXPECT_EQ(opened, 1);
+    desktop.press(u"F9"_s);
+    EXPECT_EQ(opened, 2);
+    EXPECT_EQ(desktop.bound.size(), 1);
 }
 
 TEST_F(EventWiringTest, ReturnInTheListOfManufacturersClosesIt)

@@ -155,6 +155,17 @@ TEST_F(CurrentInterfaceSelection, FromAMenuIsTheLastPieceOfTheTitle)
     EXPECT_EQ(current.device(), en1);
 }
 
+TEST_F(CurrentInterfaceSelection, FromAMenuOfADeviceThatIsNotInTheTableChangesNothing)
+{
+    select(en0);
+    heard.clear();
+    current.changeInterface(u"Ethernet \u00B7 en9"_s);
+    current.changeInterface(QString());
+    scheduler.runPending();
+    EXPECT_TRUE(heard.isEmpty()) << heard.join(u'\n').toStdString();
+    EXPECT_EQ(current.device(), en0);
+}
+
 TEST_F(CurrentInterfaceSelection, FromAMenuSplitsAtTheBlanksToo)
 {
     select(en0);

@@ -105,6 +105,36 @@ TEST_F(GlobalHotKeysTest, OneCombinationIsNotForBoth)
     EXPECT_EQ(hotKeys.randomKeyState(), State::Taken);
 }
 
+TEST_F(GlobalHotKeysTest, TheTwoSwapTheirCombinations)
+{
+    showKey(u"Ctrl+Alt+Q"_s);
+    randomKey(u"Meta+R"_s);
+    settings.set(keys::showKeyCombo, u"Meta+R"_s);
+    settings.set(keys::randomKeyCombo, u"ctrl+alt+q"_s);
+    hotKeys.updateShowKey();
+    hotKeys.updateRandomKey();
+    scheduler.runPending();
+    EXPECT_EQ(hotKeys.showKeyState(), State::Bound);
+    EXPECT_EQ(hotKeys.randomKeyState(), State::Bound);
+    EXPECT_TRUE(notifier.messages().isEmpty());
+    desktop.press(u"Meta+R"_s);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(GlobalHotKeysTest, WhatTheOtherGivesUpIsTaken)
+{
+    randomKey(u"Meta+R"_s);
+    showKey(u"Meta+R"_s);
+    EXPECT_EQ(hotKeys.showKeyState(), State::Taken);
+    ASSERT_EQ(notifier.messages().size(), 1);
+    randomKey(u"Meta+R"_s, false);
+    EXPECT_EQ(hotKeys.showKeyState(), State::Bound);
+    EXPECT_EQ(hotKeys.randomKeyState(), State::Off);
+    EXPECT_EQ(notifier.messages().size(), 1);
+    desktop.press(u"Meta+R"_s);
+    EXPECT_EQ(opened, 1);
+}
+
 TEST_F(GlobalHotKeysTest, ADesktopWithoutHotKeysIsTold)
 {
     desktop.isOffered = false;

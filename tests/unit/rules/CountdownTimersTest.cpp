@@ -171,6 +171,29 @@ TEST_F(CountdownTimersTest, IsShownInItsMenuItemBehindFourBlanks)
     timers->setMenuItemShown(en1, true);
 }
 
+TEST_F(CountdownTimersTest, TellsWhenMenusHaveOtherItemsForIt)
+{
+    int told = 0;
+    QObject::connect(timers.get(), &CountdownTimers::menuItemsChanged, [&] { ++told; });
+    const auto toldBy = [&](const std::function<void()> &act) {
+        told = 0;
+        act();
+        return told;
+    };
+    EXPECT_EQ(toldBy([&] { timers->startCountDownTimer(en0); }), 1);
+    EXPECT_EQ(toldBy([&] { pass(1s); }), 1) << "it has a text";
+    EXPECT_EQ(toldBy([&] { pass(10s); }), 0) << "another one";
+    EXPECT_EQ(toldBy([&] { timers->pauseCountdownTimer(en0); }), 1);
+    EXPECT_EQ(toldBy([&] { timers->resumeCountdownTimer(en0); }), 1);
+    EXPECT_EQ(toldBy([&] { timers->stopCountdownTimer(en0); }), 1);
+    EXPECT_EQ(toldBy([&] {
+        timers->stopCountdownTimer(en0);
+        timers->pauseCountdownTimer(en0);
+        timers->resumeCountdownTimer(en0);
+    }),
+        0);
+}
+
 TEST_F(CountdownTimersTest, LosesItsMenuItemWithEveryStart)
 {
     timers->startCountDownTimer(en0);

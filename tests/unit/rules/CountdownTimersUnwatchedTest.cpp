@@ -37,6 +37,24 @@ TEST_F(CountdownTimersUnwatched, SleepUntilTheEnd)
     EXPECT_EQ(changes().size(), 2);
 }
 
+TEST_F(CountdownTimersUnwatched, HaveTheirTextForAMenuThatIsClosed)
+{
+    timers->startCountDownTimer(en0);
+    EXPECT_EQ(display(en0), in + u"00:01:59"_s);
+    pass(30s);
+    timers->startCountDownTimer(en0);
+    EXPECT_EQ(display(en0), in + u"00:01:59"_s) << "that of the new start";
+}
+
+TEST_F(CountdownTimersUnwatched, ThatHaveNotTickedYetGetTheirText)
+{
+    timers->setWatched(true);
+    timers->startCountDownTimer(en0);
+    EXPECT_EQ(display(en0), QString());
+    timers->setWatched(false);
+    EXPECT_EQ(display(en0), in + u"00:01:59"_s);
+}
+
 TEST_F(CountdownTimersUnwatched, OfOneMinuteStillWarn)
 {
     ruleSays(en0, 1);

@@ -218,6 +218,27 @@ TEST_F(UserInterfaceTest, ACountdownIsNotSaidEachSecond)
     EXPECT_EQ(row->accessibleName(), u"Countdown resumed"_s);
 }
 
+TEST_F(UserInterfaceTest, CloseWindowClosesTheOneThatIsInUse)
+{
+    trayHost.become(true);
+    features().presence.goTo(Destination::SavedItems);
+    QCoreApplication::processEvents();
+    QWidget *const other = QApplication::activeWindow();
+    ASSERT_NE(other, nullptr);
+    ASSERT_NE(other, window);
+    features().presence.closeWindow();
+    EXPECT_FALSE(other->isVisible());
+    EXPECT_TRUE(window->isVisible());
+    window->activateWindow();
+    QCoreApplication::processEvents();
+    features().presence.closeWindow();
+    EXPECT_FALSE(window->isVisible());
+    QCoreApplication::processEvents();
+    features().presence.closeWindow();
+    features().presence.openWindow();
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(UserInterfaceTest, TheStateLineSaysInterfaceLinkAndAddressAsOne)
 {
     const auto *header = part<QWidget>(u"portName"_s)->parentWidget();

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "devices/MenuItem.h"
 #include "unit/presentation/window/MainWindowModelFixture.h"
 
 namespace quillon::test {
@@ -97,6 +98,13 @@ TEST_F(MainWindowModelTest, ARestoreClosesTheHardwarePopover)
 {
     model.toggleHardwarePopover();
     model.restoreDefaultAddress();
+    EXPECT_FALSE(shown().hardwarePopoverShown);
+}
+
+TEST_F(MainWindowModelTest, ARestoreInTheMenuClosesTheHardwarePopoverWhateverItFinds)
+{
+    model.toggleHardwarePopover();
+    changer.restoreDefaultAddress(MenuItem(u"Restore"_s));
     EXPECT_FALSE(shown().hardwarePopoverShown);
 }
 

@@ -47,6 +47,28 @@ TEST_F(StatusItemTest, FollowsTheSetting)
     EXPECT_THAT(reports, ElementsAre(true, false));
 }
 
+TEST_F(StatusItemTest, AMenuWhosePanelHasGoneIsClosed)
+{
+    presence.showMenuBarItem(true);
+    trayHost.become(true);
+    menu.menuWillOpen();
+    int closings = 0;
+    QObject::connect(&menu, &MenuModel::didClose, [&] { ++closings; });
+    trayHost.become(false);
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(StatusItemTest, AMenuThatGoesWithItsStatusItemIsClosed)
+{
+    presence.showMenuBarItem(true);
+    trayHost.become(true);
+    menu.menuWillOpen();
+    int closings = 0;
+    QObject::connect(&menu, &MenuModel::didClose, [&] { ++closings; });
+    presence.showMenuBarItem(false);
+    EXPECT_EQ(closings, 1);
+}
+
 TEST_F(StatusItemTest, WithoutAHostTheDockIconCannotBeHidden)
 {
     settings.set(keys::hideDock, true);

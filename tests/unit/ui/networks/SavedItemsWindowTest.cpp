@@ -83,6 +83,21 @@ TEST_F(SavedItemsWindowTest, FollowsTheTaskBar)
     EXPECT_TRUE(taskBar.skipped);
 }
 
+TEST_F(SavedItemsWindowTest, ComesToTheFrontWhenTheDockIconComesOrGoes)
+{
+    QWidget other;
+    presence.updateDock();
+    EXPECT_FALSE(window.isVisible());
+    window.bringUp();
+    other.show();
+    other.activateWindow();
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(window.isActiveWindow());
+    presence.updateDock();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window.isActiveWindow());
+}
+
 TEST_F(SavedItemsWindowTest, SaysWhatWasRemovedInIt)
 {
     window.bringUp();

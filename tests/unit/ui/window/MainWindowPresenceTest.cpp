@@ -40,7 +40,7 @@ TEST_F(MainWindowPresenceTest, NothingIsMadeForTheDisplayBeforeTheWindowIsShown)
 TEST_F(MainWindowPresenceTest, ClosedWithTheStatusItemInSightItOnlyHides)
 {
     view->setReachableWhenClosed(true);
-    presence.closeWindow();
+    view->close();
     EXPECT_FALSE(view->isVisible());
     EXPECT_EQ(terminations, 0);
     presence.openWindow();
@@ -89,6 +89,27 @@ TEST_F(MainWindowPresenceTest, WithTheDockIconHiddenQuittingOnlyHides)
     trigger(Qt::CTRL | Qt::Key_Q);
     EXPECT_EQ(terminations, 0);
     EXPECT_FALSE(view->isVisible());
+}
+
+TEST_F(MainWindowPresenceTest, ItComesToTheFrontWhenItIsOpenedOrTheDockIconComesOrGoes)
+{
+    QWidget other;
+    const auto isInFront = [&](const std::function<void()> &act) {
+        other.show();
+        other.activateWindow();
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(view->isActiveWindow());
+        act();
+        QCoreApplication::processEvents();
+        return view->isVisible() && !view->isMinimized() && view->isActiveWindow();
+    };
+    EXPECT_TRUE(isInFront([this] { presence.openWindow(); }));
+    EXPECT_TRUE(isInFront([this] { presence.updateDock(); }));
+    presence.hideWindow();
+    EXPECT_FALSE(isInFront([this] { presence.updateDock(); })) << "one that is not open stays away";
+    EXPECT_TRUE(isInFront([this] { presence.openWindow(); }));
+    presence.minimizeWindow();
+    EXPECT_FALSE(isInFront([this] { presence.updateDock(); }));
 }
 
 TEST_F(MainWindowPresenceTest, ItsTaskBarEntryFollowsTheDockIcon)
