@@ -25,7 +25,7 @@ x11.XSync(display, 0)
 print("has it", flush=True)
 sys.stdin.read()
 """
-TAKEN = ("Shortcut for “Show window” not set", "Ctrl+Alt+F9: Another program uses this shortcut.")
+TAKEN = ("Shortcut for “Show window” not set", "Ctrl+Alt+X: Another program uses this shortcut.")
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 
 
@@ -122,24 +122,27 @@ class HotKeyTest(ProgramTest):
         return other
 
     def test_a_combination_of_another_program_stays_its_own_until_that_gives_it_up(self):
-        other = self.other_program("F9")
+        other = self.other_program("x")
         before = messages().count(TAKEN)
         selected = self.selector.name
         self.hide()
-        write_settings(showKeyCombo="Ctrl+Alt+F9")
+        write_settings(showKeyCombo="Ctrl+Alt+X")
         wait_until(lambda: messages().count(TAKEN) == before + 1, "nobody was told")
-        xdotool("key", "ctrl+alt+F9")
+        xdotool("key", "ctrl+alt+x")
         # What comes later has come: the keys before it did nothing.
         xdotool("key", "super+F7")
         self.expect_only_changed(selected)
         self.assertFalse(self.is_open())
 
         other.communicate()
-        write_settings(showKeyEnabled=False)
-        write_settings(showKeyEnabled=True)
-        self.press_until("ctrl+alt+F9", self.is_open, "the combination is free, and the window did not come")
+        # Asked for again after something else.
+        write_settings(showKeyCombo="Ctrl+Alt+W")
+        self.press_until("ctrl+alt+w", self.is_open, "the window did not come")
+        self.hide()
+        write_settings(showKeyCombo="Ctrl+Alt+X")
+        self.press_until("ctrl+alt+x", self.is_open, "the combination is free, and the window did not come")
         # And now it is ours.
-        self.assertNotEqual(subprocess.run([sys.executable, "-c", OTHER_PROGRAM, "F9"], stdin=subprocess.DEVNULL,
+        self.assertNotEqual(subprocess.run([sys.executable, "-c", OTHER_PROGRAM, "x"], stdin=subprocess.DEVNULL,
                                            capture_output=True).returncode, 0)
 
     @staticmethod

@@ -92,6 +92,8 @@ class ReadingTest(PanelTest):
         self.open_menu().click(CURRENT + self.addresses[device], "Randomize")
         self.expect_only_changed(device)
         self.close_message()
+        self.open_menu().click(FACTORY + self.addresses[device], "Restore")
+        wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
 
     def test_a_panel_that_crashes_finds_the_item_again(self):
         self.panel.crash()

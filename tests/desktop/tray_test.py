@@ -24,7 +24,7 @@ class StatusItemTest(ProgramTest):
         return self.fail(f"no section for {device} in\n{self.item.menu_text()}")
 
     def test_it_has_a_name_and_a_picture(self):
-        self.assertEqual(self.item.value_of("Id"), "quillon")
+        self.assertEqual(self.item.value_of("Id"), "Quillon")
         self.assertEqual(self.item.value_of("Category"), "ApplicationStatus")
         sizes = {(width, height): pixels for width, height, pixels in self.item.value_of("IconPixmap")}
         self.assertTrue(sizes, "it has no picture")

@@ -59,6 +59,12 @@ void DesktopHotKeys::choose(bool hasPortal)
 void DesktopHotKeys::bindWaiting()
 {
     const auto waiting = std::exchange(m_waiting, {});
+    // All of them first: they may swap their combinations.
+    for (const Wish &wish : waiting) {
+        if (m_way) {
+            m_way->release(wish.hotKey.identifier);
+        }
+    }
     for (const Wish &wish : waiting) {
         if (m_way) {
             m_way->bind(wish.hotKey, wish.reply);
