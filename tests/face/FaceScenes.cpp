@@ -68,6 +68,18 @@ void leaveNetwork(FaceProgram &program)
     program.machine.settings.set(keys::externalIPAddress, u"Unknown..."_s);
 }
 
+void switchRadioOff(FaceProgram &program)
+{
+    leaveNetwork(program);
+    program.machine.radioSwitch.turn(true);
+}
+
+void loseHelper(FaceProgram &program)
+{
+    program.machine.helper.installed = false;
+    program.features().helper.updateHelperInstalledStatus();
+}
+
 void unplugEverything(FaceProgram &program)
 {
     program.machine.host.unplug(FaceProgram::radio);
@@ -156,8 +168,16 @@ const QList<FaceScene> scenes{
     {u"helper-not-installed"_s, removeHelper, nullptr},
     {u"helper-installing"_s, removeHelper,
         [](P &program) { program.features().readMe.setInstalling(true); }},
+    {u"helper-lost"_s, saveRules, loseHelper},
     {u"no-interface"_s, unplugEverything, nullptr},
     {u"not-connected"_s, leaveNetwork, nullptr},
+    {u"other-interface"_s, nullptr,
+        [](P &program) {
+            program.features().mainWindow.changeInterfacefromPopup(FaceProgram::wire);
+        }},
+    {u"radio-off"_s, switchRadioOff, nullptr},
+    {u"looking-up"_s, nullptr,
+        [](P &program) { program.features().networks.externalAddressShown.refreshExternalIP(); }},
     {u"countdown"_s, saveRules, nullptr},
     {u"countdown-paused"_s, saveRules,
         [](P &program) {

@@ -40,6 +40,7 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     setObjectName(u"readMe"_s);
     setAttribute(Qt::WA_StyledBackground);
     setMinimumHeight(Theme::tallRowHeight);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
     // Before its text: what assistive technology has once seen keeps its role.
     setAccessibleRole(*m_hint, QAccessible::Button);
     m_hint->setText(localized("The helper is not installed"));
@@ -113,7 +114,11 @@ void ReadMeStrip::refresh()
     for (auto *install : {m_install, m_installExplained}) {
         install->setBusy(state.installing);
     }
+    const bool isNew = state.visible && isHidden();
     setVisible(state.visible);
+    if (isNew && isVisible()) {
+        announce(*this, m_hint->text());
+    }
     if (state.popoverShown && !m_popover->isOpen()) {
         m_popover->open(*m_hint, Popover::Side::Below);
     } else if (!state.popoverShown && m_popover->isOpen()) {
