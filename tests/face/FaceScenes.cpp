@@ -48,6 +48,16 @@ void saveAddresses(FaceProgram &program)
     program.saveAddress(u"02:00:5e:00:53:0e"_s, u"The old printer on the third floor, east wing"_s);
 }
 
+/// More than a screen has room for.
+void saveManyAddresses(FaceProgram &program)
+{
+    constexpr int many = 50;
+    for (int number = 0; number < many; ++number) {
+        const QString address = u"02:00:5e:00:54:%1"_s.arg(number, 2, 16, QChar(u'0'));
+        program.saveAddress(address, u"Place %1"_s.arg(number));
+    }
+}
+
 void saveRules(FaceProgram &program)
 {
     program.saveRule(FaceProgram::repeatedRule(u"Harbor Café"_s));
@@ -193,6 +203,8 @@ const QList<FaceScene> scenes{
     {u"popover-saved-addresses"_s, saveAddresses,
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
     {u"popover-saved-addresses-empty"_s, nullptr,
+        [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
+    {u"popover-saved-addresses-many"_s, saveManyAddresses,
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
     {u"popover-network"_s, nullptr, openNetwork},
     {u"popover-network-long"_s, joinLongName, openNetwork},

@@ -8,6 +8,7 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
+#include "ui/widgets/LimitedScrollArea.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/PopoverHead.h"
@@ -20,6 +21,13 @@
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Some lines of tokens, so that the popover has room on a low screen.
+constexpr int tallestTokens = 7 * Theme::rowHeight;
+
+} // namespace
 
 SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme, QWidget *parent)
     : PopoverRow(theme, localized("Saved addresses"), new QWidget, parent)
@@ -41,7 +49,7 @@ SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme, Q
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit);
     column->addWidget(head);
-    column->addWidget(m_tokens);
+    column->addWidget(new LimitedScrollArea(m_tokens, tallestTokens));
     column->addWidget(hint);
     column->addSpacing(Theme::unit / 2);
     auto *edit = new QPushButton(localized("Edit Saved Items"));

@@ -7,6 +7,7 @@
 #include "presentation/rules/RulesListModel.h"
 #include "ui/rules/RuleSwitchLine.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/LimitedScrollArea.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/PopoverHead.h"
@@ -22,6 +23,9 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Some rules, so that the popover has room on a low screen.
+constexpr int tallestRules = 8 * Theme::rowHeight;
 
 void shouldAddStrikeThroughToTextfield(bool isStruck, QLabel &label)
 {
@@ -64,13 +68,16 @@ void RulesRow::makeContent()
     }
     labels->addStretch();
     m_rules->setSpacing(0);
+    m_rules->setContentsMargins(0, 0, 0, 0);
+    auto *rules = new QWidget;
+    rules->setLayout(m_rules);
     m_empty->setProperty("look", u"caption"_s);
     auto *column = new QVBoxLayout(popover().content());
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit);
     column->addWidget(m_head);
     column->addLayout(labels);
-    column->addLayout(m_rules);
+    column->addWidget(new LimitedScrollArea(rules, tallestRules));
     column->addWidget(m_empty);
 }
 
