@@ -65,6 +65,7 @@ Platform DesktopPlatform::platform()
         .reachability = m_reachability,
         .sleep = m_sleep,
         .wifi = m_wifi,
+        .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
         .hotKeys = m_hotKeys,

@@ -22,6 +22,7 @@
 #include "platform/linux/owner/TakeBackGuard.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
+#include "platform/linux/wifi/RfkillRadioSwitch.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
 #include "platform/qt/web/NetworkHttpClient.h"
@@ -63,6 +64,7 @@ private:
     PortalReachability m_reachability{m_route, m_scheduler};
     LogindSleep m_sleep;
     Nl80211WiFiClient m_wifi;
+    RfkillRadioSwitch m_radioSwitch;
     Nl80211LocationAuthorization m_location;
     DesktopSystemSettings m_systemSettings;
     DesktopHotKeys m_hotKeys;

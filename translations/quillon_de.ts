@@ -1051,5 +1051,37 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Restoring…</source>
         <translation>Wird wiederhergestellt…</translation>
     </message>
+    <message>
+        <source>Looking it up…</source>
+        <translation>Wird abgefragt…</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source>Look-up is off</source>
+        <translation>Abfrage ist aus</translation>
+    </message>
+    <message>
+        <source>A public service is being asked under which address it sees you.</source>
+        <translation>Ein öffentlicher Dienst wird gefragt, unter welcher Adresse er Sie sieht.</translation>
+    </message>
+    <message>
+        <source>The public service did not answer. This is what it said before. The button asks again.</source>
+        <translation>Der öffentliche Dienst hat nicht geantwortet. Das hat er zuvor gesagt. Die Schaltfläche fragt noch einmal.</translation>
+    </message>
+    <message>
+        <source>The public service did not answer with an address. The button asks again.</source>
+        <translation>Der öffentliche Dienst hat nicht mit einer Adresse geantwortet. Die Schaltfläche fragt noch einmal.</translation>
+    </message>
+    <message>
+        <source>It is not looked up by itself. The button asks a public service once.</source>
+        <translation>Sie wird nicht von selbst abgefragt. Die Schaltfläche fragt einmal einen öffentlichen Dienst.</translation>
+    </message>
+    <message>
+        <source>Wi-Fi is switched off.</source>
+        <translation>WLAN ist ausgeschaltet.</translation>
+    </message>
 </context>
 </TS>

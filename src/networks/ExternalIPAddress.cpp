@@ -88,6 +88,8 @@ void ExternalIPAddress::updateExternalIPAddress(bool force)
     if (!force && !m_settings.getBool(keys::shouldUpdateExternalIP)) {
         return;
     }
+    ++m_unanswered;
+    Q_EMIT lookUpBegan();
     const std::weak_ptr<bool> life = m_life;
     m_client.get(
         m_question, longestAnswer, [this, life](const Result<HttpClient::Response> &answer) {
@@ -99,13 +101,18 @@ void ExternalIPAddress::updateExternalIPAddress(bool force)
 
 void ExternalIPAddress::answered(const Result<HttpClient::Response> &answer)
 {
-    if (!answer) {
+    --m_unanswered;
+    if (answer) {
+        const QString address = addressIn(answer.value());
+        m_hasFailed = !isAddress(address);
+        saveExternalIPAddress(address);
+    } else {
         qCWarning(logNetworks, "Error making API request: %s (%s %d)",
             qUtf8Printable(answer.error().message), qUtf8Printable(answer.error().domain),
             answer.error().code);
-        return;
+        m_hasFailed = true;
     }
-    saveExternalIPAddress(addressIn(answer.value()));
+    Q_EMIT lookUpEnded();
 }
 
 void ExternalIPAddress::saveExternalIPAddress(const QString &address)

@@ -18,6 +18,7 @@ class LocationAuthorization;
 class NetworkChangeSource;
 class NetworkHost;
 class NotificationCenter;
+class RadioSwitch;
 class RandomSource;
 class Reachability;
 class RunningApplications;
@@ -59,6 +60,7 @@ struct Platform
     Reachability &reachability;
     SystemSleep &sleep;
     WiFiClient &wifi;
+    RadioSwitch &radioSwitch;
     LocationAuthorization &location;
     SystemSettings &systemSettings;
     HotKeys &hotKeys;

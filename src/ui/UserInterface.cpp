@@ -8,6 +8,7 @@
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/networks/SavedListsModel.h"
 #include "presentation/rules/CountdownModel.h"
+#include "presentation/window/MainWindowModel.h"
 #include "ui/networks/ExternalAddressRow.h"
 #include "ui/networks/FavoriteToast.h"
 #include "ui/networks/NetworkRow.h"
@@ -74,17 +75,25 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
 void UserInterface::makeFacts(const Models &models)
 {
     FactsCard &facts = m_mainWindow.facts();
-    facts.add(new HardwareRow(models.window.window, m_theme));
+    auto *hardware = new HardwareRow(models.window.window, m_theme);
+    facts.add(hardware);
     auto *saved = new SavedAddressesRow(
         {models.savedLists, models.window.window, models.window.presence}, m_theme);
     QObject::connect(saved, &SavedAddressesRow::filled, &m_mainWindow, &MainWindow::focusApply);
     facts.add(saved);
-    facts.add(new VendorRow(models.vendorInfo, m_theme));
+    auto *vendor = new VendorRow(models.vendorInfo, m_theme);
+    facts.add(vendor);
     facts.add(new MissingVendors(models.vendorPane));
-    facts.add(new NetworkRow(models.network, m_theme));
+    auto *network = new NetworkRow(models.network, m_theme);
+    facts.add(network);
     facts.add(new RulesRow(models.rules, m_theme));
     facts.add(new CountdownRow(models.countdown, m_theme));
     facts.add(new ExternalAddressRow(models.externalAddress, m_theme));
+    for (const RowButton *row :
+        std::initializer_list<RowButton *>{hardware, saved, vendor, network}) {
+        QObject::connect(&models.window.window, &MainWindowModel::infoButtonsReset, row,
+            &RowButton::resetEmphasis);
+    }
 }
 
 void UserInterface::offerSavedItems(const SavedItemsWindow::Models &models, const Desktop &desktop)

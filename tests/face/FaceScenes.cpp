@@ -48,6 +48,16 @@ void saveAddresses(FaceProgram &program)
     program.saveAddress(u"02:00:5e:00:53:0e"_s, u"The old printer on the third floor, east wing"_s);
 }
 
+/// More than a screen has room for.
+void saveManyAddresses(FaceProgram &program)
+{
+    constexpr int many = 50;
+    for (int number = 0; number < many; ++number) {
+        const QString address = u"02:00:5e:00:54:%1"_s.arg(number, 2, 16, QChar(u'0'));
+        program.saveAddress(address, u"Place %1"_s.arg(number));
+    }
+}
+
 void saveRules(FaceProgram &program)
 {
     program.saveRule(FaceProgram::repeatedRule(u"Harbor Café"_s));
@@ -66,6 +76,18 @@ void leaveNetwork(FaceProgram &program)
     radio.router.clear();
     radio.active = false;
     program.machine.settings.set(keys::externalIPAddress, u"Unknown..."_s);
+}
+
+void switchRadioOff(FaceProgram &program)
+{
+    leaveNetwork(program);
+    program.machine.radioSwitch.turn(true);
+}
+
+void loseHelper(FaceProgram &program)
+{
+    program.machine.helper.installed = false;
+    program.features().helper.updateHelperInstalledStatus();
 }
 
 void unplugEverything(FaceProgram &program)
@@ -156,8 +178,16 @@ const QList<FaceScene> scenes{
     {u"helper-not-installed"_s, removeHelper, nullptr},
     {u"helper-installing"_s, removeHelper,
         [](P &program) { program.features().readMe.setInstalling(true); }},
+    {u"helper-lost"_s, saveRules, loseHelper},
     {u"no-interface"_s, unplugEverything, nullptr},
     {u"not-connected"_s, leaveNetwork, nullptr},
+    {u"other-interface"_s, nullptr,
+        [](P &program) {
+            program.features().mainWindow.changeInterfacefromPopup(FaceProgram::wire);
+        }},
+    {u"radio-off"_s, switchRadioOff, nullptr},
+    {u"looking-up"_s, nullptr,
+        [](P &program) { program.features().networks.externalAddressShown.refreshExternalIP(); }},
     {u"countdown"_s, saveRules, nullptr},
     {u"countdown-paused"_s, saveRules,
         [](P &program) {
@@ -173,6 +203,8 @@ const QList<FaceScene> scenes{
     {u"popover-saved-addresses"_s, saveAddresses,
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
     {u"popover-saved-addresses-empty"_s, nullptr,
+        [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
+    {u"popover-saved-addresses-many"_s, saveManyAddresses,
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
     {u"popover-network"_s, nullptr, openNetwork},
     {u"popover-network-long"_s, joinLongName, openNetwork},

@@ -3,11 +3,12 @@
 // Shows the program's windows in one state after the other, on a machine of fakes.
 //
 // usage: quillon-face-scenes [--dark] [--high-contrast] [--mirrored] [--large-text] [--wordy]
-// [--list] Reads the name of a state per line and answers "shown" when it is on its way to the
-// screen. To a
-// "?" it answers with the place of its windows there, in pixels: "at X Y WIDTH HEIGHT". Ends with
-// its input. --list tells the names.
+// [--announcements] [--list] Reads the name of a state per line and answers "shown" when it is on
+// its way to the screen. To a "?" it answers with the place of its windows there, in pixels: "at X
+// Y WIDTH HEIGHT". Ends with its input. --list tells the names. With --announcements it also says
+// "announced TEXT" for each text that the program says unasked to assistive technology.
 #include "base/Languages.h"
+#include "face/Announcements.h"
 #include "face/FaceLook.h"
 #include "face/FaceProgram.h"
 #include "face/FaceScenes.h"
@@ -135,6 +136,9 @@ int main(int argc, char **argv)
     QApplication::setCursorFlashTime(0);
     const FaceLook look = lookOf(arguments);
     const DressedApplication dressed(look);
+    if (arguments.contains(u"--announcements"_s)) {
+        listenToAnnouncements([](const QString &text) { say(u"announced "_s + text); });
+    }
     std::unique_ptr<FaceProgram> program;
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly | QIODevice::Unbuffered)) {

@@ -12,6 +12,7 @@
 #include "fakes/FakeLocationAuthorization.h"
 #include "fakes/FakeNetworkChangeSource.h"
 #include "fakes/FakeNetworkHost.h"
+#include "fakes/FakeRadioSwitch.h"
 #include "fakes/FakeRandomSource.h"
 #include "fakes/FakeReachability.h"
 #include "fakes/FakeRunningApplications.h"
@@ -59,6 +60,7 @@ struct FakePlatform
             .reachability = reachability,
             .sleep = sleep,
             .wifi = wifi,
+            .radioSwitch = radioSwitch,
             .location = location,
             .systemSettings = systemSettings,
             .hotKeys = hotKeys,
@@ -88,6 +90,7 @@ struct FakePlatform
     FakeReachability reachability;
     FakeSystemSleep sleep;
     FakeWiFiClient wifi;
+    FakeRadioSwitch radioSwitch;
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;
     FakeHotKeys hotKeys{scheduler};

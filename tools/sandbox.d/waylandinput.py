@@ -9,8 +9,8 @@ import struct
 import tempfile
 import time
 
-KEYS = {"Escape": 1, "Tab": 15, "Return": 28, "Shift": 42, "Space": 57, "Home": 102, "Up": 103, "Left": 105,
-        "Right": 106, "End": 107, "Down": 108}
+KEYS = {"Escape": 1, "BackSpace": 14, "Tab": 15, "Return": 28, "Shift": 42, "X": 45, "Space": 57, "F2": 60,
+        "Home": 102, "Up": 103, "Left": 105, "Right": 106, "End": 107, "Down": 108}
 SHIFT_MASK = 1
 LEFT_BUTTON = 0x110
 KEYMAP = """xkb_keymap {

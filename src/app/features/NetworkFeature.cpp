@@ -17,8 +17,8 @@ NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devi
     , externalAddress(platform.http, platform.settings, platform.places.externalAddressService)
     , removedInMainWindow(platform.settings, wifi)
     , removedFromSavedItems(platform.settings, wifi)
-    , info({platform.settings, platform.scheduler, devices, wifi, savedNetworks,
-          removedInMainWindow})
+    , info({platform.settings, platform.scheduler, devices, wifi, platform.radioSwitch,
+          savedNetworks, removedInMainWindow})
     , savedLists(platform.settings, savedAddresses, removedInMainWindow)
     , savedEntryPopover({platform.settings, platform.scheduler, networkEditing, addressEditing,
           removedFromSavedItems})

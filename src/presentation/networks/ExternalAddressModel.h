@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <vector>
+
 namespace quillon {
 
 class ExternalIPAddress;
@@ -23,19 +25,34 @@ public:
     /// "" before anything is known; that an answer was of no use is said in the user's language of
     /// today.
     QString text() const;
+    /// What is to be said beside it, in a few words: that it is being looked up, that no answer
+    /// came, that nobody looks it up by itself; "" when the address says all.
+    QString note() const;
+    /// The same in a sentence, with what can be done.
+    QString explanation() const;
     /// Asks whether or not that happens by itself; the button then looks normal again.
     void refreshExternalIP();
 
 Q_SIGNALS:
-    /// text() changed.
+    /// text(), note() or explanation() changed.
     void changed();
     void refreshButtonReset();
 
 private:
+    enum class Standing
+    {
+        Told,
+        LookingUp,
+        NoAnswer,
+        SwitchedOff, ///< and nothing is known
+    };
+    Standing standing() const;
+    bool isKnown() const;
+
     SettingsStore &m_settings;
     ExternalIPAddress &m_externalAddress;
     const QString m_key;
-    SettingsStore::Token m_observed;
+    std::vector<SettingsStore::Token> m_observed;
 };
 
 } // namespace quillon

@@ -61,6 +61,7 @@ NetworkInfoModel::NetworkInfoModel(const Collaborators &collaborators)
         keys::savedNetworks, [this](const auto &) { updateFavNetworkButton(); }));
     m_observed.push_back(
         m_deps.settings.addObserver(keys::deviceDict, [this](const auto &) { lookForRadio(); }));
+    m_deps.radioSwitch.watch([this] { showDetails(); });
     lookForRadio();
     showDetails();
     updateFavNetworkButton();
@@ -69,6 +70,7 @@ NetworkInfoModel::NetworkInfoModel(const Collaborators &collaborators)
 NetworkInfoModel::~NetworkInfoModel()
 {
     stopNetworkTimer();
+    m_deps.radioSwitch.watch({});
     for (const auto token : m_observed) {
         m_deps.settings.removeObserver(token);
     }
@@ -149,7 +151,9 @@ void NetworkInfoModel::showDetails()
 {
     const WiFiRecord record = WiFiRecord::stored(m_deps.settings);
     m_state.update([&](State &state) {
-        state.name = record.shownName();
+        // What was read of a network holds until it is read that there is none.
+        const bool isOff = record.bssid.isEmpty() && m_deps.radioSwitch.isOff();
+        state.name = isOff ? localized("Wi-Fi is switched off.") : record.shownName();
         state.rows = detailsOf(record);
     });
 }

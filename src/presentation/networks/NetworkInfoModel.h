@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Shown.h"
+#include "platform/RadioSwitch.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "presentation/networks/FavoriteButton.h"
@@ -41,7 +42,8 @@ public:
         bool hasRadio = false; ///< without one there is nothing to show at all
         bool buttonVisible = false;
         bool popoverShown = false;
-        QString name;    ///< of the saved network, else its SSID; or that there is none
+        /// Of the saved network, else its SSID; or that there is none, or that the radio is off.
+        QString name;
         QList<Row> rows; ///< one for each detail, also an empty one
         FavoriteButton favorite;
         /// Taken while the popover is shown.
@@ -55,6 +57,7 @@ public:
         Scheduler &scheduler;
         const DeviceTable &devices;
         WiFiNetwork &wifi;
+        RadioSwitch &radioSwitch;
         SavedNetworks &savedNetworks;
         RemovedFavorite &removed;
     };

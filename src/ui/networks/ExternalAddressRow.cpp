@@ -7,6 +7,7 @@
 #include "ui/widgets/PlainText.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QToolButton>
 
 namespace quillon {
@@ -18,6 +19,7 @@ ExternalAddressRow::ExternalAddressRow(
     : QWidget(parent)
     , m_model(model)
     , m_row(new RowButton(theme, localized("External address")))
+    , m_note(plainLabel())
     , m_button(new QToolButton)
 {
     m_row->setObjectName(u"externalAddress"_s);
@@ -31,10 +33,14 @@ ExternalAddressRow::ExternalAddressRow(
     m_button->setAccessibleName(localized("Refresh external address"));
     m_button->setToolTip(
         plainToolTip(localized("Asks a public service under which address it sees you")));
+    m_note->setObjectName(u"externalAddressNote"_s);
+    m_note->setProperty("look", u"caption"_s);
+    m_note->setFont(Theme::font(Theme::Type::Caption));
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, Theme::unit / 2, 0);
-    line->setSpacing(0);
+    line->setSpacing(Theme::unit / 2);
     line->addWidget(m_row, 1);
+    line->addWidget(m_note);
     line->addWidget(m_button);
     connect(m_button, &QToolButton::clicked, &m_model, &ExternalAddressModel::refreshExternalIP);
     connect(&m_model, &ExternalAddressModel::changed, this, &ExternalAddressRow::refresh);
@@ -46,6 +52,10 @@ void ExternalAddressRow::refresh()
     const QString text = m_model.text();
     // Anything else is said in place of one.
     const bool isAddress = text.contains(u':') || (!text.isEmpty() && text.front().isDigit());
+    m_note->setText(plainLine(m_model.note()));
+    m_note->setVisible(!m_note->text().isEmpty());
+    m_note->setToolTip(plainToolTip(m_model.explanation()));
+    m_note->setAccessibleDescription(m_model.explanation());
     m_row->setValue(text, isAddress ? RowButton::ValueLook::Address : RowButton::ValueLook::Muted);
 }
 

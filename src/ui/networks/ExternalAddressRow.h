@@ -4,13 +4,15 @@
 
 #include "ui/widgets/RowButton.h"
 
+class QLabel;
 class QToolButton;
 
 namespace quillon {
 
 class ExternalAddressModel;
 
-/// The address under which a public service sees the computer, and the button that asks it.
+/// The address under which a public service sees the computer, what there is to say of it, and the
+/// button that asks.
 class ExternalAddressRow : public QWidget
 {
     Q_OBJECT
@@ -23,6 +25,7 @@ private:
 
     ExternalAddressModel &m_model;
     RowButton *m_row;
+    QLabel *m_note; ///< what there is to say of it
     QToolButton *m_button;
 };
 

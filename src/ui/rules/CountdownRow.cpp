@@ -64,11 +64,38 @@ void CountdownRow::refresh()
     // Its name is what it shows, for who asks; only what announcePause() says is said unasked.
     showLine(*m_label, state.label);
     announcePause();
+    refreshButtons();
+}
+
+void CountdownRow::refreshButtons()
+{
+    const auto &state = m_model.state();
+    QWidget *const focused = window()->focusWidget();
+    const bool hadKeyboard = focused == this || focused == m_pause || focused == m_resume;
+    QToolButton *const usable = state.pauseEnabled    ? m_pause
+                                : state.resumeEnabled ? m_resume
+                                                      : nullptr;
+    if (hadKeyboard && usable == nullptr) {
+        // Until the other one can be pressed: elsewhere the next key would do something else.
+        setFocus(Qt::OtherFocusReason);
+    }
     m_pause->setVisible(state.buttonsVisible);
     m_resume->setVisible(state.buttonsVisible);
+    setVisible(state.buttonsVisible || !state.label.isEmpty());
+    // Hidden between two ticks, they come again; once it has ended another one is another matter.
+    if (!state.buttonsVisible && hadKeyboard) {
+        m_keyboardWentTo = state.hasEnded ? nullptr : window()->focusWidget();
+    }
+    const bool isAwaited = m_keyboardWentTo != nullptr && m_keyboardWentTo == focused;
+    if (state.buttonsVisible && usable != nullptr) {
+        usable->setEnabled(true);
+        if (hadKeyboard || isAwaited) {
+            usable->setFocus(Qt::OtherFocusReason);
+        }
+        m_keyboardWentTo = nullptr;
+    }
     m_pause->setEnabled(state.pauseEnabled);
     m_resume->setEnabled(state.resumeEnabled);
-    setVisible(state.buttonsVisible || !state.label.isEmpty());
 }
 
 void CountdownRow::announcePause()

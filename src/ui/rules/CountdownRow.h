@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QLabel;
@@ -24,12 +25,15 @@ public:
 private:
     QToolButton *makeButton(const QString &objectName, const QString &name, const QIcon &icon);
     void refresh();
+    void refreshButtons();
     void announcePause();
 
     CountdownModel &m_model;
     QLabel *m_label;
     QToolButton *m_pause;
     QToolButton *m_resume;
+    /// Where the keyboard is since the buttons were hidden under it, until they come again.
+    QPointer<QWidget> m_keyboardWentTo;
     bool m_isPaused = false;
 };
 

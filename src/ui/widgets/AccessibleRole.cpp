@@ -125,8 +125,12 @@ void setAccessibleValue(QWidget &widget, const QString &value)
 void announce(QWidget &widget, const QString &message)
 {
     widget.setAccessibleName(message);
-    QAccessibleEvent alert(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent said(&widget, message);
+#else
+    QAccessibleEvent said(&widget, QAccessible::Alert);
+#endif
+    QAccessible::updateAccessibility(&said);
 }
 
 } // namespace quillon

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionButton>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -82,7 +83,7 @@ public:
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.busy = isBusy();
-        state.disabled = state.disabled || isBusy();
+        state.disabled = state.disabled || !canBePressed();
         return state;
     }
     QString text(QAccessible::Text kind) const override
@@ -110,7 +111,7 @@ private:
     /// None while only a part of it is left.
     BusyButton *button() const { return qobject_cast<BusyButton *>(object()); }
     bool isBusy() const { return button() != nullptr && button()->isBusy(); }
-    bool canBePressed() const { return button() != nullptr && button()->isEnabled() && !isBusy(); }
+    bool canBePressed() const { return button() != nullptr && button()->isUsable() && !isBusy(); }
 };
 
 QAccessibleInterface *accessibleButton(const QString &, QObject *object)
@@ -169,6 +170,25 @@ void BusyButton::setBusy(bool busy)
     turn();
 }
 
+void BusyButton::setUsable(bool usable)
+{
+    const bool wasUsable = isUsable();
+    const bool hasKeyboard = isVisible() && window()->focusWidget() == this;
+    m_isRefusing = !usable && hasKeyboard && (isEnabled() || m_isRefusing);
+    setEnabled(usable || m_isRefusing);
+    if (m_isRefusing) {
+        setDown(false);
+    }
+    if (isUsable() == wasUsable) {
+        return;
+    }
+    update();
+    QAccessible::State changed;
+    changed.disabled = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 int BusyButton::widthOf(const Face &face) const
 {
     const int words =
@@ -197,7 +217,7 @@ void BusyButton::turn()
 
 void BusyButton::mousePressEvent(QMouseEvent *event)
 {
-    if (!m_isBusy) {
+    if (takesPresses()) {
         QPushButton::mousePressEvent(event);
     }
 }
@@ -207,8 +227,40 @@ void BusyButton::keyPressEvent(QKeyEvent *event)
     const int key = event->key();
     const bool presses = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter ||
                          key == Qt::Key_Select;
-    if (!m_isBusy || !presses) {
+    if (takesPresses() || !presses) {
         QPushButton::keyPressEvent(event);
+    }
+}
+
+bool BusyButton::event(QEvent *event)
+{
+    // Its letter with Alt presses it, too.
+    const bool isRefused = event->type() == QEvent::Shortcut && !takesPresses();
+    return isRefused || QPushButton::event(event);
+}
+
+void BusyButton::focusOutEvent(QFocusEvent *event)
+{
+    QPushButton::focusOutEvent(event);
+    // A popup or another window takes it for a while only.
+    if (window()->focusWidget() != this) {
+        stopRefusing();
+    }
+}
+
+void BusyButton::stopRefusing()
+{
+    if (std::exchange(m_isRefusing, false)) {
+        setEnabled(false);
+    }
+}
+
+void BusyButton::initStyleOption(QStyleOptionButton *option) const
+{
+    QPushButton::initStyleOption(option);
+    if (m_isRefusing) {
+        option->state &= ~(QStyle::State_Enabled | QStyle::State_MouseOver);
+        option->palette.setCurrentColorGroup(QPalette::Disabled);
     }
 }
 
@@ -222,6 +274,7 @@ void BusyButton::hideEvent(QHideEvent *event)
 {
     // Nobody sees it turn.
     m_motion->stop();
+    stopRefusing();
     QPushButton::hideEvent(event);
 }
 

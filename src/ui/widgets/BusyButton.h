@@ -14,7 +14,8 @@ namespace quillon {
 
 /// A button that says while its work is under way: a turning ring stands instead of its picture,
 /// and a word instead of its own where one is given. It keeps its width and the keyboard, and does
-/// nothing meanwhile; to assistive technology it is busy, and disabled.
+/// nothing meanwhile; to assistive technology it is busy, and disabled. It keeps the keyboard also
+/// when it cannot be used for a while: a key that was meant for it never goes to another control.
 class BusyButton : public QPushButton
 {
     Q_OBJECT
@@ -29,6 +30,10 @@ public:
     void setBusyName(const QString &name) { m_busyName = name; }
     void setBusy(bool busy);
     bool isBusy() const { return m_isBusy; }
+    /// Instead of setEnabled(). With the keyboard on it, a button that cannot be used looks and
+    /// acts as if it were disabled, and is disabled when the keyboard has gone elsewhere.
+    void setUsable(bool usable);
+    bool isUsable() const { return isEnabled() && !m_isRefusing; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -36,6 +41,9 @@ public:
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool event(QEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void initStyleOption(QStyleOptionButton *option) const override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -47,8 +55,10 @@ private:
         QIcon icon;
     };
 
+    bool takesPresses() const { return !m_isBusy && !m_isRefusing; }
     int widthOf(const Face &face) const;
     void turn();
+    void stopRefusing();
 
     const Theme &m_theme;
     QVariantAnimation *m_motion;
@@ -58,6 +68,7 @@ private:
     QString m_idleName;
     QString m_busyName;
     bool m_isBusy = false;
+    bool m_isRefusing = false; ///< it cannot be used and has the keyboard
 };
 
 } // namespace quillon

@@ -142,6 +142,8 @@ void DetailsArea::alignEnd()
     const QList<int> all = stops();
     const auto stop = std::lower_bound(all.begin(), all.end(), last);
     m_column->setContentsMargins(0, 0, 0, stop == all.end() ? 0 : *stop - last);
+    // What is above may have become higher or lower.
+    snap();
 }
 
 void DetailsArea::snap()

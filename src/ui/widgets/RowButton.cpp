@@ -87,6 +87,15 @@ void RowButton::takeRole()
 void RowButton::setOpen(bool open)
 {
     m_open = open;
+    m_isHighlighted = open;
+    update();
+}
+
+void RowButton::resetEmphasis()
+{
+    m_isHighlighted = false;
+    // The pointer may have left while a popover had it; nothing says so any more.
+    setAttribute(Qt::WA_UnderMouse, false);
     update();
 }
 
@@ -187,11 +196,11 @@ void RowButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    if (m_hasPopover && isEnabled() && (m_open || underMouse() || isDown())) {
-        painter.setBrush(m_open     ? colors.tint
-                         : isDown() ? colors.controlPressed
-                                    : colors.controlHover);
-        painter.setPen(m_open ? QPen(colors.tintEdge) : QPen(Qt::NoPen));
+    if (m_hasPopover && isEnabled() && (m_isHighlighted || underMouse() || isDown())) {
+        painter.setBrush(m_isHighlighted ? colors.tint
+                         : isDown()      ? colors.controlPressed
+                                         : colors.controlHover);
+        painter.setPen(m_isHighlighted ? QPen(colors.tintEdge) : QPen(Qt::NoPen));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Theme::controlRadius,
             Theme::controlRadius);
     }
@@ -221,7 +230,7 @@ void RowButton::paintEvent(QPaintEvent *)
             width() - inset - chevronSize, (height() - chevronSize) / 2, chevronSize, chevronSize);
         m_theme
             .icon(isRightToLeft() ? u"chevron-left"_s : u"collapsed"_s,
-                m_open ? Theme::Ink::OnTint : Theme::Ink::Muted)
+                m_isHighlighted ? Theme::Ink::OnTint : Theme::Ink::Muted)
             .paint(&painter, place(chevron));
     }
 }

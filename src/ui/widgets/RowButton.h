@@ -50,6 +50,8 @@ public:
     bool hasPopover() const { return m_hasPopover; }
     bool isOpen() const { return m_open; }
     void setOpen(bool open);
+    /// Takes the highlight away that an open popover or the pointer gave it.
+    void resetEmphasis();
     /// Said instead of the value on hovering; empty for the value, where it is cut.
     void setRowToolTip(const QString &text);
 
@@ -81,6 +83,7 @@ private:
     std::optional<Dot> m_dot;
     bool m_hasPopover = true;
     bool m_open = false;
+    bool m_isHighlighted = false;
 };
 
 } // namespace quillon

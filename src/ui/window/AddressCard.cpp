@@ -41,7 +41,7 @@ InlineLine::Kind kindOf(AddressFieldLine::Kind kind)
 void setUsable(BusyButton &button, bool isEnabled, const QString &whatItDoes, const QString &whyNot)
 {
     const QString hint = whyNot.isEmpty() ? whatItDoes : whyNot;
-    button.setEnabled(isEnabled);
+    button.setUsable(isEnabled);
     button.setToolTip(plainToolTip(hint));
     button.setAccessibleDescription(hint);
 }
@@ -131,7 +131,7 @@ void AddressCard::addChoice(QWidget *control)
 void AddressCard::focusApply()
 {
     QWidget *target = m_field;
-    if (m_apply->isEnabled()) {
+    if (m_apply->isUsable()) {
         target = m_apply;
     }
     target->setFocus(Qt::OtherFocusReason);
@@ -139,7 +139,9 @@ void AddressCard::focusApply()
 
 void AddressCard::randomize()
 {
-    m_randomize->click();
+    if (m_randomize->isUsable()) {
+        m_randomize->click();
+    }
 }
 
 void AddressCard::refresh()
@@ -148,7 +150,6 @@ void AddressCard::refresh()
     m_changed->setVisible(state.hardwareIndicatorVisible);
     m_field->refresh();
     m_field->setPlaceholderText(plainLine(state.fieldPlaceholder));
-    m_field->setEnabled(state.fieldEnabled);
     m_field->setAccessibleDescription(
         state.hardwareIndicatorVisible
             ? localized("Changed: the address in use is not the hardware address")
@@ -161,6 +162,8 @@ void AddressCard::refresh()
     setUsable(*m_randomize, state.randomizeEnabled,
         localized("Gives the interface a random, locally administered address"),
         state.whyNoRandomize);
+    // After them: it gives the keyboard to the next that can be used.
+    m_field->setEnabled(state.fieldEnabled);
     flashIfChanged();
 }
 

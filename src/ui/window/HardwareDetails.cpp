@@ -49,7 +49,7 @@ void HardwareDetails::refresh()
     const auto &state = m_model.state();
     showLine(*m_address, state.hardwareAddress);
     m_restore->setBusy(state.busyButton == ChangeButton::Restore);
-    m_restore->setEnabled(state.restoreEnabled);
+    m_restore->setUsable(state.restoreEnabled);
     const QString hint =
         state.restoreEnabled
             ? localized("Gives the interface the address back that it was made with")

@@ -98,10 +98,12 @@ void InterfaceHeader::announceState()
     if (state.selectedDevice.isEmpty()) {
         return;
     }
-    const QString said = QStringList{state.interfaceName, state.selectedDevice,
-        state.linkActive ? localized("Link active") : localized("Link inactive"), state.ipAddress}
-                             .join(u", "_s);
-    const QString line = plainLine(said);
+    QStringList said{state.interfaceName, state.selectedDevice,
+        state.linkActive ? localized("Link active") : localized("Link inactive")};
+    if (!state.ipAddress.isEmpty()) {
+        said.append(state.ipAddress);
+    }
+    const QString line = plainLine(said.join(u", "_s));
     if (line == accessibleName()) {
         return;
     }

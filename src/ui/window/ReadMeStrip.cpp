@@ -35,6 +35,7 @@ ReadMeStrip::ReadMeStrip(ReadMeModel &model, const Theme &theme, QWidget *parent
     setObjectName(u"readMe"_s);
     setAttribute(Qt::WA_StyledBackground);
     setMinimumHeight(Theme::tallRowHeight);
+    setAccessibleRole(*this, QAccessible::AlertMessage);
     makeHint();
     auto *install = new InstallHelperButton(model, theme, Theme::Ink::OnHintButton);
     install->setObjectName(u"installButton"_s);
@@ -84,7 +85,11 @@ void ReadMeStrip::makePopover()
 void ReadMeStrip::refresh()
 {
     const auto &state = m_model.state();
+    const bool isNew = state.visible && isHidden();
     setVisible(state.visible);
+    if (isNew && isVisible()) {
+        announce(*this, m_hint->text());
+    }
     const bool isOpen = m_popover != nullptr && m_popover->isOpen();
     if (state.popoverShown && !isOpen) {
         if (m_popover == nullptr) {

@@ -50,6 +50,7 @@ ComposedProgram::ComposedProgram(
         .reachability = m_reachability,
         .sleep = m_sleep,
         .wifi = radio != nullptr ? *radio : wifi,
+        .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
         .hotKeys = m_hotKeys,

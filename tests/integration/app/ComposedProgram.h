@@ -5,6 +5,7 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHotKeys.h"
+#include "fakes/FakeRadioSwitch.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -74,6 +75,7 @@ public:
     FakeWiFiClient wifi;
 
 private:
+    FakeRadioSwitch m_radioSwitch;
     SessionBusNotificationCenter m_distributedNotifications;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;

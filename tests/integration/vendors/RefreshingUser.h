@@ -113,6 +113,7 @@ private:
             .reachability = fakes.reachability,
             .sleep = fakes.sleep,
             .wifi = fakes.wifi,
+            .radioSwitch = fakes.radioSwitch,
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,
             .hotKeys = fakes.hotKeys,

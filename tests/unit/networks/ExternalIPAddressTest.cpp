@@ -111,6 +111,46 @@ TEST_F(ExternalIPAddressTest, ReadsTheSettingAnewEachTime)
     EXPECT_EQ(web.requests().size(), 1);
 }
 
+TEST_F(ExternalIPAddressTest, IsBeingLookedUpUntilTheLastAnswerHasCome)
+{
+    QStringList told;
+    QObject::connect(&*address, &ExternalIPAddress::lookUpBegan, [&] { told.append(u"began"_s); });
+    QObject::connect(&*address, &ExternalIPAddress::lookUpEnded,
+        [&] { told.append(u"ended with %1"_s.arg(stored().toString())); });
+    EXPECT_FALSE(address->isLookingUp());
+    address->updateExternalIPAddress(true);
+    const auto first = web.last();
+    address->updateExternalIPAddress(true);
+    web.deliver(web.last(), R"({"ip":"203.0.113.8"})");
+    web.finish(web.last());
+    scheduler.runPending();
+    EXPECT_TRUE(address->isLookingUp()) << "the other one is still under way";
+    web.deliver(first, R"({"ip":"203.0.113.7"})");
+    web.finish(first);
+    scheduler.runPending();
+    EXPECT_FALSE(address->isLookingUp());
+    EXPECT_EQ(told, (QStringList{u"began"_s, u"began"_s, u"ended with 203.0.113.8"_s,
+                        u"ended with 203.0.113.7"_s}));
+}
+
+TEST_F(ExternalIPAddressTest, KnowsWhetherTheLastAnswerHeldAnAddress)
+{
+    EXPECT_FALSE(address->hasFailed());
+    ask("<html>Please log in</html>");
+    EXPECT_TRUE(address->hasFailed());
+    LogCapture::taken();
+    ask(R"({"ip":"203.0.113.7"})");
+    EXPECT_FALSE(address->hasFailed());
+    ask("{}");
+    EXPECT_TRUE(address->hasFailed()) << "it named none";
+    ask(R"({"ip":"203.0.113.7"})");
+    web.refuse(question, {httpErrorDomain, 1, u"Connection refused"_s});
+    address->updateExternalIPAddress(true);
+    scheduler.runPending();
+    EXPECT_TRUE(address->hasFailed());
+    EXPECT_FALSE(address->isLookingUp());
+}
+
 TEST_F(ExternalIPAddressTest, AFailedTransferLeavesTheAddressInPlace)
 {
     web.refuse(question, {httpErrorDomain, 1, u"Connection refused"_s});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/networks/NetworkInfoModel.h"
 
+#include "fakes/FakeRadioSwitch.h"
 #include "networks/SavedNetworks.h"
 #include "presentation/networks/RemovedFavorite.h"
 #include "unit/networks/NetworkFixture.h"
@@ -36,10 +37,12 @@ protected:
     }
     const FavoriteButton &heart() const { return model->state().favorite; }
 
+    FakeRadioSwitch radioSwitch;
     SavedNetworks saved{settings, network};
     std::unique_ptr<RemovedFavorite> removed = std::make_unique<RemovedFavorite>(settings, network);
-    std::unique_ptr<NetworkInfoModel> model = std::make_unique<NetworkInfoModel>(
-        NetworkInfoModel::Collaborators{settings, scheduler, table, network, saved, *removed});
+    std::unique_ptr<NetworkInfoModel> model =
+        std::make_unique<NetworkInfoModel>(NetworkInfoModel::Collaborators{
+            settings, scheduler, table, network, radioSwitch, saved, *removed});
     int changes = 0;
 };
 
@@ -101,11 +104,28 @@ TEST_F(NetworkInfoModelTest, ShowsThatThereIsNoNetwork)
     EXPECT_EQ(model->state().rows.size(), 11);
 }
 
+TEST_F(NetworkInfoModelTest, SaysThatTheRadioIsSwitchedOff)
+{
+    network.updateWiFiNetwork();
+    radioSwitch.turn(true);
+    EXPECT_EQ(model->state().name, u"Home"_s) << "it has not been read that the network is gone";
+    radio.leave();
+    network.updateWiFiNetwork();
+    EXPECT_EQ(model->state().name, u"Wi-Fi is switched off."_s);
+    changes = 0;
+    radioSwitch.turn(false);
+    EXPECT_EQ(model->state().name, u"Not currently connected..."_s);
+    EXPECT_EQ(changes, 1);
+    radioSwitch.turn(true);
+    EXPECT_EQ(model->state().name, u"Wi-Fi is switched off."_s);
+}
+
 TEST_F(NetworkInfoModelTest, ShowsTheRecordOfTheLastRunUntilTheFirstRefresh)
 {
     settings.set(keys::currentWiFiDict,
         QVariantMap{{wifirecord::name, u"Before"_s}, {wifirecord::BSSID, officeBssid}});
-    const NetworkInfoModel later({settings, scheduler, table, network, saved, *removed});
+    FakeRadioSwitch ofLater;
+    const NetworkInfoModel later({settings, scheduler, table, network, ofLater, saved, *removed});
     EXPECT_EQ(later.state().name, u"Before"_s);
 }
 
@@ -231,6 +251,7 @@ TEST_F(NetworkInfoModelTest, LeavesNothingBehind)
     EXPECT_FALSE(scheduler.hasTimers());
     removed.reset();
     EXPECT_FALSE(settings.hasObservers());
+    EXPECT_FALSE(radioSwitch.isWatched());
 }
 
 TEST_F(NetworkInfoModelTest, CanHaveANetworkBackThatItsHeartRemoved)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/networks/NetworkRow.h"
 
+#include "fakes/FakeRadioSwitch.h"
 #include "networks/SavedNetworks.h"
 #include "presentation/networks/NetworkInfoModel.h"
 #include "presentation/networks/RemovedFavorite.h"
@@ -39,9 +40,10 @@ protected:
     }
 
     Theme theme;
+    FakeRadioSwitch radioSwitch;
     SavedNetworks saved{settings, network};
     RemovedFavorite removed{settings, network};
-    NetworkInfoModel model{{settings, scheduler, table, network, saved, removed}};
+    NetworkInfoModel model{{settings, scheduler, table, network, radioSwitch, saved, removed}};
     NetworkRow row{model, theme};
 };
 
@@ -103,6 +105,20 @@ TEST_F(NetworkRowTest, OnNoNetworkItSaysSoAndOpensNothing)
     EXPECT_EQ(row.value(), u"Not currently connected..."_s);
     EXPECT_FALSE(row.hasPopover());
     EXPECT_TRUE(texts().contains(u"–"_s));
+}
+
+TEST_F(NetworkRowTest, ARadioThatIsSwitchedOffIsToldInTheRowAndInAPopoverThatIsOpen)
+{
+    row.click();
+    ASSERT_TRUE(row.popover().isOpen());
+    radioSwitch.turn(true);
+    radio.leave();
+    scheduler.advance(3s);
+    EXPECT_EQ(row.value(), u"Wi-Fi is switched off."_s);
+    EXPECT_TRUE(row.accessibleName().contains(u"Wi-Fi is switched off."_s));
+    EXPECT_TRUE(texts().contains(u"Wi-Fi is switched off."_s));
+    row.popover().close();
+    EXPECT_FALSE(row.hasPopover()) << "there is nothing more to tell";
 }
 
 TEST_F(NetworkRowTest, WithoutARadioThereIsNoRow)

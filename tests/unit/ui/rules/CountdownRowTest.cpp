@@ -8,7 +8,9 @@
 #include "unit/ui/WindowFixture.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace quillon::test {
 
@@ -93,6 +95,44 @@ TEST_F(CountdownRowTest, OneOfPauseAndResumeCanBePressed)
     scheduler.advance(2s);
     EXPECT_EQ((QList<bool>{pause->isEnabled(), resume->isEnabled()}), (QList<bool>{true, false}));
     EXPECT_FALSE(part<QLabel>("timerLabel")->text().contains(u"(paused)"_s));
+}
+
+TEST_F(CountdownRowTest, WhoeverPausesByAKeyCanResumeByTheNext)
+{
+    QWidget view;
+    QVBoxLayout column(&view);
+    auto *neighbor = new QPushButton(u"Refresh"_s);
+    CountdownRow shown(model, theme);
+    column.addWidget(&shown);
+    column.addWidget(neighbor);
+    view.show();
+    view.activateWindow();
+    QCoreApplication::processEvents();
+    startCountdown(wired);
+    scheduler.advance(1s);
+    auto *pause = shown.findChild<QToolButton *>(u"pauseButton"_s);
+    auto *resume = shown.findChild<QToolButton *>(u"resumeButton"_s);
+    pause->setFocus(Qt::TabFocusReason);
+    scheduler.advance(2s);
+    EXPECT_TRUE(pause->hasFocus());
+    press(*pause, Qt::Key_Space);
+    EXPECT_FALSE(pause->isEnabled() || resume->isEnabled()) << "until the next tick";
+    EXPECT_EQ(view.focusWidget(), &shown) << "the next key does nothing";
+    scheduler.advance(1s);
+    EXPECT_TRUE(resume->hasFocus());
+    press(*resume, Qt::Key_Space);
+    scheduler.advance(1s);
+    EXPECT_TRUE(pause->hasFocus());
+
+    // It is hidden and shown again when the interface is read anew.
+    model.hideTimerLabel();
+    EXPECT_FALSE(pause->isVisible());
+    scheduler.advance(1s);
+    EXPECT_TRUE(pause->hasFocus());
+    model.hideTimerLabel();
+    neighbor->clearFocus();
+    scheduler.advance(1s);
+    EXPECT_FALSE(pause->hasFocus()) << "the user went elsewhere";
 }
 
 TEST_F(CountdownRowTest, ItsButtonsSayWhatTheyDo)

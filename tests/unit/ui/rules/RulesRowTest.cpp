@@ -66,6 +66,34 @@ TEST_F(RulesRowTest, TellsWhetherARuleHolds)
     setHasRule(2);
     EXPECT_EQ(row.value(), u"No active rules"_s);
     EXPECT_EQ(struckThrough(), (QStringList{u"Active rule"_s, u"No rules"_s}));
+    setHasRule(0);
+    EXPECT_EQ(struckThrough(), (QStringList{u"Active rule"_s, u"No active rules"_s}));
+}
+
+TEST_F(RulesRowTest, WhatIsStruckThroughIsPaleAsWellAndSaysTheSame)
+{
+    setHasRule(1);
+    QStringList said;
+    for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {
+        if (label->text().contains(u"rule"_s, Qt::CaseInsensitive)) {
+            said.append(label->text());
+            EXPECT_EQ(label->isEnabled(), !label->font().strikeOut())
+                << label->text().toStdString();
+        }
+    }
+    for (const auto &text : {u"Active rule"_s, u"No active rules"_s, u"No rules"_s}) {
+        EXPECT_TRUE(said.contains(text)) << text.toStdString();
+    }
+}
+
+TEST_F(RulesRowTest, ItsToolTipSaysHowTheRulesStand)
+{
+    setHasRule(1);
+    EXPECT_EQ(row.toolTip(), u"has an Active rule"_s);
+    setHasRule(2);
+    EXPECT_EQ(row.toolTip(), u"no rules are currently Active"_s);
+    setHasRule(0);
+    EXPECT_EQ(row.toolTip(), u"no rules have been configured"_s);
 }
 
 TEST_F(RulesRowTest, ListsTheRulesOfTheInterfaceWithTheirSwitches)

@@ -92,6 +92,66 @@ TEST_F(BusyButtonTest, ToAssistiveTechnologyItIsBusyAndDisabled)
     EXPECT_EQ(accessible(*button).text(QAccessible::Name), u"Randomizing…"_s);
 }
 
+TEST_F(BusyButtonTest, KeepsTheKeyboardWhenItCannotBeUsedForAWhile)
+{
+    auto *other = new QPushButton(u"Vendor"_s);
+    column->addWidget(other);
+    settle();
+    const SignalLog clicked(button, &QPushButton::clicked);
+    button->setUsable(false);
+    EXPECT_TRUE(button->hasFocus());
+    EXPECT_FALSE(button->isUsable());
+    EXPECT_TRUE(accessible(*button).state().disabled);
+    click(*button);
+    press(Qt::Key_Space);
+    press(Qt::Key_Return);
+    accessible(*button).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QShortcutEvent letter(QKeySequence(Qt::ALT | Qt::Key_R), 0);
+    QApplication::sendEvent(button, &letter);
+    EXPECT_EQ(clicked.size(), 0);
+    button->setUsable(true);
+    EXPECT_TRUE(button->hasFocus());
+    EXPECT_FALSE(accessible(*button).state().disabled);
+    press(Qt::Key_Space);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST_F(BusyButtonTest, IsDisabledWhenTheKeyboardLeavesIt)
+{
+    auto *other = new QPushButton(u"Vendor"_s);
+    column->addWidget(other);
+    settle();
+    button->setUsable(false);
+    ASSERT_TRUE(button->isEnabled());
+    button->setUsable(false);
+    EXPECT_TRUE(button->hasFocus()) << "said twice";
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(button, &away);
+    EXPECT_TRUE(button->isEnabled()) << "another window has it for a while";
+    other->setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(button->isEnabled());
+    button->setUsable(false);
+    EXPECT_FALSE(button->isEnabled()) << "the keyboard is elsewhere";
+    button->setUsable(true);
+    EXPECT_TRUE(button->isUsable());
+    EXPECT_TRUE(other->hasFocus()) << "nobody asked for it back";
+}
+
+TEST_F(BusyButtonTest, LooksDisabledWhenItCannotBeUsed)
+{
+    // Outside of its round corners is what it lies on.
+    const auto inside = [this] {
+        return button->grab(button->rect().adjusted(4, 4, -4, -4)).toImage();
+    };
+    const QImage usual = inside();
+    button->setUsable(false);
+    const QImage refusing = inside();
+    EXPECT_NE(refusing, usual);
+    button->clearFocus();
+    ASSERT_FALSE(button->isEnabled());
+    EXPECT_EQ(inside(), refusing);
+}
+
 TEST_F(BusyButtonTest, TheRingTurnsWhileItIsSeenUnlessNothingIsToMove)
 {
     button->setBusy(true);

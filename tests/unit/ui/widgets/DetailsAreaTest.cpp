@@ -61,6 +61,16 @@ protected:
         section->setFixedHeight(height);
         settle();
     }
+    /// None is cut by the upper edge.
+    void expectWholeRowAtTheTop(const QList<QWidget *> &rows, int step) const
+    {
+        for (const QWidget *row : rows) {
+            const int top = row->mapTo(area->viewport(), QPoint(0, 0)).y();
+            // The card's edge, and the line between two rows, may be.
+            EXPECT_TRUE(row->isHidden() || top >= 0 || top + row->height() <= 6)
+                << step << ": from " << top << " to " << top + row->height();
+        }
+    }
     bool scrolls() const { return area->verticalScrollBar()->maximum() > 0; }
 
     Theme theme;
@@ -140,6 +150,48 @@ TEST_F(DetailsAreaTest, ShowsWholeRowsWhereverItScrolls)
     view->facts().findChild<QLabel *>()->setFocusPolicy(Qt::StrongFocus);
     view->facts().findChild<QLabel *>()->setFocus(Qt::BacktabFocusReason);
     EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(DetailsAreaTest, WholeRowsBeginAtItsUpperEdgeAlsoWhereTheyDifferInHeight)
+{
+    QList<QWidget *> rows = addRows(40);
+    for (qsizetype row = 0; row < rows.size(); ++row) {
+        rows.at(row)->setFixedHeight(Theme::rowHeight + static_cast<int>(row * 13 % 41));
+    }
+    makeSection(70);
+    ASSERT_TRUE(scrolls());
+    QScrollBar &bar = *area->verticalScrollBar();
+    for (int value = 0; value <= bar.maximum(); value += 5) {
+        bar.setValue(value);
+        settle();
+        expectWholeRowAtTheTop(rows, value);
+    }
+    for (int row = 0; row < 60; ++row) {
+        bar.triggerAction(QAbstractSlider::SliderPageStepSub);
+        settle();
+        expectWholeRowAtTheTop(rows, row);
+    }
+    EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(DetailsAreaTest, ARowThatComesOrGrowsAboveLeavesAWholeOneAtTheTop)
+{
+    QList<QWidget *> rows = addRows(40);
+    rows.at(3)->hide();
+    makeSection(70);
+    QScrollBar &bar = *area->verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    settle();
+    rows.at(3)->setFixedHeight(Theme::rowHeight + 17);
+    rows.at(3)->show();
+    settle();
+    expectWholeRowAtTheTop(rows, 1);
+    rows.at(1)->setFixedHeight(Theme::rowHeight + 9);
+    settle();
+    expectWholeRowAtTheTop(rows, 2);
+    rows.at(3)->hide();
+    settle();
+    expectWholeRowAtTheTop(rows, 3);
 }
 
 TEST_F(DetailsAreaTest, TakesNoKeyboardForItself)

@@ -165,6 +165,24 @@ TEST_F(RowButtonTest, IsTintedWhileItsPopoverIsOpen)
     EXPECT_TRUE(shows(theme.colors().tint, 0, row->width()));
 }
 
+TEST_F(RowButtonTest, LosesItsTintWhenItsEmphasisIsReset)
+{
+    const QImage usual = row->grab().toImage();
+    row->setOpen(true);
+    EXPECT_NE(row->grab().toImage(), usual);
+    row->resetEmphasis();
+    EXPECT_EQ(row->grab().toImage(), usual);
+    EXPECT_TRUE(row->isOpen()) << "its popover is another matter";
+    row->setOpen(false);
+    row->setOpen(true);
+    EXPECT_NE(row->grab().toImage(), usual);
+    row->setOpen(false);
+    row->setAttribute(Qt::WA_UnderMouse, true);
+    EXPECT_NE(row->grab().toImage(), usual) << "the pointer is over it";
+    row->resetEmphasis();
+    EXPECT_EQ(row->grab().toImage(), usual);
+}
+
 TEST_F(RowButtonTest, AnAddressReadsTheSameInAMirroredWindow)
 {
     // Drawn alone, as wide as it is.
