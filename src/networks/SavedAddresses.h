@@ -26,10 +26,10 @@ public:
     /// None when it is not saved.
     std::optional<RemovedEntry> removeCurrentAddressFromSavedList();
     bool isCurrentAddressSaved() const;
-
-private:
+    /// In lower case, as it would be saved; "" for none.
     QString currentAddress() const;
 
+private:
     SettingsStore &m_settings;
 };
 

@@ -238,6 +238,17 @@ class PopoverTests:
         self.gallery.click("Saved addresses")
         self.gallery.expect("opening saved")
 
+    def test_a_token_is_dropped_whose_entry_went_meanwhile(self):
+        self.open()
+        self.gallery.expect("shown")
+        self.gallery.drag("Guest lab", "Drop here")
+        self.gallery.expect("dropped 02:00:00:00:00:03")
+        self.gallery.expect("drag ended")
+        facts = self.gallery.facts
+        self.assertLess(facts.index("entry gone"), facts.index("dropped 02:00:00:00:00:03"))
+        self.gallery.click("Saved addresses")
+        self.gallery.expect("opening saved")
+
 
 class X11PopoverTest(PopoverTests, unittest.TestCase):
     kind = X11

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "face/FaceProgram.h"
+#include "store/model/QuillonModel.h"
 #include "ui/widgets/TokenField.h"
 
 #include <QAbstractButton>
@@ -48,14 +49,34 @@ void saveAddresses(FaceProgram &program)
     program.saveAddress(u"02:00:5e:00:53:0e"_s, u"The old printer on the third floor, east wing"_s);
 }
 
-/// More than a screen has room for.
 void saveManyAddresses(FaceProgram &program)
 {
-    constexpr int many = 50;
-    for (int number = 0; number < many; ++number) {
-        const QString address = u"02:00:5e:00:54:%1"_s.arg(number, 2, 16, QChar(u'0'));
-        program.saveAddress(address, u"Place %1"_s.arg(number));
+    for (int index = 0; index < 40; ++index) {
+        const QString address = u"02:00:5e:00:54:%1"_s.arg(index, 2, 16, QChar(u'0'));
+        program.saveAddress(address, index % 3 == 0 ? address : u"Room %1"_s.arg(index));
     }
+}
+
+void saveManyRules(FaceProgram &program)
+{
+    for (int index = 0; index < 30; ++index) {
+        auto rule = FaceProgram::repeatedRule(u"Rule %1"_s.arg(index));
+        rule[model::rule::enabled] = index == 0;
+        program.saveRule(rule);
+    }
+}
+
+void openWordyVendor(FaceProgram &program)
+{
+    program.machine.settings.set(keys::currentVendorData,
+        QVariantMap{{vendordata::vendorCurrentString, QString(60, u'W')},
+            {vendordata::vendorCurrentAddress,
+                u"Room 1208-09, Research Building, Information Port, No. 1, Harbor Road, Western "
+                "District, Springfield Springfield Kansas US 518000, rear building"_s},
+            {vendordata::vendorCurrentAssignment, u"02A005"_s},
+            {vendordata::vendorCurrentRegistry, u"MA-L"_s}});
+    program.settle();
+    program.features().vendors.info.toggleVendorPopover();
 }
 
 void saveRules(FaceProgram &program)
@@ -210,6 +231,9 @@ const QList<FaceScene> scenes{
     {u"popover-network-long"_s, joinLongName, openNetwork},
     {u"popover-vendor"_s, nullptr,
         [](P &program) { program.features().vendors.info.toggleVendorPopover(); }},
+    {u"popover-vendor-long"_s, nullptr, openWordyVendor},
+    {u"popover-rules-many"_s, saveManyRules,
+        [](P &program) { program.features().rules.list.toggleRulesPopover(); }},
     {u"popover-rules"_s, saveRules,
         [](P &program) { program.features().rules.list.toggleRulesPopover(); }},
     {u"popover-rules-empty"_s, nullptr,

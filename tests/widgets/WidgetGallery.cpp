@@ -250,6 +250,16 @@ private:
         connect(tokens, &TokenField::activated, this,
             [](int index) { say(u"activated %1"_s.arg(index)); });
         connect(tokens, &TokenField::dragBegan, popover, &Popover::stepAside);
+        // In the middle of the drag, whichever token is dragged.
+        connect(
+            tokens, &TokenField::dragBegan, tokens,
+            [tokens] {
+                auto entries = tokens->entries();
+                entries.removeIf([](const auto &entry) { return entry.title == u"Guest lab"_s; });
+                tokens->setEntries(entries);
+                say(u"entry gone"_s);
+            },
+            Qt::QueuedConnection);
         connect(tokens, &TokenField::dragEnded, popover, &Popover::close);
         connect(tokens, &TokenField::dragEnded, this, [] { say(u"drag ended"_s); });
         return popover;

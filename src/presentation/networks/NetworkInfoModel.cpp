@@ -136,7 +136,11 @@ void NetworkInfoModel::chooseFavoriteButton()
 {
     if (m_state->favorite.removes) {
         m_deps.removed.remember(m_deps.savedNetworks.removeCurrentNetworkFromSavedList());
-    } else {
+        return;
+    }
+    const QString bssid = WiFiRecord::stored(m_deps.settings).bssid.toLower();
+    if (!m_deps.removed.putBack(keys::savedNetworks, bssid)) {
+        // Otherwise it was removed just now, and keeps its name.
         m_deps.savedNetworks.addCurrentNetworkToSavedList();
     }
 }

@@ -15,8 +15,9 @@ namespace quillon {
 
 class WiFiNetwork;
 
-/// What was taken out of a saved list last, in one window, and how to have it back. It is over when
-/// something is saved under its key again, whoever did that. Main thread.
+/// What was taken out of the saved lists of late, in one window, and how to have it back: the last
+/// one first. It is over for what something is saved under its key again, whoever did that. Main
+/// thread.
 class RemovedFavorite : public QObject
 {
     Q_OBJECT
@@ -25,26 +26,38 @@ public:
     RemovedFavorite(SettingsStore &settings, WiFiNetwork &wifi);
     ~RemovedFavorite() override;
 
-    /// None when there is nothing to have back.
-    const std::optional<RemovedEntry> &entry() const { return m_entry.get(); }
+    static constexpr qsizetype most = 20; ///< then the oldest is forgotten
+
+    /// The last one. None when there is nothing to have back.
+    std::optional<RemovedEntry> entry() const;
     /// What the user is told of it.
     static QString message();
 
-    /// Just removed; none: it was not there, and what was removed before can still be had back.
+    /// Just removed; none: it was not there, and nothing changes.
     void remember(const std::optional<RemovedEntry> &removed);
-    /// Puts it back as it was. The Wi-Fi record follows a network.
+    /// Puts the last one back as it was. The Wi-Fi record follows a network.
     void undo();
+    /// The same, of the one that was saved under `key` in `list`. False, and nothing happens, when
+    /// there is none.
+    bool putBack(const QString &list, const QString &key);
+    /// Its time is over: nothing can be had back any more.
+    void forget();
 
 Q_SIGNALS:
-    /// entry() is not what it was.
+    /// What can be had back is not what it was.
     void changed();
+    /// Something was removed just now.
+    void remembered();
 
 private:
+    using Entries = QList<RemovedEntry>;
+
     void look();
+    void restore(qsizetype index);
 
     SettingsStore &m_settings;
     WiFiNetwork &m_wifi;
-    Shown<std::optional<RemovedEntry>> m_entry{[this] { Q_EMIT changed(); }};
+    Shown<Entries> m_entries{[this] { Q_EMIT changed(); }};
     std::vector<SettingsStore::Token> m_observed;
 };
 

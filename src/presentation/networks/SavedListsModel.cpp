@@ -119,7 +119,8 @@ void SavedListsModel::chooseFavoriteButton()
 {
     if (m_state->favorite.removes) {
         m_removed.remember(m_savedAddresses.removeCurrentAddressFromSavedList());
-    } else {
+    } else if (!m_removed.putBack(keys::savedAddresses, m_savedAddresses.currentAddress())) {
+        // Otherwise it was removed just now, and keeps its name.
         m_savedAddresses.addCurrentAddressToSavedList();
     }
 }

@@ -96,8 +96,20 @@ void RulesListModel::selectRow(qsizetype row)
 void RulesListModel::toggle(qsizetype row, bool enabled)
 {
     if (row >= 0 && row < m_state->rows.size()) {
-        m_deps.notifications.post(notifications::toggleCheckbox, this,
-            {{u"objID"_s, m_state->rows.at(row).objID}, {u"state"_s, enabled}});
+        toggleRule(m_state->rows.at(row).objID, enabled);
+    }
+}
+
+void RulesListModel::toggleRule(const QString &objID, bool enabled)
+{
+    const auto &rows = m_state->rows;
+    const bool isListed = std::any_of(
+        rows.begin(), rows.end(), [&objID](const Row &row) { return row.objID == objID; });
+    if (isListed) {
+        // The row may go while this is told.
+        const QString rule = objID;
+        m_deps.notifications.post(
+            notifications::toggleCheckbox, this, {{u"objID"_s, rule}, {u"state"_s, enabled}});
     }
 }
 

@@ -70,6 +70,8 @@ public:
     void selectRow(qsizetype row);
     /// The check box of a row was used. Broadcasts "toggleCheckbox"; the row follows the rule.
     void toggle(qsizetype row, bool enabled);
+    /// The same, of the rule that the row showed: nothing happens when it is not listed any more.
+    void toggleRule(const QString &objID, bool enabled);
 
 Q_SIGNALS:
     /// Something in state() changed.

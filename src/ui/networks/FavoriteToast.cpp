@@ -11,14 +11,24 @@ FavoriteToast::FavoriteToast(
     : Toast(theme, scheduler, window)
     , m_model(model)
 {
+    connect(&m_model, &RemovedFavorite::remembered, this, &FavoriteToast::offer);
     connect(&m_model, &RemovedFavorite::changed, this, &FavoriteToast::refresh);
+    connect(this, &Toast::expired, &m_model, &RemovedFavorite::forget);
+}
+
+void FavoriteToast::offer()
+{
+    say(RemovedFavorite::message(), [this] {
+        m_model.undo();
+        if (m_model.entry()) {
+            offer();
+        }
+    });
 }
 
 void FavoriteToast::refresh()
 {
-    if (m_model.entry()) {
-        say(RemovedFavorite::message(), [this] { m_model.undo(); });
-    } else {
+    if (!m_model.entry()) {
         dismiss();
     }
 }

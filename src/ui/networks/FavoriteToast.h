@@ -8,7 +8,8 @@ namespace quillon {
 
 class RemovedFavorite;
 
-/// Says in a window that a favorite was removed there, as long as it can be had back.
+/// Says in a window that a favorite was removed there, as long as it can be had back. When it was
+/// had back, and another was removed before it, that can be had back next.
 class FavoriteToast : public Toast
 {
     Q_OBJECT
@@ -18,6 +19,7 @@ public:
         RemovedFavorite &model, const Theme &theme, Scheduler &scheduler, QWidget *window);
 
 private:
+    void offer();
     void refresh();
 
     RemovedFavorite &m_model;

@@ -35,7 +35,11 @@ SavedAddressPopover::SavedAddressPopover(
 
 void SavedAddressPopover::refreshDetails()
 {
-    showLine(*m_address, state().address);
+    // As it is stored: that may be anything.
+    constexpr int widest = usualWidth - 2 * Theme::popoverMargin;
+    showLine(*m_address, state().address, widest);
+    m_address->setToolTip(
+        m_address->text() == state().address ? QString() : plainToolTip(state().address));
 }
 
 } // namespace quillon

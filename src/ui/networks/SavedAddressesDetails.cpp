@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/networks/SavedListsModel.h"
+#include "ui/networks/TokenScrollArea.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/PlainText.h"
@@ -18,10 +19,17 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int ring = TokenScrollArea::ringRoom;
+
+} // namespace
+
 SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme &theme)
     : m_model(model)
     , m_heart(new HeartButton(theme))
     , m_tokens(new TokenField)
+    , m_area(new TokenScrollArea(m_tokens))
 {
     auto *head = new PopoverHead(theme);
     head->setTitle(localized("Saved addresses"));
@@ -37,14 +45,20 @@ SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme
     edit->setAccessibleName(localized("Edit Saved Items"));
     edit->setToolTip(plainToolTip(localized("Opens the window of saved networks and addresses")));
     edit->setAutoDefault(true);
+    auto *ending = new QHBoxLayout;
+    ending->setContentsMargins(0, Theme::unit, ring, 0);
+    ending->addStretch();
+    ending->addWidget(edit);
+    // All begins where the tokens begin.
+    head->setContentsMargins(ring, 0, ring, 0);
+    hint->setContentsMargins(ring, 0, ring, 0);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
+    column->setSpacing(Theme::unit / 2);
     column->addWidget(head);
-    column->addWidget(m_tokens);
+    column->addWidget(m_area);
     column->addWidget(hint);
-    column->addSpacing(Theme::unit / 2);
-    column->addWidget(edit, 0, Qt::AlignRight);
+    column->addLayout(ending);
 
     connect(edit, &QPushButton::clicked, this, &SavedAddressesDetails::editingWanted);
     connect(m_heart, &QToolButton::clicked, &m_model, &SavedListsModel::chooseFavoriteButton);
@@ -63,6 +77,7 @@ void SavedAddressesDetails::refresh()
         entries.append({token.text, token.entry.address.value_or(QString())});
     }
     m_tokens->setEntries(entries);
+    m_area->updateGeometry();
     m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
 }
 

@@ -10,6 +10,7 @@ class HeartButton;
 class SavedListsModel;
 class Theme;
 class TokenField;
+class TokenScrollArea;
 
 /// The saved addresses as tokens, and the heart of the current address.
 class SavedAddressesDetails : public PopoverDetails
@@ -33,6 +34,7 @@ private:
     SavedListsModel &m_model;
     HeartButton *m_heart;
     TokenField *m_tokens;
+    TokenScrollArea *m_area;
 };
 
 } // namespace quillon

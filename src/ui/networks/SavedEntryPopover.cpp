@@ -29,12 +29,7 @@ SavedEntryPopover::SavedEntryPopover(
     setAccessibleRole(*this, QAccessible::Dialog);
     makeContent();
     connect(m_name, &QLineEdit::returnPressed, this, &SavedEntryPopover::endEditing);
-    connect(m_name, &QLineEdit::editingFinished, this, [this] {
-        // Who only passes through has edited nothing.
-        if (m_name->text() != shownName()) {
-            endEditing();
-        }
-    });
+    connect(m_name, &QLineEdit::editingFinished, this, &SavedEntryPopover::leaveName);
     connect(m_remove, &QPushButton::clicked, &m_model, &SavedEntryPopoverModel::removeEntry);
     connect(this, &Popover::aboutToShow, this, &SavedEntryPopover::fill);
     connect(this, &Popover::aboutToClose, this, &SavedEntryPopover::closed);
@@ -100,6 +95,14 @@ void SavedEntryPopover::refresh()
     }
 }
 
+void SavedEntryPopover::leaveName()
+{
+    // Who only passes through has edited nothing.
+    if (m_name->text() != shownName()) {
+        endEditing();
+    }
+}
+
 void SavedEntryPopover::endEditing()
 {
     if (!m_hasEnded) {
@@ -112,6 +115,10 @@ void SavedEntryPopover::endEditing()
 
 void SavedEntryPopover::closed()
 {
+    // With its window it goes before the name loses the keyboard.
+    if (state().open == m_kind) {
+        leaveName();
+    }
     if (m_kind == Kind::Network) {
         m_model.closeNetworkPopover();
     } else {

@@ -12,9 +12,9 @@ class QVBoxLayout;
 namespace quillon {
 
 /// What the two edit popovers share: the name and the button that removes the entry. Return, or
-/// leaving a name that was changed, saves it and closes; Escape closes and keeps the name of
-/// before. Its model says when it closes; it is opened beside its token by whoever shows the
-/// tokens.
+/// leaving a name that was changed, saves it and closes; so does whatever closes the popover with a
+/// changed name in it. Only Escape closes and keeps the name of before. Its model says when it
+/// closes; it is opened beside its token by whoever shows the tokens.
 class SavedEntryPopover : public Popover
 {
     Q_OBJECT
@@ -40,6 +40,7 @@ private:
     QString shownName() const;
     void fill();
     void refresh();
+    void leaveName();
     void endEditing();
     void closed();
 

@@ -64,6 +64,12 @@ SavedItemsView::SavedItemsView(const Models &models, const Theme &theme, QWidget
     refreshTokens();
 }
 
+void SavedItemsView::endEditing()
+{
+    m_networkPopover->close();
+    m_addressPopover->close();
+}
+
 TokenField *SavedItemsView::makeTokens(
     QVBoxLayout &column, TokenFieldKind kind, const QString &title, const QString &emptyText)
 {

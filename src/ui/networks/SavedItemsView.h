@@ -31,6 +31,9 @@ public:
 
     SavedItemsView(const Models &models, const Theme &theme, QWidget *parent = nullptr);
 
+    /// Closes what is open; a name that is being typed is saved.
+    void endEditing();
+
 private:
     TokenField *makeTokens(
         QVBoxLayout &column, TokenFieldKind kind, const QString &title, const QString &emptyText);

@@ -8,10 +8,11 @@
 #include "ui/networks/FavoriteToast.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/RevealingScrollArea.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QIcon>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -37,16 +38,7 @@ SavedItemsWindow::SavedItemsWindow(
     auto *view = new SavedItemsView(models.view, theme);
     view->layout()->setContentsMargins(
         Theme::windowMargin, Theme::windowMargin, Theme::windowMargin, Theme::windowMargin);
-    auto *area = new QScrollArea;
-    area->setObjectName(u"detailsArea"_s);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidgetResizable(true);
-    area->setWidget(view);
-    // The window's ground shows through.
-    area->viewport()->setAutoFillBackground(false);
-    view->setAutoFillBackground(false);
+    auto *area = new RevealingScrollArea(view);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(area);
@@ -56,6 +48,9 @@ SavedItemsWindow::SavedItemsWindow(
     new FavoriteToast(models.removed, theme, scheduler, this);
     makeShortcuts();
     connect(&m_presence, &Presence::windowHidden, this, &QWidget::hide);
+    // The program ends by the user's wish, or is ended.
+    connect(&m_presence, &Presence::terminated, view, &SavedItemsView::endEditing);
+    connect(qApp, &QCoreApplication::aboutToQuit, view, &SavedItemsView::endEditing);
     connect(&m_presence, &Presence::dockIconHiddenChanged, this, &SavedItemsWindow::followTaskBar);
     connect(&m_presence, &Presence::openWindowsBroughtToFront, this, [this] {
         if (isVisible() && !isMinimized()) {

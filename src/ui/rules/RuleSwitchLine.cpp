@@ -40,8 +40,14 @@ RuleSwitchLine::RuleSwitchLine(const Theme &theme, QWidget *parent)
     });
 }
 
+QWidget *RuleSwitchLine::control() const
+{
+    return m_switch;
+}
+
 void RuleSwitchLine::setRule(const RulesListModel::Row &rule)
 {
+    m_objID = rule.objID;
     const QString name = plainLine(rule.name);
     showLine(*m_name, rule.name, widestName * m_name->fontMetrics().averageCharWidth());
     m_name->setToolTip(plainToolTip(rule.name));

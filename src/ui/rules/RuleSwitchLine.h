@@ -23,12 +23,17 @@ public:
     explicit RuleSwitchLine(const Theme &theme, QWidget *parent = nullptr);
 
     void setRule(const RulesListModel::Row &rule);
+    /// Which rule it shows.
+    const QString &objID() const { return m_objID; }
+    /// What takes the keyboard in it.
+    QWidget *control() const;
 
 Q_SIGNALS:
     /// By the user.
     void switched(bool isOn);
 
 private:
+    QString m_objID;
     ToggleSwitch *m_switch;
     QLabel *m_name;
     Badge *m_active;

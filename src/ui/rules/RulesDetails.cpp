@@ -4,9 +4,9 @@
 
 #include "base/Localized.h"
 #include "presentation/rules/RuleStatusModel.h"
-#include "presentation/rules/RulesListModel.h"
 #include "ui/rules/RuleSwitchLine.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/PopoverHead.h"
 
@@ -14,13 +14,26 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <memory>
+#include <algorithm>
+#include <utility>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// What lies beside a switch is its ring's; all begins where the switches begin.
+constexpr int ring = ContentScrollArea::ringRoom;
+/// A row more would be seen to its half.
+constexpr int tallest = 8 * Theme::rowHeight + Theme::rowHeight / 2;
+
+QWidget *makeList(QVBoxLayout *rows)
+{
+    auto *list = new QWidget;
+    list->setLayout(rows);
+    return list;
+}
 
 void shouldAddStrikeThroughToTextfield(bool isStruck, QLabel &label)
 {
@@ -41,6 +54,7 @@ RulesDetails::RulesDetails(RuleStatusModel &status, RulesListModel &list, const 
     , m_noActiveRules(plainLabel(localized("No active rules")))
     , m_noRules(plainLabel(localized("No rules")))
     , m_rules(new QVBoxLayout)
+    , m_area(new ContentScrollArea(makeList(m_rules), tallest))
     , m_empty(plainLabel(localized("No rule for this interface.")))
 {
     auto *labels = new QHBoxLayout;
@@ -50,14 +64,18 @@ RulesDetails::RulesDetails(RuleStatusModel &status, RulesListModel &list, const 
         labels->addWidget(label);
     }
     labels->addStretch();
+    labels->setContentsMargins(ring, 0, ring, 0);
     m_rules->setSpacing(0);
+    m_rules->setContentsMargins(ring, 0, ring, 0);
+    m_head->setContentsMargins(ring, 0, ring, 0);
+    m_empty->setContentsMargins(ring, 0, ring, 0);
     m_empty->setProperty("look", u"caption"_s);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit);
     column->addWidget(m_head);
     column->addLayout(labels);
-    column->addLayout(m_rules);
+    column->addWidget(m_area);
     column->addWidget(m_empty);
     connect(&m_status, &RuleStatusModel::changed, this, &RulesDetails::refreshStatus);
     connect(&m_list, &RulesListModel::changed, this, &RulesDetails::refreshList);
@@ -83,23 +101,51 @@ void RulesDetails::refreshList()
     m_head->setIcon(m_list.state().symbol == "wifi"_L1 ? u"wireless"_s : u"wired"_s);
     const auto &rows = m_list.state().rows;
     m_empty->setVisible(rows.isEmpty());
-    // Rows that are there already keep the keyboard.
-    while (m_rules->count() > rows.size()) {
-        const std::unique_ptr<QLayoutItem> last(m_rules->takeAt(m_rules->count() - 1));
-        last->widget()->hide();
-        last->widget()->deleteLater();
-    }
-    for (qsizetype row = 0; row < rows.size(); ++row) {
-        if (row == m_rules->count()) {
-            auto *line = new RuleSwitchLine(m_theme);
-            connect(line, &RuleSwitchLine::switched, this,
-                [this, row](bool isOn) { m_list.toggle(row, isOn); });
-            m_rules->addWidget(line);
+    m_area->setVisible(!rows.isEmpty());
+    setRules(rows);
+    m_area->updateGeometry();
+}
+
+void RulesDetails::setRules(const QList<RulesListModel::Row> &rules)
+{
+    // A rule keeps its line, wherever it goes: the keyboard goes with it.
+    QList<RuleSwitchLine *> gone = std::exchange(m_lines, {});
+    // The order of Tab begins at the area, which counts only while it takes the keyboard itself.
+    m_area->setFocusPolicy(Qt::TabFocus);
+    QWidget *before = m_area;
+    for (const RulesListModel::Row &rule : rules) {
+        RuleSwitchLine *const line = takeOrMake(gone, rule.objID);
+        const int place = static_cast<int>(m_lines.size());
+        if (m_rules->indexOf(line) != place) {
+            m_rules->removeWidget(line);
+            m_rules->insertWidget(place, line);
         }
-        auto *line =
-            static_cast<RuleSwitchLine *>(m_rules->itemAt(static_cast<int>(row))->widget());
-        line->setRule(rows.at(row));
+        line->setRule(rule);
+        setTabOrder(before, line->control());
+        before = line->control();
+        m_lines.append(line);
     }
+    m_area->setFocusPolicy(Qt::NoFocus);
+    for (RuleSwitchLine *line : std::as_const(gone)) {
+        m_rules->removeWidget(line);
+        // It may be in the middle of its own click.
+        line->hide();
+        line->deleteLater();
+    }
+}
+
+RuleSwitchLine *RulesDetails::takeOrMake(QList<RuleSwitchLine *> &from, const QString &objID)
+{
+    const auto same = std::ranges::find(from, objID, &RuleSwitchLine::objID);
+    if (same != from.end()) {
+        RuleSwitchLine *const line = *same;
+        from.erase(same);
+        return line;
+    }
+    auto *line = new RuleSwitchLine(m_theme);
+    connect(line, &RuleSwitchLine::switched, this,
+        [this, line](bool isOn) { m_list.toggleRule(line->objID(), isOn); });
+    return line;
 }
 
 } // namespace quillon

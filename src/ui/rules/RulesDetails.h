@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "presentation/rules/RulesListModel.h"
 #include "ui/widgets/PopoverDetails.h"
 
 class QLabel;
@@ -9,9 +10,10 @@ class QVBoxLayout;
 
 namespace quillon {
 
+class ContentScrollArea;
 class PopoverHead;
+class RuleSwitchLine;
 class RuleStatusModel;
-class RulesListModel;
 class Theme;
 
 /// The rules of the selected interface, each with its switch, and which of them holds.
@@ -27,6 +29,8 @@ public:
 private:
     void refreshStatus();
     void refreshList();
+    void setRules(const QList<RulesListModel::Row> &rules);
+    RuleSwitchLine *takeOrMake(QList<RuleSwitchLine *> &from, const QString &objID);
 
     RuleStatusModel &m_status;
     RulesListModel &m_list;
@@ -36,7 +40,9 @@ private:
     QLabel *m_activeRule;
     QLabel *m_noActiveRules;
     QLabel *m_noRules;
-    QVBoxLayout *m_rules;
+    QList<RuleSwitchLine *> m_lines;
+    QVBoxLayout *m_rules; ///< the lines
+    ContentScrollArea *m_area;
     QLabel *m_empty;
 };
 

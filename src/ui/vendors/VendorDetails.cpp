@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/vendors/VendorInfoModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/PopoverHead.h"
 
@@ -17,6 +18,9 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// No address of the registry is as long.
+constexpr int tallest = 320;
 
 QLabel *makeValue()
 {
@@ -34,9 +38,22 @@ VendorDetails::VendorDetails(VendorInfoModel &model, const Theme &theme)
     , m_address(makeValue())
     , m_identifier(makeValue())
     , m_registry(makeValue())
+    , m_facts(makeFacts())
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::unit);
+    column->addWidget(m_head);
+    column->addWidget(m_facts);
+    connect(&m_model, &VendorInfoModel::changed, this, &VendorDetails::refresh);
+}
+
+ContentScrollArea *VendorDetails::makeFacts()
 {
     m_identifier->setFont(Theme::font(Theme::Type::Address));
-    auto *form = new QFormLayout;
+    auto *facts = new QWidget;
+    auto *form = new QFormLayout(facts);
+    form->setContentsMargins(0, 0, 0, 0);
     form->setHorizontalSpacing(Theme::unit + 4);
     form->setVerticalSpacing(Theme::unit / 2);
     const auto add = [form](const QString &caption, QLabel *value) {
@@ -49,21 +66,17 @@ VendorDetails::VendorDetails(VendorInfoModel &model, const Theme &theme)
     add(localized("Address"), m_address);
     add(localized("Identifier"), m_identifier);
     add(localized("Registry"), m_registry);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit);
-    column->addWidget(m_head);
-    column->addLayout(form);
-    connect(&m_model, &VendorInfoModel::changed, this, &VendorDetails::refresh);
+    return new ContentScrollArea(facts, tallest);
 }
 
 void VendorDetails::refresh()
 {
     const auto &state = m_model.state();
     m_head->setTitle(state.name);
-    m_address->setText(plainLine(state.address));
-    m_identifier->setText(plainLine(state.identifier));
-    m_registry->setText(plainLine(state.registry));
+    showBroken(*m_address, plainParagraphs(state.address));
+    showBroken(*m_identifier, plainLine(state.identifier));
+    showBroken(*m_registry, plainLine(state.registry));
+    m_facts->updateGeometry();
 }
 
 } // namespace quillon

@@ -8,6 +8,7 @@ class QLabel;
 
 namespace quillon {
 
+class ContentScrollArea;
 class PopoverHead;
 class Theme;
 class VendorInfoModel;
@@ -23,11 +24,14 @@ public:
     void refresh() override;
 
 private:
+    ContentScrollArea *makeFacts();
+
     VendorInfoModel &m_model;
     PopoverHead *m_head;
     QLabel *m_address;
     QLabel *m_identifier;
     QLabel *m_registry;
+    ContentScrollArea *m_facts;
 };
 
 } // namespace quillon

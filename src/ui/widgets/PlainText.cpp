@@ -3,6 +3,7 @@
 #include "ui/widgets/PlainText.h"
 
 #include <QLabel>
+#include <QTextBoundaryFinder>
 #include <QTextDocument>
 
 namespace quillon {
@@ -15,6 +16,9 @@ constexpr qsizetype longestLine = 120;
 constexpr qsizetype entryEnd = 24;
 constexpr qsizetype longestMessage = 2000;
 constexpr qsizetype longestToolTip = 1000;
+/// In characters; a longer word may be broken.
+constexpr qsizetype longestWord = 24;
+constexpr QChar zeroWidthSpace = u'\u200B';
 /// A longer tool tip is broken into lines, which only HTML can.
 constexpr qsizetype widestToolTip = 160;
 
@@ -41,6 +45,38 @@ QString clean(QString text, bool keepLineBreaks)
         }
     }
     return text;
+}
+
+/// What is no space and stands together, with places where it may be broken if it is long.
+QString breakableWord(const QString &word)
+{
+    if (word.size() <= longestWord) {
+        return word;
+    }
+    QString breakable;
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, word);
+    qsizetype begin = 0;
+    for (qsizetype end = characters.toNextBoundary(); end > 0; end = characters.toNextBoundary()) {
+        breakable += QStringView(word).sliced(begin, end - begin);
+        breakable += zeroWidthSpace;
+        begin = end;
+    }
+    return breakable;
+}
+
+QString breakable(const QString &text)
+{
+    QString result;
+    QString word;
+    for (const QChar character : text) {
+        if (character.isSpace()) {
+            result += breakableWord(word) + character;
+            word.clear();
+        } else {
+            word += character;
+        }
+    }
+    return result + breakableWord(word);
 }
 
 QString cut(const QString &text, qsizetype longest)
@@ -71,6 +107,12 @@ void showLine(QLabel &label, const QString &text, int widest)
     label.setText(label.fontMetrics().elidedText(line, Qt::ElideRight, widest));
     // Otherwise it is the text without ampersands.
     label.setAccessibleName(line);
+}
+
+void showBroken(QLabel &label, const QString &text)
+{
+    label.setText(breakable(text));
+    label.setAccessibleName(text);
 }
 
 QString plainLine(const QString &text)

@@ -18,6 +18,10 @@ QLabel *plainLabel(const QString &text = {});
 /// Shows `text` in a label as plainLine() has it, and says it to assistive technology. Its end is
 /// left out where it would be wider than so many pixels: the window is as large as its texts.
 void showLine(QLabel &label, const QString &text, int widest = QWIDGETSIZE_MAX);
+/// Shows `text`, which came out of plainLine() or plainParagraphs(), in a label that breaks lines,
+/// and says it to assistive technology. Words that are too long for a line are broken anywhere: no
+/// word makes the window wider.
+void showBroken(QLabel &label, const QString &text);
 
 /// What a control or a menu shows of a text: one line of at most 120 characters. Line breaks and
 /// other control characters are spaces, and what reverses the text around it is U+FFFD.

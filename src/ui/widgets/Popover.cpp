@@ -124,13 +124,15 @@ void Popover::place()
 {
     const int inside = std::max(m_bodyWidth - 2 * Theme::popoverMargin,
         layout()->totalMinimumSize().width() - 2 * (m_margin + Theme::popoverMargin));
-    const int outside = inside + 2 * (m_margin + Theme::popoverMargin);
-    const int tall = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(outside)
+    const QRect room = roomFor(*m_anchor);
+    const int wide =
+        std::min(inside + 2 * (m_margin + Theme::popoverMargin), room.width() + 2 * m_margin);
+    const int tall = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wide)
                                                    : layout()->totalSizeHint().height();
-    resize(outside, tall);
+    // Its tallest part gives way first, and scrolls.
+    resize(wide, std::min(tall, room.height() + 2 * m_margin));
     const QRect anchor(m_anchor->mapToGlobal(QPoint(0, 0)), m_anchor->size());
-    m_placement = PopoverPlacement::find(
-        anchor, body().size(), roomFor(*m_anchor), m_side, layoutDirection());
+    m_placement = PopoverPlacement::find(anchor, body().size(), room, m_side, layoutDirection());
     if (!screenIsKnown()) {
         // A compositor moves it where there is no room, and nobody is told: no arrow rather than a
         // wrong one.

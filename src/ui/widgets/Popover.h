@@ -33,7 +33,8 @@ public:
     Popover(const Theme &theme, QWidget *content, QWidget *parent);
 
     QWidget *content() const { return m_content; }
-    /// It is wider where its content cannot be as narrow.
+    /// It is wider where its content cannot be as narrow, but never larger than the screen: then
+    /// the tallest part of its content gets less than it asks for.
     void setBodyWidth(int pixels) { m_bodyWidth = pixels; }
 
     /// Shown when hidden, closed when shown.

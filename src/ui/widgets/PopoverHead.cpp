@@ -32,8 +32,9 @@ PopoverHead::PopoverHead(const Theme &theme, const QString &icon, QWidget *paren
 
 void PopoverHead::setTitle(const QString &text)
 {
-    m_text->setText(plainLine(text));
-    m_text->setAccessibleName(m_text->text());
+    const QString line = plainLine(text);
+    showBroken(*m_text, line);
+    m_text->setToolTip(line == text ? QString() : plainToolTip(text));
 }
 
 void PopoverHead::setIcon(const QString &icon)

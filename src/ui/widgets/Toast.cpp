@@ -40,7 +40,18 @@ Toast::Toast(const Theme &theme, Scheduler &scheduler, QWidget *window)
     // Enter and Leave come to this itself; the keyboard goes to its button.
     m_undoButton->installEventFilter(this);
     window->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *before, const QWidget *now) {
+        if (now == m_undoButton) {
+            m_before = before;
+        }
+    });
     hide();
+}
+
+Toast::~Toast()
+{
+    // Its button goes when it is only a widget any more, and the keyboard with it.
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 void Toast::say(const QString &message, std::function<void()> undo)
@@ -61,7 +72,29 @@ void Toast::dismiss()
     cancelWait();
     m_undo = nullptr;
     watchKeys(false);
+    if (m_undoButton->hasFocus()) {
+        returnKeyboard();
+    }
     hide();
+}
+
+bool Toast::canTakeKeyboard(const QWidget *widget) const
+{
+    return widget != nullptr && widget->window() == window() && !isAncestorOf(widget) &&
+           (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible() &&
+           widget->isEnabled();
+}
+
+void Toast::returnKeyboard()
+{
+    QWidget *wanted = m_before;
+    if (!canTakeKeyboard(wanted)) {
+        wanted = window();
+        do {
+            wanted = wanted->nextInFocusChain();
+        } while (wanted != window() && !canTakeKeyboard(wanted));
+    }
+    wanted->setFocus(Qt::OtherFocusReason);
 }
 
 QString Toast::message() const
@@ -102,6 +135,7 @@ void Toast::waitAnew()
         m_wait = m_scheduler.onMainAfter(shownFor, this, [this] {
             m_wait.reset();
             dismiss();
+            Q_EMIT expired();
         });
     }
 }

@@ -5,6 +5,7 @@
 #include "platform/Scheduler.h"
 
 #include <QFrame>
+#include <QPointer>
 
 #include <optional>
 
@@ -18,7 +19,8 @@ class Theme;
 /// Says at the bottom of a window what the user just did, and offers to undo it, by its button and
 /// by Ctrl+Z, which it has first: before fields of text, and before popovers over its window. It
 /// goes after ten seconds, which begin anew when the pointer or the focus leaves it. A new one
-/// takes the place of one that is shown.
+/// takes the place of one that is shown. When it goes with the keyboard, that goes back to where it
+/// was before, or to the first control of the window.
 class Toast : public QFrame
 {
     Q_OBJECT
@@ -28,11 +30,16 @@ public:
 
     /// `scheduler` outlives it; `window` is what it lies over.
     Toast(const Theme &theme, Scheduler &scheduler, QWidget *window);
+    ~Toast() override;
 
     /// As "Rule deleted". `undo` is called at most once; none means that there is nothing to undo.
     void say(const QString &message, std::function<void()> undo = {});
     void dismiss();
     QString message() const;
+
+Q_SIGNALS:
+    /// Its time is over, and nothing was undone.
+    void expired();
 
 protected:
     bool event(QEvent *event) override;
@@ -46,6 +53,8 @@ private:
     bool isUndoKey(const QObject *watched, QEvent &event) const;
     void watchKeys(bool watched);
     void takeBack();
+    void returnKeyboard();
+    bool canTakeKeyboard(const QWidget *widget) const;
 
     const Theme &m_theme;
     Scheduler &m_scheduler;
@@ -53,6 +62,7 @@ private:
     QPushButton *m_undoButton;
     std::function<void()> m_undo;
     std::optional<Scheduler::Token> m_wait;
+    QPointer<QWidget> m_before; ///< had the keyboard before its button
 };
 
 } // namespace quillon

@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int pillHeight = 26;
 constexpr int inset = 13;
 
 } // namespace
@@ -37,6 +36,10 @@ Token::Token(const QString &title, const QString &text, QWidget *parent)
 
 void Token::setTitle(const QString &title)
 {
+    if (title == m_fullTitle && !m_fullTitle.isNull()) {
+        return;
+    }
+    m_fullTitle = title;
     m_title = plainLine(title);
     setAccessibleName(m_title.isEmpty() ? plainLine(m_text) : m_title);
     // Its name is not the whole story where it is not what it stands for.
@@ -78,12 +81,25 @@ void Token::drag()
     auto *content = new QMimeData;
     // As it came: it is not shown.
     content->setData(u"text/plain"_s, m_text.toUtf8());
-    auto *drag = new QDrag(this);
+    // The display's side of a drag does not bear that its drag goes before it: so it belongs to
+    // nothing that may go, and lives until Qt is done with it.
+    auto *drag = new QDrag(qApp);
     drag->setMimeData(content);
     drag->setPixmap(grab());
     drag->setHotSpot(m_pressed);
-    Q_EMIT dragBegan(drag);
+    m_isDragged = true;
+    // Under Wayland the drag outlives its loop: it has ended when it is gone. Whoever is told may
+    // close windows, and is not told in the middle of an end.
+    connect(drag, &QObject::destroyed, this, &Token::endDrag, Qt::QueuedConnection);
+    Q_EMIT dragBegan();
     drag->exec(Qt::CopyAction);
+    // Everything may have happened meanwhile: this token need not be there any more.
+}
+
+void Token::endDrag()
+{
+    m_isDragged = false;
+    Q_EMIT dragEnded();
 }
 
 void Token::paintEvent(QPaintEvent *)

@@ -12,21 +12,25 @@ class Token : public QPushButton
     Q_OBJECT
 
 public:
-    static constexpr int widest = 220; ///< then its end is left out
+    static constexpr int widest = 220;    ///< then its end is left out
+    static constexpr int pillHeight = 26; ///< where the letters are no larger
 
     /// `text` is what it is dragged as.
     Token(const QString &title, const QString &text, QWidget *parent);
 
     void setTitle(const QString &title);
     QString text() const { return m_text; }
+    /// Whether it is needed until dragEnded().
+    bool isDragged() const { return m_isDragged; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// `drag` is about to begin. It is destroyed when it has ended, with or without a drop, also
-    /// when the token has gone meanwhile.
-    void dragBegan(QObject *drag);
+    /// A drag is about to begin.
+    void dragBegan();
+    /// It has ended, with or without a drop. Said in a turn of its own.
+    void dragEnded();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -35,10 +39,13 @@ protected:
 
 private:
     void drag();
+    void endDrag();
 
-    QString m_title;
+    QString m_fullTitle;
+    QString m_title; ///< what is shown of it
     QString m_text;
     QPoint m_pressed;
+    bool m_isDragged = false;
 };
 
 } // namespace quillon

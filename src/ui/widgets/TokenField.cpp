@@ -55,9 +55,7 @@ void TokenField::setEntries(const QList<Entry> &entries)
     const qsizetype last = m_tokens.size() - 1;
     makeCurrent(again >= 0 ? again : std::max<qsizetype>(0, std::min(m_current, last)));
     for (Token *token : std::as_const(gone)) {
-        // It may be in the middle of its own click.
-        token->hide();
-        token->deleteLater();
+        letGo(*token);
     }
     // The order begins at the label, which counts only while it takes the keyboard itself.
     m_empty->setFocusPolicy(Qt::TabFocus);
@@ -72,6 +70,17 @@ void TokenField::setEntries(const QList<Entry> &entries)
         m_tokens[m_current]->setFocus();
     }
     setEmptyText(m_empty->text());
+}
+
+void TokenField::letGo(Token &token)
+{
+    token.hide();
+    if (token.isDragged()) {
+        connect(&token, &Token::dragEnded, &token, &QObject::deleteLater);
+    } else {
+        // It may be in the middle of its own click.
+        token.deleteLater();
+    }
 }
 
 void TokenField::setEmptyText(const QString &text)
@@ -120,10 +129,8 @@ Token *TokenField::makeToken(const Entry &entry)
     token->installEventFilter(this);
     connect(token, &Token::clicked, this,
         [this, token] { Q_EMIT activated(static_cast<int>(m_tokens.indexOf(token))); });
-    connect(token, &Token::dragBegan, this, [this](QObject *drag) {
-        connect(drag, &QObject::destroyed, this, &TokenField::dragEnded);
-        Q_EMIT dragBegan();
-    });
+    connect(token, &Token::dragBegan, this, &TokenField::dragBegan);
+    connect(token, &Token::dragEnded, this, &TokenField::dragEnded);
     return token;
 }
 
@@ -167,20 +174,25 @@ bool TokenField::handleKey(qsizetype index, int key)
 
 bool TokenField::eventFilter(QObject *watched, QEvent *event)
 {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::KeyPress && type != QEvent::FocusIn && type != QEvent::ContextMenu) {
+        // Of each of thousands there is much to tell: it is not looked up for that.
+        return QWidget::eventFilter(watched, event);
+    }
     // A token tells of its own end when it is only a widget any more: compared as objects.
     const qsizetype index = m_tokens.indexOf(watched);
-    if (index >= 0 && event->type() == QEvent::KeyPress &&
-        handleKey(index, static_cast<QKeyEvent *>(event)->key())) {
-        return true;
+    if (index < 0) {
+        return QWidget::eventFilter(watched, event);
     }
-    if (index >= 0 && event->type() == QEvent::FocusIn) {
+    if (type == QEvent::KeyPress) {
+        return handleKey(index, static_cast<QKeyEvent *>(event)->key());
+    }
+    if (type == QEvent::FocusIn) {
         makeCurrent(index);
+        return false;
     }
-    if (index >= 0 && event->type() == QEvent::ContextMenu) {
-        Q_EMIT opened(static_cast<int>(index));
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
+    Q_EMIT opened(static_cast<int>(index));
+    return true;
 }
 
 } // namespace quillon

@@ -57,6 +57,8 @@ protected:
 private:
     Token *takeOrMake(QList<Token *> &from, const Entry &entry);
     Token *makeToken(const Entry &entry);
+    /// Its entry is gone: it goes as well, as soon as nothing needs it any more.
+    static void letGo(Token &token);
     void moveTo(qsizetype index);
     /// The one that Tab comes to.
     void makeCurrent(qsizetype index);

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/UserInterface.h"
 
+#include "base/NetworkKeys.h"
+#include "base/SettingsKeys.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/RowButton.h"
+#include "ui/widgets/TokenField.h"
 #include "unit/ui/UserInterfaceFixture.h"
 
 #include <QAccessible>
@@ -11,6 +14,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSet>
 
@@ -249,6 +253,86 @@ TEST_F(UserInterfaceTest, TheStateLineSaysInterfaceLinkAndAddressAsOne)
     EXPECT_TRUE(said.contains(features().mainWindow.state().ipAddress)) << said.toStdString();
     machine.settings.set(keys::externalIPAddress, u"203.0.113.9"_s);
     EXPECT_EQ(header->accessibleName(), said);
+}
+
+/// With the window of the saved items open, and one address in it.
+class UserInterfaceSavedItems : public UserInterfaceTest
+{
+protected:
+    UserInterfaceSavedItems()
+    {
+        machine.settings.set(keys::savedAddresses,
+            QVariantMap{{address,
+                QVariantMap{{savedentry::address, address}, {savedentry::name, u"Desk"_s}}}});
+        turn();
+    }
+    void turn()
+    {
+        machine.scheduler.runPending();
+        for (int round = 0; round < 5; ++round) {
+            QCoreApplication::processEvents();
+        }
+    }
+    /// Types it for the name of the address, and leaves it there.
+    void type(const QString &text)
+    {
+        features().presence.goTo(Destination::SavedItems);
+        turn();
+        for (QWidget *widget : QApplication::allWidgets()) {
+            auto *tokens = qobject_cast<TokenField *>(widget);
+            if (tokens != nullptr && tokens->isVisible() &&
+                tokens->accessibleName() == u"Addresses"_s) {
+                Q_EMIT tokens->opened(0);
+                break;
+            }
+        }
+        turn();
+        auto *popover = qobject_cast<Popover *>(QApplication::activePopupWidget());
+        ASSERT_NE(popover, nullptr);
+        popover->findChild<QLineEdit *>()->setText(text);
+    }
+    QString saved()
+    {
+        return machine.settings.getDictionary(keys::savedAddresses)
+            .value(address)
+            .toMap()
+            .value(savedentry::name)
+            .toString();
+    }
+
+    const QString address = u"02:00:5e:00:53:0a"_s;
+};
+
+TEST_F(UserInterfaceSavedItems, ANameThatIsTypedIsSavedHoweverItIsLeft)
+{
+    type(u"Hidden"_s);
+    features().presence.hideWindow();
+    EXPECT_EQ(saved(), u"Hidden"_s);
+    turn();
+    type(u"Closed"_s);
+    QApplication::activePopupWidget()->parentWidget()->window()->close();
+    EXPECT_EQ(saved(), u"Closed"_s);
+    turn();
+    type(u"Quit"_s);
+    features().presence.quitFromSysMenu();
+    EXPECT_EQ(saved(), u"Quit"_s);
+    turn();
+    type(u"Elsewhere"_s);
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(saved(), u"Elsewhere"_s);
+    turn();
+    type(u"Ended"_s);
+    desktop.reset();
+    EXPECT_EQ(saved(), u"Ended"_s);
+}
+
+TEST_F(UserInterfaceSavedItems, AnEntryThatGoesIsNotBroughtBackByTheNameTypedForIt)
+{
+    type(u"Late"_s);
+    machine.settings.changeFromOutside(keys::savedAddresses, QVariantMap{});
+    features().presence.hideWindow();
+    turn();
+    EXPECT_EQ(saved(), QString());
 }
 
 } // namespace

@@ -266,5 +266,22 @@ TEST_F(NetworkInfoModelTest, CanHaveANetworkBackThatItsHeartRemoved)
     EXPECT_TRUE(savedNetworkEntry(homeBssid).isSsidDefined());
 }
 
+TEST_F(NetworkInfoModelTest, GivesANetworkItsNameBackThatItsHeartRemovedJustNow)
+{
+    saveNetwork(homeBssid, u"Home"_s, u"Our house"_s, true);
+    radio.interface->bssid = homeBssid.toUpper();
+    model->toggleNetworkInfoPopover();
+    model->chooseFavoriteButton();
+    ASSERT_FALSE(saved.isCurrentNetworkSaved());
+    model->chooseFavoriteButton();
+    EXPECT_EQ(savedNetworkEntry(homeBssid).name, u"Our house"_s);
+    EXPECT_TRUE(savedNetworkEntry(homeBssid).isSsidDefined());
+    EXPECT_TRUE(heart().removes);
+    model->chooseFavoriteButton();
+    removed->forget();
+    model->chooseFavoriteButton();
+    EXPECT_EQ(savedNetworkEntry(homeBssid).name, u"Home"_s);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -88,14 +88,51 @@ TEST_F(RemovedFavoriteTest, StaysWhileOthersAreSavedAndRemoved)
     EXPECT_EQ(savedAddressEntry(u"02:00:00:00:00:09"_s).name, u"Another"_s);
 }
 
-TEST_F(RemovedFavoriteTest, IsTheLastOne)
+TEST_F(RemovedFavoriteTest, TheLastOneComesBackFirst)
 {
+    int remembered = 0;
+    QObject::connect(model.get(), &RemovedFavorite::remembered, [&remembered] { ++remembered; });
     remove(keys::savedAddresses, address);
     remove(keys::savedNetworks, homeBssid);
     EXPECT_EQ(changes, 2);
+    EXPECT_EQ(remembered, 2);
     model->undo();
     EXPECT_TRUE(savedAddress(address).isEmpty());
     EXPECT_FALSE(savedNetwork(homeBssid).isEmpty());
+    ASSERT_TRUE(model->entry());
+    model->undo();
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+    EXPECT_FALSE(model->entry());
+    EXPECT_EQ(remembered, 2);
+}
+
+TEST_F(RemovedFavoriteTest, OneIsPutBackByItsKey)
+{
+    remove(keys::savedAddresses, address);
+    remove(keys::savedNetworks, homeBssid);
+    EXPECT_FALSE(model->putBack(keys::savedAddresses, homeBssid));
+    EXPECT_TRUE(model->putBack(keys::savedAddresses, address));
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+    EXPECT_FALSE(model->putBack(keys::savedAddresses, address));
+    ASSERT_TRUE(model->entry());
+    EXPECT_EQ(model->entry()->key, homeBssid);
+}
+
+TEST_F(RemovedFavoriteTest, IsForgottenInTheEnd)
+{
+    remove(keys::savedAddresses, address);
+    model->forget();
+    EXPECT_FALSE(model->entry());
+    model->undo();
+    EXPECT_TRUE(savedAddress(address).isEmpty());
+    EXPECT_FALSE(model->putBack(keys::savedAddresses, address));
+    for (int index = 0; index <= RemovedFavorite::most; ++index) {
+        const QString key = u"02:00:00:00:00:%1"_s.arg(index);
+        saveAddress(key, key);
+        remove(keys::savedAddresses, key);
+    }
+    EXPECT_FALSE(model->putBack(keys::savedAddresses, u"02:00:00:00:00:0"_s));
+    EXPECT_TRUE(model->putBack(keys::savedAddresses, u"02:00:00:00:00:1"_s));
 }
 
 TEST_F(RemovedFavoriteTest, LeavesNothingBehind)

@@ -183,5 +183,19 @@ TEST_F(SavedListsModelTest, LeaveNothingBehind)
     EXPECT_FALSE(settings.hasObservers());
 }
 
+TEST_F(SavedListsModelTest, GiveAnAddressItsNameBackThatTheirHeartRemovedJustNow)
+{
+    saveAddress(address, u"Printer"_s);
+    model->chooseFavoriteButton();
+    ASSERT_TRUE(savedAddress(address).isEmpty());
+    model->chooseFavoriteButton();
+    EXPECT_EQ(savedAddressEntry(address).name, u"Printer"_s);
+    EXPECT_FALSE(removed->entry()) << "there is nothing to have back any more";
+    model->chooseFavoriteButton();
+    removed->forget();
+    model->chooseFavoriteButton();
+    EXPECT_EQ(savedAddressEntry(address).name, address) << "later it is a new one";
+}
+
 } // namespace
 } // namespace quillon::test

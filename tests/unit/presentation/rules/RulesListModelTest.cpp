@@ -142,6 +142,16 @@ TEST_F(RulesListModelTest, AreSwitchedByABroadcast)
     EXPECT_TRUE(model.state().rows.first().active);
     model.toggle(7, true);
     model.toggle(-1, true);
+    model.toggleRule(rule.objID(), false);
+    EXPECT_FALSE(rule.enabled());
+    int told = 0;
+    const auto count =
+        notifications.addObserver(notifications::toggleCheckbox, [&told](const auto &) { ++told; });
+    select(en1);
+    model.filterRulesArrayController();
+    model.toggleRule(rule.objID(), true);
+    EXPECT_EQ(told, 0) << "it is not listed any more";
+    notifications.removeObserver(count);
     notifications.removeObserver(token);
 }
 

@@ -13,7 +13,9 @@
 #include "ui/widgets/TokenField.h"
 #include "unit/ui/WindowFixture.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
+#include <QScreen>
 
 namespace quillon::test {
 
@@ -32,6 +34,13 @@ protected:
     TokenField *tokens()
     {
         return row.popover().content()->findChild<TokenField *>(u"quickAddressesField"_s);
+    }
+    static void settle()
+    {
+        for (int round = 0; round < 5; ++round) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
     }
     HeartButton *heart() { return row.popover().content()->findChild<HeartButton *>(); }
 
@@ -92,6 +101,28 @@ TEST_F(SavedAddressesRowTest, ThePopoverClosesWhenADragHasEnded)
     EXPECT_TRUE(saved.state().softwarePopoverShown) << "it is what is dragged from";
     Q_EMIT tokens()->dragEnded();
     EXPECT_FALSE(saved.state().softwarePopoverShown);
+}
+
+TEST_F(SavedAddressesRowTest, ManyFavoritesStayOnTheScreenWithTheirButton)
+{
+    QVariantMap many;
+    for (int index = 0; index < 60; ++index) {
+        const QString address = u"02:00:00:00:01:%1"_s.arg(index, 2, 16, QChar(u'0'));
+        many[address] = QVariantMap{{u"address"_s, address}, {u"name"_s, address}};
+    }
+    settings.set(keys::savedAddresses, many);
+    row.show();
+    row.click();
+    settle();
+    const QRect screen = row.screen()->availableGeometry();
+    const auto *edit = row.popover().content()->findChild<QPushButton *>(u"editSavedItems"_s);
+    EXPECT_TRUE(screen.contains(QRect(edit->mapToGlobal(QPoint(0, 0)), edit->size())));
+    EXPECT_LT(row.popover().height(), screen.height());
+    EXPECT_GE(edit->height(), edit->sizeHint().height());
+    settings.set(keys::savedAddresses, QVariantMap{*many.constKeyValueBegin()});
+    settle();
+    EXPECT_LT(row.popover().height(), 250) << "it is small again";
+    row.hide();
 }
 
 } // namespace

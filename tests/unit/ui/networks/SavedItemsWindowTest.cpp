@@ -105,5 +105,24 @@ TEST_F(SavedItemsWindowTest, SaysWhatWasRemovedInIt)
     EXPECT_EQ(window.findChild<FavoriteToast *>()->message(), u"Favorite removed"_s);
 }
 
+TEST_F(SavedItemsWindowTest, TheTokenWithTheKeyboardIsInSight)
+{
+    for (int index = 0; index < 60; ++index) {
+        saveAddress(u"02:00:00:00:01:%1"_s.arg(index), u"Address %1"_s.arg(index));
+    }
+    window.bringUp();
+    window.activateWindow();
+    turn();
+    const auto fields = window.findChildren<TokenField *>();
+    const TokenField &shown = *fields.last();
+    shown.token(0)->setFocus();
+    press(Qt::Key_End);
+    QWidget *const last = shown.token(static_cast<int>(shown.entries().size()) - 1);
+    ASSERT_TRUE(last->hasFocus());
+    EXPECT_EQ(last->visibleRegion(), QRegion(last->rect()));
+    press(Qt::Key_Home);
+    EXPECT_EQ(shown.token(0)->visibleRegion(), QRegion(shown.token(0)->rect()));
+}
+
 } // namespace
 } // namespace quillon::test

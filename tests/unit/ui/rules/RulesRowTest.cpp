@@ -11,7 +11,11 @@
 #include "ui/widgets/ToggleSwitch.h"
 #include "unit/rules/RuleFixture.h"
 
+#include <QCoreApplication>
 #include <QLabel>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace quillon::test {
 
@@ -29,6 +33,14 @@ protected:
                 shown.append(line);
             }
         }
+        return shown;
+    }
+    /// From top to bottom.
+    QList<RuleSwitchLine *> inOrder()
+    {
+        QCoreApplication::processEvents();
+        QList<RuleSwitchLine *> shown = lines();
+        std::ranges::sort(shown, {}, [](const RuleSwitchLine *line) { return line->y(); });
         return shown;
     }
     QStringList struckThrough()
@@ -145,6 +157,66 @@ TEST_F(RulesRowTest, RowsFollowTheRules)
     select(en1);
     list.filterRulesArrayController();
     EXPECT_TRUE(lines().isEmpty());
+}
+
+TEST_F(RulesRowTest, ARuleKeepsItsLineAndTheKeyboard)
+{
+    addRule({.name = u"A"_s, .enabled = false});
+    const Rule last = addRule({.name = u"B"_s, .enabled = false});
+    row.show();
+    row.click();
+    ASSERT_EQ(lines().size(), 2);
+    RuleSwitchLine *const line = lines().last();
+    ASSERT_EQ(line->objID(), last.objID());
+    auto *button = line->findChild<ToggleSwitch *>();
+    button->setFocus();
+    notifications.addObserver(notifications::toggleCheckbox,
+        [this](const auto &posted) { switches.toggleRule(posted.userInfo); });
+    QObject::connect(
+        &switches, &RuleSwitches::ruleToggled, [this] { list.filterRulesArrayController(); });
+    button->click();
+    ASSERT_EQ(list.state().rows.first().objID, last.objID()) << "what is on stands first";
+    EXPECT_TRUE(button->isChecked());
+    EXPECT_EQ(button->accessibleName(), u"B"_s);
+    EXPECT_EQ(row.popover().focusWidget(), button);
+    EXPECT_EQ(inOrder().first(), line);
+    button->click();
+    EXPECT_EQ(list.state().rows.last().objID, last.objID());
+    EXPECT_FALSE(last.enabled());
+    row.hide();
+}
+
+TEST_F(RulesRowTest, TabFollowsTheOrderOfTheRules)
+{
+    addRule({.name = u"B"_s, .enabled = false});
+    row.show();
+    row.click();
+    addRule({.name = u"A"_s, .enabled = false});
+    list.reload();
+    ASSERT_EQ(inOrder().first()->findChild<ToggleSwitch *>()->accessibleName(), u"A"_s);
+    QStringList names;
+    for (QWidget *next = row.popover().nextInFocusChain(); next != &row.popover();
+        next = next->nextInFocusChain()) {
+        if (qobject_cast<ToggleSwitch *>(next) != nullptr) {
+            names.append(next->accessibleName());
+        }
+    }
+    EXPECT_EQ(names, (QStringList{u"A"_s, u"B"_s}));
+    row.hide();
+}
+
+TEST_F(RulesRowTest, ManyRulesScroll)
+{
+    for (int index = 0; index < 30; ++index) {
+        addRule({.name = u"Rule %1"_s.arg(index), .enabled = false});
+    }
+    row.show();
+    row.click();
+    EXPECT_EQ(lines().size(), 30);
+    EXPECT_LT(row.popover().height(), 450);
+    const QRect screen = row.screen()->availableGeometry();
+    EXPECT_LT(row.popover().height(), screen.height());
+    row.hide();
 }
 
 } // namespace

@@ -111,5 +111,22 @@ TEST(PlainText, ALabelShowsALineAndSaysItWhole)
     EXPECT_EQ(label->accessibleName(), name);
 }
 
+TEST(PlainText, LongWordsMayBeBrokenAndAreSaidWhole)
+{
+    const std::unique_ptr<QLabel> label(plainLabel());
+    label->setWordWrap(true);
+    const QString ordinary = u"Forschungsgesellschaft mbH, Köln\nGermany"_s;
+    showBroken(*label, ordinary);
+    EXPECT_EQ(label->text(), ordinary);
+    const QString word(500, u'W');
+    showBroken(*label, u"a "_s + word + u"\nb"_s);
+    EXPECT_EQ(label->accessibleName(), u"a "_s + word + u"\nb"_s);
+    EXPECT_LT(label->minimumSizeHint().width(), 100);
+    const QString faces = u"👩‍🚀👩‍🚀👩‍🚀👩‍🚀👩‍🚀👩‍🚀"_s;
+    ASSERT_GT(faces.size(), 24);
+    showBroken(*label, faces);
+    EXPECT_TRUE(label->text().startsWith(u"👩‍🚀\u200B"_s)) << "never within a character";
+}
+
 } // namespace
 } // namespace quillon::test

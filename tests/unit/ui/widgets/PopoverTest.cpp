@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 namespace quillon::test {
 
@@ -237,6 +238,21 @@ TEST_F(PopoverTest, HasTheNameOfItsButton)
     anchor->setValue(u"Harbor Café"_s);
     popover->open(*anchor);
     EXPECT_EQ(accessible(*popover).text(QAccessible::Name), u"Network, Harbor Café"_s);
+}
+
+TEST_F(PopoverTest, IsNeverLargerThanTheScreen)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    auto *tall = new QLabel(u"Tall"_s);
+    tall->setMinimumHeight(2 * screen.height());
+    content->layout()->addWidget(tall);
+    second->setMinimumWidth(2 * screen.width());
+    popover->open(*anchor);
+    settle();
+    const int margin = PopoverPlacement::arrowHeight + 1;
+    const QRect body = popover->geometry().adjusted(margin, margin, -margin, -margin);
+    EXPECT_TRUE(screen.contains(body));
+    EXPECT_GE(first->height(), first->minimumSizeHint().height()) << "the tallest part gives way";
 }
 
 } // namespace

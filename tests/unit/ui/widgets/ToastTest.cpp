@@ -163,5 +163,40 @@ TEST_F(ToastTest, IsAMessageToAssistiveTechnology)
     EXPECT_EQ(accessible(*toast).text(QAccessible::Name), u"Rule deleted"_s);
 }
 
+TEST_F(ToastTest, GivesTheKeyboardBackToWhereItWas)
+{
+    auto *first = new QLineEdit(&window);
+    auto *second = new QLineEdit(&window);
+    auto *beside = new QLineEdit(&window);
+    for (QLineEdit *field : {first, second, beside}) {
+        field->show();
+    }
+    second->setFocus();
+    button().setFocus();
+    button().click();
+    EXPECT_EQ(QApplication::focusWidget(), second);
+    toast->say(u"Rule deleted"_s, [] {});
+    second->setFocus();
+    button().setFocus();
+    second->hide();
+    button().click();
+    EXPECT_EQ(QApplication::focusWidget(), first) << "the first control, when that is gone";
+    toast->say(u"Rule deleted"_s, [] {});
+    beside->setFocus();
+    toast->dismiss();
+    EXPECT_EQ(QApplication::focusWidget(), beside) << "it had no keyboard";
+}
+
+TEST_F(ToastTest, SaysWhenItsTimeIsOver)
+{
+    const SignalLog ends(toast, &Toast::expired);
+    button().click();
+    scheduler.advance(11s);
+    EXPECT_EQ(ends.size(), 0);
+    toast->say(u"Rule deleted"_s, [] {});
+    scheduler.advance(11s);
+    EXPECT_EQ(ends.size(), 1);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 
 namespace quillon::test {
@@ -26,6 +27,7 @@ protected:
         show();
     }
 
+    QList<Token *> findTokens() const { return window.findChildren<Token *>(); }
     void focusToken(int index) const { field->token(index)->setFocus(); }
     int focused() const
     {
@@ -35,6 +37,15 @@ protected:
             }
         }
         return -1;
+    }
+
+    /// Drags a token, and does `meanwhile` when it is on its way.
+    void drag(QWidget &token, const std::function<void()> &meanwhile)
+    {
+        QObject::connect(field, &TokenField::dragBegan, &window, meanwhile);
+        sendMouse(token, QEvent::MouseButtonPress, QPoint(5, 5));
+        sendMouse(token, QEvent::MouseMove, QPoint(60, 30));
+        settle();
     }
 
     const QList<TokenField::Entry> entries = {{u"Home"_s, u"02:00:00:00:00:01"_s},
@@ -225,6 +236,67 @@ TEST_F(TokenFieldTest, ATokenWithoutANameIsCalledByWhatItStandsFor)
 {
     field->setEntries({{QString(), u"02:00:00:00:00:01"_s}});
     EXPECT_EQ(accessible(*field->token(0)).text(QAccessible::Name), u"02:00:00:00:00:01"_s);
+}
+
+TEST_F(TokenFieldTest, SaysThatADragBeganAndThatItEnded)
+{
+    const SignalLog begins(field, &TokenField::dragBegan);
+    const SignalLog ends(field, &TokenField::dragEnded);
+    drag(*field->token(0), [&] {
+        EXPECT_EQ(begins.size(), 1);
+        EXPECT_EQ(ends.size(), 0);
+    });
+    EXPECT_EQ(ends.size(), 1);
+}
+
+TEST_F(TokenFieldTest, ATokenWhoseEntryGoesWhileItIsDraggedStaysUntilTheEnd)
+{
+    const SignalLog ends(field, &TokenField::dragEnded);
+    const QPointer<QWidget> home = field->token(0);
+    drag(*home, [&] {
+        field->setEntries({entries[1]});
+        settle();
+        ASSERT_NE(home, nullptr);
+        EXPECT_FALSE(home->isVisible());
+        EXPECT_EQ(ends.size(), 0);
+    });
+    EXPECT_EQ(home, nullptr);
+    EXPECT_EQ(ends.size(), 1);
+    EXPECT_EQ(field->entries().size(), 1);
+}
+
+TEST_F(TokenFieldTest, AnEntryMayComeBackWhileItsTokenIsDragged)
+{
+    QWidget *const dragged = field->token(0);
+    drag(*dragged, [&] {
+        field->setEntries({entries[1]});
+        field->setEntries(entries);
+    });
+    EXPECT_NE(field->token(0), dragged);
+    EXPECT_TRUE(field->token(0)->isVisible());
+    EXPECT_EQ(findTokens().size(), 3);
+}
+
+TEST_F(TokenFieldTest, ItMayGoItselfWhileATokenIsDragged)
+{
+    int ends = 0;
+    QObject::connect(field, &TokenField::dragEnded, [&ends] { ++ends; });
+    drag(*field->token(0), [this] {
+        field->deleteLater();
+        settle();
+    });
+    EXPECT_EQ(ends, 0) << "nobody is there to say it";
+    EXPECT_TRUE(findTokens().isEmpty());
+}
+
+TEST_F(TokenFieldTest, NothingIsDoneWhileADragIsBeingDestroyed)
+{
+    // Whoever hears of the end may look through the window.
+    int tokens = -1;
+    QObject::connect(
+        field, &TokenField::dragEnded, &window, [&] { tokens = int(findTokens().size()); });
+    drag(*field->token(0), [this] { field->setEntries({entries[1], entries[2]}); });
+    EXPECT_EQ(tokens, 3) << "what was dragged is there, and whole";
 }
 
 } // namespace
