@@ -1051,5 +1051,13 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Restoring…</source>
         <translation>Wird wiederhergestellt…</translation>
     </message>
+    <message>
+        <source>Write it with colons: %@.</source>
+        <translation>Mit Doppelpunkten schreiben: %@.</translation>
+    </message>
+    <message>
+        <source>Not there</source>
+        <translation>Nicht vorhanden</translation>
+    </message>
 </context>
 </TS>

@@ -38,7 +38,7 @@ public:
     };
     struct State
     {
-        bool hasRadio = false; ///< without one there is nothing to show at all
+        bool hasRadio = false; ///< one is there; without one there is nothing to show at all
         bool buttonVisible = false;
         bool popoverShown = false;
         QString name;    ///< of the saved network, else its SSID; or that there is none
@@ -74,6 +74,9 @@ public:
     void startNetworkTimer();
     void stopNetworkTimer();
 
+    /// After the interfaces were read: the popover closes when the radio is gone.
+    void lookForRadio();
+
     void updateFavNetworkButton();
     /// The favorite button was chosen: does what it says.
     void chooseFavoriteButton();
@@ -85,7 +88,6 @@ Q_SIGNALS:
 private:
     void popoverWillShow();
     void refresh();
-    void lookForRadio();
     void showDetails();
 
     Collaborators m_deps;
