@@ -4,13 +4,15 @@
 
 #include "base/Localized.h"
 #include "presentation/networks/SavedListsModel.h"
+#include "presentation/window/MainWindowModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/HeartButton.h"
+#include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/PopoverHead.h"
 #include "ui/widgets/TokenField.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -18,10 +20,13 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme &theme)
+SavedAddressesDetails::SavedAddressesDetails(
+    SavedListsModel &model, MainWindowModel &window, const Theme &theme)
     : m_model(model)
+    , m_window(window)
     , m_heart(new HeartButton(theme))
     , m_tokens(new TokenField)
+    , m_hint(new InlineLine(theme))
 {
     auto *head = new PopoverHead(theme);
     head->setTitle(localized("Saved addresses"));
@@ -29,9 +34,6 @@ SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme
     m_tokens->setObjectName(u"quickAddressesField"_s);
     m_tokens->setAccessibleName(localized("Saved addresses"));
     m_tokens->setEmptyText(localized("Add the current address with the heart."));
-    auto *hint = plainLabel(localized("Click to put one into the field, or drag it there."));
-    hint->setProperty("look", u"caption"_s);
-    hint->setWordWrap(true);
     auto *edit = new QPushButton(localized("Edit Saved Items"));
     edit->setObjectName(u"editSavedItems"_s);
     edit->setAccessibleName(localized("Edit Saved Items"));
@@ -42,17 +44,26 @@ SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme
     column->setSpacing(Theme::unit);
     column->addWidget(head);
     column->addWidget(m_tokens);
-    column->addWidget(hint);
+    column->addWidget(m_hint);
     column->addSpacing(Theme::unit / 2);
     column->addWidget(edit, 0, Qt::AlignRight);
 
     connect(edit, &QPushButton::clicked, this, &SavedAddressesDetails::editingWanted);
     connect(m_heart, &QToolButton::clicked, &m_model, &SavedListsModel::chooseFavoriteButton);
-    connect(m_tokens, &TokenField::activated, this,
-        [this](int index) { Q_EMIT chosen(m_tokens->entries().value(index).text); });
+    connect(m_tokens, &TokenField::activated, this, &SavedAddressesDetails::choose);
     connect(m_tokens, &TokenField::dragBegan, this, &SavedAddressesDetails::dragBegan);
     connect(m_tokens, &TokenField::dragEnded, this, &SavedAddressesDetails::dragEnded);
     connect(&m_model, &SavedListsModel::changed, this, &SavedAddressesDetails::refresh);
+    connect(&m_window, &MainWindowModel::changed, this, &SavedAddressesDetails::refresh);
+}
+
+void SavedAddressesDetails::choose(int index)
+{
+    if (m_window.chooseAddress(m_tokens->entries().value(index).text)) {
+        Q_EMIT filled();
+    } else {
+        announce(*m_hint, m_hint->text());
+    }
 }
 
 void SavedAddressesDetails::refresh()
@@ -63,6 +74,13 @@ void SavedAddressesDetails::refresh()
         entries.append({token.text, token.entry.address.value_or(QString())});
     }
     m_tokens->setEntries(entries);
+    const QString whyNot = m_window.state().whyNoField;
+    m_tokens->setWhyNot(whyNot);
+    if (whyNot.isEmpty()) {
+        m_hint->say(localized("Click to put one into the field, or drag it there."));
+    } else {
+        m_hint->say(whyNot, InlineLine::Kind::Notice);
+    }
     m_heart->setFavorite(state.favorite.removes, state.favorite.accessibilityText);
 }
 

@@ -18,6 +18,8 @@ public:
     Token(const QString &title, const QString &text, QWidget *parent);
 
     void setTitle(const QString &title);
+    /// Why a click does nothing now, "" where it does.
+    void setWhyNot(const QString &whyNot);
     QString text() const { return m_text; }
 
     QSize sizeHint() const override;
@@ -35,9 +37,12 @@ protected:
 
 private:
     void drag();
+    void showToolTip();
 
+    QString m_name; ///< as it came
     QString m_title;
     QString m_text;
+    QString m_whyNot;
     QPoint m_pressed;
 };
 
