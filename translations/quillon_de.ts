@@ -1083,5 +1083,13 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Wi-Fi is switched off.</source>
         <translation>WLAN ist ausgeschaltet.</translation>
     </message>
+    <message>
+        <source>Write it with colons: %@.</source>
+        <translation>Mit Doppelpunkten schreiben: %@.</translation>
+    </message>
+    <message>
+        <source>Not there</source>
+        <translation>Nicht vorhanden</translation>
+    </message>
 </context>
 </TS>

@@ -96,6 +96,14 @@ void EventWiring::connectSelection()
             f.statusMenu.menuNeedsUpdate();
         });
     on(current, &CurrentInterface::hexValuesUpdated, [&f] { f.mainWindow.populateHexField(); });
+    // What is open beside it tells of an interface that is no longer there.
+    on(f.mainWindow, &MainWindowModel::selectedInterfaceLeft, [&f] {
+        f.mainWindow.hardwarePopoverWillClose();
+        f.networks.savedLists.softwarePopoverWillClose();
+        f.vendors.info.popoverWillClose();
+        f.vendors.field.giveUpTyping();
+        f.rules.list.popoverWillClose();
+    });
     // The lists of interfaces in menu and window never differ.
     on(f.statusMenu, &StatusMenuModel::rebuildStarted,
         [&f] { f.mainWindow.populateSelectionButton(); });
@@ -203,7 +211,11 @@ void EventWiring::connectNetworks()
 void EventWiring::connectNetworkEvents()
 {
     Features &f = m_features;
-    on(m_networkEvents, &NetworkEvents::interfacesRead, [&f] { f.devices.driftAlarm.look(); });
+    on(m_networkEvents, &NetworkEvents::interfacesRead, [&f] {
+        f.devices.driftAlarm.look();
+        f.mainWindow.interfacesWereRead();
+        f.networks.info.lookForRadio();
+    });
     on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
 }
 

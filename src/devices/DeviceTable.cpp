@@ -8,7 +8,6 @@
 #include "platform/SettingsStore.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace quillon {
 
@@ -89,19 +88,28 @@ std::optional<DeviceTable::Reading> DeviceTable::readPorts()
     if (!ports) {
         return std::nullopt;
     }
-    const QSet<QString> before = std::exchange(m_present, {});
+    QSet<QString> present;
     for (const PortRecord &port : *ports) {
         if (!port.info.macAddress.isEmpty()) {
-            m_present.insert(port.device);
+            present.insert(port.device);
         }
     }
-    return Reading{*ports, QSet<QString>(m_present).subtract(before)};
+    const QSet<QString> arrived =
+        QSet<QString>(present).subtract(m_present.value_or(QSet<QString>()));
+    m_present = present;
+    return Reading{*ports, arrived};
 }
 
 bool DeviceTable::isPresent(const QString &device) const
 {
     const std::lock_guard lock(m_hostMutex);
-    return m_present.contains(device);
+    return m_present && m_present->contains(device);
+}
+
+bool DeviceTable::isGone(const QString &device) const
+{
+    const std::lock_guard lock(m_hostMutex);
+    return m_present && !m_present->contains(device);
 }
 
 DeviceRecord DeviceTable::update(

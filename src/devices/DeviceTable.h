@@ -43,6 +43,8 @@ public:
     /// Whether the last reading that succeeded found the device, with an address: the table keeps
     /// the last record of one that was taken away.
     bool isPresent(const QString &device) const;
+    /// Whether it did not. Before the first reading nothing is known to be gone.
+    bool isGone(const QString &device) const;
 
     /// The devices, in key order, whose interface is not what it was when forgetNews() was last
     /// called for them, whoever had the table refreshed meanwhile. An address that the program gave
@@ -93,7 +95,8 @@ private:
     NetworkHost &m_host;
     const InterfaceAddresses &m_addresses;
     mutable std::mutex m_hostMutex;
-    QSet<QString> m_present; ///< guarded by m_hostMutex
+    /// None before the first reading. Guarded by m_hostMutex.
+    std::optional<QSet<QString>> m_present;
     mutable std::mutex m_newsMutex;
     /// What was known of devices whose record was rewritten since. Guarded by m_newsMutex.
     DeviceRecords m_known;

@@ -28,9 +28,14 @@ QString VendorChoice::shownChoice(const QString &device) const
     return choice == randomAddressChoice ? localized(randomAddressChoice) : choice;
 }
 
+QString VendorChoice::device() const
+{
+    return m_currentInterface.device();
+}
+
 bool VendorChoice::canChoose() const
 {
-    return m_devices.contains(m_currentInterface.device());
+    return m_devices.contains(device());
 }
 
 void VendorChoice::saveVendorSelection(const QString &choice)
@@ -38,7 +43,7 @@ void VendorChoice::saveVendorSelection(const QString &choice)
     if (!canChoose()) {
         return;
     }
-    const QString device = m_currentInterface.device();
+    const QString device = this->device();
     const QString stored = choice == localized(randomAddressChoice) ? randomAddressChoice : choice;
     m_devices.update(device, [&stored](DeviceRecord &record) { record.vendor = stored; });
     m_notifications.post(

@@ -27,6 +27,8 @@ public:
     /// made none.
     QString shownChoice(const QString &device) const;
 
+    /// The interface that a choice is for, "" when none is selected.
+    QString device() const;
     /// Whether there is a known interface that a choice would be for.
     bool canChoose() const;
     /// Stores `choice`, an entry of the list, for the selected interface, and announces it with

@@ -118,6 +118,13 @@ void unplugEverything(FaceProgram &program)
     program.machine.wifi.interface.reset();
 }
 
+void unplugRadio(FaceProgram &program)
+{
+    program.machine.host.unplug(FaceProgram::radio);
+    program.machine.wifi.interface.reset();
+    program.machine.networkChanges.networkChanges();
+}
+
 /// A name that is as long as one can be, from somebody who likes that.
 void joinLongName(FaceProgram &program)
 {
@@ -191,6 +198,7 @@ const QList<FaceScene> scenes{
     {u"main-window"_s, nullptr, randomize},
     {u"plain"_s, nullptr, nullptr},
     {u"typed"_s, nullptr, [](P &program) { type(program, u"02:00:5E:10:AB:CD"_s); }},
+    {u"without-colons"_s, nullptr, [](P &program) { type(program, u"02005E10ABCD"_s); }},
     {u"incomplete"_s, nullptr, [](P &program) { type(program, u"02:00:5E"_s); }},
     {u"refused"_s, nullptr, [](P &program) { type(program, u"02::0:5E:10:AB:CD"_s); }},
     {u"group-address"_s, nullptr, [](P &program) { type(program, u"03:00:5E:10:AB:CD"_s); }},
@@ -201,6 +209,12 @@ const QList<FaceScene> scenes{
         [](P &program) { program.features().readMe.setInstalling(true); }},
     {u"helper-lost"_s, saveRules, loseHelper},
     {u"no-interface"_s, unplugEverything, nullptr},
+    {u"interface-gone"_s, nullptr, unplugRadio},
+    {u"all-interfaces-gone"_s, nullptr,
+        [](P &program) {
+            unplugEverything(program);
+            program.machine.networkChanges.networkChanges();
+        }},
     {u"not-connected"_s, leaveNetwork, nullptr},
     {u"other-interface"_s, nullptr,
         [](P &program) {
@@ -222,6 +236,12 @@ const QList<FaceScene> scenes{
             program.features().mainWindow.toggleHardwarePopover();
         }},
     {u"popover-saved-addresses"_s, saveAddresses,
+        [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
+    {u"popover-saved-addresses-no-helper"_s,
+        [](P &program) {
+            saveAddresses(program);
+            removeHelper(program);
+        },
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
     {u"popover-saved-addresses-empty"_s, nullptr,
         [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},

@@ -10,6 +10,8 @@
 #include "networks/WiFiRecord.h"
 #include "presentation/networks/RemovedFavorite.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 namespace {
@@ -147,8 +149,16 @@ void NetworkInfoModel::chooseFavoriteButton()
 
 void NetworkInfoModel::lookForRadio()
 {
-    const bool hasRadio = !m_deps.devices.getWifiDevice().isEmpty();
+    // The table keeps those that were taken away.
+    const DeviceRecords records = m_deps.devices.devices();
+    const bool hasRadio =
+        std::any_of(records.keyValueBegin(), records.keyValueEnd(), [this](const auto &entry) {
+            return entry.second.isWifi() && !m_deps.devices.isGone(entry.first);
+        });
     m_state.update([&](State &state) { state.hasRadio = hasRadio; });
+    if (!hasRadio) {
+        popoverWillClose();
+    }
 }
 
 void NetworkInfoModel::showDetails()

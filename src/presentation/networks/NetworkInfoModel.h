@@ -39,7 +39,7 @@ public:
     };
     struct State
     {
-        bool hasRadio = false; ///< without one there is nothing to show at all
+        bool hasRadio = false; ///< one is there; without one there is nothing to show at all
         bool buttonVisible = false;
         bool popoverShown = false;
         /// Of the saved network, else its SSID; or that there is none, or that the radio is off.
@@ -77,6 +77,9 @@ public:
     void startNetworkTimer();
     void stopNetworkTimer();
 
+    /// After the interfaces were read: the popover closes when the radio is gone.
+    void lookForRadio();
+
     void updateFavNetworkButton();
     /// The favorite button was chosen: does what it says.
     void chooseFavoriteButton();
@@ -88,7 +91,6 @@ Q_SIGNALS:
 private:
     void popoverWillShow();
     void refresh();
-    void lookForRadio();
     void showDetails();
 
     Collaborators m_deps;

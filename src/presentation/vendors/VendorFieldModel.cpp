@@ -32,6 +32,7 @@ QString VendorFieldModel::rowText(qsizetype row) const
 
 void VendorFieldModel::controlTextDidChange(const QString &text)
 {
+    m_typingFor = m_choice.device();
     takeText(text);
     if (!m_state->popoverShown) {
         showVendorViewPopover();
@@ -64,6 +65,7 @@ void VendorFieldModel::selectFirstRowIfEntered()
         return;
     }
     if (rowCount() > 0) {
+        m_typingFor.reset();
         selectRow(0);
         m_choice.updateVendorTableSelectionWithRow(0);
     }
@@ -72,8 +74,9 @@ void VendorFieldModel::selectFirstRowIfEntered()
 bool VendorFieldModel::tableViewShouldSelectRow(qsizetype row)
 {
     m_firstRowWanted = false;
-    m_choice.updateVendorTableSelectionWithRow(row);
     if (row >= 0 && row < m_list.rowCount()) {
+        m_typingFor.reset();
+        m_choice.updateVendorTableSelectionWithRow(row);
         selectRow(row);
     }
     return true;
@@ -129,15 +132,28 @@ void VendorFieldModel::closeVendorViewPopover()
 
 void VendorFieldModel::giveUpTyping()
 {
+    if (!m_state->popoverShown && !m_typingFor) {
+        return;
+    }
+    m_typingFor.reset();
     closeVendorViewPopover();
     m_list.clearFilter();
     takeText(m_chosenText);
 }
 
+bool VendorFieldModel::isTyping() const
+{
+    return m_typingFor && m_choice.canChoose() && *m_typingFor == m_choice.device();
+}
+
 void VendorFieldModel::showText(const QString &text)
 {
     m_chosenText = text;
-    takeText(text);
+    if (m_typingFor && !isTyping()) {
+        // It was meant for another device.
+        giveUpTyping();
+    }
+    takeText(isTyping() ? m_state->text : text);
 }
 
 QString VendorFieldModel::message() const
@@ -168,6 +184,10 @@ void VendorFieldModel::takeText(const QString &text)
 void VendorFieldModel::selectEntry(const QString &entry)
 {
     m_selectedEntry = entry;
+    if (isTyping()) {
+        // To select the choice, the list was shown whole.
+        m_list.filter(m_state->text);
+    }
     if (m_list.isInMemory()) {
         const std::optional<qsizetype> row = selectedRow();
         m_state.update([&](State &state) { state.selectedRow = row; });

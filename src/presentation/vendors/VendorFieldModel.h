@@ -71,10 +71,13 @@ public:
     void toggleVendorViewPopover();
     void showVendorViewPopover();
     void closeVendorViewPopover();
-    /// The user gives up what was typed: the popover closes, and the choice stands in the field.
+    /// The user gives up what was typed, or leaves it without choosing: the popover closes, and the
+    /// choice stands in the field.
     void giveUpTyping();
 
     // What follows from elsewhere.
+    /// The choice is `text`. While the user types, what is typed stays, and goes on narrowing the
+    /// list.
     void showText(const QString &text);
     void selectEntry(const QString &entry);
     void rearrange();
@@ -94,6 +97,7 @@ Q_SIGNALS:
     void openedAtChoice();
 
 private:
+    bool isTyping() const;
     void takeText(const QString &text);
     QString message() const;
     void selectRow(qsizetype row);
@@ -107,6 +111,8 @@ private:
     /// What the selected row holds, by which it is found when the list is read or the rows change.
     QString m_selectedEntry;
     QString m_chosenText; ///< what the field shows of the choice
+    /// The device that somebody types for, who has neither chosen nor given up.
+    std::optional<QString> m_typingFor;
     /// Nobody has typed since the popover was opened, and the list is not there yet.
     bool m_opensAtChoice = false;
     /// The user went into a list that is not there yet: its first row becomes the choice.

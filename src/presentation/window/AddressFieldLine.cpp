@@ -10,6 +10,7 @@ namespace quillon {
 
 namespace {
 
+constexpr qsizetype bareDigits = 12;
 constexpr qsizetype fullLength = 17;
 
 /// The group bit of IEEE 802: the lowest of the first octet, which its second digit ends with.
@@ -19,6 +20,20 @@ bool isGroupAddress(const QString &address)
     return (address.mid(1, 1).toUInt(&isNumber, 16) & 1U) != 0 && isNumber;
 }
 
+/// The digits of an address without its colons, which is not taken for one.
+bool isBareAddress(const QString &text)
+{
+    return text.size() == bareDigits && !text.contains(u':');
+}
+
+QString withColons(QString digits)
+{
+    for (qsizetype place = digits.size() - 2; place > 0; place -= 2) {
+        digits.insert(place, u':');
+    }
+    return digits;
+}
+
 } // namespace
 
 AddressFieldLine AddressFieldLine::forText(const QString &fieldText, const QString &current)
@@ -26,6 +41,10 @@ AddressFieldLine AddressFieldLine::forText(const QString &fieldText, const QStri
     if (fieldText.isEmpty() || fieldText.compare(current, Qt::CaseInsensitive) == 0) {
         return {Kind::Hint,
             localized("This is the address in use. Type or drop another to change it.")};
+    }
+    if (isBareAddress(fieldText)) {
+        return {
+            Kind::Notice, filled(localized("Write it with colons: %@."), {withColons(fieldText)})};
     }
     if (fieldText.size() < fullLength) {
         return {Kind::Hint, localized("A MAC address has 12 hexadecimal digits.")};
@@ -41,14 +60,15 @@ AddressFieldLine AddressFieldLine::forText(const QString &fieldText, const QStri
 
 AddressFieldLine AddressFieldLine::forResult(const ChangeOutcome &outcome)
 {
+    if (outcome.address.isEmpty()) {
+        // Whatever the helper says of it: the field still shows the one of before.
+        return {Kind::Failure, localized("The interface does not say which address it has now.")};
+    }
     if (outcome.isInPlace) {
         return {Kind::Done, localized("Changed: this is the address in use now.")};
     }
     if (!outcome.failure.isEmpty()) {
         return {Kind::Failure, filled(localized("Not changed: %@."), {outcome.failure})};
-    }
-    if (outcome.address.isEmpty()) {
-        return {Kind::Failure, localized("The interface does not say which address it has now.")};
     }
     if (!outcome.isSettled) {
         return {Kind::Notice, localized("Not connected again: look at the address when it is.")};

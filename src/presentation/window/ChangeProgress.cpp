@@ -31,6 +31,28 @@ std::optional<AddressFieldLine> ChangeProgress::lineFor(
     return result->line;
 }
 
+void ChangeProgress::seeAddress(const QString &device, const QString &current)
+{
+    const auto result = m_results.find(device);
+    if (result == m_results.end() || result->address.isEmpty()) {
+        return;
+    }
+    // Until it is seen the window is behind: the change is told of before the address is.
+    if (isSameAddress(result->address, current)) {
+        result->wasSeen = true;
+    } else if (result->wasSeen) {
+        m_results.erase(result);
+    }
+}
+
+void ChangeProgress::forgetUnreadAddress(const QString &device)
+{
+    const auto result = m_results.constFind(device);
+    if (result != m_results.constEnd() && result->address.isEmpty()) {
+        m_results.erase(result);
+    }
+}
+
 void ChangeProgress::ask(const QString &device, ChangeButton button)
 {
     UnderWay &underWay = m_underWay[device];

@@ -29,10 +29,15 @@ public:
     void ask(const QString &device, ChangeButton button);
     /// The button that the change under way came from; none where it came from elsewhere.
     ChangeButton buttonOf(const QString &device) const { return m_underWay.value(device).button; }
-    /// What there is to say of a device that has the address `current`: once it has another one,
-    /// nothing.
+    /// What there is to say of a device that has the address `current`; nothing, where the change
+    /// has left it with another one.
     std::optional<AddressFieldLine> lineFor(const QString &device, const QString &current) const;
-    /// The user has seen the result and goes on.
+    /// The device has the address `current` now. A result is of no use any more once the address
+    /// that it tells of was seen and has been replaced, even when that comes back.
+    void seeAddress(const QString &device, const QString &current);
+    /// The device could be read: a result that says that it did not tell its address is over.
+    void forgetUnreadAddress(const QString &device);
+    /// The user has seen the result and goes on, or the device has gone.
     void forgetResult(const QString &device) { m_results.remove(device); }
 
 Q_SIGNALS:
@@ -50,6 +55,7 @@ private:
     {
         QString address; ///< that the device had afterwards, "" where it did not say
         AddressFieldLine line;
+        bool wasSeen = false; ///< the device was seen with this address
     };
 
     void begin(const QString &device);

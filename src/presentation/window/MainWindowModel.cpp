@@ -12,6 +12,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -42,6 +45,7 @@ void MainWindowModel::update(Change change)
         state.changing = m_progress.isUnderWay(device);
         state.busyButton = m_progress.buttonOf(device);
         fillButtons(state);
+        m_progress.seeAddress(device, state.currentAddress);
         state.fieldLine = lineFor(state);
     });
 }
@@ -73,13 +77,33 @@ void MainWindowModel::disableUpdate()
 void MainWindowModel::populateSelectionButton()
 {
     m_interfacesShown = true;
+    const QString device = m_deps.currentInterface.device();
+    const bool isGone = selected() == ChangeButtons::Selected::Gone;
+    if (isGone) {
+        // Back again, it is no longer what a change was made of.
+        m_progress.forgetResult(device);
+    }
     update([&](State &state) {
         state.devices = m_deps.devices.sortedDevicesArray();
         state.selectionVisible = !state.devices.isEmpty();
-        state.withoutInterfaces = state.devices.isEmpty();
+        // The list keeps those that were taken away.
+        state.withoutInterfaces = std::none_of(state.devices.cbegin(), state.devices.cend(),
+            [this](const QString &each) { return m_deps.devices.isPresent(each); });
         fillInterfaceDetails(state);
     });
     checkUpdateButton();
+    if (std::exchange(m_presentDevice, isGone ? QString() : device) == device && isGone) {
+        Q_EMIT selectedInterfaceLeft();
+    }
+}
+
+void MainWindowModel::interfacesWereRead()
+{
+    const QString device = m_deps.currentInterface.device();
+    if (m_deps.devices.isPresent(device)) {
+        m_progress.forgetUnreadAddress(device);
+    }
+    populateSelectionButton();
 }
 
 void MainWindowModel::resetInfoButtons()
@@ -95,6 +119,7 @@ void MainWindowModel::setHelperInstalled(bool installed)
     m_canUpdate = m_canUpdate && installed;
     update([&](State &state) {
         state.fieldEnabled = installed;
+        state.whyNoField = installed ? QString() : AddressFieldLine::withoutHelper().text;
         fillInterfaceDetails(state);
     });
 }
@@ -136,6 +161,15 @@ void MainWindowModel::populateHexFieldFromDrop(const QString &text)
     m_progress.forgetResult(m_deps.currentInterface.device());
     setFieldText(m_displayCase.transformedValue(text));
     checkUpdateButton();
+}
+
+bool MainWindowModel::chooseAddress(const QString &text)
+{
+    const bool isTaken = draggingEntered(text);
+    if (isTaken) {
+        populateHexFieldFromDrop(text);
+    }
+    return isTaken;
 }
 
 void MainWindowModel::checkUpdateButton()
@@ -202,7 +236,7 @@ void MainWindowModel::changeInterfacefromPopup(const QString &title)
 
 bool MainWindowModel::editField(const QString &text)
 {
-    if (!m_hexFormatter.isPartialStringValid(text)) {
+    if (!m_state->fieldEnabled || !m_hexFormatter.isPartialStringValid(text)) {
         Q_EMIT fieldRestored();
         return false;
     }
@@ -236,9 +270,7 @@ bool MainWindowModel::performDragOperation() const
 
 void MainWindowModel::concludeDragOperation(const QString &text)
 {
-    if (draggingEntered(text)) {
-        populateHexFieldFromDrop(text);
-    }
+    chooseAddress(text);
 }
 
 void MainWindowModel::fillInterfaceDetails(State &state)
@@ -249,8 +281,10 @@ void MainWindowModel::fillInterfaceDetails(State &state)
     state.interfaceName = record.shownInterface();
     state.currentAddress = m_displayCase.transformedValue(record.current.value_or(QString()));
     state.hardwareAddress = m_displayCase.transformedValue(record.hardware.value_or(QString()));
-    state.ipAddress = record.ipAddress.value_or(QString());
-    state.linkActive = record.isUp();
+    state.isGone = selected() == ChangeButtons::Selected::Gone;
+    // The record is the last one that was read of it.
+    state.ipAddress = state.isGone ? QString() : record.ipAddress.value_or(QString());
+    state.linkActive = !state.isGone && record.isUp();
     state.hardwareIndicatorVisible = state.currentAddress != state.hardwareAddress;
     m_canRestore = m_helperInstalled && isSelectedPresent() &&
                    isStringValidHEX(state.hardwareAddress) && state.hardwareIndicatorVisible;
@@ -267,7 +301,7 @@ ChangeButtons::Selected MainWindowModel::selected() const
 
 AddressFieldLine MainWindowModel::lineFor(const State &state) const
 {
-    if (m_interfacesShown && state.devices.isEmpty()) {
+    if (state.withoutInterfaces) {
         return AddressFieldLine::withoutInterface();
     }
     if (!m_helperInstalled) {

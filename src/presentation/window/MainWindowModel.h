@@ -43,6 +43,7 @@ public:
         QString whyNoUpdate;
         QString whyNoRandomize;
         QString whyNoRestore;
+        QString whyNoField; ///< why the field takes nothing; "" while it is enabled
 
         /// An address of the selected interface is being changed, whoever asked for it: the
         /// buttons are disabled, but for the one that was used, which is busy.
@@ -58,10 +59,12 @@ public:
         QString interfaceName; ///< localized port name
         QString currentAddress;
         QString hardwareAddress;
+        /// It was taken away: addresses and name are those that it had.
+        bool isGone = false;
         QString ipAddress; ///< "" when none
         bool linkActive = false;
 
-        /// No interface can be changed: there is nothing to show of one.
+        /// No interface that can be changed is there: there is nothing to show of one.
         bool withoutInterfaces = false;
 
         QString versionLabel;
@@ -90,6 +93,8 @@ public:
     /// After the interfaces were read, too: what was there may be gone, and back again.
     void populateSelectionButton();
     void popupButtonClicked() { populateSelectionButton(); }
+    /// The same after an event of the network: what each interface has is known again.
+    void interfacesWereRead();
     /// Takes the emphasis from every button that may have kept it.
     void resetInfoButtons();
     /// Enables the address field exactly when the helper is installed.
@@ -101,8 +106,12 @@ public:
     /// Shows the current interface's address in the field, in a later turn of the main loop. Any
     /// thread.
     void populateHexField();
-    /// An address that was dropped on the field; anything else is ignored.
+    /// An address that was dropped on the field; anything else is ignored. Whether the field takes
+    /// one is asked before.
     void populateHexFieldFromDrop(const QString &text);
+    /// A saved address was chosen for the field, which has to be enabled, as for a drop. False, and
+    /// nothing has happened, where it is not or takes no such text.
+    bool chooseAddress(const QString &text);
     /// The apply button follows the field; does nothing while the helper is not installed. Any
     /// thread.
     void checkUpdateButton();
@@ -120,8 +129,8 @@ public:
     void hardwarePopoverWillClose();
     void changeInterfacefromPopup(const QString &title);
 
-    /// The user edited the field to `text`. False when the entry rules refuse it: the field keeps
-    /// what it had.
+    /// The user edited the field to `text`. False when the entry rules refuse it, or the field is
+    /// disabled: it keeps what it had.
     bool editField(const QString &text);
     /// The user is done with the field: one that is left empty shows the current address again.
     void endEditing();
@@ -140,6 +149,8 @@ Q_SIGNALS:
     void fieldRestored();
     /// Buttons that may be emphasised are to look normal again.
     void infoButtonsReset();
+    /// The selected interface was there, and was taken away.
+    void selectedInterfaceLeft();
 
 private:
     void showCurrentAddress();
@@ -161,6 +172,7 @@ private:
     bool m_isHelperKnown = false; ///< whether it is installed
     bool m_helperInstalled = false;
     bool m_interfacesShown = false; ///< before that nobody has looked for one to select
+    QString m_presentDevice;        ///< the selected one, when it was last looked for and there
     // What could be done if nothing were under way.
     bool m_mayRandomize = false; ///< by the helper's status alone
     bool m_canUpdate = false;

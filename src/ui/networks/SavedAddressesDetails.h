@@ -7,6 +7,8 @@
 namespace quillon {
 
 class HeartButton;
+class InlineLine;
+class MainWindowModel;
 class SavedListsModel;
 class Theme;
 class TokenField;
@@ -18,23 +20,27 @@ class SavedAddressesDetails : public PopoverDetails
     Q_OBJECT
 
 public:
-    SavedAddressesDetails(SavedListsModel &model, const Theme &theme);
+    SavedAddressesDetails(SavedListsModel &model, MainWindowModel &window, const Theme &theme);
 
     void refresh() override;
 
 Q_SIGNALS:
-    /// The token with this text was chosen.
-    void chosen(const QString &text);
+    /// The address of a token was put into the field.
+    void filled();
     void editingWanted();
     /// Of a token.
     void dragBegan();
     void dragEnded();
 
 private:
+    void choose(int index);
+
     SavedListsModel &m_model;
+    MainWindowModel &m_window;
     HeartButton *m_heart;
     TokenField *m_tokens;
     TokenScrollArea *m_area;
+    InlineLine *m_hint;
 };
 
 } // namespace quillon

@@ -27,8 +27,8 @@ SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme)
 
 PopoverDetails *SavedAddressesRow::makeDetails()
 {
-    auto *details = new SavedAddressesDetails(m_models.saved, theme());
-    connect(details, &SavedAddressesDetails::chosen, this, &SavedAddressesRow::choose);
+    auto *details = new SavedAddressesDetails(m_models.saved, m_models.window, theme());
+    connect(details, &SavedAddressesDetails::filled, this, &SavedAddressesRow::leaveForField);
     connect(
         details, &SavedAddressesDetails::editingWanted, this, &SavedAddressesRow::editSavedItems);
     // The popover is what is dragged from: it must be there until the drag has ended.
@@ -38,9 +38,8 @@ PopoverDetails *SavedAddressesRow::makeDetails()
     return details;
 }
 
-void SavedAddressesRow::choose(const QString &text)
+void SavedAddressesRow::leaveForField()
 {
-    m_models.window.populateHexFieldFromDrop(text);
     m_models.saved.softwarePopoverWillClose();
     Q_EMIT filled();
 }

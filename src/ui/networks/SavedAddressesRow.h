@@ -11,7 +11,6 @@ class Presence;
 class SavedListsModel;
 
 /// The saved addresses: a click puts one into the address field.
-/// The addresses that the user has saved.
 class SavedAddressesRow : public PopoverRow
 {
     Q_OBJECT
@@ -35,7 +34,7 @@ protected:
 
 private:
     void refresh();
-    void choose(const QString &text);
+    void leaveForField();
     void editSavedItems();
 
     Models m_models;

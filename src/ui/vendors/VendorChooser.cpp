@@ -184,7 +184,7 @@ bool VendorChooser::eventFilter(QObject *watched, QEvent *event)
         QMetaObject::invokeMethod(this, &VendorChooser::closeWhenLeft, Qt::QueuedConnection);
     } else if (watched == window() &&
                (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Hide)) {
-        close();
+        m_model.giveUpTyping();
     }
     return QFrame::eventFilter(watched, event);
 }
@@ -201,18 +201,17 @@ bool VendorChooser::takesKey(QObject *watched, int key)
                           key == Qt::Key_Down ? Command::MoveDown : Command::Other);
 }
 
-void VendorChooser::close()
-{
-    if (m_model.state().popoverShown) {
-        m_model.closeVendorViewPopover();
-    }
-}
-
 void VendorChooser::closeWhenLeft()
 {
     const QWidget *focus = QApplication::focusWidget();
-    if (focus != nullptr && focus != m_field && focus != m_table) {
-        close();
+    if (focus == nullptr || focus == m_field || focus == m_table) {
+        return;
+    }
+    if (focus->window() == window()) {
+        m_model.giveUpTyping();
+    } else {
+        // Whoever comes back to this window goes on typing.
+        m_model.closeVendorViewPopover();
     }
 }
 

@@ -34,7 +34,6 @@ private:
     void connectModel();
     void refresh();
     bool takesKey(QObject *watched, int key);
-    void close();
     void closeWhenLeft();
     bool isListOpen() const;
     void makeList();

@@ -36,16 +36,35 @@ Token::Token(const QString &title, const QString &text, QWidget *parent)
 
 void Token::setTitle(const QString &title)
 {
-    if (title == m_fullTitle && !m_fullTitle.isNull()) {
+    if (title == m_name && !m_name.isNull()) {
         return;
     }
-    m_fullTitle = title;
+    m_name = title;
     m_title = plainLine(title);
     setAccessibleName(m_title.isEmpty() ? plainLine(m_text) : m_title);
-    // Its name is not the whole story where it is not what it stands for.
-    setToolTip(plainToolTip(title == m_text ? title : u"%1 · %2"_s.arg(title, m_text)));
+    showToolTip();
     updateGeometry();
     update();
+}
+
+void Token::setWhyNot(const QString &whyNot)
+{
+    m_whyNot = whyNot;
+    setAccessibleDescription(whyNot);
+    showToolTip();
+}
+
+void Token::showToolTip()
+{
+    QStringList said{m_name};
+    // Its name is not the whole story where it is not what it stands for.
+    if (m_name != m_text) {
+        said.append(m_text);
+    }
+    if (!m_whyNot.isEmpty()) {
+        said.append(m_whyNot);
+    }
+    setToolTip(plainToolTip(said.join(u" · "_s)));
 }
 
 QSize Token::sizeHint() const

@@ -19,6 +19,8 @@ public:
     Token(const QString &title, const QString &text, QWidget *parent);
 
     void setTitle(const QString &title);
+    /// Why a click does nothing now, "" where it does.
+    void setWhyNot(const QString &whyNot);
     QString text() const { return m_text; }
     /// Whether it is needed until dragEnded().
     bool isDragged() const { return m_isDragged; }
@@ -40,10 +42,12 @@ protected:
 private:
     void drag();
     void endDrag();
+    void showToolTip();
 
-    QString m_fullTitle;
+    QString m_name;  ///< as it came
     QString m_title; ///< what is shown of it
     QString m_text;
+    QString m_whyNot;
     QPoint m_pressed;
     bool m_isDragged = false;
 };

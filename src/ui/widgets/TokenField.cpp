@@ -83,6 +83,14 @@ void TokenField::letGo(Token &token)
     }
 }
 
+void TokenField::setWhyNot(const QString &whyNot)
+{
+    m_whyNot = whyNot;
+    for (Token *token : std::as_const(m_tokens)) {
+        token->setWhyNot(whyNot);
+    }
+}
+
 void TokenField::setEmptyText(const QString &text)
 {
     m_empty->setText(plainParagraphs(text));
@@ -126,6 +134,7 @@ Token *TokenField::takeOrMake(QList<Token *> &from, const Entry &entry)
 Token *TokenField::makeToken(const Entry &entry)
 {
     auto *token = new Token(entry.title, entry.text, this);
+    token->setWhyNot(m_whyNot);
     token->installEventFilter(this);
     connect(token, &Token::clicked, this,
         [this, token] { Q_EMIT activated(static_cast<int>(m_tokens.indexOf(token))); });

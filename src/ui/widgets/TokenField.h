@@ -34,6 +34,8 @@ public:
     /// keyboard and what is open beside it.
     void setEntries(const QList<Entry> &entries);
     const QList<Entry> &entries() const { return m_entries; }
+    /// Why a click on any of them does nothing now; "" where it does what it should.
+    void setWhyNot(const QString &whyNot);
     /// Said while there are none.
     void setEmptyText(const QString &text);
     /// The token at `index`, for a popover beside it; null where there is none.
@@ -67,6 +69,7 @@ private:
     FlowLayout *m_flow;
     QLabel *m_empty;
     QList<Entry> m_entries;
+    QString m_whyNot;
     QList<Token *> m_tokens;
     qsizetype m_current = 0;
 };

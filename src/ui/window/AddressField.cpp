@@ -129,12 +129,16 @@ void AddressField::goTo(const TextHistory::Moment &moment)
 
 void AddressField::undo()
 {
-    goTo(m_history.undo());
+    if (isUndoAvailable()) {
+        goTo(m_history.undo());
+    }
 }
 
 void AddressField::redo()
 {
-    goTo(m_history.redo());
+    if (isRedoAvailable()) {
+        goTo(m_history.redo());
+    }
 }
 
 bool AddressField::event(QEvent *event)

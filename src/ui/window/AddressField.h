@@ -28,8 +28,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-    bool isUndoAvailable() const { return !isReadOnly() && m_history.canUndo(); }
-    bool isRedoAvailable() const { return !isReadOnly() && m_history.canRedo(); }
+    /// Not while the field is disabled: it shows the address in use then.
+    bool isUndoAvailable() const { return isEnabled() && !isReadOnly() && m_history.canUndo(); }
+    bool isRedoAvailable() const { return isEnabled() && !isReadOnly() && m_history.canRedo(); }
 
     /// Shows the model's text again; the cursor keeps its place.
     void refresh();

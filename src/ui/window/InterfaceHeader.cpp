@@ -24,6 +24,18 @@ namespace {
 
 constexpr int linkDotSize = 10;
 
+QString shownOfLink(const MainWindowModel::State &state)
+{
+    const QString ofLink = state.linkActive ? localized("Active") : localized("Inactive");
+    return state.isGone ? localized("Not there") : ofLink;
+}
+
+QString saidOfLink(const MainWindowModel::State &state)
+{
+    const QString ofLink = state.linkActive ? localized("Link active") : localized("Link inactive");
+    return state.isGone ? localized("Not there") : ofLink;
+}
+
 } // namespace
 
 InterfaceHeader::InterfaceHeader(MainWindowModel &model, const Theme &theme, QWidget *parent)
@@ -98,8 +110,7 @@ void InterfaceHeader::announceState()
     if (state.selectedDevice.isEmpty()) {
         return;
     }
-    QStringList said{state.interfaceName, state.selectedDevice,
-        state.linkActive ? localized("Link active") : localized("Link inactive")};
+    QStringList said{state.interfaceName, state.selectedDevice, saidOfLink(state)};
     if (!state.ipAddress.isEmpty()) {
         said.append(state.ipAddress);
     }
@@ -122,8 +133,8 @@ void InterfaceHeader::refreshLink()
     m_linkDot->setVisible(known);
     m_linkDot->setSign(active ? u"link-active"_s : u"link-inactive"_s,
         active ? Theme::Ink::Positive : Theme::Ink::Muted);
-    m_linkText->setText(!known ? QString() : active ? localized("Active") : localized("Inactive"));
-    m_linkText->setAccessibleName(active ? localized("Link active") : localized("Link inactive"));
+    m_linkText->setText(plainLine(known ? shownOfLink(state) : QString()));
+    m_linkText->setAccessibleName(saidOfLink(state));
     m_linkText->setProperty("look", active ? u"active"_s : u"inactive"_s);
     style()->unpolish(m_linkText);
     style()->polish(m_linkText);

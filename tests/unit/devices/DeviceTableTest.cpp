@@ -161,6 +161,21 @@ TEST_F(DeviceTableRefresh, ThatFailsSaysNothingOfAnyDevice)
     EXPECT_FALSE(table.isPresent(u"en0"_s));
 }
 
+TEST_F(DeviceTableRefresh, KnowsWhatIsGoneOnceItHasLooked)
+{
+    EXPECT_FALSE(table.isGone(u"en0"_s)) << "nobody has looked";
+    EXPECT_FALSE(table.isPresent(u"en0"_s));
+    table.updateNetWorkInterfaces();
+    EXPECT_FALSE(table.isGone(u"en0"_s));
+    EXPECT_TRUE(table.isGone(u"en7"_s));
+    host.unplug(u"en0"_s);
+    table.updateNetWorkInterfaces();
+    EXPECT_TRUE(table.isGone(u"en0"_s));
+    host.setUnreadable(true);
+    table.updateNetWorkInterfaces();
+    EXPECT_TRUE(table.isGone(u"en0"_s));
+}
+
 class DeviceTableFactoryAddressUntold : public DeviceFixture
 {
 protected:

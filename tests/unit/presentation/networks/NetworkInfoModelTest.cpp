@@ -283,5 +283,26 @@ TEST_F(NetworkInfoModelTest, GivesANetworkItsNameBackThatItsHeartRemovedJustNow)
     EXPECT_EQ(savedNetworkEntry(homeBssid).name, u"Home"_s);
 }
 
+TEST_F(NetworkInfoModelTest, ClosesWhenTheRadioIsTakenAway)
+{
+    model->toggleNetworkInfoPopover();
+    scheduler.advance(10s);
+    ASSERT_TRUE(model->state().hasRadio);
+    ASSERT_TRUE(model->state().popoverShown);
+    const QStringList devices = table.names();
+    for (const QString &device : devices) {
+        if (table.isDeviceWifi(device)) {
+            host.unplug(device);
+        }
+    }
+    table.updateNetWorkInterfaces();
+    model->lookForRadio();
+    EXPECT_FALSE(model->state().hasRadio);
+    EXPECT_FALSE(model->state().popoverShown);
+    const int reads = radio.reads;
+    scheduler.advance(30s);
+    EXPECT_EQ(radio.reads, reads);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -249,6 +249,46 @@ TEST_F(VendorFieldModelTest, HasLostASelectionThatWasFilteredAway)
     EXPECT_EQ(field.state().selectedRow, std::nullopt);
 }
 
+TEST_F(VendorFieldModelTest, WhatIsTypedStaysWhileTheChoiceIsShownAnew)
+{
+    type(u"app"_s);
+    choice.setVendorSelectionForDevice(u"en0"_s);
+    choice.updateVendorField(u"en0"_s);
+    scheduler.runPending();
+    EXPECT_EQ(field.state().text, "app"_L1);
+    EXPECT_EQ(field.rowCount(), 2) << "and narrows the list";
+    field.giveUpTyping();
+    EXPECT_EQ(field.state().text, "Random Address"_L1);
+    storeDevice(u"en0"_s, {{record::vendor, u"Sam (000003)"_s}});
+    choice.updateVendorField(u"en0"_s);
+    EXPECT_EQ(field.state().text, "Sam (000003)"_L1);
+}
+
+TEST_F(VendorFieldModelTest, WhatIsChosenWhileTypingIsShown)
+{
+    type(u"app"_s);
+    field.tableViewShouldSelectRow(1);
+    EXPECT_EQ(field.state().text, "Apply (000002)"_L1);
+    type(u"app"_s);
+    field.controlDoCommandBySelector(Command::MoveDown);
+    EXPECT_EQ(field.state().text, "Apple (000001)"_L1);
+    choice.updateVendorField(u"en0"_s);
+    EXPECT_EQ(field.state().text, "Apple (000001)"_L1);
+}
+
+TEST_F(VendorFieldModelTest, WhatIsTypedForOneDeviceIsGivenUpForAnother)
+{
+    storeDevice(u"en1"_s, {{record::vendor, u"Sam (000003)"_s}});
+    type(u"app"_s);
+    choice.setVendorSelectionForDevice(u"en1"_s);
+    select(u"en1"_s);
+    choice.updateVendorField(u"en1"_s);
+    EXPECT_EQ(field.state().text, "Sam (000003)"_L1);
+    EXPECT_FALSE(field.state().popoverShown);
+    open();
+    EXPECT_EQ(field.rowCount(), 4);
+}
+
 TEST_F(VendorFieldModelTest, TellsTheWholeTextOfARow)
 {
     open();

@@ -38,6 +38,14 @@ TEST(AddressFieldLineTest, SaysWhatIsMissing)
     EXPECT_EQ(lineFor(u"02:00:5E:00:53:0"_s), incomplete);
 }
 
+TEST(AddressFieldLineTest, SaysHowDigitsWithoutColonsAreTaken)
+{
+    EXPECT_EQ(lineFor(u"02005E00530A"_s),
+        (AddressFieldLine{Kind::Notice, u"Write it with colons: 02:00:5E:00:53:0A."_s}));
+    EXPECT_EQ(lineFor(u"02005E00530"_s).kind, Kind::Hint) << "one is missing";
+    EXPECT_EQ(lineFor(u"02:00:5E:00:"_s).kind, Kind::Hint) << "they are written already";
+}
+
 TEST(AddressFieldLineTest, SaysWhatIsWrong)
 {
     const AddressFieldLine wrong{Kind::Failure, u"This is not a MAC address."_s};
@@ -52,6 +60,8 @@ TEST(AddressFieldLineTest, SaysWhatBecameOfAChange)
     EXPECT_EQ(after({.isInPlace = true, .address = current}).kind, Kind::Done);
     EXPECT_EQ(after({.address = current, .failure = u"It was asleep"_s}),
         (AddressFieldLine{Kind::Failure, u"Not changed: It was asleep."_s}));
+    EXPECT_EQ(after({.isInPlace = true, .address = {}}).kind, Kind::Failure)
+        << "the helper says so, and the field still shows the one of before";
     EXPECT_EQ(after({.address = {}, .isConfirmed = true}),
         (AddressFieldLine{
             Kind::Failure, u"The interface does not say which address it has now."_s}));

@@ -40,7 +40,7 @@ TEST_F(ChangeProgressTest, AChangeIsUnderWayUntilTheHelperHasAnswered)
     EXPECT_FALSE(progress.isUnderWay(wifi));
     scheduler.advance(5s);
     EXPECT_FALSE(progress.isUnderWay(wired));
-    EXPECT_EQ(line(wired), AddressFieldLine::forResult({.isInPlace = true}));
+    EXPECT_EQ(line(wired), AddressFieldLine::forResult({.isInPlace = true, .address = wanted}));
 }
 
 TEST_F(ChangeProgressTest, OfTwoChangesTheLastOneEndsIt)
@@ -140,10 +140,39 @@ TEST_F(ChangeProgressTest, AResultHoldsAsLongAsTheAddressAndUntilTheUserGoesOn)
     changer.updateMacAddressWithAddress(wired, wanted);
     scheduler.advance(1s);
     EXPECT_EQ(progress.lineFor(wired, wanted.toLower()),
-        AddressFieldLine::forResult({.isInPlace = true}));
+        AddressFieldLine::forResult({.isInPlace = true, .address = wanted}));
     EXPECT_EQ(progress.lineFor(wired, u"02:00:00:00:00:99"_s), std::nullopt)
         << "somebody else changed it since";
     progress.forgetResult(wired);
+    EXPECT_EQ(line(wired), std::nullopt);
+}
+
+TEST_F(ChangeProgressTest, AResultWhoseAddressWasReplacedDoesNotComeBackWithIt)
+{
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    progress.seeAddress(wired, u"3C:22:FB:00:00:01"_s);
+    EXPECT_TRUE(line(wired)) << "who asks has not seen the new one yet";
+    progress.seeAddress(wired, wanted);
+    EXPECT_TRUE(line(wired));
+    progress.seeAddress(wired, u"02:00:00:00:00:99"_s);
+    progress.seeAddress(wired, wanted);
+    EXPECT_EQ(line(wired), std::nullopt);
+}
+
+TEST_F(ChangeProgressTest, OnlyAResultWithoutAnAddressEndsWithTheNextReading)
+{
+    changer.updateMacAddressWithAddress(wired, wanted);
+    scheduler.advance(1s);
+    progress.forgetUnreadAddress(wired);
+    EXPECT_TRUE(line(wired));
+    machine.helper.changeTakes = 3s;
+    changer.updateMacAddressWithAddress(wired, u"02:AA:BB:CC:DD:EF"_s);
+    scheduler.advance(1s);
+    host.at(wired).broken = true;
+    scheduler.advance(20s);
+    EXPECT_EQ(line(wired), AddressFieldLine::forResult({}));
+    progress.forgetUnreadAddress(wired);
     EXPECT_EQ(line(wired), std::nullopt);
 }
 

@@ -153,7 +153,9 @@ TEST_F(MainWindowModelButtonsTest, AChangeOfAnotherInterfaceIsNotShown)
     EXPECT_EQ(shown().fieldLine, before);
     EXPECT_FALSE(shown().changing);
     select(wifi);
-    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult({.isInPlace = true})) << "but with it";
+    EXPECT_EQ(shown().fieldLine,
+        AddressFieldLine::forResult({.isInPlace = true, .address = shown().currentAddress}))
+        << "but with it";
 }
 
 } // namespace

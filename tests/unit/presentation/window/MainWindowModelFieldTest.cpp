@@ -107,6 +107,33 @@ TEST_F(MainWindowModelFieldTest, ADropOnTheDisabledFieldIsRefused)
     EXPECT_EQ(shown().fieldText, before);
 }
 
+TEST_F(MainWindowModelFieldTest, ASavedAddressIsTakenLikeADrop)
+{
+    EXPECT_TRUE(model.chooseAddress(u"02:aa:bb:cc:dd:ee"_s));
+    EXPECT_EQ(shown().fieldText, u"02:AA:BB:CC:DD:EE"_s);
+    EXPECT_TRUE(shown().updateEnabled);
+    EXPECT_FALSE(model.chooseAddress(u"home"_s));
+    EXPECT_EQ(shown().fieldText, u"02:AA:BB:CC:DD:EE"_s);
+}
+
+TEST_F(MainWindowModelFieldTest, ADisabledFieldTakesNoSavedAddressAndSaysWhy)
+{
+    EXPECT_EQ(shown().whyNoField, QString());
+    model.setHelperInstalled(false);
+    const QString before = shown().fieldText;
+    EXPECT_FALSE(model.chooseAddress(u"02:11:22:33:44:55"_s));
+    EXPECT_EQ(shown().fieldText, before);
+    EXPECT_EQ(shown().whyNoField, u"Install the helper to change the address."_s);
+}
+
+TEST_F(MainWindowModelFieldTest, DigitsWithoutColonsAreNotAppliedAndTheLineSaysHow)
+{
+    model.editField(u"02005e00530a"_s);
+    EXPECT_EQ(shown().fieldText, u"02005E00530A"_s);
+    EXPECT_FALSE(shown().updateEnabled);
+    EXPECT_EQ(shown().fieldLine.text, u"Write it with colons: 02:00:5E:00:53:0A."_s);
+}
+
 TEST_F(MainWindowModelFieldTest, AnAppliedAddressIsShownInDisplayCase)
 {
     model.setFieldText(u"02:aa:bb:cc:dd:ee"_s);
@@ -142,7 +169,8 @@ TEST_F(MainWindowModelFieldTest, AChangeUnderWayAndItsResultStandBelowTheField)
     model.populateHexField();
     scheduler.runPending();
     EXPECT_FALSE(shown().changing);
-    EXPECT_EQ(shown().fieldLine, AddressFieldLine::forResult({.isInPlace = true}));
+    EXPECT_EQ(shown().fieldLine,
+        AddressFieldLine::forResult({.isInPlace = true, .address = shown().currentAddress}));
     model.editField(u"02"_s);
     EXPECT_EQ(shown().fieldLine, AddressFieldLine::forText(u"02"_s, {}));
 }

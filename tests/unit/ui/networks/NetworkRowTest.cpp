@@ -86,6 +86,20 @@ TEST_F(NetworkRowTest, ItsGraphGrowsWhileItIsShown)
     EXPECT_EQ(row.popover().content()->findChild<LiveGraph *>()->samples().size(), 3);
 }
 
+TEST_F(NetworkRowTest, LeftWhileThePopoverIsOpenTheNetworkHasNoHeart)
+{
+    row.click();
+    const auto *heart = row.popover().content()->findChild<HeartButton *>();
+    EXPECT_FALSE(heart->isHidden());
+    radio.leave();
+    scheduler.advance(3s);
+    EXPECT_TRUE(model.state().popoverShown) << "it goes on reading";
+    EXPECT_TRUE(texts().contains(u"Not currently connected..."_s));
+    EXPECT_TRUE(heart->isHidden());
+    model.chooseFavoriteButton();
+    EXPECT_TRUE(settings.getDictionary(keys::savedNetworks).isEmpty());
+}
+
 TEST_F(NetworkRowTest, ItsHeartSavesTheNetworkAndForgetsIt)
 {
     auto *heart = row.popover().content()->findChild<HeartButton *>();

@@ -9,6 +9,7 @@
 #include "presentation/networks/SavedListsModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
+#include "ui/widgets/InlineLine.h"
 #include "ui/widgets/Popover.h"
 #include "ui/widgets/TokenField.h"
 #include "unit/ui/WindowFixture.h"
@@ -79,6 +80,31 @@ TEST_F(SavedAddressesRowTest, AChosenAddressIsPutIntoTheFieldAndThePopoverCloses
     EXPECT_FALSE(saved.state().softwarePopoverShown);
     EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:77"_s);
     EXPECT_TRUE(window.state().updateEnabled);
+    EXPECT_EQ(filled, 1);
+}
+
+TEST_F(SavedAddressesRowTest, WithoutAHelperAClickIsRefusedAndThePopoverSaysWhy)
+{
+    settings.set(keys::savedAddresses,
+        QVariantMap{{u"02:00:00:00:00:77"_s,
+            QVariantMap{{u"address"_s, u"02:00:00:00:00:77"_s}, {u"name"_s, u"Office"_s}}}});
+    const QString why = u"Install the helper to change the address."_s;
+    row.click();
+    const auto *hint = row.popover().content()->findChild<InlineLine *>();
+    EXPECT_EQ(hint->text(), u"Click to put one into the field, or drag it there."_s);
+    window.setHelperInstalled(false);
+    EXPECT_EQ(hint->text(), why);
+    EXPECT_EQ(hint->kind(), InlineLine::Kind::Notice);
+    EXPECT_TRUE(tokens()->token(0)->toolTip().contains(why));
+    const QString before = window.state().fieldText;
+    qobject_cast<QPushButton *>(tokens()->token(0))->click();
+    EXPECT_EQ(window.state().fieldText, before);
+    EXPECT_TRUE(saved.state().softwarePopoverShown);
+    EXPECT_EQ(filled, 0);
+    window.setHelperInstalled(true);
+    EXPECT_EQ(hint->kind(), InlineLine::Kind::Muted);
+    qobject_cast<QPushButton *>(tokens()->token(0))->click();
+    EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:77"_s);
     EXPECT_EQ(filled, 1);
 }
 

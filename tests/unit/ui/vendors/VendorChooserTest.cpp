@@ -334,6 +334,61 @@ TEST_F(VendorChooserTest, APressBesideTheListClosesIt)
     EXPECT_FALSE(isListShown());
 }
 
+TEST_F(VendorChooserTest, LeavingTheFieldGivesUpWhatWasTyped)
+{
+    type(u"zeb"_s);
+    other->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(text->text(), u"Random Address"_s);
+    EXPECT_EQ(saved(), QString());
+
+    type(u"zeb"_s);
+    click(*toggle, toggle->rect().center());
+    ASSERT_FALSE(isListShown());
+    text->setFocus();
+    other->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(text->text(), u"Random Address"_s) << "also where the list was closed before";
+    click(*toggle, toggle->rect().center());
+    EXPECT_EQ(rows().size(), 6);
+}
+
+TEST_F(VendorChooserTest, APressBesideTheListGivesUpWhatWasTyped)
+{
+    type(u"zeb"_s);
+    click(window, QPoint(4, window.height() - 4));
+    EXPECT_EQ(text->text(), u"Random Address"_s);
+}
+
+TEST_F(VendorChooserTest, WhoeverComesBackFromAnotherWindowGoesOnTyping)
+{
+    QWidget elsewhere;
+    auto *line = new QLineEdit(&elsewhere);
+    type(u"zeb"_s);
+    elsewhere.show();
+    QApplication::setActiveWindow(&elsewhere);
+    line->setFocus();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isListShown());
+    EXPECT_EQ(text->text(), u"zeb"_s);
+    QApplication::setActiveWindow(&window);
+    text->setFocus();
+    text->end(false);
+    press(*text, Qt::Key_unknown, u"r"_s);
+    EXPECT_EQ(rows(), QStringList{u"Zebra (00000D)"_s});
+}
+
+TEST_F(VendorChooserTest, TheCursorStaysWhileTheChoiceIsShownAnew)
+{
+    type(u"zeb"_s);
+    press(*text, Qt::Key_Left);
+    choice.setVendorSelectionForDevice(device);
+    choice.updateVendorField(device);
+    EXPECT_EQ(text->text(), u"zeb"_s);
+    EXPECT_EQ(text->cursorPosition(), 2);
+    EXPECT_EQ(rows(), QStringList{u"Zebra (00000D)"_s});
+}
+
 TEST_F(VendorChooserTest, HidingTheWindowClosesTheListAndItsMemory)
 {
     for (int time = 0; time < 2; ++time) {

@@ -202,6 +202,23 @@ TEST_F(TokenFieldTest, ALongNameIsCutAndSaidInFull)
     EXPECT_TRUE(field->token(0)->toolTip().contains(u"02:00:00:00:00:01"_s));
 }
 
+TEST_F(TokenFieldTest, TokensSayWhyAClickDoesNothing)
+{
+    const QString why = u"Install the helper"_s;
+    field->setWhyNot(why);
+    QList<TokenField::Entry> more = entries;
+    more.append({u"Later"_s, u"02:00:00:00:00:09"_s});
+    field->setEntries(more);
+    for (int index = 0; index < more.size(); ++index) {
+        EXPECT_TRUE(field->token(index)->toolTip().contains(why)) << index;
+        EXPECT_TRUE(field->token(index)->toolTip().contains(more[index].text)) << index;
+        EXPECT_EQ(field->token(index)->accessibleDescription(), why);
+    }
+    field->setWhyNot(QString());
+    EXPECT_FALSE(field->token(0)->toolTip().contains(why));
+    EXPECT_EQ(field->token(0)->accessibleDescription(), QString());
+}
+
 TEST_F(TokenFieldTest, ATokenThatIsRenamedStaysTheSame)
 {
     QWidget *const office = field->token(1);

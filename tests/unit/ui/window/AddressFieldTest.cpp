@@ -169,6 +169,37 @@ TEST_F(AddressFieldTest, AnotherInterfaceBeginsAnew)
     EXPECT_FALSE(field.isRedoAvailable());
 }
 
+TEST_F(AddressFieldTest, DisabledItShowsTheAddressInUseWhateverIsDoneToIt)
+{
+    const QString inUse = u"02:00:00:00:00:01"_s;
+    field.setCursorPosition(17);
+    press(field, Qt::Key_Backspace);
+    field.show();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(&field, &event);
+    const auto *opened = field.findChild<QMenu *>();
+    ASSERT_NE(opened, nullptr);
+
+    window.setHelperInstalled(false);
+    field.setEnabled(false);
+    window.populateHexField();
+    scheduler.runPending();
+    ASSERT_EQ(field.text(), inUse);
+    EXPECT_FALSE(field.isUndoAvailable());
+    opened->actions().at(0)->trigger();
+    EXPECT_EQ(field.text(), inUse) << "undo, in a menu that was opened before";
+    field.selectAll();
+    paste(u"02:00:5e:10:ab:cd"_s);
+    EXPECT_EQ(field.text(), inUse);
+    EXPECT_EQ(window.state().fieldText, inUse);
+
+    window.setHelperInstalled(true);
+    field.setEnabled(true);
+    EXPECT_TRUE(field.isUndoAvailable());
+    field.undo();
+    EXPECT_EQ(field.text(), u"02:00:00:00:00:0"_s);
+}
+
 TEST_F(AddressFieldTest, LeavesTheKeyToTheWindowWhenItHasNothingToUndo)
 {
     const auto takes = [this](int key, Qt::KeyboardModifiers modifiers) {

@@ -43,6 +43,23 @@ TEST_F(MainWindowTest, EveryControlSaysWhatItIs)
     named<QComboBox>("Interface");
 }
 
+TEST_F(MainWindowTest, AnInterfaceThatWasTakenAwayIsNotThere)
+{
+    host.unplug(wired);
+    devices.updateNetWorkInterfaces();
+    window.interfacesWereRead();
+    const auto *link = view->findChild<QLabel *>(u"linkState"_s);
+    EXPECT_EQ(link->text(), u"Not there"_s);
+    EXPECT_EQ(link->accessibleName(), u"Not there"_s);
+    EXPECT_FALSE(view->findChild<QLabel *>(u"ipAddress"_s)->isVisible());
+    EXPECT_TRUE(link->parentWidget()->accessibleName().contains(u"Not there"_s));
+    host.unplug(wifi);
+    devices.updateNetWorkInterfaces();
+    window.interfacesWereRead();
+    EXPECT_TRUE(view->findChild<QWidget *>(u"noInterface"_s)->isVisible());
+    EXPECT_FALSE(named<QLineEdit>("Address")->isVisible());
+}
+
 TEST_F(MainWindowTest, ShowsTheSelectedInterface)
 {
     EXPECT_EQ(named<QComboBox>("Interface")->currentText(), wired);
