@@ -12,6 +12,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -30,7 +31,8 @@ void showValue(QLabel &label, const QString &value)
     const QString look = isKnown ? u"value"_s : u"caption"_s;
     if (label.property("look") != look) {
         label.setProperty("look", look);
-        label.setStyleSheet(label.styleSheet());
+        label.style()->unpolish(&label);
+        label.style()->polish(&label);
     }
     const QString line = value.isEmpty() ? u"–"_s : plainLine(value);
     const QFontMetrics metrics = label.fontMetrics();

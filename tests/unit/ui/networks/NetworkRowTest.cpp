@@ -121,6 +121,24 @@ TEST_F(NetworkRowTest, OnNoNetworkItSaysSoAndOpensNothing)
     EXPECT_TRUE(texts().contains(u"–"_s));
 }
 
+TEST_F(NetworkRowTest, AValueThatBecomesKnownWhileItIsShownIsNotQuietAnyMore)
+{
+    theme.apply();
+    radio.interface->countryCode.clear();
+    row.show();
+    row.click();
+    const QLabel *country = row.popover().content()->findChildren<QLabel *>().constLast();
+    for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {
+        country = label->text() == "–"_L1 ? label : country;
+    }
+    ASSERT_EQ(country->text(), u"–"_s);
+    EXPECT_EQ(country->palette().color(QPalette::WindowText), theme.colors().mutedText);
+    radio.interface->countryCode = u"DE"_s;
+    scheduler.advance(3s);
+    ASSERT_EQ(country->text(), u"DE"_s);
+    EXPECT_EQ(country->palette().color(QPalette::WindowText), theme.colors().text);
+}
+
 TEST_F(NetworkRowTest, ARadioThatIsSwitchedOffIsToldInTheRowAndInAPopoverThatIsOpen)
 {
     row.click();

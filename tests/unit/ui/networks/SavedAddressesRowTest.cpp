@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/networks/SavedAddressesRow.h"
 
+#include "base/NetworkKeys.h"
 #include "fakes/FakeWiFiClient.h"
 #include "networks/SavedAddresses.h"
 #include "networks/WiFiNetwork.h"
@@ -106,6 +107,23 @@ TEST_F(SavedAddressesRowTest, WithoutAHelperAClickIsRefusedAndThePopoverSaysWhy)
     qobject_cast<QPushButton *>(tokens()->token(0))->click();
     EXPECT_EQ(window.state().fieldText, u"02:00:00:00:00:77"_s);
     EXPECT_EQ(filled, 1);
+}
+
+TEST_F(SavedAddressesRowTest, ManyOfThemAreScrolledSoThatThePopoverFitsTheScreen)
+{
+    QVariantMap list;
+    constexpr int many = 200;
+    for (int number = 0; number < many; ++number) {
+        const QString address = u"02:00:00:00:01:%1"_s.arg(number, 2, 16, QChar(u'0'));
+        list[address] = QVariantMap{
+            {savedentry::address, address}, {savedentry::name, u"Number %1"_s.arg(number)}};
+    }
+    settings.set(keys::savedAddresses, list);
+    row.show();
+    row.click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tokens()->entries().size(), many);
+    EXPECT_LT(row.popover().height(), row.screen()->availableGeometry().height());
 }
 
 TEST_F(SavedAddressesRowTest, LeadsToWhereSavedItemsAreEdited)

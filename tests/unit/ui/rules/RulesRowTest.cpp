@@ -149,6 +149,19 @@ TEST_F(RulesRowTest, AssistiveTechnologySwitchesWithoutAClick)
     EXPECT_EQ(told, 1) << "only what the user does is told";
 }
 
+TEST_F(RulesRowTest, ManyRulesAreScrolledSoThatThePopoverFitsTheScreen)
+{
+    constexpr int many = 60;
+    for (int number = 0; number < many; ++number) {
+        addRule({.name = u"Rule %1"_s.arg(number)});
+    }
+    row.show();
+    row.click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(lines().size(), many);
+    EXPECT_LT(row.popover().height(), row.screen()->availableGeometry().height());
+}
+
 TEST_F(RulesRowTest, RowsFollowTheRules)
 {
     addRule({.name = u"Café"_s});
