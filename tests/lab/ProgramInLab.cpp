@@ -29,6 +29,7 @@
 #include "networks/WiFiNetwork.h"
 #include "platform/linux/owner/TakeBackGuard.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
+#include "presentation/networks/NetworkInfoModel.h"
 #include "rules/Rule.h"
 #include "rules/RuleActions.h"
 #include "store/graph/ManagedObjectContext.h"
@@ -86,6 +87,9 @@ public:
         }
         if (what == "wifi") {
             return wifi();
+        }
+        if (what == "network") {
+            return words("named", {features().networks.info.state().name});
         }
         if (what == "install" || what == "uninstall") {
             return helper(what == "install");

@@ -70,6 +70,10 @@ class Program:
         """What the window shows of the network that the radio is on."""
         return dict(word.split("=", 1) for word in self.ask("wifi")[1:])
 
+    def network(self):
+        """What the window says in place of the network's name, or that."""
+        return self.ask("network")[1]
+
     def press(self, button):
         """The window's "install" or "uninstall": whether that was done."""
         return self.ask(button)[0] == "done"

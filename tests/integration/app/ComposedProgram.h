@@ -5,7 +5,6 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHotKeys.h"
-#include "fakes/FakeRadioSwitch.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -24,6 +23,7 @@
 #include "platform/linux/owner/LinuxAddressOwners.h"
 #include "platform/linux/owner/PortalReachability.h"
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
+#include "platform/linux/wifi/RfkillRadioSwitch.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
 #include "platform/qt/web/NetworkHttpClient.h"
@@ -75,7 +75,7 @@ public:
     FakeWiFiClient wifi;
 
 private:
-    FakeRadioSwitch m_radioSwitch;
+    RfkillRadioSwitch m_radioSwitch;
     SessionBusNotificationCenter m_distributedNotifications;
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;

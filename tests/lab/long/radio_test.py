@@ -97,9 +97,15 @@ class LabNetworksTest(RadioCase):
     def test_on_no_network(self):
         as_user("nmcli", "device", "disconnect", WIRELESS)
         self.assertEqual(self.expect_the_same(), NOT_CONNECTED)
+        # All radios are switched off, those of the access points as well.
+        self.addCleanup(run, "systemctl", "restart", "lab-access-points")
         run("nmcli", "radio", "wifi", "off")
         self.addCleanup(run, "nmcli", "radio", "wifi", "on")
         self.assertEqual(self.expect_the_same(), NOT_CONNECTED)
+        wait_until(lambda: self.program.network() == "Wi-Fi is switched off.",
+                   lambda: f"the window says “{self.program.network()}”")
+        run("nmcli", "radio", "wifi", "on")
+        wait_until(lambda: self.program.network() != "Wi-Fi is switched off.", "it still says that it is switched off")
 
     def test_in_other_countries(self):
         self.addCleanup(set_country, "UZ")
