@@ -51,7 +51,7 @@ SavedAddressesDetails::SavedAddressesDetails(SavedListsModel &model, const Theme
     ending->addWidget(edit);
     // All begins where the tokens begin.
     head->setContentsMargins(ring, 0, ring, 0);
-    hint->setContentsMargins(ring, 0, ring, 0);
+    hint->setContentsMargins(ring, ring, ring, 0);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit / 2);
