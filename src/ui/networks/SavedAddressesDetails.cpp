@@ -53,7 +53,7 @@ SavedAddressesDetails::SavedAddressesDetails(
     ending->addWidget(edit);
     // All begins where the tokens begin.
     head->setContentsMargins(ring, 0, ring, 0);
-    m_hint->setContentsMargins(ring, 0, ring, 0);
+    m_hint->setContentsMargins(ring, ring, ring, 0);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit / 2);

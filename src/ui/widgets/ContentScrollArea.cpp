@@ -20,11 +20,15 @@ ContentScrollArea::ContentScrollArea(QWidget *content, int tallest, QWidget *par
     setSizePolicy(policy);
 }
 
+int ContentScrollArea::contentHeight(int width) const
+{
+    return widget()->hasHeightForWidth() ? widget()->heightForWidth(width)
+                                         : widget()->sizeHint().height();
+}
+
 int ContentScrollArea::heightForWidth(int width) const
 {
-    const int wanted = widget()->hasHeightForWidth() ? widget()->heightForWidth(width)
-                                                     : widget()->sizeHint().height();
-    return std::min(wanted, m_tallest);
+    return std::min(contentHeight(width), m_tallest);
 }
 
 QSize ContentScrollArea::sizeHint() const
@@ -35,7 +39,10 @@ QSize ContentScrollArea::sizeHint() const
 
 QSize ContentScrollArea::minimumSizeHint() const
 {
-    return {widget()->minimumSizeHint().width(), Theme::rowHeight};
+    const int width = widget()->minimumSizeHint().width();
+    const bool hasBar =
+        verticalScrollBarPolicy() != Qt::ScrollBarAlwaysOff && contentHeight(width) > m_tallest;
+    return {width + (hasBar ? verticalScrollBar()->sizeHint().width() : 0), Theme::rowHeight};
 }
 
 bool ContentScrollArea::event(QEvent *event)

@@ -27,6 +27,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    int contentHeight(int width) const;
+
     int m_tallest;
 };
 
