@@ -53,6 +53,8 @@ public:
     VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
 
     const State &state() const { return m_state.get(); }
+    /// What stands in the field is neither chosen nor given up.
+    bool isTyping() const;
     /// None while the popover is closed.
     qsizetype rowCount() const;
     /// The text of a row that is there.
@@ -97,7 +99,6 @@ Q_SIGNALS:
     void openedAtChoice();
 
 private:
-    bool isTyping() const;
     void takeText(const QString &text);
     QString message() const;
     void selectRow(qsizetype row);

@@ -193,7 +193,8 @@ bool VendorChooser::takesKey(QObject *watched, int key)
 {
     using Command = VendorFieldModel::Command;
     const bool inField = watched == m_field;
-    if (key == Qt::Key_Escape && m_model.state().popoverShown && (inField || watched == m_table)) {
+    const bool isInUse = m_model.state().popoverShown || m_model.isTyping();
+    if (key == Qt::Key_Escape && isInUse && (inField || watched == m_table)) {
         m_model.giveUpTyping();
         return true;
     }

@@ -297,6 +297,11 @@ TEST_F(VendorChooserTest, EscapeKeepsWhatWasChosen)
     EXPECT_EQ(text->text(), u"Random Address"_s);
     click(*toggle, toggle->rect().center());
     EXPECT_EQ(rows().size(), 6) << "what was typed narrows the list no more";
+    type(u"xyz"_s);
+    click(*toggle, toggle->rect().center());
+    ASSERT_FALSE(isListShown());
+    press(*text, Qt::Key_Escape);
+    EXPECT_EQ(text->text(), u"Random Address"_s) << "also where the list was closed before";
 }
 
 TEST_F(VendorChooserTest, SaysWhyThereIsNothingToChoose)
