@@ -224,7 +224,7 @@ TEST_F(UserInterfaceTest, ACountdownIsNotSaidEachSecond)
 
 TEST_F(UserInterfaceTest, CloseWindowClosesTheOneThatIsInUse)
 {
-    trayHost.become(true);
+    desktop->trayHost.become(true);
     features().presence.goTo(Destination::SavedItems);
     QCoreApplication::processEvents();
     QWidget *const other = QApplication::activeWindow();
