@@ -38,8 +38,8 @@ void SavedAddressPopover::refreshDetails()
     // As it is stored: that may be anything.
     constexpr int widest = usualWidth - 2 * Theme::popoverMargin;
     showLine(*m_address, state().address, widest);
-    m_address->setToolTip(
-        m_address->text() == state().address ? QString() : plainToolTip(state().address));
+    const bool isWhole = m_address->text() == state().address;
+    m_address->setToolTip(plainToolTip(isWhole ? QString() : state().address));
 }
 
 } // namespace quillon

@@ -34,7 +34,7 @@ void PopoverHead::setTitle(const QString &text)
 {
     const QString line = plainLine(text);
     showBroken(*m_text, line);
-    m_text->setToolTip(line == text ? QString() : plainToolTip(text));
+    m_text->setToolTip(plainToolTip(line == text ? QString() : text));
 }
 
 void PopoverHead::setIcon(const QString &icon)
