@@ -125,7 +125,7 @@ class Macchanger:
 def reconnect(device):
     """What happens to every interface: the link is lost, or the person connects it anew."""
     if HAS_NETWORK_MANAGER:
-        as_user("nmcli", "device", "disconnect", device)
+        as_user("nmcli", "--wait", str(PATIENCE), "device", "disconnect", device)
         wait_until(lambda: call("as-user", "nmcli", "--wait", "60", "device", "connect", device)[0] == 0,
                    f"{device} does not come back")
     elif device == WIRED:
