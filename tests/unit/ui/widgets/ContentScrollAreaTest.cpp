@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QScrollBar>
 
+#include <memory>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -29,7 +31,8 @@ protected:
     void setRows(int count) const
     {
         while (rows->count() > count) {
-            delete rows->takeAt(0)->widget();
+            const std::unique_ptr<QLayoutItem> item(rows->takeAt(0));
+            delete item->widget();
         }
         while (rows->count() < count) {
             auto *row = new QWidget;
