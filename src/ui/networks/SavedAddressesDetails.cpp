@@ -62,7 +62,7 @@ SavedAddressesDetails::SavedAddressesDetails(
     column->addWidget(m_hint);
     column->addLayout(ending);
 
-    connect(edit, &QPushButton::clicked, this, &SavedAddressesDetails::editingWanted);
+    connect(edit, &QPushButton::clicked, this, &SavedAddressesDetails::editChosen);
     connect(m_heart, &QToolButton::clicked, &m_model, &SavedListsModel::chooseFavoriteButton);
     connect(m_tokens, &TokenField::activated, this, &SavedAddressesDetails::choose);
     connect(m_tokens, &TokenField::dragBegan, this, &SavedAddressesDetails::dragBegan);

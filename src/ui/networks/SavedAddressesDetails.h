@@ -27,7 +27,7 @@ public:
 Q_SIGNALS:
     /// The address of a token was put into the field.
     void filled();
-    void editingWanted();
+    void editChosen();
     /// Of a token.
     void dragBegan();
     void dragEnded();

@@ -29,8 +29,7 @@ PopoverDetails *SavedAddressesRow::makeDetails()
 {
     auto *details = new SavedAddressesDetails(m_models.saved, m_models.window, theme());
     connect(details, &SavedAddressesDetails::filled, this, &SavedAddressesRow::leaveForField);
-    connect(
-        details, &SavedAddressesDetails::editingWanted, this, &SavedAddressesRow::editSavedItems);
+    connect(details, &SavedAddressesDetails::editChosen, this, &SavedAddressesRow::editSavedItems);
     // The popover is what is dragged from: it must be there until the drag has ended.
     connect(details, &SavedAddressesDetails::dragBegan, this, [this] { popover().stepAside(); });
     connect(details, &SavedAddressesDetails::dragEnded, &m_models.saved,
