@@ -274,6 +274,8 @@ void EventWiring::connectProgram()
         f.statusMenu.menuNeedsUpdate();
         f.fileMenu.menuNeedsUpdate();
     });
+    on(f.presence, &Presence::destinationChosen,
+        [&f](Destination destination) { f.preferencesWindow.goTo(destination); });
     on(f.presence, &Presence::reachChanged, [&f] { f.statusItemAbsence.look(); });
     on(f.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }
@@ -336,6 +338,8 @@ void EventWiring::observeBroadcasts()
         f.advancedPreferences.checkButtonStatus();
         f.statusMenu.menuNeedsUpdate();
     });
+    m_observations.onBroadcast(notifications::changePrefsTab,
+        [&f](const auto &posted) { f.preferencesWindow.changePrefsTab(posted.userInfo); });
     m_observations.onBroadcast(notifications::closeVendorViewPopover,
         [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
     m_observations.onBroadcast(notifications::toggleCheckbox,

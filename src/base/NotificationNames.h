@@ -18,6 +18,8 @@ inline const QString ruleTable = QStringLiteral("ruleTable");
 inline const QString updateNamesArray = QStringLiteral("updateNamesArray");
 inline const QString updateOverview = QStringLiteral("updateOverview");
 inline const QString showNetworkWarning = QStringLiteral("showNetworkWarning");
+inline const QString changePrefsTab = QStringLiteral("changePrefsTab");
+inline const QString changeRulesTab = QStringLiteral("changeRulesTab");
 inline const QString vendorUpdated = QStringLiteral("vendorUpdated");
 
 inline const QString helperUpdated = QStringLiteral("HelperUpdated");

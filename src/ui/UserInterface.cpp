@@ -43,6 +43,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     : m_theme(schemeOf(QGuiApplication::palette()))
     , m_fileMenu(models.fileMenu, models.editMenu)
     , m_mainWindow(models.window, applied(m_theme), desktop.taskBar)
+    , m_otherWindows(models.others, m_theme, {desktop.scheduler, desktop.taskBar})
     , m_statusItem(models.statusMenu, models.window.presence, desktop.trayHost, m_theme)
 {
     qApp->installEventFilter(&m_heldKeys);
@@ -51,7 +52,6 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     makeFacts(models);
     makeShortcuts(models);
     new FavoriteToast(models.removedInMainWindow, m_theme, desktop.scheduler, &m_mainWindow);
-    offerSavedItems(models.savedItems, desktop);
     m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
     m_mainWindow.putHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
@@ -96,26 +96,11 @@ void UserInterface::makeFacts(const Models &models)
     }
 }
 
-void UserInterface::offerSavedItems(const SavedItemsWindow::Models &models, const Desktop &desktop)
-{
-    QObject::connect(&models.presence, &Presence::destinationChosen, &m_mainWindow,
-        [this, models, desktop](Destination destination) {
-            if (destination != Destination::SavedItems) {
-                return;
-            }
-            if (m_savedItems == nullptr) {
-                m_savedItems = std::make_unique<SavedItemsWindow>(
-                    models, m_theme, desktop.scheduler, desktop.taskBar);
-            }
-            m_savedItems->bringUp();
-        });
-    models.presence.offer(Destination::SavedItems);
-}
-
 void UserInterface::makeShortcuts(const Models &models)
 {
     SavedListsModel &saved = models.savedLists;
     CountdownModel &countdown = models.countdown;
+    addWindowShortcuts(m_mainWindow, models.window.presence);
     m_mainWindow.addShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), localized("Favorite"),
         [&saved] { saved.chooseFavoriteButton(); });
     m_mainWindow.addShortcut(

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/OtherWindows.h"
 #include "ui/menu/FileMenu.h"
 #include "ui/menu/StatusItem.h"
-#include "ui/networks/SavedItemsWindow.h"
 #include "ui/rules/RulesRow.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeldKeys.h"
 #include "ui/window/MainWindow.h"
-
-#include <memory>
 
 namespace quillon {
 
@@ -40,7 +38,7 @@ public:
         EditMenuModel &editMenu;
         SavedListsModel &savedLists;
         RemovedFavorite &removedInMainWindow;
-        SavedItemsWindow::Models savedItems;
+        OtherWindows::Models others;
         NetworkInfoModel &network;
         ExternalAddressModel &externalAddress;
         RulesRow::Models rules;
@@ -62,14 +60,13 @@ public:
 
 private:
     void makeFacts(const Models &models);
-    void offerSavedItems(const SavedItemsWindow::Models &models, const Desktop &desktop);
     void makeShortcuts(const Models &models);
 
     Theme m_theme;
     HeldKeys m_heldKeys;
     FileMenu m_fileMenu; ///< outlives the window's button
     MainWindow m_mainWindow;
-    std::unique_ptr<SavedItemsWindow> m_savedItems; ///< made when it is first looked at
+    OtherWindows m_otherWindows;
     StatusItem m_statusItem;
 };
 

@@ -27,6 +27,7 @@ Features::Features(
     , fileMenu({platform.settings, devices.table, devices.currentInterface, devices.addressChanger,
           helper, presence, rules.timers})
     , editMenu(history.store)
+    , preferencesWindow(platform.settings, platform.notifications)
     , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
 {
 }

@@ -15,6 +15,7 @@
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/preferences/PreferencesWindowModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "presentation/window/ReadMeModel.h"
 
@@ -42,6 +43,7 @@ struct Features
     StatusMenuModel statusMenu;
     FileMenuModel fileMenu;
     EditMenuModel editMenu;
+    PreferencesWindowModel preferencesWindow;
     AdvancedPreferencesModel advancedPreferences;
 };
 

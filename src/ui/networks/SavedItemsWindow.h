@@ -3,19 +3,15 @@
 #pragma once
 
 #include "ui/networks/SavedItemsView.h"
-
-#include <QWidget>
+#include "ui/widgets/SecondaryWindow.h"
 
 namespace quillon {
 
-class Presence;
 class RemovedFavorite;
 class Scheduler;
-class TaskBar;
 
-/// A window of its own for the saved networks and addresses. Closing it only hides it: the program
-/// goes on. Main thread.
-class SavedItemsWindow : public QWidget
+/// A window of its own for the saved networks and addresses. Main thread.
+class SavedItemsWindow : public SecondaryWindow
 {
     Q_OBJECT
 
@@ -30,19 +26,6 @@ public:
     SavedItemsWindow(
         const Models &models, const Theme &theme, Scheduler &scheduler, TaskBar &taskBar);
     ~SavedItemsWindow() override;
-
-    /// Shows it in front, with the keyboard.
-    void bringUp();
-
-protected:
-    void showEvent(QShowEvent *event) override;
-
-private:
-    void makeShortcuts();
-    void followTaskBar();
-
-    Presence &m_presence;
-    TaskBar &m_taskBar;
 };
 
 } // namespace quillon

@@ -33,6 +33,7 @@ public:
     static constexpr int popoverMargin = 2 * unit;
     static constexpr int iconSize = 20;       ///< in buttons
     static constexpr int inlineIconSize = 16; ///< within a line of text
+    static constexpr int toolBarIconSize = 24;
     static constexpr int headerIconSize = 32; ///< of a window's header, of an empty state
     static constexpr int windowWidth = 480;
     static constexpr int rowHeight = 34;     ///< least height of a row of details

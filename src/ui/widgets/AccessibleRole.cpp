@@ -34,6 +34,11 @@ public:
             state.expanded = object()->property("open").toBool();
             state.collapsed = !state.expanded;
         }
+        const auto *button = qobject_cast<QAbstractButton *>(object());
+        if (role() == QAccessible::PageTab && button != nullptr) {
+            state.selectable = true;
+            state.selected = button->isChecked();
+        }
         return state;
     }
     // Qt leaves popups out of the tree: one that is open is found in what opened it.
@@ -90,8 +95,8 @@ private:
     }
     bool canBePressed() const
     {
-        return role() == QAccessible::Button && widget()->isEnabled() &&
-               qobject_cast<QAbstractButton *>(object()) != nullptr;
+        return (role() == QAccessible::Button || role() == QAccessible::PageTab) &&
+               widget()->isEnabled() && qobject_cast<QAbstractButton *>(object()) != nullptr;
     }
 };
 

@@ -9,10 +9,11 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/DetailsArea.h"
 #include "ui/widgets/EmptyState.h"
-#include "ui/widgets/PlainText.h"
+#include "ui/widgets/SecondaryWindow.h"
 #include "ui/window/AddressCard.h"
 #include "ui/window/AddressField.h"
 #include "ui/window/FactsCard.h"
+#include "ui/window/Footer.h"
 #include "ui/window/InterfaceHeader.h"
 #include "ui/window/InterfaceSelector.h"
 #include "ui/window/ReadMeStrip.h"
@@ -22,7 +23,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -57,7 +57,7 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     , m_facts(new FactsCard(theme))
     , m_noInterface(new EmptyState(theme, u"wired"_s))
     , m_area(new DetailsArea)
-    , m_version(plainLabel())
+    , m_footer(new Footer(models.presence, theme))
     , m_column(new QVBoxLayout(this))
 {
     QAccessible::installFactory(accessibleWindow);
@@ -66,10 +66,6 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     m_area->add(m_facts);
     m_noInterface->setObjectName(u"noInterface"_s);
     m_noInterface->say(localized("No interface here can be changed."));
-    m_version->setProperty("look", u"caption"_s);
-    m_version->setFont(Theme::font(Theme::Type::Caption));
-    m_version->setAccessibleName(localized("Version"));
-
     m_column->setContentsMargins(Theme::windowMargin, Theme::windowMargin - Theme::unit / 2,
         Theme::windowMargin, Theme::unit);
     m_column->setSpacing(Theme::spacing);
@@ -80,7 +76,7 @@ MainWindow::MainWindow(const Models &models, const Theme &theme, TaskBar &taskBa
     m_column->addWidget(m_addressCard);
     m_column->addWidget(m_noInterface);
     m_column->addWidget(m_area);
-    m_column->addWidget(m_version, 0, Qt::AlignRight);
+    m_column->addWidget(m_footer);
 
     makeShortcuts();
     connectModel();
@@ -196,7 +192,7 @@ void MainWindow::refresh()
         m_fieldHadFocus = true;
         m_addressCard->field().setFocus();
     }
-    m_version->setText(plainLine(m_model.state().versionLabel));
+    m_footer->showVersion(m_model.state().versionLabel);
 }
 
 void MainWindow::bringUp()
@@ -285,22 +281,12 @@ void MainWindow::fitScreen()
 
 void MainWindow::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton && isGround(event->position().toPoint())) {
+    if (event->button() == Qt::LeftButton && isGround(*this, event->position().toPoint())) {
         // Where the desktop cannot move windows on request there is still the title bar.
         windowHandle()->startSystemMove();
     } else {
         event->ignore();
     }
-}
-
-bool MainWindow::isGround(const QPoint &place) const
-{
-    // A control that is disabled leaves its presses to the window but is no ground.
-    const QWidget *widget = childAt(place);
-    while (widget != nullptr && widget != this && widget->focusPolicy() == Qt::NoFocus) {
-        widget = widget->parentWidget();
-    }
-    return widget == nullptr || widget == this;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -7,7 +7,6 @@
 #include <functional>
 
 class QKeySequence;
-class QLabel;
 class QVBoxLayout;
 
 namespace quillon {
@@ -16,6 +15,7 @@ class AddressCard;
 class DetailsArea;
 class EmptyState;
 class FactsCard;
+class Footer;
 class InterfaceHeader;
 class MainWindowModel;
 class Presence;
@@ -76,7 +76,6 @@ private:
     void followTaskBar();
     void drawIcon();
     void fitScreen();
-    bool isGround(const QPoint &place) const;
 
     MainWindowModel &m_model;
     Presence &m_presence;
@@ -90,7 +89,7 @@ private:
     FactsCard *m_facts;
     EmptyState *m_noInterface; ///< in place of address and facts
     DetailsArea *m_area;
-    QLabel *m_version;
+    Footer *m_footer;
     QVBoxLayout *m_column;
 };
 

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "presence/Destination.h"
+#include "ui/networks/SavedItemsWindow.h"
+#include "ui/preferences/PreferencesWindow.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace quillon {
+
+/// The windows beside the main one. Each is made when it is first wanted. Main thread.
+class OtherWindows : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Models
+    {
+        Presence &presence;
+        SavedItemsWindow::Models savedItems;
+        PreferencesWindow::Models preferences;
+    };
+    struct Desktop
+    {
+        Scheduler &scheduler;
+        TaskBar &taskBar;
+    };
+
+    OtherWindows(const Models &models, const Theme &theme, const Desktop &desktop);
+    ~OtherWindows() override;
+
+private:
+    void goTo(Destination destination);
+    void openSavedItems();
+    void openPreferences();
+
+    Models m_models;
+    const Theme &m_theme;
+    Desktop m_desktop;
+    std::unique_ptr<SavedItemsWindow> m_savedItems;
+    std::unique_ptr<PreferencesWindow> m_preferences;
+};
+
+} // namespace quillon
