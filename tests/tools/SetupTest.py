@@ -12,6 +12,7 @@ PACKAGES = """\
 # A list.
 
 # build
+# A remark: it heads no chapter.
 compiler          builds
 new-icons|icons   pictures
 
