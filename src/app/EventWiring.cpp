@@ -36,6 +36,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectSelection();
     connectAddressChange();
     connectRules();
+    connectRuleEditor();
     connectRecords();
     connectNetworks();
     connectNetworkEvents();
@@ -159,6 +160,28 @@ void EventWiring::connectRules()
     });
 }
 
+void EventWiring::connectRuleEditor()
+{
+    RuleFeature &rules = m_features.rules;
+    VendorFeature &vendors = m_features.vendors;
+    on(rules.switches, &RuleSwitches::ruleSwitched, [&rules] { rules.table.reload(); });
+    on(rules.editing, &RuleEditing::rulesRenamed, [&rules] { rules.list.reload(); });
+    on(rules.form, &RuleFormModel::changed, [&rules, &vendors] {
+        vendors.ruleVendor.setCanChoose(rules.form.state().canSelectVendor);
+    });
+    on(rules.form, &RuleFormModel::vendorFilled, [&vendors](const QString &vendor) {
+        vendors.ruleField.giveUpTyping();
+        vendors.ruleVendor.updateVendorSelection(vendor);
+    });
+    on(vendors.ruleVendor, &RuleVendor::vendorFieldUpdated,
+        [&vendors](const QString &text) { vendors.ruleField.showText(text); });
+    on(vendors.ruleVendor, &RuleVendor::vendorSelected,
+        [&vendors](const QString &entry) { vendors.ruleField.selectEntry(entry); });
+    on(vendors.ruleList, &VendorList::rearranged, [&vendors] { vendors.ruleField.rearrange(); });
+    on(vendors.ruleField, &VendorFieldModel::changed,
+        [&rules, &vendors] { rules.form.setVendor(vendors.ruleField.state().text); });
+}
+
 void EventWiring::connectRecords()
 {
     RuleFeature &rules = m_features.rules;
@@ -167,6 +190,7 @@ void EventWiring::connectRecords()
     on(store, &RecordStore::objectsDidChange, [&rules, &editMenu](const ObjectsDidChange &change) {
         rules.invariants.contextDidChange(change);
         rules.list.reloadAfter(change);
+        rules.table.reloadAfter(change);
         if (change.isUndone) {
             // What they say is in force is shown; an address that they gave stays.
             rules.evaluation.rulesWereChanged();
@@ -179,9 +203,12 @@ void EventWiring::connectRecords()
     on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
     m_observations.onBroadcast(notifications::updateNamesArray,
         [&rules](const auto &) { rules.queries.updateNamesArray(); });
+    m_observations.onBroadcast(
+        notifications::ruleTable, [&rules](const auto &) { rules.preferences.updateRuleTable(); });
     const auto showOtherRecords = [&rules, &editMenu] {
         rules.queries.updateNamesArray();
         rules.list.reload();
+        rules.table.reload();
         editMenu.refresh();
     };
     on(store, &RecordStore::recordsMerged, showOtherRecords);
@@ -275,7 +302,10 @@ void EventWiring::connectProgram()
         f.fileMenu.menuNeedsUpdate();
     });
     on(f.presence, &Presence::destinationChosen,
-        [&f](Destination destination) { f.preferencesWindow.goTo(destination); });
+        [&f](Destination destination) {
+            f.preferencesWindow.goTo(destination);
+            f.rules.preferences.goTo(destination);
+        });
     on(f.presence, &Presence::reachChanged, [&f] { f.statusItemAbsence.look(); });
     on(f.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }
@@ -340,10 +370,19 @@ void EventWiring::observeBroadcasts()
     });
     m_observations.onBroadcast(notifications::changePrefsTab,
         [&f](const auto &posted) { f.preferencesWindow.changePrefsTab(posted.userInfo); });
-    m_observations.onBroadcast(notifications::closeVendorViewPopover,
-        [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
-    m_observations.onBroadcast(notifications::toggleCheckbox,
-        [&f](const auto &toggled) { f.rules.switches.toggleRule(toggled.userInfo); });
+    m_observations.onBroadcast(notifications::changeRulesTab,
+        [&f](const auto &) { f.rules.preferences.setTabViewIndex(); });
+    m_observations.onBroadcast(notifications::closeVendorViewPopover, [&f](const auto &) {
+        f.vendors.field.closeVendorViewPopover();
+        f.vendors.ruleField.closeVendorViewPopover();
+    });
+    // One click is handled by both: the editor finds the rule switched already.
+    m_observations.onBroadcast(notifications::toggleCheckbox, [&f](const auto &toggled) {
+        f.rules.switches.toggleRule(toggled.userInfo);
+        f.rules.preferences.toggleRule(toggled.userInfo);
+    });
+    m_observations.onBroadcast(notifications::showNetworkWarning,
+        [&f](const auto &) { f.rules.preferences.showNetworkWarning(); });
 
     m_observations.onBroadcastOfOthers(notifications::helperUpdated,
         notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); });

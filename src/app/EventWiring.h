@@ -35,6 +35,7 @@ private:
     void connectSelection();
     void connectAddressChange();
     void connectRules();
+    void connectRuleEditor();
     void connectRecords();
     void connectNetworks();
     void connectNetworkEvents();

@@ -79,6 +79,11 @@ bool RecordStore::hasChanges() const
     return m_context && m_context->hasChanges();
 }
 
+int RecordStore::undoPlace() const
+{
+    return m_context ? m_context->undoManager().index() : 0;
+}
+
 void RecordStore::undo()
 {
     if (m_context) {

@@ -44,6 +44,8 @@ public:
     bool canUndo() const;
     bool canRedo() const;
     bool hasChanges() const;
+    /// How many steps can be undone: who remembers it tells whether another step came since.
+    int undoPlace() const;
     void undo();
     void redo();
 

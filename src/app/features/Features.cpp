@@ -16,7 +16,7 @@ Features::Features(
     , devices(platform, notifier, helper)
     , history(platform, devices.table, std::move(openFailure))
     , networks(platform, devices.table)
-    , rules(platform, notifier, devices, history.store)
+    , rules(platform, notifier, devices, networks, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
     , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
