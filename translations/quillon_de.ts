@@ -1111,5 +1111,285 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>About</source>
         <translation>Über</translation>
     </message>
+    <message>
+        <source>Any Network</source>
+        <translation>Jedes Netzwerk</translation>
+    </message>
+    <message>
+        <source>An Unknown Network</source>
+        <translation>Ein unbekanntes Netzwerk</translation>
+    </message>
+    <message>
+        <source>%@ is not saved: press its heart first.</source>
+        <translation>%@ ist nicht gespeichert: Klicken Sie erst auf das Herz.</translation>
+    </message>
+    <message>
+        <source>The rule was made for %@, which is not here any more.</source>
+        <translation>Die Regel war für %@, das es hier nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>The rule was made for %@, which is not saved any more.</source>
+        <translation>Die Regel war für %@, das nicht mehr gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>The rule that was open is not there any more.</source>
+        <translation>Die geöffnete Regel gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Another rule for this interface and network was switched off: only one can be on.</source>
+        <translation>Eine andere Regel für diese Schnittstelle und dieses Netzwerk wurde ausgeschaltet: Nur eine kann eingeschaltet sein.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: it was made first.</source>
+        <translation>Stattdessen gilt „%@“: Sie wurde zuerst angelegt.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: this network is not saved.</source>
+        <translation>Stattdessen gilt „%@“: Dieses Netzwerk ist nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: it was made for this network.</source>
+        <translation>Stattdessen gilt „%@“: Sie wurde für dieses Netzwerk angelegt.</translation>
+    </message>
+    <message>
+        <source>Not in force: %@ is on no network.</source>
+        <translation>Gilt nicht: %@ ist in keinem Netzwerk.</translation>
+    </message>
+    <message>
+        <source>Not in force: the network in use is saved.</source>
+        <translation>Gilt nicht: Das verwendete Netzwerk ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>Not in force: another network is in use.</source>
+        <translation>Gilt nicht: Es wird ein anderes Netzwerk verwendet.</translation>
+    </message>
+    <message>
+        <source>Not in force: it is switched off.</source>
+        <translation>Gilt nicht: Sie ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Not in force: %@ is not here.</source>
+        <translation>Gilt nicht: %@ ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Not in force: login rules do not act on Wi-Fi.</source>
+        <translation>Gilt nicht: Anmelderegeln wirken nicht auf WLAN.</translation>
+    </message>
+    <message>
+        <source>In force: it acts when Quillon is started at login.</source>
+        <translation>Gilt: Sie wirkt, wenn Quillon bei der Anmeldung gestartet wird.</translation>
+    </message>
+    <message>
+        <source>In force now.</source>
+        <translation>Gilt jetzt.</translation>
+    </message>
+    <message>
+        <source>In force, but %@ is not connected.</source>
+        <translation>Gilt, aber %@ ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>Not in force now.</source>
+        <translation>Gilt jetzt nicht.</translation>
+    </message>
+    <message>
+        <source>On %@, leave %@ as it is.</source>
+        <translation>In %@ bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On any network, leave %@ as it is.</source>
+        <translation>In jedem Netzwerk bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, leave %@ as it is.</source>
+        <translation>In einem unbekannten Netzwerk bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a random address once.</source>
+        <translation>In %@ erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a random address once.</source>
+        <translation>In jedem Netzwerk erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a random address once.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ a random address.</source>
+        <translation>Bei der Anmeldung erhält %@ eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a random address by %@ once.</source>
+        <translation>In %@ erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a random address by %@ once.</source>
+        <translation>In jedem Netzwerk erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a random address by %@ once.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ a random address by %@.</source>
+        <translation>Bei der Anmeldung erhält %@ eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a new random address every minute.</source>
+        <translation>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every minute.</source>
+        <translation>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every minute.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a new random address every %@ minutes.</source>
+        <translation>In %@ erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every %@ minutes.</source>
+        <translation>In jedem Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every %@ minutes.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ the address %@.</source>
+        <translation>In %@ erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ the address %@.</source>
+        <translation>In jedem Netzwerk erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ the address %@.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ the address %@.</source>
+        <translation>Bei der Anmeldung erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>Rule deleted</source>
+        <translation>Regel gelöscht</translation>
+    </message>
+    <message>
+        <source>%d rules deleted</source>
+        <translation>%d Regeln gelöscht</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Save Rule</source>
+        <translation>Regel sichern</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Nichts tun</translation>
+    </message>
+    <message>
+        <source>Change Address</source>
+        <translation>Adresse ändern</translation>
+    </message>
+    <message>
+        <source>Once</source>
+        <translation>Einmal</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>New Random Address</source>
+        <translation>Neue zufällige Adresse</translation>
+    </message>
+    <message>
+        <source>Makes a random address, saves it, and uses it whenever the rule acts</source>
+        <translation>Erzeugt eine zufällige Adresse, speichert sie und verwendet sie immer, wenn die Regel wirkt</translation>
+    </message>
+    <message>
+        <source>New rules start switched off.</source>
+        <translation>Neue Regeln sind zunächst ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Press Return to rename the rule</source>
+        <translation>Mit der Eingabetaste wird die Regel umbenannt</translation>
+    </message>
+    <message>
+        <source>Rules change the address when you join a network.</source>
+        <translation>Regeln ändern die Adresse, wenn Sie sich mit einem Netzwerk verbinden.</translation>
+    </message>
+    <message>
+        <source>New Network Rule</source>
+        <translation>Neue Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>Network Rule</source>
+        <translation>Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>New network rule</source>
+        <translation>Neue Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>Login Rule</source>
+        <translation>Anmelderegel</translation>
+    </message>
+    <message>
+        <source>New login rule</source>
+        <translation>Neue Anmelderegel</translation>
+    </message>
+    <message>
+        <source>Edit the rule (Return)</source>
+        <translation>Die Regel bearbeiten (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate the rules (Ctrl+D)</source>
+        <translation>Die Regeln duplizieren (Strg+D)</translation>
+    </message>
+    <message>
+        <source>Delete the rules (Delete)</source>
+        <translation>Die Regeln löschen (Entf)</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>No name</source>
+        <translation>Kein Name</translation>
+    </message>
+    <message>
+        <source>Saved Items</source>
+        <translation>Gespeichertes</translation>
+    </message>
+    <message>
+        <source>Only a random address has a vendor</source>
+        <translation>Nur eine zufällige Adresse hat einen Hersteller</translation>
+    </message>
 </context>
 </TS>

@@ -301,11 +301,10 @@ void EventWiring::connectProgram()
         f.statusMenu.menuNeedsUpdate();
         f.fileMenu.menuNeedsUpdate();
     });
-    on(f.presence, &Presence::destinationChosen,
-        [&f](Destination destination) {
-            f.preferencesWindow.goTo(destination);
-            f.rules.preferences.goTo(destination);
-        });
+    on(f.presence, &Presence::destinationChosen, [&f](Destination destination) {
+        f.preferencesWindow.goTo(destination);
+        f.rules.preferences.goTo(destination);
+    });
     on(f.presence, &Presence::reachChanged, [&f] { f.statusItemAbsence.look(); });
     on(f.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }

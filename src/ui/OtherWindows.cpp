@@ -4,6 +4,11 @@
 
 #include "presence/Presence.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
+#include "ui/networks/FavoriteToast.h"
+#include "ui/rules/DeletedRulesToast.h"
+#include "ui/vendors/VendorChooser.h"
+
+#include <QCoreApplication>
 
 namespace quillon {
 
@@ -12,37 +17,40 @@ OtherWindows::OtherWindows(const Models &models, const Theme &theme, const Deskt
     , m_theme(theme)
     , m_desktop(desktop)
 {
-    connect(&m_models.presence, &Presence::destinationChosen, this, &OtherWindows::goTo);
     connect(&m_models.preferences.window, &PreferencesWindowModel::windowOpened, this,
         &OtherWindows::openPreferences);
-    m_models.presence.offer(Destination::SavedItems);
+    for (const Destination destination : {Destination::SavedItems, Destination::Rules,
+             Destination::NewNetworkRule, Destination::NewLoginRule}) {
+        m_models.presence.offer(destination);
+    }
 }
 
 OtherWindows::~OtherWindows() = default;
-
-void OtherWindows::goTo(Destination destination)
-{
-    if (destination == Destination::SavedItems) {
-        openSavedItems();
-    }
-}
-
-void OtherWindows::openSavedItems()
-{
-    if (m_savedItems == nullptr) {
-        m_savedItems = std::make_unique<SavedItemsWindow>(
-            m_models.savedItems, m_theme, m_desktop.scheduler, m_desktop.taskBar);
-    }
-    m_savedItems->bringUp();
-}
 
 void OtherWindows::openPreferences()
 {
     if (m_preferences == nullptr) {
         m_preferences =
             std::make_unique<PreferencesWindow>(m_models.preferences, m_theme, m_desktop.taskBar);
+        addRulesPane();
     }
     m_preferences->bringUp();
+}
+
+void OtherWindows::addRulesPane()
+{
+    auto *savedItems = new SavedItemsView(m_models.savedItems, m_theme);
+    auto *vendorField =
+        new VendorChooser(m_models.ruleVendor, m_theme, VendorChooser::Caption::Beside);
+    m_preferences->addPane(
+        PreferencesPane::Rules, new RulesPane(m_models.rules, m_theme, {savedItems, vendorField}));
+    // They lie over the rest.
+    QWidget *window = m_preferences.get();
+    new FavoriteToast(m_models.removedFromSavedItems, m_theme, m_desktop.scheduler, window);
+    new DeletedRulesToast(m_models.rules.editor, m_theme, m_desktop.scheduler, window);
+    // The program ends by the user's wish, or is ended.
+    connect(&m_models.presence, &Presence::terminated, savedItems, &SavedItemsView::endEditing);
+    connect(qApp, &QCoreApplication::aboutToQuit, savedItems, &SavedItemsView::endEditing);
 }
 
 } // namespace quillon

@@ -3,14 +3,19 @@
 #pragma once
 
 #include "presence/Destination.h"
-#include "ui/networks/SavedItemsWindow.h"
+#include "ui/networks/SavedItemsView.h"
 #include "ui/preferences/PreferencesWindow.h"
+#include "ui/rules/RulesPane.h"
 
 #include <QObject>
 
 #include <memory>
 
 namespace quillon {
+
+class RemovedFavorite;
+class Scheduler;
+class VendorFieldModel;
 
 /// The windows beside the main one. Each is made when it is first wanted. Main thread.
 class OtherWindows : public QObject
@@ -21,8 +26,11 @@ public:
     struct Models
     {
         Presence &presence;
-        SavedItemsWindow::Models savedItems;
         PreferencesWindow::Models preferences;
+        SavedItemsView::Models savedItems;
+        RemovedFavorite &removedFromSavedItems;
+        RulesPane::Models rules;
+        VendorFieldModel &ruleVendor;
     };
     struct Desktop
     {
@@ -34,14 +42,12 @@ public:
     ~OtherWindows() override;
 
 private:
-    void goTo(Destination destination);
-    void openSavedItems();
     void openPreferences();
+    void addRulesPane();
 
     Models m_models;
     const Theme &m_theme;
     Desktop m_desktop;
-    std::unique_ptr<SavedItemsWindow> m_savedItems;
     std::unique_ptr<PreferencesWindow> m_preferences;
 };
 
