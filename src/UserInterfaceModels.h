@@ -27,7 +27,7 @@ inline UserInterface::Models modelsOf(Features &features)
             .ruleVendor = vendors.ruleField},
         .network = networks.info,
         .externalAddress = networks.externalAddressShown,
-        .rules = {rules.status, rules.list},
+        .rules = {rules.status, rules.list, features.presence},
         .countdown = rules.countdown,
         .vendorField = vendors.field,
         .vendorInfo = vendors.info,

@@ -1391,5 +1391,13 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Only a random address has a vendor</source>
         <translation>Nur eine zufällige Adresse hat einen Hersteller</translation>
     </message>
+    <message>
+        <source>Edit Rules</source>
+        <translation>Regeln bearbeiten</translation>
+    </message>
+    <message>
+        <source>Opens the rule editor</source>
+        <translation>Öffnet die Bearbeitung der Regeln</translation>
+    </message>
 </context>
 </TS>

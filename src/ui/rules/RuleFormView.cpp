@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int minutesWidth = 4;  ///< in wide digits
+constexpr int minutesDigits = 3;
 constexpr int longestName = 120; ///< as it is shown everywhere
 
 QString shown(const RuleChoice &choice)
@@ -92,6 +92,8 @@ QComboBox *RuleFormView::makePopUp(const QString &name)
 {
     auto *popUp = new QComboBox;
     popUp->setAccessibleName(name);
+    popUp->setProperty("look", u"compact"_s);
+    popUp->ensurePolished();
     // As wide as the form, whatever it is called.
     popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     popUp->setMinimumContentsLength(1);
@@ -103,8 +105,10 @@ void RuleFormView::makeMinutes()
 {
     m_minutes->setProperty("look", u"field"_s);
     m_minutes->setAccessibleName(localized("Minutes"));
+    m_minutes->ensurePolished();
+    const int digits = minutesDigits * m_minutes->fontMetrics().horizontalAdvance(u'0');
     m_minutes->setFixedWidth(
-        minutesWidth * m_minutes->fontMetrics().horizontalAdvance(u'0') + 3 * Theme::unit);
+        std::max(m_minutes->minimumSizeHint().width(), digits + 4 * Theme::unit));
     m_unit = plainLabel(localized("minutes"));
     m_unit->setBuddy(m_minutes);
 }
@@ -128,9 +132,7 @@ RuleFormView::Line RuleFormView::addLine(
 {
     auto *label = plainLabel(text);
     label->setBuddy(control);
-    auto *controls = new QWidget;
-    auto *row = new QHBoxLayout(controls);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
     row->setSpacing(Theme::unit);
     row->addWidget(control, 1);
     for (QWidget *other : beside) {
@@ -138,8 +140,8 @@ RuleFormView::Line RuleFormView::addLine(
     }
     const int place = m_grid->rowCount();
     m_grid->addWidget(label, place, 0);
-    m_grid->addWidget(controls, place, 1);
-    return {label, controls};
+    m_grid->addLayout(row, place, 1);
+    return Line{label, control} + beside;
 }
 
 void RuleFormView::fillGrid(QWidget *vendorField)
@@ -233,6 +235,9 @@ void RuleFormView::refreshPopUps()
     setChoices(*m_address, state.addresses, state.address);
     m_action->setCurrentIndex(state.action);
     m_repeat->setCurrentIndex(state.repeat);
+    for (QComboBox *popUp : {m_action, m_repeat}) {
+        popUp->setToolTip(plainToolTip(popUp->currentText()));
+    }
 }
 
 void RuleFormView::setChoices(QComboBox &popUp, const RuleChoices &choices, qsizetype place)
@@ -258,9 +263,8 @@ void RuleFormView::setChoices(QComboBox &popUp, const RuleChoices &choices, qsiz
 void RuleFormView::refreshUse()
 {
     const auto &state = m_form.state();
-    for (const Line &line : std::as_const(m_ofNetworkRules)) {
-        line.label->setVisible(state.kind == RuleFormModel::Kind::Network);
-        line.controls->setVisible(state.kind == RuleFormModel::Kind::Network);
+    for (QWidget *part : std::as_const(m_ofNetworkRules)) {
+        part->setVisible(state.kind == RuleFormModel::Kind::Network);
     }
     m_address->setEnabled(state.canSelectAddress);
     m_newAddress->setEnabled(state.canSelectAddress);

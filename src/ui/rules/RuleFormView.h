@@ -39,12 +39,9 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    /// One line: its label, and what stands beside it.
-    struct Line
-    {
-        QLabel *label;
-        QWidget *controls;
-    };
+    /// One line: its label, and what stands beside it. All are children of the form: a label names
+    /// only a sibling to assistive technology.
+    using Line = QList<QWidget *>;
 
     static QComboBox *makePopUp(const QString &name);
     void makeMinutes();
@@ -72,7 +69,7 @@ private:
     HeartButton *m_saveNetwork;
     HeartButton *m_saveAddress;
     QToolButton *m_newAddress;
-    QList<Line> m_ofNetworkRules; ///< not in the form of a login rule
+    Line m_ofNetworkRules; ///< not in the form of a login rule
     QLabel *m_unit = nullptr;
     QLabel *m_sentence;
     InlineLine *m_notice;

@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -26,6 +28,7 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
     , m_list(new RulesListView(table, editor, theme))
     , m_empty(new EmptyState(theme, u"list"_s))
     , m_card(new QFrame)
+    , m_buttons(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     m_card->setProperty("look", u"card"_s);
     auto *inside = new QVBoxLayout(m_card);
@@ -47,20 +50,26 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
             localized("Duplicate the rules (Ctrl+D)"), &Editor::duplicateRule),
         makeButton(theme, u"trash"_s, localized("Delete"), localized("Delete the rules (Delete)"),
             &Editor::deleteRule)};
+    auto *adding = new QHBoxLayout;
+    adding->setSpacing(Theme::unit);
+    adding->addWidget(m_addRule);
+    adding->addWidget(addLogin);
+    adding->addStretch();
     auto *commands = new QHBoxLayout;
-    commands->setSpacing(Theme::unit);
-    commands->addWidget(m_addRule);
-    commands->addWidget(addLogin);
     commands->addStretch();
     for (QPushButton *command : std::as_const(m_commands)) {
         command->setProperty("look", u"quiet"_s);
         commands->addWidget(command);
     }
+    m_buttons->setContentsMargins(0, 0, 0, 0);
+    m_buttons->setSpacing(Theme::unit);
+    m_buttons->addLayout(adding);
+    m_buttons->addLayout(commands);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::spacing);
     column->addWidget(m_card, 1);
-    column->addLayout(commands);
+    column->addLayout(m_buttons);
     connect(&m_table, &RulesTableModel::changed, this, &RulesListPage::refresh);
     refresh();
 }
@@ -80,6 +89,26 @@ QPushButton *RulesListPage::makeButton(const Theme &theme, const QString &icon, 
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, &m_editor, command);
     return button;
+}
+
+QSize RulesListPage::minimumSizeHint() const
+{
+    // In two lines there is always room for the buttons.
+    int width = m_card->minimumSizeHint().width();
+    for (int line = 0; line < m_buttons->count(); ++line) {
+        width = std::max(width, m_buttons->itemAt(line)->minimumSize().width());
+    }
+    return {width, QWidget::minimumSizeHint().height()};
+}
+
+void RulesListPage::resizeEvent(QResizeEvent *event)
+{
+    int wanted = m_buttons->spacing();
+    for (int line = 0; line < m_buttons->count(); ++line) {
+        wanted += m_buttons->itemAt(line)->minimumSize().width();
+    }
+    m_buttons->setDirection(wanted <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    QWidget::resizeEvent(event);
 }
 
 void RulesListPage::refresh()

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QPushButton;
 
 namespace quillon {
@@ -26,6 +27,11 @@ public:
     /// What gets the keyboard when the page is entered.
     QWidget *firstControl() const;
 
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     using Command = void (RulesPreferencesViewController::*)();
 
@@ -38,6 +44,7 @@ private:
     RulesListView *m_list;
     EmptyState *m_empty;
     QWidget *m_card;
+    QBoxLayout *m_buttons;           ///< in one line where there is room, else in two
     QList<QPushButton *> m_commands; ///< on what is selected
     QPushButton *m_addRule;
 };

@@ -82,7 +82,7 @@ QVariant RuleRows::data(const QModelIndex &index, int role) const
     case Qt::AccessibleDescriptionRole:
         return plainParagraphs(saidOf(index.row()));
     case RuleRowDelegate::SentenceRole:
-        return plainLine(m_table.sentenceOf(index.row()));
+        return plainParagraphs(m_table.sentenceOf(index.row()));
     case RuleRowDelegate::BadgeRole:
         return badgeOf(row);
     case RuleRowDelegate::IsTintRole:

@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int formWidth = 480;
+constexpr int formLetters = 66; ///< where letters are larger
 constexpr int mostOfIt = 1000;
 
 using Page = RulesPreferencesViewController::Page;
@@ -29,7 +30,8 @@ using Tab = RulesPreferencesViewController::Tab;
 /// The form at its own width, in the middle of the page.
 QWidget *pageOf(RuleFormView *form)
 {
-    form->setMaximumWidth(std::max(formWidth, form->minimumSizeHint().width()));
+    const QFontMetrics letters(Theme::font(Theme::Type::Body));
+    form->setMaximumWidth(std::max(formWidth, formLetters * letters.averageCharWidth()));
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
@@ -95,6 +97,7 @@ RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &part
     connect(m_strip, &Strip::dismissed, &m_models.editor,
         &RulesPreferencesViewController::dismissWarning);
     connect(&m_models.editor, &RulesPreferencesViewController::changed, this, &RulesPane::refresh);
+    turnTo(*m_rulesPages, m_list);
     m_models.table.begin();
     refresh();
 }
