@@ -112,7 +112,8 @@ void RulesDetails::refreshList()
     m_head->setIcon(m_list.state().symbol == "wifi"_L1 ? u"wireless"_s : u"wired"_s);
     const auto &rows = m_list.state().rows;
     m_empty->setVisible(rows.isEmpty());
-    m_edit->setText(rows.isEmpty() ? localized("New Network Rule…") : localized("Edit Rules"));
+    m_edit->setText(
+        plainLine(rows.isEmpty() ? localized("New Network Rule…") : localized("Edit Rules")));
     m_edit->setToolTip(plainToolTip(localized("Opens the rule editor")));
     m_area->setVisible(!rows.isEmpty());
     setRules(rows);
