@@ -26,12 +26,10 @@ class RuleEditorTest(ProgramTest):
 
     def row(self, name):
         """Of the list of rules."""
-        return wait_until(lambda: next((item for item in self.editor().everything_below()
-                                        if item.role == "list item" and item.name == name), None),
-                          lambda: f"no rule “{name}”; there is {self.editor().overview()}")
+        return self.editor().find("list item", name)
 
     def rows(self):
-        return [item.name for item in self.editor().everything_below() if item.role == "list item"]
+        return [item.name for item in self.editor().all("list item")]
 
     def expect_rows(self, *names):
         wait_until(lambda: self.rows() == list(names), lambda: f"the list is {self.rows()}")
@@ -113,8 +111,8 @@ class RulesListTest(RuleEditorTest):
     test_the_form_goes_without_a_trace = None
 
     def focus_list(self):
-        self.editor().find("list", "Rules")._fresh.get_component_iface().grab_focus()
-        wait_until(lambda: self.row(self.name).focused, "the list has not the keyboard")
+        wait_until(self.focused_in_editor, "the window has not the keyboard")
+        self.tab_to(self.row(self.name))
 
     def test_a_rule_is_duplicated_renamed_deleted_and_had_back(self):
         self.focus_list()

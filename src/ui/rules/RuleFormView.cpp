@@ -136,7 +136,7 @@ RuleFormView::Line RuleFormView::addLine(
     row->setSpacing(Theme::unit);
     row->addWidget(control, 1);
     for (QWidget *other : beside) {
-        row->addWidget(other);
+        row->addWidget(other, 0, Qt::AlignVCenter);
     }
     const int place = m_grid->rowCount();
     m_grid->addWidget(label, place, 0);
