@@ -37,13 +37,18 @@ class RuleEditorTest(ProgramTest):
     def focused_in_editor(self):
         return next((control.name for control in self.editor().everything_below() if control.focused), None)
 
+    def place_in_editor(self):
+        """Tabs, a toolbar and a list may have one name."""
+        return next(((control.name, control.extents) for control in self.editor().everything_below()
+                     if control.focused), None)
+
     def tab_to(self, control):
         for _ in range(20):
             if control.focused:
                 return
-            before = self.focused_in_editor()
+            before = self.place_in_editor()
             xdotool("key", "Tab")
-            wait_until(lambda: self.focused_in_editor() not in (None, before), f"Tab does not lead on from {before}")
+            wait_until(lambda: self.place_in_editor() not in (None, before), f"Tab does not lead on from {before}")
         self.fail(f"Tab never came to {control.name}")
 
     def choose(self, label, entry):
