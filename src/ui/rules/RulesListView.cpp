@@ -13,6 +13,8 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -49,12 +51,36 @@ void RuleRows::refresh()
         rules << row.objID;
     }
     if (rules != m_shown) {
-        beginResetModel();
-        m_shown = rules;
-        endResetModel();
+        const QScopedValueRollback changes(m_changes, true);
+        exchange(rules);
     } else if (!rules.isEmpty()) {
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
     }
+}
+
+void RuleRows::exchange(const QStringList &rules)
+{
+    // Not a reset: assistive technology keeps the rows that stay.
+    const auto differs = std::ranges::mismatch(std::as_const(m_shown), rules);
+    const auto first = static_cast<int>(differs.in1 - m_shown.cbegin());
+    int same = 0;
+    while (first + same < std::min(m_shown.size(), rules.size()) &&
+           m_shown.at(m_shown.size() - 1 - same) == rules.at(rules.size() - 1 - same)) {
+        ++same;
+    }
+    const int gone = static_cast<int>(m_shown.size()) - first - same;
+    const int come = static_cast<int>(rules.size()) - first - same;
+    if (gone > 0) {
+        beginRemoveRows({}, first, first + gone - 1);
+        m_shown.remove(first, gone);
+        endRemoveRows();
+    }
+    if (come > 0) {
+        beginInsertRows({}, first, first + come - 1);
+        m_shown = rules;
+        endInsertRows();
+    }
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
 int RuleRows::rowCount(const QModelIndex &parent) const
@@ -135,7 +161,8 @@ RulesListView::RulesListView(RulesTableModel &table, RulesPreferencesViewControl
         &RulesPreferencesViewController::updateNamesArray);
     setItemDelegate(delegate);
     const QScopedValueRollback mirrors(m_mirrors, true);
-    setModel(new RuleRows(m_table, m_editor, this));
+    m_rows = new RuleRows(m_table, m_editor, this);
+    setModel(m_rows);
     // After the rows have become others: a reset takes the selection away.
     connect(&m_table, &RulesTableModel::changed, this, &RulesListView::refresh);
     connect(&theme, &Theme::changed, viewport(), qOverload<>(&QWidget::update));
@@ -170,7 +197,7 @@ void RulesListView::refresh()
 
 void RulesListView::tellSelection()
 {
-    if (m_mirrors) {
+    if (m_mirrors || m_rows->isChanging()) {
         return;
     }
     QList<qsizetype> rows;
@@ -222,7 +249,8 @@ void RulesListView::keyPressEvent(QKeyEvent *event)
         }
         event->accept();
     };
-    if (event->matches(QKeySequence::Delete)) {
+    // Not QKeySequence::Delete: on X11 that is Ctrl+D as well.
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
         act([this] { m_editor.deleteRule(); });
     } else if (event->matches(QKeySequence::Undo)) {
         act([this] { m_editor.undo(); });

@@ -24,15 +24,20 @@ public:
     /// The switch or the name, by the user.
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    /// Rows come and go: what is selected meanwhile is nobody's choice.
+    bool isChanging() const { return m_changes; }
 
 private:
     void refresh();
+    /// Takes rows out and puts others in, so that `rules` are shown.
+    void exchange(const QStringList &rules);
     /// What the rule does, and why it is or is not in force.
     QString saidOf(int row) const;
 
     RulesTableModel &m_table;
     RulesPreferencesViewController &m_editor;
     QStringList m_shown; ///< the rules, in the order of the rows
+    bool m_changes = false;
 };
 
 /// The list of all rules, with a switch in each row. Space switches, Return or a double click
@@ -63,6 +68,7 @@ private:
 
     RulesTableModel &m_table;
     RulesPreferencesViewController &m_editor;
+    RuleRows *m_rows = nullptr;
     bool m_mirrors = false; ///< the selection comes from the model, not from the user
 };
 
