@@ -114,6 +114,7 @@ void RulesDetails::refreshList()
     m_empty->setVisible(rows.isEmpty());
     m_edit->setText(
         plainLine(rows.isEmpty() ? localized("New Network Rule…") : localized("Edit Rules")));
+    m_edit->setAccessibleName(m_edit->text());
     m_edit->setToolTip(plainToolTip(localized("Opens the rule editor")));
     m_area->setVisible(!rows.isEmpty());
     setRules(rows);
