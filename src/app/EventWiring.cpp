@@ -211,6 +211,7 @@ void EventWiring::connectNetworks()
 void EventWiring::connectNetworkEvents()
 {
     Features &f = m_features;
+    on(m_networkEvents, &NetworkEvents::machineSlept, [&f] { f.rules.execution.machineSlept(); });
     on(m_networkEvents, &NetworkEvents::interfacesRead, [&f] {
         f.devices.driftAlarm.look();
         f.mainWindow.interfacesWereRead();

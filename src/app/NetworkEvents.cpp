@@ -42,7 +42,12 @@ void NetworkEvents::begin()
     };
     m_platform.networkChanges.start(lookAgain);
     // Much can have happened in a sleep, and not all of it is told of.
-    m_platform.sleep.watch(lookAgain);
+    m_platform.sleep.watch([self = QPointer(this), lookAgain] {
+        if (self) {
+            Q_EMIT self->machineSlept();
+        }
+        lookAgain();
+    });
     m_platform.reachability.watch(lookAgain);
 }
 

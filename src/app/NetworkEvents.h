@@ -24,6 +24,8 @@ public:
     void begin();
 
 Q_SIGNALS:
+    /// The machine is back from a sleep; the interfaces have not been read yet.
+    void machineSlept();
     /// The interfaces were read for an event, and nobody knows of it yet.
     void interfacesRead();
     /// Every network change of an event has been dealt with.

@@ -46,6 +46,8 @@ public:
 
     /// The device table was read anew: visits of devices whose link is down, or that are gone, end.
     void followVisits() { m_watch.followVisits(); }
+    /// The machine was suspended, however short: visits of wired devices end.
+    void machineSlept() { m_watch.machineSlept(); }
     /// An address change of `device` is about to be asked of the helper, or has come to its end.
     void addressChangeBegan(const QString &device);
     void addressChangeEnded(const QString &device, const ChangeOutcome &outcome = {});

@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 /// A radio that is back on its network within this time has never left it: access points of one
 /// network hand it over, and a scan takes it away for a moment.
 constexpr std::chrono::milliseconds sameNetworkTime = 10s;
-/// Time in suspension from which a cable may be in another socket.
+/// By how much the wall clock runs ahead in what is taken for a sleep.
 constexpr std::chrono::milliseconds suspensionTime = 1min;
 
 std::chrono::milliseconds clockAhead(const Scheduler &scheduler)
@@ -91,13 +91,17 @@ void VisitWatch::followDevice(const QString &device)
     }
 }
 
-// Wired networks have no names: whoever closes a computer may open it in another office.
+// Where the end of a sleep is not told. A clock that is set looks the same, hence the time.
 void VisitWatch::noteSuspension()
 {
     const std::chrono::milliseconds before = std::exchange(m_clockAhead, clockAhead(m_scheduler));
-    if (std::chrono::abs(m_clockAhead - before) <= suspensionTime) {
-        return;
+    if (std::chrono::abs(m_clockAhead - before) > suspensionTime) {
+        machineSlept();
     }
+}
+
+void VisitWatch::machineSlept()
+{
     const QStringList devices = m_visits.devices();
     for (const QString &device : devices) {
         if (!m_devices.isDeviceWifi(device)) {

@@ -24,6 +24,8 @@ public:
     void followNetwork(const QString &device, const RuleOutcome &outcome, const Visits::Act &act);
     /// The device table was read anew: visits of devices whose link is down, or that are gone, end.
     void followVisits();
+    /// Wired networks have no names: whoever closes a computer may open it in another office.
+    void machineSlept();
 
 private:
     void followDevice(const QString &device);

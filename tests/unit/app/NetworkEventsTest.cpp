@@ -138,6 +138,25 @@ TEST_F(NetworkEventsTest, AfterASleepNoEventOfTheNetworkIsNeeded)
     EXPECT_EQ(evaluated, QStringList(enp1s0));
 }
 
+TEST_F(NetworkEventsTest, AfterASleepTheRuleOfAWiredInterfaceActsOnceMore)
+{
+    runWith(enp1s0, u"wlp2s0"_s);
+    machine.host.at(enp1s0).active = true;
+    const auto changesAfterALease = [this] {
+        giveLease(enp1s0);
+        machine.networkChanges.networkChanges();
+        machine.scheduler.advance(10s);
+        return machine.helper.changes().size();
+    };
+    ASSERT_EQ(changesAfterALease(), 1);
+    ASSERT_EQ(changesAfterALease(), 1);
+    machine.sleep.resume();
+    machine.scheduler.advance(10s);
+    EXPECT_EQ(machine.helper.changes().size(), 1) << "nothing is new of it yet";
+    EXPECT_EQ(changesAfterALease(), 2);
+    EXPECT_EQ(changesAfterALease(), 2);
+}
+
 TEST_F(NetworkEventsTest, AnInterfaceThatWasHeldBackIsEvaluatedOnce)
 {
     const QString wlp2s0 = u"wlp2s0"_s;

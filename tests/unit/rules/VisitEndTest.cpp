@@ -46,6 +46,29 @@ TEST_F(VisitEnd, OfAWiredInterfaceComesWithMoreThanAMinuteInSuspension)
     EXPECT_EQ(changes(en0), 2);
 }
 
+TEST_F(VisitEnd, OfAWiredInterfaceComesWithASleepHoweverShort)
+{
+    execution.machineSlept();
+    news(en0);
+    news(en1);
+    EXPECT_EQ(changes(en0), 2);
+    EXPECT_EQ(changes(en1), 1) << "a radio says which network it is on";
+    pass(10s);
+    news(en0);
+    EXPECT_EQ(changes(en0), 2);
+}
+
+TEST_F(VisitEnd, OfAWiredInterfaceComesWithASleepThatTakesItsLinkDownRightAfterAChange)
+{
+    linkGoes(en0);
+    linkComes(en0);
+    ASSERT_EQ(changes(en0), 2);
+    linkGoes(en0);
+    execution.machineSlept();
+    linkComes(en0);
+    EXPECT_EQ(changes(en0), 3);
+}
+
 TEST_F(VisitEnd, OfAWiredInterfaceIsFoundAlsoWithoutChangedRecord)
 {
     scheduler.setClock(1h);
