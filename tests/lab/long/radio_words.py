@@ -3,6 +3,7 @@
 """What the window must show of the radio's network, by what iw and ip say of it."""
 import json
 import re
+import time
 
 from guest import WIRELESS, run
 
@@ -117,6 +118,9 @@ def shown(device=WIRELESS):
     place, frequency = channel(device)
     station = iw("dev", device, "station", "dump")
     rates = [value(station, "tx bitrate"), value(station, "rx bitrate")]
+    if rates[0] is None:
+        # The access point was lost since the first question: these answers are of no one moment.
+        return {"torn": time.monotonic()}
     network = joined_network(device)
     is_old_channel = "(no HT)" in iw("dev", device, "info")
     return {
