@@ -216,6 +216,7 @@ void EventWiring::connectNetworkEvents()
         f.devices.driftAlarm.look();
         f.mainWindow.interfacesWereRead();
         f.networks.info.lookForRadio();
+        f.preferences.owners.interfacesWereRead();
     });
     on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
 }
@@ -299,7 +300,8 @@ void EventWiring::observeSettings()
     m_observations.onSetting(
         keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
     m_observations.onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
-    m_observations.onSetting(keys::loginStart, [this] {
+    m_observations.onSetting(keys::loginStart, [this, &f] {
+        f.preferences.loginController.updateLogin();
         m_platform.scheduler.onMainAfter(
             terminateLoginHelperDelay, this, [this] { postTerminateLoginHelper(); });
     });
@@ -336,11 +338,14 @@ void EventWiring::observeBroadcasts()
         m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
     });
     m_observations.onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
-        f.advancedPreferences.checkButtonStatus();
+        f.preferences.advanced.checkButtonStatus();
+        f.preferences.general.refreshKeyButtons();
         f.statusMenu.menuNeedsUpdate();
     });
     m_observations.onBroadcast(notifications::changePrefsTab,
         [&f](const auto &posted) { f.preferencesWindow.changePrefsTab(posted.userInfo); });
+    m_observations.onBroadcast(notifications::icloudUpdated,
+        [&f](const auto &) { f.preferences.general.refreshView(); });
     m_observations.onBroadcast(notifications::closeVendorViewPopover,
         [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
     m_observations.onBroadcast(notifications::toggleCheckbox,

@@ -14,7 +14,9 @@ class HelperLink;
 class HotKeys;
 class HttpClient;
 class InterfaceAddresses;
+class LinkOpener;
 class LocationAuthorization;
+class LoginItem;
 class NetworkChangeSource;
 class NetworkHost;
 class NotificationCenter;
@@ -39,6 +41,8 @@ struct Places
     /// The service that tells our external address.
     QUrl externalAddressService;
     QUrl vendorRegistry;
+    /// The text of the license, "" when it is not installed.
+    QString licenseFile;
 };
 
 /// Every seam to the platform that the program uses, filled by main.cpp (or by a test). What it
@@ -64,6 +68,8 @@ struct Platform
     LocationAuthorization &location;
     SystemSettings &systemSettings;
     HotKeys &hotKeys;
+    LoginItem &loginItem;
+    LinkOpener &links;
     HttpClient &http;
     HelperLink &helperLink;
     RandomSource &random;

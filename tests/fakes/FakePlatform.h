@@ -9,7 +9,9 @@
 #include "fakes/FakeHotKeys.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocationAuthorization.h"
+#include "fakes/FakeLoginItem.h"
 #include "fakes/FakeNetworkChangeSource.h"
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeRadioSwitch.h"
@@ -64,6 +66,8 @@ struct FakePlatform
             .location = location,
             .systemSettings = systemSettings,
             .hotKeys = hotKeys,
+            .loginItem = loginItem,
+            .links = links,
             .http = http,
             .helperLink = helper,
             .random = random,
@@ -71,7 +75,8 @@ struct FakePlatform
             .places = {.supportFolder = data.path(),
                 .shippedVendorDatabase = {},
                 .externalAddressService = QUrl(QStringLiteral("https://address.example")),
-                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))},
+                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv")),
+                .licenseFile = {}},
         };
     }
 
@@ -94,6 +99,8 @@ struct FakePlatform
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;
     FakeHotKeys hotKeys{scheduler};
+    FakeLoginItem loginItem{scheduler};
+    FakeLinkOpener links;
     FakeHttpClient http{scheduler};
     FakeHelper helper{scheduler, host};
     FakeRandomSource random;

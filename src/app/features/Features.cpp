@@ -28,7 +28,7 @@ Features::Features(
           helper, presence, rules.timers})
     , editMenu(history.store)
     , preferencesWindow(platform.settings, platform.notifications)
-    , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
+    , preferences(platform, helper, presence, hotKeys, devices.table)
 {
 }
 

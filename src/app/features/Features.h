@@ -5,6 +5,7 @@
 #include "app/features/DeviceFeature.h"
 #include "app/features/HistoryFeature.h"
 #include "app/features/NetworkFeature.h"
+#include "app/features/PreferencesFeature.h"
 #include "app/features/RuleFeature.h"
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
@@ -14,7 +15,6 @@
 #include "presentation/menu/EditMenuModel.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
-#include "presentation/preferences/AdvancedPreferencesModel.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "presentation/window/ReadMeModel.h"
@@ -44,7 +44,7 @@ struct Features
     FileMenuModel fileMenu;
     EditMenuModel editMenu;
     PreferencesWindowModel preferencesWindow;
-    AdvancedPreferencesModel advancedPreferences;
+    PreferencesFeature preferences;
 };
 
 } // namespace quillon

@@ -54,6 +54,8 @@ ComposedProgram::ComposedProgram(
         .location = m_location,
         .systemSettings = m_systemSettings,
         .hotKeys = m_hotKeys,
+        .loginItem = m_loginItem,
+        .links = m_links,
         .http = m_http,
         .helperLink = helperLink,
         .random = m_random,
@@ -61,7 +63,8 @@ ComposedProgram::ComposedProgram(
         .places = {.supportFolder = folder,
             .shippedVendorDatabase = {},
             .externalAddressService = QUrl(nobody),
-            .vendorRegistry = QUrl(nobody)},
+            .vendorRegistry = QUrl(nobody),
+            .licenseFile = {}},
     });
 }
 

@@ -5,6 +5,8 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHotKeys.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLoginItem.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -87,6 +89,8 @@ private:
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
     FakeHotKeys m_hotKeys{m_scheduler};
+    FakeLoginItem m_loginItem{m_scheduler};
+    FakeLinkOpener m_links;
     NetworkHttpClient m_http;
     GetrandomSource m_random;
     DBusHelperLink m_helperLink{m_random};

@@ -117,6 +117,8 @@ private:
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,
             .hotKeys = fakes.hotKeys,
+            .loginItem = fakes.loginItem,
+            .links = fakes.links,
             .http = http,
             .helperLink = fakes.helperLink,
             .random = fakes.random,
@@ -124,7 +126,8 @@ private:
             .places = {.supportFolder = files.folder,
                 .shippedVendorDatabase = files.seed,
                 .externalAddressService = {},
-                .vendorRegistry = WebServer::secure("/oui/oui.csv")},
+                .vendorRegistry = WebServer::secure("/oui/oui.csv"),
+                .licenseFile = {}},
         };
     }
 };

@@ -298,7 +298,7 @@ TEST_F(EventWiringTest, WhatWasPutOffReachesNobodyAfterTheEnd)
     machine.settings.setBool(keys::loginStart, true);
     machine.notifications.post(notifications::addressUpdated);
     features().mainWindow.populateHexField();
-    features().advancedPreferences.load();
+    features().preferences.advanced.load();
     program.reset();
     machine.networkChanges.networkChanges();
     machine.scheduler.advance(5s);

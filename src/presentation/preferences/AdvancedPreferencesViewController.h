@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Shown.h"
+
 #include <QObject>
 
 namespace quillon {
@@ -11,19 +13,34 @@ class Scheduler;
 class SettingsStore;
 class XPCMethods;
 
-/// The helper's buttons of the advanced preferences: when they are enabled and what they do. The
-/// pane mirrors it. Main thread.
-class AdvancedPreferencesModel : public QObject
+/// The helper in the advanced preferences: whether it is installed, and the buttons that install
+/// and uninstall it. Main thread.
+class AdvancedPreferencesViewController : public QObject
 {
     Q_OBJECT
 
 public:
+    enum class Work
+    {
+        None,
+        Installing,
+        Uninstalling,
+    };
+    struct State
+    {
+        QString status; ///< in the user's language
+        bool installEnabled = false;
+        bool uninstallEnabled = false;
+        Work work = Work::None; ///< asked for and not ended: a prompt may stand before the windows
+
+        bool operator==(const State &) const = default;
+    };
+
     /// `groupSettings` is the store shared with the helper programs.
-    AdvancedPreferencesModel(
+    AdvancedPreferencesViewController(
         XPCMethods &helper, Presence &presence, SettingsStore &groupSettings, Scheduler &scheduler);
 
-    bool isInstallEnabled() const { return m_installEnabled; }
-    bool isUninstallEnabled() const { return m_uninstallEnabled; }
+    const State &state() const { return m_state.get(); }
 
     /// The pane is loaded: the install button waits for the helper's own answer.
     void load();
@@ -36,17 +53,20 @@ public:
     void purgeGroupDefaults();
 
 Q_SIGNALS:
+    /// Something in state() changed.
     void changed();
 
 private:
-    void set(bool installEnabled, bool uninstallEnabled);
+    void askVersion();
+    void takeVersion(const QString &version);
+    void makeAppKey();
 
     XPCMethods &m_helper;
     Presence &m_presence;
     SettingsStore &m_groupSettings;
     Scheduler &m_scheduler;
-    bool m_installEnabled = false;
-    bool m_uninstallEnabled = false;
+    bool m_isLoaded = false;
+    Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 
 } // namespace quillon

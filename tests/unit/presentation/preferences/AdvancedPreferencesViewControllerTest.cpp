@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/preferences/AdvancedPreferencesViewController.h"
 
 #include "fakes/FakePlatform.h"
 #include "helperlink/XPCMethods.h"
@@ -13,10 +13,10 @@ namespace quillon::test {
 using namespace Qt::StringLiterals;
 namespace {
 
-class AdvancedPreferencesModelTest : public ::testing::Test
+class AdvancedPreferencesViewControllerTest : public ::testing::Test
 {
 protected:
-    AdvancedPreferencesModelTest()
+    AdvancedPreferencesViewControllerTest()
     {
         QObject::connect(&presence, &Presence::windowOpened, [this] { ++fronts; });
         for (const char *key : {"success", "device", "version", "other"}) {
@@ -34,42 +34,42 @@ protected:
     FakePlatform machine;
     XPCMethods helper{machine.helper, machine.scheduler, machine.notifications};
     Presence presence{machine.settings};
-    AdvancedPreferencesModel pane{helper, presence, machine.groupSettings, machine.scheduler};
+    AdvancedPreferencesViewController pane{helper, presence, machine.groupSettings, machine.scheduler};
     int fronts = 0;
 };
 
-TEST_F(AdvancedPreferencesModelTest, WithTheHelperOnlyUninstallIsOffered)
+TEST_F(AdvancedPreferencesViewControllerTest, WithTheHelperOnlyUninstallIsOffered)
 {
     readStatus();
-    EXPECT_FALSE(pane.isInstallEnabled());
-    EXPECT_TRUE(pane.isUninstallEnabled());
+    EXPECT_FALSE(pane.state().installEnabled);
+    EXPECT_TRUE(pane.state().uninstallEnabled);
 }
 
-TEST_F(AdvancedPreferencesModelTest, WithoutTheHelperOnlyInstallIsOffered)
+TEST_F(AdvancedPreferencesViewControllerTest, WithoutTheHelperOnlyInstallIsOffered)
 {
     machine.helper.installed = false;
     readStatus();
-    EXPECT_TRUE(pane.isInstallEnabled());
-    EXPECT_FALSE(pane.isUninstallEnabled());
+    EXPECT_TRUE(pane.state().installEnabled);
+    EXPECT_FALSE(pane.state().uninstallEnabled);
 }
 
-TEST_F(AdvancedPreferencesModelTest, OnLoadInstallWaitsForTheHelpersAnswer)
+TEST_F(AdvancedPreferencesViewControllerTest, OnLoadInstallWaitsForTheHelpersAnswer)
 {
     machine.helper.version = u"1.9"_s;
     pane.load();
-    EXPECT_FALSE(pane.isInstallEnabled());
+    EXPECT_FALSE(pane.state().installEnabled);
     machine.scheduler.runPending();
-    EXPECT_TRUE(pane.isInstallEnabled()) << "a helper of version 1.9 counts as not installed";
+    EXPECT_TRUE(pane.state().installEnabled) << "a helper of version 1.9 counts as not installed";
 }
 
-TEST_F(AdvancedPreferencesModelTest, OnLoadWithTheRightHelperInstallStaysDisabled)
+TEST_F(AdvancedPreferencesViewControllerTest, OnLoadWithTheRightHelperInstallStaysDisabled)
 {
     pane.load();
     machine.scheduler.runPending();
-    EXPECT_FALSE(pane.isInstallEnabled());
+    EXPECT_FALSE(pane.state().installEnabled);
 }
 
-TEST_F(AdvancedPreferencesModelTest, InstallReadsTheStatusAgainAndBringsTheWindowsToTheFront)
+TEST_F(AdvancedPreferencesViewControllerTest, InstallReadsTheStatusAgainAndBringsTheWindowsToTheFront)
 {
     pane.installHelper();
     machine.scheduler.runPending();
@@ -77,7 +77,7 @@ TEST_F(AdvancedPreferencesModelTest, InstallReadsTheStatusAgainAndBringsTheWindo
     EXPECT_EQ(fronts, 1);
 }
 
-TEST_F(AdvancedPreferencesModelTest, AFailedInstallOnlyBringsTheWindowsToTheFront)
+TEST_F(AdvancedPreferencesViewControllerTest, AFailedInstallOnlyBringsTheWindowsToTheFront)
 {
     machine.helper.installFails = true;
     pane.installHelper();
@@ -87,7 +87,7 @@ TEST_F(AdvancedPreferencesModelTest, AFailedInstallOnlyBringsTheWindowsToTheFron
 }
 
 TEST_F(
-    AdvancedPreferencesModelTest, UninstallThroughAConnectionThatDropsSucceedsAndPurgesTheGroupKeys)
+    AdvancedPreferencesViewControllerTest, UninstallThroughAConnectionThatDropsSucceedsAndPurgesTheGroupKeys)
 {
     machine.helper.mood = FakeHelper::Mood::Dropping;
     machine.groupSettings.clearJournal();
@@ -98,7 +98,7 @@ TEST_F(
     EXPECT_EQ(fronts, 1);
 }
 
-TEST_F(AdvancedPreferencesModelTest, ARefusedUninstallKeepsTheGroupKeys)
+TEST_F(AdvancedPreferencesViewControllerTest, ARefusedUninstallKeepsTheGroupKeys)
 {
     machine.helper.mood = FakeHelper::Mood::Refusing;
     pane.uninstallHelper();
