@@ -13,6 +13,7 @@ inline UserInterface::Models modelsOf(Features &features)
     NetworkFeature &networks = features.networks;
     RuleFeature &rules = features.rules;
     VendorFeature &vendors = features.vendors;
+    PreferencesFeature &panes = features.preferences;
     return {.window = {features.mainWindow, features.readMe, features.presence},
         .statusMenu = features.statusMenu,
         .fileMenu = features.fileMenu,
@@ -22,7 +23,12 @@ inline UserInterface::Models modelsOf(Features &features)
         .others = {.presence = features.presence,
             .savedItems = {{networks.savedLists, networks.savedEntryPopover},
                 networks.removedFromSavedItems, features.presence},
-            .preferences = {features.preferencesWindow, features.presence}},
+            .preferences = {features.preferencesWindow, features.presence},
+            .general = panes.general,
+            .advanced = {panes.advanced, panes.defaultMinutes, panes.driftAlarm, panes.owners},
+            .display = panes.display,
+            .vendorData = vendors.pane,
+            .about = panes.about},
         .network = networks.info,
         .externalAddress = networks.externalAddressShown,
         .rules = {rules.status, rules.list},

@@ -4,6 +4,10 @@
 
 #include "presence/Presence.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
+#include "ui/preferences/AboutPreferencesView.h"
+#include "ui/preferences/DisplayPreferencesView.h"
+#include "ui/preferences/GeneralPreferencesView.h"
+#include "ui/vendors/VendorPreferencesViewController.h"
 
 namespace quillon {
 
@@ -15,7 +19,10 @@ OtherWindows::OtherWindows(const Models &models, const Theme &theme, const Deskt
     connect(&m_models.presence, &Presence::destinationChosen, this, &OtherWindows::goTo);
     connect(&m_models.preferences.window, &PreferencesWindowModel::windowOpened, this,
         &OtherWindows::openPreferences);
-    m_models.presence.offer(Destination::SavedItems);
+    for (const Destination destination :
+        {Destination::SavedItems, Destination::Preferences, Destination::About}) {
+        m_models.presence.offer(destination);
+    }
 }
 
 OtherWindows::~OtherWindows() = default;
@@ -41,8 +48,23 @@ void OtherWindows::openPreferences()
     if (m_preferences == nullptr) {
         m_preferences =
             std::make_unique<PreferencesWindow>(m_models.preferences, m_theme, m_desktop.taskBar);
+        addPanes();
     }
     m_preferences->bringUp();
+}
+
+void OtherWindows::addPanes()
+{
+    PreferencesWindow &window = *m_preferences;
+    window.addPane(
+        PreferencesPane::General, new GeneralPreferencesView(m_models.general, m_theme));
+    window.addPane(
+        PreferencesPane::Advanced, new AdvancedPreferencesView(m_models.advanced, m_theme));
+    window.addPane(
+        PreferencesPane::Display, new DisplayPreferencesView(m_models.display, m_theme));
+    window.addPane(PreferencesPane::VendorData,
+        new VendorPreferencesViewController(m_models.vendorData, m_theme));
+    window.addPane(PreferencesPane::About, new AboutPreferencesView(m_models.about, m_theme));
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 
 #include "presence/Destination.h"
 #include "ui/networks/SavedItemsWindow.h"
+#include "ui/preferences/AdvancedPreferencesView.h"
 #include "ui/preferences/PreferencesWindow.h"
 
 #include <QObject>
@@ -11,6 +12,11 @@
 #include <memory>
 
 namespace quillon {
+
+class AboutPreferencesViewController;
+class DisplayPreferencesViewController;
+class GeneralPreferencesViewController;
+class VendorPaneModel;
 
 /// The windows beside the main one. Each is made when it is first wanted. Main thread.
 class OtherWindows : public QObject
@@ -23,6 +29,11 @@ public:
         Presence &presence;
         SavedItemsWindow::Models savedItems;
         PreferencesWindow::Models preferences;
+        GeneralPreferencesViewController &general;
+        AdvancedPreferencesView::Models advanced;
+        DisplayPreferencesViewController &display;
+        VendorPaneModel &vendorData;
+        AboutPreferencesViewController &about;
     };
     struct Desktop
     {
@@ -37,6 +48,7 @@ private:
     void goTo(Destination destination);
     void openSavedItems();
     void openPreferences();
+    void addPanes();
 
     Models m_models;
     const Theme &m_theme;

@@ -96,11 +96,6 @@ MainWindow::~MainWindow()
     hide();
 }
 
-void MainWindow::addDetails(QWidget *section)
-{
-    m_area->add(section);
-}
-
 void MainWindow::putHeaderLast()
 {
     const auto takesTab = [](const QWidget *widget) {

@@ -49,8 +49,6 @@ public:
     AddressCard &addressCard() const { return *m_addressCard; }
     /// What is known of the selected interface.
     FactsCard &facts() const { return *m_facts; }
-    /// Puts a section under the facts, in the order of the calls.
-    void addDetails(QWidget *section);
     /// For the keyboard the header comes after everything that was added so far.
     void putHeaderLast();
     /// `keys` anywhere in the window, as long as no popover is open.

@@ -4,7 +4,6 @@
 
 #include "base/DurableFolder.h"
 #include "base/Localized.h"
-#include "contract/Names.h"
 #include "platform/linux/bus/BusCall.h"
 #include "platform/linux/desktop/AutostartDesktop.h"
 #include "platform/linux/desktop/AutostartEntry.h"
@@ -29,6 +28,9 @@ using namespace std::chrono_literals;
 
 constexpr auto answerLimit = 5s;
 constexpr qint64 longestEntry = 65536;
+
+/// As the program announces itself on the bus, too.
+const QString helperIdentifier = u"com.orvandel.Quillon4Helper"_s;
 
 const QString systemd = u"org.freedesktop.systemd1"_s;
 
@@ -80,7 +82,7 @@ std::optional<LoginItem::Program> AutostartLoginItem::program() const
     if (!file.isFile() || !file.isExecutable()) {
         return std::nullopt;
     }
-    return Program{QLatin1String(contract::loginHelperName), QUrl::fromLocalFile(m_program)};
+    return Program{helperIdentifier, QUrl::fromLocalFile(m_program)};
 }
 
 bool AutostartLoginItem::setEnabled(const QString &identifier, bool enabled)
@@ -110,7 +112,7 @@ bool AutostartLoginItem::setEnabled(const QString &identifier, bool enabled)
 
 LoginItem::Entry AutostartLoginItem::entry() const
 {
-    return entryAt(pathOf(QLatin1String(contract::loginHelperName)));
+    return entryAt(pathOf(helperIdentifier));
 }
 
 void AutostartLoginItem::findDesktop(std::function<void(Desktop)> reply)

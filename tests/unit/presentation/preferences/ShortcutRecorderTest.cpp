@@ -78,7 +78,7 @@ TEST_F(ShortcutRecorderTest, ModifiersAreShownWhileTheyAreHeld)
 {
     show.begin();
     EXPECT_EQ(show.state().text, u"Type a shortcut"_s);
-    show.press({.control = true, .alt = true});
+    show.press({.control = true, .alt = true, .key = {}});
     EXPECT_EQ(show.state().text, u"Ctrl+Alt+\u2026"_s);
     show.press({});
     EXPECT_EQ(show.state().text, u"Type a shortcut"_s);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/vendors/VendorDataCard.h"
+#include "ui/vendors/VendorPreferencesViewController.h"
 
 #include "ui/theme/Theme.h"
 #include "unit/vendors/VendorFixture.h"
@@ -16,14 +16,14 @@ namespace quillon::test {
 using namespace Qt::StringLiterals;
 namespace {
 
-class VendorDataCardTest : public VendorFixture
+class VendorPreferencesViewControllerTest : public VendorFixture
 {
 protected:
-    VendorDataCardTest()
+    VendorPreferencesViewControllerTest()
     {
         theme.apply();
         makeLive(registryOf(3));
-        card = std::make_unique<VendorDataCard>(pane, theme);
+        card = std::make_unique<VendorPreferencesViewController>(pane, theme);
         card->show();
     }
 
@@ -35,10 +35,10 @@ protected:
     void unfold() { part<QToolButton>("vendorDataTitle")->click(); }
 
     Theme theme;
-    std::unique_ptr<VendorDataCard> card;
+    std::unique_ptr<VendorPreferencesViewController> card;
 };
 
-TEST_F(VendorDataCardTest, IsFoldedUntilItsTitleIsChosen)
+TEST_F(VendorPreferencesViewControllerTest, IsFoldedUntilItsTitleIsChosen)
 {
     auto *title = part<QToolButton>("vendorDataTitle");
     EXPECT_EQ(title->text(), u"Vendor Data"_s);
@@ -51,7 +51,7 @@ TEST_F(VendorDataCardTest, IsFoldedUntilItsTitleIsChosen)
     EXPECT_FALSE(part<QPushButton>("downloadButton")->isVisible());
 }
 
-TEST_F(VendorDataCardTest, ShowsTheTextsOfThePane)
+TEST_F(VendorPreferencesViewControllerTest, ShowsTheTextsOfThePane)
 {
     settings.set(keys::vendorIDUpdatedDate, u"Nov 21, 2026, 2:37 PM"_s);
     settings.set(keys::vendorCountValue, 32530);
@@ -62,7 +62,7 @@ TEST_F(VendorDataCardTest, ShowsTheTextsOfThePane)
     EXPECT_EQ(part<QPushButton>("downloadButton")->text(), u"Update database"_s);
 }
 
-TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
+TEST_F(VendorPreferencesViewControllerTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
 {
     unfold();
     count.updateVendorCount();
@@ -78,7 +78,7 @@ TEST_F(VendorDataCardTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
     EXPECT_EQ(part<QLabel>("updatedLabel")->text(), u"Download cancelled..."_s);
 }
 
-TEST_F(VendorDataCardTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
+TEST_F(VendorPreferencesViewControllerTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
 {
     unfold();
     auto *restore = part<QPushButton>("restoreButton");
@@ -106,7 +106,7 @@ TEST_F(VendorDataCardTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
     EXPECT_EQ(part<QLabel>("vendorCount")->text(), u"3 Vendor Identifiers"_s);
 }
 
-TEST_F(VendorDataCardTest, TheBarFollowsTheDownload)
+TEST_F(VendorPreferencesViewControllerTest, TheBarFollowsTheDownload)
 {
     unfold();
     auto *bar = part<QProgressBar>("progressBar");
@@ -118,7 +118,7 @@ TEST_F(VendorDataCardTest, TheBarFollowsTheDownload)
     EXPECT_FALSE(bar->isVisible());
 }
 
-TEST_F(VendorDataCardTest, ADownloadOfUnknownSizeHasAnEmptyBar)
+TEST_F(VendorPreferencesViewControllerTest, ADownloadOfUnknownSizeHasAnEmptyBar)
 {
     unfold();
     pane.showProgress(16384, 250'000, 1'000'000);
@@ -128,14 +128,14 @@ TEST_F(VendorDataCardTest, ADownloadOfUnknownSizeHasAnEmptyBar)
     EXPECT_EQ(part<QProgressBar>("progressBar")->value(), 0);
 }
 
-TEST_F(VendorDataCardTest, MoreThanTheWholeIsAFullBar)
+TEST_F(VendorPreferencesViewControllerTest, MoreThanTheWholeIsAFullBar)
 {
     pane.showProgress(1, 3'000'000, 1'000'000);
     EXPECT_EQ(
         part<QProgressBar>("progressBar")->value(), part<QProgressBar>("progressBar")->maximum());
 }
 
-TEST_F(VendorDataCardTest, KeepsItsSizeWhileTheBarComesAndGoes)
+TEST_F(VendorPreferencesViewControllerTest, KeepsItsSizeWhileTheBarComesAndGoes)
 {
     unfold();
     constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;
@@ -146,7 +146,7 @@ TEST_F(VendorDataCardTest, KeepsItsSizeWhileTheBarComesAndGoes)
     EXPECT_EQ(card->heightForWidth(width), before);
 }
 
-TEST_F(VendorDataCardTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
+TEST_F(VendorPreferencesViewControllerTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
 {
     unfold();
     constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;

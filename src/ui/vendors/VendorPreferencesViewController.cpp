@@ -1,17 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/vendors/VendorDataCard.h"
+#include "ui/vendors/VendorPreferencesViewController.h"
 
 #include "base/Localized.h"
 #include "presentation/vendors/VendorPaneModel.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
 
-#include <QGridLayout>
+#include <QFrame>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,8 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int progressSteps = 1000;
-/// How far the title's picture stands from its left edge.
-constexpr int titleInset = 10;
 
 QString restoreHint(const VendorPaneModel::State &state)
 {
@@ -47,84 +46,58 @@ QString downloadHint(const VendorPaneModel::State &state)
 
 } // namespace
 
-VendorDataCard::VendorDataCard(VendorPaneModel &model, const Theme &theme, QWidget *parent)
-    : QFrame(parent)
-    , m_model(model)
-    , m_theme(theme)
-    , m_title(new QToolButton)
-    , m_content(makeContent())
+VendorPreferencesViewController::VendorPreferencesViewController(
+    VendorPaneModel &model, const Theme &theme)
+    : m_model(model)
+    , m_updated(new InlineLine(theme))
+    , m_count(plainLabel())
+    , m_progress(new QProgressBar)
+    , m_button(new QPushButton)
+    , m_restore(new QPushButton(localized("Restore previous")))
 {
-    setProperty("look", u"card"_s);
-    m_title->setObjectName(u"vendorDataTitle"_s);
-    m_title->setProperty("look", u"flat"_s);
-    m_title->setText(localized("Vendor Data"));
-    m_title->setAccessibleName(localized("Vendor Data"));
-    m_title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    connect(m_title, &QToolButton::clicked, this, [this] { fold(!m_content->isHidden()); });
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(
-        Theme::cardMargin - titleInset, Theme::unit - 2, Theme::cardMargin, Theme::unit - 2);
-    column->setSpacing(0);
-    column->addWidget(m_title, 0, Qt::AlignLeft);
-    column->addWidget(m_content);
-    connect(&m_model, &VendorPaneModel::changed, this, &VendorDataCard::refresh);
-    fold(true);
-    refresh();
-}
-
-QWidget *VendorDataCard::makeContent()
-{
-    auto *content = new QWidget;
-    m_updated = plainLabel();
     m_updated->setObjectName(u"updatedLabel"_s);
-    m_updated->setWordWrap(true);
-    m_count = plainLabel();
     m_count->setObjectName(u"vendorCount"_s);
-    m_count->setProperty("look", u"caption"_s);
-    m_progress = new QProgressBar;
+    m_count->setWordWrap(true);
     m_progress->setObjectName(u"progressBar"_s);
     m_progress->setAccessibleName(localized("Progress of the download"));
-    m_progress->setRange(0, progressSteps);
     m_progress->setTextVisible(false);
-    m_button = new QPushButton;
     m_button->setObjectName(u"downloadButton"_s);
     m_button->setAutoDefault(true);
     connect(m_button, &QPushButton::clicked, this, [this] { m_model.pressButton(); });
-    m_restore = new QPushButton(localized("Restore previous"));
     m_restore->setObjectName(u"restoreButton"_s);
     m_restore->setAccessibleName(m_restore->text());
     m_restore->setAutoDefault(true);
     connect(m_restore, &QPushButton::clicked, this, [this] { m_model.pressRestoreButton(); });
-    // The bar comes and goes; the card keeps its height.
-    QSizePolicy kept = m_progress->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    m_progress->setSizePolicy(kept);
 
-    auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(titleInset, 2, 0, Theme::unit);
-    grid->setHorizontalSpacing(Theme::spacing);
-    grid->setVerticalSpacing(6);
-    grid->setColumnStretch(0, 1);
-    grid->addWidget(m_updated, 0, 0, 1, 2);
-    grid->addWidget(m_count, 1, 0);
-    grid->addWidget(m_button, 1, 1);
-    grid->addWidget(m_progress, 2, 0);
-    grid->addWidget(m_restore, 2, 1);
-    return content;
+    auto *card = new QFrame;
+    card->setProperty("look", u"card"_s);
+    auto *inside = new QVBoxLayout(card);
+    inside->setContentsMargins(
+        Theme::cardMargin, Theme::cardMarginTop, Theme::cardMargin, Theme::cardMarginTop);
+    inside->setSpacing(Theme::unit);
+    inside->addWidget(m_count);
+    inside->addWidget(m_updated);
+    inside->addWidget(m_progress);
+    auto *buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->setSpacing(Theme::unit);
+    buttons->addWidget(m_button);
+    buttons->addWidget(m_restore);
+    buttons->addStretch();
+    inside->addLayout(buttons);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(card);
+    column->addStretch();
+    connect(&m_model, &VendorPaneModel::changed, this, &VendorPreferencesViewController::refresh);
+    refresh();
 }
 
-void VendorDataCard::fold(bool folded)
-{
-    m_content->setVisible(!folded);
-    m_title->setIcon(m_theme.icon(folded ? u"collapsed"_s : u"expand"_s, Theme::Ink::Muted));
-    m_title->setAccessibleDescription(folded ? localized("Folded") : localized("Unfolded"));
-}
-
-void VendorDataCard::refresh()
+void VendorPreferencesViewController::refresh()
 {
     const auto &state = m_model.state();
-    showLine(*m_updated, state.updatedLabel);
+    m_updated->say(state.updatedLabel, state.hasFailed ? InlineLine::Kind::Danger : InlineLine::Kind::Muted);
+    m_updated->setVisible(state.updatedLabelShown);
     showLine(*m_count, state.vendorCount);
     m_button->setText(plainLine(state.buttonTitle));
     m_button->setAccessibleName(state.buttonTitle);
@@ -136,7 +109,8 @@ void VendorDataCard::refresh()
     m_restore->setToolTip(plainToolTip(hint));
     m_restore->setAccessibleDescription(hint);
     m_progress->setVisible(state.progressShown);
-    // Below 0 while nobody knows how long the whole is: an empty bar.
+    // Below 0 while nobody knows how long the whole is.
+    m_progress->setRange(0, state.progress < 0 ? 0 : progressSteps);
     m_progress->setValue(static_cast<int>(std::clamp(state.progress, 0.0F, 1.0F) * progressSteps));
 }
 
