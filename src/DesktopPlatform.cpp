@@ -24,12 +24,13 @@ QString settingsPath(const QString &name)
     return folder + u"/Quillon/"_s + name;
 }
 
-/// What is installed with the program, or made with it in the build folder; "" when it is not there.
+/// What is installed with the program, or made with it in the build folder; "" when it is not
+/// there.
 QString besideProgram(const QString &name)
 {
     for (const char *const place : {"/../share/quillon4/", "/../data/"}) {
-        const QString path = QDir::cleanPath(
-            QCoreApplication::applicationDirPath() + QLatin1String(place) + name);
+        const QString path =
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String(place) + name);
         if (QFile::exists(path)) {
             return path;
         }

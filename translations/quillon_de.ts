@@ -716,14 +716,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Vorherige wiederherstellen</translation>
     </message>
     <message>
-        <source>Folded</source>
-        <translation>Eingeklappt</translation>
-    </message>
-    <message>
-        <source>Unfolded</source>
-        <translation>Ausgeklappt</translation>
-    </message>
-    <message>
         <source>Vendor</source>
         <translation>Hersteller</translation>
     </message>
@@ -1032,14 +1024,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Countdown fortgesetzt</translation>
     </message>
     <message>
-        <source>Cancel the download of vendors</source>
-        <translation>Herunterladen der Hersteller abbrechen</translation>
-    </message>
-    <message>
-        <source>Download the list of vendors</source>
-        <translation>Liste der Hersteller herunterladen</translation>
-    </message>
-    <message>
         <source>Applying…</source>
         <translation>Wird angewendet…</translation>
     </message>
@@ -1110,6 +1094,210 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>About</source>
         <translation>Über</translation>
+    </message>
+    <message>
+        <source>Starts Quillon when you log in</source>
+        <translation>Startet Quillon bei der Anmeldung</translation>
+    </message>
+    <message>
+        <source>Read the License</source>
+        <translation>Lizenz lesen</translation>
+    </message>
+    <message>
+        <source>The License on the Web</source>
+        <translation>Die Lizenz im Web</translation>
+    </message>
+    <message>
+        <source>Where Vendors Are Registered</source>
+        <translation>Wo Hersteller eingetragen sind</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or any later version. It comes without any warranty.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder jede spätere Version. Sie kommt ohne jede Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>No program here opens %@</source>
+        <translation>Kein Programm hier öffnet %@</translation>
+    </message>
+    <message>
+        <source>Helper: installed, version %@</source>
+        <translation>Hilfsprogramm: installiert, Version %@</translation>
+    </message>
+    <message>
+        <source>Helper: not installed</source>
+        <translation>Hilfsprogramm: nicht installiert</translation>
+    </message>
+    <message>
+        <source>Helper: outdated, version %@</source>
+        <translation>Hilfsprogramm: veraltet, Version %@</translation>
+    </message>
+    <message>
+        <source>No account yet: there is nowhere to sync with.</source>
+        <translation>Noch kein Konto: Es gibt nichts, womit abgeglichen werden könnte.</translation>
+    </message>
+    <message>
+        <source>Not while this desktop shows no status items.</source>
+        <translation>Nicht, solange diese Arbeitsumgebung keine Statussymbole zeigt.</translation>
+    </message>
+    <message>
+        <source>Only with the icon in the status bar.</source>
+        <translation>Nur mit dem Symbol in der Statusleiste.</translation>
+    </message>
+    <message>
+        <source>no program that is known</source>
+        <translation>kein bekanntes Programm</translation>
+    </message>
+    <message>
+        <source>This desktop does not start programs at login by itself.</source>
+        <translation>Diese Arbeitsumgebung startet von sich aus keine Programme bei der Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Whether this desktop starts programs at login cannot be told from here.</source>
+        <translation>Ob diese Arbeitsumgebung Programme bei der Anmeldung startet, lässt sich von hier aus nicht sagen.</translation>
+    </message>
+    <message>
+        <source>The program that starts Quillon at login is not installed.</source>
+        <translation>Das Programm, das Quillon bei der Anmeldung startet, ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The autostart entry could not be written.</source>
+        <translation>Der Autostart-Eintrag konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The autostart entry could not be removed.</source>
+        <translation>Der Autostart-Eintrag konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The desktop has Quillon switched off in its own list. Switch this off and on again to have it started.</source>
+        <translation>Die Arbeitsumgebung hat Quillon in ihrer eigenen Liste ausgeschaltet. Schalten Sie dies aus und wieder ein, damit es gestartet wird.</translation>
+    </message>
+    <message>
+        <source>There is an autostart entry of your own: it is left as it is.</source>
+        <translation>Es gibt einen eigenen Autostart-Eintrag von Ihnen: Er bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>Type a shortcut</source>
+        <translation>Tastenkürzel drücken</translation>
+    </message>
+    <message>
+        <source>Escape keeps the shortcut of before, Backspace clears it.</source>
+        <translation>Escape behält das bisherige Tastenkürzel, die Rücktaste löscht es.</translation>
+    </message>
+    <message>
+        <source>This key cannot be part of a shortcut.</source>
+        <translation>Diese Taste kann nicht zu einem Tastenkürzel gehören.</translation>
+    </message>
+    <message>
+        <source>Record Shortcut</source>
+        <translation>Tastenkürzel aufnehmen</translation>
+    </message>
+    <message>
+        <source>The desktop has the last word: its settings show the keys that act.</source>
+        <translation>Die Arbeitsumgebung hat das letzte Wort: Ihre Einstellungen zeigen die Tasten, die gelten.</translation>
+    </message>
+    <message>
+        <source>“%@” uses this shortcut.</source>
+        <translation>„%@“ verwendet dieses Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>By the Quillon authors</source>
+        <translation>Von den Autoren von Quillon</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installieren</translation>
+    </message>
+    <message>
+        <source>Uninstall</source>
+        <translation>Deinstallieren</translation>
+    </message>
+    <message>
+        <source>Ask when another program replaces an address</source>
+        <translation>Fragen, wenn ein anderes Programm eine Adresse ersetzt</translation>
+    </message>
+    <message>
+        <source>Who manages each interface</source>
+        <translation>Wer die Schnittstellen verwaltet</translation>
+    </message>
+    <message>
+        <source>Uninstalling…</source>
+        <translation>Wird deinstalliert…</translation>
+    </message>
+    <message>
+        <source>Repeat every %@ minutes by default</source>
+        <translation>Standardmäßig alle %@ Minuten wiederholen</translation>
+    </message>
+    <message>
+        <source>For rules whose own minutes are left empty</source>
+        <translation>Für Regeln, deren eigene Minuten leer sind</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>Small letters</source>
+        <translation>Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>Letters of addresses</source>
+        <translation>Buchstaben in Adressen</translation>
+    </message>
+    <message>
+        <source>Look up the external address</source>
+        <translation>Externe Adresse nachschlagen</translation>
+    </message>
+    <message>
+        <source>Asks a public service whenever the network changes.</source>
+        <translation>Fragt bei jedem Netzwerkwechsel einen öffentlichen Dienst.</translation>
+    </message>
+    <message>
+        <source>Start Quillon at login</source>
+        <translation>Quillon bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Do not open the window at login</source>
+        <translation>Das Fenster bei der Anmeldung nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Show in the status bar</source>
+        <translation>In der Statusleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide from the task bar</source>
+        <translation>In der Taskleiste ausblenden</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Benachrichtigungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Shortcuts that work in every window</source>
+        <translation>Tastenkürzel, die in jedem Fenster gelten</translation>
+    </message>
+    <message>
+        <source>Sync settings, rules and history</source>
+        <translation>Einstellungen, Regeln und Verlauf abgleichen</translation>
+    </message>
+    <message>
+        <source>Shortcut for “%@”</source>
+        <translation>Tastenkürzel für „%@“</translation>
+    </message>
+    <message>
+        <source>Clear the shortcut for “%@”</source>
+        <translation>Tastenkürzel für „%@“ löschen</translation>
+    </message>
+    <message>
+        <source>Open the preferences where the list of vendors is downloaded</source>
+        <translation>Die Einstellungen öffnen, in denen die Liste der Hersteller geladen wird</translation>
     </message>
 </context>
 </TS>

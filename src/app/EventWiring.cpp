@@ -344,8 +344,8 @@ void EventWiring::observeBroadcasts()
     });
     m_observations.onBroadcast(notifications::changePrefsTab,
         [&f](const auto &posted) { f.preferencesWindow.changePrefsTab(posted.userInfo); });
-    m_observations.onBroadcast(notifications::icloudUpdated,
-        [&f](const auto &) { f.preferences.general.refreshView(); });
+    m_observations.onBroadcast(
+        notifications::icloudUpdated, [&f](const auto &) { f.preferences.general.refreshView(); });
     m_observations.onBroadcast(notifications::closeVendorViewPopover,
         [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
     m_observations.onBroadcast(notifications::toggleCheckbox,

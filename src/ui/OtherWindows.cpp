@@ -56,12 +56,10 @@ void OtherWindows::openPreferences()
 void OtherWindows::addPanes()
 {
     PreferencesWindow &window = *m_preferences;
-    window.addPane(
-        PreferencesPane::General, new GeneralPreferencesView(m_models.general, m_theme));
+    window.addPane(PreferencesPane::General, new GeneralPreferencesView(m_models.general, m_theme));
     window.addPane(
         PreferencesPane::Advanced, new AdvancedPreferencesView(m_models.advanced, m_theme));
-    window.addPane(
-        PreferencesPane::Display, new DisplayPreferencesView(m_models.display, m_theme));
+    window.addPane(PreferencesPane::Display, new DisplayPreferencesView(m_models.display, m_theme));
     window.addPane(PreferencesPane::VendorData,
         new VendorPreferencesViewController(m_models.vendorData, m_theme));
     window.addPane(PreferencesPane::About, new AboutPreferencesView(m_models.about, m_theme));

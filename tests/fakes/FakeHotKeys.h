@@ -44,9 +44,8 @@ public:
 
     void findWay(std::function<void(HotKeyWay)> reply) override
     {
-        m_scheduler.onMain([this, reply = std::move(reply)] {
-            reply(isOffered ? way : HotKeyWay::NotOffered);
-        });
+        m_scheduler.onMain(
+            [this, reply = std::move(reply)] { reply(isOffered ? way : HotKeyWay::NotOffered); });
     }
 
     /// The user presses the keys.
@@ -62,8 +61,8 @@ public:
 
     bool isOffered = true;
     HotKeyWay way = HotKeyWay::Grabs; ///< of a desktop that offers them
-    QSet<QString> takenByOthers; ///< as texts
-    QMap<QString, HotKey> bound; ///< by identifier
+    QSet<QString> takenByOthers;      ///< as texts
+    QMap<QString, HotKey> bound;      ///< by identifier
 
 private:
     HotKeyResult resultFor(const KeyCombination &keys) const

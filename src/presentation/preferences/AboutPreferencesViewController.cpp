@@ -46,9 +46,8 @@ void AboutPreferencesViewController::openLink(qsizetype index)
     }
     const QUrl &url = m_links.at(index).url;
     const QString failure =
-        m_opener.open(url)
-            ? QString()
-            : filled(localized("No program here opens %@"), {url.toDisplayString()});
+        m_opener.open(url) ? QString()
+                           : filled(localized("No program here opens %@"), {url.toDisplayString()});
     m_state.update([&failure](State &state) { state.failure = failure; });
 }
 

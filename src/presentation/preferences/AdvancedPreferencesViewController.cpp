@@ -16,8 +16,7 @@ namespace {
 
 QString installedText()
 {
-    return filled(
-        localized("Helper: installed, version %@"), {XPCMethods::helperToolVersion()});
+    return filled(localized("Helper: installed, version %@"), {XPCMethods::helperToolVersion()});
 }
 
 /// `version` is the helper's answer, or the text of an error.

@@ -21,6 +21,7 @@ void BoundSetting::set(bool isOn)
 {
     if (isUsable() && isOn != m_state->isOn) {
         m_settings.setBool(m_key, isOn);
+        m_settings.synchronize();
     }
 }
 

@@ -35,6 +35,7 @@ void DefaultMinutes::finish()
     const bool isTyped = TimerFormatter().isPartialStringValid(m_state->text);
     if (isTyped && minutes > 0 && minutes != m_settings.getInteger(keys::defaultTimerMinutes)) {
         m_settings.set(keys::defaultTimerMinutes, minutes);
+        m_settings.synchronize();
     }
     showStored();
 }

@@ -9,8 +9,8 @@
 
 namespace quillon {
 
-/// The field for the minutes that a rule gets whose own are left empty: what may be typed in it, and
-/// when that is stored. Main thread.
+/// The field for the minutes that a rule gets whose own are left empty: what may be typed in it,
+/// and when that is stored. Main thread.
 class DefaultMinutes : public QObject
 {
     Q_OBJECT

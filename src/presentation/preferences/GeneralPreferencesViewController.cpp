@@ -24,15 +24,15 @@ GeneralPreferencesViewController::GeneralPreferencesViewController(
     , showButton(collaborators.settings, keys::showKeyEnabled)
     , randButton(collaborators.settings, keys::randomKeyEnabled)
     , iCloudSync(collaborators.settings, keys::iCloudSync)
-    , showRecorder(
-          ShortcutRecorder::For::ShowWindow, collaborators.settings, collaborators.hotKeys)
+    , showRecorder(ShortcutRecorder::For::ShowWindow, collaborators.settings, collaborators.hotKeys)
     , randRecorder(
           ShortcutRecorder::For::RandomAddress, collaborators.settings, collaborators.hotKeys)
     , m_deps(collaborators)
 {
     connect(&m_deps.login, &StartAtLoginController::changed, this,
         &GeneralPreferencesViewController::showLogin);
-    connect(&loginStart, &BoundSetting::changed, this, &GeneralPreferencesViewController::showLogin);
+    connect(
+        &loginStart, &BoundSetting::changed, this, &GeneralPreferencesViewController::showLogin);
     connect(&showInMenu, &BoundSetting::changed, this, &GeneralPreferencesViewController::showDock);
     connect(&m_deps.presence, &Presence::reachChanged, this,
         &GeneralPreferencesViewController::showDock);
@@ -98,8 +98,8 @@ void GeneralPreferencesViewController::synciCloud(bool isOn)
 
 void GeneralPreferencesViewController::showLogin()
 {
-    const PreferencesLine line = loginLine(!m_deps.login.hasProgram(), loginStart.state().isOn,
-        m_deps.loginItem.entry(), m_desktop);
+    const PreferencesLine line = loginLine(
+        !m_deps.login.hasProgram(), loginStart.state().isOn, m_deps.loginItem.entry(), m_desktop);
     m_state.update([&line](State &state) { state.login = line; });
 }
 

@@ -47,7 +47,8 @@ public:
 
     /// The pane is made.
     void load();
-    /// The pane appears, or its window got the keyboard again: what is told nobody may have changed.
+    /// The pane appears, or its window got the keyboard again: what is told nobody may have
+    /// changed.
     void look();
     /// "helperStatusChanged".
     void refreshKeyButtons();

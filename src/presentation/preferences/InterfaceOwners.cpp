@@ -66,8 +66,8 @@ void InterfaceOwners::askNext(int round)
     }
     const QString device = m_waiting.takeFirst();
     // One question at a time, each in a turn of its own: hundreds of interfaces block nothing.
-    m_owners.find(device,
-        [self = QPointer(this), round, device](const std::unique_ptr<AddressOwner> &owner) {
+    m_owners.find(
+        device, [self = QPointer(this), round, device](const std::unique_ptr<AddressOwner> &owner) {
             if (self) {
                 self->take(round, device, owner ? owner->name() : QString());
             }

@@ -17,7 +17,8 @@ PreferencesLine ofWantedStart(LoginItem::Desktop desktop)
     case LoginItem::Desktop::StartsPrograms:
         break;
     case LoginItem::Desktop::Ignores:
-        return {Kind::Notice, localized("This desktop does not start programs at login by itself.")};
+        return {
+            Kind::Notice, localized("This desktop does not start programs at login by itself.")};
     case LoginItem::Desktop::Unknown:
         return {Kind::Hint,
             localized("Whether this desktop starts programs at login cannot be told from here.")};

@@ -128,9 +128,8 @@ GlobalHotKeys::State ShortcutRecorder::hotKeyState() const
 PreferencesLine ShortcutRecorder::line() const
 {
     using Kind = PreferencesLine::Kind;
-    const GlobalHotKeys::State state = m_hotKeys.way() == HotKeyWay::NotOffered
-                                           ? GlobalHotKeys::State::NotOffered
-                                           : hotKeyState();
+    const GlobalHotKeys::State state =
+        m_hotKeys.way() == HotKeyWay::NotOffered ? GlobalHotKeys::State::NotOffered : hotKeyState();
     const QString problem = GlobalHotKeys::problemOf(state);
     if (!problem.isEmpty()) {
         return {Kind::Notice, problem};
@@ -153,21 +152,22 @@ void ShortcutRecorder::refuse(const QString &why)
 void ShortcutRecorder::record(const KeyCombination &combination)
 {
     const For other = otherThan(m_use);
-    const auto taken =
-        KeyCombination::fromText(m_settings.getString(settingOf(other).combination));
+    const auto taken = KeyCombination::fromText(m_settings.getString(settingOf(other).combination));
     if (taken == combination) {
         refuse(filled(localized("\u201C%@\u201D uses this shortcut."), {titleOf(other)}));
         return;
     }
     store(combination.toText());
     m_settings.setBool(settingOf(m_use).enabled, true);
+    m_settings.synchronize();
     end();
 }
 
 void ShortcutRecorder::store(const QString &combination)
 {
-    m_settings.set(settingOf(m_use).combination,
-        combination.isEmpty() ? QVariant() : QVariant(combination));
+    m_settings.set(
+        settingOf(m_use).combination, combination.isEmpty() ? QVariant() : QVariant(combination));
+    m_settings.synchronize();
     // Also where it is the one of before: another program may have given it up.
     if (m_use == For::ShowWindow) {
         m_hotKeys.updateShowKey();

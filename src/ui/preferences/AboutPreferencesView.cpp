@@ -44,10 +44,11 @@ AboutPreferencesView::AboutPreferencesView(
         button->setAccessibleName(link.title);
         button->setToolTip(plainToolTip(link.url.toDisplayString()));
         button->setAutoDefault(true);
-        connect(button, &QPushButton::clicked, this,
-            [this, index] { m_controller.openLink(index); });
+        connect(
+            button, &QPushButton::clicked, this, [this, index] { m_controller.openLink(index); });
         links->addWidget(button, 0, Qt::AlignLeading);
     }
+    m_failure->setObjectName(u"aboutFailure"_s);
     links->addWidget(m_failure);
     connect(&m_controller, &AboutPreferencesViewController::changed, this,
         &AboutPreferencesView::refresh);

@@ -57,8 +57,8 @@ AdvancedPreferencesView::AdvancedPreferencesView(const Models &models, const The
 
     connect(&m_models.helper, &AdvancedPreferencesViewController::changed, this,
         &AdvancedPreferencesView::refreshHelper);
-    connect(&m_models.owners, &InterfaceOwners::changed, this,
-        &AdvancedPreferencesView::refreshOwners);
+    connect(
+        &m_models.owners, &InterfaceOwners::changed, this, &AdvancedPreferencesView::refreshOwners);
     m_models.helper.load();
     refreshHelper();
     refreshOwners();
@@ -112,8 +112,8 @@ void AdvancedPreferencesView::addMinutes(QVBoxLayout &card)
         m_models.defaultMinutes.finish();
         refreshMinutes();
     });
-    connect(
-        &m_models.defaultMinutes, &DefaultMinutes::changed, this, &AdvancedPreferencesView::refreshMinutes);
+    connect(&m_models.defaultMinutes, &DefaultMinutes::changed, this,
+        &AdvancedPreferencesView::refreshMinutes);
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Theme::unit);
@@ -165,7 +165,7 @@ void AdvancedPreferencesView::refreshMinutes()
     if (text != m_minutes->text()) {
         // Behind what was typed the cursor stays where it was.
         const int place = m_minutes->cursorPosition();
-        m_minutes->setText(text);
+        m_minutes->setText(plainLine(text));
         m_minutes->setCursorPosition(std::min<int>(place, static_cast<int>(text.size())));
     }
 }
@@ -183,10 +183,10 @@ void AdvancedPreferencesView::refreshOwners()
         }
         const auto &row = rows.at(index);
         const QString owner = row.owner.isEmpty() ? u"\u2026"_s : row.owner;
-        const QString text = plainLine(row.device + u" \u00b7 "_s + owner);
+        const QString text = row.device + u" \u00b7 "_s + owner;
         QListWidgetItem *item = m_owners->item(index);
-        if (item->text() != text) {
-            item->setText(text);
+        if (item->text() != plainLine(text)) {
+            item->setText(plainLine(text));
             item->setToolTip(plainToolTip(text));
         }
     }

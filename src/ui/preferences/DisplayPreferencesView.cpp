@@ -8,6 +8,7 @@
 #include "ui/preferences/SettingCheckBox.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/InlineLine.h"
+#include "ui/widgets/PlainText.h"
 
 #include <QHBoxLayout>
 #include <QRadioButton>
@@ -40,8 +41,8 @@ DisplayPreferencesView::DisplayPreferencesView(
     addUnderCheckBox(*external, line);
     connect(m_small, &QRadioButton::toggled, this,
         [this](bool isOn) { m_controller.lowerCaseHEX.set(isOn); });
-    connect(&m_controller.lowerCaseHEX, &BoundSetting::changed, this,
-        &DisplayPreferencesView::refresh);
+    connect(
+        &m_controller.lowerCaseHEX, &BoundSetting::changed, this, &DisplayPreferencesView::refresh);
     refresh();
 }
 
@@ -52,7 +53,7 @@ QRadioButton *DisplayPreferencesView::makeChoice(
     choice->setObjectName(name);
     choice->setFont(Theme::font(Theme::Type::Address));
     choice->setAccessibleName(filled(u"%@, %@"_s, {title, example}));
-    choice->setToolTip(title);
+    choice->setToolTip(plainToolTip(title));
     return choice;
 }
 

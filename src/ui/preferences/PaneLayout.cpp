@@ -38,10 +38,14 @@ InlineLine::Kind kindOf(PreferencesLine::Kind kind)
 
 QVBoxLayout *makePaneColumn(QWidget &pane)
 {
-    auto *column = new QVBoxLayout(&pane);
+    auto *whole = new QVBoxLayout(&pane);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    auto *column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::spacing);
-    column->setAlignment(Qt::AlignTop);
+    whole->addLayout(column);
+    whole->addStretch(1);
     return column;
 }
 

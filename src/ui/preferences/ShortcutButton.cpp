@@ -33,13 +33,20 @@ ShortcutButton::~ShortcutButton()
 QSize ShortcutButton::sizeHint() const
 {
     const QSize size = QPushButton::sizeHint();
-    int widest = 0;
+    const int now = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    int widest = now;
     for (const QString &each :
         {localized("Record Shortcut"), localized("Type a shortcut"), u"Ctrl+Alt+Shift+Meta+W"_s}) {
         widest = std::max(widest, fontMetrics().horizontalAdvance(each));
     }
-    const int beside = size.width() - fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    return {beside + widest, size.height()};
+    return {size.width() - now + widest, size.height()};
+}
+
+/// What is stored may be anything.
+int ShortcutButton::widestText() const
+{
+    constexpr int characters = 36;
+    return characters * fontMetrics().averageCharWidth();
 }
 
 bool ShortcutButton::event(QEvent *event)
@@ -109,7 +116,8 @@ void ShortcutButton::refresh()
 {
     const auto &state = m_recorder.state();
     const QString shown = plainLine(state.text);
-    setText(QString(shown).replace(u'&', "&&"_L1));
+    const QString fitting = fontMetrics().elidedText(shown, Qt::ElideRight, widestText());
+    setText(plainLine(fitting).replace(u'&', "&&"_L1));
     setEnabled(state.isUsable);
     setProperty("open", state.isRecording);
     const QString name = filled(localized("Shortcut for \u201C%@\u201D"), {m_recorder.title()});

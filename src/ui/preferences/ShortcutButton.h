@@ -18,7 +18,7 @@ public:
     explicit ShortcutButton(ShortcutRecorder &recorder);
     ~ShortcutButton() override;
 
-    /// As wide for each of its texts.
+    /// As wide for each of its texts, and wide enough for most combinations.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -30,6 +30,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    int widestText() const;
     void refresh();
     void toggle();
 

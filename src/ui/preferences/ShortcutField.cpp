@@ -67,8 +67,6 @@ void ShortcutField::refresh()
     const auto &state = m_recorder.state();
     m_clear->setVisible(!state.isEmpty);
     sayLine(*m_line, state.line);
-    // It has something to say while one is recorded: its room stays.
-    m_line->setVisible(true);
 }
 
 } // namespace quillon

@@ -96,9 +96,11 @@ VendorPreferencesViewController::VendorPreferencesViewController(
 void VendorPreferencesViewController::refresh()
 {
     const auto &state = m_model.state();
-    m_updated->say(state.updatedLabel, state.hasFailed ? InlineLine::Kind::Danger : InlineLine::Kind::Muted);
+    m_updated->say(plainLine(state.updatedLabel),
+        state.hasFailed ? InlineLine::Kind::Danger : InlineLine::Kind::Muted);
     m_updated->setVisible(state.updatedLabelShown);
-    showLine(*m_count, state.vendorCount);
+    m_count->setText(plainLine(state.vendorCount));
+    m_count->setAccessibleName(m_count->text());
     m_button->setText(plainLine(state.buttonTitle));
     m_button->setAccessibleName(state.buttonTitle);
     m_button->setEnabled(state.action != VendorPaneModel::Action::None);

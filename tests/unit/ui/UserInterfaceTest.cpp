@@ -190,15 +190,19 @@ TEST_F(UserInterfaceTest, WithoutAnInterfaceThereIsASentenceAndNoDeadControl)
     EXPECT_FALSE(part<QWidget>(u"hardwareButton"_s)->isVisible());
 }
 
-TEST_F(UserInterfaceTest, AMissingListOfVendorsIsDownloadedFromTheWindow)
+TEST_F(UserInterfaceTest, AMissingListOfVendorsLeadsToItsPane)
 {
     auto *missing = part<QWidget>(u"missingVendors"_s);
     ASSERT_TRUE(missing->isVisible()) << "there is no database here";
-    auto *download = part<QPushButton>(u"missingVendorsButton"_s);
-    EXPECT_EQ(download->accessibleName(), u"Download the list of vendors"_s);
+    part<QPushButton>(u"missingVendorsButton"_s)->click();
+    QCoreApplication::processEvents();
+    QWidget *const preferences = QApplication::activeWindow();
+    ASSERT_NE(preferences, nullptr);
+    EXPECT_EQ(preferences->windowTitle(), u"Vendor Data"_s);
+    auto *download = preferences->findChild<QPushButton *>(u"downloadButton"_s);
+    ASSERT_TRUE(download->isVisible());
     download->click();
     EXPECT_TRUE(features().vendors.pane.state().isUpdating);
-    EXPECT_EQ(download->accessibleName(), u"Cancel the download of vendors"_s);
     features().vendors.pane.showCount(3);
     EXPECT_TRUE(missing->isHidden());
 }

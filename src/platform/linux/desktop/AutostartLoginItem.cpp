@@ -165,8 +165,7 @@ LoginItem::Entry AutostartLoginItem::entryAt(const QString &path) const
 
 bool AutostartLoginItem::startsProgram(const QString &program) const
 {
-    return program == m_program ||
-           QFileInfo(program).fileName() == QFileInfo(m_program).fileName();
+    return program == m_program || QFileInfo(program).fileName() == QFileInfo(m_program).fileName();
 }
 
 bool AutostartLoginItem::write(const QString &path) const

@@ -17,8 +17,8 @@ class AutostartLoginItem : public QObject, public LoginItem
     Q_OBJECT
 
 public:
-    /// `configFolder` is the user's; `program` the path of the login item, be it there or not; `bus`
-    /// the session's.
+    /// `configFolder` is the user's; `program` the path of the login item, be it there or not;
+    /// `bus` the session's.
     AutostartLoginItem(QString configFolder, QString program,
         const QDBusConnection &bus = QDBusConnection::sessionBus());
 

@@ -42,8 +42,8 @@ private:
     bool m_isAsking = false;
     HotKeyWay m_chosen = HotKeyWay::Unknown;
     QList<std::function<void(HotKeyWay)>> m_curious; ///< who is to be told of it
-    QMap<QString, Wish> m_waiting;  ///< by identifier, what is still to be bound
-    std::unique_ptr<HotKeyBinder> m_way; ///< none: not offered
+    QMap<QString, Wish> m_waiting;                   ///< by identifier, what is still to be bound
+    std::unique_ptr<HotKeyBinder> m_way;             ///< none: not offered
 };
 
 } // namespace quillon

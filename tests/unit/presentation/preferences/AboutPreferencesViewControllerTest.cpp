@@ -6,7 +6,6 @@
 #include "fakes/QtPrinting.h"
 
 #include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -18,8 +17,8 @@ class AboutPreferencesViewControllerTest : public ::testing::Test
 {
 protected:
     FakeLinkOpener desktop;
-    AboutPreferencesViewController pane{desktop, u"/usr/share/quillon4/LICENSE"_s,
-        QUrl(u"https://registry.example/oui/oui.csv"_s)};
+    AboutPreferencesViewController pane{
+        desktop, u"/usr/share/quillon4/LICENSE"_s, QUrl(u"https://registry.example/oui/oui.csv"_s)};
 };
 
 TEST_F(AboutPreferencesViewControllerTest, SaysVersionAndLicense)
@@ -38,10 +37,9 @@ TEST_F(AboutPreferencesViewControllerTest, EveryLinkOpens)
     for (qsizetype index = 0; index < pane.links().size(); ++index) {
         pane.openLink(index);
     }
-    EXPECT_EQ(desktop.opened,
-        (QList<QUrl>{QUrl(u"file:///usr/share/quillon4/LICENSE"_s),
-            QUrl(u"https://www.gnu.org/licenses/gpl-3.0.html"_s),
-            QUrl(u"https://registry.example/"_s)}));
+    EXPECT_EQ(desktop.opened, (QList<QUrl>{QUrl(u"file:///usr/share/quillon4/LICENSE"_s),
+                                  QUrl(u"https://www.gnu.org/licenses/gpl-3.0.html"_s),
+                                  QUrl(u"https://registry.example/"_s)}));
     EXPECT_EQ(pane.state().failure, QString());
 }
 

@@ -34,7 +34,8 @@ protected:
     FakePlatform machine;
     XPCMethods helper{machine.helper, machine.scheduler, machine.notifications};
     Presence presence{machine.settings};
-    AdvancedPreferencesViewController pane{helper, presence, machine.groupSettings, machine.scheduler};
+    AdvancedPreferencesViewController pane{
+        helper, presence, machine.groupSettings, machine.scheduler};
     int fronts = 0;
 };
 
@@ -69,7 +70,8 @@ TEST_F(AdvancedPreferencesViewControllerTest, OnLoadWithTheRightHelperInstallSta
     EXPECT_FALSE(pane.state().installEnabled);
 }
 
-TEST_F(AdvancedPreferencesViewControllerTest, InstallReadsTheStatusAgainAndBringsTheWindowsToTheFront)
+TEST_F(
+    AdvancedPreferencesViewControllerTest, InstallReadsTheStatusAgainAndBringsTheWindowsToTheFront)
 {
     pane.installHelper();
     machine.scheduler.runPending();
@@ -86,8 +88,8 @@ TEST_F(AdvancedPreferencesViewControllerTest, AFailedInstallOnlyBringsTheWindows
     EXPECT_EQ(fronts, 1);
 }
 
-TEST_F(
-    AdvancedPreferencesViewControllerTest, UninstallThroughAConnectionThatDropsSucceedsAndPurgesTheGroupKeys)
+TEST_F(AdvancedPreferencesViewControllerTest,
+    UninstallThroughAConnectionThatDropsSucceedsAndPurgesTheGroupKeys)
 {
     machine.helper.mood = FakeHelper::Mood::Dropping;
     machine.groupSettings.clearJournal();

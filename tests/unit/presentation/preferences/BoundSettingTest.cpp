@@ -40,6 +40,7 @@ TEST_F(BoundSettingTest, TheUsersChoiceIsStored)
 {
     setting.set(true);
     EXPECT_EQ(settings.get(keys::driftAlarm), QVariant(true));
+    EXPECT_EQ(settings.journal().last(), u"synchronize"_s) << "else nothing writes it";
     EXPECT_TRUE(setting.state().isOn);
     setting.set(false);
     EXPECT_EQ(settings.get(keys::driftAlarm), QVariant(false));

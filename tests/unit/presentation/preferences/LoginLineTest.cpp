@@ -20,8 +20,7 @@ constexpr bool on = true;
 
 TEST(LoginLineTest, WhereAllIsAsItShouldBeNothingIsSaid)
 {
-    EXPECT_EQ(
-        loginLine(!missing, on, Entry::Ours, Desktop::StartsPrograms).text, QString());
+    EXPECT_EQ(loginLine(!missing, on, Entry::Ours, Desktop::StartsPrograms).text, QString());
     for (const Desktop desktop : {Desktop::StartsPrograms, Desktop::Ignores, Desktop::Unknown}) {
         EXPECT_EQ(loginLine(!missing, !on, Entry::None, desktop).text, QString());
         EXPECT_EQ(loginLine(!missing, !on, Entry::SwitchedOff, desktop).text, QString());

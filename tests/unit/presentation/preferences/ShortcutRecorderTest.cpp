@@ -91,8 +91,7 @@ TEST_F(ShortcutRecorderTest, AKeyThatEverybodyTypesIsRefusedAndTheNextIsWaitedFo
     show.press({.shift = true, .key = u"M"_s});
     EXPECT_TRUE(show.state().isRecording);
     EXPECT_EQ(show.state().line,
-        (PreferencesLine{
-            Kind::Notice, u"A shortcut needs Ctrl, Alt or Meta and one more key."_s}));
+        (PreferencesLine{Kind::Notice, u"A shortcut needs Ctrl, Alt or Meta and one more key."_s}));
     EXPECT_FALSE(settings.get(keys::showKeyCombo).isValid());
     press(u"Ctrl+M"_s);
     EXPECT_EQ(settings.getString(keys::showKeyCombo), u"Ctrl+M"_s);
@@ -240,9 +239,9 @@ TEST_F(ShortcutRecorderTest, WithoutHotKeysNothingIsRecordedAndItSaysWhy)
     desktop.isOffered = false;
     findWay();
     EXPECT_FALSE(show.state().isUsable);
-    EXPECT_EQ(show.state().line,
-        (PreferencesLine{Kind::Notice,
-            u"This desktop does not let programs set global shortcuts."_s}));
+    EXPECT_EQ(
+        show.state().line, (PreferencesLine{Kind::Notice,
+                               u"This desktop does not let programs set global shortcuts."_s}));
     record(u"Ctrl+Alt+Q"_s);
     EXPECT_FALSE(show.state().isRecording);
     EXPECT_FALSE(settings.get(keys::showKeyCombo).isValid());

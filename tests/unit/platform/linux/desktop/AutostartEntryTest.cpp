@@ -52,8 +52,7 @@ TEST(AutostartEntryTest, EitherKeySwitchesItOff)
     EXPECT_TRUE(AutostartEntry::read(entry + "X-GNOME-Autostart-enabled=false\n").isSwitchedOff);
     EXPECT_FALSE(AutostartEntry::read(entry + "X-GNOME-Autostart-enabled=true\n").isSwitchedOff);
     EXPECT_FALSE(AutostartEntry::read(entry + "#Hidden=true\n").isSwitchedOff);
-    EXPECT_FALSE(
-        AutostartEntry::read(entry + "[Desktop Action x]\nHidden=true\n").isSwitchedOff);
+    EXPECT_FALSE(AutostartEntry::read(entry + "[Desktop Action x]\nHidden=true\n").isSwitchedOff);
 }
 
 TEST(AutostartEntryTest, ACommandWithArgumentsIsNoProgram)

@@ -7,8 +7,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -86,8 +86,8 @@ TEST_F(AutostartLoginItemTest, SwitchedOnTheEntryIsThereAndSwitchedOffItIsGone)
 
 TEST_F(AutostartLoginItemTest, WhatTheDesktopSwitchedOffStaysSoUntilItIsTakenOut)
 {
-    for (const QByteArray &off : {QByteArray("Hidden=true\n"),
-             QByteArray("X-GNOME-Autostart-enabled=false\n")}) {
+    for (const QByteArray &off :
+        {QByteArray("Hidden=true\n"), QByteArray("X-GNOME-Autostart-enabled=false\n")}) {
         ASSERT_TRUE(enable(true));
         const QByteArray switchedOff =
             content().replace("X-GNOME-Autostart-enabled=true\n", QByteArray()) + off;
