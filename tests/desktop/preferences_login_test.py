@@ -34,7 +34,7 @@ def read_entry():
         return file.read()
 
 
-class LoginTest(PreferencesTest):
+class LoginFixture(PreferencesTest):
     def setUp(self):
         forget_everything()
         if os.path.exists(ENTRY):
@@ -46,6 +46,8 @@ class LoginTest(PreferencesTest):
         wait_until(lambda: os.path.exists(ENTRY), "there is no entry")
         wait_for_stored("loginStart", True)
 
+
+class LoginTest(LoginFixture):
     def test_the_entry_comes_and_goes(self):
         self.switch_on()
         entry = Gio.DesktopAppInfo.new_from_filename(ENTRY)
@@ -122,13 +124,13 @@ class LoginTest(PreferencesTest):
         self.expect_label("Whether this desktop starts programs at login cannot be told from here.")
 
 
-class IgnoringDesktopTest(LoginTest):
+class IgnoringDesktopTest(LoginFixture):
     """A plain window manager, as it names itself."""
 
     def start_program(self):
         return start(XDG_CURRENT_DESKTOP="sway")
 
-    def test_it_says_that_nobody_knows_of_this_desktop(self):
+    def test_it_says_that_nothing_is_started(self):
         self.switch_on()
         self.expect_label("This desktop does not start programs at login by itself.")
 

@@ -26,7 +26,10 @@ class RecorderTest(PreferencesTest):
         xdotool("key", keys)
         self.recorder(title, shortcut)
 
-    def close_main_window(self):
+    def close_windows(self):
+        """The preferences lie over the other one."""
+        xdotool("key", "ctrl+w")
+        wait_until(lambda: not accessibility.has_window(NAME, "General"), "the preferences stayed")
         self.field.click()
         wait_until(lambda: self.field.focused, "the window did not get the keyboard")
         xdotool("key", "ctrl+w")
@@ -37,7 +40,7 @@ class RecorderTest(PreferencesTest):
         wait_for_stored("showKeyCombo", "Ctrl+Alt+Q")
         wait_for_stored("showKeyEnabled", True)
         self.expect_checked("Show window", True)
-        self.close_main_window()
+        self.close_windows()
 
         def pressed():
             xdotool("key", "ctrl+alt+q")

@@ -47,7 +47,7 @@ GeneralPreferencesView::GeneralPreferencesView(
     auto *cloud = new SettingCheckBox(
         c.iCloudSync, u"iCloudSync"_s, localized("Sync settings, rules and history"));
     // Switched on, the account gets the settings of this machine.
-    connect(cloud, &QCheckBox::clicked, this, [&c](bool isOn) { c.synciCloud(isOn); });
+    connect(cloud, &SettingCheckBox::switched, this, [&c](bool isOn) { c.synciCloud(isOn); });
     sync->addWidget(cloud);
     addUnderCheckBox(*sync, m_cloud);
 

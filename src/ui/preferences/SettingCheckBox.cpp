@@ -15,10 +15,8 @@ SettingCheckBox::SettingCheckBox(BoundSetting &setting, const QString &name, con
 {
     setObjectName(name);
     setAccessibleName(title);
-    connect(this, &QCheckBox::clicked, this, [this](bool isOn) {
-        m_setting.set(isOn);
-        refresh();
-    });
+    // Not clicked(): assistive technology toggles it.
+    connect(this, &QCheckBox::toggled, this, &SettingCheckBox::take);
     connect(&m_setting, &BoundSetting::changed, this, &SettingCheckBox::refresh);
     refresh();
 }
@@ -29,6 +27,15 @@ void SettingCheckBox::keyPressEvent(QKeyEvent *event)
         click();
     } else {
         QCheckBox::keyPressEvent(event);
+    }
+}
+
+void SettingCheckBox::take(bool isOn)
+{
+    if (isOn != m_setting.state().isOn) {
+        m_setting.set(isOn);
+        refresh();
+        Q_EMIT switched(isOn);
     }
 }
 

@@ -17,11 +17,16 @@ public:
     /// `name` finds it in tests; `title` is in the user's language.
     SettingCheckBox(BoundSetting &setting, const QString &name, const QString &title);
 
+Q_SIGNALS:
+    /// By the user; the setting is so already.
+    void switched(bool isOn);
+
 protected:
     /// Return switches it as Space does.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void take(bool isOn);
     void refresh();
 
     BoundSetting &m_setting;

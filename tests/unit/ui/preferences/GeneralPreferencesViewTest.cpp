@@ -5,6 +5,8 @@
 #include "ui/widgets/InlineLine.h"
 #include "unit/ui/preferences/PanesFixture.h"
 
+#include <QAccessible>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -51,6 +53,15 @@ TEST_F(GeneralPreferencesViewTest, EveryBoxIsItsSettingInBothDirections)
         EXPECT_EQ(box(name).isChecked(), !before) << name;
         machine.settings.set(key, before);
     }
+}
+
+TEST_F(GeneralPreferencesViewTest, AssistiveTechnologySwitchesItAsWell)
+{
+    QAccessibleInterface *found = QAccessible::queryAccessibleInterface(&box("hideOnLaunch"));
+    ASSERT_NE(found->actionInterface(), nullptr);
+    found->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(box("hideOnLaunch").isChecked());
+    EXPECT_TRUE(machine.settings.getBool(keys::hideOnLaunch));
 }
 
 TEST_F(GeneralPreferencesViewTest, TheSwitchesOfTheShortcutsAreTheirs)
