@@ -4,7 +4,7 @@
 import os
 import plistlib
 
-from program import NAME, ProgramTest, accessibility, wait_until, xdotool
+from program import NAME, ProgramTest, accessibility, forget_everything, wait_until
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 
@@ -36,6 +36,7 @@ class PreferencesTest(ProgramTest):
     PANE = "General"
 
     def setUp(self):
+        forget_everything()
         super().setUp()
         self.open_preferences()
 
@@ -67,9 +68,3 @@ class PreferencesTest(ProgramTest):
 
     def expect_no_label(self, text):
         wait_until(lambda: not self.has_label(text), f"still says “{text}”")
-
-    def focus_preferences(self):
-        """With the keyboard, as after a click into it."""
-        wait_until(lambda: any(control.focused for control in self.preferences.everything_below()) or
-                   xdotool("search", "--name", "^" + self.PANE + "$", "windowactivate") or False,
-                   "the preferences did not get the keyboard")

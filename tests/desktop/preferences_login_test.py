@@ -6,7 +6,7 @@ import unittest
 
 from gi.repository import Gio, GLib
 from preferences import PreferencesTest, wait_for_stored, write_settings
-from program import DEADLINE, NAME, TITLE, accessibility, forget_everything, start, wait_until
+from program import DEADLINE, NAME, TITLE, accessibility, start, wait_until
 
 FOLDER = os.path.expanduser("~/.config/autostart")
 ENTRY = os.path.join(FOLDER, "com.orvandel.Quillon4Helper.desktop")
@@ -36,7 +36,6 @@ def read_entry():
 
 class LoginFixture(PreferencesTest):
     def setUp(self):
-        forget_everything()
         if os.path.exists(ENTRY):
             os.remove(ENTRY)
         super().setUp()

@@ -4,14 +4,10 @@
 import unittest
 
 from preferences import PreferencesTest, stored, wait_for_stored
-from program import NAME, TITLE, accessibility, forget_everything, kernel_addresses, wait_until, xdotool
+from program import NAME, TITLE, accessibility, kernel_addresses, wait_until, xdotool
 
 
 class RecorderTest(PreferencesTest):
-    def setUp(self):
-        forget_everything()
-        super().setUp()
-
     def recorder(self, title, shortcut=None):
         name = f"Shortcut for “{title}”"
         return self.preferences.find("button", f"{name}, {shortcut}" if shortcut else name)
