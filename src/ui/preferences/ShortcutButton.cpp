@@ -96,6 +96,14 @@ void ShortcutButton::focusOutEvent(QFocusEvent *event)
     m_recorder.cancel();
 }
 
+void ShortcutButton::showEvent(QShowEvent *event)
+{
+    // The style sheet's least height is that of small texts, and a pane that scrolls is as low as
+    // it can be.
+    setMinimumHeight(sizeHint().height());
+    QPushButton::showEvent(event);
+}
+
 void ShortcutButton::hideEvent(QHideEvent *event)
 {
     m_recorder.cancel();

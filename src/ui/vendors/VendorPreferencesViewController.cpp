@@ -25,6 +25,13 @@ namespace {
 
 constexpr int progressSteps = 1000;
 
+/// As high as the style sheet has it, also for who asks how much it needs.
+class ThinBar : public QProgressBar
+{
+public:
+    QSize minimumSizeHint() const override { return {0, maximumHeight()}; }
+};
+
 QString restoreHint(const VendorPaneModel::State &state)
 {
     if (state.canRestore) {
@@ -51,7 +58,7 @@ VendorPreferencesViewController::VendorPreferencesViewController(
     : m_model(model)
     , m_updated(new InlineLine(theme))
     , m_count(plainLabel())
-    , m_progress(new QProgressBar)
+    , m_progress(new ThinBar)
     , m_button(new QPushButton)
     , m_restore(new QPushButton(localized("Restore previous")))
 {
