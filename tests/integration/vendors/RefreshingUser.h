@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/QuillonAppDelegate.h"
+#include "base/DateStamp.h"
 #include "base/SettingsKeys.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/LogCapture.h"
@@ -10,7 +11,6 @@
 #include "integration/platform/qt/web/WebServer.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/web/NetworkHttpClient.h"
-#include "vendors/DateStamp.h"
 #include "vendors/VendorTable.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "vendors/DateStamp.h"
+#include "base/DateStamp.h"
 
 #include "fakes/QtPrinting.h"
 
