@@ -30,6 +30,9 @@ Places places()
         .shippedVendorDatabase = shippedVendorDatabase(QCoreApplication::applicationDirPath()),
         .externalAddressService = QUrl(QStringLiteral("https://" QUILLON_EXTERNAL_ADDRESS_HOST)),
         .vendorRegistry = QUrl(QStringLiteral(QUILLON_REGISTRY_URL)),
+        .version = QCoreApplication::applicationVersion(),
+        .updateFeed = QUrl(QStringLiteral(QUILLON_UPDATE_FEED)),
+        .updateKey = QByteArray::fromBase64(QUILLON_UPDATE_KEY),
     };
 }
 
@@ -44,6 +47,7 @@ DesktopPlatform::DesktopPlatform()
     , m_addressOwners(m_scheduler, m_settings, TakeBackGuard::ownCommand())
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)
+    , m_softwareCenter(QUILLON_IS_PACKAGED)
     , m_helperLink(m_random)
 {
 }
@@ -68,6 +72,7 @@ Platform DesktopPlatform::platform()
         .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .softwareCenter = m_softwareCenter,
         .hotKeys = m_hotKeys,
         .http = m_http,
         .helperLink = m_helperLink,

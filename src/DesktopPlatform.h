@@ -12,6 +12,7 @@
 #include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
 #include "platform/linux/desktop/DesktopHotKeys.h"
+#include "platform/linux/desktop/DesktopSoftwareCenter.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
@@ -67,6 +68,7 @@ private:
     RfkillRadioSwitch m_radioSwitch;
     Nl80211LocationAuthorization m_location;
     DesktopSystemSettings m_systemSettings;
+    DesktopSoftwareCenter m_softwareCenter;
     DesktopHotKeys m_hotKeys;
     NetworkHttpClient m_http;
     GetrandomSource m_random;

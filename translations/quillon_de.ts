@@ -872,6 +872,114 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Version</translation>
     </message>
     <message>
+        <source>Daily</source>
+        <translation>Täglich</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Wöchentlich</translation>
+    </message>
+    <message>
+        <source>Monthly</source>
+        <translation>Monatlich</translation>
+    </message>
+    <message>
+        <source>The internet cannot be reached now.</source>
+        <translation>Das Internet ist jetzt nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The place to look at is not an https address.</source>
+        <translation>Der Ort, an dem gesucht werden soll, ist keine https-Adresse.</translation>
+    </message>
+    <message>
+        <source>The list of versions could not be fetched.</source>
+        <translation>Die Liste der Versionen konnte nicht geholt werden.</translation>
+    </message>
+    <message>
+        <source>What came is not from the authors of Quillon and was not used.</source>
+        <translation>Was kam, ist nicht von den Autoren von Quillon und wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>The list of versions that came is out of date and was not used.</source>
+        <translation>Die Liste der Versionen, die kam, ist veraltet und wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Last checked: %@</source>
+        <translation>Zuletzt gesucht: %@</translation>
+    </message>
+    <message>
+        <source>Not checked yet.</source>
+        <translation>Noch nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>Quillon %@ is available</source>
+        <translation>Quillon %@ ist da</translation>
+    </message>
+    <message>
+        <source>This is version %@.</source>
+        <translation>Dies ist Version %@.</translation>
+    </message>
+    <message>
+        <source>Quillon %@ is the newest version.</source>
+        <translation>Quillon %@ ist die neueste Version.</translation>
+    </message>
+    <message>
+        <source>No browser could be opened.</source>
+        <translation>Es konnte kein Browser geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open Page</source>
+        <translation>Seite öffnen</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Was neu ist</translation>
+    </message>
+    <message>
+        <source>Show it in the software center, or in the browser</source>
+        <translation>In der Softwareverwaltung oder im Browser zeigen</translation>
+    </message>
+    <message>
+        <source>Check for new versions automatically</source>
+        <translation>Automatisch nach neuen Versionen suchen</translation>
+    </message>
+    <message>
+        <source>Open the page of a new version at once</source>
+        <translation>Seite einer neuen Version sofort öffnen</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>This copy of Quillon does not look for new versions.</source>
+        <translation>Dieses Quillon sucht nicht nach neuen Versionen.</translation>
+    </message>
+    <message>
+        <source>Your system&apos;s software updates bring new versions.</source>
+        <translation>Neue Versionen kommen mit den Aktualisierungen des Systems.</translation>
+    </message>
+    <message>
+        <source>How often</source>
+        <translation>Wie oft</translation>
+    </message>
+    <message>
+        <source>In the software center or the browser. Quillon itself downloads and installs nothing.</source>
+        <translation>In der Softwareverwaltung oder im Browser. Quillon selbst lädt und installiert nichts.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird gesucht…</translation>
+    </message>
+    <message>
+        <source>Only while it checks automatically</source>
+        <translation>Nur wenn automatisch gesucht wird</translation>
+    </message>
+    <message>
+        <source>What is new is in Preferences › Updates.</source>
+        <translation>Was neu ist, steht unter Einstellungen › Aktualisierungen.</translation>
+    </message>
+    <message>
         <source>The helper is not installed</source>
         <translation>Das Hilfsprogramm fehlt</translation>
     </message>

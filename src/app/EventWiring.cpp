@@ -41,6 +41,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectNetworkEvents();
     connectVendorData();
     connectVendorField();
+    connectUpdates();
     connectProgram();
 }
 
@@ -217,7 +218,10 @@ void EventWiring::connectNetworkEvents()
         f.mainWindow.interfacesWereRead();
         f.networks.info.lookForRadio();
     });
-    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
+    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] {
+        f.statusMenu.menuNeedsUpdate();
+        f.updates.updater.networkChanged();
+    });
 }
 
 void EventWiring::connectVendorData()
@@ -268,6 +272,12 @@ void EventWiring::connectVendorField()
         [&vendors](bool shown) { vendors.info.showVendorButton(shown); });
 }
 
+void EventWiring::connectUpdates()
+{
+    UpdateFeature &updates = m_features.updates;
+    on(updates.updater, &Updater::changed, [&updates] { updates.pane.refresh(); });
+}
+
 void EventWiring::connectProgram()
 {
     Features &f = m_features;
@@ -316,6 +326,10 @@ void EventWiring::observeSettings()
         keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
     m_observations.onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });
+    for (const QString &key : {keys::SUEnableAutomaticChecks, keys::SUScheduledCheckInterval,
+             keys::SUAutomaticallyUpdate, keys::SUFeedURL}) {
+        m_observations.onSetting(key, [&f] { f.updates.updater.settingsChanged(); });
+    }
     m_observations.onSetting(
         keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
 }

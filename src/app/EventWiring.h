@@ -40,6 +40,7 @@ private:
     void connectNetworkEvents();
     void connectVendorData();
     void connectVendorField();
+    void connectUpdates();
     void connectProgram();
     void observeSettings();
     void observeBroadcasts();

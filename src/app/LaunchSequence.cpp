@@ -104,6 +104,7 @@ void LaunchSequence::startup()
     f.networks.externalAddress.updateExternalIPAddress(false);
     m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });
     f.statusItemAbsence.begin();
+    f.updates.updater.begin();
 }
 
 void LaunchSequence::checkRules()

@@ -4,6 +4,7 @@
 
 #include "presence/Presence.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
+#include "ui/updates/UpdatesPane.h"
 
 namespace quillon {
 
@@ -16,6 +17,7 @@ OtherWindows::OtherWindows(const Models &models, const Theme &theme, const Deskt
     connect(&m_models.preferences.window, &PreferencesWindowModel::windowOpened, this,
         &OtherWindows::openPreferences);
     m_models.presence.offer(Destination::SavedItems);
+    m_models.presence.offer(Destination::Preferences);
 }
 
 OtherWindows::~OtherWindows() = default;
@@ -39,10 +41,16 @@ void OtherWindows::openSavedItems()
 void OtherWindows::openPreferences()
 {
     if (m_preferences == nullptr) {
-        m_preferences =
-            std::make_unique<PreferencesWindow>(m_models.preferences, m_theme, m_desktop.taskBar);
+        makePreferences();
     }
     m_preferences->bringUp();
+}
+
+void OtherWindows::makePreferences()
+{
+    m_preferences =
+        std::make_unique<PreferencesWindow>(m_models.preferences, m_theme, m_desktop.taskBar);
+    m_preferences->addPane(PreferencesPane::Updates, new UpdatesPane(m_models.updates, m_theme));
 }
 
 } // namespace quillon

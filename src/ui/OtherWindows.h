@@ -12,6 +12,8 @@
 
 namespace quillon {
 
+class UpdatePreferencesViewController;
+
 /// The windows beside the main one. Each is made when it is first wanted. Main thread.
 class OtherWindows : public QObject
 {
@@ -23,6 +25,7 @@ public:
         Presence &presence;
         SavedItemsWindow::Models savedItems;
         PreferencesWindow::Models preferences;
+        UpdatePreferencesViewController &updates;
     };
     struct Desktop
     {
@@ -37,6 +40,7 @@ private:
     void goTo(Destination destination);
     void openSavedItems();
     void openPreferences();
+    void makePreferences();
 
     Models m_models;
     const Theme &m_theme;

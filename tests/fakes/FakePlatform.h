@@ -18,6 +18,7 @@
 #include "fakes/FakeRunningApplications.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
+#include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeSystemSleep.h"
 #include "fakes/FakeUserNotificationCenter.h"
@@ -63,6 +64,7 @@ struct FakePlatform
             .radioSwitch = radioSwitch,
             .location = location,
             .systemSettings = systemSettings,
+            .softwareCenter = softwareCenter,
             .hotKeys = hotKeys,
             .http = http,
             .helperLink = helper,
@@ -71,11 +73,17 @@ struct FakePlatform
             .places = {.supportFolder = data.path(),
                 .shippedVendorDatabase = {},
                 .externalAddressService = QUrl(QStringLiteral("https://address.example")),
-                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))},
+                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv")),
+                .version = QStringLiteral("4.0.0"),
+                .updateFeed = updateFeed,
+                .updateKey = updateKey},
         };
     }
 
     QTemporaryDir data;
+    // Nobody tells of new versions.
+    QUrl updateFeed;
+    QByteArray updateKey;
     FakeScheduler scheduler;
     FakeSettingsStore settings{scheduler};
     FakeSettingsStore groupSettings{scheduler};
@@ -93,6 +101,7 @@ struct FakePlatform
     FakeRadioSwitch radioSwitch;
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;
+    FakeSoftwareCenter softwareCenter;
     FakeHotKeys hotKeys{scheduler};
     FakeHttpClient http{scheduler};
     FakeHelper helper{scheduler, host};

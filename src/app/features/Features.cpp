@@ -18,6 +18,7 @@ Features::Features(
     , networks(platform, devices.table)
     , rules(platform, notifier, devices, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
+    , updates(platform, notifier)
     , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
           devices.addressChanger})

@@ -6,6 +6,7 @@
 #include "app/features/HistoryFeature.h"
 #include "app/features/NetworkFeature.h"
 #include "app/features/RuleFeature.h"
+#include "app/features/UpdateFeature.h"
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
 #include "hotkeys/GlobalHotKeys.h"
@@ -36,6 +37,7 @@ struct Features
     NetworkFeature networks;
     RuleFeature rules;
     VendorFeature vendors;
+    UpdateFeature updates;
 
     GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;

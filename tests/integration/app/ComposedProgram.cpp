@@ -53,6 +53,7 @@ ComposedProgram::ComposedProgram(
         .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .softwareCenter = m_softwareCenter,
         .hotKeys = m_hotKeys,
         .http = m_http,
         .helperLink = helperLink,

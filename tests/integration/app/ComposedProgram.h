@@ -5,6 +5,7 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHotKeys.h"
+#include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -86,6 +87,7 @@ private:
     LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
+    FakeSoftwareCenter m_softwareCenter;
     FakeHotKeys m_hotKeys{m_scheduler};
     NetworkHttpClient m_http;
     GetrandomSource m_random;

@@ -116,6 +116,7 @@ private:
             .radioSwitch = fakes.radioSwitch,
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,
+            .softwareCenter = fakes.softwareCenter,
             .hotKeys = fakes.hotKeys,
             .http = http,
             .helperLink = fakes.helperLink,

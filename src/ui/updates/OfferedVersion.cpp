@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/updates/OfferedVersion.h"
+
+#include "base/Localized.h"
+#include "presentation/updates/UpdatePreferencesViewController.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/ContentScrollArea.h"
+#include "ui/widgets/PlainText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int tallestNotes = 160;
+/// Addresses may be any length, and are read from their beginning.
+constexpr int widestPage = 400;
+
+} // namespace
+
+OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *parent)
+    : QFrame(parent)
+    , m_model(model)
+    , m_title(plainLabel())
+    , m_details(plainLabel())
+    , m_page(plainLabel())
+    , m_notes(plainLabel())
+    , m_notesArea(new ContentScrollArea(m_notes, tallestNotes))
+    , m_open(new QPushButton(localized("Open Page")))
+{
+    setObjectName(u"offeredVersion"_s);
+    setProperty("look", u"card"_s);
+    m_title->setFont(Theme::font(Theme::Type::Head));
+    m_details->setProperty("look", u"caption"_s);
+    m_page->setProperty("look", u"caption"_s);
+    m_notes->setObjectName(u"releaseNotes"_s);
+    m_notes->setWordWrap(true);
+    m_notesArea->setAccessibleName(localized("What is new"));
+    m_open->setObjectName(u"openOfferButton"_s);
+    m_open->setProperty("look", u"primary"_s);
+    m_open->setAccessibleName(m_open->text());
+    m_open->setAutoDefault(true);
+    connect(m_open, &QPushButton::clicked, this, [this] { m_model.openOffer(); });
+
+    auto *where = new QHBoxLayout;
+    where->setSpacing(Theme::spacing);
+    where->addWidget(m_page, 1);
+    where->addWidget(m_open);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(
+        Theme::cardMargin, Theme::cardMarginTop, Theme::cardMargin, Theme::cardMarginTop);
+    column->setSpacing(Theme::unit / 2);
+    column->addWidget(m_title);
+    column->addWidget(m_details);
+    column->addSpacing(Theme::unit / 2);
+    column->addWidget(m_notesArea);
+    column->addSpacing(Theme::unit / 2);
+    column->addLayout(where);
+}
+
+void OfferedVersion::refresh()
+{
+    const auto &state = m_model.state();
+    showLine(*m_title, state.offer);
+    showLine(*m_details, state.offerDetails);
+    showLine(*m_page, state.page, widestPage);
+    m_page->setToolTip(plainToolTip(state.page));
+    showBroken(*m_notes, plainParagraphs(state.notes));
+    m_notesArea->setVisible(!state.notes.isEmpty());
+    m_open->setToolTip(
+        plainToolTip(localized("Show it in the software center, or in the browser")));
+    m_open->setAccessibleDescription(state.page);
+    setVisible(!state.offer.isEmpty());
+}
+
+} // namespace quillon
