@@ -940,12 +940,12 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>In der Softwareverwaltung oder im Browser zeigen</translation>
     </message>
     <message>
-        <source>Check for new versions automatically</source>
-        <translation>Automatisch nach neuen Versionen suchen</translation>
+        <source>Check for new versions</source>
+        <translation>Nach neuen Versionen suchen</translation>
     </message>
     <message>
-        <source>Open the page of a new version at once</source>
-        <translation>Seite einer neuen Version sofort öffnen</translation>
+        <source>Open the page of a new version</source>
+        <translation>Seite einer neuen Version öffnen</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -964,16 +964,16 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Wie oft</translation>
     </message>
     <message>
-        <source>In the software center or the browser. Quillon itself downloads and installs nothing.</source>
-        <translation>In der Softwareverwaltung oder im Browser. Quillon selbst lädt und installiert nichts.</translation>
+        <source>At once, in the software center or the browser. Quillon itself downloads and installs nothing.</source>
+        <translation>Sofort, in der Softwareverwaltung oder im Browser. Quillon selbst lädt und installiert nichts.</translation>
     </message>
     <message>
         <source>Checking…</source>
         <translation>Wird gesucht…</translation>
     </message>
     <message>
-        <source>Only while it checks automatically</source>
-        <translation>Nur wenn automatisch gesucht wird</translation>
+        <source>Only while Quillon checks by itself</source>
+        <translation>Nur wenn Quillon selbst danach sucht</translation>
     </message>
     <message>
         <source>What is new is in Preferences › Updates.</source>

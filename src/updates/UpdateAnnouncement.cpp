@@ -39,6 +39,7 @@ void UpdateAnnouncement::tell(const UpdateRelease &release)
     if (!isNews(release)) {
         return;
     }
+    noteTold(release);
     m_notifier.ask({.identifier = identifier,
         .title = filled(localized("Quillon %@ is available"), {release.version.text()}),
         .body = localized("What is new is in Preferences › Updates."),
@@ -54,8 +55,9 @@ void UpdateAnnouncement::tell(const UpdateRelease &release)
 
 void UpdateAnnouncement::wasSeen(const UpdateRelease &release)
 {
+    m_notifier.withdraw(identifier);
     if (isNews(release)) {
-        m_notifier.withdraw(identifier);
+        noteTold(release);
     }
 }
 
@@ -68,15 +70,14 @@ bool UpdateAnnouncement::open(const UpdateRelease &release)
     return false;
 }
 
-/// Once for each version.
-bool UpdateAnnouncement::isNews(const UpdateRelease &release)
+bool UpdateAnnouncement::isNews(const UpdateRelease &release) const
 {
-    const QString version = release.version.text();
-    if (m_settings.getString(keys::updateToldVersion) == version) {
-        return false;
-    }
-    m_settings.set(keys::updateToldVersion, version);
-    return true;
+    return m_settings.getString(keys::updateToldVersion) != release.version.text();
+}
+
+void UpdateAnnouncement::noteTold(const UpdateRelease &release)
+{
+    m_settings.set(keys::updateToldVersion, release.version.text());
 }
 
 } // namespace quillon

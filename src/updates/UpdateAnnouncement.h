@@ -32,7 +32,8 @@ public:
     bool open(const UpdateRelease &release);
 
 private:
-    bool isNews(const UpdateRelease &release);
+    bool isNews(const UpdateRelease &release) const;
+    void noteTold(const UpdateRelease &release);
 
     SettingsStore &m_settings;
     Notifier &m_notifier;

@@ -151,15 +151,15 @@ class UpdatesTest(UpdatesCase):
     def test_what_is_chosen_is_stored_and_nothing_is_asked_before(self):
         pane = self.preferences()
         self.assertEqual(self.web.requests(PATH), [])
-        pane.find("check box", "Check for new versions automatically").press()
+        pane.find("check box", "Check for new versions").press()
         wait_until(lambda: settings().get("SUEnableAutomaticChecks") is True, "it was not stored")
         pane.labelled("How often", "combo box").choose("Daily")
         wait_until(lambda: settings().get("SUScheduledCheckInterval") == 86400, "it was not stored")
-        pane.find("check box", "Open the page of a new version at once").press()
+        pane.find("check box", "Open the page of a new version").press()
         wait_until(lambda: settings().get("SUAutomaticallyUpdate") is True, "it was not stored")
-        pane.find("check box", "Check for new versions automatically").press()
+        pane.find("check box", "Check for new versions").press()
         wait_until(lambda: settings().get("SUEnableAutomaticChecks") is False, "it was not stored")
-        self.assertFalse(pane.find("check box", "Open the page of a new version at once").enabled)
+        self.assertFalse(pane.find("check box", "Open the page of a new version").enabled)
 
 
 class WithoutUpdatesTest(UpdatesCase):

@@ -8,7 +8,6 @@
 #include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/PlainText.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -19,7 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int tallestNotes = 160;
+/// A line more would be seen to its half.
+constexpr double mostLines = 8.5;
 /// Addresses may be any length, and are read from their beginning.
 constexpr int widestPage = 400;
 
@@ -32,13 +32,16 @@ OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *
     , m_details(plainLabel())
     , m_page(plainLabel())
     , m_notes(plainLabel())
-    , m_notesArea(new ContentScrollArea(m_notes, tallestNotes))
+    , m_notesArea(new ContentScrollArea(
+          m_notes, static_cast<int>(mostLines * m_notes->fontMetrics().lineSpacing())))
     , m_open(new QPushButton(localized("Open Page")))
 {
     setObjectName(u"offeredVersion"_s);
     setProperty("look", u"card"_s);
     m_title->setFont(Theme::font(Theme::Type::Head));
+    m_title->setWordWrap(true);
     m_details->setProperty("look", u"caption"_s);
+    m_details->setWordWrap(true);
     m_page->setProperty("look", u"caption"_s);
     m_notes->setObjectName(u"releaseNotes"_s);
     m_notes->setWordWrap(true);
@@ -49,10 +52,6 @@ OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *
     m_open->setAutoDefault(true);
     connect(m_open, &QPushButton::clicked, this, [this] { m_model.openOffer(); });
 
-    auto *where = new QHBoxLayout;
-    where->setSpacing(Theme::spacing);
-    where->addWidget(m_page, 1);
-    where->addWidget(m_open);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(
         Theme::cardMargin, Theme::cardMarginTop, Theme::cardMargin, Theme::cardMarginTop);
@@ -62,7 +61,8 @@ OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *
     column->addSpacing(Theme::unit / 2);
     column->addWidget(m_notesArea);
     column->addSpacing(Theme::unit / 2);
-    column->addLayout(where);
+    column->addWidget(m_page);
+    column->addWidget(m_open, 0, Qt::AlignRight);
 }
 
 void OfferedVersion::refresh()

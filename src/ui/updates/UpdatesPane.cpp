@@ -53,6 +53,14 @@ QLabel *caption(const QString &text)
     return label;
 }
 
+/// Begins where the text of a check box does. Not by margins, which are the same in a mirrored
+/// window.
+QHBoxLayout *indented(QHBoxLayout *line)
+{
+    line->insertSpacing(0, checkIndent - line->spacing());
+    return line;
+}
+
 QVBoxLayout *columnOf(QFrame *card)
 {
     card->setProperty("look", u"card"_s);
@@ -70,9 +78,9 @@ UpdatesPane::UpdatesPane(UpdatePreferencesViewController &model, const Theme &th
     , m_lastCheck(plainLabel())
     , m_checkNow(new BusyButton(theme, Theme::Ink::Text, localized("Check Now")))
     , m_result(new InlineLine(theme))
-    , m_check(new QCheckBox(localized("Check for new versions automatically")))
+    , m_check(new QCheckBox(localized("Check for new versions")))
     , m_interval(new QComboBox)
-    , m_autoInstall(new QCheckBox(localized("Open the page of a new version at once")))
+    , m_autoInstall(new QCheckBox(localized("Open the page of a new version")))
     , m_absence(makeAbsence())
     , m_look(makeLook(theme))
     , m_offer(new OfferedVersion(model))
@@ -132,12 +140,11 @@ QFrame *UpdatesPane::makeSettings()
         }
     });
     auto *hint = caption(localized(
-        "In the software center or the browser. Quillon itself downloads and installs nothing."));
-    hint->setContentsMargins(checkIndent, 0, 0, 0);
+        "At once, in the software center or the browser. Quillon itself downloads and installs "
+        "nothing."));
     m_autoInstall->setAccessibleDescription(hint->text());
 
     auto *line = new QHBoxLayout;
-    line->setContentsMargins(checkIndent, 0, 0, 0);
     line->setSpacing(Theme::spacing);
     line->addWidget(often);
     line->addWidget(m_interval);
@@ -145,15 +152,19 @@ QFrame *UpdatesPane::makeSettings()
     auto *card = new QFrame;
     auto *column = columnOf(card);
     column->addWidget(m_check);
-    column->addLayout(line);
+    column->addLayout(indented(line));
     column->addWidget(m_autoInstall);
-    column->addWidget(hint);
+    auto *hintLine = new QHBoxLayout;
+    hintLine->setSpacing(Theme::spacing);
+    hintLine->addWidget(hint);
+    column->addLayout(indented(hintLine));
     return card;
 }
 
 QWidget *UpdatesPane::makeLook(const Theme &theme)
 {
     m_lastCheck->setObjectName(u"lastCheckLabel"_s);
+    m_lastCheck->setWordWrap(true);
     m_checkNow->setObjectName(u"checkNowButton"_s);
     m_checkNow->setIcon(theme.icon(u"refresh"_s, Theme::Ink::Text));
     m_checkNow->setIconSize({Theme::iconSize, Theme::iconSize});
@@ -184,7 +195,7 @@ void UpdatesPane::refresh()
     m_autoInstall->setChecked(state.autoInstallButton);
     // Both say what a look does that nobody asked for.
     const QString whyNot =
-        state.checkForUpdatesButton ? QString() : localized("Only while it checks automatically");
+        state.checkForUpdatesButton ? QString() : localized("Only while Quillon checks by itself");
     for (QWidget *control :
         {static_cast<QWidget *>(m_interval), static_cast<QWidget *>(m_autoInstall)}) {
         control->setEnabled(state.checkForUpdatesButton);

@@ -63,6 +63,13 @@ TEST_F(UpdateAnnouncementTest, DoesNotTellWhatTheUserHasSeen)
     EXPECT_EQ(notifier.questionsEver, 1);
 }
 
+TEST_F(UpdateAnnouncementTest, TheMessageGoesOnceTheUserSeesIt)
+{
+    announcement->tell(release(u"4.1"_s));
+    announcement->wasSeen(release(u"4.1"_s));
+    EXPECT_TRUE(notifier.questions.isEmpty());
+}
+
 TEST_F(UpdateAnnouncementTest, TheMessageLeadsToThePage)
 {
     announcement->tell(release(u"4.1"_s));
