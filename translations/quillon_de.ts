@@ -944,7 +944,7 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Nach neuen Versionen suchen</translation>
     </message>
     <message>
-        <source>Open the page of a new version</source>
+        <source>Open a new version&apos;s page</source>
         <translation>Seite einer neuen Version öffnen</translation>
     </message>
     <message>

@@ -155,11 +155,11 @@ class UpdatesTest(UpdatesCase):
         wait_until(lambda: settings().get("SUEnableAutomaticChecks") is True, "it was not stored")
         pane.labelled("How often", "combo box").choose("Daily")
         wait_until(lambda: settings().get("SUScheduledCheckInterval") == 86400, "it was not stored")
-        pane.find("check box", "Open the page of a new version").press()
+        pane.find("check box", "Open a new version's page").press()
         wait_until(lambda: settings().get("SUAutomaticallyUpdate") is True, "it was not stored")
         pane.find("check box", "Check for new versions").press()
         wait_until(lambda: settings().get("SUEnableAutomaticChecks") is False, "it was not stored")
-        self.assertFalse(pane.find("check box", "Open the page of a new version").enabled)
+        self.assertFalse(pane.find("check box", "Open a new version's page").enabled)
 
 
 class WithoutUpdatesTest(UpdatesCase):

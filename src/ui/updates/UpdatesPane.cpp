@@ -80,7 +80,7 @@ UpdatesPane::UpdatesPane(UpdatePreferencesViewController &model, const Theme &th
     , m_result(new InlineLine(theme))
     , m_check(new QCheckBox(localized("Check for new versions")))
     , m_interval(new QComboBox)
-    , m_autoInstall(new QCheckBox(localized("Open the page of a new version")))
+    , m_autoInstall(new QCheckBox(localized("Open a new version's page")))
     , m_absence(makeAbsence())
     , m_look(makeLook(theme))
     , m_offer(new OfferedVersion(model))
