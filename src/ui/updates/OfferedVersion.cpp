@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/updates/UpdatePreferencesViewController.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/PlainText.h"
 
@@ -68,6 +69,7 @@ OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *
 void OfferedVersion::refresh()
 {
     const auto &state = m_model.state();
+    const bool isNew = !state.offer.isEmpty() && plainLine(state.offer) != m_title->text();
     showLine(*m_title, state.offer);
     showLine(*m_details, state.offerDetails);
     showLine(*m_page, state.page, widestPage);
@@ -78,6 +80,10 @@ void OfferedVersion::refresh()
         plainToolTip(localized("Show it in the software center, or in the browser")));
     m_open->setAccessibleDescription(state.page);
     setVisible(!state.offer.isEmpty());
+    // To whom it comes into sight; the others hear of it when they get here.
+    if (isNew && isVisible()) {
+        announce(*m_title, m_title->text());
+    }
 }
 
 } // namespace quillon
