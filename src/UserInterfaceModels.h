@@ -22,6 +22,7 @@ inline UserInterface::Models modelsOf(Features &features)
         .others = {.presence = features.presence,
             .savedItems = {{networks.savedLists, networks.savedEntryPopover},
                 networks.removedFromSavedItems, features.presence},
+            .history = {features.history.controller, features.editMenu, features.presence},
             .preferences = {features.preferencesWindow, features.presence}},
         .network = networks.info,
         .externalAddress = networks.externalAddressShown,

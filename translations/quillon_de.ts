@@ -1111,5 +1111,241 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>About</source>
         <translation>Über</translation>
     </message>
+    <message>
+        <source>This is no file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The record has been deleted.</source>
+        <translation>Der Eintrag wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Wird exportiert…</translation>
+    </message>
+    <message>
+        <source>%@ exported</source>
+        <translation>%@ exportiert</translation>
+    </message>
+    <message>
+        <source>The file could not be written. %@</source>
+        <translation>Die Datei konnte nicht geschrieben werden. %@</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Wird gesucht…</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>%@ ausgewählt</translation>
+    </message>
+    <message>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <source>Nothing contains “%@”. Upper and lower case matter.</source>
+        <translation>Nichts enthält „%@“. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>Every address change is listed here.</source>
+        <translation>Jede Änderung einer Adresse wird hier aufgelistet.</translation>
+    </message>
+    <message>
+        <source>Select at most %@ to save them.</source>
+        <translation>Zum Speichern höchstens %@ auswählen.</translation>
+    </message>
+    <message>
+        <source>Deleting…</source>
+        <translation>Wird gelöscht…</translation>
+    </message>
+    <message>
+        <source>Record deleted</source>
+        <translation>Eintrag gelöscht</translation>
+    </message>
+    <message>
+        <source>%@ records deleted</source>
+        <translation>%@ Einträge gelöscht</translation>
+    </message>
+    <message>
+        <source>The records could not be deleted.</source>
+        <translation>Die Einträge konnten nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Delete %@?</source>
+        <translation>%@ löschen?</translation>
+    </message>
+    <message>
+        <source>So many records at once cannot be brought back.</source>
+        <translation>So viele Einträge auf einmal lassen sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Today %@</source>
+        <translation>Heute %@</translation>
+    </message>
+    <message>
+        <source>Yesterday %@</source>
+        <translation>Gestern %@</translation>
+    </message>
+    <message>
+        <source>MMM d, yyyy</source>
+        <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>%@ %@</source>
+        <translation>%@ %@</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Search All Fields</source>
+        <translation>Alle Felder durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Devices</source>
+        <translation>Geräte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Interfaces</source>
+        <translation>Schnittstellen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Addresses</source>
+        <translation>Adressen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Network Names</source>
+        <translation>Netzwerknamen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search BSSIDs</source>
+        <translation>BSSIDs durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Notes</source>
+        <translation>Notizen durchsuchen</translation>
+    </message>
+    <message>
+        <source>%@ was given %@.</source>
+        <translation>%@ erhielt %@.</translation>
+    </message>
+    <message>
+        <source>%@ (%@) was given %@.</source>
+        <translation>%@ (%@) erhielt %@.</translation>
+    </message>
+    <message>
+        <source>%@ (%@) was given %@ on %@.</source>
+        <translation>%@ (%@) erhielt %@ im Netzwerk %@.</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ records</source>
+        <translation>%@ Einträge</translation>
+    </message>
+    <message>
+        <source>%@ of 1 record</source>
+        <translation>%@ von 1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ of %@ records</source>
+        <translation>%@ von %@ Einträgen</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Return saves the note, Escape gives it up.</source>
+        <translation>Die Eingabetaste sichert die Notiz, Escape verwirft sie.</translation>
+    </message>
+    <message>
+        <source>F2 edits the note, Delete deletes.</source>
+        <translation>F2 bearbeitet die Notiz, Entf löscht.</translation>
+    </message>
+    <message>
+        <source>Adds the addresses of the selected records to the saved ones.</source>
+        <translation>Nimmt die Adressen der ausgewählten Einträge in die gespeicherten auf.</translation>
+    </message>
+    <message>
+        <source>Adds the networks of the selected records to the saved ones.</source>
+        <translation>Nimmt die Netzwerke der ausgewählten Einträge in die gespeicherten auf.</translation>
+    </message>
+    <message>
+        <source>Save Addresses</source>
+        <translation>Adressen speichern</translation>
+    </message>
+    <message>
+        <source>Save Networks</source>
+        <translation>Netzwerke speichern</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes what is listed into a file that spreadsheets read.</source>
+        <translation>Schreibt die Liste in eine Datei, die Tabellenprogramme lesen.</translation>
+    </message>
+    <message>
+        <source>Deletes the selected records.</source>
+        <translation>Löscht die ausgewählten Einträge.</translation>
+    </message>
+    <message>
+        <source>Upper and lower case matter.</source>
+        <translation>Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>What is done stays done.</source>
+        <translation>Was getan ist, bleibt getan.</translation>
+    </message>
+    <message>
+        <source>Edit Note</source>
+        <translation>Notiz bearbeiten</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Reverse Order</source>
+        <translation>Reihenfolge umkehren</translation>
+    </message>
+    <message>
+        <source>Export History</source>
+        <translation>Verlauf exportieren</translation>
+    </message>
+    <message>
+        <source>Clear Search</source>
+        <translation>Suche löschen</translation>
+    </message>
+    <message>
+        <source>What to search</source>
+        <translation>Was durchsucht wird</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
 </context>
 </TS>

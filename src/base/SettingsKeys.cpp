@@ -45,6 +45,7 @@ std::span<const Entry> all()
         {releasedDevices, Array},
         {givenAddresses, Dictionary},
         {statusItemAbsenceTold, Boolean},
+        {historyColumnWidths, Array},
     };
     return table;
 }

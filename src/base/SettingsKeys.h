@@ -50,6 +50,7 @@ QUILLON_KEY(SUFeedURL);
 QUILLON_KEY(releasedDevices);
 QUILLON_KEY(givenAddresses);
 QUILLON_KEY(statusItemAbsenceTold);
+QUILLON_KEY(historyColumnWidths);
 #undef QUILLON_KEY
 
 /// A key and the type that it holds; none where the platform's own value is stored as it is given

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/HistoryExport.h"
 
+#include "base/Localized.h"
 #include "history/HistoryCsv.h"
 #include "platform/Scheduler.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace quillon {
@@ -51,6 +53,11 @@ HistoryExport::End HistoryExport::writeAll(const RecordSnapshot &records, const 
     const std::atomic_bool &isCancelled, const Tell &tell)
 {
     End end;
+    if (const QFileInfo info(path); info.exists() && !info.isFile()) {
+        // A device or a pipe would be replaced by the file.
+        end.failure = localized("This is no file.");
+        return end;
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         end.failure = file.errorString();

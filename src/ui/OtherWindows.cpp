@@ -16,6 +16,7 @@ OtherWindows::OtherWindows(const Models &models, const Theme &theme, const Deskt
     connect(&m_models.preferences.window, &PreferencesWindowModel::windowOpened, this,
         &OtherWindows::openPreferences);
     m_models.presence.offer(Destination::SavedItems);
+    m_models.presence.offer(Destination::History);
 }
 
 OtherWindows::~OtherWindows() = default;
@@ -24,6 +25,8 @@ void OtherWindows::goTo(Destination destination)
 {
     if (destination == Destination::SavedItems) {
         openSavedItems();
+    } else if (destination == Destination::History) {
+        openHistory();
     }
 }
 
@@ -34,6 +37,15 @@ void OtherWindows::openSavedItems()
             m_models.savedItems, m_theme, m_desktop.scheduler, m_desktop.taskBar);
     }
     m_savedItems->bringUp();
+}
+
+void OtherWindows::openHistory()
+{
+    if (m_history == nullptr) {
+        m_history = std::make_unique<HistoryWindow>(
+            m_models.history, m_theme, m_desktop.scheduler, m_desktop.taskBar);
+    }
+    m_history->bringUp();
 }
 
 void OtherWindows::openPreferences()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "presence/Destination.h"
+#include "ui/history/HistoryWindow.h"
 #include "ui/networks/SavedItemsWindow.h"
 #include "ui/preferences/PreferencesWindow.h"
 
@@ -22,6 +23,7 @@ public:
     {
         Presence &presence;
         SavedItemsWindow::Models savedItems;
+        HistoryWindow::Models history;
         PreferencesWindow::Models preferences;
     };
     struct Desktop
@@ -36,12 +38,14 @@ public:
 private:
     void goTo(Destination destination);
     void openSavedItems();
+    void openHistory();
     void openPreferences();
 
     Models m_models;
     const Theme &m_theme;
     Desktop m_desktop;
     std::unique_ptr<SavedItemsWindow> m_savedItems;
+    std::unique_ptr<HistoryWindow> m_history;
     std::unique_ptr<PreferencesWindow> m_preferences;
 };
 

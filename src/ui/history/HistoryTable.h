@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "presentation/history/HistoryController.h"
+
+#include <QTableView>
+
+namespace quillon {
+
+class HistoryRows;
+class Theme;
+
+/// The history as a table: one row of fixed height for each record, however many there are. Only
+/// what is in sight is read.
+class HistoryTable : public QTableView
+{
+    Q_OBJECT
+
+public:
+    static constexpr int rowHeight = 32;
+
+    HistoryTable(HistoryController &controller, const Theme &theme, QWidget *parent = nullptr);
+
+    /// The note of the current row.
+    void editNote();
+    /// Gives it the keyboard, on a row that is selected.
+    void takeKeyboard();
+
+    /// A row is what is found by typing, in the search field.
+    void keyboardSearch(const QString &) override {}
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void reset() override;
+    void rowsInserted(const QModelIndex &parent, int start, int end) override;
+    void selectionChanged(
+        const QItemSelection &selected, const QItemSelection &deselected) override;
+
+private:
+    void makeColumns();
+    QList<int> usualWidths() const;
+    void setWidths();
+    void rememberWidths(int section);
+    void fold();
+    void showOrder();
+    void sortByColumn(int section);
+    void tellSelection();
+    void selectOne(qsizetype row);
+    void noteWhereItIs();
+    void closeNote();
+
+    HistoryController &m_controller;
+    HistoryRows *m_rows;
+    bool m_fromTop = true; ///< the next list is another one
+    bool m_mirrors = false;
+    QList<qint64> m_selectedKeys; ///< across a reset
+    int m_scrolled = 0;
+};
+
+} // namespace quillon
