@@ -9,6 +9,7 @@
 
 #include <QLineEdit>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -23,6 +24,7 @@ HistoryNoteDelegate::HistoryNoteDelegate(HistoryNote &note, const Theme &theme, 
 {
     connect(this, &QAbstractItemDelegate::closeEditor, this,
         [this](QWidget *, QAbstractItemDelegate::EndEditHint hint) {
+            const QScopedValueRollback closing(m_isClosing, true);
             if (hint == QAbstractItemDelegate::RevertModelCache) {
                 m_note.giveUp();
             }
@@ -64,6 +66,7 @@ void HistoryNoteDelegate::setEditorData(QWidget *editor, const QModelIndex &) co
 
 void HistoryNoteDelegate::setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const
 {
+    const QScopedValueRollback closing(m_isClosing, true);
     m_note.end();
 }
 

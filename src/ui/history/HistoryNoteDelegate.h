@@ -31,12 +31,16 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
         const QModelIndex &index) const override;
 
+    /// It closes its editor itself at this moment.
+    bool isClosing() const { return m_isClosing; }
+
 private:
     /// As a line that can be edited.
     QString shownText() const;
 
     HistoryNote &m_note;
     const Theme &m_theme;
+    mutable bool m_isClosing = false;
 };
 
 } // namespace quillon

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int headHeight = 30;
 constexpr int cellPadding = 24;
+constexpr int arrowRoom = 14; ///< of the order, beside a title
 constexpr int leastNoteWidth = 76;
 // A selection of more rows is not looked for again in another list.
 constexpr qsizetype mostSelectedAgain = 100;
@@ -39,12 +40,13 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     : QTableView(parent)
     , m_controller(controller)
     , m_rows(new HistoryRows(controller, this))
+    , m_delegate(new HistoryNoteDelegate(controller.note(), theme, this))
 {
     setObjectName(u"historyTable"_s);
     setAccessibleName(localized("History"));
     setAccessibleDescription(localized("F2 edits the note, Delete deletes."));
     setModel(m_rows);
-    setItemDelegate(new HistoryNoteDelegate(controller.note(), theme, this));
+    setItemDelegate(m_delegate);
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
     setWordWrap(false);
@@ -58,8 +60,8 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     setContextMenuPolicy(Qt::CustomContextMenu);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setMinimumSectionSize(rowHeight);
-    verticalHeader()->setDefaultSectionSize(rowHeight);
+    verticalHeader()->setMinimumSectionSize(recordHeight);
+    verticalHeader()->setDefaultSectionSize(recordHeight);
     makeColumns();
     connect(&m_controller, &HistoryController::changed, this, &HistoryTable::showOrder);
     connect(&m_controller, &HistoryController::searched, this, [this] { m_fromTop = true; });
@@ -70,7 +72,8 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     // What is selected counts by its rows, which these move.
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &HistoryTable::tellSelection);
     connect(m_rows, &QAbstractItemModel::rowsRemoved, this, &HistoryTable::tellSelection);
-    connect(m_rows, &QAbstractItemModel::modelReset, this, &HistoryTable::tellSelection);
+    // After the selection has heard of it, which forgets everything then.
+    connect(m_rows, &QAbstractItemModel::modelReset, this, &HistoryTable::selectAgain);
     connect(&m_controller.note(), &HistoryNote::ended, this, &HistoryTable::closeNote);
     showOrder();
 }
@@ -90,7 +93,7 @@ void HistoryTable::makeColumns()
     head->setTextElideMode(Qt::ElideRight);
     setWidths();
     connect(head, &QHeaderView::sectionClicked, this, &HistoryTable::sortByColumn);
-    connect(head, &QHeaderView::sectionResized, this, &HistoryTable::rememberWidths);
+    head->viewport()->installEventFilter(this);
 }
 
 QList<int> HistoryTable::usualWidths() const
@@ -107,7 +110,7 @@ QList<int> HistoryTable::usualWidths() const
         text.horizontalAdvance(u"Harbor-Office"_s), address, leastNoteWidth};
     for (const HistoryColumn column : historyColumns) {
         int &width = widths[sectionOf(column)];
-        width = std::max(width, head.horizontalAdvance(titleOf(column))) + cellPadding;
+        width = std::max(width, head.horizontalAdvance(titleOf(column)) + arrowRoom) + cellPadding;
     }
     return widths;
 }
@@ -124,19 +127,31 @@ void HistoryTable::setWidths()
     }
 }
 
-void HistoryTable::rememberWidths(int section)
+void HistoryTable::rememberWidths()
 {
-    // Only what a hand does counts; the last column stretches by itself.
-    if (m_mirrors || section == sectionOf(HistoryColumn::Notes)) {
-        return;
+    QList<int> widths = m_controller.columnWidths();
+    widths = widths.isEmpty() ? usualWidths() : widths;
+    const QList<int> before = widths;
+    // The last one stretches by itself.
+    for (int section = 0; section < sectionOf(HistoryColumn::Notes); ++section) {
+        if (!isColumnHidden(section)) {
+            widths[section] = columnWidth(section);
+        }
     }
-    const QList<int> before = m_controller.columnWidths();
-    QList<int> widths;
-    for (int each = 0; each < model()->columnCount(); ++each) {
-        widths << (isColumnHidden(each) ? before.value(each, usualWidths()[each])
-                                        : columnWidth(each));
+    if (widths != before) {
+        m_controller.setColumnWidths(widths);
+        fold();
     }
-    m_controller.setColumnWidths(widths);
+}
+
+bool HistoryTable::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isFiltered = QTableView::eventFilter(watched, event);
+    if (watched == horizontalHeader()->viewport() && event->type() == QEvent::MouseButtonRelease) {
+        // By now the head has the width that the hand gave it.
+        rememberWidths();
+    }
+    return isFiltered;
 }
 
 void HistoryTable::fold()
@@ -224,6 +239,10 @@ void HistoryTable::reset()
         updateGeometries();
         verticalScrollBar()->setValue(m_scrolled);
     }
+}
+
+void HistoryTable::selectAgain()
+{
     QItemSelection again;
     for (const qint64 key : std::as_const(m_selectedKeys)) {
         if (const auto row = static_cast<int>(m_controller.rows().rowOf(key)); row >= 0) {
@@ -234,6 +253,7 @@ void HistoryTable::reset()
         selectionModel()->setCurrentIndex(again.first().topLeft(), QItemSelectionModel::NoUpdate);
         selectionModel()->select(again, QItemSelectionModel::ClearAndSelect);
     }
+    tellSelection();
 }
 
 void HistoryTable::rowsInserted(const QModelIndex &parent, int start, int end)
@@ -244,7 +264,7 @@ void HistoryTable::rowsInserted(const QModelIndex &parent, int start, int end)
     if (isAbove) {
         // What is being looked at stays where it is.
         updateGeometries();
-        verticalScrollBar()->setValue(scrolled + (end - start + 1) * rowHeight);
+        verticalScrollBar()->setValue(scrolled + (end - start + 1) * recordHeight);
     }
 }
 
@@ -323,6 +343,9 @@ void HistoryTable::editNote()
 
 void HistoryTable::closeNote()
 {
+    if (m_delegate->isClosing()) {
+        return;
+    }
     if (auto *editor = viewport()->findChild<QLineEdit *>(u"noteEditor"_s)) {
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }

@@ -8,6 +8,7 @@
 
 namespace quillon {
 
+class HistoryNoteDelegate;
 class HistoryRows;
 class Theme;
 
@@ -18,7 +19,7 @@ class HistoryTable : public QTableView
     Q_OBJECT
 
 public:
-    static constexpr int rowHeight = 32;
+    static constexpr int recordHeight = 32;
 
     HistoryTable(HistoryController &controller, const Theme &theme, QWidget *parent = nullptr);
 
@@ -35,6 +36,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void reset() override;
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
     void selectionChanged(
@@ -44,17 +46,19 @@ private:
     void makeColumns();
     QList<int> usualWidths() const;
     void setWidths();
-    void rememberWidths(int section);
+    void rememberWidths();
     void fold();
     void showOrder();
     void sortByColumn(int section);
     void tellSelection();
     void selectOne(qsizetype row);
     void noteWhereItIs();
+    void selectAgain();
     void closeNote();
 
     HistoryController &m_controller;
     HistoryRows *m_rows;
+    HistoryNoteDelegate *m_delegate;
     bool m_fromTop = true; ///< the next list is another one
     bool m_mirrors = false;
     QList<qint64> m_selectedKeys; ///< across a reset

@@ -10,6 +10,7 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/EmptyState.h"
+#include "ui/widgets/FlowLayout.h"
 #include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/SearchField.h"
@@ -34,7 +35,6 @@ namespace {
 
 constexpr QSize usualSize(940, 520);
 constexpr QSize leastSize(420, 320);
-constexpr int searchWidth = 300;
 constexpr int progressSteps = 1000;
 
 QString addressesHint()
@@ -122,7 +122,6 @@ QWidget *HistoryWindow::makeTop()
     m_search = new SearchField(m_theme);
     m_search->setObjectName(u"historySearch"_s);
     m_search->setToolTip(plainToolTip(localized("Upper and lower case matter.")));
-    m_search->setMaximumWidth(searchWidth);
     connect(m_search, &SearchField::searched, &m_model, &HistoryController::controlTextDidChange);
     connect(m_search, &SearchField::typeChosen, &m_model, &HistoryController::setSearchType);
     connect(m_search, &SearchField::left, this, [this] {
@@ -135,7 +134,7 @@ QWidget *HistoryWindow::makeTop()
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Theme::spacing);
     row->addWidget(m_summary, 1);
-    row->addWidget(m_search, 2);
+    row->addWidget(m_search);
     return top;
 }
 
@@ -220,11 +219,14 @@ QWidget *HistoryWindow::makeButtons()
     auto *row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
-    row->addWidget(makeButton(*m_saveAddresses, u"heart"_s, u"quiet"_s));
-    row->addWidget(makeButton(*m_saveNetworks, u"heart"_s, u"quiet"_s));
-    row->addWidget(makeButton(*m_export, u"export"_s, u"quiet"_s));
-    row->addStretch();
-    row->addWidget(makeButton(*m_delete, u"trash"_s, u"danger"_s));
+    // They go below each other where texts are long or large.
+    auto *harmless = new QWidget;
+    auto *flow = new FlowLayout(harmless, 4);
+    flow->addWidget(makeButton(*m_saveAddresses, u"heart"_s, u"quiet"_s));
+    flow->addWidget(makeButton(*m_saveNetworks, u"heart"_s, u"quiet"_s));
+    flow->addWidget(makeButton(*m_export, u"export"_s, u"quiet"_s));
+    row->addWidget(harmless, 1);
+    row->addWidget(makeButton(*m_delete, u"trash"_s, u"danger"_s), 0, Qt::AlignTop);
     return buttons;
 }
 

@@ -13,6 +13,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -21,6 +23,8 @@ namespace {
 
 constexpr int chevronSize = 12;
 constexpr int edge = 3; ///< between a button and the field's outline
+constexpr int usualWidth = 300;
+constexpr int ownPadding = 12; ///< outline and padding of the field's look
 constexpr int lensWidth = Theme::target;
 constexpr int lensAndChevronWidth = Theme::inlineIconSize + chevronSize + 14;
 
@@ -62,6 +66,7 @@ private:
 
 SearchField::SearchField(const Theme &theme, QWidget *parent)
     : QLineEdit(parent)
+    , m_theme(theme)
     , m_lens(new LensButton(theme, this))
     , m_clear(new QToolButton(this))
     , m_menu(new QMenu(this))
@@ -86,14 +91,43 @@ SearchField::SearchField(const Theme &theme, QWidget *parent)
     connect(this, &QLineEdit::textEdited, this, &SearchField::searched);
     connect(this, &QLineEdit::textChanged, this,
         [this](const QString &now) { m_clear->setVisible(!now.isEmpty()); });
+    connect(&theme, &Theme::changed, this, qOverload<>(&QWidget::update));
     connect(&theme, &Theme::changed, m_lens, qOverload<>(&QWidget::update));
     place();
 }
 
 void SearchField::setTitle(const QString &title)
 {
-    setPlaceholderText(plainLine(title));
+    if (title == m_title) {
+        return;
+    }
+    m_title = title;
     setAccessibleName(plainLine(title));
+    updateGeometry();
+    update();
+}
+
+QSize SearchField::sizeHint() const
+{
+    const QMargins margins = textMargins();
+    const int wanted = fontMetrics().horizontalAdvance(plainLine(m_title)) + margins.left() +
+                       margins.right() + 2 * ownPadding + 8;
+    return {std::max(usualWidth, wanted), QLineEdit::sizeHint().height()};
+}
+
+void SearchField::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    if (!text().isEmpty()) {
+        return;
+    }
+    // Qt draws what stands in an empty field too pale to be read where a style sheet gives the
+    // field its color.
+    const QRect room = rect().marginsRemoved(textMargins()).adjusted(ownPadding, 0, -ownPadding, 0);
+    QPainter painter(this);
+    painter.setPen(isEnabled() ? m_theme.colors().mutedText : m_theme.colors().disabledText);
+    painter.drawText(room, int(Qt::AlignVCenter | Qt::AlignLeading),
+        fontMetrics().elidedText(plainLine(m_title), Qt::ElideRight, room.width()));
 }
 
 void SearchField::setTypes(const QList<Type> &types, const QString &chosen)
@@ -137,7 +171,6 @@ void SearchField::clearByUser()
         // So that it can be undone, as if it had been erased.
         selectAll();
         del();
-        Q_EMIT searched(QString());
     }
 }
 
@@ -179,10 +212,8 @@ void SearchField::place()
     };
     put(m_lens, {edge, edge, lens, high});
     put(m_clear, {width() - edge - Theme::target, edge, Theme::target, high});
-    // The outline and the padding of the field's look stand there already.
-    constexpr int own = 12;
-    const int start = edge + lens + 4 - own;
-    const int end = edge + Theme::target + 2 - own;
+    const int start = edge + lens + 4 - ownPadding;
+    const int end = edge + Theme::target + 2 - ownPadding;
     setTextMargins(isRightToLeft() ? end : start, 0, isRightToLeft() ? start : end, 0);
 }
 

@@ -30,8 +30,10 @@ public:
 
     /// `title` is what the field is called, and what it says while it is empty.
     void setTitle(const QString &title);
+    const QString &title() const { return m_title; }
     /// Without types there is no menu.
     void setTypes(const QList<Type> &types, const QString &chosen);
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /// Each change that the user makes, clearing included.
@@ -41,6 +43,7 @@ Q_SIGNALS:
     void left();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -50,9 +53,11 @@ private:
     void openTypes();
     void place();
 
+    const Theme &m_theme;
     QToolButton *m_lens;
     QToolButton *m_clear;
     QMenu *m_menu;
+    QString m_title;
     QList<Type> m_types;
     QString m_chosen;
 };

@@ -105,6 +105,23 @@ TEST_F(UserInterfaceTest, EveryControlOfTheWindowSaysWhatItIs)
     expectDescribed(*window);
 }
 
+TEST_F(UserInterfaceTest, EveryControlOfTheHistorySaysWhatItIs)
+{
+    features().presence.goTo(Destination::History);
+    machine.scheduler.runPending();
+    QCoreApplication::processEvents();
+    QWidget *history = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        history = widget->objectName() == "history"_L1 ? widget : history;
+    }
+    ASSERT_NE(history, nullptr);
+    expectDescribed(*history);
+    features().history.history.addHistoryItemForDeviceWithNewAddress(u"enp1s0"_s, u"02:00"_s);
+    machine.scheduler.runPending();
+    QCoreApplication::processEvents();
+    expectDescribed(*history);
+}
+
 TEST_F(UserInterfaceTest, EveryControlOfEveryPopoverSaysWhatItIs)
 {
     int opened = 0;
