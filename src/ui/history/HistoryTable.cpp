@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -61,7 +60,6 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(recordHeight);
-    verticalHeader()->setDefaultSectionSize(recordHeight);
     makeColumns();
     connect(&m_controller, &HistoryController::changed, this, &HistoryTable::showOrder);
     connect(&m_controller, &HistoryController::searched, this, [this] { m_fromTop = true; });
@@ -84,14 +82,13 @@ void HistoryTable::makeColumns()
 {
     QHeaderView *head = horizontalHeader();
     head->setObjectName(u"historyHead"_s);
-    head->setFixedHeight(std::max(headHeight, fontMetrics().height() + 12));
     head->setHighlightSections(false);
     head->setSectionsClickable(true);
     head->setSortIndicatorShown(true);
     head->setStretchLastSection(true);
     head->setMinimumSectionSize(48);
     head->setTextElideMode(Qt::ElideRight);
-    setWidths();
+    setMeasures();
     connect(head, &QHeaderView::sectionClicked, this, &HistoryTable::sortByColumn);
     head->viewport()->installEventFilter(this);
 }
@@ -115,9 +112,12 @@ QList<int> HistoryTable::usualWidths() const
     return widths;
 }
 
-void HistoryTable::setWidths()
+void HistoryTable::setMeasures()
 {
-    const QScopedValueRollback mirrors(m_mirrors, true);
+    verticalHeader()->setDefaultSectionSize(
+        std::max(recordHeight, fontMetrics().height() + Theme::spacing));
+    horizontalHeader()->setFixedHeight(
+        std::max(headHeight, fontMetrics().height() + Theme::spacing));
     QList<int> widths = m_controller.columnWidths();
     if (widths.isEmpty()) {
         widths = usualWidths();
@@ -156,7 +156,6 @@ bool HistoryTable::eventFilter(QObject *watched, QEvent *event)
 
 void HistoryTable::fold()
 {
-    const QScopedValueRollback mirrors(m_mirrors, true);
     QList<int> widths = m_controller.columnWidths();
     widths = widths.isEmpty() ? usualWidths() : widths;
     int needed = leastNoteWidth + cellPadding;
@@ -186,7 +185,7 @@ void HistoryTable::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        setWidths();
+        setMeasures();
         fold();
     }
 }
@@ -194,7 +193,6 @@ void HistoryTable::changeEvent(QEvent *event)
 void HistoryTable::showOrder()
 {
     const auto &state = m_controller.state();
-    const QScopedValueRollback mirrors(m_mirrors, true);
     horizontalHeader()->setSortIndicator(
         sectionOf(state.sortColumn), state.isAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
@@ -264,7 +262,8 @@ void HistoryTable::rowsInserted(const QModelIndex &parent, int start, int end)
     if (isAbove) {
         // What is being looked at stays where it is.
         updateGeometries();
-        verticalScrollBar()->setValue(scrolled + (end - start + 1) * recordHeight);
+        verticalScrollBar()->setValue(
+            scrolled + (end - start + 1) * verticalHeader()->defaultSectionSize());
     }
 }
 
@@ -347,6 +346,8 @@ void HistoryTable::closeNote()
         return;
     }
     if (auto *editor = viewport()->findChild<QLineEdit *>(u"noteEditor"_s)) {
+        // What is in it is taken or given up already: losing the keyboard means nothing any more.
+        editor->removeEventFilter(m_delegate);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 }

@@ -19,7 +19,7 @@ class HistoryTable : public QTableView
     Q_OBJECT
 
 public:
-    static constexpr int recordHeight = 32;
+    static constexpr int recordHeight = 32; ///< with usual texts
 
     HistoryTable(HistoryController &controller, const Theme &theme, QWidget *parent = nullptr);
 
@@ -45,7 +45,7 @@ protected:
 private:
     void makeColumns();
     QList<int> usualWidths() const;
-    void setWidths();
+    void setMeasures();
     void rememberWidths();
     void fold();
     void showOrder();
@@ -59,8 +59,7 @@ private:
     HistoryController &m_controller;
     HistoryRows *m_rows;
     HistoryNoteDelegate *m_delegate;
-    bool m_fromTop = true; ///< the next list is another one
-    bool m_mirrors = false;
+    bool m_fromTop = true;        ///< the next list is another one
     QList<qint64> m_selectedKeys; ///< across a reset
     int m_scrolled = 0;
 };
