@@ -840,6 +840,22 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Hardware-Adresse wiederherstellen</translation>
     </message>
     <message>
+        <source>Configure %@</source>
+        <translation>%@ einstellen</translation>
+    </message>
+    <message>
+        <source>The address is now %@.</source>
+        <translation>Die Adresse ist jetzt %@.</translation>
+    </message>
+    <message>
+        <source>The interface is not there</source>
+        <translation>Die Schnittstelle ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Gives the interface its hardware address again</source>
+        <translation>Gibt der Schnittstelle wieder ihre Hardware-Adresse</translation>
+    </message>
+    <message>
         <source>Gives the interface the address back that it was made with</source>
         <translation>Gibt der Schnittstelle die Adresse zurück, mit der sie hergestellt wurde</translation>
     </message>

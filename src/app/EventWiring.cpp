@@ -27,8 +27,8 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
           features.rules.execution, features.rules.evaluation, features.rules.list})
     , m_networkEvents(platform, m_networkChange)
-    , m_countdownAudience(
-          features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
+    , m_countdownAudience(features.rules.timers, features.presence, features.overview,
+          {&features.statusMenu, &features.fileMenu})
     , m_openMenuLimit(platform.scheduler, features.statusMenu)
     , m_observations(platform)
 {
@@ -50,6 +50,7 @@ void EventWiring::connectHelper()
     on(f.helper, &XPCMethods::helperStatusRead, [&f](bool installed) {
         f.mainWindow.setHelperInstalled(installed);
         f.readMe.setHelperInstalled(installed);
+        f.overview.setHelperInstalled(installed);
         f.readMe.readMeReset();
         f.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices, RuleChange::None);
         f.mainWindow.resetInfoButtons();
@@ -216,6 +217,7 @@ void EventWiring::connectNetworkEvents()
         f.devices.driftAlarm.look();
         f.mainWindow.interfacesWereRead();
         f.networks.info.lookForRadio();
+        f.overview.look();
     });
     on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
 }

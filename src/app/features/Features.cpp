@@ -29,6 +29,8 @@ Features::Features(
     , editMenu(history.store)
     , preferencesWindow(platform.settings, platform.notifications)
     , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
+    , overview({platform.settings, platform.scheduler, platform.notifications, devices.table,
+          devices.currentInterface, devices.addressChanger, rules.timers, presence, helper})
 {
 }
 

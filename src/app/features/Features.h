@@ -14,6 +14,7 @@
 #include "presentation/menu/EditMenuModel.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
+#include "presentation/overview/Overview.h"
 #include "presentation/preferences/AdvancedPreferencesModel.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
 #include "presentation/window/MainWindowModel.h"
@@ -45,6 +46,7 @@ struct Features
     EditMenuModel editMenu;
     PreferencesWindowModel preferencesWindow;
     AdvancedPreferencesModel advancedPreferences;
+    Overview overview;
 };
 
 } // namespace quillon
