@@ -840,6 +840,74 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Hardware-Adresse wiederherstellen</translation>
     </message>
     <message>
+        <source>Pause the countdown of %@</source>
+        <translation>Countdown von %@ anhalten</translation>
+    </message>
+    <message>
+        <source>Resume the countdown of %@</source>
+        <translation>Countdown von %@ fortsetzen</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Hardware %@</source>
+        <translation>Hardware %@</translation>
+    </message>
+    <message>
+        <source>Vendor %@</source>
+        <translation>Hersteller %@</translation>
+    </message>
+    <message>
+        <source>Current address</source>
+        <translation>Verwendete Adresse</translation>
+    </message>
+    <message>
+        <source>Interfaces</source>
+        <translation>Schnittstellen</translation>
+    </message>
+    <message>
+        <source>Rules of %@</source>
+        <translation>Regeln von %@</translation>
+    </message>
+    <message>
+        <source>Randomize %@</source>
+        <translation>%@ zufällig ändern</translation>
+    </message>
+    <message>
+        <source>Randomizing %@</source>
+        <translation>%@ wird zufällig geändert</translation>
+    </message>
+    <message>
+        <source>Restore the hardware address of %@</source>
+        <translation>Hardware-Adresse von %@ wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restoring the hardware address of %@</source>
+        <translation>Hardware-Adresse von %@ wird wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Reads the interfaces and their addresses anew</source>
+        <translation>Liest die Schnittstellen und ihre Adressen neu</translation>
+    </message>
+    <message>
+        <source>There are interfaces that are not listed here yet.</source>
+        <translation>Es gibt Schnittstellen, die hier noch nicht stehen.</translation>
+    </message>
+    <message>
+        <source>The list shows the addresses as they were when it was opened.</source>
+        <translation>Die Liste zeigt die Adressen wie beim Öffnen.</translation>
+    </message>
+    <message>
         <source>Configure %@</source>
         <translation>%@ einstellen</translation>
     </message>

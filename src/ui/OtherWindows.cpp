@@ -3,6 +3,7 @@
 #include "ui/OtherWindows.h"
 
 #include "presence/Presence.h"
+#include "presentation/overview/Overview.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
 
 namespace quillon {
@@ -16,6 +17,7 @@ OtherWindows::OtherWindows(const Models &models, const Theme &theme, const Deskt
     connect(&m_models.preferences.window, &PreferencesWindowModel::windowOpened, this,
         &OtherWindows::openPreferences);
     m_models.presence.offer(Destination::SavedItems);
+    m_models.presence.offer(Destination::Overview);
 }
 
 OtherWindows::~OtherWindows() = default;
@@ -24,6 +26,8 @@ void OtherWindows::goTo(Destination destination)
 {
     if (destination == Destination::SavedItems) {
         openSavedItems();
+    } else if (destination == Destination::Overview) {
+        openOverview();
     }
 }
 
@@ -43,6 +47,16 @@ void OtherWindows::openPreferences()
             std::make_unique<PreferencesWindow>(m_models.preferences, m_theme, m_desktop.taskBar);
     }
     m_preferences->bringUp();
+}
+
+void OtherWindows::openOverview()
+{
+    m_models.overview.overview.openOverviewWindow();
+    if (m_overview == nullptr) {
+        m_overview =
+            std::make_unique<OverviewWindow>(m_models.overview, m_theme, m_desktop.taskBar);
+    }
+    m_overview->bringUp();
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 
 #include "presence/Destination.h"
 #include "ui/networks/SavedItemsWindow.h"
+#include "ui/overview/OverviewWindow.h"
 #include "ui/preferences/PreferencesWindow.h"
 
 #include <QObject>
@@ -23,6 +24,7 @@ public:
         Presence &presence;
         SavedItemsWindow::Models savedItems;
         PreferencesWindow::Models preferences;
+        OverviewWindow::Models overview;
     };
     struct Desktop
     {
@@ -37,12 +39,14 @@ private:
     void goTo(Destination destination);
     void openSavedItems();
     void openPreferences();
+    void openOverview();
 
     Models m_models;
     const Theme &m_theme;
     Desktop m_desktop;
     std::unique_ptr<SavedItemsWindow> m_savedItems;
     std::unique_ptr<PreferencesWindow> m_preferences;
+    std::unique_ptr<OverviewWindow> m_overview;
 };
 
 } // namespace quillon

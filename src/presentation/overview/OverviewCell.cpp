@@ -195,7 +195,9 @@ void OverviewCell::fillLine(State &state) const
 {
     state.line = {};
     if (m_live.isUnderWay) {
-        state.line = {LineKind::Hint, localized("Changing…")};
+        // The button that asked for it says so itself.
+        const bool isOwn = m_live.action != OverviewAction::None;
+        state.line = {LineKind::Hint, isOwn ? QString() : localized("Changing…")};
         return;
     }
     const QString now =

@@ -193,7 +193,7 @@ TEST_F(OverviewCellTest, SaysWhyAButtonCannotBeUsed)
     live({.currentAddress = other});
     EXPECT_TRUE(shown().randomize.isEnabled && shown().restore.isEnabled);
     live({.currentAddress = other, .isUnderWay = true, .action = OverviewAction::Restore});
-    EXPECT_EQ(text(OverviewCell::LineKind::Hint), u"Changing…"_s);
+    EXPECT_EQ(text(OverviewCell::LineKind::Hint), QString()) << "its button says it";
     EXPECT_TRUE(shown().restore.isBusy && shown().restore.isEnabled);
     EXPECT_FALSE(shown().randomize.isBusy || shown().randomize.isEnabled);
     EXPECT_EQ(shown().randomize.hint, u"The address is being changed"_s);
