@@ -53,7 +53,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     makeShortcuts(models);
     new FavoriteToast(models.removedInMainWindow, m_theme, desktop.scheduler, &m_mainWindow);
     m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
-    m_mainWindow.putHeaderLast();
+    m_mainWindow.putFooterAndHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&models.window.presence, &Presence::windowClosed, &m_mainWindow, [] {
