@@ -24,7 +24,8 @@ namespace {
 constexpr int gap = Theme::unit;
 constexpr int columnGap = 2 * Theme::unit;
 constexpr int linkDotSize = 10;
-constexpr int leastName = 11; ///< in characters of average width
+/// The name of most interfaces: there is room for it beside the addresses.
+const QString usualName = u"Ethernet · enp1s0"_s;
 const QString widestAddress = u"00:00:00:00:00:00"_s;
 
 void setLook(QLabel &label, const QString &look)
@@ -81,7 +82,7 @@ QWidget *OverviewFacts::makeName()
     auto *lines = makeColumn(name);
     lines->addWidget(m_title);
     lines->addLayout(link);
-    name->setMinimumWidth(leastName * m_title->label().fontMetrics().averageCharWidth());
+    name->setMinimumWidth(m_title->label().fontMetrics().horizontalAdvance(usualName) + 2);
     return name;
 }
 

@@ -170,7 +170,8 @@ void OverviewTableCellView::makeActions()
     m_restore->setIcon(m_theme.icon(u"restore"_s, Theme::Ink::Text));
     m_restore->setFixedSize(Theme::controlHeight, Theme::controlHeight);
     m_restore->setAutoDefault(true);
-    m_configure = makeQuiet(u"configButton"_s, u"collapsed"_s, Theme::iconSize);
+    m_configure = makeQuiet(
+        u"configButton"_s, isRightToLeft() ? u"chevron-left"_s : u"collapsed"_s, Theme::iconSize);
     m_configure->setProperty("look", u"symbol"_s);
     m_configure->setFixedSize(Theme::controlHeight, Theme::controlHeight);
     nameActions();

@@ -32,6 +32,9 @@ void OneLineLabel::setLine(const QString &text)
 
 void OneLineLabel::fit()
 {
+    // On its own it would stand where a text of its language begins.
+    m_label->setAlignment(
+        Qt::AlignAbsolute | Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     const QString line = plainEntry(m_line);
     m_label->setText(plainEntry(m_label->fontMetrics().elidedText(line, m_leftOut, width())));
     m_label->setAccessibleName(line);
