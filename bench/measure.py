@@ -17,6 +17,7 @@ import tempfile
 import time
 
 import end_to_end
+import history_window
 import idle
 import menu
 import peers
@@ -58,6 +59,7 @@ class Bench:
             "peers": self.peers,
             "interfaces": self.many_interfaces,
             "history": self.history,
+            "history-window": self.history_window,
             "vendors": self.vendors,
             "in-process": self.in_process,
         }
@@ -200,6 +202,12 @@ class Bench:
             records.measure(self.report, lambda path: Worker(self.folder, "measure-records", path),
                             command, folder, max(5, self.rounds // 20))
         command.end()
+
+    def history_window(self):
+        with tempfile.TemporaryDirectory(dir=self.settings) as folder:
+            history_window.measure(self.report, lambda path: Worker(self.folder, "measure-history", path),
+                                   lambda path: Worker(self.folder, "measure-records", path),
+                                   folder, max(5, self.rounds // 20))
 
     # The vendor registry
 

@@ -7,6 +7,8 @@
 #include "vendors/VendorFiles.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QStandardPaths>
 
 namespace quillon {
@@ -22,6 +24,20 @@ QString settingsPath(const QString &name)
     return folder + u"/Quillon/"_s + name;
 }
 
+/// What is installed with the program, or made with it in the build folder; "" when it is not
+/// there.
+QString besideProgram(const QString &name)
+{
+    for (const char *const place : {"/../share/quillon4/", "/../data/"}) {
+        const QString path =
+            QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String(place) + name);
+        if (QFile::exists(path)) {
+            return path;
+        }
+    }
+    return {};
+}
+
 Places places()
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -30,6 +46,10 @@ Places places()
         .shippedVendorDatabase = shippedVendorDatabase(QCoreApplication::applicationDirPath()),
         .externalAddressService = QUrl(QStringLiteral("https://" QUILLON_EXTERNAL_ADDRESS_HOST)),
         .vendorRegistry = QUrl(QStringLiteral(QUILLON_REGISTRY_URL)),
+        .licenseFile = besideProgram(u"LICENSE"_s),
+        .version = QCoreApplication::applicationVersion(),
+        .updateFeed = QUrl(QStringLiteral(QUILLON_UPDATE_FEED)),
+        .updateKey = QByteArray::fromBase64(QUILLON_UPDATE_KEY),
     };
 }
 
@@ -44,6 +64,9 @@ DesktopPlatform::DesktopPlatform()
     , m_addressOwners(m_scheduler, m_settings, TakeBackGuard::ownCommand())
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)
+    , m_softwareCenter(QUILLON_IS_PACKAGED)
+    , m_loginItem(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+          AutostartLoginItem::besideProgram(QCoreApplication::applicationDirPath()))
     , m_helperLink(m_random)
 {
 }
@@ -68,7 +91,10 @@ Platform DesktopPlatform::platform()
         .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .softwareCenter = m_softwareCenter,
         .hotKeys = m_hotKeys,
+        .loginItem = m_loginItem,
+        .links = m_links,
         .http = m_http,
         .helperLink = m_helperLink,
         .random = m_random,

@@ -11,7 +11,10 @@
 #include "platform/linux/bus/FreedesktopNotifications.h"
 #include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
+#include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/DesktopHotKeys.h"
+#include "platform/linux/desktop/DesktopLinkOpener.h"
+#include "platform/linux/desktop/DesktopSoftwareCenter.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
@@ -67,7 +70,10 @@ private:
     RfkillRadioSwitch m_radioSwitch;
     Nl80211LocationAuthorization m_location;
     DesktopSystemSettings m_systemSettings;
+    DesktopSoftwareCenter m_softwareCenter;
     DesktopHotKeys m_hotKeys;
+    AutostartLoginItem m_loginItem;
+    DesktopLinkOpener m_links;
     NetworkHttpClient m_http;
     GetrandomSource m_random;
     DBusHelperLink m_helperLink;

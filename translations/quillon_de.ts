@@ -716,14 +716,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Vorherige wiederherstellen</translation>
     </message>
     <message>
-        <source>Folded</source>
-        <translation>Eingeklappt</translation>
-    </message>
-    <message>
-        <source>Unfolded</source>
-        <translation>Ausgeklappt</translation>
-    </message>
-    <message>
         <source>Vendor</source>
         <translation>Hersteller</translation>
     </message>
@@ -840,6 +832,90 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Hardware-Adresse wiederherstellen</translation>
     </message>
     <message>
+        <source>Pause the countdown of %@</source>
+        <translation>Countdown von %@ anhalten</translation>
+    </message>
+    <message>
+        <source>Resume the countdown of %@</source>
+        <translation>Countdown von %@ fortsetzen</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Hardware %@</source>
+        <translation>Hardware %@</translation>
+    </message>
+    <message>
+        <source>Vendor %@</source>
+        <translation>Hersteller %@</translation>
+    </message>
+    <message>
+        <source>Current address</source>
+        <translation>Verwendete Adresse</translation>
+    </message>
+    <message>
+        <source>Interfaces</source>
+        <translation>Schnittstellen</translation>
+    </message>
+    <message>
+        <source>Rules of %@</source>
+        <translation>Regeln von %@</translation>
+    </message>
+    <message>
+        <source>Randomize %@</source>
+        <translation>%@ zufällig ändern</translation>
+    </message>
+    <message>
+        <source>Randomizing %@</source>
+        <translation>%@ wird zufällig geändert</translation>
+    </message>
+    <message>
+        <source>Restore the hardware address of %@</source>
+        <translation>Hardware-Adresse von %@ wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restoring the hardware address of %@</source>
+        <translation>Hardware-Adresse von %@ wird wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Reads the interfaces and their addresses anew</source>
+        <translation>Liest die Schnittstellen und ihre Adressen neu</translation>
+    </message>
+    <message>
+        <source>There are interfaces that are not listed here yet.</source>
+        <translation>Es gibt Schnittstellen, die hier noch nicht stehen.</translation>
+    </message>
+    <message>
+        <source>The list shows the addresses as they were when it was opened.</source>
+        <translation>Die Liste zeigt die Adressen wie beim Öffnen.</translation>
+    </message>
+    <message>
+        <source>Configure %@</source>
+        <translation>%@ einstellen</translation>
+    </message>
+    <message>
+        <source>The address is now %@.</source>
+        <translation>Die Adresse ist jetzt %@.</translation>
+    </message>
+    <message>
+        <source>The interface is not there</source>
+        <translation>Die Schnittstelle ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Gives the interface its hardware address again</source>
+        <translation>Gibt der Schnittstelle wieder ihre Hardware-Adresse</translation>
+    </message>
+    <message>
         <source>Gives the interface the address back that it was made with</source>
         <translation>Gibt der Schnittstelle die Adresse zurück, mit der sie hergestellt wurde</translation>
     </message>
@@ -870,6 +946,114 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Version</source>
         <translation>Version</translation>
+    </message>
+    <message>
+        <source>Daily</source>
+        <translation>Täglich</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Wöchentlich</translation>
+    </message>
+    <message>
+        <source>Monthly</source>
+        <translation>Monatlich</translation>
+    </message>
+    <message>
+        <source>The internet cannot be reached now.</source>
+        <translation>Das Internet ist jetzt nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The place to look at is not an https address.</source>
+        <translation>Der Ort, an dem gesucht werden soll, ist keine https-Adresse.</translation>
+    </message>
+    <message>
+        <source>The list of versions could not be fetched.</source>
+        <translation>Die Liste der Versionen konnte nicht geholt werden.</translation>
+    </message>
+    <message>
+        <source>What came is not from the authors of Quillon and was not used.</source>
+        <translation>Was kam, ist nicht von den Autoren von Quillon und wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>The list of versions that came is out of date and was not used.</source>
+        <translation>Die Liste der Versionen, die kam, ist veraltet und wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Last checked: %@</source>
+        <translation>Zuletzt gesucht: %@</translation>
+    </message>
+    <message>
+        <source>Not checked yet.</source>
+        <translation>Noch nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>Quillon %@ is available</source>
+        <translation>Quillon %@ ist da</translation>
+    </message>
+    <message>
+        <source>This is version %@.</source>
+        <translation>Dies ist Version %@.</translation>
+    </message>
+    <message>
+        <source>Quillon %@ is the newest version.</source>
+        <translation>Quillon %@ ist die neueste Version.</translation>
+    </message>
+    <message>
+        <source>No browser could be opened.</source>
+        <translation>Es konnte kein Browser geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Open Page</source>
+        <translation>Seite öffnen</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Was neu ist</translation>
+    </message>
+    <message>
+        <source>Show it in the software center, or in the browser</source>
+        <translation>In der Softwareverwaltung oder im Browser zeigen</translation>
+    </message>
+    <message>
+        <source>Check for new versions</source>
+        <translation>Nach neuen Versionen suchen</translation>
+    </message>
+    <message>
+        <source>Open a new version&apos;s page</source>
+        <translation>Seite einer neuen Version öffnen</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>This copy of Quillon does not look for new versions.</source>
+        <translation>Dieses Quillon sucht nicht nach neuen Versionen.</translation>
+    </message>
+    <message>
+        <source>Your system&apos;s software updates bring new versions.</source>
+        <translation>Neue Versionen kommen mit den Aktualisierungen des Systems.</translation>
+    </message>
+    <message>
+        <source>How often</source>
+        <translation>Wie oft</translation>
+    </message>
+    <message>
+        <source>At once, in the software center or the browser. Quillon itself downloads and installs nothing.</source>
+        <translation>Sofort, in der Softwareverwaltung oder im Browser. Quillon selbst lädt und installiert nichts.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird gesucht…</translation>
+    </message>
+    <message>
+        <source>Only while Quillon checks by itself</source>
+        <translation>Nur wenn Quillon selbst danach sucht</translation>
+    </message>
+    <message>
+        <source>What is new is in Preferences › Updates.</source>
+        <translation>Was neu ist, steht unter Einstellungen › Aktualisierungen.</translation>
     </message>
     <message>
         <source>The helper is not installed</source>
@@ -1032,14 +1216,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Countdown fortgesetzt</translation>
     </message>
     <message>
-        <source>Cancel the download of vendors</source>
-        <translation>Herunterladen der Hersteller abbrechen</translation>
-    </message>
-    <message>
-        <source>Download the list of vendors</source>
-        <translation>Liste der Hersteller herunterladen</translation>
-    </message>
-    <message>
         <source>Applying…</source>
         <translation>Wird angewendet…</translation>
     </message>
@@ -1110,6 +1286,734 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>About</source>
         <translation>Über</translation>
+    </message>
+    <message>
+        <source>Any Network</source>
+        <translation>Jedes Netzwerk</translation>
+    </message>
+    <message>
+        <source>An Unknown Network</source>
+        <translation>Ein unbekanntes Netzwerk</translation>
+    </message>
+    <message>
+        <source>%@ is not saved: press its heart first.</source>
+        <translation>%@ ist nicht gespeichert: Klicken Sie erst auf das Herz.</translation>
+    </message>
+    <message>
+        <source>The rule was made for %@, which is not here any more.</source>
+        <translation>Die Regel war für %@, das es hier nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>The rule was made for %@, which is not saved any more.</source>
+        <translation>Die Regel war für %@, das nicht mehr gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>The rule that was open is not there any more.</source>
+        <translation>Die geöffnete Regel gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Another rule for this interface and network was switched off: only one can be on.</source>
+        <translation>Eine andere Regel für diese Schnittstelle und dieses Netzwerk wurde ausgeschaltet: Nur eine kann eingeschaltet sein.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: it was made first.</source>
+        <translation>Stattdessen gilt „%@“: Sie wurde zuerst angelegt.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: this network is not saved.</source>
+        <translation>Stattdessen gilt „%@“: Dieses Netzwerk ist nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>“%@” is in force instead: it was made for this network.</source>
+        <translation>Stattdessen gilt „%@“: Sie wurde für dieses Netzwerk angelegt.</translation>
+    </message>
+    <message>
+        <source>Not in force: %@ is on no network.</source>
+        <translation>Gilt nicht: %@ ist in keinem Netzwerk.</translation>
+    </message>
+    <message>
+        <source>Not in force: the network in use is saved.</source>
+        <translation>Gilt nicht: Das verwendete Netzwerk ist gespeichert.</translation>
+    </message>
+    <message>
+        <source>Not in force: another network is in use.</source>
+        <translation>Gilt nicht: Es wird ein anderes Netzwerk verwendet.</translation>
+    </message>
+    <message>
+        <source>Not in force: it is switched off.</source>
+        <translation>Gilt nicht: Sie ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Not in force: %@ is not here.</source>
+        <translation>Gilt nicht: %@ ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Not in force: login rules do not act on Wi-Fi.</source>
+        <translation>Gilt nicht: Anmelderegeln wirken nicht auf WLAN.</translation>
+    </message>
+    <message>
+        <source>In force: it acts when Quillon is started at login.</source>
+        <translation>Gilt: Sie wirkt, wenn Quillon bei der Anmeldung gestartet wird.</translation>
+    </message>
+    <message>
+        <source>In force now.</source>
+        <translation>Gilt jetzt.</translation>
+    </message>
+    <message>
+        <source>In force, but %@ is not connected.</source>
+        <translation>Gilt, aber %@ ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>Not in force now.</source>
+        <translation>Gilt jetzt nicht.</translation>
+    </message>
+    <message>
+        <source>On %@, leave %@ as it is.</source>
+        <translation>In %@ bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On any network, leave %@ as it is.</source>
+        <translation>In jedem Netzwerk bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, leave %@ as it is.</source>
+        <translation>In einem unbekannten Netzwerk bleibt %@, wie es ist.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a random address once.</source>
+        <translation>In %@ erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a random address once.</source>
+        <translation>In jedem Netzwerk erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a random address once.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ einmal eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ a random address.</source>
+        <translation>Bei der Anmeldung erhält %@ eine zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a random address by %@ once.</source>
+        <translation>In %@ erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a random address by %@ once.</source>
+        <translation>In jedem Netzwerk erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a random address by %@ once.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ einmal eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ a random address by %@.</source>
+        <translation>Bei der Anmeldung erhält %@ eine zufällige Adresse von %@.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a new random address every minute.</source>
+        <translation>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every minute.</source>
+        <translation>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every minute.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a new random address every %@ minutes.</source>
+        <translation>In %@ erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every %@ minutes.</source>
+        <translation>In jedem Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every %@ minutes.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ the address %@.</source>
+        <translation>In %@ erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ the address %@.</source>
+        <translation>In jedem Netzwerk erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ the address %@.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>At login, give %@ the address %@.</source>
+        <translation>Bei der Anmeldung erhält %@ die Adresse %@.</translation>
+    </message>
+    <message>
+        <source>Rule deleted</source>
+        <translation>Regel gelöscht</translation>
+    </message>
+    <message>
+        <source>%d rules deleted</source>
+        <translation>%d Regeln gelöscht</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Save Rule</source>
+        <translation>Regel sichern</translation>
+    </message>
+    <message>
+        <source>Do Nothing</source>
+        <translation>Nichts tun</translation>
+    </message>
+    <message>
+        <source>Change Address</source>
+        <translation>Adresse ändern</translation>
+    </message>
+    <message>
+        <source>Once</source>
+        <translation>Einmal</translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>New Random Address</source>
+        <translation>Neue zufällige Adresse</translation>
+    </message>
+    <message>
+        <source>Makes a random address, saves it, and uses it whenever the rule acts</source>
+        <translation>Erzeugt eine zufällige Adresse, speichert sie und verwendet sie immer, wenn die Regel wirkt</translation>
+    </message>
+    <message>
+        <source>New rules start switched off.</source>
+        <translation>Neue Regeln sind zunächst ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Press Return to rename the rule</source>
+        <translation>Mit der Eingabetaste wird die Regel umbenannt</translation>
+    </message>
+    <message>
+        <source>Rules change the address when you join a network.</source>
+        <translation>Regeln ändern die Adresse, wenn Sie sich mit einem Netzwerk verbinden.</translation>
+    </message>
+    <message>
+        <source>New Network Rule</source>
+        <translation>Neue Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>Network Rule</source>
+        <translation>Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>New network rule</source>
+        <translation>Neue Netzwerkregel</translation>
+    </message>
+    <message>
+        <source>Login Rule</source>
+        <translation>Anmelderegel</translation>
+    </message>
+    <message>
+        <source>New login rule</source>
+        <translation>Neue Anmelderegel</translation>
+    </message>
+    <message>
+        <source>Edit the rule (Return)</source>
+        <translation>Die Regel bearbeiten (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate the rules (Ctrl+D)</source>
+        <translation>Die Regeln duplizieren (Strg+D)</translation>
+    </message>
+    <message>
+        <source>Delete the rules (Delete)</source>
+        <translation>Die Regeln löschen (Entf)</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>No name</source>
+        <translation>Kein Name</translation>
+    </message>
+    <message>
+        <source>Saved Items</source>
+        <translation>Gespeichertes</translation>
+    </message>
+    <message>
+        <source>Only a random address has a vendor</source>
+        <translation>Nur eine zufällige Adresse hat einen Hersteller</translation>
+    </message>
+    <message>
+        <source>Starts Quillon when you log in</source>
+        <translation>Startet Quillon bei der Anmeldung</translation>
+    </message>
+    <message>
+        <source>Read the License</source>
+        <translation>Lizenz lesen</translation>
+    </message>
+    <message>
+        <source>The License on the Web</source>
+        <translation>Die Lizenz im Web</translation>
+    </message>
+    <message>
+        <source>Where Vendors Are Registered</source>
+        <translation>Wo Hersteller eingetragen sind</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or any later version. It comes without any warranty.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder jede spätere Version. Sie kommt ohne jede Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>No program here opens %@</source>
+        <translation>Kein Programm hier öffnet %@</translation>
+    </message>
+    <message>
+        <source>Helper: installed, version %@</source>
+        <translation>Hilfsprogramm: installiert, Version %@</translation>
+    </message>
+    <message>
+        <source>Helper: not installed</source>
+        <translation>Hilfsprogramm: nicht installiert</translation>
+    </message>
+    <message>
+        <source>Helper: outdated, version %@</source>
+        <translation>Hilfsprogramm: veraltet, Version %@</translation>
+    </message>
+    <message>
+        <source>No account yet: there is nowhere to sync with.</source>
+        <translation>Noch kein Konto: Es gibt nichts, womit abgeglichen werden könnte.</translation>
+    </message>
+    <message>
+        <source>Not while this desktop shows no status items.</source>
+        <translation>Nicht, solange diese Arbeitsumgebung keine Statussymbole zeigt.</translation>
+    </message>
+    <message>
+        <source>Only with the icon in the status bar.</source>
+        <translation>Nur mit dem Symbol in der Statusleiste.</translation>
+    </message>
+    <message>
+        <source>no program that is known</source>
+        <translation>kein bekanntes Programm</translation>
+    </message>
+    <message>
+        <source>This desktop does not start programs at login by itself.</source>
+        <translation>Diese Arbeitsumgebung startet von sich aus keine Programme bei der Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Whether this desktop starts programs at login cannot be told from here.</source>
+        <translation>Ob diese Arbeitsumgebung Programme bei der Anmeldung startet, lässt sich von hier aus nicht sagen.</translation>
+    </message>
+    <message>
+        <source>The program that starts Quillon at login is not installed.</source>
+        <translation>Das Programm, das Quillon bei der Anmeldung startet, ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The autostart entry could not be written.</source>
+        <translation>Der Autostart-Eintrag konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The autostart entry could not be removed.</source>
+        <translation>Der Autostart-Eintrag konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The desktop has Quillon switched off in its own list. Switch this off and on again to have it started.</source>
+        <translation>Die Arbeitsumgebung hat Quillon in ihrer eigenen Liste ausgeschaltet. Schalten Sie dies aus und wieder ein, damit es gestartet wird.</translation>
+    </message>
+    <message>
+        <source>There is an autostart entry of your own: it is left as it is.</source>
+        <translation>Es gibt einen eigenen Autostart-Eintrag von Ihnen: Er bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>Type a shortcut</source>
+        <translation>Tastenkürzel drücken</translation>
+    </message>
+    <message>
+        <source>Escape keeps the shortcut of before, Backspace clears it.</source>
+        <translation>Escape behält das bisherige Tastenkürzel, die Rücktaste löscht es.</translation>
+    </message>
+    <message>
+        <source>This key cannot be part of a shortcut.</source>
+        <translation>Diese Taste kann nicht zu einem Tastenkürzel gehören.</translation>
+    </message>
+    <message>
+        <source>Record Shortcut</source>
+        <translation>Tastenkürzel aufnehmen</translation>
+    </message>
+    <message>
+        <source>The desktop has the last word: its settings show the keys that act.</source>
+        <translation>Die Arbeitsumgebung hat das letzte Wort: Ihre Einstellungen zeigen die Tasten, die gelten.</translation>
+    </message>
+    <message>
+        <source>“%@” uses this shortcut.</source>
+        <translation>„%@“ verwendet dieses Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>By the Quillon authors</source>
+        <translation>Von den Autoren von Quillon</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Installieren</translation>
+    </message>
+    <message>
+        <source>Uninstall</source>
+        <translation>Deinstallieren</translation>
+    </message>
+    <message>
+        <source>Ask when another program replaces an address</source>
+        <translation>Fragen, wenn ein anderes Programm eine Adresse ersetzt</translation>
+    </message>
+    <message>
+        <source>Who manages each interface</source>
+        <translation>Wer die Schnittstellen verwaltet</translation>
+    </message>
+    <message>
+        <source>Uninstalling…</source>
+        <translation>Wird deinstalliert…</translation>
+    </message>
+    <message>
+        <source>Repeat every %@ minutes by default</source>
+        <translation>Standardmäßig alle %@ Minuten wiederholen</translation>
+    </message>
+    <message>
+        <source>For rules whose own minutes are left empty</source>
+        <translation>Für Regeln, deren eigene Minuten leer sind</translation>
+    </message>
+    <message>
+        <source>Capital letters</source>
+        <translation>Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>Small letters</source>
+        <translation>Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>Letters of addresses</source>
+        <translation>Buchstaben in Adressen</translation>
+    </message>
+    <message>
+        <source>Look up the external address</source>
+        <translation>Externe Adresse nachschlagen</translation>
+    </message>
+    <message>
+        <source>Asks a public service whenever the network changes.</source>
+        <translation>Fragt bei jedem Netzwerkwechsel einen öffentlichen Dienst.</translation>
+    </message>
+    <message>
+        <source>Start Quillon at login</source>
+        <translation>Quillon bei der Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Do not open the window at login</source>
+        <translation>Das Fenster bei der Anmeldung nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Show in the status bar</source>
+        <translation>In der Statusleiste anzeigen</translation>
+    </message>
+    <message>
+        <source>Hide from the task bar</source>
+        <translation>In der Taskleiste ausblenden</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Benachrichtigungen anzeigen</translation>
+    </message>
+    <message>
+        <source>Shortcuts that work in every window</source>
+        <translation>Tastenkürzel, die in jedem Fenster gelten</translation>
+    </message>
+    <message>
+        <source>Sync settings, rules and history</source>
+        <translation>Einstellungen, Regeln und Verlauf abgleichen</translation>
+    </message>
+    <message>
+        <source>Shortcut for “%@”</source>
+        <translation>Tastenkürzel für „%@“</translation>
+    </message>
+    <message>
+        <source>Clear the shortcut for “%@”</source>
+        <translation>Tastenkürzel für „%@“ löschen</translation>
+    </message>
+    <message>
+        <source>Open the preferences where the list of vendors is downloaded</source>
+        <translation>Die Einstellungen öffnen, in denen die Liste der Hersteller geladen wird</translation>
+    </message>
+    <message>
+        <source>This is no file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The record has been deleted.</source>
+        <translation>Der Eintrag wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Wird exportiert…</translation>
+    </message>
+    <message>
+        <source>%@ exported</source>
+        <translation>%@ exportiert</translation>
+    </message>
+    <message>
+        <source>The file could not be written. %@</source>
+        <translation>Die Datei konnte nicht geschrieben werden. %@</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Wird gesucht…</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>%@ ausgewählt</translation>
+    </message>
+    <message>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <source>Nothing contains “%@”. Upper and lower case matter.</source>
+        <translation>Nichts enthält „%@“. Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>Every address change is listed here.</source>
+        <translation>Jede Änderung einer Adresse wird hier aufgelistet.</translation>
+    </message>
+    <message>
+        <source>Select at most %@ to save them.</source>
+        <translation>Zum Speichern höchstens %@ auswählen.</translation>
+    </message>
+    <message>
+        <source>Deleting…</source>
+        <translation>Wird gelöscht…</translation>
+    </message>
+    <message>
+        <source>Record deleted</source>
+        <translation>Eintrag gelöscht</translation>
+    </message>
+    <message>
+        <source>%@ records deleted</source>
+        <translation>%@ Einträge gelöscht</translation>
+    </message>
+    <message>
+        <source>The records could not be deleted.</source>
+        <translation>Die Einträge konnten nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Delete %@?</source>
+        <translation>%@ löschen?</translation>
+    </message>
+    <message>
+        <source>So many records at once cannot be brought back.</source>
+        <translation>So viele Einträge auf einmal lassen sich nicht wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>Today %@</source>
+        <translation>Heute %@</translation>
+    </message>
+    <message>
+        <source>Yesterday %@</source>
+        <translation>Gestern %@</translation>
+    </message>
+    <message>
+        <source>MMM d, yyyy</source>
+        <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>%@ %@</source>
+        <translation>%@ %@</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Search All Fields</source>
+        <translation>Alle Felder durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Devices</source>
+        <translation>Geräte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Interfaces</source>
+        <translation>Schnittstellen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Addresses</source>
+        <translation>Adressen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Network Names</source>
+        <translation>Netzwerknamen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search BSSIDs</source>
+        <translation>BSSIDs durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search Notes</source>
+        <translation>Notizen durchsuchen</translation>
+    </message>
+    <message>
+        <source>%@ was given %@.</source>
+        <translation>%@ erhielt %@.</translation>
+    </message>
+    <message>
+        <source>%@ (%@) was given %@.</source>
+        <translation>%@ (%@) erhielt %@.</translation>
+    </message>
+    <message>
+        <source>%@ (%@) was given %@ on %@.</source>
+        <translation>%@ (%@) erhielt %@ im Netzwerk %@.</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ records</source>
+        <translation>%@ Einträge</translation>
+    </message>
+    <message>
+        <source>%@ of 1 record</source>
+        <translation>%@ von 1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ of %@ records</source>
+        <translation>%@ von %@ Einträgen</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Return saves the note, Escape gives it up.</source>
+        <translation>Die Eingabetaste sichert die Notiz, Escape verwirft sie.</translation>
+    </message>
+    <message>
+        <source>F2 edits the note, Delete deletes.</source>
+        <translation>F2 bearbeitet die Notiz, Entf löscht.</translation>
+    </message>
+    <message>
+        <source>Adds the addresses of the selected records to the saved ones.</source>
+        <translation>Nimmt die Adressen der ausgewählten Einträge in die gespeicherten auf.</translation>
+    </message>
+    <message>
+        <source>Adds the networks of the selected records to the saved ones.</source>
+        <translation>Nimmt die Netzwerke der ausgewählten Einträge in die gespeicherten auf.</translation>
+    </message>
+    <message>
+        <source>Save Addresses</source>
+        <translation>Adressen speichern</translation>
+    </message>
+    <message>
+        <source>Save Networks</source>
+        <translation>Netzwerke speichern</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes what is listed into a file that spreadsheets read.</source>
+        <translation>Schreibt die Liste in eine Datei, die Tabellenprogramme lesen.</translation>
+    </message>
+    <message>
+        <source>Deletes the selected records.</source>
+        <translation>Löscht die ausgewählten Einträge.</translation>
+    </message>
+    <message>
+        <source>Upper and lower case matter.</source>
+        <translation>Groß- und Kleinschreibung zählt.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>What is done stays done.</source>
+        <translation>Was getan ist, bleibt getan.</translation>
+    </message>
+    <message>
+        <source>Edit Note</source>
+        <translation>Notiz bearbeiten</translation>
+    </message>
+    <message>
+        <source>Sort By</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Reverse Order</source>
+        <translation>Reihenfolge umkehren</translation>
+    </message>
+    <message>
+        <source>Export History</source>
+        <translation>Verlauf exportieren</translation>
+    </message>
+    <message>
+        <source>Clear Search</source>
+        <translation>Suche löschen</translation>
+    </message>
+    <message>
+        <source>What to search</source>
+        <translation>Was durchsucht wird</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Edit Rules</source>
+        <translation>Regeln bearbeiten</translation>
+    </message>
+    <message>
+        <source>Opens the rule editor</source>
+        <translation>Öffnet die Bearbeitung der Regeln</translation>
     </message>
 </context>
 </TS>

@@ -4,16 +4,19 @@
 
 #include "presence/Presence.h"
 #include "presentation/menu/MenuModel.h"
+#include "presentation/overview/Overview.h"
 #include "rules/CountdownTimers.h"
 
 namespace quillon {
 
-CountdownAudience::CountdownAudience(
-    CountdownTimers &timers, const Presence &presence, std::initializer_list<MenuModel *> menus)
+CountdownAudience::CountdownAudience(CountdownTimers &timers, const Presence &presence,
+    const Overview &overview, std::initializer_list<MenuModel *> menus)
     : m_timers(timers)
     , m_presence(presence)
+    , m_overview(overview)
 {
     connect(&presence, &Presence::windowInSightChanged, this, &CountdownAudience::follow);
+    connect(&overview, &Overview::inSightChanged, this, &CountdownAudience::follow);
     for (const MenuModel *menu : menus) {
         connect(menu, &MenuModel::willOpen, this, [this, menu] {
             m_openMenus.insert(menu);
@@ -28,7 +31,8 @@ CountdownAudience::CountdownAudience(
 
 void CountdownAudience::follow()
 {
-    m_timers.setWatched(m_presence.isWindowInSight() || !m_openMenus.isEmpty());
+    m_timers.setWatched(
+        m_presence.isWindowInSight() || m_overview.isInSight() || !m_openMenus.isEmpty());
 }
 
 } // namespace quillon

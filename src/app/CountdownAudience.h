@@ -11,15 +11,16 @@ namespace quillon {
 
 class CountdownTimers;
 class MenuModel;
+class Overview;
 class Presence;
 
-/// Lets countdowns tick only while the window or a menu can show them. Main thread.
+/// Lets countdowns tick only while the window, the overview or a menu can show them. Main thread.
 class CountdownAudience : public QObject
 {
     Q_OBJECT
 
 public:
-    CountdownAudience(CountdownTimers &timers, const Presence &presence,
+    CountdownAudience(CountdownTimers &timers, const Presence &presence, const Overview &overview,
         std::initializer_list<MenuModel *> menus);
 
 private:
@@ -27,6 +28,7 @@ private:
 
     CountdownTimers &m_timers;
     const Presence &m_presence;
+    const Overview &m_overview;
     QSet<const MenuModel *> m_openMenus;
 };
 

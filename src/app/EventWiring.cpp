@@ -27,8 +27,8 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
           features.networks.wifi, features.devices.currentInterface, platform.reachability,
           features.rules.execution, features.rules.evaluation, features.rules.list})
     , m_networkEvents(platform, m_networkChange)
-    , m_countdownAudience(
-          features.rules.timers, features.presence, {&features.statusMenu, &features.fileMenu})
+    , m_countdownAudience(features.rules.timers, features.presence, features.overview,
+          {&features.statusMenu, &features.fileMenu})
     , m_openMenuLimit(platform.scheduler, features.statusMenu)
     , m_observations(platform)
 {
@@ -36,11 +36,13 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectSelection();
     connectAddressChange();
     connectRules();
+    connectRuleEditor();
     connectRecords();
     connectNetworks();
     connectNetworkEvents();
     connectVendorData();
     connectVendorField();
+    connectUpdates();
     connectProgram();
 }
 
@@ -50,6 +52,7 @@ void EventWiring::connectHelper()
     on(f.helper, &XPCMethods::helperStatusRead, [&f](bool installed) {
         f.mainWindow.setHelperInstalled(installed);
         f.readMe.setHelperInstalled(installed);
+        f.overview.setHelperInstalled(installed);
         f.readMe.readMeReset();
         f.rules.evaluation.checkDeviceForCurrentRuleAndChange(allDevices, RuleChange::None);
         f.mainWindow.resetInfoButtons();
@@ -159,6 +162,28 @@ void EventWiring::connectRules()
     });
 }
 
+void EventWiring::connectRuleEditor()
+{
+    RuleFeature &rules = m_features.rules;
+    VendorFeature &vendors = m_features.vendors;
+    on(rules.switches, &RuleSwitches::ruleSwitched, [&rules] { rules.table.reload(); });
+    on(rules.editing, &RuleEditing::rulesRenamed, [&rules] { rules.list.reload(); });
+    on(rules.form, &RuleFormModel::changed, [&rules, &vendors] {
+        vendors.ruleVendor.setCanChoose(rules.form.state().canSelectVendor);
+    });
+    on(rules.form, &RuleFormModel::vendorFilled, [&vendors](const QString &vendor) {
+        vendors.ruleField.giveUpTyping();
+        vendors.ruleVendor.updateVendorSelection(vendor);
+    });
+    on(vendors.ruleVendor, &RuleVendor::vendorFieldUpdated,
+        [&vendors](const QString &text) { vendors.ruleField.showText(text); });
+    on(vendors.ruleVendor, &RuleVendor::vendorSelected,
+        [&vendors](const QString &entry) { vendors.ruleField.selectEntry(entry); });
+    on(vendors.ruleList, &VendorList::rearranged, [&vendors] { vendors.ruleField.rearrange(); });
+    on(vendors.ruleField, &VendorFieldModel::changed,
+        [&rules, &vendors] { rules.form.setVendor(vendors.ruleField.state().text); });
+}
+
 void EventWiring::connectRecords()
 {
     RuleFeature &rules = m_features.rules;
@@ -167,6 +192,7 @@ void EventWiring::connectRecords()
     on(store, &RecordStore::objectsDidChange, [&rules, &editMenu](const ObjectsDidChange &change) {
         rules.invariants.contextDidChange(change);
         rules.list.reloadAfter(change);
+        rules.table.reloadAfter(change);
         if (change.isUndone) {
             // What they say is in force is shown; an address that they gave stays.
             rules.evaluation.rulesWereChanged();
@@ -179,9 +205,12 @@ void EventWiring::connectRecords()
     on(rules.invariants, &RuleInvariants::rulesCorrected, [&rules] { rules.list.reload(); });
     m_observations.onBroadcast(notifications::updateNamesArray,
         [&rules](const auto &) { rules.queries.updateNamesArray(); });
+    m_observations.onBroadcast(
+        notifications::ruleTable, [&rules](const auto &) { rules.preferences.updateRuleTable(); });
     const auto showOtherRecords = [&rules, &editMenu] {
         rules.queries.updateNamesArray();
         rules.list.reload();
+        rules.table.reload();
         editMenu.refresh();
     };
     on(store, &RecordStore::recordsMerged, showOtherRecords);
@@ -216,8 +245,13 @@ void EventWiring::connectNetworkEvents()
         f.devices.driftAlarm.look();
         f.mainWindow.interfacesWereRead();
         f.networks.info.lookForRadio();
+        f.overview.look();
+        f.preferences.owners.interfacesWereRead();
     });
-    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] { f.statusMenu.menuNeedsUpdate(); });
+    on(m_networkEvents, &NetworkEvents::eventEnded, [&f] {
+        f.statusMenu.menuNeedsUpdate();
+        f.updates.updater.networkChanged();
+    });
 }
 
 void EventWiring::connectVendorData()
@@ -268,6 +302,12 @@ void EventWiring::connectVendorField()
         [&vendors](bool shown) { vendors.info.showVendorButton(shown); });
 }
 
+void EventWiring::connectUpdates()
+{
+    UpdateFeature &updates = m_features.updates;
+    on(updates.updater, &Updater::changed, [&updates] { updates.pane.refresh(); });
+}
+
 void EventWiring::connectProgram()
 {
     Features &f = m_features;
@@ -275,8 +315,10 @@ void EventWiring::connectProgram()
         f.statusMenu.menuNeedsUpdate();
         f.fileMenu.menuNeedsUpdate();
     });
-    on(f.presence, &Presence::destinationChosen,
-        [&f](Destination destination) { f.preferencesWindow.goTo(destination); });
+    on(f.presence, &Presence::destinationChosen, [&f](Destination destination) {
+        f.preferencesWindow.goTo(destination);
+        f.rules.preferences.goTo(destination);
+    });
     on(f.presence, &Presence::reachChanged, [&f] { f.statusItemAbsence.look(); });
     on(f.presence, &Presence::terminated, [this] { m_termination.terminate(); });
 }
@@ -299,7 +341,8 @@ void EventWiring::observeSettings()
     m_observations.onSetting(
         keys::lowerCaseHEX, [&f] { f.devices.currentInterface.updateHexValues(); });
     m_observations.onSetting(keys::currentInterfaceDict, [&f] { f.mainWindow.populateHexField(); });
-    m_observations.onSetting(keys::loginStart, [this] {
+    m_observations.onSetting(keys::loginStart, [this, &f] {
+        f.preferences.loginController.updateLogin();
         m_platform.scheduler.onMainAfter(
             terminateLoginHelperDelay, this, [this] { postTerminateLoginHelper(); });
     });
@@ -316,6 +359,10 @@ void EventWiring::observeSettings()
         keys::savedAddresses, [&f] { f.networks.savedLists.updateQuickAddressesField(); });
     m_observations.onSetting(keys::shouldUpdateExternalIP,
         [&f] { f.networks.externalAddress.updateExternalIPAddress(false); });
+    for (const QString &key : {keys::SUEnableAutomaticChecks, keys::SUScheduledCheckInterval,
+             keys::SUAutomaticallyUpdate, keys::SUFeedURL}) {
+        m_observations.onSetting(key, [&f] { f.updates.updater.settingsChanged(); });
+    }
     m_observations.onSetting(
         keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
 }
@@ -336,15 +383,27 @@ void EventWiring::observeBroadcasts()
         m_platform.scheduler.onMain(this, [this] { m_features.statusMenu.menuNeedsUpdate(); });
     });
     m_observations.onBroadcast(notifications::helperStatusChanged, [&f](const auto &) {
-        f.advancedPreferences.checkButtonStatus();
+        f.preferences.advanced.checkButtonStatus();
+        f.preferences.general.refreshKeyButtons();
         f.statusMenu.menuNeedsUpdate();
     });
     m_observations.onBroadcast(notifications::changePrefsTab,
         [&f](const auto &posted) { f.preferencesWindow.changePrefsTab(posted.userInfo); });
-    m_observations.onBroadcast(notifications::closeVendorViewPopover,
-        [&f](const auto &) { f.vendors.field.closeVendorViewPopover(); });
-    m_observations.onBroadcast(notifications::toggleCheckbox,
-        [&f](const auto &toggled) { f.rules.switches.toggleRule(toggled.userInfo); });
+    m_observations.onBroadcast(notifications::changeRulesTab,
+        [&f](const auto &) { f.rules.preferences.setTabViewIndex(); });
+    m_observations.onBroadcast(notifications::closeVendorViewPopover, [&f](const auto &) {
+        f.vendors.field.closeVendorViewPopover();
+        f.vendors.ruleField.closeVendorViewPopover();
+    });
+    // One click is handled by both: the editor finds the rule switched already.
+    m_observations.onBroadcast(notifications::toggleCheckbox, [&f](const auto &toggled) {
+        f.rules.switches.toggleRule(toggled.userInfo);
+        f.rules.preferences.toggleRule(toggled.userInfo);
+    });
+    m_observations.onBroadcast(notifications::showNetworkWarning,
+        [&f](const auto &) { f.rules.preferences.showNetworkWarning(); });
+    m_observations.onBroadcast(
+        notifications::icloudUpdated, [&f](const auto &) { f.preferences.general.refreshView(); });
 
     m_observations.onBroadcastOfOthers(notifications::helperUpdated,
         notifications::helperUpdatedObject, [&f] { f.helper.updateHelperInstalledStatus(); });

@@ -35,11 +35,13 @@ private:
     void connectSelection();
     void connectAddressChange();
     void connectRules();
+    void connectRuleEditor();
     void connectRecords();
     void connectNetworks();
     void connectNetworkEvents();
     void connectVendorData();
     void connectVendorField();
+    void connectUpdates();
     void connectProgram();
     void observeSettings();
     void observeBroadcasts();

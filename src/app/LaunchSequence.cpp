@@ -60,6 +60,10 @@ void LaunchSequence::applicationDidFinishLaunching()
         m_features.networks.externalAddress.saveExternalIPAddress(localized("Unknown..."));
     }
     m_features.presence.showMenuBarItem(settings.getBool(keys::showInMenu));
+    if (settings.getBool(keys::loginStart)) {
+        m_features.preferences.loginController.initLoginController();
+        m_features.preferences.loginController.updateLogin();
+    }
     m_userNotifications.setupNotificationCenter();
 
     const bool hideOnLaunch = settings.getBool(keys::hideOnLaunch);
@@ -104,6 +108,7 @@ void LaunchSequence::startup()
     f.networks.externalAddress.updateExternalIPAddress(false);
     m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });
     f.statusItemAbsence.begin();
+    f.updates.updater.begin();
 }
 
 void LaunchSequence::checkRules()

@@ -15,5 +15,6 @@ Q_LOGGING_CATEGORY(logNetworks, "quillon.networks", QtWarningMsg)
 Q_LOGGING_CATEGORY(logHistory, "quillon.history", QtWarningMsg)
 Q_LOGGING_CATEGORY(logRules, "quillon.rules", QtWarningMsg)
 Q_LOGGING_CATEGORY(logVendors, "quillon.vendors", QtWarningMsg)
+Q_LOGGING_CATEGORY(logUpdates, "quillon.updates", QtWarningMsg)
 
 } // namespace quillon

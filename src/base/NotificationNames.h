@@ -11,6 +11,7 @@ namespace quillon::notifications {
 inline const QString networkChanged = QStringLiteral("networkChanged");
 inline const QString addressUpdated = QStringLiteral("addressUpdated");
 inline const QString helperStatusChanged = QStringLiteral("helperStatusChanged");
+inline const QString icloudUpdated = QStringLiteral("icloudUpdated");
 inline const QString cloudContainerChanged = QStringLiteral("cloudContainerChanged");
 inline const QString closeVendorViewPopover = QStringLiteral("closeVendorViewPopover");
 inline const QString toggleCheckbox = QStringLiteral("toggleCheckbox");

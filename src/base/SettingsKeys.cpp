@@ -42,9 +42,13 @@ std::span<const Entry> all()
         {SUAutomaticallyUpdate, Boolean},
         {SUScheduledCheckInterval, Integer},
         {SUFeedURL, String},
+        {updateCheckDate, Date},
+        {updateFeed, Data},
+        {updateToldVersion, String},
         {releasedDevices, Array},
         {givenAddresses, Dictionary},
         {statusItemAbsenceTold, Boolean},
+        {historyColumnWidths, Array},
     };
     return table;
 }

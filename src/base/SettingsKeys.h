@@ -47,9 +47,13 @@ QUILLON_KEY(SUEnableAutomaticChecks);
 QUILLON_KEY(SUAutomaticallyUpdate);
 QUILLON_KEY(SUScheduledCheckInterval);
 QUILLON_KEY(SUFeedURL);
+QUILLON_KEY(updateCheckDate);
+QUILLON_KEY(updateFeed);
+QUILLON_KEY(updateToldVersion);
 QUILLON_KEY(releasedDevices);
 QUILLON_KEY(givenAddresses);
 QUILLON_KEY(statusItemAbsenceTold);
+QUILLON_KEY(historyColumnWidths);
 #undef QUILLON_KEY
 
 /// A key and the type that it holds; none where the platform's own value is stored as it is given

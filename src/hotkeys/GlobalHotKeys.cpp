@@ -63,6 +63,51 @@ void GlobalHotKeys::updateRandomKey()
     }
 }
 
+void GlobalHotKeys::pause()
+{
+    m_isPaused = true;
+    pause(m_show);
+    pause(m_random);
+}
+
+void GlobalHotKeys::pause(Key &key)
+{
+    // What is grabbed would not reach whoever records it. A desktop that decides would ask its user
+    // anew: there the keys stay bound.
+    const bool isHeld = key.state == State::Bound || key.state == State::Pending;
+    if (m_way != HotKeyWay::DesktopDecides && isHeld && !key.isDue) {
+        key.isDue = true;
+        m_deps.hotKeys.release(key.combination);
+    }
+}
+
+void GlobalHotKeys::resume()
+{
+    m_isPaused = false;
+    if (std::exchange(m_show.isDue, false)) {
+        updateShowKey();
+    }
+    if (std::exchange(m_random.isDue, false)) {
+        updateRandomKey();
+    }
+}
+
+void GlobalHotKeys::findWay()
+{
+    m_deps.hotKeys.findWay([self = QPointer(this)](HotKeyWay way) {
+        if (self && std::exchange(self->m_way, way) != way) {
+            Q_EMIT self->stateChanged();
+        }
+    });
+}
+
+void GlobalHotKeys::press(const std::function<void()> &pressed) const
+{
+    if (!m_isPaused) {
+        pressed();
+    }
+}
+
 /// Two keys that swap their combinations change one after the other.
 bool GlobalHotKeys::lacks(const Key &key, const std::optional<KeyCombination> &combination)
 {
@@ -72,6 +117,10 @@ bool GlobalHotKeys::lacks(const Key &key, const std::optional<KeyCombination> &c
 std::optional<KeyCombination> GlobalHotKeys::update(
     Key &key, const QString &description, const std::function<void()> &pressed)
 {
+    if (m_isPaused) {
+        key.isDue = true;
+        return std::nullopt;
+    }
     const QString text = m_deps.settings.getString(key.combination);
     const auto combination = KeyCombination::fromText(text);
     const bool isOn = m_deps.settings.getBool(key.enabled) && !text.isEmpty();
@@ -85,7 +134,12 @@ std::optional<KeyCombination> GlobalHotKeys::update(
         tell(key, description, text);
     } else {
         setState(key, State::Pending);
-        m_deps.hotKeys.bind({key.combination, description, *combination, pressed},
+        const auto unlessPaused = [self = QPointer(this), pressed] {
+            if (self) {
+                self->press(pressed);
+            }
+        };
+        m_deps.hotKeys.bind({key.combination, description, *combination, unlessPaused},
             [self = QPointer(this), &key, description, text](HotKeyResult result) {
                 if (self) {
                     self->setState(key, stateAfter(result));

@@ -48,6 +48,13 @@ public:
 
     void updateShowKey();
     void updateRandomKey();
+    /// While a person records a combination, keys that are pressed are theirs and do nothing.
+    void pause();
+    /// What changed meanwhile is asked for now.
+    void resume();
+    /// Finds out how this desktop lets programs have hot keys; stateChanged() tells.
+    void findWay();
+    HotKeyWay way() const { return m_way; }
 
     State showKeyState() const { return m_show.state; }
     State randomKeyState() const { return m_random.state; }
@@ -55,7 +62,7 @@ public:
     static QString problemOf(State state);
 
 Q_SIGNALS:
-    /// One of the states is not what it was.
+    /// One of the states, or the way, is not what it was.
     void stateChanged();
 
 private:
@@ -65,18 +72,23 @@ private:
         const QString &combination;
         State state = State::Off;
         std::optional<KeyCombination> asked = {}; ///< for, last
+        bool isDue = false;                       ///< to be asked for after the pause
     };
 
     /// Returns the combination that is free for others now, if any.
     std::optional<KeyCombination> update(
         Key &key, const QString &description, const std::function<void()> &pressed);
     static bool lacks(const Key &key, const std::optional<KeyCombination> &combination);
+    void pause(Key &key);
+    void press(const std::function<void()> &pressed) const;
     void setState(Key &key, State state);
     void tell(const Key &key, const QString &description, const QString &combination);
 
     Collaborators m_deps;
     Key m_show;
     Key m_random;
+    HotKeyWay m_way = HotKeyWay::Unknown;
+    bool m_isPaused = false;
 };
 
 } // namespace quillon

@@ -29,6 +29,9 @@ public:
     {
         int status = 0;
         QByteArray body;
+        /// What the server says that the body is, "text/html; charset=utf-8"; empty when it does
+        /// not.
+        QByteArray contentType = {};
     };
     /// An Error is a failed transfer: no connection, no trust, too many redirects, a body beyond
     /// the limit or shorter than announced. A bad status is a Response, whatever becomes of its

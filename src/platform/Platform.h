@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QUrl>
 
@@ -14,7 +15,9 @@ class HelperLink;
 class HotKeys;
 class HttpClient;
 class InterfaceAddresses;
+class LinkOpener;
 class LocationAuthorization;
+class LoginItem;
 class NetworkChangeSource;
 class NetworkHost;
 class NotificationCenter;
@@ -24,6 +27,7 @@ class Reachability;
 class RunningApplications;
 class Scheduler;
 class SettingsStore;
+class SoftwareCenter;
 class SystemSettings;
 class SystemSleep;
 class UserNotificationCenter;
@@ -39,6 +43,15 @@ struct Places
     /// The service that tells our external address.
     QUrl externalAddressService;
     QUrl vendorRegistry;
+    /// The text of the license, "" when it is not installed.
+    QString licenseFile;
+    /// Of this program, "4.0.0".
+    QString version = {};
+    /// Where new versions are told of; empty when nobody said so at build time.
+    QUrl updateFeed = {};
+    /// The Ed25519 key (32 bytes) of those who may tell of them; empty in a build that does not
+    /// look for new versions.
+    QByteArray updateKey = {};
 };
 
 /// Every seam to the platform that the program uses, filled by main.cpp (or by a test). What it
@@ -63,7 +76,10 @@ struct Platform
     RadioSwitch &radioSwitch;
     LocationAuthorization &location;
     SystemSettings &systemSettings;
+    SoftwareCenter &softwareCenter;
     HotKeys &hotKeys;
+    LoginItem &loginItem;
+    LinkOpener &links;
     HttpClient &http;
     HelperLink &helperLink;
     RandomSource &random;

@@ -14,17 +14,9 @@ namespace {
 
 using Kind = RuleAction::Kind;
 
-/// Rules keep the title as it was shown. Who has another language today still means the same, and
-/// without this such a rule would give an address that is none.
-bool isRandom(const Rule &rule)
-{
-    const QString address = rule.address();
-    return !isStringValidHEX(address) && isInAnyLanguage(address, "Random Address");
-}
-
 RuleAction addressChange(const Rule &rule)
 {
-    if (isRandom(rule)) {
+    if (isRandomAddress(rule.address())) {
         const QVariant vendor = rule.object()->value(model::rule::vendor);
         return {Kind::RandomAddress, {},
             vendor.isValid() ? std::optional(vendor.toString()) : std::nullopt};
@@ -37,6 +29,11 @@ RuleAction addressChange(const Rule &rule)
 QString randomAddressTitle()
 {
     return localized("Random Address");
+}
+
+bool isRandomAddress(const QString &address)
+{
+    return !isStringValidHEX(address) && isInAnyLanguage(address, "Random Address");
 }
 
 QList<RuleAction> actionsOfLoginRule(const Rule &rule)
@@ -57,7 +54,7 @@ QList<RuleAction> actionsOfNetworkRule(const Rule &rule, bool linkIsUp)
         return actions;
     }
     // A fixed address is given once, however often the rule says.
-    if (isRandom(rule) && rule.changeAction() == Rule::every) {
+    if (isRandomAddress(rule.address()) && rule.changeAction() == Rule::every) {
         actions.append({Kind::StartCountdown, {}, {}});
     } else {
         actions.append(addressChange(rule));

@@ -38,5 +38,8 @@ QList<RuleAction> actionsOfNetworkRule(const Rule &rule, bool linkIsUp);
 
 /// The text that stands for a random address where a rule holds an address.
 QString randomAddressTitle();
+/// Whether `address`, as a rule holds it, is that text. Rules keep it as it was shown: who has
+/// another language today still means the same.
+bool isRandomAddress(const QString &address);
 
 } // namespace quillon

@@ -51,6 +51,11 @@ ManagedObjectContext &RecordStore::managedObjectContext()
     return *m_context;
 }
 
+QString RecordStore::path() const
+{
+    return QDir(m_folder).filePath(u"Quillon.sqlite"_s);
+}
+
 void RecordStore::refreshPersistentContainer()
 {
     if (m_context) {
@@ -79,6 +84,11 @@ bool RecordStore::hasChanges() const
     return m_context && m_context->hasChanges();
 }
 
+int RecordStore::undoPlace() const
+{
+    return m_context ? m_context->undoManager().index() : 0;
+}
+
 void RecordStore::undo()
 {
     if (m_context) {
@@ -93,17 +103,21 @@ void RecordStore::redo()
     }
 }
 
+int RecordStore::undoPosition() const
+{
+    return m_context ? m_context->undoManager().index() : 0;
+}
+
 std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
     // For its owner alone: records tell where somebody has been. What prevents it shows when the
     // file is opened.
     makeFolder(m_folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    const QString path = QDir(m_folder).filePath(u"Quillon.sqlite"_s);
-    auto opened = ManagedObjectContext::open(quillonModel(), path, m_scheduler);
+    auto opened = ManagedObjectContext::open(quillonModel(), path(), m_scheduler);
     if (!opened) {
-        qCWarning(logRecords, "%s", qUtf8Printable(logLine(opened.error(), path)));
+        qCWarning(logRecords, "%s", qUtf8Printable(logLine(opened.error(), path())));
         if (m_openFailure) {
-            m_openFailure(opened.error(), path);
+            m_openFailure(opened.error(), path());
         }
         std::abort();
     }
@@ -119,6 +133,7 @@ std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
     const QUndoStack &undoManager = context.undoManager();
     connect(&undoManager, &QUndoStack::canUndoChanged, this, &RecordStore::undoChanged);
     connect(&undoManager, &QUndoStack::canRedoChanged, this, &RecordStore::undoChanged);
+    connect(&undoManager, &QUndoStack::indexChanged, this, &RecordStore::undoPositionChanged);
     return std::exchange(m_context, std::move(opened.value()));
 }
 

@@ -31,6 +31,8 @@ public:
     ~RecordStore() override;
 
     ManagedObjectContext &managedObjectContext();
+    /// The file's place.
+    QString path() const;
     /// Whether somebody has asked for the context yet.
     bool hasManagedObjectContext() const { return m_context != nullptr; }
     /// Opens the file anew, so that a change of `iCloudSync` takes effect. What is pending is saved
@@ -44,8 +46,12 @@ public:
     bool canUndo() const;
     bool canRedo() const;
     bool hasChanges() const;
+    /// How many steps can be undone: who remembers it tells whether another step came since.
+    int undoPlace() const;
     void undo();
     void redo();
+    /// How many steps could be undone: as long as it stays, the last step is the same.
+    int undoPosition() const;
 
 Q_SIGNALS:
     /// A new context stands in place of the old one: whoever shows records fetches anew.
@@ -56,6 +62,7 @@ Q_SIGNALS:
     void saved();
     /// canUndo() or canRedo() is not what it was.
     void undoChanged();
+    void undoPositionChanged();
 
 private:
     /// Puts a new context in place of the present one, which it gives back.

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "presence/Destination.h"
-#include "ui/networks/SavedItemsWindow.h"
+#include "ui/PreferencesPanes.h"
+#include "ui/history/HistoryWindow.h"
+#include "ui/overview/OverviewWindow.h"
 #include "ui/preferences/PreferencesWindow.h"
 
 #include <QObject>
@@ -11,6 +13,11 @@
 #include <memory>
 
 namespace quillon {
+
+class AboutPreferencesViewController;
+class DisplayPreferencesViewController;
+class GeneralPreferencesViewController;
+class VendorPaneModel;
 
 /// The windows beside the main one. Each is made when it is first wanted. Main thread.
 class OtherWindows : public QObject
@@ -21,8 +28,10 @@ public:
     struct Models
     {
         Presence &presence;
-        SavedItemsWindow::Models savedItems;
         PreferencesWindow::Models preferences;
+        PreferencesPanes panes;
+        OverviewWindow::Models overview;
+        HistoryWindow::Models history;
     };
     struct Desktop
     {
@@ -35,14 +44,16 @@ public:
 
 private:
     void goTo(Destination destination);
-    void openSavedItems();
+    void openHistory();
     void openPreferences();
+    void openOverview();
 
     Models m_models;
     const Theme &m_theme;
     Desktop m_desktop;
-    std::unique_ptr<SavedItemsWindow> m_savedItems;
+    std::unique_ptr<HistoryWindow> m_history;
     std::unique_ptr<PreferencesWindow> m_preferences;
+    std::unique_ptr<OverviewWindow> m_overview;
 };
 
 } // namespace quillon

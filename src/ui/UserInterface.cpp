@@ -16,7 +16,6 @@
 #include "ui/rules/CountdownRow.h"
 #include "ui/vendors/MissingVendors.h"
 #include "ui/vendors/VendorChooser.h"
-#include "ui/vendors/VendorDataCard.h"
 #include "ui/vendors/VendorRow.h"
 #include "ui/window/AddressCard.h"
 #include "ui/window/FactsCard.h"
@@ -52,8 +51,7 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
     makeFacts(models);
     makeShortcuts(models);
     new FavoriteToast(models.removedInMainWindow, m_theme, desktop.scheduler, &m_mainWindow);
-    m_mainWindow.addDetails(new VendorDataCard(models.vendorPane, m_theme));
-    m_mainWindow.putHeaderLast();
+    m_mainWindow.putFooterAndHeaderLast();
     // Closing the window is not the end: MainWindow says what it means.
     QApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(&models.window.presence, &Presence::windowClosed, &m_mainWindow, [] {
@@ -83,7 +81,7 @@ void UserInterface::makeFacts(const Models &models)
     facts.add(saved);
     auto *vendor = new VendorRow(models.vendorInfo, m_theme);
     facts.add(vendor);
-    facts.add(new MissingVendors(models.vendorPane));
+    facts.add(new MissingVendors(models.vendorPane, models.others.preferences.window));
     auto *network = new NetworkRow(models.network, m_theme);
     facts.add(network);
     facts.add(new RulesRow(models.rules, m_theme));

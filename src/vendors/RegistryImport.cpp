@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "vendors/RegistryImport.h"
 
+#include "base/DateStamp.h"
 #include "base/Log.h"
 #include "base/SettingsKeys.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
-#include "vendors/DateStamp.h"
 #include "vendors/VendorTable.h"
 
 #include <QFile>

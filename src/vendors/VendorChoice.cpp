@@ -38,6 +38,11 @@ bool VendorChoice::canChoose() const
     return m_devices.contains(device());
 }
 
+QString VendorChoice::whyNot() const
+{
+    return localized("No interface is selected: there is none to choose a vendor for");
+}
+
 void VendorChoice::saveVendorSelection(const QString &choice)
 {
     if (!canChoose()) {

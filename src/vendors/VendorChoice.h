@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "vendors/VendorTaker.h"
+
 #include <QObject>
 
 #include <optional>
@@ -15,7 +17,7 @@ class VendorList;
 
 /// Which manufacturer's prefix random addresses of a device take: the key `vendor` of its record.
 /// Main thread.
-class VendorChoice : public QObject
+class VendorChoice : public QObject, public VendorTaker
 {
     Q_OBJECT
 
@@ -28,9 +30,10 @@ public:
     QString shownChoice(const QString &device) const;
 
     /// The interface that a choice is for, "" when none is selected.
-    QString device() const;
+    QString device() const override;
     /// Whether there is a known interface that a choice would be for.
-    bool canChoose() const;
+    bool canChoose() const override;
+    QString whyNot() const override;
     /// Stores `choice`, an entry of the list, for the selected interface, and announces it with
     /// "vendorUpdated" (`device`, `newVendor`). Without a known interface nothing happens.
     void saveVendorSelection(const QString &choice);
@@ -42,8 +45,7 @@ public:
     void setVendorSelectionForDevice(const QString &device);
     /// The same for the selected interface.
     void setVendorSelectionForCurrentDevice();
-    /// The user chose a row of what is shown of the list; a row that is not there is ignored.
-    void updateVendorTableSelectionWithRow(qsizetype row);
+    void updateVendorTableSelectionWithRow(qsizetype row) override;
 
 Q_SIGNALS:
     /// The text field is to show `text`.

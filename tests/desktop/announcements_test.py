@@ -26,6 +26,10 @@ SAID = {
     "countdown-paused": ["Countdown paused"],
     "favorite-removed": ["Favorite removed"],
     "looking-up": [],
+    "updates-checking": [],
+    "updates-none": ["Quillon 4.0.0 is the newest version."],
+    "updates-found": ["Quillon 4.1 is available"],
+    "updates-not-trusted": ["What came is not from the authors of Quillon and was not used."],
 }
 
 

@@ -13,7 +13,7 @@ TYPED = "02:00:5E:10:AB:CD"
 # A row by its label: its value changes.
 ORDER = ["Address", "Apply address", "Randomize address", "Vendor of random addresses", "Hardware address",
          "Saved addresses", "Vendor", "Rules", "Resume", "Refresh external address"]
-AT_THE_END = ["enp1s0", "File menu"]
+AT_THE_END = ["Overview", "enp1s0", "File menu"]
 DONE = "Changed: this is the address in use now."
 MOST = 40  # stops; more are a circle that never comes back
 
@@ -94,7 +94,8 @@ class OrderTest(KeyboardTest):
         stops = self.circle("Tab")
         self.assertEqual([stop for stop in stops if stop in ORDER], ORDER, stops)
         self.assertEqual(stops[:len(ORDER)], ORDER, stops)
-        self.assertEqual(stops[-2:], AT_THE_END, stops)
+        self.assertEqual([stop for stop in stops if stop in AT_THE_END], AT_THE_END, stops)
+        self.assertEqual(stops[-2:], AT_THE_END[-2:], stops)
 
     def test_back_it_is_the_other_way_round(self):
         self.type_address()

@@ -74,10 +74,14 @@ class OutsideTextTest(ProgramTest):
         quoted = MAKER.replace('"', '""')
         self.web.serve({REGISTRY: {"body": "Registry,Assignment,Organization Name,Organization Address\r\n"
                                            f'MA-L,0000FE,"{quoted}","1 Long Road"\r\n'}})
-        self.button("Vendor Data").press()
-        self.button("Update database").press()
-        wait_until(lambda: self.window.has("label", "1 Vendor Identifiers"),
-                   lambda: f"there is {self.window.overview()}")
+        self.button("Preferences").press()
+        accessibility.window(NAME, "General").find("page tab", "Vendor Data").press()
+        pane = accessibility.window(NAME, "Vendor Data")
+        pane.find("button", "Update database").press()
+        wait_until(lambda: pane.has("label", "1 Vendor Identifiers"), lambda: f"there is {pane.overview()}")
+        pane.find("button", "Update database")
+        xdotool("key", "ctrl+w")
+        wait_until(lambda: not accessibility.has_window(NAME, "Vendor Data"), "the preferences stayed")
         field = self.window.find("entry", "Vendor of random addresses")
         field.type("<img")
         row = self.window.find("list item", f"{MAKER} (0000FE)")

@@ -8,7 +8,7 @@ import unittest
 from program import NAME, ProgramTest, accessibility, trayclient, wait_until, xdotool
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
-SAVED_ITEMS = "Saved Networks and Addresses"
+SAVED_ITEMS, WINDOW = "Saved Networks and Addresses", "Rules"
 HOME, OFFICE = "a4:2b:b0:11:22:33", "b8:27:eb:44:55:66"
 PRINTER = "a4:83:e7:01:02:03"
 
@@ -32,7 +32,7 @@ class SavedItemsTest(ProgramTest):
 
     def open_by_menu(self):
         trayclient.only_item().click(SAVED_ITEMS)
-        return accessibility.window(NAME, SAVED_ITEMS)
+        return accessibility.window(NAME, WINDOW)
 
     def popover_of(self, items, title, name):
         """That of a token, opened with the keyboard."""
@@ -67,7 +67,7 @@ class SavedItemsTest(ProgramTest):
         self.assertTrue(items.showing, "Escape closes no window")
         self.assertEqual(self.saved("savedAddresses")[PRINTER]["name"], "Printer")
         xdotool("key", "ctrl+w")
-        wait_until(lambda: not accessibility.has_window(NAME, SAVED_ITEMS), "Ctrl+W did not close it")
+        wait_until(lambda: not accessibility.has_window(NAME, WINDOW), "Ctrl+W did not close it")
         self.assertIsNone(self.program.poll(), "the program goes on")
 
     def test_a_network_is_recognized_by_its_name(self):
@@ -99,7 +99,7 @@ class SavedItemsTest(ProgramTest):
     def test_the_saved_addresses_lead_there(self):
         popover = self.popover("Saved addresses")
         popover.find("button", "Edit Saved Items").click()
-        items = accessibility.window(NAME, SAVED_ITEMS)
+        items = accessibility.window(NAME, WINDOW)
         items.find("button", "Printer")
         wait_until(lambda: not self.has_popover("Saved addresses"), "the popover stays open")
 

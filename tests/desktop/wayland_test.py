@@ -9,7 +9,7 @@ from program import NAME, ProgramTest, accessibility, start, trayclient, wait_un
 from widgets_test import Wayland
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
-SAVED_ITEMS = "Saved Networks and Addresses"
+SAVED_ITEMS, WINDOW = "Saved Networks and Addresses", "Rules"
 HOME, OFFICE = "a4:2b:b0:11:22:33", "b8:27:eb:44:55:66"
 PRINTER = "a4:83:e7:01:02:03"
 ROWS = ("Hardware address", "Saved addresses", "Vendor", "Rules")
@@ -101,7 +101,7 @@ class SavedItemsPopoverTest(WaylandTest):
     def setUp(self):
         super().setUp()
         trayclient.only_item().click(SAVED_ITEMS)
-        self.items = accessibility.window(NAME, SAVED_ITEMS)
+        self.items = accessibility.window(NAME, WINDOW)
         # The first token has the keyboard when the compositor has given it to the window.
         wait_until(lambda: any(control.focused for control in self.items.everything_below()),
                    "the window did not get the keyboard")

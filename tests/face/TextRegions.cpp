@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "face/TextRegions.h"
 
+#include "ui/rules/RuleRowDelegate.h"
+#include "ui/rules/RulesListView.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/Badge.h"
 #include "ui/widgets/RowButton.h"
@@ -16,6 +18,7 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
+#include <QTabBar>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -153,6 +156,53 @@ QList<TextRegion> ofList(const QListView &list)
     return rows;
 }
 
+/// The rows of rules: two lines and a badge each.
+QList<TextRegion> ofRules(const RulesListView &list)
+{
+    QList<TextRegion> texts;
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+        const QModelIndex index = list.model()->index(row, 0);
+        const QRect place = list.visualRect(index).intersected(list.viewport()->rect());
+        if (place.height() < list.visualRect(index).height()) {
+            continue;
+        }
+        const QString badge = index.data(RuleRowDelegate::BadgeRole).toString();
+        const auto places =
+            RuleRowDelegate::placesIn(list.visualRect(index), badge, list.layoutDirection());
+        const QPoint corner = list.viewport()->geometry().topLeft();
+        const auto add = [&](const QRect &room, const QString &text, const QFont &font,
+                             const QString &whole) {
+            const QFontMetrics metrics(font);
+            texts.append({text, room.translated(corner),
+                QSize(metrics.horizontalAdvance(text), metrics.height()), room.translated(corner),
+                list.isEnabled(), true, whole});
+        };
+        const QString said = plainText(index.data(Qt::ToolTipRole).toString());
+        const QString name = index.data().toString();
+        add(places.name, name, Theme::font(Theme::Type::Strong), said);
+        add(places.sentence, index.data(RuleRowDelegate::SentenceRole).toString(),
+            Theme::font(Theme::Type::Caption), said);
+        if (!badge.isEmpty()) {
+            add(places.badge.adjusted(Theme::unit, 1, -Theme::unit, -1), badge,
+                Theme::font(Theme::Type::Badge), {});
+        }
+    }
+    return texts;
+}
+
+QList<TextRegion> ofTabs(const QTabBar &tabs)
+{
+    QList<TextRegion> texts;
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        const QRect room = tabs.tabRect(tab);
+        texts.append({tabs.tabText(tab), room,
+            QSize(tabs.fontMetrics().horizontalAdvance(tabs.tabText(tab)),
+                tabs.fontMetrics().height()),
+            inner(room), tabs.isTabEnabled(tab)});
+    }
+    return texts;
+}
+
 QList<TextRegion> ofMenu(const QMenu &menu)
 {
     QList<TextRegion> entries;
@@ -188,6 +238,12 @@ QList<TextRegion> allRegions(const QWidget &widget)
     if (const auto *badge = qobject_cast<const Badge *>(&widget)) {
         return {{badge->accessibleName(), badge->rect(), badge->sizeHint(),
             badge->rect().adjusted(Theme::unit, edge, -Theme::unit, -edge), badge->isEnabled()}};
+    }
+    if (const auto *rules = qobject_cast<const RulesListView *>(&widget)) {
+        return ofRules(*rules);
+    }
+    if (const auto *tabs = qobject_cast<const QTabBar *>(&widget)) {
+        return ofTabs(*tabs);
     }
     if (const auto *list = qobject_cast<const QListView *>(&widget)) {
         return ofList(*list);

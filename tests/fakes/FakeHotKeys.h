@@ -42,6 +42,12 @@ public:
         m_wishes.remove(identifier);
     }
 
+    void findWay(std::function<void(HotKeyWay)> reply) override
+    {
+        m_scheduler.onMain(
+            [this, reply = std::move(reply)] { reply(isOffered ? way : HotKeyWay::NotOffered); });
+    }
+
     /// The user presses the keys.
     void press(const QString &combination)
     {
@@ -54,8 +60,9 @@ public:
     }
 
     bool isOffered = true;
-    QSet<QString> takenByOthers; ///< as texts
-    QMap<QString, HotKey> bound; ///< by identifier
+    HotKeyWay way = HotKeyWay::Grabs; ///< of a desktop that offers them
+    QSet<QString> takenByOthers;      ///< as texts
+    QMap<QString, HotKey> bound;      ///< by identifier
 
 private:
     HotKeyResult resultFor(const KeyCombination &keys) const

@@ -133,6 +133,7 @@ void FakeHttpClient::play(Token token, const Page &page, qsizetype from)
     }
     if (isRunning(token)) {
         m_transfers.at(token).status = page.status;
+        m_transfers.at(token).contentType = page.contentType;
     }
     const qint64 length = page.length < 0 ? page.body.size() : page.length;
     take(token, page.body.mid(from, page.piece), page.saysLength ? length : -1);
@@ -187,7 +188,7 @@ void FakeHttpClient::end(Token token, int status)
     const Transfer transfer = std::move(found->second);
     m_transfers.erase(found);
     if (!transfer.file) {
-        transfer.completion(Response{status, transfer.body});
+        transfer.completion(Response{status, transfer.body, transfer.contentType});
     } else if (transfer.handler.didFinishDownloading) {
         transfer.file->flush();
         transfer.handler.didFinishDownloading(transfer.file->fileName());

@@ -25,6 +25,7 @@ public:
     {
         int status = 200;
         QByteArray body;
+        QByteArray contentType = {};
         std::chrono::milliseconds delay{0}; ///< before the first byte
         std::chrono::milliseconds pause{0}; ///< between two pieces of the body
         qsizetype piece = 16384;            ///< bytes that come at once
@@ -72,6 +73,7 @@ private:
         qint64 received = 0;
         qint64 expected = -1;
         int status = 0; ///< when it is known already
+        QByteArray contentType = {};
     };
     struct Site
     {

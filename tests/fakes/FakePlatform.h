@@ -9,7 +9,9 @@
 #include "fakes/FakeHotKeys.h"
 #include "fakes/FakeHttpClient.h"
 #include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLocationAuthorization.h"
+#include "fakes/FakeLoginItem.h"
 #include "fakes/FakeNetworkChangeSource.h"
 #include "fakes/FakeNetworkHost.h"
 #include "fakes/FakeRadioSwitch.h"
@@ -18,6 +20,7 @@
 #include "fakes/FakeRunningApplications.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
+#include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeSystemSleep.h"
 #include "fakes/FakeUserNotificationCenter.h"
@@ -63,7 +66,10 @@ struct FakePlatform
             .radioSwitch = radioSwitch,
             .location = location,
             .systemSettings = systemSettings,
+            .softwareCenter = softwareCenter,
             .hotKeys = hotKeys,
+            .loginItem = loginItem,
+            .links = links,
             .http = http,
             .helperLink = helper,
             .random = random,
@@ -71,11 +77,18 @@ struct FakePlatform
             .places = {.supportFolder = data.path(),
                 .shippedVendorDatabase = {},
                 .externalAddressService = QUrl(QStringLiteral("https://address.example")),
-                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv"))},
+                .vendorRegistry = QUrl(QStringLiteral("https://registry.example/oui/oui.csv")),
+                .licenseFile = {},
+                .version = QStringLiteral("4.0.0"),
+                .updateFeed = updateFeed,
+                .updateKey = updateKey},
         };
     }
 
     QTemporaryDir data;
+    // Nobody tells of new versions.
+    QUrl updateFeed;
+    QByteArray updateKey;
     FakeScheduler scheduler;
     FakeSettingsStore settings{scheduler};
     FakeSettingsStore groupSettings{scheduler};
@@ -93,7 +106,10 @@ struct FakePlatform
     FakeRadioSwitch radioSwitch;
     FakeLocationAuthorization location;
     FakeSystemSettings systemSettings;
+    FakeSoftwareCenter softwareCenter;
     FakeHotKeys hotKeys{scheduler};
+    FakeLoginItem loginItem{scheduler};
+    FakeLinkOpener links;
     FakeHttpClient http{scheduler};
     FakeHelper helper{scheduler, host};
     FakeRandomSource random;

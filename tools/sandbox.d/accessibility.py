@@ -27,6 +27,7 @@ ROLES = {
     "list": (Atspi.Role.LIST,),
     "list item": (Atspi.Role.LIST_ITEM,),
     "menu item": (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM),
+    "page tab": (Atspi.Role.PAGE_TAB,),
     "radio button": (Atspi.Role.RADIO_BUTTON,),
     "window": WINDOWS,
 }

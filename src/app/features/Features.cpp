@@ -16,8 +16,9 @@ Features::Features(
     , devices(platform, notifier, helper)
     , history(platform, devices.table, std::move(openFailure))
     , networks(platform, devices.table)
-    , rules(platform, notifier, devices, history.store)
+    , rules(platform, notifier, devices, networks, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
+    , updates(platform, notifier)
     , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
           devices.addressChanger})
@@ -28,7 +29,9 @@ Features::Features(
           helper, presence, rules.timers})
     , editMenu(history.store)
     , preferencesWindow(platform.settings, platform.notifications)
-    , advancedPreferences(helper, presence, platform.groupSettings, platform.scheduler)
+    , preferences(platform, helper, presence, hotKeys, devices.table)
+    , overview({platform.settings, platform.scheduler, platform.notifications, devices.table,
+          devices.currentInterface, devices.addressChanger, rules.timers, presence, helper})
 {
 }
 

@@ -5,7 +5,9 @@
 #include "app/features/DeviceFeature.h"
 #include "app/features/HistoryFeature.h"
 #include "app/features/NetworkFeature.h"
+#include "app/features/PreferencesFeature.h"
 #include "app/features/RuleFeature.h"
+#include "app/features/UpdateFeature.h"
 #include "app/features/VendorFeature.h"
 #include "helperlink/XPCMethods.h"
 #include "hotkeys/GlobalHotKeys.h"
@@ -14,7 +16,7 @@
 #include "presentation/menu/EditMenuModel.h"
 #include "presentation/menu/FileMenuModel.h"
 #include "presentation/menu/StatusMenuModel.h"
-#include "presentation/preferences/AdvancedPreferencesModel.h"
+#include "presentation/overview/Overview.h"
 #include "presentation/preferences/PreferencesWindowModel.h"
 #include "presentation/window/MainWindowModel.h"
 #include "presentation/window/ReadMeModel.h"
@@ -36,6 +38,7 @@ struct Features
     NetworkFeature networks;
     RuleFeature rules;
     VendorFeature vendors;
+    UpdateFeature updates;
 
     GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;
@@ -44,7 +47,8 @@ struct Features
     FileMenuModel fileMenu;
     EditMenuModel editMenu;
     PreferencesWindowModel preferencesWindow;
-    AdvancedPreferencesModel advancedPreferences;
+    PreferencesFeature preferences;
+    Overview overview;
 };
 
 } // namespace quillon

@@ -12,6 +12,7 @@ HistoryFeature::HistoryFeature(
     const Platform &platform, const DeviceTable &devices, RecordStore::OpenFailure openFailure)
     : store(platform.scheduler, platform.places.supportFolder, std::move(openFailure))
     , history(store, devices, platform.settings, platform.scheduler)
+    , controller({store, platform.settings, platform.scheduler, platform.alerts})
 {
 }
 

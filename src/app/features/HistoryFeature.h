@@ -3,13 +3,15 @@
 #pragma once
 
 #include "history/HistoryRecords.h"
+#include "presentation/history/HistoryController.h"
 #include "store/RecordStore.h"
 
 namespace quillon {
 
 struct Platform;
 
-/// What the program remembers, put together: the records of rules and changes, and the history.
+/// What the program remembers, put together: the records of rules and changes, the history, and
+/// what its window shows.
 struct HistoryFeature
 {
     HistoryFeature(
@@ -17,6 +19,7 @@ struct HistoryFeature
 
     RecordStore store;
     HistoryRecords history;
+    HistoryController controller;
 };
 
 } // namespace quillon

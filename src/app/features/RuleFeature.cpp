@@ -3,12 +3,13 @@
 #include "app/features/RuleFeature.h"
 
 #include "app/features/DeviceFeature.h"
+#include "app/features/NetworkFeature.h"
 #include "platform/Platform.h"
 
 namespace quillon {
 
-RuleFeature::RuleFeature(
-    const Platform &platform, Notifier &notifier, DeviceFeature &devices, RecordStore &store)
+RuleFeature::RuleFeature(const Platform &platform, Notifier &notifier, DeviceFeature &devices,
+    NetworkFeature &networks, RecordStore &store)
     : queries(store, platform.settings, devices.table)
     , invariants({store, platform.scheduler, platform.notifications, queries})
     , timers({platform.scheduler, platform.notifications, notifier, devices.table,
@@ -18,9 +19,15 @@ RuleFeature::RuleFeature(
           devices.currentInterface, store, invariants, queries, execution})
     , switches({store, platform.notifications, queries, evaluation})
     , networkRules(store, evaluation)
+    , editing({store, queries, evaluation})
     , status(devices.table)
     , list({platform.settings, platform.notifications, devices.currentInterface, queries})
     , countdown(timers, devices.currentInterface)
+    , table({platform.settings, devices.table, queries})
+    , form({platform.settings, devices.table, networks.savedNetworks, networks.savedAddresses,
+          devices.randomAddress})
+    , preferences({platform.settings, platform.scheduler, platform.notifications, store, queries,
+          switches, editing, networks.savedNetworks, table, form})
 {
 }
 

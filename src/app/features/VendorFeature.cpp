@@ -14,10 +14,13 @@ VendorFeature::VendorFeature(
     , list(platform.scheduler, database)
     , lookup(platform.settings, platform.scheduler, database)
     , choice(devices, currentInterface, platform.notifications, list)
+    , ruleList(platform.scheduler, database)
+    , ruleVendor(ruleList)
     , import(platform.scheduler, platform.settings, files, database)
     , download(platform.http, platform.places.vendorRegistry, import, count, list)
     , pane(platform.settings, download)
     , field(choice, list, platform.notifications)
+    , ruleField(ruleVendor, ruleList, platform.notifications)
     , info(platform.settings)
 {
 }

@@ -7,6 +7,7 @@
 #include "presentation/vendors/VendorPaneModel.h"
 #include "vendors/RegistryDownload.h"
 #include "vendors/RegistryImport.h"
+#include "vendors/RuleVendor.h"
 #include "vendors/VendorChoice.h"
 #include "vendors/VendorCount.h"
 #include "vendors/VendorDatabase.h"
@@ -33,11 +34,14 @@ struct VendorFeature
     VendorList list;
     VendorLookup lookup;
     VendorChoice choice;
+    VendorList ruleList; ///< of the rule editor: it is filtered and opened by itself
+    RuleVendor ruleVendor;
     RegistryImport import;
     RegistryDownload download;
 
     VendorPaneModel pane;
     VendorFieldModel field;
+    VendorFieldModel ruleField; ///< of the rule editor
     VendorInfoModel info;
 };
 

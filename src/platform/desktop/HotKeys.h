@@ -18,6 +18,15 @@ enum class HotKeyResult
     NotOffered, ///< this desktop does not let programs have hot keys
 };
 
+/// How a desktop lets programs have hot keys.
+enum class HotKeyWay
+{
+    Unknown,        ///< it has not been asked
+    Grabs,          ///< a program takes the combinations that are free
+    DesktopDecides, ///< a program asks for them, and the desktop's user has the last word
+    NotOffered,
+};
+
 struct HotKey
 {
     QString identifier;
@@ -28,18 +37,26 @@ struct HotKey
 
 /// Combinations of keys that reach the program whichever window has the keyboard. Main thread;
 /// callbacks come in a later turn of its loop.
-class HotKeys
+class HotKeyBinder
 {
 public:
     using Reply = std::function<void(HotKeyResult)>;
 
-    virtual ~HotKeys() = default;
+    virtual ~HotKeyBinder() = default;
 
     /// Replaces the binding of the same identifier, if any. `reply` comes once, or not at all when
     /// the binding was replaced or released before; a desktop may ask its user first.
     virtual void bind(const HotKey &hotKey, Reply reply) = 0;
     /// Ignored where nothing is bound.
     virtual void release(const QString &identifier) = 0;
+};
+
+/// The same in the way that this desktop offers.
+class HotKeys : public HotKeyBinder
+{
+public:
+    /// `reply` comes once, within half a minute; not when this object goes before.
+    virtual void findWay(std::function<void(HotKeyWay)> reply) = 0;
 };
 
 } // namespace quillon

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/rules/RuleStatusModel.h"
 
-#include "base/Localized.h"
 #include "devices/DeviceTable.h"
 #include "rules/RuleDecision.h"
+#include "rules/RuleStatusSign.h"
 
 namespace quillon {
-
-using namespace Qt::StringLiterals;
 
 RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
     : m_devices(devices)
@@ -18,22 +16,14 @@ RuleStatusModel::RuleStatusModel(const DeviceTable &devices)
 void RuleStatusModel::updateRuleStatusForDevice(const QString &device)
 {
     const qlonglong hasRule = m_devices.record(device).hasRule.value_or(0);
-    State now{.image = u"NSStatusNone"_s,
-        .toolTip = localized("no rules have been configured"),
-        .activeRuleStruckThrough = true,
-        .noActiveRulesStruckThrough = true,
-        .noRulesStruckThrough = true};
-    if (hasRule == static_cast<qlonglong>(RuleStatus::Active)) {
-        now.image = u"NSStatusAvailable"_s;
-        now.toolTip = localized("has an Active rule");
-        now.activeRuleStruckThrough = false;
-    } else if (hasRule == static_cast<qlonglong>(RuleStatus::NotActive)) {
-        now.image = u"NSStatusPartiallyAvailable"_s;
-        now.toolTip = localized("no rules are currently Active");
-        now.noActiveRulesStruckThrough = false;
-    } else {
-        now.noRulesStruckThrough = false;
-    }
+    const RuleStatusSign sign = RuleStatusSign::of(hasRule);
+    const bool isActive = hasRule == static_cast<qlonglong>(RuleStatus::Active);
+    const bool hasRules = isActive || hasRule == static_cast<qlonglong>(RuleStatus::NotActive);
+    const State now{.image = sign.image,
+        .toolTip = sign.toolTip,
+        .activeRuleStruckThrough = !isActive,
+        .noActiveRulesStruckThrough = isActive || !hasRules,
+        .noRulesStruckThrough = hasRules};
     m_state.update([&now](State &state) { state = now; });
 }
 

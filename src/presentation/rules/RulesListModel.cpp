@@ -93,13 +93,6 @@ void RulesListModel::selectRow(qsizetype row)
     }
 }
 
-void RulesListModel::toggle(qsizetype row, bool enabled)
-{
-    if (row >= 0 && row < m_state->rows.size()) {
-        toggleRule(m_state->rows.at(row).objID, enabled);
-    }
-}
-
 void RulesListModel::toggleRule(const QString &objID, bool enabled)
 {
     const auto &rows = m_state->rows;

@@ -68,9 +68,8 @@ public:
     /// Records changed: the same, when there is a rule among them.
     void reloadAfter(const ObjectsDidChange &change);
     void selectRow(qsizetype row);
-    /// The check box of a row was used. Broadcasts "toggleCheckbox"; the row follows the rule.
-    void toggle(qsizetype row, bool enabled);
-    /// The same, of the rule that the row showed: nothing happens when it is not listed any more.
+    /// The check box of the row of that rule was used. Broadcasts "toggleCheckbox"; the row follows
+    /// the rule. Nothing happens when it is not listed any more.
     void toggleRule(const QString &objID, bool enabled);
 
 Q_SIGNALS:

@@ -5,16 +5,16 @@
 #include "base/Localized.h"
 #include "base/NotificationNames.h"
 #include "platform/NotificationCenter.h"
-#include "vendors/VendorChoice.h"
 #include "vendors/VendorList.h"
+#include "vendors/VendorTaker.h"
 
 #include <utility>
 
 namespace quillon {
 
 VendorFieldModel::VendorFieldModel(
-    VendorChoice &choice, VendorList &list, NotificationCenter &notifications)
-    : m_choice(choice)
+    VendorTaker &taker, VendorList &list, NotificationCenter &notifications)
+    : m_taker(taker)
     , m_list(list)
     , m_notifications(notifications)
 {
@@ -32,7 +32,7 @@ QString VendorFieldModel::rowText(qsizetype row) const
 
 void VendorFieldModel::controlTextDidChange(const QString &text)
 {
-    m_typingFor = m_choice.device();
+    m_typingFor = m_taker.device();
     takeText(text);
     if (!m_state->popoverShown) {
         showVendorViewPopover();
@@ -67,7 +67,7 @@ void VendorFieldModel::selectFirstRowIfEntered()
     if (rowCount() > 0) {
         m_typingFor.reset();
         selectRow(0);
-        m_choice.updateVendorTableSelectionWithRow(0);
+        m_taker.updateVendorTableSelectionWithRow(0);
     }
 }
 
@@ -76,7 +76,7 @@ bool VendorFieldModel::tableViewShouldSelectRow(qsizetype row)
     m_firstRowWanted = false;
     if (row >= 0 && row < m_list.rowCount()) {
         m_typingFor.reset();
-        m_choice.updateVendorTableSelectionWithRow(row);
+        m_taker.updateVendorTableSelectionWithRow(row);
         selectRow(row);
     }
     return true;
@@ -143,7 +143,7 @@ void VendorFieldModel::giveUpTyping()
 
 bool VendorFieldModel::isTyping() const
 {
-    return m_typingFor && m_choice.canChoose() && *m_typingFor == m_choice.device();
+    return m_typingFor && m_taker.canChoose() && *m_typingFor == m_taker.device();
 }
 
 void VendorFieldModel::showText(const QString &text)
@@ -171,13 +171,11 @@ QString VendorFieldModel::message() const
 
 void VendorFieldModel::takeText(const QString &text)
 {
-    const bool canChoose = m_choice.canChoose();
+    const bool canChoose = m_taker.canChoose();
     m_state.update([&](State &state) {
         state.text = text;
         state.enabled = canChoose;
-        state.whyDisabled =
-            canChoose ? QString()
-                      : localized("No interface is selected: there is none to choose a vendor for");
+        state.whyDisabled = canChoose ? QString() : m_taker.whyNot();
     });
 }
 

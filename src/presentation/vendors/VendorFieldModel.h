@@ -11,8 +11,8 @@
 namespace quillon {
 
 class NotificationCenter;
-class VendorChoice;
 class VendorList;
+class VendorTaker;
 
 /// The vendor text field with its popover, a list of manufacturers that the typed text narrows.
 /// Widgets mirror state() and the rows, and hand on what the user does. The list is in memory only
@@ -50,7 +50,7 @@ public:
         Other,
     };
 
-    VendorFieldModel(VendorChoice &choice, VendorList &list, NotificationCenter &notifications);
+    VendorFieldModel(VendorTaker &taker, VendorList &list, NotificationCenter &notifications);
 
     const State &state() const { return m_state.get(); }
     /// What stands in the field is neither chosen nor given up.
@@ -105,7 +105,7 @@ private:
     void selectFirstRowIfEntered();
     std::optional<qsizetype> selectedRow() const;
 
-    VendorChoice &m_choice;
+    VendorTaker &m_taker;
     VendorList &m_list;
     NotificationCenter &m_notifications;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/SettingsStore.h"
+#include "vendors/NullMarker.h"
 #include "vendors/RegistryDownload.h"
 #include "vendors/VendorCount.h"
 
@@ -22,6 +23,13 @@ QString megabytes(qint64 bytes)
 QString countText(qlonglong count)
 {
     return filled(localized("%@ Vendor Identifiers"), {QString::number(count)});
+}
+
+void tell(VendorPaneModel::State &state, const QString &text)
+{
+    state.updatedLabel = text;
+    state.updatedLabelShown = true;
+    state.hasFailed = false;
 }
 
 /// In single precision. An empty download has no share to speak of.
@@ -73,7 +81,7 @@ void VendorPaneModel::showDownloadBegun()
 {
     m_isDownloading = true;
     m_state.update([&](State &state) {
-        state.updatedLabel = localized("Getting download information...");
+        tell(state, localized("Getting download information..."));
         state.vendorCount = localized("Updating Vendor Identifier count...");
         state.action = Action::CancelDownload;
         state.canRestore = false;
@@ -89,12 +97,12 @@ void VendorPaneModel::showProgress(qint64 chunk, qint64 received, qint64 expecte
         state.progressShown = true;
         if (expected == -1) {
             // The size of the latest piece: all that can be said without knowing the whole.
-            state.updatedLabel = filled(localized("Downloading... %@MB"), {megabytes(chunk)});
+            tell(state, filled(localized("Downloading... %@MB"), {megabytes(chunk)}));
         } else {
             const QString percentage =
                 QString::asprintf("%.03f", static_cast<double>(state.progress * 100.0F));
-            state.updatedLabel =
-                filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)});
+            tell(state,
+                filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)}));
         }
     });
 }
@@ -113,19 +121,19 @@ void VendorPaneModel::showProcessingBegun()
 
 void VendorPaneModel::showParsingFailed()
 {
-    updateLabel(localized("Parsing file failed..."));
+    showFailure(localized("Parsing file failed..."));
 }
 
 void VendorPaneModel::showDownloadCompleted(const QString &date)
 {
-    updateLabel(filled(localized("Last Updated: %@"), {date}));
+    updateLabel(filled(localized("Last Updated: %@"), {date}), !date.startsWith(nullMarker));
 }
 
 void VendorPaneModel::showRestorationBegun()
 {
     m_isRestoring = true;
     m_state.update([](State &state) {
-        state.updatedLabel = localized("Restoring the previous database...");
+        tell(state, localized("Restoring the previous database..."));
         state.action = Action::None;
         state.canRestore = false;
     });
@@ -134,7 +142,7 @@ void VendorPaneModel::showRestorationBegun()
 void VendorPaneModel::showRestorationFailed()
 {
     m_isRestoring = false;
-    updateLabel(localized("Restoring failed..."));
+    showFailure(localized("Restoring failed..."));
 }
 
 void VendorPaneModel::showDatabaseRestored(const QString &date)
@@ -163,7 +171,7 @@ void VendorPaneModel::showFirstCountBegun()
 
 void VendorPaneModel::showAdditionNoted(const QString &note)
 {
-    updateLabel(note);
+    updateLabel(note, !note.startsWith(nullMarker));
 }
 
 void VendorPaneModel::showCount(qlonglong count)
@@ -172,9 +180,20 @@ void VendorPaneModel::showCount(qlonglong count)
     updateCount(countText(count));
 }
 
-void VendorPaneModel::updateLabel(const QString &text)
+void VendorPaneModel::updateLabel(const QString &text, bool isShown)
 {
-    m_state.update([&](State &state) { state.updatedLabel = text; });
+    m_state.update([&](State &state) {
+        tell(state, text);
+        state.updatedLabelShown = isShown;
+    });
+}
+
+void VendorPaneModel::showFailure(const QString &text)
+{
+    m_state.update([&](State &state) {
+        tell(state, text);
+        state.hasFailed = true;
+    });
 }
 
 void VendorPaneModel::updateCount(const QString &text)

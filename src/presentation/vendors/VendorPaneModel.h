@@ -32,6 +32,9 @@ public:
         float progress = 0;
         bool progressShown = false;
         QString updatedLabel;
+        /// Not while the date that it names is not known.
+        bool updatedLabelShown = false;
+        bool hasFailed = false; ///< what updatedLabel tells of
         QString vendorCount;
         /// The database is missing or empty, as far as it was counted.
         bool isMissing = false;
@@ -75,7 +78,8 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void updateLabel(const QString &text);
+    void updateLabel(const QString &text, bool isShown = true);
+    void showFailure(const QString &text);
     void updateCount(const QString &text);
 
     const SettingsStore &m_settings;

@@ -106,7 +106,7 @@ Result<FetchSql> fetchSql(const Entity &entity, const FetchRequest &request, boo
         sql.text += " AND pk NOT IN (SELECT pk FROM " + overlay + ") UNION ALL " + select(overlay) +
                     " AND NOT isDeleted";
     }
-    sql.text += " ORDER BY " + order + "pk";
+    sql.text += " ORDER BY " + order + (request.latestFirst ? "pk DESC" : "pk");
     return sql;
 }
 

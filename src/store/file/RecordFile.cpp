@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordFile.h"
 
+#include "store/file/Attempt.h"
 #include "store/file/FetchSql.h"
 #include "store/file/RecordFileOpening.h"
+#include "store/file/RowSelection.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -15,79 +17,6 @@
 namespace quillon {
 
 namespace {
-
-/// What `work` gives; no exception passes this edge of the component.
-template <typename T, typename Work>
-Result<T> attempt(const Work &work)
-{
-    try {
-        return work();
-    } catch (const RefusedFile &refused) {
-        return refused.error;
-    } catch (const SQLite::Exception &exception) {
-        return errorOf(exception);
-    }
-}
-
-/// `text` once for each of `count`, with commas between.
-std::string repeated(const std::string &text, qsizetype count)
-{
-    std::string all;
-    for (qsizetype index = 0; index < count; ++index) {
-        all += (index > 0 ? "," : "") + text;
-    }
-    return all;
-}
-
-std::string columnNames(const Entity &entity)
-{
-    std::string names = "pk, uuid";
-    for (const Attribute &attribute : entity.attributes()) {
-        names += ", " + quotedName(attribute.name);
-    }
-    return names;
-}
-
-std::string selection(const Entity &entity)
-{
-    return "SELECT " + columnNames(entity) + " FROM " + quotedName(entity.name());
-}
-
-QList<RecordRow> allRows(SQLite::Statement &statement, const Entity &entity)
-{
-    QList<RecordRow> rows;
-    while (statement.executeStep()) {
-        rows << rowOf(statement, entity);
-    }
-    return rows;
-}
-
-/// Fills overlayTable() for as long as the transaction lives: it is never committed, and the table
-/// is empty before and after it. Nothing of the file is written or locked.
-std::unique_ptr<SQLite::Transaction> overlaid(
-    SQLite::Database &database, const Entity &entity, const QList<RowChange> &changes)
-{
-    const std::string table = overlayTable(entity);
-    std::string columns = "pk INTEGER PRIMARY KEY, isDeleted";
-    for (const Attribute &attribute : entity.attributes()) {
-        columns += ", " + quotedName(attribute.name);
-    }
-    database.exec("CREATE TABLE IF NOT EXISTS " + table + " (" + columns + ")");
-    auto transaction = std::make_unique<SQLite::Transaction>(database);
-    SQLite::Statement insertion(database,
-        "INSERT INTO " + table + " VALUES (" + repeated("?", 2 + entity.attributes().size()) + ")");
-    for (const RowChange &change : changes) {
-        insertion.bind(1, int64_t{change.row.key});
-        insertion.bind(2, change.kind == RowChange::Kind::Delete ? 1 : 0);
-        int index = 3;
-        for (const QVariant &value : change.row.values) {
-            bindValue(insertion, index++, value);
-        }
-        insertion.exec();
-        insertion.reset();
-    }
-    return transaction;
-}
 
 /// Writes rows, each statement prepared once. SQLite::Exception as SQLiteCpp throws it.
 class RowWriter
@@ -221,11 +150,7 @@ Result<std::vector<qint64>> RecordFile::keys(
     }
     return attempt<std::vector<qint64>>([&] {
         const auto overlay = changes.isEmpty() ? nullptr : overlaid(*m_database, entity, changes);
-        SQLite::Statement statement(*m_database, sql.value().text);
-        int index = 1;
-        for (const QVariant &value : sql.value().values) {
-            bindValue(statement, index++, value);
-        }
+        SQLite::Statement statement = prepared(*m_database, sql.value());
         std::vector<qint64> keys;
         while (statement.executeStep()) {
             keys.push_back(statement.getColumn(0).getInt64());
@@ -236,24 +161,12 @@ Result<std::vector<qint64>> RecordFile::keys(
 
 Result<QList<RecordRow>> RecordFile::rows(const Entity &entity, const QList<qint64> &keys) const
 {
-    return attempt<QList<RecordRow>>([&] {
-        SQLite::Statement statement(
-            *m_database, selection(entity) + " WHERE pk IN (" + repeated("?", keys.size()) + ")");
-        int index = 1;
-        for (const qint64 key : keys) {
-            statement.bind(index++, int64_t{key});
-        }
-        return allRows(statement, entity);
-    });
+    return attempt<QList<RecordRow>>([&] { return rowsOfKeys(*m_database, entity, keys); });
 }
 
 Result<QList<RecordRow>> RecordFile::row(const Entity &entity, const QUuid &id) const
 {
-    return attempt<QList<RecordRow>>([&] {
-        SQLite::Statement statement(*m_database, selection(entity) + " WHERE uuid = ?");
-        bindId(statement, 1, id);
-        return allRows(statement, entity);
-    });
+    return attempt<QList<RecordRow>>([&] { return rowsOfId(*m_database, entity, id); });
 }
 
 Result<QList<qint64>> RecordFile::write(const QList<RowChange> &changes)

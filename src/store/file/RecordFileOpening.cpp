@@ -62,21 +62,6 @@ void makeWhenMissing(const QString &path)
     }
 }
 
-void registerFolding(SQLite::Database &database)
-{
-    const auto fold = [](sqlite3_context *context, int, sqlite3_value **values) {
-        if (sqlite3_value_type(values[0]) != SQLITE_TEXT) {
-            return;
-        }
-        const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(values[0]));
-        const QByteArray folded =
-            foldedText(QString::fromUtf8(text, sqlite3_value_bytes(values[0]))).toUtf8();
-        sqlite3_result_text(
-            context, folded.constData(), static_cast<int>(folded.size()), SQLITE_TRANSIENT);
-    };
-    database.createFunction(foldedFunction, 1, true, nullptr, fold);
-}
-
 /// Whether the file has nothing in it yet; refuses what is not ours, or not for us. Within a
 /// transaction: another program may be making the file, and half of its answers would be from
 /// before, the other half from after.
@@ -178,6 +163,21 @@ void useLog(SQLite::Database &database)
 }
 
 } // namespace
+
+void registerFolding(SQLite::Database &database)
+{
+    const auto fold = [](sqlite3_context *context, int, sqlite3_value **values) {
+        if (sqlite3_value_type(values[0]) != SQLITE_TEXT) {
+            return;
+        }
+        const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(values[0]));
+        const QByteArray folded =
+            foldedText(QString::fromUtf8(text, sqlite3_value_bytes(values[0]))).toUtf8();
+        sqlite3_result_text(
+            context, folded.constData(), static_cast<int>(folded.size()), SQLITE_TRANSIENT);
+    };
+    database.createFunction(foldedFunction, 1, true, nullptr, fold);
+}
 
 std::unique_ptr<SQLite::Database> openedDatabase(
     const Model &model, const QString &path, const RecordSchema &schema)

@@ -26,6 +26,9 @@ struct RefusedFile
 std::unique_ptr<SQLite::Database> openedDatabase(
     const Model &model, const QString &path, const RecordSchema &schema);
 
+/// Makes foldedFunction known to a connection.
+void registerFolding(SQLite::Database &database);
+
 /// What SQLite reports, in recordFileErrorDomain.
 Error errorOf(const SQLite::Exception &exception);
 

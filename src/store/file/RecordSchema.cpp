@@ -37,11 +37,16 @@ CREATE TABLE "Connection" (
 ) STRICT;
 )";
 
+// The history is looked at newest first, and its first page shall not wait for a sort of the rest.
+constexpr auto version2 = R"(
+CREATE INDEX "Connection by date" ON "Connection" ("date");
+)";
+
 } // namespace
 
 const RecordSchema &quillonSchema()
 {
-    static const RecordSchema schema{{version1}};
+    static const RecordSchema schema{{version1, version2}};
     return schema;
 }
 

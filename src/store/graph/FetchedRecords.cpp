@@ -20,6 +20,12 @@ namespace {
 constexpr qsizetype recordsOfPage = 100;
 constexpr std::size_t pagesKept = 8;
 
+Error unknownEntity(const QString &name)
+{
+    return recordFileError(
+        RecordFileError::UnknownName, u"There is no entity named \"%1\"."_s.arg(name));
+}
+
 } // namespace
 
 struct FetchedRecords::State
@@ -33,37 +39,17 @@ struct FetchedRecords::State
     Result<ManagedObjectList> read(qsizetype page) const;
 
     QPointer<ManagedObjectContext> context;
-    Entity entity;
+    QString entity;
     std::vector<qint64> keys;
-    QHash<qint64, ManagedObjectPtr> unsaved; ///< by key; what is not here is read from the file
-    std::list<Page> pages;                   ///< the last used one first
+    std::list<Page> pages; ///< the last used one first
 };
 
 Result<ManagedObjectList> FetchedRecords::State::read(qsizetype page) const
 {
     const auto first = static_cast<std::size_t>(page * recordsOfPage);
     const auto end = std::min(keys.size(), first + std::size_t{recordsOfPage});
-    QHash<qint64, ManagedObjectPtr> found;
-    QList<qint64> inFile;
-    for (auto index = first; index < end; ++index) {
-        if (const auto object = unsaved.value(keys[index])) {
-            found.insert(keys[index], object);
-        } else {
-            inFile << keys[index];
-        }
-    }
-    const auto rows = context->m_file->rows(entity, inFile);
-    if (!rows) {
-        return rows.error();
-    }
-    for (const RecordRow &row : rows.value()) {
-        found.insert(row.key, context->objectOf(entity, row));
-    }
-    ManagedObjectList records;
-    for (auto index = first; index < end; ++index) {
-        records << found.value(keys[index]);
-    }
-    return records;
+    return context->objects(entity, {keys.begin() + static_cast<std::ptrdiff_t>(first),
+                                        keys.begin() + static_cast<std::ptrdiff_t>(end)});
 }
 
 qsizetype FetchedRecords::size() const
@@ -102,25 +88,59 @@ Result<FetchedRecords> ManagedObjectContext::fetchLazily(const FetchRequest &req
 {
     const Entity *const entity = m_model.entity(request.entity);
     if (!entity) {
-        return recordFileError(RecordFileError::UnknownName,
-            u"There is no entity named \"%1\"."_s.arg(request.entity));
+        return unknownEntity(request.entity);
     }
-    QList<RowChange> changes;
-    QHash<qint64, ManagedObjectPtr> unsaved;
-    for (const ManagedObjectPtr &object : std::as_const(m_unsaved)) {
-        if (object->m_entity.name() == request.entity) {
-            changes << changeOf(*object);
-            unsaved.insert(object->m_key, object);
-        }
-    }
+    const QList<RowChange> changes = unsavedChanges(request.entity);
     auto keys = m_file->keys(*entity, request, changes);
     if (!keys) {
         return keys.error();
     }
     FetchedRecords records;
     records.m_state = std::make_shared<FetchedRecords::State>(
-        FetchedRecords::State{this, *entity, std::move(keys.value()), unsaved, {}});
+        FetchedRecords::State{this, request.entity, std::move(keys.value()), {}});
     return records;
+}
+
+QList<RowChange> ManagedObjectContext::unsavedChanges(const QString &entity) const
+{
+    QList<RowChange> changes;
+    for (const ManagedObjectPtr &object : m_unsaved) {
+        if (object->m_entity.name() == entity) {
+            changes << changeOf(*object);
+        }
+    }
+    return changes;
+}
+
+Result<ManagedObjectList> ManagedObjectContext::objects(
+    const QString &entityName, const QList<qint64> &keys)
+{
+    const Entity *const entity = m_model.entity(entityName);
+    if (!entity) {
+        return unknownEntity(entityName);
+    }
+    const QSet<qint64> wanted(keys.begin(), keys.end());
+    QHash<qint64, ManagedObjectPtr> found;
+    for (const ManagedObjectPtr &object : std::as_const(m_unsaved)) {
+        if (wanted.contains(object->m_key) && object->m_entity.name() == entityName) {
+            found.insert(object->m_key, object);
+        }
+    }
+    QList<qint64> inFile = keys;
+    inFile.removeIf([&found](qint64 key) { return found.contains(key); });
+    const auto rows = m_file->rows(*entity, inFile);
+    if (!rows) {
+        return rows.error();
+    }
+    for (const RecordRow &row : rows.value()) {
+        found.insert(row.key, objectOf(*entity, row));
+    }
+    ManagedObjectList objects;
+    for (const qint64 key : keys) {
+        const ManagedObjectPtr object = found.value(key);
+        objects << (object && !object->isDeleted() ? object : nullptr);
+    }
+    return objects;
 }
 
 Result<ManagedObjectList> ManagedObjectContext::fetch(const FetchRequest &request)

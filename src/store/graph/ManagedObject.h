@@ -25,6 +25,8 @@ public:
     /// The record's identity as text: "x-quillon-record://Quillon/Rule/<uuid>". Survives saving and
     /// restarts; ManagedObjectContext::objectWithURI() turns it back into the object.
     QString uriRepresentation() const;
+    /// Its place in the order of creation; the first save gives it another.
+    qint64 key() const { return m_key; }
 
     /// Invalid when the attribute holds nothing, or there is none of that name.
     QVariant value(const QString &attribute) const;

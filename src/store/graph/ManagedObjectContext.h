@@ -79,6 +79,10 @@ public:
     Result<ManagedObjectList> fetch(const FetchRequest &request);
     /// The same as a list that reads its records page by page as they are looked at.
     Result<FetchedRecords> fetchLazily(const FetchRequest &request);
+    /// What of the entity's records is not in the file yet.
+    QList<RowChange> unsavedChanges(const QString &entity) const;
+    /// The records of these keys, in their order; null for one that does not exist any more.
+    Result<ManagedObjectList> objects(const QString &entity, const QList<qint64> &keys);
     /// Null when the text is not the identity of a record that exists.
     ManagedObjectPtr objectWithURI(const QString &uri);
 

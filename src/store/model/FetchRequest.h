@@ -17,12 +17,15 @@ struct SortDescriptor
 };
 
 /// Which records of one entity are wanted. Without an order they come in the order of their
-/// creation, unsaved ones last; with one, equal records keep that order.
+/// creation, unsaved ones last; with one, equal records keep that order, or the reverse of it.
 struct FetchRequest
 {
     QString entity;
     std::optional<Predicate> predicate;
     QList<SortDescriptor> order;
+    bool latestFirst = false; ///< of equal records, and of all where no order is asked for
+
+    bool operator==(const FetchRequest &) const = default;
 };
 
 } // namespace quillon

@@ -5,9 +5,9 @@
 #include "base/Localized.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/FlowLayout.h"
 #include "ui/widgets/PlainText.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QToolButton>
 
@@ -17,23 +17,15 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int buttonWidth = 86;
-
-} // namespace
-
 PreferencesToolBar::PreferencesToolBar(const Theme &theme, QWidget *parent)
     : QWidget(parent)
     , m_theme(theme)
-    , m_row(new QHBoxLayout(this))
 {
     setAccessibleRole(*this, QAccessible::PageTabList);
     setAccessibleName(localized("Preferences"));
-    m_row->setContentsMargins(0, 0, 0, 0);
-    m_row->setSpacing(Theme::unit / 2);
-    m_row->addStretch();
-    m_row->addStretch();
+    // Large texts take two lines rather than a window that is wider than the screen.
+    auto *line = new FlowLayout(this, Theme::unit / 2);
+    line->setAlignment(Qt::AlignHCenter);
 }
 
 void PreferencesToolBar::add(const PreferencesPaneInfo &info)
@@ -52,14 +44,13 @@ void PreferencesToolBar::add(const PreferencesPaneInfo &info)
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setProperty("look", u"pane"_s);
     button->setCheckable(true);
-    button->setMinimumWidth(buttonWidth);
     button->installEventFilter(this);
     connect(button, &QToolButton::clicked, this, [this, pane = info.pane, button] {
         // Pressed again it is still the one that is chosen.
         button->setChecked(true);
         Q_EMIT chosen(pane);
     });
-    m_row->insertWidget(m_row->count() - 1, button);
+    layout()->addWidget(button);
     m_buttons.append({info, button});
     draw(m_buttons.last(), m_buttons.size() - 1 == m_selected);
 }

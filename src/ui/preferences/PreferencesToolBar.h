@@ -7,7 +7,6 @@
 #include <QMap>
 #include <QWidget>
 
-class QHBoxLayout;
 class QToolButton;
 
 namespace quillon {
@@ -44,7 +43,6 @@ private:
     void step(qsizetype places);
 
     const Theme &m_theme;
-    QHBoxLayout *m_row;
     QList<Button> m_buttons;
     qsizetype m_selected = 0;
 };

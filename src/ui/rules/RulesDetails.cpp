@@ -12,6 +12,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -56,6 +57,7 @@ RulesDetails::RulesDetails(RuleStatusModel &status, RulesListModel &list, const 
     , m_rules(new QVBoxLayout)
     , m_area(new ContentScrollArea(makeList(m_rules), tallest))
     , m_empty(plainLabel(localized("No rule for this interface.")))
+    , m_edit(new QPushButton)
 {
     auto *labels = new QHBoxLayout;
     labels->setSpacing(Theme::unit + 4);
@@ -77,6 +79,15 @@ RulesDetails::RulesDetails(RuleStatusModel &status, RulesListModel &list, const 
     column->addLayout(labels);
     column->addWidget(m_area);
     column->addWidget(m_empty);
+    m_edit->setObjectName(u"editRules"_s);
+    m_edit->setAutoDefault(true);
+    auto *ending = new QHBoxLayout;
+    ending->setContentsMargins(0, 0, ring, 0);
+    ending->addStretch();
+    ending->addWidget(m_edit);
+    column->addLayout(ending);
+    connect(m_edit, &QPushButton::clicked, this,
+        [this] { Q_EMIT editChosen(m_list.state().rows.isEmpty()); });
     connect(&m_status, &RuleStatusModel::changed, this, &RulesDetails::refreshStatus);
     connect(&m_list, &RulesListModel::changed, this, &RulesDetails::refreshList);
 }
@@ -101,6 +112,10 @@ void RulesDetails::refreshList()
     m_head->setIcon(m_list.state().symbol == "wifi"_L1 ? u"wireless"_s : u"wired"_s);
     const auto &rows = m_list.state().rows;
     m_empty->setVisible(rows.isEmpty());
+    m_edit->setText(
+        plainLine(rows.isEmpty() ? localized("New Network Rule…") : localized("Edit Rules")));
+    m_edit->setAccessibleName(m_edit->text());
+    m_edit->setToolTip(plainToolTip(localized("Opens the rule editor")));
     m_area->setVisible(!rows.isEmpty());
     setRules(rows);
     m_area->updateGeometry();

@@ -6,6 +6,7 @@
 #include "ui/widgets/PopoverDetails.h"
 
 class QLabel;
+class QPushButton;
 class QVBoxLayout;
 
 namespace quillon {
@@ -26,6 +27,10 @@ public:
 
     void refresh() override;
 
+Q_SIGNALS:
+    /// The rules are to be edited, or the first one to be made.
+    void editChosen(bool isNew);
+
 private:
     void refreshStatus();
     void refreshList();
@@ -44,6 +49,7 @@ private:
     QVBoxLayout *m_rules; ///< the lines
     ContentScrollArea *m_area;
     QLabel *m_empty;
+    QPushButton *m_edit;
 };
 
 } // namespace quillon

@@ -3,6 +3,7 @@
 #include "ui/rules/RulesRow.h"
 
 #include "base/Localized.h"
+#include "presence/Presence.h"
 #include "presentation/rules/RuleStatusModel.h"
 #include "presentation/rules/RulesListModel.h"
 #include "ui/rules/RulesDetails.h"
@@ -26,7 +27,12 @@ RulesRow::RulesRow(const Models &models, const Theme &theme)
 
 PopoverDetails *RulesRow::makeDetails()
 {
-    return new RulesDetails(m_models.status, m_models.list, theme());
+    auto *details = new RulesDetails(m_models.status, m_models.list, theme());
+    connect(details, &RulesDetails::editChosen, this, [this](bool isNew) {
+        m_models.list.popoverWillClose();
+        m_models.presence.goTo(isNew ? Destination::NewNetworkRule : Destination::Rules);
+    });
+    return details;
 }
 
 void RulesRow::refreshStatus()

@@ -6,11 +6,12 @@
 
 namespace quillon {
 
+class Presence;
 class RuleStatusModel;
 class RulesListModel;
 
-/// Whether a rule holds for the interface now; its popover switches the interface's rules.
-/// Whether a rule holds for the selected interface.
+/// Whether a rule holds for the selected interface; its popover switches the interface's rules, and
+/// leads to their editor.
 class RulesRow : public PopoverRow
 {
     Q_OBJECT
@@ -20,6 +21,7 @@ public:
     {
         RuleStatusModel &status;
         RulesListModel &list;
+        Presence &presence;
     };
 
     RulesRow(const Models &models, const Theme &theme);

@@ -222,6 +222,8 @@ QString Theme::styleSheet(const QString &pattern, const ThemeColors &colors, Col
     QHash<QString, QString> names = namedColors(colors);
     names.insert(
         u"chevron"_s, scheme == ColorScheme::Dark ? u"chevron-dark.svg"_s : u"chevron-light.svg"_s);
+    names.insert(u"chevronUp"_s,
+        scheme == ColorScheme::Dark ? u"chevron-up-dark.svg"_s : u"chevron-up-light.svg"_s);
     names.insert(
         u"check"_s, scheme == ColorScheme::Dark ? u"check-dark.svg"_s : u"check-light.svg"_s);
     static const QRegularExpression name(u"@([A-Za-z]+)"_s);

@@ -3,6 +3,7 @@
 #include "ui/vendors/MissingVendors.h"
 
 #include "base/Localized.h"
+#include "presentation/preferences/PreferencesWindowModel.h"
 #include "presentation/vendors/VendorPaneModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
@@ -15,11 +16,10 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-MissingVendors::MissingVendors(VendorPaneModel &model, QWidget *parent)
-    : QWidget(parent)
-    , m_model(model)
+MissingVendors::MissingVendors(VendorPaneModel &model, PreferencesWindowModel &preferences)
+    : m_model(model)
     , m_text(plainLabel())
-    , m_button(new QPushButton)
+    , m_button(new QPushButton(localized("Vendor Data")))
 {
     setObjectName(u"missingVendors"_s);
     m_text->setProperty("look", u"caption"_s);
@@ -31,7 +31,14 @@ MissingVendors::MissingVendors(VendorPaneModel &model, QWidget *parent)
     line->setSpacing(Theme::unit);
     line->addWidget(m_text, 1);
     line->addWidget(m_button);
-    connect(m_button, &QPushButton::clicked, this, [this] { m_model.pressButton(); });
+    const QString hint = localized("Open the preferences where the list of vendors is downloaded");
+    m_button->setAccessibleName(m_button->text());
+    m_button->setAccessibleDescription(hint);
+    m_button->setToolTip(plainToolTip(hint));
+    connect(m_button, &QPushButton::clicked, this, [&preferences] {
+        preferences.showPane(PreferencesPane::VendorData);
+        preferences.openPreferencesWindow();
+    });
     connect(&m_model, &VendorPaneModel::changed, this, &MissingVendors::refresh);
     refresh();
 }
@@ -43,13 +50,6 @@ void MissingVendors::refresh()
     const QString missing = localized("The list of vendors is missing.");
     const QString said = state.isUpdating ? state.updatedLabel : missing;
     m_text->setText(plainLine(said));
-    m_button->setText(plainLine(state.buttonTitle));
-    // Another button of this title may be in the window.
-    m_button->setAccessibleName(state.isUpdating ? localized("Cancel the download of vendors")
-                                                 : localized("Download the list of vendors"));
-    m_button->setEnabled(state.action != VendorPaneModel::Action::None);
-    m_button->setAccessibleDescription(missing);
-    m_button->setToolTip(plainToolTip(m_button->accessibleName()));
 }
 
 } // namespace quillon

@@ -9,15 +9,17 @@ class QPushButton;
 
 namespace quillon {
 
+class PreferencesWindowModel;
 class VendorPaneModel;
 
-/// Says that the list of manufacturers is missing, and downloads it: there only while it is.
+/// Says that the list of manufacturers is missing, and leads to where it is downloaded: there only
+/// while it is.
 class MissingVendors : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit MissingVendors(VendorPaneModel &model, QWidget *parent = nullptr);
+    MissingVendors(VendorPaneModel &model, PreferencesWindowModel &preferences);
 
 private:
     void refresh();

@@ -21,7 +21,8 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent)
+VendorChooser::VendorChooser(
+    VendorFieldModel &model, const Theme &theme, Caption caption, QWidget *parent)
     : QFrame(parent)
     , m_model(model)
     , m_theme(theme)
@@ -31,28 +32,36 @@ VendorChooser::VendorChooser(VendorFieldModel &model, const Theme &theme, QWidge
     setObjectName(u"vendorFieldView"_s);
     makeField();
     makeToggle(theme);
-    // Inside the field, as in any box that opens a list.
-    auto *caption = plainLabel(localized("&Vendor"));
-    caption->setProperty("look", u"caption"_s);
-    caption->setBuddy(m_field);
-    caption->setAttribute(Qt::WA_TransparentForMouseEvents);
+    arrange(caption);
+    connectModel();
+    refresh();
+}
+
+void VendorChooser::arrange(Caption caption)
+{
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(m_field, 0, 0);
-    grid->addWidget(caption, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
     grid->addWidget(m_toggle, 0, 0, Qt::AlignRight | Qt::AlignVCenter);
     // Margins are not mirrored by themselves.
     const bool isMirrored = isRightToLeft();
     const int inset = Theme::unit + 4;
-    caption->setContentsMargins(isMirrored ? 0 : inset, 0, isMirrored ? inset : 0, 0);
-    const int before = caption->sizeHint().width() - Theme::unit / 2;
+    int before = 0;
+    if (caption == Caption::Inside) {
+        auto *label = plainLabel(localized("&Vendor"));
+        label->setProperty("look", u"caption"_s);
+        label->setBuddy(m_field);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        label->setContentsMargins(isMirrored ? 0 : inset, 0, isMirrored ? inset : 0, 0);
+        grid->addWidget(label, 0, 0, Qt::AlignLeft | Qt::AlignVCenter);
+        before = label->sizeHint().width() - Theme::unit / 2;
+    }
     const int after = m_toggle->sizeHint().width() - Theme::unit / 2;
     m_field->setTextMargins(isMirrored ? after : before, 0, isMirrored ? before : after, 0);
     // What stands there unless somebody chooses is always legible.
     const int usual = m_field->fontMetrics().horizontalAdvance(localized("Random Address"));
     m_field->setMinimumWidth(before + usual + after + 2 * inset + Theme::unit / 2);
-    connectModel();
-    refresh();
+    setFocusProxy(m_field);
 }
 
 void VendorChooser::makeField()
@@ -160,10 +169,15 @@ void VendorChooser::hideList()
 
 void VendorChooser::placeList()
 {
-    const QPoint corner = m_field->mapTo(window(), QPoint(0, m_field->height() + Theme::unit / 2));
-    const int room = window()->height() - corner.y() - Theme::unit;
-    const int height = std::min(m_table->sizeHint().height(), room);
-    m_table->setGeometry(corner.x(), corner.y(), m_field->width(), height);
+    const QPoint corner = m_field->mapTo(window(), QPoint(0, 0));
+    const int below = corner.y() + m_field->height() + Theme::unit / 2;
+    const int roomBelow = window()->height() - below - Theme::unit;
+    const int roomAbove = corner.y() - Theme::unit / 2 - Theme::unit;
+    const int wanted = m_table->sizeHint().height();
+    const bool isBelow = roomBelow >= wanted / 2 || roomBelow >= roomAbove;
+    const int height = std::min(wanted, isBelow ? roomBelow : roomAbove);
+    const int top = isBelow ? below : corner.y() - Theme::unit / 2 - height;
+    m_table->setGeometry(corner.x(), top, m_field->width(), height);
 }
 
 void VendorChooser::moveEvent(QMoveEvent *event)

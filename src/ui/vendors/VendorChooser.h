@@ -20,7 +20,15 @@ class VendorChooser : public QFrame
     Q_OBJECT
 
 public:
-    VendorChooser(VendorFieldModel &model, const Theme &theme, QWidget *parent = nullptr);
+    /// Where what it is called stands.
+    enum class Caption
+    {
+        Inside, ///< in the field, as in any box that opens a list
+        Beside, ///< in a label of the form that it is part of
+    };
+
+    VendorChooser(VendorFieldModel &model, const Theme &theme, Caption caption = Caption::Inside,
+        QWidget *parent = nullptr);
 
 protected:
     /// The keys of field and list, the moment when both lose the keyboard, presses beside the list,
@@ -30,6 +38,7 @@ protected:
 
 private:
     void makeField();
+    void arrange(Caption caption);
     void makeToggle(const Theme &theme);
     void connectModel();
     void refresh();

@@ -17,6 +17,12 @@ namespace {
 constexpr int pillHeight = 20;
 constexpr int inset = Theme::unit;
 
+QSize sizeIn(const QFontMetrics &metrics, const QString &text)
+{
+    return {metrics.horizontalAdvance(text) + 2 * inset,
+        std::max(pillHeight, metrics.height() + Theme::unit / 2)};
+}
+
 } // namespace
 
 Badge::Badge(const Theme &theme, const QString &text, Tone tone, QWidget *parent)
@@ -54,22 +60,32 @@ void Badge::setOnTint(bool onTint)
 
 QSize Badge::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(m_text) + 2 * inset,
-        std::max(pillHeight, fontMetrics().height() + Theme::unit / 2)};
+    return sizeIn(fontMetrics(), m_text);
+}
+
+QSize Badge::sizeOf(const QString &text)
+{
+    return sizeIn(QFontMetrics(Theme::font(Theme::Type::Badge)), text);
+}
+
+void Badge::draw(QPainter &painter, const Theme &theme, const QRect &rect, const QString &text,
+    Tone tone, bool onTint)
+{
+    const ThemeColors &colors = theme.colors();
+    const bool isTint = tone == Tone::Tint;
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF pill = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(isTint ? colors.tintEdge : colors.surfaceBorder);
+    painter.setBrush(isTint && !onTint ? colors.tint : colors.surface);
+    painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    painter.setPen(isTint ? colors.onTint : colors.mutedText);
+    painter.drawText(rect, Qt::AlignCenter, text);
 }
 
 void Badge::paintEvent(QPaintEvent *)
 {
-    const ThemeColors &colors = m_theme.colors();
-    const bool isTint = m_tone == Tone::Tint;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF pill = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(isTint ? colors.tintEdge : colors.surfaceBorder);
-    painter.setBrush(isTint && !m_onTint ? colors.tint : colors.surface);
-    painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
-    painter.setPen(isTint ? colors.onTint : colors.mutedText);
-    painter.drawText(rect(), Qt::AlignCenter, m_text);
+    draw(painter, m_theme, rect(), m_text, m_tone, m_onTint);
 }
 
 } // namespace quillon

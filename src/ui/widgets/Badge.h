@@ -22,6 +22,11 @@ public:
         Neutral,
     };
 
+    /// For lists that draw their rows: what a badge that says `text` takes, and one in `rect`.
+    static QSize sizeOf(const QString &text);
+    static void draw(QPainter &painter, const Theme &theme, const QRect &rect, const QString &text,
+        Tone tone, bool onTint);
+
     Badge(
         const Theme &theme, const QString &text, Tone tone = Tone::Tint, QWidget *parent = nullptr);
 

@@ -45,15 +45,6 @@ QSize ContentScrollArea::minimumSizeHint() const
     return {width + (hasBar ? verticalScrollBar()->sizeHint().width() : 0), Theme::rowHeight};
 }
 
-bool ContentScrollArea::event(QEvent *event)
-{
-    if (event->type() == QEvent::LayoutRequest) {
-        // Its content asks for another height.
-        updateGeometry();
-    }
-    return RevealingScrollArea::event(event);
-}
-
 void ContentScrollArea::showEvent(QShowEvent *event)
 {
     RevealingScrollArea::showEvent(event);

@@ -22,7 +22,6 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    bool event(QEvent *event) override;
     /// Begins at the top.
     void showEvent(QShowEvent *event) override;
 

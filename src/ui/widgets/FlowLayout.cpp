@@ -37,12 +37,20 @@ int FlowLayout::arrange(int width, QList<QRect> &places) const
     int x = 0;
     int y = 0;
     int lineHeight = 0;
+    qsizetype lineBegin = 0;
+    const auto endLine = [&] {
+        const int rest = alignment().testFlag(Qt::AlignHCenter) ? width - (x - m_gap) : 0;
+        for (; lineBegin < places.size(); ++lineBegin) {
+            places[lineBegin].translate(std::max(rest, 0) / 2, 0);
+        }
+    };
     for (const QLayoutItem *item : m_items) {
         // A sentence that goes on below takes whole lines.
         const QSize wanted = item->hasHeightForWidth() ? QSize(width, item->heightForWidth(width))
                                                        : item->sizeHint();
         const QSize size(std::min(wanted.width(), width), wanted.height());
         if (x > 0 && x + size.width() > width) {
+            endLine();
             x = 0;
             y += lineHeight + m_gap;
             lineHeight = 0;
@@ -51,6 +59,7 @@ int FlowLayout::arrange(int width, QList<QRect> &places) const
         x += size.width() + m_gap;
         lineHeight = std::max(lineHeight, size.height());
     }
+    endLine();
     return y + lineHeight;
 }
 

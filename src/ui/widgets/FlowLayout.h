@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-/// Lays widgets beside each other as words in a paragraph: a line that is full goes on below.
+/// Lays widgets beside each other as words in a paragraph: a line that is full goes on below. Lines
+/// begin where texts begin, or are centered (setAlignment).
 class FlowLayout : public QLayout
 {
     Q_OBJECT

@@ -53,28 +53,27 @@ InlineLine::InlineLine(const Theme &theme, QWidget *parent)
 
 void InlineLine::say(const QString &text, Kind kind)
 {
-    const bool isNew = plainParagraphs(text) != m_text->text();
+    const bool isNew = plainParagraphs(text) != m_said;
     m_kind = kind;
-    m_text->setText(plainParagraphs(text));
+    m_said = plainParagraphs(text);
+    showBroken(*m_text, m_said);
     m_text->setProperty("look", lookOf(kind));
     m_text->style()->unpolish(m_text);
     m_text->style()->polish(m_text);
     makeRoom();
     if (isNew && kind != Kind::Muted) {
-        announce(*m_text, m_text->text());
-    } else {
-        m_text->setAccessibleName(m_text->text());
+        announce(*m_text, m_said);
     }
 }
 
 QString InlineLine::text() const
 {
-    return m_text->text();
+    return m_said;
 }
 
 bool InlineLine::hasSign() const
 {
-    return (m_kind == Kind::Notice || m_kind == Kind::Danger) && !m_text->text().isEmpty();
+    return (m_kind == Kind::Notice || m_kind == Kind::Danger) && !m_said.isEmpty();
 }
 
 void InlineLine::makeRoom()

@@ -42,6 +42,7 @@ private:
 
     const Theme &m_theme;
     QLabel *m_text;
+    QString m_said;
     Kind m_kind = Kind::Muted;
 };
 

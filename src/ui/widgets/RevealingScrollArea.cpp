@@ -3,6 +3,7 @@
 #include "ui/widgets/RevealingScrollArea.h"
 
 #include <QApplication>
+#include <QScrollBar>
 
 namespace quillon {
 
@@ -28,6 +29,22 @@ RevealingScrollArea::~RevealingScrollArea()
 {
     // Its content goes when it is only a widget any more, and the keyboard with it.
     disconnect(qApp, nullptr, this, nullptr);
+}
+
+QSize RevealingScrollArea::minimumSizeHint() const
+{
+    QSize hint = QScrollArea::minimumSizeHint();
+    hint.setWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
+    return hint;
+}
+
+bool RevealingScrollArea::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        // Its content asks for another size.
+        updateGeometry();
+    }
+    return QScrollArea::event(event);
 }
 
 void RevealingScrollArea::reveal(QWidget *focused)

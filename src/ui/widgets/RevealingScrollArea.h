@@ -21,6 +21,12 @@ public:
     explicit RevealingScrollArea(QWidget *content, QWidget *parent = nullptr);
     ~RevealingScrollArea() override;
 
+    /// As wide as the content and the scroll bar beside it need.
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void reveal(QWidget *focused);
 };

@@ -55,28 +55,37 @@ void ToggleSwitch::slide(bool on)
 
 void ToggleSwitch::paintEvent(QPaintEvent *)
 {
-    const ThemeColors &colors = m_theme.colors();
     QPainter painter(this);
+    draw(painter, m_theme, rect(),
+        {.position = m_position,
+            .isOn = isChecked(),
+            .isEnabled = isEnabled(),
+            .isHovered = underMouse(),
+            .isMirrored = isRightToLeft()});
+}
+
+void ToggleSwitch::draw(QPainter &painter, const Theme &theme, const QRectF &rect, const Look &look)
+{
+    const ThemeColors &colors = theme.colors();
     painter.setRenderHint(QPainter::Antialiasing);
     QRectF track(QPointF(0, 0), QSizeF(trackSize));
-    track.moveCenter(QRectF(rect()).center());
+    track.moveCenter(rect.center());
     track.adjust(0.5, 0.5, -0.5, -0.5);
-    const bool on = isChecked();
-    const QColor edge = !isEnabled() ? colors.disabledText
-                        : on         ? colors.accent
-                                     : colors.controlBorder;
-    const QColor hovered = underMouse() ? colors.controlHover : colors.control;
+    const QColor edge = !look.isEnabled ? colors.disabledText
+                        : look.isOn     ? colors.accent
+                                        : colors.controlBorder;
+    const QColor hovered = look.isHovered ? colors.controlHover : colors.control;
     painter.setPen(QPen(edge, 1));
-    painter.setBrush(!isEnabled() ? colors.disabledFill : on ? colors.accent : hovered);
+    painter.setBrush(!look.isEnabled ? colors.disabledFill : look.isOn ? colors.accent : hovered);
     painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
 
     const qreal size = track.height() - 2 * knobInset;
     const qreal way = track.width() - 2 * knobInset - size;
-    const qreal along = isRightToLeft() ? way * (1 - m_position) : way * m_position;
+    const qreal along = look.isMirrored ? way * (1 - look.position) : way * look.position;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(!isEnabled() ? colors.disabledText
-                     : on         ? colors.onAccent
-                                  : colors.controlBorder);
+    painter.setBrush(!look.isEnabled ? colors.disabledText
+                     : look.isOn     ? colors.onAccent
+                                     : colors.controlBorder);
     painter.drawEllipse(
         QRectF(track.left() + knobInset + along, track.top() + knobInset, size, size));
 }

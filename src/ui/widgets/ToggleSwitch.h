@@ -19,6 +19,18 @@ class ToggleSwitch : public QCheckBox
 public:
     static constexpr QSize trackSize{36, 20};
 
+    /// How one looks, for lists that draw their rows.
+    struct Look
+    {
+        qreal position = 0; ///< of the knob: 0 off, 1 on
+        bool isOn = false;
+        bool isEnabled = true;
+        bool isHovered = false;
+        bool isMirrored = false;
+    };
+    /// Draws one in the middle of `rect`.
+    static void draw(QPainter &painter, const Theme &theme, const QRectF &rect, const Look &look);
+
     explicit ToggleSwitch(const Theme &theme, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;

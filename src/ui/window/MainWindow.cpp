@@ -96,25 +96,23 @@ MainWindow::~MainWindow()
     hide();
 }
 
-void MainWindow::addDetails(QWidget *section)
+void MainWindow::putFooterAndHeaderLast()
 {
-    m_area->add(section);
-}
-
-void MainWindow::putHeaderLast()
-{
-    const auto takesTab = [](const QWidget *widget) {
-        return (widget->focusPolicy() & Qt::TabFocus) != 0;
+    const auto isIn = [](const QWidget *part, const QWidget *widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) != 0 && part->isAncestorOf(widget);
     };
     QWidget *last = previousInFocusChain();
-    while (last != this && (!takesTab(last) || m_header->isAncestorOf(last))) {
+    while (last != this && ((last->focusPolicy() & Qt::TabFocus) == 0 || isIn(m_footer, last) ||
+                               isIn(m_header, last))) {
         last = last->previousInFocusChain();
     }
     QList<QWidget *> stops;
-    for (QWidget *widget = nextInFocusChain(); widget != this;
-        widget = widget->nextInFocusChain()) {
-        if (takesTab(widget) && m_header->isAncestorOf(widget)) {
-            stops.append(widget);
+    for (const QWidget *part : std::initializer_list<const QWidget *>{m_footer, m_header}) {
+        for (QWidget *widget = nextInFocusChain(); widget != this;
+            widget = widget->nextInFocusChain()) {
+            if (isIn(part, widget)) {
+                stops.append(widget);
+            }
         }
     }
     for (QWidget *stop : std::as_const(stops)) {

@@ -49,10 +49,8 @@ public:
     AddressCard &addressCard() const { return *m_addressCard; }
     /// What is known of the selected interface.
     FactsCard &facts() const { return *m_facts; }
-    /// Puts a section under the facts, in the order of the calls.
-    void addDetails(QWidget *section);
-    /// For the keyboard the header comes after everything that was added so far.
-    void putHeaderLast();
+    /// For the keyboard footer and header come after everything that was added so far.
+    void putFooterAndHeaderLast();
     /// `keys` anywhere in the window, as long as no popover is open.
     void addShortcut(const QKeySequence &keys, const QString &text, std::function<void()> act);
     /// Puts the keyboard where the address that was put into the field is applied.

@@ -53,7 +53,10 @@ ComposedProgram::ComposedProgram(
         .radioSwitch = m_radioSwitch,
         .location = m_location,
         .systemSettings = m_systemSettings,
+        .softwareCenter = m_softwareCenter,
         .hotKeys = m_hotKeys,
+        .loginItem = m_loginItem,
+        .links = m_links,
         .http = m_http,
         .helperLink = helperLink,
         .random = m_random,
@@ -61,7 +64,8 @@ ComposedProgram::ComposedProgram(
         .places = {.supportFolder = folder,
             .shippedVendorDatabase = {},
             .externalAddressService = QUrl(nobody),
-            .vendorRegistry = QUrl(nobody)},
+            .vendorRegistry = QUrl(nobody),
+            .licenseFile = {}},
     });
 }
 

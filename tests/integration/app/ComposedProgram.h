@@ -5,6 +5,9 @@
 #include "app/QuillonAppDelegate.h"
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeHotKeys.h"
+#include "fakes/FakeLinkOpener.h"
+#include "fakes/FakeLoginItem.h"
+#include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
 #include "fakes/FakeWiFiClient.h"
@@ -86,7 +89,10 @@ private:
     LogindSleep m_sleep;
     Nl80211LocationAuthorization m_location{m_real};
     FakeSystemSettings m_systemSettings;
+    FakeSoftwareCenter m_softwareCenter;
     FakeHotKeys m_hotKeys{m_scheduler};
+    FakeLoginItem m_loginItem{m_scheduler};
+    FakeLinkOpener m_links;
     NetworkHttpClient m_http;
     GetrandomSource m_random;
     DBusHelperLink m_helperLink{m_random};

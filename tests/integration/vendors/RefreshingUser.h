@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/QuillonAppDelegate.h"
+#include "base/DateStamp.h"
 #include "base/SettingsKeys.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/LogCapture.h"
@@ -10,7 +11,6 @@
 #include "integration/platform/qt/web/WebServer.h"
 #include "platform/qt/QtScheduler.h"
 #include "platform/qt/web/NetworkHttpClient.h"
-#include "vendors/DateStamp.h"
 #include "vendors/VendorTable.h"
 
 #include <QDir>
@@ -116,7 +116,10 @@ private:
             .radioSwitch = fakes.radioSwitch,
             .location = fakes.location,
             .systemSettings = fakes.systemSettings,
+            .softwareCenter = fakes.softwareCenter,
             .hotKeys = fakes.hotKeys,
+            .loginItem = fakes.loginItem,
+            .links = fakes.links,
             .http = http,
             .helperLink = fakes.helperLink,
             .random = fakes.random,
@@ -124,7 +127,8 @@ private:
             .places = {.supportFolder = files.folder,
                 .shippedVendorDatabase = files.seed,
                 .externalAddressService = {},
-                .vendorRegistry = WebServer::secure("/oui/oui.csv")},
+                .vendorRegistry = WebServer::secure("/oui/oui.csv"),
+                .licenseFile = {}},
         };
     }
 };

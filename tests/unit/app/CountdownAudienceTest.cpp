@@ -46,6 +46,15 @@ TEST_F(CountdownAudienceTest, IsWhoSeesTheWindow)
     EXPECT_EQ(ticksWithin(10s), 10);
 }
 
+TEST_F(CountdownAudienceTest, IsWhoSeesTheOverview)
+{
+    features().presence.setWindowInSight(false);
+    features().overview.setInSight(true);
+    EXPECT_EQ(ticksWithin(10s), 10);
+    features().overview.setInSight(false);
+    EXPECT_EQ(ticksWithin(10s), 0);
+}
+
 TEST_F(CountdownAudienceTest, IsWhoHasAMenuOpen)
 {
     features().presence.setWindowInSight(false);

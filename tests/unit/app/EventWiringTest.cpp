@@ -244,6 +244,24 @@ TEST_F(EventWiringTest, ACountdownThatEndsWhileTheMenuIsOpenLeavesItWithTheClosi
     EXPECT_FALSE(menuTitles().contains(u"    Pause Timer"_s));
 }
 
+TEST_F(EventWiringTest, TheStartAtLoginFollowsItsSetting)
+{
+    machine.settings.setBool(keys::loginStart, true);
+    EXPECT_EQ(machine.loginItem.current, LoginItem::Entry::Ours);
+    machine.settings.set(keys::loginStart, u"yes"_s);
+    EXPECT_EQ(machine.loginItem.current, LoginItem::Entry::None);
+}
+
+TEST_F(EventWiringTest, ABroadcastFromTheCloudRefreshesTheGeneralPreferences)
+{
+    int refreshed = 0;
+    QObject::connect(&features().preferences.general,
+        &GeneralPreferencesViewController::viewRefreshed, [&refreshed] { ++refreshed; });
+    machine.notifications.post(notifications::icloudUpdated);
+    machine.scheduler.runPending();
+    EXPECT_EQ(refreshed, 1);
+}
+
 TEST_F(EventWiringTest, TheHotKeysFollowTheirSettings)
 {
     FakeHotKeys &desktop = machine.hotKeys;
@@ -298,7 +316,7 @@ TEST_F(EventWiringTest, WhatWasPutOffReachesNobodyAfterTheEnd)
     machine.settings.setBool(keys::loginStart, true);
     machine.notifications.post(notifications::addressUpdated);
     features().mainWindow.populateHexField();
-    features().advancedPreferences.load();
+    features().preferences.advanced.load();
     program.reset();
     machine.networkChanges.networkChanges();
     machine.scheduler.advance(5s);

@@ -196,8 +196,8 @@ TEST_F(HelperEventsTest, PreferencesAndMenuFollowItsStatusWithTheBroadcast)
     bool seen = false;
     const auto token =
         machine.notifications.addObserver(notifications::helperStatusChanged, [&](const auto &) {
-            EXPECT_TRUE(features().advancedPreferences.isInstallEnabled());
-            EXPECT_FALSE(features().advancedPreferences.isUninstallEnabled());
+            EXPECT_TRUE(features().preferences.advanced.state().installEnabled);
+            EXPECT_FALSE(features().preferences.advanced.state().uninstallEnabled);
             EXPECT_FALSE(menuOffersChanges());
             seen = true;
         });

@@ -278,6 +278,22 @@ TEST_F(LaunchSequenceTest, StartedAtLoginWithoutHidingTheWindowOpens)
     EXPECT_EQ(windowsOpenedByStart(), 1);
 }
 
+TEST_F(LaunchSequenceTest, WantedAtLoginTheDesktopIsAskedAnewAtEachStart)
+{
+    machine.settings.setBool(keys::loginStart, true);
+    create();
+    start();
+    EXPECT_EQ(machine.loginItem.journal, QStringList{loginHelper + u" on"_s});
+    EXPECT_TRUE(features().preferences.loginController.enabled());
+}
+
+TEST_F(LaunchSequenceTest, NotWantedAtLoginTheDesktopIsNotAsked)
+{
+    create();
+    start();
+    EXPECT_TRUE(machine.loginItem.journal.isEmpty());
+}
+
 TEST_F(LaunchSequenceTest, StartedByTheUserHidingDoesNotApply)
 {
     machine.settings.setBool(keys::hideOnLaunch, true);

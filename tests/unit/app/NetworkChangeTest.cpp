@@ -45,7 +45,7 @@ TEST_F(NetworkChangeTest, AlwaysFinishesWithTheListOfRules)
 {
     networkEvent();
     EXPECT_EQ(list.state().rows.size(), 1) << "also when nothing changed";
-    list.toggle(0, true);
+    list.toggleRule(list.state().rows.first().objID, true);
     select(u"bridge0"_s);
     networkEvent();
     EXPECT_TRUE(list.state().rows.isEmpty());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "store/file/RecordFile.h"
 
+#include "Places.h"
 #include "fakes/QtPrinting.h"
 #include "store/model/QuillonModel.h"
 
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 #include <sys/stat.h>
 
 namespace quillon::test {
@@ -109,7 +111,7 @@ TEST_F(RecordFileOpeningTest, MakesAMissingFileForItsOwnerAlone)
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther |
                                              QFile::WriteOther | QFile::ExeOwner),
         QFile::Permissions());
-    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    EXPECT_EQ(answer("PRAGMA user_version"), "2");
     EXPECT_EQ(answer("PRAGMA journal_mode"), "wal");
     EXPECT_EQ(answer("SELECT count(*) FROM Rule"), "0");
     EXPECT_EQ(answer("SELECT count(*) FROM Connection"), "0");
@@ -127,7 +129,7 @@ TEST_F(RecordFileOpeningTest, AnEmptyFileIsANewOne)
 {
     write({});
     ASSERT_TRUE(open());
-    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    EXPECT_EQ(answer("PRAGMA user_version"), "2");
 }
 
 TEST_F(RecordFileOpeningTest, AnOlderFileIsBroughtUpToDate)
@@ -137,10 +139,56 @@ TEST_F(RecordFileOpeningTest, AnOlderFileIsBroughtUpToDate)
                                   "UPDATE Rule SET colour = 'green' WHERE name = 'Home';");
     later.steps << "CREATE INDEX byDate ON Connection (date)";
     ASSERT_TRUE(open(later));
-    EXPECT_EQ(answer("PRAGMA user_version"), "3");
+    EXPECT_EQ(answer("PRAGMA user_version"), "4");
     EXPECT_EQ(answer("SELECT colour FROM Rule"), "green");
     EXPECT_EQ(answer("SELECT count(*) FROM sqlite_master WHERE name = 'byDate'"), "1");
     ASSERT_TRUE(open(later)) << "a step runs once";
+}
+
+TEST_F(RecordFileOpeningTest, AFileOfVersion1KeepsItsRecordsAndGetsTheIndexByDate)
+{
+    write(bytes(testData() + u"/records/version-1.sqlite"_s));
+    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    const auto file = open();
+    ASSERT_TRUE(file) << file.error().message.toStdString();
+    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    EXPECT_EQ(answer("PRAGMA integrity_check"), "ok");
+
+    const Entity &connection = *quillonModel().entity(model::Connection);
+    const FetchRequest newest{model::Connection, {}, {{model::connection::date, false}}, true};
+    const auto keys = file.value()->keys(connection, newest);
+    ASSERT_TRUE(keys);
+    EXPECT_EQ(keys.value(), std::vector<qint64>({2, 1, 4})) << "what has no date comes last";
+    const auto rows = file.value()->rows(connection, {1});
+    ASSERT_EQ(rows.value().size(), 1);
+    EXPECT_EQ(rows.value().first().values,
+        QVariantList({QDateTime::fromMSecsSinceEpoch(1'600'000'000'000, Qt::UTC), u"wlp2s0"_s,
+            u"Wi-Fi"_s, u"62:68:66:48:DC:27"_s, u"Harbor-Guest"_s, u"a4:2b:b0:11:22:33"_s,
+            u"by the window"_s}));
+    const auto rules =
+        file.value()->keys(*quillonModel().entity(model::Rule), {model::Rule, {}, {}});
+    EXPECT_EQ(rules.value().size(), 1U);
+
+    const std::string schemaOf = "SELECT group_concat(sql) FROM (SELECT sql FROM sqlite_master "
+                                 "WHERE name NOT LIKE 'sqlite_%' ORDER BY name)";
+    const std::string migrated = answer(schemaOf);
+    path = folder.filePath(u"new.sqlite"_s);
+    ASSERT_TRUE(open());
+    EXPECT_EQ(answer(schemaOf), migrated) << "an old file is what a new one is";
+}
+
+TEST_F(RecordFileOpeningTest, TheNewestRecordsAreFoundWithoutSortingTheRest)
+{
+    ASSERT_TRUE(open());
+    SQLite::Database database(path.toStdString());
+    SQLite::Statement plan(database, "EXPLAIN QUERY PLAN SELECT pk, date FROM Connection "
+                                     "WHERE instr(notes, 'x') > 0 ORDER BY date DESC, pk DESC");
+    QString steps;
+    while (plan.executeStep()) {
+        steps += QString::fromStdString(plan.getColumn(3).getString());
+    }
+    EXPECT_TRUE(steps.contains(u"Connection by date"_s)) << steps.toStdString();
+    EXPECT_FALSE(steps.contains(u"TEMP B-TREE"_s)) << steps.toStdString();
 }
 
 TEST_F(RecordFileOpeningTest, AStepThatFailsLeavesTheFileAsItWas)
@@ -151,7 +199,7 @@ TEST_F(RecordFileOpeningTest, AStepThatFailsLeavesTheFileAsItWas)
     later.steps << "UPDATE NoSuchTable SET x = 1";
     expectRefused(open(later), RecordFileError::Failed, u"NoSuchTable"_s);
     EXPECT_EQ(bytes(), before);
-    EXPECT_EQ(answer("PRAGMA user_version"), "1");
+    EXPECT_EQ(answer("PRAGMA user_version"), "2");
     EXPECT_TRUE(open());
 }
 
@@ -168,8 +216,8 @@ TEST_F(RecordFileOpeningTest, AFileOfANewerVersionIsRefusedAndUntouched)
     ASSERT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
     const QByteArray before = bytes();
     expectRefused(open(), RecordFileError::Newer,
-        u"were written by a newer version of Quillon (version 2 of the file; this "
-        u"program knows versions up to 1)"_s);
+        u"were written by a newer version of Quillon (version 3 of the file; this "
+        u"program knows versions up to 2)"_s);
     EXPECT_EQ(bytes(), before);
     EXPECT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/menu/MenuView.h"
 #include "ui/vendors/VendorTableView.h"
+#include "ui/widgets/InlineLine.h"
 #include "ui/widgets/MessageAlerts.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/PopoverRow.h"
@@ -106,6 +107,23 @@ protected:
         ASSERT_TRUE(fillVendorTable(csv, machine.data.filePath(u"oui.db"_s)));
     }
 
+    /// Of the preferences, with such texts where others can write.
+    QWidget *openPanes()
+    {
+        machine.settings.set(keys::showKeyCombo, written);
+        machine.owners.setName(written);
+        machine.owners.own(u"zzz0"_s);
+        features().preferencesWindow.openPreferencesWindow();
+        auto *preferences = part<QWidget>("preferences");
+        for (const PreferencesPaneInfo &info : preferencesPanes()) {
+            features().preferencesWindow.showPane(info.pane);
+            machine.scheduler.runPending();
+            QCoreApplication::processEvents();
+            preferences->grab();
+        }
+        return preferences;
+    }
+
     template <typename T>
     static T *part(const char *name)
     {
@@ -158,8 +176,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
     }
     window->grab();
 
-    for (const char *name :
-        {"portName", "updatedLabel", "timerLabel", "hardwareAddress", "ipAddress"}) {
+    for (const char *name : {"portName", "timerLabel", "hardwareAddress", "ipAddress"}) {
         const auto *label = part<QLabel>(name);
         const QString expected =
             QString::fromLatin1(name).endsWith("Address"_L1) ? label->accessibleName() : line;
@@ -170,6 +187,8 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
             << name << ": " << shown.toStdString();
     }
     EXPECT_TRUE(part<RowButton>("externalAddress")->accessibleName().endsWith(line));
+    const QWidget *preferences = openPanes();
+    EXPECT_EQ(part<InlineLine>("updatedLabel")->text(), line);
     for (QWidget *widget : QApplication::allWidgets()) {
         if (const auto *label = qobject_cast<QLabel *>(widget);
             label != nullptr && !label->inherits("QTipLabel")) {
@@ -178,6 +197,7 @@ TEST_P(OutsideTextTest, IsShownAsItIsInTheWindow)
     }
     EXPECT_EQ(window->windowTitle(), u"Quillon"_s);
     EXPECT_LT(window->width(), 1280) << "the screen is not that wide";
+    EXPECT_LT(preferences->minimumSizeHint().width(), 1280);
     EXPECT_FALSE(opened->wasOpened());
 }
 

@@ -105,6 +105,23 @@ TEST_F(UserInterfaceTest, EveryControlOfTheWindowSaysWhatItIs)
     expectDescribed(*window);
 }
 
+TEST_F(UserInterfaceTest, EveryControlOfTheHistorySaysWhatItIs)
+{
+    features().presence.goTo(Destination::History);
+    machine.scheduler.runPending();
+    QCoreApplication::processEvents();
+    QWidget *history = nullptr;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        history = widget->objectName() == "history"_L1 ? widget : history;
+    }
+    ASSERT_NE(history, nullptr);
+    expectDescribed(*history);
+    features().history.history.addHistoryItemForDeviceWithNewAddress(u"enp1s0"_s, u"02:00"_s);
+    machine.scheduler.runPending();
+    QCoreApplication::processEvents();
+    expectDescribed(*history);
+}
+
 TEST_F(UserInterfaceTest, EveryControlOfEveryPopoverSaysWhatItIs)
 {
     int opened = 0;
@@ -190,15 +207,19 @@ TEST_F(UserInterfaceTest, WithoutAnInterfaceThereIsASentenceAndNoDeadControl)
     EXPECT_FALSE(part<QWidget>(u"hardwareButton"_s)->isVisible());
 }
 
-TEST_F(UserInterfaceTest, AMissingListOfVendorsIsDownloadedFromTheWindow)
+TEST_F(UserInterfaceTest, AMissingListOfVendorsLeadsToItsPane)
 {
     auto *missing = part<QWidget>(u"missingVendors"_s);
     ASSERT_TRUE(missing->isVisible()) << "there is no database here";
-    auto *download = part<QPushButton>(u"missingVendorsButton"_s);
-    EXPECT_EQ(download->accessibleName(), u"Download the list of vendors"_s);
+    part<QPushButton>(u"missingVendorsButton"_s)->click();
+    QCoreApplication::processEvents();
+    QWidget *const preferences = QApplication::activeWindow();
+    ASSERT_NE(preferences, nullptr);
+    EXPECT_EQ(preferences->windowTitle(), u"Vendor Data"_s);
+    auto *download = preferences->findChild<QPushButton *>(u"downloadButton"_s);
+    ASSERT_TRUE(download->isVisible());
     download->click();
     EXPECT_TRUE(features().vendors.pane.state().isUpdating);
-    EXPECT_EQ(download->accessibleName(), u"Cancel the download of vendors"_s);
     features().vendors.pane.showCount(3);
     EXPECT_TRUE(missing->isHidden());
 }

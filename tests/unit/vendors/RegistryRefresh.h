@@ -3,7 +3,7 @@
 #pragma once
 
 #include "VendorFixture.h"
-#include "vendors/DateStamp.h"
+#include "base/DateStamp.h"
 
 namespace quillon::test {
 

@@ -27,13 +27,10 @@ DesktopHotKeys::DesktopHotKeys(const QDBusConnection &bus)
 void DesktopHotKeys::bind(const HotKey &hotKey, Reply reply)
 {
     m_waiting[hotKey.identifier] = {hotKey, std::move(reply)};
-    if (m_isChosen) {
+    if (m_chosen != HotKeyWay::Unknown) {
         QMetaObject::invokeMethod(this, &DesktopHotKeys::bindWaiting, Qt::QueuedConnection);
-    } else if (!std::exchange(m_isAsking, true)) {
-        callBus(m_bus, this, PortalHotKeys::isOfferedQuestion(), answerLimit,
-            [this](const QDBusMessage &answer) {
-                choose(answer.type() == QDBusMessage::ReplyMessage);
-            });
+    } else {
+        askOnce();
     }
 }
 
@@ -45,15 +42,46 @@ void DesktopHotKeys::release(const QString &identifier)
     }
 }
 
+void DesktopHotKeys::findWay(std::function<void(HotKeyWay)> reply)
+{
+    m_curious.append(std::move(reply));
+    if (m_chosen != HotKeyWay::Unknown) {
+        QMetaObject::invokeMethod(this, &DesktopHotKeys::tellWay, Qt::QueuedConnection);
+    } else {
+        askOnce();
+    }
+}
+
+void DesktopHotKeys::askOnce()
+{
+    if (!std::exchange(m_isAsking, true)) {
+        callBus(m_bus, this, PortalHotKeys::isOfferedQuestion(), answerLimit,
+            [this](const QDBusMessage &answer) {
+                choose(answer.type() == QDBusMessage::ReplyMessage);
+            });
+    }
+}
+
 void DesktopHotKeys::choose(bool hasPortal)
 {
-    m_isChosen = true;
+    m_chosen = HotKeyWay::NotOffered;
     if (hasPortal) {
+        m_chosen = HotKeyWay::DesktopDecides;
         m_way = std::make_unique<PortalHotKeys>(m_bus);
     } else if (X11HotKeys::isOffered()) {
+        m_chosen = HotKeyWay::Grabs;
         m_way = std::make_unique<X11HotKeys>();
     }
+    tellWay();
     bindWaiting();
+}
+
+void DesktopHotKeys::tellWay()
+{
+    const auto curious = std::exchange(m_curious, {});
+    for (const auto &reply : curious) {
+        reply(m_chosen);
+    }
 }
 
 void DesktopHotKeys::bindWaiting()

@@ -16,7 +16,7 @@ namespace quillon {
 /// Hot keys by the desktop portal (org.freedesktop.portal.GlobalShortcuts). The portal takes the
 /// hot keys of a session all at once and only once, and may ask its user: each change makes a new
 /// session with all of them.
-class PortalHotKeys : public QObject, public HotKeys
+class PortalHotKeys : public QObject, public HotKeyBinder
 {
     Q_OBJECT
 

@@ -11,7 +11,7 @@
 namespace quillon {
 
 /// Hot keys by passive grabs of the X server. Only where isOffered().
-class X11HotKeys : public QObject, public HotKeys, private QAbstractNativeEventFilter
+class X11HotKeys : public QObject, public HotKeyBinder, private QAbstractNativeEventFilter
 {
     Q_OBJECT
 

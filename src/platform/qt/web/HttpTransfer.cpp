@@ -180,9 +180,10 @@ void HttpTransfer::replyFinished()
 void HttpTransfer::finish()
 {
     const int finalStatus = status();
+    const QByteArray contentType = m_reply->rawHeader("Content-Type");
     stop();
     deleteLater();
-    m_sink.finish(finalStatus);
+    m_sink.finish(finalStatus, contentType);
 }
 
 void HttpTransfer::bodyFailed(const Error &error)

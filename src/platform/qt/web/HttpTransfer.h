@@ -33,7 +33,7 @@ public:
         /// The next piece of the body; `expected` is its whole length, -1 when unknown. An Error
         /// ends the transfer with it.
         std::function<std::optional<Error>(const QByteArray &bytes, qint64 expected)> take;
-        std::function<void(int status)> finish;
+        std::function<void(int status, const QByteArray &contentType)> finish;
         std::function<void(const Error &)> fail;
         /// Whether a bad status is all that matters then: it finishes the transfer whatever becomes
         /// of its body.

@@ -93,9 +93,9 @@ HttpClient::Token NetworkHttpClient::get(const QUrl &url, qint64 bodyLimit, Comp
         return std::nullopt;
     };
     // The completion comes last: it may destroy us.
-    sink.finish = [this, token, body, completion](int status) {
+    sink.finish = [this, token, body, completion](int status, const QByteArray &contentType) {
         m_transfers.erase(token);
-        completion(Response{status, *body});
+        completion(Response{status, *body, contentType});
     };
     sink.fail = [this, token, completion](const Error &error) {
         m_transfers.erase(token);
@@ -120,7 +120,7 @@ HttpClient::Token NetworkHttpClient::download(const QUrl &url, DownloadHandler h
         }
         return problem;
     };
-    sink.finish = [this, token, file, handler](int) {
+    sink.finish = [this, token, file, handler](int, const QByteArray &) {
         m_transfers.erase(token);
         if (handler.didFinishDownloading) {
             handler.didFinishDownloading(file->path());

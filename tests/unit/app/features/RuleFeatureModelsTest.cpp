@@ -44,7 +44,7 @@ TEST_F(RuleFeatureModelsTest, ACheckBoxSwitchesItsRule)
     const ManagedObjectPtr rule = insertRule(randomOnce(enp1s0, home));
     rules().list.filterRulesArrayController();
     ASSERT_EQ(listed(), QStringList(home));
-    rules().list.toggle(0, false);
+    rules().list.toggleRule(rules().list.state().rows.first().objID, false);
     EXPECT_FALSE(rule->value(model::rule::enabled).toBool());
     EXPECT_FALSE(rules().list.state().rows.first().enabled) << "the list shows it";
     EXPECT_FALSE(context().hasChanges()) << "it is saved";

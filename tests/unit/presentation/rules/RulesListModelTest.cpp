@@ -136,12 +136,10 @@ TEST_F(RulesListModelTest, AreSwitchedByABroadcast)
     QObject::connect(
         &switches, &RuleSwitches::ruleToggled, [this] { model.filterRulesArrayController(); });
     model.filterRulesArrayController();
-    model.toggle(0, true);
+    model.toggleRule(rule.objID(), true);
     EXPECT_TRUE(rule.enabled());
     EXPECT_TRUE(model.state().rows.first().enabled);
     EXPECT_TRUE(model.state().rows.first().active);
-    model.toggle(7, true);
-    model.toggle(-1, true);
     model.toggleRule(rule.objID(), false);
     EXPECT_FALSE(rule.enabled());
     int told = 0;

@@ -3,6 +3,7 @@
 #include "ui/rules/RulesRow.h"
 
 #include "base/NotificationNames.h"
+#include "presence/Presence.h"
 #include "presentation/rules/RuleStatusModel.h"
 #include "presentation/rules/RulesListModel.h"
 #include "ui/rules/RuleSwitchLine.h"
@@ -13,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
@@ -66,8 +68,28 @@ protected:
     Theme theme;
     RuleStatusModel status{table};
     RulesListModel list{{settings, notifications, current, queries}};
-    RulesRow row{{status, list}, theme};
+    Presence presence{settings};
+    RulesRow row{{status, list, presence}, theme};
 };
+
+TEST_F(RulesRowTest, LeadsToTheEditorOrToTheFirstRule)
+{
+    QList<Destination> chosen;
+    QObject::connect(&presence, &Presence::destinationChosen,
+        [&](Destination destination) { chosen << destination; });
+    presence.offer(Destination::Rules);
+    presence.offer(Destination::NewNetworkRule);
+    list.toggleRulesPopover();
+    auto *edit = row.popover().content()->findChild<QPushButton *>(u"editRules"_s);
+    EXPECT_EQ(edit->text(), u"New Network Rule…"_s);
+    edit->click();
+    EXPECT_FALSE(list.state().popoverShown);
+    addRule({.name = u"a"_s});
+    list.toggleRulesPopover();
+    EXPECT_EQ(edit->text(), u"Edit Rules"_s);
+    edit->click();
+    EXPECT_EQ(chosen, (QList<Destination>{Destination::NewNetworkRule, Destination::Rules}));
+}
 
 TEST_F(RulesRowTest, TellsWhetherARuleHolds)
 {

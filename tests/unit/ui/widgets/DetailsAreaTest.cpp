@@ -34,7 +34,7 @@ protected:
             view->facts().add(fact);
         }
         section->setFixedHeight(20);
-        view->addDetails(section);
+        area->add(section);
         settle();
     }
 

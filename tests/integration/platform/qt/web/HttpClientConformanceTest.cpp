@@ -40,6 +40,10 @@ struct RealWeb
             {u"delay"_s, double(content.delay.count()) / 1000},
             {u"pause"_s, double(content.pause.count()) / 1000}, {u"piece"_s, int(content.piece)},
             {u"framing"_s, content.saysLength ? u"length"_s : u"chunked"_s}};
+        if (!content.contentType.isEmpty()) {
+            rule.insert(u"headers"_s,
+                QVariantMap{{u"Content-Type"_s, QString::fromLatin1(content.contentType)}});
+        }
         if (content.length >= 0) {
             rule.insert(u"length"_s, content.length);
         }
@@ -105,6 +109,22 @@ TYPED_TEST(HttpClientConformance, AnswersComeOnceWithStatusAndBody)
     EXPECT_EQ(this->get(), "404 not here");
     this->serve("", 503);
     EXPECT_EQ(this->get(), "503 ");
+}
+
+TYPED_TEST(HttpClientConformance, TheTypeOfAnAnswerIsWhatTheServerSays)
+{
+    for (const QByteArray &type : {QByteArray(), QByteArray("text/html; charset=UTF-8")}) {
+        Page page;
+        page.body = "0123456789";
+        page.contentType = type;
+        this->serve(page);
+        std::optional<QByteArray> told;
+        this->web.client.get(this->url(), 1000, [&](const Result<HttpClient::Response> &answer) {
+            told = answer ? answer.value().contentType : QByteArray("failed");
+        });
+        EXPECT_TRUE(this->web.soon([&] { return told.has_value(); }));
+        EXPECT_EQ(told, type);
+    }
 }
 
 TYPED_TEST(HttpClientConformance, ABodyMayBeAsLongAsTheLimit)

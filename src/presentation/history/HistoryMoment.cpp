@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/history/HistoryMoment.h"
+
+#include "base/Localized.h"
+
+#include <QLocale>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString timeText(const QTime &time)
+{
+    const QLocale locale;
+    // Seconds, which some locales have even in the short form, tell nobody anything here.
+    const bool isOfTwelveHours =
+        locale.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
+    return locale.toString(time, isOfTwelveHours ? u"h:mm AP"_s : u"HH:mm"_s);
+}
+
+} // namespace
+
+QString momentText(const QDateTime &moment, const QDateTime &now)
+{
+    if (!moment.isValid()) {
+        return {};
+    }
+    const QDateTime local = moment.toLocalTime();
+    const QString time = timeText(local.time());
+    const qint64 daysAgo = local.date().daysTo(now.toLocalTime().date());
+    if (daysAgo == 0) {
+        return filled(localized("Today %@"), {time});
+    }
+    if (daysAgo == 1) {
+        return filled(localized("Yesterday %@"), {time});
+    }
+    // How a day is written; the letters are those of QDate::toString().
+    const QString day = QLocale().toString(local.date(), localized("MMM d, yyyy"));
+    return filled(localized("%@ %@"), {day, time});
+}
+
+QString momentInFull(const QDateTime &moment)
+{
+    return moment.isValid() ? QLocale().toString(moment.toLocalTime(), QLocale::LongFormat)
+                            : QString();
+}
+
+QDateTime nextMidnight(const QDateTime &now)
+{
+    return now.toLocalTime().date().addDays(1).startOfDay().toUTC();
+}
+
+} // namespace quillon

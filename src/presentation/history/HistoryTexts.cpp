@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presentation/history/HistoryTexts.h"
+
+#include "base/Localized.h"
+#include "history/HistorySearch.h"
+
+#include <QLocale>
+
+namespace quillon {
+
+QString titleOf(HistoryColumn column)
+{
+    switch (column) {
+    case HistoryColumn::Date:
+        return localized("Date");
+    case HistoryColumn::Interface:
+        return localized("Interface");
+    case HistoryColumn::Device:
+        return localized("Device");
+    case HistoryColumn::Address:
+        return localized("Address");
+    case HistoryColumn::Network:
+        return localized("Network");
+    case HistoryColumn::Bssid:
+        return localized("BSSID");
+    case HistoryColumn::Notes:
+        break;
+    }
+    return localized("Notes");
+}
+
+QList<HistorySearchType> historySearchTypes()
+{
+    using namespace model::connection;
+    return {{searchAll, localized("Search All Fields")}, {device, localized("Search Devices")},
+        {interface, localized("Search Interfaces")}, {address, localized("Search Addresses")},
+        {ssid, localized("Search Network Names")}, {bssid, localized("Search BSSIDs")},
+        {notes, localized("Search Notes")}};
+}
+
+QString sentenceOf(const Connection &record, const QString &address)
+{
+    const QString device = record.device();
+    const QString interface = record.interface();
+    const QString network = record.ssid();
+    if (interface.isEmpty()) {
+        return filled(localized("%@ was given %@."), {device, address});
+    }
+    if (network.isEmpty()) {
+        return filled(localized("%@ (%@) was given %@."), {interface, device, address});
+    }
+    return filled(localized("%@ (%@) was given %@ on %@."), {interface, device, address, network});
+}
+
+QString recordsText(qint64 count)
+{
+    return count == 1 ? localized("1 record")
+                      : filled(localized("%@ records"), {QLocale().toString(count)});
+}
+
+QString recordsText(qint64 count, qint64 of)
+{
+    return of == 1 ? filled(localized("%@ of 1 record"), {QLocale().toString(count)})
+                   : filled(localized("%@ of %@ records"),
+                         {QLocale().toString(count), QLocale().toString(of)});
+}
+
+} // namespace quillon

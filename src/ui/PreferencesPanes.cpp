@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/PreferencesPanes.h"
+
+#include "presence/Presence.h"
+#include "ui/networks/FavoriteToast.h"
+#include "ui/preferences/AboutPreferencesView.h"
+#include "ui/preferences/DisplayPreferencesView.h"
+#include "ui/preferences/GeneralPreferencesView.h"
+#include "ui/preferences/PreferencesWindow.h"
+#include "ui/rules/DeletedRulesToast.h"
+#include "ui/updates/UpdatesPane.h"
+#include "ui/vendors/VendorChooser.h"
+#include "ui/vendors/VendorPreferencesViewController.h"
+
+#include <QCoreApplication>
+
+namespace quillon {
+
+namespace {
+
+void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, const Theme &theme,
+    Scheduler &scheduler)
+{
+    auto *savedItems = new SavedItemsView(models.savedItems, theme);
+    auto *vendorField = new VendorChooser(models.ruleVendor, theme, VendorChooser::Caption::Beside);
+    window.addPane(
+        PreferencesPane::Rules, new RulesPane(models.rules, theme, {savedItems, vendorField}));
+    // They lie over the rest.
+    new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
+    new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
+    // The program ends by the user's wish, or is ended.
+    QObject::connect(
+        &models.presence, &Presence::terminated, savedItems, &SavedItemsView::endEditing);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, savedItems, &SavedItemsView::endEditing);
+}
+
+} // namespace
+
+void addPanes(PreferencesWindow &window, const PreferencesPanes &models, const Theme &theme,
+    Scheduler &scheduler)
+{
+    window.addPane(PreferencesPane::General, new GeneralPreferencesView(models.general, theme));
+    window.addPane(PreferencesPane::Advanced, new AdvancedPreferencesView(models.advanced, theme));
+    window.addPane(PreferencesPane::Display, new DisplayPreferencesView(models.display, theme));
+    window.addPane(
+        PreferencesPane::VendorData, new VendorPreferencesViewController(models.vendorData, theme));
+    addRulesPane(window, models, theme, scheduler);
+    window.addPane(PreferencesPane::Updates, new UpdatesPane(models.updates, theme));
+    window.addPane(PreferencesPane::About, new AboutPreferencesView(models.about, theme));
+}
+
+} // namespace quillon

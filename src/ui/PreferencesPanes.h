@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/networks/SavedItemsView.h"
+#include "ui/preferences/AdvancedPreferencesView.h"
+#include "ui/rules/RulesPane.h"
+
+namespace quillon {
+
+class AboutPreferencesViewController;
+class DisplayPreferencesViewController;
+class GeneralPreferencesViewController;
+class PreferencesWindow;
+class Presence;
+class RemovedFavorite;
+class Scheduler;
+class UpdatePreferencesViewController;
+class VendorFieldModel;
+class VendorPaneModel;
+
+/// What the panes of the preferences show. All outlive them.
+struct PreferencesPanes
+{
+    Presence &presence;
+    GeneralPreferencesViewController &general;
+    AdvancedPreferencesView::Models advanced;
+    DisplayPreferencesViewController &display;
+    VendorPaneModel &vendorData;
+    SavedItemsView::Models savedItems;
+    RemovedFavorite &removedFavorite;
+    RulesPane::Models rules;
+    VendorFieldModel &ruleVendor;
+    UpdatePreferencesViewController &updates;
+    AboutPreferencesViewController &about;
+};
+
+/// Makes all panes, in the order of the toolbar.
+void addPanes(PreferencesWindow &window, const PreferencesPanes &models, const Theme &theme,
+    Scheduler &scheduler);
+
+} // namespace quillon

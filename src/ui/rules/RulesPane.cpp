@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/rules/RulesPane.h"
+
+#include "base/Localized.h"
+#include "presentation/rules/RulesPreferencesViewController.h"
+#include "ui/rules/RuleFormView.h"
+#include "ui/rules/RulesListPage.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/Strip.h"
+
+#include <QHBoxLayout>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+namespace quillon {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int formWidth = 480;
+constexpr int formLetters = 66; ///< where letters are larger
+constexpr int mostOfIt = 1000;
+
+using Page = RulesPreferencesViewController::Page;
+using Tab = RulesPreferencesViewController::Tab;
+
+/// The form at its own width, in the middle of the page.
+QWidget *pageOf(RuleFormView *form)
+{
+    const QFontMetrics letters(Theme::font(Theme::Type::Body));
+    form->setMaximumWidth(std::max(formWidth, formLetters * letters.averageCharWidth()));
+    auto *page = new QWidget;
+    auto *column = new QVBoxLayout(page);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(form, mostOfIt);
+    row->addStretch();
+    column->addLayout(row);
+    column->addStretch();
+    return page;
+}
+
+/// Shows the page; the others, which may be taller, leave it the room.
+void turnTo(QStackedWidget &pages, QWidget *page)
+{
+    for (int place = 0; place < pages.count(); ++place) {
+        QWidget *one = pages.widget(place);
+        one->setSizePolicy(
+            QSizePolicy::Preferred, one == page ? QSizePolicy::Preferred : QSizePolicy::Ignored);
+    }
+    pages.setCurrentWidget(page);
+}
+
+} // namespace
+
+RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &parts, QWidget *parent)
+    : QWidget(parent)
+    , m_models(models)
+    , m_tabs(new QTabBar)
+    , m_strip(new Strip(theme))
+    , m_pages(new QStackedWidget)
+    , m_savedItems(parts.savedItems)
+    , m_rules(new QWidget)
+    , m_rulesPages(new QStackedWidget)
+    , m_list(new RulesListPage(models.table, models.editor, theme))
+    , m_form(new RuleFormView(models.form, models.editor, theme, parts.vendorField))
+    , m_formPage(pageOf(m_form))
+{
+    m_tabs->setProperty("look", u"segments"_s);
+    m_tabs->setAccessibleName(localized("Rules"));
+    m_tabs->setDrawBase(false);
+    m_tabs->setExpanding(false);
+    m_tabs->addTab(localized("Saved Items"));
+    m_tabs->addTab(localized("Rules"));
+
+    m_rulesPages->addWidget(m_list);
+    m_rulesPages->addWidget(m_formPage);
+    auto *rules = new QVBoxLayout(m_rules);
+    rules->setContentsMargins(0, 0, 0, 0);
+    rules->setSpacing(Theme::spacing);
+    rules->addWidget(m_strip);
+    rules->addWidget(m_rulesPages, 1);
+    m_pages->addWidget(m_savedItems);
+    m_pages->addWidget(m_rules);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::spacing);
+    column->addWidget(m_tabs, 0, Qt::AlignHCenter);
+    column->addWidget(m_pages, 1);
+    connect(m_tabs, &QTabBar::currentChanged, &m_models.editor,
+        [this](int tab) { m_models.editor.chooseTab(tab == 0 ? Tab::SavedItems : Tab::Rules); });
+    connect(m_strip, &Strip::dismissed, &m_models.editor,
+        &RulesPreferencesViewController::dismissWarning);
+    connect(&m_models.editor, &RulesPreferencesViewController::changed, this, &RulesPane::refresh);
+    turnTo(*m_rulesPages, m_list);
+    m_models.table.begin();
+    refresh();
+}
+
+void RulesPane::refresh()
+{
+    const auto &state = m_models.editor.state();
+    m_tabs->setCurrentIndex(state.tab == Tab::Rules ? 1 : 0);
+    turnTo(*m_pages, state.tab == Tab::Rules ? m_rules : m_savedItems);
+    // The form takes their room: who fills it in stays until it is saved or canceled.
+    m_tabs->setVisible(state.tab == Tab::SavedItems || state.page == Page::List);
+    if (state.warning.isEmpty()) {
+        m_strip->clear();
+    } else {
+        m_strip->say(state.warning);
+    }
+    QWidget *page = state.page == Page::List ? static_cast<QWidget *>(m_list) : m_formPage;
+    if (page != m_rulesPages->currentWidget()) {
+        turnTo(*m_rulesPages, page);
+        QWidget *first = state.page == Page::List ? m_list->firstControl() : m_form->firstControl();
+        first->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,115 @@
+# SPDX-FileCopyrightText: 2026 The Quillon authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The panes of the preferences and the file of the settings: what is switched in one is so in the other, also while
+another program writes the file."""
+import unittest
+
+from preferences import PreferencesTest, stored, wait_for_stored, write_settings
+from program import wait_until, xdotool
+
+
+class GeneralTest(PreferencesTest):
+    BOXES = {"hideOnLaunch": "Do not open the window at login", "showInMenu": "Show in the status bar",
+             "displayNotifications": "Show notifications", "showKeyEnabled": "Show window",
+             "randomKeyEnabled": "Randomize address"}
+
+    def test_what_is_switched_is_stored(self):
+        for key, name in self.BOXES.items():
+            before = self.box(name).checked
+            self.toggle(name)
+            wait_for_stored(key, not before)
+            self.expect_checked(name, not before)
+
+    def test_what_another_program_writes_is_shown(self):
+        for key, name in self.BOXES.items():
+            before = self.box(name).checked
+            write_settings(**{key: not before})
+            self.expect_checked(name, not before)
+            write_settings(**{key: before})
+            self.expect_checked(name, before)
+
+    def test_a_value_of_another_type_is_off(self):
+        write_settings(hideOnLaunch=True)
+        self.expect_checked("Do not open the window at login", True)
+        write_settings(hideOnLaunch="yes", showKeyCombo=17)
+        self.expect_checked("Do not open the window at login", False)
+        self.toggle("Do not open the window at login")
+        wait_for_stored("hideOnLaunch", True)
+
+    def test_without_the_status_item_the_task_bar_is_not_left(self):
+        name = "Hide from the task bar"
+        wait_until(lambda: self.box(name).enabled, "it cannot be used beside a tray")
+        self.toggle(name)
+        wait_for_stored("hideDock", True)
+        write_settings(showInMenu=False)
+        self.expect_label("Only with the icon in the status bar.")
+        self.expect_checked(name, False)
+        self.assertFalse(self.box(name).enabled)
+        wait_for_stored("hideDock", False)
+
+    def test_the_cloud_has_no_account_yet(self):
+        self.assertFalse(self.box("Sync settings, rules and history").enabled)
+        self.expect_label("No account yet: there is nowhere to sync with.")
+
+
+class DisplayTest(PreferencesTest):
+    PANE = "Display"
+
+    def test_the_letters_are_those_of_the_file_and_of_the_window(self):
+        small = self.preferences.find("radio button", "Small letters, 62:ab")
+        capital = self.preferences.find("radio button", "Capital letters, 62:AB")
+        address = self.field.text
+        self.assertEqual(address, address.upper())
+        small.press()
+        wait_for_stored("lowerCaseHEX", True)
+        self.expect_shown(address.lower())
+        write_settings(lowerCaseHEX=False)
+        wait_until(lambda: capital.checked and not small.checked, "the capital letters are not chosen")
+        self.expect_shown(address)
+
+    def test_the_look_up_of_the_external_address(self):
+        write_settings(shouldUpdateExternalIP=True)
+        self.expect_checked("Look up the external address", True)
+        self.toggle("Look up the external address")
+        wait_for_stored("shouldUpdateExternalIP", False)
+
+
+class AdvancedTest(PreferencesTest):
+    PANE = "Advanced"
+
+    def test_minutes_and_the_drift_alarm(self):
+        field = self.preferences.find("entry", "Repeat every … minutes by default")
+        self.assertEqual(field.text, "30")
+        write_settings(defaultTimerMinutes=90)
+        wait_until(lambda: field.text == "90", lambda: f"the field shows {field.text}")
+        field.click()
+        wait_until(lambda: field.focused, "the field did not get the keyboard")
+        xdotool("key", "ctrl+a")
+        xdotool("type", "4x567")
+        wait_until(lambda: field.text == "456", lambda: f"the field shows {field.text}")
+        xdotool("key", "Return")
+        wait_for_stored("defaultTimerMinutes", 456)
+        self.toggle("Ask when another program replaces an address")
+        wait_for_stored("driftAlarm", False)
+        write_settings(driftAlarm=None)
+        self.expect_checked("Ask when another program replaces an address", True)
+
+    def test_the_helper_and_who_manages_the_interfaces(self):
+        self.expect_label("Helper: installed, version 2.0")
+        self.assertFalse(self.preferences.find("button", "Install").enabled)
+        self.assertTrue(self.preferences.find("button", "Uninstall").enabled)
+        for device in ("enp1s0", "enp2s0"):
+            self.preferences.find("list item", f"{device} · no program that is known")
+
+
+class AboutTest(PreferencesTest):
+    PANE = "About"
+
+    def test_version_and_license_are_there(self):
+        self.assertTrue(any(label.name.startswith("Version ") for label in self.preferences.all("label")))
+        self.preferences.find("button", "Read the License")
+        self.assertEqual(stored().get("customTabIndex"), None)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

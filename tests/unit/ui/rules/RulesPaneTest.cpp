@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The Quillon authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/rules/RulesPane.h"
+
+#include "ui/rules/RuleFormView.h"
+#include "ui/rules/RuleRowDelegate.h"
+#include "ui/rules/RulesListView.h"
+#include "ui/theme/Theme.h"
+#include "ui/widgets/Strip.h"
+#include "unit/presentation/rules/RuleEditorFixture.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabBar>
+
+namespace quillon::test {
+
+using namespace Qt::StringLiterals;
+namespace {
+
+using Page = RulesPreferencesViewController::Page;
+using Tab = RulesPreferencesViewController::Tab;
+
+class RulesPaneTest : public RuleEditorFixture
+{
+protected:
+    RulesPaneTest()
+    {
+        theme.setAnimated(false);
+        editor.chooseTab(Tab::Rules);
+        pane.resize(640, 460);
+        pane.show();
+        pane.activateWindow();
+        settle();
+    }
+    ~RulesPaneTest() override { pane.hide(); }
+
+    static void settle()
+    {
+        for (int round = 0; round < 3; ++round) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+        }
+    }
+    static void press(int key, Qt::KeyboardModifiers modifiers = {}, bool isRepeated = false)
+    {
+        QWidget *widget = QApplication::focusWidget();
+        ASSERT_NE(widget, nullptr);
+        QKeyEvent down(QEvent::KeyPress, key, modifiers, {}, isRepeated);
+        QApplication::sendEvent(widget, &down);
+        settle();
+    }
+    RulesListView &list() { return *pane.findChild<RulesListView *>(); }
+    RuleFormView &formView() { return *pane.findChild<RuleFormView *>(); }
+    QLineEdit &entry(const QString &name)
+    {
+        for (auto *found : formView().findChildren<QLineEdit *>()) {
+            if (found->accessibleName() == name) {
+                return *found;
+            }
+        }
+        qFatal("no %s", qUtf8Printable(name));
+    }
+    QComboBox &popUp(const QString &name)
+    {
+        for (auto *found : formView().findChildren<QComboBox *>()) {
+            if (found->accessibleName() == name) {
+                return *found;
+            }
+        }
+        qFatal("no %s", qUtf8Printable(name));
+    }
+    void click(const QPoint &place, QEvent::Type type)
+    {
+        QMouseEvent event(type, place, list().viewport()->mapToGlobal(place), Qt::LeftButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list().viewport(), &event);
+    }
+    Rule ruleAt(int row) { return queries.ruleWithID(rows.state().rows.at(row).objID); }
+
+    Theme theme;
+    RulesPane pane{{editor, rows, form}, theme, {new QWidget, new QLineEdit}};
+};
+
+TEST_F(RulesPaneTest, SaysOfEachRowWhatItDoesAndWhetherItIsOn)
+{
+    addRule({.name = u"<b>a</b>"_s});
+    evaluate(en0, RuleChange::None);
+    settle();
+    const auto *accessible = QAccessible::queryAccessibleInterface(&list());
+    ASSERT_EQ(accessible->childCount(), 1);
+    const auto *row = accessible->child(0);
+    EXPECT_EQ(row->text(QAccessible::Name), u"<b>a</b>"_s);
+    EXPECT_TRUE(row->state().checked);
+    EXPECT_EQ(row->text(QAccessible::Description),
+        u"On any network, give Ethernet \u00B7 en0 a random address once. In force now."_s);
+    EXPECT_EQ(list().model()->index(0, 0).data(RuleRowDelegate::BadgeRole), u"Active"_s);
+}
+
+TEST_F(RulesPaneTest, ASwitchIsClickedOnce)
+{
+    addRule({.name = u"a"_s, .enabled = false});
+    settle();
+    const QPoint toggle = RuleRowDelegate::placesIn(
+        list().visualRect(list().model()->index(0, 0)), {}, Qt::LeftToRight)
+                              .toggle.center();
+    click(toggle, QEvent::MouseButtonPress);
+    click(toggle, QEvent::MouseButtonRelease);
+    EXPECT_TRUE(ruleAt(0).enabled());
+    EXPECT_EQ(editor.state().page, Page::List);
+    click(toggle, QEvent::MouseButtonDblClick);
+    EXPECT_EQ(editor.state().page, Page::List) << "a second click is no wish to edit";
+}
+
+TEST_F(RulesPaneTest, TheKeyboardSwitchesDuplicatesDeletesAndUndoes)
+{
+    addRule({.name = u"a"_s, .enabled = false});
+    settle();
+    list().setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(ruleAt(0).enabled());
+    press(Qt::Key_Space, {}, true);
+    EXPECT_TRUE(ruleAt(0).enabled()) << "a held key switches once";
+    press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(names(), (QStringList{u"a"_s, u"a copy"_s}));
+    scheduler.runPending();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+    scheduler.runPending();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    scheduler.runPending();
+    EXPECT_EQ(names(), (QStringList{u"a"_s, u"a copy"_s}));
+    press(Qt::Key_Return);
+    EXPECT_EQ(editor.state().page, Page::NetworkForm);
+}
+
+TEST_F(RulesPaneTest, ANameIsEditedInItsPlace)
+{
+    addRule({.name = u"a"_s});
+    settle();
+    list().setFocus();
+    press(Qt::Key_F2);
+    auto *field = list().findChild<QLineEdit *>(u"nameCellField"_s);
+    ASSERT_NE(field, nullptr);
+    ASSERT_TRUE(field->hasFocus());
+    field->insert(u"b"_s);
+    field->setModified(true);
+    // What is told of the rule meanwhile takes nothing away.
+    ruleAt(0).setVendor(u"x"_s);
+    context().processPendingChanges();
+    settle();
+    press(Qt::Key_Return);
+    EXPECT_EQ(names(), QStringList{u"b"_s});
+    EXPECT_EQ(editor.state().page, Page::List) << "the key was the field's";
+}
+
+TEST_F(RulesPaneTest, TheFormMirrorsItsModelAndSavesWhatItShows)
+{
+    editor.addRule();
+    settle();
+    EXPECT_TRUE(entry(u"Name"_s).hasFocus());
+    entry(u"Name"_s).insert(u"Line\nbreak <i>"_s);
+    Q_EMIT entry(u"Name"_s).textEdited(entry(u"Name"_s).text());
+    popUp(u"Interface"_s).setCurrentIndex(1);
+    Q_EMIT popUp(u"Interface"_s).activated(1);
+    Q_EMIT popUp(u"Action"_s).activated(1);
+    Q_EMIT popUp(u"Repeat"_s).activated(1);
+    EXPECT_TRUE(entry(u"Minutes"_s).isEnabled());
+    entry(u"Minutes"_s).setText(u"12x"_s);
+    Q_EMIT entry(u"Minutes"_s).textEdited(u"12x"_s);
+    EXPECT_EQ(entry(u"Minutes"_s).text(), u"30"_s) << "what is no minutes is not shown";
+    EXPECT_EQ(popUp(u"Network"_s).count(), 1);
+    entry(u"Name"_s).setFocus();
+    press(Qt::Key_Return);
+    ASSERT_EQ(rows.state().rows.size(), 1);
+    const RuleValues &saved = rows.state().rows.first().values;
+    EXPECT_EQ(saved.device, en0);
+    EXPECT_EQ(saved.changeAction, Rule::every);
+    EXPECT_FALSE(saved.name.contains(u'\n'));
+    EXPECT_TRUE(list().hasFocus()) << "with the new rule";
+}
+
+TEST_F(RulesPaneTest, EscapeLeavesTheForm)
+{
+    editor.addLoginRule();
+    settle();
+    EXPECT_FALSE(popUp(u"Network"_s).isVisible());
+    EXPECT_FALSE(popUp(u"Action"_s).isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(editor.state().page, Page::List);
+    EXPECT_TRUE(rows.state().rows.isEmpty());
+}
+
+TEST_F(RulesPaneTest, AWarningIsTakenAway)
+{
+    editor.showNetworkWarning();
+    auto *strip = pane.findChild<Strip *>();
+    EXPECT_TRUE(strip->isVisible());
+    Q_EMIT strip->dismissed();
+    EXPECT_FALSE(strip->isVisible());
+}
+
+TEST_F(RulesPaneTest, TheTabsFollowTheSettingAndSetIt)
+{
+    auto *tabs = pane.findChild<QTabBar *>();
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    tabs->setCurrentIndex(0);
+    EXPECT_EQ(settings.getInteger(keys::customTabIndex), 0);
+    settings.set(keys::customTabIndex, 1);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+}
+
+TEST_F(RulesPaneTest, ThousandsOfRulesAreShownByThoseInSight)
+{
+    for (int index = 0; index < 3000; ++index) {
+        const Rule rule(context().insertNewObject(u"Rule"_s));
+        rule.setName(u"Rule %1"_s.arg(index));
+        rule.setDevice(en0);
+        rule.setNetwork(anyNetwork);
+    }
+    context().processPendingChanges();
+    settle();
+    EXPECT_EQ(list().model()->rowCount(), 3000);
+    list().setFocus();
+    press(Qt::Key_End);
+    EXPECT_EQ(rows.state().selectedRows, QList<qsizetype>{2999});
+}
+
+} // namespace
+} // namespace quillon::test
