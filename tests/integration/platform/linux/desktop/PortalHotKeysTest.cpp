@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 class PortalHotKeysTest : public ::testing::Test
 {
 protected:
-    void bind(HotKeys &hotKeys, const QString &identifier, const QString &combination)
+    void bind(HotKeyBinder &hotKeys, const QString &identifier, const QString &combination)
     {
         hotKeys.bind({identifier, u"Show window"_s, *KeyCombination::fromText(combination),
                          [this, identifier] { pressed.append(identifier); }},
@@ -180,6 +180,24 @@ TEST_F(PortalHotKeysTest, ADesktopWithNeitherPortalNorXServerOffersNone)
     bind(hotKeys, u"show"_s, u"Ctrl+Alt+W"_s);
     EXPECT_TRUE(eventually([&] { return results[u"show"_s].size() == 2; }));
     EXPECT_FALSE(results.contains(u"random"_s));
+}
+
+TEST_F(PortalHotKeysTest, WhoWantsToKnowTheWayIsToldIt)
+{
+    QList<HotKeyWay> told;
+    const auto tell = [&told](HotKeyWay way) { told.append(way); };
+    DesktopHotKeys hotKeys(bus.connect());
+    hotKeys.findWay(tell);
+    ASSERT_TRUE(eventually([&] { return told.size() == 1; }));
+    hotKeys.findWay(tell);
+    ASSERT_TRUE(eventually([&] { return told.size() == 2; }));
+    portal.reset();
+    DesktopHotKeys without(bus.connect());
+    without.findWay(tell);
+    ASSERT_TRUE(eventually([&] { return told.size() == 3; }));
+    EXPECT_EQ(
+        told, (QList{HotKeyWay::DesktopDecides, HotKeyWay::DesktopDecides, HotKeyWay::NotOffered}));
+    EXPECT_TRUE(results.isEmpty()) << "nothing was bound";
 }
 
 } // namespace quillon::test
