@@ -36,6 +36,11 @@ InterfaceSelector::InterfaceSelector(MainWindowModel &model, QWidget *parent)
     refresh();
 }
 
+QSize InterfaceSelector::minimumSizeHint() const
+{
+    return QComboBox::minimumSizeHint().boundedTo(maximumSize());
+}
+
 void InterfaceSelector::refresh()
 {
     const auto &state = m_model.state();

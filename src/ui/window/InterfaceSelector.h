@@ -17,6 +17,8 @@ class InterfaceSelector : public QComboBox
 public:
     explicit InterfaceSelector(MainWindowModel &model, QWidget *parent = nullptr);
 
+    /// No wider than it may become: what is too long is elided.
+    QSize minimumSizeHint() const override;
     void refresh();
     void showPopup() override;
     void hidePopup() override;
