@@ -9,8 +9,11 @@
 
 #include <QFrame>
 #include <QKeySequence>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -72,6 +75,10 @@ void PreferencesWindow::addPane(PreferencesPane pane, QWidget *content)
     const auto key = static_cast<Qt::Key>(Qt::Key_0 + int(m_panes.size()));
     addShortcut(QKeySequence(Qt::ALT | key), info.label, [this, pane] { m_model.showPane(pane); });
     m_toolBar->add(info);
+    // As wide as the toolbar in one line, where the screen is.
+    const int wanted = m_toolBar->sizeHint().width() + 2 * Theme::windowMargin;
+    resize(std::clamp(wanted, width(), std::max(width(), screen()->availableSize().width())),
+        height());
     refresh();
 }
 

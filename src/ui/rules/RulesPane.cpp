@@ -7,10 +7,10 @@
 #include "ui/rules/RuleFormView.h"
 #include "ui/rules/RulesListPage.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/PageStack.h"
 #include "ui/widgets/Strip.h"
 
 #include <QHBoxLayout>
-#include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -44,17 +44,6 @@ QWidget *pageOf(RuleFormView *form)
     return page;
 }
 
-/// Shows the page; the others, which may be taller, leave it the room.
-void turnTo(QStackedWidget &pages, QWidget *page)
-{
-    for (int place = 0; place < pages.count(); ++place) {
-        QWidget *one = pages.widget(place);
-        one->setSizePolicy(
-            QSizePolicy::Preferred, one == page ? QSizePolicy::Preferred : QSizePolicy::Ignored);
-    }
-    pages.setCurrentWidget(page);
-}
-
 } // namespace
 
 RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &parts, QWidget *parent)
@@ -62,10 +51,10 @@ RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &part
     , m_models(models)
     , m_tabs(new QTabBar)
     , m_strip(new Strip(theme))
-    , m_pages(new QStackedWidget)
+    , m_pages(new PageStack)
     , m_savedItems(parts.savedItems)
     , m_rules(new QWidget)
-    , m_rulesPages(new QStackedWidget)
+    , m_rulesPages(new PageStack)
     , m_list(new RulesListPage(models.table, models.editor, theme))
     , m_form(new RuleFormView(models.form, models.editor, theme, parts.vendorField))
     , m_formPage(pageOf(m_form))
@@ -97,7 +86,6 @@ RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &part
     connect(m_strip, &Strip::dismissed, &m_models.editor,
         &RulesPreferencesViewController::dismissWarning);
     connect(&m_models.editor, &RulesPreferencesViewController::changed, this, &RulesPane::refresh);
-    turnTo(*m_rulesPages, m_list);
     m_models.table.begin();
     refresh();
 }
@@ -106,7 +94,7 @@ void RulesPane::refresh()
 {
     const auto &state = m_models.editor.state();
     m_tabs->setCurrentIndex(state.tab == Tab::Rules ? 1 : 0);
-    turnTo(*m_pages, state.tab == Tab::Rules ? m_rules : m_savedItems);
+    m_pages->setCurrentWidget(state.tab == Tab::Rules ? m_rules : m_savedItems);
     // The form takes their room: who fills it in stays until it is saved or canceled.
     m_tabs->setVisible(state.tab == Tab::SavedItems || state.page == Page::List);
     if (state.warning.isEmpty()) {
@@ -116,7 +104,7 @@ void RulesPane::refresh()
     }
     QWidget *page = state.page == Page::List ? static_cast<QWidget *>(m_list) : m_formPage;
     if (page != m_rulesPages->currentWidget()) {
-        turnTo(*m_rulesPages, page);
+        m_rulesPages->setCurrentWidget(page);
         QWidget *first = state.page == Page::List ? m_list->firstControl() : m_form->firstControl();
         first->setFocus(Qt::OtherFocusReason);
     }

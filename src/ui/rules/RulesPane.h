@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
-class QStackedWidget;
 class QTabBar;
 
 namespace quillon {
 
 class RuleFormModel;
+class PageStack;
 class RuleFormView;
 class RulesListPage;
 class RulesPreferencesViewController;
@@ -46,10 +46,10 @@ private:
     Models m_models;
     QTabBar *m_tabs;
     Strip *m_strip;
-    QStackedWidget *m_pages;
+    PageStack *m_pages;
     QWidget *m_savedItems;
     QWidget *m_rules;
-    QStackedWidget *m_rulesPages;
+    PageStack *m_rulesPages;
     RulesListPage *m_list;
     RuleFormView *m_form;
     QWidget *m_formPage;
