@@ -8,6 +8,7 @@ import subprocess
 import sys
 
 from common import SOURCE, owners
+from namespaces import die_with_parent
 
 CASES = ("change", "told", "network again", "lease for it", "none of before", "IPv6 of before gone",
          "back after a loss", "link lost", "owner restarted", "factory again")
@@ -22,7 +23,7 @@ SUITE_LIMIT = "5400"  # seconds for a machine; only a hang reaches them
 def lines_of(owner, build, mark, limit, *command):
     """What a command in a machine of that owner says for us, and whether it succeeded. The rest is shown aside."""
     result = subprocess.run([LAB, "--owner", owner, "--build", build, "--limit", limit, "/usr/bin/python3", "-B",
-                             *command], stdout=subprocess.PIPE, text=True)
+                             *command], stdout=subprocess.PIPE, text=True, preexec_fn=die_with_parent)
     found = [json.loads(line[len(mark):]) for line in result.stdout.splitlines() if line.startswith(mark)]
     return found, result.returncode
 
