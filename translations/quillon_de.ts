@@ -2015,5 +2015,21 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Opens the rule editor</source>
         <translation>Öffnet die Bearbeitung der Regeln</translation>
     </message>
+    <message>
+        <source>Login rules do not act on Wi-Fi.</source>
+        <translation>Anmelderegeln wirken nicht auf WLAN.</translation>
+    </message>
+    <message>
+        <source>“%@” is no vendor: choose one from the list.</source>
+        <translation>„%@“ ist kein Hersteller: Wählen Sie einen aus der Liste.</translation>
+    </message>
+    <message>
+        <source>Repeated addresses have the vendor of the main window, not this one.</source>
+        <translation>Wiederholte Adressen haben den Hersteller aus dem Hauptfenster, nicht diesen.</translation>
+    </message>
+    <message>
+        <source>Save or cancel this rule before you begin another one.</source>
+        <translation>Sichern Sie diese Regel oder brechen Sie ab, bevor Sie eine andere beginnen.</translation>
+    </message>
 </context>
 </TS>

@@ -15,12 +15,27 @@ namespace quillon {
 
 namespace {
 
-QString whyAnotherIsInForce(const Rule &other)
+enum class Reach
 {
-    if (other.network() == anyNetwork) {
+    ThisNetwork,
+    UnknownNetworks,
+    AnyNetwork,
+};
+
+Reach reachOf(const Rule &rule)
+{
+    if (rule.network() == anyNetwork) {
+        return Reach::AnyNetwork;
+    }
+    return rule.network() == anUnknownNetwork ? Reach::UnknownNetworks : Reach::ThisNetwork;
+}
+
+QString whyAnotherIsInForce(const Rule &rule, const Rule &other)
+{
+    if (reachOf(rule) == reachOf(other)) {
         return filled(localized("“%@” is in force instead: it was made first."), {other.name()});
     }
-    if (other.network() == anUnknownNetwork) {
+    if (reachOf(other) == Reach::UnknownNetworks) {
         return filled(
             localized("“%@” is in force instead: this network is not saved."), {other.name()});
     }
@@ -72,7 +87,8 @@ QString ruleReason(const Rule &rule, const RuleQueries &queries, const DeviceTab
     const auto other = std::ranges::find_if(considered,
         [&](const Rule &one) { return one.active() && !one.isLogin() && one.device() == device; });
     // Between a change and its evaluation, none is marked.
-    return other == considered.end() ? localized("Not in force now.") : whyAnotherIsInForce(*other);
+    return other == considered.end() ? localized("Not in force now.")
+                                     : whyAnotherIsInForce(rule, *other);
 }
 
 } // namespace quillon

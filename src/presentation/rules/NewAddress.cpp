@@ -33,6 +33,16 @@ QString newAddress(const RandomAddress &random, const QString &device, const QSt
     return {};
 }
 
+QString nameForNewAddress(const RuleFormModel::State &form)
+{
+    const RuleChoice &network = form.networks.at(form.network);
+    if (form.kind == RuleFormModel::Kind::Network && !network.bssid.isEmpty() &&
+        !network.title.isEmpty()) {
+        return network.title;
+    }
+    return form.name.isEmpty() ? form.devices.at(form.device).title : form.name;
+}
+
 void saveNewAddress(SettingsStore &settings, const QString &address, const QString &name)
 {
     const SavedEntries saved = savedEntries(settings, keys::savedAddresses);

@@ -10,6 +10,7 @@
 #include "networks/WiFiRecord.h"
 #include "rules/RuleActions.h"
 #include "rules/RuleSentence.h"
+#include "rules/RuleValues.h"
 
 #include <QHash>
 
@@ -27,7 +28,7 @@ bool isBefore(const RuleChoice &a, const RuleChoice &b)
     return order != 0 ? order < 0 : a.stored < b.stored;
 }
 
-/// Entries that share a title are told apart by what they are.
+/// Entries that share a title, or have none, are told apart by what they are.
 void tellApart(RuleChoices &choices)
 {
     QHash<QString, int> titles;
@@ -35,10 +36,16 @@ void tellApart(RuleChoices &choices)
         ++titles[choice.title];
     }
     for (RuleChoice &choice : choices) {
-        if (choice.kind == Kind::Saved && titles.value(choice.title) > 1) {
+        const bool isUnique = titles.value(choice.title) == 1 && !choice.title.trimmed().isEmpty();
+        if (choice.kind == Kind::Saved && !isUnique) {
             choice.detail = choice.stored;
         }
     }
+}
+
+qsizetype placeOr0(const RuleChoices &choices, RuleChoices::const_iterator found)
+{
+    return found == choices.end() ? 0 : found - choices.begin();
 }
 
 RuleChoices inOrder(RuleChoices saved)
@@ -51,8 +58,8 @@ RuleChoices savedNetworks(const SettingsStore &settings)
 {
     RuleChoices saved;
     for (const SavedEntry &entry : savedEntries(settings, keys::savedNetworks)) {
-        if (entry.bssid) {
-            saved.append({entry.name.value_or(QString()), {}, *entry.bssid, Kind::Saved,
+        if (const QString bssid = entry.bssid.value_or(QString()); !bssid.isEmpty()) {
+            saved.append({entry.name.value_or(QString()), {}, bssid, Kind::Saved, bssid,
                 entry.ssid.value_or(QString()), entry.isSsidDefined()});
         }
     }
@@ -60,6 +67,21 @@ RuleChoices savedNetworks(const SettingsStore &settings)
 }
 
 } // namespace
+
+ChosenEntries chosenFor(const RuleValues &rule)
+{
+    ChosenEntries chosen;
+    chosen.device = rule.device;
+    if (rule.network == anUnknownNetwork) {
+        chosen.network.kind = Kind::UnknownNetwork;
+    } else if (rule.network != anyNetwork && !rule.isLogin) {
+        chosen.network = {.title = rule.ssid.isEmpty() ? rule.network : rule.ssid,
+            .kind = Kind::Saved,
+            .bssid = rule.network};
+    }
+    chosen.address = isRandomAddress(rule.address) ? QString() : rule.address;
+    return chosen;
+}
 
 RuleChoices ruleDevices(const DeviceTable &devices)
 {
@@ -83,7 +105,7 @@ RuleChoices ruleNetworks(
     const WiFiRecord wifi = WiFiRecord::stored(settings);
     if (saved.isEmpty() && !wifi.bssid.isEmpty() && wifi.isOf(device)) {
         // Only what is saved can be looked up by its name: the rule is stored for any network.
-        choices.append({wifi.name, {}, anyNetwork, Kind::Unsaved});
+        choices.append({wifi.name, {}, anyNetwork, Kind::Unsaved, wifi.bssid.toLower()});
     }
     choices.append(saved);
     tellApart(choices);
@@ -94,8 +116,8 @@ RuleChoices ruleAddresses(const SettingsStore &settings)
 {
     RuleChoices saved;
     for (const SavedEntry &entry : savedEntries(settings, keys::savedAddresses)) {
-        if (entry.address) {
-            saved.append({entry.name.value_or(QString()), {}, *entry.address});
+        if (const QString address = entry.address.value_or(QString()); !address.isEmpty()) {
+            saved.append({entry.name.value_or(QString()), {}, address});
         }
     }
     RuleChoices choices{{randomAddressTitle(), {}, randomAddressTitle(), Kind::Fallback}};
@@ -106,10 +128,15 @@ RuleChoices ruleAddresses(const SettingsStore &settings)
 
 qsizetype placeOfStored(const RuleChoices &choices, const QString &stored)
 {
-    const auto found = std::ranges::find_if(choices, [&](const RuleChoice &choice) {
-        return choice.stored == stored && choice.kind != Kind::Unsaved;
-    });
-    return found == choices.end() ? 0 : found - choices.begin();
+    return placeOr0(choices, std::ranges::find(choices, stored, &RuleChoice::stored));
+}
+
+qsizetype placeOfNetwork(const RuleChoices &networks, const RuleChoice &chosen)
+{
+    return placeOr0(networks, std::ranges::find_if(networks, [&](const RuleChoice &network) {
+        return network.bssid == chosen.bssid &&
+               (network.kind == chosen.kind || network.kind == Kind::Saved);
+    }));
 }
 
 } // namespace quillon

@@ -9,6 +9,7 @@ namespace quillon {
 
 class DeviceTable;
 class SettingsStore;
+struct RuleValues;
 
 /// An entry of a pop-up of the rule editor.
 struct RuleChoice
@@ -21,16 +22,29 @@ struct RuleChoice
         Saved,          ///< a saved network or address; an interface
     };
 
-    QString title;  ///< in the user's language
-    QString detail; ///< tells entries of one title apart, else ""
-    QString stored; ///< what a rule holds for it
+    QString title = {};  ///< in the user's language
+    QString detail = {}; ///< tells entries of one title apart, else ""
+    QString stored = {}; ///< what a rule holds for it
     Kind kind = Kind::Saved;
+    QString bssid = {};       ///< of a saved network, or of the one in use
     QString ssid = {};        ///< of a saved network
     bool ssidDefined = false; ///< it is recognized by its SSID
 
     bool operator==(const RuleChoice &) const = default;
 };
 using RuleChoices = QList<RuleChoice>;
+
+/// What the pop-ups of a form were made to show. They show it whenever they offer it, and else
+/// their first entry.
+struct ChosenEntries
+{
+    QString device = {};
+    RuleChoice network = {.kind = RuleChoice::Kind::Fallback};
+    QString address = {}; ///< "" for a random one
+};
+
+/// What is gone keeps the name that the rule has for it.
+ChosenEntries chosenFor(const RuleValues &rule);
 
 /// The interfaces, in the order of every list of them. Never empty: without any, one whose title
 /// and stored name are "".
@@ -43,5 +57,8 @@ RuleChoices ruleAddresses(const SettingsStore &settings);
 
 /// The place of what a rule holds, 0 where it is not among them.
 qsizetype placeOfStored(const RuleChoices &choices, const QString &stored);
+/// The place of a network, 0 where it is not among them. One that was not saved when it was chosen
+/// may be by now.
+qsizetype placeOfNetwork(const RuleChoices &networks, const RuleChoice &chosen);
 
 } // namespace quillon

@@ -10,6 +10,7 @@
 #include "networks/SpecialNetworks.h"
 #include "networks/WiFiRecord.h"
 #include "presentation/rules/NewAddress.h"
+#include "presentation/rules/RuleFormNotice.h"
 #include "rules/RuleActions.h"
 #include "rules/RuleSentence.h"
 #include "rules/TimerFormatter.h"
@@ -51,7 +52,7 @@ RuleFormModel::RuleFormModel(const Collaborators &collaborators)
     : m_deps(collaborators)
 {
     for (const QString &key : {keys::savedNetworks, keys::savedAddresses, keys::currentWiFiDict,
-             keys::currentInterfaceDict, keys::deviceDict}) {
+             keys::currentInterfaceDict, keys::deviceDict, keys::defaultTimerMinutes}) {
         m_observed.push_back(m_deps.settings.addObserver(key, [this](const auto &) { refill(); }));
     }
 }
@@ -65,58 +66,48 @@ RuleFormModel::~RuleFormModel()
 
 void RuleFormModel::resetAllRuleValues(Kind kind)
 {
-    m_lost = {};
+    stopPublishing();
+    m_chosen = {};
     const QString vendor = randomAddressTitle();
     edit([&](State &state) {
         state = {};
         state.kind = kind;
         state.isOpen = true;
-        state.devices = ruleDevices(m_deps.devices);
-        state.addresses = ruleAddresses(m_deps.settings);
-        refillNetworks(state);
+        offerEntries(state);
+        m_chosen.device = state.devices.first().stored;
         state.minutes = QString::number(defaultMinutes());
         state.vendor = vendor;
     });
     Q_EMIT vendorFilled(vendor);
+    m_isTouched = false;
     publishNetwork();
 }
 
 void RuleFormModel::fill(const RuleValues &rule)
 {
+    stopPublishing();
+    m_source = rule;
+    m_chosen = chosenFor(rule);
     edit([&](State &state) {
         state = {};
         state.kind = rule.isLogin ? Kind::Login : Kind::Network;
         state.isOpen = true;
         state.isNew = false;
         state.name = oneLine(rule.name);
-        state.devices = ruleDevices(m_deps.devices);
-        state.device = placeOfStored(state.devices, rule.device);
-        refillNetworks(state);
-        state.network = placeOfStored(state.networks, rule.network);
-        state.addresses = ruleAddresses(m_deps.settings);
-        state.address = placeOfStored(state.addresses, rule.address);
+        offerEntries(state);
         state.action = rule.action == Rule::changeAddress ? Rule::changeAddress : Rule::doNothing;
         state.repeat = rule.changeAction == Rule::every ? Rule::every : Rule::once;
         state.minutes = QString::number(std::clamp(rule.timerMins, leastMinutes, mostMinutes));
         state.vendor = rule.vendor;
-        const bool lostAddress = state.address == 0 && !isRandomAddress(rule.address);
-        const bool lostNetwork =
-            state.network == 0 && rule.network != anyNetwork && rule.network != anUnknownNetwork;
-        const bool lostDevice = state.devices.at(state.device).stored != rule.device;
-        m_lost = {lostDevice ? rule.device : QString(),
-            lostNetwork && !rule.isLogin ? (rule.ssid.isEmpty() ? rule.network : rule.ssid)
-                                         : QString(),
-            lostAddress ? rule.address : QString()};
     });
-    m_source = rule;
     Q_EMIT vendorFilled(rule.vendor);
-    m_filled = values();
+    m_isTouched = false;
     publishNetwork();
 }
 
 void RuleFormModel::followRule(const RuleValues &rule)
 {
-    if (rule != m_source && values() == m_filled) {
+    if (rule != m_source && !m_isTouched) {
         fill(rule);
     }
 }
@@ -124,8 +115,7 @@ void RuleFormModel::followRule(const RuleValues &rule)
 void RuleFormModel::close()
 {
     m_state.update([](State &state) { state.isOpen = false; });
-    m_deps.settings.set(keys::editingRuleNetwork, {});
-    m_deps.settings.synchronize();
+    stopPublishing();
 }
 
 RuleValues RuleFormModel::valuesOf(const State &state) const
@@ -155,34 +145,35 @@ RuleValues RuleFormModel::valuesOf(const State &state) const
 
 void RuleFormModel::refill()
 {
-    if (!state().isOpen) {
-        return;
+    if (state().isOpen) {
+        edit([this](State &state) {
+            offerEntries(state);
+            followPublished(state);
+        });
+        publishNetwork();
     }
-    edit([this](State &state) {
-        const QString device = state.devices.at(state.device).stored;
-        const QString address = state.addresses.at(state.address).stored;
-        state.devices = ruleDevices(m_deps.devices);
-        state.device = placeOfStored(state.devices, device);
-        refillNetworks(state);
-        state.addresses = ruleAddresses(m_deps.settings);
-        state.address = placeOfStored(state.addresses, address);
-    });
-    publishNetwork();
 }
 
-void RuleFormModel::refillNetworks(State &state) const
+void RuleFormModel::offerEntries(State &state) const
 {
-    const RuleChoice before = state.networks.at(state.network);
+    state.devices = ruleDevices(m_deps.devices);
+    state.device = placeOfStored(state.devices, m_chosen.device);
     const QString device = state.devices.at(state.device).stored;
     state.networks = ruleNetworks(m_deps.settings, m_deps.devices, device);
-    state.network = placeOfStored(state.networks, before.stored);
-    if (before.kind == RuleChoice::Kind::Unsaved) {
-        // Its heart was pressed, or it is still the only one.
-        const auto same = std::ranges::find(state.networks, before.kind, &RuleChoice::kind);
-        state.network =
-            same != state.networks.end()
-                ? same - state.networks.begin()
-                : placeOfStored(state.networks, WiFiRecord::stored(m_deps.settings).bssid);
+    state.network = placeOfNetwork(state.networks, m_chosen.network);
+    state.addresses = ruleAddresses(m_deps.settings);
+    state.address = placeOfStored(state.addresses, m_chosen.address);
+}
+
+/// The form publishes what it shows: a saved network that it does not show was set by another.
+void RuleFormModel::followPublished(State &state)
+{
+    const RuleChoice published{.kind = RuleChoice::Kind::Saved,
+        .bssid = m_deps.settings.getString(keys::editingRuleNetwork)};
+    const qsizetype place = placeOfNetwork(state.networks, published);
+    if (place > 0 && place != state.network) {
+        state.network = place;
+        m_chosen.network = state.networks.at(place);
     }
 }
 
@@ -197,32 +188,14 @@ void RuleFormModel::follow(State &state) const
                            !m_deps.savedNetworks.isCurrentNetworkSaved();
     state.canSaveAddress = !m_deps.savedAddresses.currentAddress().isEmpty() &&
                            !m_deps.savedAddresses.isCurrentAddressSaved();
+    state.canSaveRule = !state.devices.at(state.device).stored.isEmpty();
     state.sentence = ruleSentence(valuesOf(state), RuleNames::of(m_deps.settings, m_deps.devices));
-    state.notice = notice(state);
-}
-
-QString RuleFormModel::notice(const State &state) const
-{
-    const RuleChoice &network = state.networks.at(state.network);
-    if (network.kind == RuleChoice::Kind::Unsaved) {
-        return filled(localized("%@ is not saved: press its heart first."), {network.title});
-    }
-    if (!m_lost.device.isEmpty()) {
-        return filled(
-            localized("The rule was made for %@, which is not here any more."), {m_lost.device});
-    }
-    for (const QString &lost : {m_lost.network, m_lost.address}) {
-        if (!lost.isEmpty()) {
-            return filled(
-                localized("The rule was made for %@, which is not saved any more."), {lost});
-        }
-    }
-    return {};
+    state.notice = ruleFormNotice(state, m_chosen);
 }
 
 void RuleFormModel::setName(const QString &text)
 {
-    edit([&](State &state) { state.name = oneLine(text); });
+    touch([&](State &state) { state.name = oneLine(text); });
 }
 
 void RuleFormModel::deviceSelectionChanged(qsizetype place)
@@ -230,11 +203,9 @@ void RuleFormModel::deviceSelectionChanged(qsizetype place)
     if (!isPlace(place, state().devices)) {
         return;
     }
-    m_lost.device.clear();
-    edit([&](State &state) {
-        state.device = place;
-        refillNetworks(state);
-    });
+    m_chosen.device = state().devices.at(place).stored;
+    // A network that was chosen for a radio is chosen again when the user comes back to it.
+    touch([&](State &state) { offerEntries(state); });
     publishNetwork();
 }
 
@@ -243,14 +214,14 @@ void RuleFormModel::changeNetwork(qsizetype place)
     if (!isPlace(place, state().networks)) {
         return;
     }
-    m_lost.network.clear();
-    edit([&](State &state) { state.network = place; });
+    m_chosen.network = state().networks.at(place);
+    touch([&](State &state) { state.network = place; });
     publishNetwork();
 }
 
 void RuleFormModel::actionSelectionChanged(int place)
 {
-    edit([&](State &state) { state.action = place; });
+    touch([&](State &state) { state.action = place; });
 }
 
 void RuleFormModel::addressSelectionChanged(qsizetype place)
@@ -258,25 +229,29 @@ void RuleFormModel::addressSelectionChanged(qsizetype place)
     if (!isPlace(place, state().addresses)) {
         return;
     }
-    m_lost.address.clear();
-    edit([&](State &state) { state.address = place; });
+    const RuleChoice address = state().addresses.at(place);
+    m_chosen.address = address.kind == RuleChoice::Kind::Saved ? address.stored : QString();
+    touch([&](State &state) { state.address = place; });
 }
 
 void RuleFormModel::timerSelectionChanged(int place)
 {
-    edit([&](State &state) { state.repeat = place; });
+    touch([&](State &state) { state.repeat = place; });
 }
 
 void RuleFormModel::setMinutes(const QString &text)
 {
     if (TimerFormatter().isPartialStringValid(text)) {
-        edit([&](State &state) { state.minutes = text; });
+        touch([&](State &state) { state.minutes = text; });
     }
 }
 
 void RuleFormModel::setVendor(const QString &text)
 {
-    edit([&](State &state) { state.vendor = text; });
+    // The field tells of every change, also of those that the form has asked for.
+    if (text != state().vendor) {
+        touch([&](State &state) { state.vendor = text; });
+    }
 }
 
 void RuleFormModel::controlTextDidEndEditing()
@@ -305,20 +280,8 @@ void RuleFormModel::makeAddress()
     if (address.isEmpty()) {
         return;
     }
-    saveNewAddress(m_deps.settings, address, nameForAddress());
+    saveNewAddress(m_deps.settings, address, nameForNewAddress(state()));
     addressSelectionChanged(placeOfStored(state().addresses, address));
-}
-
-QString RuleFormModel::nameForAddress() const
-{
-    const RuleChoice &network = state().networks.at(state().network);
-    const bool hasNetwork =
-        state().kind == Kind::Network &&
-        (network.kind == RuleChoice::Kind::Saved || network.kind == RuleChoice::Kind::Unsaved);
-    if (hasNetwork && !network.title.isEmpty()) {
-        return network.title;
-    }
-    return state().name.isEmpty() ? state().devices.at(state().device).title : state().name;
 }
 
 int RuleFormModel::defaultMinutes() const
@@ -336,6 +299,14 @@ void RuleFormModel::publishNetwork()
     const QString bssid = network.kind == RuleChoice::Kind::Saved ? network.stored : anyNetwork;
     if (m_deps.settings.getString(keys::editingRuleNetwork) != bssid) {
         m_deps.settings.set(keys::editingRuleNetwork, bssid);
+        m_deps.settings.synchronize();
+    }
+}
+
+void RuleFormModel::stopPublishing()
+{
+    if (m_deps.settings.get(keys::editingRuleNetwork).isValid()) {
+        m_deps.settings.set(keys::editingRuleNetwork, {});
         m_deps.settings.synchronize();
     }
 }

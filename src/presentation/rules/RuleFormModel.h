@@ -53,6 +53,7 @@ public:
         bool canChooseTimerMins = false;
         bool canSaveNetwork = false; ///< the one in use, which is not saved yet
         bool canSaveAddress = false; ///< that of the selected interface, likewise
+        bool canSaveRule = false;    ///< there is an interface that it can be for
 
         QString sentence; ///< what the rule will do
         QString notice;   ///< what to look at before it is saved, "" for nothing
@@ -74,6 +75,8 @@ public:
     const State &state() const { return m_state.get(); }
     /// What the form holds, as it is stored.
     RuleValues values() const { return valuesOf(state()); }
+    /// The user has edited what it was opened with.
+    bool isTouched() const { return m_isTouched; }
 
     /// Opens it with its first entries and empty fields.
     void resetAllRuleValues(Kind kind);
@@ -111,23 +114,21 @@ Q_SIGNALS:
     void vendorFilled(const QString &vendor);
 
 private:
-    /// What a rule was made for that is not there any more; "" for nothing.
-    struct Lost
-    {
-        QString device = {};
-        QString network = {};
-        QString address = {};
-    };
-
     RuleValues valuesOf(const State &state) const;
     void refill();
-    void refillNetworks(State &state) const;
+    void offerEntries(State &state) const;
+    void followPublished(State &state);
     void follow(State &state) const;
-    QString notice(const State &state) const;
-    QString nameForAddress() const;
     int defaultMinutes() const;
     void publishNetwork();
+    void stopPublishing();
 
+    template <typename Edit>
+    void touch(Edit change)
+    {
+        m_isTouched = true;
+        edit(change);
+    }
     template <typename Edit>
     void edit(Edit change)
     {
@@ -140,8 +141,8 @@ private:
     Collaborators m_deps;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     RuleValues m_source; ///< the rule that was filled in
-    RuleValues m_filled; ///< what the form made of it
-    Lost m_lost;
+    ChosenEntries m_chosen;
+    bool m_isTouched = false;
     std::vector<SettingsStore::Token> m_observed;
 };
 

@@ -46,7 +46,7 @@ RulesPreferencesViewController::~RulesPreferencesViewController()
 
 void RulesPreferencesViewController::addRule()
 {
-    if (isListShown()) {
+    if (canOpenForm()) {
         m_deps.form.resetAllRuleValues(RuleFormModel::Kind::Network);
         openForm(Page::NetworkForm, {}, &Self::okRule);
     }
@@ -54,10 +54,20 @@ void RulesPreferencesViewController::addRule()
 
 void RulesPreferencesViewController::addLoginRule()
 {
-    if (isListShown()) {
+    if (canOpenForm()) {
         m_deps.form.resetAllRuleValues(RuleFormModel::Kind::Login);
         openForm(Page::LoginForm, {}, &Self::okLoginRule);
     }
+}
+
+bool RulesPreferencesViewController::canOpenForm()
+{
+    if (!isListShown() && m_deps.form.isTouched()) {
+        // What was filled in is not thrown away, and not taken for the new rule.
+        say(localized("Save or cancel this rule before you begin another one."));
+        return false;
+    }
+    return true;
 }
 
 void RulesPreferencesViewController::editRule()
@@ -95,7 +105,7 @@ void RulesPreferencesViewController::openForm(Page page, const QString &edited, 
 
 void RulesPreferencesViewController::chooseOK()
 {
-    if (!isListShown()) {
+    if (!isListShown() && m_deps.form.state().canSaveRule) {
         (this->*m_ok)();
     }
 }
@@ -103,8 +113,12 @@ void RulesPreferencesViewController::chooseOK()
 void RulesPreferencesViewController::okRule()
 {
     const RuleValues values = m_deps.form.values();
-    // After the look-ups: a network that this saves is not yet the rule's.
-    m_deps.savedNetworks.addCurrentNetworkToSavedList();
+    const auto &form = m_deps.form.state();
+    const QString network = form.networks.at(form.network).title;
+    if (!m_deps.settings.getDictionary(keys::savedNetworks).contains(network)) {
+        // After the look-ups: a network that this saves is not yet the rule's.
+        m_deps.savedNetworks.addCurrentNetworkToSavedList();
+    }
     const QString added = m_deps.editing.addRule(values);
     m_deps.table.setFresh({added});
     showList();

@@ -70,6 +70,7 @@ public:
     const State &state() const { return m_state.get(); }
 
     // What the user does. The commands of the list do nothing while a form is open.
+    /// Open an empty form, also in place of one that nobody has touched.
     void addRule();
     void addLoginRule();
     /// Opens the form with the rule that was selected last.
@@ -116,6 +117,7 @@ private:
     using Command = void (RulesPreferencesViewController::*)();
 
     bool isListShown() const { return state().page == Page::List; }
+    bool canOpenForm();
     void okRule();
     void okUpdateRule();
     void okLoginRule();

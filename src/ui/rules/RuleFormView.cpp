@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/rules/RulesPreferencesViewController.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/ClicksOnce.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
@@ -94,6 +95,8 @@ QComboBox *RuleFormView::makePopUp(const QString &name)
     popUp->setAccessibleName(name);
     popUp->setProperty("look", u"compact"_s);
     popUp->ensurePolished();
+    popUp->setFocusPolicy(Qt::StrongFocus);
+    popUp->installEventFilter(this);
     // As wide as the form, whatever it is called.
     popUp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     popUp->setMinimumContentsLength(1);
@@ -122,6 +125,7 @@ void RuleFormView::makeHearts(const Theme &theme)
     m_newAddress->setIconSize(QSize(Theme::iconSize, Theme::iconSize));
     m_newAddress->setFixedSize(Theme::target, Theme::target);
     m_newAddress->setFocusPolicy(Qt::StrongFocus);
+    m_newAddress->installEventFilter(new ClicksOnce(this));
     m_newAddress->setAccessibleName(localized("New Random Address"));
     m_newAddress->setToolTip(plainToolTip(
         localized("Makes a random address, saves it, and uses it whenever the rule acts")));
@@ -273,6 +277,17 @@ void RuleFormView::refreshUse()
     m_unit->setEnabled(state.canChooseTimerMins);
     m_saveNetwork->setEnabled(state.canSaveNetwork);
     m_saveAddress->setEnabled(state.canSaveAddress);
+    m_ok->setEnabled(state.canSaveRule);
+}
+
+bool RuleFormView::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *const popUp = qobject_cast<QComboBox *>(watched);
+    if (event->type() == QEvent::Wheel && popUp != nullptr && !popUp->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void RuleFormView::keyPressEvent(QKeyEvent *event)

@@ -37,13 +37,15 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    /// A pop-up that has not the keyboard leaves the wheel to the page that scrolls.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     /// One line: its label, and what stands beside it. All are children of the form: a label names
     /// only a sibling to assistive technology.
     using Line = QList<QWidget *>;
 
-    static QComboBox *makePopUp(const QString &name);
+    QComboBox *makePopUp(const QString &name);
     void makeMinutes();
     void makeHearts(const Theme &theme);
     Line addLine(const QString &label, QWidget *control, const QList<QWidget *> &beside = {});

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int inset = Theme::unit + 4;
 constexpr int between = Theme::spacing;
+constexpr int longestName = 120; ///< as it is shown everywhere
 
 QFont nameFont()
 {
@@ -133,6 +134,7 @@ QWidget *RuleRowDelegate::createEditor(
     editor->setAccessibleName(localized("Name"));
     editor->setToolTip(plainToolTip(localized("Press Return to rename the rule")));
     editor->setFont(nameFont());
+    editor->setMaxLength(longestName);
     return editor;
 }
 

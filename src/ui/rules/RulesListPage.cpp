@@ -6,8 +6,10 @@
 #include "presentation/rules/RulesPreferencesViewController.h"
 #include "ui/rules/RulesListView.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/ClicksOnce.h"
 #include "ui/widgets/EmptyState.h"
 #include "ui/widgets/PlainText.h"
+#include "ui/widgets/Strip.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -28,6 +30,7 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
     , m_list(new RulesListView(table, editor, theme))
     , m_empty(new EmptyState(theme, u"list"_s))
     , m_card(new QFrame)
+    , m_column(new QVBoxLayout(this))
     , m_buttons(new QBoxLayout(QBoxLayout::TopToBottom))
 {
     m_card->setProperty("look", u"card"_s);
@@ -57,19 +60,20 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
     adding->addStretch();
     auto *commands = new QHBoxLayout;
     commands->addStretch();
+    auto *once = new ClicksOnce(this);
     for (QPushButton *command : std::as_const(m_commands)) {
         command->setProperty("look", u"quiet"_s);
+        command->installEventFilter(once);
         commands->addWidget(command);
     }
     m_buttons->setContentsMargins(0, 0, 0, 0);
     m_buttons->setSpacing(Theme::unit);
     m_buttons->addLayout(adding);
     m_buttons->addLayout(commands);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::spacing);
-    column->addWidget(m_card, 1);
-    column->addLayout(m_buttons);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(Theme::spacing);
+    m_column->addWidget(m_card, 1);
+    m_column->addLayout(m_buttons);
     connect(&m_table, &RulesTableModel::changed, this, &RulesListPage::refresh);
     refresh();
 }
@@ -77,6 +81,11 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
 QWidget *RulesListPage::firstControl() const
 {
     return m_table.state().rows.isEmpty() ? static_cast<QWidget *>(m_addRule) : m_list;
+}
+
+void RulesListPage::takeStrip(Strip *strip)
+{
+    m_column->insertWidget(1, strip);
 }
 
 QPushButton *RulesListPage::makeButton(const Theme &theme, const QString &icon, const QString &text,

@@ -6,6 +6,7 @@
 
 class QBoxLayout;
 class QPushButton;
+class QVBoxLayout;
 
 namespace quillon {
 
@@ -13,6 +14,7 @@ class EmptyState;
 class RulesListView;
 class RulesPreferencesViewController;
 class RulesTableModel;
+class Strip;
 class Theme;
 
 /// The list of all rules with its commands below it, or what stands there while there is none.
@@ -26,6 +28,8 @@ public:
 
     /// What gets the keyboard when the page is entered.
     QWidget *firstControl() const;
+    /// Puts it under the list: the rows stay under the pointer when it comes and goes.
+    void takeStrip(Strip *strip);
 
     QSize minimumSizeHint() const override;
 
@@ -44,6 +48,7 @@ private:
     RulesListView *m_list;
     EmptyState *m_empty;
     QWidget *m_card;
+    QVBoxLayout *m_column;
     QBoxLayout *m_buttons;           ///< in one line where there is room, else in two
     QList<QPushButton *> m_commands; ///< on what is selected
     QPushButton *m_addRule;

@@ -224,6 +224,7 @@ void RulesListView::focusInEvent(QFocusEvent *event)
 {
     QListView::focusInEvent(event);
     // The keyboard has a row to act on.
+    m_pressed = QModelIndex();
     if (m_table.state().selectedRows.isEmpty() && model()->rowCount() > 0) {
         m_table.selectRow(0);
     }
@@ -231,13 +232,22 @@ void RulesListView::focusInEvent(QFocusEvent *event)
 
 void RulesListView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    const QModelIndex index = indexAt(event->position().toPoint());
+    const QPoint place = event->position().toPoint();
+    const QModelIndex index = indexAt(place);
     const auto places = RuleRowDelegate::placesIn(visualRect(index), {}, layoutDirection());
-    if (index.isValid() && !places.toggle.contains(event->position().toPoint())) {
+    // The first of two clicks may have been on something else that stood there.
+    const bool isSecond = index.isValid() && index == m_pressed;
+    if (isSecond && event->button() == Qt::LeftButton && !places.toggle.contains(place)) {
         m_editor.editRule();
     } else {
-        QListView::mouseDoubleClickEvent(event);
+        mousePressEvent(event);
     }
+}
+
+void RulesListView::mousePressEvent(QMouseEvent *event)
+{
+    m_pressed = indexAt(event->position().toPoint());
+    QListView::mousePressEvent(event);
 }
 
 void RulesListView::keyPressEvent(QKeyEvent *event)

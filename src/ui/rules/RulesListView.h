@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QListView>
+#include <QPersistentModelIndex>
 
 namespace quillon {
 
@@ -56,6 +57,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void selectionChanged(
         const QItemSelection &selected, const QItemSelection &deselected) override;
@@ -69,7 +71,8 @@ private:
     RulesTableModel &m_table;
     RulesPreferencesViewController &m_editor;
     RuleRows *m_rows = nullptr;
-    bool m_mirrors = false; ///< the selection comes from the model, not from the user
+    QPersistentModelIndex m_pressed; ///< by the last press, since the list got the keyboard
+    bool m_mirrors = false;          ///< the selection comes from the model, not from the user
 };
 
 } // namespace quillon

@@ -28,20 +28,20 @@ using Page = RulesPreferencesViewController::Page;
 using Tab = RulesPreferencesViewController::Tab;
 
 /// The form at its own width, in the middle of the page.
-QWidget *pageOf(RuleFormView *form)
+QVBoxLayout *columnOf(RuleFormView *form, QWidget *page)
 {
     const QFontMetrics letters(Theme::font(Theme::Type::Body));
     form->setMaximumWidth(std::max(formWidth, formLetters * letters.averageCharWidth()));
-    auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Theme::spacing);
     auto *row = new QHBoxLayout;
     row->addStretch();
     row->addWidget(form, mostOfIt);
     row->addStretch();
     column->addLayout(row);
     column->addStretch();
-    return page;
+    return column;
 }
 
 } // namespace
@@ -58,7 +58,8 @@ RulesPreferencesView::RulesPreferencesView(
     , m_rulesPages(new PageStack)
     , m_list(new RulesListPage(models.table, models.editor, theme))
     , m_form(new RuleFormView(models.form, models.editor, theme, parts.vendorField))
-    , m_formPage(pageOf(m_form))
+    , m_formPage(new QWidget)
+    , m_formColumn(columnOf(m_form, m_formPage))
 {
     m_tabs->setProperty("look", u"segments"_s);
     m_tabs->setAccessibleName(localized("Rules"));
@@ -71,9 +72,8 @@ RulesPreferencesView::RulesPreferencesView(
     m_rulesPages->addWidget(m_formPage);
     auto *rules = new QVBoxLayout(m_rules);
     rules->setContentsMargins(0, 0, 0, 0);
-    rules->setSpacing(Theme::spacing);
-    rules->addWidget(m_strip);
-    rules->addWidget(m_rulesPages, 1);
+    rules->addWidget(m_rulesPages);
+    m_list->takeStrip(m_strip);
     m_pages->addWidget(m_savedItems);
     m_pages->addWidget(m_rules);
 
@@ -104,12 +104,23 @@ void RulesPreferencesView::refresh()
     } else {
         m_strip->say(state.warning);
     }
-    QWidget *page = state.page == Page::List ? static_cast<QWidget *>(m_list) : m_formPage;
-    if (page != m_rulesPages->currentWidget()) {
-        m_rulesPages->setCurrentWidget(page);
-        QWidget *first = state.page == Page::List ? m_list->firstControl() : m_form->firstControl();
-        first->setFocus(Qt::OtherFocusReason);
+    showPage(state.page == Page::List);
+}
+
+void RulesPreferencesView::showPage(bool isList)
+{
+    QWidget *page = isList ? static_cast<QWidget *>(m_list) : m_formPage;
+    if (page == m_rulesPages->currentWidget()) {
+        return;
     }
+    if (isList) {
+        m_list->takeStrip(m_strip);
+    } else {
+        m_formColumn->insertWidget(0, m_strip);
+    }
+    m_rulesPages->setCurrentWidget(page);
+    QWidget *first = isList ? m_list->firstControl() : m_form->firstControl();
+    first->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QTabBar;
+class QVBoxLayout;
 
 namespace quillon {
 
@@ -42,6 +43,7 @@ public:
 
 private:
     void refresh();
+    void showPage(bool isList);
 
     Models m_models;
     QTabBar *m_tabs;
@@ -53,6 +55,7 @@ private:
     RulesListPage *m_list;
     RuleFormView *m_form;
     QWidget *m_formPage;
+    QVBoxLayout *m_formColumn;
 };
 
 } // namespace quillon

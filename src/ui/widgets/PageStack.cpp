@@ -2,32 +2,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/PageStack.h"
 
+#include <QVBoxLayout>
+
 namespace quillon {
 
 PageStack::PageStack(QWidget *parent)
-    : QStackedWidget(parent)
+    : QWidget(parent)
 {
-    connect(this, &QStackedWidget::currentChanged, this, &QWidget::updateGeometry);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
 }
 
-QSize PageStack::sizeHint() const
+void PageStack::addWidget(QWidget *page)
 {
-    return currentWidget() != nullptr ? currentWidget()->sizeHint() : QSize();
+    layout()->addWidget(page);
+    if (m_current == nullptr) {
+        m_current = page;
+    } else {
+        page->hide();
+    }
 }
 
-QSize PageStack::minimumSizeHint() const
+void PageStack::setCurrentWidget(QWidget *page)
 {
-    return currentWidget() != nullptr ? currentWidget()->minimumSizeHint() : QSize();
-}
-
-bool PageStack::hasHeightForWidth() const
-{
-    return currentWidget() != nullptr && currentWidget()->hasHeightForWidth();
-}
-
-int PageStack::heightForWidth(int width) const
-{
-    return hasHeightForWidth() ? currentWidget()->heightForWidth(width) : -1;
+    if (page != m_current) {
+        setUpdatesEnabled(false);
+        m_current->hide();
+        m_current = page;
+        m_current->show();
+        setUpdatesEnabled(true);
+    }
 }
 
 } // namespace quillon

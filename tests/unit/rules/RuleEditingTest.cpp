@@ -136,6 +136,10 @@ TEST_F(RuleEditingTest, UpdatesOfALoginRuleWhatItHas)
     EXPECT_EQ(updated.action(), Rule::notChosen);
     EXPECT_EQ(updated.changeAction(), Rule::notChosen);
     EXPECT_FALSE(updated.ssidDefined());
+    EXPECT_TRUE(updated.isLogin());
+    EXPECT_EQ(updated.timerMins(), 5);
+    EXPECT_TRUE(context().hasChanges()) << "saved with the next save";
+    EXPECT_EQ(queries.namesArray(), QStringList{u"Office"_s});
 }
 
 TEST_F(RuleEditingTest, UndoesAnUpdateAsAWhole)
@@ -226,6 +230,7 @@ TEST_F(RuleEditingTest, DuplicatesAllOfARuleButItsName)
     EXPECT_TRUE(original.enabled());
     EXPECT_FALSE(context().hasChanges());
     EXPECT_TRUE(overviews.isEmpty()) << "nothing is evaluated";
+    EXPECT_EQ(queries.namesArray(), (QStringList{u"Home"_s, u"Home copy"_s}));
     EXPECT_EQ(rule(editing.duplicateRules({original.objID()}).first()).name(), u"Home copy (2)"_s);
 }
 
@@ -242,7 +247,9 @@ TEST_F(RuleEditingTest, RenamesAsTyped)
     addRule({.name = u"Home"_s});
     const Rule renamed = addRule({.name = u"Office"_s});
     context().save();
+    overviews.clear();
     editing.renameRule(renamed.objID(), u"Home"_s);
+    EXPECT_FALSE(overviews.isEmpty()) << "the status follows at once";
     scheduler.runPending();
     EXPECT_EQ(renamed.name(), u"Home"_s) << "another may be called so";
     EXPECT_EQ(queries.namesArray(), (QStringList{u"Home"_s, u"Home"_s}));

@@ -94,6 +94,19 @@ TEST_F(RuleReasonTest, NamesTheRuleThatIsInForceInstead)
     EXPECT_EQ(reasonOf(any), u"“here” is in force instead: it was made for this network."_s);
 }
 
+TEST_F(RuleReasonTest, SaysOfTwoForOneNetworkWhichWasMadeFirst)
+{
+    join(home);
+    onWifi(u"first"_s, home);
+    EXPECT_EQ(
+        reasonOf(onWifi(u"second"_s, home)), u"“first” is in force instead: it was made first."_s);
+    settings.set(keys::savedNetworks, {});
+    join(office);
+    onWifi(u"unknown"_s, anUnknownNetwork);
+    EXPECT_EQ(reasonOf(onWifi(u"copy"_s, anUnknownNetwork)),
+        u"“unknown” is in force instead: it was made first."_s);
+}
+
 TEST_F(RuleReasonTest, OfNoRuleIsNone)
 {
     EXPECT_EQ(reasonOf(Rule()), QString());

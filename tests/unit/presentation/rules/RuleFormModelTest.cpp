@@ -5,6 +5,8 @@
 #include "base/Languages.h"
 #include "unit/presentation/rules/RuleEditorFixture.h"
 
+#include <functional>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -46,30 +48,6 @@ TEST_F(RuleFormModelTest, BeginsWithFirstEntriesAndEmptyFields)
     EXPECT_TRUE(state().isNew);
 }
 
-TEST_F(RuleFormModelTest, OffersAWiredInterfaceAnyNetworkOnly)
-{
-    saveNetwork(u"Home"_s, u"Home"_s, homeBssid, false);
-    open();
-    EXPECT_EQ(titles(state().networks),
-        (QStringList{u"Any Network"_s, u"An Unknown Network"_s, u"Home"_s}));
-    chooseNetwork(u"Home"_s);
-    chooseDevice(en0);
-    EXPECT_EQ(titles(state().networks), QStringList{u"Any Network"_s});
-    EXPECT_EQ(state().network, 0);
-    EXPECT_EQ(form.values().network, anyNetwork);
-}
-
-TEST_F(RuleFormModelTest, OffersTheSavedNetworksByNameIgnoringCase)
-{
-    saveNetwork(u"office"_s, u"W"_s, officeBssid, false);
-    saveNetwork(u"Zoo"_s, u"Z"_s, u"02:00:00:00:aa:03"_s, false);
-    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
-    join(u"Cafe"_s, u"02:00:00:00:aa:04"_s);
-    open();
-    EXPECT_EQ(titles(state().networks),
-        (QStringList{u"Any Network"_s, u"An Unknown Network"_s, u"Home"_s, u"office"_s, u"Zoo"_s}));
-}
-
 TEST_F(RuleFormModelTest, OffersTheNetworkInUseWhereNoneIsSavedAndSaysWhatWillBeStored)
 {
     join(u"Cafe"_s, homeBssid);
@@ -90,27 +68,6 @@ TEST_F(RuleFormModelTest, OffersTheNetworkInUseWhereNoneIsSavedAndSaysWhatWillBe
     EXPECT_EQ(form.values().ssid, u"Cafe"_s);
     EXPECT_EQ(state().sentence, u"On Cafe, leave Wi-Fi \u00B7 en1 as it is."_s);
     EXPECT_FALSE(state().canSaveNetwork);
-}
-
-TEST_F(RuleFormModelTest, StoresWhatItShowsAlsoWhereNamesAreShared)
-{
-    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
-    saveNetwork(u"Home"_s, u"H2"_s, officeBssid, true);
-    saveNetwork(u"Any Network"_s, u"H3"_s, u"02:00:00:00:aa:03"_s, false);
-    saveAddress(fixedAddress, u"Random Address"_s);
-    open();
-    form.changeNetwork(3);
-    EXPECT_EQ(state().networks.at(3).detail, homeBssid);
-    EXPECT_EQ(form.values().network, homeBssid);
-    EXPECT_FALSE(form.values().ssidDefined);
-    form.changeNetwork(4);
-    EXPECT_EQ(form.values().network, officeBssid);
-    EXPECT_TRUE(form.values().ssidDefined);
-    form.changeNetwork(0);
-    EXPECT_EQ(form.values().network, anyNetwork);
-    EXPECT_EQ(form.values().address, u"Random Address"_s);
-    form.addressSelectionChanged(1);
-    EXPECT_EQ(form.values().address, fixedAddress);
 }
 
 TEST_F(RuleFormModelTest, EnablesWhatTheActionUses)
@@ -210,31 +167,6 @@ TEST_F(RuleFormModelTest, IsFilledWithARule)
     form.fill(rule);
     EXPECT_EQ(state().network, 1);
     EXPECT_EQ(editedNetwork(), anyNetwork);
-}
-
-TEST_F(RuleFormModelTest, ShowsAndStoresTheFirstEntryForWhatIsLostAndSaysSo)
-{
-    form.fill(onWifi(homeBssid));
-    EXPECT_EQ(network(), u"Any Network"_s);
-    EXPECT_EQ(form.values().network, anyNetwork);
-    EXPECT_EQ(
-        state().notice, u"The rule was made for 02:00:00:00:aa:01, which is not saved any more."_s);
-    form.changeNetwork(1);
-    EXPECT_EQ(state().notice, QString()) << "the user has chosen";
-
-    RuleValues rule = onWifi(anyNetwork);
-    rule.address = fixedAddress;
-    form.fill(rule);
-    EXPECT_EQ(address(), u"Random Address"_s);
-    EXPECT_EQ(form.values().address, u"Random Address"_s);
-    EXPECT_EQ(
-        state().notice, u"The rule was made for 02:00:00:00:00:77, which is not saved any more."_s);
-
-    rule = onWifi(anyNetwork);
-    rule.device = u"en9"_s;
-    form.fill(rule);
-    EXPECT_EQ(form.values().device, en1);
-    EXPECT_EQ(state().notice, u"The rule was made for en9, which is not here any more."_s);
 }
 
 TEST_F(RuleFormModelTest, ShowsMinutesThatCanBeTyped)
@@ -380,12 +312,134 @@ TEST_F(RuleFormModelTest, IgnoresPlacesThatAreNotThere)
     EXPECT_EQ(state(), before);
 }
 
-TEST_F(RuleFormModelTest, HoldsNoInterfaceWhereThereIsNone)
+TEST_F(RuleFormModelTest, ChoosesTheNetworkAgainWhenTheUserComesBackToTheRadio)
 {
-    settings.set(keys::deviceDict, QVariantMap());
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
     open();
-    EXPECT_EQ(form.values().device, QString());
-    EXPECT_EQ(titles(state().networks), QStringList{u"Any Network"_s});
+    chooseNetwork(u"Home"_s);
+    chooseDevice(en0);
+    EXPECT_EQ(network(), u"Any Network"_s);
+    EXPECT_EQ(editedNetwork(), anyNetwork);
+    chooseDevice(en1);
+    EXPECT_EQ(network(), u"Home"_s);
+    EXPECT_EQ(editedNetwork(), homeBssid);
+}
+
+TEST_F(RuleFormModelTest, SelectsTheNetworkThatIsPublishedWhenTheListsChange)
+{
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
+    settings.set(keys::editingRuleNetwork, homeBssid);
+    open();
+    EXPECT_EQ(network(), u"Any Network"_s) << "a form is opened with its own";
+    settings.set(keys::editingRuleNetwork, homeBssid);
+    saveNetwork(u"Office"_s, u"O"_s, officeBssid, false);
+    EXPECT_EQ(network(), u"Home"_s);
+    EXPECT_EQ(form.values().network, homeBssid);
+    settings.set(keys::editingRuleNetwork, 7);
+    saveNetwork(u"Zoo"_s, u"Z"_s, u"02:00:00:00:aa:03"_s, false);
+    EXPECT_EQ(network(), u"Home"_s) << "what names none is nobody's choice";
+    EXPECT_EQ(editedNetwork(), homeBssid);
+}
+
+TEST_F(RuleFormModelTest, ChoosesAgainWhatComesBack)
+{
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
+    saveAddress(fixedAddress, u"Lab"_s);
+    open();
+    chooseNetwork(u"Home"_s);
+    chooseAddress(u"Lab"_s);
+    const QVariant savedNets = settings.get(keys::savedNetworks);
+    const QVariant saved = settings.get(keys::savedAddresses);
+    settings.set(keys::savedNetworks, {});
+    settings.set(keys::savedAddresses, {});
+    EXPECT_EQ(form.values().network, anyNetwork);
+    settings.set(keys::savedNetworks, savedNets);
+    settings.set(keys::savedAddresses, saved);
+    EXPECT_EQ(form.values().network, homeBssid);
+    EXPECT_EQ(form.values().address, fixedAddress);
+}
+
+TEST_F(RuleFormModelTest, LosesANetworkThatWasNotSavedWithItsNetwork)
+{
+    join(u"Cafe"_s, homeBssid);
+    open();
+    chooseNetwork(u"Cafe"_s);
+    join(u"Bar"_s, officeBssid);
+    EXPECT_EQ(network(), u"Any Network"_s) << "nobody has chosen Bar";
+    form.saveCurrentNetwork();
+    EXPECT_EQ(form.values().network, anyNetwork);
+}
+
+TEST_F(RuleFormModelTest, SaysTheUsualMinutesOfTheMomentForAnEmptyField)
+{
+    open();
+    form.actionSelectionChanged(Rule::changeAddress);
+    form.timerSelectionChanged(Rule::every);
+    form.setMinutes({});
+    settings.set(keys::defaultTimerMinutes, 17);
+    EXPECT_EQ(state().sentence,
+        u"On any network, give Wi-Fi \u00B7 en1 a new random address every 17 minutes."_s);
+    EXPECT_EQ(form.values().timerMins, 17);
+}
+
+TEST_F(RuleFormModelTest, IsTouchedByTheUserOnly)
+{
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
+    open();
+    EXPECT_FALSE(form.isTouched());
+    settings.set(keys::savedNetworks, QVariantMap());
+    form.setVendor(state().vendor);
+    EXPECT_FALSE(form.isTouched());
+    form.setName(u"a"_s);
+    EXPECT_TRUE(form.isTouched());
+    form.fill(onWifi(anyNetwork));
+    EXPECT_FALSE(form.isTouched());
+    const QList<std::function<void()>> edits{[this] { form.deviceSelectionChanged(1); },
+        [this] { form.changeNetwork(1); }, [this] { form.actionSelectionChanged(0); },
+        [this] { form.addressSelectionChanged(0); }, [this] { form.timerSelectionChanged(1); },
+        [this] { form.setMinutes(u"4"_s); }, [this] { form.setVendor(u"x"_s); }};
+    for (const auto &edit : edits) {
+        form.fill(onWifi(anyNetwork));
+        edit();
+        EXPECT_TRUE(form.isTouched());
+    }
+}
+
+TEST_F(RuleFormModelTest, FollowsItsRuleAlsoAfterTheListsHaveChanged)
+{
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
+    form.fill(onWifi(homeBssid));
+    settings.set(keys::savedNetworks, QVariantMap());
+    form.followRule(onWifi(anUnknownNetwork));
+    EXPECT_EQ(form.values().network, anUnknownNetwork);
+}
+
+TEST_F(RuleFormModelTest, WritesDownAtOnceWhatItPublishes)
+{
+    saveNetwork(u"Home"_s, u"H"_s, homeBssid, false);
+    open();
+    settings.clearJournal();
+    chooseNetwork(u"Home"_s);
+    EXPECT_EQ(settings.journal(), (QStringList{u"set editingRuleNetwork"_s, u"synchronize"_s}));
+    settings.clearJournal();
+    form.close();
+    EXPECT_EQ(settings.journal(), (QStringList{u"remove editingRuleNetwork"_s, u"synchronize"_s}));
+}
+
+TEST_F(RuleFormModelTest, CanSaveWhatIsInUseAndNotSavedYet)
+{
+    open();
+    EXPECT_FALSE(state().canSaveNetwork) << "there is none";
+    join(u"Home"_s, homeBssid);
+    EXPECT_TRUE(state().canSaveNetwork);
+    saveNetwork(u"Home"_s, u"Home"_s, homeBssid, false);
+    EXPECT_FALSE(state().canSaveNetwork);
+    settings.set(keys::currentInterfaceDict, {});
+    EXPECT_FALSE(state().canSaveAddress) << "there is none";
+    select(en1);
+    EXPECT_TRUE(state().canSaveAddress);
+    saveAddress(storedRecord(en1).value(record::current).toString().toLower(), u"Mine"_s);
+    EXPECT_FALSE(state().canSaveAddress);
 }
 
 } // namespace

@@ -212,6 +212,55 @@ TEST_F(RulesPreferencesViewControllerTest, LeavesTheListAloneWhileAFormIsOpen)
     EXPECT_EQ(names(), QStringList{u"a"_s});
 }
 
+TEST_F(RulesPreferencesViewControllerTest, SavesNoNetworkBesideOneThatIsCalledByItsBssid)
+{
+    join(u"Cafe"_s, homeBssid);
+    saveNetwork(officeBssid, u"W"_s, officeBssid, false);
+    editor.addRule();
+    chooseNetwork(officeBssid);
+    editor.chooseOK();
+    EXPECT_EQ(settings.getDictionary(keys::savedNetworks).keys(), QStringList{officeBssid});
+    EXPECT_EQ(row(0).values.network, officeBssid);
+}
+
+TEST_F(RulesPreferencesViewControllerTest, OpensAnotherFormInPlaceOfOneThatNobodyTouched)
+{
+    const Rule rule = addRule({.name = u"a"_s});
+    rows.selectRow(0);
+    editor.editRule();
+    editor.addLoginRule();
+    EXPECT_EQ(page(), Page::LoginForm);
+    editor.addRule();
+    EXPECT_EQ(page(), Page::NetworkForm);
+    EXPECT_TRUE(form.state().isNew);
+    editor.chooseOK();
+    EXPECT_EQ(rows.state().rows.size(), 2);
+    EXPECT_EQ(rule.name(), u"a"_s) << "it is not the rule that was open before";
+    EXPECT_EQ(editor.state().warning, QString());
+}
+
+TEST_F(RulesPreferencesViewControllerTest, SaysThatAnOpenFormIsToBeClosedFirst)
+{
+    editor.addRule();
+    form.setName(u"mine"_s);
+    editor.goTo(Destination::NewLoginRule);
+    EXPECT_EQ(page(), Page::NetworkForm);
+    EXPECT_EQ(form.state().name, u"mine"_s);
+    EXPECT_EQ(editor.state().warning, u"Save or cancel this rule before you begin another one."_s);
+    editor.cancelRule();
+    editor.goTo(Destination::NewLoginRule);
+    EXPECT_EQ(page(), Page::LoginForm);
+}
+
+TEST_F(RulesPreferencesViewControllerTest, SavesNoRuleForNoInterface)
+{
+    settings.set(keys::deviceDict, QVariantMap());
+    editor.addRule();
+    editor.chooseOK();
+    EXPECT_EQ(page(), Page::NetworkForm);
+    EXPECT_TRUE(rows.state().rows.isEmpty());
+}
+
 TEST_F(RulesPreferencesViewControllerTest, ClosesTheFormOfARuleThatGoes)
 {
     const Rule rule = addRule({.name = u"a"_s});

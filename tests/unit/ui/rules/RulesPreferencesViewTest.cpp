@@ -17,6 +17,8 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTabBar>
+#include <QToolButton>
+#include <QWheelEvent>
 
 namespace quillon::test {
 
@@ -75,11 +77,41 @@ protected:
         }
         qFatal("no %s", qUtf8Printable(name));
     }
+    static void sendMouse(QWidget &widget, QEvent::Type type, const QPoint &place)
+    {
+        const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(
+            type, place, widget.mapToGlobal(place), Qt::LeftButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
+    }
     void click(const QPoint &place, QEvent::Type type)
     {
-        QMouseEvent event(type, place, list().viewport()->mapToGlobal(place), Qt::LeftButton,
-            Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(list().viewport(), &event);
+        sendMouse(*list().viewport(), type, place);
+    }
+    /// As it comes from a window system, all of it.
+    static void doubleClick(QWidget &widget, const QPoint &place)
+    {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                 QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            sendMouse(widget, type, place);
+        }
+        settle();
+    }
+    /// Where a row says what it does.
+    QPoint placeInRow(int row)
+    {
+        return RuleRowDelegate::placesIn(
+            list().visualRect(list().model()->index(row, 0)), {}, Qt::LeftToRight)
+            .sentence.center();
+    }
+    QPushButton &button(const QString &text)
+    {
+        for (auto *found : pane.findChildren<QPushButton *>()) {
+            if (found->text() == text) {
+                return *found;
+            }
+        }
+        qFatal("no %s", qUtf8Printable(text));
     }
     Rule ruleAt(int row) { return queries.ruleWithID(rows.state().rows.at(row).objID); }
 
@@ -213,6 +245,162 @@ TEST_F(RulesPreferencesViewTest, TheTabsFollowTheSettingAndSetIt)
     EXPECT_EQ(settings.getInteger(keys::customTabIndex), 0);
     settings.set(keys::customTabIndex, 1);
     EXPECT_EQ(tabs->currentIndex(), 1);
+}
+
+TEST_F(RulesPreferencesViewTest, ADoubleClickOnARowEdits)
+{
+    addRule({.name = u"a"_s});
+    addRule({.name = u"b"_s});
+    settle();
+    doubleClick(*list().viewport(), placeInRow(1));
+    EXPECT_EQ(editor.state().page, Page::NetworkForm);
+    EXPECT_EQ(form.state().name, u"b"_s);
+}
+
+TEST_F(RulesPreferencesViewTest, TheSecondClickOnSaveIsNoneOnTheRowThatComesUnderIt)
+{
+    addRule({.name = u"a"_s});
+    settle();
+    doubleClick(*list().viewport(), placeInRow(0));
+    ASSERT_EQ(editor.state().page, Page::NetworkForm);
+    editor.chooseOK();
+    settle();
+    click(placeInRow(0), QEvent::MouseButtonDblClick);
+    click(placeInRow(0), QEvent::MouseButtonRelease);
+    EXPECT_EQ(editor.state().page, Page::List);
+}
+
+TEST_F(RulesPreferencesViewTest, ADoubleClickOnACommandActsOnce)
+{
+    for (const auto *name : {"a", "b", "c"}) {
+        addRule({.name = QString::fromLatin1(name)});
+    }
+    rows.selectRow(0);
+    settle();
+    doubleClick(button(u"Delete"_s), button(u"Delete"_s).rect().center());
+    EXPECT_EQ(names(), (QStringList{u"b"_s, u"c"_s}));
+    doubleClick(button(u"Duplicate"_s), button(u"Duplicate"_s).rect().center());
+    EXPECT_EQ(names(), (QStringList{u"b"_s, u"b copy"_s, u"c"_s}));
+}
+
+TEST_F(RulesPreferencesViewTest, OneAddressIsMadeForADoubleClick)
+{
+    editor.addRule();
+    form.actionSelectionChanged(Rule::changeAddress);
+    settle();
+    for (auto *made : formView().findChildren<QToolButton *>()) {
+        if (made->accessibleName() == u"New Random Address"_s) {
+            doubleClick(*made, made->rect().center());
+        }
+    }
+    EXPECT_EQ(settings.getDictionary(keys::savedAddresses).size(), 1);
+    EXPECT_EQ(form.state().addresses.at(form.state().address).stored,
+        settings.getDictionary(keys::savedAddresses).firstKey());
+}
+
+TEST_F(RulesPreferencesViewTest, TheWheelOverAPopUpScrollsThePage)
+{
+    editor.addRule();
+    settle();
+    QComboBox &interface = popUp(u"Interface"_s);
+    const auto turnWheel = [&interface] {
+        QWheelEvent event(QPointF(5, 5), interface.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+            Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&interface, &event);
+    };
+    ASSERT_FALSE(interface.hasFocus());
+    turnWheel();
+    EXPECT_EQ(form.state().device, 0);
+    EXPECT_FALSE(interface.hasFocus());
+    interface.setFocus();
+    turnWheel();
+    EXPECT_EQ(form.state().device, 1) << "the user is at it";
+}
+
+TEST_F(RulesPreferencesViewTest, NoRowMovesWhenAWarningComes)
+{
+    addRule({.name = u"a"_s});
+    settle();
+    const QPoint before = list().mapTo(&pane, QPoint());
+    const QPoint buttonBefore = button(u"Delete"_s).mapTo(&pane, QPoint());
+    editor.showNetworkWarning();
+    settle();
+    auto *strip = pane.findChild<Strip *>();
+    ASSERT_TRUE(strip->isVisible());
+    EXPECT_EQ(list().mapTo(&pane, QPoint()), before);
+    EXPECT_EQ(button(u"Delete"_s).mapTo(&pane, QPoint()), buttonBefore);
+    EXPECT_GT(strip->mapTo(&pane, QPoint()).y(), before.y());
+    editor.addRule();
+    settle();
+    EXPECT_TRUE(strip->isVisible()) << "also while a form is open";
+    editor.cancelRule();
+    settle();
+    EXPECT_TRUE(strip->isVisible());
+}
+
+TEST_F(RulesPreferencesViewTest, ThePaneIsNotTallerThanItsPage)
+{
+    const int empty = pane.heightForWidth(640);
+    editor.addRule();
+    settle();
+    const int filledIn = pane.heightForWidth(640);
+    EXPECT_LT(empty, filledIn) << "the hidden form takes no room";
+}
+
+TEST_F(RulesPreferencesViewTest, TheNamesAreCollectedWhenARenamingBegins)
+{
+    const Rule rule = addRule({.name = u"a"_s});
+    settle();
+    rule.object()->setPrimitiveValue(model::rule::name, u"silent"_s);
+    EXPECT_NE(queries.namesArray(), QStringList{u"silent"_s});
+    list().setFocus();
+    press(Qt::Key_F2);
+    EXPECT_EQ(queries.namesArray(), QStringList{u"silent"_s});
+}
+
+TEST_F(RulesPreferencesViewTest, ARenamingIsGivenUpByEscape)
+{
+    addRule({.name = u"a"_s});
+    settle();
+    list().setFocus();
+    press(Qt::Key_F2);
+    auto *field = list().findChild<QLineEdit *>(u"nameCellField"_s);
+    ASSERT_NE(field, nullptr);
+    field->setText(u"b"_s);
+    field->setModified(true);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(names(), QStringList{u"a"_s});
+    EXPECT_EQ(editor.state().page, Page::List);
+}
+
+TEST_F(RulesPreferencesViewTest, NothingIsSavedForNoInterface)
+{
+    settings.set(keys::deviceDict, QVariantMap());
+    editor.addRule();
+    settle();
+    EXPECT_FALSE(button(u"Save Rule"_s).isEnabled());
+    press(Qt::Key_Return);
+    EXPECT_TRUE(rows.state().rows.isEmpty());
+}
+
+TEST_F(RulesPreferencesViewTest, TheButtonsOpenTheForms)
+{
+    button(u"Network Rule"_s).click();
+    settle();
+    EXPECT_EQ(editor.state().page, Page::NetworkForm);
+    button(u"Cancel"_s).click();
+    button(u"Login Rule"_s).click();
+    settle();
+    EXPECT_EQ(editor.state().page, Page::LoginForm);
+    EXPECT_TRUE(entry(u"Name"_s).hasFocus());
+    button(u"Cancel"_s).click();
+    button(u"New Network Rule"_s).click();
+    EXPECT_EQ(editor.state().page, Page::NetworkForm) << "there is no rule yet";
+    button(u"Save Rule"_s).click();
+    settle();
+    button(u"Edit"_s).click();
+    EXPECT_EQ(editor.state().page, Page::NetworkForm);
+    EXPECT_FALSE(form.state().isNew);
 }
 
 TEST_F(RulesPreferencesViewTest, ThousandsOfRulesAreShownByThoseInSight)
