@@ -4,8 +4,12 @@
 
 #include "unit/ui/WidgetFixture.h"
 
+#include <QComboBox>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
+#include <QWheelEvent>
 
 namespace quillon::test {
 
@@ -53,6 +57,24 @@ TEST_F(ThemeStyleTest, AltThatIsLetGoElsewhereIsNotHeld)
     QEvent away(QEvent::WindowDeactivate);
     QApplication::sendEvent(&window, &away);
     EXPECT_FALSE(underlines());
+}
+
+TEST_F(ThemeStyleTest, TheWheelScrollsThePaneAndChoosesNothing)
+{
+    auto *area = new QScrollArea;
+    auto *content = new QWidget;
+    content->setFixedSize(100, 4000);
+    auto *popUp = new QComboBox(content);
+    popUp->addItems({u"Daily"_s, u"Weekly"_s, u"Monthly"_s});
+    area->setWidget(content);
+    column->addWidget(area);
+    popUp->setFocus();
+    const QPointF place(5, 5);
+    QWheelEvent down(place, popUp->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(popUp, &down);
+    EXPECT_EQ(popUp->currentText(), u"Daily"_s);
+    EXPECT_GT(area->verticalScrollBar()->value(), 0);
 }
 
 } // namespace
