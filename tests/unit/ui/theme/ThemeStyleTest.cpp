@@ -6,8 +6,6 @@
 
 #include <QComboBox>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QStyle>
 #include <QWheelEvent>
 
@@ -59,22 +57,17 @@ TEST_F(ThemeStyleTest, AltThatIsLetGoElsewhereIsNotHeld)
     EXPECT_FALSE(underlines());
 }
 
-TEST_F(ThemeStyleTest, TheWheelScrollsThePaneAndChoosesNothing)
+TEST_F(ThemeStyleTest, TheWheelChoosesNothingInAPopUp)
 {
-    auto *area = new QScrollArea;
-    auto *content = new QWidget;
-    content->setFixedSize(100, 4000);
-    auto *popUp = new QComboBox(content);
+    auto *popUp = new QComboBox;
     popUp->addItems({u"Daily"_s, u"Weekly"_s, u"Monthly"_s});
-    area->setWidget(content);
-    column->addWidget(area);
+    column->addWidget(popUp);
     popUp->setFocus();
     const QPointF place(5, 5);
     QWheelEvent down(place, popUp->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
         Qt::NoScrollPhase, false);
     QApplication::sendEvent(popUp, &down);
     EXPECT_EQ(popUp->currentText(), u"Daily"_s);
-    EXPECT_GT(area->verticalScrollBar()->value(), 0);
 }
 
 } // namespace
