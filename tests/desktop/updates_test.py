@@ -41,7 +41,8 @@ def expect_settings_shown(pane):
             write_settings(**{key: value})
             wait_until(lambda: pane.find("check box", name).checked == value, f"“{name}” is not {value}")
     often = pane.labelled("How often", "combo box")
-    for seconds, shown in ((86400, "Daily"), (2592000, "Monthly"), (5, ""), (604800, "Weekly")):
+    # Without a selection its name is that of the label.
+    for seconds, shown in ((86400, "Daily"), (2592000, "Monthly"), (5, "How often"), (604800, "Weekly")):
         write_settings(SUScheduledCheckInterval=seconds)
         wait_until(lambda: often.name == shown, lambda: f"“How often” shows “{often.name}”, not “{shown}”")
 
