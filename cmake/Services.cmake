@@ -37,7 +37,9 @@ if(QUILLON_UPDATE_FEED AND NOT QUILLON_UPDATE_KEY)
 endif()
 set(update_feed "")
 set(update_key "")
+set(updates_left_to_system true)
 if(QUILLON_UPDATES)
+    set(updates_left_to_system false)
     set(update_feed "${QUILLON_UPDATE_FEED}")
     set(update_key "${QUILLON_UPDATE_KEY}")
 endif()
@@ -53,6 +55,7 @@ set(QUILLON_SERVICE_DEFINITIONS
     QUILLON_REGISTRY_URL="${QUILLON_REGISTRY_URL}"
     QUILLON_UPDATE_FEED="${update_feed}"
     QUILLON_UPDATE_KEY="${update_key}"
+    QUILLON_UPDATES_LEFT_TO_SYSTEM=${updates_left_to_system}
     QUILLON_IS_PACKAGED=${is_packaged})
 
 # tools/sandbox stands in for these hosts.

@@ -48,6 +48,7 @@ Places places()
         .vendorRegistry = QUrl(QStringLiteral(QUILLON_REGISTRY_URL)),
         .licenseFile = besideProgram(u"LICENSE"_s),
         .version = QCoreApplication::applicationVersion(),
+        .areUpdatesLeftToSystem = QUILLON_UPDATES_LEFT_TO_SYSTEM,
         .updateFeed = QUrl(QStringLiteral(QUILLON_UPDATE_FEED)),
         .updateKey = QByteArray::fromBase64(QUILLON_UPDATE_KEY),
     };
@@ -65,7 +66,7 @@ DesktopPlatform::DesktopPlatform()
     , m_networkChanges(m_scheduler)
     , m_location(m_scheduler)
     , m_softwareCenter(QUILLON_IS_PACKAGED)
-    , m_loginItem(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+    , m_loginItem(AutostartLoginItem::folders(),
           AutostartLoginItem::besideProgram(QCoreApplication::applicationDirPath()))
     , m_helperLink(m_random)
 {

@@ -2031,5 +2031,49 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Save or cancel this rule before you begin another one.</source>
         <translation>Sichern Sie diese Regel oder brechen Sie ab, bevor Sie eine andere beginnen.</translation>
     </message>
+    <message>
+        <source>The autostart entry is missing or cannot be written. Switch this off and on again to have it made anew.</source>
+        <translation>Der Autostart-Eintrag fehlt oder lässt sich nicht schreiben. Schalten Sie dies aus und wieder ein, um ihn neu anzulegen.</translation>
+    </message>
+    <message>
+        <source>There still is an autostart entry. Switch this on and off again to have it taken out.</source>
+        <translation>Es gibt noch einen Autostart-Eintrag. Schalten Sie dies ein und wieder aus, um ihn zu entfernen.</translation>
+    </message>
+    <message>
+        <source>The autostart entry is for other desktops only. Switch this off and on again to have it act here.</source>
+        <translation>Der Autostart-Eintrag gilt nur für andere Arbeitsumgebungen. Schalten Sie dies aus und wieder ein, damit er auch hier gilt.</translation>
+    </message>
+    <message>
+        <source>GeneralPreferences_en</source>
+        <translation>GeneralPreferences_en</translation>
+    </message>
+    <message>
+        <source>AdvancedPreferences_en</source>
+        <translation>AdvancedPreferences_en</translation>
+    </message>
+    <message>
+        <source>DisplayPreferences_en</source>
+        <translation>DisplayPreferences_en</translation>
+    </message>
+    <message>
+        <source>VendorPreferences_en</source>
+        <translation>VendorPreferences_en</translation>
+    </message>
+    <message>
+        <source>RulesPreferences_en</source>
+        <translation>RulesPreferences_en</translation>
+    </message>
+    <message>
+        <source>UpdatePreferences_en</source>
+        <translation>UpdatePreferences_en</translation>
+    </message>
+    <message>
+        <source>AboutPreferences_en</source>
+        <translation>AboutPreferences_en</translation>
+    </message>
+    <message>
+        <source>It was built without a list of versions to ask for. Nothing is asked, whatever is chosen here.</source>
+        <translation>Es wurde ohne eine Versionsliste gebaut. Es wird nichts abgefragt, was auch immer hier gewählt ist.</translation>
+    </message>
 </context>
 </TS>

@@ -43,6 +43,7 @@ std::span<const Entry> all()
         {SUScheduledCheckInterval, Integer},
         {SUFeedURL, String},
         {updateCheckDate, Date},
+        {updateCheckFailed, Boolean},
         {updateFeed, Data},
         {updateToldVersion, String},
         {releasedDevices, Array},

@@ -48,6 +48,7 @@ QUILLON_KEY(SUAutomaticallyUpdate);
 QUILLON_KEY(SUScheduledCheckInterval);
 QUILLON_KEY(SUFeedURL);
 QUILLON_KEY(updateCheckDate);
+QUILLON_KEY(updateCheckFailed);
 QUILLON_KEY(updateFeed);
 QUILLON_KEY(updateToldVersion);
 QUILLON_KEY(releasedDevices);

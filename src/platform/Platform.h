@@ -47,6 +47,8 @@ struct Places
     QString licenseFile;
     /// Of this program, "4.0.0".
     QString version = {};
+    /// The build was told that new versions come with the system's own updates.
+    bool areUpdatesLeftToSystem = false;
     /// Where new versions are told of; empty when nobody said so at build time.
     QUrl updateFeed = {};
     /// The Ed25519 key (32 bytes) of those who may tell of them; empty in a build that does not

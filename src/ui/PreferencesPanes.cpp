@@ -19,6 +19,14 @@ namespace quillon {
 
 namespace {
 
+/// Calls `end` when the program ends by the user's wish, or is ended.
+template <typename Pane>
+void whenTheProgramEnds(Presence &presence, Pane *pane, void (Pane::*end)())
+{
+    QObject::connect(&presence, &Presence::terminated, pane, end);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, pane, end);
+}
+
 void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, const Theme &theme,
     Scheduler &scheduler)
 {
@@ -29,10 +37,7 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
     // They lie over the rest.
     new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
     new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
-    // The program ends by the user's wish, or is ended.
-    QObject::connect(
-        &models.presence, &Presence::terminated, savedItems, &SavedItemsView::endEditing);
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, savedItems, &SavedItemsView::endEditing);
+    whenTheProgramEnds(models.presence, savedItems, &SavedItemsView::endEditing);
 }
 
 } // namespace
@@ -41,7 +46,9 @@ void addPanes(PreferencesWindow &window, const PreferencesPanes &models, const T
     Scheduler &scheduler)
 {
     window.addPane(PreferencesPane::General, new GeneralPreferencesView(models.general, theme));
-    window.addPane(PreferencesPane::Advanced, new AdvancedPreferencesView(models.advanced, theme));
+    auto *advanced = new AdvancedPreferencesView(models.advanced, theme);
+    window.addPane(PreferencesPane::Advanced, advanced);
+    whenTheProgramEnds(models.presence, advanced, &AdvancedPreferencesView::endEditing);
     window.addPane(PreferencesPane::Display, new DisplayPreferencesView(models.display, theme));
     window.addPane(
         PreferencesPane::VendorData, new VendorPreferencesView(models.vendorData, theme));

@@ -18,6 +18,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString identifier = u"softwareUpdate"_s;
+/// Of the notes, in a message: characters, which every desktop has room for.
+constexpr qsizetype mostNotes = 300;
+
+/// The notes, or where they go on, are in the preferences.
+QString bodyOf(const UpdateRelease &release)
+{
+    const QString hint = localized("What is new is in Preferences › Updates.");
+    if (release.notes.isEmpty()) {
+        return hint;
+    }
+    const QString notes = release.notes.size() <= mostNotes
+                              ? release.notes
+                              : release.notes.left(mostNotes).trimmed() + u'\u2026';
+    return notes + u'\n' + hint;
+}
 
 } // namespace
 
@@ -42,7 +57,7 @@ void UpdateAnnouncement::tell(const UpdateRelease &release)
     noteTold(release);
     m_notifier.ask({.identifier = identifier,
         .title = filled(localized("Quillon %@ is available"), {release.version.text()}),
-        .body = localized("What is new is in Preferences › Updates."),
+        .body = bodyOf(release),
         .actions = {{localized("Open Page"), [self = QPointer(this), release] {
                          if (self) {
                              self->open(release);

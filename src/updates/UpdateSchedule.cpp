@@ -40,9 +40,15 @@ void UpdateSchedule::noteRequest()
     m_notBefore = m_scheduler.monotonic() + shortestPause;
     m_behindUntil.reset();
     m_settings.set(keys::updateCheckDate, m_scheduler.now());
+    m_settings.setBool(keys::updateCheckFailed, true);
 }
 
-QDateTime UpdateSchedule::due(bool hasFailed)
+void UpdateSchedule::noteAnswer()
+{
+    m_settings.setBool(keys::updateCheckFailed, false);
+}
+
+QDateTime UpdateSchedule::due()
 {
     const QDateTime now = m_scheduler.now();
     const auto monotonic = m_scheduler.monotonic();
@@ -56,7 +62,7 @@ QDateTime UpdateSchedule::due(bool hasFailed)
     }
     m_behindUntil.reset();
     const QDateTime last = lastRequest();
-    const QDateTime next = last.isValid() ? last.addSecs(interval(hasFailed).count()) : now;
+    const QDateTime next = last.isValid() ? last.addSecs(interval().count()) : now;
     return std::max(next, after(m_notBefore));
 }
 
@@ -73,14 +79,15 @@ QDateTime UpdateSchedule::lastRequest() const
                                                                  : QDateTime();
 }
 
-seconds UpdateSchedule::interval(bool hasFailed) const
+seconds UpdateSchedule::interval() const
 {
     const qlonglong stored = m_settings.getInteger(keys::SUScheduledCheckInterval);
     const seconds interval =
         stored > 0 ? std::clamp<seconds>(seconds(stored),
                          std::chrono::duration_cast<seconds>(shortestPause), longestInterval)
                    : usualInterval;
-    return hasFailed ? std::min(interval, intervalAfterFailure) : interval;
+    return m_settings.getBool(keys::updateCheckFailed) ? std::min(interval, intervalAfterFailure)
+                                                       : interval;
 }
 
 } // namespace quillon

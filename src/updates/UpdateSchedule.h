@@ -13,8 +13,8 @@ class Scheduler;
 class SettingsStore;
 
 /// When to look for new versions: one interval after the last time, but never within an hour of the
-/// last request of this run of the program, whatever the settings and the clock say, and not while
-/// the program starts. Main thread.
+/// last request, whatever the settings and the clock say, and not while the program starts. Of a
+/// request of an earlier run the stored moment is known. Main thread.
 class UpdateSchedule
 {
 public:
@@ -22,19 +22,22 @@ public:
 
     /// The program has started just now.
     void begin();
-    /// A request is about to be made.
+    /// A request is about to be made. It counts as failed until its answer is noted, in a later
+    /// run, too.
     void noteRequest();
+    /// The request brought what it was made for.
+    void noteAnswer();
 
     /// The next moment, as the clock is now; one that is past means now. After a failure it comes
     /// within a day.
-    QDateTime due(bool hasFailed);
+    QDateTime due();
     /// The last request was made at a moment that the clock has not reached: it was set back.
     bool isClockBehind() const;
     /// Of the last request, of an earlier run too; invalid before the first.
     QDateTime lastRequest() const;
 
 private:
-    std::chrono::seconds interval(bool hasFailed) const;
+    std::chrono::seconds interval() const;
 
     SettingsStore &m_settings;
     const Scheduler &m_scheduler;

@@ -14,6 +14,8 @@ struct UpdateSource
     QUrl feed;       ///< of the list of versions; the user may name another one
     QByteArray key;  ///< the Ed25519 key (32 bytes) under which the list is signed, wherever it is
     QString version; ///< of this program
+    /// The build was told not to look: the system's own updates bring new versions.
+    bool isLeftToSystem = false;
 };
 
 } // namespace quillon

@@ -50,6 +50,11 @@ void Updater::setUpdateCheckInterval(qlonglong seconds)
     m_deps.settings.set(keys::SUScheduledCheckInterval, seconds);
 }
 
+bool Updater::isLeftToSystem() const
+{
+    return m_deps.source.isLeftToSystem;
+}
+
 bool Updater::canCheck() const
 {
     return !m_deps.source.key.isEmpty() && !(otherFeed().isEmpty() && m_deps.source.feed.isEmpty());
@@ -91,14 +96,13 @@ void Updater::schedule()
     m_alarm.reset();
     m_awaitsInternet = false;
     if (m_hasBegun && !isChecking() && canCheck() && automaticallyChecksForUpdates()) {
-        m_alarm = m_deps.scheduler.alarmAt(
-            m_schedule.due(m_problem.has_value()), [this] { checkWhenDue(); });
+        m_alarm = m_deps.scheduler.alarmAt(m_schedule.due(), [this] { checkWhenDue(); });
     }
 }
 
 void Updater::checkWhenDue()
 {
-    if (m_schedule.due(m_problem.has_value()) > m_deps.scheduler.now()) {
+    if (m_schedule.due() > m_deps.scheduler.now()) {
         // The clock was set, or the hour was slept through in part.
         schedule();
     } else if (!m_deps.reachability.isReachable()) {
@@ -147,6 +151,7 @@ void Updater::checked(Occasion occasion, const Result<QByteArray> &file)
     if (refusal) {
         fail(*refusal);
     } else {
+        m_schedule.noteAnswer();
         m_hasAnswer = true;
         m_problem.reset();
         if (const auto release = offer()) {

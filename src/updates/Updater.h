@@ -48,6 +48,8 @@ public:
     qlonglong updateCheckInterval() const;
     void setUpdateCheckInterval(qlonglong seconds);
 
+    /// Of a package: the system brings new versions, and there is nothing to choose here.
+    bool isLeftToSystem() const;
     /// Whether this build, with these settings, knows whom to ask and whom to believe.
     bool canCheck() const;
     bool isChecking() const { return m_request.isRunning(); }

@@ -6,18 +6,20 @@ Runs as root, who is the administrator; the program and its user are ordinary.
 """
 import json
 import os
+import plistlib
 import subprocess
 import sys
 import tempfile
 import unittest
 
-from program import SANDBOX_TOOLS, ProgramTest, wait_until
+from program import NAME, SANDBOX_TOOLS, SETTINGS, ProgramTest, accessibility, wait_until
 
+GROUP = os.path.join(SETTINGS, "orvandel.com.orvandel.Quillon4.plist")
 USER = "quillon"
 AGENT = os.path.join(SANDBOX_TOOLS, "sandbox-polkit-agent")
 
 
-class InstallationTest(ProgramTest):
+class InstallationCase(ProgramTest):
     def answer(self, answer):
         with open(os.environ["QUILLON_ANSWER"], "w") as file:
             file.write(answer)
@@ -28,6 +30,8 @@ class InstallationTest(ProgramTest):
             entries = [json.loads(line) for line in file]
         return [entry["action"] for entry in entries if "action" in entry]
 
+
+class InstallationTest(InstallationCase):
     def test_the_helper_is_installed_from_the_window(self):
         self.window.find("button", "Helper hint")
         self.assertFalse(self.field.enabled)
@@ -49,6 +53,57 @@ class InstallationTest(ProgramTest):
 
         self.button("Randomize address").press()
         self.expect_shown(self.expect_only_changed(self.selector.name))
+
+
+class PreferencesInstallationTest(InstallationCase):
+    """The buttons of the pane “Advanced”. Comes after the window's own, which leaves a helper."""
+
+    def setUp(self):
+        os.makedirs(SETTINGS, exist_ok=True)
+        with open(GROUP, "wb") as file:
+            plistlib.dump({"success": True, "device": "enp1s0", "version": "2.0", "another": "kept"}, file)
+        super().setUp()
+        self.button("Preferences").press()
+        accessibility.window(NAME, "General").find("page tab", "Advanced").press()
+        self.pane = accessibility.window(NAME, "Advanced")
+
+    def press(self, name, answer):
+        asked = len(self.asked())
+        self.answer(answer)
+        wait_until(lambda: self.pane.find("button", name).enabled, f"“{name}” cannot be pressed")
+        self.pane.find("button", name).press()
+        wait_until(lambda: len(self.asked()) == asked + 1, "nobody was asked")
+
+    def expect(self, status, installed):
+        self.pane.find("label", status)
+        wait_until(lambda: self.pane.find("button", "Uninstall").enabled == installed
+                   and self.pane.find("button", "Install").enabled != installed, "the buttons say otherwise")
+        wait_until(lambda: self.field.enabled == installed, "the main window says otherwise")
+
+    def test_the_helper_is_taken_out_and_put_in_again(self):
+        if not self.field.enabled:
+            self.press("Install", "grant")
+        self.expect("Helper: installed, version 2.0", True)
+
+        self.press("Uninstall", "dismiss")
+        self.expect("Helper: installed, version 2.0", True)
+        self.assertEqual(self.group().keys(), {"success", "device", "version", "another"})
+        self.press("Uninstall", "grant")
+        self.expect("Helper: not installed", False)
+        wait_until(lambda: self.group() == {"another": "kept"}, lambda: f"the shared settings hold {self.group()}")
+        self.window.find("button", "Helper hint")
+
+        self.press("Install", "dismiss")
+        self.expect("Helper: not installed", False)
+        self.press("Install", "grant")
+        self.expect("Helper: installed, version 2.0", True)
+        self.button("Randomize address").press()
+        self.expect_shown(self.expect_only_changed(self.selector.name))
+
+    @staticmethod
+    def group():
+        with open(GROUP, "rb") as file:
+            return plistlib.load(file)
 
 
 def as_administrator():

@@ -2,10 +2,13 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The panes of the preferences and the file of the settings: what is switched in one is so in the other, also while
 another program writes the file."""
+import os
+import shutil
+import tempfile
 import unittest
 
 from preferences import PreferencesTest, stored, wait_for_stored, write_settings
-from program import wait_until, xdotool
+from program import DEADLINE, start, wait_until, xdotool
 
 
 class GeneralTest(PreferencesTest):
@@ -94,6 +97,17 @@ class AdvancedTest(PreferencesTest):
         write_settings(driftAlarm=None)
         self.expect_checked("Ask when another program replaces an address", True)
 
+    def test_minutes_that_are_typed_count_when_the_program_ends(self):
+        field = self.preferences.find("entry", "Repeat every … minutes by default")
+        field.click()
+        wait_until(lambda: field.focused, "the field did not get the keyboard")
+        xdotool("key", "ctrl+a")
+        xdotool("type", "45")
+        wait_until(lambda: field.text == "45", lambda: f"the field shows {field.text}")
+        xdotool("key", "ctrl+q")
+        self.assertEqual(self.program.wait(DEADLINE), 0)
+        self.assertEqual(stored().get("defaultTimerMinutes"), 45)
+
     def test_the_helper_and_who_manages_the_interfaces(self):
         self.expect_label("Helper: installed, version 2.0")
         self.assertFalse(self.preferences.find("button", "Install").enabled)
@@ -104,6 +118,35 @@ class AdvancedTest(PreferencesTest):
 
 class AboutTest(PreferencesTest):
     PANE = "About"
+
+    def start_program(self):
+        # Whatever is handed to the desktop goes to this program.
+        self.folder = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, self.folder)
+        self.opened = os.path.join(self.folder, "opened")
+        opener = os.path.join(self.folder, "xdg-open")
+        with open(opener, "w") as file:
+            file.write('#!/bin/sh\necho "$@" >>"%s"\n' % self.opened)
+        os.chmod(opener, 0o755)
+        return start(PATH=self.folder + ":" + os.environ["PATH"])
+
+    def pages_opened(self):
+        if not os.path.exists(self.opened):
+            return []
+        with open(self.opened) as file:
+            return file.read().split()
+
+    def test_its_links_open(self):
+        opened = []
+        for title, page in (("The License on the Web", "https://www.gnu.org/licenses/gpl-3.0.html"),
+                            ("Where Vendors Are Registered", "https://standards-oui.ieee.org/")):
+            self.preferences.find("button", title).press()
+            opened.append(page)
+            wait_until(lambda: self.pages_opened() == opened, lambda: f"opened: {self.pages_opened()}")
+        self.preferences.find("button", "Read the License").press()
+        wait_until(lambda: len(self.pages_opened()) == 3, "the license was not opened")
+        with open(self.pages_opened()[2].removeprefix("file://")) as file:
+            self.assertIn("GNU GENERAL PUBLIC LICENSE", file.read(1000))
 
     def test_version_and_license_are_there(self):
         self.assertTrue(any(label.name.startswith("Version ") for label in self.preferences.all("label")))

@@ -2,11 +2,14 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Start at login: the entry in the autostart folder, and what a desktop starts by it."""
 import os
+import shutil
+import subprocess
+import tempfile
 import unittest
 
 from gi.repository import Gio, GLib
 from preferences import PreferencesTest, wait_for_stored, write_settings
-from program import DEADLINE, NAME, TITLE, accessibility, start, wait_until
+from program import DEADLINE, NAME, PROGRAM, TITLE, accessibility, start, wait_until
 
 FOLDER = os.path.expanduser("~/.config/autostart")
 ENTRY = os.path.join(FOLDER, "com.orvandel.Quillon4Helper.desktop")
@@ -121,6 +124,57 @@ class LoginTest(LoginFixture):
         # The sandbox has a window manager that says of itself nothing that is known.
         self.switch_on()
         self.expect_label("Whether this desktop starts programs at login cannot be told from here.")
+
+
+class StartedForAllTest(LoginFixture):
+    """A package, or an administrator, has the program started for all users."""
+
+    def start_program(self):
+        folder = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, folder)
+        os.makedirs(os.path.join(folder, "autostart"))
+        with open(os.path.join(folder, "autostart", os.path.basename(ENTRY)), "w") as file:
+            file.write(f"[Desktop Entry]\nType=Application\nName=Quillon\nExec={HELPER}\n")
+        return start(XDG_CONFIG_DIRS=folder, XDG_CURRENT_DESKTOP="GNOME")
+
+    def test_it_is_told_and_can_be_switched_off(self):
+        self.expect_label("There still is an autostart entry. Switch this on and off again to have it taken out.")
+        self.toggle(START)
+        wait_for_stored("loginStart", True)
+        self.expect_no_label("There still is an autostart entry. Switch this on and off again to have it taken out.")
+        self.assertFalse(os.path.exists(ENTRY), "there is one already")
+        self.toggle(START)
+        wait_until(lambda: os.path.exists(ENTRY), "nothing hides the one for all users")
+        entry = Gio.DesktopAppInfo.new_from_filename(ENTRY)
+        self.assertTrue(entry is None or entry.get_is_hidden())
+        self.expect_no_label("There still is an autostart entry. Switch this on and off again to have it taken out.")
+        self.toggle(START)
+        wait_until(lambda: not os.path.exists(ENTRY), "it is still hidden")
+
+    def test_an_entry_for_other_desktops_is_told(self):
+        write_entry(f"[Desktop Entry]\nType=Application\nName=Quillon\nExec={HELPER}\nOnlyShowIn=KDE;\n")
+        write_settings(loginStart=True)
+        self.expect_label("The autostart entry is for other desktops only. "
+                          "Switch this off and on again to have it act here.")
+
+
+class MissingProgramTest(LoginFixture):
+    """The program alone, without the one that the desktop would start."""
+
+    def start_program(self):
+        folder = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, folder)
+        return subprocess.Popen([shutil.copy(PROGRAM, folder)], stdin=subprocess.DEVNULL)
+
+    def test_it_says_so_and_the_setting_has_no_effect(self):
+        self.expect_label("The program that starts Quillon at login is not installed.")
+        self.assertFalse(self.box(START).enabled)
+        write_settings(loginStart=True)
+        self.expect_checked(START, True)
+        # Something that comes later is seen.
+        self.toggle("Do not open the window at login")
+        wait_for_stored("hideOnLaunch", True)
+        self.assertFalse(os.path.exists(ENTRY))
 
 
 class IgnoringDesktopTest(LoginFixture):

@@ -3,19 +3,19 @@
 """New versions: told by a list over HTTPS that is signed rightly, wrongly or not at all, and handed to the desktop."""
 import datetime
 import os
-import plistlib
 import subprocess
 import tempfile
+import time
 import unittest
 
-from program import (DEADLINE, NAME, SETTINGS, ProgramTest, accessibility, forget_everything, wait_until)
+from preferences import stored, write_settings
+from program import DEADLINE, NAME, TITLE, ProgramTest, accessibility, forget_everything, messages, wait_until
 from webserver import Web
 
 WITH_UPDATES = os.path.join(os.environ["QUILLON_BUILD"], "tests", "desktop", "quillon-with-updates")
 ROOT = os.path.realpath(os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", ".."))
 SIGN_FEED = os.path.join(ROOT, "tools", "sign-feed")
 TEST_KEY = os.path.join(ROOT, "tests", "data", "updates", "test-key.pem")
-FILE = os.path.join(SETTINGS, "com.orvandel.Quillon4.plist")
 PATH = "/appcast.xml"
 PAGE = "https://trusted.test/quillon-4.1"
 LIST = """<?xml version="1.0" encoding="UTF-8"?>
@@ -33,9 +33,18 @@ LIST = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
-def settings():
-    with open(FILE, "rb") as file:
-        return plistlib.load(file)
+def expect_settings_shown(pane):
+    """The controls show what another program writes, while they are in sight."""
+    boxes = {"SUEnableAutomaticChecks": "Check for new versions", "SUAutomaticallyUpdate": "Open a new version's page"}
+    for value in (True, False):
+        for key, name in boxes.items():
+            write_settings(**{key: value})
+            wait_until(lambda: pane.find("check box", name).checked == value, f"“{name}” is not {value}")
+    often = pane.labelled("How often", "combo box")
+    # Without a selection its name is that of the label.
+    for seconds, shown in ((86400, "Daily"), (2592000, "Monthly"), (5, "How often"), (604800, "Weekly")):
+        write_settings(SUScheduledCheckInterval=seconds)
+        wait_until(lambda: often.name == shown, lambda: f"“How often” shows “{often.name}”, not “{shown}”")
 
 
 class UpdatesCase(ProgramTest):
@@ -75,7 +84,9 @@ class UpdatesCase(ProgramTest):
             return file.read()
 
 
-class UpdatesTest(UpdatesCase):
+class WithUpdatesCase(UpdatesCase):
+    """The program of somebody who publishes a list."""
+
     def start_program(self):
         # Whatever is handed to the desktop goes here.
         program = os.path.join(self.folder, "xdg-open")
@@ -91,6 +102,8 @@ class UpdatesTest(UpdatesCase):
         with open(self.opened) as file:
             return file.read().split()
 
+
+class UpdatesTest(WithUpdatesCase):
     def check_now(self, pane, result):
         asked = len(self.web.requests(PATH))
         pane.find("button", "Check Now").press()
@@ -109,7 +122,7 @@ class UpdatesTest(UpdatesCase):
         wait_until(lambda: self.pages_opened() == [PAGE], lambda: f"opened: {self.pages_opened()}")
         # Nothing else was fetched, and the list is all that is kept.
         self.assertEqual(len(self.web.requests("/quillon-4.1")), 0)
-        wait_until(lambda: settings().get("updateToldVersion") == "4.1", "the version was not noted")
+        wait_until(lambda: stored().get("updateToldVersion") == "4.1", "the version was not noted")
 
     def test_a_list_that_is_signed_wrongly_or_not_at_all_changes_nothing(self):
         pane = self.preferences()
@@ -123,7 +136,7 @@ class UpdatesTest(UpdatesCase):
             self.web.serve({})
             self.check_now(pane, "The list of versions could not be fetched.")
         self.assertFalse(pane.has("button", "Open Page"))
-        self.assertFalse({"updateFeed", "updateToldVersion"} & settings().keys())
+        self.assertFalse({"updateFeed", "updateToldVersion"} & stored().keys())
 
     def test_a_list_of_this_or_an_older_version_offers_nothing(self):
         pane = self.preferences()
@@ -152,14 +165,44 @@ class UpdatesTest(UpdatesCase):
         pane = self.preferences()
         self.assertEqual(self.web.requests(PATH), [])
         pane.find("check box", "Check for new versions").press()
-        wait_until(lambda: settings().get("SUEnableAutomaticChecks") is True, "it was not stored")
+        wait_until(lambda: stored().get("SUEnableAutomaticChecks") is True, "it was not stored")
         pane.labelled("How often", "combo box").choose("Daily")
-        wait_until(lambda: settings().get("SUScheduledCheckInterval") == 86400, "it was not stored")
+        wait_until(lambda: stored().get("SUScheduledCheckInterval") == 86400, "it was not stored")
         pane.find("check box", "Open a new version's page").press()
-        wait_until(lambda: settings().get("SUAutomaticallyUpdate") is True, "it was not stored")
+        wait_until(lambda: stored().get("SUAutomaticallyUpdate") is True, "it was not stored")
         pane.find("check box", "Check for new versions").press()
-        wait_until(lambda: settings().get("SUEnableAutomaticChecks") is False, "it was not stored")
+        wait_until(lambda: stored().get("SUEnableAutomaticChecks") is False, "it was not stored")
         self.assertFalse(pane.find("check box", "Open a new version's page").enabled)
+
+
+    def test_what_another_program_writes_is_shown(self):
+        pane = self.preferences()
+        expect_settings_shown(pane)
+
+
+class ScheduledTest(WithUpdatesCase):
+    """Looks by itself: a minute after the start, as an earlier run asked two hours ago."""
+
+    def start_program(self):
+        before = datetime.datetime.now(datetime.timezone.utc) - datetime.timedelta(hours=2)
+        write_settings(SUEnableAutomaticChecks=True, SUScheduledCheckInterval=1,
+                       updateCheckDate=before.replace(tzinfo=None, microsecond=0))
+        return super().start_program()
+
+    def test_it_tells_of_a_version_and_asks_no_more_within_the_hour_not_even_when_started_again(self):
+        self.serve(self.signed(self.list_of("4.1")))
+        wait_until(lambda: len(self.web.requests(PATH)) == 1, "the server was not asked")
+        wait_until(lambda: stored().get("updateToldVersion") == "4.1", "the version was not noted")
+        # Nothing in the notes is markup.
+        told = "The window opens &lt;b&gt;faster&lt;/b&gt;.\nWhat is new is in Preferences › Updates."
+        wait_until(lambda: ("Quillon 4.1 is available", told) in messages(), lambda: f"the user was told {messages()}")
+        self.assertEqual(self.pages_opened(), [])
+        self.end_program()
+        # The settings of before, with the moment of the look.
+        self.program = super().start_program()
+        accessibility.window(NAME, TITLE)
+        time.sleep(75)
+        self.assertEqual(len(self.web.requests(PATH)), 1)
 
 
 class WithoutUpdatesTest(UpdatesCase):
@@ -168,8 +211,10 @@ class WithoutUpdatesTest(UpdatesCase):
     def test_the_pane_says_that_it_does_not_look(self):
         pane = self.preferences()
         pane.find("label", "This copy of Quillon does not look for new versions.")
-        pane.find("label", "Your system's software updates bring new versions.")
-        self.assertFalse(pane.has("button", "Check Now") or pane.has("check box"))
+        pane.find("label", "It was built without a list of versions to ask for. "
+                           "Nothing is asked, whatever is chosen here.")
+        self.assertFalse(pane.has("button", "Check Now"))
+        expect_settings_shown(pane)
 
 
 if __name__ == "__main__":

@@ -9,7 +9,8 @@ namespace quillon {
 UpdateFeature::UpdateFeature(const Platform &platform, Notifier &notifier)
     : updater({platform.settings, platform.scheduler, platform.http, platform.reachability,
           notifier, platform.softwareCenter,
-          {platform.places.updateFeed, platform.places.updateKey, platform.places.version}})
+          {platform.places.updateFeed, platform.places.updateKey, platform.places.version,
+              platform.places.areUpdatesLeftToSystem}})
     , pane(updater, platform.places.version)
 {
 }

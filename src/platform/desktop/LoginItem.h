@@ -24,9 +24,10 @@ public:
     enum class Entry
     {
         None,
-        Ours,        ///< the desktop is asked to start our program
-        SwitchedOff, ///< by the user or the desktop: it stays so until our entry is taken out
-        Foreign,     ///< it starts something else, or cannot be read: never touched
+        Ours,         ///< the desktop is asked to start our program
+        SwitchedOff,  ///< by the user or the desktop: it stays so until our entry is taken out
+        OtherDesktop, ///< it starts our program on others only; it stays so as above
+        Foreign,      ///< it starts something else, or cannot be read: never touched
     };
     enum class Desktop
     {

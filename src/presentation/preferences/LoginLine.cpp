@@ -36,18 +36,26 @@ PreferencesLine loginLine(
             Kind::Notice, localized("The program that starts Quillon at login is not installed.")};
     }
     switch (entry) {
+    // Either it failed, or another program was there meanwhile.
     case Entry::None:
         return isOn ? PreferencesLine{Kind::Failure,
-                          localized("The autostart entry could not be written.")}
+                          localized("The autostart entry is missing or cannot be written. Switch "
+                                    "this off and on again to have it made anew.")}
                     : PreferencesLine();
     case Entry::Ours:
         return isOn ? ofWantedStart(desktop)
-                    : PreferencesLine{
-                          Kind::Failure, localized("The autostart entry could not be removed.")};
+                    : PreferencesLine{Kind::Failure,
+                          localized("There still is an autostart entry. Switch this on and off "
+                                    "again to have it taken out.")};
     case Entry::SwitchedOff:
         return isOn ? PreferencesLine{Kind::Notice,
                           localized("The desktop has Quillon switched off in its own list. Switch "
                                     "this off and on again to have it started.")}
+                    : PreferencesLine();
+    case Entry::OtherDesktop:
+        return isOn ? PreferencesLine{Kind::Notice,
+                          localized("The autostart entry is for other desktops only. Switch this "
+                                    "off and on again to have it act here.")}
                     : PreferencesLine();
     case Entry::Foreign:
         return {isOn ? Kind::Hint : Kind::Notice,

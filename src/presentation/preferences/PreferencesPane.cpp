@@ -12,14 +12,15 @@ QList<PreferencesPaneInfo> preferencesPanes()
 {
     using enum PreferencesPane;
     return {
-        {General, u"GeneralPreferences_en"_s, localized("General"), u"gearshape"_s},
-        {Advanced, u"AdvancedPreferences_en"_s, localized("Advanced"), u"slider.vertical.3"_s},
-        {Display, u"DisplayPreferences_en"_s, localized("Display"), u"display"_s},
-        {VendorData, u"VendorPreferences_en"_s, localized("Vendor Data"), u"building.2"_s},
-        {Rules, u"RulesPreferences_en"_s, localized("Rules"), u"pencil"_s},
-        {Updates, u"UpdatePreferences_en"_s, localized("Updates"),
+        {General, localized("GeneralPreferences_en"), localized("General"), u"gearshape"_s},
+        {Advanced, localized("AdvancedPreferences_en"), localized("Advanced"),
+            u"slider.vertical.3"_s},
+        {Display, localized("DisplayPreferences_en"), localized("Display"), u"display"_s},
+        {VendorData, localized("VendorPreferences_en"), localized("Vendor Data"), u"building.2"_s},
+        {Rules, localized("RulesPreferences_en"), localized("Rules"), u"pencil"_s},
+        {Updates, localized("UpdatePreferences_en"), localized("Updates"),
             u"arrow.triangle.2.circlepath"_s},
-        {About, u"AboutPreferences_en"_s, localized("About"), u"info.circle"_s},
+        {About, localized("AboutPreferences_en"), localized("About"), u"info.circle"_s},
     };
 }
 

@@ -23,7 +23,7 @@ enum class PreferencesPane
 struct PreferencesPaneInfo
 {
     PreferencesPane pane;
-    QString identifier; ///< names it in broadcasts; the same in every language
+    QString identifier; ///< names it in broadcasts; from the table of texts, as the label
     QString label;      ///< in the user's language; also the window's title
     QString symbol;     ///< the toolbar's image
 

@@ -51,6 +51,14 @@ QString problemText(UpdateProblem problem)
     return {};
 }
 
+QString absenceText(bool isLeftToSystem)
+{
+    return isLeftToSystem
+               ? localized("Your system's software updates bring new versions.")
+               : localized("It was built without a list of versions to ask for. Nothing is asked, "
+                           "whatever is chosen here.");
+}
+
 QString lastCheckText(const QDateTime &moment)
 {
     return moment.isValid() ? filled(localized("Last checked: %@"),
@@ -93,6 +101,8 @@ void UpdatePreferencesViewController::show()
     m_state.update([this](State &state) {
         state = {};
         state.isAvailable = m_updater.canCheck();
+        state.absence = state.isAvailable ? QString() : absenceText(m_updater.isLeftToSystem());
+        state.hasSettings = !m_updater.isLeftToSystem();
         state.checkForUpdatesButton = m_updater.automaticallyChecksForUpdates();
         state.autoInstallButton = m_updater.automaticallyDownloadsUpdates();
         state.intervalPopup = indexOf(m_updater.updateCheckInterval());

@@ -27,8 +27,12 @@ public:
     };
     struct State
     {
-        /// Whether this build looks for new versions at all; if not, nothing else is shown.
+        /// Whether this build can look for new versions; if not, there is no look to show.
         bool isAvailable = false;
+        /// Why not; empty where it can.
+        QString absence;
+        /// Whether the settings are offered. They hold for the user's other computers, too.
+        bool hasSettings = false;
         bool checkForUpdatesButton = false;
         bool autoInstallButton = false;
         /// Of intervals(); -1 for an interval that is not among them.

@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/preferences/AboutPreferencesViewController.h"
+#include "presentation/preferences/PreferencesLine.h"
 #include "ui/preferences/PaneLayout.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/InlineLine.h"
@@ -57,7 +58,7 @@ AboutPreferencesView::AboutPreferencesView(
 
 void AboutPreferencesView::refresh()
 {
-    m_failure->say(m_controller.state().failure, InlineLine::Kind::Danger);
+    sayLine(*m_failure, {PreferencesLine::Kind::Failure, m_controller.state().failure});
 }
 
 } // namespace quillon

@@ -28,7 +28,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int shownOwners = 6;
-constexpr int ownerHeight = 28; ///< of a row, at least
 constexpr int listFrame = 10;
 
 } // namespace
@@ -132,6 +131,11 @@ void AdvancedPreferencesView::addMinutes(QVBoxLayout &card)
     refreshMinutes();
 }
 
+void AdvancedPreferencesView::endEditing()
+{
+    m_models.defaultMinutes.finish();
+}
+
 void AdvancedPreferencesView::showEvent(QShowEvent *event)
 {
     m_models.helper.checkButtonStatus();
@@ -155,8 +159,8 @@ void AdvancedPreferencesView::refreshHelper()
     m_install->setUsable(state.installEnabled && state.work != Work::Uninstalling);
     m_uninstall->setBusy(state.work == Work::Uninstalling);
     m_uninstall->setUsable(state.uninstallEnabled && state.work != Work::Installing);
-    m_install->setAccessibleDescription(state.status);
-    m_uninstall->setAccessibleDescription(state.status);
+    m_install->setAccessibleDescription(m_status->text());
+    m_uninstall->setAccessibleDescription(m_status->text());
 }
 
 void AdvancedPreferencesView::refreshMinutes()
@@ -191,7 +195,7 @@ void AdvancedPreferencesView::refreshOwners()
         }
     }
     const int shown = std::clamp(count, 1, shownOwners);
-    const int each = std::max(m_owners->sizeHintForRow(0), ownerHeight);
+    const int each = std::max(m_owners->sizeHintForRow(0), m_owners->fontMetrics().height());
     m_owners->setFixedHeight(shown * each + listFrame);
 }
 

@@ -35,6 +35,9 @@ public:
     AdvancedPreferencesView(const Models &models, const Theme &theme);
     ~AdvancedPreferencesView() override;
 
+    /// What is typed counts: the program ends.
+    void endEditing();
+
 protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;

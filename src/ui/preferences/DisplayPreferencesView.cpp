@@ -49,7 +49,8 @@ DisplayPreferencesView::DisplayPreferencesView(
 QRadioButton *DisplayPreferencesView::makeChoice(
     const QString &name, const QString &title, const QString &example)
 {
-    auto *choice = new QRadioButton(example);
+    // As addresses, which a mirrored window does not turn round, by U+2066 and U+2069.
+    auto *choice = new QRadioButton(u"\u2066"_s + example + u"\u2069"_s);
     choice->setObjectName(name);
     choice->setFont(Theme::font(Theme::Type::Address));
     choice->setAccessibleName(filled(u"%@, %@"_s, {title, example}));

@@ -35,7 +35,9 @@ void SettingCheckBox::take(bool isOn)
     if (isOn != m_setting.state().isOn) {
         m_setting.set(isOn);
         refresh();
-        Q_EMIT switched(isOn);
+        if (isChecked() == isOn) {
+            Q_EMIT switched(isOn);
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/theme/ThemeStyle.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -40,6 +41,10 @@ bool ThemeStyle::eventFilter(QObject *watched, QEvent *event)
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Alt) {
             setAltHeld(type == QEvent::KeyPress);
         }
+    } else if (type == QEvent::Wheel && qobject_cast<QComboBox *>(watched) != nullptr) {
+        // For what it stands in, which may scroll.
+        event->ignore();
+        return true;
     } else if (type == QEvent::ApplicationStateChange || type == QEvent::WindowDeactivate) {
         // Who switches windows with Alt lets it go elsewhere.
         setAltHeld(false);

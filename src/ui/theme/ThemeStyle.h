@@ -6,8 +6,9 @@
 
 namespace quillon {
 
-/// Fusion, with two habits of its own: letters are underlined only while Alt is held, and no dotted
-/// frame is drawn around what has the focus, as a ring shows it (FocusRing).
+/// Fusion, with three habits of its own: letters are underlined only while Alt is held, no dotted
+/// frame is drawn around what has the focus, as a ring shows it (FocusRing), and the wheel never
+/// chooses in a pop-up: who scrolls a pane would change what the pointer happens to be on.
 class ThemeStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ public:
         const QWidget *widget) const override;
 
 protected:
-    /// Watches Alt in all windows.
+    /// Watches Alt and the wheel in all windows.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

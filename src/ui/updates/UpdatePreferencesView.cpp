@@ -57,7 +57,8 @@ QLabel *caption(const QString &text)
 /// window.
 QHBoxLayout *indented(QHBoxLayout *line)
 {
-    line->insertSpacing(0, checkIndent - line->spacing());
+    // A space at an end has no spacing beside it.
+    line->insertSpacing(0, checkIndent);
     return line;
 }
 
@@ -82,6 +83,7 @@ UpdatePreferencesView::UpdatePreferencesView(
     , m_check(new QCheckBox(localized("Check for new versions")))
     , m_interval(new QComboBox)
     , m_autoInstall(new QCheckBox(localized("Open a new version's page")))
+    , m_whyAbsent(caption({}))
     , m_absence(makeAbsence())
     , m_look(makeLook(theme))
     , m_offer(new OfferedVersion(model))
@@ -109,7 +111,7 @@ QFrame *UpdatePreferencesView::makeAbsence()
     auto *absence = plainLabel(localized("This copy of Quillon does not look for new versions."));
     absence->setWordWrap(true);
     column->addWidget(absence);
-    column->addWidget(caption(localized("Your system's software updates bring new versions.")));
+    column->addWidget(m_whyAbsent);
     return card;
 }
 
@@ -190,7 +192,8 @@ void UpdatePreferencesView::refresh()
 {
     const auto &state = m_model.state();
     m_absence->setVisible(!state.isAvailable);
-    m_settings->setVisible(state.isAvailable);
+    showLine(*m_whyAbsent, state.absence);
+    m_settings->setVisible(state.hasSettings);
     m_look->setVisible(state.isAvailable);
     m_check->setChecked(state.checkForUpdatesButton);
     m_interval->setCurrentIndex(state.intervalPopup);

@@ -18,7 +18,7 @@ class Theme;
 class UpdatePreferencesViewController;
 
 /// "Updates" of the preferences: whether and how often to look for new versions, how the last look
-/// went, and the version that can be had. In a build that does not look it says so.
+/// went, and the version that can be had. Of a build that does not look it says so.
 class UpdatePreferencesView : public QWidget
 {
     Q_OBJECT
@@ -39,6 +39,7 @@ private:
     QCheckBox *m_check;
     QComboBox *m_interval;
     QCheckBox *m_autoInstall;
+    QLabel *m_whyAbsent;
     QWidget *m_absence;
     QWidget *m_look;
     OfferedVersion *m_offer;

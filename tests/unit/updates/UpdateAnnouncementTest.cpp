@@ -44,7 +44,8 @@ TEST_F(UpdateAnnouncementTest, TellsOfAVersionOnce)
     announcement->tell(release(u"4.1"_s));
     ASSERT_EQ(notifier.questions.size(), 1);
     EXPECT_EQ(notifier.questions.first().title, u"Quillon 4.1 is available"_s);
-    EXPECT_FALSE(notifier.questions.first().body.isEmpty());
+    EXPECT_EQ(
+        notifier.questions.first().body, u"Better.\nWhat is new is in Preferences › Updates."_s);
     announcement->tell(release(u"4.1"_s));
     announcement.emplace(settings, notifier, center);
     announcement->tell(release(u"4.1"_s));
@@ -52,6 +53,19 @@ TEST_F(UpdateAnnouncementTest, TellsOfAVersionOnce)
     announcement->tell(release(u"4.2"_s));
     EXPECT_EQ(notifier.questionsEver, 2);
     EXPECT_THAT(center.opened, IsEmpty());
+}
+
+TEST_F(UpdateAnnouncementTest, NotesMayBeMissingOrLong)
+{
+    UpdateRelease update = release(u"4.1"_s);
+    update.notes.clear();
+    announcement->tell(update);
+    EXPECT_EQ(notifier.questions.first().body, u"What is new is in Preferences › Updates."_s);
+    update = release(u"4.2"_s);
+    update.notes = u"Better. "_s.repeated(8000);
+    announcement->tell(update);
+    EXPECT_LT(notifier.questions.first().body.size(), 400);
+    EXPECT_TRUE(notifier.questions.first().body.contains(u"\u2026\nWhat is new"_s));
 }
 
 TEST_F(UpdateAnnouncementTest, DoesNotTellWhatTheUserHasSeen)

@@ -27,7 +27,7 @@ protected:
     UpdateScheduleTest() { settings.set(keys::SUScheduledCheckInterval, 7 * day); }
 
     /// Seconds from now.
-    qint64 due(bool hasFailed = false) { return scheduler.now().secsTo(schedule.due(hasFailed)); }
+    qint64 due() { return scheduler.now().secsTo(schedule.due()); }
     void lastRequestWas(qint64 secondsAgo)
     {
         settings.set(keys::updateCheckDate, scheduler.now().addSecs(-secondsAgo));
@@ -52,6 +52,7 @@ TEST_F(UpdateScheduleTest, TheNextComesOneIntervalLater)
     schedule.begin();
     scheduler.advance(2min);
     schedule.noteRequest();
+    schedule.noteAnswer();
     EXPECT_EQ(schedule.lastRequest(), scheduler.now());
     EXPECT_EQ(due(), 7 * day);
     settings.set(keys::SUScheduledCheckInterval, day);
@@ -72,9 +73,49 @@ TEST_F(UpdateScheduleTest, GoesOnWhereAnEarlierRunEnded)
 TEST_F(UpdateScheduleTest, ComesWithinADayAfterAFailure)
 {
     schedule.noteRequest();
-    EXPECT_EQ(due(true), day);
+    EXPECT_EQ(due(), day);
     settings.set(keys::SUScheduledCheckInterval, 2 * hour);
-    EXPECT_EQ(due(true), 2 * hour);
+    EXPECT_EQ(due(), 2 * hour);
+    settings.set(keys::SUScheduledCheckInterval, 7 * day);
+    schedule.noteAnswer();
+    EXPECT_EQ(due(), 7 * day);
+}
+
+TEST_F(UpdateScheduleTest, AFailureOfAnEarlierRunIsOneStill)
+{
+    schedule.noteRequest();
+    scheduler.advance(10h);
+    UpdateSchedule next(settings, scheduler);
+    next.begin();
+    EXPECT_EQ(scheduler.now().secsTo(next.due()), 14 * hour);
+    settings.set(keys::updateCheckFailed, u"no"_s);
+    EXPECT_EQ(scheduler.now().secsTo(next.due()), 7 * day - 10 * hour) << "of another type";
+}
+
+TEST_F(UpdateScheduleTest, NorTwiceWithinAnHourAfterARestart)
+{
+    settings.set(keys::SUScheduledCheckInterval, 1);
+    schedule.noteRequest();
+    for (int run = 1; run < 6; ++run) {
+        scheduler.advance(10min);
+        UpdateSchedule next(settings, scheduler);
+        next.begin();
+        EXPECT_EQ(scheduler.now().secsTo(next.due()), hour - run * 10 * minute);
+    }
+}
+
+TEST_F(UpdateScheduleTest, NorWhereTheClockWasSetBackBetweenTwoRuns)
+{
+    settings.set(keys::SUScheduledCheckInterval, 1);
+    for (const std::chrono::minutes back : {5min, 50min, std::chrono::minutes(24h * 365)}) {
+        schedule.noteRequest();
+        scheduler.advance(10min);
+        scheduler.setClock(-back);
+        UpdateSchedule next(settings, scheduler);
+        next.begin();
+        EXPECT_GE(scheduler.now().secsTo(next.due()), 50 * minute);
+        EXPECT_LE(scheduler.now().secsTo(next.due()), hour);
+    }
 }
 
 TEST_F(UpdateScheduleTest, NeverComesTwiceWithinAnHourWhateverTheSettingsSay)
@@ -96,6 +137,7 @@ TEST_F(UpdateScheduleTest, NeverComesTwiceWithinAnHourWhateverTheSettingsSay)
 TEST_F(UpdateScheduleTest, WhatIsNoIntervalIsTheUsualOne)
 {
     schedule.noteRequest();
+    schedule.noteAnswer();
     for (const QVariant &interval : QVariantList{0, -1, std::numeric_limits<qlonglong>::min(),
              u"daily"_s, QVariant(), QVariantMap(), true, 0.5}) {
         settings.set(keys::SUScheduledCheckInterval, interval);
@@ -104,7 +146,7 @@ TEST_F(UpdateScheduleTest, WhatIsNoIntervalIsTheUsualOne)
     }
     settings.set(keys::SUScheduledCheckInterval, std::numeric_limits<qlonglong>::max());
     EXPECT_EQ(due(), 3650 * day);
-    EXPECT_TRUE(schedule.due(false).isValid());
+    EXPECT_TRUE(schedule.due().isValid());
 }
 
 TEST_F(UpdateScheduleTest, AClockThatIsSetForwardBringsNoneWithinTheHour)
@@ -131,6 +173,7 @@ TEST_F(UpdateScheduleTest, AClockThatIsSetBackDelaysTheNextByAnHourAtMost)
     scheduler.advance(20min);
     EXPECT_EQ(due(), 0);
     schedule.noteRequest();
+    schedule.noteAnswer();
     EXPECT_FALSE(schedule.isClockBehind());
     EXPECT_EQ(due(), 7 * day);
 }

@@ -224,6 +224,55 @@ TEST_F(UpdaterScheduleTest, TriesAgainTheNextDayAfterAFailure)
     EXPECT_EQ(requests(), 2);
 }
 
+TEST_F(UpdaterScheduleTest, AFailureIsTriedAgainTheNextDayAfterARestartToo)
+{
+    optIn();
+    http.refuse(source.feed, {httpErrorDomain, 3, u"no such host"_s});
+    start();
+    scheduler.advance(2min);
+    EXPECT_EQ(requests(), 1);
+    // A machine that is used for an hour each morning, and whose network comes late.
+    for (int morning = 2; morning < 5; ++morning) {
+        updater.reset();
+        scheduler.advance(day);
+        start();
+        scheduler.advance(2min);
+        EXPECT_EQ(requests(), morning);
+    }
+    serve("4.1");
+    updater.reset();
+    scheduler.advance(day);
+    start();
+    scheduler.advance(2min);
+    EXPECT_EQ(offered(), u"4.1"_s);
+    restart();
+    scheduler.advance(day * 6);
+    EXPECT_EQ(requests(), 5);
+}
+
+TEST_F(UpdaterScheduleTest, NoMoreThanOneAnHourHoweverOftenItIsStarted)
+{
+    optIn();
+    settings.set(keys::SUScheduledCheckInterval, 1);
+    serve("4.0.0");
+    start();
+    scheduler.advance(2min);
+    ASSERT_EQ(requests(), 1);
+    for (int run = 0; run < 11; ++run) {
+        restart();
+        scheduler.advance(5min);
+    }
+    EXPECT_EQ(requests(), 1);
+    // Nor where the clock is set back meanwhile.
+    updater.reset();
+    scheduler.setClock(-24h);
+    start();
+    scheduler.advance(59min);
+    EXPECT_EQ(requests(), 1);
+    scheduler.advance(2min);
+    EXPECT_EQ(requests(), 2);
+}
+
 TEST_F(UpdaterScheduleTest, ALookByHandCountsToo)
 {
     optIn();

@@ -5,13 +5,15 @@
 #include <QHash>
 #include <QList>
 
-#include <optional>
+#include <algorithm>
 
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString maskKey = u"X-Quillon-Mask"_s;
 
 /// The keys of the first group with its name, without those for one language.
 QHash<QString, QString> keysOf(const QString &text)
@@ -96,6 +98,16 @@ std::optional<QString> onlyWord(const QString &command)
     return word.isEmpty() ? std::nullopt : std::optional(word);
 }
 
+QStringList namesIn(const QString &list)
+{
+    QStringList names;
+    const auto parts = list.split(u';', Qt::SkipEmptyParts);
+    for (const QString &part : parts) {
+        names.append(part.trimmed());
+    }
+    return names;
+}
+
 QString escaped(QString value)
 {
     value.replace(u'\\', "\\\\"_L1);
@@ -131,8 +143,24 @@ AutostartEntry AutostartEntry::read(const QByteArray &content)
         return keys.value(key).compare(value, Qt::CaseInsensitive) == 0;
     };
     const QString command = unescaped(keys.value(u"Exec"_s));
-    return {command, onlyWord(command).value_or(QString()),
-        isSet(u"Hidden"_s, u"true"_s) || isSet(u"X-GNOME-Autostart-enabled"_s, u"false"_s)};
+    AutostartEntry entry;
+    entry.command = command;
+    entry.program = onlyWord(command).value_or(QString());
+    entry.isSwitchedOff =
+        isSet(u"Hidden"_s, u"true"_s) || isSet(u"X-GNOME-Autostart-enabled"_s, u"false"_s);
+    entry.isMask = entry.isSwitchedOff && isSet(maskKey, u"true"_s);
+    if (keys.contains(u"OnlyShowIn"_s)) {
+        entry.onlyShownIn = namesIn(keys.value(u"OnlyShowIn"_s));
+    }
+    entry.notShownIn = namesIn(keys.value(u"NotShowIn"_s));
+    return entry;
+}
+
+bool AutostartEntry::isFor(const QStringList &names) const
+{
+    const auto isOneOf = [&names](const QString &name) { return names.contains(name); };
+    return (!onlyShownIn || std::ranges::any_of(*onlyShownIn, isOneOf)) &&
+           std::ranges::none_of(notShownIn, isOneOf);
 }
 
 QByteArray AutostartEntry::text(const QString &program, const QString &comment)
@@ -141,6 +169,13 @@ QByteArray AutostartEntry::text(const QString &program, const QString &comment)
         u"Comment="_s + escaped(comment), u"Exec="_s + escaped(commandFor(program)),
         u"TryExec="_s + escaped(program), u"Icon=com.orvandel.Quillon4"_s, u"NoDisplay=true"_s,
         u"X-GNOME-Autostart-enabled=true"_s, QString()};
+    return lines.join(u'\n').toUtf8();
+}
+
+QByteArray AutostartEntry::mask()
+{
+    const QStringList lines{u"[Desktop Entry]"_s, u"Type=Application"_s, u"Name=Quillon"_s,
+        u"Hidden=true"_s, maskKey + u"=true"_s, QString()};
     return lines.join(u'\n').toUtf8();
 }
 

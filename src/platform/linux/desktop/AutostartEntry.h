@@ -4,6 +4,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 namespace quillon {
 
@@ -16,13 +19,23 @@ struct AutostartEntry
     QString program;
     /// By `Hidden`, or by what GNOME writes for the same.
     bool isSwitchedOff = false;
+    /// mask() made it.
+    bool isMask = false;
+    std::optional<QStringList> onlyShownIn; ///< names of desktops; none when it says nothing
+    QStringList notShownIn;
 
     bool operator==(const AutostartEntry &) const = default;
+
+    /// Whether it is for a desktop that goes by `names` (`XDG_CURRENT_DESKTOP`, taken apart).
+    bool isFor(const QStringList &names) const;
 
     /// Of a file that is no desktop entry nothing is started.
     static AutostartEntry read(const QByteArray &content);
     /// The content of a file that has `program`, a path, started.
     static QByteArray text(const QString &program, const QString &comment);
+    /// The content of a file that keeps one of the same name for all users from acting, by our
+    /// user's wish: what the desktop writes for the same is told apart from it.
+    static QByteArray mask();
 };
 
 } // namespace quillon

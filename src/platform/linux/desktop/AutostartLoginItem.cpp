@@ -15,7 +15,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStandardPaths>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillon {
@@ -53,14 +55,45 @@ std::optional<QByteArray> contentOf(const QString &path)
     return file.read(longestEntry);
 }
 
+QString entryIn(const QString &folder, const QString &identifier)
+{
+    return folder + u"/autostart/"_s + identifier + u".desktop"_s;
+}
+
+QString currentDesktop()
+{
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+}
+
+bool write(const QString &path, const QByteArray &text)
+{
+    if (makeFolder(QFileInfo(path).path())) {
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+        return false;
+    }
+    syncFolder(QFileInfo(path).path());
+    return true;
+}
+
 } // namespace
 
-AutostartLoginItem::AutostartLoginItem(
-    QString configFolder, QString program, const QDBusConnection &bus)
-    : m_folder(std::move(configFolder))
+AutostartLoginItem::AutostartLoginItem(Folders folders, QString program, const QDBusConnection &bus)
+    : m_folders(std::move(folders))
     , m_program(std::move(program))
     , m_bus(bus)
 {
+}
+
+AutostartLoginItem::Folders AutostartLoginItem::folders()
+{
+    Folders folders;
+    folders.own = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    folders.shared = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+    folders.shared.removeAll(folders.own);
+    return folders;
 }
 
 QString AutostartLoginItem::besideProgram(const QString &programFolder)
@@ -89,21 +122,27 @@ bool AutostartLoginItem::setEnabled(const QString &identifier, bool enabled)
 {
     const QString path = pathOf(identifier);
     const AutostartEntry known = AutostartEntry::read(contentOf(path).value_or(QByteArray()));
+    const auto putIn = [&] {
+        return write(
+            path, AutostartEntry::text(m_program, localized("Starts Quillon when you log in")));
+    };
     switch (entryAt(path)) {
     case Entry::None:
-        return !enabled || write(path);
+        return enabled ? isStartedForAll(identifier) || putIn() : takeOut(identifier);
     case Entry::Ours:
         if (!enabled) {
-            return QFile::remove(path);
+            return takeOut(identifier);
         }
         // Else the program has moved.
-        return QFileInfo(known.program).isExecutable() || write(path);
+        return QFileInfo(known.program).isExecutable() || putIn();
     case Entry::SwitchedOff:
-        // Without it, switching on is our user's wish. A command that is not ours stays.
-        if (!enabled && (known.command.isEmpty() || startsProgram(known.program))) {
-            return QFile::remove(path);
+    case Entry::OtherDesktop:
+        if (enabled) {
+            // By the user here, not by the desktop: this is the way back.
+            return known.isMask && (isStartedForAll(identifier) ? QFile::remove(path) : putIn());
         }
-        return !enabled;
+        // Without it, switching on is our user's wish. A command that is not ours stays.
+        return (!known.command.isEmpty() && !startsProgram(known.program)) || takeOut(identifier);
     case Entry::Foreign:
         break;
     }
@@ -112,13 +151,14 @@ bool AutostartLoginItem::setEnabled(const QString &identifier, bool enabled)
 
 LoginItem::Entry AutostartLoginItem::entry() const
 {
-    return entryAt(pathOf(helperIdentifier));
+    const Entry own = entryAt(pathOf(helperIdentifier));
+    return own == Entry::None && isStartedForAll(helperIdentifier) ? Entry::Ours : own;
 }
 
 void AutostartLoginItem::findDesktop(std::function<void(Desktop)> reply)
 {
     const auto answer = [reply = std::move(reply)](bool hasSystemdRunThem) {
-        reply(autostartDesktop(qEnvironmentVariable("XDG_CURRENT_DESKTOP"), hasSystemdRunThem));
+        reply(autostartDesktop(currentDesktop(), hasSystemdRunThem));
     };
     const auto onUnit = [this, answer](const QDBusMessage &message) {
         if (message.type() != QDBusMessage::ReplyMessage) {
@@ -143,7 +183,7 @@ void AutostartLoginItem::findDesktop(std::function<void(Desktop)> reply)
 
 QString AutostartLoginItem::pathOf(const QString &identifier) const
 {
-    return m_folder + u"/autostart/"_s + identifier + u".desktop"_s;
+    return entryIn(m_folders.own, identifier);
 }
 
 LoginItem::Entry AutostartLoginItem::entryAt(const QString &path) const
@@ -160,7 +200,24 @@ LoginItem::Entry AutostartLoginItem::entryAt(const QString &path) const
     if (entry.isSwitchedOff) {
         return Entry::SwitchedOff;
     }
-    return startsProgram(entry.program) ? Entry::Ours : Entry::Foreign;
+    if (!startsProgram(entry.program)) {
+        return Entry::Foreign;
+    }
+    return entry.isFor(currentDesktop().split(u':')) ? Entry::Ours : Entry::OtherDesktop;
+}
+
+/// Whatever it starts: by its name it is about this program. The first one that is there counts.
+bool AutostartLoginItem::isStartedForAll(const QString &identifier) const
+{
+    const auto first = std::ranges::find_if(m_folders.shared,
+        [&](const QString &folder) { return QFileInfo::exists(entryIn(folder, identifier)); });
+    if (first == m_folders.shared.end()) {
+        return false;
+    }
+    const AutostartEntry entry =
+        AutostartEntry::read(contentOf(entryIn(*first, identifier)).value_or(QByteArray()));
+    return !entry.command.isEmpty() && !entry.isSwitchedOff &&
+           entry.isFor(currentDesktop().split(u':'));
 }
 
 bool AutostartLoginItem::startsProgram(const QString &program) const
@@ -168,19 +225,14 @@ bool AutostartLoginItem::startsProgram(const QString &program) const
     return program == m_program || QFileInfo(program).fileName() == QFileInfo(m_program).fileName();
 }
 
-bool AutostartLoginItem::write(const QString &path) const
+/// So that nothing starts the program: where an entry for all users does, it is hidden.
+bool AutostartLoginItem::takeOut(const QString &identifier) const
 {
-    if (makeFolder(QFileInfo(path).path())) {
-        return false;
+    const QString path = pathOf(identifier);
+    if (isStartedForAll(identifier)) {
+        return write(path, AutostartEntry::mask());
     }
-    QSaveFile file(path);
-    const QByteArray text =
-        AutostartEntry::text(m_program, localized("Starts Quillon when you log in"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        return false;
-    }
-    syncFolder(QFileInfo(path).path());
-    return true;
+    return !QFileInfo::exists(path) || QFile::remove(path);
 }
 
 } // namespace quillon

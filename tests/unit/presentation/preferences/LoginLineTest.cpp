@@ -50,6 +50,15 @@ TEST(LoginLineTest, WhatTheDesktopSwitchedOffIsShown)
     EXPECT_TRUE(line.text.contains(u"switched off in its own list"_s));
 }
 
+TEST(LoginLineTest, AnEntryForOtherDesktopsIsToldOnceItIsWanted)
+{
+    const PreferencesLine line =
+        loginLine(!missing, on, Entry::OtherDesktop, Desktop::StartsPrograms);
+    EXPECT_EQ(line.kind, Kind::Notice);
+    EXPECT_TRUE(line.text.contains(u"for other desktops only"_s));
+    EXPECT_EQ(loginLine(!missing, !on, Entry::OtherDesktop, Desktop::Unknown).text, QString());
+}
+
 TEST(LoginLineTest, AnEntryThatIsNotOursMattersMoreWhereNothingIsToBeStarted)
 {
     EXPECT_EQ(loginLine(!missing, on, Entry::Foreign, Desktop::Unknown).kind, Kind::Hint);
@@ -61,9 +70,13 @@ TEST(LoginLineTest, AnEntryThatIsNotOursMattersMoreWhereNothingIsToBeStarted)
 TEST(LoginLineTest, WhatCouldNotBeWrittenOrRemovedFailed)
 {
     EXPECT_EQ(loginLine(!missing, on, Entry::None, Desktop::StartsPrograms),
-        (PreferencesLine{Kind::Failure, u"The autostart entry could not be written."_s}));
+        (PreferencesLine{Kind::Failure,
+            u"The autostart entry is missing or cannot be written. Switch this off and on again "
+            "to have it made anew."_s}));
     EXPECT_EQ(loginLine(!missing, !on, Entry::Ours, Desktop::StartsPrograms),
-        (PreferencesLine{Kind::Failure, u"The autostart entry could not be removed."_s}));
+        (PreferencesLine{Kind::Failure,
+            u"There still is an autostart entry. Switch this on and off again to have it taken "
+            "out."_s}));
 }
 
 TEST(LoginLineTest, TheMissingProgramComesBeforeAnythingElse)

@@ -178,6 +178,22 @@ TEST_F(UpdatePreferencesViewControllerTest, ABuildThatDoesNotLookSaysSo)
     EXPECT_EQ(state().result, QString());
 }
 
+TEST_F(UpdatePreferencesViewControllerTest, SaysWhyABuildDoesNotLook)
+{
+    start({{}, {}, u"4.0.0"_s});
+    pane->load();
+    EXPECT_TRUE(state().absence.startsWith(u"It was built without a list of versions"_s));
+    EXPECT_TRUE(state().hasSettings);
+    start({{}, {}, u"4.0.0"_s, true});
+    pane->load();
+    EXPECT_EQ(state().absence, u"Your system's software updates bring new versions."_s);
+    EXPECT_FALSE(state().hasSettings);
+    start(source);
+    pane->load();
+    EXPECT_EQ(state().absence, QString());
+    EXPECT_TRUE(state().hasSettings);
+}
+
 TEST_F(UpdatePreferencesViewControllerTest, APlaceOfTheUsersMakesItAvailable)
 {
     start({{}, key.publicKey(), u"4.0.0"_s});

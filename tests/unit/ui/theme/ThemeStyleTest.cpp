@@ -4,8 +4,10 @@
 
 #include "unit/ui/WidgetFixture.h"
 
+#include <QComboBox>
 #include <QPushButton>
 #include <QStyle>
+#include <QWheelEvent>
 
 namespace quillon::test {
 
@@ -53,6 +55,19 @@ TEST_F(ThemeStyleTest, AltThatIsLetGoElsewhereIsNotHeld)
     QEvent away(QEvent::WindowDeactivate);
     QApplication::sendEvent(&window, &away);
     EXPECT_FALSE(underlines());
+}
+
+TEST_F(ThemeStyleTest, TheWheelChoosesNothingInAPopUp)
+{
+    auto *popUp = new QComboBox;
+    popUp->addItems({u"Daily"_s, u"Weekly"_s, u"Monthly"_s});
+    column->addWidget(popUp);
+    popUp->setFocus();
+    const QPointF place(5, 5);
+    QWheelEvent down(place, popUp->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(popUp, &down);
+    EXPECT_EQ(popUp->currentText(), u"Daily"_s);
 }
 
 } // namespace

@@ -205,9 +205,28 @@ TEST_F(UpdatePreferencesViewTest, TabGoesAsOneReads)
                          u"checkForUpdatesButton"_s, u"intervalPopup"_s, u"autoInstallButton"_s}));
 }
 
-TEST_F(UpdatePreferencesViewTest, ABuildThatDoesNotLookShowsNothingToSwitch)
+TEST_F(UpdatePreferencesViewTest, ABuildThatKnowsNoListSaysSoAndKeepsItsSettings)
 {
     make({{}, {}, u"4.0.0"_s});
+    EXPECT_FALSE(checkNow().isVisible());
+    EXPECT_FALSE(offer().isVisible());
+    EXPECT_EQ(shownTexts().mid(0, 2),
+        (QStringList{u"This copy of Quillon does not look for new versions."_s,
+            u"It was built without a list of versions to ask for. Nothing is asked, whatever is "
+            "chosen here."_s}));
+    // They are those of the user's other computers, too.
+    check().click();
+    EXPECT_EQ(settings.get(keys::SUEnableAutomaticChecks), true);
+    settings.changeFromOutside(keys::SUScheduledCheckInterval, 2592000);
+    settings.changeFromOutside(keys::SUAutomaticallyUpdate, true);
+    scheduler.runPending();
+    EXPECT_EQ(interval().currentText(), u"Monthly"_s);
+    EXPECT_TRUE(autoInstall().isChecked());
+}
+
+TEST_F(UpdatePreferencesViewTest, ABuildThatLeavesItToTheSystemShowsNothingToSwitch)
+{
+    make({{}, {}, u"4.0.0"_s, true});
     EXPECT_FALSE(check().isVisible());
     EXPECT_FALSE(checkNow().isVisible());
     EXPECT_FALSE(offer().isVisible());

@@ -24,7 +24,19 @@ const QString identifier = u"com.orvandel.Quillon4Helper"_s;
 class AutostartLoginItemTest : public ::testing::Test
 {
 protected:
-    AutostartLoginItemTest() { makeProgram(program); }
+    AutostartLoginItemTest()
+    {
+        qputenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+        makeProgram(program);
+    }
+    ~AutostartLoginItemTest() override
+    {
+        if (desktopBefore.isNull()) {
+            qunsetenv("XDG_CURRENT_DESKTOP");
+        } else {
+            qputenv("XDG_CURRENT_DESKTOP", desktopBefore);
+        }
+    }
 
     static void makeProgram(const QString &path)
     {
@@ -33,12 +45,18 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    void write(const QByteArray &content)
+    void write(const QByteArray &content) { writeTo(path, content); }
+    static void writeTo(const QString &path, const QByteArray &content)
     {
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
+    }
+    /// What a package or an administrator puts there.
+    void startForAll(const QByteArray &more = {})
+    {
+        writeTo(sharedPath, "[Desktop Entry]\nExec=/usr/libexec/quillon4/QuillonHelper\n" + more);
     }
     QByteArray content() const
     {
@@ -47,10 +65,15 @@ protected:
     }
     bool enable(bool isOn) { return item.setEnabled(identifier, isOn); }
 
+    const QByteArray desktopBefore = qgetenv("XDG_CURRENT_DESKTOP");
     QTemporaryDir home;
     const QString program = home.filePath(u"lib/QuillonHelper"_s);
     const QString path = home.filePath(u"config/autostart/"_s + identifier + u".desktop"_s);
-    AutostartLoginItem item{home.filePath(u"config"_s), program};
+    const QString sharedPath = home.filePath(u"xdg/autostart/"_s + identifier + u".desktop"_s);
+    const QString lowerPath = home.filePath(u"lower/autostart/"_s + identifier + u".desktop"_s);
+    AutostartLoginItem item{
+        {home.filePath(u"config"_s), {home.filePath(u"xdg"_s), home.filePath(u"lower"_s)}},
+        program};
 };
 
 TEST_F(AutostartLoginItemTest, KnowsTheProgramByItsIdentifierAndItsPlace)
@@ -165,6 +188,113 @@ TEST_F(AutostartLoginItemTest, AFolderThatCannotBeMadeIsAFailure)
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     EXPECT_FALSE(enable(true));
     EXPECT_EQ(item.entry(), Entry::None);
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryForOtherDesktopsStartsNothingHere)
+{
+    const QByteArray entry = AutostartEntry::text(program, u"Starts"_s);
+    for (const QByteArray &limit : {QByteArray("OnlyShowIn=KDE;XFCE;\n"),
+             QByteArray("OnlyShowIn=\n"), QByteArray("NotShowIn=KDE;GNOME\n")}) {
+        const QByteArray limited = entry + limit;
+        write(limited);
+        EXPECT_EQ(item.entry(), Entry::OtherDesktop) << limit.constData();
+        EXPECT_FALSE(enable(true));
+        EXPECT_EQ(content(), limited);
+        EXPECT_TRUE(enable(false));
+        EXPECT_TRUE(enable(true));
+        EXPECT_EQ(item.entry(), Entry::Ours);
+    }
+    for (const QByteArray &limit :
+        {QByteArray("OnlyShowIn=GNOME;\n"), QByteArray("NotShowIn=KDE;\n"),
+            QByteArray("OnlyShowIn= KDE ; ubuntu\n"), QByteArray("NotShowIn=\n")}) {
+        write(entry + limit);
+        EXPECT_EQ(item.entry(), Entry::Ours) << limit.constData();
+    }
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryForAllUsersActsWhereTheUserHasNone)
+{
+    startForAll();
+    EXPECT_EQ(item.entry(), Entry::Ours);
+    EXPECT_TRUE(enable(true));
+    EXPECT_FALSE(QFile::exists(path)) << "there is no need for another";
+    const QByteArray own = "[Desktop Entry]\nExec=/usr/bin/true\n";
+    write(own);
+    EXPECT_EQ(item.entry(), Entry::Foreign);
+}
+
+TEST_F(AutostartLoginItemTest, SwitchedOffAnEntryForAllUsersIsHiddenAndComesBack)
+{
+    startForAll();
+    EXPECT_TRUE(enable(false));
+    EXPECT_EQ(item.entry(), Entry::SwitchedOff);
+    EXPECT_TRUE(content().contains("\nHidden=true\n"));
+    EXPECT_TRUE(enable(false));
+    EXPECT_EQ(item.entry(), Entry::SwitchedOff);
+    EXPECT_TRUE(enable(true)) << "what was hidden here is not the desktop's choice";
+    EXPECT_EQ(item.entry(), Entry::Ours);
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(AutostartLoginItemTest, OurOwnEntryAndThatForAllUsersAreSwitchedOffAtOnce)
+{
+    ASSERT_TRUE(enable(true));
+    startForAll();
+    EXPECT_TRUE(enable(false));
+    EXPECT_EQ(item.entry(), Entry::SwitchedOff);
+    // The package goes: nothing is left to hide, and our own serves again.
+    ASSERT_TRUE(QFile::remove(sharedPath));
+    EXPECT_TRUE(enable(true));
+    EXPECT_EQ(item.entry(), Entry::Ours);
+    EXPECT_EQ(AutostartEntry::read(content()).program, program);
+}
+
+TEST_F(AutostartLoginItemTest, WhatTheDesktopSwitchedOffOfThatForAllUsersStaysSo)
+{
+    startForAll();
+    const QByteArray off =
+        "[Desktop Entry]\nExec=/usr/libexec/quillon4/QuillonHelper\nHidden=true\n";
+    write(off);
+    EXPECT_FALSE(enable(true));
+    EXPECT_EQ(content(), off);
+    EXPECT_TRUE(enable(false));
+    EXPECT_EQ(item.entry(), Entry::SwitchedOff) << "not back to the one for all users";
+    EXPECT_TRUE(enable(true));
+    EXPECT_EQ(item.entry(), Entry::Ours);
+}
+
+TEST_F(AutostartLoginItemTest, AnEntryForAllUsersThatStartsNothingIsNone)
+{
+    for (const QByteArray &more : {QByteArray("Hidden=true\n"), QByteArray("OnlyShowIn=KDE;\n")}) {
+        startForAll(more);
+        EXPECT_EQ(item.entry(), Entry::None) << more.constData();
+        EXPECT_TRUE(enable(true));
+        EXPECT_TRUE(QFile::exists(path));
+        EXPECT_TRUE(enable(false));
+        EXPECT_FALSE(QFile::exists(path));
+    }
+}
+
+TEST_F(AutostartLoginItemTest, OfSeveralForAllUsersTheFirstCounts)
+{
+    writeTo(lowerPath, "[Desktop Entry]\nExec=QuillonHelper\n");
+    EXPECT_EQ(item.entry(), Entry::Ours);
+    writeTo(sharedPath, "[Desktop Entry]\nHidden=true\n");
+    EXPECT_EQ(item.entry(), Entry::None);
+}
+
+TEST_F(AutostartLoginItemTest, TheFoldersAreThoseOfTheEnvironment)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_DIRS");
+    qputenv("XDG_CONFIG_DIRS", "/one:/two");
+    const auto folders = AutostartLoginItem::folders();
+    if (before.isNull()) {
+        qunsetenv("XDG_CONFIG_DIRS");
+    } else {
+        qputenv("XDG_CONFIG_DIRS", before);
+    }
+    EXPECT_EQ(folders.shared, (QStringList{u"/one"_s, u"/two"_s}));
+    EXPECT_FALSE(folders.own.isEmpty());
 }
 
 TEST_F(AutostartLoginItemTest, IsFoundAsBuiltAndAsInstalled)
