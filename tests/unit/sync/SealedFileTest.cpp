@@ -4,8 +4,12 @@
 
 #include "SeededRandom.h"
 #include "sync/AccountKey.h"
+#include "sync/ChangesFormat.h"
 #include "sync/Compression.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <gtest/gtest.h>
 
 namespace quillon::test {
@@ -78,6 +82,60 @@ TEST_F(SealedFileTest, BombIsRefusedWithoutUnpackingIt)
     EXPECT_EQ(problem(QByteArray(longestSealedFile + 1, 'Q')), FileProblem::TooLarge);
     EXPECT_FALSE(decompressed(compressed(QByteArray(1000, 'x')), 999));
     EXPECT_TRUE(decompressed(compressed(QByteArray(1000, 'x')), 1000));
+}
+
+/// Records as a history has them: addresses and identities are random, networks come again.
+struct History
+{
+    History(int count, SeededRandom &random)
+    {
+        qint64 time = 1'700'000'000'000;
+        for (int i = 0; i < count; ++i) {
+            time += random.below(40'000'000);
+            const int network = random.below(10);
+            const auto address = [](const QByteArray &bytes) {
+                return QString::fromLatin1(bytes.toHex(':'));
+            };
+            const QUuid id = QUuid::fromRfc4122(random.bytes(16));
+            const QMap<QString, QString> texts{{u"device"_s, u"wlan0"_s},
+                {u"interface"_s, u"Wi-Fi"_s}, {u"address"_s, address(random.bytes(6))},
+                {u"ssid"_s, u"Network number %1"_s.arg(network)},
+                {u"bssid"_s, address(QByteArray(6, char(network * 25)))}};
+            RecordState state;
+            state.inserted = {time + 3, 0, 77};
+            state.attributes.insert(u"date"_s, {SyncDate{time}, state.inserted});
+            QJsonObject object{{u"id"_s, id.toString(QUuid::WithoutBraces)},
+                {u"date"_s,
+                    QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)}};
+            for (auto it = texts.begin(); it != texts.end(); ++it) {
+                state.attributes.insert(it.key(), {*it, state.inserted});
+                object.insert(it.key(), *it);
+            }
+            changes.records.insert({u"Connection"_s, id}, state);
+            array.append(object);
+        }
+    }
+
+    qsizetype jsonSize() const
+    {
+        return QJsonDocument(array).toJson(QJsonDocument::Compact).size();
+    }
+
+    SyncChanges changes;
+    QJsonArray array;
+};
+
+TEST_F(SealedFileTest, HistoryTakesAQuarterOfItsJson)
+{
+    for (const int count : {100, 10'000}) {
+        const History history(count, random);
+        const QByteArray made = sealed(writtenChanges(history.changes), u"a.part"_s, key, random);
+        RecordProperty("bytes_per_record_of_" + std::to_string(count),
+            std::to_string(double(made.size()) / count));
+        RecordProperty("bytes_of_json_of_" + std::to_string(count),
+            std::to_string(double(history.jsonSize()) / count));
+        EXPECT_LE(made.size() * 4, history.jsonSize()) << count;
+    }
 }
 
 } // namespace
