@@ -8,12 +8,17 @@ namespace quillon {
 
 using namespace Qt::StringLiterals;
 
+QString numberedName(const QString &name, int number)
+{
+    return name + u" (%1)"_s.arg(number);
+}
+
 QString getOriginalNameFromArray(const QString &name, const QStringList &taken)
 {
     const QSet<QString> names(taken.begin(), taken.end());
     QString candidate = name;
     for (int suffix = 2; names.contains(candidate); ++suffix) {
-        candidate = name + u" (%1)"_s.arg(suffix);
+        candidate = numberedName(name, suffix);
     }
     return candidate;
 }
