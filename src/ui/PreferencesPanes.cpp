@@ -4,6 +4,7 @@
 
 #include "presence/Presence.h"
 #include "ui/networks/FavoriteToast.h"
+#include "ui/networks/ImportToast.h"
 #include "ui/preferences/AboutPreferencesView.h"
 #include "ui/preferences/DisplayPreferencesView.h"
 #include "ui/preferences/GeneralPreferencesView.h"
@@ -28,6 +29,7 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
         PreferencesPane::Rules, new RulesPane(models.rules, theme, {savedItems, vendorField}));
     // They lie over the rest.
     new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
+    new ImportToast(models.savedItems.import, theme, scheduler, &window);
     new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
     // The program ends by the user's wish, or is ended.
     QObject::connect(

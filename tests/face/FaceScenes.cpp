@@ -17,6 +17,7 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 
 namespace quillon::test {
 
@@ -190,6 +191,27 @@ void openToken(FaceProgram &program, const QString &field)
         }
     }
     qFatal("no %s", qUtf8Printable(field));
+}
+
+/// The form that one of the two cards opens, as far as it was filled in by then.
+void openNewEntry(FaceProgram &program, const QString &button, const QStringList &texts)
+{
+    openSavedItems(program);
+    QPushButton *opener = nullptr;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        auto *found = qobject_cast<QPushButton *>(widget);
+        opener = found != nullptr && found->isVisible() && found->text() == button ? found : opener;
+    }
+    if (opener == nullptr) {
+        qFatal("no %s", qUtf8Printable(button));
+    }
+    opener->click();
+    program.settle();
+    const auto fields = opener->findChildren<QLineEdit *>();
+    for (qsizetype index = 0; index < texts.size(); ++index) {
+        fields.at(index)->setFocus();
+        fields.at(index)->insert(texts.at(index));
+    }
 }
 
 /// Rules of every kind, as somebody has them who uses them.
@@ -609,6 +631,19 @@ const QList<FaceScene> scenes{
         [](P &program) { openToken(program, localized("Addresses")); }},
     {u"popover-saved-network"_s, saveAddresses,
         [](P &program) { openToken(program, localized("Networks")); }},
+    {u"popover-new-address"_s, nullptr,
+        [](P &program) { openNewEntry(program, localized("Address…"), {}); }},
+    {u"popover-new-address-group"_s, nullptr,
+        [](P &program) {
+            openNewEntry(program, localized("Address…"), {u"01:00:5e:00:00:01"_s, u"Lab"_s});
+        }},
+    {u"popover-new-network-saved"_s, nullptr,
+        [](P &program) {
+            const QString bssid = program.machine.settings.getDictionary(keys::currentWiFiDict)
+                                      .value(wifirecord::BSSID)
+                                      .toString();
+            openNewEntry(program, localized("Network…"), {u"Harbor"_s, bssid});
+        }},
     {u"updates-off"_s, nullptr, openUpdates},
     {u"updates-not-asked"_s,
         [](P &program) {
