@@ -10,9 +10,9 @@
 #include "ui/preferences/GeneralPreferencesView.h"
 #include "ui/preferences/PreferencesWindow.h"
 #include "ui/rules/DeletedRulesToast.h"
-#include "ui/updates/UpdatesPane.h"
+#include "ui/updates/UpdatePreferencesView.h"
 #include "ui/vendors/VendorChooser.h"
-#include "ui/vendors/VendorPreferencesViewController.h"
+#include "ui/vendors/VendorPreferencesView.h"
 
 #include <QCoreApplication>
 
@@ -25,8 +25,8 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
 {
     auto *savedItems = new SavedItemsView(models.savedItems, theme);
     auto *vendorField = new VendorChooser(models.ruleVendor, theme, VendorChooser::Caption::Beside);
-    window.addPane(
-        PreferencesPane::Rules, new RulesPane(models.rules, theme, {savedItems, vendorField}));
+    window.addPane(PreferencesPane::Rules,
+        new RulesPreferencesView(models.rules, theme, {savedItems, vendorField}));
     // They lie over the rest.
     new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
     new ImportToast(models.savedItems.import, theme, scheduler, &window);
@@ -46,9 +46,9 @@ void addPanes(PreferencesWindow &window, const PreferencesPanes &models, const T
     window.addPane(PreferencesPane::Advanced, new AdvancedPreferencesView(models.advanced, theme));
     window.addPane(PreferencesPane::Display, new DisplayPreferencesView(models.display, theme));
     window.addPane(
-        PreferencesPane::VendorData, new VendorPreferencesViewController(models.vendorData, theme));
+        PreferencesPane::VendorData, new VendorPreferencesView(models.vendorData, theme));
     addRulesPane(window, models, theme, scheduler);
-    window.addPane(PreferencesPane::Updates, new UpdatesPane(models.updates, theme));
+    window.addPane(PreferencesPane::Updates, new UpdatePreferencesView(models.updates, theme));
     window.addPane(PreferencesPane::About, new AboutPreferencesView(models.about, theme));
 }
 

@@ -4,7 +4,7 @@
 
 #include "ui/networks/SavedItemsView.h"
 #include "ui/preferences/AdvancedPreferencesView.h"
-#include "ui/rules/RulesPane.h"
+#include "ui/rules/RulesPreferencesView.h"
 
 namespace quillon {
 
@@ -29,7 +29,7 @@ struct PreferencesPanes
     VendorPaneModel &vendorData;
     SavedItemsView::Models savedItems;
     RemovedFavorite &removedFavorite;
-    RulesPane::Models rules;
+    RulesPreferencesView::Models rules;
     VendorFieldModel &ruleVendor;
     UpdatePreferencesViewController &updates;
     AboutPreferencesViewController &about;

@@ -13,7 +13,7 @@ TYPED = "02:00:5E:10:AB:CD"
 # A row by its label: its value changes.
 ORDER = ["Address", "Apply address", "Randomize address", "Vendor of random addresses", "Hardware address",
          "Saved addresses", "Vendor", "Rules", "Resume", "Refresh external address"]
-AT_THE_END = ["Overview", "enp1s0", "File menu"]
+AT_THE_END = ["Overview", "History", "Preferences", "enp1s0", "File menu"]
 DONE = "Changed: this is the address in use now."
 MOST = 40  # stops; more are a circle that never comes back
 

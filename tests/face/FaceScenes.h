@@ -20,7 +20,8 @@ struct FaceScene
     void (*act)(FaceProgram &program);
 };
 
-/// Every window, popover and state. A new window is a new line here.
+/// Every window, popover and state, subject by subject (SceneSubjects.h). A new state is a new line
+/// in the file of its subject.
 const QList<FaceScene> &faceScenes();
 
 /// Starts the program and brings it into that state. `windowShown` is called when its window has

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/vendors/VendorPreferencesViewController.h"
+#include "ui/vendors/VendorPreferencesView.h"
 
 #include "base/Localized.h"
 #include "presentation/vendors/VendorPaneModel.h"
@@ -53,8 +53,7 @@ QString downloadHint(const VendorPaneModel::State &state)
 
 } // namespace
 
-VendorPreferencesViewController::VendorPreferencesViewController(
-    VendorPaneModel &model, const Theme &theme)
+VendorPreferencesView::VendorPreferencesView(VendorPaneModel &model, const Theme &theme)
     : m_model(model)
     , m_updated(new InlineLine(theme))
     , m_count(plainLabel())
@@ -96,11 +95,11 @@ VendorPreferencesViewController::VendorPreferencesViewController(
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(card);
     column->addStretch();
-    connect(&m_model, &VendorPaneModel::changed, this, &VendorPreferencesViewController::refresh);
+    connect(&m_model, &VendorPaneModel::changed, this, &VendorPreferencesView::refresh);
     refresh();
 }
 
-void VendorPreferencesViewController::refresh()
+void VendorPreferencesView::refresh()
 {
     const auto &state = m_model.state();
     m_updated->say(plainLine(state.updatedLabel),

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/updates/UpdatesPane.h"
+#include "ui/updates/UpdatePreferencesView.h"
 
 #include "base/Localized.h"
 #include "presentation/updates/UpdatePreferencesViewController.h"
@@ -73,7 +73,8 @@ QVBoxLayout *columnOf(QFrame *card)
 
 } // namespace
 
-UpdatesPane::UpdatesPane(UpdatePreferencesViewController &model, const Theme &theme)
+UpdatePreferencesView::UpdatePreferencesView(
+    UpdatePreferencesViewController &model, const Theme &theme)
     : m_model(model)
     , m_lastCheck(plainLabel())
     , m_checkNow(new BusyButton(theme, Theme::Ink::Text, localized("Check Now")))
@@ -95,12 +96,13 @@ UpdatesPane::UpdatesPane(UpdatePreferencesViewController &model, const Theme &th
     column->addWidget(m_offer);
     column->addWidget(m_settings);
     column->addStretch();
-    connect(&m_model, &UpdatePreferencesViewController::changed, this, &UpdatesPane::refresh);
+    connect(
+        &m_model, &UpdatePreferencesViewController::changed, this, &UpdatePreferencesView::refresh);
     m_model.load();
     refresh();
 }
 
-QFrame *UpdatesPane::makeAbsence()
+QFrame *UpdatePreferencesView::makeAbsence()
 {
     auto *card = new QFrame;
     auto *column = columnOf(card);
@@ -111,7 +113,7 @@ QFrame *UpdatesPane::makeAbsence()
     return card;
 }
 
-QFrame *UpdatesPane::makeSettings()
+QFrame *UpdatePreferencesView::makeSettings()
 {
     m_check->setObjectName(u"checkForUpdatesButton"_s);
     m_check->setAccessibleName(m_check->text());
@@ -161,7 +163,7 @@ QFrame *UpdatesPane::makeSettings()
     return card;
 }
 
-QWidget *UpdatesPane::makeLook(const Theme &theme)
+QWidget *UpdatePreferencesView::makeLook(const Theme &theme)
 {
     m_lastCheck->setObjectName(u"lastCheckLabel"_s);
     m_lastCheck->setWordWrap(true);
@@ -184,7 +186,7 @@ QWidget *UpdatesPane::makeLook(const Theme &theme)
     return card;
 }
 
-void UpdatesPane::refresh()
+void UpdatePreferencesView::refresh()
 {
     const auto &state = m_model.state();
     m_absence->setVisible(!state.isAvailable);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/updates/UpdatesPane.h"
+#include "ui/updates/UpdatePreferencesView.h"
 
 #include "presentation/updates/UpdatePreferencesViewController.h"
 #include "ui/theme/Theme.h"
@@ -21,10 +21,10 @@ namespace quillon::test {
 using namespace Qt::StringLiterals;
 namespace {
 
-class UpdatesPaneTest : public UpdaterFixture
+class UpdatePreferencesViewTest : public UpdaterFixture
 {
 protected:
-    UpdatesPaneTest()
+    UpdatePreferencesViewTest()
     {
         theme.apply();
         theme.setAnimated(false);
@@ -78,10 +78,10 @@ protected:
 
     Theme theme;
     std::optional<UpdatePreferencesViewController> model;
-    std::optional<UpdatesPane> pane;
+    std::optional<UpdatePreferencesView> pane;
 };
 
-TEST_F(UpdatesPaneTest, ShowsTheSettings)
+TEST_F(UpdatePreferencesViewTest, ShowsTheSettings)
 {
     EXPECT_FALSE(check().isChecked());
     EXPECT_FALSE(autoInstall().isChecked());
@@ -97,7 +97,7 @@ TEST_F(UpdatesPaneTest, ShowsTheSettings)
     EXPECT_EQ(settings.get(keys::SUScheduledCheckInterval).toLongLong(), 86401);
 }
 
-TEST_F(UpdatesPaneTest, EachControlIsItsSetting)
+TEST_F(UpdatePreferencesViewTest, EachControlIsItsSetting)
 {
     check().click();
     EXPECT_EQ(settings.get(keys::SUEnableAutomaticChecks), true);
@@ -113,7 +113,7 @@ TEST_F(UpdatesPaneTest, EachControlIsItsSetting)
     EXPECT_EQ(settings.get(keys::SUEnableAutomaticChecks), true);
 }
 
-TEST_F(UpdatesPaneTest, WhatItShowsIsNotWrittenBack)
+TEST_F(UpdatePreferencesViewTest, WhatItShowsIsNotWrittenBack)
 {
     settings.setBool(keys::SUEnableAutomaticChecks, true);
     settings.setBool(keys::SUAutomaticallyUpdate, true);
@@ -127,7 +127,7 @@ TEST_F(UpdatesPaneTest, WhatItShowsIsNotWrittenBack)
     EXPECT_EQ(settings.journal(), QStringList());
 }
 
-TEST_F(UpdatesPaneTest, WhatIsAboutLooksByItselfCanBeSetWhileThereAreSome)
+TEST_F(UpdatePreferencesViewTest, WhatIsAboutLooksByItselfCanBeSetWhileThereAreSome)
 {
     EXPECT_FALSE(interval().isEnabled());
     EXPECT_FALSE(autoInstall().isEnabled());
@@ -138,7 +138,7 @@ TEST_F(UpdatesPaneTest, WhatIsAboutLooksByItselfCanBeSetWhileThereAreSome)
     EXPECT_TRUE(interval().toolTip().isEmpty());
 }
 
-TEST_F(UpdatesPaneTest, LooksWhenItIsTold)
+TEST_F(UpdatePreferencesViewTest, LooksWhenItIsTold)
 {
     EXPECT_EQ(part<QLabel>("lastCheckLabel").text(), u"Not checked yet."_s);
     checkNow().click();
@@ -154,7 +154,7 @@ TEST_F(UpdatesPaneTest, LooksWhenItIsTold)
     EXPECT_FALSE(offer().isVisible());
 }
 
-TEST_F(UpdatesPaneTest, ShowsTheOfferAndLeadsToIt)
+TEST_F(UpdatePreferencesViewTest, ShowsTheOfferAndLeadsToIt)
 {
     find("4.1", "Faster.\nSmaller.");
     EXPECT_TRUE(offer().isVisible());
@@ -171,7 +171,7 @@ TEST_F(UpdatesPaneTest, ShowsTheOfferAndLeadsToIt)
     EXPECT_EQ(result().kind(), InlineLine::Kind::Positive);
 }
 
-TEST_F(UpdatesPaneTest, NotesAreNoMarkupAndDoNotMakeItWider)
+TEST_F(UpdatePreferencesViewTest, NotesAreNoMarkupAndDoNotMakeItWider)
 {
     find("4.1", "&lt;b&gt;bold&lt;/b&gt; &lt;img src=x&gt; a&#x202E;b &amp;File");
     const QLabel &notes = part<QLabel>("releaseNotes");
@@ -188,7 +188,7 @@ TEST_F(UpdatesPaneTest, NotesAreNoMarkupAndDoNotMakeItWider)
     EXPECT_LT(pane->sizeHint().height(), 800);
 }
 
-TEST_F(UpdatesPaneTest, TabGoesAsOneReads)
+TEST_F(UpdatePreferencesViewTest, TabGoesAsOneReads)
 {
     check().click();
     find("4.1", "Faster.");
@@ -205,7 +205,7 @@ TEST_F(UpdatesPaneTest, TabGoesAsOneReads)
                          u"checkForUpdatesButton"_s, u"intervalPopup"_s, u"autoInstallButton"_s}));
 }
 
-TEST_F(UpdatesPaneTest, ABuildThatDoesNotLookShowsNothingToSwitch)
+TEST_F(UpdatePreferencesViewTest, ABuildThatDoesNotLookShowsNothingToSwitch)
 {
     make({{}, {}, u"4.0.0"_s});
     EXPECT_FALSE(check().isVisible());

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/rules/RulesPane.h"
+#include "ui/rules/RulesPreferencesView.h"
 
 #include "base/Localized.h"
 #include "presentation/rules/RulesPreferencesViewController.h"
@@ -46,7 +46,8 @@ QWidget *pageOf(RuleFormView *form)
 
 } // namespace
 
-RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &parts, QWidget *parent)
+RulesPreferencesView::RulesPreferencesView(
+    const Models &models, const Theme &theme, const Parts &parts, QWidget *parent)
     : QWidget(parent)
     , m_models(models)
     , m_tabs(new QTabBar)
@@ -85,12 +86,13 @@ RulesPane::RulesPane(const Models &models, const Theme &theme, const Parts &part
         [this](int tab) { m_models.editor.chooseTab(tab == 0 ? Tab::SavedItems : Tab::Rules); });
     connect(m_strip, &Strip::dismissed, &m_models.editor,
         &RulesPreferencesViewController::dismissWarning);
-    connect(&m_models.editor, &RulesPreferencesViewController::changed, this, &RulesPane::refresh);
+    connect(&m_models.editor, &RulesPreferencesViewController::changed, this,
+        &RulesPreferencesView::refresh);
     m_models.table.begin();
     refresh();
 }
 
-void RulesPane::refresh()
+void RulesPreferencesView::refresh()
 {
     const auto &state = m_models.editor.state();
     m_tabs->setCurrentIndex(state.tab == Tab::Rules ? 1 : 0);

@@ -19,12 +19,12 @@ class UpdatePreferencesViewController;
 
 /// "Updates" of the preferences: whether and how often to look for new versions, how the last look
 /// went, and the version that can be had. In a build that does not look it says so.
-class UpdatesPane : public QWidget
+class UpdatePreferencesView : public QWidget
 {
     Q_OBJECT
 
 public:
-    UpdatesPane(UpdatePreferencesViewController &model, const Theme &theme);
+    UpdatePreferencesView(UpdatePreferencesViewController &model, const Theme &theme);
 
 private:
     QFrame *makeAbsence();

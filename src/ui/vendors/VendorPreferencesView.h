@@ -16,12 +16,12 @@ class VendorPaneModel;
 
 /// "Vendor Data": when the registry of manufacturers was last refreshed, how many it holds, and the
 /// buttons that refresh it and bring back what was before. A pane of the preferences.
-class VendorPreferencesViewController : public QWidget
+class VendorPreferencesView : public QWidget
 {
     Q_OBJECT
 
 public:
-    VendorPreferencesViewController(VendorPaneModel &model, const Theme &theme);
+    VendorPreferencesView(VendorPaneModel &model, const Theme &theme);
 
 private:
     void refresh();

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/vendors/VendorPreferencesViewController.h"
+#include "ui/vendors/VendorPreferencesView.h"
 
 #include "ui/theme/Theme.h"
 #include "ui/widgets/InlineLine.h"
@@ -16,14 +16,14 @@ namespace quillon::test {
 using namespace Qt::StringLiterals;
 namespace {
 
-class VendorPreferencesViewControllerTest : public VendorFixture
+class VendorPreferencesViewTest : public VendorFixture
 {
 protected:
-    VendorPreferencesViewControllerTest()
+    VendorPreferencesViewTest()
     {
         theme.apply();
         makeLive(registryOf(3));
-        card = std::make_unique<VendorPreferencesViewController>(pane, theme);
+        card = std::make_unique<VendorPreferencesView>(pane, theme);
         card->show();
     }
 
@@ -34,10 +34,10 @@ protected:
     }
 
     Theme theme;
-    std::unique_ptr<VendorPreferencesViewController> card;
+    std::unique_ptr<VendorPreferencesView> card;
 };
 
-TEST_F(VendorPreferencesViewControllerTest, ShowsTheTextsOfThePane)
+TEST_F(VendorPreferencesViewTest, ShowsTheTextsOfThePane)
 {
     settings.set(keys::vendorIDUpdatedDate, u"Nov 21, 2026, 2:37 PM"_s);
     settings.set(keys::vendorCountValue, 32530);
@@ -48,7 +48,7 @@ TEST_F(VendorPreferencesViewControllerTest, ShowsTheTextsOfThePane)
     EXPECT_EQ(part<QPushButton>("downloadButton")->text(), u"Update database"_s);
 }
 
-TEST_F(VendorPreferencesViewControllerTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
+TEST_F(VendorPreferencesViewTest, TheButtonStartsAndCancelsUnderTheTitleOfEach)
 {
     count.updateVendorCount();
     scheduler.runPending();
@@ -63,7 +63,7 @@ TEST_F(VendorPreferencesViewControllerTest, TheButtonStartsAndCancelsUnderTheTit
     EXPECT_EQ(part<InlineLine>("updatedLabel")->text(), u"Download cancelled..."_s);
 }
 
-TEST_F(VendorPreferencesViewControllerTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
+TEST_F(VendorPreferencesViewTest, ThePreviousDatabaseIsRestoredOnceThereIsOne)
 {
     auto *restore = part<QPushButton>("restoreButton");
     EXPECT_EQ(restore->text(), u"Restore previous"_s);
@@ -90,7 +90,7 @@ TEST_F(VendorPreferencesViewControllerTest, ThePreviousDatabaseIsRestoredOnceThe
     EXPECT_EQ(part<QLabel>("vendorCount")->text(), u"3 Vendor Identifiers"_s);
 }
 
-TEST_F(VendorPreferencesViewControllerTest, TheBarFollowsTheDownload)
+TEST_F(VendorPreferencesViewTest, TheBarFollowsTheDownload)
 {
     auto *bar = part<QProgressBar>("progressBar");
     EXPECT_FALSE(bar->isVisible());
@@ -101,7 +101,7 @@ TEST_F(VendorPreferencesViewControllerTest, TheBarFollowsTheDownload)
     EXPECT_FALSE(bar->isVisible());
 }
 
-TEST_F(VendorPreferencesViewControllerTest, TheBarOfADownloadOfUnknownSizeOnlyMoves)
+TEST_F(VendorPreferencesViewTest, TheBarOfADownloadOfUnknownSizeOnlyMoves)
 {
     auto *bar = part<QProgressBar>("progressBar");
     pane.showProgress(16384, 250'000, 1'000'000);
@@ -114,14 +114,14 @@ TEST_F(VendorPreferencesViewControllerTest, TheBarOfADownloadOfUnknownSizeOnlyMo
     EXPECT_EQ(bar->value() * 2, bar->maximum());
 }
 
-TEST_F(VendorPreferencesViewControllerTest, MoreThanTheWholeIsAFullBar)
+TEST_F(VendorPreferencesViewTest, MoreThanTheWholeIsAFullBar)
 {
     pane.showProgress(1, 3'000'000, 1'000'000);
     EXPECT_EQ(
         part<QProgressBar>("progressBar")->value(), part<QProgressBar>("progressBar")->maximum());
 }
 
-TEST_F(VendorPreferencesViewControllerTest, ADateThatIsNotKnownIsNotShown)
+TEST_F(VendorPreferencesViewTest, ADateThatIsNotKnownIsNotShown)
 {
     pane.showStoredTexts();
     ASSERT_EQ(pane.state().updatedLabel, u"Last Updated: (null)"_s);
@@ -134,7 +134,7 @@ TEST_F(VendorPreferencesViewControllerTest, ADateThatIsNotKnownIsNotShown)
     EXPECT_TRUE(part<InlineLine>("updatedLabel")->isVisible());
 }
 
-TEST_F(VendorPreferencesViewControllerTest, WhatFailedIsRedUntilSomethingElseHappens)
+TEST_F(VendorPreferencesViewTest, WhatFailedIsRedUntilSomethingElseHappens)
 {
     auto *line = part<InlineLine>("updatedLabel");
     pane.showParsingFailed();
@@ -146,7 +146,7 @@ TEST_F(VendorPreferencesViewControllerTest, WhatFailedIsRedUntilSomethingElseHap
     EXPECT_EQ(line->kind(), InlineLine::Kind::Danger);
 }
 
-TEST_F(VendorPreferencesViewControllerTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
+TEST_F(VendorPreferencesViewTest, LongTextsTakeMoreLinesInsteadOfMoreWidth)
 {
     constexpr int width = Theme::windowWidth - 2 * Theme::windowMargin;
     for (const char *date :

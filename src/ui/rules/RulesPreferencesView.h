@@ -19,7 +19,7 @@ class Theme;
 
 /// The pane of the preferences for the saved items and the rules, an inner tab each. The rules are
 /// a list, or the form that is open in its place.
-class RulesPane : public QWidget
+class RulesPreferencesView : public QWidget
 {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ public:
         QWidget *vendorField;
     };
 
-    RulesPane(
+    RulesPreferencesView(
         const Models &models, const Theme &theme, const Parts &parts, QWidget *parent = nullptr);
 
 private:

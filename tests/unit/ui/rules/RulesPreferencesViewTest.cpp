@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/rules/RulesPane.h"
+#include "ui/rules/RulesPreferencesView.h"
 
 #include "ui/rules/RuleFormView.h"
 #include "ui/rules/RuleRowDelegate.h"
@@ -26,10 +26,10 @@ namespace {
 using Page = RulesPreferencesViewController::Page;
 using Tab = RulesPreferencesViewController::Tab;
 
-class RulesPaneTest : public RuleEditorFixture
+class RulesPreferencesViewTest : public RuleEditorFixture
 {
 protected:
-    RulesPaneTest()
+    RulesPreferencesViewTest()
     {
         theme.setAnimated(false);
         editor.chooseTab(Tab::Rules);
@@ -38,7 +38,7 @@ protected:
         pane.activateWindow();
         settle();
     }
-    ~RulesPaneTest() override { pane.hide(); }
+    ~RulesPreferencesViewTest() override { pane.hide(); }
 
     static void settle()
     {
@@ -84,10 +84,10 @@ protected:
     Rule ruleAt(int row) { return queries.ruleWithID(rows.state().rows.at(row).objID); }
 
     Theme theme;
-    RulesPane pane{{editor, rows, form}, theme, {new QWidget, new QLineEdit}};
+    RulesPreferencesView pane{{editor, rows, form}, theme, {new QWidget, new QLineEdit}};
 };
 
-TEST_F(RulesPaneTest, SaysOfEachRowWhatItDoesAndWhetherItIsOn)
+TEST_F(RulesPreferencesViewTest, SaysOfEachRowWhatItDoesAndWhetherItIsOn)
 {
     addRule({.name = u"<b>a</b>"_s});
     evaluate(en0, RuleChange::None);
@@ -102,7 +102,7 @@ TEST_F(RulesPaneTest, SaysOfEachRowWhatItDoesAndWhetherItIsOn)
     EXPECT_EQ(list().model()->index(0, 0).data(RuleRowDelegate::BadgeRole), u"Active"_s);
 }
 
-TEST_F(RulesPaneTest, ASwitchIsClickedOnce)
+TEST_F(RulesPreferencesViewTest, ASwitchIsClickedOnce)
 {
     addRule({.name = u"a"_s, .enabled = false});
     settle();
@@ -117,7 +117,7 @@ TEST_F(RulesPaneTest, ASwitchIsClickedOnce)
     EXPECT_EQ(editor.state().page, Page::List) << "a second click is no wish to edit";
 }
 
-TEST_F(RulesPaneTest, TheKeyboardSwitchesDuplicatesDeletesAndUndoes)
+TEST_F(RulesPreferencesViewTest, TheKeyboardSwitchesDuplicatesDeletesAndUndoes)
 {
     addRule({.name = u"a"_s, .enabled = false});
     settle();
@@ -139,7 +139,7 @@ TEST_F(RulesPaneTest, TheKeyboardSwitchesDuplicatesDeletesAndUndoes)
     EXPECT_EQ(editor.state().page, Page::NetworkForm);
 }
 
-TEST_F(RulesPaneTest, ANameIsEditedInItsPlace)
+TEST_F(RulesPreferencesViewTest, ANameIsEditedInItsPlace)
 {
     addRule({.name = u"a"_s});
     settle();
@@ -159,7 +159,7 @@ TEST_F(RulesPaneTest, ANameIsEditedInItsPlace)
     EXPECT_EQ(editor.state().page, Page::List) << "the key was the field's";
 }
 
-TEST_F(RulesPaneTest, TheFormMirrorsItsModelAndSavesWhatItShows)
+TEST_F(RulesPreferencesViewTest, TheFormMirrorsItsModelAndSavesWhatItShows)
 {
     editor.addRule();
     settle();
@@ -185,7 +185,7 @@ TEST_F(RulesPaneTest, TheFormMirrorsItsModelAndSavesWhatItShows)
     EXPECT_TRUE(list().hasFocus()) << "with the new rule";
 }
 
-TEST_F(RulesPaneTest, EscapeLeavesTheForm)
+TEST_F(RulesPreferencesViewTest, EscapeLeavesTheForm)
 {
     editor.addLoginRule();
     settle();
@@ -196,7 +196,7 @@ TEST_F(RulesPaneTest, EscapeLeavesTheForm)
     EXPECT_TRUE(rows.state().rows.isEmpty());
 }
 
-TEST_F(RulesPaneTest, AWarningIsTakenAway)
+TEST_F(RulesPreferencesViewTest, AWarningIsTakenAway)
 {
     editor.showNetworkWarning();
     auto *strip = pane.findChild<Strip *>();
@@ -205,7 +205,7 @@ TEST_F(RulesPaneTest, AWarningIsTakenAway)
     EXPECT_FALSE(strip->isVisible());
 }
 
-TEST_F(RulesPaneTest, TheTabsFollowTheSettingAndSetIt)
+TEST_F(RulesPreferencesViewTest, TheTabsFollowTheSettingAndSetIt)
 {
     auto *tabs = pane.findChild<QTabBar *>();
     EXPECT_EQ(tabs->currentIndex(), 1);
@@ -215,7 +215,7 @@ TEST_F(RulesPaneTest, TheTabsFollowTheSettingAndSetIt)
     EXPECT_EQ(tabs->currentIndex(), 1);
 }
 
-TEST_F(RulesPaneTest, ThousandsOfRulesAreShownByThoseInSight)
+TEST_F(RulesPreferencesViewTest, ThousandsOfRulesAreShownByThoseInSight)
 {
     for (int index = 0; index < 3000; ++index) {
         const Rule rule(context().insertNewObject(u"Rule"_s));
