@@ -12,17 +12,16 @@ HISTORY = os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "data"
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 SAVED_ITEMS, WINDOW = "Saved Networks and Addresses", "Rules"
-HOME, OFFICE = "a4:2b:b0:11:22:33", "b8:27:eb:44:55:66"
+HOME, OFFICE = "a4:2b:b0:00:00:01", "b8:27:eb:44:55:66"
 PRINTER = "a4:83:e7:01:02:03"
+FRESH = "02:00:5e:10:00:01"
+# What the history of three records knows.
+KNOWN = ["02:00:5e:00:53:01", "62:68:66:48:DC:27"]
+GUEST = "a4:2b:b0:11:22:33"
 
 
 def network(bssid, name):
     return {"BSSID": bssid, "SSID": name, "name": name}
-
-
-FRESH = "02:00:5e:10:00:01"
-# What the history of three records knows.
-KNOWN = ["02:00:5e:00:53:01", "62:68:66:48:DC:27"]
 
 
 class SavedItemsTest(ProgramTest):
@@ -167,6 +166,8 @@ class SavedItemsTest(ProgramTest):
         toast = said("2 addresses and 1 network added.")
         items.find("button", "Harbor-Guest")
         wait_until(lambda: sorted(self.saved("savedAddresses")) == sorted([PRINTER, *KNOWN]), "they were not saved")
+        wait_until(lambda: self.saved("savedNetworks").get(GUEST) == network(GUEST, "Harbor-Guest"),
+                   "the network was not saved")
         self.assertTrue(toast.has("button", "Undo"))
         xdotool("key", "ctrl+z")
         wait_until(lambda: self.saved("savedAddresses") == addresses, "the addresses are not what they were")

@@ -78,7 +78,7 @@ void importHistory(FaceProgram &program)
     for (int number = 0; number < KnownPlaces::most + 1; ++number) {
         Connection record(context.insertNewObject(model::Connection));
         record.setDate(now.addSecs(-number));
-        record.setAddress(u"02:00:5E:00:57:%1"_s.arg(number, 2, 16, QChar(u'0')));
+        record.setAddress(u"02:00:5E:00:57:%1"_s.arg(number, 2, 16, QChar(u'0')).toUpper());
         record.setSsid(u"Harbor-Guest"_s);
         record.setBssid(u"a4:2b:b0:11:22:33"_s);
     }

@@ -72,9 +72,6 @@ void HistoryImport::take(const KnownPlaces::Found &found)
     m_changes.clear();
     const qsizetype addresses = add(keys::savedAddresses, found.addresses, &SavedEntry::address);
     const qsizetype networks = add(keys::savedNetworks, found.networks, &SavedEntry::bssid);
-    if (canUndo()) {
-        m_settings.synchronize();
-    }
     const QString sentence = sentenceOf(addresses, networks);
     tell(found.hasMore ? filled(localized("%@ These are the newest %@; import again for more."),
                              {sentence, number(KnownPlaces::most)})
@@ -93,7 +90,7 @@ qsizetype HistoryImport::add(
         }
     }
     if (!change.added.isEmpty()) {
-        m_settings.set(list, change.after);
+        write(list, change.after);
         m_changes << change;
     }
     return change.added.size();
@@ -102,19 +99,31 @@ qsizetype HistoryImport::add(
 void HistoryImport::undo()
 {
     for (const Change &change : std::exchange(m_changes, {})) {
-        QVariantMap now = m_settings.getDictionary(change.list);
+        const QVariantMap now = m_settings.getDictionary(change.list);
         if (now == change.after) {
-            m_settings.set(change.list, change.before);
+            write(change.list, change.before);
             continue;
         }
+        QVariantMap rest = now;
         for (const QString &key : change.added) {
             if (now.contains(key) && now.value(key) == change.after.value(key)) {
-                now.remove(key);
+                rest.remove(key);
             }
         }
-        m_settings.set(change.list, now);
+        // What holds none of it is not ours to write, a list or not.
+        if (rest != now) {
+            write(change.list, rest);
+        }
     }
+}
+
+void HistoryImport::write(const QString &list, const QVariant &value)
+{
+    m_settings.set(list, value);
     m_settings.synchronize();
+    if (list == keys::savedNetworks) {
+        Q_EMIT networksChanged();
+    }
 }
 
 void HistoryImport::tell(const QString &message)

@@ -46,6 +46,8 @@ Q_SIGNALS:
     void changed();
     /// What the user is told of it; canUndo() says whether something was added.
     void ended(const QString &message);
+    /// Networks were added or taken back.
+    void networksChanged();
 
 private:
     /// What an import made of one list.
@@ -61,6 +63,7 @@ private:
     /// How many entries were added.
     qsizetype add(const QString &list, const QList<SavedEntry> &entries,
         std::optional<QString> SavedEntry::*key);
+    void write(const QString &list, const QVariant &value);
     void tell(const QString &message);
 
     SettingsStore &m_settings;

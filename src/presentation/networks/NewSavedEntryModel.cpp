@@ -77,7 +77,7 @@ QString NewSavedEntryModel::savedName() const
         if (isSameAddress(entry.key(), m_state->address)) {
             const QString name = entry->name.value_or(QString());
             // A long one would be all that the form says.
-            return name.isEmpty() || name.size() > longestName ? entry.key() : name;
+            return name.trimmed().isEmpty() || name.size() > longestName ? entry.key() : name;
         }
     }
     // What is no entry stays where it is.
@@ -100,7 +100,7 @@ std::pair<bool, NewSavedEntryModel::Line> NewSavedEntryModel::verdict(bool isAsk
     if (const QString name = savedName(); !name.isEmpty()) {
         return {false, {Line::Kind::Notice, filled(localized("%@ is saved already."), {name})}};
     }
-    if (m_kind == Kind::Network && m_state->name.isEmpty()) {
+    if (m_kind == Kind::Network && m_state->name.trimmed().isEmpty()) {
         return {false, {refusal, localized("A network needs its name, too.")}};
     }
     if (m_kind == Kind::Address && isGroupAddress(address)) {
@@ -122,11 +122,12 @@ bool NewSavedEntryModel::add()
     }
     SavedEntry entry = m_kind == Kind::Address ? SavedEntry::ofAddress(key())
                                                : SavedEntry::ofNetwork(key(), m_state->name);
-    if (m_kind == Kind::Address && !m_state->name.isEmpty()) {
+    if (m_kind == Kind::Address && !m_state->name.trimmed().isEmpty()) {
         // A name that is given is distinct, as after a rename.
         entry.name = distinctName(savedEntries(m_settings, list()), key(), m_state->name, key());
     }
     saveEntry(m_settings, list(), key(), entry);
+    Q_EMIT added();
     return true;
 }
 

@@ -65,6 +65,8 @@ public:
 Q_SIGNALS:
     /// Something in state() changed.
     void changed();
+    /// An entry was saved.
+    void added();
 
 private:
     const QString &list() const;

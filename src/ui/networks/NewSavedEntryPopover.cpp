@@ -93,6 +93,7 @@ void NewSavedEntryPopover::makeContent()
     if (m_model.kind() == Model::Kind::Address) {
         addField(*column, *m_address, localized("Address"));
         column->addWidget(m_line);
+        column->addSpacing(Theme::unit / 2);
         addField(*column, *m_name, localized("Name"));
         m_name->setPlaceholderText(localized("The address itself"));
     } else {

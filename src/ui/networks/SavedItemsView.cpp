@@ -9,6 +9,7 @@
 #include "ui/networks/SavedAddressPopover.h"
 #include "ui/networks/SavedNetworkPopover.h"
 #include "ui/theme/Theme.h"
+#include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/BusyButton.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/TokenField.h"
@@ -86,7 +87,11 @@ void SavedItemsView::endEditing()
 void SavedItemsView::makeAddButton(
     QVBoxLayout &card, NewSavedEntryModel &model, const CardTexts &texts, const Theme &theme)
 {
-    auto *button = new QPushButton(texts.add);
+    auto *button = new QPushButton;
+    // What it opens is found in it. Before it has a text: that is told, and it is looked at.
+    setAccessibleRole(*button, QAccessible::Button);
+    button->setText(plainLine(texts.add));
+    button->setAccessibleName(texts.add);
     button->setProperty("look", u"quiet"_s);
     button->setIcon(theme.icon(u"add"_s, Theme::Ink::Muted));
     button->setIconSize(QSize(Theme::inlineIconSize, Theme::inlineIconSize));
@@ -96,6 +101,7 @@ void SavedItemsView::makeAddButton(
     auto *form = new NewSavedEntryPopover(model, theme, button);
     connect(button, &QPushButton::clicked, form,
         [form, button] { form->toggle(*button, PopoverPlacement::Side::Below); });
+    connect(form, &Popover::aboutToClose, this, &SavedItemsView::refreshTokens);
     m_forms << form;
 }
 
@@ -156,8 +162,10 @@ void SavedItemsView::choose(TokenFieldKind kind, const TokenField &tokens, int i
 
 void SavedItemsView::refreshTokens()
 {
-    // The token beside which a popover is open stays until that has closed.
-    if (m_models.popover.state().open == Kind::None) {
+    // What a popover is open beside stays where it is until that has closed.
+    const bool isFormOpen = std::ranges::any_of(
+        std::as_const(m_forms), [](const NewSavedEntryPopover *form) { return form->isOpen(); });
+    if (m_models.popover.state().open == Kind::None && !isFormOpen) {
         const auto &state = m_models.lists.state();
         m_networks->setEntries(entriesOf(state.networks, &SavedEntry::bssid));
         m_addresses->setEntries(entriesOf(state.addresses, &SavedEntry::address));

@@ -4,6 +4,8 @@
 
 #include "unit/presentation/history/HistoryFixture.h"
 
+#include <QFile>
+
 namespace quillon::test {
 namespace {
 
@@ -45,7 +47,7 @@ TEST_F(HistoryImportTest, AddsWhatTheListsDoNotHave)
     EXPECT_EQ(settings.getDictionary(keys::savedNetworks),
         (QVariantMap{{point, SavedEntry::ofNetwork(point, u"Harbor"_s).toPropertyList()}}));
     EXPECT_EQ(settings.writeCount(keys::savedAddresses), 1);
-    EXPECT_EQ(settings.synchronizeCount(), 1);
+    EXPECT_EQ(settings.synchronizeCount(), 2) << "each list";
     EXPECT_TRUE(model.canUndo());
 }
 
@@ -103,9 +105,51 @@ TEST_F(HistoryImportTest, TakesBackOnlyWhatItAddedWhenTheListsWereChanged)
     now[renamed] = QVariantMap{{u"address"_s, renamed}, {u"name"_s, u"Mine now"_s}};
     now[mine] = before[mine];
     settings.changeFromOutside(keys::savedAddresses, now);
+    endTurn();
     model.undo();
     EXPECT_EQ(saved(keys::savedAddresses), (QStringList{renamed, mine}));
     EXPECT_TRUE(saved(keys::savedNetworks).isEmpty());
+}
+
+TEST_F(HistoryImportTest, WritesNothingWhereNothingOfItIsLeft)
+{
+    fill(1);
+    import();
+    settings.changeFromOutside(keys::savedAddresses, u"no list"_s);
+    settings.changeFromOutside(keys::savedNetworks, QVariantMap());
+    endTurn();
+    settings.clearJournal();
+    model.undo();
+    EXPECT_EQ(settings.get(keys::savedAddresses), QVariant(u"no list"_s));
+    EXPECT_TRUE(settings.journal().isEmpty());
+}
+
+TEST_F(HistoryImportTest, TellsOfNetworksThatComeAndGo)
+{
+    int changes = 0;
+    QObject::connect(&model, &HistoryImport::networksChanged, &model, [&changes] { ++changes; });
+    fill(1);
+    import();
+    EXPECT_EQ(changes, 1);
+    insert(5, u"02:00:00:00:00:05"_s);
+    save();
+    import();
+    EXPECT_EQ(changes, 1) << "an address only";
+    settings.set(keys::savedNetworks, QVariant());
+    import();
+    model.undo();
+    EXPECT_EQ(changes, 3);
+}
+
+TEST_F(HistoryImportTest, SaysThatTheHistoryCannotBeRead)
+{
+    fill(1);
+    import();
+    ASSERT_TRUE(QFile::rename(path, path + u".away"_s));
+    EXPECT_EQ(import(), u"The history cannot be read."_s);
+    EXPECT_FALSE(model.canUndo());
+    ASSERT_TRUE(QFile::rename(path + u".away"_s, path));
+    EXPECT_EQ(import(), u"Nothing in the history that is not saved."_s);
 }
 
 TEST_F(HistoryImportTest, LeavesWhatIsSavedDuringTheSearch)

@@ -127,6 +127,21 @@ TEST_F(NewSavedEntryModelTest, NamesByItsAddressWhatHasNoShortName)
     EXPECT_FALSE(addresses.add()) << "what is there stays";
 }
 
+TEST_F(NewSavedEntryModelTest, BlanksAreNoName)
+{
+    addresses.editAddress(address);
+    addresses.editName(u"  "_s);
+    EXPECT_TRUE(addresses.add());
+    EXPECT_EQ(savedAddressEntry(address.toLower()).name, address.toLower());
+    networks.editAddress(homeBssid);
+    networks.editName(u" "_s);
+    EXPECT_FALSE(networks.add());
+    EXPECT_EQ(networks.state().line.text, u"A network needs its name, too."_s);
+    saveNetwork(homeBssid, u" "_s, u" "_s);
+    networks.editName(u"Home"_s);
+    EXPECT_EQ(networks.state().line.text, homeBssid + u" is saved already."_s);
+}
+
 TEST_F(NewSavedEntryModelTest, FollowsTheListWhileItIsOpen)
 {
     addresses.editAddress(address);

@@ -73,6 +73,19 @@ TEST_F(NewSavedEntryPopoverTest, ReturnSavesAnAddressAndGivesTheKeyboardBack)
     EXPECT_EQ(addresses().entries().size(), 2);
 }
 
+TEST_F(NewSavedEntryPopoverTest, AssistiveTechnologyFindsItInItsButton)
+{
+    QAccessibleInterface *opener = QAccessible::queryAccessibleInterface(&button(u"Address…"_s));
+    EXPECT_EQ(opener->text(QAccessible::Name), u"Address…"_s);
+    EXPECT_EQ(opener->childCount(), 0);
+    EXPECT_TRUE(opener->state().collapsed);
+    NewSavedEntryPopover &form = openForm(u"Address…"_s);
+    ASSERT_EQ(opener->childCount(), 1);
+    EXPECT_EQ(opener->child(0)->object(), &form);
+    EXPECT_EQ(opener->child(0)->role(), QAccessible::Dialog);
+    EXPECT_TRUE(opener->state().expanded);
+}
+
 TEST_F(NewSavedEntryPopoverTest, ItsButtonSavesANetwork)
 {
     NewSavedEntryPopover &form = openForm(u"Network…"_s);
@@ -127,6 +140,22 @@ TEST_F(NewSavedEntryPopoverTest, ClosesWithTheEditing)
     view.endEditing();
     EXPECT_FALSE(form.isOpen());
     EXPECT_TRUE(savedAddress(fresh).isEmpty());
+}
+
+TEST_F(NewSavedEntryPopoverTest, TheCardsStayWhereTheyAreUntilItHasClosed)
+{
+    NewSavedEntryPopover &form = openForm(u"Address…"_s);
+    type(fresh);
+    saveAddress(fresh.toUpper(), u"Theirs"_s);
+    turn();
+    EXPECT_EQ(addresses().entries().size(), 1);
+    EXPECT_EQ(form.findChild<InlineLine *>()->text(), u"Theirs is saved already."_s);
+    press(Qt::Key_Return);
+    turn();
+    EXPECT_TRUE(form.isOpen()) << "nothing was saved";
+    press(Qt::Key_Escape);
+    turn();
+    EXPECT_EQ(addresses().entries().size(), 2);
 }
 
 TEST_F(NewSavedEntryPopoverTest, TheHistoryIsImportedAndTakenBack)
