@@ -2064,10 +2064,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Hinzufügen</translation>
     </message>
     <message>
-        <source>The address itself</source>
-        <translation>Die Adresse selbst</translation>
-    </message>
-    <message>
         <source>Network…</source>
         <translation>Netzwerk…</translation>
     </message>
@@ -2094,6 +2090,10 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Save the addresses and networks that the history knows</source>
         <translation>Die Adressen und Netzwerke speichern, die der Verlauf kennt</translation>
+    </message>
+    <message>
+        <source>Name (optional)</source>
+        <translation>Name (freiwillig)</translation>
     </message>
 </context>
 </TS>

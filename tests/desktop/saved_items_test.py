@@ -128,7 +128,7 @@ class SavedItemsTest(ProgramTest):
         form.find("label", "This is not a MAC address.")
         xdotool("type", ":10:00:01")
         xdotool("key", "Tab")
-        wait_until(lambda: form.find("entry", "Name").focused, "Tab did not lead to the name")
+        wait_until(lambda: form.find("entry", "Name (optional)").focused, "Tab did not lead to the name")
         xdotool("type", "Printer")
         xdotool("key", "Return")
         items.find("button", "Printer (2)")

@@ -94,8 +94,7 @@ void NewSavedEntryPopover::makeContent()
         addField(*column, *m_address, localized("Address"));
         column->addWidget(m_line);
         column->addSpacing(Theme::unit / 2);
-        addField(*column, *m_name, localized("Name"));
-        m_name->setPlaceholderText(localized("The address itself"));
+        addField(*column, *m_name, localized("Name (optional)"));
     } else {
         addField(*column, *m_name, localized("Network name"));
         column->addSpacing(Theme::unit / 2);
@@ -122,6 +121,9 @@ void NewSavedEntryPopover::begin()
     m_model.begin();
     m_name->clear();
     m_address->clear();
+    // Qt's hint is that of seventeen letters x; a whole address is as many digits, a little wider.
+    m_address->ensurePolished();
+    m_address->setMinimumWidth(m_address->sizeHint().width() + Theme::unit);
     refresh();
 }
 

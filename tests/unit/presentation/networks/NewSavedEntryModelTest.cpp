@@ -127,6 +127,18 @@ TEST_F(NewSavedEntryModelTest, NamesByItsAddressWhatHasNoShortName)
     EXPECT_FALSE(addresses.add()) << "what is there stays";
 }
 
+TEST_F(NewSavedEntryModelTest, NamesFromOutsideAreSaidAsTheyAre)
+{
+    const QString hostile = u"%@ <b>free</b> %1 \u202Eoops"_s;
+    saveNetwork(homeBssid, hostile, hostile);
+    networks.editAddress(homeBssid);
+    EXPECT_EQ(networks.state().line.text, hostile + u" is saved already."_s);
+    networks.editAddress(officeBssid);
+    networks.editName(hostile);
+    EXPECT_TRUE(networks.add());
+    EXPECT_EQ(savedNetworkEntry(officeBssid).ssid, hostile);
+}
+
 TEST_F(NewSavedEntryModelTest, BlanksAreNoName)
 {
     addresses.editAddress(address);

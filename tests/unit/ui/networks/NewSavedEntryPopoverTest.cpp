@@ -63,7 +63,7 @@ TEST_F(NewSavedEntryPopoverTest, ReturnSavesAnAddressAndGivesTheKeyboardBack)
     NewSavedEntryPopover &form = openForm(u"Address…"_s);
     EXPECT_TRUE(field(form, u"Address"_s).hasFocus());
     type(fresh);
-    field(form, u"Name"_s).setFocus();
+    field(form, u"Name (optional)"_s).setFocus();
     type(u"Scanner"_s);
     press(Qt::Key_Return);
     turn();
