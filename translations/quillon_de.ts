@@ -2075,5 +2075,85 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>It was built without a list of versions to ask for. Nothing is asked, whatever is chosen here.</source>
         <translation>Es wurde ohne eine Versionsliste gebaut. Es wird nichts abgefragt, was auch immer hier gewählt ist.</translation>
     </message>
+    <message>
+        <source>1 address</source>
+        <translation>1 Adresse</translation>
+    </message>
+    <message>
+        <source>%@ addresses</source>
+        <translation>%@ Adressen</translation>
+    </message>
+    <message>
+        <source>1 network</source>
+        <translation>1 Netzwerk</translation>
+    </message>
+    <message>
+        <source>%@ networks</source>
+        <translation>%@ Netzwerke</translation>
+    </message>
+    <message>
+        <source>Nothing in the history that is not saved.</source>
+        <translation>Im Verlauf ist nichts, das nicht gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>%@ added.</source>
+        <translation>%@ hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>%@ and %@ added.</source>
+        <translation>%@ und %@ hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>The history cannot be read.</source>
+        <translation>Der Verlauf kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%@ These are the newest %@; import again for more.</source>
+        <translation>%@ Das sind die neuesten %@; für mehr erneut importieren.</translation>
+    </message>
+    <message>
+        <source>%@ is saved already.</source>
+        <translation>%@ ist schon gespeichert.</translation>
+    </message>
+    <message>
+        <source>A network needs its name, too.</source>
+        <translation>Ein Netzwerk braucht auch seinen Namen.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Network…</source>
+        <translation>Netzwerk…</translation>
+    </message>
+    <message>
+        <source>Save a network by hand</source>
+        <translation>Ein Netzwerk von Hand speichern</translation>
+    </message>
+    <message>
+        <source>Address…</source>
+        <translation>Adresse…</translation>
+    </message>
+    <message>
+        <source>Save an address by hand</source>
+        <translation>Eine Adresse von Hand speichern</translation>
+    </message>
+    <message>
+        <source>Import from History</source>
+        <translation>Aus dem Verlauf importieren</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Wird importiert…</translation>
+    </message>
+    <message>
+        <source>Save the addresses and networks that the history knows</source>
+        <translation>Die Adressen und Netzwerke speichern, die der Verlauf kennt</translation>
+    </message>
+    <message>
+        <source>Name (optional)</source>
+        <translation>Name (freiwillig)</translation>
+    </message>
 </context>
 </TS>

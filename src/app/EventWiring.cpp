@@ -235,6 +235,11 @@ void EventWiring::connectNetworks()
         [&networks] { networks.savedEntryPopover.closeNetworkPopover(); });
     on(networks.addressEditing, &SavedAddressEditing::editingFinished,
         [&networks] { networks.savedEntryPopover.closeAddressPopover(); });
+    // The one that the computer is on is shown by its saved name.
+    on(networks.newSavedNetwork, &NewSavedEntryModel::added,
+        [&networks] { networks.wifi.updateWiFiNetwork(); });
+    on(f.history.import, &HistoryImport::networksChanged,
+        [&networks] { networks.wifi.updateWiFiNetwork(); });
 }
 
 void EventWiring::connectNetworkEvents()

@@ -43,4 +43,18 @@ bool isSameAddress(const QString &a, const QString &b)
     return !address.isEmpty() && address == canonicalAddress(b);
 }
 
+bool isGroupAddress(const QString &address)
+{
+    bool isNumber = false;
+    return (address.mid(1, 1).toUInt(&isNumber, 16) & 1U) != 0 && isNumber;
+}
+
+QString withColons(QString digits)
+{
+    for (qsizetype place = digits.size() - 2; place > 0; place -= 2) {
+        digits.insert(place, u':');
+    }
+    return digits;
+}
+
 } // namespace quillon

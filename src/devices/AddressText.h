@@ -15,4 +15,11 @@ bool isStringValidHEX(const QString &text);
 /// is no address is the same as no other.
 bool isSameAddress(const QString &a, const QString &b);
 
+/// Whether the address is of a group: the lowest bit of the first octet, with which its second
+/// digit ends.
+bool isGroupAddress(const QString &address);
+
+/// Twelve bare digits, in pairs.
+QString withColons(QString digits);
+
 } // namespace quillon

@@ -25,7 +25,7 @@ void SavedAddresses::addCurrentAddressToSavedList()
 {
     const QString address = currentAddress();
     if (!address.isEmpty() && !isSaved(m_settings, keys::savedAddresses, address)) {
-        saveEntry(m_settings, keys::savedAddresses, address, {.name = address, .address = address});
+        saveEntry(m_settings, keys::savedAddresses, address, SavedEntry::ofAddress(address));
     }
 }
 

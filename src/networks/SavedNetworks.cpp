@@ -61,7 +61,7 @@ void SavedNetworks::addCurrentNetworkToSavedList()
     const auto network = m_wifi.updateWiFiNetwork();
     if (network && !isSaved(m_settings, keys::savedNetworks, network->bssid)) {
         saveEntry(m_settings, keys::savedNetworks, network->bssid,
-            {.name = network->ssid, .ssid = network->ssid, .bssid = network->bssid});
+            SavedEntry::ofNetwork(network->bssid, network->ssid));
     }
 }
 

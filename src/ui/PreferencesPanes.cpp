@@ -4,6 +4,7 @@
 
 #include "presence/Presence.h"
 #include "ui/networks/FavoriteToast.h"
+#include "ui/networks/ImportToast.h"
 #include "ui/preferences/AboutPreferencesView.h"
 #include "ui/preferences/DisplayPreferencesView.h"
 #include "ui/preferences/GeneralPreferencesView.h"
@@ -36,6 +37,7 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
         new RulesPreferencesView(models.rules, theme, {savedItems, vendorField}));
     // They lie over the rest.
     new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
+    new ImportToast(models.savedItems.import, theme, scheduler, &window);
     new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
     whenTheProgramEnds(models.presence, savedItems, &SavedItemsView::endEditing);
 }

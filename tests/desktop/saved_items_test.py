@@ -3,14 +3,21 @@
 """Saved networks and addresses: where they are edited, with the keyboard and with the pointer, and had back."""
 import os
 import plistlib
+import shutil
 import unittest
 
-from program import NAME, ProgramTest, accessibility, trayclient, wait_until, xdotool
+from program import FOLDER, NAME, RECORDS, ProgramTest, accessibility, trayclient, wait_until, xdotool
+
+HISTORY = os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "data", "records", "version-1.sqlite")
 
 SETTINGS = os.path.expanduser("~/.config/Quillon/com.orvandel.Quillon4.plist")
 SAVED_ITEMS, WINDOW = "Saved Networks and Addresses", "Rules"
-HOME, OFFICE = "a4:2b:b0:11:22:33", "b8:27:eb:44:55:66"
+HOME, OFFICE = "a4:2b:b0:00:00:01", "b8:27:eb:44:55:66"
 PRINTER = "a4:83:e7:01:02:03"
+FRESH = "02:00:5e:10:00:01"
+# What the history of three records knows.
+KNOWN = ["02:00:5e:00:53:01", "62:68:66:48:DC:27"]
+GUEST = "a4:2b:b0:11:22:33"
 
 
 def network(bssid, name):
@@ -23,6 +30,8 @@ class SavedItemsTest(ProgramTest):
         with open(SETTINGS, "wb") as file:
             plistlib.dump({"savedNetworks": {HOME: network(HOME, "Home"), OFFICE: network(OFFICE, "Office")},
                            "savedAddresses": {PRINTER: {"address": PRINTER, "name": "Printer"}}}, file)
+        os.makedirs(FOLDER, exist_ok=True)
+        shutil.copy(HISTORY, RECORDS)
         super().setUp()
 
     def saved(self, key):
@@ -95,6 +104,79 @@ class SavedItemsTest(ProgramTest):
         items.find("button", "Home")
         wait_until(lambda: self.saved("savedNetworks") == before, "it is not what it was")
         wait_until(lambda: not items.has("button", "Undo"), "the message stays")
+
+    def focus(self, control):
+        control._fresh.get_component_iface().grab_focus()
+        wait_until(lambda: control.focused, f"“{control.name}” did not get the keyboard")
+
+    def form_of(self, items, opener, first):
+        """What a card's button opens, by the keyboard; its first field has it then."""
+        button = items.find("button", opener)
+        self.focus(button)
+        xdotool("key", "Return")
+        form = wait_until(lambda: next((child for child in button.children if child.has("entry", first)), None),
+                          f"“{opener}” opened nothing")
+        wait_until(lambda: form.find("entry", first).focused, "its first field did not get the keyboard")
+        return button, form
+
+    def test_an_address_is_saved_by_hand_with_the_keyboard(self):
+        items = self.open_by_menu()
+        button, form = self.form_of(items, "Address…", "Address")
+        xdotool("type", "02:00:5ezz")
+        self.assertEqual(form.find("entry", "Address").text, "02:00:5e")
+        xdotool("key", "Return")
+        form.find("label", "This is not a MAC address.")
+        xdotool("type", ":10:00:01")
+        xdotool("key", "Tab")
+        wait_until(lambda: form.find("entry", "Name (optional)").focused, "Tab did not lead to the name")
+        xdotool("type", "Printer")
+        xdotool("key", "Return")
+        items.find("button", "Printer (2)")
+        wait_until(lambda: button.focused, "the button has not got the keyboard back")
+        wait_until(lambda: self.saved("savedAddresses").get(FRESH) == {"address": FRESH, "name": "Printer (2)"},
+                   "it was not saved")
+
+    def test_a_network_is_saved_by_hand_with_the_keyboard(self):
+        items = self.open_by_menu()
+        button, form = self.form_of(items, "Network…", "Network name")
+        xdotool("type", "Harbor")
+        xdotool("key", "Tab")
+        xdotool("type", HOME.upper())
+        form.find("label", "Home is saved already.")
+        xdotool("key", "ctrl+a")
+        xdotool("type", FRESH.upper())
+        xdotool("key", "Tab")
+        wait_until(lambda: form.find("button", "Add").focused, "Tab did not lead to the button")
+        xdotool("key", "space")
+        items.find("button", "Harbor")
+        wait_until(lambda: button.focused, "the button has not got the keyboard back")
+        wait_until(lambda: self.saved("savedNetworks").get(FRESH) == network(FRESH, "Harbor"), "it was not saved")
+
+    def test_the_history_is_imported_and_taken_back(self):
+        items = self.open_by_menu()
+        networks, addresses = self.saved("savedNetworks"), self.saved("savedAddresses")
+        self.focus(items.find("button", "Import from History"))
+        xdotool("key", "space")
+
+        def said(text):
+            return wait_until(lambda: next((control for control in items.everything_below()
+                                            if control.showing and control.name == text), None),
+                              lambda: f"nothing said “{text}”; there is {items.overview()}")
+
+        toast = said("2 addresses and 1 network added.")
+        items.find("button", "Harbor-Guest")
+        wait_until(lambda: sorted(self.saved("savedAddresses")) == sorted([PRINTER, *KNOWN]), "they were not saved")
+        wait_until(lambda: self.saved("savedNetworks").get(GUEST) == network(GUEST, "Harbor-Guest"),
+                   "the network was not saved")
+        self.assertTrue(toast.has("button", "Undo"))
+        xdotool("key", "ctrl+z")
+        wait_until(lambda: self.saved("savedAddresses") == addresses, "the addresses are not what they were")
+        wait_until(lambda: self.saved("savedNetworks") == networks, "the networks are not what they were")
+        xdotool("key", "space")
+        said("2 addresses and 1 network added.")
+        self.focus(items.find("button", "Import from History"))
+        xdotool("key", "space")
+        said("Nothing in the history that is not saved.")
 
     def test_the_saved_addresses_lead_there(self):
         popover = self.popover("Saved addresses")

@@ -6,9 +6,15 @@
 #include "face/FaceProgram.h"
 #include "face/SceneSteps.h"
 #include "face/SceneSubjects.h"
+#include "history/Connection.h"
+#include "history/KnownPlaces.h"
 #include "networks/SpecialNetworks.h"
 #include "store/model/QuillonModel.h"
 #include "ui/widgets/TokenField.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace quillon::test {
 
@@ -35,6 +41,50 @@ void openToken(FaceProgram &program, const QString &field)
         }
     }
     qFatal("no %s", qUtf8Printable(field));
+}
+
+/// A button of the window in front, pressed.
+QPushButton &press(const QString &text)
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        auto *button = qobject_cast<QPushButton *>(widget);
+        if (button != nullptr && button->isVisible() && button->text() == text) {
+            button->click();
+            return *button;
+        }
+    }
+    qFatal("no %s", qUtf8Printable(text));
+}
+
+/// The form that one of the two cards opens, as far as it was filled in by then.
+void openNewEntry(FaceProgram &program, const QString &button, const QStringList &texts)
+{
+    openSavedItems(program);
+    const QPushButton &opener = press(button);
+    program.settle();
+    const auto fields = opener.findChildren<QLineEdit *>();
+    for (qsizetype index = 0; index < texts.size(); ++index) {
+        fields.at(index)->setFocus();
+        fields.at(index)->insert(texts.at(index));
+    }
+}
+
+/// More than the lists take at once.
+void importHistory(FaceProgram &program)
+{
+    ManagedObjectContext &context = program.features().history.store.managedObjectContext();
+    const ManagedObjectContext::UndoDisabled facts(context);
+    const QDateTime now = program.machine.scheduler.now();
+    for (int number = 0; number < KnownPlaces::most + 1; ++number) {
+        Connection record(context.insertNewObject(model::Connection));
+        record.setDate(now.addSecs(-number));
+        record.setAddress(u"02:00:5E:00:57:%1"_s.arg(number, 2, 16, QChar(u'0')).toUpper());
+        record.setSsid(u"Harbor-Guest"_s);
+        record.setBssid(u"a4:2b:b0:11:22:33"_s);
+    }
+    context.save();
+    openSavedItems(program);
+    press(localized("Import from History"));
 }
 
 /// Rules of every kind, as somebody has them who uses them.
@@ -135,6 +185,20 @@ QList<FaceScene> ruleScenes()
             [](P &program) { openToken(program, localized("Addresses")); }},
         {u"popover-saved-network"_s, saveAddresses,
             [](P &program) { openToken(program, localized("Networks")); }},
+        {u"popover-new-address"_s, nullptr,
+            [](P &program) { openNewEntry(program, localized("Address…"), {}); }},
+        {u"popover-new-address-group"_s, nullptr,
+            [](P &program) {
+                openNewEntry(program, localized("Address…"), {u"01:00:5e:00:00:01"_s, u"Lab"_s});
+            }},
+        {u"popover-new-network-saved"_s, nullptr,
+            [](P &program) {
+                const QString bssid = program.machine.settings.getDictionary(keys::currentWiFiDict)
+                                          .value(wifirecord::BSSID)
+                                          .toString();
+                openNewEntry(program, localized("Network…"), {u"Harbor"_s, bssid});
+            }},
+        {u"saved-items-imported"_s, saveAddresses, importHistory},
         {u"rules"_s, saveEditorRules, openRules},
         {u"rules-empty"_s, nullptr, openRules},
         {u"rules-many"_s, saveManyRules, openRules},

@@ -13,6 +13,8 @@ HistoryFeature::HistoryFeature(
     : store(platform.scheduler, platform.places.supportFolder, std::move(openFailure))
     , history(store, devices, platform.settings, platform.scheduler)
     , controller({store, platform.settings, platform.scheduler, platform.alerts})
+    , knownPlaces(store, platform.scheduler)
+    , import(platform.settings, knownPlaces)
 {
 }
 

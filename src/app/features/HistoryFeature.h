@@ -3,7 +3,9 @@
 #pragma once
 
 #include "history/HistoryRecords.h"
+#include "history/KnownPlaces.h"
 #include "presentation/history/HistoryController.h"
+#include "presentation/history/HistoryImport.h"
 #include "store/RecordStore.h"
 
 namespace quillon {
@@ -20,6 +22,8 @@ struct HistoryFeature
     RecordStore store;
     HistoryRecords history;
     HistoryController controller;
+    KnownPlaces knownPlaces;
+    HistoryImport import;
 };
 
 } // namespace quillon

@@ -22,6 +22,8 @@ NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devi
     , savedLists(platform.settings, savedAddresses, removedInMainWindow)
     , savedEntryPopover({platform.settings, platform.scheduler, networkEditing, addressEditing,
           removedFromSavedItems})
+    , newSavedNetwork(platform.settings, NewSavedEntryModel::Kind::Network)
+    , newSavedAddress(platform.settings, NewSavedEntryModel::Kind::Address)
     , externalAddressShown(platform.settings, externalAddress)
 {
 }

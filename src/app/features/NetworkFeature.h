@@ -11,6 +11,7 @@
 #include "networks/WiFiNetwork.h"
 #include "presentation/networks/ExternalAddressModel.h"
 #include "presentation/networks/NetworkInfoModel.h"
+#include "presentation/networks/NewSavedEntryModel.h"
 #include "presentation/networks/RemovedFavorite.h"
 #include "presentation/networks/SavedEntryPopoverModel.h"
 #include "presentation/networks/SavedListsModel.h"
@@ -39,6 +40,8 @@ struct NetworkFeature
     NetworkInfoModel info;
     SavedListsModel savedLists;
     SavedEntryPopoverModel savedEntryPopover;
+    NewSavedEntryModel newSavedNetwork;
+    NewSavedEntryModel newSavedAddress;
     ExternalAddressModel externalAddressShown;
 };
 

@@ -13,25 +13,10 @@ namespace {
 constexpr qsizetype bareDigits = 12;
 constexpr qsizetype fullLength = 17;
 
-/// The group bit of IEEE 802: the lowest of the first octet, which its second digit ends with.
-bool isGroupAddress(const QString &address)
-{
-    bool isNumber = false;
-    return (address.mid(1, 1).toUInt(&isNumber, 16) & 1U) != 0 && isNumber;
-}
-
 /// The digits of an address without its colons, which is not taken for one.
 bool isBareAddress(const QString &text)
 {
     return text.size() == bareDigits && !text.contains(u':');
-}
-
-QString withColons(QString digits)
-{
-    for (qsizetype place = digits.size() - 2; place > 0; place -= 2) {
-        digits.insert(place, u':');
-    }
-    return digits;
 }
 
 } // namespace

@@ -8,9 +8,18 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/networks/SavedAddressesDetails.h"
 
+#include <algorithm>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of hundreds the row says what its tool tip has room for.
+constexpr qsizetype mostNamed = 20;
+
+} // namespace
 
 SavedAddressesRow::SavedAddressesRow(const Models &models, const Theme &theme)
     : PopoverRow(theme, localized("Saved addresses"))
@@ -51,9 +60,13 @@ void SavedAddressesRow::editSavedItems()
 
 void SavedAddressesRow::refresh()
 {
+    const auto &saved = m_models.saved.state().quickAddresses;
     QStringList names;
-    for (const auto &token : m_models.saved.state().quickAddresses) {
+    for (const auto &token : saved.first(std::min(saved.size(), mostNamed))) {
         names.append(token.text);
+    }
+    if (saved.size() > mostNamed) {
+        names.append(u"…"_s);
     }
     if (names.isEmpty()) {
         setValue(localized("None"), ValueLook::Muted);

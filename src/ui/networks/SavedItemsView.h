@@ -10,6 +10,10 @@ class QVBoxLayout;
 
 namespace quillon {
 
+class BusyButton;
+class HistoryImport;
+class NewSavedEntryModel;
+class NewSavedEntryPopover;
 class SavedAddressPopover;
 class SavedEntryPopoverModel;
 class SavedNetworkPopover;
@@ -17,7 +21,8 @@ class Theme;
 class TokenField;
 
 /// The saved networks and the saved addresses, a card of tokens each; a token opens the popover
-/// that edits it.
+/// that edits it, and a button at the card's end one that saves another by hand. Below them is what
+/// takes them from the history.
 class SavedItemsView : public QWidget
 {
     Q_OBJECT
@@ -27,6 +32,9 @@ public:
     {
         SavedListsModel &lists;
         SavedEntryPopoverModel &popover;
+        NewSavedEntryModel &newNetwork;
+        NewSavedEntryModel &newAddress;
+        HistoryImport &import;
     };
 
     SavedItemsView(const Models &models, const Theme &theme, QWidget *parent = nullptr);
@@ -35,8 +43,20 @@ public:
     void endEditing();
 
 private:
-    TokenField *makeTokens(
-        QVBoxLayout &column, TokenFieldKind kind, const QString &title, const QString &emptyText);
+    /// What one card says of itself.
+    struct CardTexts
+    {
+        QString title;
+        QString empty;
+        QString add; ///< on its button
+        QString addToolTip;
+    };
+
+    TokenField *makeCard(
+        QVBoxLayout &column, TokenFieldKind kind, const CardTexts &texts, const Theme &theme);
+    void makeAddButton(
+        QVBoxLayout &card, NewSavedEntryModel &model, const CardTexts &texts, const Theme &theme);
+    void makeImportButton(QVBoxLayout &column, const Theme &theme);
     void choose(TokenFieldKind kind, const TokenField &tokens, int index);
     void refreshTokens();
     void refreshPopover();
@@ -46,6 +66,7 @@ private:
     TokenField *m_addresses = nullptr;
     SavedNetworkPopover *m_networkPopover = nullptr;
     SavedAddressPopover *m_addressPopover = nullptr;
+    QList<NewSavedEntryPopover *> m_forms;
 };
 
 } // namespace quillon

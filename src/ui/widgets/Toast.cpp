@@ -60,6 +60,7 @@ void Toast::say(const QString &message, std::function<void()> undo)
     m_message->setText(plainParagraphs(message));
     m_undoButton->setVisible(m_undo != nullptr);
     watchKeys(m_undo != nullptr);
+    coverOthers();
     place();
     show();
     raise();
@@ -72,10 +73,42 @@ void Toast::dismiss()
     cancelWait();
     m_undo = nullptr;
     watchKeys(false);
+    if (!isHidden()) {
+        leave();
+        uncoverOther();
+    }
+}
+
+void Toast::leave()
+{
     if (m_undoButton->hasFocus()) {
         returnKeyboard();
     }
     hide();
+}
+
+void Toast::coverOthers()
+{
+    for (Toast *other : parentWidget()->findChildren<Toast *>(Qt::FindDirectChildrenOnly)) {
+        if (other != this && !other->isHidden()) {
+            other->leave();
+            if (!other->m_wait) {
+                other->waitAnew();
+            }
+        }
+    }
+}
+
+void Toast::uncoverOther()
+{
+    const auto others = parentWidget()->findChildren<Toast *>(Qt::FindDirectChildrenOnly);
+    // The one that was raised last is the last child.
+    const auto other = std::find_if(others.crbegin(), others.crend(),
+        [this](const Toast *toast) { return toast != this && toast->m_undo; });
+    if (other != others.crend()) {
+        (*other)->place();
+        (*other)->show();
+    }
 }
 
 bool Toast::canTakeKeyboard(const QWidget *widget) const
@@ -150,7 +183,7 @@ void Toast::cancelWait()
 
 bool Toast::isLookedAt() const
 {
-    return testAttribute(Qt::WA_UnderMouse) || m_undoButton->hasFocus();
+    return !isHidden() && (testAttribute(Qt::WA_UnderMouse) || m_undoButton->hasFocus());
 }
 
 bool Toast::event(QEvent *event)

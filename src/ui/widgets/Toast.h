@@ -19,8 +19,9 @@ class Theme;
 /// Says at the bottom of a window what the user just did, and offers to undo it, by its button and
 /// by Ctrl+Z, which it has first: before fields of text, and before popovers over its window. It
 /// goes after ten seconds, which begin anew when the pointer or the focus leaves it. A new one
-/// takes the place of one that is shown. When it goes with the keyboard, that goes back to where it
-/// was before, or to the first control of the window.
+/// takes the place of one that is shown; another of the same window covers it, and when that is
+/// gone it is there again for the rest of its time. When it goes with the keyboard, that goes back
+/// to where it was before, or to the first control of the window.
 class Toast : public QFrame
 {
     Q_OBJECT
@@ -53,6 +54,10 @@ private:
     bool isUndoKey(const QObject *watched, QEvent &event) const;
     void watchKeys(bool watched);
     void takeBack();
+    void coverOthers();
+    void uncoverOther();
+    /// Hidden, not dismissed.
+    void leave();
     void returnKeyboard();
     bool canTakeKeyboard(const QWidget *widget) const;
 

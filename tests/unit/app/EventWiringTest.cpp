@@ -344,6 +344,42 @@ TEST_F(EventWiringTest, TheSavedAddressesOfferedFollowTheirSetting)
     EXPECT_FALSE(offered().isEmpty());
 }
 
+TEST_F(EventWiringTest, ANetworkThatIsSavedByHandIsShownByItsNameAtOnce)
+{
+    WiFiInterface wifi;
+    wifi.ssid = u"Harbor"_s;
+    wifi.bssid = u"a4:2b:b0:11:22:33"_s;
+    machine.wifi.interface = wifi;
+    features().networks.wifi.updateWiFiNetwork();
+    const auto shownName = [this] {
+        return machine.settings.getDictionary(keys::currentWiFiDict).value(wifirecord::name);
+    };
+    ASSERT_EQ(shownName(), wifi.ssid);
+    NewSavedEntryModel &form = features().networks.newSavedNetwork;
+    form.editName(u"Harbor hall"_s);
+    form.editAddress(wifi.bssid.toUpper());
+    ASSERT_TRUE(form.add());
+    EXPECT_EQ(shownName(), u"Harbor hall"_s);
+}
+
+TEST_F(EventWiringTest, ANetworkFromTheHistoryIsShownByItsNameUntilItIsTakenBack)
+{
+    WiFiInterface wifi;
+    wifi.ssid = u"Harbor"_s;
+    wifi.bssid = u"a4:2b:b0:11:22:33"_s;
+    machine.wifi.interface = wifi;
+    const ManagedObjectPtr past = context().insertNewObject(model::Connection);
+    fill(*past, {{model::connection::bssid, wifi.bssid}, {model::connection::ssid, u"Old hall"_s}});
+    const auto shownName = [this] {
+        return machine.settings.getDictionary(keys::currentWiFiDict).value(wifirecord::name);
+    };
+    features().history.import.import();
+    machine.scheduler.runPending();
+    EXPECT_EQ(shownName(), u"Old hall"_s);
+    features().history.import.undo();
+    EXPECT_EQ(shownName(), wifi.ssid);
+}
+
 TEST_F(EventWiringTest, TheExternalAddressIsAskedForWhenThatIsSwitchedOn)
 {
     const qsizetype before = machine.http.requests().size();

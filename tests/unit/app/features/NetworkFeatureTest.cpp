@@ -134,6 +134,13 @@ TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
     popover().tokenFieldMenuForRepresentedObject(TokenFieldKind::SavedAddresses, entry, {});
     machine.scheduler.runPending();
     ASSERT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::Address);
+    popover().controlTextDidEndEditing(u"Yours"_s);
+    machine.scheduler.runPending();
+    EXPECT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::None);
+    EXPECT_EQ(quickAddresses(), QStringList{u"Yours"_s});
+
+    popover().tokenFieldMenuForRepresentedObject(TokenFieldKind::SavedAddresses, entry, {});
+    machine.scheduler.runPending();
     popover().removeEntry();
     machine.scheduler.runPending();
     EXPECT_EQ(popover().state().open, SavedEntryPopoverModel::Popover::None);

@@ -69,6 +69,25 @@ TEST_F(SavedAddressesRowTest, ItsHeartSavesTheCurrentAddressAndForgetsIt)
     EXPECT_TRUE(tokens()->entries().isEmpty());
 }
 
+TEST_F(SavedAddressesRowTest, OfHundredsItNamesTheFirst)
+{
+    const auto save = [this](int count) {
+        QVariantMap list;
+        for (int number = 0; number < count; ++number) {
+            const QString key = u"02:00:00:00:00:%1"_s.arg(number, 2, 16, QChar(u'0'));
+            list[key] = QVariantMap{{savedentry::name, u"Room %1"_s.arg(number)}};
+        }
+        settings.set(keys::savedAddresses, list);
+    };
+    save(20);
+    EXPECT_TRUE(row.value().endsWith(u", Room 19"_s)) << qPrintable(row.value());
+    save(200);
+    EXPECT_TRUE(row.value().startsWith(u"Room 0, Room 1, "_s));
+    EXPECT_TRUE(row.value().endsWith(u", Room 19, …"_s)) << qPrintable(row.value());
+    EXPECT_TRUE(row.toolTip().contains(row.value()));
+    EXPECT_EQ(tokens()->entries().size(), 200);
+}
+
 TEST_F(SavedAddressesRowTest, AChosenAddressIsPutIntoTheFieldAndThePopoverCloses)
 {
     settings.set(keys::savedAddresses,

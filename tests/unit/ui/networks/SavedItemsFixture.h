@@ -2,12 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "history/Connection.h"
+#include "history/KnownPlaces.h"
 #include "networks/SavedAddressEditing.h"
 #include "networks/SavedAddresses.h"
 #include "networks/SavedNetworkEditing.h"
+#include "presentation/history/HistoryImport.h"
+#include "presentation/networks/NewSavedEntryModel.h"
 #include "presentation/networks/RemovedFavorite.h"
 #include "presentation/networks/SavedEntryPopoverModel.h"
 #include "presentation/networks/SavedListsModel.h"
+#include "store/RecordStore.h"
 #include "ui/networks/SavedItemsView.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/Popover.h"
@@ -20,6 +25,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 namespace quillon::test {
 
@@ -108,7 +114,13 @@ protected:
     SavedListsModel lists{settings, saved, removed};
     SavedEntryPopoverModel popoverModel{
         {settings, scheduler, networkEditing, addressEditing, removed}};
-    SavedItemsView view{{lists, popoverModel}, theme};
+    NewSavedEntryModel newNetwork{settings, NewSavedEntryModel::Kind::Network};
+    NewSavedEntryModel newAddress{settings, NewSavedEntryModel::Kind::Address};
+    QTemporaryDir folder;
+    RecordStore records{scheduler, folder.path()};
+    KnownPlaces places{records, scheduler};
+    HistoryImport import{settings, places};
+    SavedItemsView view{{lists, popoverModel, newNetwork, newAddress, import}, theme};
 };
 
 } // namespace quillon::test

@@ -66,6 +66,56 @@ TEST_F(ToastTest, UndoesOnce)
     EXPECT_EQ(undone, 1);
 }
 
+TEST_F(ToastTest, AnotherOneCoversItUntilThatIsGone)
+{
+    int otherUndone = 0;
+    auto *other = new Toast(theme, scheduler, &window);
+    button().setFocus();
+    other->say(u"1 address added."_s, [&otherUndone] { ++otherUndone; });
+    settle();
+    EXPECT_FALSE(toast->isVisible());
+    EXPECT_FALSE(button().hasFocus());
+    other->findChild<QPushButton *>()->click();
+    EXPECT_EQ(std::pair(undone, otherUndone), std::pair(0, 1));
+    EXPECT_FALSE(other->isVisible());
+    EXPECT_TRUE(toast->isVisible());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(std::pair(undone, otherUndone), std::pair(1, 1));
+    EXPECT_FALSE(toast->isVisible());
+    delete other;
+}
+
+TEST_F(ToastTest, CoveredItsTimeGoesOn)
+{
+    int expired = 0;
+    QObject::connect(toast, &Toast::expired, toast, [&expired] { ++expired; });
+    scheduler.advance(5s);
+    auto *other = new Toast(theme, scheduler, &window);
+    other->say(u"Nothing in the history that is not saved."_s);
+    EXPECT_FALSE(toast->isVisible());
+    scheduler.advance(5'100ms);
+    EXPECT_EQ(expired, 1);
+    EXPECT_TRUE(other->isVisible());
+    scheduler.advance(5s);
+    EXPECT_FALSE(other->isVisible());
+    EXPECT_FALSE(toast->isVisible()) << "what is over does not come back";
+    EXPECT_FALSE(scheduler.hasTimers());
+    delete other;
+}
+
+TEST_F(ToastTest, CoveredUnderThePointerItsTimeBegins)
+{
+    pointAt(true);
+    EXPECT_FALSE(scheduler.hasTimers());
+    auto *other = new Toast(theme, scheduler, &window);
+    other->say(u"1 address added."_s, [] {});
+    scheduler.advance(10'100ms);
+    EXPECT_FALSE(toast->isVisible());
+    EXPECT_FALSE(other->isVisible());
+    EXPECT_FALSE(scheduler.hasTimers());
+    delete other;
+}
+
 TEST_F(ToastTest, UndoesByItsKey)
 {
     button().setFocus();
