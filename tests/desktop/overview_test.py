@@ -15,6 +15,8 @@ from gi.repository import GLib
 from program import (NAME, TITLE, ProgramTest, accessibility, forget_everything, kernel_addresses, trayclient, wait_until,
                      write_rule, xdotool)
 
+import pictures
+
 USER = "quillon"
 OVERVIEW = "Overview"
 WISH = "/tmp/plug-in"  # made by whoever wants another interface
@@ -78,6 +80,21 @@ class WaysTest(OverviewTest):
         wait_until(lambda: not accessibility.has_window(NAME, OVERVIEW), "Ctrl+W did not close it again")
         trayclient.only_item().click(OVERVIEW)
         self.assertEqual(self.rows(self.opened())[:2], ["enp1s0", "enp2s0"])
+
+    def test_it_is_moved_by_its_ground(self):
+        left, top, width, height = self.open().extents
+        window = pictures.find_window(OVERVIEW)
+        x, y = left + 6, top + height // 2
+        xdotool("mousemove", x, y, "mousedown", 1)
+
+        def follows():
+            # The pointer rests at either of two places for a second: at one of them the window has moved.
+            away = int(time.monotonic()) % 2
+            xdotool("mousemove", x + 12 * away, y + 8 * away)
+            return pictures.geometry(window)[:2] != [left, top]
+        wait_until(follows, "the overview does not follow the pointer")
+        xdotool("mouseup", 1)
+        self.assertEqual(pictures.geometry(window)[2:], [width, height])
 
     def test_return_shows_a_row_in_the_main_window(self):
         overview = self.open()

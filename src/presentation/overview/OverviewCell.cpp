@@ -97,13 +97,20 @@ void OverviewCell::updateCell(const QVariantMap &userInfo)
     if (entry.contains(record::hasRule)) {
         row.hasRule = entry.value(record::hasRule).toLongLong();
     }
+    const bool tellsOfLink = entry.contains(record::status) || entry.contains(networkKey);
     if (entry.contains(record::status)) {
         row.status = entry.value(record::status).toString();
     }
     if (entry.contains(networkKey)) {
         row.network = entry.value(networkKey).toString();
     }
-    setRow(row);
+    m_state.update([&](State &state) {
+        state.row = row;
+        drawCell(state);
+        if (tellsOfLink) {
+            fillTexts(state);
+        }
+    });
 }
 
 bool OverviewCell::showsCountdown(const QVariantMap &entry) const
@@ -169,7 +176,8 @@ QString OverviewCell::display(const QString &address) const
 void OverviewCell::fillTexts(State &state) const
 {
     const OverviewRow &row = state.row;
-    state.title = row.interface + titleSeparator + row.device;
+    state.title =
+        row.interface.isEmpty() ? row.device : row.interface + titleSeparator + row.device;
     state.linkActive = !m_live.isGone && row.status == activeStatus;
     state.linkText = state.linkActive ? localized("Active") : localized("Inactive");
     const WiFiRecord wifi = row.isWifi() ? WiFiRecord::stored(m_settings) : WiFiRecord();
@@ -185,8 +193,8 @@ void OverviewCell::fillTexts(State &state) const
     const bool isOld = row.currentAddress.compare(m_live.currentAddress, Qt::CaseInsensitive) != 0;
     state.addressNow =
         isOld && !m_live.currentAddress.isEmpty() ? display(m_live.currentAddress) : QString();
-    state.vendorText =
-        row.vendor == randomAddressChoice ? localized(randomAddressChoice) : row.vendor;
+    const bool isAnyVendor = row.vendor.isEmpty() || row.vendor == randomAddressChoice;
+    state.vendorText = isAnyVendor ? localized(randomAddressChoice) : row.vendor;
     fillLine(state);
     fillButtons(state);
 }

@@ -37,11 +37,12 @@ ExternalAddressRow::ExternalAddressRow(
     m_note->setProperty("look", u"caption"_s);
     m_note->setFont(Theme::font(Theme::Type::Caption));
     auto *line = new QHBoxLayout(this);
-    line->setContentsMargins(0, 0, Theme::unit / 2, 0);
+    line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(Theme::unit / 2);
     line->addWidget(m_row, 1);
     line->addWidget(m_note);
     line->addWidget(m_button);
+    line->addSpacing(Theme::unit / 2);
     connect(m_button, &QToolButton::clicked, &m_model, &ExternalAddressModel::refreshExternalIP);
     connect(&m_model, &ExternalAddressModel::changed, this, &ExternalAddressRow::refresh);
     refresh();

@@ -28,8 +28,10 @@ OverviewCountdown::OverviewCountdown(const QString &device, const Theme &theme)
 {
     m_label->label().setObjectName(u"timerLabel"_s);
     auto *line = new QHBoxLayout(this);
-    line->setContentsMargins(Theme::headerIconSize + Theme::spacing, 0, 0, 0);
+    line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(Theme::unit);
+    // No margin, which would not be mirrored: it begins where the name does.
+    line->addSpacing(Theme::headerIconSize + Theme::spacing);
     line->addWidget(m_label, 1);
     line->addWidget(m_pause);
     line->addWidget(m_resume);

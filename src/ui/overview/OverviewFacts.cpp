@@ -3,6 +3,8 @@
 #include "ui/overview/OverviewFacts.h"
 
 #include "base/Localized.h"
+#include "ui/overview/LabelLook.h"
+#include "ui/overview/OverviewName.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/Badge.h"
 #include "ui/widgets/OneLineLabel.h"
@@ -10,8 +12,6 @@
 #include "ui/widgets/Sign.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -22,43 +22,21 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int gap = Theme::unit;
-constexpr int columnGap = 2 * Theme::unit;
-constexpr int linkDotSize = 10;
-/// The name of most interfaces: there is room for it beside the addresses.
-const QString usualName = u"Ethernet · enp1s0"_s;
+constexpr int columnGap = Theme::spacing;
+constexpr int lineGap = 2;
 const QString widestAddress = u"00:00:00:00:00:00"_s;
-
-void setLook(QLabel &label, const QString &look)
-{
-    if (label.property("look") != look) {
-        label.setProperty("look", look);
-        label.style()->unpolish(&label);
-        label.style()->polish(&label);
-    }
-}
-
-QVBoxLayout *makeColumn(QWidget *column)
-{
-    auto *lines = new QVBoxLayout(column);
-    lines->setContentsMargins(0, 0, 0, 0);
-    lines->setSpacing(2);
-    return lines;
-}
 
 } // namespace
 
 OverviewFacts::OverviewFacts(const Theme &theme)
     : m_port(new Sign(theme, Theme::headerIconSize))
-    , m_title(new OneLineLabel(Qt::ElideMiddle))
-    , m_dot(new Sign(theme, linkDotSize))
-    , m_link(new OneLineLabel)
+    , m_name(new OverviewName(theme))
     , m_addressSign(new Sign(theme, Theme::iconSize))
     , m_address(plainLabel())
     , m_badge(new Badge(theme, localized("Hardware"), Badge::Tone::Neutral))
     , m_hardware(new OneLineLabel)
     , m_vendor(new OneLineLabel(Qt::ElideMiddle))
     , m_columns(new QBoxLayout(QBoxLayout::LeftToRight))
-    , m_name(makeName())
     , m_addresses(makeAddresses())
 {
     auto *line = new QHBoxLayout(this);
@@ -71,21 +49,6 @@ OverviewFacts::OverviewFacts(const Theme &theme)
     line->addLayout(m_columns, 1);
 }
 
-QWidget *OverviewFacts::makeName()
-{
-    auto *name = new QWidget;
-    m_title->label().setFont(Theme::font(Theme::Type::Strong));
-    auto *link = new QHBoxLayout;
-    link->setSpacing(6);
-    link->addWidget(m_dot, 0, Qt::AlignVCenter);
-    link->addWidget(m_link, 1);
-    auto *lines = makeColumn(name);
-    lines->addWidget(m_title);
-    lines->addLayout(link);
-    name->setMinimumWidth(m_title->label().fontMetrics().horizontalAdvance(usualName) + 2);
-    return name;
-}
-
 QWidget *OverviewFacts::makeAddresses()
 {
     auto *addresses = new QWidget;
@@ -96,7 +59,9 @@ QWidget *OverviewFacts::makeAddresses()
         address->addWidget(part, 0, Qt::AlignVCenter);
     }
     address->addStretch(1);
-    auto *lines = makeColumn(addresses);
+    auto *lines = new QVBoxLayout(addresses);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(lineGap);
     lines->addLayout(address);
     for (OneLineLabel *label : {m_hardware, m_vendor}) {
         label->label().setProperty("look", u"caption"_s);
@@ -137,11 +102,7 @@ void OverviewFacts::setInOneRow(bool inOneRow)
 void OverviewFacts::mirror(const OverviewCell::State &state)
 {
     m_port->setSign(state.row.isWifi() ? u"wireless"_s : u"wired"_s, Theme::Ink::Accent);
-    m_title->setLine(state.title);
-    m_dot->setSign(state.linkActive ? u"link-active"_s : u"link-inactive"_s,
-        state.linkActive ? Theme::Ink::Positive : Theme::Ink::Muted);
-    m_link->setLine(state.linkText);
-    setLook(m_link->label(), state.linkActive ? u"value"_s : u"caption"_s);
+    m_name->mirror(state);
     showAddress(state);
     m_hardware->setLine(filled(localized("Hardware %@"), {state.hardwareText}));
     m_vendor->setLine(filled(localized("Vendor %@"), {state.vendorText}));

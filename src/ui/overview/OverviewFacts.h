@@ -13,6 +13,7 @@ namespace quillon {
 
 class Badge;
 class OneLineLabel;
+class OverviewName;
 class Sign;
 class Theme;
 
@@ -32,21 +33,17 @@ public:
     void setInOneRow(bool inOneRow);
 
 private:
-    QWidget *makeName();
     QWidget *makeAddresses();
     void showAddress(const OverviewCell::State &state);
 
     Sign *m_port;
-    OneLineLabel *m_title;
-    Sign *m_dot;
-    OneLineLabel *m_link;
+    OverviewName *m_name;
     Sign *m_addressSign;
     QLabel *m_address;
     Badge *m_badge;
     OneLineLabel *m_hardware;
     OneLineLabel *m_vendor;
     QBoxLayout *m_columns;
-    QWidget *m_name;
     QWidget *m_addresses;
 };
 

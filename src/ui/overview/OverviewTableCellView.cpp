@@ -24,7 +24,7 @@ namespace {
 
 /// What is left and right of what is in the card: its edge (theme.qss) and its margin.
 constexpr int aside = 2 * (1 + Theme::cardMargin);
-constexpr int actionGap = Theme::unit / 2;
+constexpr int actionGap = Theme::unit / 4; ///< their paddings keep them apart
 constexpr int dotSize = 12;
 constexpr int quietPadding = 13; ///< of the first action, with its edge (theme.qss)
 constexpr int belowName = Theme::headerIconSize + Theme::spacing;
@@ -242,7 +242,9 @@ void OverviewTableCellView::arrange()
     m_top->setAlignment(m_actions, isWide ? Qt::AlignVCenter : Qt::AlignLeading);
     m_top->setSpacing(isWide ? Theme::unit : 0);
     // Below them they begin where the name does.
-    m_actions->layout()->setContentsMargins(isWide ? 0 : belowName - quietPadding, 0, 0, 0);
+    const int before = isWide ? 0 : belowName - quietPadding;
+    const bool mirrored = isRightToLeft();
+    m_actions->layout()->setContentsMargins(mirrored ? 0 : before, 0, mirrored ? before : 0, 0);
     m_facts->setInOneRow(room >= facts);
 }
 
@@ -302,10 +304,13 @@ void OverviewTableCellView::describe()
         setAccessibleName(name);
     }
     const QString address = state.addressNow.isEmpty() ? state.currentText : state.addressNow;
-    const QString description = plainParagraphs(QStringList{address,
-        address == state.hardwareText ? localized("Hardware") : localized("Changed"),
-        filled(localized("Vendor %@"), {state.vendorText}), state.rules.toolTip}
-            .join(u", "_s));
+    QStringList parts;
+    if (!address.isEmpty()) {
+        parts << address
+              << (address == state.hardwareText ? localized("Hardware") : localized("Changed"));
+    }
+    parts << filled(localized("Vendor %@"), {state.vendorText}) << state.rules.toolTip;
+    const QString description = plainParagraphs(parts.join(u", "_s));
     if (description != accessibleDescription()) {
         setAccessibleDescription(description);
     }

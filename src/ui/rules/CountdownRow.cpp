@@ -30,13 +30,19 @@ CountdownRow::CountdownRow(CountdownModel &model, const Theme &theme, QWidget *p
     m_label->setObjectName(u"timerLabel"_s);
     // A text that is too long takes a second line instead of widening the window.
     m_label->setWordWrap(true);
+    // Beside what it is about also where its language begins at the other side.
+    m_label->setAlignment(
+        Qt::AlignAbsolute | Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     setMinimumHeight(Theme::rowHeight);
     auto *line = new QHBoxLayout(this);
-    line->setContentsMargins(Theme::unit, 0, Theme::unit / 2, 0);
+    line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(Theme::unit / 2);
+    // No margins, which would not be mirrored.
+    line->addSpacing(Theme::unit);
     line->addWidget(m_label, 1);
     line->addWidget(m_pause);
     line->addWidget(m_resume);
+    line->addSpacing(Theme::unit / 2);
     connect(m_pause, &QToolButton::clicked, &m_model, &CountdownModel::pauseCountdownTimer);
     connect(m_resume, &QToolButton::clicked, &m_model, &CountdownModel::resumeCountdownTimer);
     connect(&m_model, &CountdownModel::changed, this, &CountdownRow::refresh);

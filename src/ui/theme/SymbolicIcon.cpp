@@ -28,12 +28,25 @@ void SymbolicIcon::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
 
 QPixmap SymbolicIcon::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State)
 {
-    QFile file(u":/icons/%1.svg"_s.arg(m_name));
     const Theme *theme = m_theme.data();
-    if (theme == nullptr || size.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+    if (theme == nullptr || size.isEmpty()) {
         return {};
     }
     const QColor color = mode == QIcon::Disabled ? theme->colors().disabledText : theme->ink(m_ink);
+    if (m_askedSize != size || m_drawnColor != color) {
+        m_drawn = draw(size, color);
+        m_askedSize = size;
+        m_drawnColor = color;
+    }
+    return m_drawn;
+}
+
+QPixmap SymbolicIcon::draw(const QSize &size, const QColor &color) const
+{
+    QFile file(u":/icons/%1.svg"_s.arg(m_name));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
     QByteArray drawing = file.readAll();
     drawing.replace("currentColor", color.name().toLatin1());
     QBuffer buffer(&drawing);

@@ -4,7 +4,9 @@
 
 #include "ui/theme/Theme.h"
 
+#include <QColor>
 #include <QIconEngine>
+#include <QPixmap>
 #include <QPointer>
 
 namespace quillon {
@@ -24,9 +26,15 @@ public:
     QString key() const override { return QStringLiteral("SymbolicIcon"); }
 
 private:
+    QPixmap draw(const QSize &size, const QColor &color) const;
+
     QPointer<const Theme> m_theme;
     QString m_name;
     Theme::Ink m_ink;
+    /// As it was drawn last: most are drawn again and again as they are.
+    QPixmap m_drawn;
+    QSize m_askedSize;
+    QColor m_drawnColor;
 };
 
 } // namespace quillon

@@ -40,16 +40,21 @@ Badge::Badge(const Theme &theme, const QString &text, Tone tone, QWidget *parent
 
 void Badge::setWord(const QString &text)
 {
-    m_text = plainLine(text);
-    setAccessibleName(m_text);
-    updateGeometry();
-    update();
+    const QString word = plainLine(text);
+    if (word != m_text) {
+        m_text = word;
+        setAccessibleName(m_text);
+        updateGeometry();
+        update();
+    }
 }
 
 void Badge::setTone(Tone tone)
 {
-    m_tone = tone;
-    update();
+    if (tone != m_tone) {
+        m_tone = tone;
+        update();
+    }
 }
 
 void Badge::setOnTint(bool onTint)

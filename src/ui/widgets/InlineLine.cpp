@@ -43,7 +43,6 @@ InlineLine::InlineLine(const Theme &theme, QWidget *parent)
     m_text->setFont(Theme::font(Theme::Type::Caption));
     m_text->setWordWrap(true);
     m_text->setMinimumHeight(QFontMetrics(m_text->font()).lineSpacing());
-    m_text->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_text, 1);
@@ -82,6 +81,9 @@ void InlineLine::makeRoom()
     const int room = hasSign() ? QFontMetrics(m_text->font()).lineSpacing() + Theme::unit / 2 : 0;
     const bool mirrored = isRightToLeft();
     layout()->setContentsMargins(mirrored ? 0 : room, 0, mirrored ? room : 0, 0);
+    // On its own it would stand where a text of its language begins, away from the sign.
+    m_text->setAlignment(
+        Qt::AlignAbsolute | Qt::AlignTop | (mirrored ? Qt::AlignRight : Qt::AlignLeft));
     update();
 }
 

@@ -4,8 +4,10 @@
 
 #include "ui/widgets/PlainText.h"
 
-#include <QHBoxLayout>
+#include <QEvent>
 #include <QLabel>
+
+#include <utility>
 
 namespace quillon {
 
@@ -14,11 +16,14 @@ OneLineLabel::OneLineLabel(Qt::TextElideMode leftOut, QWidget *parent)
     , m_label(plainLabel())
     , m_leftOut(leftOut)
 {
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    // In no layout: that would be laid out anew, and all that it is in, with every text.
+    m_label->setParent(this);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto *line = new QHBoxLayout(this);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(m_label);
+}
+
+QSize OneLineLabel::sizeHint() const
+{
+    return {0, m_label->sizeHint().height()};
 }
 
 void OneLineLabel::setLine(const QString &text)
@@ -38,12 +43,31 @@ void OneLineLabel::fit()
     const QString line = plainEntry(m_line);
     m_label->setText(plainEntry(m_label->fontMetrics().elidedText(line, m_leftOut, width())));
     m_label->setAccessibleName(line);
+    followHeight();
+}
+
+void OneLineLabel::followHeight()
+{
+    const int height = m_label->sizeHint().height();
+    if (height != std::exchange(m_height, height)) {
+        updateGeometry();
+    }
 }
 
 void OneLineLabel::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    m_label->resize(size());
     fit();
+}
+
+bool OneLineLabel::event(QEvent *event)
+{
+    // The label asks for another size, as with another font.
+    if (event->type() == QEvent::LayoutRequest) {
+        followHeight();
+    }
+    return QWidget::event(event);
 }
 
 } // namespace quillon

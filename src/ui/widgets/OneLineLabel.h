@@ -21,15 +21,20 @@ public:
     /// What shows it, for its look and its font.
     QLabel &label() const { return *m_label; }
 
+    QSize sizeHint() const override;
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     void fit();
+    void followHeight();
 
     QLabel *m_label;
     Qt::TextElideMode m_leftOut;
     QString m_line;
+    int m_height = 0; ///< that the label asked for
 };
 
 } // namespace quillon

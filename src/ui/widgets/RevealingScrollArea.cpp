@@ -50,8 +50,14 @@ bool RevealingScrollArea::event(QEvent *event)
 void RevealingScrollArea::reveal(QWidget *focused)
 {
     // What is pressed stays under the pointer until it is released.
-    if (focused != nullptr && widget()->isAncestorOf(focused) &&
-        QGuiApplication::mouseButtons() == Qt::NoButton) {
+    if (focused == nullptr || !widget()->isAncestorOf(focused) ||
+        QGuiApplication::mouseButtons() != Qt::NoButton) {
+        return;
+    }
+    if (focused->height() + 2 * ringRoom > viewport()->height()) {
+        // What it is stands where it begins.
+        verticalScrollBar()->setValue(focused->mapTo(widget(), QPoint(0, 0)).y() - ringRoom);
+    } else {
         ensureWidgetVisible(focused, ringRoom, 2 * ringRoom);
     }
 }

@@ -17,8 +17,12 @@ Sign::Sign(const Theme &theme, int size, QWidget *parent)
 
 void Sign::setSign(const QString &icon, Theme::Ink ink)
 {
-    m_icon = m_theme.icon(icon, ink);
-    update();
+    if (icon != m_name || ink != m_ink) {
+        m_name = icon;
+        m_ink = ink;
+        m_icon = m_theme.icon(icon, ink);
+        update();
+    }
 }
 
 void Sign::paintEvent(QPaintEvent *)

@@ -26,6 +26,8 @@ protected:
 
 private:
     const Theme &m_theme;
+    QString m_name;
+    Theme::Ink m_ink = Theme::Ink::Text;
     QIcon m_icon;
 };
 

@@ -210,6 +210,23 @@ TEST_F(OverviewCellTest, SaysWhyAButtonCannotBeUsed)
     EXPECT_EQ(shown().restore.hint, u"The interface has no factory address that is known"_s);
 }
 
+TEST_F(OverviewCellTest, IsCalledByItsDeviceAloneWhereThePortHasNoName)
+{
+    OverviewRow row = shown().row;
+    row.interface.clear();
+    cell().setRow(row);
+    EXPECT_EQ(shown().title, wired);
+}
+
+TEST_F(OverviewCellTest, TakesAVendorWithoutANameForAnyVendor)
+{
+    OverviewRow row = shown().row;
+    row.vendor.clear();
+    cell().setRow(row);
+    EXPECT_EQ(shown().vendorText, u"Random Address"_s);
+    EXPECT_EQ(shown().row.vendor, QString());
+}
+
 TEST_F(OverviewCellTest, EndsWithItsController)
 {
     overview.releaseOverviewWindow();

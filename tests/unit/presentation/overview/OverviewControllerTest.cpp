@@ -4,6 +4,9 @@
 
 #include "OverviewFixture.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
@@ -62,6 +65,25 @@ TEST_F(OverviewControllerTest, HasARowForEachInterfaceInTheOrderOfEveryList)
                                   .hasRule = 1,
                                   .addressIsDefault = true,
                                   .addressIcon = u"dot.viewfinder"_s}));
+}
+
+TEST_F(OverviewControllerTest, NamesWifiAndNoVendorInTheUsersLanguage)
+{
+    class Everything : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return u"<%1>"_s.arg(QString::fromUtf8(text));
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QCoreApplication::installTranslator(&translator);
+    open();
+    QCoreApplication::removeTranslator(&translator);
+    EXPECT_EQ(wifiRow().row.interface, u"<Wi-Fi>"_s);
+    EXPECT_EQ(wiredRow().row.interface, u"Ethernet"_s);
+    EXPECT_EQ(wiredRow().row.vendor, u"<Random Address>"_s);
 }
 
 TEST_F(OverviewControllerTest, TakesAnAddressThatDiffersInCaseAloneForTheDefault)

@@ -5,6 +5,8 @@
 #include "app/features/Features.h"
 #include "base/SettingsKeys.h"
 #include "face/FaceProgram.h"
+#include "ui/overview/OverviewFacts.h"
+#include "ui/overview/OverviewName.h"
 #include "ui/overview/OverviewTable.h"
 #include "ui/overview/OverviewTableCellView.h"
 #include "ui/widgets/BusyButton.h"
@@ -13,6 +15,7 @@
 #include "ui/widgets/Strip.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -79,6 +82,7 @@ TEST_F(OverviewWindowTest, IsReadWhenItIsOpenedAndReleasedWhenItIsClosed)
     ASSERT_NE(overview().controller(), nullptr);
     EXPECT_EQ(cell(0).row().device, FaceProgram::radio);
     EXPECT_EQ(cell(1).row().device, FaceProgram::wire);
+    EXPECT_EQ(cell(1).objectName(), u"mainCell"_s);
     EXPECT_EQ(table().cell(2), nullptr);
     window().close();
     EXPECT_EQ(overview().controller(), nullptr);
@@ -237,6 +241,132 @@ TEST_F(OverviewWindowTest, GivesTheKeyboardBackToAButtonThatWasHiddenForAMoment)
     program.settle();
     EXPECT_TRUE(pause.isVisible());
     EXPECT_TRUE(pause.hasFocus());
+}
+
+/// Which parts of a window were drawn, and which were laid out.
+class Touched : public QObject
+{
+public:
+    explicit Touched(const QWidget &window)
+        : m_window(window)
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *part = qobject_cast<QWidget *>(watched);
+        if (part != nullptr && part->window() == &m_window) {
+            if (event->type() == QEvent::Paint) {
+                drawn.insert(part);
+            } else if (event->type() == QEvent::LayoutRequest && part->layout() != nullptr) {
+                laidOut.insert(part);
+            }
+        }
+        return false;
+    }
+
+    QSet<QWidget *> drawn;
+    QSet<QWidget *> laidOut;
+
+private:
+    const QWidget &m_window;
+};
+
+TEST_F(OverviewWindowTest, DrawsNothingButTheCountdownWhenItTicks)
+{
+    program.saveRule(FaceProgram::repeatedRule(u"Repeated"_s));
+    plug(30);
+    open();
+    // Until no digits come that are wider than all before.
+    for (int second = 0; second < 30; ++second) {
+        program.machine.scheduler.advance(1s);
+        program.settle();
+    }
+    auto &label = part<QLabel>(0, u"timerLabel"_s);
+    const QString before = label.text();
+    Touched touched(window());
+    program.machine.scheduler.advance(1s);
+    program.settle();
+    EXPECT_NE(label.text(), before);
+    EXPECT_TRUE(touched.drawn.remove(&label));
+    for (QWidget *part : std::as_const(touched.drawn)) {
+        EXPECT_TRUE(part->isAncestorOf(&label)) << part->metaObject()->className();
+    }
+    EXPECT_TRUE(touched.laidOut.isEmpty()) << (*touched.laidOut.begin())->metaObject()->className();
+}
+
+TEST_F(OverviewWindowTest, PutsADeviceBelowItsPortWhereThereIsNoRoomBesideIt)
+{
+    program.machine.host.plug({u"USB 10/100/1000 LAN of the dock"_s, u"enx00005e005310"_s,
+        u"00:00:5e:00:53:10"_s, u"00:00:5e:00:53:10"_s, {}});
+    open();
+    ASSERT_EQ(cell(2).row().device, u"enx00005e005310"_s);
+    const auto shows = [](int row, const QString &text) {
+        const QList<QLabel *> labels = cell(row).findChildren<QLabel *>();
+        return std::ranges::any_of(labels,
+            [&text](const QLabel *label) { return label->isVisible() && label->text() == text; });
+    };
+    EXPECT_TRUE(shows(1, u"Ethernet · enp1s0"_s));
+    EXPECT_FALSE(shows(1, u"enp1s0"_s));
+    EXPECT_TRUE(shows(2, u"enx00005e005310"_s)) << "in full";
+    EXPECT_GT(cell(2).findChild<OverviewFacts *>()->geometry().bottom(),
+        part(2, u"randomizeRow"_s).parentWidget()->geometry().bottom())
+        << "its actions are beside it";
+    window().resize(1600, 500);
+    program.settle();
+    EXPECT_TRUE(shows(2, u"USB 10/100/1000 LAN of the dock · enx00005e005310"_s));
+    EXPECT_FALSE(shows(2, u"enx00005e005310"_s));
+}
+
+class OverviewWindowMirrored : public OverviewWindowTest, public ::testing::WithParamInterface<bool>
+{
+protected:
+    OverviewWindowMirrored()
+    {
+        QApplication::setLayoutDirection(GetParam() ? Qt::RightToLeft : Qt::LeftToRight);
+    }
+    ~OverviewWindowMirrored() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
+    /// How far from where the card begins.
+    static int beginOf(const QWidget &part)
+    {
+        const QRect place(part.mapTo(&cell(0), QPoint(0, 0)), part.size());
+        return GetParam() ? cell(0).width() - 1 - place.right() : place.left();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(OverviewWindow, OverviewWindowMirrored, ::testing::Bool(),
+    [](const auto &mirrored) { return mirrored.param ? "RightToLeft" : "LeftToRight"; });
+
+TEST_P(OverviewWindowMirrored, HasAllLinesOfACardBeginWhereItsNameDoes)
+{
+    program.saveRule(FaceProgram::repeatedRule(u"Repeated"_s));
+    open();
+    program.machine.scheduler.advance(2s);
+    program.machine.helper.mood = FakeHelper::Mood::Refusing;
+    part(0, u"randomizeRow"_s).click();
+    window().resize(1, 1);
+    program.settle();
+    const int name = beginOf(*cell(0).findChild<OverviewName *>());
+    EXPECT_GT(name, Theme::headerIconSize);
+    EXPECT_EQ(beginOf(part<QLabel>(0, u"timerLabel"_s)), name);
+    EXPECT_EQ(beginOf(*cell(0).findChild<InlineLine *>()), name);
+    // Its first letter, not its padding.
+    EXPECT_NEAR(beginOf(part(0, u"rulesButton"_s)), name, Theme::unit + Theme::spacing / 2);
+}
+
+TEST_F(OverviewWindowTest, IsMovedByItsGround)
+{
+    open();
+    window().resize(900, 700);
+    program.settle();
+    const auto ground = [](const QWidget &part, QPoint place) {
+        return isGround(window(), part.mapTo(&window(), place));
+    };
+    EXPECT_TRUE(isGround(window(), QPoint(2, 2)));
+    const QWidget &below = *table().viewport();
+    EXPECT_TRUE(ground(below, QPoint(below.width() / 2, below.height() - 2))) << "below the cards";
+    EXPECT_FALSE(ground(cell(0), cell(0).rect().center()));
+    EXPECT_FALSE(ground(part(0, u"restoreRow"_s), QPoint(4, 4))) << "though it is disabled";
 }
 
 TEST_F(OverviewWindowTest, LetsCountdownsTickOnlyWhileItIsSeen)

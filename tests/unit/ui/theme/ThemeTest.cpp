@@ -3,6 +3,7 @@
 #include "ui/theme/Theme.h"
 
 #include "fakes/QtPrinting.h"
+#include "ui/theme/SymbolicIcon.h"
 
 #include <QApplication>
 #include <QFile>
@@ -143,6 +144,7 @@ TEST(ThemeSymbolicIcons, FollowTheScheme)
 {
     Theme theme;
     const QIcon dot = theme.icon(u"link-active"_s, Theme::Ink::Positive);
+    EXPECT_EQ(middleOf(dot, 20), ThemeColors::forScheme(ColorScheme::Light).positive);
     theme.setScheme(ColorScheme::Dark);
     EXPECT_EQ(middleOf(dot, 20), ThemeColors::forScheme(ColorScheme::Dark).positive);
 }
@@ -153,6 +155,19 @@ TEST(ThemeSymbolicIcons, AreAsSharpAsTheScreen)
     const QPixmap picture = theme.icon(u"random"_s, Theme::Ink::Text).pixmap(QSize(20, 20), 2.0);
     EXPECT_EQ(picture.size(), QSize(40, 40));
     EXPECT_EQ(picture.devicePixelRatio(), 2.0);
+}
+
+TEST(ThemeSymbolicIcons, AreDrawnOnceForEachSizeAndColor)
+{
+    const Theme theme;
+    SymbolicIcon dot(theme, u"link-active"_s, Theme::Ink::Positive);
+    const auto draw = [&dot](int size, QIcon::Mode mode) {
+        return dot.pixmap(QSize(size, size), mode, QIcon::Off).cacheKey();
+    };
+    const qint64 first = draw(20, QIcon::Normal);
+    EXPECT_EQ(draw(20, QIcon::Normal), first);
+    EXPECT_NE(draw(20, QIcon::Disabled), first);
+    EXPECT_EQ(dot.pixmap(QSize(40, 40), QIcon::Normal, QIcon::Off).size(), QSize(40, 40));
 }
 
 TEST(ThemeSymbolicIcons, OfAnUnknownNameAreEmpty)

@@ -65,6 +65,19 @@ TEST_F(InlineLineTest, HasASignBesideItsColor)
     EXPECT_FALSE(shows(theme.colors().notice, 0, sign));
 }
 
+TEST_F(InlineLineTest, StandsBesideItsSignInAMirroredWindowWhateverItsLanguage)
+{
+    constexpr int nearBy = 60;
+    line->setLayoutDirection(Qt::RightToLeft);
+    line->say(u"Wrong"_s, InlineLine::Kind::Danger);
+    settle();
+    ASSERT_GT(line->width(), 2 * nearBy);
+    EXPECT_FALSE(shows(theme.colors().danger, 0, line->width() - nearBy - nearBy / 2));
+    line->setLayoutDirection(Qt::LeftToRight);
+    settle();
+    EXPECT_FALSE(shows(theme.colors().danger, nearBy + nearBy / 2, line->width()));
+}
+
 TEST_F(InlineLineTest, IsOneTextToAssistiveTechnology)
 {
     line->say(u"This is not a MAC address."_s, InlineLine::Kind::Danger);

@@ -50,6 +50,15 @@ TEST_F(RevealingScrollAreaTest, ShowsWhatGetsTheKeyboard)
         << "with what is above it, and the ring around it";
 }
 
+TEST_F(RevealingScrollAreaTest, ShowsTheBeginningOfWhatIsHigherThanItself)
+{
+    buttons[30]->setFixedHeight(2 * area->viewport()->height());
+    settle();
+    buttons[30]->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(
+        buttons[30]->mapTo(area->viewport(), QPoint(0, 0)).y(), RevealingScrollArea::ringRoom);
+}
+
 TEST_F(RevealingScrollAreaTest, MayGoWithTheKeyboardInIt)
 {
     buttons[30]->setFocus();
