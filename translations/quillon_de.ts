@@ -1816,10 +1816,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Jede Änderung einer Adresse wird hier aufgelistet.</translation>
     </message>
     <message>
-        <source>Select at most %@ to save them.</source>
-        <translation>Zum Speichern höchstens %@ auswählen.</translation>
-    </message>
-    <message>
         <source>Deleting…</source>
         <translation>Wird gelöscht…</translation>
     </message>
@@ -2014,6 +2010,18 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Opens the rule editor</source>
         <translation>Öffnet die Bearbeitung der Regeln</translation>
+    </message>
+    <message>
+        <source>%@ were saved. Save again for more.</source>
+        <translation>%@ wurden gespeichert. Für weitere erneut speichern.</translation>
+    </message>
+    <message>
+        <source>The records could not be read.</source>
+        <translation>Die Einträge konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation>Wird gespeichert…</translation>
     </message>
 </context>
 </TS>

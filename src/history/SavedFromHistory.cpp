@@ -41,16 +41,15 @@ void SavedFromHistory::addAddresses(const QList<Connection> &records)
 {
     add(m_settings, keys::savedAddresses, records, [](const Connection &record) {
         const QString address = record.address();
-        return std::pair(address, SavedEntry{.name = address, .address = address});
+        return std::pair(address, SavedEntry::ofAddress(address));
     });
 }
 
 void SavedFromHistory::addNetworks(const QList<Connection> &records)
 {
     add(m_settings, keys::savedNetworks, records, [](const Connection &record) {
-        const QString bssid = record.bssid().toLower();
-        const QString ssid = record.ssid();
-        return std::pair(bssid, SavedEntry{.name = ssid, .ssid = ssid, .bssid = bssid});
+        return std::pair(
+            record.bssid().toLower(), SavedEntry::ofNetwork(record.bssid(), record.ssid()));
     });
 }
 

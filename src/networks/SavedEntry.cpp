@@ -24,6 +24,16 @@ const Field fields[] = {
 
 } // namespace
 
+SavedEntry SavedEntry::ofAddress(const QString &address)
+{
+    return {.name = address, .address = address};
+}
+
+SavedEntry SavedEntry::ofNetwork(const QString &bssid, const QString &ssid)
+{
+    return {.name = ssid, .ssid = ssid, .bssid = bssid.toLower()};
+}
+
 SavedEntry SavedEntry::fromPropertyList(const QVariant &stored)
 {
     SavedEntry entry;

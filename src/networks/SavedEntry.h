@@ -19,6 +19,10 @@ struct SavedEntry
     /// Keys that are not ours, and values that are no texts.
     QVariantMap other = {};
 
+    /// As it is saved first: its own name.
+    static SavedEntry ofAddress(const QString &address);
+    /// As it is saved first: under the BSSID in lower case, by the name that it broadcasts.
+    static SavedEntry ofNetwork(const QString &bssid, const QString &ssid);
     /// Empty when `stored` is no dictionary.
     static SavedEntry fromPropertyList(const QVariant &stored);
     QVariantMap toPropertyList() const;
