@@ -126,7 +126,7 @@ private:
 };
 
 /// While it lives, SQLite gives a statement up that takes more steps of its machine than are made
-/// in about two milliseconds.
+/// in about a millisecond.
 class StepLimit
 {
 public:
@@ -146,7 +146,7 @@ public:
     bool isReached() const { return m_isReached; }
 
 private:
-    static constexpr int steps = 100'000;
+    static constexpr int steps = 50'000;
 
     SQLite::Database &m_database;
     bool m_isReached = false;
