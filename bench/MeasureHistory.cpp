@@ -225,8 +225,9 @@ private:
         qsizetype letters = 0;
         const qsizetype rows = std::min<qsizetype>(m_model.rows().size(), page);
         for (qsizetype row = 0; row < rows; ++row) {
+            // As SQLite is asked for them: what they hold, and not yet how that is put into words.
             for (const HistoryColumn column : historyColumns) {
-                letters += m_model.text(row, column).size();
+                letters += m_model.rows().at(row)->value(attributeOf(column)).toString().size();
             }
         }
         const auto first = Clock::now();

@@ -2155,5 +2155,17 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Name (optional)</source>
         <translation>Name (freiwillig)</translation>
     </message>
+    <message>
+        <source>%@ were saved. Save again for more.</source>
+        <translation>%@ wurden gespeichert. Für weitere erneut speichern.</translation>
+    </message>
+    <message>
+        <source>The records could not be read.</source>
+        <translation>Die Einträge konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation>Wird gespeichert…</translation>
+    </message>
 </context>
 </TS>

@@ -14,9 +14,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What programs that calculate take for the beginning of a formula.
-constexpr QStringView formulaStarts = u"=+-@\t\r";
+/// What programs that calculate take for the beginning of a formula; some also in full width.
+constexpr QStringView formulaStarts = u"=+-@\uFF1D\uFF0B\uFF0D\uFF20";
+constexpr QStringView partEnds = u";\t\r\n";
 constexpr QStringView quotedFor = u",\"\r\n";
+
+/// Whether `text` begins like a formula, or like what is written before one. Spaces are no
+/// protection: they are passed over.
+bool startsFormula(QStringView text)
+{
+    const auto begin =
+        std::ranges::find_if(text, [](QChar character) { return character != u' '; });
+    return begin != text.end() && (*begin == u'\'' || formulaStarts.contains(*begin));
+}
+
+/// With an apostrophe before each part that begins like a formula. Parts are what a program gets
+/// that takes semicolons, tabs or line breaks for the ends of fields.
+QString defused(const QString &text)
+{
+    QString safe;
+    if (!text.isEmpty() && partEnds.contains(text.front()) && text.front() != u';') {
+        // Some take that away, and the rest for the beginning.
+        safe += u'\'';
+    }
+    bool isStart = true;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (isStart && startsFormula(QStringView(text).sliced(index))) {
+            safe += u'\'';
+        }
+        safe += text[index];
+        isStart = partEnds.contains(text[index]);
+    }
+    return safe;
+}
 
 QByteArray fieldOf(const QVariant &value)
 {
@@ -29,11 +59,9 @@ QByteArray fieldOf(const QVariant &value)
 
 } // namespace
 
-QByteArray csvField(QString text)
+QByteArray csvField(const QString &field)
 {
-    if (!text.isEmpty() && (text.front() == u'\'' || formulaStarts.contains(text.front()))) {
-        text.prepend(u'\'');
-    }
+    QString text = defused(field);
     const bool isQuoted =
         std::ranges::any_of(text, [](QChar character) { return quotedFor.contains(character); });
     if (isQuoted) {

@@ -24,8 +24,11 @@ std::optional<Predicate> historyCondition(const QString &type, const QString &te
 FetchRequest historyRequest(
     const std::optional<Predicate> &condition, HistoryColumn column, bool ascending)
 {
-    FetchRequest request{model::Connection, condition, {{attributeOf(column), ascending}}};
-    if (column == HistoryColumn::Date) {
+    const bool isByDate = column == HistoryColumn::Date;
+    // Addresses are shown in letters of one case, whichever their records have.
+    FetchRequest request{
+        model::Connection, condition, {{attributeOf(column), ascending, !isByDate}}};
+    if (isByDate) {
         request.latestFirst = !ascending;
     } else {
         request.order << SortDescriptor{model::connection::date, false};

@@ -30,6 +30,7 @@ struct RecordListing::Search
     bool isAnew = true; ///< else it looks what became of the list
     bool hasFound = false;
     bool isOutdated = false; ///< what it finds may have been deleted since it began
+    QList<qint64> ahead;     ///< shown already, and not yet found by it
     std::atomic_bool isCancelled = false;
 };
 
@@ -66,6 +67,7 @@ void RecordListing::show(const FetchRequest &request)
         Q_EMIT progressed();
     }
     search(true);
+    showAtOnce();
 }
 
 void RecordListing::clear()
@@ -164,6 +166,19 @@ void RecordListing::search(bool isAnew)
     });
 }
 
+/// Most of what is asked for has a page that is found faster than the way into the background
+/// takes. The search under way finds it again, and then the rest.
+void RecordListing::showAtOnce()
+{
+    const auto page =
+        m_records.managedObjectContext().keysAtOnce(*m_request, RecordReader::firstKeys);
+    if (m_search && page && !page->isEmpty()) {
+        m_search->hasFound = true;
+        m_search->ahead = *page;
+        replaceAll(*page);
+    }
+}
+
 void RecordListing::cancel()
 {
     if (m_search) {
@@ -181,12 +196,27 @@ void RecordListing::take(const std::shared_ptr<Search> &search, const QList<qint
         if (!search->isOutdated) {
             takeOver(keys);
         }
-    } else if (std::exchange(search->hasFound, true)) {
-        Q_EMIT aboutToInsert(m_keys.size(), m_keys.size() + keys.size() - 1);
-        m_keys << keys;
-        Q_EMIT inserted();
-    } else {
+    } else if (!std::exchange(search->hasFound, true)) {
         replaceAll(keys);
+    } else {
+        append(*search, keys);
+    }
+}
+
+void RecordListing::append(Search &search, const QList<qint64> &keys)
+{
+    const qsizetype known = std::min(search.ahead.size(), keys.size());
+    if (search.ahead.first(known) != keys.first(known)) {
+        // Somebody wrote between the two looks.
+        search.ahead.clear();
+        replaceAll(keys);
+        return;
+    }
+    search.ahead.remove(0, known);
+    if (known < keys.size()) {
+        Q_EMIT aboutToInsert(m_keys.size(), m_keys.size() + keys.size() - known - 1);
+        m_keys << keys.sliced(known);
+        Q_EMIT inserted();
     }
 }
 
@@ -206,7 +236,7 @@ void RecordListing::end(const std::shared_ptr<Search> &search, const std::option
     m_isComplete = true;
     m_total = total ? total : m_total;
     Q_EMIT progressed();
-    if (std::exchange(m_isStale, false)) {
+    if (std::exchange(m_isStale, false) || !search->ahead.isEmpty()) {
         refreshSoon();
     }
 }

@@ -68,10 +68,12 @@ private:
     struct Search;
 
     void search(bool isAnew);
+    void showAtOnce();
     void take(const std::shared_ptr<Search> &search, const QList<qint64> &keys);
     void end(const std::shared_ptr<Search> &search, const std::optional<Error> &error,
         const std::optional<qint64> &total);
     void cancel();
+    void append(Search &search, const QList<qint64> &keys);
     void replaceAll(const QList<qint64> &keys);
     void takeOver(const QList<qint64> &keys);
     void removeKeys(const QSet<qint64> &keys);

@@ -9,6 +9,13 @@
 
 namespace quillon {
 
+namespace {
+
+/// A multiple of what is deleted at once. Lists let go of what is deleted while the rest is.
+constexpr qsizetype keysBetweenMerges = 20'000;
+
+} // namespace
+
 RecordRemoval::RecordRemoval(RecordStore &records, Scheduler &scheduler)
     : m_records(records)
     , m_scheduler(scheduler)
@@ -31,8 +38,13 @@ void RecordRemoval::remove(const QString &entityName, const QList<qint64> &keys)
         return;
     }
     m_isStopped = std::make_shared<std::atomic_bool>(false);
-    const auto progressed = m_scheduler.replyOnMain<qsizetype>(
-        this, [this, of = keys.size()](qsizetype done) { Q_EMIT this->progressed(done, of); });
+    const auto progressed =
+        m_scheduler.replyOnMain<qsizetype>(this, [this, of = keys.size()](qsizetype done) {
+            Q_EMIT this->progressed(done, of);
+            if (done % keysBetweenMerges == 0) {
+                m_records.managedObjectContext().mergeChangesFromStore();
+            }
+        });
     const auto ended = m_scheduler.replyOnMain<qsizetype, std::optional<Error>>(
         this, [this](qsizetype done, const std::optional<Error> &error) { end(done, error); });
     m_scheduler.inBackground([path = m_records.path(), entity = *entity, keys,

@@ -23,6 +23,11 @@ public:
         QString path, Entity entity, QList<qint64> keys, QHash<qint64, QVariantList> unsaved);
 
     const QList<qint64> &keys() const { return m_keys; }
+    /// Of it those of these keys, in their order.
+    RecordSnapshot of(const QList<qint64> &keys) const
+    {
+        return {m_path, m_entity, keys, m_unsaved};
+    }
     const Entity &entity() const { return m_entity; }
 
     /// Reads the records from the file, in their order and without those that are gone by now, and

@@ -103,11 +103,6 @@ void RecordStore::redo()
     }
 }
 
-int RecordStore::undoPosition() const
-{
-    return m_context ? m_context->undoManager().index() : 0;
-}
-
 std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
 {
     // For its owner alone: records tell where somebody has been. What prevents it shows when the
@@ -133,7 +128,7 @@ std::unique_ptr<ManagedObjectContext> RecordStore::replaceContext()
     const QUndoStack &undoManager = context.undoManager();
     connect(&undoManager, &QUndoStack::canUndoChanged, this, &RecordStore::undoChanged);
     connect(&undoManager, &QUndoStack::canRedoChanged, this, &RecordStore::undoChanged);
-    connect(&undoManager, &QUndoStack::indexChanged, this, &RecordStore::undoPositionChanged);
+    connect(&undoManager, &QUndoStack::indexChanged, this, &RecordStore::undoPlaceChanged);
     return std::exchange(m_context, std::move(opened.value()));
 }
 

@@ -46,12 +46,10 @@ public:
     bool canUndo() const;
     bool canRedo() const;
     bool hasChanges() const;
-    /// How many steps can be undone: who remembers it tells whether another step came since.
+    /// How many steps can be undone: as long as that stays, the last step is the same.
     int undoPlace() const;
     void undo();
     void redo();
-    /// How many steps could be undone: as long as it stays, the last step is the same.
-    int undoPosition() const;
 
 Q_SIGNALS:
     /// A new context stands in place of the old one: whoever shows records fetches anew.
@@ -62,7 +60,7 @@ Q_SIGNALS:
     void saved();
     /// canUndo() or canRedo() is not what it was.
     void undoChanged();
-    void undoPositionChanged();
+    void undoPlaceChanged();
 
 private:
     /// Puts a new context in place of the present one, which it gives back.

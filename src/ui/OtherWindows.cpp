@@ -31,11 +31,11 @@ void OtherWindows::goTo(Destination destination)
     if (destination == Destination::Overview) {
         openOverview();
     } else if (destination == Destination::History) {
-        openHistory();
+        openHistoryWindow();
     }
 }
 
-void OtherWindows::openHistory()
+void OtherWindows::openHistoryWindow()
 {
     if (m_history == nullptr) {
         m_history = std::make_unique<HistoryWindow>(

@@ -44,7 +44,7 @@ public:
 
 private:
     void goTo(Destination destination);
-    void openHistory();
+    void openHistoryWindow();
     void openPreferences();
     void openOverview();
 

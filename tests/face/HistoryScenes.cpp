@@ -8,6 +8,7 @@
 #include "ui/history/HistoryTable.h"
 
 #include <QAbstractButton>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 
 namespace quillon::test {
@@ -82,7 +83,9 @@ void selectInHistory(FaceProgram &program)
     fillHistory(program);
     HistoryTable &table = openHistory(program);
     table.setFocus();
-    table.selectRow(1);
+    // Qt's selectRow() selects nothing in a mirrored table whose columns fill it.
+    table.selectionModel()->setCurrentIndex(table.model()->index(1, 0),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 using P = FaceProgram;

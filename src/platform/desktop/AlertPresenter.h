@@ -13,7 +13,8 @@ struct Alert
 {
     QString message;
     QString informativeText;
-    QStringList buttons; ///< the first one is the default
+    QStringList buttons;
+    int defaultButton = 0; ///< the one that Return chooses
 
     bool operator==(const Alert &) const = default;
 };

@@ -9,6 +9,8 @@
 #include "presentation/history/HistoryMoment.h"
 #include "store/graph/FetchFailure.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <utility>
 
@@ -21,7 +23,7 @@ HistoryController::HistoryController(const Parts &parts)
     , m_note(parts.records)
     , m_deletion(parts.records, parts.scheduler, parts.alerts)
     , m_export(parts.scheduler)
-    , m_saved(parts.settings)
+    , m_selection(m_rows, parts.settings, parts.scheduler)
     , m_letters(parts.settings)
 {
     for (const auto signal : {&RecordListing::reset, &RecordListing::inserted,
@@ -29,6 +31,7 @@ HistoryController::HistoryController(const Parts &parts)
         connect(&m_rows, signal, this, &HistoryController::refreshSoon);
     }
     connect(&m_rows, &RecordListing::valuesChanged, this, &HistoryController::rowsReloaded);
+    connect(&m_rows, &RecordListing::valuesChanged, &m_selection, &HistorySelection::lookAgain);
     connect(&m_rows, &RecordListing::failed, this,
         [](const Error &error) { logFetchFailure(logHistory, error); });
     connect(&m_note, &HistoryNote::lost, this,
@@ -39,6 +42,15 @@ HistoryController::HistoryController(const Parts &parts)
         m_exporting = {localized("Exporting…"), written, of};
         refreshWork();
     });
+    connect(&m_selection, &HistorySelection::looked, this, &HistoryController::refreshSoon);
+    connect(
+        &m_selection, &HistorySelection::progressChanged, this, &HistoryController::refreshWork);
+    connect(&m_selection, &HistorySelection::cutAt, this, [this](qsizetype count) {
+        Q_EMIT said(
+            filled(localized("%@ were saved. Save again for more."), {QLocale().toString(count)}));
+    });
+    connect(&m_selection, &HistorySelection::failed, this,
+        [this] { fail(localized("The records could not be read.")); });
     const auto endExport = [this] {
         m_exporting.reset();
         refreshWork();
@@ -72,8 +84,8 @@ void HistoryController::windowDidLoad()
     };
     observe(keys::lowerCaseHEX, &HistoryController::reloadArrayController);
     observe(keys::historySearchType, &HistoryController::updateSearchField);
-    observe(keys::savedAddresses, &HistoryController::refreshSoon);
-    observe(keys::savedNetworks, &HistoryController::refreshSoon);
+    observe(keys::savedAddresses, &HistoryController::lookAtSavedAnew);
+    observe(keys::savedNetworks, &HistoryController::lookAtSavedAnew);
     updateSearchField();
 }
 
@@ -95,7 +107,7 @@ void HistoryController::windowDidClose()
     if (m_patience) {
         m_scheduler.cancel(*std::exchange(m_patience, std::nullopt));
     }
-    m_selected.clear();
+    m_selection.clear();
     m_rows.clear();
 }
 
@@ -143,8 +155,9 @@ void HistoryController::updateSearchField()
 void HistoryController::controlTextDidChange(const QString &text)
 {
     m_condition = historyCondition(m_settings.getString(keys::historySearchType), text);
-    m_state.update([&](State &state) { state.searchText = text; });
+    // The rows first: everything else is shown for longer.
     search();
+    m_state.update([&](State &state) { state.searchText = text; });
 }
 
 void HistoryController::sortBy(HistoryColumn column, bool isAscending)
@@ -223,11 +236,11 @@ QString HistoryController::summary() const
 
 QString HistoryController::detail() const
 {
-    const qsizetype count = selectedCount();
+    const qsizetype count = m_selection.count();
     if (count > 1) {
         return filled(localized("%@ selected"), {recordsText(count)});
     }
-    const auto records = selectedRecords(1);
+    const auto records = m_selection.records(1);
     if (records.isEmpty()) {
         return {};
     }
@@ -252,28 +265,33 @@ void HistoryController::refresh()
     if (m_rows.isComplete() && m_patience) {
         m_scheduler.cancel(*std::exchange(m_patience, std::nullopt));
     }
-    const qsizetype count = selectedCount();
-    const bool isEmpty = m_rows.isComplete() && m_rows.size() == 0;
+    // Until it is known what there is, that nothing was found before is what is shown.
+    const bool isKnown = m_rows.isComplete() || m_rows.size() > 0 || !m_isOpen;
     m_state.update([&](State &state) {
         state.summary = summary();
-        state.emptySentence.clear();
-        state.clearOffered = isEmpty && m_condition;
-        if (state.clearOffered) {
-            state.emptySentence =
-                filled(localized("Nothing contains “%@”. Upper and lower case matter."),
-                    {state.searchText});
-        } else if (isEmpty) {
-            state.emptySentence = localized("Every address change is listed here.");
+        if (isKnown) {
+            showEmptiness(state);
         }
         state.addressesEnabled = validateUserInterfaceItem(addressesTag);
         state.networksEnabled = validateUserInterfaceItem(networksTag);
-        state.savingHint = count > mostSaved ? filled(localized("Select at most %@ to save them."),
-                                                   {recordsText(mostSaved)})
-                                             : QString();
-        state.deleteEnabled = count > 0 && !m_deletion.progress();
+        state.deleteEnabled = m_selection.count() > 0 && !m_deletion.progress();
         state.exportEnabled = m_rows.isComplete() && m_rows.size() > 0 && !m_export.isRunning();
         state.detail = detail();
     });
+}
+
+void HistoryController::showEmptiness(State &state) const
+{
+    const bool isEmpty = m_rows.isComplete() && m_rows.size() == 0;
+    state.clearOffered = isEmpty && m_condition;
+    if (state.clearOffered) {
+        state.emptySentence =
+            filled(localized("Nothing contains “%@”. Upper and lower case matter."),
+                {shortened(state.searchText)});
+    } else {
+        state.emptySentence =
+            isEmpty ? localized("Every address change is listed here.") : QString();
+    }
 }
 
 void HistoryController::refreshWork()
@@ -282,6 +300,8 @@ void HistoryController::refreshWork()
         state.work = m_exporting;
         if (const auto &progress = m_deletion.progress()) {
             state.work = {localized("Deleting…"), progress->done, progress->of};
+        } else if (const auto &saving = m_selection.progress()) {
+            state.work = {localized("Saving…"), saving->done, saving->of};
         }
     });
     refreshSoon();
@@ -320,63 +340,36 @@ void HistoryController::setColumnWidths(const QList<int> &widths)
 
 void HistoryController::select(const QList<Rows> &rows)
 {
-    m_selected = rows;
+    m_selection.set(rows);
     refreshSoon();
 }
 
-qsizetype HistoryController::selectedCount() const
+void HistoryController::lookAtSavedAnew()
 {
-    qsizetype count = 0;
-    for (const Rows &rows : m_selected) {
-        count += std::max<qsizetype>(std::min(rows.last, m_rows.size() - 1) - rows.first + 1, 0);
-    }
-    return count;
-}
-
-QList<Connection> HistoryController::selectedRecords(qsizetype most) const
-{
-    QList<Connection> records;
-    for (const Rows &rows : m_selected) {
-        for (qsizetype row = rows.first; row <= rows.last && row < m_rows.size(); ++row) {
-            if (records.size() == most) {
-                return records;
-            }
-            if (const auto object = m_rows.at(row)) {
-                records << Connection(object);
-            }
-        }
-    }
-    return records;
+    m_selection.lookAgain();
+    refreshSoon();
 }
 
 void HistoryController::addAddressesToSaved()
 {
-    if (selectedCount() <= mostSaved) {
-        m_saved.addAddresses(selectedRecords(mostSaved));
-    }
+    m_selection.save(HistorySelection::List::Addresses);
 }
 
 void HistoryController::addNetworksToSaved()
 {
-    if (selectedCount() <= mostSaved) {
-        m_saved.addNetworks(selectedRecords(mostSaved));
-    }
+    m_selection.save(HistorySelection::List::Networks);
 }
 
 bool HistoryController::validateUserInterfaceItem(int tag) const
 {
-    if (tag != addressesTag && tag != networksTag) {
+    switch (tag) {
+    case addressesTag:
+        return m_selection.hasNew(HistorySelection::List::Addresses);
+    case networksTag:
+        return m_selection.hasNew(HistorySelection::List::Networks);
+    default:
         return true;
     }
-    const qsizetype count = selectedCount();
-    if (count == 0 || count > mostSaved) {
-        return false;
-    }
-    const auto records = selectedRecords(mostLookedAt);
-    const bool hasNew =
-        tag == addressesTag ? m_saved.hasNewAddress(records) : m_saved.hasNewNetwork(records);
-    // Of so many records one that is new is likely, and looking at all would take too long.
-    return hasNew || count > mostLookedAt;
 }
 
 bool HistoryController::keyDown(Key key)
@@ -390,29 +383,22 @@ bool HistoryController::keyDown(Key key)
 
 void HistoryController::deleteSelected()
 {
-    const qsizetype count = selectedCount();
+    const qsizetype count = m_selection.count();
     if (count == 0 || m_deletion.progress()) {
         return;
     }
     m_state.update([](State &state) { state.failure.clear(); });
     m_note.end();
     if (count > HistoryDeletion::mostUndoable) {
-        QList<qint64> keys;
-        keys.reserve(count);
-        for (const Rows &rows : std::as_const(m_selected)) {
-            for (qsizetype row = rows.first; row <= rows.last && row < m_rows.size(); ++row) {
-                keys << m_rows.keyAt(row);
-            }
-        }
-        m_deletion.removeForGood(keys);
+        m_deletion.removeForGood(m_selection.keys());
         return;
     }
     ManagedObjectList objects;
-    for (const Connection &record : selectedRecords(count)) {
+    for (const Connection &record : m_selection.records(count)) {
         objects << record.record();
     }
-    const qsizetype first = std::ranges::min(m_selected, {}, &Rows::first).first;
-    m_selected.clear();
+    const qsizetype first = m_selection.first().value_or(0);
+    m_selection.clear();
     m_deletion.remove(objects);
     if (m_rows.size() > 0) {
         Q_EMIT rowWanted(std::min(first, m_rows.size() - 1));
@@ -442,6 +428,7 @@ void HistoryController::stopWork()
 {
     m_export.cancel();
     m_deletion.stop();
+    m_selection.stop();
 }
 
 } // namespace quillon

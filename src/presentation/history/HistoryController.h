@@ -6,11 +6,11 @@
 #include "devices/HexValueTransformer.h"
 #include "history/HistoryColumn.h"
 #include "history/HistoryExport.h"
-#include "history/SavedFromHistory.h"
 #include "platform/Scheduler.h"
 #include "platform/SettingsStore.h"
 #include "presentation/history/HistoryDeletion.h"
 #include "presentation/history/HistoryNote.h"
+#include "presentation/history/HistorySelection.h"
 #include "presentation/history/HistoryTexts.h"
 #include "store/RecordListing.h"
 
@@ -33,14 +33,7 @@ public:
         Delete,
         Other,
     };
-    /// Rows from the first to the last, both included.
-    struct Rows
-    {
-        qsizetype first = 0;
-        qsizetype last = -1;
-
-        bool operator==(const Rows &) const = default;
-    };
+    using Rows = HistorySelection::Rows;
     /// Something that takes its time, and can be stopped.
     struct Work
     {
@@ -63,7 +56,6 @@ public:
         bool isAscending = false;
         bool addressesEnabled = false; ///< there is something to save
         bool networksEnabled = false;
-        QString savingHint; ///< why nothing can be saved; empty when it is plain
         bool deleteEnabled = false;
         bool exportEnabled = false;
         QString detail; ///< what happened in the selected record
@@ -80,9 +72,6 @@ public:
         AlertPresenter &alerts;
     };
 
-    /// So many selected records are looked at or saved at once.
-    static constexpr qsizetype mostSaved = 10'000;
-    static constexpr qsizetype mostLookedAt = 500;
     /// A search that takes longer says so.
     static constexpr std::chrono::milliseconds patience{200};
 
@@ -147,12 +136,12 @@ Q_SIGNALS:
 private:
     void search();
     void rearmMidnight();
+    void lookAtSavedAnew();
     void refreshSoon();
     void refresh();
+    void showEmptiness(State &state) const;
     void refreshWork();
     void fail(const QString &message);
-    qsizetype selectedCount() const;
-    QList<Connection> selectedRecords(qsizetype most) const;
     QString addressText(const Connection &record) const;
     QString summary() const;
     QString detail() const;
@@ -163,13 +152,12 @@ private:
     HistoryNote m_note;
     HistoryDeletion m_deletion;
     HistoryExport m_export;
-    SavedFromHistory m_saved;
+    HistorySelection m_selection;
     HexValueTransformer m_letters;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
     std::optional<Predicate> m_condition; ///< of what was typed last
     bool m_isOpen = false;
     bool m_isSlow = false; ///< the search under way has used up our patience
-    QList<Rows> m_selected;
     std::optional<Work> m_exporting;
     bool m_isRefreshDue = false;
     std::optional<Scheduler::Token> m_patience;

@@ -27,8 +27,8 @@ HistoryDeletion::HistoryDeletion(RecordStore &records, Scheduler &scheduler, Ale
     , m_alerts(alerts)
     , m_removal(records, scheduler)
 {
-    connect(&records, &RecordStore::undoPositionChanged, this, [this] {
-        if (m_undoPosition && m_records.undoPosition() != *m_undoPosition) {
+    connect(&records, &RecordStore::undoPlaceChanged, this, [this] {
+        if (m_undoPlace && m_records.undoPlace() != *m_undoPlace) {
             loseUndo();
         }
     });
@@ -62,7 +62,7 @@ void HistoryDeletion::remove(const ManagedObjectList &objects)
     for (const ManagedObjectPtr &object : objects) {
         context.deleteObject(object);
     }
-    m_undoPosition = m_records.undoPosition();
+    m_undoPlace = m_records.undoPlace();
     context.processPendingChanges();
     Q_EMIT deleted(deletedText(objects.size()), true);
 }
@@ -73,10 +73,11 @@ void HistoryDeletion::removeForGood(const QList<qint64> &keys)
         return;
     }
     constexpr int deleteButton = 0;
+    constexpr int cancelButton = 1;
     const int answer =
         m_alerts.runModal({filled(localized("Delete %@?"), {recordsText(keys.size())}),
             localized("So many records at once cannot be brought back."),
-            {localized("Delete"), localized("Cancel")}});
+            {localized("Delete"), localized("Cancel")}, cancelButton});
     // The alert let time go by.
     if (answer != deleteButton || m_removal.isRunning()) {
         return;
@@ -94,16 +95,16 @@ void HistoryDeletion::stop()
 
 void HistoryDeletion::undo()
 {
-    if (m_undoPosition == m_records.undoPosition()) {
-        m_undoPosition.reset();
+    if (m_undoPlace == m_records.undoPlace()) {
+        m_undoPlace.reset();
         m_records.undo();
     }
 }
 
 void HistoryDeletion::loseUndo()
 {
-    if (m_undoPosition) {
-        m_undoPosition.reset();
+    if (m_undoPlace) {
+        m_undoPlace.reset();
         Q_EMIT undoLost();
     }
 }

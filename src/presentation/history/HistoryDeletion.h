@@ -60,7 +60,7 @@ private:
     AlertPresenter &m_alerts;
     RecordRemoval m_removal;
     std::optional<Progress> m_progress;
-    std::optional<int> m_undoPosition; ///< where the deletion is the last step
+    std::optional<int> m_undoPlace; ///< where the deletion is the last step
 };
 
 } // namespace quillon

@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 namespace quillon {
 
@@ -15,10 +16,12 @@ namespace {
 QString timeText(const QTime &time)
 {
     const QLocale locale;
+    QString format = locale.timeFormat(QLocale::ShortFormat);
     // Seconds, which some locales have even in the short form, tell nobody anything here.
-    const bool isOfTwelveHours =
-        locale.timeFormat(QLocale::ShortFormat).contains(u'a', Qt::CaseInsensitive);
-    return locale.toString(time, isOfTwelveHours ? u"h:mm AP"_s : u"HH:mm"_s);
+    static const QRegularExpression seconds(u"[^A-Za-z']*ss?"_s);
+    format.remove(seconds);
+    constexpr QChar narrowSpace = u'\u202F';
+    return locale.toString(time, format.replace(narrowSpace, u' '));
 }
 
 } // namespace

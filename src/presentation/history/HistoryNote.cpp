@@ -5,6 +5,8 @@
 #include "history/Connection.h"
 #include "store/RecordStore.h"
 
+#include <utility>
+
 namespace quillon {
 
 HistoryNote::HistoryNote(RecordStore &records)
@@ -38,6 +40,7 @@ void HistoryNote::begin(const ManagedObjectPtr &record)
 void HistoryNote::type(const QString &text)
 {
     m_text = text;
+    m_isTyped = true;
 }
 
 void HistoryNote::end()
@@ -53,8 +56,10 @@ void HistoryNote::giveUp()
 
 bool HistoryNote::commitEditing()
 {
-    // A record without notes has none, and not an empty one, until somebody writes some.
-    if (m_record && Connection(m_record).notes() != m_text) {
+    // Where nothing was typed, what somebody else wrote meanwhile stays. And a record without notes
+    // has none, and not an empty one, until somebody writes some.
+    const bool isTyped = std::exchange(m_isTyped, false);
+    if (m_record && isTyped && Connection(m_record).notes() != m_text) {
         Connection(m_record).setNotes(m_text);
     }
     return true;
@@ -103,6 +108,7 @@ void HistoryNote::forget()
     }
     m_record.reset();
     m_text.clear();
+    m_isTyped = false;
 }
 
 } // namespace quillon

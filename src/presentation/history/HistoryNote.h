@@ -47,6 +47,7 @@ private:
     RecordStore &m_records;
     ManagedObjectPtr m_record;
     QString m_text;
+    bool m_isTyped = false;                   ///< and not taken yet
     QPointer<ManagedObjectContext> m_context; ///< that it is an editor of
 };
 

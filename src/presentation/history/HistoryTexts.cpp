@@ -39,18 +39,32 @@ QList<HistorySearchType> historySearchTypes()
         {notes, localized("Search Notes")}};
 }
 
+QString shortened(const QString &text)
+{
+    constexpr qsizetype longest = 60;
+    if (text.size() <= longest) {
+        return text;
+    }
+    QString kept = text.left(longest - 1);
+    if (kept.back().isHighSurrogate()) {
+        kept.chop(1);
+    }
+    return kept + u'…';
+}
+
 QString sentenceOf(const Connection &record, const QString &address)
 {
-    const QString device = record.device();
-    const QString interface = record.interface();
-    const QString network = record.ssid();
+    const QString given = shortened(address);
+    const QString device = shortened(record.device());
+    const QString interface = shortened(record.interface());
+    const QString network = shortened(record.ssid());
     if (interface.isEmpty()) {
-        return filled(localized("%@ was given %@."), {device, address});
+        return filled(localized("%@ was given %@."), {device, given});
     }
     if (network.isEmpty()) {
-        return filled(localized("%@ (%@) was given %@."), {interface, device, address});
+        return filled(localized("%@ (%@) was given %@."), {interface, device, given});
     }
-    return filled(localized("%@ (%@) was given %@ on %@."), {interface, device, address, network});
+    return filled(localized("%@ (%@) was given %@ on %@."), {interface, device, given, network});
 }
 
 QString recordsText(qint64 count)

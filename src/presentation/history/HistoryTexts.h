@@ -21,6 +21,8 @@ struct HistorySearchType
 };
 QList<HistorySearchType> historySearchTypes();
 
+/// A text within a sentence, which stays one however long that is: at most 60 characters.
+QString shortened(const QString &text);
 /// What happened, in a sentence; `address` is the record's as it is displayed.
 QString sentenceOf(const Connection &record, const QString &address);
 

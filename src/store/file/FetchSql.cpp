@@ -95,7 +95,8 @@ Result<FetchSql> fetchSql(const Entity &entity, const FetchRequest &request, boo
             return unknownAttribute(entity, by.attribute);
         }
         columns += ", " + quotedName(by.attribute);
-        order += quotedName(by.attribute) + (by.ascending ? ", " : " DESC, ");
+        order += quotedName(by.attribute) + (by.ignoresCase ? " COLLATE NOCASE" : "") +
+                 (by.ascending ? ", " : " DESC, ");
     }
     const auto select = [&](const std::string &table) {
         return "SELECT " + columns + " FROM " + table + " WHERE " + matches.value();

@@ -11,6 +11,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 #include <map>
+#include <sqlite3.h>
 #include <tuple>
 #include <utility>
 
@@ -124,6 +125,33 @@ private:
     std::map<Key, SQLite::Statement> m_statements;
 };
 
+/// While it lives, SQLite gives a statement up that takes more steps of its machine than are made
+/// in about a millisecond.
+class StepLimit
+{
+public:
+    explicit StepLimit(SQLite::Database &database)
+        : m_database(database)
+    {
+        const auto reach = [](void *limit) {
+            static_cast<StepLimit *>(limit)->m_isReached = true;
+            return 1;
+        };
+        sqlite3_progress_handler(m_database.getHandle(), steps, reach, this);
+    }
+    ~StepLimit() { sqlite3_progress_handler(m_database.getHandle(), 0, nullptr, nullptr); }
+    StepLimit(const StepLimit &) = delete;
+    StepLimit &operator=(const StepLimit &) = delete;
+
+    bool isReached() const { return m_isReached; }
+
+private:
+    static constexpr int steps = 50'000;
+
+    SQLite::Database &m_database;
+    bool m_isReached = false;
+};
+
 } // namespace
 
 Result<std::unique_ptr<RecordFile>> RecordFile::open(
@@ -157,6 +185,29 @@ Result<std::vector<qint64>> RecordFile::keys(
         }
         return keys;
     });
+}
+
+Result<std::optional<QList<qint64>>> RecordFile::keysAtOnce(const Entity &entity,
+    const FetchRequest &request, const QList<RowChange> &changes, qsizetype most) const
+{
+    const auto sql = fetchSql(entity, request, !changes.isEmpty());
+    if (!sql) {
+        return sql.error();
+    }
+    StepLimit limit(*m_database);
+    auto found = attempt<std::optional<QList<qint64>>>([&] {
+        const auto overlay = changes.isEmpty() ? nullptr : overlaid(*m_database, entity, changes);
+        SQLite::Statement statement = prepared(*m_database, sql.value());
+        QList<qint64> keys;
+        while (keys.size() < most && statement.executeStep()) {
+            keys << statement.getColumn(0).getInt64();
+        }
+        return std::optional(keys);
+    });
+    if (!found && limit.isReached()) {
+        return std::optional<QList<qint64>>();
+    }
+    return found;
 }
 
 Result<QList<RecordRow>> RecordFile::rows(const Entity &entity, const QList<qint64> &keys) const

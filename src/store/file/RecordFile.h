@@ -9,6 +9,7 @@
 #include "store/model/RecordFileError.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace SQLite {
@@ -33,6 +34,10 @@ public:
     /// were written.
     Result<std::vector<qint64>> keys(const Entity &entity, const FetchRequest &request,
         const QList<RowChange> &changes = {}) const;
+    /// The first of those keys, at most so many, found in a few milliseconds or not at all: none
+    /// when there is more to look through.
+    Result<std::optional<QList<qint64>>> keysAtOnce(const Entity &entity,
+        const FetchRequest &request, const QList<RowChange> &changes, qsizetype most) const;
     /// In no certain order; a key that the file does not have is left out.
     Result<QList<RecordRow>> rows(const Entity &entity, const QList<qint64> &keys) const;
     /// None or one.

@@ -19,6 +19,8 @@ namespace {
 
 constexpr qsizetype recordsOfPage = 100;
 constexpr std::size_t pagesKept = 8;
+// To lay more over the file takes longer than looking for what is wanted.
+constexpr qsizetype mostOverlaidAtOnce = 100;
 
 Error unknownEntity(const QString &name)
 {
@@ -99,6 +101,17 @@ Result<FetchedRecords> ManagedObjectContext::fetchLazily(const FetchRequest &req
     records.m_state = std::make_shared<FetchedRecords::State>(
         FetchedRecords::State{this, request.entity, std::move(keys.value()), {}});
     return records;
+}
+
+std::optional<QList<qint64>> ManagedObjectContext::keysAtOnce(
+    const FetchRequest &request, qsizetype most)
+{
+    const Entity *const entity = m_model.entity(request.entity);
+    if (!entity || m_unsaved.size() > mostOverlaidAtOnce) {
+        return std::nullopt;
+    }
+    const auto keys = m_file->keysAtOnce(*entity, request, unsavedChanges(request.entity), most);
+    return keys ? keys.value() : std::nullopt;
 }
 
 QList<RowChange> ManagedObjectContext::unsavedChanges(const QString &entity) const

@@ -79,6 +79,9 @@ public:
     Result<ManagedObjectList> fetch(const FetchRequest &request);
     /// The same as a list that reads its records page by page as they are looked at.
     Result<FetchedRecords> fetchLazily(const FetchRequest &request);
+    /// The keys of the first that fetch() would give, at most so many, when they are found in a few
+    /// milliseconds; none otherwise, and when the file cannot be read.
+    std::optional<QList<qint64>> keysAtOnce(const FetchRequest &request, qsizetype most);
     /// What of the entity's records is not in the file yet.
     QList<RowChange> unsavedChanges(const QString &entity) const;
     /// The records of these keys, in their order; null for one that does not exist any more.

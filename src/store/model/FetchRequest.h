@@ -12,6 +12,8 @@ struct SortDescriptor
 {
     QString attribute;
     bool ascending = true; ///< texts by plain code point order, nothing before everything
+    /// The letters A to Z are the same in either case.
+    bool ignoresCase = false;
 
     bool operator==(const SortDescriptor &) const = default;
 };

@@ -31,6 +31,18 @@ HistoryNoteDelegate::HistoryNoteDelegate(HistoryNote &note, const Theme &theme, 
         });
 }
 
+void HistoryNoteDelegate::initStyleOption(
+    QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    // In a mirrored window as well a text is read its own way: an address would have its octets
+    // exchanged.
+    const bool isMirrored = option->direction == Qt::RightToLeft;
+    option->direction = option->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    option->displayAlignment =
+        Qt::AlignVCenter | Qt::AlignAbsolute | (isMirrored ? Qt::AlignRight : Qt::AlignLeft);
+}
+
 void HistoryNoteDelegate::paint(
     QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
@@ -73,7 +85,9 @@ void HistoryNoteDelegate::setModelData(QWidget *, QAbstractItemModel *, const QM
 void HistoryNoteDelegate::updateEditorGeometry(
     QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    editor->setGeometry(option.rect);
+    // The ring of the keyboard lies around it, and within the table.
+    constexpr int room = 2 * Theme::ringWidth;
+    editor->setGeometry(option.rect.adjusted(room, room, -room, -room));
 }
 
 QString HistoryNoteDelegate::shownText() const

@@ -34,6 +34,9 @@ public:
     /// It closes its editor itself at this moment.
     bool isClosing() const { return m_isClosing; }
 
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
 private:
     /// As a line that can be edited.
     QString shownText() const;

@@ -8,6 +8,7 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -56,7 +57,6 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setContextMenuPolicy(Qt::CustomContextMenu);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(recordHeight);
@@ -325,6 +325,18 @@ void HistoryTable::mouseDoubleClickEvent(QMouseEvent *event)
     if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
         editNote();
     }
+}
+
+void HistoryTable::contextMenuEvent(QContextMenuEvent *event)
+{
+    QPoint place = event->pos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        if (currentIndex().isValid()) {
+            scrollTo(currentIndex());
+        }
+        place = visualRect(currentIndex()).center();
+    }
+    Q_EMIT customContextMenuRequested(place);
 }
 
 void HistoryTable::editNote()

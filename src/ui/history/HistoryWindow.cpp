@@ -37,16 +37,6 @@ constexpr QSize usualSize(940, 520);
 constexpr QSize leastSize(420, 320);
 constexpr int progressSteps = 1000;
 
-QString addressesHint()
-{
-    return localized("Adds the addresses of the selected records to the saved ones.");
-}
-
-QString networksHint()
-{
-    return localized("Adds the networks of the selected records to the saved ones.");
-}
-
 } // namespace
 
 HistoryWindow::HistoryWindow(
@@ -54,9 +44,11 @@ HistoryWindow::HistoryWindow(
     : SecondaryWindow(u"history"_s, models.presence, taskBar)
     , m_model(models.history)
     , m_theme(theme)
-    , m_saveAddresses(makeAction(u"saveAddresses"_s, localized("Save Addresses"), addressesHint(),
+    , m_saveAddresses(makeAction(u"saveAddresses"_s, localized("Save Addresses"),
+          localized("Adds the addresses of the selected records to the saved ones."),
           [this] { m_model.addAddressesToSaved(); }))
-    , m_saveNetworks(makeAction(u"saveNetworks"_s, localized("Save Networks"), networksHint(),
+    , m_saveNetworks(makeAction(u"saveNetworks"_s, localized("Save Networks"),
+          localized("Adds the networks of the selected records to the saved ones."),
           [this] { m_model.addNetworksToSaved(); }))
     , m_export(makeAction(u"exportHistory"_s, localized("Export…"),
           localized("Writes what is listed into a file that spreadsheets read."),
@@ -71,12 +63,14 @@ HistoryWindow::HistoryWindow(
     column->setSpacing(Theme::unit);
     column->addWidget(makeTop());
     column->addWidget(makeList(), 1);
-    column->addWidget(makeWork());
+    QWidget *work = makeWork();
+    column->addWidget(work);
     column->addWidget(makeButtons());
     setMinimumSize(leastSize);
     resize(usualSize);
-    // Lies over the rest.
+    // Lies over the list, and over nothing that is needed meanwhile.
     m_toast = new Toast(theme, scheduler, this);
+    m_toast->keepAbove(*work);
     makeKeys(models.edit);
 
     m_model.windowDidLoad();
@@ -271,10 +265,7 @@ void HistoryWindow::openMenu(const QPoint &place)
     menu->addAction(m_export);
     menu->addSeparator();
     menu->addAction(m_delete);
-    // By the key, it opens at the row that it is about.
-    const QRect current = m_table->visualRect(m_table->currentIndex());
-    const bool isOutside = !m_table->viewport()->rect().contains(place);
-    menu->popup(m_table->viewport()->mapToGlobal(isOutside ? current.center() : place));
+    menu->popup(m_table->viewport()->mapToGlobal(place));
 }
 
 void HistoryWindow::askForFile()
@@ -312,9 +303,6 @@ void HistoryWindow::refresh()
     showBroken(*m_detail, plainParagraphs(state.detail));
     m_saveAddresses->setEnabled(state.addressesEnabled);
     m_saveNetworks->setEnabled(state.networksEnabled);
-    const bool isHinted = !state.savingHint.isEmpty();
-    m_saveAddresses->setToolTip(plainToolTip(isHinted ? state.savingHint : addressesHint()));
-    m_saveNetworks->setToolTip(plainToolTip(isHinted ? state.savingHint : networksHint()));
     m_delete->setEnabled(state.deleteEnabled);
     m_export->setEnabled(state.exportEnabled);
     const bool isFailure = !state.failure.isEmpty();

@@ -60,7 +60,7 @@ int MessageAlerts::runModal(const Alert &alert)
     if (buttons.isEmpty()) {
         buttons.append(box.addButton(localized("OK"), QMessageBox::ActionRole));
     }
-    box.setDefaultButton(buttons.first());
+    box.setDefaultButton(buttons.value(alert.defaultButton, buttons.last()));
     box.setEscapeButton(buttons.last());
     widen(box);
     box.exec();

@@ -144,6 +144,11 @@ void Toast::takeBack()
     }
 }
 
+void Toast::keepAbove(const QWidget &widget)
+{
+    m_below = &widget;
+}
+
 void Toast::place()
 {
     const QWidget &window = *parentWidget();
@@ -157,8 +162,9 @@ void Toast::place()
                        2 * Theme::unit;
     const int width = std::min(wanted, widest);
     const int height = layout()->totalHeightForWidth(width);
-    setGeometry((window.width() - width) / 2, window.height() - height - Theme::windowMargin, width,
-        height);
+    const int bottom = m_below ? m_below->mapTo(parentWidget(), QPoint()).y() - Theme::unit
+                               : window.height() - Theme::windowMargin;
+    setGeometry((window.width() - width) / 2, bottom - height, width, height);
 }
 
 void Toast::waitAnew()

@@ -36,6 +36,8 @@ public:
     /// As "Rule deleted". `undo` is called at most once; none means that there is nothing to undo.
     void say(const QString &message, std::function<void()> undo = {});
     void dismiss();
+    /// Above `widget` of the window, instead of at the window's bottom.
+    void keepAbove(const QWidget &widget);
     QString message() const;
 
 Q_SIGNALS:
@@ -67,7 +69,8 @@ private:
     QPushButton *m_undoButton;
     std::function<void()> m_undo;
     std::optional<Scheduler::Token> m_wait;
-    QPointer<QWidget> m_before; ///< had the keyboard before its button
+    QPointer<const QWidget> m_below; ///< what it keeps above
+    QPointer<QWidget> m_before;      ///< had the keyboard before its button
 };
 
 } // namespace quillon

@@ -36,7 +36,29 @@ TEST(HistoryCsvTest, WhatWouldBeAFormulaBeginsWithAnApostrophe)
     EXPECT_EQ(csvField(u"@SUM(A1)"_s), "'@SUM(A1)");
     EXPECT_EQ(csvField(u"\tx"_s), "'\tx");
     EXPECT_EQ(csvField(u"\rx"_s), "\"'\rx\"");
+    EXPECT_EQ(csvField(u"\nx"_s), "\"'\nx\"");
     EXPECT_EQ(csvField(u"a=b"_s), "a=b");
+}
+
+TEST(HistoryCsvTest, SpacesAndFullWidthAreNoWayAround)
+{
+    EXPECT_EQ(csvField(u"  =1"_s), "'  =1");
+    EXPECT_EQ(csvField(u"\uFF1D1"_s), "'\uFF1D1");
+    EXPECT_EQ(csvField(u"\uFF0B1"_s), "'\uFF0B1");
+    EXPECT_EQ(csvField(u"\uFF0D1"_s), "'\uFF0D1");
+    EXPECT_EQ(csvField(u"\uFF20A1"_s), "'\uFF20A1");
+    EXPECT_EQ(csvField(u"   "_s), "   ");
+    EXPECT_EQ(csvField(u" x"_s), " x");
+}
+
+TEST(HistoryCsvTest, WhereSemicolonsEndFieldsNothingIsAFormulaEither)
+{
+    EXPECT_EQ(csvField(u"x;=1"_s), "x;'=1");
+    EXPECT_EQ(csvField(u"x; @A1"_s), "x;' @A1");
+    EXPECT_EQ(csvField(u"x\t+1"_s), "x\t'+1");
+    EXPECT_EQ(csvField(u"x\n-1"_s), "\"x\n'-1\"");
+    EXPECT_EQ(csvField(u"x;'=1"_s), "x;''=1") << "so that it can be told apart";
+    EXPECT_EQ(csvField(u"x;y"_s), "x;y");
 }
 
 TEST(HistoryCsvTest, WhatBeginsWithAnApostropheCanBeToldApart)

@@ -48,7 +48,8 @@ TEST(HistorySearchTest, NewestFirstIsTheReverseOfOldestFirst)
 TEST(HistorySearchTest, WhatIsAlikeInAnotherColumnComesNewestFirst)
 {
     const auto byNetwork = historyRequest({}, HistoryColumn::Network, true);
-    EXPECT_EQ(byNetwork.order, QList<SortDescriptor>({{u"ssid"_s, true}, {u"date"_s, false}}));
+    EXPECT_EQ(
+        byNetwork.order, QList<SortDescriptor>({{u"ssid"_s, true, true}, {u"date"_s, false}}));
     EXPECT_TRUE(byNetwork.latestFirst);
 }
 

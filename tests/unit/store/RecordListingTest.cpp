@@ -90,8 +90,7 @@ TEST_F(RecordListingTest, ListsTheNewestFirst)
 {
     fill(4);
     listing.show(newest());
-    EXPECT_EQ(listing.size(), 0) << "nothing is read before the caller's turn is over";
-    EXPECT_FALSE(listing.isComplete());
+    EXPECT_FALSE(listing.isComplete()) << "whether there are more is found in the background";
     endTurn();
     EXPECT_EQ(seconds(), QList<int>({3, 2, 1, 0}));
     EXPECT_TRUE(listing.isComplete());
@@ -162,7 +161,70 @@ TEST_F(RecordListingTest, AnOutdatedSearchIsNotHeardAnyMore)
     listing.show(on(u"nothing"_s));
     endTurn();
     EXPECT_EQ(listing.size(), 0);
-    EXPECT_EQ(resets, 1);
+    EXPECT_EQ(resets, 2) << "the first page of each";
+}
+
+TEST_F(RecordListingTest, APageThatIsFoundQuicklyStandsBeforeTheCallReturns)
+{
+    fill(1000);
+    listing.show(newest());
+    EXPECT_EQ(listing.size(), 50);
+    EXPECT_FALSE(listing.isComplete());
+    ASSERT_NE(listing.at(0), nullptr);
+    EXPECT_EQ(listing.at(0)->get(model::connection::date).toSecsSinceEpoch(), 999);
+    insert(2000);
+    listing.show(newest());
+    EXPECT_EQ(listing.at(0)->get(model::connection::date).toSecsSinceEpoch(), 2000)
+        << "what is not saved belongs to it";
+}
+
+TEST_F(RecordListingTest, WhatTakesLongerIsLeftToTheBackground)
+{
+    fill(20'000);
+    insert(-1, u"enp1s0"_s);
+    ASSERT_FALSE(context().save());
+    listing.show(on(u"enp"_s));
+    EXPECT_EQ(listing.size(), 0);
+    endTurn();
+    EXPECT_EQ(seconds(), QList<int>({-1}));
+}
+
+TEST_F(RecordListingTest, APageThatSomebodyChangedMeanwhileIsReplaced)
+{
+    fill(60);
+    listing.show(newest());
+    elsewhere([](ManagedObjectContext &other) {
+        other.deleteObject(other.fetch(newest()).value().first());
+    });
+    endTurn();
+    EXPECT_EQ(listing.size(), 59);
+    EXPECT_EQ(seconds().first(), 58);
+    EXPECT_FALSE(seconds().contains(-1));
+}
+
+TEST_F(RecordListingTest, APageThatSomebodyShortenedMeanwhileGetsShorter)
+{
+    fill(2);
+    listing.show(newest());
+    elsewhere([](ManagedObjectContext &other) {
+        other.deleteObject(other.fetch(newest()).value().last());
+    });
+    endTurn();
+    EXPECT_EQ(seconds(), QList<int>({1}));
+    EXPECT_TRUE(listing.isComplete());
+}
+
+TEST_F(RecordListingTest, WhatIsDeletedWhileTheRestIsReadDoesNotComeBackEither)
+{
+    fill(60);
+    listing.show(newest());
+    context().deleteObject(listing.at(1));
+    context().processPendingChanges();
+    EXPECT_EQ(listing.size(), 49);
+    endTurn();
+    EXPECT_EQ(listing.size(), 59);
+    EXPECT_FALSE(seconds().contains(58));
+    EXPECT_FALSE(seconds().contains(-1));
 }
 
 TEST_F(RecordListingTest, WhatIsNotSavedIsListedToo)

@@ -91,6 +91,18 @@ TEST_F(RecordRemovalTest, DeletesInPartsAndSaysHowFarItIs)
     EXPECT_TRUE(all().isEmpty());
 }
 
+TEST_F(RecordRemovalTest, ListsLetGoOfWhatIsDeletedWhileTheRestIs)
+{
+    fill(25'000);
+    const auto keys = keysOf(all());
+    QList<bool> running;
+    QObject::connect(
+        &store, &RecordStore::recordsMerged, &removal, [&] { running << removal.isRunning(); });
+    removal.remove(model::Connection, keys);
+    endTurn();
+    EXPECT_EQ(running, QList<bool>({true, false}));
+}
+
 TEST_F(RecordRemovalTest, StoppedItKeepsTheRest)
 {
     fill(3);

@@ -114,6 +114,25 @@ TEST_F(HistoryControllerTest, IsSortedByAnyColumn)
     EXPECT_EQ(texts(HistoryColumn::Address), QStringList({u"C"_s, u"A"_s, u"B"_s}));
 }
 
+TEST_F(HistoryControllerTest, IsSortedByWhatIsShownNotByTheLettersOfTheRecords)
+{
+    insert(1, u"B0"_s);
+    insert(2, u"a1"_s);
+    insert(3, u"A2"_s);
+    save();
+    open();
+    controller.sortBy(HistoryColumn::Address, true);
+    endTurn();
+    EXPECT_EQ(texts(HistoryColumn::Address), QStringList({u"A1"_s, u"A2"_s, u"B0"_s}));
+    insert(4, u"a3"_s);
+    endTurn();
+    EXPECT_EQ(texts(HistoryColumn::Address), QStringList({u"A1"_s, u"A2"_s, u"A3"_s, u"B0"_s}))
+        << "one that is not saved as well";
+    controller.sortBy(HistoryColumn::Address, false);
+    endTurn();
+    EXPECT_EQ(texts(HistoryColumn::Address), QStringList({u"B0"_s, u"A3"_s, u"A2"_s, u"A1"_s}));
+}
+
 TEST_F(HistoryControllerTest, SwitchingTheLettersRedisplaysTheAddresses)
 {
     insert(1);
@@ -190,6 +209,30 @@ TEST_F(HistoryControllerTest, ATypeLooksInItsFieldAlone)
     controller.setSearchType(u"notes"_s);
     search(u"Harbor"_s);
     EXPECT_EQ(controller.rows().size(), 1);
+}
+
+TEST_F(HistoryControllerTest, WhereNothingIsFoundThatStandsUntilAnotherSearchHasAnAnswer)
+{
+    insert(1);
+    save();
+    open();
+    search(u"xyz"_s);
+    ASSERT_TRUE(state().clearOffered);
+    QStringList shown;
+    QObject::connect(&controller, &HistoryController::changed, &controller,
+        [&] { shown << state().emptySentence; });
+    search(u"xyz0"_s);
+    EXPECT_FALSE(shown.contains(QString())) << "the table is no place for nothing";
+    EXPECT_TRUE(state().emptySentence.contains(u"xyz0"_s));
+    search(u"Harbor"_s);
+    EXPECT_EQ(state().emptySentence, QString());
+}
+
+TEST_F(HistoryControllerTest, ALongTextThatIsNotFoundIsSaidInASentence)
+{
+    open();
+    search(QString(30'000, u'x'));
+    EXPECT_LT(state().emptySentence.size(), 120);
 }
 
 TEST_F(HistoryControllerTest, WhatAnSqlOrAPatternWouldTakeForItsOwnIsText)
@@ -380,22 +423,6 @@ TEST_F(HistoryControllerTest, RecordsWithoutANetworkDisableNetworksButAreSavedWi
         QStringList({u""_s, u"a4:2b:b0:11:22:33"_s}));
 }
 
-TEST_F(HistoryControllerTest, OfManySelectedOnlySomeAreLookedAt)
-{
-    fill(int(HistoryController::mostLookedAt) + 1);
-    open();
-    select(0, HistoryController::mostLookedAt - 1);
-    controller.addAddressesToSaved();
-    endTurn();
-    EXPECT_FALSE(state().addressesEnabled);
-    select(0, HistoryController::mostLookedAt);
-    EXPECT_TRUE(state().addressesEnabled);
-    controller.addAddressesToSaved();
-    EXPECT_EQ(
-        savedEntries(settings, keys::savedAddresses).size(), HistoryController::mostLookedAt + 1)
-        << "all of them are saved";
-}
-
 TEST_F(HistoryControllerTest, TellsInWordsWhatHappened)
 {
     insert(1);
@@ -462,20 +489,12 @@ TEST_F(HistoryControllerTest, ASelectionBeyondTheRowsIsNoMatter)
 
 // MARK: more than can be kept
 
-TEST_F(HistoryControllerTest, AMillionsSelectionIsNotSavedAndIsDeletedForGoodOnlyWhenConfirmed)
+TEST_F(HistoryControllerTest, ManyAreDeletedForGoodAndOnlyWhenThatIsConfirmed)
 {
-    fill(int(HistoryController::mostSaved) + 1);
+    constexpr int many = HistoryDeletion::mostUndoable + 1;
+    fill(many);
     open();
-    select(0, HistoryController::mostSaved);
-    EXPECT_FALSE(state().addressesEnabled);
-    EXPECT_FALSE(state().networksEnabled);
-    EXPECT_EQ(state().savingHint,
-        u"Select at most %1 records to save them."_s.arg(QLocale().toString(10'000)));
-    settings.clearJournal();
-    controller.addAddressesToSaved();
-    controller.addNetworksToSaved();
-    EXPECT_TRUE(settings.journal().isEmpty());
-
+    select(0, many - 1);
     alerts.answer = 1;
     controller.deleteSelected();
     endTurn();
@@ -483,18 +502,42 @@ TEST_F(HistoryControllerTest, AMillionsSelectionIsNotSavedAndIsDeletedForGoodOnl
     EXPECT_EQ(
         alerts.alerts.first().message, u"Delete %1 records?"_s.arg(QLocale().toString(10'001)));
     EXPECT_EQ(alerts.alerts.first().buttons, QStringList({u"Delete"_s, u"Cancel"_s}));
-    EXPECT_EQ(controller.rows().size(), HistoryController::mostSaved + 1);
+    EXPECT_EQ(alerts.alerts.first().defaultButton, 1) << "Return does not destroy";
+    EXPECT_EQ(controller.rows().size(), many);
 
     alerts.answer = 0;
     controller.deleteSelected();
     ASSERT_TRUE(state().work);
-    EXPECT_EQ(state().work->of, HistoryController::mostSaved + 1);
+    EXPECT_EQ(state().work->of, many);
     EXPECT_FALSE(store.canUndo());
     endTurn();
     EXPECT_EQ(controller.rows().size(), 0);
     EXPECT_FALSE(state().work);
     EXPECT_EQ(said, QStringList({u"%1 records deleted"_s.arg(QLocale().toString(10'001))}));
     EXPECT_FALSE(canUndoSaid);
+}
+
+TEST_F(HistoryControllerTest, SavingManyIsWorkThatCanBeStopped)
+{
+    fill(HistorySelection::mostAtOnce + 1);
+    open();
+    select(0, HistorySelection::mostAtOnce);
+    EXPECT_TRUE(state().addressesEnabled);
+    controller.addAddressesToSaved();
+    ASSERT_TRUE(state().work);
+    EXPECT_EQ(state().work->text, u"Saving…"_s);
+    EXPECT_EQ(state().work->of, HistorySelection::mostAtOnce + 1);
+    controller.stopWork();
+    EXPECT_FALSE(state().work);
+    endTurn();
+    EXPECT_TRUE(savedEntries(settings, keys::savedAddresses).isEmpty());
+    controller.addAddressesToSaved();
+    endTurn();
+    EXPECT_EQ(
+        savedEntries(settings, keys::savedAddresses).size(), HistorySelection::mostAtOnce + 1);
+    EXPECT_FALSE(state().addressesEnabled);
+    EXPECT_FALSE(state().work);
+    EXPECT_TRUE(said.isEmpty()) << "as for a few";
 }
 
 // MARK: widths and export

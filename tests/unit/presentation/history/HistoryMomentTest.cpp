@@ -70,6 +70,11 @@ TEST_F(HistoryMomentTest, TheLocaleSaysHowHoursAreCounted)
     EXPECT_EQ(momentText(at(u"2026-11-23T14:02:00Z"_s), now), u"Today 2:02 PM"_s);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(momentText(at(u"2026-11-23T14:02:00Z"_s), now), u"Today 14:02"_s);
+    QLocale::setDefault(QLocale(QLocale::Finnish, QLocale::Finland));
+    EXPECT_EQ(momentText(at(u"2026-11-23T08:02:00Z"_s), now), u"Today 8.02"_s);
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(momentText(at(u"2026-11-23T08:02:00Z"_s), now), u"Today 08:02"_s)
+        << "its short form has seconds";
 }
 
 TEST_F(HistoryMomentTest, InFullItHasDayAndSeconds)

@@ -140,6 +140,19 @@ TEST_F(HistoryNoteTest, ChangesOfOthersDoNotTouchWhatIsTyped)
     EXPECT_EQ(noteOf(0), u"mine"_s);
 }
 
+TEST_F(HistoryNoteTest, WhereNothingIsTypedTheNoteOfOthersStays)
+{
+    controller.editNote(0);
+    elsewhere([](ManagedObjectContext &other) {
+        for (const auto &record : other.fetch(Connection::fetchRequest()).value()) {
+            record->set(model::connection::notes, u"theirs"_s);
+        }
+    });
+    note.end();
+    EXPECT_EQ(noteOf(0), u"theirs"_s);
+    EXPECT_FALSE(store.canUndo());
+}
+
 TEST_F(HistoryNoteTest, GoesOnInAnotherContext)
 {
     controller.editNote(0);

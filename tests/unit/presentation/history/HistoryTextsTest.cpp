@@ -29,6 +29,19 @@ TEST_F(HistoryTextsTest, APlaceholderInANameIsNotFilled)
     EXPECT_EQ(sentenceOf(record, u"02:AA"_s), u"Wi-Fi (wlp2s0) was given 02:AA on %@ %d."_s);
 }
 
+TEST_F(HistoryTextsTest, ASentenceStaysOneHoweverLongItsNamesAre)
+{
+    Connection record = insert(1);
+    record.setInterface(QString(5000, u'i'));
+    record.setDevice(QString(5000, u'd'));
+    record.setSsid(QString(5000, u's'));
+    EXPECT_LT(sentenceOf(record, QString(5000, u'a')).size(), 280);
+    EXPECT_EQ(shortened(QString(60, u'x')), QString(60, u'x'));
+    EXPECT_EQ(shortened(QString(61, u'x')), QString(59, u'x') + u'…');
+    // A character of two units is not cut in its middle.
+    EXPECT_EQ(shortened(QString(58, u'x') + u"\U0001F3E0 and more"_s), QString(58, u'x') + u'…');
+}
+
 TEST_F(HistoryTextsTest, CountsAreWordsOfTheLocale)
 {
     const QLocale before;

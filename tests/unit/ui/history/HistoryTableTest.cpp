@@ -4,7 +4,9 @@
 
 #include "unit/ui/history/HistoryViewFixture.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QMenu>
 
 namespace quillon::test {
 
@@ -133,6 +135,79 @@ TEST_F(HistoryTableTest, AHeadSortsAndTheSameHeadReverses)
     Q_EMIT head.sectionClicked(0);
     settle();
     EXPECT_EQ(head.sortIndicatorOrder(), Qt::DescendingOrder);
+}
+
+TEST_F(HistoryTableTest, AMirroredWindowShowsAddressesAsTheyAre)
+{
+    insert(1, u"62:68:66:48:DC:27"_s);
+    save();
+    show();
+    const auto picture = [this] {
+        const QModelIndex index = table().model()->index(0, int(HistoryColumn::Address));
+        return table().viewport()->grab(table().visualRect(index)).toImage();
+    };
+    const auto inked = [](const QImage &image) {
+        QRect box;
+        for (int y = 0; y < image.height() - 2; ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 128) {
+                    box |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return image.copy(box);
+    };
+    const QImage usual = inked(picture());
+    ASSERT_FALSE(usual.isNull());
+    window.setLayoutDirection(Qt::RightToLeft);
+    settle();
+    const QImage mirrored = inked(picture());
+    ASSERT_EQ(mirrored.size(), usual.size());
+    // The edges of letters may fall between other pixels.
+    int differences = 0;
+    int dark = 0;
+    for (int y = 0; y < usual.height(); ++y) {
+        for (int x = 0; x < usual.width(); ++x) {
+            const bool isDark = qGray(usual.pixel(x, y)) < 128;
+            dark += int(isDark);
+            differences += int(isDark != (qGray(mirrored.pixel(x, y)) < 128));
+        }
+    }
+    EXPECT_LT(differences, dark / 5) << "of " << dark;
+}
+
+TEST_F(HistoryTableTest, TheEditorOfANoteHasRoomForTheRingOfTheKeyboard)
+{
+    fill(1);
+    show();
+    table().selectRow(0);
+    table().editNote();
+    ASSERT_NE(editor(), nullptr);
+    constexpr int ring = 2 * Theme::ringWidth;
+    EXPECT_TRUE(table().viewport()->rect().contains(
+        editor()->geometry().adjusted(-ring, -ring, ring, ring)));
+}
+
+TEST_F(HistoryTableTest, ByTheKeyTheMenuOpensAtItsRow)
+{
+    fill(100);
+    show();
+    table().selectRow(50);
+    QList<QPoint> places;
+    QObject::connect(&table(), &QWidget::customContextMenuRequested, &table(),
+        [&places](const QPoint &place) { places << place; });
+    QContextMenuEvent byKey(
+        QContextMenuEvent::Keyboard, table().rect().center(), QPoint(), Qt::NoModifier);
+    QApplication::sendEvent(&table(), &byKey);
+    ASSERT_EQ(places.size(), 1);
+    EXPECT_EQ(table().rowAt(places.first().y()), 50) << "and the row is in sight";
+    QContextMenuEvent byMouse(QContextMenuEvent::Mouse, QPoint(20, 5), QPoint(), Qt::NoModifier);
+    QApplication::sendEvent(table().viewport(), &byMouse);
+    EXPECT_EQ(places.value(1), QPoint(20, 5));
+    for (auto *menu : window.findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly)) {
+        menu->close();
+    }
+    settle();
 }
 
 TEST_F(HistoryTableTest, F2EditsTheNoteOfTheRowAndReturnSavesIt)

@@ -120,6 +120,24 @@ TEST_F(HistoryWindowTest, ADeletionIsUndoneByItsToast)
     EXPECT_FALSE(toast().isVisible());
 }
 
+TEST_F(HistoryWindowTest, TheToastCoversNoButton)
+{
+    fill(3);
+    show();
+    table().selectRow(0);
+    settle();
+    controller.deleteSelected();
+    settle();
+    ASSERT_TRUE(toast().isVisible());
+    for (const auto &name : {u"saveAddresses"_s, u"exportHistory"_s, u"deleteRecords"_s}) {
+        const QWidget &covered = button(name);
+        EXPECT_FALSE(
+            toast().geometry().intersects(QRect(covered.mapTo(&window, QPoint()), covered.size())))
+            << name.toStdString();
+    }
+    EXPECT_TRUE(window.rect().contains(toast().geometry()));
+}
+
 TEST_F(HistoryWindowTest, TheToastGoesWhenItsUndoIsLost)
 {
     fill(3);

@@ -72,6 +72,17 @@ TEST_F(MessageAlertsTest, TheFirstButtonIsTheDefault)
     EXPECT_EQ(alerts.runModal(question), 0);
 }
 
+TEST_F(MessageAlertsTest, AnotherButtonCanBeTheDefault)
+{
+    Alert other = question;
+    other.defaultButton = 2;
+    whenOpen([](QMessageBox &box) {
+        EXPECT_EQ(box.defaultButton(), button(box, u"Cancel"_s));
+        box.defaultButton()->click();
+    });
+    EXPECT_EQ(alerts.runModal(other), 2);
+}
+
 TEST_F(MessageAlertsTest, AnswersWithTheButtonThatWasChosen)
 {
     for (int index = 0; index < question.buttons.size(); ++index) {
