@@ -1636,14 +1636,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Das Programm, das Quillon bei der Anmeldung startet, ist nicht installiert.</translation>
     </message>
     <message>
-        <source>The autostart entry could not be written.</source>
-        <translation>Der Autostart-Eintrag konnte nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>The autostart entry could not be removed.</source>
-        <translation>Der Autostart-Eintrag konnte nicht entfernt werden.</translation>
-    </message>
-    <message>
         <source>The desktop has Quillon switched off in its own list. Switch this off and on again to have it started.</source>
         <translation>Die Arbeitsumgebung hat Quillon in ihrer eigenen Liste ausgeschaltet. Schalten Sie dies aus und wieder ein, damit es gestartet wird.</translation>
     </message>
@@ -1814,10 +1806,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Every address change is listed here.</source>
         <translation>Jede Änderung einer Adresse wird hier aufgelistet.</translation>
-    </message>
-    <message>
-        <source>Select at most %@ to save them.</source>
-        <translation>Zum Speichern höchstens %@ auswählen.</translation>
     </message>
     <message>
         <source>Deleting…</source>
