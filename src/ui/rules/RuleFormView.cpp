@@ -155,7 +155,10 @@ void RuleFormView::fillGrid(QWidget *vendorField)
     m_ofNetworkRules << addLine(localized("Network"), m_network, {m_saveNetwork});
     m_ofNetworkRules << addLine(localized("Action"), m_action);
     addLine(localized("Address"), m_address, {m_newAddress, m_saveAddress});
-    addLine(localized("Vendor"), vendorField);
+    // What is labelled is the input in the box: a box that passed the keyboard on would call itself
+    // focused as well.
+    qobject_cast<QLabel *>(addLine(localized("Vendor"), vendorField).constFirst())
+        ->setBuddy(vendorField->findChild<QLineEdit *>());
     m_ofNetworkRules << addLine(localized("Repeat"), m_repeat, {m_minutes, m_unit});
 }
 

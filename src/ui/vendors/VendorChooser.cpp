@@ -61,7 +61,6 @@ void VendorChooser::arrange(Caption caption)
     // What stands there unless somebody chooses is always legible.
     const int usual = m_field->fontMetrics().horizontalAdvance(localized("Random Address"));
     m_field->setMinimumWidth(before + usual + after + 2 * inset + Theme::unit / 2);
-    setFocusProxy(m_field);
 }
 
 void VendorChooser::makeField()
