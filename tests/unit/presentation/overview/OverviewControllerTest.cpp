@@ -357,6 +357,24 @@ TEST_F(OverviewControllerTest, DoesNothingWrongWithAnInterfaceThatHasGone)
     EXPECT_EQ(rows().size(), 2);
 }
 
+TEST_F(OverviewControllerTest, KeepsItsRowsWhenSomebodyElseEmptiesTheTable)
+{
+    OverviewController &controller = open();
+    settings.set(keys::deviceDict, QVariantMap());
+    settings.set(keys::currentWiFiDict, u"no dictionary"_s);
+    overview.look();
+    postVendorUpdated({{record::device, wired}, {u"newVendor"_s, vendorName}});
+    tellOverview(wired, {{u"hasRule"_s, 1}});
+    EXPECT_EQ(wiredRow().row.vendor, u"Random Address"_s) << "it has no place any more";
+    EXPECT_EQ(wiredRow().rules.image, u"NSStatusAvailable"_s);
+    controller.randomize(1);
+    EXPECT_TRUE(wiredRow().randomize.isBusy);
+    scheduler.runPending();
+    EXPECT_FALSE(wiredRow().randomize.isBusy);
+    EXPECT_NE(host.addressOf(wired), wiredRow().row.currentAddress);
+    EXPECT_EQ(rows().size(), 2);
+}
+
 TEST_F(OverviewControllerTest, FollowsTheHelper)
 {
     machine.helper.installed = false;

@@ -295,6 +295,18 @@ TEST_F(OverviewWindowTest, DrawsNothingButTheCountdownWhenItTicks)
     EXPECT_TRUE(touched.laidOut.isEmpty()) << (*touched.laidOut.begin())->metaObject()->className();
 }
 
+TEST_F(OverviewWindowTest, HasTheRowsInSightDrawThemselvesWhenTheyAreReloaded)
+{
+    plug(30);
+    open();
+    Touched touched(window());
+    table().reloadVisibleRows();
+    program.settle();
+    EXPECT_TRUE(touched.drawn.contains(&cell(0)));
+    EXPECT_TRUE(touched.drawn.contains(&cell(1)));
+    EXPECT_FALSE(touched.drawn.contains(&cell(20)));
+}
+
 TEST_F(OverviewWindowTest, PutsADeviceBelowItsPortWhereThereIsNoRoomBesideIt)
 {
     program.machine.host.plug({u"USB 10/100/1000 LAN of the dock"_s, u"enx00005e005310"_s,
