@@ -27,6 +27,16 @@ struct ChangeOutcome
     /// The address that it has now says what became of the change: not so while its owner has not
     /// connected it again.
     bool isSettled = true;
+
+    enum class Kind
+    {
+        Done,
+        Notice, ///< something happened, but not what was asked for
+        Failure,
+    };
+    Kind kind() const;
+    /// What there is to say of it, for the window in which it was asked for.
+    QString text() const;
 };
 
 } // namespace quillon

@@ -27,19 +27,8 @@ const QString activeStatus = u"active"_s;
 OverviewCell::Line lineOf(const ChangeOutcome &outcome)
 {
     using Kind = OverviewCell::LineKind;
-    if (outcome.address.isEmpty()) {
-        return {Kind::Failure, localized("The interface does not say which address it has now.")};
-    }
-    if (!outcome.failure.isEmpty()) {
-        return {Kind::Failure, filled(localized("Not changed: %@."), {outcome.failure})};
-    }
-    if (!outcome.isSettled) {
-        return {Kind::Notice, localized("Not connected again: look at the address when it is.")};
-    }
-    if (outcome.isConfirmed) {
-        return {Kind::Notice, localized("Changed, but to another address than you asked for.")};
-    }
-    return {Kind::Failure, localized("The address was not changed.")};
+    const bool isFailure = outcome.kind() == ChangeOutcome::Kind::Failure;
+    return {isFailure ? Kind::Failure : Kind::Notice, outcome.text()};
 }
 
 } // namespace
@@ -204,7 +193,7 @@ void OverviewCell::fillLine(State &state) const
     state.line = {};
     if (m_live.isUnderWay) {
         // The button that asked for it says so itself.
-        const bool isOwn = m_live.action != OverviewAction::None;
+        const bool isOwn = m_live.action != ChangeRequest::None;
         state.line = {LineKind::Hint, isOwn ? QString() : localized("Changing…")};
         return;
     }
@@ -242,16 +231,16 @@ void OverviewCell::fillButtons(State &state) const
     } else if (whyNone.isEmpty() && isSameAddress(row.hardwareAddress, m_live.currentAddress)) {
         whyNoRestore = localized("The interface has its factory address");
     }
-    const auto button = [&](OverviewAction action, const QString &whyNot, const QString &does) {
+    const auto button = [&](ChangeRequest action, const QString &whyNot, const QString &does) {
         const bool isBusy = m_live.isUnderWay && m_live.action == action;
         // The one that is busy keeps the keyboard.
         return Button{.isEnabled = whyNot.isEmpty() || isBusy,
             .isBusy = isBusy,
             .hint = whyNot.isEmpty() ? does : whyNot};
     };
-    state.randomize = button(OverviewAction::Randomize, whyNone,
+    state.randomize = button(ChangeRequest::Randomize, whyNone,
         localized("Gives the interface a random, locally administered address"));
-    state.restore = button(OverviewAction::Restore, whyNoRestore,
+    state.restore = button(ChangeRequest::Restore, whyNoRestore,
         localized("Gives the interface its hardware address again"));
 }
 

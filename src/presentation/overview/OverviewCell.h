@@ -28,7 +28,7 @@ public:
         bool isGone = false;
         QString currentAddress;
         bool isUnderWay = false; ///< a change of its address, whoever asked
-        OverviewAction action = OverviewAction::None;
+        ChangeRequest action = ChangeRequest::None;
         std::optional<ChangeOutcome> outcome = {}; ///< of the last change since the rows were made
     };
     enum class LineKind

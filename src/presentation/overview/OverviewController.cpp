@@ -140,8 +140,8 @@ void OverviewController::look()
         const QString device = each->row().device;
         const OverviewCell::Live live{.isGone = m_deps.devices.isGone(device),
             .currentAddress = records.value(device).current.value_or(QString()),
-            .isUnderWay = m_deps.changes.isUnderWay(device),
-            .action = m_deps.changes.actionOf(device),
+            .isUnderWay = m_deps.changes.underWay().contains(device),
+            .action = m_deps.changes.underWay().requestOf(device),
             .outcome = m_deps.changes.outcomeOf(device)};
         each->setLive(live);
         hasNewAddresses = hasNewAddresses || !each->state().addressNow.isEmpty();
@@ -183,7 +183,7 @@ void OverviewController::randomize(int row)
         return;
     }
     const QString device = chosen->row().device;
-    m_deps.changes.ask(device, OverviewAction::Randomize);
+    m_deps.changes.underWay().ask(device, ChangeRequest::Randomize);
     m_deps.addressChanger.genRandomMacAddressWithVendor(device);
 }
 
@@ -195,7 +195,7 @@ void OverviewController::restoreHardwareAddress(int row)
     }
     const QString device = chosen->row().device;
     const QString address = chosen->row().hardwareAddress.toLower();
-    m_deps.changes.ask(device, OverviewAction::Restore);
+    m_deps.changes.underWay().ask(device, ChangeRequest::Restore);
     m_deps.addressChanger.updateMacAddressWithAddress(device, address);
 }
 

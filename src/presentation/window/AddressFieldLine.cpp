@@ -45,23 +45,15 @@ AddressFieldLine AddressFieldLine::forText(const QString &fieldText, const QStri
 
 AddressFieldLine AddressFieldLine::forResult(const ChangeOutcome &outcome)
 {
-    if (outcome.address.isEmpty()) {
-        // Whatever the helper says of it: the field still shows the one of before.
-        return {Kind::Failure, localized("The interface does not say which address it has now.")};
+    switch (outcome.kind()) {
+    case ChangeOutcome::Kind::Done:
+        return {Kind::Done, outcome.text()};
+    case ChangeOutcome::Kind::Notice:
+        return {Kind::Notice, outcome.text()};
+    case ChangeOutcome::Kind::Failure:
+        break;
     }
-    if (outcome.isInPlace) {
-        return {Kind::Done, localized("Changed: this is the address in use now.")};
-    }
-    if (!outcome.failure.isEmpty()) {
-        return {Kind::Failure, filled(localized("Not changed: %@."), {outcome.failure})};
-    }
-    if (!outcome.isSettled) {
-        return {Kind::Notice, localized("Not connected again: look at the address when it is.")};
-    }
-    if (outcome.isConfirmed) {
-        return {Kind::Notice, localized("Changed, but to another address than you asked for.")};
-    }
-    return {Kind::Failure, localized("The address was not changed.")};
+    return {Kind::Failure, outcome.text()};
 }
 
 AddressFieldLine AddressFieldLine::changing()

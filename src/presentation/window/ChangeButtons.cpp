@@ -6,28 +6,28 @@
 
 namespace quillon {
 
-bool ChangeButtons::isPossible(ChangeButton button) const
+bool ChangeButtons::isPossible(ChangeRequest button) const
 {
     switch (button) {
-    case ChangeButton::Randomize:
+    case ChangeRequest::Randomize:
         return canRandomize && selected == Selected::Present;
-    case ChangeButton::Apply:
+    case ChangeRequest::Apply:
         return canApply;
-    case ChangeButton::Restore:
+    case ChangeRequest::Restore:
         return canRestore;
-    case ChangeButton::None:
+    case ChangeRequest::None:
         break;
     }
     return false;
 }
 
-bool ChangeButtons::isEnabled(ChangeButton button) const
+bool ChangeButtons::isEnabled(ChangeRequest button) const
 {
     // The one that is busy keeps the keyboard.
     return isChanging ? busy == button : isPossible(button);
 }
 
-QString ChangeButtons::whyNot(ChangeButton button) const
+QString ChangeButtons::whyNot(ChangeRequest button) const
 {
     if (isEnabled(button) && busy != button) {
         return {};
@@ -46,10 +46,10 @@ QString ChangeButtons::whyNot(ChangeButton button) const
     if (!isHelperInstalled) {
         return localized("The helper tool is not installed");
     }
-    if (button == ChangeButton::Apply) {
+    if (button == ChangeRequest::Apply) {
         return localized("The field holds no other address to apply");
     }
-    if (button == ChangeButton::Restore) {
+    if (button == ChangeRequest::Restore) {
         return hasFactoryAddress ? localized("The interface has its factory address")
                                  : localized("The interface has no factory address that is known");
     }

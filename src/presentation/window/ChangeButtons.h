@@ -2,20 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "devices/ChangesUnderWay.h"
+
 #include <QString>
 
 namespace quillon {
 
-/// The buttons of the main window that change an address.
-enum class ChangeButton
-{
-    None,
-    Randomize,
-    Apply,
-    Restore,
-};
-
-/// What decides which of these buttons can be used, and what the others say of it.
+/// What decides which of the main window's buttons that change an address can be used, and what the
+/// others say of it.
 struct ChangeButtons
 {
     enum class Selected
@@ -35,14 +29,14 @@ struct ChangeButtons
     Selected selected = Selected::Present;
     /// An address of the selected interface is being changed, whoever asked for it.
     bool isChanging = false;
-    ChangeButton busy = ChangeButton::None; ///< the button that asked for it
+    ChangeRequest busy = ChangeRequest::None; ///< the button that asked for it
 
-    bool isEnabled(ChangeButton button) const;
+    bool isEnabled(ChangeRequest button) const;
     /// Why it is disabled, or what it is busy with; "" while it can be used.
-    QString whyNot(ChangeButton button) const;
+    QString whyNot(ChangeRequest button) const;
 
 private:
-    bool isPossible(ChangeButton button) const;
+    bool isPossible(ChangeRequest button) const;
 };
 
 } // namespace quillon

@@ -42,8 +42,8 @@ void MainWindowModel::update(Change change)
     m_state.update([&](State &state) {
         change(state);
         const QString device = m_deps.currentInterface.device();
-        state.changing = m_progress.isUnderWay(device);
-        state.busyButton = m_progress.buttonOf(device);
+        state.changing = m_progress.underWay().contains(device);
+        state.busyButton = m_progress.underWay().requestOf(device);
         fillButtons(state);
         m_progress.seeAddress(device, state.currentAddress);
         state.fieldLine = lineFor(state);
@@ -194,29 +194,29 @@ void MainWindowModel::checkUpdateButton()
 }
 
 template <typename Act>
-void MainWindowModel::request(ChangeButton button, Act act)
+void MainWindowModel::request(ChangeRequest button, Act act)
 {
     const QString device = m_deps.currentInterface.device();
-    if (!m_progress.isUnderWay(device)) {
-        m_progress.ask(device, button);
+    if (!m_progress.underWay().contains(device)) {
+        m_progress.underWay().ask(device, button);
         act();
     }
 }
 
 void MainWindowModel::randomizeAddress()
 {
-    request(ChangeButton::Randomize, [this] { m_deps.addressChanger.randomizeAddress(); });
+    request(ChangeRequest::Randomize, [this] { m_deps.addressChanger.randomizeAddress(); });
 }
 
 void MainWindowModel::changeMacAddress()
 {
-    request(ChangeButton::Apply,
+    request(ChangeRequest::Apply,
         [this] { setFieldText(m_deps.addressChanger.changeMacAddress(m_state->fieldText)); });
 }
 
 void MainWindowModel::restoreDefaultAddress()
 {
-    request(ChangeButton::Restore, [this] { m_deps.addressChanger.restoreDefaultAddress(); });
+    request(ChangeRequest::Restore, [this] { m_deps.addressChanger.restoreDefaultAddress(); });
 }
 
 void MainWindowModel::toggleHardwarePopover()
@@ -324,12 +324,12 @@ void MainWindowModel::fillButtons(State &state) const
         .selected = selected(),
         .isChanging = state.changing,
         .busy = state.busyButton};
-    state.updateEnabled = buttons.isEnabled(ChangeButton::Apply);
-    state.randomizeEnabled = buttons.isEnabled(ChangeButton::Randomize);
-    state.restoreEnabled = buttons.isEnabled(ChangeButton::Restore);
-    state.whyNoUpdate = buttons.whyNot(ChangeButton::Apply);
-    state.whyNoRandomize = buttons.whyNot(ChangeButton::Randomize);
-    state.whyNoRestore = buttons.whyNot(ChangeButton::Restore);
+    state.updateEnabled = buttons.isEnabled(ChangeRequest::Apply);
+    state.randomizeEnabled = buttons.isEnabled(ChangeRequest::Randomize);
+    state.restoreEnabled = buttons.isEnabled(ChangeRequest::Restore);
+    state.whyNoUpdate = buttons.whyNot(ChangeRequest::Apply);
+    state.whyNoRandomize = buttons.whyNot(ChangeRequest::Randomize);
+    state.whyNoRestore = buttons.whyNot(ChangeRequest::Restore);
 }
 
 } // namespace quillon

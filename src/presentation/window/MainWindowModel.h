@@ -5,6 +5,7 @@
 #include "base/Shown.h"
 #include "devices/HexFormatter.h"
 #include "devices/HexValueTransformer.h"
+#include "presentation/window/ChangeButtons.h"
 #include "presentation/window/ChangeProgress.h"
 
 #include <QObject>
@@ -48,7 +49,7 @@ public:
         /// An address of the selected interface is being changed, whoever asked for it: the
         /// buttons are disabled, but for the one that was used, which is busy.
         bool changing = false;
-        ChangeButton busyButton = ChangeButton::None;
+        ChangeRequest busyButton = ChangeRequest::None;
 
         bool hardwarePopoverShown = false;
         bool hardwareIndicatorVisible = false; ///< the address in use is not the factory address
@@ -164,7 +165,7 @@ private:
     template <typename Change>
     void update(Change change);
     template <typename Act>
-    void request(ChangeButton button, Act act);
+    void request(ChangeRequest button, Act act);
 
     Collaborators m_deps;
     HexValueTransformer m_displayCase;

@@ -155,8 +155,8 @@ void AddressCard::refresh()
             ? localized("Changed: the address in use is not the hardware address")
             : localized("Twelve hexadecimal digits. Return applies the address."));
     m_line->say(state.fieldLine.text, kindOf(state.fieldLine.kind));
-    m_apply->setBusy(state.busyButton == ChangeButton::Apply);
-    m_randomize->setBusy(state.busyButton == ChangeButton::Randomize);
+    m_apply->setBusy(state.busyButton == ChangeRequest::Apply);
+    m_randomize->setBusy(state.busyButton == ChangeRequest::Randomize);
     setUsable(*m_apply, state.updateEnabled,
         localized("Gives the interface the address in the field"), state.whyNoUpdate);
     setUsable(*m_randomize, state.randomizeEnabled,

@@ -48,7 +48,7 @@ void HardwareDetails::refresh()
 {
     const auto &state = m_model.state();
     showLine(*m_address, state.hardwareAddress);
-    m_restore->setBusy(state.busyButton == ChangeButton::Restore);
+    m_restore->setBusy(state.busyButton == ChangeRequest::Restore);
     m_restore->setUsable(state.restoreEnabled);
     const QString hint =
         state.restoreEnabled

@@ -76,30 +76,49 @@ class LabNetworksTest(RadioCase):
         self.assertIn("-92 dBm", noises)
 
     def test_while_it_scans(self):
-        scanning = self.begin_scan()
-        self.addCleanup(scanning.wait)
-        self.addCleanup(scanning.kill)
+        told = self.begin_scan()
         looked = 0
         end = time.monotonic() + DEADLINE
-        while looked < 3 or scanning.poll() is None:
-            self.assertLess(time.monotonic(), end, f"after {looked} looks the scan has not ended")
+        while "scan finished" not in (events := told()) and "scan aborted" not in events:
+            self.assertLess(time.monotonic(), end, f"after {looked} looks the scan has not ended: {events}")
             self.expect(SSID="lab-wpa2", channel="36 (5 GHz, 80 MHz)")
             looked += 1
+        self.assertGreater(looked, 0, "the scan had ended before the first look")
+        self.expect(SSID="lab-wpa2", channel="36 (5 GHz, 80 MHz)")
 
-    @staticmethod
-    def begin_scan():
-        """Returns the scanner; NetworkManager may be at it at that moment."""
-        end = time.monotonic() + DEADLINE
-        while time.monotonic() < end:
-            scanning = subprocess.Popen(("iw", "dev", WIRELESS, "scan"), stdout=subprocess.DEVNULL,
-                                        stderr=subprocess.DEVNULL)
+    def begin_scan(self):
+        """Returns what tells the radio's events since the scan began. NetworkManager may be at it at that moment."""
+        # iw's own "scan" listens only after it has asked, and waits for ever where the answer was quicker.
+        read, write = os.pipe()
+        os.set_blocking(read, False)
+        listener = subprocess.Popen(("iw", "event"), stdout=write)
+        os.close(write)
+        self.addCleanup(os.close, read)
+        self.addCleanup(listener.wait)
+        self.addCleanup(listener.kill)
+        events = ""
+
+        def told():
+            nonlocal events
             try:
-                scanning.wait(0.5)
-            except subprocess.TimeoutExpired:
-                return scanning
-            if scanning.returncode == 0:
-                raise AssertionError("a scan takes no time")
-        raise AssertionError(f"no scan can begin within {DEADLINE} s")
+                events += os.read(read, 65536).decode()
+            except BlockingIOError:
+                pass
+            return events
+
+        def began():
+            nonlocal events
+            told()
+            events = ""
+            end = time.monotonic() + 5
+            if call("iw", "dev", WIRELESS, "scan", "trigger")[0] != 0:
+                return False
+            while "scan started" not in told() and time.monotonic() < end:
+                time.sleep(0.05)
+            return "scan started" in events  # not, when the listener came too late
+
+        wait_until(began, "no scan can begin")
+        return told
 
     def test_on_no_network(self):
         as_user("nmcli", "device", "disconnect", WIRELESS)

@@ -192,7 +192,7 @@ TEST_F(OverviewCellTest, SaysWhyAButtonCannotBeUsed)
     const QString other = u"02:00:00:00:00:01"_s;
     live({.currentAddress = other});
     EXPECT_TRUE(shown().randomize.isEnabled && shown().restore.isEnabled);
-    live({.currentAddress = other, .isUnderWay = true, .action = OverviewAction::Restore});
+    live({.currentAddress = other, .isUnderWay = true, .action = ChangeRequest::Restore});
     EXPECT_EQ(text(OverviewCell::LineKind::Hint), QString()) << "its button says it";
     EXPECT_TRUE(shown().restore.isBusy && shown().restore.isEnabled);
     EXPECT_FALSE(shown().randomize.isBusy || shown().randomize.isEnabled);

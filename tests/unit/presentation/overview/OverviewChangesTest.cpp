@@ -16,24 +16,12 @@ protected:
     const QString other = u"02:00:00:00:00:01"_s;
 };
 
-TEST_F(OverviewChangesTest, CountsAChangeFromThePressOn)
-{
-    machine.helper.mood = FakeHelper::Mood::Hanging;
-    changes.ask(wired, OverviewAction::Restore);
-    EXPECT_TRUE(changes.isUnderWay(wired));
-    EXPECT_EQ(changes.actionOf(wired), OverviewAction::Restore);
-    changer.updateMacAddressWithAddress(wired, other);
-    scheduler.runPending();
-    EXPECT_TRUE(changes.isUnderWay(wired));
-    EXPECT_FALSE(changes.isUnderWay(wifi));
-}
-
 TEST_F(OverviewChangesTest, EndsWithWhatBecameOfIt)
 {
-    changes.ask(wired, OverviewAction::Randomize);
+    changes.underWay().ask(wired, ChangeRequest::Randomize);
     changer.updateMacAddressWithAddress(wired, other);
     scheduler.runPending();
-    EXPECT_FALSE(changes.isUnderWay(wired));
+    EXPECT_FALSE(changes.underWay().contains(wired));
     ASSERT_TRUE(changes.outcomeOf(wired));
     EXPECT_TRUE(changes.outcomeOf(wired)->isInPlace);
     EXPECT_EQ(changes.outcomeOf(wired)->address, other);
@@ -43,10 +31,10 @@ TEST_F(OverviewChangesTest, EndsWithWhatBecameOfIt)
 
 TEST_F(OverviewChangesTest, EndsWhereTheInterfaceHasTheAddress)
 {
-    changes.ask(wired, OverviewAction::Restore);
+    changes.underWay().ask(wired, ChangeRequest::Restore);
     changer.updateMacAddressWithAddress(wired, host.addressOf(wired));
     scheduler.runPending();
-    EXPECT_FALSE(changes.isUnderWay(wired));
+    EXPECT_FALSE(changes.underWay().contains(wired));
     EXPECT_FALSE(changes.outcomeOf(wired));
 }
 
@@ -56,10 +44,10 @@ TEST_F(OverviewChangesTest, CountsWhatOthersAskForByTheWay)
     changer.updateMacAddressWithAddress(wired, other);
     changer.updateMacAddressWithAddress(wired, u"02:00:00:00:00:02"_s);
     QList<bool> underWay;
-    QObject::connect(
-        &changes, &OverviewChanges::changed, [&] { underWay << changes.isUnderWay(wired); });
+    QObject::connect(&changes, &OverviewChanges::changed,
+        [&] { underWay << changes.underWay().contains(wired); });
     scheduler.runPending();
-    EXPECT_FALSE(changes.isUnderWay(wired));
+    EXPECT_FALSE(changes.underWay().contains(wired));
     EXPECT_TRUE(underWay.contains(true));
     EXPECT_FALSE(changes.outcomeOf(wired)->isInPlace);
 }

@@ -26,7 +26,7 @@ protected:
 
 TEST_F(ChangeProgressTest, SaysNothingBeforeTheFirstChange)
 {
-    EXPECT_FALSE(progress.isUnderWay(wired));
+    EXPECT_FALSE(progress.underWay().contains(wired));
     EXPECT_EQ(line(wired), std::nullopt);
 }
 
@@ -35,27 +35,12 @@ TEST_F(ChangeProgressTest, AChangeIsUnderWayUntilTheHelperHasAnswered)
     machine.helper.changeTakes = 3s;
     changer.updateMacAddressWithAddress(wired, wanted);
     scheduler.advance(1s);
-    EXPECT_TRUE(progress.isUnderWay(wired));
+    EXPECT_TRUE(progress.underWay().contains(wired));
     EXPECT_EQ(line(wired), AddressFieldLine::changing());
-    EXPECT_FALSE(progress.isUnderWay(wifi));
+    EXPECT_FALSE(progress.underWay().contains(wifi));
     scheduler.advance(5s);
-    EXPECT_FALSE(progress.isUnderWay(wired));
+    EXPECT_FALSE(progress.underWay().contains(wired));
     EXPECT_EQ(line(wired), AddressFieldLine::forResult({.isInPlace = true, .address = wanted}));
-}
-
-TEST_F(ChangeProgressTest, OfTwoChangesTheLastOneEndsIt)
-{
-    machine.helper.changeTakes = 3s;
-    changer.updateMacAddressWithAddress(wired, wanted);
-    scheduler.advance(1s);
-    changer.updateMacAddressWithAddress(wired, u"02:AA:BB:CC:DD:EF"_s);
-    int ends = 0;
-    QObject::connect(&changer, &AddressChanger::changeEnded, [&] {
-        ++ends;
-        EXPECT_EQ(progress.isUnderWay(wired), ends == 1);
-    });
-    scheduler.advance(20s);
-    EXPECT_EQ(ends, 2);
 }
 
 TEST_F(ChangeProgressTest, SaysWhyAnAddressWasNotChanged)
@@ -68,69 +53,38 @@ TEST_F(ChangeProgressTest, SaysWhyAnAddressWasNotChanged)
                          u"Not changed: Please make sure you have installed the HelperTool."_s}));
 }
 
-TEST_F(ChangeProgressTest, WhatAButtonAskedForIsUnderWayAtOnceAndEndsWithItsChange)
-{
-    progress.ask(wired, ChangeButton::Randomize);
-    EXPECT_TRUE(progress.isUnderWay(wired));
-    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::Randomize);
-    machine.helper.changeTakes = 3s;
-    changer.updateMacAddressWithAddress(wired, wanted);
-    scheduler.advance(1s);
-    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::Randomize);
-    scheduler.advance(5s);
-    EXPECT_FALSE(progress.isUnderWay(wired));
-    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::None);
-}
-
-TEST_F(ChangeProgressTest, AChangeFromElsewhereCameFromNoButton)
-{
-    machine.helper.changeTakes = 3s;
-    changer.updateMacAddressWithAddress(wired, wanted);
-    scheduler.advance(1s);
-    EXPECT_TRUE(progress.isUnderWay(wired));
-    EXPECT_EQ(progress.buttonOf(wired), ChangeButton::None);
-}
-
-TEST_F(ChangeProgressTest, ItEndsAlsoWhereNothingIsToBeDone)
-{
-    progress.ask(wired, ChangeButton::Apply);
-    changer.updateMacAddressWithAddress(wired, devices.record(wired).current.value_or(QString()));
-    scheduler.runPending();
-    EXPECT_FALSE(progress.isUnderWay(wired));
-}
-
 TEST_F(ChangeProgressTest, ItEndsWhateverBecomesOfTheHelper)
 {
     for (const auto mood : {FakeHelper::Mood::Refusing, FakeHelper::Mood::Dropping,
              FakeHelper::Mood::Lying, FakeHelper::Mood::Hanging}) {
         machine.helper.mood = mood;
-        progress.ask(wired, ChangeButton::Apply);
+        progress.underWay().ask(wired, ChangeRequest::Apply);
         changer.updateMacAddressWithAddress(wired, wanted);
         scheduler.runPending();
         machine.helper.timeOut();
         scheduler.advance(1s);
-        EXPECT_FALSE(progress.isUnderWay(wired)) << int(mood);
+        EXPECT_FALSE(progress.underWay().contains(wired)) << int(mood);
         ASSERT_TRUE(line(wired)) << int(mood);
         EXPECT_EQ(line(wired)->kind, Kind::Failure) << int(mood);
     }
     machine.helper.mood = FakeHelper::Mood::Obliging;
     machine.helper.installed = false;
-    progress.ask(wired, ChangeButton::Apply);
+    progress.underWay().ask(wired, ChangeRequest::Apply);
     changer.updateMacAddressWithAddress(wired, wanted);
     scheduler.advance(1s);
-    EXPECT_FALSE(progress.isUnderWay(wired)) << "the helper is gone";
+    EXPECT_FALSE(progress.underWay().contains(wired)) << "the helper is gone";
     EXPECT_EQ(line(wired)->kind, Kind::Failure);
 }
 
 TEST_F(ChangeProgressTest, ItEndsWhenTheInterfaceGoes)
 {
     machine.helper.changeTakes = 3s;
-    progress.ask(wired, ChangeButton::Randomize);
+    progress.underWay().ask(wired, ChangeRequest::Randomize);
     changer.updateMacAddressWithAddress(wired, wanted);
     scheduler.advance(1s);
     host.unplug(wired);
     scheduler.advance(20s);
-    EXPECT_FALSE(progress.isUnderWay(wired));
+    EXPECT_FALSE(progress.underWay().contains(wired));
     EXPECT_EQ(progress.lineFor(wired, u"02:00:00:00:00:01"_s)->kind, Kind::Failure)
         << "it does not say which address it has";
 }

@@ -118,7 +118,7 @@ TEST_F(MainWindowModelButtonsTest, TheButtonsChangeTheAddressOfTheSelectedInterf
 TEST_F(MainWindowModelButtonsTest, OnlyTheButtonThatWasUsedIsBusyAndASecondPressDoesNothing)
 {
     model.randomizeAddress();
-    EXPECT_EQ(shown().busyButton, ChangeButton::Randomize);
+    EXPECT_EQ(shown().busyButton, ChangeRequest::Randomize);
     EXPECT_TRUE(shown().randomizeEnabled) << "it keeps the keyboard";
     EXPECT_FALSE(shown().restoreEnabled);
     EXPECT_FALSE(shown().updateEnabled);
@@ -128,7 +128,7 @@ TEST_F(MainWindowModelButtonsTest, OnlyTheButtonThatWasUsedIsBusyAndASecondPress
     model.changeMacAddress();
     scheduler.runPending();
     EXPECT_EQ(machine.helper.changes().size(), 1);
-    EXPECT_EQ(shown().busyButton, ChangeButton::None);
+    EXPECT_EQ(shown().busyButton, ChangeRequest::None);
     EXPECT_TRUE(shown().randomizeEnabled);
 }
 
@@ -138,7 +138,7 @@ TEST_F(MainWindowModelButtonsTest, AChangeFromElsewhereDisablesTheButtonsAndMake
     changer.updateMacAddressWithAddress(wired, u"02:AA:BB:CC:DD:EE"_s);
     scheduler.advance(std::chrono::seconds(1));
     EXPECT_EQ(shown().fieldLine, AddressFieldLine::changing());
-    EXPECT_EQ(shown().busyButton, ChangeButton::None);
+    EXPECT_EQ(shown().busyButton, ChangeRequest::None);
     EXPECT_FALSE(shown().randomizeEnabled);
     EXPECT_EQ(shown().whyNoRandomize, u"The address is being changed"_s);
     scheduler.advance(std::chrono::seconds(5));
