@@ -28,9 +28,21 @@ const QList<FaceLook> looks{
     {.name = u"German"_s, .language = u"de"_s},
     {.name = u"LargeText"_s, .textScale = 2},
     {.name = u"LargeTextGerman"_s, .textScale = 2, .language = u"de"_s},
-    {.name = u"LargeTextMirrored"_s, .textScale = 2, .mirrored = true},
     {.name = u"LargeTextWordy"_s, .textScale = 2, .wordy = true},
+    {.name = u"LargeTextMirrored"_s, .textScale = 2, .mirrored = true},
 };
+
+/// Whether all can be read is seen without the sanitizers. With them it is memory that counts,
+/// which no other look uses in another way: they have the first one, and the one with most done to
+/// it.
+QList<FaceLook> looksOfThisBuild()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return {looks.first(), looks.last()};
+#else
+    return looks;
+#endif
+}
 
 class FaceTest : public ::testing::TestWithParam<std::tuple<FaceScene, FaceLook>>
 {
@@ -49,7 +61,8 @@ std::string nameOf(const ::testing::TestParamInfo<FaceTest::ParamType> &info)
 }
 
 INSTANTIATE_TEST_SUITE_P(, FaceTest,
-    ::testing::Combine(::testing::ValuesIn(faceScenes()), ::testing::ValuesIn(looks)), nameOf);
+    ::testing::Combine(::testing::ValuesIn(faceScenes()), ::testing::ValuesIn(looksOfThisBuild())),
+    nameOf);
 
 TEST_P(FaceTest, CanBeRead)
 {
