@@ -98,8 +98,8 @@ def restart_owner():
 
 def look_at(device):
     """What each case came to, in order."""
-    if not has_lease(device):
-        return {"change": "nobody's here"}
+    if becomes(lambda: has_lease(device)) is None:
+        return {"change": "no lease any more"}
     factory = address(device)
     new = NEW[device]
     # For comparison: what the owner and the machine do by themselves.
@@ -132,9 +132,11 @@ def look_at(device):
 
 def main():
     code = 0
+    # Asked before anything is done to the owner, who has all of its interfaces to see to.
+    owned = [device for device in (WIRED, WIRELESS) if has_lease(device)]
     for device in (WIRED, WIRELESS):
         try:
-            found = look_at(device)
+            found = look_at(device) if device in owned else {"change": "nobody's here"}
         except (AssertionError, OSError, KeyError, ValueError, subprocess.SubprocessError) as problem:
             found = {"change": f"could not be looked at: {problem}"}
             code = 1
