@@ -187,7 +187,7 @@ void RulesPreferencesViewController::deleteRule()
     if (!isListShown() || selected.isEmpty()) {
         return;
     }
-    const qsizetype first = m_deps.table.state().selectedRows.first();
+    const qsizetype first = m_deps.table.state().selectedRows.front();
     m_deps.table.setFresh({});
     const qsizetype deleted = m_deps.editing.deleteRules(selected);
     m_deps.table.reload();

@@ -83,13 +83,13 @@ QStringList RulesTableModel::selectedIDs() const
 
 void RulesTableModel::selectRows(const QList<qsizetype> &rows, std::optional<qsizetype> last)
 {
-    QList<qsizetype> selected;
+    std::vector<qsizetype> selected;
     std::ranges::copy_if(rows, std::back_inserter(selected),
         [this](qsizetype row) { return row >= 0 && row < state().rows.size(); });
     std::ranges::sort(selected);
-    const qsizetype lowest = selected.isEmpty() ? -1 : selected.last();
+    const qsizetype lowest = selected.empty() ? -1 : selected.back();
     m_state.update([&](State &state) {
-        state.lastSelected = last && selected.contains(*last) ? *last : lowest;
+        state.lastSelected = last && std::ranges::binary_search(selected, *last) ? *last : lowest;
         state.selectedRows = selected;
     });
 }
@@ -123,21 +123,21 @@ void RulesTableModel::reload()
     const QString last = state().rows.value(state().lastSelected).objID;
     const QList<Row> rows = fetchRows();
     m_state.update([&](State &state) {
-        const qsizetype before = state.selectedRows.value(0, -1);
+        const qsizetype before = state.selectedRows.empty() ? -1 : state.selectedRows.front();
         state.rows = rows;
         state.names = RuleNames::of(m_deps.settings, m_deps.devices);
         state.selectedRows.clear();
         for (qsizetype row = 0; row < rows.size() && !selected.isEmpty(); ++row) {
             if (selected.contains(rows.at(row).objID)) {
-                state.selectedRows << row;
+                state.selectedRows.push_back(row);
             }
         }
-        if (state.selectedRows.isEmpty() && before >= 0 && !rows.isEmpty()) {
-            state.selectedRows << std::min(before, rows.size() - 1);
+        if (state.selectedRows.empty() && before >= 0 && !rows.isEmpty()) {
+            state.selectedRows.push_back(std::min(before, rows.size() - 1));
         }
-        const qsizetype lowest = state.selectedRows.isEmpty() ? -1 : state.selectedRows.last();
+        const qsizetype lowest = state.selectedRows.empty() ? -1 : state.selectedRows.back();
         const qsizetype place = last.isEmpty() ? -1 : placeIn(rows, last);
-        state.lastSelected = state.selectedRows.contains(place) ? place : lowest;
+        state.lastSelected = std::ranges::binary_search(state.selectedRows, place) ? place : lowest;
     });
     Q_EMIT reloaded();
 }

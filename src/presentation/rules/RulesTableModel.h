@@ -39,9 +39,9 @@ public:
         /// Enabled rules first, then by device downwards, then by name; what a command has just
         /// made stands where that put it.
         QList<Row> rows;
-        QList<qsizetype> selectedRows; ///< ascending
-        qsizetype lastSelected = -1;   ///< of these the one selected last, -1 for none
-        RuleNames names;               ///< what the sentences of the rows are made of
+        std::vector<qsizetype> selectedRows; ///< ascending
+        qsizetype lastSelected = -1;         ///< of these the one selected last, -1 for none
+        RuleNames names;                     ///< what the sentences of the rows are made of
 
         bool operator==(const State &) const = default;
     };

@@ -131,10 +131,10 @@ void RulesListPage::refresh()
     }
     for (QPushButton *command : std::as_const(m_commands)) {
         // A key that was meant for it must not go to another control.
-        if (m_table.state().selectedRows.isEmpty() && command->hasFocus()) {
+        if (m_table.state().selectedRows.empty() && command->hasFocus()) {
             firstControl()->setFocus(Qt::OtherFocusReason);
         }
-        command->setEnabled(!m_table.state().selectedRows.isEmpty());
+        command->setEnabled(!m_table.state().selectedRows.empty());
     }
 }
 

@@ -225,7 +225,7 @@ void RulesListView::focusInEvent(QFocusEvent *event)
     QListView::focusInEvent(event);
     // The keyboard has a row to act on.
     m_pressed = QModelIndex();
-    if (m_table.state().selectedRows.isEmpty() && model()->rowCount() > 0) {
+    if (m_table.state().selectedRows.empty() && model()->rowCount() > 0) {
         m_table.selectRow(0);
     }
 }

@@ -13,8 +13,8 @@ protected:
     {
         fill(2);
         open();
-        QObject::connect(&note, &HistoryNote::ended, &note, [this] { ++ends; });
-        QObject::connect(&note, &HistoryNote::lost, &note, [this] { ++losses; });
+        QObject::connect(&note, &HistoryNote::ended, &listener, [this] { ++ends; });
+        QObject::connect(&note, &HistoryNote::lost, &listener, [this] { ++losses; });
     }
     void elsewhere(const std::function<void(ManagedObjectContext &)> &work)
     {
@@ -30,6 +30,7 @@ protected:
     HistoryNote &note = controller.note();
     int ends = 0;
     int losses = 0;
+    QObject listener; ///< what is told when the window goes is not counted any more
 };
 
 TEST_F(HistoryNoteTest, WhatWasTypedIsTakenAtItsEndAsOneStepOfUndo)

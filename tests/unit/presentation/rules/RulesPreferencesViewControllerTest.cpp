@@ -22,7 +22,7 @@ protected:
             [this](qsizetype count) { deleted << count; });
     }
     Page page() const { return editor.state().page; }
-    QList<qsizetype> selected() const { return rows.state().selectedRows; }
+    std::vector<qsizetype> selected() const { return rows.state().selectedRows; }
     const RulesTableModel::Row &row(qsizetype place) const { return rows.state().rows.at(place); }
     Rule ruleAt(qsizetype place) { return queries.ruleWithID(row(place).objID); }
     void add(const QString &name)
@@ -53,7 +53,7 @@ TEST_F(RulesPreferencesViewControllerTest, AddsARuleFromTheForm)
     ASSERT_EQ(rows.state().rows.size(), 1);
     EXPECT_EQ(row(0).values, shown);
     EXPECT_FALSE(row(0).enabled) << "the user switches it on in the list";
-    EXPECT_EQ(selected(), QList<qsizetype>{0});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{0});
     EXPECT_FALSE(context().hasChanges());
     EXPECT_EQ(hasRule(en0), 2);
 }
@@ -63,7 +63,7 @@ TEST_F(RulesPreferencesViewControllerTest, SelectsTheLastRowWhichIsTheNewRule)
     addRule({.name = u"z"_s, .enabled = false});
     add(u"new"_s);
     EXPECT_EQ(names(), (QStringList{u"z"_s, u"new"_s}));
-    EXPECT_EQ(selected(), QList<qsizetype>{1});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{1});
     // The next command puts it where it belongs.
     editor.switchRule(row(0).objID, true);
     scheduler.runPending();
@@ -95,7 +95,7 @@ TEST_F(RulesPreferencesViewControllerTest, SavesTheNetworkInUseAfterTheLookUps)
     editor.addRule();
     chooseNetwork(u"Cafe"_s);
     editor.chooseOK();
-    EXPECT_EQ(ruleAt(selected().first()).network(), homeBssid);
+    EXPECT_EQ(ruleAt(selected().front()).network(), homeBssid);
 }
 
 TEST_F(RulesPreferencesViewControllerTest, SavesTheNetworkInUseForALoginRuleOrAnUpdateNever)
@@ -132,7 +132,7 @@ TEST_F(RulesPreferencesViewControllerTest, AddsALoginRule)
     chooseDevice(en0);
     editor.chooseOK();
     EXPECT_EQ(page(), Page::List);
-    const qsizetype place = selected().value(0, -1);
+    const qsizetype place = selected().empty() ? -1 : selected().front();
     ASSERT_GE(place, 0);
     EXPECT_EQ(row(place).values.name, u"Clean"_s);
     EXPECT_TRUE(row(place).values.isLogin);
@@ -292,12 +292,12 @@ TEST_F(RulesPreferencesViewControllerTest, DeletesAllThatIsSelectedAndSelectsWha
     editor.deleteRule();
     scheduler.runPending();
     EXPECT_EQ(names(), (QStringList{u"a"_s, u"d"_s}));
-    EXPECT_EQ(selected(), QList<qsizetype>{1});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{1});
     EXPECT_EQ(deleted, QList<qsizetype>{2});
     editor.deleteRule();
-    EXPECT_EQ(selected(), QList<qsizetype>{0}) << "the last row";
+    EXPECT_EQ(selected(), std::vector<qsizetype>{0}) << "the last row";
     editor.deleteRule();
-    EXPECT_EQ(selected(), QList<qsizetype>());
+    EXPECT_EQ(selected(), std::vector<qsizetype>());
     editor.deleteRule();
     EXPECT_EQ(deleted, (QList<qsizetype>{2, 1, 1}));
 }
@@ -330,12 +330,12 @@ TEST_F(RulesPreferencesViewControllerTest, DuplicatesAndSelectsTheRowAfterTheSel
     editor.duplicateRule();
     scheduler.runPending();
     EXPECT_EQ(names(), (QStringList{u"Home"_s, u"Home copy"_s, u"Home and garden"_s}));
-    EXPECT_EQ(selected(), QList<qsizetype>{1});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{1});
     EXPECT_TRUE(row(1).enabled) << "as the original is";
     EXPECT_TRUE(row(0).enabled);
     rows.selectRow(0);
     editor.duplicateRule();
-    EXPECT_EQ(row(selected().first()).values.name, u"Home copy (2)"_s);
+    EXPECT_EQ(row(selected().front()).values.name, u"Home copy (2)"_s);
 }
 
 TEST_F(RulesPreferencesViewControllerTest, RenamesInTheListAsTyped)

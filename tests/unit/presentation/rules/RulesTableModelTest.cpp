@@ -12,7 +12,7 @@ namespace {
 class RulesTableModelTest : public RuleEditorFixture
 {
 protected:
-    QList<qsizetype> selected() const { return rows.state().selectedRows; }
+    std::vector<qsizetype> selected() const { return rows.state().selectedRows; }
 };
 
 TEST_F(RulesTableModelTest, StandsByTheirSwitchThenDeviceDownwardsThenName)
@@ -74,7 +74,7 @@ TEST_F(RulesTableModelTest, KeepsTheSelectionOnItsRules)
     rows.selectRows({0, 1}, 0);
     addRule({.name = u"a"_s});
     addRule({.name = u"c"_s});
-    EXPECT_EQ(selected(), (QList<qsizetype>{1, 3}));
+    EXPECT_EQ(selected(), (std::vector<qsizetype>{1, 3}));
     EXPECT_EQ(rows.state().lastSelected, 1);
 }
 
@@ -85,10 +85,10 @@ TEST_F(RulesTableModelTest, MovesTheSelectionOnFromARuleThatGoes)
     rows.selectRow(0);
     context().deleteObject(first.object());
     context().processPendingChanges();
-    EXPECT_EQ(selected(), QList<qsizetype>{0});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{0});
     context().deleteObject(second.object());
     context().processPendingChanges();
-    EXPECT_EQ(selected(), QList<qsizetype>());
+    EXPECT_EQ(selected(), std::vector<qsizetype>());
     EXPECT_EQ(rows.state().lastSelected, -1);
 }
 
@@ -96,12 +96,12 @@ TEST_F(RulesTableModelTest, SelectsNoRowThatIsNotThere)
 {
     addRule({.name = u"a"_s});
     rows.selectRows({-1, 0, 4}, 4);
-    EXPECT_EQ(selected(), QList<qsizetype>{0});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{0});
     EXPECT_EQ(rows.state().lastSelected, 0);
     rows.selectRow(9);
-    EXPECT_EQ(selected(), QList<qsizetype>{0});
+    EXPECT_EQ(selected(), std::vector<qsizetype>{0});
     rows.selectRules({u"junk"_s});
-    EXPECT_EQ(selected(), QList<qsizetype>());
+    EXPECT_EQ(selected(), std::vector<qsizetype>());
 }
 
 } // namespace

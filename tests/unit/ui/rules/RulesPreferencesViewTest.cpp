@@ -416,7 +416,7 @@ TEST_F(RulesPreferencesViewTest, ThousandsOfRulesAreShownByThoseInSight)
     EXPECT_EQ(list().model()->rowCount(), 3000);
     list().setFocus();
     press(Qt::Key_End);
-    EXPECT_EQ(rows.state().selectedRows, QList<qsizetype>{2999});
+    EXPECT_EQ(rows.state().selectedRows, std::vector<qsizetype>{2999});
 }
 
 } // namespace
