@@ -33,12 +33,13 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
 {
     auto *savedItems = new SavedItemsView(models.savedItems, theme);
     auto *vendorField = new VendorChooser(models.ruleVendor, theme, VendorChooser::Caption::Beside);
-    window.addPane(PreferencesPane::Rules,
-        new RulesPreferencesView(models.rules, theme, {savedItems, vendorField}));
+    auto *rules = new RulesPreferencesView(models.rules, theme, {savedItems, vendorField});
+    window.addPane(PreferencesPane::Rules, rules);
     // They lie over the rest.
     new FavoriteToast(models.removedFavorite, theme, scheduler, &window);
     new ImportToast(models.savedItems.import, theme, scheduler, &window);
-    new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
+    auto *deleted = new DeletedRulesToast(models.rules.editor, theme, scheduler, &window);
+    deleted->keepAbove(rules->buttons());
     whenTheProgramEnds(models.presence, savedItems, &SavedItemsView::endEditing);
 }
 

@@ -5,8 +5,9 @@
 // usage: quillon-face-scenes [--dark] [--high-contrast] [--mirrored] [--large-text] [--wordy]
 // [--announcements] [--list] Reads the name of a state per line and answers "shown" when it is on
 // its way to the screen. To a "?" it answers with the place of its windows there, in pixels: "at X
-// Y WIDTH HEIGHT". Ends with its input. --list tells the names. With --announcements it also says
-// "announced TEXT" for each text that the program says unasked to assistive technology.
+// Y WIDTH HEIGHT", to a "!" with that of the window in use. Ends with its input. --list tells the
+// names. With --announcements it also says "announced TEXT" for each text that the program says
+// unasked to assistive technology.
 #include "base/Languages.h"
 #include "face/Announcements.h"
 #include "face/FaceLook.h"
@@ -82,10 +83,10 @@ void placeWindow()
 }
 
 /// Where on the screen the windows are, in its own pixels.
-QRect place()
+QRect placeOf(const QWidgetList &windows)
 {
     QRect all;
-    for (const QWidget *window : FaceProgram::windows()) {
+    for (const QWidget *window : windows) {
         all |= window->frameGeometry();
     }
     const qreal ratio = qApp->devicePixelRatio();
@@ -102,9 +103,9 @@ void show(
     say(u"shown"_s);
 }
 
-void tellPlace()
+void tellPlace(const QWidgetList &windows)
 {
-    const QRect shown = place();
+    const QRect shown = placeOf(windows);
     say(u"at %1 %2 %3 %4"_s.arg(shown.x()).arg(shown.y()).arg(shown.width()).arg(shown.height()));
 }
 
@@ -157,7 +158,11 @@ int main(int argc, char **argv)
         const QString name = QString::fromUtf8(input.readLine()).trimmed();
         const FaceScene *scene = sceneNamed(name);
         if (name == "?"_L1) {
-            tellPlace();
+            tellPlace(FaceProgram::windows());
+            return;
+        }
+        if (name == "!"_L1 && QApplication::activeWindow() != nullptr) {
+            tellPlace({QApplication::activeWindow()});
             return;
         }
         if (scene == nullptr) {

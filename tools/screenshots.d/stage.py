@@ -36,10 +36,11 @@ class Stage:
         self.process.stdin.close()
         self.process.wait(20)
 
-    def take(self, scene, path):
+    def take(self, scene, path, alone=False):
+        """All windows, or the one in use alone."""
         self.ask(scene, "shown")
         pictures.wait_for_still_screen()
-        pictures.take_area(*map(int, self.ask("?", "at")), path)
+        pictures.take_area(*map(int, self.ask("!" if alone else "?", "at")), path)
 
     def ask(self, line, answer):
         """The words that follow the answer."""

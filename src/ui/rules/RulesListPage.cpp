@@ -31,7 +31,8 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
     , m_empty(new EmptyState(theme, u"list"_s))
     , m_card(new QFrame)
     , m_column(new QVBoxLayout(this))
-    , m_buttons(new QBoxLayout(QBoxLayout::TopToBottom))
+    , m_bar(new QWidget)
+    , m_buttons(new QBoxLayout(QBoxLayout::TopToBottom, m_bar))
 {
     m_card->setProperty("look", u"card"_s);
     auto *inside = new QVBoxLayout(m_card);
@@ -73,7 +74,7 @@ RulesListPage::RulesListPage(RulesTableModel &table, RulesPreferencesViewControl
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(Theme::spacing);
     m_column->addWidget(m_card, 1);
-    m_column->addLayout(m_buttons);
+    m_column->addWidget(m_bar);
     connect(&m_table, &RulesTableModel::changed, this, &RulesListPage::refresh);
     refresh();
 }

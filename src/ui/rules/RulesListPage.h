@@ -31,6 +31,9 @@ public:
     /// Puts it under the list: the rows stay under the pointer when it comes and goes.
     void takeStrip(Strip *strip);
 
+    /// Those below the list.
+    const QWidget &buttons() const { return *m_bar; }
+
     QSize minimumSizeHint() const override;
 
 protected:
@@ -49,6 +52,7 @@ private:
     EmptyState *m_empty;
     QWidget *m_card;
     QVBoxLayout *m_column;
+    QWidget *m_bar;
     QBoxLayout *m_buttons;           ///< in one line where there is room, else in two
     QList<QPushButton *> m_commands; ///< on what is selected
     QPushButton *m_addRule;

@@ -92,6 +92,11 @@ RulesPreferencesView::RulesPreferencesView(
     refresh();
 }
 
+const QWidget &RulesPreferencesView::buttons() const
+{
+    return m_list->buttons();
+}
+
 void RulesPreferencesView::refresh()
 {
     const auto &state = m_models.editor.state();

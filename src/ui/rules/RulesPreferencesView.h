@@ -40,6 +40,8 @@ public:
 
     RulesPreferencesView(
         const Models &models, const Theme &theme, const Parts &parts, QWidget *parent = nullptr);
+    /// Those below the list.
+    const QWidget &buttons() const;
 
 private:
     void refresh();

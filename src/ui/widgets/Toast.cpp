@@ -162,7 +162,8 @@ void Toast::place()
                        2 * Theme::unit;
     const int width = std::min(wanted, widest);
     const int height = layout()->totalHeightForWidth(width);
-    const int bottom = m_below ? m_below->mapTo(parentWidget(), QPoint()).y() - Theme::unit
+    const bool isAbove = m_below && m_below->isVisible();
+    const int bottom = isAbove ? m_below->mapTo(parentWidget(), QPoint()).y() - Theme::unit
                                : window.height() - Theme::windowMargin;
     setGeometry((window.width() - width) / 2, bottom - height, width, height);
 }

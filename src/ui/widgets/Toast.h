@@ -36,7 +36,7 @@ public:
     /// As "Rule deleted". `undo` is called at most once; none means that there is nothing to undo.
     void say(const QString &message, std::function<void()> undo = {});
     void dismiss();
-    /// Above `widget` of the window, instead of at the window's bottom.
+    /// Above `widget` of the window while that can be seen, instead of at the window's bottom.
     void keepAbove(const QWidget &widget);
     QString message() const;
 

@@ -56,6 +56,20 @@ TEST_F(ToastTest, LiesAtTheBottomInTheMiddleForTenSeconds)
     EXPECT_EQ(undone, 0);
 }
 
+TEST_F(ToastTest, KeepsAboveTheButtonsOfItsWindowWhileTheyAreShown)
+{
+    auto *buttons = new QWidget(&window);
+    buttons->setGeometry(0, window.height() - 60, window.width(), 40);
+    buttons->show();
+    toast->keepAbove(*buttons);
+    toast->say(u"Rule deleted"_s, [] {});
+    settle();
+    EXPECT_EQ(toast->geometry().bottom(), buttons->y() - Theme::unit - 1);
+    buttons->hide();
+    toast->say(u"Rule deleted"_s, [] {});
+    EXPECT_EQ(toast->geometry().bottom(), window.height() - Theme::windowMargin - 1);
+}
+
 TEST_F(ToastTest, UndoesOnce)
 {
     button().click();
