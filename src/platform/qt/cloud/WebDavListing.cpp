@@ -52,6 +52,12 @@ bool isGoodStatus(const QString &status)
 
 } // namespace
 
+QByteArray WebDavListing::question()
+{
+    return R"(<?xml version="1.0" encoding="utf-8"?>
+<propfind xmlns="DAV:"><prop><resourcetype/><getcontentlength/><getetag/></prop></propfind>)";
+}
+
 WebDavListing::WebDavListing(const QUrl &folder)
     : m_folder(decodedPath(folder.path(QUrl::FullyEncoded).toLatin1()))
 {
@@ -119,6 +125,7 @@ std::optional<CloudError> WebDavListing::begin()
     if (m_path.size() >= deepest) {
         return notWebDav(u"it is too deep"_s);
     }
+    m_hasBegun = true;
     m_path << name;
     m_text.clear();
     if (m_path.size() == 2 && name == "response"_L1) {
@@ -204,7 +211,10 @@ void WebDavListing::leaveResponse()
 
 CloudResult<QList<CloudFile>> WebDavListing::finish()
 {
-    if (m_xml.hasError() || !m_xml.atEnd() || !m_path.isEmpty() || m_responses == 0) {
+    if (!m_hasBegun) {
+        return notWebDav(u"it does not begin as one"_s);
+    }
+    if (m_xml.hasError() || !m_xml.atEnd() || !m_path.isEmpty()) {
         return CloudError{CloudProblem::Unreachable, u"a listing that was cut off"_s};
     }
     return std::exchange(m_files, {});

@@ -22,6 +22,9 @@ public:
     /// Bytes of an answer; enough for more than 100,000 files.
     static constexpr qint64 longestAnswer = qint64(96) << 20;
 
+    /// The body of the request.
+    static QByteArray question();
+
     /// `folder` is what was asked for.
     explicit WebDavListing(const QUrl &folder);
 
@@ -53,6 +56,7 @@ private:
     QList<CloudFile> m_files;
     QSet<QString> m_names; ///< of m_files
     bool m_hasFolder = false;
+    bool m_hasBegun = false;
     /// The elements that we are in, by their names in DAV:, empty for others.
     QStringList m_path;
     QString m_text;

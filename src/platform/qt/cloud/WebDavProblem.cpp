@@ -22,20 +22,21 @@ bool isExpected(const QByteArray &method, const WebDavAnswer &answer)
     return status == 201 || status == 204 || (status == 200 && !answer.isPage);
 }
 
-CloudProblem problemOf(const QByteArray &method, int status)
+CloudProblem problemOf(const QByteArray &method, const WebDavAnswer &answer)
 {
-    switch (status) {
+    switch (answer.status) {
     case 401:
         return CloudProblem::WrongPassword;
     case 403:
     case 423:
         return CloudProblem::NotAllowed;
     case 404:
+    case 409: // its folder is missing
     case 410:
         return CloudProblem::NotThere;
-    case 409:
-        // Its folder is missing.
-        return CloudProblem::NotThere;
+    case 405:
+        // Some answer so where there is a folder of the name, or nothing that can be written.
+        return method == "PROPFIND" ? CloudProblem::NotAnAccount : CloudProblem::NotAllowed;
     case 412:
         return CloudProblem::Changed;
     case 413:
@@ -46,12 +47,15 @@ CloudProblem problemOf(const QByteArray &method, int status)
     case 425:
     case 429:
         return CloudProblem::Failed;
-    case 405:
-        // Some answer so where there is a folder of the name, or nothing that can be written.
-        return method == "PROPFIND" ? CloudProblem::NotAnAccount : CloudProblem::NotAllowed;
+    case 501:
+        return CloudProblem::NotAnAccount;
     default:
-        return status >= 500 && status != 501 ? CloudProblem::Failed : CloudProblem::NotAnAccount;
+        break;
     }
+    // Done by halves, or to be done later; all of that WebDAV has, a PROPFIND has not.
+    const bool isPart =
+        method != "PROPFIND" && answer.status >= 200 && answer.status < 300 && !answer.isPage;
+    return isPart || answer.status >= 500 ? CloudProblem::Failed : CloudProblem::NotAnAccount;
 }
 
 } // namespace
@@ -61,7 +65,7 @@ std::optional<CloudError> webDavProblem(const QByteArray &method, const WebDavAn
     if (isExpected(method, answer)) {
         return std::nullopt;
     }
-    return CloudError{problemOf(method, answer.status),
+    return CloudError{problemOf(method, answer),
         u"the server answers %1 with status %2%3"_s.arg(QString::fromLatin1(method))
             .arg(answer.status)
             .arg(answer.isPage ? u" and a page"_s : QString())};

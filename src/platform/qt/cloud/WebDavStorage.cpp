@@ -23,12 +23,9 @@ namespace {
 constexpr qint64 smallTalk = 256 * 1024;
 /// A server whose clock counts in seconds does not vouch for a file of the same second.
 constexpr auto untilSure = 1100ms;
-constexpr int mostLooks = 3;
+constexpr int mostLooks = 2;
 /// So much of a file goes out with the head of a request, whatever the server thinks of that.
 constexpr qsizetype readWithTheHead = 64 * 1024;
-
-constexpr auto whatIsListed = R"(<?xml version="1.0" encoding="utf-8"?>
-<propfind xmlns="DAV:"><prop><resourcetype/><getcontentlength/><getetag/></prop></propfind>)";
 
 CloudError noSuchName()
 {
@@ -87,7 +84,7 @@ void WebDavStorage::listAgain(const Listed &listed, bool mayMakeFolder)
     const auto listing = std::make_shared<WebDavListing>(m_folder);
     WebDavRequest request{"PROPFIND", m_folder};
     request.headers = {{"Depth", "1"}, {"Content-Type", "application/xml; charset=utf-8"}};
-    request.body = whatIsListed;
+    request.body = WebDavListing::question();
     request.limit = WebDavListing::longestAnswer;
     request.take = [listing](const QByteArray &bytes) { return listing->add(bytes); };
     ask(
@@ -199,7 +196,7 @@ void WebDavStorage::putRefused(const Writing &writing, const CloudError &error)
         return;
     }
     const bool isReplacement = !writing.isNew && !writing.revision.isEmpty();
-    if (error.problem == CloudProblem::Changed && isReplacement && writing.looks < mostLooks) {
+    if (error.problem == CloudProblem::Changed && isReplacement) {
         lookAgain(writing, error);
         return;
     }
@@ -233,7 +230,7 @@ void WebDavStorage::askWhy(const Writing &writing, const CloudError &error)
 {
     WebDavRequest request{"PROPFIND", m_folder};
     request.headers = {{"Depth", "0"}, {"Content-Type", "application/xml; charset=utf-8"}};
-    request.body = whatIsListed;
+    request.body = WebDavListing::question();
     request.limit = smallTalk;
     ask(
         std::move(request), [writing, error](const WebDavAnswer &) { writing.written(error); },
@@ -251,12 +248,15 @@ void WebDavStorage::lookAgain(const Writing &writing, const CloudError &error)
     ask(
         std::move(request),
         [this, writing, error](const WebDavAnswer &answer) {
-            if (answer.revision != writing.revision || (!answer.isWeak && writing.looks > 0)) {
+            if (answer.revision != writing.revision) {
                 writing.written(error);
                 return;
             }
             Writing again = writing;
-            ++again.looks;
+            // Some never vouch for any file. Then it has to do that it was the right one just now.
+            if (++again.looks == mostLooks) {
+                again.revision.clear();
+            }
             QTimer::singleShot(untilSure, &m_context, [this, again] { put(again); });
         },
         [writing, error](const CloudError &) { writing.written(error); });

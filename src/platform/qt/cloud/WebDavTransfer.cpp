@@ -139,6 +139,7 @@ void WebDavTransfer::readHead()
     m_silence.start(m_limits.silence);
     const QByteArray etag = m_reply->rawHeader("ETag");
     m_answer.status = status();
+    m_answer.url = m_request.url;
     m_answer.revision = webDavRevision(etag);
     m_answer.isWeak = etag.trimmed().startsWith("W/");
     const QByteArray type = m_reply->rawHeader("Content-Type").trimmed().toLower();

@@ -37,6 +37,7 @@ struct WebDavRequest
 struct WebDavAnswer
 {
     int status = 0;
+    QUrl url;              ///< where it came from
     QByteArray body;       ///< only of a good status (2xx), and of no page
     QByteArray revision;   ///< its ETag, see webDavRevision()
     bool isWeak = false;   ///< the ETag may stand for other bytes yet
