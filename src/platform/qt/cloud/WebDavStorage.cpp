@@ -140,13 +140,40 @@ void WebDavStorage::readIfChanged(
     request.limit = limit;
     ask(
         std::move(request),
-        [read](const WebDavAnswer &answer) {
+        [this, name, read](const WebDavAnswer &answer) {
             if (answer.status == 304) {
                 read(std::optional<Content>());
-            } else if (!answer.isFramed) {
-                read(CloudError{CloudProblem::Failed, u"nobody says how long the file is"_s});
-            } else {
+            } else if (answer.saysLength) {
                 read(std::optional(Content{answer.body, answer.revision}));
+            } else {
+                compareLength(name, {answer.body, answer.revision}, read);
+            }
+        },
+        read);
+}
+
+/// Qt does not tell a body that was cut off from a whole one when its length was not said before.
+void WebDavStorage::compareLength(
+    const QString &name, const Content &content, const ReadChanged &read)
+{
+    WebDavRequest request{"PROPFIND", address(name)};
+    request.headers = {{"Depth", "0"}, {"Content-Type", "application/xml; charset=utf-8"}};
+    request.body = WebDavListing::question();
+    request.limit = smallTalk;
+    ask(
+        std::move(request),
+        [this, content, read](const WebDavAnswer &answer) {
+            WebDavListing listing(m_folder);
+            std::optional<CloudError> error = listing.add(answer.body);
+            const CloudResult<QList<CloudFile>> files = listing.finish();
+            const auto *const found = std::get_if<QList<CloudFile>>(&files);
+            if (!error && (!found || found->value(0).size != content.bytes.size())) {
+                error = CloudError{CloudProblem::Unreachable, u"perhaps not the whole file"_s};
+            }
+            if (error) {
+                read(*error);
+            } else {
+                read(std::optional(content));
             }
         },
         read);

@@ -34,6 +34,7 @@ private:
 
     void ask(WebDavRequest request, Answered answered, Refused refused);
     void listAgain(const Listed &listed, bool mayMakeFolder);
+    void compareLength(const QString &name, const Content &content, const ReadChanged &read);
     void put(const Writing &writing);
     void putRefused(const Writing &writing, const CloudError &error);
     void askWhy(const Writing &writing, const CloudError &error);

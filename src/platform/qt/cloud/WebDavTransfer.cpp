@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostRedirects = 5;
+constexpr int wrongPassword = 401;
 constexpr qint64 pieceBytes = 64 * 1024;
 /// What Qt keeps for us before it lets the sender wait.
 constexpr qint64 bufferBytes = 4 * pieceBytes;
@@ -147,7 +148,7 @@ void WebDavTransfer::readHead()
     bool isNumber = false;
     const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
     const bool inChunks = m_reply->rawHeader("Transfer-Encoding").toLower().contains("chunked");
-    m_answer.isFramed = inChunks || (isNumber && length >= 0);
+    m_answer.saysLength = !inChunks && isNumber && length >= 0;
     if (!isWanted()) {
         return;
     }
@@ -194,10 +195,14 @@ void WebDavTransfer::readBody()
         if (m_received > m_request.limit) {
             if (isWanted()) {
                 end(problem(CloudProblem::TooLarge, "the answer is longer than allowed"));
-            } else {
-                end(m_answer); // its head says all
+                return;
             }
-            return;
+            // Its head says all. But a wrong password Qt tells only when it has all of the page,
+            // and must not be interrupted then.
+            if (status() != wrongPassword) {
+                end(m_answer);
+                return;
+            }
         }
         if (!isWanted()) {
             continue;

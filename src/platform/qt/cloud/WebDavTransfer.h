@@ -37,12 +37,12 @@ struct WebDavRequest
 struct WebDavAnswer
 {
     int status = 0;
-    QUrl url;              ///< where it came from
-    QByteArray body;       ///< only of a good status (2xx), and of no page
-    QByteArray revision;   ///< its ETag, see webDavRevision()
-    bool isWeak = false;   ///< the ETag may stand for other bytes yet
-    bool isPage = false;   ///< HTML: it is meant for people
-    bool isFramed = false; ///< it would show if the body had been cut off
+    QUrl url;                ///< where it came from
+    QByteArray body;         ///< only of a good status (2xx), and of no page
+    QByteArray revision;     ///< its ETag, see webDavRevision()
+    bool isWeak = false;     ///< the ETag may stand for other bytes yet
+    bool isPage = false;     ///< HTML: it is meant for people
+    bool saysLength = false; ///< it would show if the body had been cut off
 };
 
 /// An ETag as the revision that we keep: without the mark of a weak one, which some servers put on
