@@ -119,13 +119,16 @@ private:
             socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
             socket->abort();
         } else if (given.then == Then::Repeat) {
-            const auto more = [socket, piece = given.repeated.repeated(64)] {
-                if (socket->bytesToWrite() < (1 << 20)) {
+            // Some 250 MB/s. Where more comes than it can look at, Qt's own thread reads on and on
+            // before it heeds a limit; no network is that fast.
+            auto *const timer = new QTimer(socket);
+            const QByteArray piece = given.repeated.repeated(16);
+            QObject::connect(timer, &QTimer::timeout, socket, [socket, piece] {
+                if (socket->bytesToWrite() < piece.size()) {
                     socket->write(piece);
                 }
-            };
-            QObject::connect(socket, &QTcpSocket::bytesWritten, socket, more);
-            more();
+            });
+            timer->start(std::chrono::milliseconds(1));
         } else if (given.then == Then::Trickle) {
             auto *const timer = new QTimer(socket);
             QObject::connect(timer, &QTimer::timeout, socket, [socket] { socket->write("x"); });

@@ -57,6 +57,13 @@ protected:
         return 0;
     }
 
+    /// What answers may take that are not to be kept, in kilobytes. The sanitizer holds back what
+    /// was freed.
+#ifdef __SANITIZE_ADDRESS__
+    static constexpr qint64 muchMemory = (64 + 256) * 1024;
+#else
+    static constexpr qint64 muchMemory = 64 * 1024;
+#endif
     static constexpr qint64 limit = 1 << 20;
     const QByteArray file = ScriptedServer::whole("200 OK", "secret", "ETag: \"1\"\r\n");
     ScriptedServer server;
@@ -186,7 +193,7 @@ TEST_F(WebDavStorageAgainst, EndlessBodiesAreNotTaken)
     }
     answerAll(ScriptedServer::whole("401 No", QByteArray(4 << 20, 'x')));
     EXPECT_EQ(problemIn(asked().read(u"key"_s, limit)), CloudProblem::WrongPassword);
-    EXPECT_LT(peakMemory() - before, 1024 * 1024) << "kilobytes";
+    EXPECT_LT(peakMemory() - before, muchMemory) << "kilobytes";
 }
 
 TEST_F(WebDavStorageAgainst, EndlessListingsAreNotTaken)
@@ -195,7 +202,7 @@ TEST_F(WebDavStorageAgainst, EndlessListingsAreNotTaken)
     answerAll("HTTP/1.1 207 Multi\r\nTransfer-Encoding: chunked\r\n\r\n", Then::Repeat,
         "4000\r\n" + QByteArray(16 * 1024, '<') + "\r\n");
     EXPECT_EQ(problemIn(asked().list()), CloudProblem::NotAnAccount);
-    EXPECT_LT(peakMemory() - before, 300 * 1024);
+    EXPECT_LT(peakMemory() - before, muchMemory) << "kilobytes";
 }
 
 TEST_F(WebDavStorageAgainst, HeadsWithoutEndAreEnded)
