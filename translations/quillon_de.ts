@@ -2207,5 +2207,17 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>The account did not work as expected. Try again later.</source>
         <translation>Das Konto hat nicht wie erwartet funktioniert. Bitte später noch einmal versuchen.</translation>
     </message>
+    <message>
+        <source>There is no keyring in this session to keep the password in.</source>
+        <translation>In dieser Sitzung gibt es keinen Schlüsselbund, der das Passwort aufbewahren könnte.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked.</source>
+        <translation>Der Schlüsselbund wurde nicht entsperrt.</translation>
+    </message>
+    <message>
+        <source>The keyring did not answer.</source>
+        <translation>Der Schlüsselbund hat nicht geantwortet.</translation>
+    </message>
 </context>
 </TS>
