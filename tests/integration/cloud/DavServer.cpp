@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSslCertificate>
+#include <QSslKey>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
 
@@ -112,6 +114,11 @@ void DavServer::stop()
     m_process.waitForFinished();
 }
 
+void DavServer::forbidWriting() const
+{
+    EXPECT_TRUE(QFile::setPermissions(path(), QFile::ReadOwner | QFile::ExeOwner));
+}
+
 QUrl DavServer::address() const
 {
     return QUrl(u"https://127.0.0.1:%1/"_s.arg(port));
@@ -122,6 +129,16 @@ QByteArray DavServer::fingerprint() const
     const QByteArray text = outputOf(u"openssl"_s,
         {u"x509"_s, u"-in"_s, in("certificate.pem"), u"-noout"_s, u"-fingerprint"_s, u"-sha256"_s});
     return QByteArray::fromHex(text.mid(text.indexOf('=') + 1).trimmed().replace(':', ""));
+}
+
+QSslConfiguration DavServer::configuration() const
+{
+    QFile key(in("key.pem"));
+    EXPECT_TRUE(key.open(QIODevice::ReadOnly));
+    QSslConfiguration configuration;
+    configuration.setLocalCertificateChain(QSslCertificate::fromPath(in("certificate.pem")));
+    configuration.setPrivateKey(QSslKey(&key, QSsl::Ec));
+    return configuration;
 }
 
 QString DavServer::path(const QString &name) const

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QProcess>
+#include <QSslConfiguration>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -34,12 +35,16 @@ public:
 
     void start();
     void stop();
+    /// Whoever asks may not do that any more: its files are read only.
+    void forbidWriting() const;
     /// Where its files are.
     QUrl address() const;
     static QString user() { return QStringLiteral("märy@example.org"); }
     static QString password() { return QStringLiteral("pass wörd:1"); }
     /// SHA-256 of its certificate, as openssl says.
     QByteArray fingerprint() const;
+    /// What a server of our own needs to show the same certificate.
+    QSslConfiguration configuration() const;
     /// Where they are on the disk.
     QString path(const QString &name = {}) const;
 
