@@ -11,7 +11,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -29,7 +28,7 @@ constexpr qsizetype mostFiles = 250'000;
 constexpr qint64 longestHashed = qint64(64) << 20;
 constexpr qint64 pieceBytes = 256 * 1024;
 /// A file that was written to so shortly before may be written to again without looking different.
-constexpr std::time_t untilSure = 3;
+constexpr qint64 untilSure = 3;
 constexpr int mostTries = 3;
 
 CloudProblem problemOf(int number)
@@ -152,8 +151,9 @@ QByteArray revisionOfBytes(const QByteArray &bytes)
 
 } // namespace
 
-FolderFiles::FolderFiles(const QString &folder)
+FolderFiles::FolderFiles(const QString &folder, Clock now)
     : m_folder(QFile::encodeName(folder))
+    , m_now(std::move(now))
 {
 }
 
@@ -164,6 +164,7 @@ CloudResult<QList<CloudFile>> FolderFiles::list()
         return folderError(errno);
     }
     const int number = ::dirfd(folder.get());
+    const qint64 now = m_now();
     QList<CloudFile> files;
     QHash<QByteArray, Known> known;
     for (;;) {
@@ -173,7 +174,7 @@ CloudResult<QList<CloudFile>> FolderFiles::list()
             break;
         }
         const QByteArray name(entry->d_name);
-        if (removeLeftOver(number, name)) {
+        if (removeLeftOver(number, name, now)) {
             continue;
         }
         const QString text = QString::fromUtf8(name);
@@ -219,8 +220,8 @@ QByteArray FolderFiles::revisionOf(int folder, const QByteArray &name, const str
         return {};
     }
     const QByteArray revision = hash.result().toHex();
-    if (std::time(nullptr) - after.st_mtim.tv_sec > untilSure &&
-        std::time(nullptr) - after.st_ctim.tv_sec > untilSure) {
+    const qint64 now = m_now();
+    if (now - after.st_mtim.tv_sec > untilSure && now - after.st_ctim.tv_sec > untilSure) {
         m_known.insert(name, {after, revision});
     }
     return revision;

@@ -19,7 +19,10 @@ class FolderFiles
 public:
     using Content = CloudStorage::Content;
 
-    explicit FolderFiles(const QString &folder);
+    /// Seconds since 1970, from any thread.
+    using Clock = std::function<qint64()>;
+
+    FolderFiles(const QString &folder, Clock now);
 
     CloudResult<QList<CloudFile>> list();
     /// None: it is the one of `revision`.
@@ -43,6 +46,7 @@ private:
     QByteArray revisionOf(int folder, const QByteArray &name, const struct ::stat &look);
 
     const QByteArray m_folder;
+    const Clock m_now;
     QHash<QByteArray, Known> m_known;
 };
 

@@ -22,7 +22,8 @@ constexpr auto untilCalm = 500ms;
 FolderStorage::FolderStorage(Scheduler &scheduler, const QString &folder)
     : m_scheduler(scheduler)
     , m_folder(folder)
-    , m_files(std::make_shared<FolderFiles>(folder))
+    , m_files(std::make_shared<FolderFiles>(
+          folder, [&scheduler] { return scheduler.now().toSecsSinceEpoch(); }))
     , m_queue(scheduler)
 {
 }

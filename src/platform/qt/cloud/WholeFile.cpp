@@ -8,7 +8,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <ctime>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -20,7 +19,7 @@ namespace {
 constexpr auto temporaryStart = "~quillon-";
 constexpr auto temporaryEnd = ".tmp";
 /// Seconds. On a network file system another computer may be writing it, with another clock.
-constexpr std::time_t oldEnough = 24 * 3600;
+constexpr qint64 oldEnough = 24 * 3600;
 constexpr mode_t ourselvesOnly = 0600;
 
 QByteArray temporaryName()
@@ -90,14 +89,14 @@ int WholeFile::publish(const QByteArray &temporary, const QByteArray &name, Ther
     return ::renameat(m_folder, from, m_folder, to) == 0 ? 0 : errno;
 }
 
-bool removeLeftOver(int folder, const QByteArray &name)
+bool removeLeftOver(int folder, const QByteArray &name, qint64 now)
 {
     if (!name.startsWith(temporaryStart) || !name.endsWith(temporaryEnd)) {
         return false;
     }
     struct ::stat look = {};
     if (::fstatat(folder, name.constData(), &look, AT_SYMLINK_NOFOLLOW) == 0 &&
-        S_ISREG(look.st_mode) && std::time(nullptr) - look.st_mtim.tv_sec > oldEnough) {
+        S_ISREG(look.st_mode) && now - look.st_mtim.tv_sec > oldEnough) {
         ::unlinkat(folder, name.constData(), 0);
     }
     return true;

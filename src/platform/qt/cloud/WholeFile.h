@@ -34,7 +34,7 @@ private:
 };
 
 /// Whether the name is that of a file that was being written, and not to be shown. One that nobody
-/// can be writing any more is removed.
-bool removeLeftOver(int folder, const QByteArray &name);
+/// can be writing any more is removed. `now` is in seconds since 1970.
+bool removeLeftOver(int folder, const QByteArray &name, qint64 now);
 
 } // namespace quillon
