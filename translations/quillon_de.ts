@@ -2155,5 +2155,69 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Saving…</source>
         <translation>Wird gespeichert…</translation>
     </message>
+    <message>
+        <source>This account can be used.</source>
+        <translation>Dieses Konto kann benutzt werden.</translation>
+    </message>
+    <message>
+        <source>This account can be used. Set it up on one computer after the other: its server does not notice when two write at the same moment.</source>
+        <translation>Dieses Konto kann benutzt werden. Bitte auf einem Rechner nach dem anderen einrichten: Der Server merkt nicht, wenn zwei im selben Augenblick schreiben.</translation>
+    </message>
+    <message>
+        <source>The server did not accept this name and password.</source>
+        <translation>Der Server hat diesen Namen und dieses Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>This folder is not there at the moment.</source>
+        <translation>Dieser Ordner ist zurzeit nicht da.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>This folder cannot be written.</source>
+        <translation>In diesen Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is no space left in this folder.</source>
+        <translation>In diesem Ordner ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>There is no space left in this account.</source>
+        <translation>In diesem Konto ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The account does not take files of this size.</source>
+        <translation>Das Konto nimmt Dateien dieser Größe nicht an.</translation>
+    </message>
+    <message>
+        <source>This is not a folder.</source>
+        <translation>Das ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>The server shows no files at this address. If it asks for a second factor, use an app password.</source>
+        <translation>Der Server zeigt unter dieser Adresse keine Dateien. Wenn er einen zweiten Faktor verlangt, bitte ein App-Passwort verwenden.</translation>
+    </message>
+    <message>
+        <source>The account did not work as expected. Try again later.</source>
+        <translation>Das Konto hat nicht wie erwartet funktioniert. Bitte später noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>There is no keyring in this session to keep the password in.</source>
+        <translation>In dieser Sitzung gibt es keinen Schlüsselbund, der das Passwort aufbewahren könnte.</translation>
+    </message>
+    <message>
+        <source>The keyring was not unlocked.</source>
+        <translation>Der Schlüsselbund wurde nicht entsperrt.</translation>
+    </message>
+    <message>
+        <source>The keyring did not answer.</source>
+        <translation>Der Schlüsselbund hat nicht geantwortet.</translation>
+    </message>
 </context>
 </TS>

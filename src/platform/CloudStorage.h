@@ -31,29 +31,39 @@ struct CloudError
 {
     CloudProblem problem = CloudProblem::Failed;
     QString message; ///< for the log
+    /// Of an UntrustedCertificate: its SHA-256, so that the person can compare it with the
+    /// server's. Empty when there was no certificate to see.
+    QByteArray fingerprint = {};
 };
 
 /// A value or why there is none.
 template <typename T>
 using CloudResult = std::variant<T, CloudError>;
 
+/// Whether a storage takes the name: letters, digits, dots and dashes, the first one a letter or a
+/// digit, at most 128 of them.
+bool isCloudFileName(const QString &name);
+
 /// One file as a listing tells of it.
 struct CloudFile
 {
     QString name;
-    qint64 size = 0;     ///< bytes
-    QByteArray revision; ///< of these bytes: other bytes under the name have another one
+    qint64 size = 0; ///< bytes; -1 when the account does not say
+    /// Of these bytes: other bytes under the name have another one. Empty when the account does not
+    /// tell one here; reading the file may.
+    QByteArray revision;
 };
 
 /// The folder of files that a person's computers share: on a WebDAV server, or on a disk where
 /// another program synchronizes it. Everything in it may have been put there, changed, cut, swapped
 /// or removed by anybody at any moment: what is read is bytes and nothing more.
 ///
-/// Names are plain: letters, digits, dots and dashes, without a slash; an implementation leaves out
-/// of a listing what it could not read back under its name. Files are up to some megabytes long,
-/// there may be thousands of them. Requests may be given while others run; each is answered exactly
-/// once, in a later turn of the main loop, in any order, and never after the storage has gone. A
-/// request that was answered with an error may have been carried out nevertheless. Main thread.
+/// Names are plain (isCloudFileName); others are NotThere or NotAllowed, and left out of a listing.
+/// Files are up to some megabytes long, there may be thousands of them. Requests may be given while
+/// others run; each is answered exactly once, in a later turn of the main loop, in any order, and
+/// never after the storage has gone; the answer may destroy it. A request that was answered with an
+/// error may have been carried out nevertheless, and one that lost its connection may have been
+/// sent twice: whoever is told that a file has Changed may meet its own bytes there. Main thread.
 class CloudStorage
 {
 public:
@@ -89,6 +99,13 @@ public:
         Written written) = 0;
     /// Success when there is no such file.
     virtual void remove(const QString &name, Removed removed) = 0;
+
+    /// Has `changed` called when a file may have been changed, made or removed by somebody, us
+    /// included: soon after it, several at once as one, and perhaps for nothing. A second call
+    /// replaces the first. As this class has it, for accounts that say nothing by themselves: it is
+    /// never called. Even where it is, changes on another computer may pass it by (a network file
+    /// system), so whoever must know of all of them asks from time to time.
+    virtual void watch(std::function<void()> changed);
 };
 
 } // namespace quillon
