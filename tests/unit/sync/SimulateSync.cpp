@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lets computers and accounts go wrong for as many steps as it is told, one world after the other.
 //   simulate-sync STEPS [FIRST-SEED [STEPS-OF-A-WORLD]]
-// Prints what happened. Ends with 1 at the first world that does not come right, and names its seed.
+// Prints what happened. Ends with 1 at the first world that does not come right, and names its
+// seed.
 #include "SyncWorld.h"
 
 #include <QLoggingCategory>

@@ -46,6 +46,7 @@ SyncWorld::SyncWorld(quint64 seed)
     m_account.put(u"key"_s, "the wrapped key");
     m_account.honorsPreconditions = !m_random.oneIn(3);
     m_account.tellsRevisions = !m_random.oneIn(3);
+    m_oneFaultIn = 8 << m_random.below(4);
     m_isSetBackWorld = m_random.oneIn(3);
     // A computer that was set back to a backup, a server that forgets preconditions and one that
     // hides files are too much together: then nothing tells that a number was used.
@@ -66,7 +67,7 @@ SyncWorld::~SyncWorld() = default;
 
 void SyncWorld::step()
 {
-    if (m_random.oneIn(60)) {
+    if (m_random.oneIn(30)) {
         changeServer();
         return;
     }
@@ -139,8 +140,8 @@ void SyncWorld::edit(Computer &computer)
 LocalEdit SyncWorld::randomEdit(const Computer &computer)
 {
     if (m_random.oneIn(5)) {
-        return {LocalEdit::Kind::Set, {}, {}, {u"savedNetworks"_s, QString::number(m_random.below(5))},
-            randomValue(m_random)};
+        return {LocalEdit::Kind::Set, {}, {},
+            {u"savedNetworks"_s, QString::number(m_random.below(5))}, randomValue(m_random)};
     }
     if (m_random.oneIn(3)) {
         const RecordId id{model::Connection, ruleId(m_random.below(20)).id};
@@ -172,8 +173,7 @@ void SyncWorld::beginRound(Computer &computer)
         if (computer.outcome->wroteSnapshot) {
             count(u"snapshots"_s);
         }
-        count(computer.outcome->isWell() ? u"rounds that went well"_s
-                                         : u"rounds with an error"_s);
+        count(computer.outcome->isWell() ? u"rounds that went well"_s : u"rounds with an error"_s);
     }
     computer.begin(computer.mustList || m_random.oneIn(6) ? Look::Listing : Look::Head);
 }
@@ -183,9 +183,9 @@ void SyncWorld::answer(Computer &computer)
     const QStringList waiting = computer.cloud.waiting();
     const int index = m_random.below(int(waiting.size()));
     Fault fault = Fault::None;
-    if (m_random.oneIn(12)) {
-        static constexpr std::array faults{Fault::Lost, Fault::AnswerLost, Fault::Cut, Fault::Twice,
-            Fault::Stale, Fault::Refused};
+    if (m_random.oneIn(m_oneFaultIn)) {
+        static constexpr std::array faults{
+            Fault::Lost, Fault::AnswerLost, Fault::Cut, Fault::Twice, Fault::Stale, Fault::Refused};
         fault = faults[std::size_t(m_random.below(int(faults.size())))];
         if (fault == Fault::Stale && !m_mayBeStale) {
             fault = Fault::Lost;

@@ -60,6 +60,7 @@ private:
     QMap<QString, FakeCloudAccount::File> m_serverBackup;
     QMap<QString, QByteArray> m_foreign; ///< what nobody may touch
     SyncChanges m_kept;                  ///< every edit that was ever saved
+    int m_oneFaultIn = 1;                ///< requests
     bool m_isSetBackWorld = false;
     bool m_isSpoiled = false;
     bool m_mayBeStale = false;
