@@ -262,6 +262,9 @@ bool Replica::sent(const QString &name)
         ReplicaProgress progress = m_storage.progress();
         if (file && file->kind == AccountFile::Kind::Change) {
             progress.known.add(file->writer, file->number);
+            if (file->writer == progress.writer) {
+                progress.sentSizes[file->number] = m_storage.outgoing().value(name).size();
+            }
         }
         progress.isHeadDue = true;
         m_storage.setProgress(progress);
@@ -276,6 +279,7 @@ bool Replica::becomeNewWriter()
         ReplicaProgress progress = m_storage.progress();
         progress.writer = writer;
         progress.lastNumber = 0;
+        progress.sentSizes.clear();
         m_storage.setProgress(progress);
         // What was made under the old numbers may stand there already, or something else may. To
         // write it once more under a new number costs nothing but room.

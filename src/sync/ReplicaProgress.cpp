@@ -146,6 +146,12 @@ QByteArray writtenProgress(const ReplicaProgress &progress)
     writer.append(progress.lastNumber);
     write(writer, progress.known);
     writer.startArray();
+    for (auto it = progress.sentSizes.begin(); it != progress.sentSizes.end(); ++it) {
+        writer.append(it.key());
+        writer.append(*it);
+    }
+    writer.endArray();
+    writer.startArray();
     for (auto it = progress.snapshots.begin(); it != progress.snapshots.end(); ++it) {
         writer.append(it.key());
         writer.append(progress.ownSnapshots.contains(it.key()));
@@ -177,6 +183,12 @@ std::optional<ReplicaProgress> readProgress(const QByteArray &bytes)
     progress.last.writer = input.unsignedInteger(anyNumber);
     progress.lastNumber = input.unsignedInteger(anyNumber);
     progress.known = readKnown(input);
+    input.enterArray();
+    while (input.hasNext()) {
+        const quint64 number = input.unsignedInteger(anyNumber);
+        progress.sentSizes.insert(number, input.integer());
+    }
+    input.leaveArray();
     input.enterArray();
     while (input.hasNext()) {
         const QString name = input.text();

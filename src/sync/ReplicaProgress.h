@@ -43,10 +43,11 @@ struct IgnoredFile
 /// transactions, so it never says more than is there.
 struct ReplicaProgress
 {
-    WriterId writer = 0;                       ///< 0 before the first write
-    Stamp last;                                ///< the latest that was made or seen
-    quint64 lastNumber = 0;                    ///< of the writer's change files
-    KnownFiles known;                          ///< what has been merged here
+    WriterId writer = 0;             ///< 0 before the first write
+    Stamp last;                      ///< the latest that was made or seen
+    quint64 lastNumber = 0;          ///< of the writer's change files
+    KnownFiles known;                ///< what has been merged here
+    QMap<quint64, qint64> sentSizes; ///< in bytes, of the writer's files that are still there
     QMap<QString, SnapshotManifest> snapshots; ///< by name, those that were seen in the account
     QSet<QString> ownSnapshots;                ///< of them, those written and read back here
     std::optional<quint64> unfinishedSnapshot; ///< what is being written, or not read back yet

@@ -5,6 +5,7 @@
 #include "platform/RandomSource.h"
 #include "sync/AccountFile.h"
 #include "sync/ChangesFormat.h"
+#include "sync/Replica.h"
 #include "sync/ReplicaStorage.h"
 #include "sync/SealedFile.h"
 
@@ -91,6 +92,13 @@ void SnapshotWriting::put(const QString &name, const RequestQueue::Answered &ans
 
 void SnapshotWriting::writeManifest(const Finished &finished)
 {
+    // What was done meanwhile is in some parts, and in no file: if this computer were set back now,
+    // those who read the snapshot would know it, and those who need not would never hear of it.
+    if (m_state.deps.replica.hasUnsent()) {
+        m_state.outcome.wantsListing = true;
+        finished(false);
+        return;
+    }
     const QString name = AccountFile{AccountFile::Kind::Snapshot, m_id, 0}.name();
     const QByteArray file =
         sealed(writtenManifest(m_manifest), name, m_state.deps.key, m_state.deps.random);

@@ -237,12 +237,19 @@ private:
         }
     }
 
+    /// A file that has lost bytes counts as lost: the others can make nothing of it.
     void lookForLosses()
     {
         KnownFiles there = m_covered;
+        QMap<quint64, qint64> sizes = m_progress.sentSizes;
         for (const Change &change : std::as_const(m_changes)) {
-            there.add(change.file.writer, change.file.number);
+            const bool isOwn = change.file.writer == m_progress.writer;
+            const qint64 size = isOwn ? sizes.take(change.file.number) : 0;
+            if (size == 0 || size == change.size) {
+                there.add(change.file.writer, change.file.number);
+            }
         }
+        m_plan.unsized = {sizes.keyBegin(), sizes.keyEnd()};
         if (there.covers(m_progress.known)) {
             return;
         }

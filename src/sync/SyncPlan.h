@@ -39,12 +39,13 @@ struct SyncPlan
     QStringList abandoned;          ///< of a snapshot that was begun here and never finished
     std::optional<SnapshotFiles> unverified; ///< written here whole, and not read back yet
     QStringList superfluous;                 ///< to be removed, in this order
-    bool lacksOwn = false; ///< files of this writer's that were in the account are gone
+    bool lacksOwn = false; ///< files of this writer's that were in the account are gone, or cut
     bool lacksOthers = false;
     bool wantsSnapshot = false; ///< there are so many files that one should replace them
     bool hasNewer = false;      ///< a snapshot by a later version: whoever has that clears up
     QSet<QString> forgotten;    ///< snapshots of which nothing is left in the account
     QSet<QString> unignored;    ///< files that were left alone and are not there any more
+    QSet<quint64> unsized;      ///< numbers of this writer's files that are not there any more
 };
 
 /// Nothing is known of the account but what the listing says, which may be old, false or made by

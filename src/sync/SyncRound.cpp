@@ -324,8 +324,8 @@ void SyncRound::forgetUnfinished()
 bool SyncRound::writeSnapshot(const SyncPlan &plan)
 {
     const bool isWanted = (plan.wantsSnapshot && !plan.hasNewer) || m_heals;
-    if (!isWanted || m_hasWrittenSnapshot || m_state.isStopped ||
-        m_state.deps.storage.progress().unfinishedSnapshot) {
+    if (!isWanted || m_state.deps.replica.hasUnsent() || m_hasWrittenSnapshot ||
+        m_state.isStopped || m_state.deps.storage.progress().unfinishedSnapshot) {
         return false;
     }
     m_hasWrittenSnapshot = true;
@@ -373,7 +373,7 @@ void SyncRound::forgetOldNames()
 {
     ReplicaStorage &storage = m_state.deps.storage;
     const SyncPlan now = plan();
-    if (now.forgotten.isEmpty() && now.unignored.isEmpty()) {
+    if (now.forgotten.isEmpty() && now.unignored.isEmpty() && now.unsized.isEmpty()) {
         return;
     }
     const bool kept = storage.transaction([&] {
@@ -384,6 +384,9 @@ void SyncRound::forgetOldNames()
         }
         for (const QString &name : now.unignored) {
             progress.ignored.remove(name);
+        }
+        for (const quint64 number : now.unsized) {
+            progress.sentSizes.remove(number);
         }
         storage.setProgress(progress);
     });

@@ -142,6 +142,23 @@ TEST_F(SnapshotWritingTest, KillAtEveryRequestLosesNothing)
     }
 }
 
+TEST_F(SnapshotWritingTest, EditMeanwhilePutsItOff)
+{
+    insertMany();
+    a.begin(Look::Listing);
+    answerUntil(u"create "_s);
+    while (countOf(account, u".part"_s) == 0) {
+        a.cloud.answer(0);
+    }
+    a.insert(30, u"meanwhile"_s);
+    a.cloud.answerAll();
+    EXPECT_EQ(countOf(account, u".snapshot"_s), 0);
+    EXPECT_TRUE(a.outcome->wantsListing);
+    EXPECT_TRUE(a.round().wroteSnapshot);
+    EXPECT_EQ(countOf(account, u".snapshot"_s), 1);
+    expectWhole();
+}
+
 TEST_F(SnapshotWritingTest, PartThatComesBackDamagedTakesNothingsPlace)
 {
     insertMany();

@@ -239,6 +239,18 @@ TEST_F(SyncPlanTest, NoticesWhatTheAccountHasLost)
     EXPECT_EQ(listingsBeforeHealing(plan(), progress), 2u);
 }
 
+TEST_F(SyncPlanTest, OwnFileThatWasCutIsAsGoodAsLost)
+{
+    progress.writer = 1;
+    progress.known.add(KnownFiles({{1, 2}}, {}));
+    progress.sentSizes = {{1, 100}, {2, 100}, {3, 100}};
+    listChanges(1, 1, 2);
+    EXPECT_FALSE(plan().lacksOwn);
+    EXPECT_EQ(plan().unsized, QSet<quint64>{3});
+    listing[1].size = 99;
+    EXPECT_TRUE(plan().lacksOwn);
+}
+
 TEST_F(SyncPlanTest, DamagedFileIsAsGoodAsLost)
 {
     progress.known.add(KnownFiles({{2, 1}}, {}));

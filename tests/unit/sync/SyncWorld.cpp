@@ -48,9 +48,8 @@ SyncWorld::SyncWorld(quint64 seed)
     m_account.tellsRevisions = !m_random.oneIn(3);
     m_oneFaultIn = 8 << m_random.below(4);
     m_isSetBackWorld = m_random.oneIn(3);
-    // A computer that was set back to a backup, a server that forgets preconditions and one that
-    // hides files are too much together: then nothing tells that a number was used.
-    m_mayBeStale = m_account.honorsPreconditions || !m_isSetBackWorld;
+    // A computer that was set back sees by what is there that its numbers were used.
+    m_mayBeStale = !m_isSetBackWorld;
     m_serverBackup = m_account.files;
     const int computers = 2 + m_random.below(4);
     for (int i = 0; i < computers; ++i) {
@@ -229,7 +228,8 @@ void SyncWorld::changeServer()
         m_serverBackup = m_account.files;
         break;
     case 1:
-        if (m_random.oneIn(3)) {
+        // With a computer set back as well, nobody might know which numbers were used.
+        if (!m_isSetBackWorld && m_random.oneIn(3)) {
             restoreServer();
         }
         break;
