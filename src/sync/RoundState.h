@@ -36,6 +36,8 @@ struct RoundState
     bool refusesWrites = false;
     bool hasVanished = false; ///< a file was removed between listing and reading it
 
+    /// Whether everything in this round went as it should.
+    bool isUndisturbed() const { return outcome.isWell() && !hasVanished; }
     /// Takes note of an answer that is an error.
     void fail(const CloudError &error);
     /// The same for a request that was to write.

@@ -32,8 +32,7 @@ SyncRound::SyncRound(const SyncDeps &deps, const SyncLimits &limits)
     , m_head(m_state)
     , m_reading(m_state)
     , m_sending(m_state)
-    , m_snapshot(m_state)
-    , m_removing(limits.requests)
+    , m_clearing(m_state)
 {
 }
 
@@ -105,8 +104,7 @@ void SyncRound::proceed()
     if (m_state.listing) {
         rememberHead();
     }
-    if (sendSomething() || (m_state.listing && clearSomething(plan())) || tellOthers() ||
-        lookNevertheless()) {
+    if (sendSomething() || clearUp() || tellOthers() || lookNevertheless()) {
         return;
     }
     finish();
@@ -183,15 +181,9 @@ void SyncRound::readChanges(const QStringList &names)
         [this](bool) { proceed(); });
 }
 
-/// Whether everything in this round went as it should.
-bool SyncRound::isUndisturbed() const
-{
-    return m_state.outcome.isWell() && !m_state.hasVanished;
-}
-
 void SyncRound::rememberHead()
 {
-    if (isUndisturbed()) {
+    if (m_state.isUndisturbed()) {
         m_head.remember();
     } else {
         m_state.outcome.wantsListing = true;
@@ -220,125 +212,15 @@ bool SyncRound::sendSomething()
     return true;
 }
 
-bool SyncRound::clearSomething(const SyncPlan &plan)
+bool SyncRound::clearUp()
 {
-    noteLosses(plan);
-    if (!isUndisturbed() || m_state.refusesWrites) {
-        return false;
-    }
-    if (plan.unverified && !m_hasVerified) {
-        verify(*plan.unverified);
-        return true;
-    }
-    const bool isBegun = m_state.deps.storage.progress().unfinishedSnapshot.has_value();
-    if (isBegun && !plan.unverified && !m_hasWrittenSnapshot) {
-        remove(plan.abandoned, [this] { forgetUnfinished(); });
-        return true;
-    }
-    if (!plan.superfluous.isEmpty() && !m_hasCleared) {
-        m_hasCleared = true;
-        remove(plan.superfluous, [this] { proceed(); });
-        return true;
-    }
-    return writeSnapshot(plan);
-}
-
-/// Once a round. A listing alone proves nothing: it may be late.
-void SyncRound::noteLosses(const SyncPlan &plan)
-{
-    if (std::exchange(m_hasNotedLosses, true)) {
-        return;
-    }
-    ReplicaStorage &storage = m_state.deps.storage;
-    const ReplicaProgress now = storage.progress();
-    const bool lacks = (plan.lacksOwn || plan.lacksOthers) && !plan.hasNewer;
-    const quint32 count = lacks ? now.lackingListings + 1 : 0;
-    m_heals = lacks && count >= listingsBeforeHealing(plan, now);
-    m_state.outcome.wantsListing |= lacks;
-    if (count != now.lackingListings && !storage.transaction([&] {
-            ReplicaProgress progress = storage.progress();
-            progress.lackingListings = count;
-            storage.setProgress(progress);
-        })) {
-        m_state.failStoring();
-    }
-}
-
-void SyncRound::verify(const SnapshotFiles &files)
-{
-    m_hasVerified = true;
-    for (const QString &name : files.parts + QStringList{files.manifest}) {
-        m_state.tried.remove(name);
-    }
-    m_snapshot.verify(files, [this, files](bool done) {
-        m_hasCleared = false;
-        // Damaged: away with it. It is for another try to say whether the account can be trusted.
-        if (!done && isUndisturbed()) {
-            remove(files.parts + QStringList{files.manifest}, [this] { forgetUnfinished(); });
-        } else {
-            proceed();
-        }
-    });
-}
-
-void SyncRound::remove(const QStringList &names, std::function<void()> done)
-{
-    const auto left = std::make_shared<QStringList>(names);
-    m_removing.run(
-        [this, left]() -> std::optional<QString> {
-            if (left->isEmpty() || !m_state.outcome.isWell()) {
-                return std::nullopt;
-            }
-            return left->takeFirst();
-        },
-        [this](const QString &name, const auto &answered) {
-            m_state.deps.account.remove(
-                name, [this, alive = QPointer(&m_removing), name, answered](const auto &error) {
-                    if (!alive) {
-                        return;
-                    }
-                    if (error) {
-                        m_state.failWriting(*error);
-                    } else {
-                        m_state.setUnlisted(name);
-                    }
-                    answered();
-                });
-        },
-        std::move(done));
-}
-
-void SyncRound::forgetUnfinished()
-{
-    ReplicaStorage &storage = m_state.deps.storage;
-    if (m_state.outcome.isWell() && !storage.transaction([&] {
-            ReplicaProgress progress = storage.progress();
-            progress.unfinishedSnapshot.reset();
-            storage.setProgress(progress);
-        })) {
-        m_state.failStoring();
-    }
-    proceed();
-}
-
-bool SyncRound::writeSnapshot(const SyncPlan &plan)
-{
-    const bool isWanted = (plan.wantsSnapshot && !plan.hasNewer) || m_heals;
-    if (!isWanted || m_state.deps.replica.hasUnsent() || m_hasWrittenSnapshot ||
-        m_state.isStopped || m_state.deps.storage.progress().unfinishedSnapshot) {
-        return false;
-    }
-    m_hasWrittenSnapshot = true;
-    qCInfo(logSync, "a snapshot is written: %s",
-        m_heals ? "files have gone from the account" : "there are many change files");
-    m_snapshot.write([this](bool done) {
-        if (done) {
+    return m_state.listing && m_clearing.begin(plan(), [this](ClearingUp::Next next) {
+        if (next == ClearingUp::Next::List) {
             list();
         } else {
             proceed();
         }
     });
-    return true;
 }
 
 bool SyncRound::tellOthers()
@@ -367,36 +249,10 @@ bool SyncRound::lookNevertheless()
     return true;
 }
 
-/// What is not in the account any more needs not be remembered. A listing that was not whole makes
-/// that some files are read again.
-void SyncRound::forgetOldNames()
-{
-    ReplicaStorage &storage = m_state.deps.storage;
-    const SyncPlan now = plan();
-    if (now.forgotten.isEmpty() && now.unignored.isEmpty() && now.unsized.isEmpty()) {
-        return;
-    }
-    const bool kept = storage.transaction([&] {
-        ReplicaProgress progress = storage.progress();
-        for (const QString &name : now.forgotten) {
-            progress.snapshots.remove(name);
-            progress.ownSnapshots.remove(name);
-        }
-        for (const QString &name : now.unignored) {
-            progress.ignored.remove(name);
-        }
-        for (const quint64 number : now.unsized) {
-            progress.sentSizes.remove(number);
-        }
-        storage.setProgress(progress);
-    });
-    m_state.outcome.couldNotStore |= !kept;
-}
-
 void SyncRound::finish()
 {
-    if (m_state.listing && isUndisturbed()) {
-        forgetOldNames();
+    if (m_state.listing && m_state.isUndisturbed()) {
+        m_clearing.forgetOldNames(plan());
     }
     const SyncOutcome outcome = m_state.outcome;
     if (outcome.error) {

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sync/ClearingUp.h"
 #include "sync/FileReading.h"
 #include "sync/FileSending.h"
 #include "sync/HeadFile.h"
 #include "sync/RoundState.h"
-#include "sync/SnapshotWriting.h"
 
 #include <QObject>
 
@@ -46,34 +46,21 @@ private:
     void rememberHead();
     bool knowsOurNumbers() const;
     bool sendSomething();
-    bool clearSomething(const SyncPlan &plan);
-    void noteLosses(const SyncPlan &plan);
-    void verify(const SnapshotFiles &files);
-    void remove(const QStringList &names, std::function<void()> done);
-    void forgetUnfinished();
-    bool writeSnapshot(const SyncPlan &plan);
+    bool clearUp();
     bool tellOthers();
     bool lookNevertheless();
     void finish();
-    void forgetOldNames();
     SyncPlan plan() const;
     QStringList untried(const QStringList &names) const;
-    bool isUndisturbed() const;
 
     RoundState m_state;
     HeadFile m_head;
     FileReading m_reading;
     FileSending m_sending;
-    SnapshotWriting m_snapshot;
-    RequestQueue m_removing;
+    ClearingUp m_clearing;
     Done m_done;
     int m_listings = 0;
     bool m_hasLooked = false;
-    bool m_hasNotedLosses = false;
-    bool m_heals = false;
-    bool m_hasCleared = false;
-    bool m_hasVerified = false;
-    bool m_hasWrittenSnapshot = false;
 };
 
 } // namespace quillon
