@@ -22,6 +22,7 @@ import idle
 import menu
 import peers
 import records
+import sync
 import vendors
 from report import Report
 from workers import USER, Failed, Worker, in_turns, processes_of
@@ -60,6 +61,7 @@ class Bench:
             "interfaces": self.many_interfaces,
             "history": self.history,
             "history-window": self.history_window,
+            "sync": self.sync,
             "vendors": self.vendors,
             "in-process": self.in_process,
         }
@@ -210,6 +212,9 @@ class Bench:
                                    folder, max(5, self.rounds // 20))
 
     # The vendor registry
+
+    def sync(self):
+        sync.measure(self.report, lambda: Worker(self.folder, "measure-sync"))
 
     def vendors(self):
         command = Worker(self.folder, "measure-command")

@@ -16,5 +16,6 @@ Q_LOGGING_CATEGORY(logHistory, "quillon.history", QtWarningMsg)
 Q_LOGGING_CATEGORY(logRules, "quillon.rules", QtWarningMsg)
 Q_LOGGING_CATEGORY(logVendors, "quillon.vendors", QtWarningMsg)
 Q_LOGGING_CATEGORY(logUpdates, "quillon.updates", QtWarningMsg)
+Q_LOGGING_CATEGORY(logSync, "quillon.sync", QtWarningMsg)
 
 } // namespace quillon

@@ -12,9 +12,6 @@ namespace quillon {
 /// For each writer the number up to which all of its change files are meant.
 using VersionVector = QMap<WriterId, quint64>;
 
-/// Whether everything that `inner` means is meant by `outer` too.
-bool covers(const VersionVector &outer, const VersionVector &inner);
-
 /// Which change files have been merged here. They may come in any order; a file is only counted as
 /// passed when none before it is missing.
 class KnownFiles
@@ -25,7 +22,14 @@ public:
 
     bool contains(WriterId writer, quint64 number) const;
     void add(WriterId writer, quint64 number);
-    void add(const VersionVector &vector);
+    void add(const KnownFiles &files);
+    /// Whether it knows every file that `files` knows.
+    bool covers(const KnownFiles &files) const;
+    bool isEmpty() const { return m_vector.isEmpty() && m_scattered.isEmpty(); }
+    /// The highest number of the writer; 0 where none is known.
+    quint64 last(WriterId writer) const;
+    /// How many of them `others` does not know.
+    quint64 countBeyond(const KnownFiles &others) const;
 
     /// What is known without a gap.
     const VersionVector &vector() const { return m_vector; }

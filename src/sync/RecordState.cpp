@@ -18,6 +18,20 @@ bool raise(Stamp &into, const Stamp &other)
     return false;
 }
 
+struct SizeOf
+{
+    qsizetype operator()(const QString &text) const { return 2 + text.size(); }
+    qsizetype operator()(const QByteArray &bytes) const { return 2 + bytes.size(); }
+    qsizetype operator()(const SyncTree &tree) const { return 2 + tree.bytes.size(); }
+    template <typename T>
+    qsizetype operator()(const T &) const
+    {
+        return 8;
+    }
+};
+
+constexpr qsizetype sizeOfIdentity = 40;
+
 void forgetBefore(const Stamp &deletion, QMap<QString, SyncRegister> &attributes)
 {
     for (auto it = attributes.begin(); it != attributes.end();) {
@@ -69,6 +83,32 @@ void join(SyncChanges &into, const SyncChanges &other)
     for (auto it = other.settings.begin(); it != other.settings.end(); ++it) {
         join(into.settings[it.key()], *it);
     }
+}
+
+qsizetype approximateSize(const RecordState &record)
+{
+    qsizetype size = sizeOfIdentity;
+    for (const SyncRegister &attribute : record.attributes) {
+        size += std::visit(SizeOf(), attribute.value);
+    }
+    return size;
+}
+
+qsizetype approximateSize(const SyncRegister &setting)
+{
+    return sizeOfIdentity + std::visit(SizeOf(), setting.value);
+}
+
+qsizetype approximateSize(const SyncChanges &changes)
+{
+    qsizetype size = 0;
+    for (const RecordState &record : changes.records) {
+        size += approximateSize(record);
+    }
+    for (const SyncRegister &setting : changes.settings) {
+        size += approximateSize(setting);
+    }
+    return size;
 }
 
 Stamp latestStamp(const SyncChanges &changes)

@@ -75,6 +75,10 @@ struct SyncChanges
 };
 
 void join(SyncChanges &into, const SyncChanges &other);
+/// About how many bytes it takes in a file before that is compressed.
+qsizetype approximateSize(const RecordState &record);
+qsizetype approximateSize(const SyncRegister &setting);
+qsizetype approximateSize(const SyncChanges &changes);
 /// The latest of all stamps in it.
 Stamp latestStamp(const SyncChanges &changes);
 

@@ -21,9 +21,13 @@ namespace quillon {
 namespace {
 
 /// Edits that share a file at most; a file of more would only take longer to start with.
-constexpr int mostEditsInFile = 2000;
+constexpr int mostEditsInFile = 2048;
+constexpr int fewEdits = 32;
 /// About how many bytes of values share a file, before they are packed.
 constexpr qsizetype contentOfFile = qsizetype{1} << 20;
+
+/// More files that were left alone are not remembered: they are looked at again.
+constexpr qsizetype mostIgnored = 2000;
 
 /// Which rule is in force is a fact of each computer's own network, and no choice of the person's.
 bool isSynchronized(const RecordId &record, const QString &attribute)
@@ -31,31 +35,26 @@ bool isSynchronized(const RecordId &record, const QString &attribute)
     return record.entity != model::Rule || attribute != model::rule::active;
 }
 
-struct SizeOf
+/// The changes in pieces of about that size, so that no act is too large for a file.
+QList<SyncChanges> inPieces(const SyncChanges &changes)
 {
-    qsizetype operator()(const QString &text) const { return text.size(); }
-    qsizetype operator()(const QByteArray &bytes) const { return bytes.size(); }
-    qsizetype operator()(const SyncTree &tree) const { return tree.bytes.size(); }
-    template <typename T>
-    qsizetype operator()(const T &) const
-    {
-        return 8;
-    }
-};
-
-qsizetype sizeOf(const SyncChanges &changes)
-{
+    QList<SyncChanges> pieces(1);
     qsizetype size = 0;
-    for (const RecordState &record : changes.records) {
-        size += 40;
-        for (const SyncRegister &attribute : record.attributes) {
-            size += std::visit(SizeOf(), attribute.value);
+    const auto room = [&](qsizetype more) -> SyncChanges & {
+        if (size > 0 && size + more > contentOfFile) {
+            pieces.append(SyncChanges());
+            size = 0;
         }
+        size += more;
+        return pieces.last();
+    };
+    for (auto it = changes.records.begin(); it != changes.records.end(); ++it) {
+        room(approximateSize(*it)).records.insert(it.key(), *it);
     }
-    for (const SyncRegister &setting : changes.settings) {
-        size += 40 + std::visit(SizeOf(), setting.value);
+    for (auto it = changes.settings.begin(); it != changes.settings.end(); ++it) {
+        room(approximateSize(*it)).settings.insert(it.key(), *it);
     }
-    return size;
+    return pieces;
 }
 
 WriterId randomWriter(RandomSource &random)
@@ -165,7 +164,10 @@ bool Replica::edit(const QList<LocalEdit> &edits, qint64 now)
         progress.last = clock.last();
         m_storage.setProgress(progress);
         if (!all.isEmpty()) {
-            m_storage.appendPending(all);
+            const QList<SyncChanges> pieces = inPieces(all);
+            for (const SyncChanges &piece : pieces) {
+                m_storage.appendPending(piece);
+            }
         }
         if (touchesRules(all)) {
             showRules(shownRules(before));
@@ -210,27 +212,45 @@ bool Replica::hasUnsent() const
     return m_storage.hasPending() || !m_storage.outgoing().isEmpty();
 }
 
+SyncChanges Replica::nextPending(int &count) const
+{
+    SyncChanges changes;
+    qsizetype size = 0;
+    count = 0;
+    // A few first: each may be as large as a file.
+    for (int asked = fewEdits; size < contentOfFile && asked <= mostEditsInFile; asked *= 4) {
+        const QList<SyncChanges> pending = m_storage.pending(asked);
+        for (; count < pending.size() && (count == 0 || size < contentOfFile); ++count) {
+            size += approximateSize(pending[count]);
+            join(changes, pending[count]);
+        }
+        if (pending.size() < asked) {
+            break;
+        }
+    }
+    return changes;
+}
+
+bool Replica::sealNext()
+{
+    int count = 0;
+    const SyncChanges changes = nextPending(count);
+    ReplicaProgress progress = m_storage.progress();
+    const QString name =
+        AccountFile{AccountFile::Kind::Change, progress.writer, ++progress.lastNumber}.name();
+    const QByteArray file = sealed(writtenChanges(changes), name, m_key, m_random);
+    return !file.isEmpty() && m_storage.transaction([&] {
+        m_storage.addOutgoing(name, file);
+        m_storage.removePending(count);
+        m_storage.setProgress(progress);
+    });
+}
+
 bool Replica::sealPending()
 {
     bool done = true;
     while (done && m_storage.hasPending()) {
-        const QList<SyncChanges> pending = m_storage.pending(mostEditsInFile);
-        SyncChanges changes;
-        int count = 0;
-        for (qsizetype size = 0; count < pending.size() && (count == 0 || size < contentOfFile);
-            ++count) {
-            size += sizeOf(pending[count]);
-            join(changes, pending[count]);
-        }
-        ReplicaProgress progress = m_storage.progress();
-        const QString name =
-            AccountFile{AccountFile::Kind::Change, progress.writer, ++progress.lastNumber}.name();
-        const QByteArray file = sealed(writtenChanges(changes), name, m_key, m_random);
-        done = !file.isEmpty() && m_storage.transaction([&] {
-            m_storage.addOutgoing(name, file);
-            m_storage.removePending(count);
-            m_storage.setProgress(progress);
-        });
+        done = sealNext();
     }
     return done;
 }
@@ -242,6 +262,9 @@ bool Replica::sent(const QString &name)
         ReplicaProgress progress = m_storage.progress();
         if (file && file->kind == AccountFile::Kind::Change) {
             progress.known.add(file->writer, file->number);
+            if (file->writer == progress.writer) {
+                progress.sentSizes[file->number] = m_storage.outgoing().value(name).size();
+            }
         }
         progress.isHeadDue = true;
         m_storage.setProgress(progress);
@@ -256,6 +279,7 @@ bool Replica::becomeNewWriter()
         ReplicaProgress progress = m_storage.progress();
         progress.writer = writer;
         progress.lastNumber = 0;
+        progress.sentSizes.clear();
         m_storage.setProgress(progress);
         // What was made under the old numbers may stand there already, or something else may. To
         // write it once more under a new number costs nothing but room.
@@ -354,6 +378,12 @@ std::optional<FileProblem> Replica::receiveChange(const QString &name, const QBy
     if (const auto *problem = std::get_if<FileProblem>(&read)) {
         return *problem;
     }
+    // A file of ours that we do not know: this computer was set back, and wrote it before that.
+    const ReplicaProgress now = m_storage.progress();
+    if (now.writer != 0 && file->writer == now.writer &&
+        !now.known.contains(file->writer, file->number) && !becomeNewWriter()) {
+        return FileProblem::NotKept;
+    }
     const bool kept = merge(std::get<SyncChanges>(read), [&](ReplicaProgress &progress) {
         progress.known.add(file->writer, file->number);
         progress.ignored.remove(name);
@@ -381,9 +411,15 @@ std::optional<FileProblem> Replica::receiveManifest(const QString &name, const Q
     if (const auto *problem = std::get_if<FileProblem>(&manifest)) {
         return *problem;
     }
+    const SnapshotManifest &snapshot = std::get<SnapshotManifest>(manifest);
+    // Somebody knew more of our own files than we do: this computer was set back.
+    const ReplicaProgress now = m_storage.progress();
+    if (now.writer != 0 && snapshot.files.last(now.writer) > now.lastNumber && !becomeNewWriter()) {
+        return FileProblem::NotKept;
+    }
     const bool kept = m_storage.transaction([&] {
         ReplicaProgress progress = m_storage.progress();
-        progress.snapshots.insert(name, std::get<SnapshotManifest>(manifest));
+        progress.snapshots.insert(name, snapshot);
         progress.ignored.remove(name);
         m_storage.setProgress(progress);
     });
@@ -392,15 +428,9 @@ std::optional<FileProblem> Replica::receiveManifest(const QString &name, const Q
 
 bool Replica::finishSnapshot(const QString &manifest)
 {
-    const ReplicaProgress now = m_storage.progress();
-    const VersionVector vector = now.snapshots.value(manifest).vector;
-    // Somebody who knew more of our own files than we do: this computer was set back.
-    if (now.writer != 0 && vector.value(now.writer) > now.lastNumber && !becomeNewWriter()) {
-        return false;
-    }
     return m_storage.transaction([&] {
         ReplicaProgress progress = m_storage.progress();
-        progress.known.add(vector);
+        progress.known.add(progress.snapshots.value(manifest).files);
         m_storage.setProgress(progress);
     });
 }
@@ -410,6 +440,10 @@ bool Replica::ignore(const QString &name, FileProblem problem, const QByteArray 
     return m_storage.transaction([&] {
         ReplicaProgress progress = m_storage.progress();
         progress.ignored.insert(name, {problem, revision, syncFormatVersion});
+        // Somebody who fills the account with rubbish shall not fill this computer.
+        while (progress.ignored.size() > mostIgnored) {
+            progress.ignored.erase(progress.ignored.begin());
+        }
         m_storage.setProgress(progress);
     });
 }

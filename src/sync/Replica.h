@@ -52,6 +52,9 @@ public:
 
     /// Whether something waits to be written into the account.
     bool hasUnsent() const;
+    /// Makes one file of the oldest pending edits, of which there are some; all of them, if that
+    /// is not too much for a file. False when that failed.
+    bool sealNext();
     /// Makes files of all pending edits. False when that failed.
     bool sealPending();
     /// The file is in the account.
@@ -61,7 +64,8 @@ public:
     /// state.
     bool becomeNewWriter();
 
-    /// Merges a change file. Nothing when that is done; it is left alone otherwise.
+    /// Merges a change file that is in the account. Nothing when that is done; it is left alone
+    /// otherwise.
     std::optional<FileProblem> receiveChange(const QString &name, const QByteArray &bytes);
     /// Reads what a snapshot covers.
     std::optional<FileProblem> receiveManifest(const QString &name, const QByteArray &bytes);
@@ -73,6 +77,7 @@ public:
 
 private:
     void apply(const SyncChanges &changes);
+    SyncChanges nextPending(int &count) const;
     void showRules(const QMap<QUuid, RecordValues> &shownBefore);
     bool merge(const SyncChanges &changes, const std::function<void(ReplicaProgress &)> &then);
     static bool hasUnknownStamp(const SyncChanges &changes, const ReplicaProgress &progress);

@@ -36,28 +36,6 @@ VersionVector readVector(CborInput &input)
     return vector;
 }
 
-void write(QCborStreamWriter &writer, const SnapshotManifest &manifest)
-{
-    write(writer, manifest.vector);
-    writer.startArray(quint64(manifest.partSizes.size()));
-    for (const qint64 size : manifest.partSizes) {
-        writer.append(size);
-    }
-    writer.endArray();
-}
-
-SnapshotManifest readManifest(CborInput &input)
-{
-    SnapshotManifest manifest;
-    manifest.vector = readVector(input);
-    input.enterArray();
-    while (input.hasNext()) {
-        manifest.partSizes.append(input.integer());
-    }
-    input.leaveArray();
-    return manifest;
-}
-
 void write(QCborStreamWriter &writer, const KnownFiles &known)
 {
     write(writer, known.vector());
@@ -82,6 +60,28 @@ KnownFiles readKnown(CborInput &input)
     }
     input.leaveArray();
     return {vector, scattered};
+}
+
+void write(QCborStreamWriter &writer, const SnapshotManifest &manifest)
+{
+    write(writer, manifest.files);
+    writer.startArray(quint64(manifest.partSizes.size()));
+    for (const qint64 size : manifest.partSizes) {
+        writer.append(size);
+    }
+    writer.endArray();
+}
+
+SnapshotManifest readManifest(CborInput &input)
+{
+    SnapshotManifest manifest;
+    manifest.files = readKnown(input);
+    input.enterArray();
+    while (input.hasNext()) {
+        manifest.partSizes.append(input.integer());
+    }
+    input.leaveArray();
+    return manifest;
 }
 
 void write(QCborStreamWriter &writer, const QMap<QString, IgnoredFile> &ignored)
@@ -116,7 +116,7 @@ QByteArray writtenManifest(const SnapshotManifest &manifest)
 {
     QByteArray content;
     QCborStreamWriter writer(&content);
-    writer.startArray(2);
+    writer.startArray();
     write(writer, manifest);
     writer.endArray();
     return content;
@@ -146,6 +146,12 @@ QByteArray writtenProgress(const ReplicaProgress &progress)
     writer.append(progress.lastNumber);
     write(writer, progress.known);
     writer.startArray();
+    for (auto it = progress.sentSizes.begin(); it != progress.sentSizes.end(); ++it) {
+        writer.append(it.key());
+        writer.append(*it);
+    }
+    writer.endArray();
+    writer.startArray();
     for (auto it = progress.snapshots.begin(); it != progress.snapshots.end(); ++it) {
         writer.append(it.key());
         writer.append(progress.ownSnapshots.contains(it.key()));
@@ -158,8 +164,10 @@ QByteArray writtenProgress(const ReplicaProgress &progress)
         writer.append(nullptr);
     }
     write(writer, progress.ignored);
+    writer.append(progress.head);
     writer.append(progress.headRevision);
     writer.append(progress.isHeadDue);
+    writer.append(quint64{progress.lackingListings});
     writer.endArray();
     return bytes;
 }
@@ -177,6 +185,12 @@ std::optional<ReplicaProgress> readProgress(const QByteArray &bytes)
     progress.known = readKnown(input);
     input.enterArray();
     while (input.hasNext()) {
+        const quint64 number = input.unsignedInteger(anyNumber);
+        progress.sentSizes.insert(number, input.integer());
+    }
+    input.leaveArray();
+    input.enterArray();
+    while (input.hasNext()) {
         const QString name = input.text();
         if (input.takeBoolean().value_or(false)) {
             progress.ownSnapshots.insert(name);
@@ -188,8 +202,10 @@ std::optional<ReplicaProgress> readProgress(const QByteArray &bytes)
         progress.unfinishedSnapshot = input.unsignedInteger(anyNumber);
     }
     progress.ignored = readIgnored(input);
+    progress.head = input.bytes();
     progress.headRevision = input.bytes();
     progress.isHeadDue = input.takeBoolean().value_or(false);
+    progress.lackingListings = quint32(input.unsignedInteger(std::numeric_limits<quint32>::max()));
     input.leaveArray();
     return input.isAtEnd() ? std::optional(progress) : std::nullopt;
 }

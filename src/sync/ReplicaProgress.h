@@ -15,10 +15,10 @@
 namespace quillon {
 
 /// What a snapshot in the account says of itself: all its parts together hold at least everything
-/// that the change files of `vector` brought.
+/// that the change files of `files` brought.
 struct SnapshotManifest
 {
-    VersionVector vector;
+    KnownFiles files;
     QList<qint64> partSizes; ///< of the files, in bytes
 
     bool operator==(const SnapshotManifest &) const = default;
@@ -43,16 +43,19 @@ struct IgnoredFile
 /// transactions, so it never says more than is there.
 struct ReplicaProgress
 {
-    WriterId writer = 0;                       ///< 0 before the first write
-    Stamp last;                                ///< the latest that was made or seen
-    quint64 lastNumber = 0;                    ///< of the writer's change files
-    KnownFiles known;                          ///< what has been merged here
+    WriterId writer = 0;             ///< 0 before the first write
+    Stamp last;                      ///< the latest that was made or seen
+    quint64 lastNumber = 0;          ///< of the writer's change files
+    KnownFiles known;                ///< what has been merged here
+    QMap<quint64, qint64> sentSizes; ///< in bytes, of the writer's files that are still there
     QMap<QString, SnapshotManifest> snapshots; ///< by name, those that were seen in the account
-    QSet<QString> ownSnapshots;                ///< of them, those that were written here
-    std::optional<quint64> unfinishedSnapshot; ///< what is being written
+    QSet<QString> ownSnapshots;                ///< of them, those written and read back here
+    std::optional<quint64> unfinishedSnapshot; ///< what is being written, or not read back yet
     QMap<QString, IgnoredFile> ignored;
+    QByteArray head; ///< that all files of which it tells were read; with its revision, if known
     QByteArray headRevision;
-    bool isHeadDue = false; ///< files were written of which the head does not tell yet
+    bool isHeadDue = false;      ///< files were written of which the head does not tell yet
+    quint32 lackingListings = 0; ///< how often, in succession, the account lacked known files
 
     bool operator==(const ReplicaProgress &) const = default;
 };

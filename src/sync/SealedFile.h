@@ -13,7 +13,7 @@ class AccountKey;
 class RandomSource;
 
 /// No sealed file is longer, in bytes, and none holds more than the second when it is unpacked.
-inline constexpr qsizetype longestSealedFile = qsizetype{8} << 20;
+inline constexpr qsizetype longestSealedFile = qsizetype{17} << 20;
 inline constexpr qsizetype longestContent = qsizetype{16} << 20;
 
 /// The content compressed and sealed (XChaCha20-Poly1305) for a file of that name: under another

@@ -36,8 +36,9 @@ struct SyncTree
 using SyncValue =
     std::variant<std::monostate, bool, qint64, double, QString, SyncDate, QByteArray, SyncTree>;
 
-/// No single value of an account is longer, in bytes as it is written.
-inline constexpr qsizetype longestSyncValue = qsizetype{4} << 20;
+/// No single value of an account is longer, in bytes as it is written: a record of as many of them
+/// as it has attributes still fits into a file.
+inline constexpr qsizetype longestSyncValue = qsizetype{1} << 20;
 
 /// An attribute's value as Entity::converted() gives it, or property-list data (an invalid QVariant
 /// is nothing). None for anything else, for what is longer than longestSyncValue, and for a number

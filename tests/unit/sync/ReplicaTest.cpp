@@ -4,7 +4,9 @@
 
 #include "MemoryReplicaStorage.h"
 #include "SyncExamples.h"
+#include "sync/AccountFile.h"
 #include "sync/AccountKey.h"
+#include "sync/SealedFile.h"
 
 #include <gtest/gtest.h>
 
@@ -212,6 +214,75 @@ TEST_F(ReplicaTest, SettingBackMakesANewWriterThatKeepsWhatWasNotSent)
     EXPECT_EQ(a.name(2), u"lost with the disk"_s);
     a.send({&b});
     EXPECT_EQ(b.name(3), u"three"_s);
+}
+
+TEST_F(ReplicaTest, SettingBackIsNoticedThoughLaterStampsOfOthersWereSeen)
+{
+    a.replica.edit({rule(1, u"one"_s)}, 1000);
+    a.send({&b});
+    const auto backup = a.storage.content;
+    a.replica.edit({rule(2, u"lost with the disk"_s)}, 1001);
+    a.replica.sealPending();
+    const auto files = a.storage.outgoing();
+    a.storage.content = backup;
+    b.replica.edit({rule(3, u"later"_s)}, 9000);
+    b.send({&a});
+    const WriterId writer = a.storage.progress().writer;
+    EXPECT_EQ(a.replica.receiveChange(files.firstKey(), files.first()), std::nullopt);
+    EXPECT_NE(a.storage.progress().writer, writer);
+}
+
+TEST_F(ReplicaTest, SettingBackIsNoticedByASnapshotThatCoversMore)
+{
+    a.replica.edit({rule(1, u"one"_s)}, 1000);
+    a.send({});
+    const WriterId writer = a.storage.progress().writer;
+    const QString name = AccountFile{AccountFile::Kind::Snapshot, 5, 0}.name();
+    const auto manifest = [&](const KnownFiles &known) {
+        return sealed(writtenManifest({known, {}}), name, key, random);
+    };
+    EXPECT_EQ(
+        a.replica.receiveManifest(name, manifest(KnownFiles({{writer, 1}}, {}))), std::nullopt);
+    EXPECT_EQ(a.storage.progress().writer, writer);
+    EXPECT_EQ(a.replica.receiveManifest(name, manifest(KnownFiles({{writer, 1}}, {{writer, {3}}}))),
+        std::nullopt);
+    EXPECT_NE(a.storage.progress().writer, writer);
+}
+
+TEST_F(ReplicaTest, ActOfMoreThanAFileHoldsIsSplit)
+{
+    QList<LocalEdit> edits;
+    const QString text(200'000, u'x');
+    for (int i = 0; i < 12; ++i) {
+        edits.append(rule(i, text + QString::number(i)));
+    }
+    ASSERT_TRUE(a.replica.edit(edits, 1000));
+    ASSERT_GT(a.storage.content.pending.size(), 1);
+    for (const SyncChanges &piece : std::as_const(a.storage.content.pending)) {
+        EXPECT_LE(approximateSize(piece), 1 << 20);
+    }
+    a.send({&b});
+    EXPECT_EQ(b.storage.content.records, a.storage.content.records);
+}
+
+TEST_F(ReplicaTest, ManySmallActsShareAFile)
+{
+    for (int i = 0; i < 1000; ++i) {
+        a.replica.edit({setting(QString::number(i), qint64(i))}, 1000 + i);
+    }
+    EXPECT_TRUE(a.replica.sealNext());
+    EXPECT_FALSE(a.storage.hasPending());
+    EXPECT_EQ(a.storage.outgoing().size(), 1);
+    a.send({&b});
+    EXPECT_EQ(b.storage.content.settings, a.storage.content.settings);
+}
+
+TEST_F(ReplicaTest, OnlySoManyRefusedFilesAreRemembered)
+{
+    for (int i = 0; i < 2100; ++i) {
+        a.replica.ignore(QString::number(i), FileProblem::Damaged, "r");
+    }
+    EXPECT_EQ(a.storage.progress().ignored.size(), 2000);
 }
 
 TEST_F(ReplicaTest, ForeignFileChangesNothing)
