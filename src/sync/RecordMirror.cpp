@@ -56,6 +56,9 @@ void RecordMirror::containerOpened()
         m_deps.scheduler.onMainAfter(pauseAfterFailure, this, [this] { containerOpened(); });
     }
     stepSoon();
+    if (m_replica) {
+        Q_EMIT started();
+    }
 }
 
 bool RecordMirror::start(Replica &replica, const QByteArray &account)
@@ -82,6 +85,7 @@ bool RecordMirror::start(Replica &replica, const QByteArray &account)
     m_catchUp.reset();
     m_replica = &replica;
     stepSoon();
+    Q_EMIT started();
     return true;
 }
 

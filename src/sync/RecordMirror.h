@@ -52,7 +52,7 @@ public:
     /// The records are open, and `iCloudSync` is read: edits are noted from now on, or no longer.
     /// To be called once at launch; follows a store that opens its file anew by itself.
     void containerOpened();
-    /// For the replica. Until isReady() it keeps no change of records or settings.
+    /// For the replica. Until isReady() it keeps no records of others.
     RecordMirrorStorage &storage() { return m_storage; }
     /// The replica of the account takes edits from now on; `account` tells accounts apart.
     /// Whatever was known of another account is forgotten, and all records are told to this one.
@@ -60,6 +60,8 @@ public:
     bool start(Replica &replica, const QByteArray &account);
     /// The replica goes. Edits are noted on.
     void stop();
+    /// Edits of settings are kept.
+    bool isStarted() const { return m_replica != nullptr && m_isMirrored; }
 
     /// The replica knows all that the records have become: now it may merge what others wrote.
     bool isReady() const { return m_isReady; }
@@ -71,6 +73,8 @@ public:
     void endImport(bool succeeded);
 
 Q_SIGNALS:
+    /// The replica of an account was given, or the store has opened its file anew.
+    void started();
     /// isReady(), and it was not before.
     void ready();
     /// There is something to send.
