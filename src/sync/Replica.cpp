@@ -10,7 +10,6 @@
 #include "sync/ReplicaStorage.h"
 #include "sync/RuleProjection.h"
 #include "sync/SealedFile.h"
-#include "sync/SynchronizedAttribute.h"
 
 #include <QSet>
 #include <QtEndian>
@@ -25,6 +24,12 @@ namespace {
 constexpr int mostEditsInFile = 2000;
 /// About how many bytes of values share a file, before they are packed.
 constexpr qsizetype contentOfFile = qsizetype{1} << 20;
+
+/// Which rule is in force is a fact of each computer's own network, and no choice of the person's.
+bool isSynchronized(const RecordId &record, const QString &attribute)
+{
+    return record.entity != model::Rule || attribute != model::rule::active;
+}
 
 struct SizeOf
 {
@@ -102,7 +107,7 @@ SyncChanges writtenBy(const LocalEdit &edit, const Stamp &stamp, const ReplicaSt
     }
     if (edit.kind != LocalEdit::Kind::Delete) {
         for (auto it = edit.values.begin(); it != edit.values.end(); ++it) {
-            if (isSynchronized(edit.record.entity, it.key())) {
+            if (isSynchronized(edit.record, it.key())) {
                 state.attributes.insert(it.key(), {*it, stamp});
             }
         }

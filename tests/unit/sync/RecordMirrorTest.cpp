@@ -4,7 +4,12 @@
 
 #include "RecordMirrorFixture.h"
 #include "base/NotificationNames.h"
+#include "devices/DeviceTable.h"
+#include "fakes/FakeInterfaceAddresses.h"
+#include "fakes/FakeNetworkHost.h"
 #include "fakes/LogCapture.h"
+#include "rules/RuleInvariants.h"
+#include "rules/RuleQueries.h"
 #include "store/RecordRemoval.h"
 
 #include <QUndoStack>
@@ -242,6 +247,65 @@ TEST_F(RecordMirrorTest, OfTwoRulesEnabledAtOnePlaceOneIsShownAsOff)
         EXPECT_EQ(computer->rule(u"a"_s)->value(u"enabled"_s), false);
         EXPECT_EQ(computer->rule(u"b"_s)->value(u"enabled"_s), false);
     }
+}
+
+/// What the program keeps of rules on one computer.
+struct Invariants
+{
+    explicit Invariants(MirroringComputer &computer)
+        : devices(computer.settings, host, addresses)
+        , queries(computer.store, computer.settings, devices)
+        , invariants({computer.store, computer.scheduler, computer.notifications, queries})
+    {
+        queries.updateNamesArray();
+        QObject::connect(&computer.store, &RecordStore::objectsDidChange, &invariants,
+            [this](const ObjectsDidChange &change) { invariants.contextDidChange(change); });
+        QObject::connect(&computer.store, &RecordStore::recordsMerged, &invariants,
+            [this] { queries.updateNamesArray(); });
+        computer.notifications.addObserver(
+            notifications::updateNamesArray, [this](const auto &) { queries.updateNamesArray(); });
+    }
+
+    FakeNetworkHost host;
+    FakeInterfaceAddresses addresses{host};
+    DeviceTable devices;
+    RuleQueries queries;
+    RuleInvariants invariants;
+};
+
+TEST_F(RecordMirrorTest, WhatKeepsNamesUniqueHereDoesNotFightWithWhatDoesAmongComputers)
+{
+    launchBoth();
+    shareRule(u"one"_s);
+    shareRule(u"two"_s);
+    const Invariants ofA(a);
+    const Invariants ofB(b);
+    a.rule(u"one"_s)->setValue(model::rule::name, u"Home"_s);
+    a.saveAndSettle();
+    b.scheduler.advance(std::chrono::minutes(1));
+    b.rule(u"two"_s)->setValue(model::rule::name, u"Home"_s);
+    b.saveAndSettle();
+    a.send({&b});
+    b.send({&a});
+    const QStringList both{u"Home"_s, u"Home (2)"_s};
+    for (MirroringComputer *computer : {&a, &b}) {
+        EXPECT_EQ(computer->names(), both);
+        EXPECT_FALSE(computer->replica.hasUnsent());
+        EXPECT_FALSE(computer->context().hasChanges());
+    }
+    // An edit of something else sends that alone; one of the name goes by what is shown.
+    b.rule(u"Home (2)"_s)->setValue(u"timerMins"_s, 8);
+    b.saveAndSettle();
+    b.send({&a});
+    EXPECT_EQ(a.names(), both);
+    a.rule(u"Home (2)"_s)->setValue(model::rule::name, u"Home"_s);
+    a.saveAndSettle();
+    a.send({&b});
+    // Its own name until then counts as taken, here as without a mirror.
+    const QStringList renamed{u"Home"_s, u"Home (3)"_s};
+    EXPECT_EQ(b.names(), renamed);
+    EXPECT_EQ(a.names(), renamed);
+    EXPECT_FALSE(b.replica.hasUnsent());
 }
 
 TEST_F(RecordMirrorTest, WhichRuleIsInForceIsNeitherSentNorTaken)
