@@ -24,6 +24,7 @@ namespace {
 constexpr int editsOfStep = 250;
 // Others on the main thread get their turn.
 constexpr auto pauseBetweenSteps = 15ms;
+constexpr auto pauseWhileHeldUp = 200ms;
 constexpr auto pauseAfterFailure = 30s;
 
 } // namespace
@@ -198,10 +199,15 @@ void RecordMirror::step()
         return;
     }
     const QScopedValueRollback own(m_isOwn, true);
+    // A removal in the background writes for most of the time; to wait for it is not up to us.
+    const RecordMirrorFile::Impatience impatience(m_storage.file());
     const bool kept = m_isCaughtUp ? m_edits.isEmpty() || m_storage.transaction([] {}) : catchUp();
     if (!kept) {
-        m_catchUp.reset();
-        stepAfter(pauseAfterFailure);
+        const bool hasNotBegun = m_storage.file().wasHeldUp();
+        if (!hasNotBegun) {
+            m_catchUp.reset();
+        }
+        stepAfter(hasNotBegun ? pauseWhileHeldUp : pauseAfterFailure);
         return;
     }
     if (std::exchange(m_hasTaken, false)) {

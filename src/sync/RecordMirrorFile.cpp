@@ -3,9 +3,12 @@
 #include "sync/RecordMirrorFile.h"
 
 #include "base/Log.h"
+#include "store/file/RecordFileOpening.h"
+#include "store/model/RecordFileError.h"
 
 #include <QScopedValueRollback>
 
+#include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Transaction.h>
@@ -20,6 +23,22 @@ RecordMirrorFile::Use::~Use()
         m_statement.clearBindings();
     } catch (const SQLite::Exception &exception) {
         qCDebug(logRecords, "A statement keeps its values: %s", exception.what());
+    }
+}
+
+RecordMirrorFile::Impatience::Impatience(RecordMirrorFile &file)
+    : m_database(file.m_database)
+{
+    if (m_database) {
+        m_patience = m_database->execAndGet("PRAGMA busy_timeout").getInt();
+        m_database->setBusyTimeout(0);
+    }
+}
+
+RecordMirrorFile::Impatience::~Impatience()
+{
+    if (m_database) {
+        m_database->setBusyTimeout(m_patience);
     }
 }
 
@@ -40,6 +59,7 @@ bool RecordMirrorFile::transaction(
         work();
         return true;
     }
+    m_wasHeldUp = false;
     if (!m_database || std::exchange(m_hasFailed, false)) {
         return false;
     }
@@ -56,7 +76,12 @@ bool RecordMirrorFile::transaction(
         transaction.commit();
         return true;
     } catch (const SQLite::Exception &exception) {
-        qCWarning(logRecords, "The mirror of the records cannot be written: %s", exception.what());
+        m_hasFailed = false;
+        m_wasHeldUp = isRecordFileError(errorOf(exception), RecordFileError::Locked);
+        if (!m_wasHeldUp) {
+            qCWarning(
+                logRecords, "The mirror of the records cannot be written: %s", exception.what());
+        }
         return false;
     }
 }

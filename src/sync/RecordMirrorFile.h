@@ -49,6 +49,21 @@ public:
     /// the outermost transaction only.
     bool transaction(const std::function<void()> &first, const std::function<void()> &work);
     bool isInTransaction() const { return m_isOpen; }
+    /// While one exists, a transaction that somebody else's write would hold up fails at once.
+    class [[nodiscard]] Impatience
+    {
+    public:
+        explicit Impatience(RecordMirrorFile &file);
+        ~Impatience();
+        Impatience(const Impatience &) = delete;
+        Impatience &operator=(const Impatience &) = delete;
+
+    private:
+        std::shared_ptr<SQLite::Database> m_database;
+        int m_patience = 0; ///< in milliseconds
+    };
+    /// The last transaction failed because somebody else was writing.
+    bool wasHeldUp() const { return m_wasHeldUp; }
     /// The transaction, or the next one, keeps nothing.
     void fail(const char *why) const;
 
@@ -70,6 +85,7 @@ private:
     std::shared_ptr<SQLite::Database> m_database;
     mutable std::map<std::string, SQLite::Statement> m_statements; ///< go before the connection
     bool m_isOpen = false;
+    bool m_wasHeldUp = false;
     mutable bool m_hasFailed = false;
 };
 

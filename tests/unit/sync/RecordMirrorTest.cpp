@@ -587,5 +587,23 @@ TEST_F(RecordMirrorTest, AFailureIsTriedAgain)
     EXPECT_EQ(a.number("SELECT count(*) FROM MirrorEdit"), 0);
 }
 
+TEST_F(RecordMirrorTest, DoesNotWaitForSomebodyWhoWrites)
+{
+    a.launch();
+    a.insert(model::Rule, {{u"name"_s, u"Home"_s}});
+    a.save();
+    {
+        SQLite::Database other(a.store.path().toStdString(), SQLite::OPEN_READWRITE);
+        other.exec("BEGIN IMMEDIATE");
+        const QDateTime begin = QDateTime::currentDateTimeUtc();
+        a.scheduler.advance(std::chrono::milliseconds(100));
+        EXPECT_LT(begin.msecsTo(QDateTime::currentDateTimeUtc()), 900);
+        EXPECT_FALSE(a.replica.hasUnsent());
+        EXPECT_GT(a.number("PRAGMA busy_timeout"), 0) << "a save still does";
+    }
+    a.scheduler.advance(std::chrono::milliseconds(200));
+    EXPECT_TRUE(a.replica.hasUnsent());
+}
+
 } // namespace
 } // namespace quillon::test
