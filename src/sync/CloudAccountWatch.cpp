@@ -100,16 +100,20 @@ void CloudAccountWatch::ask(const Alert &alert, const std::function<void(int but
     if (std::exchange(m_isAsking, true)) {
         return;
     }
-    m_deps.scheduler.onMain(this, [this, alert, answer] {
-        // Events go on while the alert is open: the program may end under it.
-        const QPointer self(this);
-        Q_EMIT alertShown();
-        const int button = m_deps.alerts.runModal(alert);
-        if (self) {
-            m_isAsking = false;
-            answer(button);
-        }
-    });
+    m_deps.scheduler.onMain(this, [this, alert, answer] { run(alert, answer); });
+}
+
+void CloudAccountWatch::run(const Alert &alert, const std::function<void(int button)> &answer)
+{
+    Q_EMIT alertShown();
+    // Events go on while the alert is open: the program may end under it.
+    const QPointer self(this);
+    const int button = m_deps.alerts.runModal(alert);
+    if (!self) {
+        return;
+    }
+    m_isAsking = false;
+    answer(button);
 }
 
 void CloudAccountWatch::showCloudAlert()

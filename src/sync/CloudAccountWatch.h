@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QVariant>
 
+#include <functional>
 #include <optional>
 
 namespace quillon {
@@ -58,6 +59,7 @@ private:
     void showchangedUserCloudAlert();
     /// Shows it in a later turn unless one is shown; `answer` gets the index of the button.
     void ask(const Alert &alert, const std::function<void(int button)> &answer);
+    void run(const Alert &alert, const std::function<void(int button)> &answer);
 
     Collaborators m_deps;
     QMap<QString, SettingsStore::Token> m_observers;
