@@ -2219,5 +2219,29 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>The keyring did not answer.</source>
         <translation>Der Schlüsselbund hat nicht geantwortet.</translation>
     </message>
+    <message>
+        <source>Please sign in to iCloud</source>
+        <translation>Bitte bei iCloud anmelden</translation>
+    </message>
+    <message>
+        <source>Open System Settings, and login into your iCloud account to enable sync across all your devices.</source>
+        <translation>Öffnen Sie die Systemeinstellungen und melden Sie sich bei Ihrem iCloud-Konto an, um alle Ihre Geräte abzugleichen.</translation>
+    </message>
+    <message>
+        <source>Your iCloud account has changed. Do you want to synchronise with the new account?</source>
+        <translation>Ihr iCloud-Konto hat sich geändert. Mit dem neuen Konto abgleichen?</translation>
+    </message>
+    <message>
+        <source>You are asked this after you have logged in to a new iCloud account, and after the computer was restored from a backup.</source>
+        <translation>Diese Frage erscheint, nachdem Sie sich bei einem neuen iCloud-Konto angemeldet haben und nachdem der Rechner aus einer Sicherung wiederhergestellt wurde.</translation>
+    </message>
+    <message>
+        <source>iCloud</source>
+        <translation>iCloud</translation>
+    </message>
+    <message>
+        <source>updates received</source>
+        <translation>Aktualisierungen empfangen</translation>
+    </message>
 </context>
 </TS>

@@ -52,7 +52,7 @@ class HistoryTest(ProgramTest):
     def test_a_file_of_version_1_is_brought_up_to_date(self):
         window = self.open()
         self.expect_label(window, "3 records")
-        self.assertEqual(in_file("PRAGMA user_version"), [(2,)])
+        self.assertEqual(in_file("PRAGMA user_version"), [(3,)])
         self.assertEqual(in_file("SELECT count(*) FROM sqlite_master WHERE type = 'index' AND sql NOT NULL"), [(1,)])
 
     def test_searched_annotated_undone_and_saved_with_the_keyboard(self):

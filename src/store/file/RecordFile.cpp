@@ -6,124 +6,17 @@
 #include "store/file/FetchSql.h"
 #include "store/file/RecordFileOpening.h"
 #include "store/file/RowSelection.h"
+#include "store/file/RowWriter.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
-#include <map>
 #include <sqlite3.h>
-#include <tuple>
 #include <utility>
 
 namespace quillon {
 
 namespace {
-
-/// Writes rows, each statement prepared once. SQLite::Exception as SQLiteCpp throws it.
-class RowWriter
-{
-public:
-    explicit RowWriter(SQLite::Database &database)
-        : m_database(database)
-    {
-    }
-
-    qint64 write(const RowChange &change)
-    {
-        switch (change.kind) {
-        case RowChange::Kind::Insert:
-            return insert(change);
-        case RowChange::Kind::Update:
-            return update(change) ? change.row.key : insert(change);
-        case RowChange::Kind::Delete:
-            remove(change);
-            return change.row.key;
-        }
-        return 0;
-    }
-
-private:
-    /// Making the text costs more than running it, so that is done once too.
-    SQLite::Statement &statement(const RowChange &change, RowChange::Kind kind)
-    {
-        const Key key(kind, change.entity.name(), change.columns);
-        auto found = m_statements.find(key);
-        if (found == m_statements.end()) {
-            found = m_statements.try_emplace(key, m_database, text(change, kind)).first;
-        }
-        found->second.reset();
-        return found->second;
-    }
-
-    static std::string text(const RowChange &change, RowChange::Kind kind)
-    {
-        const Entity &entity = change.entity;
-        const std::string table = quotedName(entity.name());
-        std::string set;
-        switch (kind) {
-        case RowChange::Kind::Insert:
-            for (const Attribute &attribute : entity.attributes()) {
-                const std::string name = quotedName(attribute.name);
-                set += (set.empty() ? "" : ", ") + name + " = excluded." + name;
-            }
-            // A record that another program has brought back already keeps its row.
-            return "INSERT INTO " + table + " (" + columnNames(entity) + ") VALUES (" +
-                   repeated("?", 2 + entity.attributes().size()) +
-                   ") ON CONFLICT (uuid) DO UPDATE SET " + set + " RETURNING pk";
-        case RowChange::Kind::Update:
-            for (const qsizetype column : change.columns) {
-                set += (set.empty() ? "" : ", ") + quotedName(entity.attributes()[column].name) +
-                       " = ?";
-            }
-            return "UPDATE " + table + " SET " + set + " WHERE uuid = ?";
-        case RowChange::Kind::Delete:
-            return "DELETE FROM " + table + " WHERE uuid = ?";
-        }
-        return {};
-    }
-
-    qint64 insert(const RowChange &change)
-    {
-        auto &sql = statement(change, RowChange::Kind::Insert);
-        if (change.row.key < firstUnsavedKey) {
-            sql.bind(1, int64_t{change.row.key});
-        } else {
-            sql.bind(1);
-        }
-        bindId(sql, 2, change.row.id);
-        int index = 3;
-        for (const QVariant &value : change.row.values) {
-            bindValue(sql, index++, value);
-        }
-        sql.executeStep();
-        const qint64 key = sql.getColumn(0).getInt64();
-        sql.executeStep();
-        return key;
-    }
-
-    bool update(const RowChange &change)
-    {
-        auto &sql = statement(change, RowChange::Kind::Update);
-        int index = 1;
-        for (const qsizetype column : change.columns) {
-            bindValue(sql, index++, change.row.values[column]);
-        }
-        bindId(sql, index, change.row.id);
-        return sql.exec() > 0;
-    }
-
-    void remove(const RowChange &change)
-    {
-        auto &sql = statement(change, RowChange::Kind::Delete);
-        bindId(sql, 1, change.row.id);
-        sql.exec();
-    }
-
-    using Key = std::tuple<RowChange::Kind, QString, QList<qsizetype>>;
-
-    SQLite::Database &m_database;
-    std::map<Key, SQLite::Statement> m_statements;
-};
 
 /// While it lives, SQLite gives a statement up that takes more steps of its machine than are made
 /// in about a millisecond.
@@ -162,7 +55,7 @@ Result<std::unique_ptr<RecordFile>> RecordFile::open(
     });
 }
 
-RecordFile::RecordFile(std::unique_ptr<SQLite::Database> database)
+RecordFile::RecordFile(std::shared_ptr<SQLite::Database> database)
     : m_database(std::move(database))
 {
 }
@@ -234,6 +127,11 @@ Result<QList<qint64>> RecordFile::write(const QList<RowChange> &changes)
         transaction.commit();
         return keys;
     });
+}
+
+std::shared_ptr<SQLite::Database> RecordFile::database() const
+{
+    return m_database;
 }
 
 Result<qint64> RecordFile::versionOfOthers() const

@@ -48,10 +48,14 @@ public:
     /// A number that changes with every commit of another program, and with no other.
     Result<qint64> versionOfOthers() const;
 
-private:
-    explicit RecordFile(std::unique_ptr<SQLite::Database> database);
+    /// The connection, for whoever keeps tables of its own beside the records and changes both in
+    /// one transaction. What is written so is no write of others.
+    std::shared_ptr<SQLite::Database> database() const;
 
-    std::unique_ptr<SQLite::Database> m_database;
+private:
+    explicit RecordFile(std::shared_ptr<SQLite::Database> database);
+
+    std::shared_ptr<SQLite::Database> m_database;
 };
 
 } // namespace quillon

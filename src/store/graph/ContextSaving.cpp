@@ -86,6 +86,11 @@ void ManagedObjectContext::mergeChangesFromStore()
     Q_EMIT recordsMerged();
 }
 
+std::shared_ptr<SQLite::Database> ManagedObjectContext::database() const
+{
+    return m_file->database();
+}
+
 void ManagedObjectContext::merge(const ManagedObjectPtr &object, const RecordRow *row)
 {
     if (row) {

@@ -17,6 +17,10 @@
 
 class QUndoStack;
 
+namespace SQLite {
+class Database;
+} // namespace SQLite
+
 namespace quillon {
 
 class FetchedRecords;
@@ -101,6 +105,8 @@ public:
     /// Takes over what others wrote to the file; attributes changed here keep our value. What
     /// cannot be read is logged and tried again by the next save.
     void mergeChangesFromStore();
+    /// RecordFile::database(). Who changed records there calls mergeChangesFromStore() afterwards.
+    std::shared_ptr<SQLite::Database> database() const;
 
     /// Undo and redo of edits, one step for each turn of the main loop: what a command does, saves
     /// and does then because of that, and what observers answer to it. Never deletes what it needs

@@ -111,7 +111,7 @@ TEST_F(RecordFileOpeningTest, MakesAMissingFileForItsOwnerAlone)
     EXPECT_EQ(QFile::permissions(path) & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther |
                                              QFile::WriteOther | QFile::ExeOwner),
         QFile::Permissions());
-    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
     EXPECT_EQ(answer("PRAGMA journal_mode"), "wal");
     EXPECT_EQ(answer("SELECT count(*) FROM Rule"), "0");
     EXPECT_EQ(answer("SELECT count(*) FROM Connection"), "0");
@@ -129,7 +129,7 @@ TEST_F(RecordFileOpeningTest, AnEmptyFileIsANewOne)
 {
     write({});
     ASSERT_TRUE(open());
-    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
 }
 
 TEST_F(RecordFileOpeningTest, AnOlderFileIsBroughtUpToDate)
@@ -139,7 +139,7 @@ TEST_F(RecordFileOpeningTest, AnOlderFileIsBroughtUpToDate)
                                   "UPDATE Rule SET colour = 'green' WHERE name = 'Home';");
     later.steps << "CREATE INDEX byDate ON Connection (date)";
     ASSERT_TRUE(open(later));
-    EXPECT_EQ(answer("PRAGMA user_version"), "4");
+    EXPECT_EQ(answer("PRAGMA user_version"), "5");
     EXPECT_EQ(answer("SELECT colour FROM Rule"), "green");
     EXPECT_EQ(answer("SELECT count(*) FROM sqlite_master WHERE name = 'byDate'"), "1");
     ASSERT_TRUE(open(later)) << "a step runs once";
@@ -151,7 +151,7 @@ TEST_F(RecordFileOpeningTest, AFileOfVersion1KeepsItsRecordsAndGetsTheIndexByDat
     EXPECT_EQ(answer("PRAGMA user_version"), "1");
     const auto file = open();
     ASSERT_TRUE(file) << file.error().message.toStdString();
-    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
     EXPECT_EQ(answer("PRAGMA integrity_check"), "ok");
 
     const Entity &connection = *quillonModel().entity(model::Connection);
@@ -177,6 +177,50 @@ TEST_F(RecordFileOpeningTest, AFileOfVersion1KeepsItsRecordsAndGetsTheIndexByDat
     EXPECT_EQ(answer(schemaOf), migrated) << "an old file is what a new one is";
 }
 
+TEST_F(RecordFileOpeningTest, AFileOfVersion2KeepsItsRecordsAndNotesNoEditUntilItIsMirrored)
+{
+    write(bytes(testData() + u"/records/version-2.sqlite"_s));
+    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    ASSERT_TRUE(open());
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
+    EXPECT_EQ(answer("PRAGMA integrity_check"), "ok");
+    EXPECT_EQ(answer("SELECT group_concat(pk || ' ' || ifnull(address, ''), ', ') FROM Connection"),
+        "1 62:68:66:48:DC:27, 2 02:00:5e:00:53:01, 4 ");
+    const std::string edits = "SELECT count(*) FROM MirrorEdit";
+    sql("UPDATE Connection SET notes = 'x' WHERE pk = 1");
+    EXPECT_EQ(answer(edits), "0");
+    sql("UPDATE Mirror SET isRecording = 1");
+    sql("UPDATE Connection SET notes = 'y' WHERE pk = 1");
+    EXPECT_EQ(answer(edits), "1");
+    sql("UPDATE Connection SET notes = 'y' WHERE pk = 1");
+    sql("UPDATE Rule SET active = 1 - ifnull(active, 0)");
+    EXPECT_EQ(answer(edits), "1") << "neither is an edit that others are to hear of";
+    const std::string schemaOf = "SELECT group_concat(sql) FROM (SELECT sql FROM sqlite_master "
+                                 "WHERE name NOT LIKE 'sqlite_%' ORDER BY name)";
+    const std::string migrated = answer(schemaOf);
+    path = folder.filePath(u"new.sqlite"_s);
+    ASSERT_TRUE(open());
+    EXPECT_EQ(answer(schemaOf), migrated) << "an old file is what a new one is";
+}
+
+TEST_F(RecordFileOpeningTest, EveryAttributeThatIsSentHasItsBitInTheNotedEdit)
+{
+    makeWithOneRule();
+    sql("INSERT INTO Connection (uuid) VALUES (randomblob(16)); UPDATE Mirror SET isRecording = 1");
+    for (const Entity &entity : quillonModel().entities) {
+        for (qsizetype index = 0; index < entity.attributes().size(); ++index) {
+            const Attribute &attribute = entity.attributes()[index];
+            const std::string value = attribute.type == AttributeType::String ? "'new'" : "77";
+            sql("DELETE FROM MirrorEdit; UPDATE " + entity.name().toStdString() + " SET \"" +
+                attribute.name.toStdString() + "\" = " + value);
+            const bool isSent = attribute.name != model::rule::active.name;
+            EXPECT_EQ(answer("SELECT ifnull(sum(columns), 0) FROM MirrorEdit"),
+                std::to_string(isSent ? qint64{1} << index : 0))
+                << attribute.name.toStdString();
+        }
+    }
+}
+
 TEST_F(RecordFileOpeningTest, TheNewestRecordsAreFoundWithoutSortingTheRest)
 {
     ASSERT_TRUE(open());
@@ -199,15 +243,16 @@ TEST_F(RecordFileOpeningTest, AStepThatFailsLeavesTheFileAsItWas)
     later.steps << "UPDATE NoSuchTable SET x = 1";
     expectRefused(open(later), RecordFileError::Failed, u"NoSuchTable"_s);
     EXPECT_EQ(bytes(), before);
-    EXPECT_EQ(answer("PRAGMA user_version"), "2");
+    EXPECT_EQ(answer("PRAGMA user_version"), "3");
     EXPECT_TRUE(open());
 }
 
 TEST_F(RecordFileOpeningTest, AStepThatLosesAnAttributeIsTakenBack)
 {
     makeWithOneRule();
-    expectRefused(open(withStep("ALTER TABLE Rule DROP COLUMN vendor")), RecordFileError::Damaged,
-        u"\"Rule\" lacks \"vendor\""_s);
+    expectRefused(
+        open(withStep("DROP TRIGGER \"Rule updated\"; ALTER TABLE Rule DROP COLUMN vendor")),
+        RecordFileError::Damaged, u"\"Rule\" lacks \"vendor\""_s);
     EXPECT_TRUE(open());
 }
 
@@ -216,8 +261,8 @@ TEST_F(RecordFileOpeningTest, AFileOfANewerVersionIsRefusedAndUntouched)
     ASSERT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
     const QByteArray before = bytes();
     expectRefused(open(), RecordFileError::Newer,
-        u"were written by a newer version of Quillon (version 3 of the file; this "
-        u"program knows versions up to 2)"_s);
+        u"were written by a newer version of Quillon (version 4 of the file; this "
+        u"program knows versions up to 3)"_s);
     EXPECT_EQ(bytes(), before);
     EXPECT_TRUE(open(withStep("CREATE TABLE Extra (x)")));
 }
@@ -305,7 +350,7 @@ TEST_F(RecordFileOpeningTest, TheDatabaseOfAnotherProgramIsRefusedAndUntouched)
 TEST_F(RecordFileOpeningTest, AMissingColumnOrTableIsDamage)
 {
     makeWithOneRule();
-    sql("ALTER TABLE Rule DROP COLUMN ssid");
+    sql("DROP TRIGGER \"Rule updated\"; ALTER TABLE Rule DROP COLUMN ssid");
     const QByteArray before = bytes();
     expectRefused(open(), RecordFileError::Damaged, u"\"Rule\" lacks \"ssid\""_s);
     EXPECT_EQ(bytes(), before);
