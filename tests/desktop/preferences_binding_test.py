@@ -10,6 +10,10 @@ import unittest
 from preferences import PreferencesTest, stored, wait_for_stored, write_settings
 from program import DEADLINE, start, wait_until, xdotool
 
+# What another program saves.
+SAVED = {"savedNetworks": {"a4:2b:b0:00:00:01": {"BSSID": "a4:2b:b0:00:00:01", "SSID": "Harbor", "name": "Harbor"}},
+         "savedAddresses": {"a4:83:e7:01:02:03": {"address": "a4:83:e7:01:02:03", "name": "Printer"}}}
+
 
 class GeneralTest(PreferencesTest):
     BOXES = {"hideOnLaunch": "Do not open the window at login", "showInMenu": "Show in the status bar",
@@ -114,6 +118,31 @@ class AdvancedTest(PreferencesTest):
         self.assertTrue(self.preferences.find("button", "Uninstall").enabled)
         for device in ("enp1s0", "enp2s0"):
             self.preferences.find("list item", f"{device} · no program that is known")
+
+
+class VendorDataTest(PreferencesTest):
+    PANE = "Vendor Data"
+
+    def test_what_another_program_writes_is_not_believed(self):
+        count = next(label.name for label in self.preferences.all("label") if "Vendor Identifiers" in label.name)
+        address = self.field.text
+        write_settings(vendorCountValue=12345, vendorIDUpdatedDate=["no date"], lowerCaseHEX=True)
+        # What it wrote has come.
+        self.expect_shown(address.lower())
+        self.assertTrue(self.has_label(count), "the registry is counted by the program alone")
+        self.assertTrue(self.preferences.find("button", "Update database").enabled)
+
+
+class SavedItemsPaneTest(PreferencesTest):
+    PANE = "Rules"
+
+    def test_what_another_program_saves_is_shown(self):
+        write_settings(**SAVED)
+        self.preferences.find("button", "Harbor")
+        self.preferences.find("button", "Printer")
+        write_settings(savedAddresses={})
+        wait_until(lambda: not self.preferences.has("button", "Printer"), "the address is still there")
+        self.preferences.find("button", "Harbor")
 
 
 class AboutTest(PreferencesTest):

@@ -3,6 +3,7 @@
 """A rule is made, switched, renamed, duplicated, deleted and had back, without a pointer, and acts on the kernel."""
 import unittest
 
+from preferences import write_settings
 from program import (NAME, ProgramTest, accessibility, forget_everything, kernel_addresses, trayclient, wait_until,
                      write_rule, xdotool)
 
@@ -98,6 +99,17 @@ class RuleEditorTest(ProgramTest):
         wait_until(lambda: any(address.upper() in label.name for label in history.all("label")),
                    lambda: f"the history does not tell of it; there is {history.overview()}")
 
+    def test_what_another_program_saves_can_be_chosen_and_goes_again(self):
+        xdotool("key", "ctrl+n")
+        wait_until(lambda: self.focused_in_editor() == "Name", "the form has not the keyboard")
+        self.choose("Action", "Change")
+        write_settings(savedAddresses={"a4:83:e7:01:02:03": {"address": "a4:83:e7:01:02:03", "name": "Printer"}})
+        self.choose("Address", "Printer")
+        self.editor().find("label", "On any network, give Ethernet · enp1s0 the address Printer.")
+        write_settings(savedAddresses=None)
+        address = self.editor().labelled("Address", "combo box")
+        wait_until(lambda: address.name == "Random Address", lambda: f"“{address.name}” is still chosen")
+
     def test_the_form_goes_without_a_trace(self):
         xdotool("key", "ctrl+n")
         wait_until(lambda: self.focused_in_editor() == "Name", "the form has not the keyboard")
@@ -124,6 +136,7 @@ class RulesListTest(RuleEditorTest):
     # Those of the base are not tried again.
     test_a_rule_is_made_acts_and_is_found_in_the_history = None
     test_the_form_goes_without_a_trace = None
+    test_what_another_program_saves_can_be_chosen_and_goes_again = None
 
     def focus_list(self):
         wait_until(self.focused_in_editor, "the window has not the keyboard")
