@@ -26,7 +26,6 @@ server.document-root = "FOLDER/files"
 server.bind = "127.0.0.1"
 server.port = PORT
 server.errorlog = "FOLDER/log"
-server.max-request-size = 40
 server.upload-dirs = ("FOLDER")
 ssl.engine = "enable"
 ssl.pemfile = "FOLDER/certificate.pem"
@@ -64,7 +63,6 @@ SSLCertificateFile FOLDER/certificate.pem
 SSLCertificateKeyFile FOLDER/key.pem
 <Directory FOLDER/files>
     Dav On
-    LimitRequestBody 40960
     AuthType Basic
     AuthName files
     AuthUserFile FOLDER/users

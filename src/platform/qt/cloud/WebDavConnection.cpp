@@ -9,8 +9,8 @@ namespace quillon {
 
 namespace {
 
-/// So many connections Qt makes to one server at most would be six; a small server is not to notice
-/// us. What waits is not yet measured against the time that it may take.
+/// Fewer than the connections that Qt makes to one server, so that nothing waits there, where its
+/// time would run.
 constexpr std::size_t mostAtOnce = 4;
 
 WebDavTransfer::Trust trustOf(const CloudAccount &account, const QString &password)
@@ -25,6 +25,7 @@ WebDavConnection::WebDavConnection(
     const CloudAccount &account, const QString &password, WebDavTransfer::Limits limits)
     : m_trust(trustOf(account, password))
     , m_limits(limits)
+    , m_network(new QNetworkAccessManager)
 {
 }
 
@@ -49,13 +50,13 @@ void WebDavConnection::startWaiting()
         m_waiting.pop_front();
         const auto self = std::make_shared<WebDavTransfer *>();
         auto *const transfer =
-            new WebDavTransfer(m_network, m_trust, m_limits, std::move(next.request),
+            new WebDavTransfer(*m_network, m_trust, m_limits, std::move(next.request),
                 [this, self, done = std::move(next.done)](const CloudResult<WebDavAnswer> &result) {
                     m_running.erase(*self);
                     // A connection that broke, or was made under another address, leads nowhere any
                     // more.
                     if (std::holds_alternative<CloudError>(result)) {
-                        m_network.clearConnectionCache();
+                        m_network->clearConnectionCache();
                     }
                     startWaiting();
                     done(result); // may destroy us

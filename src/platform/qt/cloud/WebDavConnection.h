@@ -6,8 +6,10 @@
 #include "platform/qt/cloud/WebDavTransfer.h"
 
 #include <QNetworkAccessManager>
+#include <QScopedPointer>
 
 #include <deque>
+#include <memory>
 #include <set>
 
 namespace quillon {
@@ -32,7 +34,8 @@ private:
 
     const WebDavTransfer::Trust m_trust;
     const WebDavTransfer::Limits m_limits;
-    QNetworkAccessManager m_network;
+    /// Goes later than this: we may be destroyed by what one of its answers led to.
+    const std::unique_ptr<QNetworkAccessManager, QScopedPointerDeleteLater> m_network;
     struct Waiting
     {
         WebDavRequest request;
