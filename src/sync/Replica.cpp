@@ -7,9 +7,10 @@
 #include "sync/AccountFile.h"
 #include "sync/ChangesFormat.h"
 #include "sync/HybridClock.h"
+#include "sync/ReplicaRules.h"
 #include "sync/ReplicaStorage.h"
-#include "sync/RuleProjection.h"
 #include "sync/SealedFile.h"
+#include "sync/SynchronizedAttribute.h"
 
 #include <QSet>
 #include <QtEndian>
@@ -25,15 +26,6 @@ constexpr int mostEditsInFile = 2048;
 constexpr int fewEdits = 32;
 /// About how many bytes of values share a file, before they are packed.
 constexpr qsizetype contentOfFile = qsizetype{1} << 20;
-
-/// More files that were left alone are not remembered: they are looked at again.
-constexpr qsizetype mostIgnored = 2000;
-
-/// Which rule is in force is a fact of each computer's own network, and no choice of the person's.
-bool isSynchronized(const RecordId &record, const QString &attribute)
-{
-    return record.entity != model::Rule || attribute != model::rule::active;
-}
 
 /// The changes in pieces of about that size, so that no act is too large for a file.
 QList<SyncChanges> inPieces(const SyncChanges &changes)
@@ -63,26 +55,15 @@ WriterId randomWriter(RandomSource &random)
     return bytes.size() == sizeof(WriterId) ? qFromBigEndian<WriterId>(bytes.constData()) : 0;
 }
 
-RuleStates presentRules(const ReplicaStorage &storage)
+bool isOfRule(const LocalEdit &edit)
 {
-    RuleStates rules;
-    const QList<RecordId> ids = storage.presentRecords(model::Rule);
-    for (const RecordId &id : ids) {
-        rules.insert(id.id, storage.record(id));
-    }
-    return rules;
-}
-
-bool touchesRules(const SyncChanges &changes)
-{
-    return std::any_of(changes.records.keyBegin(), changes.records.keyEnd(),
-        [](const RecordId &id) { return id.entity == model::Rule; });
+    return edit.kind != LocalEdit::Kind::Set && edit.record.entity == model::Rule;
 }
 
 /// Whether the edit decides which rule of a place is enabled.
 bool changesPlaces(const LocalEdit &edit)
 {
-    return edit.kind != LocalEdit::Kind::Set && edit.record.entity == model::Rule &&
+    return isOfRule(edit) &&
            (edit.kind != LocalEdit::Kind::Change || edit.values.contains(model::rule::enabled) ||
                edit.values.contains(model::rule::device) ||
                edit.values.contains(model::rule::network));
@@ -106,7 +87,7 @@ SyncChanges writtenBy(const LocalEdit &edit, const Stamp &stamp, const ReplicaSt
     }
     if (edit.kind != LocalEdit::Kind::Delete) {
         for (auto it = edit.values.begin(); it != edit.values.end(); ++it) {
-            if (isSynchronized(edit.record, it.key())) {
+            if (isSynchronized(edit.record.entity, it.key())) {
                 state.attributes.insert(it.key(), {*it, stamp});
             }
         }
@@ -132,7 +113,8 @@ bool Replica::edit(const QList<LocalEdit> &edits, qint64 now)
     return m_storage.transaction([&] {
         ReplicaProgress progress = m_storage.progress();
         HybridClock clock(progress.writer, progress.last);
-        const RuleStates before = presentRules(m_storage);
+        const bool ofRules = std::ranges::any_of(edits, isOfRule);
+        const RuleStates before = ofRules ? presentRules(m_storage) : RuleStates();
         QList<QUuid> placed;
         QSet<QUuid> switched;
         SyncChanges all;
@@ -291,160 +273,6 @@ bool Replica::becomeNewWriter()
             }
             m_storage.removeOutgoing(it.key());
         }
-    });
-}
-
-ReadResult<SyncChanges> Replica::readSealed(const QString &name, const QByteArray &bytes) const
-{
-    const ReadResult<QByteArray> content = opened(bytes, name, m_key);
-    if (const auto *problem = std::get_if<FileProblem>(&content)) {
-        return *problem;
-    }
-    return readChanges(std::get<QByteArray>(content));
-}
-
-bool Replica::merge(const SyncChanges &changes, const std::function<void(ReplicaProgress &)> &then)
-{
-    // A stamp of ours that we did not make: this computer was set back, and made it before that.
-    const ReplicaProgress now = m_storage.progress();
-    if (now.writer != 0 && hasUnknownStamp(changes, now) && !becomeNewWriter()) {
-        return false;
-    }
-    return m_storage.transaction([&] {
-        const bool withRules = touchesRules(changes);
-        const QMap<QUuid, RecordValues> before =
-            withRules ? shownRules(presentRules(m_storage)) : QMap<QUuid, RecordValues>();
-        mergeRecords(changes);
-        mergeSettings(changes);
-        if (withRules) {
-            showRules(before);
-        }
-        ReplicaProgress progress = m_storage.progress();
-        progress.last = std::max(progress.last, latestStamp(changes));
-        then(progress);
-        m_storage.setProgress(progress);
-    });
-}
-
-bool Replica::hasUnknownStamp(const SyncChanges &changes, const ReplicaProgress &progress)
-{
-    const auto isUnknown = [&progress](const Stamp &stamp) {
-        return stamp.writer == progress.writer && stamp > progress.last;
-    };
-    for (const RecordState &record : changes.records) {
-        if (isUnknown(record.inserted) || isUnknown(record.deleted) ||
-            std::ranges::any_of(record.attributes, isUnknown, &SyncRegister::stamp)) {
-            return true;
-        }
-    }
-    return std::ranges::any_of(changes.settings, isUnknown, &SyncRegister::stamp);
-}
-
-void Replica::mergeRecords(const SyncChanges &changes)
-{
-    for (auto it = changes.records.begin(); it != changes.records.end(); ++it) {
-        const RecordState before = m_storage.record(it.key());
-        RecordState state = before;
-        if (!join(state, *it)) {
-            continue;
-        }
-        m_storage.setRecord(it.key(), state);
-        const bool shows = before.isPresent() || state.isPresent();
-        if (it.key().entity != model::Rule && shows) {
-            m_storage.showRecord(
-                it.key(), state.isPresent() ? std::optional(state.values()) : std::nullopt);
-        }
-    }
-}
-
-void Replica::mergeSettings(const SyncChanges &changes)
-{
-    for (auto it = changes.settings.begin(); it != changes.settings.end(); ++it) {
-        SyncRegister value = m_storage.setting(it.key());
-        const SyncValue before = value.value;
-        if (join(value, *it)) {
-            m_storage.setSetting(it.key(), value);
-            if (value.value != before) {
-                m_storage.showSetting(it.key(), value.value);
-            }
-        }
-    }
-}
-
-std::optional<FileProblem> Replica::receiveChange(const QString &name, const QByteArray &bytes)
-{
-    const auto file = AccountFile::fromName(name);
-    const ReadResult<SyncChanges> read = readSealed(name, bytes);
-    if (const auto *problem = std::get_if<FileProblem>(&read)) {
-        return *problem;
-    }
-    // A file of ours that we do not know: this computer was set back, and wrote it before that.
-    const ReplicaProgress now = m_storage.progress();
-    if (now.writer != 0 && file->writer == now.writer &&
-        !now.known.contains(file->writer, file->number) && !becomeNewWriter()) {
-        return FileProblem::NotKept;
-    }
-    const bool kept = merge(std::get<SyncChanges>(read), [&](ReplicaProgress &progress) {
-        progress.known.add(file->writer, file->number);
-        progress.ignored.remove(name);
-    });
-    return kept ? std::nullopt : std::optional(FileProblem::NotKept);
-}
-
-std::optional<FileProblem> Replica::receivePart(const QString &name, const QByteArray &bytes)
-{
-    const ReadResult<SyncChanges> read = readSealed(name, bytes);
-    if (const auto *problem = std::get_if<FileProblem>(&read)) {
-        return *problem;
-    }
-    const bool kept = merge(std::get<SyncChanges>(read), [](ReplicaProgress &) {});
-    return kept ? std::nullopt : std::optional(FileProblem::NotKept);
-}
-
-std::optional<FileProblem> Replica::receiveManifest(const QString &name, const QByteArray &bytes)
-{
-    const ReadResult<QByteArray> content = opened(bytes, name, m_key);
-    if (const auto *problem = std::get_if<FileProblem>(&content)) {
-        return *problem;
-    }
-    const auto manifest = readManifest(std::get<QByteArray>(content));
-    if (const auto *problem = std::get_if<FileProblem>(&manifest)) {
-        return *problem;
-    }
-    const SnapshotManifest &snapshot = std::get<SnapshotManifest>(manifest);
-    // Somebody knew more of our own files than we do: this computer was set back.
-    const ReplicaProgress now = m_storage.progress();
-    if (now.writer != 0 && snapshot.files.last(now.writer) > now.lastNumber && !becomeNewWriter()) {
-        return FileProblem::NotKept;
-    }
-    const bool kept = m_storage.transaction([&] {
-        ReplicaProgress progress = m_storage.progress();
-        progress.snapshots.insert(name, snapshot);
-        progress.ignored.remove(name);
-        m_storage.setProgress(progress);
-    });
-    return kept ? std::nullopt : std::optional(FileProblem::NotKept);
-}
-
-bool Replica::finishSnapshot(const QString &manifest)
-{
-    return m_storage.transaction([&] {
-        ReplicaProgress progress = m_storage.progress();
-        progress.known.add(progress.snapshots.value(manifest).files);
-        m_storage.setProgress(progress);
-    });
-}
-
-bool Replica::ignore(const QString &name, FileProblem problem, const QByteArray &revision)
-{
-    return m_storage.transaction([&] {
-        ReplicaProgress progress = m_storage.progress();
-        progress.ignored.insert(name, {problem, revision, syncFormatVersion});
-        // Somebody who fills the account with rubbish shall not fill this computer.
-        while (progress.ignored.size() > mostIgnored) {
-            progress.ignored.erase(progress.ignored.begin());
-        }
-        m_storage.setProgress(progress);
     });
 }
 
