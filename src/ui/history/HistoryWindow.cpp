@@ -9,6 +9,7 @@
 #include "ui/history/HistoryTable.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
+#include "ui/widgets/ClicksOnce.h"
 #include "ui/widgets/EmptyState.h"
 #include "ui/widgets/FlowLayout.h"
 #include "ui/widgets/InlineLine.h"
@@ -196,6 +197,8 @@ QPushButton *HistoryWindow::makeButton(QAction &action, const QString &symbol, c
     button->setAccessibleName(action.text());
     button->setIconSize(QSize(Theme::inlineIconSize, Theme::inlineIconSize));
     button->setProperty("look", look);
+    // A deletion selects the next record: the second click of two would delete that as well.
+    button->installEventFilter(new ClicksOnce(button));
     connect(button, &QPushButton::clicked, &action, &QAction::trigger);
     const auto follow = [button, &action] {
         button->setEnabled(action.isEnabled());

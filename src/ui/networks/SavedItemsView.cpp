@@ -11,6 +11,7 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/BusyButton.h"
+#include "ui/widgets/ClicksOnce.h"
 #include "ui/widgets/PlainText.h"
 #include "ui/widgets/TokenField.h"
 
@@ -114,6 +115,7 @@ void SavedItemsView::makeImportButton(QVBoxLayout &column, const Theme &theme)
     button->setAutoDefault(true);
     column.addWidget(button, 0, Qt::AlignLeading);
     HistoryImport &import = m_models.import;
+    button->installEventFilter(new ClicksOnce(button)); // a second time imports the next ones
     connect(button, &QPushButton::clicked, &import, &HistoryImport::import);
     connect(&import, &HistoryImport::changed, button,
         [&import, button] { button->setBusy(import.state().isBusy); });

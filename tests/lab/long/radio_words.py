@@ -36,7 +36,10 @@ def name_of(escaped):
 
 
 def channel(device):
+    """As the window shows it, and its frequency; None when the interface has none any more."""
     words = re.search(r"channel (\d+) \(([\d.]+) MHz\), width: (.*?), center1", iw("dev", device, "info"))
+    if words is None:
+        return None
     number, frequency, width = words[1], float(words[2]), words[3]
     band = next((name for low, high, name in BANDS if low <= frequency < high), "Unknown")
     return f"{number} ({band}, {WIDTHS.get(width, 'Unknown')})", frequency
@@ -115,12 +118,13 @@ def shown(device=WIRELESS):
     if not link.startswith("Connected to"):
         return NOT_CONNECTED
     name = name_of(value(link, "SSID"))
-    place, frequency = channel(device)
+    tuned = channel(device)
     station = iw("dev", device, "station", "dump")
     rates = [value(station, "tx bitrate"), value(station, "rx bitrate")]
-    if rates[0] is None:
+    if tuned is None or rates[0] is None:
         # The access point was lost since the first question: these answers are of no one moment.
         return {"torn": time.monotonic()}
+    place, frequency = tuned
     network = joined_network(device)
     is_old_channel = "(no HT)" in iw("dev", device, "info")
     return {

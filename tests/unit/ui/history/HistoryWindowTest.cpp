@@ -104,6 +104,22 @@ TEST_F(HistoryWindowTest, ButtonsDoWhatTheySayToTheSelectedRecords)
     EXPECT_EQ(table().model()->rowCount(), 2);
 }
 
+TEST_F(HistoryWindowTest, ADoubleClickOnDeleteDeletesOnce)
+{
+    fill(3);
+    show();
+    table().selectRow(0);
+    settle();
+    QPushButton &remove = button(u"deleteRecords"_s);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+             QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        WidgetSettling::sendMouse(remove, type, remove.rect().center());
+        settle();
+    }
+    EXPECT_EQ(table().model()->rowCount(), 2);
+    EXPECT_EQ(selectedRows(), QList<int>({0})) << "the next one, which could be deleted now";
+}
+
 TEST_F(HistoryWindowTest, ADeletionIsUndoneByItsToast)
 {
     fill(3);
