@@ -100,6 +100,9 @@ Platform DesktopPlatform::platform()
         .helperLink = m_helperLink,
         .random = m_random,
         .runningApplications = m_runningApplications,
+        .cloud = m_cloud,
+        .secrets = m_secrets,
+        .powerSaving = m_powerSaving,
         .places = places(),
     };
 }

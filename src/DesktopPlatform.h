@@ -10,12 +10,14 @@
 #include "platform/linux/bus/DBusHelperLink.h"
 #include "platform/linux/bus/FreedesktopNotifications.h"
 #include "platform/linux/bus/LogindSleep.h"
+#include "platform/linux/bus/PowerProfiles.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/DesktopHotKeys.h"
 #include "platform/linux/desktop/DesktopLinkOpener.h"
 #include "platform/linux/desktop/DesktopSoftwareCenter.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
+#include "platform/linux/desktop/KeyringSecretStore.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
 #include "platform/linux/netlink/NetlinkHost.h"
@@ -27,6 +29,7 @@
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
 #include "platform/linux/wifi/RfkillRadioSwitch.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/cloud/QtCloudProvider.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
 #include "platform/qt/web/NetworkHttpClient.h"
 #include "ui/widgets/MessageAlerts.h"
@@ -78,6 +81,9 @@ private:
     GetrandomSource m_random;
     DBusHelperLink m_helperLink;
     BusRunningApplications m_runningApplications;
+    QtCloudProvider m_cloud{m_scheduler};
+    KeyringSecretStore m_secrets{QDBusConnection::sessionBus(), m_scheduler};
+    PowerProfiles m_powerSaving;
 };
 
 } // namespace quillon

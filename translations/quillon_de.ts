@@ -2243,5 +2243,69 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>updates received</source>
         <translation>Aktualisierungen empfangen</translation>
     </message>
+    <message>
+        <source>The account holds changes by a newer version of Quillon. Update it here to get them.</source>
+        <translation>Das Konto enthält Änderungen einer neueren Version von Quillon. Bitte hier aktualisieren, um sie zu erhalten.</translation>
+    </message>
+    <message>
+        <source>A file in the account is damaged, or somebody has changed it. It is left alone.</source>
+        <translation>Eine Datei im Konto ist beschädigt oder wurde von jemandem verändert. Sie bleibt unberührt.</translation>
+    </message>
+    <message>
+        <source>The password of the account is not in the keyring. Sign in again.</source>
+        <translation>Das Passwort des Kontos ist nicht im Schlüsselbund. Bitte neu anmelden.</translation>
+    </message>
+    <message>
+        <source>What is to be synced could not be stored on this computer.</source>
+        <translation>Was abzugleichen ist, konnte auf diesem Rechner nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>This account is new. Repeat the passphrase.</source>
+        <translation>Dieses Konto ist neu. Bitte die Passphrase wiederholen.</translation>
+    </message>
+    <message>
+        <source>The two passphrases differ.</source>
+        <translation>Die beiden Passphrasen unterscheiden sich.</translation>
+    </message>
+    <message>
+        <source>The passphrase is too short: it needs at least eight characters.</source>
+        <translation>Die Passphrase ist zu kurz: Sie braucht mindestens acht Zeichen.</translation>
+    </message>
+    <message>
+        <source>The account has another passphrase.</source>
+        <translation>Das Konto hat eine andere Passphrase.</translation>
+    </message>
+    <message>
+        <source>The account&apos;s key file is damaged. Put back an older copy of it.</source>
+        <translation>Die Schlüsseldatei des Kontos ist beschädigt. Bitte eine ältere Kopie davon zurückholen.</translation>
+    </message>
+    <message>
+        <source>The account was made by a newer version of Quillon.</source>
+        <translation>Das Konto wurde von einer neueren Version von Quillon angelegt.</translation>
+    </message>
+    <message>
+        <source>The account&apos;s key file is missing. A computer that is signed in puts it back when it syncs next.</source>
+        <translation>Die Schlüsseldatei des Kontos fehlt. Ein angemeldeter Rechner stellt sie bei seinem nächsten Abgleich wieder her.</translation>
+    </message>
+    <message>
+        <source>This computer has not enough free memory for that now.</source>
+        <translation>Dieser Rechner hat dafür gerade nicht genug freien Speicher.</translation>
+    </message>
+    <message>
+        <source>Choose a folder.</source>
+        <translation>Bitte einen Ordner auswählen.</translation>
+    </message>
+    <message>
+        <source>Enter the server&apos;s address.</source>
+        <translation>Bitte die Adresse des Servers eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter a user name and a password.</source>
+        <translation>Bitte einen Benutzernamen und ein Passwort eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter a passphrase.</source>
+        <translation>Bitte eine Passphrase eingeben.</translation>
+    </message>
 </context>
 </TS>

@@ -43,6 +43,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectVendorData();
     connectVendorField();
     connectUpdates();
+    connectCloud();
     connectProgram();
 }
 
@@ -256,6 +257,7 @@ void EventWiring::connectNetworkEvents()
     on(m_networkEvents, &NetworkEvents::eventEnded, [&f] {
         f.statusMenu.menuNeedsUpdate();
         f.updates.updater.networkChanged();
+        f.cloud.session.networkChanged();
     });
 }
 
@@ -313,6 +315,22 @@ void EventWiring::connectUpdates()
     on(updates.updater, &Updater::changed, [&updates] { updates.pane.refresh(); });
 }
 
+void EventWiring::connectCloud()
+{
+    Features &f = m_features;
+    CloudFeature &cloud = f.cloud;
+    on(cloud.import, &CloudImport::recordsImported, [&f] {
+        f.rules.list.reload();
+        f.rules.table.reload();
+    });
+    on(cloud.import, &CloudImport::helperStatusWanted,
+        [&f] { f.helper.updateHelperInstalledStatus(); });
+    on(cloud.watch, &CloudAccountWatch::alertShown, [&f] { f.presence.openWindow(); });
+    on(cloud.signIn, &AccountSignIn::signedIn, [&cloud] { cloud.session.renew(); });
+    on(cloud.session, &CloudSession::troubleChanged,
+        [&f] { f.preferences.general.showTrouble(f.cloud.session.trouble()); });
+}
+
 void EventWiring::connectProgram()
 {
     Features &f = m_features;
@@ -368,8 +386,10 @@ void EventWiring::observeSettings()
              keys::SUAutomaticallyUpdate, keys::SUFeedURL}) {
         m_observations.onSetting(key, [&f] { f.updates.updater.settingsChanged(); });
     }
-    m_observations.onSetting(
-        keys::iCloudSync, [&f] { f.history.store.refreshPersistentContainer(); });
+    m_observations.onSetting(keys::iCloudSync, [&f] {
+        f.cloud.watch.checkiCloudSync();
+        f.history.store.refreshPersistentContainer();
+    });
 }
 
 void EventWiring::observeBroadcasts()

@@ -77,6 +77,7 @@ void LaunchSequence::applicationDidFinishLaunching()
 void LaunchSequence::openRecords()
 {
     m_features.history.store.managedObjectContext();
+    m_features.cloud.begin();
     m_features.rules.queries.updateNamesArray();
     m_features.rules.list.filterRulesArrayController();
 }
@@ -104,6 +105,7 @@ void LaunchSequence::startup()
 
     m_platform.addressOwners.finishInterrupted();
     m_wiring.setupNotifications();
+    f.cloud.watch.checkiCloudSync();
     f.networks.locationPermission.requestNetworkPermissions();
     f.networks.externalAddress.updateExternalIPAddress(false);
     m_platform.scheduler.onMainAfter(firstRuleCheckDelay, this, [this] { checkRules(); });

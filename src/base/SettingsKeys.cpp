@@ -34,6 +34,7 @@ std::span<const Entry> all()
         {historySearchType, String},
         {iCloudSync, Boolean},
         {iCloudToken, std::nullopt},
+        {cloudAccount, Dictionary},
         {vendorCountValue, Integer},
         {vendorIDUpdatedDate, String},
         {currentVendorData, Dictionary},

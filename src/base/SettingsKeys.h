@@ -39,6 +39,7 @@ QUILLON_KEY(editingRuleNetwork);
 QUILLON_KEY(historySearchType);
 QUILLON_KEY(iCloudSync);
 QUILLON_KEY(iCloudToken);
+QUILLON_KEY(cloudAccount);
 QUILLON_KEY(vendorCountValue);
 QUILLON_KEY(vendorIDUpdatedDate);
 QUILLON_KEY(currentVendorData);

@@ -10,6 +10,7 @@ namespace quillon {
 
 class AddressOwners;
 class AlertPresenter;
+class CloudProvider;
 class DistributedNotificationCenter;
 class HelperLink;
 class HotKeys;
@@ -21,11 +22,13 @@ class LoginItem;
 class NetworkChangeSource;
 class NetworkHost;
 class NotificationCenter;
+class PowerSaving;
 class RadioSwitch;
 class RandomSource;
 class Reachability;
 class RunningApplications;
 class Scheduler;
+class SecretStore;
 class SettingsStore;
 class SoftwareCenter;
 class SystemSettings;
@@ -86,6 +89,9 @@ struct Platform
     HelperLink &helperLink;
     RandomSource &random;
     RunningApplications &runningApplications;
+    CloudProvider &cloud;
+    SecretStore &secrets;
+    PowerSaving &powerSaving;
     Places places;
 };
 

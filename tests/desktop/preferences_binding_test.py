@@ -54,9 +54,8 @@ class GeneralTest(PreferencesTest):
         self.assertFalse(self.box(name).enabled)
         wait_for_stored("hideDock", False)
 
-    def test_the_cloud_has_no_account_yet(self):
-        self.assertFalse(self.box("Sync settings, rules and history").enabled)
-        self.expect_label("No account yet: there is nowhere to sync with.")
+    def test_the_cloud_can_be_switched(self):
+        self.assertTrue(self.box("Sync settings, rules and history").enabled)
 
 
 class DisplayTest(PreferencesTest):

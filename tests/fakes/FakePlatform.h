@@ -4,6 +4,7 @@
 
 #include "fakes/FakeAddressOwners.h"
 #include "fakes/FakeAlertPresenter.h"
+#include "fakes/FakeCloudProvider.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeHotKeys.h"
@@ -14,11 +15,13 @@
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakeNetworkChangeSource.h"
 #include "fakes/FakeNetworkHost.h"
+#include "fakes/FakePowerSaving.h"
 #include "fakes/FakeRadioSwitch.h"
 #include "fakes/FakeRandomSource.h"
 #include "fakes/FakeReachability.h"
 #include "fakes/FakeRunningApplications.h"
 #include "fakes/FakeScheduler.h"
+#include "fakes/FakeSecretStore.h"
 #include "fakes/FakeSettingsStore.h"
 #include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
@@ -36,7 +39,9 @@ namespace quillon::test {
 /// an interface, a helper in place. The user's data are a folder of their own.
 struct FakePlatform
 {
-    FakePlatform()
+    /// `shared` is a cloud account that other machines reach, too.
+    explicit FakePlatform(FakeCloudAccount *shared = nullptr)
+        : cloud(scheduler, shared)
     {
         host.plug({QStringLiteral("Ethernet"), QStringLiteral("enp1s0"),
             QStringLiteral("3c:22:fb:00:00:01"), QStringLiteral("3c:22:fb:00:00:01"),
@@ -74,6 +79,9 @@ struct FakePlatform
             .helperLink = helper,
             .random = random,
             .runningApplications = runningApplications,
+            .cloud = cloud,
+            .secrets = secrets,
+            .powerSaving = powerSaving,
             .places = {.supportFolder = data.path(),
                 .shippedVendorDatabase = {},
                 .externalAddressService = QUrl(QStringLiteral("https://address.example")),
@@ -114,6 +122,9 @@ struct FakePlatform
     FakeHelper helper{scheduler, host};
     FakeRandomSource random;
     FakeRunningApplications runningApplications;
+    FakeCloudProvider cloud;
+    FakeSecretStore secrets{scheduler};
+    FakePowerSaving powerSaving;
 };
 
 } // namespace quillon::test

@@ -19,6 +19,7 @@ Features::Features(
     , rules(platform, notifier, devices, networks, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
     , updates(platform, notifier)
+    , cloud(platform, notifier, history.store)
     , hotKeys({platform.settings, platform.hotKeys, presence, devices.addressChanger, notifier})
     , mainWindow({platform.settings, platform.scheduler, devices.table, devices.currentInterface,
           devices.addressChanger})
@@ -29,7 +30,7 @@ Features::Features(
           helper, presence, rules.timers})
     , editMenu(history.store)
     , preferencesWindow(platform.settings, platform.notifications)
-    , preferences(platform, helper, presence, hotKeys, devices.table)
+    , preferences(platform, helper, presence, hotKeys, devices.table, cloud.sync)
     , overview({platform.settings, platform.scheduler, platform.notifications, devices.table,
           devices.currentInterface, devices.addressChanger, rules.timers, presence, helper})
 {

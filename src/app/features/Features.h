@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/features/CloudFeature.h"
 #include "app/features/DeviceFeature.h"
 #include "app/features/HistoryFeature.h"
 #include "app/features/NetworkFeature.h"
@@ -39,6 +40,7 @@ struct Features
     RuleFeature rules;
     VendorFeature vendors;
     UpdateFeature updates;
+    CloudFeature cloud;
 
     GlobalHotKeys hotKeys;
     MainWindowModel mainWindow;

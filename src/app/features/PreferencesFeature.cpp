@@ -8,10 +8,10 @@
 namespace quillon {
 
 PreferencesFeature::PreferencesFeature(const Platform &platform, XPCMethods &helper,
-    Presence &presence, GlobalHotKeys &hotKeys, const DeviceTable &devices)
+    Presence &presence, GlobalHotKeys &hotKeys, const DeviceTable &devices, SettingsSync &sync)
     : loginController(platform.settings, platform.loginItem)
     , general({platform.settings, platform.scheduler, presence, hotKeys, loginController,
-          platform.loginItem})
+          platform.loginItem, &sync})
     , advanced(helper, presence, platform.groupSettings, platform.scheduler)
     , defaultMinutes(platform.settings)
     , driftAlarm(platform.settings, keys::driftAlarm)

@@ -13,13 +13,14 @@
 namespace quillon {
 
 class DeviceTable;
+class SettingsSync;
 struct Platform;
 
 /// The start at login, and what the panes of the preferences show.
 struct PreferencesFeature
 {
     PreferencesFeature(const Platform &platform, XPCMethods &helper, Presence &presence,
-        GlobalHotKeys &hotKeys, const DeviceTable &devices);
+        GlobalHotKeys &hotKeys, const DeviceTable &devices, SettingsSync &sync);
 
     StartAtLoginController loginController;
     GeneralPreferencesViewController general;

@@ -96,6 +96,12 @@ void GeneralPreferencesViewController::synciCloud(bool isOn)
     });
 }
 
+void GeneralPreferencesViewController::showTrouble(const QString &trouble)
+{
+    m_state.update(
+        [&trouble](State &state) { state.cloud = {PreferencesLine::Kind::Notice, trouble}; });
+}
+
 void GeneralPreferencesViewController::showLogin()
 {
     const PreferencesLine line = loginLine(

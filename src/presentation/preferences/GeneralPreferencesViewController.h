@@ -56,6 +56,8 @@ public:
     void refreshView();
     /// The user switched the copy in the cloud: on, it gets the settings of this machine.
     void synciCloud(bool isOn);
+    /// What keeps the copy from being the same, if not empty.
+    void showTrouble(const QString &trouble);
 
     BoundSetting loginStart;
     BoundSetting hideOnLaunch;

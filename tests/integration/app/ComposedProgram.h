@@ -7,6 +7,8 @@
 #include "fakes/FakeHotKeys.h"
 #include "fakes/FakeLinkOpener.h"
 #include "fakes/FakeLoginItem.h"
+#include "fakes/FakePowerSaving.h"
+#include "fakes/FakeSecretStore.h"
 #include "fakes/FakeSoftwareCenter.h"
 #include "fakes/FakeSystemSettings.h"
 #include "fakes/FakeUserNotificationCenter.h"
@@ -28,6 +30,7 @@
 #include "platform/linux/wifi/Nl80211LocationAuthorization.h"
 #include "platform/linux/wifi/RfkillRadioSwitch.h"
 #include "platform/qt/QtScheduler.h"
+#include "platform/qt/cloud/QtCloudProvider.h"
 #include "platform/qt/settings/PlistSettingsStore.h"
 #include "platform/qt/web/NetworkHttpClient.h"
 
@@ -102,6 +105,13 @@ public:
 
 private:
     BusRunningApplications m_runningApplications;
+    QtCloudProvider m_cloud{m_real};
+
+public:
+    FakeSecretStore secrets{m_scheduler};
+
+private:
+    FakePowerSaving m_powerSaving;
     std::unique_ptr<QuillonAppDelegate> m_delegate;
 };
 

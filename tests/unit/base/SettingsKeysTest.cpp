@@ -17,7 +17,7 @@ TEST(SettingsKeys, EveryKeyIsInTheTableOnce)
         EXPECT_FALSE(names.contains(entry.name)) << entry.name.toStdString();
         names.insert(entry.name);
     }
-    EXPECT_EQ(names.size(), 42);
+    EXPECT_EQ(names.size(), 43);
 }
 
 TEST(SettingsKeys, OnlyValuesOfThePlatformHaveNoFixedType)

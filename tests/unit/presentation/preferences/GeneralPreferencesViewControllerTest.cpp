@@ -165,6 +165,16 @@ TEST_F(GeneralPreferencesViewControllerTest, WithoutAnAccountTheSwitchSaysSo)
     EXPECT_FALSE(settings.getBool(keys::iCloudSync));
 }
 
+TEST_F(GeneralPreferencesViewControllerTest, WhatKeepsTheCopyFromBeingTheSameIsToldWhileItDoes)
+{
+    pane.showTrouble(u"The server cannot be reached."_s);
+    EXPECT_EQ(
+        pane.state().cloud, (PreferencesLine{Kind::Notice, u"The server cannot be reached."_s}));
+    EXPECT_TRUE(pane.iCloudSync.isUsable());
+    pane.showTrouble({});
+    EXPECT_TRUE(pane.state().cloud.text.isEmpty());
+}
+
 TEST_F(GeneralPreferencesViewControllerTest, AViewIsRefreshedOnTheMainThread)
 {
     int refreshed = 0;
