@@ -43,6 +43,7 @@ EventWiring::EventWiring(const Platform &platform, Features &features, RecordSav
     connectVendorData();
     connectVendorField();
     connectUpdates();
+    connectAccount();
     connectProgram();
 }
 
@@ -311,6 +312,20 @@ void EventWiring::connectUpdates()
 {
     UpdateFeature &updates = m_features.updates;
     on(updates.updater, &Updater::changed, [&updates] { updates.pane.refresh(); });
+}
+
+void EventWiring::connectAccount()
+{
+    PreferencesFeature &panes = m_features.preferences;
+    on(panes.cloudAccount, &CloudAccountModel::changed,
+        [&panes] { panes.general.showAccount(panes.cloudAccount.state().isSignedIn); });
+    // Its dialog has said what that does to the account.
+    on(panes.cloudSignIn, &CloudSignInModel::signedIn, [&panes] {
+        panes.general.showAccount(true);
+        if (!panes.general.iCloudSync.state().isOn) {
+            panes.general.synciCloud(true);
+        }
+    });
 }
 
 void EventWiring::connectProgram()

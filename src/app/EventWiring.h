@@ -42,6 +42,7 @@ private:
     void connectVendorData();
     void connectVendorField();
     void connectUpdates();
+    void connectAccount();
     void connectProgram();
     void observeSettings();
     void observeBroadcasts();

@@ -38,9 +38,7 @@ GeneralPreferencesViewController::GeneralPreferencesViewController(
         &GeneralPreferencesViewController::showDock);
     showDock();
     if (m_deps.sync == nullptr) {
-        const QString why = localized("No account yet: there is nowhere to sync with.");
-        iCloudSync.setWhyDisabled(why);
-        m_state.update([&why](State &state) { state.cloud = {PreferencesLine::Kind::Hint, why}; });
+        showAccount(false);
     }
 }
 
@@ -94,6 +92,15 @@ void GeneralPreferencesViewController::synciCloud(bool isOn)
             m_deps.sync->syncFromCurrentState();
         }
     });
+}
+
+void GeneralPreferencesViewController::showAccount(bool isThere)
+{
+    const QString why =
+        isThere ? QString() : localized("No account yet: there is nowhere to sync with.");
+    // Where there is something to switch, whoever supervises the account says that it is missing.
+    iCloudSync.setWhyDisabled(m_deps.sync == nullptr ? why : QString());
+    m_state.update([&why](State &state) { state.cloud = {PreferencesLine::Kind::Hint, why}; });
 }
 
 void GeneralPreferencesViewController::showLogin()

@@ -56,6 +56,8 @@ public:
     void refreshView();
     /// The user switched the copy in the cloud: on, it gets the settings of this machine.
     void synciCloud(bool isOn);
+    /// Whether somebody is signed in to an account.
+    void showAccount(bool isThere);
 
     BoundSetting loginStart;
     BoundSetting hideOnLaunch;
