@@ -306,11 +306,17 @@ QLineEdit *CloudSignInDialog::makeField(Field field, const QString &caption, con
     if (isSecret(field)) {
         entry->setEchoMode(QLineEdit::Password);
     }
+    // One that is hidden at first has its height all the same.
+    entry->ensurePolished();
     m_fields.emplace(field, entry);
     // Not textEdited(): assistive technology types as well.
-    connect(entry, &QLineEdit::textChanged, this, [this, field](const QString &text) {
+    connect(entry, &QLineEdit::textChanged, this, [=, this](const QString &text) {
         m_model.edit(field, text);
         refreshFields();
+        // What is too long for the field can be read there.
+        if (!isSecret(field)) {
+            entry->setToolTip(plainToolTip(entry->text().isEmpty() ? tip : entry->text()));
+        }
     });
     return entry;
 }
