@@ -206,12 +206,9 @@ QWidget *CloudSignInDialog::makeFolder()
     m_choose->setToolTip(plainToolTip(localized("Looks for it in your files")));
     connect(m_choose, &QPushButton::clicked, this, &CloudSignInDialog::chooseFolder);
     column->addWidget(labelOf(path));
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Theme::unit);
-    row->addWidget(path, 1);
-    row->addWidget(m_choose);
-    column->addLayout(row);
+    column->addWidget(path);
     addHint(*column, what);
+    column->addWidget(m_choose, 0, Qt::AlignTrailing);
     return part;
 }
 
