@@ -2307,5 +2307,189 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Enter a passphrase.</source>
         <translation>Bitte eine Passphrase eingeben.</translation>
     </message>
+    <message>
+        <source>Signed in to the folder %@</source>
+        <translation>Angemeldet beim Ordner %@</translation>
+    </message>
+    <message>
+        <source>Signed in as %@ at %@</source>
+        <translation>Angemeldet als %@ bei %@</translation>
+    </message>
+    <message>
+        <source>Signed out. Rules, history and settings stay on this computer.</source>
+        <translation>Abgemeldet. Regeln, Verlauf und Einstellungen bleiben auf diesem Rechner.</translation>
+    </message>
+    <message>
+        <source>Looking for your files…</source>
+        <translation>Dateien werden gesucht…</translation>
+    </message>
+    <message>
+        <source>Trying what the account can do…</source>
+        <translation>Konto wird ausprobiert…</translation>
+    </message>
+    <message>
+        <source>Opening the account with the passphrase…</source>
+        <translation>Konto wird mit der Passphrase geöffnet…</translation>
+    </message>
+    <message>
+        <source>Waiting for the keyring…</source>
+        <translation>Warten auf den Schlüsselbund…</translation>
+    </message>
+    <message>
+        <source>Write the whole path of the folder.</source>
+        <translation>Bitte den ganzen Pfad des Ordners angeben.</translation>
+    </message>
+    <message>
+        <source>Enter the address of the server.</source>
+        <translation>Bitte die Adresse des Servers eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter your user name.</source>
+        <translation>Bitte den Benutzernamen eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter an app password.</source>
+        <translation>Bitte ein App-Passwort eingeben.</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Die beiden Passphrasen stimmen nicht überein.</translation>
+    </message>
+    <message>
+        <source>Account…</source>
+        <translation>Konto…</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Signs in to the account to sync with</source>
+        <translation>Meldet beim Konto an, mit dem abgeglichen wird</translation>
+    </message>
+    <message>
+        <source>Forgets the account and its passwords on this computer</source>
+        <translation>Vergisst das Konto und seine Passwörter auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Sync Account</source>
+        <translation>Konto zum Abgleichen</translation>
+    </message>
+    <message>
+        <source>Kind of account</source>
+        <translation>Art des Kontos</translation>
+    </message>
+    <message>
+        <source>Where the files of the account are</source>
+        <translation>Wo die Dateien des Kontos sind</translation>
+    </message>
+    <message>
+        <source>Nextcloud or WebDAV</source>
+        <translation>Nextcloud oder WebDAV</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Encrypts what is stored. The same on all your computers; without it nothing can be read.</source>
+        <translation>Verschlüsselt, was gespeichert wird. Auf allen Rechnern dieselbe; ohne sie lässt sich nichts lesen.</translation>
+    </message>
+    <message>
+        <source>Passphrase</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>What the account holds is replaced by this computer&apos;s settings.</source>
+        <translation>Die Einstellungen dieses Rechners ersetzen, was das Konto enthält.</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Its address, or that of your files there, as a browser shows it</source>
+        <translation>Seine Adresse oder die der Dateien dort, wie ein Browser sie zeigt</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>The name that you have at this server</source>
+        <translation>Der Name bei diesem Server</translation>
+    </message>
+    <message>
+        <source>App password</source>
+        <translation>App-Passwort</translation>
+    </message>
+    <message>
+        <source>Made in the security settings of your account at the server</source>
+        <translation>Wird in den Sicherheitseinstellungen des Kontos beim Server erzeugt</translation>
+    </message>
+    <message>
+        <source>Kept in your keyring.</source>
+        <translation>Wird im Schlüsselbund aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Looks for it in your files</source>
+        <translation>Sucht ihn in den Dateien</translation>
+    </message>
+    <message>
+        <source>One that another program makes equal on your computers.</source>
+        <translation>Einer, den ein anderes Programm auf allen Rechnern gleich hält.</translation>
+    </message>
+    <message>
+        <source>Repeat passphrase</source>
+        <translation>Passphrase wiederholen</translation>
+    </message>
+    <message>
+        <source>The account is new: nobody can tell you later what you typed</source>
+        <translation>Das Konto ist neu: Niemand kann später sagen, was eingegeben wurde</translation>
+    </message>
+    <message>
+        <source>This is the SHA-256 fingerprint of the server&apos;s certificate. Accept it only if the server&apos;s administrator tells you the same one.</source>
+        <translation>Das ist der SHA-256-Fingerabdruck des Zertifikats, das der Server zeigt. Nur annehmen, wenn der Verwalter des Servers denselben nennt.</translation>
+    </message>
+    <message>
+        <source>Copy Fingerprint</source>
+        <translation>Fingerabdruck kopieren</translation>
+    </message>
+    <message>
+        <source>To compare it in another window</source>
+        <translation>Um ihn in einem anderen Fenster zu vergleichen</translation>
+    </message>
+    <message>
+        <source>Accept Certificate</source>
+        <translation>Zertifikat annehmen</translation>
+    </message>
+    <message>
+        <source>Signs in, and trusts this certificate for this account from now on</source>
+        <translation>Meldet an und vertraut diesem Zertifikat bei diesem Konto von nun an</translation>
+    </message>
+    <message>
+        <source>Gives up what is under way, or closes</source>
+        <translation>Bricht ab, was gerade läuft, oder schließt</translation>
+    </message>
+    <message>
+        <source>Signing In…</source>
+        <translation>Anmelden…</translation>
+    </message>
+    <message>
+        <source>Tries the account, and switches sync on</source>
+        <translation>Probiert das Konto aus und schaltet den Abgleich ein</translation>
+    </message>
 </context>
 </TS>

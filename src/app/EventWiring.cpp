@@ -329,6 +329,21 @@ void EventWiring::connectCloud()
     on(cloud.signIn, &AccountSignIn::signedIn, [&cloud] { cloud.session.renew(); });
     on(cloud.session, &CloudSession::troubleChanged,
         [&f] { f.preferences.general.showTrouble(f.cloud.session.trouble()); });
+    PreferencesFeature &panes = f.preferences;
+    const auto showAccount = [&panes] {
+        panes.general.showAccount(panes.cloudAccount.state().isSignedIn);
+    };
+    on(panes.cloudAccount, &CloudAccountModel::changed, showAccount);
+    panes.cloudAccount.use(cloud.signIn);
+    panes.cloudSignIn.use(cloud.signIn);
+    showAccount();
+    // Its dialog has said what that does to the account.
+    on(panes.cloudSignIn, &CloudSignInModel::signedIn, [&panes] {
+        panes.general.showAccount(true);
+        if (!panes.general.iCloudSync.state().isOn) {
+            panes.general.synciCloud(true);
+        }
+    });
 }
 
 void EventWiring::connectProgram()

@@ -15,6 +15,7 @@
 #include "ui/vendors/VendorPreferencesView.h"
 
 #include <QCoreApplication>
+#include <QPushButton>
 
 namespace quillon {
 
@@ -48,7 +49,9 @@ void addRulesPane(PreferencesWindow &window, const PreferencesPanes &models, con
 void addPanes(PreferencesWindow &window, const PreferencesPanes &models, const Theme &theme,
     Scheduler &scheduler)
 {
-    window.addPane(PreferencesPane::General, new GeneralPreferencesView(models.general, theme));
+    auto *account = new CloudAccountRow(models.account, theme, &window);
+    window.addPane(PreferencesPane::General,
+        new GeneralPreferencesView(models.general, theme, {account->button(), account}));
     auto *advanced = new AdvancedPreferencesView(models.advanced, theme);
     window.addPane(PreferencesPane::Advanced, advanced);
     whenTheProgramEnds(models.presence, advanced, &AdvancedPreferencesView::endEditing);

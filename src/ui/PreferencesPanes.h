@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/cloud/CloudAccountRow.h"
 #include "ui/networks/SavedItemsView.h"
 #include "ui/preferences/AdvancedPreferencesView.h"
 #include "ui/rules/RulesPreferencesView.h"
@@ -24,6 +25,7 @@ struct PreferencesPanes
 {
     Presence &presence;
     GeneralPreferencesViewController &general;
+    CloudAccountRow::Models account;
     AdvancedPreferencesView::Models advanced;
     DisplayPreferencesViewController &display;
     VendorPaneModel &vendorData;

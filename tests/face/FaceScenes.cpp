@@ -11,7 +11,7 @@ const QList<FaceScene> &faceScenes()
 {
     static const QList<FaceScene> scenes = mainWindowScenes() + popoverScenes() +
                                            preferencesScenes() + overviewScenes() + updateScenes() +
-                                           ruleScenes() + historyScenes();
+                                           ruleScenes() + historyScenes() + cloudScenes();
     return scenes;
 }
 

@@ -13,6 +13,8 @@ QList<FaceScene> mainWindowScenes();
 QList<FaceScene> popoverScenes();
 /// The panes that are in no other subject.
 QList<FaceScene> preferencesScenes();
+/// The account: its lines in the pane, and the dialog in which one signs in.
+QList<FaceScene> cloudScenes();
 QList<FaceScene> overviewScenes();
 QList<FaceScene> updateScenes();
 /// The editor of the rules with both its tabs, rules and saved items.

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "loginitem/StartAtLoginController.h"
+#include "presentation/cloud/CloudAccountModel.h"
+#include "presentation/cloud/CloudSignInModel.h"
 #include "presentation/preferences/AboutPreferencesViewController.h"
 #include "presentation/preferences/AdvancedPreferencesViewController.h"
 #include "presentation/preferences/DefaultMinutes.h"
@@ -24,6 +26,8 @@ struct PreferencesFeature
 
     StartAtLoginController loginController;
     GeneralPreferencesViewController general;
+    CloudAccountModel cloudAccount;
+    CloudSignInModel cloudSignIn;
     AdvancedPreferencesViewController advanced;
     DefaultMinutes defaultMinutes;
     BoundSetting driftAlarm;

@@ -38,9 +38,7 @@ GeneralPreferencesViewController::GeneralPreferencesViewController(
         &GeneralPreferencesViewController::showDock);
     showDock();
     if (m_deps.sync == nullptr) {
-        const QString why = localized("No account yet: there is nowhere to sync with.");
-        iCloudSync.setWhyDisabled(why);
-        m_state.update([&why](State &state) { state.cloud = {PreferencesLine::Kind::Hint, why}; });
+        showAccount(false);
     }
 }
 
@@ -98,8 +96,26 @@ void GeneralPreferencesViewController::synciCloud(bool isOn)
 
 void GeneralPreferencesViewController::showTrouble(const QString &trouble)
 {
-    m_state.update(
-        [&trouble](State &state) { state.cloud = {PreferencesLine::Kind::Notice, trouble}; });
+    m_trouble = trouble;
+    refreshCloud();
+}
+
+void GeneralPreferencesViewController::showAccount(bool isThere)
+{
+    m_whyNoAccount =
+        isThere ? QString() : localized("No account yet: there is nowhere to sync with.");
+    // Where there is something to switch, whoever supervises the account says that it is missing.
+    iCloudSync.setWhyDisabled(m_deps.sync == nullptr ? m_whyNoAccount : QString());
+    refreshCloud();
+}
+
+void GeneralPreferencesViewController::refreshCloud()
+{
+    m_state.update([this](State &state) {
+        state.cloud = m_trouble.isEmpty()
+                          ? PreferencesLine{PreferencesLine::Kind::Hint, m_whyNoAccount}
+                          : PreferencesLine{PreferencesLine::Kind::Notice, m_trouble};
+    });
 }
 
 void GeneralPreferencesViewController::showLogin()

@@ -58,6 +58,8 @@ public:
     void synciCloud(bool isOn);
     /// What keeps the copy from being the same, if not empty.
     void showTrouble(const QString &trouble);
+    /// Whether somebody is signed in to an account.
+    void showAccount(bool isThere);
 
     BoundSetting loginStart;
     BoundSetting hideOnLaunch;
@@ -78,9 +80,12 @@ Q_SIGNALS:
 private:
     void showLogin();
     void showDock();
+    void refreshCloud();
 
     Collaborators m_deps;
     LoginItem::Desktop m_desktop = LoginItem::Desktop::StartsPrograms; ///< until it is known
+    QString m_whyNoAccount;
+    QString m_trouble;
     Shown<State> m_state{[this] { Q_EMIT changed(); }};
 };
 

@@ -11,6 +11,7 @@
 #include "ui/widgets/InlineLine.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace quillon {
@@ -18,7 +19,7 @@ namespace quillon {
 using namespace Qt::StringLiterals;
 
 GeneralPreferencesView::GeneralPreferencesView(
-    GeneralPreferencesViewController &controller, const Theme &theme)
+    GeneralPreferencesViewController &controller, const Theme &theme, const Account &account)
     : m_controller(controller)
     , m_login(new InlineLine(theme))
     , m_hideDock(new InlineLine(theme))
@@ -48,8 +49,13 @@ GeneralPreferencesView::GeneralPreferencesView(
         c.iCloudSync, u"iCloudSync"_s, localized("Sync settings, rules and history"));
     // Switched on, the account gets the settings of this machine.
     connect(cloud, &SettingCheckBox::switched, this, [&c](bool isOn) { c.synciCloud(isOn); });
-    sync->addWidget(cloud);
+    auto *switchAndAccount = new QHBoxLayout;
+    switchAndAccount->setSpacing(Theme::unit);
+    switchAndAccount->addWidget(cloud, 1);
+    switchAndAccount->addWidget(account.button);
+    sync->addLayout(switchAndAccount);
     addUnderCheckBox(*sync, m_cloud);
+    addUnderCheckBox(*sync, account.row);
 
     connect(&c, &GeneralPreferencesViewController::changed, this, &GeneralPreferencesView::refresh);
     connect(&c, &GeneralPreferencesViewController::viewRefreshed, this,

@@ -16,7 +16,15 @@ class GeneralPreferencesView : public QWidget
     Q_OBJECT
 
 public:
-    GeneralPreferencesView(GeneralPreferencesViewController &controller, const Theme &theme);
+    /// What tells of the account and leads to it; the pane takes both.
+    struct Account
+    {
+        QWidget *button;
+        QWidget *row;
+    };
+
+    GeneralPreferencesView(
+        GeneralPreferencesViewController &controller, const Theme &theme, const Account &account);
 
 protected:
     bool event(QEvent *event) override;

@@ -67,7 +67,7 @@ QVBoxLayout *addCard(QVBoxLayout &pane, const QString &title)
     return column;
 }
 
-void addUnderCheckBox(QVBoxLayout &card, InlineLine *line)
+void addUnderCheckBox(QVBoxLayout &card, QWidget *line)
 {
     auto *row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);

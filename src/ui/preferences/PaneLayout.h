@@ -19,7 +19,7 @@ QVBoxLayout *makePaneColumn(QWidget &pane);
 /// A card at the end of the pane, and the column in it; with a head where there is a title.
 QVBoxLayout *addCard(QVBoxLayout &pane, const QString &title = {});
 /// `line` below a check box, under its text.
-void addUnderCheckBox(QVBoxLayout &card, InlineLine *line);
+void addUnderCheckBox(QVBoxLayout &card, QWidget *line);
 /// Shows the line, or that there is none.
 void sayLine(InlineLine &line, const PreferencesLine &what);
 

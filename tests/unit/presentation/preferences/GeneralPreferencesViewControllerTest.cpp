@@ -175,6 +175,20 @@ TEST_F(GeneralPreferencesViewControllerTest, WhatKeepsTheCopyFromBeingTheSameIsT
     EXPECT_TRUE(pane.state().cloud.text.isEmpty());
 }
 
+TEST_F(GeneralPreferencesViewControllerTest, WhereThereIsSomethingToSwitchAMissingAccountIsSaidOnly)
+{
+    pane.showAccount(false);
+    EXPECT_EQ(pane.state().cloud.text, u"No account yet: there is nowhere to sync with."_s);
+    EXPECT_TRUE(pane.iCloudSync.isUsable());
+    pane.showAccount(true);
+    EXPECT_EQ(pane.state().cloud, PreferencesLine());
+    GeneralPreferencesViewController alone{
+        {settings, scheduler, presence, hotKeys, login, desktop}};
+    alone.showAccount(true);
+    EXPECT_TRUE(alone.iCloudSync.isUsable());
+    EXPECT_EQ(alone.state().cloud, PreferencesLine());
+}
+
 TEST_F(GeneralPreferencesViewControllerTest, AViewIsRefreshedOnTheMainThread)
 {
     int refreshed = 0;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preferences/GeneralPreferencesView.h"
 
+#include "fakes/FakeCloudSignIn.h"
 #include "ui/widgets/InlineLine.h"
 #include "unit/ui/preferences/PanesFixture.h"
 
@@ -105,6 +106,68 @@ TEST_F(GeneralPreferencesViewTest, TheSwitchOfTheCloudIsThatOfTheSetting)
     EXPECT_TRUE(box("iCloudSync").isEnabled());
     machine.settings.setBool(keys::iCloudSync, true);
     EXPECT_TRUE(box("iCloudSync").isChecked());
+}
+
+/// With somebody who signs in to accounts when the test says so.
+class GeneralPreferencesViewAccount : public GeneralPreferencesViewTest
+{
+protected:
+    GeneralPreferencesViewAccount()
+    {
+        features().preferences.cloudAccount.use(signIn);
+        features().preferences.cloudSignIn.use(signIn);
+        settle();
+    }
+    // The windows go before whom they use.
+    ~GeneralPreferencesViewAccount() override { desktop.reset(); }
+
+    const CloudAccount account{.kind = CloudAccount::Kind::WebDav,
+        .server = QUrl(u"https://cloud.example/files"_s),
+        .user = u"mila"_s};
+    FakeCloudSignIn signIn;
+};
+
+TEST_F(GeneralPreferencesViewAccount, SigningInSwitchesSyncOn)
+{
+    EXPECT_FALSE(box("iCloudSync").isEnabled());
+    box("accountButton").click();
+    settle();
+    CloudSignInModel &form = features().preferences.cloudSignIn;
+    ASSERT_TRUE(form.state().isOpen);
+    form.choose(CloudAccount::Kind::Folder);
+    form.edit(CloudSignInModel::Field::Folder, u"/srv/mila"_s);
+    form.edit(CloudSignInModel::Field::Passphrase, u"a long passphrase"_s);
+    form.signIn();
+    signIn.succeed(account, u"This account can be used."_s);
+    settle();
+    EXPECT_TRUE(box("iCloudSync").isEnabled());
+    EXPECT_TRUE(machine.settings.getBool(keys::iCloudSync));
+    EXPECT_FALSE(says(u"No account yet: there is nowhere to sync with."_s));
+    EXPECT_TRUE(says(u"This account can be used."_s));
+    expectNamed();
+}
+
+TEST_F(GeneralPreferencesViewAccount, WhoIsSignedInAlreadySwitchesNothing)
+{
+    signIn.become(account);
+    settle();
+    EXPECT_TRUE(box("iCloudSync").isEnabled());
+    EXPECT_FALSE(machine.settings.getBool(keys::iCloudSync));
+    box("signOutButton").click();
+    settle();
+    EXPECT_FALSE(box("iCloudSync").isEnabled());
+    EXPECT_TRUE(says(u"No account yet: there is nowhere to sync with."_s));
+}
+
+TEST_F(GeneralPreferencesViewAccount, TabGoesFromTheSwitchToTheAccount)
+{
+    signIn.become(account);
+    settle();
+    box("iCloudSync").setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(box("accountButton").hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(box("signOutButton").hasFocus());
 }
 
 TEST_F(GeneralPreferencesViewTest, ABroadcastFromTheCloudRefreshesIt)
