@@ -401,7 +401,7 @@ void HistoryController::deleteSelected()
     m_selection.clear();
     m_deletion.remove(objects);
     if (m_rows.size() > 0) {
-        Q_EMIT rowWanted(std::min(first, m_rows.size() - 1));
+        Q_EMIT recordsDeleted(std::min(first, m_rows.size() - 1));
     }
 }
 

@@ -128,8 +128,8 @@ Q_SIGNALS:
     void searched();
     /// What the rows say changed, but not which they are.
     void rowsReloaded();
-    /// The row to go on with after a deletion.
-    void rowWanted(qsizetype row);
+    /// Records were deleted, and others stay: `next` is the row to go on with.
+    void recordsDeleted(qsizetype next);
     /// Something was done that cannot be undone, nor needs to.
     void said(const QString &message);
 

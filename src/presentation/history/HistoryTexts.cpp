@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/history/HistoryTexts.h"
 
+#include "base/CutText.h"
 #include "base/Localized.h"
 #include "history/HistorySearch.h"
 
@@ -42,14 +43,7 @@ QList<HistorySearchType> historySearchTypes()
 QString shortened(const QString &text)
 {
     constexpr qsizetype longest = 60;
-    if (text.size() <= longest) {
-        return text;
-    }
-    QString kept = text.left(longest - 1);
-    if (kept.back().isHighSurrogate()) {
-        kept.chop(1);
-    }
-    return kept + u'…';
+    return cutText(text, longest);
 }
 
 QString sentenceOf(const Connection &record, const QString &address)

@@ -65,7 +65,7 @@ HistoryTable::HistoryTable(HistoryController &controller, const Theme &theme, QW
     connect(&m_controller, &HistoryController::searched, this, [this] { m_fromTop = true; });
     connect(
         &m_controller, &HistoryController::rowsReloaded, this, [this] { viewport()->update(); });
-    connect(&m_controller, &HistoryController::rowWanted, this, &HistoryTable::selectOne);
+    connect(&m_controller, &HistoryController::recordsDeleted, this, &HistoryTable::selectOne);
     connect(&m_controller.rows(), &RecordListing::aboutToReset, this, &HistoryTable::noteWhereItIs);
     // What is selected counts by its rows, which these move.
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &HistoryTable::tellSelection);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/PlainText.h"
 
+#include "base/CutText.h"
+
 #include <QLabel>
 #include <QTextBoundaryFinder>
 #include <QTextDocument>
@@ -79,18 +81,6 @@ QString breakable(const QString &text)
     return result + breakableWord(word);
 }
 
-QString cut(const QString &text, qsizetype longest)
-{
-    if (text.size() <= longest) {
-        return text;
-    }
-    QString kept = text.left(longest - 1);
-    if (kept.back().isHighSurrogate()) {
-        kept.chop(1);
-    }
-    return kept + u'…';
-}
-
 } // namespace
 
 QLabel *plainLabel(const QString &text)
@@ -117,7 +107,7 @@ void showBroken(QLabel &label, const QString &text)
 
 QString plainLine(const QString &text)
 {
-    return cut(clean(text, false), longestLine);
+    return cutText(clean(text, false), longestLine);
 }
 
 QString plainEntry(const QString &text)
@@ -130,17 +120,17 @@ QString plainEntry(const QString &text)
     if (end.front().isLowSurrogate()) {
         end.remove(0, 1);
     }
-    return cut(line, longestLine - end.size()) + end;
+    return cutText(line, longestLine - end.size()) + end;
 }
 
 QString plainParagraphs(const QString &text)
 {
-    return cut(clean(text, true), longestMessage);
+    return cutText(clean(text, true), longestMessage);
 }
 
 QString plainToolTip(const QString &text)
 {
-    const QString tip = cut(clean(text, false), longestToolTip);
+    const QString tip = cutText(clean(text, false), longestToolTip);
     const bool isLong = tip.size() > widestToolTip;
     if (!isLong && !Qt::mightBeRichText(tip)) {
         return tip;

@@ -451,8 +451,8 @@ TEST_F(HistoryControllerTest, TheDeleteKeyDeletesWhatIsSelectedAndNoOtherKeyDoes
     EXPECT_EQ(controller.rows().size(), 4) << "nothing is selected";
     EXPECT_TRUE(said.isEmpty());
     qsizetype wanted = -1;
-    QObject::connect(
-        &controller, &HistoryController::rowWanted, [&wanted](qsizetype row) { wanted = row; });
+    QObject::connect(&controller, &HistoryController::recordsDeleted,
+        [&wanted](qsizetype row) { wanted = row; });
     select(1, 2);
     EXPECT_TRUE(state().deleteEnabled);
     EXPECT_TRUE(controller.keyDown(HistoryController::Key::Delete));
