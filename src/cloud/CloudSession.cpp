@@ -256,7 +256,10 @@ void CloudSession::run(SyncRound::Look look, const SyncRound::Done &done)
 {
     m_running->round = std::make_unique<SyncRound>(SyncDeps{*m_running->storage,
         m_deps.mirror.storage(), m_running->replica, m_running->key->key, m_deps.random});
-    m_running->round->start(look, [this, done](const SyncOutcome &told) {
+    // A folder is listed for nothing. Its files come in any order, the head before the others.
+    const bool isFolder = m_account->kind == CloudAccount::Kind::Folder;
+    const auto wanted = isFolder ? SyncRound::Look::Listing : look;
+    m_running->round->start(wanted, [this, done](const SyncOutcome &told) {
         const SyncOutcome outcome = told;
         m_running->round.reset();
         ended(outcome);

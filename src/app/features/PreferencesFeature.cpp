@@ -11,7 +11,7 @@ PreferencesFeature::PreferencesFeature(const Platform &platform, XPCMethods &hel
     Presence &presence, GlobalHotKeys &hotKeys, const DeviceTable &devices, SettingsSync &sync)
     : loginController(platform.settings, platform.loginItem)
     , general({platform.settings, platform.scheduler, presence, hotKeys, loginController,
-          platform.loginItem, &sync})
+          platform.loginItem, sync})
     , advanced(helper, presence, platform.groupSettings, platform.scheduler)
     , defaultMinutes(platform.settings)
     , driftAlarm(platform.settings, keys::driftAlarm)

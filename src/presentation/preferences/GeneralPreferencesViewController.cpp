@@ -37,9 +37,6 @@ GeneralPreferencesViewController::GeneralPreferencesViewController(
     connect(&m_deps.presence, &Presence::reachChanged, this,
         &GeneralPreferencesViewController::showDock);
     showDock();
-    if (m_deps.sync == nullptr) {
-        showAccount(false);
-    }
 }
 
 void GeneralPreferencesViewController::load()
@@ -88,8 +85,8 @@ void GeneralPreferencesViewController::synciCloud(bool isOn)
 {
     iCloudSync.set(isOn);
     m_deps.scheduler.onMain(this, [this, isOn] {
-        if (isOn && m_deps.sync != nullptr) {
-            m_deps.sync->syncFromCurrentState();
+        if (isOn) {
+            m_deps.sync.syncFromCurrentState();
         }
     });
 }
@@ -104,8 +101,6 @@ void GeneralPreferencesViewController::showAccount(bool isThere)
 {
     m_whyNoAccount =
         isThere ? QString() : localized("No account yet: there is nowhere to sync with.");
-    // Where there is something to switch, whoever supervises the account says that it is missing.
-    iCloudSync.setWhyDisabled(m_deps.sync == nullptr ? m_whyNoAccount : QString());
     refreshCloud();
 }
 

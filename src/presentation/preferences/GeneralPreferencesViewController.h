@@ -37,8 +37,7 @@ public:
         GlobalHotKeys &hotKeys;
         StartAtLoginController &login;
         LoginItem &loginItem;
-        /// None while the program can keep no copy of its settings elsewhere.
-        SettingsSync *sync = nullptr;
+        SettingsSync &sync;
     };
 
     explicit GeneralPreferencesViewController(const Collaborators &collaborators);

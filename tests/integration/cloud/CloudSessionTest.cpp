@@ -28,6 +28,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -118,6 +119,15 @@ enum class Place
     Folder,
     Lighttpd,
 };
+
+/// As programs that synchronize do: another file takes its place.
+void putFile(const QString &name, const QByteArray &bytes)
+{
+    QSaveFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    ASSERT_TRUE(file.commit());
+}
 
 /// Two computers and one account.
 class CloudSessionPlaces : public ::testing::TestWithParam<Place>
@@ -212,22 +222,19 @@ TEST_P(CloudSessionPlaces, AFileThatWasTamperedWithIsRefusedAndToldAndNothingIsL
     one.switchOn();
     one.makeRule(u"Quiet Harbor"_s);
     ASSERT_TRUE(eventually([&] { return !changeFile().isEmpty(); }));
-    QFile file(changeFile());
+    const QString name = changeFile();
+    QFile file(name);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray whole = file.readAll();
     file.close();
     QByteArray changed = whole;
     changed.back() = char(changed.back() ^ 1);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(changed);
-    file.close();
+    putFile(name, changed);
     two.switchOn();
     EXPECT_TRUE(eventually([&] { return !two.session.trouble().isEmpty(); }));
     EXPECT_FALSE(two.hasRule(u"Quiet Harbor"_s));
     EXPECT_TRUE(one.hasRule(u"Quiet Harbor"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(whole);
-    file.close();
+    putFile(name, whole);
     EXPECT_TRUE(arrives(two, [&] { return two.hasRule(u"Quiet Harbor"_s); }));
 }
 

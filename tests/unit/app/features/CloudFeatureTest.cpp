@@ -113,6 +113,7 @@ TEST(CloudFeature, ARuleMadeOnOneComputerActsOnTheOther)
     Desk one(&shared, 1);
     Desk two(&shared, 2);
     for (Desk *desk : {&one, &two}) {
+        desk->machine.settings.setBool(keys::displayNotifications, true);
         desk->signIn();
         desk->run();
         desk->switchSync(true);

@@ -42,7 +42,7 @@ protected:
     StartAtLoginController login{settings, desktop};
     Pushes sync;
     GeneralPreferencesViewController pane{
-        {settings, scheduler, presence, hotKeys, login, desktop, &sync}};
+        {settings, scheduler, presence, hotKeys, login, desktop, sync}};
 };
 
 TEST_F(GeneralPreferencesViewControllerTest, EverySwitchIsItsSetting)
@@ -154,17 +154,6 @@ TEST_F(GeneralPreferencesViewControllerTest, SwitchedOnTheSettingsArePushedOnceS
     EXPECT_EQ(sync.count, 1) << "only the user's switch replaces what the account holds";
 }
 
-TEST_F(GeneralPreferencesViewControllerTest, WithoutAnAccountTheSwitchSaysSo)
-{
-    GeneralPreferencesViewController alone{
-        {settings, scheduler, presence, hotKeys, login, desktop}};
-    EXPECT_FALSE(alone.iCloudSync.isUsable());
-    EXPECT_EQ(alone.state().cloud.text, u"No account yet: there is nowhere to sync with."_s);
-    alone.synciCloud(true);
-    scheduler.runPending();
-    EXPECT_FALSE(settings.getBool(keys::iCloudSync));
-}
-
 TEST_F(GeneralPreferencesViewControllerTest, WhatKeepsTheCopyFromBeingTheSameIsToldWhileItDoes)
 {
     pane.showTrouble(u"The server cannot be reached."_s);
@@ -175,18 +164,13 @@ TEST_F(GeneralPreferencesViewControllerTest, WhatKeepsTheCopyFromBeingTheSameIsT
     EXPECT_TRUE(pane.state().cloud.text.isEmpty());
 }
 
-TEST_F(GeneralPreferencesViewControllerTest, WhereThereIsSomethingToSwitchAMissingAccountIsSaidOnly)
+TEST_F(GeneralPreferencesViewControllerTest, AMissingAccountIsSaidAndTheSwitchStaysUsable)
 {
     pane.showAccount(false);
     EXPECT_EQ(pane.state().cloud.text, u"No account yet: there is nowhere to sync with."_s);
     EXPECT_TRUE(pane.iCloudSync.isUsable());
     pane.showAccount(true);
     EXPECT_EQ(pane.state().cloud, PreferencesLine());
-    GeneralPreferencesViewController alone{
-        {settings, scheduler, presence, hotKeys, login, desktop}};
-    alone.showAccount(true);
-    EXPECT_TRUE(alone.iCloudSync.isUsable());
-    EXPECT_EQ(alone.state().cloud, PreferencesLine());
 }
 
 TEST_F(GeneralPreferencesViewControllerTest, AViewIsRefreshedOnTheMainThread)
