@@ -385,6 +385,12 @@ void CloudSignInDialog::fit()
 {
     const int tallest = screen()->availableSize().height() - titleBar;
     resize(width(), std::min(layout()->totalHeightForWidth(width()), tallest));
+    // Grown by a question, it must not lie with its buttons below the screen.
+    const QRect free = screen()->availableGeometry();
+    const int beyond = frameGeometry().bottom() - free.bottom();
+    if (isVisible() && beyond > 0) {
+        move(x(), std::max(free.top(), y() - beyond));
+    }
 }
 
 void CloudSignInDialog::reject()

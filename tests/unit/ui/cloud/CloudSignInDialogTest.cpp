@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QFrame>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QSet>
 #include <QTabBar>
 
@@ -215,6 +216,17 @@ TEST_F(CloudSignInDialogTest, TheFingerprintCanBeComparedAndCopied)
     EXPECT_TRUE(fingerprint().textInteractionFlags() & Qt::TextSelectableByKeyboard);
     button("Copy Fingerprint").click();
     EXPECT_EQ(QApplication::clipboard()->text(), fingerprintText(print));
+}
+
+TEST_F(CloudSignInDialogTest, AQuestionThatMakesItHigherDoesNotPushItBelowTheScreen)
+{
+    const QRect screen = dialog()->screen()->availableGeometry();
+    dialog()->move(40, screen.bottom() - dialog()->frameGeometry().height());
+    const int before = dialog()->height();
+    askAboutCertificate();
+    EXPECT_GT(dialog()->height(), before);
+    EXPECT_LE(dialog()->frameGeometry().bottom(), screen.bottom());
+    EXPECT_EQ(dialog()->x(), 40);
 }
 
 TEST_F(CloudSignInDialogTest, ACertificateIsAcceptedByItsOwnButtonAlone)
