@@ -107,14 +107,16 @@ def asked_as_kept(record):
 
 class HistoryTest(RecordsTest):
     def change_and_kill(self):
-        """Changes the address and ends the program violently as soon as the change was told."""
+        """Changes the address and ends the program violently as soon as that is recorded and shown."""
         program = self.start_program()
+        before = len(history())
         shown = "    Current Address · " + self.addresses[self.device]
         item = trayclient.only_item()
         wait_until(lambda: shown in item.menu_text(), "the status item does not show the address")
         item.click(shown, "Randomize")
-        # The record comes before anything that shows the new address.
         wait_until(lambda: shown not in item.menu_text(), "the status item kept the old address")
+        # The kernel's own word may be shown before the helper has answered.
+        wait_until(lambda: len(history()) > before, "the change was not recorded")
         program.kill()
         program.wait(DEADLINE)
         wait_until(lambda: not trayclient.items(), "the status item stayed")

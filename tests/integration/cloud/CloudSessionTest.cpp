@@ -26,6 +26,7 @@
 #include "sync/SettingsMirror.h"
 #include "unit/sync/SeededRandom.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -120,12 +121,16 @@ enum class Place
     Lighttpd,
 };
 
-/// As programs that synchronize do: another file takes its place.
-void putFile(const QString &name, const QByteArray &bytes)
+/// As programs that synchronize do: another file takes its place. So many seconds from now, because
+/// lighttpd tells files of one length apart by the second.
+void putFile(const QString &name, const QByteArray &bytes, int seconds)
 {
     QSaveFile file(name);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
+    file.flush();
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(seconds),
+        QFileDevice::FileModificationTime));
     ASSERT_TRUE(file.commit());
 }
 
@@ -229,12 +234,12 @@ TEST_P(CloudSessionPlaces, AFileThatWasTamperedWithIsRefusedAndToldAndNothingIsL
     file.close();
     QByteArray changed = whole;
     changed.back() = char(changed.back() ^ 1);
-    putFile(name, changed);
+    putFile(name, changed, 10);
     two.switchOn();
     EXPECT_TRUE(eventually([&] { return !two.session.trouble().isEmpty(); }));
     EXPECT_FALSE(two.hasRule(u"Quiet Harbor"_s));
     EXPECT_TRUE(one.hasRule(u"Quiet Harbor"_s));
-    putFile(name, whole);
+    putFile(name, whole, 20);
     EXPECT_TRUE(arrives(two, [&] { return two.hasRule(u"Quiet Harbor"_s); }));
 }
 
