@@ -36,7 +36,8 @@ set(QUILLON_TEST_HEADERS ${QUILLON_COMMON_HEADERS} <QCoreApplication> <gmock/gmo
 # limit of two minutes of its own, and says what did not come.
 set(QUILLON_TEST_LIMIT 900)
 
-# The programs of the unit tests, for builds (with sanitizers) that need nothing else.
+# The programs of the unit tests. They are run with the sanitizers, which see more, so a build without
+# leaves them out unless they are asked for; those labelled "face" are run both ways.
 add_custom_target(unit_tests)
 
 # quillon_test(NAME LABEL label SOURCES file… USES target… [SANDBOX root|user])
@@ -56,6 +57,9 @@ function(quillon_test name)
             "${PROJECT_SOURCE_DIR}/tools/sandbox;--${TEST_SANDBOX};--no-display;--build;${PROJECT_BINARY_DIR}")
     endif()
     if(TEST_LABEL STREQUAL "unit")
+        set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+    endif()
+    if(TEST_LABEL MATCHES "^(unit|face)$")
         add_dependencies(unit_tests ${name})
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 300
