@@ -45,7 +45,7 @@ QString DressedApplication::WordyLanguage::translate(
         }
         longer += word + growth(word) + character;
         word.clear();
-        isPlaceholder = character == u'%';
+        isPlaceholder = character == u'%' || (isPlaceholder && character == u'L');
     }
     longer.chop(1);
     return longer;

@@ -9,7 +9,6 @@
 #include "presentation/history/HistoryMoment.h"
 #include "store/graph/FetchFailure.h"
 
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -46,8 +45,8 @@ HistoryController::HistoryController(const Parts &parts)
     connect(
         &m_selection, &HistorySelection::progressChanged, this, &HistoryController::refreshWork);
     connect(&m_selection, &HistorySelection::cutAt, this, [this](qsizetype count) {
-        Q_EMIT said(
-            filled(localized("%@ were saved. Save again for more."), {QLocale().toString(count)}));
+        Q_EMIT said(localized("%Ln was saved. Save again for more.",
+            "%Ln were saved. Save again for more.", count));
     });
     connect(&m_selection, &HistorySelection::failed, this,
         [this] { fail(localized("The records could not be read.")); });
@@ -238,7 +237,7 @@ QString HistoryController::detail() const
 {
     const qsizetype count = m_selection.count();
     if (count > 1) {
-        return filled(localized("%@ selected"), {recordsText(count)});
+        return localized("%Ln record selected", "%Ln records selected", count);
     }
     const auto records = m_selection.records(1);
     if (records.isEmpty()) {

@@ -49,6 +49,35 @@ TEST(Languages, BringQtsOwnTexts)
     EXPECT_EQ(cancel(), u"Abbrechen"_s);
 }
 
+struct Counted
+{
+    const char *language;
+    qint64 count;
+    const char *expected;
+};
+
+void PrintTo(const Counted &counted, std::ostream *out)
+{
+    *out << counted.language << ", " << counted.count;
+}
+
+class CountedTextTest : public ::testing::TestWithParam<Counted>
+{
+};
+
+TEST_P(CountedTextTest, HasTheFormOfItsNumber)
+{
+    const UserLanguage language({QString::fromLatin1(GetParam().language)});
+    EXPECT_EQ(localized("Rule deleted", "%Ln rules deleted", GetParam().count),
+        QString::fromUtf8(GetParam().expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(LanguagesEnglish, CountedTextTest,
+    ::testing::Values(Counted{"en", 1, "Rule deleted"}, Counted{"en", 2, "2 rules deleted"}));
+INSTANTIATE_TEST_SUITE_P(LanguagesGerman, CountedTextTest,
+    ::testing::Values(Counted{"de", 0, "0 Regeln gelöscht"}, Counted{"de", 1, "Regel gelöscht"},
+        Counted{"de", 2, "2 Regeln gelöscht"}));
+
 TEST(Languages, ATextIsFoundInEachOfThem)
 {
     const auto isRandom = [](const QString &text) {
@@ -70,7 +99,9 @@ TEST(Languages, WhatIsCutOutOfAStoredTextIsThereInEachOfThem)
 {
     // The note of new identifiers stands behind the date, which ends at its bracket.
     const UserLanguage german({u"de"_s});
-    EXPECT_TRUE(localized("%@ (added %@ new Identifiers)").startsWith("%@ ("_L1));
+    for (const qint64 added : {1, 2, 1000}) {
+        EXPECT_TRUE(localized("", "%@ (added %@ new Identifiers)", added).startsWith("%@ ("_L1));
+    }
 }
 
 } // namespace
