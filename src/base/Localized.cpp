@@ -29,9 +29,8 @@ QString localized(const char *one, const char *many, qint64 count)
     const QString found = QCoreApplication::translate(textContext, many, nullptr, number);
     // What no table has comes back as it is, with the number in it.
     const bool isEnglish = found == QCoreApplication::translate("", many, nullptr, number);
-    return isEnglish && number == 1
-               ? QCoreApplication::translate(textContext, one, nullptr, number)
-               : found;
+    return isEnglish && number == 1 ? QCoreApplication::translate(textContext, one, nullptr, number)
+                                    : found;
 }
 
 QString filled(const QString &text, const QStringList &values)

@@ -9,7 +9,6 @@
 #include "presentation/history/HistoryMoment.h"
 #include "store/graph/FetchFailure.h"
 
-
 #include <algorithm>
 #include <utility>
 
@@ -45,8 +44,8 @@ HistoryController::HistoryController(const Parts &parts)
     connect(
         &m_selection, &HistorySelection::progressChanged, this, &HistoryController::refreshWork);
     connect(&m_selection, &HistorySelection::cutAt, this, [this](qsizetype count) {
-        Q_EMIT said(localized("%Ln was saved. Save again for more.",
-            "%Ln were saved. Save again for more.", count));
+        Q_EMIT said(localized(
+            "%Ln was saved. Save again for more.", "%Ln were saved. Save again for more.", count));
     });
     connect(&m_selection, &HistorySelection::failed, this,
         [this] { fail(localized("The records could not be read.")); });
