@@ -1750,10 +1750,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Wird exportiert…</translation>
     </message>
     <message>
-        <source>%@ exported</source>
-        <translation>%@ exportiert</translation>
-    </message>
-    <message>
         <source>The file could not be written. %@</source>
         <translation>Die Datei konnte nicht geschrieben werden. %@</translation>
     </message>
@@ -2505,6 +2501,13 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>
             <numerusform>Regel gelöscht</numerusform>
             <numerusform>%Ln Regeln gelöscht</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records exported</source>
+        <translation>
+            <numerusform>%Ln Eintrag exportiert</numerusform>
+            <numerusform>%Ln Einträge exportiert</numerusform>
         </translation>
     </message>
 </context>

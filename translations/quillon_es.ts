@@ -527,10 +527,6 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
         <translation>No se pudieron leer las entradas.</translation>
     </message>
     <message>
-        <source>%@ exported</source>
-        <translation>%@ exportado</translation>
-    </message>
-    <message>
         <source>The file could not be written. %@</source>
         <translation>No se pudo escribir el archivo. %@</translation>
     </message>
@@ -2506,6 +2502,13 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
     <message>
         <source>No Vendor Information available...</source>
         <translation>Sin información del fabricante...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records exported</source>
+        <translation>
+            <numerusform>%Ln entrada exportada</numerusform>
+            <numerusform>%Ln entradas exportadas</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -527,10 +527,6 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
         <translation>Impossible de lire les entrées.</translation>
     </message>
     <message>
-        <source>%@ exported</source>
-        <translation>%@ exporté</translation>
-    </message>
-    <message>
         <source>The file could not be written. %@</source>
         <translation>Impossible d’écrire le fichier. %@</translation>
     </message>
@@ -1223,7 +1219,7 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>It was built without a list of versions to ask for. Nothing is asked, whatever is chosen here.</source>
-        <translation>Il a été construit sans liste de versions à interroger. Rien n’est interrogé, quel que soit le choix fait ici.</translation>
+        <translation>Elle a été construite sans liste de versions à interroger. Rien n’est interrogé, quel que soit le choix fait ici.</translation>
     </message>
     <message>
         <source>Last checked: %@</source>
@@ -2506,6 +2502,13 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     <message>
         <source>No Vendor Information available...</source>
         <translation>Aucune information sur le fabricant...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records exported</source>
+        <translation>
+            <numerusform>%Ln entrée exportée</numerusform>
+            <numerusform>%Ln entrées exportées</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

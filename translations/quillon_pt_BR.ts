@@ -345,7 +345,7 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
     </message>
     <message>
         <source>None</source>
-        <translation>Nenhuma</translation>
+        <translation>Nenhum</translation>
     </message>
     <message>
         <source>WPA Personal</source>
@@ -525,10 +525,6 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
     <message>
         <source>The records could not be read.</source>
         <translation>Não foi possível ler as entradas.</translation>
-    </message>
-    <message>
-        <source>%@ exported</source>
-        <translation>%@ exportado</translation>
     </message>
     <message>
         <source>The file could not be written. %@</source>
@@ -1223,7 +1219,7 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
     </message>
     <message>
         <source>It was built without a list of versions to ask for. Nothing is asked, whatever is chosen here.</source>
-        <translation>Ele foi compilado sem uma lista de versões a consultar. Nada é consultado, seja qual for a escolha aqui.</translation>
+        <translation>Ela foi compilada sem uma lista de versões a consultar. Nada é consultado, seja qual for a escolha aqui.</translation>
     </message>
     <message>
         <source>Last checked: %@</source>
@@ -2506,6 +2502,13 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
     <message>
         <source>No Vendor Information available...</source>
         <translation>Sem informações do fabricante...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records exported</source>
+        <translation>
+            <numerusform>%Ln entrada exportada</numerusform>
+            <numerusform>%Ln entradas exportadas</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -56,7 +56,7 @@ HistoryController::HistoryController(const Parts &parts)
     connect(&m_export, &HistoryExport::cancelled, this, endExport);
     connect(&m_export, &HistoryExport::written, this, [this, endExport](qsizetype count) {
         endExport();
-        Q_EMIT said(filled(localized("%@ exported"), {recordsText(count)}));
+        Q_EMIT said(localized("%Ln record exported", "%Ln records exported", count));
     });
     connect(&m_export, &HistoryExport::failed, this, [this, endExport](const QString &reason) {
         endExport();

@@ -85,34 +85,34 @@ TEST_P(LanguageTest, EveryMnemonicOfTheWindowLeadsToOneControl)
     EXPECT_EQ(texts.size(), 5) << "address, apply, randomize, vendor, install";
 }
 
-INSTANTIATE_TEST_SUITE_P(All, LanguageTest, ::testing::Values("en", "de"));
-
-TEST_F(LanguageTest, NoTextOfTheTableIsShownInEnglish)
+TEST_P(LanguageTest, NoTextOfTheTableIsShownInEnglish)
 {
-    runIn("de");
+    runIn(GetParam());
     features().statusMenu.menuWillOpen();
     QStringList seen;
     forEachText([&seen](const char *what, const QString &text) {
         EXPECT_EQ(text, localized(text)) << what;
         seen.append(text);
     });
-    EXPECT_THAT(seen, Contains(u"A&dresse"_s));
-    EXPECT_THAT(seen, Contains(u"Schnittstelle"_s));
-    EXPECT_THAT(seen, Contains(u"&Zufällig ändern"_s));
-    EXPECT_THAT(seen, Contains(u"Quillon beenden"_s));
+    for (const char *text : {"A&ddress", "Interface", "&Randomize", "Quit Quillon"}) {
+        EXPECT_THAT(seen, Contains(localized(text)));
+    }
 }
 
-TEST_F(LanguageTest, MenusLeadToTheirInterfaces)
+TEST_P(LanguageTest, MenusLeadToTheirInterfaces)
 {
-    runIn("de");
+    runIn(GetParam());
     features().statusMenu.menuWillOpen();
     const auto &entries = features().statusMenu.entries();
+    const auto titleOf = [](const char *text) {
+        return filled(localized(text), {u"    "_s, QString()});
+    };
     const auto current = std::ranges::find_if(entries, [&](const MenuEntry &entry) {
-        return entry.title.startsWith(u"    Aktuelle Adresse · "_s) &&
+        return entry.title.startsWith(titleOf("%@Current Address · %@")) &&
                entry.title.endsWith(factory[enp2s0], Qt::CaseInsensitive);
     });
     ASSERT_NE(current, entries.end()) << menuTitles().join(u'\n').toStdString();
-    ASSERT_EQ(current->submenu.at(0).title, u"Zufällig ändern"_s);
+    ASSERT_EQ(current->submenu.at(0).title, localized("Randomize"));
     const int row = static_cast<int>(current - entries.begin());
     features().statusMenu.activate({row, 0});
     machine.scheduler.advance(std::chrono::seconds(2));
@@ -120,11 +120,30 @@ TEST_F(LanguageTest, MenusLeadToTheirInterfaces)
     EXPECT_FALSE(isChanged(enp1s0));
 
     features().statusMenu.menuWillOpen();
-    ASSERT_TRUE(menuTitles().at(row - 1).startsWith(u"    Hardware-Adresse · "_s));
+    ASSERT_TRUE(menuTitles().at(row - 1).startsWith(titleOf("%@Hardware Address · %@")));
     features().statusMenu.activate({row - 1, 0});
     machine.scheduler.advance(std::chrono::seconds(2));
     EXPECT_FALSE(isChanged(enp2s0));
 }
+
+TEST_P(LanguageTest, RulesOfItsFileActInAnotherLanguage)
+{
+    QVariantMap rule = randomOnce(enp1s0, u"on any network"_s);
+    rule[model::rule::address] = [] {
+        const UserLanguage ofTheFile({QString::fromLatin1(GetParam())});
+        return localized("Random Address");
+    }();
+    saveRule(rule);
+    runIn(GetParam() == "de"_L1 ? "en" : "de");
+    EXPECT_TRUE(isChanged(enp1s0));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, LanguageTest,
+    ::testing::Values("en", //
+        "de",               //
+        "es",               //
+        "fr",               //
+        "pt_BR"));
 
 TEST_F(LanguageTest, AnInterfaceHasOneNameInWindowMenuAndMessages)
 {
