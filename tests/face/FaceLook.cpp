@@ -3,7 +3,9 @@
 #include "face/FaceLook.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFontDatabase>
+#include <QRegularExpression>
 
 namespace quillon::test {
 
@@ -49,6 +51,13 @@ QString DressedApplication::WordyLanguage::translate(
     }
     longer.chop(1);
     return longer;
+}
+
+QStringList spokenLanguages()
+{
+    QStringList languages = QDir(u":/translations"_s).entryList();
+    languages.replaceInStrings(QRegularExpression(u"^quillon_|\\.qm$"_s), QString());
+    return languages;
 }
 
 DressedApplication::DressedApplication(const FaceLook &look)
