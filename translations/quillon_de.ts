@@ -499,9 +499,12 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Getting Vendor Identifier count...</source>
         <translation>Herstellerkennungen werden gezählt...</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%@ Vendor Identifiers</source>
-        <translation>%@ Herstellerkennungen</translation>
+        <translation>
+            <numerusform>%@ Herstellerkennung</numerusform>
+            <numerusform>%@ Herstellerkennungen</numerusform>
+        </translation>
     </message>
     <message>
         <source>This is the address in use. Type or drop another to change it.</source>
@@ -1087,9 +1090,12 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>&amp;Install Helper</source>
         <translation>&amp;Installieren</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%@ (added %@ new Identifiers)</source>
-        <translation>%@ (%@ neue Kennungen)</translation>
+        <translation>
+            <numerusform>%@ (%@ neue Kennung)</numerusform>
+            <numerusform>%@ (%@ neue Kennungen)</numerusform>
+        </translation>
     </message>
     <message>
         <source>Getting Vendor infomation...</source>
@@ -1412,30 +1418,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Bei der Anmeldung erhält %@ eine zufällige Adresse von %@.</translation>
     </message>
     <message>
-        <source>On %@, give %@ a new random address every minute.</source>
-        <translation>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On any network, give %@ a new random address every minute.</source>
-        <translation>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On an unknown network, give %@ a new random address every minute.</source>
-        <translation>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On %@, give %@ a new random address every %@ minutes.</source>
-        <translation>In %@ erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On any network, give %@ a new random address every %@ minutes.</source>
-        <translation>In jedem Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On an unknown network, give %@ a new random address every %@ minutes.</source>
-        <translation>In einem unbekannten Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
         <source>On %@, give %@ the address %@.</source>
         <translation>In %@ erhält %@ die Adresse %@.</translation>
     </message>
@@ -1450,14 +1432,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>At login, give %@ the address %@.</source>
         <translation>Bei der Anmeldung erhält %@ die Adresse %@.</translation>
-    </message>
-    <message>
-        <source>Rule deleted</source>
-        <translation>Regel gelöscht</translation>
-    </message>
-    <message>
-        <source>%d rules deleted</source>
-        <translation>%d Regeln gelöscht</translation>
     </message>
     <message>
         <source>Action</source>
@@ -1776,10 +1750,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Wird exportiert…</translation>
     </message>
     <message>
-        <source>%@ exported</source>
-        <translation>%@ exportiert</translation>
-    </message>
-    <message>
         <source>The file could not be written. %@</source>
         <translation>Die Datei konnte nicht geschrieben werden. %@</translation>
     </message>
@@ -1790,10 +1760,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Searching…</source>
         <translation>Wird gesucht…</translation>
-    </message>
-    <message>
-        <source>%@ selected</source>
-        <translation>%@ ausgewählt</translation>
     </message>
     <message>
         <source>%@: %@</source>
@@ -1812,20 +1778,8 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Wird gelöscht…</translation>
     </message>
     <message>
-        <source>Record deleted</source>
-        <translation>Eintrag gelöscht</translation>
-    </message>
-    <message>
-        <source>%@ records deleted</source>
-        <translation>%@ Einträge gelöscht</translation>
-    </message>
-    <message>
         <source>The records could not be deleted.</source>
         <translation>Die Einträge konnten nicht gelöscht werden.</translation>
-    </message>
-    <message>
-        <source>Delete %@?</source>
-        <translation>%@ löschen?</translation>
     </message>
     <message>
         <source>So many records at once cannot be brought back.</source>
@@ -1898,22 +1852,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>%@ (%@) was given %@ on %@.</source>
         <translation>%@ (%@) erhielt %@ im Netzwerk %@.</translation>
-    </message>
-    <message>
-        <source>1 record</source>
-        <translation>1 Eintrag</translation>
-    </message>
-    <message>
-        <source>%@ records</source>
-        <translation>%@ Einträge</translation>
-    </message>
-    <message>
-        <source>%@ of 1 record</source>
-        <translation>%@ von 1 Eintrag</translation>
-    </message>
-    <message>
-        <source>%@ of %@ records</source>
-        <translation>%@ von %@ Einträgen</translation>
     </message>
     <message>
         <source>Note</source>
@@ -2064,28 +2002,8 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Es wurde ohne eine Versionsliste gebaut. Es wird nichts abgefragt, was auch immer hier gewählt ist.</translation>
     </message>
     <message>
-        <source>1 address</source>
-        <translation>1 Adresse</translation>
-    </message>
-    <message>
-        <source>%@ addresses</source>
-        <translation>%@ Adressen</translation>
-    </message>
-    <message>
-        <source>1 network</source>
-        <translation>1 Netzwerk</translation>
-    </message>
-    <message>
-        <source>%@ networks</source>
-        <translation>%@ Netzwerke</translation>
-    </message>
-    <message>
         <source>Nothing in the history that is not saved.</source>
         <translation>Im Verlauf ist nichts, das nicht gespeichert ist.</translation>
-    </message>
-    <message>
-        <source>%@ added.</source>
-        <translation>%@ hinzugefügt.</translation>
     </message>
     <message>
         <source>%@ and %@ added.</source>
@@ -2142,10 +2060,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Name (optional)</source>
         <translation>Name (freiwillig)</translation>
-    </message>
-    <message>
-        <source>%@ were saved. Save again for more.</source>
-        <translation>%@ wurden gespeichert. Für weitere erneut speichern.</translation>
     </message>
     <message>
         <source>The records could not be read.</source>
@@ -2490,6 +2404,111 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     <message>
         <source>Tries the account, and switches sync on</source>
         <translation>Probiert das Konto aus und schaltet den Abgleich ein</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln were saved. Save again for more.</source>
+        <translation>
+            <numerusform>%Ln wurde gespeichert. Für weitere erneut speichern.</numerusform>
+            <numerusform>%Ln wurden gespeichert. Für weitere erneut speichern.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records selected</source>
+        <translation>
+            <numerusform>%Ln Eintrag ausgewählt</numerusform>
+            <numerusform>%Ln Einträge ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records deleted</source>
+        <translation>
+            <numerusform>Eintrag gelöscht</numerusform>
+            <numerusform>%Ln Einträge gelöscht</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %Ln records?</source>
+        <translation>
+            <numerusform>%Ln Eintrag löschen?</numerusform>
+            <numerusform>%Ln Einträge löschen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln addresses</source>
+        <translation>
+            <numerusform>%Ln Adresse</numerusform>
+            <numerusform>%Ln Adressen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln networks</source>
+        <translation>
+            <numerusform>%Ln Netzwerk</numerusform>
+            <numerusform>%Ln Netzwerke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln networks added.</source>
+        <translation>
+            <numerusform>%Ln Netzwerk hinzugefügt.</numerusform>
+            <numerusform>%Ln Netzwerke hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln addresses added.</source>
+        <translation>
+            <numerusform>%Ln Adresse hinzugefügt.</numerusform>
+            <numerusform>%Ln Adressen hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records</source>
+        <translation>
+            <numerusform>%Ln Eintrag</numerusform>
+            <numerusform>%Ln Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%@ of %Ln records</source>
+        <translation>
+            <numerusform>%@ von %Ln Eintrag</numerusform>
+            <numerusform>%@ von %Ln Einträgen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>On %@, give %@ a new random address every %n minutes.</source>
+        <translation>
+            <numerusform>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</numerusform>
+            <numerusform>In %@ erhält %@ alle %n Minuten eine neue zufällige Adresse.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>On any network, give %@ a new random address every %n minutes.</source>
+        <translation>
+            <numerusform>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</numerusform>
+            <numerusform>In jedem Netzwerk erhält %@ alle %n Minuten eine neue zufällige Adresse.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>On an unknown network, give %@ a new random address every %n minutes.</source>
+        <translation>
+            <numerusform>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</numerusform>
+            <numerusform>In einem unbekannten Netzwerk erhält %@ alle %n Minuten eine neue zufällige Adresse.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln rules deleted</source>
+        <translation>
+            <numerusform>Regel gelöscht</numerusform>
+            <numerusform>%Ln Regeln gelöscht</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln records exported</source>
+        <translation>
+            <numerusform>%Ln Eintrag exportiert</numerusform>
+            <numerusform>%Ln Einträge exportiert</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include <QLibraryInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon {
 
@@ -23,6 +24,27 @@ const QString tables = u":/translations"_s;
 QString tableOf(const QString &language)
 {
     return tables + u"/quillon_"_s + language + u".qm"_s;
+}
+
+/// That of the UserLanguage that lives.
+QString &currentName()
+{
+    static QString name = sourceLanguage;
+    return name;
+}
+
+/// The user's. That of the system has its formats, but does not tell its language.
+QLocale localeOfDates()
+{
+    if (QLocale() != QLocale::system()) {
+        return {};
+    }
+    for (const char *name : {"LC_ALL", "LC_TIME", "LANG"}) {
+        if (!qEnvironmentVariableIsEmpty(name)) {
+            return QLocale(qEnvironmentVariable(name));
+        }
+    }
+    return QLocale::c();
 }
 
 /// "de-Latn-AT": the table of de_Latn_AT, else of de_Latn, else of de.
@@ -59,6 +81,7 @@ QString chosenFrom(const QStringList &wanted)
 
 UserLanguage::UserLanguage(const QStringList &wanted)
     : m_name(chosenFrom(wanted))
+    , m_before(std::exchange(currentName(), m_name))
 {
     if (m_name == sourceLanguage) {
         return;
@@ -75,6 +98,16 @@ UserLanguage::~UserLanguage()
 {
     QCoreApplication::removeTranslator(&m_own);
     QCoreApplication::removeTranslator(&m_ofQt);
+    currentName() = m_before;
+}
+
+QLocale textLocale()
+{
+    const QLocale users = localeOfDates();
+    const QLocale own(currentName());
+    const bool isEnglishWithoutLocale =
+        users.language() == QLocale::C && own.language() == QLocale::English;
+    return users.language() == own.language() || isEnglishWithoutLocale ? users : own;
 }
 
 bool isInAnyLanguage(const QString &text, const char *english)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLocale>
 #include <QStringList>
 #include <QTranslator>
 
@@ -26,9 +27,15 @@ public:
 
 private:
     const QString m_name;
+    const QString m_before;
     QTranslator m_ofQt;
     QTranslator m_own;
 };
+
+/// In whose words dates are written, which stand within sentences: the user's locale of dates
+/// where that is of the texts' language, else the language's own. How hours are counted stays a
+/// wish of the user's locale: pass QLocale()'s format to it. Main thread.
+QLocale textLocale();
 
 /// Whether `text` is what `english` is called in any language of the program, English included: a
 /// file may have been written while the user had another language. Any thread.

@@ -5,6 +5,9 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <limits>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
@@ -17,6 +20,17 @@ QString localized(const QString &english)
 QString localized(const char *english)
 {
     return QCoreApplication::translate(textContext, english);
+}
+
+QString localized(const char *one, const char *many, qint64 count)
+{
+    constexpr qint64 most = std::numeric_limits<int>::max();
+    const int number = static_cast<int>(std::clamp<qint64>(count, 0, most));
+    const QString found = QCoreApplication::translate(textContext, many, nullptr, number);
+    // What no table has comes back as it is, with the number in it.
+    const bool isEnglish = found == QCoreApplication::translate("", many, nullptr, number);
+    return isEnglish && number == 1 ? QCoreApplication::translate(textContext, one, nullptr, number)
+                                    : found;
 }
 
 QString filled(const QString &text, const QStringList &values)

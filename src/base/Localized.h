@@ -18,6 +18,12 @@ inline constexpr const char *textContext = "Quillon";
 QString localized(const QString &english);
 QString localized(const char *english);
 
+/// What `count` makes of a sentence. `many` is the English, and the key, for all numbers but 1, for
+/// which it is `one`; every other language has as many forms in its table as it needs. "%n" is the
+/// number in plain digits, "%Ln" as the locale writes it; the other placeholders stay. In a table
+/// of texts, `many` is marked with QT_TRANSLATE_N_NOOP("Quillon", …). Any thread.
+QString localized(const char *one, const char *many, qint64 count);
+
 /// `text` with its placeholders "%@" and "%d" replaced, in order, by `values`. A value that itself
 /// contains one is not filled again; placeholders without a value stay.
 QString filled(const QString &text, const QStringList &values);

@@ -48,18 +48,19 @@ constexpr Texts giveRandomBy{
     QT_TRANSLATE_NOOP("Quillon", "On an unknown network, give %@ a random address by %@ once."),
     QT_TRANSLATE_NOOP("Quillon", "At login, give %@ a random address by %@."),
 };
+/// The English for one minute of the next ones.
 constexpr Texts giveEveryMinute{
-    QT_TRANSLATE_NOOP("Quillon", "On %@, give %@ a new random address every minute."),
-    QT_TRANSLATE_NOOP("Quillon", "On any network, give %@ a new random address every minute."),
-    QT_TRANSLATE_NOOP(
-        "Quillon", "On an unknown network, give %@ a new random address every minute."),
+    "On %@, give %@ a new random address every minute.",
+    "On any network, give %@ a new random address every minute.",
+    "On an unknown network, give %@ a new random address every minute.",
     "", // a login rule acts once
 };
 constexpr Texts giveEvery{
-    QT_TRANSLATE_NOOP("Quillon", "On %@, give %@ a new random address every %@ minutes."),
-    QT_TRANSLATE_NOOP("Quillon", "On any network, give %@ a new random address every %@ minutes."),
-    QT_TRANSLATE_NOOP(
-        "Quillon", "On an unknown network, give %@ a new random address every %@ minutes."),
+    QT_TRANSLATE_N_NOOP("Quillon", "On %@, give %@ a new random address every %n minutes."),
+    QT_TRANSLATE_N_NOOP(
+        "Quillon", "On any network, give %@ a new random address every %n minutes."),
+    QT_TRANSLATE_N_NOOP(
+        "Quillon", "On an unknown network, give %@ a new random address every %n minutes."),
     "",
 };
 constexpr Texts giveAddress{
@@ -141,11 +142,9 @@ QString ruleSentence(const RuleValues &rule, const RuleNames &names)
         return say(giveAddress);
     }
     if (!rule.isLogin && rule.changeAction == Rule::every) {
-        if (rule.timerMins == 1) {
-            return say(giveEveryMinute);
-        }
-        values << QString::number(rule.timerMins);
-        return say(giveEvery);
+        const auto place = static_cast<std::size_t>(when);
+        return filled(
+            localized(giveEveryMinute.at(place), giveEvery.at(place), rule.timerMins), values);
     }
     const QString vendor = vendorName(rule.vendor);
     if (vendor.isEmpty()) {

@@ -63,8 +63,9 @@ void VendorCount::updateVendorCount()
             m_settings.get(keys::vendorIDUpdatedDate).typeId() == QMetaType::QString;
         const QString before = storedUpdateDate(m_settings);
         const QString kept = isText ? before.section(u'(', 0, 0) : before;
-        const QString note =
-            filled(localized("%@ (added %@ new Identifiers)"), {kept, QString::number(added)});
+        const QString note = filled(
+            localized("%@ (added %@ new Identifiers)", "%@ (added %@ new Identifiers)", added),
+            {kept, QString::number(added)});
         m_settings.set(keys::vendorIDUpdatedDate, note);
         onMain([note](VendorCount &that) { Q_EMIT that.additionNoted(note); });
     }

@@ -3,7 +3,9 @@
 #include "face/FaceLook.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFontDatabase>
+#include <QRegularExpression>
 
 namespace quillon::test {
 
@@ -45,10 +47,17 @@ QString DressedApplication::WordyLanguage::translate(
         }
         longer += word + growth(word) + character;
         word.clear();
-        isPlaceholder = character == u'%';
+        isPlaceholder = character == u'%' || (isPlaceholder && character == u'L');
     }
     longer.chop(1);
     return longer;
+}
+
+QStringList spokenLanguages()
+{
+    QStringList languages = QDir(u":/translations"_s).entryList();
+    languages.replaceInStrings(QRegularExpression(u"^quillon_|\\.qm$"_s), QString());
+    return languages;
 }
 
 DressedApplication::DressedApplication(const FaceLook &look)

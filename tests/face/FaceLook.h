@@ -6,6 +6,7 @@
 #include "platform/desktop/AppearanceSource.h"
 
 #include <QFont>
+#include <QStringList>
 #include <QTranslator>
 
 #include <optional>
@@ -22,6 +23,9 @@ struct FaceLook
     bool mirrored = false;
     QString language = {}; ///< one that the program speaks; none is English
 };
+
+/// Those that the program has tables of, all but English.
+QStringList spokenLanguages();
 
 /// The application in that look, for as long as this exists; windows are made meanwhile.
 class DressedApplication

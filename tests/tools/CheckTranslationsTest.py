@@ -25,13 +25,19 @@ class CheckTranslationsTest(SourceCheckTest):
         self.write(file, "namespace quillon {", "void Window::show()", "{", *lines, "}", "}")
 
     def table(self, **unfinished):
-        messages = [f"<message><source>{escape(text)}</source>"
-                    f"<translation{' type=%s' % repr('unfinished') if text in unfinished else ''}>"
-                    f"{escape(translation)}</translation></message>"
-                    for text, translation in self.texts.items()]
+        messages = [self.message(text, translation, text in unfinished) for text, translation in self.texts.items()]
         self.write(TABLE, '<?xml version="1.0" encoding="utf-8"?>', "<!DOCTYPE TS>",
                    '<TS version="2.1" language="de" sourcelanguage="en">', "<context><name>Quillon</name>",
                    *messages, "</context></TS>")
+
+    @staticmethod
+    def message(text, translation, is_unfinished):
+        """A list is what is said for each number."""
+        is_counted = isinstance(translation, list)
+        forms = "".join(f"<numerusform>{escape(form)}</numerusform>" for form in translation) if is_counted else ""
+        return (f"<message{' numerus=%s' % repr('yes') if is_counted else ''}><source>{escape(text)}</source>"
+                f"<translation{' type=%s' % repr('unfinished') if is_unfinished else ''}>"
+                f"{forms or escape(translation)}</translation></message>")
 
     def translate(self, text, translation):
         """Both in the source and in the table."""
@@ -91,6 +97,64 @@ class CheckTranslationsTest(SourceCheckTest):
                 self.texts = {"Address": "Adresse"}
                 self.translate(text, translation)
                 self.assertEqual(self.problems(), [f"{TABLE}: {problem}: {text!r} → {translation!r}"])
+
+    def count(self, *forms, text="%Ln rules"):
+        """The forms of a text that a number changes, in the source and in the table."""
+        self.source('localized("Address");', f'filled(localized("one", "{text}", rules.size()), list);')
+        self.texts[text] = list(forms)
+        self.table()
+
+    def test_says_nothing_of_forms_that_fit(self):
+        self.count("%Ln Regel", "%Ln Regeln")
+        self.assertEqual(self.problems(), [])
+        self.count("Regel", "%Ln Regeln")
+        self.assertEqual(self.problems(), [])
+        self.count("%@: eine von %@", "%@: %n von %@", text="%@: %n of %@")
+        self.assertEqual(self.problems()[-1:], [f"{TABLE}: unused: '%Ln rules'"])
+
+    def test_finds_a_text_without_forms_wherever_it_stands(self):
+        self.source('localized("Address");', 'localized("one"', '    " of %@",', '    "%n "', '    "of %@", count(a, b));',
+                    'const char *c = QT_TRANSLATE_N_NOOP("Quillon", "%n marked");', 'localized("Name");')
+        self.assertEqual(self.problems(), [
+            "src/ui/Window.cpp:5: not in translations/quillon_de.ts: '%n of %@'",
+            "src/ui/Window.cpp:9: not in translations/quillon_de.ts: '%n marked'",
+            "src/ui/Window.cpp:10: not in translations/quillon_de.ts: 'Name'"])
+
+    def test_finds_a_form_that_is_hidden_in_an_expression(self):
+        self.source('localized("Address");', 'localized("one", isNew ? "new" : "old", 3);')
+        self.assertEqual(self.problems(), [
+            "src/ui/Window.cpp:5: a text within an expression, which lupdate does not see: "
+            "localized(\"one\", isNew ? \"new\" : \"old\", 3)"])
+
+    def test_finds_forms_that_do_not_fit(self):
+        self.count("%Ln Regel", "")
+        self.assertEqual(self.problems(), [f"{TABLE}: unfinished: '%Ln rules'"])
+        for form, problem in (("%n Regeln", "other placeholders"), ("%Ln Regeln %@", "other placeholders"),
+                              ("Regeln…", "other ellipses at the end"), ('%Ln "Regeln"', "straight quotation marks")):
+            with self.subTest(form):
+                self.count("Regel", form)
+                self.assertEqual(self.problems(), [f"{TABLE}: {problem}: '%Ln rules' → {form!r}"])
+
+    def test_finds_another_number_of_forms(self):
+        reason = "other plural forms than the text and the language have"
+        for forms in (["Regel"], ["Regel", "%Ln Regeln", "%Ln Regeln"]):
+            with self.subTest(forms):
+                self.count(*forms)
+                self.assertEqual(self.problems(), [f"{TABLE}: {reason}: '%Ln rules'"])
+        self.texts["%Ln rules"] = "%Ln Regeln"
+        self.table()
+        self.assertEqual(self.problems(), [f"{TABLE}: {reason}: '%Ln rules'"])
+
+    def test_knows_how_many_forms_a_language_has(self):
+        forms = {"ja": 1, "zh_CN": 1, "de": 2, "fr": 2, "es": 2, "pt_BR": 2, "ar": 6}
+        os.remove(os.path.join(self.folder.name, TABLE))
+        for language, number in forms.items():
+            self.count(*["%Ln x"] * number)
+            with open(os.path.join(self.folder.name, TABLE)) as table:
+                content = table.read().replace('language="de"', f'language="{language}"')
+            os.remove(os.path.join(self.folder.name, TABLE))
+            self.write(f"translations/quillon_{language}.ts", content)
+        self.assertEqual(self.problems(), [])
 
     def test_looks_at_every_table(self):
         with open(os.path.join(self.folder.name, TABLE)) as table:

@@ -9,8 +9,6 @@
 #include "presentation/history/HistoryMoment.h"
 #include "store/graph/FetchFailure.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <utility>
 
@@ -46,8 +44,8 @@ HistoryController::HistoryController(const Parts &parts)
     connect(
         &m_selection, &HistorySelection::progressChanged, this, &HistoryController::refreshWork);
     connect(&m_selection, &HistorySelection::cutAt, this, [this](qsizetype count) {
-        Q_EMIT said(
-            filled(localized("%@ were saved. Save again for more."), {QLocale().toString(count)}));
+        Q_EMIT said(localized(
+            "%Ln was saved. Save again for more.", "%Ln were saved. Save again for more.", count));
     });
     connect(&m_selection, &HistorySelection::failed, this,
         [this] { fail(localized("The records could not be read.")); });
@@ -58,7 +56,7 @@ HistoryController::HistoryController(const Parts &parts)
     connect(&m_export, &HistoryExport::cancelled, this, endExport);
     connect(&m_export, &HistoryExport::written, this, [this, endExport](qsizetype count) {
         endExport();
-        Q_EMIT said(filled(localized("%@ exported"), {recordsText(count)}));
+        Q_EMIT said(localized("%Ln record exported", "%Ln records exported", count));
     });
     connect(&m_export, &HistoryExport::failed, this, [this, endExport](const QString &reason) {
         endExport();
@@ -238,7 +236,7 @@ QString HistoryController::detail() const
 {
     const qsizetype count = m_selection.count();
     if (count > 1) {
-        return filled(localized("%@ selected"), {recordsText(count)});
+        return localized("%Ln record selected", "%Ln records selected", count);
     }
     const auto records = m_selection.records(1);
     if (records.isEmpty()) {

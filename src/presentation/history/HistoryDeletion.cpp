@@ -5,10 +5,7 @@
 #include "base/Localized.h"
 #include "base/Log.h"
 #include "platform/desktop/AlertPresenter.h"
-#include "presentation/history/HistoryTexts.h"
 #include "store/RecordStore.h"
-
-#include <QLocale>
 
 namespace quillon {
 
@@ -16,8 +13,7 @@ namespace {
 
 QString deletedText(qsizetype count)
 {
-    return count == 1 ? localized("Record deleted")
-                      : filled(localized("%@ records deleted"), {QLocale().toString(count)});
+    return localized("Record deleted", "%Ln records deleted", count);
 }
 
 } // namespace
@@ -75,7 +71,7 @@ void HistoryDeletion::removeForGood(const QList<qint64> &keys)
     constexpr int deleteButton = 0;
     constexpr int cancelButton = 1;
     const int answer =
-        m_alerts.runModal({filled(localized("Delete %@?"), {recordsText(keys.size())}),
+        m_alerts.runModal({localized("Delete %Ln record?", "Delete %Ln records?", keys.size()),
             localized("So many records at once cannot be brought back."),
             {localized("Delete"), localized("Cancel")}, cancelButton});
     // The alert let time go by.

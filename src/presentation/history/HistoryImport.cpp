@@ -14,19 +14,14 @@ namespace quillon {
 
 namespace {
 
-QString number(qsizetype count)
-{
-    return QLocale().toString(count);
-}
-
 QString addressesText(qsizetype count)
 {
-    return count == 1 ? localized("1 address") : filled(localized("%@ addresses"), {number(count)});
+    return localized("%Ln address", "%Ln addresses", count);
 }
 
 QString networksText(qsizetype count)
 {
-    return count == 1 ? localized("1 network") : filled(localized("%@ networks"), {number(count)});
+    return localized("%Ln network", "%Ln networks", count);
 }
 
 QString sentenceOf(qsizetype addresses, qsizetype networks)
@@ -35,10 +30,10 @@ QString sentenceOf(qsizetype addresses, qsizetype networks)
         return localized("Nothing in the history that is not saved.");
     }
     if (addresses == 0) {
-        return filled(localized("%@ added."), {networksText(networks)});
+        return localized("%Ln network added.", "%Ln networks added.", networks);
     }
     if (networks == 0) {
-        return filled(localized("%@ added."), {addressesText(addresses)});
+        return localized("%Ln address added.", "%Ln addresses added.", addresses);
     }
     return filled(
         localized("%@ and %@ added."), {addressesText(addresses), networksText(networks)});
@@ -74,7 +69,7 @@ void HistoryImport::take(const KnownPlaces::Found &found)
     const qsizetype networks = add(keys::savedNetworks, found.networks, &SavedEntry::bssid);
     const QString sentence = sentenceOf(addresses, networks);
     tell(found.hasMore ? filled(localized("%@ These are the newest %@; import again for more."),
-                             {sentence, number(KnownPlaces::most)})
+                             {sentence, QLocale().toString(KnownPlaces::most)})
                        : sentence);
 }
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/history/HistoryMoment.h"
 
+#include "base/Languages.h"
 #include "base/Localized.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 namespace quillon {
@@ -15,13 +15,12 @@ namespace {
 
 QString timeText(const QTime &time)
 {
-    const QLocale locale;
-    QString format = locale.timeFormat(QLocale::ShortFormat);
+    QString format = QLocale().timeFormat(QLocale::ShortFormat);
     // Seconds, which some locales have even in the short form, tell nobody anything here.
     static const QRegularExpression seconds(u"[^A-Za-z']*ss?"_s);
     format.remove(seconds);
     constexpr QChar narrowSpace = u'\u202F';
-    return locale.toString(time, format.replace(narrowSpace, u' '));
+    return textLocale().toString(time, format.replace(narrowSpace, u' '));
 }
 
 } // namespace
@@ -41,14 +40,20 @@ QString momentText(const QDateTime &moment, const QDateTime &now)
         return filled(localized("Yesterday %@"), {time});
     }
     // How a day is written; the letters are those of QDate::toString().
-    const QString day = QLocale().toString(local.date(), localized("MMM d, yyyy"));
+    const QString day = textLocale().toString(local.date(), localized("MMM d, yyyy"));
     return filled(localized("%@ %@"), {day, time});
 }
 
 QString momentInFull(const QDateTime &moment)
 {
-    return moment.isValid() ? QLocale().toString(moment.toLocalTime(), QLocale::LongFormat)
-                            : QString();
+    if (!moment.isValid()) {
+        return {};
+    }
+    const QDateTime local = moment.toLocalTime();
+    const QLocale words = textLocale();
+    return filled(
+        u"%@ %@"_s, {words.toString(local.date(), QLocale::LongFormat),
+                        words.toString(local, QLocale().timeFormat(QLocale::LongFormat))});
 }
 
 QDateTime nextMidnight(const QDateTime &now)

@@ -7,7 +7,8 @@
 
 namespace quillon {
 
-// Moments as people say them, in the user's time zone and locale.
+// Moments as people say them, in the user's time zone, in the words of the language that the texts
+// have, with hours as the user's locale counts them.
 
 /// "Today 14:02", "Yesterday 18:47", "Nov 19, 2026 08:01", as seen from `now`; empty for none.
 QString momentText(const QDateTime &moment, const QDateTime &now);

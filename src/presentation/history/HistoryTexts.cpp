@@ -63,15 +63,13 @@ QString sentenceOf(const Connection &record, const QString &address)
 
 QString recordsText(qint64 count)
 {
-    return count == 1 ? localized("1 record")
-                      : filled(localized("%@ records"), {QLocale().toString(count)});
+    return localized("%Ln record", "%Ln records", count);
 }
 
 QString recordsText(qint64 count, qint64 of)
 {
-    return of == 1 ? filled(localized("%@ of 1 record"), {QLocale().toString(count)})
-                   : filled(localized("%@ of %@ records"),
-                         {QLocale().toString(count), QLocale().toString(of)});
+    return filled(
+        localized("%@ of %Ln record", "%@ of %Ln records", of), {QLocale().toString(count)});
 }
 
 } // namespace quillon

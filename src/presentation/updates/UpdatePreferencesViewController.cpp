@@ -3,6 +3,7 @@
 #include "presentation/updates/UpdatePreferencesViewController.h"
 
 #include "base/DateStamp.h"
+#include "base/Languages.h"
 #include "base/Localized.h"
 #include "updates/Updater.h"
 
@@ -61,9 +62,10 @@ QString absenceText(bool isLeftToSystem)
 
 QString lastCheckText(const QDateTime &moment)
 {
-    return moment.isValid() ? filled(localized("Last checked: %@"),
-                                  {mediumDateShortTime(moment.toLocalTime(), QLocale())})
-                            : localized("Not checked yet.");
+    return moment.isValid()
+               ? filled(localized("Last checked: %@"),
+                     {mediumDateShortTime(moment.toLocalTime(), textLocale(), QLocale())})
+               : localized("Not checked yet.");
 }
 
 } // namespace

@@ -22,7 +22,8 @@ QString megabytes(qint64 bytes)
 
 QString countText(qlonglong count)
 {
-    return filled(localized("%@ Vendor Identifiers"), {QString::number(count)});
+    return filled(localized("%@ Vendor Identifiers", "%@ Vendor Identifiers", count),
+        {QString::number(count)});
 }
 
 void tell(VendorPaneModel::State &state, const QString &text)

@@ -13,8 +13,7 @@ DeletedRulesToast::DeletedRulesToast(RulesPreferencesViewController &editor, con
 {
     connect(&editor, &RulesPreferencesViewController::rulesDeleted, this,
         [this, &editor](qsizetype count) {
-            say(count == 1 ? localized("Rule deleted")
-                           : filled(localized("%d rules deleted"), {QString::number(count)}),
+            say(localized("Rule deleted", "%Ln rules deleted", count),
                 [&editor] { editor.restoreDeleted(); });
         });
     connect(&editor, &RulesPreferencesViewController::deletedForgotten, this, &Toast::dismiss);

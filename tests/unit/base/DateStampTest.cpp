@@ -28,6 +28,13 @@ TEST(DateStamp, HasAShortMonthNoWeekdayAndNoSeconds)
     EXPECT_EQ(stampIn("C"), "5 Nov 2026, 14:07"_L1);
 }
 
+TEST(DateStamp, HoursMayBeCountedAsElsewhere)
+{
+    const QDateTime moment(QDate(2026, 10, 5), QTime(14, 7, 59), Qt::UTC);
+    EXPECT_EQ(mediumDateShortTime(moment, QLocale(u"en_US"_s), QLocale(u"de_DE"_s)),
+        u"Oct 5, 2026, 14:07"_s);
+}
+
 TEST(DateStamp, NamesNoWeekdayInAnyLanguage)
 {
     for (const QLocale &locale :

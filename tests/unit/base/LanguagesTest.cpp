@@ -32,6 +32,11 @@ TEST(Languages, TheFirstThatThereIsATableForIsChosenAndEnglishNeedsNone)
         EXPECT_EQ(chosen({QString::fromLatin1(wanted)}), u"de"_s) << wanted;
     }
     EXPECT_EQ(chosen({u"tlh"_s, u"de-DE"_s, u"en"_s}), u"de"_s) << "the second, better than none";
+    EXPECT_EQ(chosen({u"pt-BR"_s}), u"pt_BR"_s);
+    for (const char *users : {"de_AT", "es_MX", "fr_CA", "pt_BR"}) {
+        const QString name = QString::fromLatin1(users);
+        EXPECT_TRUE(name.startsWith(chosen(QLocale(name).uiLanguages()))) << users;
+    }
     for (const char *english : {"en", "en-GB", "en_US", "en-Latn-US", "C"}) {
         EXPECT_EQ(chosen({QString::fromLatin1(english), u"de"_s}), u"en"_s) << english;
     }
@@ -47,6 +52,63 @@ TEST(Languages, BringQtsOwnTexts)
     EXPECT_EQ(cancel(), u"Cancel"_s);
     const UserLanguage german({u"de"_s});
     EXPECT_EQ(cancel(), u"Abbrechen"_s);
+}
+
+struct Counted
+{
+    const char *language;
+    qint64 count;
+    const char *expected;
+};
+
+void PrintTo(const Counted &counted, std::ostream *out)
+{
+    *out << counted.language << ", " << counted.count;
+}
+
+class LanguagesCountedTest : public ::testing::TestWithParam<Counted>
+{
+};
+
+TEST_P(LanguagesCountedTest, HasTheFormOfItsNumber)
+{
+    const UserLanguage language({QString::fromLatin1(GetParam().language)});
+    EXPECT_EQ(localized("Rule deleted", "%Ln rules deleted", GetParam().count),
+        QString::fromUtf8(GetParam().expected));
+}
+
+INSTANTIATE_TEST_SUITE_P(English, LanguagesCountedTest,
+    ::testing::Values(Counted{"en", 1, "Rule deleted"}, Counted{"en", 2, "2 rules deleted"}));
+INSTANTIATE_TEST_SUITE_P(German, LanguagesCountedTest,
+    ::testing::Values(Counted{"de", 0, "0 Regeln gelöscht"}, Counted{"de", 1, "Regel gelöscht"},
+        Counted{"de", 2, "2 Regeln gelöscht"}));
+INSTANTIATE_TEST_SUITE_P(Spanish, LanguagesCountedTest,
+    ::testing::Values(Counted{"es", 0, "0 reglas eliminadas"}, Counted{"es", 1, "Regla eliminada"},
+        Counted{"es", 2, "2 reglas eliminadas"}));
+// Nothing is singular there.
+INSTANTIATE_TEST_SUITE_P(French, LanguagesCountedTest,
+    ::testing::Values(Counted{"fr", 0, "Règle supprimée"}, Counted{"fr", 1, "Règle supprimée"},
+        Counted{"fr", 2, "2 règles supprimées"}));
+INSTANTIATE_TEST_SUITE_P(BrazilianPortuguese, LanguagesCountedTest,
+    ::testing::Values(
+        Counted{"pt_BR", 0, "Regra excluída"}, Counted{"pt_BR", 2, "2 regras excluídas"}));
+
+TEST(Languages, DatesAreInTheirWords)
+{
+    const QLocale locale;
+    const QByteArray before = qgetenv("LC_TIME");
+    const QByteArray all = qgetenv("LC_ALL");
+    qunsetenv("LC_ALL");
+    qputenv("LC_TIME", "de_AT.UTF-8");
+    QLocale::setDefault(QLocale::system());
+    {
+        const UserLanguage german({u"de"_s});
+        EXPECT_EQ(textLocale(), QLocale(QLocale::German, QLocale::Austria));
+    }
+    EXPECT_EQ(textLocale().language(), QLocale::English);
+    QLocale::setDefault(locale);
+    before.isNull() ? qunsetenv("LC_TIME") : qputenv("LC_TIME", before);
+    all.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", all);
 }
 
 TEST(Languages, ATextIsFoundInEachOfThem)
@@ -70,7 +132,9 @@ TEST(Languages, WhatIsCutOutOfAStoredTextIsThereInEachOfThem)
 {
     // The note of new identifiers stands behind the date, which ends at its bracket.
     const UserLanguage german({u"de"_s});
-    EXPECT_TRUE(localized("%@ (added %@ new Identifiers)").startsWith("%@ ("_L1));
+    for (const qint64 added : {1, 2, 1000}) {
+        EXPECT_TRUE(localized("", "%@ (added %@ new Identifiers)", added).startsWith("%@ ("_L1));
+    }
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Languages.h"
 #include "base/Localized.h"
+#include "face/FaceLook.h"
 #include "unit/ui/UserInterfaceFixture.h"
 
 #include <QAbstractButton>
@@ -21,12 +22,12 @@ using ::testing::Each;
 using ::testing::SizeIs;
 
 /// The whole program with its windows, in a language.
-class LanguageTest : public UserInterfaceFixture, public ::testing::WithParamInterface<const char *>
+class LanguageTest : public UserInterfaceFixture, public ::testing::WithParamInterface<QString>
 {
 protected:
-    void runIn(const char *users)
+    void runIn(const QString &users)
     {
-        language.emplace(QStringList{QString::fromLatin1(users)});
+        language.emplace(QStringList{users});
         createWithWindows();
         startWithWindows();
         features().presence.openWindow();
@@ -85,34 +86,34 @@ TEST_P(LanguageTest, EveryMnemonicOfTheWindowLeadsToOneControl)
     EXPECT_EQ(texts.size(), 5) << "address, apply, randomize, vendor, install";
 }
 
-INSTANTIATE_TEST_SUITE_P(All, LanguageTest, ::testing::Values("en", "de"));
-
-TEST_F(LanguageTest, NoTextOfTheTableIsShownInEnglish)
+TEST_P(LanguageTest, NoTextOfTheTableIsShownInEnglish)
 {
-    runIn("de");
+    runIn(GetParam());
     features().statusMenu.menuWillOpen();
     QStringList seen;
     forEachText([&seen](const char *what, const QString &text) {
         EXPECT_EQ(text, localized(text)) << what;
         seen.append(text);
     });
-    EXPECT_THAT(seen, Contains(u"A&dresse"_s));
-    EXPECT_THAT(seen, Contains(u"Schnittstelle"_s));
-    EXPECT_THAT(seen, Contains(u"&Zufällig ändern"_s));
-    EXPECT_THAT(seen, Contains(u"Quillon beenden"_s));
+    for (const char *text : {"A&ddress", "Interface", "&Randomize", "Quit Quillon"}) {
+        EXPECT_THAT(seen, Contains(localized(text)));
+    }
 }
 
-TEST_F(LanguageTest, MenusLeadToTheirInterfaces)
+TEST_P(LanguageTest, MenusLeadToTheirInterfaces)
 {
-    runIn("de");
+    runIn(GetParam());
     features().statusMenu.menuWillOpen();
     const auto &entries = features().statusMenu.entries();
+    const auto titleOf = [](const char *text) {
+        return filled(localized(text), {u"    "_s, QString()});
+    };
     const auto current = std::ranges::find_if(entries, [&](const MenuEntry &entry) {
-        return entry.title.startsWith(u"    Aktuelle Adresse · "_s) &&
+        return entry.title.startsWith(titleOf("%@Current Address · %@")) &&
                entry.title.endsWith(factory[enp2s0], Qt::CaseInsensitive);
     });
     ASSERT_NE(current, entries.end()) << menuTitles().join(u'\n').toStdString();
-    ASSERT_EQ(current->submenu.at(0).title, u"Zufällig ändern"_s);
+    ASSERT_EQ(current->submenu.at(0).title, localized("Randomize"));
     const int row = static_cast<int>(current - entries.begin());
     features().statusMenu.activate({row, 0});
     machine.scheduler.advance(std::chrono::seconds(2));
@@ -120,11 +121,29 @@ TEST_F(LanguageTest, MenusLeadToTheirInterfaces)
     EXPECT_FALSE(isChanged(enp1s0));
 
     features().statusMenu.menuWillOpen();
-    ASSERT_TRUE(menuTitles().at(row - 1).startsWith(u"    Hardware-Adresse · "_s));
+    ASSERT_TRUE(menuTitles().at(row - 1).startsWith(titleOf("%@Hardware Address · %@")));
     features().statusMenu.activate({row - 1, 0});
     machine.scheduler.advance(std::chrono::seconds(2));
     EXPECT_FALSE(isChanged(enp2s0));
 }
+
+TEST_P(LanguageTest, RulesOfItsFileActInAnotherLanguage)
+{
+    QVariantMap rule = randomOnce(enp1s0, u"on any network"_s);
+    rule[model::rule::address] = [] {
+        const UserLanguage ofTheFile({GetParam()});
+        return localized("Random Address");
+    }();
+    saveRule(rule);
+    runIn(GetParam() == u"de"_s ? u"en"_s : u"de"_s);
+    EXPECT_TRUE(isChanged(enp1s0));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, LanguageTest,
+    ::testing::ValuesIn(QStringList{u"en"_s} + spokenLanguages()),
+    [](const ::testing::TestParamInfo<QString> &info) {
+        return QString(info.param).remove(u'_').toStdString();
+    });
 
 TEST_F(LanguageTest, AnInterfaceHasOneNameInWindowMenuAndMessages)
 {
@@ -132,7 +151,7 @@ TEST_F(LanguageTest, AnInterfaceHasOneNameInWindowMenuAndMessages)
     const QString factoryAddress = u"3c:22:fb:00:00:03"_s;
     machine.host.plug({u"Wi-Fi"_s, radio, factoryAddress, factoryAddress, {}});
     setDeviceRecord(radio, record::localizedInterface, u"Réseau sans fil"_s);
-    runIn("de");
+    runIn(u"de"_s);
     select(radio);
     EXPECT_EQ(window().interfaceName, u"WLAN"_s);
     EXPECT_THAT(menuTitles(), Contains(u"WLAN · wlp3s0"_s));
@@ -147,7 +166,7 @@ TEST_F(LanguageTest, AnInterfaceHasOneNameInWindowMenuAndMessages)
 TEST_F(LanguageTest, RulesOfAnEnglishFileActInGerman)
 {
     saveRule(randomOnce(enp1s0, u"on any network"_s));
-    runIn("de");
+    runIn(u"de"_s);
     EXPECT_TRUE(isChanged(enp1s0)) << "“Any Network” and “Random Address” stand in the file";
     EXPECT_FALSE(isChanged(enp2s0));
 }
@@ -157,7 +176,7 @@ TEST_F(LanguageTest, RulesOfAGermanFileActInEnglish)
     QVariantMap rule = randomOnce(enp1s0, u"on any network"_s);
     rule[model::rule::address] = u"Zufällige Adresse"_s;
     saveRule(rule);
-    runIn("en");
+    runIn(u"en"_s);
     EXPECT_TRUE(isChanged(enp1s0));
 }
 
@@ -165,7 +184,7 @@ TEST_F(LanguageTest, SettingsOfAnEnglishUserAreShownInGerman)
 {
     setDeviceRecord(enp1s0, record::vendor, u"Random Address"_s);
     machine.settings.set(keys::externalIPAddress, u"Unknown..."_s);
-    runIn("de");
+    runIn(u"de"_s);
     EXPECT_EQ(features().vendors.choice.shownChoice(enp1s0), u"Zufällige Adresse"_s);
     EXPECT_EQ(features().vendors.field.state().text, u"Zufällige Adresse"_s);
     EXPECT_EQ(features().networks.externalAddressShown.text(), u"Unbekannt..."_s);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "presentation/history/HistoryMoment.h"
 
+#include "base/Languages.h"
 #include "fakes/QtPrinting.h"
 
 #include <QLocale>
@@ -75,6 +76,25 @@ TEST_F(HistoryMomentTest, TheLocaleSaysHowHoursAreCounted)
     QLocale::setDefault(QLocale::c());
     EXPECT_EQ(momentText(at(u"2026-11-23T08:02:00Z"_s), now), u"Today 08:02"_s)
         << "its short form has seconds";
+}
+
+TEST_F(HistoryMomentTest, ASentenceHasTheMonthNamesOfItsLanguage)
+{
+    const QDateTime october = at(u"2026-10-21T14:02:00Z"_s);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(momentText(october, now), u"Oct 21, 2026 14:02"_s) << "English texts, German formats";
+    EXPECT_TRUE(momentInFull(october).startsWith(u"Wednesday, October 21, 2026 14:02:00"_s))
+        << momentInFull(october).toStdString();
+    const UserLanguage german({u"de"_s});
+    EXPECT_EQ(momentText(october, now), u"21. Okt. 2026 14:02"_s);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
+    EXPECT_EQ(momentText(at(u"2026-01-05T08:01:00Z"_s), now), u"5. Jän. 2026 08:01"_s)
+        << "the language as it is written there";
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    EXPECT_EQ(momentText(october, now), u"21. Okt. 2026 2:02 PM"_s);
+    EXPECT_EQ(momentText(at(u"2026-11-23T14:02:00Z"_s), now), u"Heute 2:02 PM"_s);
+    EXPECT_TRUE(momentInFull(october).startsWith(u"Mittwoch, 21. Oktober 2026 2:02:00"_s))
+        << momentInFull(october).toStdString();
 }
 
 TEST_F(HistoryMomentTest, InFullItHasDayAndSeconds)
