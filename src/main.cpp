@@ -67,6 +67,10 @@ int main(int argc, char **argv)
     }
     QApplication application(argc, argv);
     const UserLanguage language(QLocale::system().uiLanguages());
+    // Qt turns the windows by itself only where its own translations are installed.
+    if (language.isRightToLeft()) {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+    }
     WindowPreload windowPreload;
     describe(application);
 

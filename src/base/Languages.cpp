@@ -47,10 +47,14 @@ QLocale localeOfDates()
     return QLocale::c();
 }
 
-/// "de-Latn-AT": the table of de_Latn_AT, else of de_Latn, else of de.
+/// "de-Latn-AT": the table of de_Latn_AT, else of de_Latn, else of de. Simplified Chinese is one
+/// language in every country.
 QString tableNameFor(QString language)
 {
     language.replace(u'-', u'_');
+    if (language == "zh_Hans"_L1 || language.startsWith("zh_Hans_"_L1)) {
+        language = u"zh_CN"_s;
+    }
     while (!language.isEmpty() && !QFile::exists(tableOf(language))) {
         language.truncate(std::max<qsizetype>(language.lastIndexOf(u'_'), 0));
     }
@@ -99,6 +103,11 @@ UserLanguage::~UserLanguage()
     QCoreApplication::removeTranslator(&m_own);
     QCoreApplication::removeTranslator(&m_ofQt);
     currentName() = m_before;
+}
+
+bool UserLanguage::isRightToLeft() const
+{
+    return QLocale(m_name).textDirection() == Qt::RightToLeft;
 }
 
 QLocale textLocale()

@@ -24,6 +24,8 @@ public:
 
     /// As the table's file has it: "de", "pt_BR"; "en" without a table.
     const QString &name() const { return m_name; }
+    /// Whether its windows are to be mirrored. Of English only the system knows.
+    bool isRightToLeft() const;
 
 private:
     const QString m_name;

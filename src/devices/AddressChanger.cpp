@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "devices/AddressChanger.h"
 
+#include "base/Isolates.h"
 #include "base/NotificationNames.h"
 #include "base/SettingsKeys.h"
 #include "devices/AddressText.h"
@@ -40,7 +41,8 @@ QString valueInTitle(const MenuItem *item)
         return {};
     }
     const qsizetype separator = item->title().indexOf(titleSeparator);
-    return separator < 0 ? item->title() : item->title().mid(separator + titleSeparator.size());
+    return withoutIsolates(
+        separator < 0 ? item->title() : item->title().mid(separator + titleSeparator.size()));
 }
 
 const MenuItem *itemAboveParent(const MenuItem &sender, int places)

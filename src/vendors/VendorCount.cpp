@@ -3,6 +3,7 @@
 #include "vendors/VendorCount.h"
 
 #include "base/DurableFolder.h"
+#include "base/Isolates.h"
 #include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "platform/Scheduler.h"
@@ -63,9 +64,9 @@ void VendorCount::updateVendorCount()
             m_settings.get(keys::vendorIDUpdatedDate).typeId() == QMetaType::QString;
         const QString before = storedUpdateDate(m_settings);
         const QString kept = isText ? before.section(u'(', 0, 0) : before;
-        const QString note = filled(
+        const QString note = withoutIsolates(filled(
             localized("%@ (added %@ new Identifiers)", "%@ (added %@ new Identifiers)", added),
-            {kept, QString::number(added)});
+            {kept, QString::number(added)}));
         m_settings.set(keys::vendorIDUpdatedDate, note);
         onMain([note](VendorCount &that) { Q_EMIT that.additionNoted(note); });
     }

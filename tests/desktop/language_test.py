@@ -53,6 +53,35 @@ class GermanTest(ProgramTest):
         wait_until(lambda: self.program.poll() is not None, "it went on")
 
 
+class ArabicTest(ProgramTest):
+    """From right to left, but for addresses."""
+
+    def setUp(self):
+        self.addresses = kernel_addresses()
+        self.program = start(LANGUAGE="ar")
+        self.addCleanup(self.end_program)
+        self.window = accessibility.window(NAME, TITLE)
+        self.field = self.window.find("entry", "العنوان")
+        wait_until(lambda: self.field.text, "the window showed no address")
+        wait_until(lambda: self.field.focused, "the window did not get the keyboard")
+
+    def test_the_window_is_mirrored(self):
+        field = self.field.extents[0]
+        button = self.window.find("button", "تطبيق العنوان").extents[0]
+        self.assertLess(button, field, "what follows the field stands on its left")
+        self.assertIn(self.field.text, self.addresses.values(), "the address itself has no marks")
+
+    def test_the_menu_randomizes_and_restores(self):
+        current, factory = "    العنوان الحالي · ⁨%s⁩", "    عنوان العتاد · ⁨%s⁩"
+        item = trayclient.only_item()
+        before = self.addresses["enp2s0"]
+        item.click(current % before, "تغيير عشوائي")
+        new = self.expect_only_changed("enp2s0")
+        wait_until(lambda: current % new in item.menu_text(), "the menu kept the old address")
+        item.click(factory % before, "استعادة")
+        wait_until(lambda: kernel_addresses() == self.addresses, "the address was not restored")
+
+
 class EnglishFirstTest(unittest.TestCase):
     def test_english_needs_no_table(self):
         program = start(LANGUAGE="en_GB:de")

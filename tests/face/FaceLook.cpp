@@ -65,10 +65,11 @@ DressedApplication::DressedApplication(const FaceLook &look)
     , m_direction(QApplication::layoutDirection())
 {
     QApplication::setFont(textFont(look.textScale));
-    QApplication::setLayoutDirection(look.mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     if (!look.language.isEmpty()) {
         m_language.emplace(QStringList{look.language});
     }
+    const bool isMirrored = look.mirrored || (m_language && m_language->isRightToLeft());
+    QApplication::setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
     if (look.wordy) {
         QCoreApplication::installTranslator(&m_wordyLanguage);
     }

@@ -40,7 +40,7 @@ void say(const QString &text)
     QTextStream(stdout) << text << Qt::endl;
 }
 
-FaceLook lookOf(const QStringList &arguments)
+FaceLook lookOf(const QStringList &arguments, const UserLanguage &language)
 {
     return {.name = {},
         .appearance = {.scheme =
@@ -49,7 +49,7 @@ FaceLook lookOf(const QStringList &arguments)
             .isStill = true},
         .textScale = arguments.contains(u"--large-text"_s) ? 2 : 1,
         .wordy = arguments.contains(u"--wordy"_s),
-        .mirrored = arguments.contains(u"--mirrored"_s)};
+        .mirrored = arguments.contains(u"--mirrored"_s) || language.isRightToLeft()};
 }
 
 bool isExposed(const QWidget *window)
@@ -135,7 +135,7 @@ int main(int argc, char **argv)
     const UserLanguage language(QLocale::system().uiLanguages());
     // A cursor that blinks is there or not, as it happens.
     QApplication::setCursorFlashTime(0);
-    const FaceLook look = lookOf(arguments);
+    const FaceLook look = lookOf(arguments, language);
     const DressedApplication dressed(look);
     if (arguments.contains(u"--announcements"_s)) {
         listenToAnnouncements([](const QString &text) { say(u"announced "_s + text); });

@@ -156,6 +156,36 @@ class CheckTranslationsTest(SourceCheckTest):
             self.write(f"translations/quillon_{language}.ts", content)
         self.assertEqual(self.problems(), [])
 
+    def test_finds_what_is_not_as_the_language_wants_it(self):
+        def write(language, text, translation):
+            self.texts = {"Address": "x", text: translation}
+            self.source('localized("Address");', f'localized("{text}");')
+            self.table()
+            with open(os.path.join(self.folder.name, TABLE), encoding="utf-8") as table:
+                content = table.read().replace('language="de"', f'language="{language}"')
+            self.write(TABLE, content)
+
+        mnemonic = "a mnemonic that is not “(&X)” at the end"
+        bare = "a placeholder that is not between U+2068 and U+2069"
+        begins = "begins left to right: put U+200F before it"
+        for language, text, translation, problem in (
+                ("ja", "&Apply", "適用(&A)", None), ("zh_CN", "&Open…", "打开(&O)…", None),
+                ("ja", "&Apply", "&適用", mnemonic), ("zh_CN", "&Apply", "应(&A)用", mnemonic),
+                ("de", "&Apply", "&Anwenden", None), ("ar", "&Apply", "&تطبيق", None),
+                ("ar", "Rule %@", "قاعدة \u2068%@\u2069", None), ("de", "Rule %@", "Regel %@", None),
+                ("ar", "Rule %@", "قاعدة %@", bare), ("ar", "Rule %@", "قاعدة \u2068%@", bare),
+                ("ar", "%@Current · %@", "%@الحالي · \u2068%@\u2069", None),
+                ("ar", "%@Current · %@", "%@الحالي · %@", bare),
+                ("ar", "%Ln rules", "%Ln قواعد", None),
+                ("ar", "Quit Quillon", "Quillon: إنهاء", begins), ("ar", "Quit Quillon", "\u200fQuillon: إنهاء", None),
+                ("ar", "%@ is new", "\u2068%@\u2069 جديد", None), ("ar", "MAC", "MAC", None),
+                ("ar", "%@: %@", "\u2068%@\u2069: \u2068%@\u2069", begins),
+                ("ar", "%@: %@", "\u200f\u2068%@\u2069: \u2068%@\u2069", None)):
+            with self.subTest(language + " " + translation):
+                write(language, text, translation)
+                expected = [f"{TABLE}: {problem}: {text!r} → {translation!r}"] if problem else []
+                self.assertEqual(self.problems(), expected)
+
     def test_looks_at_every_table(self):
         with open(os.path.join(self.folder.name, TABLE)) as table:
             self.write("translations/quillon_fr.ts", table.read().replace("Address", "Adress"))

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/preferences/AdvancedPreferencesView.h"
 
+#include "base/Isolates.h"
 #include "base/Localized.h"
 #include "presentation/preferences/AdvancedPreferencesViewController.h"
 #include "presentation/preferences/BoundSetting.h"
@@ -94,7 +95,8 @@ void AdvancedPreferencesView::addHelper(QVBoxLayout &card)
 
 void AdvancedPreferencesView::addMinutes(QVBoxLayout &card)
 {
-    const QString sentence = localized("Repeat every %@ minutes by default");
+    // Its two halves are texts of their own.
+    const QString sentence = withoutIsolates(localized("Repeat every %@ minutes by default"));
     m_minutes->setObjectName(u"defaultTimerMinutes"_s);
     m_minutes->setProperty("look", u"field"_s);
     m_minutes->setAccessibleName(filled(sentence, {u"\u2026"_s}));

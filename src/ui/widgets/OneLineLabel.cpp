@@ -11,6 +11,17 @@
 
 namespace quillon {
 
+namespace {
+
+/// As much of a plain line as there is room for: an isolate may have lost its end by that, which
+/// the end of the text is as well.
+QString shownText(const QLabel &label, const QString &line, Qt::TextElideMode leftOut, int room)
+{
+    return label.fontMetrics().elidedText(line, leftOut, room);
+}
+
+} // namespace
+
 OneLineLabel::OneLineLabel(Qt::TextElideMode leftOut, QWidget *parent)
     : QWidget(parent)
     , m_label(plainLabel())
@@ -41,7 +52,7 @@ void OneLineLabel::fit()
     m_label->setAlignment(
         Qt::AlignAbsolute | Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     const QString line = plainEntry(m_line);
-    m_label->setText(plainEntry(m_label->fontMetrics().elidedText(line, m_leftOut, width())));
+    m_label->setText(shownText(*m_label, line, m_leftOut, width()));
     m_label->setAccessibleName(line);
     followHeight();
 }

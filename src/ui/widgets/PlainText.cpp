@@ -3,6 +3,7 @@
 #include "ui/widgets/PlainText.h"
 
 #include "base/CutText.h"
+#include "base/Isolates.h"
 
 #include <QLabel>
 #include <QTextBoundaryFinder>
@@ -24,11 +25,12 @@ constexpr QChar zeroWidthSpace = u'\u200B';
 /// A longer tool tip is broken into lines, which only HTML can.
 constexpr qsizetype widestToolTip = 160;
 
-/// Embeddings, overrides and isolates: they turn round what stands after the text as well.
+/// Embeddings, overrides and isolates: they turn round what stands after the text as well, except
+/// an isolate that ends by itself, whatever is in it.
 bool turnsTextRound(QChar character)
 {
     const char16_t code = character.unicode();
-    return (code >= u'\u202A' && code <= u'\u202E') || (code >= u'\u2066' && code <= u'\u2069');
+    return (code >= u'\u202A' && code <= u'\u202E') || code == u'\u2066' || code == u'\u2067';
 }
 
 bool breaksLine(QChar character)
@@ -39,6 +41,10 @@ bool breaksLine(QChar character)
 
 QString clean(QString text, bool keepLineBreaks)
 {
+    const auto halves = halfIsolates(text);
+    for (const qsizetype place : halves) {
+        text[place] = QChar::ReplacementCharacter;
+    }
     for (QChar &character : text) {
         if (turnsTextRound(character)) {
             character = QChar::ReplacementCharacter;
@@ -47,6 +53,17 @@ QString clean(QString text, bool keepLineBreaks)
         }
     }
     return text;
+}
+
+/// So many characters of it at most. What is cut out of an isolate no longer needs one.
+QString cutToRoom(const QString &text, qsizetype longest)
+{
+    QString cut = cutText(text, longest);
+    const auto halves = halfIsolates(cut);
+    for (auto place = halves.crbegin(); place != halves.crend(); ++place) {
+        cut.remove(*place, 1);
+    }
+    return cut;
 }
 
 /// What is no space and stands together, with places where it may be broken if it is long.
@@ -107,7 +124,7 @@ void showBroken(QLabel &label, const QString &text)
 
 QString plainLine(const QString &text)
 {
-    return cutText(clean(text, false), longestLine);
+    return cutToRoom(clean(text, false), longestLine);
 }
 
 QString plainEntry(const QString &text)
@@ -120,17 +137,17 @@ QString plainEntry(const QString &text)
     if (end.front().isLowSurrogate()) {
         end.remove(0, 1);
     }
-    return cutText(line, longestLine - end.size()) + end;
+    return withoutIsolates(cutText(line, longestLine - end.size()) + end);
 }
 
 QString plainParagraphs(const QString &text)
 {
-    return cutText(clean(text, true), longestMessage);
+    return cutToRoom(clean(text, true), longestMessage);
 }
 
 QString plainToolTip(const QString &text)
 {
-    const QString tip = cutText(clean(text, false), longestToolTip);
+    const QString tip = cutToRoom(clean(text, false), longestToolTip);
     const bool isLong = tip.size() > widestToolTip;
     if (!isLong && !Qt::mightBeRichText(tip)) {
         return tip;

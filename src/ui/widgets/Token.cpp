@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/widgets/Token.h"
 
+#include "base/Isolates.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/PlainText.h"
 
@@ -59,7 +60,7 @@ void Token::showToolTip()
     QStringList said{m_name};
     // Its name is not the whole story where it is not what it stands for.
     if (m_name != m_text) {
-        said.append(m_text);
+        said.append(isRightToLeft() ? isolated(m_text) : m_text);
     }
     if (!m_whyNot.isEmpty()) {
         said.append(m_whyNot);

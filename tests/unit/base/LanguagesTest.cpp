@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Languages.h"
 
+#include "base/Isolates.h"
 #include "base/Localized.h"
 
 #include <QCoreApplication>
@@ -37,6 +38,12 @@ TEST(Languages, TheFirstThatThereIsATableForIsChosenAndEnglishNeedsNone)
         const QString name = QString::fromLatin1(users);
         EXPECT_TRUE(name.startsWith(chosen(QLocale(name).uiLanguages()))) << users;
     }
+    for (const char *wanted : {"zh-CN", "zh-Hans-CN", "zh_Hans", "zh-Hans-SG"}) {
+        EXPECT_EQ(chosen({QString::fromLatin1(wanted)}), u"zh_CN"_s) << wanted;
+    }
+    for (const char *traditional : {"zh-TW", "zh-Hant-TW", "zh-Hant", "zh_HansX"}) {
+        EXPECT_EQ(chosen({QString::fromLatin1(traditional)}), u"en"_s) << traditional;
+    }
     for (const char *english : {"en", "en-GB", "en_US", "en-Latn-US", "C"}) {
         EXPECT_EQ(chosen({QString::fromLatin1(english), u"de"_s}), u"en"_s) << english;
     }
@@ -44,6 +51,14 @@ TEST(Languages, TheFirstThatThereIsATableForIsChosenAndEnglishNeedsNone)
         EXPECT_EQ(chosen({QString::fromLatin1(none)}), u"en"_s) << none;
     }
     EXPECT_EQ(chosen({}), u"en"_s);
+}
+
+TEST(Languages, KnowTheirDirection)
+{
+    EXPECT_TRUE(UserLanguage({u"ar-EG"_s}).isRightToLeft());
+    for (const QString &other : {u"de"_s, u"ja"_s, u"en"_s, u"he"_s}) {
+        EXPECT_FALSE(UserLanguage({other}).isRightToLeft()) << other.toStdString();
+    }
 }
 
 TEST(Languages, BringQtsOwnTexts)
@@ -111,15 +126,28 @@ TEST(Languages, DatesAreInTheirWords)
     all.isNull() ? qunsetenv("LC_ALL") : qputenv("LC_ALL", all);
 }
 
+INSTANTIATE_TEST_SUITE_P(Arabic, LanguagesCountedTest,
+    ::testing::Values(Counted{"ar", 0, "لم تُحذف أي قاعدة"}, Counted{"ar", 1, "حُذفت القاعدة"},
+        Counted{"ar", 2, "حُذفت قاعدتان"}, Counted{"ar", 3, "حُذفت 3 قواعد"},
+        Counted{"ar", 11, "حُذفت 11 قاعدة"}, Counted{"ar", 100, "حُذفت 100 قاعدة"}));
+INSTANTIATE_TEST_SUITE_P(Japanese, LanguagesCountedTest,
+    ::testing::Values(Counted{"ja", 1, "1 件のルールを削除しました"},
+        Counted{"ja", 5, "5 件のルールを削除しました"}));
+INSTANTIATE_TEST_SUITE_P(Chinese, LanguagesCountedTest,
+    ::testing::Values(
+        Counted{"zh_CN", 1, "已删除 1 条规则"}, Counted{"zh_CN", 5, "已删除 5 条规则"}));
+
 TEST(Languages, ATextIsFoundInEachOfThem)
 {
     const auto isRandom = [](const QString &text) {
         return isInAnyLanguage(text, "Random Address");
     };
-    for (const QStringList &users : {QStringList{u"en"_s}, QStringList{u"de"_s}}) {
-        const UserLanguage language(users);
-        EXPECT_TRUE(isRandom(u"Random Address"_s));
-        EXPECT_TRUE(isRandom(u"Zufällige Adresse"_s));
+    for (const char *users : {"en", "ar", "de", "es", "fr", "ja", "pt_BR", "zh_CN"}) {
+        const UserLanguage language({QString::fromLatin1(users)});
+        for (const QString &random : {u"Random Address"_s, u"Zufällige Adresse"_s,
+                 u"عنوان عشوائي"_s, u"ランダムなアドレス"_s, u"随机地址"_s}) {
+            EXPECT_TRUE(isRandom(random)) << users << random.toStdString();
+        }
         for (const QString &other : {u""_s, QString(), u"random address"_s, u"Adresse"_s,
                  u"Random Address "_s, u"Address"_s}) {
             EXPECT_FALSE(isRandom(other)) << other.toStdString();
@@ -131,9 +159,12 @@ TEST(Languages, ATextIsFoundInEachOfThem)
 TEST(Languages, WhatIsCutOutOfAStoredTextIsThereInEachOfThem)
 {
     // The note of new identifiers stands behind the date, which ends at its bracket.
-    const UserLanguage german({u"de"_s});
-    for (const qint64 added : {1, 2, 1000}) {
-        EXPECT_TRUE(localized("", "%@ (added %@ new Identifiers)", added).startsWith("%@ ("_L1));
+    for (const char *users : {"ar", "de", "es", "fr", "ja", "pt_BR", "zh_CN"}) {
+        const UserLanguage language({QString::fromLatin1(users)});
+        for (const qint64 added : {1, 2, 1000}) {
+            const QString note = localized("", "%@ (added %@ new Identifiers)", added);
+            EXPECT_TRUE(withoutIsolates(note).startsWith("%@ ("_L1)) << users;
+        }
     }
 }
 

@@ -113,6 +113,17 @@ TEST_F(AddressEntryPoints, AMenuRestoresTheAddressOfItsParentOnTheDeviceAboveIt)
     EXPECT_EQ(host.addressOf(en0), "02:fa:c7:00:00:01"_L1);
 }
 
+TEST_F(AddressEntryPoints, AMenuTitleMayKeepItsAddressApart)
+{
+    MenuItem arabic{QString()};
+    arabic.append(u"Ethernet \u00B7 en0"_s);
+    const MenuItem &action =
+        arabic.append(u"عنوان \u00B7 \u206802:FA:C7:00:00:01\u2069"_s).append(u"Restore"_s);
+    changer->restoreDefaultAddress(action);
+    scheduler.runPending();
+    EXPECT_EQ(host.addressOf(en0), "02:fa:c7:00:00:01"_L1);
+}
+
 TEST_F(AddressEntryPoints, AMenuRestoreOfAMalformedAddressDoesNothing)
 {
     MenuItem odd{QString()};

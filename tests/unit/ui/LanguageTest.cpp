@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Isolates.h"
 #include "base/Languages.h"
 #include "base/Localized.h"
 #include "face/FaceLook.h"
@@ -106,11 +107,12 @@ TEST_P(LanguageTest, MenusLeadToTheirInterfaces)
     features().statusMenu.menuWillOpen();
     const auto &entries = features().statusMenu.entries();
     const auto titleOf = [](const char *text) {
-        return filled(localized(text), {u"    "_s, QString()});
+        return withoutIsolates(filled(localized(text), {u"    "_s, QString()}));
     };
     const auto current = std::ranges::find_if(entries, [&](const MenuEntry &entry) {
-        return entry.title.startsWith(titleOf("%@Current Address · %@")) &&
-               entry.title.endsWith(factory[enp2s0], Qt::CaseInsensitive);
+        const QString title = withoutIsolates(entry.title);
+        return title.startsWith(titleOf("%@Current Address · %@")) &&
+               title.endsWith(factory[enp2s0], Qt::CaseInsensitive);
     });
     ASSERT_NE(current, entries.end()) << menuTitles().join(u'\n').toStdString();
     ASSERT_EQ(current->submenu.at(0).title, localized("Randomize"));
@@ -121,7 +123,8 @@ TEST_P(LanguageTest, MenusLeadToTheirInterfaces)
     EXPECT_FALSE(isChanged(enp1s0));
 
     features().statusMenu.menuWillOpen();
-    ASSERT_TRUE(menuTitles().at(row - 1).startsWith(titleOf("%@Hardware Address · %@")));
+    ASSERT_TRUE(
+        withoutIsolates(menuTitles().at(row - 1)).startsWith(titleOf("%@Hardware Address · %@")));
     features().statusMenu.activate({row - 1, 0});
     machine.scheduler.advance(std::chrono::seconds(2));
     EXPECT_FALSE(isChanged(enp2s0));

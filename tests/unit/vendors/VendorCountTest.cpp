@@ -3,6 +3,7 @@
 #include "vendors/VendorCount.h"
 
 #include "VendorFolder.h"
+#include "base/Languages.h"
 #include "base/SettingsKeys.h"
 #include "fakes/FakeScheduler.h"
 #include "fakes/FakeSettingsStore.h"
@@ -136,6 +137,19 @@ TEST_F(VendorCountTest, ShowTwoBlanksBeforeASecondNote)
     setDate(u"Yesterday (added 3 new Identifiers)"_s);
     count.updateVendorCount();
     EXPECT_EQ(date(), "Yesterday  (added 5 new Identifiers)"_L1);
+}
+
+TEST_F(VendorCountTest, NoteInARightToLeftLanguageWithoutMarks)
+{
+    const UserLanguage arabic({u"ar"_s});
+    makeLive(registryOf(3));
+    setDate(u"Yesterday"_s);
+    count.updateVendorCount();
+    EXPECT_EQ(date(), u"Yesterday (المعرّفات الجديدة: 3)"_s);
+    EXPECT_EQ(said.first(), "note: "_L1 + date());
+    makeLive(registryOf(5));
+    count.updateVendorCount();
+    EXPECT_EQ(date(), u"Yesterday  (المعرّفات الجديدة: 2)"_s);
 }
 
 TEST_F(VendorCountTest, LoseTheNullMarkerWithTheSecondNote)

@@ -49,6 +49,30 @@ TEST(PlainText, NothingTurnsTheTextAroundIt)
     }
 }
 
+TEST(PlainText, AnIsolateThatEndsTurnsNothingRoundAndStays)
+{
+    const QString sentence = u"عنوان \u206800:ab\u2069، \u2068\u2068a\u2069\u2069."_s;
+    EXPECT_EQ(plainLine(sentence), sentence);
+    EXPECT_EQ(plainLine(plainLine(sentence)), sentence);
+    EXPECT_EQ(plainParagraphs(sentence), sentence);
+    EXPECT_EQ(plainToolTip(sentence), sentence);
+    EXPECT_EQ(plainLine(u"\u2068a\u2069\u2069 \u2068\u202Eb\u2069"_s),
+        u"\u2068a\u2069\uFFFD \u2068\uFFFDb\u2069"_s)
+        << "nobody ends another's isolate unseen";
+}
+
+TEST(PlainText, WhatIsCutHasNoHalfIsolates)
+{
+    const QString value(130, u'x');
+    const QString line = plainLine(u"ع \u2068"_s + value + u"\u2069 ع"_s);
+    EXPECT_EQ(line, u"ع "_s + QString(116, u'x') + u'…');
+    EXPECT_EQ(plainLine(line), line);
+    EXPECT_FALSE(plainEntry(u"\u2068"_s + value + u"\u2069 ع"_s).contains(u'\u2069'));
+    EXPECT_EQ(plainToolTip(u"\u2068"_s + QString(1000, u'x')),
+        plainToolTip(u"\uFFFD"_s + QString(1000, u'x')))
+        << "what began as a half is still seen";
+}
+
 TEST(PlainText, LongTextsAreCutBetweenCharacters)
 {
     EXPECT_EQ(plainLine(QString(121, u'x')), QString(119, u'x') + u'…');
