@@ -76,14 +76,18 @@ class DavServer:
         """With a certificate by an authority that the computers trust, or by nobody but itself."""
         self.folder = tempfile.mkdtemp()
         self.files = self._path("files")
-        self.trusted = trusted
         self.password = self.first_password
         os.mkdir(self.files)
+        self.make_certificate(trusted)
+        self.start()
+
+    def make_certificate(self, trusted):
+        """From the next start on."""
+        self.trusted = trusted
         signer = ("-CA", f"{AUTHORITY}/authority.pem", "-CAkey", f"{AUTHORITY}/authority.key") if trusted else ()
         openssl("req", "-x509", *signer, "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:P-256", "-noenc",
                 "-keyout", self._path("key.pem"), "-subj", "/CN=127.0.0.1", "-addext", "subjectAltName=IP:127.0.0.1",
                 "-addext", "basicConstraints=critical,CA:FALSE", "-days", "2", "-out", self._path("certificate.pem"))
-        self.start()
 
     def _path(self, name):
         return os.path.join(self.folder, name)

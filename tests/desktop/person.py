@@ -93,7 +93,7 @@ class Person:
         self.pane().find("button", "Account…").press()
         return accessibility.window(NAME, "Sync Account")
 
-    def sign_in(self, account, passphrase, is_new):
+    def fill_in(self, account, passphrase):
         """`account` is as DavServer.account, or {"folder": path}. A fingerprint that it has is compared and accepted."""
         dialog = self.open_account()
         if "folder" in account:
@@ -109,6 +109,10 @@ class Person:
             accept = dialog.find("button", "Accept Certificate")
             dialog.find("label", account["fingerprint"])
             accept.press()
+        return dialog
+
+    def sign_in(self, account, passphrase, is_new):
+        dialog = self.fill_in(account, passphrase)
         if is_new:
             dialog.find("password", "Repeat passphrase").type(passphrase)
             xdotool("key", "Return")
@@ -116,6 +120,16 @@ class Person:
                    lambda: f"the dialog stays: {dialog.overview()}")
         self.says("Signed in")
         wait_until(lambda: self.pane().find("check box", SWITCH).checked, "sync is not switched on")
+
+    def sign_in_in_vain(self, account, passphrase, why):
+        dialog = self.fill_in(account, passphrase)
+        dialog.find("label", why)
+        dialog.find("button", "Cancel").press()
+        wait_until(lambda: not accessibility.has_window(NAME, "Sync Account"), "the dialog stays")
+
+    def sign_out(self):
+        self.pane().find("button", "Sign Out").press()
+        self.says("Signed out. Rules, history and settings stay on this computer.")
 
     def secrets(self):
         """What the keyring holds of the program, by the names under which it does."""
@@ -201,11 +215,12 @@ class Person:
         return listener
 
     def has_written(self, *secrets):
-        """Which of them, each in hexadecimal digits, are in a file of this computer's, and how many files there are."""
+        """Which of them, each in hexadecimal digits, are in which file of this computer's, and which files it has."""
         files = {}
         for place in (os.path.expanduser("~"), os.environ["XDG_RUNTIME_DIR"], "/tmp", "/var/tmp"):
             files |= cleartext.files_in(place)
-        return cleartext.find([bytes.fromhex(secret) for secret in secrets], files, packed=False), sorted(files)
+        found = cleartext.find([bytes.fromhex(secret) for secret in secrets], files, packed=False)
+        return [(secret.hex(), path) for secret, path in found], sorted(files)
 
 
 def main(path):

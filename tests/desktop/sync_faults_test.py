@@ -1,63 +1,19 @@
 # SPDX-FileCopyrightText: 2026 The Quillon authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Two computers with the built program and one account on a real web server, where something goes wrong: it is told,
-and nothing is lost."""
+"""Two computers and one account on a real web server that does not do what it should, and programs that are killed: what
+is wrong is told, and nothing is lost."""
 import os
-import subprocess
 import unittest
 
-from computers import Network, TwoComputers
-from davserver import PORT, Lighttpd
 from program import wait_until
+from signed_in import PASSPHRASE, SignedIn
 
-PASSPHRASE = "correct horse battery staple"
 WRONG_PASSWORD = "The server did not accept this name and password."
 READ_ONLY = "This folder cannot be written."
 FULL = "There is no space left in this account."
-ROOM = 512 * 1024  # bytes, on the server
 
 
-class FaultsTest(TwoComputers, unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.server = Lighttpd(trusted=True)
-        cls.addClassCleanup(cls.server.remove)
-        cls.server.stop()
-        # A disk of its own, so that it can be full.
-        subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={ROOM}", "disk", cls.server.files], check=True)
-        cls.addClassCleanup(subprocess.run, ["umount", cls.server.files], check=True)
-        cls.addClassCleanup(cls.server.stop)
-        cls.server.start()
-        cls.network = Network(cls.computers, PORT)
-        cls.addClassCleanup(cls.network.unplug)
-        for computer in cls.computers:
-            computer.start()
-            computer.sign_in(cls.server.account, PASSPHRASE, computer is cls.a)
-
-    def restart(self, computer):
-        """What has failed is tried again after a while, and by a start at once."""
-        self.assertEqual(computer.end(), 0)
-        computer.start()
-
-    def expect_on(self, computer, record):
-        self.wait_on(computer, lambda: record in computer.records()["history"],
-                     lambda: f"there are {computer.records()['history']}")
-
-    def expect_equal(self):
-        self.wait_on(self.b, lambda: self.a.records() == self.b.records(),
-                     lambda: f"{self.a.records()} is not {self.b.records()}")
-
-    def in_account(self):
-        folder = os.path.join(self.server.files, "Quillon")
-        return {name: os.stat(os.path.join(folder, name)).st_size for name in os.listdir(folder)}
-
-    def send_from_a(self):
-        names = set(self.in_account())
-        record = self.a.randomize()
-        wait_until(lambda: set(self.in_account()) - names, "nothing was sent")
-        return record
-
+class FaultsTest(SignedIn, unittest.TestCase):
     def test_a_password_that_was_changed(self):
         self.server.set_password("another one")
         record = self.a.randomize()

@@ -110,7 +110,7 @@ class OneAccount(TwoComputers):
             written = [text.encode(kind) for text in (PASSPHRASE, *passwords) for kind in ("utf-8", "utf-16-le")]
             found, files = computer.has_written(*(secret.hex() for secret in (key, *written)))
             self.assertEqual(found, [])
-            self.assertLess({".local/share/Quillon/Quillon.sqlite", ".local/share/keyrings/login.keyring"}, set(files))
+            self.assertLess({".local/share/Quillon/Quillon.sqlite", ".local/share/keyrings/login.keyring"}, set(files), files)
 
     def expect_nothing_in_the_clear(self):
         files = cleartext.files_in(self.account_folder)
