@@ -28,6 +28,7 @@ ROLES = {
     "list item": (Atspi.Role.LIST_ITEM,),
     "menu item": (Atspi.Role.MENU_ITEM, Atspi.Role.CHECK_MENU_ITEM),
     "page tab": (Atspi.Role.PAGE_TAB,),
+    "password": (Atspi.Role.PASSWORD_TEXT,),
     "radio button": (Atspi.Role.RADIO_BUTTON,),
     "window": WINDOWS,
 }
@@ -214,6 +215,10 @@ class Control:
         wait_until(lambda: self.focused, f"“{self.name}” did not get the keyboard")
         xdotool("key", "--clearmodifiers", "ctrl+a")
         xdotool("type", "--clearmodifiers", text)
+
+    def set_text(self, text):
+        """Replaces what is written in it at once, as assistive technology does: any characters, as pasted."""
+        Atspi.EditableText.set_text_contents(self._fresh.get_editable_text_iface(), text)
 
     def choose(self, item):
         """Opens a combo box and clicks the item with that text."""

@@ -238,6 +238,8 @@ QFrame *CloudSignInDialog::makeQuestion()
     m_fingerprint->setFont(Theme::font(Theme::Type::Address));
     m_fingerprint->setTextInteractionFlags(
         Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    // The flags alone would let nobody come back to it without a pointer.
+    m_fingerprint->setFocusPolicy(Qt::StrongFocus);
     // Digits, in whatever direction the words run.
     m_fingerprint->setLayoutDirection(Qt::LeftToRight);
     m_fingerprint->setToolTip(plainToolTip(what->text()));

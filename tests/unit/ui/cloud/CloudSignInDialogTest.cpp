@@ -214,6 +214,7 @@ TEST_F(CloudSignInDialogTest, TheFingerprintCanBeComparedAndCopied)
     EXPECT_EQ(fingerprint().text().remove(u'\n'), fingerprintText(print));
     EXPECT_TRUE(fingerprint().textInteractionFlags() & Qt::TextSelectableByMouse);
     EXPECT_TRUE(fingerprint().textInteractionFlags() & Qt::TextSelectableByKeyboard);
+    EXPECT_EQ(fingerprint().focusPolicy(), Qt::StrongFocus) << "by Tab as well";
     button("Copy Fingerprint").click();
     EXPECT_EQ(QApplication::clipboard()->text(), fingerprintText(print));
 }
