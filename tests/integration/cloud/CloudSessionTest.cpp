@@ -129,8 +129,8 @@ void putFile(const QString &name, const QByteArray &bytes, int seconds)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
     file.flush();
-    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(seconds),
-        QFileDevice::FileModificationTime));
+    ASSERT_TRUE(file.setFileTime(
+        QDateTime::currentDateTime().addSecs(seconds), QFileDevice::FileModificationTime));
     ASSERT_TRUE(file.commit());
 }
 
