@@ -9,15 +9,25 @@
 #include "vendors/RegistryDownload.h"
 #include "vendors/VendorCount.h"
 
+#include <QLocale>
+
 namespace quillon {
 
 namespace {
 
 constexpr double bytesPerMegabyte = 1'000'000;
 
+/// With the decimal mark of the locale.
+QString decimal(double number, int digits)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number, 'f', digits);
+}
+
 QString megabytes(qint64 bytes)
 {
-    return QString::asprintf("%.01f", static_cast<double>(bytes) / bytesPerMegabyte);
+    return decimal(static_cast<double>(bytes) / bytesPerMegabyte, 1);
 }
 
 QString countText(qlonglong count)
@@ -100,8 +110,7 @@ void VendorPaneModel::showProgress(qint64 chunk, qint64 received, qint64 expecte
             // The size of the latest piece: all that can be said without knowing the whole.
             tell(state, filled(localized("Downloading... %@MB"), {megabytes(chunk)}));
         } else {
-            const QString percentage =
-                QString::asprintf("%.03f", static_cast<double>(state.progress * 100.0F));
+            const QString percentage = decimal(static_cast<double>(state.progress * 100.0F), 3);
             tell(state,
                 filled(localized("Downloading... %@% of %@MB"), {percentage, megabytes(expected)}));
         }

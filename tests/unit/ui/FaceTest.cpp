@@ -99,11 +99,13 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, FaceLanguageTest,
     ::testing::Combine(::testing::ValuesIn(languagesOfThisBuild()), ::testing::Values(1, 2)),
-    [](const ::testing::TestParamInfo<FaceLanguageTest::ParamType> &info) {
-        QString name = std::get<0>(info.param);
-        return (std::get<1>(info.param) > 1 ? name + u"InLargeText"_s : name)
-            .remove(u'_')
-            .toStdString();
+    [](const ::testing::TestParamInfo<FaceLanguageTest::ParamType> &tested) {
+        QString name = std::get<0>(tested.param);
+        name.remove(u'_');
+        if (std::get<1>(tested.param) > 1) {
+            name += u"InLargeText"_s;
+        }
+        return name.toStdString();
     });
 
 TEST_P(FaceLanguageTest, EverySceneCanBeRead)

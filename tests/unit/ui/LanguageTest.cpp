@@ -144,8 +144,8 @@ TEST_P(LanguageTest, RulesOfItsFileActInAnotherLanguage)
 
 INSTANTIATE_TEST_SUITE_P(All, LanguageTest,
     ::testing::ValuesIn(QStringList{u"en"_s} + spokenLanguages()),
-    [](const ::testing::TestParamInfo<QString> &info) {
-        return QString(info.param).remove(u'_').toStdString();
+    [](const ::testing::TestParamInfo<QString> &tested) {
+        return QString(tested.param).remove(u'_').toStdString();
     });
 
 TEST_F(LanguageTest, AnInterfaceHasOneNameInWindowMenuAndMessages)

@@ -101,6 +101,15 @@ TEST_F(RegistryRefresh, OfAnEmptyDownloadHasNoShareToShow)
     EXPECT_EQ(pane.state().updatedLabel, "Downloading... 0.000% of 0.0MB"_L1);
 }
 
+TEST_F(RegistryRefresh, ProgressHasTheDecimalMarkOfTheLocale)
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    pane.showProgress(0, 1'234'567'890, 2'500'000'000);
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 49,383% of 2500,0MB"_L1);
+    pane.showProgress(16'384, 16'384, -1);
+    EXPECT_EQ(pane.state().updatedLabel, "Downloading... 0,0MB"_L1);
+}
+
 TEST_F(RegistryRefresh, DoesNotLookAtTheStatus)
 {
     refresh("<html>\n<body>404 Not Found</body>\n</html>\n", 404);
