@@ -6,6 +6,7 @@
 #include "base/Log.h"
 #include "platform/desktop/AlertPresenter.h"
 #include "store/RecordStore.h"
+#include "store/model/QuillonModel.h"
 
 namespace quillon {
 
