@@ -589,7 +589,7 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>MMM d, yyyy</source>
-        <translation>yyyy年M月d日</translation>
+        <translation>yyyy/M/d</translation>
     </message>
     <message>
         <source>%@ %@</source>
@@ -857,11 +857,11 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>Active</source>
-        <translation>有効</translation>
+        <translation>アクティブ</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>無効</translation>
+        <translation>非アクティブ</translation>
     </message>
     <message>
         <source>Not there</source>
@@ -1243,7 +1243,7 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>This is the address in use. Type or drop another to change it.</source>
-        <translation>使用中のアドレスです。変更するには別のアドレスを入力するか、ここにドロップします。</translation>
+        <translation>使用中のアドレスです。変更するには入力またはドロップします。</translation>
     </message>
     <message>
         <source>Press Return or Apply to use this address.</source>
@@ -2351,11 +2351,11 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>Link active</source>
-        <translation>リンク有効</translation>
+        <translation>リンクあり</translation>
     </message>
     <message>
         <source>Link inactive</source>
-        <translation>リンク無効</translation>
+        <translation>リンクなし</translation>
     </message>
     <message>
         <source>IPv4 address</source>

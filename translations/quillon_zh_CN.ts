@@ -589,7 +589,7 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>MMM d, yyyy</source>
-        <translation>yyyy年M月d日</translation>
+        <translation>yyyy/M/d</translation>
     </message>
     <message>
         <source>%@ %@</source>
@@ -861,7 +861,7 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>Inactive</source>
-        <translation>未激活</translation>
+        <translation>未活动</translation>
     </message>
     <message>
         <source>Not there</source>
@@ -2351,11 +2351,11 @@ Rules and history are in this file, which is left as it is: %@</source>
     </message>
     <message>
         <source>Link active</source>
-        <translation>链路已激活</translation>
+        <translation>链路已连接</translation>
     </message>
     <message>
         <source>Link inactive</source>
-        <translation>链路未激活</translation>
+        <translation>链路未连接</translation>
     </message>
     <message>
         <source>IPv4 address</source>

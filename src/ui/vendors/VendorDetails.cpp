@@ -60,7 +60,7 @@ ContentScrollArea *VendorDetails::makeFacts()
         auto *label = plainLabel(caption);
         label->setProperty("look", u"caption"_s);
         label->setBuddy(value);
-        label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        label->setAlignment((label->alignment() & ~Qt::AlignVertical_Mask) | Qt::AlignTop);
         form->addRow(label, value);
     };
     add(localized("Address"), m_address);

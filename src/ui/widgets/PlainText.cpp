@@ -5,6 +5,7 @@
 #include "base/CutText.h"
 #include "base/Isolates.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QTextBoundaryFinder>
 #include <QTextDocument>
@@ -104,6 +105,10 @@ QLabel *plainLabel(const QString &text)
 {
     auto *label = new QLabel;
     label->setTextFormat(Qt::PlainText);
+    // A Latin name in a mirrored window would stand where it begins, away from all the others.
+    if (QGuiApplication::isRightToLeft()) {
+        label->setAlignment(Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignVCenter);
+    }
     label->setText(text);
     return label;
 }

@@ -4,6 +4,8 @@
 
 #include "fakes/QtPrinting.h"
 
+#include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QTextDocument>
 #include <gtest/gtest.h>
@@ -133,6 +135,30 @@ TEST(PlainText, ALabelShowsALineAndSaysItWhole)
     EXPECT_TRUE(label->text().endsWith(u'…'));
     EXPECT_LE(label->sizeHint().width(), 70);
     EXPECT_EQ(label->accessibleName(), name);
+}
+
+TEST(PlainText, InAMirroredWindowALatinNameStandsBesideTheOthers)
+{
+    const auto blackOf = [](const QString &text) {
+        const std::unique_ptr<QLabel> label(plainLabel(text));
+        label->resize(300, 30);
+        const QImage picture = label->grab().toImage();
+        const QRgb ground = picture.pixel(0, 0);
+        QRect ink;
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y) {
+                if (picture.pixel(x, y) != ground) {
+                    ink |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return ink;
+    };
+    EXPECT_LT(blackOf(u"Harbor"_s).right(), 150);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_GT(blackOf(u"Harbor"_s).left(), 150);
+    EXPECT_GT(blackOf(u"شبكة"_s).left(), 150);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST(PlainText, LongWordsMayBeBrokenAndAreSaidWhole)
