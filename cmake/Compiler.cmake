@@ -44,11 +44,14 @@ elseif(QUILLON_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 elseif(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
-    # What users get. A distribution's build has no type and brings its own degree of _FORTIFY_SOURCE; CET is the
+    # What users get. A distribution's build is of no type and brings its own degree of _FORTIFY_SOURCE; CET is the
     # processor's check of jumps and returns, which Debian 12 does not ask for by itself.
-    if(CMAKE_BUILD_TYPE)
+    if(CMAKE_BUILD_TYPE AND NOT CMAKE_BUILD_TYPE STREQUAL "None")
         add_compile_definitions(_FORTIFY_SOURCE=2)
     endif()
+    # Debian's compiler makes PIE anyway; others have to be told when they link, too.
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
     include(CheckCXXCompilerFlag)
     foreach(flag IN ITEMS -fcf-protection -fstack-clash-protection)
         string(MAKE_C_IDENTIFIER "QUILLON_HAS${flag}" has)

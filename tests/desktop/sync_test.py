@@ -78,24 +78,35 @@ class OneAccount(TwoComputers):
         self.assertEqual({**computer.addresses(), "enp2s0": ""}, {**before, "enp2s0": ""})
 
     def edit_offline(self):
+        """Each does something of its own, and both something to the same rule and the same setting."""
         a, b = self.a, self.b
         self.go_offline()
         a.make_rule(OFFLINE_RULE, "enp1s0")
+        a.switch_rule(RULE)
+        a.write_setting("lowerCaseHEX", True)
         a.write_setting("defaultTimerMinutes", 77)
+        mine = a.randomize()
         b.delete_rule(RULE)
-        mine = b.randomize()
+        b.write_setting("hideOnLaunch", True)
+        other = b.randomize()
         for computer in self.computers:
             computer.says(self.OFFLINE)
-        self.assertEqual((self.rules_of(a), self.rules_of(b)), ({RULE: True, OFFLINE_RULE: False}, {}))
+        # The later one.
+        b.write_setting("defaultTimerMinutes", 88)
+        self.assertEqual((self.rules_of(a), self.rules_of(b)), ({RULE: False, OFFLINE_RULE: False}, {}))
+        self.assertEqual([mine in b.records()["history"], other in a.records()["history"]], [False, False])
         self.go_online()
         for computer in self.computers:
             # What failed is tried again after half a minute, and by a start at once.
             self.assertEqual(computer.end(), 0)
             computer.start()
             computer.says_not(self.OFFLINE)
-        self.wait_on(a, lambda: mine in a.records()["history"] and RULE not in self.rules_of(a), "b's did not come")
-        self.wait_on(b, lambda: self.rules_of(b) == {OFFLINE_RULE: False} and
-                     b.settings()["defaultTimerMinutes"] == 77, "a's did not come")
+        expected = {"lowerCaseHEX": True, "hideOnLaunch": True, "defaultTimerMinutes": 88}
+        for computer in self.computers:
+            self.wait_on(computer, lambda: self.rules_of(computer) == {OFFLINE_RULE: False} and
+                         all(record in computer.records()["history"] for record in (mine, other)) and
+                         expected.items() <= computer.settings().items(),
+                         lambda: f"there are {computer.records()} and {computer.settings()}")
         self.wait_on(b, lambda: a.records() == b.records(), lambda: f"{a.records()} is not {b.records()}")
 
     def expect_secrets_in_the_keyring(self):

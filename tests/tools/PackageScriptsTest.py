@@ -29,6 +29,14 @@ Architecture: all
 Maintainer: The Quillon authors <quillon@example.org>
 Description: the helper and its scripts
 """
+# A system bus and polkit as every system has them; the helper is started by the bus itself.
+BUSES = r"""
+unset DBUS_SYSTEM_BUS_ADDRESS
+mount -t tmpfs none /run
+mkdir /run/dbus
+dbus-daemon --system --fork
+/usr/lib/polkit-1/polkitd --no-debug >/tmp/polkitd.log 2>&1 &
+"""
 # The copy, and words for what the cases look at.
 PRELUDE = r"""
 set -eu
@@ -42,8 +50,8 @@ mount -t tmpfs none "$copy/root/mnt"
 mkdir "$copy/root/mnt/new" "$copy/root/mnt/old"
 mount --bind "$copy/new" "$copy/root/mnt/new"
 mount --bind / "$copy/root/mnt/old"
-cp "$1" "$2" "$3" "$copy/root/tmp"
-exec chroot "$copy/root" bash -c "$4"
+cp "$1" "$2" "$3" "$4" "$copy/root/tmp"
+exec chroot "$copy/root" bash -c "$5"
 """
 WORDS = r"""
 set -eu
@@ -104,7 +112,8 @@ class PackageScriptsTest(unittest.TestCase):
         done = subprocess.run(
             [os.path.join(ROOT, "tools", "sandbox"), "--root", "--no-display", "--no-helper", "--build", BUILD,
              "--bind", self.folder, "unshare", "--mount", "bash", "-c", PRELUDE, "-", *self.packages,
-             os.path.join(BUILD, "helper", "Quillon4HelperTool"), WORDS + script],
+             os.path.join(BUILD, "helper", "Quillon4HelperTool"),
+             os.path.join(ROOT, "debian", "tests", "change-address"), WORDS + script],
             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
         self.assertEqual(done.returncode, 0, done.stdout)
         return done.stdout
@@ -123,6 +132,12 @@ class PackageScriptsTest(unittest.TestCase):
             has_none || fail "its user stays"
             [ -z "$(left)" ] || fail "these stay: $(left)"
         """)
+
+    def test_its_own_test_holds(self):
+        said = self.expect("dpkg --install /tmp/quillon_1.deb" + BUSES + """
+            /tmp/change-address || { cat /tmp/polkitd.log; fail "change-address"; }
+        """)
+        self.assertEqual(said.splitlines()[-1], "--- done")
 
     def test_a_helper_that_installed_itself_gives_way(self):
         self.expect("""
