@@ -54,7 +54,11 @@ Lasts lastingOfLinkAddress(const QByteArray &found, Made made, const LinkAddress
         // One that a client keeps in a file may have been made of it long ago, and stay.
         return lastingOfOther(made);
     }
-    return made == Made::Fixed ? Lasts::Always : Lasts::NamesOtherAddress;
+    if (made == Made::Fixed || made == Made::OfConnection) {
+        // It is nobody's address, though it has the form of one.
+        return lastingOfOther(made);
+    }
+    return Lasts::NamesOtherAddress;
 }
 
 /// The link-layer address in a DUID, empty for none.

@@ -68,6 +68,8 @@ TEST_F(LinkIdentifiersTest, NameAnotherAddress)
     EXPECT_EQ(ofDuid("00030001020000005422"), Lasts::NamesOtherAddress);
     EXPECT_EQ(ofIdentifier("01020000005422", Made::Fixed), Lasts::Always)
         << "somebody has chosen it";
+    EXPECT_EQ(ofDuid("00030001020000005422", Made::OfConnection), Lasts::OnThisNetwork)
+        << "it only looks like an address";
 }
 
 TEST_F(LinkIdentifiersTest, AreTheMachinesOrTheConnections)
