@@ -2491,5 +2491,125 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <source>Tries the account, and switches sync on</source>
         <translation>Probiert das Konto aus und schaltet den Abgleich ein</translation>
     </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>Was das Netzwerk trotzdem sieht</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>Was das Netzwerk von %@ trotzdem sieht</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>Keine Schnittstelle ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Wird nachgesehen…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>Außer der Adresse ist nichts bekannt, das diesen Rechner verrät.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>Aus der aktuellen Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>Aus der Hardware-Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>Aus einer anderen Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>Für dieses Netzwerk gebildet</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>Für diesen Rechner gebildet</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>Ändert sich mit der Adresse.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>Ändert sich nach einiger Zeit von selbst.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>Bleibt in diesem Netzwerk gleich, bei jeder Adresse.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>Bleibt in jedem Netzwerk gleich, bei jeder Adresse.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>Verrät die Hardware-Adresse.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>Verrät eine frühere Adresse oder die einer anderen Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>Wer das festlegt, gibt keine Auskunft.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>Ob sich das mit der Adresse ändert, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>Bei der Änderung behalten, seit %@.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>Weniger zeigen: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>Weniger zeigen, in %@: %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>Mit DHCP gesendeter Name</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>DHCP-Client-Kennung</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>DHCPv6-Kennung (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>Weitere IPv6-Adressen</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>Über mDNS genannter Name</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>Über LLMNR genannter Name</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>Anmeldename (802.1X)</translation>
+    </message>
 </context>
 </TS>
