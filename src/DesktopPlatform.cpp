@@ -85,6 +85,7 @@ Platform DesktopPlatform::platform()
         .network = m_network,
         .interfaceAddresses = m_interfaceAddresses,
         .addressOwners = m_addressOwners,
+        .exposure = m_exposure,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
         .sleep = m_sleep,

@@ -18,6 +18,7 @@
 #include "platform/linux/desktop/DesktopSoftwareCenter.h"
 #include "platform/linux/desktop/DesktopSystemSettings.h"
 #include "platform/linux/desktop/KeyringSecretStore.h"
+#include "platform/linux/exposure/LinuxExposureSource.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
 #include "platform/linux/netlink/NetlinkHost.h"
@@ -65,6 +66,7 @@ private:
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;
     LinuxAddressOwners m_addressOwners;
+    LinuxExposureSource m_exposure{m_scheduler};
     NetlinkChangeSource m_networkChanges;
     RouteReachability m_route;
     PortalReachability m_reachability{m_route, m_scheduler};

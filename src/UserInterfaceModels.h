@@ -38,6 +38,7 @@ inline UserInterface::Models modelsOf(Features &features)
             .overview = {features.overview, features.readMe, features.presence},
             .history = {features.history.controller, features.editMenu, features.presence}},
         .network = networks.info,
+        .traces = networks.traces,
         .externalAddress = networks.externalAddressShown,
         .rules = {rules.status, rules.list, features.presence},
         .countdown = rules.countdown,

@@ -2510,5 +2510,217 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
             <numerusform>%Ln Einträge exportiert</numerusform>
         </translation>
     </message>
+    <message>
+        <source>On %@, give %@ a new random address every minute.</source>
+        <translation>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every minute.</source>
+        <translation>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every minute.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On %@, give %@ a new random address every %@ minutes.</source>
+        <translation>In %@ erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On any network, give %@ a new random address every %@ minutes.</source>
+        <translation>In jedem Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>On an unknown network, give %@ a new random address every %@ minutes.</source>
+        <translation>In einem unbekannten Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
+    </message>
+    <message>
+        <source>Rule deleted</source>
+        <translation>Regel gelöscht</translation>
+    </message>
+    <message>
+        <source>%d rules deleted</source>
+        <translation>%d Regeln gelöscht</translation>
+    </message>
+    <message>
+        <source>%@ exported</source>
+        <translation>%@ exportiert</translation>
+    </message>
+    <message>
+        <source>%@ selected</source>
+        <translation>%@ ausgewählt</translation>
+    </message>
+    <message>
+        <source>Record deleted</source>
+        <translation>Eintrag gelöscht</translation>
+    </message>
+    <message>
+        <source>%@ records deleted</source>
+        <translation>%@ Einträge gelöscht</translation>
+    </message>
+    <message>
+        <source>Delete %@?</source>
+        <translation>%@ löschen?</translation>
+    </message>
+    <message>
+        <source>1 record</source>
+        <translation>1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ records</source>
+        <translation>%@ Einträge</translation>
+    </message>
+    <message>
+        <source>%@ of 1 record</source>
+        <translation>%@ von 1 Eintrag</translation>
+    </message>
+    <message>
+        <source>%@ of %@ records</source>
+        <translation>%@ von %@ Einträgen</translation>
+    </message>
+    <message>
+        <source>1 address</source>
+        <translation>1 Adresse</translation>
+    </message>
+    <message>
+        <source>%@ addresses</source>
+        <translation>%@ Adressen</translation>
+    </message>
+    <message>
+        <source>1 network</source>
+        <translation>1 Netzwerk</translation>
+    </message>
+    <message>
+        <source>%@ networks</source>
+        <translation>%@ Netzwerke</translation>
+    </message>
+    <message>
+        <source>%@ added.</source>
+        <translation>%@ hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>%@ were saved. Save again for more.</source>
+        <translation>%@ wurden gespeichert. Für weitere erneut speichern.</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>Was das Netzwerk trotzdem sieht</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>Was das Netzwerk von %@ trotzdem sieht</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>Keine Schnittstelle ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Wird nachgesehen…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>Außer der Adresse ist nichts bekannt, das diesen Rechner verrät.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>Aus der aktuellen Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>Aus der Hardware-Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>Aus einer anderen Adresse gebildet</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>Für dieses Netzwerk gebildet</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>Für diesen Rechner gebildet</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>Ändert sich mit der Adresse.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>Ändert sich nach einiger Zeit von selbst.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>Bleibt in diesem Netzwerk gleich, bei jeder Adresse.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>Bleibt in jedem Netzwerk gleich, bei jeder Adresse.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>Verrät die Hardware-Adresse.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>Verrät eine frühere Adresse oder die einer anderen Schnittstelle.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>Wer das festlegt, gibt keine Auskunft.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>Ob sich das mit der Adresse ändert, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>Bei der Änderung behalten, seit %@.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>Weniger zeigen: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>Weniger zeigen, in %@: %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>Mit DHCP gesendeter Name</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>DHCP-Client-Kennung</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>DHCPv6-Kennung (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>Weitere IPv6-Adressen</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>Über mDNS genannter Name</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>Über LLMNR genannter Name</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>Anmeldename (802.1X)</translation>
+    </message>
 </context>
 </TS>

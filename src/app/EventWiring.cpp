@@ -98,6 +98,7 @@ void EventWiring::connectSelection()
             f.vendors.choice.updateVendorField(device);
             f.rules.status.updateRuleStatusForDevice(device);
             f.statusMenu.menuNeedsUpdate();
+            f.networks.traces.interfaceWasUpdated();
         });
     on(current, &CurrentInterface::hexValuesUpdated, [&f] { f.mainWindow.populateHexField(); });
     // What is open beside it tells of an interface that is no longer there.
@@ -122,6 +123,7 @@ void EventWiring::connectAddressChange()
     on(changer, &AddressChanger::changeBegan, [&f](const QString &device) {
         f.devices.driftAlarm.changeBegan(device);
         f.rules.execution.addressChangeBegan(device);
+        f.networks.traces.addressChangeBegan(device);
     });
     // Direct: the history is written between the user's message and the broadcast, on their thread.
     connect(
@@ -134,6 +136,7 @@ void EventWiring::connectAddressChange()
         [&f](const QString &device, const ChangeOutcome &outcome) {
             f.devices.driftAlarm.changeEnded(device, outcome);
             f.rules.execution.addressChangeEnded(device, outcome);
+            f.networks.traces.addressChangeEnded(device, outcome.isInPlace);
         });
 }
 
@@ -256,6 +259,7 @@ void EventWiring::connectNetworkEvents()
     });
     on(m_networkEvents, &NetworkEvents::eventEnded, [&f] {
         f.statusMenu.menuNeedsUpdate();
+        f.networks.traces.interfaceWasUpdated();
         f.updates.updater.networkChanged();
         f.cloud.session.networkChanged();
     });

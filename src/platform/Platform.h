@@ -12,6 +12,7 @@ class AddressOwners;
 class AlertPresenter;
 class CloudProvider;
 class DistributedNotificationCenter;
+class ExposureSource;
 class HelperLink;
 class HotKeys;
 class HttpClient;
@@ -74,6 +75,7 @@ struct Platform
     NetworkHost &network;
     InterfaceAddresses &interfaceAddresses;
     AddressOwners &addressOwners;
+    ExposureSource &exposure;
     NetworkChangeSource &networkChanges;
     Reachability &reachability;
     SystemSleep &sleep;

@@ -13,6 +13,7 @@
 #include "ui/networks/FavoriteToast.h"
 #include "ui/networks/NetworkRow.h"
 #include "ui/networks/SavedAddressesRow.h"
+#include "ui/networks/WiredTraces.h"
 #include "ui/rules/CountdownRow.h"
 #include "ui/vendors/MissingVendors.h"
 #include "ui/vendors/VendorChooser.h"
@@ -73,7 +74,11 @@ UserInterface::UserInterface(const Models &models, const Desktop &desktop)
 void UserInterface::makeFacts(const Models &models)
 {
     FactsCard &facts = m_mainWindow.facts();
-    auto *hardware = new HardwareRow(models.window.window, m_theme);
+    const auto makeWiredTraces = [&traces = models.traces, &network = models.network](
+                                     QWidget *parent) {
+        return new WiredTraces(traces, network, parent);
+    };
+    auto *hardware = new HardwareRow(models.window.window, m_theme, makeWiredTraces);
     facts.add(hardware);
     auto *saved = new SavedAddressesRow(
         {models.savedLists, models.window.window, models.window.presence}, m_theme);
@@ -82,7 +87,7 @@ void UserInterface::makeFacts(const Models &models)
     auto *vendor = new VendorRow(models.vendorInfo, m_theme);
     facts.add(vendor);
     facts.add(new MissingVendors(models.vendorPane, models.others.preferences.window));
-    auto *network = new NetworkRow(models.network, m_theme);
+    auto *network = new NetworkRow(models.network, models.traces, m_theme);
     facts.add(network);
     facts.add(new RulesRow(models.rules, m_theme));
     facts.add(new CountdownRow(models.countdown, m_theme));

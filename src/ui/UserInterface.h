@@ -21,6 +21,7 @@ class FileMenuModel;
 class NetworkInfoModel;
 class RemovedFavorite;
 class SavedListsModel;
+class TracesModel;
 class VendorFieldModel;
 class VendorInfoModel;
 class VendorPaneModel;
@@ -40,6 +41,7 @@ public:
         RemovedFavorite &removedInMainWindow;
         OtherWindows::Models others;
         NetworkInfoModel &network;
+        TracesModel &traces;
         ExternalAddressModel &externalAddress;
         RulesRow::Models rules;
         CountdownModel &countdown;

@@ -31,6 +31,13 @@ class NetworkPopoverTest(PopoverTest):
             self.expect_text(LABEL, text)
         self.close(LABEL)
 
+    def test_it_tells_what_the_network_still_sees(self):
+        for text in ("What the network of wlp2s0 still sees", "Name sent with DHCP, harbor-laptop",
+                     "DHCP client identifier, 01:00:00:5e:00:53:01", "IPv6 address, fe80::200:5eff:fe00:5301",
+                     "Name told by mDNS, harbor-laptop.local", "Login name (802.1X), alice@harbor.example"):
+            self.expect_text(LABEL, text)
+        self.close(LABEL)
+
     def test_its_heart_saves_the_network_and_forgets_it(self):
         heart = self.popover(LABEL).find("button", ADD)
         wait_until(lambda: heart.focused, "the heart has not the keyboard")

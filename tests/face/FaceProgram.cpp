@@ -25,6 +25,34 @@ namespace {
 /// Of the range that is kept for documentation.
 const QString radioAddress = u"00:00:5e:00:53:01"_s;
 
+/// What a laptop tells of itself unless somebody has it tell less.
+ExposureFacts exposed()
+{
+    using Answer = ExposureFacts::Answer;
+    const auto octets = [](const char *hex) { return QByteArray::fromHex(hex); };
+    return {.owner = u"NetworkManager"_s,
+        .hostName = u"harbor-laptop"_s,
+        .ipv4 = {.isUsed = Answer::Yes,
+            .sendsName = Answer::Yes,
+            .sendsIdentifier = Answer::Yes,
+            .identifier = octets("0100005e005301"),
+            .identifierMade = ExposureFacts::Made::OfAddressInUse},
+        .ipv6 = {.isUsed = Answer::No},
+        .ipv6Addresses = {{
+            {.octets = octets("20010db8000000001234567890abcdef"), .hasEnd = true, .age = 2h},
+            {.octets = octets("20010db800000000a1b2c3d4e5f60718"),
+                .isTemporary = true,
+                .hasEnd = true,
+                .age = 2h},
+            {.octets = octets("fe8000000000000002005efffe005301"), .isLinkLocal = true, .age = 2h},
+        }},
+        .avahi = {.isTold = Answer::Yes, .name = u"harbor-laptop.local"_s},
+        .resolvedMdns = {.isTold = Answer::No},
+        .resolvedLlmnr = {.isTold = Answer::No},
+        .login = {
+            .isUsed = Answer::Yes, .identity = u"alice@harbor.example"_s, .anonymousIdentity = {}}};
+}
+
 } // namespace
 
 const QString FaceProgram::radio = u"wlp2s0"_s;
@@ -61,6 +89,7 @@ void FaceProgram::fillMachine()
         .countryCode = u"DE"_s,
         .activePHYMode = 5,
         .mcsIndex = 9});
+    machine.exposure.facts = exposed();
     machine.settings.registerDefaults(
         {{keys::displayNotifications, true}, {keys::showInMenu, true}});
     machine.settings.set(keys::externalIPAddress, u"203.0.113.7"_s);

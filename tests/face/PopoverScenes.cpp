@@ -53,6 +53,23 @@ void openNetwork(FaceProgram &program)
     }
 }
 
+/// Nobody tells anything of what the network sees.
+void knowNothing(FaceProgram &program)
+{
+    program.machine.exposure.facts = {};
+}
+
+/// The longest of everything.
+void giveEverythingAway(FaceProgram &program)
+{
+    ExposureFacts &facts = program.machine.exposure.facts;
+    facts.hostName = QString(60, u'w') + u".harbor.example"_s;
+    facts.ipv4.identifier = QByteArray(130, '\xab');
+    facts.ipv4.identifierMade = ExposureFacts::Made::Fixed;
+    facts.ipv6Addresses = QList<ExposureFacts::Ipv6Address>(
+        40, {.octets = QByteArray::fromHex("20010db8aaaabbbb1234567890abcdef")});
+}
+
 void openVendors(FaceProgram &program)
 {
     program.features().vendors.field.showVendorViewPopover();
@@ -87,6 +104,11 @@ QList<FaceScene> popoverScenes()
                 program.settle();
                 program.features().mainWindow.toggleHardwarePopover();
             }},
+        {u"popover-hardware-wired"_s, nullptr,
+            [](P &program) {
+                program.features().networks.info.showNetworkButton(false);
+                program.features().mainWindow.toggleHardwarePopover();
+            }},
         {u"popover-saved-addresses"_s, saveAddresses,
             [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
         {u"popover-saved-addresses-no-helper"_s,
@@ -101,6 +123,8 @@ QList<FaceScene> popoverScenes()
             [](P &program) { program.features().networks.savedLists.toggleSoftwarePopover(); }},
         {u"popover-network"_s, nullptr, openNetwork},
         {u"popover-network-long"_s, joinLongName, openNetwork},
+        {u"popover-network-not-known"_s, knowNothing, openNetwork},
+        {u"popover-network-traces"_s, giveEverythingAway, openNetwork},
         {u"popover-vendor"_s, nullptr,
             [](P &program) { program.features().vendors.info.toggleVendorPopover(); }},
         {u"popover-vendor-long"_s, nullptr, openWordyVendor},

@@ -6,6 +6,7 @@
 #include "fakes/FakeAlertPresenter.h"
 #include "fakes/FakeCloudProvider.h"
 #include "fakes/FakeDistributedNotificationCenter.h"
+#include "fakes/FakeExposureSource.h"
 #include "fakes/FakeHelper.h"
 #include "fakes/FakeHotKeys.h"
 #include "fakes/FakeHttpClient.h"
@@ -64,6 +65,7 @@ struct FakePlatform
             .network = host,
             .interfaceAddresses = addresses,
             .addressOwners = owners,
+            .exposure = exposure,
             .networkChanges = networkChanges,
             .reachability = reachability,
             .sleep = sleep,
@@ -107,6 +109,7 @@ struct FakePlatform
     FakeNetworkHost host;
     FakeInterfaceAddresses addresses{host};
     FakeAddressOwners owners{scheduler};
+    FakeExposureSource exposure{scheduler};
     FakeNetworkChangeSource networkChanges;
     FakeReachability reachability;
     FakeSystemSleep sleep;

@@ -18,8 +18,10 @@
 //   history                what rules and people have changed: DEVICE ADDRESS for each
 //   messages               the titles that the user was told since the last time
 //   wifi                   what the window shows of the network that the radio is on: KEY=TEXT, …
+//   traces DEVICE          what the window says that the interface's network still sees: LABEL|VALUE|HINT, …
 //   install                as the window's button does it: whether the helper is installed now
 //   uninstall              the same of its other button
+#include "base/Localized.h"
 #include "base/SettingsKeys.h"
 #include "bench/ServeInLoop.h"
 #include "contract/Names.h"
@@ -30,6 +32,7 @@
 #include "platform/linux/owner/TakeBackGuard.h"
 #include "platform/linux/wifi/Nl80211WiFiClient.h"
 #include "presentation/networks/NetworkInfoModel.h"
+#include "presentation/networks/TracesModel.h"
 #include "rules/Rule.h"
 #include "rules/RuleActions.h"
 #include "store/graph/ManagedObjectContext.h"
@@ -90,6 +93,9 @@ public:
         }
         if (what == "network") {
             return words("named", {features().networks.info.state().name});
+        }
+        if (what == "traces") {
+            return traces(text(request, 1));
         }
         if (what == "install" || what == "uninstall") {
             return helper(what == "install");
@@ -172,6 +178,39 @@ private:
         Words words{"wifi"};
         for (const auto &[key, text] : shown.asKeyValueRange()) {
             words.push_back((key + u'=' + text.toString()).toStdString());
+        }
+        return words;
+    }
+
+    void showTraces(const QString &device)
+    {
+        features().devices.currentInterface.selectInterface(device);
+        TracesModel &model = features().networks.traces;
+        model.setShown(true);
+        if (!test::eventually([&] {
+                return model.state().title.contains(device) &&
+                       model.state().line != localized("Looking…");
+            })) {
+            throw std::runtime_error("nothing is read");
+        }
+    }
+
+    Words traces(const QString &device)
+    {
+        // Those of another interface first, so that nothing of an earlier time is left.
+        const QStringList others = features().devices.table.names();
+        for (const QString &other : others) {
+            if (other != device) {
+                showTraces(other);
+                break;
+            }
+        }
+        showTraces(device);
+        TracesModel &model = features().networks.traces;
+        model.setShown(false);
+        Words words{"traces"};
+        for (const TracesModel::Row &row : model.state().rows) {
+            words.push_back(QStringList({row.label, row.value, row.hint}).join(u'|').toStdString());
         }
         return words;
     }

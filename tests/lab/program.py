@@ -7,6 +7,7 @@ import subprocess
 from collections import namedtuple
 
 Changed = namedtuple("Changed", "in_place address seconds")
+Trace = namedtuple("Trace", "label value hint")
 ANY_NETWORK, UNKNOWN_NETWORK = "Any Network", "An Unknown Network"
 FOLDER = "/home/quillon/lab-program"
 
@@ -69,6 +70,10 @@ class Program:
     def wifi(self):
         """What the window shows of the network that the radio is on."""
         return dict(word.split("=", 1) for word in self.ask("wifi")[1:])
+
+    def traces(self, device):
+        """What the window says that the network of the interface still sees."""
+        return [Trace(*word.split("|", 2)) for word in self.ask("traces", device)[1:]]
 
     def network(self):
         """What the window says in place of the network's name, or that."""

@@ -15,7 +15,7 @@ Features::Features(
     , helper(platform.helperLink, platform.scheduler, platform.notifications)
     , devices(platform, notifier, helper)
     , history(platform, devices.table, std::move(openFailure))
-    , networks(platform, devices.table)
+    , networks(platform, devices.table, devices.currentInterface)
     , rules(platform, notifier, devices, networks, history.store)
     , vendors(platform, devices.table, devices.currentInterface)
     , updates(platform, notifier)

@@ -6,7 +6,8 @@
 
 namespace quillon {
 
-NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devices)
+NetworkFeature::NetworkFeature(
+    const Platform &platform, const DeviceTable &devices, const CurrentInterface &currentInterface)
     : wifi(platform.settings, platform.wifi, devices)
     , locationPermission(
           {platform.scheduler, platform.location, platform.alerts, platform.systemSettings, wifi})
@@ -19,6 +20,7 @@ NetworkFeature::NetworkFeature(const Platform &platform, const DeviceTable &devi
     , removedFromSavedItems(platform.settings, wifi)
     , info({platform.settings, platform.scheduler, devices, wifi, platform.radioSwitch,
           savedNetworks, removedInMainWindow})
+    , traces(platform.exposure, platform.scheduler, currentInterface, devices)
     , savedLists(platform.settings, savedAddresses, removedInMainWindow)
     , savedEntryPopover({platform.settings, platform.scheduler, networkEditing, addressEditing,
           removedFromSavedItems})

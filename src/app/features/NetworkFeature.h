@@ -15,9 +15,11 @@
 #include "presentation/networks/RemovedFavorite.h"
 #include "presentation/networks/SavedEntryPopoverModel.h"
 #include "presentation/networks/SavedListsModel.h"
+#include "presentation/networks/TracesModel.h"
 
 namespace quillon {
 
+class CurrentInterface;
 class DeviceTable;
 struct Platform;
 
@@ -25,7 +27,8 @@ struct Platform;
 /// address, and what the window shows of them.
 struct NetworkFeature
 {
-    NetworkFeature(const Platform &platform, const DeviceTable &devices);
+    NetworkFeature(const Platform &platform, const DeviceTable &devices,
+        const CurrentInterface &currentInterface);
 
     WiFiNetwork wifi;
     LocationPermission locationPermission;
@@ -38,6 +41,7 @@ struct NetworkFeature
     RemovedFavorite removedInMainWindow;
     RemovedFavorite removedFromSavedItems;
     NetworkInfoModel info;
+    TracesModel traces;
     SavedListsModel savedLists;
     SavedEntryPopoverModel savedEntryPopover;
     NewSavedEntryModel newSavedNetwork;

@@ -4,6 +4,7 @@
 
 #include "base/Localized.h"
 #include "presentation/networks/NetworkInfoModel.h"
+#include "ui/networks/TracesView.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/LiveGraph.h"
@@ -45,12 +46,13 @@ void showValue(QLabel &label, const QString &value)
 
 } // namespace
 
-NetworkDetails::NetworkDetails(NetworkInfoModel &model, const Theme &theme)
+NetworkDetails::NetworkDetails(NetworkInfoModel &model, TracesModel &traces, const Theme &theme)
     : m_model(model)
     , m_head(new PopoverHead(theme, u"wireless"_s))
     , m_heart(new HeartButton(theme))
     , m_grid(new QGridLayout)
     , m_graph(new LiveGraph(theme))
+    , m_traces(new TracesView(traces))
 {
     m_head->addAtEnd(m_heart);
     makeFields();
@@ -60,6 +62,7 @@ NetworkDetails::NetworkDetails(NetworkInfoModel &model, const Theme &theme)
     column->addWidget(m_head);
     column->addLayout(m_grid);
     column->addWidget(m_graph);
+    column->addWidget(m_traces);
 
     connect(m_heart, &QToolButton::clicked, &m_model, &NetworkInfoModel::chooseFavoriteButton);
     connect(&m_model, &NetworkInfoModel::changed, this, &NetworkDetails::refresh);
@@ -97,6 +100,7 @@ void NetworkDetails::refresh()
     for (qsizetype row = 0; row < m_values.size(); ++row) {
         showValue(*m_values.at(row), state.rows.value(row).value);
     }
+    m_traces->refresh();
     m_graph->clear();
     for (const auto &sample : state.signal) {
         m_graph->add({sample.time, sample.signal, sample.noise});

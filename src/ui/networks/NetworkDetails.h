@@ -14,14 +14,17 @@ class LiveGraph;
 class NetworkInfoModel;
 class PopoverHead;
 class Theme;
+class TracesModel;
+class TracesView;
 
-/// What the radio knows of its network: fields, and signal and noise of the last minutes.
+/// What the radio knows of its network: fields, signal and noise of the last minutes, and what that
+/// of the selected interface knows it by.
 class NetworkDetails : public PopoverDetails
 {
     Q_OBJECT
 
 public:
-    NetworkDetails(NetworkInfoModel &model, const Theme &theme);
+    NetworkDetails(NetworkInfoModel &model, TracesModel &traces, const Theme &theme);
 
     void refresh() override;
 
@@ -34,6 +37,7 @@ private:
     QGridLayout *m_grid;
     QList<QLabel *> m_values;
     LiveGraph *m_graph;
+    TracesView *m_traces;
 };
 
 } // namespace quillon

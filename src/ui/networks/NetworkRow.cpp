@@ -16,9 +16,10 @@ constexpr int popoverWidth = 330;
 
 } // namespace
 
-NetworkRow::NetworkRow(NetworkInfoModel &model, const Theme &theme)
+NetworkRow::NetworkRow(NetworkInfoModel &model, TracesModel &traces, const Theme &theme)
     : PopoverRow(theme, localized("Network"), popoverWidth)
     , m_model(model)
+    , m_traces(traces)
 {
     setObjectName(u"networkButton"_s);
     connect(this, &RowButton::clicked, &m_model, &NetworkInfoModel::toggleNetworkInfoPopover);
@@ -29,7 +30,7 @@ NetworkRow::NetworkRow(NetworkInfoModel &model, const Theme &theme)
 
 PopoverDetails *NetworkRow::makeDetails()
 {
-    return new NetworkDetails(m_model, theme());
+    return new NetworkDetails(m_model, m_traces, theme());
 }
 
 void NetworkRow::refresh()

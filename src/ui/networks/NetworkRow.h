@@ -7,6 +7,7 @@
 namespace quillon {
 
 class NetworkInfoModel;
+class TracesModel;
 
 /// The network that the selected interface is on.
 class NetworkRow : public PopoverRow
@@ -14,7 +15,7 @@ class NetworkRow : public PopoverRow
     Q_OBJECT
 
 public:
-    NetworkRow(NetworkInfoModel &model, const Theme &theme);
+    NetworkRow(NetworkInfoModel &model, TracesModel &traces, const Theme &theme);
 
 protected:
     PopoverDetails *makeDetails() override;
@@ -23,6 +24,7 @@ private:
     void refresh();
 
     NetworkInfoModel &m_model;
+    TracesModel &m_traces;
 };
 
 } // namespace quillon

@@ -6,13 +6,18 @@
 #include "presentation/window/MainWindowModel.h"
 #include "ui/window/HardwareDetails.h"
 
+#include <QLayout>
+
+#include <utility>
+
 namespace quillon {
 
 using namespace Qt::StringLiterals;
 
-HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme)
+HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme, MakeFurther makeFurther)
     : PopoverRow(theme, localized("Hardware address"))
     , m_model(model)
+    , m_makeFurther(std::move(makeFurther))
 {
     setObjectName(u"hardwareButton"_s);
     connect(this, &RowButton::clicked, &m_model, &MainWindowModel::toggleHardwarePopover);
@@ -23,7 +28,11 @@ HardwareRow::HardwareRow(MainWindowModel &model, const Theme &theme)
 
 PopoverDetails *HardwareRow::makeDetails()
 {
-    return new HardwareDetails(m_model, theme());
+    auto *details = new HardwareDetails(m_model, theme());
+    if (m_makeFurther) {
+        details->layout()->addWidget(m_makeFurther(details));
+    }
+    return details;
 }
 
 void HardwareRow::refresh()

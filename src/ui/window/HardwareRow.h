@@ -4,6 +4,8 @@
 
 #include "ui/widgets/PopoverRow.h"
 
+#include <functional>
+
 namespace quillon {
 
 class MainWindowModel;
@@ -14,7 +16,10 @@ class HardwareRow : public PopoverRow
     Q_OBJECT
 
 public:
-    HardwareRow(MainWindowModel &model, const Theme &theme);
+    /// Makes what stands below the address in the popover, another feature's; once.
+    using MakeFurther = std::function<QWidget *(QWidget *parent)>;
+
+    HardwareRow(MainWindowModel &model, const Theme &theme, MakeFurther makeFurther = {});
 
 protected:
     PopoverDetails *makeDetails() override;
@@ -23,6 +28,7 @@ private:
     void refresh();
 
     MainWindowModel &m_model;
+    const MakeFurther m_makeFurther;
 };
 
 } // namespace quillon

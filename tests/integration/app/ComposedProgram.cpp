@@ -46,6 +46,7 @@ ComposedProgram::ComposedProgram(
         .network = m_network,
         .interfaceAddresses = m_interfaceAddresses,
         .addressOwners = m_addressOwners,
+        .exposure = m_exposure,
         .networkChanges = m_networkChanges,
         .reachability = m_reachability,
         .sleep = m_sleep,

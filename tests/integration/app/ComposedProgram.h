@@ -21,6 +21,7 @@
 #include "platform/linux/bus/DBusHelperLink.h"
 #include "platform/linux/bus/LogindSleep.h"
 #include "platform/linux/bus/SessionBusNotificationCenter.h"
+#include "platform/linux/exposure/LinuxExposureSource.h"
 #include "platform/linux/netlink/GetifaddrsAddresses.h"
 #include "platform/linux/netlink/NetlinkChangeSource.h"
 #include "platform/linux/netlink/NetlinkHost.h"
@@ -86,6 +87,7 @@ private:
     NetlinkHost m_network;
     GetifaddrsAddresses m_interfaceAddresses;
     LinuxAddressOwners m_addressOwners;
+    LinuxExposureSource m_exposure{m_real};
     NetlinkChangeSource m_networkChanges{m_real};
     RouteReachability m_route;
     PortalReachability m_reachability{m_route, m_real};

@@ -109,6 +109,7 @@ private:
             .network = fakes.network,
             .interfaceAddresses = fakes.interfaceAddresses,
             .addressOwners = fakes.addressOwners,
+            .exposure = fakes.exposure,
             .networkChanges = fakes.networkChanges,
             .reachability = fakes.reachability,
             .sleep = fakes.sleep,

@@ -147,5 +147,27 @@ TEST_F(NetworkFeatureTest, TheAddresssPopoverClosesWhenItIsDone)
     EXPECT_EQ(quickAddresses(), QStringList());
 }
 
+TEST_F(NetworkFeatureTest, TheTracesFollowTheSelectionAndAChangeWhileSomebodyLooks)
+{
+    run();
+    TracesModel &traces = features().networks.traces;
+    const QStringList &asked = machine.exposure.asked;
+    select(u"enp1s0"_s);
+    EXPECT_TRUE(asked.isEmpty()) << "nobody looks";
+    traces.setShown(true);
+    machine.scheduler.runPending();
+    select(u"enp2s0"_s);
+    EXPECT_EQ(asked.last(), u"enp2s0"_s);
+    const qsizetype before = asked.size();
+    features().devices.addressChanger.updateMacAddressWithAddress(
+        u"enp2s0"_s, u"02:00:00:00:00:42"_s);
+    machine.scheduler.advance(1s);
+    EXPECT_GT(asked.size(), before);
+    traces.setShown(false);
+    const qsizetype last = asked.size();
+    select(u"enp1s0"_s);
+    EXPECT_EQ(asked.size(), last);
+}
+
 } // namespace
 } // namespace quillon::test

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/networks/NetworkRow.h"
 
+#include "devices/CurrentInterface.h"
+#include "fakes/FakeExposureSource.h"
 #include "fakes/FakeRadioSwitch.h"
 #include "networks/SavedNetworks.h"
 #include "presentation/networks/NetworkInfoModel.h"
 #include "presentation/networks/RemovedFavorite.h"
+#include "presentation/networks/TracesModel.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/HeartButton.h"
 #include "ui/widgets/LiveGraph.h"
@@ -44,7 +47,10 @@ protected:
     SavedNetworks saved{settings, network};
     RemovedFavorite removed{settings, network};
     NetworkInfoModel model{{settings, scheduler, table, network, radioSwitch, saved, removed}};
-    NetworkRow row{model, theme};
+    CurrentInterface current{settings, scheduler, table};
+    FakeExposureSource exposure{scheduler};
+    TracesModel traces{exposure, scheduler, current, table};
+    NetworkRow row{model, traces, theme};
 };
 
 TEST_F(NetworkRowTest, ShowsTheNetworkAndWhatTheRadioKnowsOfIt)
