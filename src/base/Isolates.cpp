@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/Isolates.h"
 
-#include <QList>
-
 namespace quillon {
 
 QList<qsizetype> halfIsolates(const QString &text)
