@@ -1687,7 +1687,7 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>Save Addresses</source>
-        <translation>Enregistrer les adresses</translation>
+        <translation>Garder les adresses</translation>
     </message>
     <message>
         <source>Adds the addresses of the selected records to the saved ones.</source>
@@ -1695,7 +1695,7 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>Save Networks</source>
-        <translation>Enregistrer les réseaux</translation>
+        <translation>Garder les réseaux</translation>
     </message>
     <message>
         <source>Adds the networks of the selected records to the saved ones.</source>
