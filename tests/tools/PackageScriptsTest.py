@@ -136,8 +136,12 @@ class PackageScriptsTest(unittest.TestCase):
     def test_its_own_test_holds(self):
         said = self.expect("dpkg --install /tmp/quillon_1.deb" + BUSES + """
             /tmp/change-address || { cat /tmp/polkitd.log; fail "change-address"; }
+            # The helper still runs, and nothing is there to stop it.
+            [ -n "$(ps -u quillon4-helper -o pid=)" ] || fail "no helper runs"
+            dpkg --purge quillon
+            has_none || fail "its user stays"
         """)
-        self.assertEqual(said.splitlines()[-1], "--- done")
+        self.assertIn("--- done", said.splitlines())
 
     def test_a_helper_that_installed_itself_gives_way(self):
         self.expect("""
