@@ -24,7 +24,7 @@ inline UserInterface::Models modelsOf(Features &features)
             .preferences = {features.preferencesWindow, features.presence},
             .panes = {.presence = features.presence,
                 .general = panes.general,
-                .account = {panes.cloudAccount, panes.cloudSignIn},
+                .account = {panes.cloudAccount, panes.cloudSignIn, panes.cloudPassphrase},
                 .advanced = {panes.advanced, panes.defaultMinutes, panes.driftAlarm, panes.owners},
                 .display = panes.display,
                 .vendorData = vendors.pane,

@@ -2270,6 +2270,98 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Die beiden Passphrasen stimmen nicht überein.</translation>
     </message>
     <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>Schlüsseldatei des Kontos wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>Schlüsseldatei des Kontos wird geschrieben…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>Die Passphrase wurde geändert. Die anderen Rechner bleiben angemeldet.</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>Passphrase ändern…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>Gibt dem Konto eine andere Passphrase, für alle Rechner</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Passphrase ändern</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>Danach öffnet die neue Passphrase das Konto</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>Aktuelle Passphrase</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>Die, mit der Sie sich angemeldet haben</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Neue Passphrase</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>Mindestens acht Zeichen. Niemand kann später sagen, was eingegeben wurde.</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>Neue Passphrase wiederholen</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>Dieselbe noch einmal</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>Die anderen Rechner bleiben angemeldet. Früher angelegte Kopien des Kontos öffnet weiterhin die aktuelle Passphrase.</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>Im Konto ist ein anderer Schlüssel: Jemand hat es neu angelegt oder verändert. Abgeglichen wird erst nach neuer Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>Bitte zuerst beim Konto anmelden.</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>Bitte die aktuelle Passphrase eingeben.</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>Bitte eine neue Passphrase eingeben.</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>Die neue Passphrase ist die aktuelle.</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>Ein anderer Rechner hat die Schlüsseldatei gerade geändert. Bitte mit der jetzt gültigen Passphrase erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>Die Verbindung ist abgebrochen. Das Konto lässt sich jetzt entweder mit der neuen oder mit der bisherigen Passphrase öffnen.</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>Ein anderer Rechner hat die Passphrase gleichzeitig geändert. Jetzt gilt die von dort.</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>Das ist nicht die aktuelle Passphrase.</translation>
+    </message>
+    <message>
         <source>Account…</source>
         <translation>Konto…</translation>
     </message>

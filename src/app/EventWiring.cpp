@@ -331,6 +331,8 @@ void EventWiring::connectCloud()
         [&f] { f.helper.updateHelperInstalledStatus(); });
     on(cloud.watch, &CloudAccountWatch::alertShown, [&f] { f.presence.openWindow(); });
     on(cloud.signIn, &AccountSignIn::signedIn, [&cloud] { cloud.session.renew(); });
+    // It has the copy of the key file that is put back when the account's is lost.
+    on(cloud.passphrase, &PassphraseChange::changed, [&cloud] { cloud.session.renew(); });
     on(cloud.session, &CloudSession::troubleChanged,
         [&f] { f.preferences.general.showTrouble(f.cloud.session.trouble()); });
     PreferencesFeature &panes = f.preferences;
@@ -340,6 +342,9 @@ void EventWiring::connectCloud()
     on(panes.cloudAccount, &CloudAccountModel::changed, showAccount);
     panes.cloudAccount.use(cloud.signIn);
     panes.cloudSignIn.use(cloud.signIn);
+    panes.cloudPassphrase.use(cloud.passphrase);
+    on(panes.cloudPassphrase, &PassphraseModel::told,
+        [&panes](const QString &text) { panes.cloudAccount.say(text); });
     showAccount();
     // Its dialog has said what that does to the account.
     on(panes.cloudSignIn, &CloudSignInModel::signedIn, [&panes] {

@@ -120,6 +120,7 @@ void AccountSignIn::unlock()
 void AccountSignIn::keep(const AccountUnlocking::Opened &opened)
 {
     m_hasKept = true;
+    m_deps.accounts.addLeft(m_account);
     const QString password =
         m_account.kind == CloudAccount::Kind::Folder ? QString() : m_wanted.password;
     m_secrets.keep(m_account, {password, opened.key},
@@ -165,6 +166,7 @@ void AccountSignIn::succeed()
     m_hasKept = false;
     drop();
     m_deps.accounts.set(account);
+    m_deps.accounts.removeLeft(account);
     if (before && before->identityToken() != account.identityToken()) {
         forget(*before);
     }
@@ -212,7 +214,27 @@ void AccountSignIn::drop()
 /// The secrets of the account that the person is signed in to stay.
 void AccountSignIn::forget(const CloudAccount &account)
 {
-    m_secrets.forget(account, m_deps.accounts.account());
+    m_deps.accounts.addLeft(account);
+    m_secrets.forget(
+        account, m_deps.accounts.account(), [self = QPointer(this), account](bool areGone) {
+            // A new attempt may be putting them there again.
+            const bool isWanted = self && self->m_hasKept && self->m_account == account;
+            if (self && areGone && !isWanted) {
+                self->m_deps.accounts.removeLeft(account);
+            }
+        });
+}
+
+void AccountSignIn::clearUp()
+{
+    const auto signedIn = m_deps.accounts.account();
+    for (const CloudAccount &account : m_deps.accounts.left()) {
+        if (signedIn && signedIn->identityToken() == account.identityToken()) {
+            m_deps.accounts.removeLeft(account);
+        } else {
+            forget(account);
+        }
+    }
 }
 
 void AccountSignIn::signOut()
@@ -223,6 +245,7 @@ void AccountSignIn::signOut()
         return;
     }
     m_deps.settings.setBool(keys::iCloudSync, false);
+    m_deps.accounts.addLeft(*account);
     m_deps.accounts.forget();
     forget(*account);
 }

@@ -39,6 +39,8 @@ public:
     void cancel() override;
     /// Switches the sync off as well: there is nobody left to ask about it.
     void signOut() override;
+    /// Removes what an attempt, or a sign-out, left in the keyring when the program ended in it.
+    void clearUp();
     std::optional<CloudAccount> account() const override;
 
 private:

@@ -15,12 +15,6 @@ namespace quillon {
 
 namespace {
 
-/// One spelling for what keyboards and systems spell in several ways.
-QByteArray bytesOf(const QString &passphrase)
-{
-    return passphrase.normalized(QString::NormalizationForm_C).toUtf8();
-}
-
 AccountUnlocking::Obstacle obstacleOf(KeyFileProblem problem)
 {
     switch (problem) {
@@ -31,12 +25,23 @@ AccountUnlocking::Obstacle obstacleOf(KeyFileProblem problem)
     case KeyFileProblem::NoMemory:
         return AccountUnlocking::Obstacle::NoMemory;
     case KeyFileProblem::Damaged:
+    case KeyFileProblem::OtherKey: // there is none yet to compare it with
         break;
     }
     return AccountUnlocking::Obstacle::Damaged;
 }
 
 } // namespace
+
+QByteArray AccountUnlocking::bytesOf(const QString &passphrase)
+{
+    return passphrase.normalized(QString::NormalizationForm_C).toUtf8();
+}
+
+bool AccountUnlocking::isTooShort(const QString &passphrase)
+{
+    return passphrase.normalized(QString::NormalizationForm_C).size() < shortestPassphrase;
+}
 
 AccountUnlocking::AccountUnlocking(const Collaborators &collaborators)
     : m_deps(collaborators)
@@ -103,7 +108,7 @@ void AccountUnlocking::lookForFiles()
             [](const CloudFile &file) { return AccountFile::fromName(file.name).has_value(); });
         if (hasFiles) {
             finish(Obstacle::KeyLost);
-        } else if (QString::fromUtf8(m_passphrase).size() < shortestPassphrase) {
+        } else if (isTooShort(QString::fromUtf8(m_passphrase))) {
             finish(Obstacle::TooShort);
         } else if (m_repeated.isEmpty()) {
             finish(Obstacle::NotRepeated);

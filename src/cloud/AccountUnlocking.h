@@ -49,6 +49,11 @@ public:
     /// The fewest characters of a new passphrase.
     static constexpr qsizetype shortestPassphrase = 8;
 
+    /// As the key is made of it: one spelling for what keyboards and systems spell in several ways.
+    static QByteArray bytesOf(const QString &passphrase);
+    /// Of one that is to be made.
+    static bool isTooShort(const QString &passphrase);
+
     explicit AccountUnlocking(const Collaborators &collaborators);
 
     /// Both call back once, in a later turn, unless this goes before; the callback may destroy it.

@@ -4,6 +4,8 @@
 
 #include "base/SettingsKeys.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quillon {
@@ -19,7 +21,9 @@ constexpr auto folderKey = "folder"_L1;
 constexpr auto fingerprintKey = "fingerprint"_L1;
 constexpr auto webDav = "WebDAV"_L1;
 constexpr auto folder = "folder"_L1;
+constexpr auto leftKey = "left"_L1;
 constexpr qsizetype fingerprintSize = 32;
+constexpr qsizetype mostLeft = 16;
 
 /// Nothing where it is not one of a certificate's.
 std::optional<QByteArray> fingerprintOf(const QString &text)
@@ -69,6 +73,7 @@ QVariantMap stored(const CloudAccount &account)
 
 CloudAccounts::CloudAccounts(SettingsStore &settings)
     : m_settings(settings)
+    , m_told(account())
     , m_observer(settings.addObserver(keys::cloudAccount, [this](const auto &) { tell(); }))
 {
 }
@@ -85,13 +90,54 @@ std::optional<CloudAccount> CloudAccounts::account() const
 
 void CloudAccounts::set(const CloudAccount &account)
 {
-    m_settings.set(keys::cloudAccount, stored(account));
-    m_settings.synchronize();
+    store(account, left());
 }
 
 void CloudAccounts::forget()
 {
-    m_settings.set(keys::cloudAccount, {});
+    store(std::nullopt, left());
+}
+
+QList<CloudAccount> CloudAccounts::left() const
+{
+    QList<CloudAccount> accounts;
+    const QVariant value = m_settings.getDictionary(keys::cloudAccount).value(leftKey);
+    const bool isList = propertyListType(value) == PropertyListType::Array;
+    for (const QVariant &each : isList ? value.toList().mid(0, mostLeft) : QVariantList()) {
+        if (const auto account = accountOf(each.toMap())) {
+            accounts.append(*account);
+        }
+    }
+    return accounts;
+}
+
+void CloudAccounts::addLeft(const CloudAccount &account)
+{
+    QList<CloudAccount> accounts = left();
+    if (!accounts.contains(account)) {
+        accounts.prepend(account);
+        store(this->account(), accounts.mid(0, mostLeft));
+    }
+}
+
+void CloudAccounts::removeLeft(const CloudAccount &account)
+{
+    QList<CloudAccount> accounts = left();
+    if (accounts.removeAll(account) > 0) {
+        store(this->account(), accounts);
+    }
+}
+
+void CloudAccounts::store(
+    const std::optional<CloudAccount> &account, const QList<CloudAccount> &left)
+{
+    QVariantMap value = account ? stored(*account) : QVariantMap();
+    if (!left.isEmpty()) {
+        QVariantList list;
+        std::ranges::transform(left, std::back_inserter(list), stored);
+        value.insert(leftKey, list);
+    }
+    m_settings.set(keys::cloudAccount, value.isEmpty() ? QVariant() : QVariant(value));
     m_settings.synchronize();
 }
 
@@ -114,6 +160,10 @@ void CloudAccounts::removeObserver(Token token)
 
 void CloudAccounts::tell()
 {
+    const auto now = account();
+    if (std::exchange(m_told, now) == now) {
+        return;
+    }
     const auto observers = m_observers;
     for (const auto &[token, changed] : observers) {
         if (m_observers.contains(token)) {

@@ -15,12 +15,12 @@ namespace {
 /// Of both parts in Base64.
 constexpr QChar separator = u'.';
 
-QString textOf(const OpenedKey &key)
+QString textOf(const AccountKey &key, const QByteArray &file)
 {
-    QByteArray bytes = key.key.bytes();
+    QByteArray bytes = key.bytes();
     QByteArray secret = bytes.toBase64();
     const QString text =
-        QString::fromLatin1(secret) + separator + QString::fromLatin1(key.file.toBase64());
+        QString::fromLatin1(secret) + separator + QString::fromLatin1(file.toBase64());
     wipe(bytes);
     wipe(secret);
     return text;
@@ -63,7 +63,13 @@ void CloudSecrets::keep(const CloudAccount &account, const Kept &kept, Done done
             store.store(name, password, done);
         }
     };
-    m_store.store(keyName(account), textOf(*kept.key), keepPassword);
+    m_store.store(keyName(account), textOf(kept.key->key, kept.key->file), keepPassword);
+}
+
+void CloudSecrets::keepKeyFile(
+    const CloudAccount &account, const AccountKey &key, const QByteArray &file, Done done)
+{
+    m_store.store(keyName(account), textOf(key, file), std::move(done));
 }
 
 void CloudSecrets::read(const CloudAccount &account, Read read)
@@ -95,18 +101,28 @@ void CloudSecrets::read(const CloudAccount &account, Read read)
     m_store.read(keyName(account), readPassword);
 }
 
-void CloudSecrets::forget(const CloudAccount &account, const std::optional<CloudAccount> &other)
+void CloudSecrets::forget(const CloudAccount &account, const std::optional<CloudAccount> &other,
+    std::function<void(bool)> done)
 {
     const QStringList needed =
         other ? QStringList{keyName(*other), other->secretName()} : QStringList();
-    for (const QString &name : {keyName(account), account.secretName()}) {
-        if (name.isEmpty() || needed.contains(name)) {
-            continue;
-        }
-        m_store.remove(name, [](const std::optional<SecretStore::Failure> &failure) {
+    QStringList names{keyName(account), account.secretName()};
+    names.removeIf(
+        [&needed](const QString &name) { return name.isEmpty() || needed.contains(name); });
+    if (names.isEmpty() && done) {
+        done(true);
+    }
+    const auto left = std::make_shared<qsizetype>(names.size());
+    const auto all = std::make_shared<bool>(true);
+    for (const QString &name : std::as_const(names)) {
+        m_store.remove(name, [left, all, done](const std::optional<SecretStore::Failure> &failure) {
             if (failure) {
+                *all = false;
                 qCWarning(
                     logSync, "a secret stays in the keyring: %s", qUtf8Printable(failure->message));
+            }
+            if (--*left == 0 && done) {
+                done(*all);
             }
         });
     }

@@ -37,9 +37,14 @@ public:
     explicit CloudSecrets(SecretStore &store);
 
     void keep(const CloudAccount &account, const Kept &kept, Done done);
+    /// Another key file beside the same key: the account has another passphrase.
+    void keepKeyFile(
+        const CloudAccount &account, const AccountKey &key, const QByteArray &file, Done done);
     void read(const CloudAccount &account, Read read);
-    /// All but what `other` needs as well; one is removed, whatever becomes of the other.
-    void forget(const CloudAccount &account, const std::optional<CloudAccount> &other);
+    /// All but what `other` needs as well; one is removed, whatever becomes of the other. Whether
+    /// all are gone is told, where somebody wants to know.
+    void forget(const CloudAccount &account, const std::optional<CloudAccount> &other,
+        std::function<void(bool)> done = {});
 
     /// What the key is for the keyring.
     static QString keyName(const CloudAccount &account);

@@ -6,11 +6,13 @@
 #include "base/Log.h"
 #include "base/SettingsKeys.h"
 #include "cloud/CloudAccounts.h"
+#include "cloud/SignInProblem.h"
 #include "platform/CloudMessage.h"
 #include "platform/CloudProvider.h"
 #include "platform/PowerSaving.h"
 #include "platform/Reachability.h"
 #include "sync/AccountFile.h"
+#include "sync/KeyFileWatch.h"
 #include "sync/RecordMirror.h"
 
 #include <QPointer>
@@ -53,9 +55,11 @@ QString refusalText(FileProblem problem)
 struct CloudSession::Running
 {
     Running(const Collaborators &deps, std::shared_ptr<const OpenedKey> opened,
-        std::unique_ptr<CloudStorage> storageOfAccount, SyncSchedule::Run run)
+        std::unique_ptr<CloudStorage> storageOfAccount, SyncSchedule::Run run,
+        KeyFileWatch::Renewed renewed)
         : key(std::move(opened))
         , storage(std::move(storageOfAccount))
+        , keyFile(*storage, key->key, key->file, std::move(renewed))
         , replica(deps.mirror.storage(), key->key, deps.random)
         , schedule(deps.scheduler, deps.random, std::move(run))
     {
@@ -63,6 +67,7 @@ struct CloudSession::Running
 
     std::shared_ptr<const OpenedKey> key;
     std::unique_ptr<CloudStorage> storage;
+    KeyFileWatch keyFile;
     Replica replica;
     SyncSchedule schedule;
     std::unique_ptr<SyncRound> round;
@@ -201,9 +206,10 @@ void CloudSession::takeSecrets(const CloudSecrets::Found &found)
 
 void CloudSession::start(const CloudSecrets::Kept &kept)
 {
-    m_running =
-        std::make_unique<Running>(m_deps, kept.key, m_deps.cloud.storage(*m_account, kept.password),
-            [this](SyncRound::Look look, const SyncRound::Done &done) { run(look, done); });
+    m_running = std::make_unique<Running>(
+        m_deps, kept.key, m_deps.cloud.storage(*m_account, kept.password),
+        [this](SyncRound::Look look, const SyncRound::Done &done) { run(look, done); },
+        [this](const QByteArray &file) { keepKeyFile(file); });
     // Another key is another account, of which nothing is known.
     const QByteArray account = m_account->identityToken() + kept.key->key.fingerprint();
     if (!m_deps.mirror.start(m_running->replica, account)) {
@@ -254,8 +260,9 @@ void CloudSession::look()
 
 void CloudSession::run(SyncRound::Look look, const SyncRound::Done &done)
 {
-    m_running->round = std::make_unique<SyncRound>(SyncDeps{*m_running->storage,
-        m_deps.mirror.storage(), m_running->replica, m_running->key->key, m_deps.random});
+    m_running->round =
+        std::make_unique<SyncRound>(SyncDeps{*m_running->storage, m_deps.mirror.storage(),
+            m_running->replica, m_running->key->key, m_deps.random, &m_running->keyFile});
     // A folder is listed for nothing. Its files come in any order, the head before the others.
     const bool isFolder = m_account->kind == CloudAccount::Kind::Folder;
     const auto wanted = isFolder ? SyncRound::Look::Listing : look;
@@ -281,6 +288,8 @@ void CloudSession::ended(const SyncOutcome &outcome)
     }
     if (outcome.error) {
         setTrouble(cloudMessage(outcome.error->problem, m_account->kind));
+    } else if (outcome.keyProblem) {
+        setTrouble(keyFileMessage(*outcome.keyProblem));
     } else if (outcome.couldNotStore) {
         setTrouble(localized("What is to be synced could not be stored on this computer."));
     } else {
@@ -291,7 +300,7 @@ void CloudSession::ended(const SyncOutcome &outcome)
 /// Somebody has removed it. Without it no other computer can sign in.
 void CloudSession::putKeyBack()
 {
-    m_running->storage->create(keyFileName, m_running->key->file, [this](const auto &result) {
+    m_running->storage->create(keyFileName, m_running->keyFile.copy(), [this](const auto &result) {
         const auto *const error = std::get_if<CloudError>(&result);
         if (error && error->problem != CloudProblem::Changed) {
             qCWarning(logSync, "the key file of the account cannot be put back: %s",
@@ -300,6 +309,24 @@ void CloudSession::putKeyBack()
             m_running->schedule.lookNow();
         }
     });
+}
+
+/// Lest the earlier passphrase comes back when somebody removes the key file.
+void CloudSession::keepKeyFile(const QByteArray &file)
+{
+    m_secrets.keepKeyFile(*m_account, m_running->key->key, file,
+        [self = QPointer(this), account = *m_account](
+            const std::optional<SecretStore::Failure> &failure) {
+            if (failure) {
+                qCWarning(logSync, "the new key file cannot be kept: %s",
+                    qUtf8Printable(failure->message));
+            }
+            const auto now = self ? self->m_deps.accounts.account() : std::nullopt;
+            if (self && (!now || now->identityToken() != account.identityToken())) {
+                // Signed out meanwhile; what has arrived since then goes again.
+                self->m_secrets.forget(account, now);
+            }
+        });
 }
 
 void CloudSession::setTrouble(const QString &trouble)

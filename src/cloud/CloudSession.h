@@ -70,6 +70,7 @@ private:
     void run(SyncRound::Look look, const SyncRound::Done &done);
     void ended(const SyncOutcome &outcome);
     void putKeyBack();
+    void keepKeyFile(const QByteArray &file);
     void setTrouble(const QString &trouble);
 
     Collaborators m_deps;

@@ -50,16 +50,15 @@ Problem signInProblem(AccountUnlocking::Obstacle obstacle)
         break;
     case AccountUnlocking::Obstacle::WrongPassphrase:
         problem.remedy = Remedy::AnotherPassphrase;
-        problem.text = localized("The account has another passphrase.");
+        problem.text = keyFileMessage(KeyFileProblem::WrongPassphrase);
         break;
     case AccountUnlocking::Obstacle::Damaged:
         problem.about = About::Nothing;
-        problem.text =
-            localized("The account's key file is damaged. Put back an older copy of it.");
+        problem.text = keyFileMessage(KeyFileProblem::Damaged);
         break;
     case AccountUnlocking::Obstacle::Newer:
         problem.about = About::Nothing;
-        problem.text = localized("The account was made by a newer version of Quillon.");
+        problem.text = keyFileMessage(KeyFileProblem::Newer);
         break;
     case AccountUnlocking::Obstacle::KeyLost:
         problem.about = About::Nothing;
@@ -68,10 +67,28 @@ Problem signInProblem(AccountUnlocking::Obstacle obstacle)
         break;
     case AccountUnlocking::Obstacle::NoMemory:
         problem.about = About::Nothing;
-        problem.text = localized("This computer has not enough free memory for that now.");
+        problem.text = keyFileMessage(KeyFileProblem::NoMemory);
         break;
     }
     return problem;
+}
+
+QString keyFileMessage(KeyFileProblem problem)
+{
+    switch (problem) {
+    case KeyFileProblem::WrongPassphrase:
+        return localized("The account has another passphrase.");
+    case KeyFileProblem::Damaged:
+        break;
+    case KeyFileProblem::Newer:
+        return localized("The account was made by a newer version of Quillon.");
+    case KeyFileProblem::NoMemory:
+        return localized("This computer has not enough free memory for that now.");
+    case KeyFileProblem::OtherKey:
+        return localized("Another key is in the account: somebody has made it anew, or changed it. "
+                         "Nothing is synced until you sign in again.");
+    }
+    return localized("The account's key file is damaged. Put back an older copy of it.");
 }
 
 Problem signInProblem(SecretStore::Problem problem)

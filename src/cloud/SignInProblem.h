@@ -11,6 +11,8 @@ namespace quillon {
 CloudSignIn::Problem signInProblem(const CloudError &error, CloudAccount::Kind kind);
 CloudSignIn::Problem signInProblem(AccountUnlocking::Obstacle obstacle);
 CloudSignIn::Problem signInProblem(SecretStore::Problem problem);
+/// Why the account's key file is of no use.
+QString keyFileMessage(KeyFileProblem problem);
 /// What has to be said and was not.
 std::optional<CloudSignIn::Problem> missingOf(const CloudSignIn::Wanted &wanted);
 

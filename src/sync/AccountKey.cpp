@@ -13,8 +13,9 @@ namespace quillon {
 
 namespace {
 
-// The file: mark, version, passes, kibibytes, salt, nonce, the wrapped key, and a checksum of all
-// that, without which a damaged file would look like a wrong passphrase.
+// The file: mark, version, passes, kibibytes, salt, nonce, the wrapped key, the number of the
+// passphrase, a proof that the key itself gives of all that, and a checksum, without which a
+// damaged file would look like a wrong passphrase.
 constexpr char mark[] = {'Q', 'L', 'K', 'Y'};
 constexpr char version = 1;
 constexpr qsizetype costAt = sizeof(mark) + 1;
@@ -22,11 +23,16 @@ constexpr qsizetype saltAt = costAt + 8;
 constexpr qsizetype nonceAt = saltAt + crypto_pwhash_SALTBYTES;
 constexpr qsizetype wrappedAt = nonceAt + crypto_aead_xchacha20poly1305_ietf_NPUBBYTES;
 constexpr qsizetype wrappedSize = AccountKey::size + crypto_aead_xchacha20poly1305_ietf_ABYTES;
-constexpr qsizetype checksumAt = wrappedAt + wrappedSize;
+constexpr qsizetype numberAt = wrappedAt + wrappedSize;
+constexpr qsizetype proofAt = numberAt + 4;
+constexpr qsizetype proofSize = 16;
+constexpr qsizetype checksumAt = proofAt + proofSize;
 constexpr qsizetype checksumSize = 16;
 constexpr qsizetype fileSize = checksumAt + checksumSize;
 
 static_assert(crypto_aead_xchacha20poly1305_ietf_KEYBYTES == AccountKey::size);
+static_assert(AccountKey::size >= crypto_generichash_KEYBYTES_MIN &&
+              AccountKey::size <= crypto_generichash_KEYBYTES_MAX);
 
 const unsigned char *at(const QByteArray &bytes, qsizetype position)
 {
@@ -43,6 +49,19 @@ QByteArray digest(const unsigned char *bytes, std::size_t size)
     QByteArray made(checksumSize, '\0');
     crypto_generichash(at(made, 0), checksumSize, bytes, size, nullptr, 0);
     return made;
+}
+
+/// Nobody makes it who does not have the key.
+QByteArray proof(const QByteArray &file, const AccountKey &key)
+{
+    QByteArray made(proofSize, '\0');
+    crypto_generichash(at(made, 0), proofSize, at(file, 0), proofAt, key.data(), AccountKey::size);
+    return made;
+}
+
+bool isProven(const QByteArray &file, const AccountKey &key)
+{
+    return sodium_memcmp(at(file, proofAt), proof(file, key).constData(), proofSize) == 0;
 }
 
 /// Null when there is not enough memory.
@@ -111,7 +130,7 @@ QByteArray AccountKey::fingerprint() const
 }
 
 std::optional<QByteArray> WrappedKey::wrap(const AccountKey &key, const QByteArray &passphrase,
-    RandomSource &source, const PassphraseCost &cost)
+    RandomSource &source, const PassphraseCost &cost, std::uint32_t number)
 {
     const QByteArray random = source.bytes(int(wrappedAt - saltAt));
     if (random.size() != wrappedAt - saltAt || !isReasonable(cost)) {
@@ -130,6 +149,8 @@ std::optional<QByteArray> WrappedKey::wrap(const AccountKey &key, const QByteArr
     crypto_aead_xchacha20poly1305_ietf_encrypt(at(file, wrappedAt), nullptr, key.data(),
         AccountKey::size, at(std::as_const(file), 0), nonceAt, nullptr,
         at(std::as_const(file), nonceAt), wrapping.data());
+    qToBigEndian(quint32{number}, file.data() + numberAt);
+    file.replace(proofAt, proofSize, proof(file, key));
     file.replace(checksumAt, checksumSize, digest(at(std::as_const(file), 0), checksumAt));
     return file;
 }
@@ -155,7 +176,23 @@ std::variant<AccountKey, KeyFileProblem> WrappedKey::unwrap(
             wrapping.data()) != 0) {
         return KeyFileProblem::WrongPassphrase;
     }
-    return AccountKey(std::move(secret));
+    AccountKey key(std::move(secret));
+    if (!isProven(file, key)) {
+        return KeyFileProblem::Damaged;
+    }
+    return key;
+}
+
+std::variant<std::uint32_t, KeyFileProblem> WrappedKey::check(
+    const QByteArray &file, const AccountKey &key)
+{
+    if (const auto problem = problemOf(file)) {
+        return *problem;
+    }
+    if (!isProven(file, key)) {
+        return KeyFileProblem::OtherKey;
+    }
+    return qFromBigEndian<quint32>(file.constData() + numberAt);
 }
 
 } // namespace quillon

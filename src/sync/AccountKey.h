@@ -60,6 +60,7 @@ enum class KeyFileProblem
     Damaged,         ///< not a whole key file of ours, or one that asks for more than is reasonable
     Newer,           ///< written by a later version of the program
     NoMemory,        ///< this computer has not enough for it at the moment
+    OtherKey,        ///< the file is whole, and what it wraps is not the key in question
 };
 
 /// The contents of the account's key file.
@@ -70,12 +71,17 @@ public:
     static constexpr qsizetype longest = 4096;
 
     /// The passphrase is UTF-8 and not empty. Takes as long as the cost says, about a second: not
-    /// for the main thread. None when the source or the memory fails.
+    /// for the main thread. None when the source or the memory fails. `number` counts the
+    /// passphrases that the account has had, this one included.
     static std::optional<QByteArray> wrap(const AccountKey &key, const QByteArray &passphrase,
-        RandomSource &source, const PassphraseCost &cost = {});
+        RandomSource &source, const PassphraseCost &cost = {}, std::uint32_t number = 1);
     /// Any bytes; the same holds.
     static std::variant<AccountKey, KeyFileProblem> unwrap(
         const QByteArray &file, const QByteArray &passphrase);
+    /// The number of the file's passphrase, without the passphrase and at once: whoever has the
+    /// key sees whether somebody who had it made the file.
+    static std::variant<std::uint32_t, KeyFileProblem> check(
+        const QByteArray &file, const AccountKey &key);
 };
 
 } // namespace quillon

@@ -10,6 +10,7 @@
 namespace quillon {
 
 class AccountKey;
+class KeyFileWatch;
 class RandomSource;
 class Replica;
 class ReplicaStorage;
@@ -22,6 +23,7 @@ struct SyncDeps
     Replica &replica;
     const AccountKey &key;
     RandomSource &random;
+    KeyFileWatch *keyFile = nullptr; ///< none: whatever the key file holds is taken for ours
 };
 
 /// What the steps of one round share. Nothing in here is worth keeping when the program ends.

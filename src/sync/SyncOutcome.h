@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/CloudStorage.h"
+#include "sync/AccountKey.h"
 #include "sync/FileProblem.h"
 
 #include <QByteArray>
@@ -30,9 +31,8 @@ struct SyncOutcome
     bool couldNotStore = false; ///< this computer's disk did not keep what came, or what was made
     /// The listing had no key file: nothing was read or written. Whoever has the key puts it back.
     bool isKeyMissing = false;
-    /// The key file's as the listing has it; empty where there was no listing. Another one than
-    /// before: the passphrase, or the account, was changed.
-    QByteArray keyRevision;
+    /// Why the key file is not the one of our key: nothing was read or written.
+    std::optional<KeyFileProblem> keyProblem;
     int received = 0; ///< files that were merged
     int sent = 0;     ///< files that are in the account now
     bool wroteSnapshot = false;
@@ -41,7 +41,7 @@ struct SyncOutcome
     bool hasListed = false;
     bool wantsListing = false; ///< something should be looked at again before its time
 
-    bool isWell() const { return !error && !couldNotStore && !isKeyMissing; }
+    bool isWell() const { return !error && !couldNotStore && !isKeyMissing && !keyProblem; }
 };
 
 } // namespace quillon

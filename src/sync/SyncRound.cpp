@@ -4,6 +4,7 @@
 
 #include "base/Log.h"
 #include "sync/AccountFile.h"
+#include "sync/KeyFileWatch.h"
 #include "sync/Replica.h"
 #include "sync/ReplicaStorage.h"
 
@@ -77,11 +78,41 @@ void SyncRound::list()
             const CloudFile *key = self->m_state.listed(keyFileName);
             self->m_state.outcome.hasListed = true;
             self->m_state.outcome.isKeyMissing = key == nullptr;
-            self->m_state.outcome.keyRevision = key ? key->revision : QByteArray();
             self->m_state.isStopped |= key == nullptr;
+            if (key != nullptr && self->lookAtKey(key->revision)) {
+                return;
+            }
         }
         self->proceed();
     });
+}
+
+/// Before anything of the account is read or written: it may have become another one. False when
+/// it is known to be ours.
+bool SyncRound::lookAtKey(const QByteArray &revision)
+{
+    KeyFileWatch *const keyFile = m_state.deps.keyFile;
+    if (keyFile == nullptr || keyFile->hasSeen(revision)) {
+        return false;
+    }
+    keyFile->look([self = QPointer(this)](const KeyFileWatch::Result &result) {
+        if (!self) {
+            return;
+        }
+        SyncOutcome &outcome = self->m_state.outcome;
+        if (const auto *error = std::get_if<CloudError>(&result)) {
+            outcome.isKeyMissing = error->problem == CloudProblem::NotThere;
+            if (!outcome.isKeyMissing) {
+                self->m_state.fail(*error);
+            }
+            self->m_state.isStopped = true;
+        } else if (const auto &problem = std::get<std::optional<KeyFileProblem>>(result)) {
+            outcome.keyProblem = problem;
+            self->m_state.isStopped = true;
+        }
+        self->proceed();
+    });
+    return true;
 }
 
 SyncPlan SyncRound::plan() const
@@ -261,6 +292,10 @@ void SyncRound::finish()
     }
     if (outcome.isKeyMissing) {
         qCWarning(logSync, "the account has no key file: nothing is read or written");
+    }
+    if (outcome.keyProblem) {
+        qCWarning(logSync, "the key file is not ours (%d): nothing is read or written",
+            int(*outcome.keyProblem));
     }
     if (outcome.couldNotStore) {
         qCWarning(logSync, "what came from the account, or is to go there, could not be stored");

@@ -38,6 +38,7 @@ public:
 private:
     void lookAtHead(bool alwaysList);
     void list();
+    bool lookAtKey(const QByteArray &revision);
     void proceed();
     bool readSomething(const SyncPlan &plan);
     void readManifests(const QStringList &names);

@@ -3,6 +3,7 @@
 #include "face/FaceProgram.h"
 #include "face/SceneSteps.h"
 #include "face/SceneSubjects.h"
+#include "fakes/FakeCloudPassphrase.h"
 #include "fakes/FakeCloudSignIn.h"
 #include "platform/AccountProbe.h"
 #include "platform/CloudMessage.h"
@@ -43,6 +44,31 @@ FakeCloudSignIn &openDialog(P &program)
     program.settle();
     P::part<QAbstractButton>(u"accountButton"_s).click();
     return signIn;
+}
+
+/// It goes with the program.
+FakeCloudPassphrase &openPassphrase(P &program)
+{
+    offerAccounts(program).become(account);
+    PassphraseModel &model = program.features().preferences.cloudPassphrase;
+    auto *passphrase = new FakeCloudPassphrase;
+    passphrase->setParent(&model);
+    model.use(*passphrase);
+    program.settle();
+    P::part<QAbstractButton>(u"changePassphraseButton"_s).click();
+    return *passphrase;
+}
+
+FakeCloudPassphrase &changePassphrase(P &program)
+{
+    FakeCloudPassphrase &passphrase = openPassphrase(program);
+    for (const auto field : {PassphraseModel::Field::Current, PassphraseModel::Field::Passphrase,
+             PassphraseModel::Field::Repeated}) {
+        P::part<QLineEdit>(u"passphraseField%1"_s.arg(static_cast<int>(field)))
+            .setText(u"four words for an example"_s);
+    }
+    program.features().preferences.cloudPassphrase.change();
+    return passphrase;
 }
 
 /// By the name that the dialog gives the field.
@@ -129,6 +155,24 @@ QList<FaceScene> cloudScenes()
             [](P &program) { begin(program).succeed(account, AccountAbilities().sentence()); }},
         {u"cloud-signed-in-folder"_s, nullptr,
             [](P &program) { offerAccounts(program).become(folder); }},
+        {u"cloud-passphrase"_s, nullptr, [](P &program) { openPassphrase(program); }},
+        {u"cloud-passphrase-busy"_s, nullptr,
+            [](P &program) { changePassphrase(program).goTo(CloudPassphrase::Step::Checking); }},
+        {u"cloud-passphrase-writing"_s, nullptr,
+            [](P &program) { changePassphrase(program).goTo(CloudPassphrase::Step::Writing); }},
+        {u"cloud-passphrase-wrong"_s, nullptr,
+            [](P &program) {
+                changePassphrase(program).fail({u"This is not the current passphrase."_s,
+                    CloudPassphrase::Problem::About::Current});
+            }},
+        {u"cloud-passphrase-lost"_s, nullptr,
+            [](P &program) {
+                changePassphrase(program).fail(
+                    {u"The connection was lost. Either the new passphrase or the current one "
+                     "opens the account now."_s});
+            }},
+        {u"cloud-passphrase-changed"_s, nullptr,
+            [](P &program) { changePassphrase(program).succeed(); }},
         {u"cloud-signed-out"_s, nullptr,
             [](P &program) {
                 offerAccounts(program).become(account);

@@ -27,6 +27,8 @@ public:
     {
     }
 
+    using Fault = FakeCloudStorage::Fault;
+
     class Storage : public QObject, public CloudStorage
     {
     public:
@@ -86,8 +88,8 @@ public:
                 if (problem) {
                     m_way.refusal = {*problem, QStringLiteral("fake"), m_provider.fingerprint};
                 }
-                m_way.answer(
-                    0, problem ? FakeCloudStorage::Fault::Refused : FakeCloudStorage::Fault::None);
+                const auto fault = m_provider.fault ? m_provider.fault(what) : Fault::None;
+                m_way.answer(0, problem ? Fault::Refused : fault);
             });
         }
 
@@ -126,6 +128,7 @@ public:
     std::optional<CloudProblem> problem;
     QByteArray fingerprint; ///< of `problem`
     std::function<void(const QString &what)> beforeAnswer;
+    std::function<Fault(const QString &what)> fault; ///< of an answer without `problem`
 
     QStringList asked;
     int storages = 0;              ///< that are open

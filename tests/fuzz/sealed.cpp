@@ -18,7 +18,7 @@ namespace {
 constexpr qsizetype limit = 100'000;
 // Where a key file says what it costs, and where its checksum stands.
 constexpr qsizetype costAt = 5;
-constexpr qsizetype checksumAt = 101;
+constexpr qsizetype checksumAt = 121;
 constexpr qsizetype checksumSize = 16;
 
 void checkSealed(const QByteArray &bytes)
@@ -60,6 +60,10 @@ void checkKeyFile(QByteArray bytes)
         reinterpret_cast<const unsigned char *>(bytes.constData()), checksumAt, nullptr, 0);
     const auto key = WrappedKey::unwrap(bytes, "another passphrase");
     require(std::holds_alternative<KeyFileProblem>(key), "nobody gets in without the passphrase");
+    static const AccountKey own = AccountKey::fromBytes(QByteArray(AccountKey::size, 'k')).value();
+    const auto number = WrappedKey::check(bytes, own);
+    require(
+        std::holds_alternative<KeyFileProblem>(number), "nobody proves a key without having it");
 }
 
 } // namespace

@@ -15,6 +15,7 @@ CloudFeature::CloudFeature(const Platform &platform, Notifier &notifier, RecordS
     , import({store, platform.scheduler, platform.notifications, notifier})
     , signIn({platform.cloud, platform.secrets, platform.settings, platform.scheduler,
           platform.random, accounts})
+    , passphrase({platform.cloud, platform.secrets, platform.scheduler, platform.random, accounts})
     , session({platform.cloud, platform.secrets, platform.settings, platform.scheduler,
           platform.random, platform.reachability, platform.powerSaving, accounts, mirror})
 {
@@ -22,6 +23,7 @@ CloudFeature::CloudFeature(const Platform &platform, Notifier &notifier, RecordS
 
 void CloudFeature::begin()
 {
+    signIn.clearUp();
     mirror.containerOpened();
     session.begin();
 }

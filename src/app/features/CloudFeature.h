@@ -5,6 +5,7 @@
 #include "cloud/AccountSignIn.h"
 #include "cloud/CloudAccounts.h"
 #include "cloud/CloudSession.h"
+#include "cloud/PassphraseChange.h"
 #include "sync/CloudAccountWatch.h"
 #include "sync/CloudImport.h"
 #include "sync/CloudSync.h"
@@ -33,6 +34,7 @@ struct CloudFeature
     CloudAccountWatch watch;
     CloudImport import;
     AccountSignIn signIn;
+    PassphraseChange passphrase;
     CloudSession session;
 };
 

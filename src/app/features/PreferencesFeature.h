@@ -5,6 +5,7 @@
 #include "loginitem/StartAtLoginController.h"
 #include "presentation/cloud/CloudAccountModel.h"
 #include "presentation/cloud/CloudSignInModel.h"
+#include "presentation/cloud/PassphraseModel.h"
 #include "presentation/preferences/AboutPreferencesViewController.h"
 #include "presentation/preferences/AdvancedPreferencesViewController.h"
 #include "presentation/preferences/DefaultMinutes.h"
@@ -28,6 +29,7 @@ struct PreferencesFeature
     GeneralPreferencesViewController general;
     CloudAccountModel cloudAccount;
     CloudSignInModel cloudSignIn;
+    PassphraseModel cloudPassphrase;
     AdvancedPreferencesViewController advanced;
     DefaultMinutes defaultMinutes;
     BoundSetting driftAlarm;

@@ -51,6 +51,13 @@ void CloudAccountModel::signOut()
     }
 }
 
+void CloudAccountModel::say(const QString &hint)
+{
+    if (m_state->isSignedIn) {
+        m_state.update([&hint](State &state) { state.hint = hint; });
+    }
+}
+
 void CloudAccountModel::look()
 {
     const auto account = m_signIn->account();

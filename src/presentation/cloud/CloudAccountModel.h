@@ -18,7 +18,7 @@ public:
         bool isOffered = false; ///< an account can be signed in to
         bool isSignedIn = false;
         QString account = {};
-        /// What the account can do, or what signing out left.
+        /// What the account can do, what signing out left, or what became of a new passphrase.
         QString hint = {};
 
         bool operator==(const State &) const = default;
@@ -32,6 +32,8 @@ public:
     const State &state() const { return m_state.get(); }
 
     void signOut();
+    /// Says it of the account that is signed in to.
+    void say(const QString &hint);
 
 Q_SIGNALS:
     /// Something in state() changed.

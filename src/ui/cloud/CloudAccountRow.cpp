@@ -5,6 +5,7 @@
 #include "base/Localized.h"
 #include "presentation/cloud/CloudAccountModel.h"
 #include "ui/cloud/CloudSignInDialog.h"
+#include "ui/cloud/PassphraseDialog.h"
 #include "ui/theme/Theme.h"
 #include "ui/widgets/AccessibleRole.h"
 #include "ui/widgets/ClicksOnce.h"
@@ -29,6 +30,7 @@ CloudAccountRow::CloudAccountRow(const Models &models, const Theme &theme, QWidg
     , m_open(new QPushButton(localized("Account…"), this))
     , m_line(new QWidget)
     , m_account(new OneLineLabel(Qt::ElideMiddle))
+    , m_change(new QPushButton(localized("Change Passphrase…")))
     , m_signOut(new QPushButton(localized("Sign Out")))
     , m_hint(new InlineLine(theme))
 {
@@ -37,6 +39,10 @@ CloudAccountRow::CloudAccountRow(const Models &models, const Theme &theme, QWidg
     m_open->setAccessibleName(m_open->text());
     m_open->setToolTip(plainToolTip(localized("Signs in to the account to sync with")));
     m_account->setObjectName(u"signedInAs"_s);
+    m_change->setObjectName(u"changePassphraseButton"_s);
+    m_change->setAccessibleName(m_change->text());
+    m_change->setToolTip(
+        plainToolTip(localized("Gives the account another passphrase, for all computers")));
     m_signOut->setObjectName(u"signOutButton"_s);
     m_signOut->setAccessibleName(m_signOut->text());
     m_signOut->setToolTip(
@@ -46,6 +52,7 @@ CloudAccountRow::CloudAccountRow(const Models &models, const Theme &theme, QWidg
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(Theme::unit);
     line->addWidget(m_account, 1);
+    line->addWidget(m_change);
     line->addWidget(m_signOut);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -53,23 +60,28 @@ CloudAccountRow::CloudAccountRow(const Models &models, const Theme &theme, QWidg
     column->addWidget(m_line);
     column->addWidget(m_hint);
     connect(m_open, &QPushButton::clicked, &m_models.signIn, &CloudSignInModel::open);
+    connect(m_change, &QPushButton::clicked, &m_models.passphrase, &PassphraseModel::open);
     connect(m_signOut, &QPushButton::clicked, &m_models.account, &CloudAccountModel::signOut);
     connect(&m_models.account, &CloudAccountModel::changed, this, &CloudAccountRow::refresh);
-    connect(&m_models.signIn, &CloudSignInModel::changed, this, &CloudAccountRow::followDialog);
+    connect(&m_models.signIn, &CloudSignInModel::changed, this, &CloudAccountRow::followSignIn);
+    connect(
+        &m_models.passphrase, &PassphraseModel::changed, this, &CloudAccountRow::followPassphrase);
     refresh();
 }
 
 CloudAccountRow::~CloudAccountRow()
 {
-    delete m_dialog;
+    delete m_signInDialog;
+    delete m_passphraseDialog;
     m_models.signIn.close();
+    m_models.passphrase.close();
 }
 
 void CloudAccountRow::refresh()
 {
     const auto &state = m_models.account.state();
     m_open->setVisible(state.isOffered);
-    if (!state.isSignedIn && m_signOut->hasFocus()) {
+    if (!state.isSignedIn && (m_signOut->hasFocus() || m_change->hasFocus())) {
         m_open->setFocus(Qt::OtherFocusReason);
     }
     m_account->setLine(state.account);
@@ -83,18 +95,18 @@ void CloudAccountRow::refresh()
     }
 }
 
-void CloudAccountRow::followDialog()
+template <typename Make>
+void CloudAccountRow::follow(QPointer<QDialog> &dialog, bool isOpen, Make make)
 {
-    const bool isOpen = m_models.signIn.state().isOpen;
-    if (isOpen && m_dialog.isNull()) {
-        m_dialog = new CloudSignInDialog(m_models.signIn, m_theme, window());
+    if (isOpen && dialog.isNull()) {
+        dialog = make();
         window()->installEventFilter(this);
-        m_dialog->open();
-    } else if (!isOpen && !m_dialog.isNull()) {
+        dialog->open();
+    } else if (!isOpen && !dialog.isNull()) {
         window()->removeEventFilter(this);
-        m_dialog->hide();
-        m_dialog->deleteLater();
-        m_dialog.clear();
+        dialog->hide();
+        dialog->deleteLater();
+        dialog.clear();
         // Not every desktop gives the keyboard back by itself.
         if (window()->isVisible()) {
             window()->activateWindow();
@@ -102,11 +114,24 @@ void CloudAccountRow::followDialog()
     }
 }
 
+void CloudAccountRow::followSignIn()
+{
+    follow(m_signInDialog, m_models.signIn.state().isOpen,
+        [this] { return new CloudSignInDialog(m_models.signIn, m_theme, window()); });
+}
+
+void CloudAccountRow::followPassphrase()
+{
+    follow(m_passphraseDialog, m_models.passphrase.state().isOpen,
+        [this] { return new PassphraseDialog(m_models.passphrase, m_theme, window()); });
+}
+
 bool CloudAccountRow::eventFilter(QObject *watched, QEvent *event)
 {
     // What lies over a window that is put away would stay on the screen without it.
     if (watched == window() && event->type() == QEvent::Hide && !event->spontaneous()) {
         m_models.signIn.close();
+        m_models.passphrase.close();
     }
     return QWidget::eventFilter(watched, event);
 }

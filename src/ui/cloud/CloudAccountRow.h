@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 
@@ -10,14 +11,15 @@ class QPushButton;
 namespace quillon {
 
 class CloudAccountModel;
-class CloudSignInDialog;
 class CloudSignInModel;
 class InlineLine;
 class OneLineLabel;
+class PassphraseModel;
 class Theme;
 
-/// Who is signed in to the account that settings, rules and history are synchronized with, and the
-/// way out of it. The way in is a button of its own; its dialog lies over the row's window.
+/// Who is signed in to the account that settings, rules and history are synchronized with, the way
+/// to another passphrase, and the way out. The way in is a button of its own; the dialogs lie over
+/// the row's window.
 class CloudAccountRow : public QWidget
 {
     Q_OBJECT
@@ -27,6 +29,7 @@ public:
     {
         CloudAccountModel &account;
         CloudSignInModel &signIn;
+        PassphraseModel &passphrase;
     };
 
     CloudAccountRow(const Models &models, const Theme &theme, QWidget *parent);
@@ -40,16 +43,22 @@ protected:
 
 private:
     void refresh();
-    void followDialog();
+    /// Opens and closes what `make` makes.
+    template <typename Make>
+    void follow(QPointer<QDialog> &dialog, bool isOpen, Make make);
+    void followSignIn();
+    void followPassphrase();
 
     Models m_models;
     const Theme &m_theme;
     QPushButton *m_open;
     QWidget *m_line;
     OneLineLabel *m_account;
+    QPushButton *m_change;
     QPushButton *m_signOut;
     InlineLine *m_hint;
-    QPointer<CloudSignInDialog> m_dialog;
+    QPointer<QDialog> m_signInDialog;
+    QPointer<QDialog> m_passphraseDialog;
 };
 
 } // namespace quillon

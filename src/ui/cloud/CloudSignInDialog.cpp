@@ -6,7 +6,6 @@
 #include "ui/theme/Theme.h"
 #include "ui/widgets/BusyButton.h"
 #include "ui/widgets/ClicksOnce.h"
-#include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/InlineLine.h"
 #include "ui/widgets/PlainText.h"
 
@@ -16,15 +15,11 @@
 #include <QFrame>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QTabBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace quillon {
 
@@ -32,20 +27,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int usualWidth = 440;
-constexpr int usualLetters = 54; ///< where letters are larger
-constexpr int titleBar = 48;     ///< with the edges that a window manager draws
 constexpr int folderTab = 1;
-constexpr int linesBeside = 10; ///< of text, as high as what stands above and below the form
-
-/// What is left for the form on a low screen, where it scrolls.
-int tallestForm(const QScreen &screen)
-{
-    const int line = QFontMetrics(Theme::font(Theme::Type::Body)).lineSpacing();
-    const int rest = screen.availableSize().height() - titleBar - 2 * Theme::windowMargin -
-                     3 * Theme::spacing - linesBeside * line;
-    return std::max(rest, 2 * Theme::tallRowHeight);
-}
 
 bool isSecret(CloudSignInModel::Field field)
 {
@@ -57,32 +39,6 @@ bool isSecret(CloudSignInModel::Field field)
 QString nameOf(CloudSignInModel::Field field)
 {
     return u"cloudField%1"_s.arg(static_cast<int>(field));
-}
-
-QLabel *labelOf(QLineEdit *entry)
-{
-    auto *label = plainLabel(entry->accessibleName());
-    label->setProperty("look", u"caption"_s);
-    label->setBuddy(entry);
-    return label;
-}
-
-QVBoxLayout *columnIn(QWidget *widget)
-{
-    auto *column = new QVBoxLayout(widget);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Theme::unit / 2);
-    return column;
-}
-
-QLabel *addHint(QVBoxLayout &column, const QString &text)
-{
-    auto *hint = plainLabel(text);
-    hint->setProperty("look", u"caption"_s);
-    hint->setFont(Theme::font(Theme::Type::Caption));
-    hint->setWordWrap(true);
-    column.addWidget(hint);
-    return hint;
 }
 
 InlineLine::Kind kindOf(CloudSignInModel::Line::Kind kind)
@@ -99,25 +55,15 @@ InlineLine::Kind kindOf(CloudSignInModel::Line::Kind kind)
     Q_UNREACHABLE();
 }
 
-/// Whole, and to be taken back: what stands in a field is what is said, however long it is.
-void replaceText(QLineEdit &field, const QString &text)
-{
-    field.selectAll();
-    field.insert(text);
-}
-
 } // namespace
 
 CloudSignInDialog::CloudSignInDialog(CloudSignInModel &model, const Theme &theme, QWidget *parent)
-    : QDialog(parent)
+    : CloudFormDialog(theme, localized("Sign In"), parent)
     , m_model(model)
     , m_tabs(new QTabBar)
-    , m_line(new InlineLine(theme))
-    , m_signIn(new BusyButton(theme, Theme::Ink::OnAccent, localized("Sign In")))
 {
     setObjectName(u"cloudSignIn"_s);
     setWindowTitle(localized("Sync Account"));
-    setWindowModality(Qt::WindowModal);
     m_tabs->setProperty("look", u"segments"_s);
     m_tabs->setAccessibleName(localized("Kind of account"));
     m_tabs->setToolTip(plainToolTip(localized("Where the files of the account are")));
@@ -126,24 +72,17 @@ CloudSignInDialog::CloudSignInDialog(CloudSignInModel &model, const Theme &theme
     m_tabs->addTab(localized("Nextcloud or WebDAV"));
     m_tabs->addTab(localized("Folder"));
     m_tabs->setCurrentIndex(m_model.state().kind == CloudAccount::Kind::Folder ? folderTab : 0);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(
-        Theme::windowMargin, Theme::windowMargin, Theme::windowMargin, Theme::windowMargin);
-    column->setSpacing(Theme::spacing);
-    column->addWidget(m_tabs);
-    column->addWidget(new ContentScrollArea(makeForm(), tallestForm(*screen())), 1);
-    column->addWidget(m_line);
-    addButtons(*column);
+    confirm().setBusyText(localized("Signing In…"));
+    confirm().setToolTip(plainToolTip(localized("Tries the account, and switches sync on")));
+    arrange(m_tabs, makeForm());
 
+    connect(&confirm(), &QPushButton::clicked, &m_model, &CloudSignInModel::signIn);
     connect(m_tabs, &QTabBar::currentChanged, this, [this](int tab) {
         m_model.choose(tab == folderTab ? CloudAccount::Kind::Folder : CloudAccount::Kind::WebDav);
         refresh();
     });
     connect(&m_model, &CloudSignInModel::changed, this, &CloudSignInDialog::refresh);
     connect(&m_model, &CloudSignInModel::fieldWanted, this, &CloudSignInDialog::give);
-    const QFontMetrics letters(Theme::font(Theme::Type::Body));
-    const int wanted = std::max(usualWidth, usualLetters * letters.averageCharWidth());
-    setMinimumWidth(std::min(wanted, screen()->availableSize().width()));
     refresh();
     give(m_model.state().kind == CloudAccount::Kind::Folder ? Field::Folder
          : m_model.text(Field::Address).isEmpty()           ? Field::Address
@@ -153,21 +92,17 @@ CloudSignInDialog::CloudSignInDialog(CloudSignInModel &model, const Theme &theme
 QWidget *CloudSignInDialog::makeForm()
 {
     auto *form = new QWidget;
-    auto *column = new QVBoxLayout(form);
-    column->setContentsMargins(RevealingScrollArea::ringRoom, RevealingScrollArea::ringRoom,
-        RevealingScrollArea::ringRoom, RevealingScrollArea::ringRoom);
-    column->setSpacing(Theme::spacing);
+    QVBoxLayout *column = columnOf(form);
     m_webDav = makeWebDav();
     m_folder = makeFolder();
-    auto *passphrase = new QWidget;
-    auto *within = columnIn(passphrase);
+    QVBoxLayout *passphrase = makePart();
     const QString what = localized("Encrypts what is stored. The same on all your computers; "
                                    "without it nothing can be read.");
-    addField(*within, Field::Passphrase, localized("Passphrase"), what);
-    addHint(*within, what);
+    addField(*passphrase, Field::Passphrase, localized("Passphrase"), what);
+    addHint(*passphrase, what);
     m_repetition = makeRepetition();
     m_question = makeQuestion();
-    for (QWidget *part : {m_webDav, m_folder, passphrase, m_repetition}) {
+    for (QWidget *part : {m_webDav, m_folder, passphrase->parentWidget(), m_repetition}) {
         column->addWidget(part);
     }
     addHint(*column, localized("What the account holds is replaced by this computer's settings."));
@@ -178,8 +113,7 @@ QWidget *CloudSignInDialog::makeForm()
 
 QWidget *CloudSignInDialog::makeWebDav()
 {
-    auto *part = new QWidget;
-    auto *column = columnIn(part);
+    QVBoxLayout *column = makePart();
     QLineEdit *address = addField(*column, Field::Address, localized("Server"),
         localized("Its address, or that of your files there, as a browser shows it"));
     address->setInputMethodHints(
@@ -192,13 +126,12 @@ QWidget *CloudSignInDialog::makeWebDav()
     addField(*column, Field::Password, localized("App password"),
         localized("Made in the security settings of your account at the server"));
     addHint(*column, localized("Kept in your keyring."));
-    return part;
+    return column->parentWidget();
 }
 
 QWidget *CloudSignInDialog::makeFolder()
 {
-    auto *part = new QWidget;
-    auto *column = columnIn(part);
+    QVBoxLayout *column = makePart();
     const QString what = localized("One that another program makes equal on your computers.");
     QLineEdit *path = makeField(Field::Folder, localized("Folder"), what);
     m_choose = new QPushButton(localized("Choose…"));
@@ -209,15 +142,15 @@ QWidget *CloudSignInDialog::makeFolder()
     column->addWidget(path);
     addHint(*column, what);
     column->addWidget(m_choose, 0, Qt::AlignTrailing);
-    return part;
+    return column->parentWidget();
 }
 
 QWidget *CloudSignInDialog::makeRepetition()
 {
-    auto *part = new QWidget;
-    addField(*columnIn(part), Field::RepeatedPassphrase, localized("Repeat passphrase"),
+    QVBoxLayout *column = makePart();
+    addField(*column, Field::RepeatedPassphrase, localized("Repeat passphrase"),
         localized("The account is new: nobody can tell you later what you typed"));
-    return part;
+    return column->parentWidget();
 }
 
 QFrame *CloudSignInDialog::makeQuestion()
@@ -263,28 +196,6 @@ QFrame *CloudSignInDialog::makeQuestion()
     return box;
 }
 
-void CloudSignInDialog::addButtons(QVBoxLayout &column)
-{
-    auto *cancel = new QPushButton(localized("Cancel"));
-    cancel->setAccessibleName(cancel->text());
-    cancel->setToolTip(plainToolTip(localized("Gives up what is under way, or closes")));
-    m_signIn->setProperty("look", u"primary"_s);
-    m_signIn->setBusyText(localized("Signing In…"));
-    m_signIn->setAccessibleName(localized("Sign In"));
-    m_signIn->setToolTip(plainToolTip(localized("Tries the account, and switches sync on")));
-    m_signIn->setDefault(true);
-    m_signIn->installEventFilter(new ClicksOnce(m_signIn));
-    cancel->installEventFilter(new ClicksOnce(cancel));
-    connect(cancel, &QPushButton::clicked, this, &CloudSignInDialog::reject);
-    connect(m_signIn, &QPushButton::clicked, &m_model, &CloudSignInModel::signIn);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Theme::unit);
-    row->addStretch();
-    row->addWidget(cancel);
-    row->addWidget(m_signIn);
-    column.addLayout(row);
-}
-
 QLineEdit *CloudSignInDialog::addField(
     QVBoxLayout &column, Field field, const QString &caption, const QString &tip)
 {
@@ -296,17 +207,11 @@ QLineEdit *CloudSignInDialog::addField(
 
 QLineEdit *CloudSignInDialog::makeField(Field field, const QString &caption, const QString &tip)
 {
-    auto *entry = new QLineEdit;
+    QLineEdit *entry = makeEntry(caption, tip);
     entry->setObjectName(nameOf(field));
-    entry->setProperty("look", u"field"_s);
-    entry->setAccessibleName(caption);
-    entry->setAccessibleDescription(tip);
-    entry->setToolTip(plainToolTip(tip));
     if (isSecret(field)) {
         entry->setEchoMode(QLineEdit::Password);
     }
-    // One that is hidden at first has its height all the same.
-    entry->ensurePolished();
     m_fields.emplace(field, entry);
     // Not textEdited(): assistive technology types as well.
     connect(entry, &QLineEdit::textChanged, this, [=, this](const QString &text) {
@@ -356,8 +261,8 @@ void CloudSignInDialog::refresh()
     for (const auto &[field, entry] : m_fields) {
         entry->setReadOnly(state.isBusy);
     }
-    m_line->say(state.line.text, kindOf(state.line.kind));
-    m_signIn->setBusy(state.isBusy);
+    line().say(state.line.text, kindOf(state.line.kind));
+    confirm().setBusy(state.isBusy);
     refreshFields();
 }
 
@@ -383,44 +288,15 @@ void CloudSignInDialog::give(Field field)
     }
 }
 
-void CloudSignInDialog::fit()
-{
-    const int tallest = screen()->availableSize().height() - titleBar;
-    resize(width(), std::min(layout()->totalHeightForWidth(width()), tallest));
-    // Grown by a question, it must not lie with its buttons below the screen.
-    const QRect free = screen()->availableGeometry();
-    const int beyond = frameGeometry().bottom() - free.bottom();
-    if (isVisible() && beyond > 0) {
-        move(x(), std::max(free.top(), y() - beyond));
-    }
-}
-
 void CloudSignInDialog::reject()
 {
     m_model.cancel();
-}
-
-bool CloudSignInDialog::event(QEvent *event)
-{
-    const bool isTaken = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
-        fit();
-    }
-    return isTaken;
 }
 
 void CloudSignInDialog::closeEvent(QCloseEvent *event)
 {
     m_model.close();
     event->accept();
-}
-
-void CloudSignInDialog::keyPressEvent(QKeyEvent *event)
-{
-    // Held, it would give up the attempt first and the dialog then.
-    if (event->key() != Qt::Key_Escape || !event->isAutoRepeat()) {
-        QDialog::keyPressEvent(event);
-    }
 }
 
 } // namespace quillon

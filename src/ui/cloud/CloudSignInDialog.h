@@ -3,27 +3,18 @@
 #pragma once
 
 #include "presentation/cloud/CloudSignInModel.h"
-
-#include <QDialog>
+#include "ui/cloud/CloudFormDialog.h"
 
 #include <map>
 
 class QFrame;
-class QLabel;
-class QLineEdit;
-class QPushButton;
 class QTabBar;
-class QVBoxLayout;
 
 namespace quillon {
 
-class BusyButton;
-class InlineLine;
-class Theme;
-
 /// Where a person signs in to an account. Return signs in, Escape gives up what is under way and
 /// then the dialog. Whoever opens it closes it when its model says so.
-class CloudSignInDialog : public QDialog
+class CloudSignInDialog : public CloudFormDialog
 {
     Q_OBJECT
 
@@ -34,9 +25,7 @@ public:
     void reject() override;
 
 protected:
-    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     using Field = CloudSignInModel::Field;
@@ -46,7 +35,6 @@ private:
     QWidget *makeFolder();
     QWidget *makeRepetition();
     QFrame *makeQuestion();
-    void addButtons(QVBoxLayout &column);
     QLineEdit *addField(
         QVBoxLayout &column, Field field, const QString &caption, const QString &tip);
     QLineEdit *makeField(Field field, const QString &caption, const QString &tip);
@@ -55,13 +43,10 @@ private:
     void refresh();
     void refreshFields();
     void give(Field field);
-    void fit();
 
     CloudSignInModel &m_model;
     std::map<Field, QLineEdit *> m_fields;
     QTabBar *m_tabs;
-    InlineLine *m_line;
-    BusyButton *m_signIn;
     QWidget *m_webDav = nullptr;
     QWidget *m_folder = nullptr;
     QWidget *m_repetition = nullptr;

@@ -335,6 +335,8 @@ TEST_F(AccountSignInTest, SigningOutForgetsSecretsAndAccountAndSwitchesSyncOff)
 {
     settings.setBool(keys::iCloudSync, true);
     tryWith(wanted());
+    settings.set(keys::iCloudToken, accounts.identityToken());
+    const QVariant agreedTo = settings.get(keys::iCloudToken);
     int told = 0;
     QObject::connect(&signIn, &CloudSignIn::accountChanged, [&told] { ++told; });
     signIn.signOut();
@@ -342,9 +344,65 @@ TEST_F(AccountSignInTest, SigningOutForgetsSecretsAndAccountAndSwitchesSyncOff)
     expectNothingKept();
     EXPECT_EQ(told, 1);
     EXPECT_FALSE(settings.getBool(keys::iCloudSync));
+    EXPECT_EQ(settings.get(keys::iCloudToken), agreedTo) << "another account is asked about";
     EXPECT_TRUE(provider.account.files.contains(keyFileName));
     signIn.signOut();
     EXPECT_EQ(told, 1);
+}
+
+TEST_F(AccountSignInTest, WhatAnAttemptLeavesWhenTheProgramEndsGoesAtTheNextStart)
+{
+    auto dying = std::make_unique<AccountSignIn>(AccountSignIn::Collaborators{
+        provider, secrets, settings, scheduler, random, accounts, {1, 8}});
+    QObject::connect(dying.get(), &CloudSignIn::stepChanged, [&] {
+        if (dying->step() == Step::Keeping) {
+            scheduler.onMain([&dying] { dying.reset(); });
+        }
+    });
+    dying->begin(wanted());
+    scheduler.runPending();
+    ASSERT_FALSE(dying);
+    EXPECT_FALSE(secrets.secrets.isEmpty());
+    EXPECT_FALSE(signIn.account());
+    // The keyring may be locked then.
+    secrets.problem = SecretStore::Problem::Refused;
+    signIn.clearUp();
+    scheduler.runPending();
+    EXPECT_FALSE(secrets.secrets.isEmpty());
+    secrets.problem.reset();
+    signIn.clearUp();
+    scheduler.runPending();
+    expectNothingKept();
+    secrets.asked.clear();
+    signIn.clearUp();
+    EXPECT_TRUE(secrets.asked.isEmpty()) << "nobody is asked for nothing";
+}
+
+TEST_F(AccountSignInTest, WhatIsLeftOfASignOutGoesAtTheNextStart)
+{
+    tryWith(wanted());
+    secrets.problem = SecretStore::Problem::NoKeyring;
+    signIn.signOut();
+    scheduler.runPending();
+    EXPECT_EQ(secrets.secrets.size(), 2);
+    secrets.problem.reset();
+    signIn.clearUp();
+    scheduler.runPending();
+    expectNothingKept();
+}
+
+TEST_F(AccountSignInTest, WhoIsSignedInKeepsTheSecretsWhateverIsLeft)
+{
+    tryWith(wanted());
+    const auto kept = secrets.secrets;
+    CloudAccount sameUser = *signIn.account();
+    sameUser.folder = u"Elsewhere"_s;
+    accounts.addLeft(*signIn.account());
+    accounts.addLeft(sameUser);
+    signIn.clearUp();
+    scheduler.runPending();
+    EXPECT_EQ(secrets.secrets, kept);
+    EXPECT_TRUE(accounts.left().isEmpty());
 }
 
 TEST_F(AccountSignInTest, AnotherAccountTakesThePlaceOfTheFirst)

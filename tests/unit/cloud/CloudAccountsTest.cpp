@@ -51,12 +51,51 @@ TEST_F(CloudAccountsTest, SigningInAndOutIsTold)
     EXPECT_EQ(told, 1);
     accounts.forget();
     EXPECT_EQ(told, 2);
+    accounts.set(server);
+    EXPECT_EQ(told, 3);
     settings.changeFromOutside(keys::cloudAccount, QVariantMap());
     scheduler.runPending();
-    EXPECT_EQ(told, 3);
+    EXPECT_EQ(told, 4);
     accounts.removeObserver(token);
     accounts.set(folder);
-    EXPECT_EQ(told, 3);
+    EXPECT_EQ(told, 4);
+}
+
+TEST_F(CloudAccountsTest, WhoseSecretsMayBeLeftIsKeptBesideWhoIsSignedIn)
+{
+    int told = 0;
+    accounts.addObserver([&told] { ++told; });
+    accounts.addLeft(server);
+    accounts.addLeft(folder);
+    accounts.addLeft(server);
+    EXPECT_FALSE(accounts.account());
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(CloudAccounts(settings).left(), (QList{folder, server}));
+    accounts.set(server);
+    accounts.removeLeft(server);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(accounts.account(), server);
+    EXPECT_EQ(accounts.left(), QList{folder});
+    accounts.forget();
+    EXPECT_EQ(accounts.left(), QList{folder});
+    EXPECT_FALSE(CloudAccounts(settings).account());
+    accounts.removeLeft(folder);
+    EXPECT_FALSE(settings.stored().contains(keys::cloudAccount));
+}
+
+TEST_F(CloudAccountsTest, OnlySoMuchIsLeft)
+{
+    for (int number = 0; number < 40; ++number) {
+        CloudAccount each = folder;
+        each.folder += QString::number(number);
+        accounts.addLeft(each);
+    }
+    EXPECT_EQ(accounts.left().size(), 16);
+    EXPECT_EQ(accounts.left().first().folder, u"/srv/shared39"_s);
+    for (const QVariant &other : {QVariant(u"text"_s), QVariant(QVariantList{1, u"x"_s, true})}) {
+        settings.set(keys::cloudAccount, QVariantMap{{u"left"_s, other}});
+        EXPECT_TRUE(accounts.left().isEmpty());
+    }
 }
 
 TEST_F(CloudAccountsTest, AnObserverMayGoInItsCall)

@@ -125,6 +125,40 @@ TEST_F(CloudSecretsTest, WhatAnotherAccountNeedsIsNotForgotten)
     EXPECT_TRUE(store.secrets.isEmpty());
 }
 
+TEST_F(CloudSecretsTest, ANewKeyFileTakesThePlaceOfTheOldOne)
+{
+    keep(server, u"secret word"_s);
+    const auto key = AccountKey::fromBytes(QByteArray(AccountKey::size, 'k')).value();
+    bool isKept = false;
+    secrets.keepKeyFile(
+        server, key, "another file", [&](const auto &failure) { isKept = !failure; });
+    scheduler.runPending();
+    EXPECT_TRUE(isKept);
+    const auto found = std::get<std::optional<CloudSecrets::Kept>>(read(server));
+    EXPECT_EQ(found.value().password, u"secret word"_s);
+    EXPECT_EQ(found->key->file, QByteArray("another file"));
+    EXPECT_EQ(found->key->key.bytes(), key.bytes());
+}
+
+TEST_F(CloudSecretsTest, WhetherAllAreGoneIsTold)
+{
+    for (const bool works : {true, false}) {
+        keep(server, u"secret word"_s);
+        if (!works) {
+            store.problem = SecretStore::Problem::Refused;
+            store.failsFrom = 1;
+        }
+        QList<bool> answers;
+        secrets.forget(server, {}, [&answers](bool areGone) { answers << areGone; });
+        scheduler.runPending();
+        EXPECT_EQ(answers, QList{works});
+        store.problem.reset();
+    }
+    QList<bool> answers;
+    secrets.forget(server, server, [&answers](bool areGone) { answers << areGone; });
+    EXPECT_EQ(answers, QList{true}) << "all of them are needed";
+}
+
 TEST_F(CloudSecretsTest, NamesTellNoSecret)
 {
     EXPECT_FALSE(CloudSecrets::keyName(folder).contains(u"ada"_s));

@@ -4,6 +4,7 @@
 
 #include "base/SettingsKeys.h"
 #include "cloud/CloudAccounts.h"
+#include "cloud/SignInProblem.h"
 #include "fakes/FakeCloudProvider.h"
 #include "fakes/FakePowerSaving.h"
 #include "fakes/FakeReachability.h"
@@ -30,9 +31,8 @@ struct Computer : test::RecordsOfComputer
         : provider(scheduler, &shared)
         , random(seed)
     {
-        test::SeededRandom same(1);
-        const AccountKey key = AccountKey::random(same).value();
-        const QByteArray file = WrappedKey::wrap(key, "correct horse", same, {1, 8}).value();
+        const AccountKey key = accountKey();
+        const QByteArray file = keyFile("correct horse", 1);
         if (!shared.files.contains(keyFileName)) {
             shared.put(keyFileName, file);
         }
@@ -47,6 +47,26 @@ struct Computer : test::RecordsOfComputer
         secrets.asked.clear();
     }
 
+    static AccountKey accountKey()
+    {
+        test::SeededRandom same(1);
+        return AccountKey::random(same).value();
+    }
+    static QByteArray keyFile(const char *passphrase, std::uint32_t number)
+    {
+        test::SeededRandom same(1);
+        return WrappedKey::wrap(accountKey(), passphrase, same, {1, 8}, number).value();
+    }
+    /// What stands beside the key in the keyring.
+    QByteArray keptFile()
+    {
+        QByteArray found;
+        CloudSecrets(secrets).read(server, [&found](const auto &answer) {
+            found = std::get<std::optional<CloudSecrets::Kept>>(answer).value().key->file;
+        });
+        scheduler.runPending();
+        return found;
+    }
     void launch()
     {
         mirror.containerOpened();
@@ -279,6 +299,78 @@ TEST_F(CloudSessionTest, AKeyFileThatSomebodyRemovedIsPutBack)
     here.scheduler.advance(1h);
     EXPECT_EQ(account.files.value(keyFileName).bytes, file);
     EXPECT_TRUE(here.session.trouble().isEmpty());
+}
+
+TEST_F(CloudSessionTest, ANewPassphraseOfAnotherComputerIsKept)
+{
+    here.launch();
+    const QByteArray changed = here.keyFile("battery staple", 2);
+    account.put(keyFileName, changed);
+    here.scheduler.advance(1h);
+    EXPECT_TRUE(here.session.trouble().isEmpty());
+    EXPECT_EQ(here.keptFile(), changed);
+    EXPECT_EQ(account.files.value(keyFileName).bytes, changed);
+    // The earlier one does not come back, not even when the file is removed.
+    account.files.remove(keyFileName);
+    here.scheduler.advance(1h);
+    EXPECT_EQ(account.files.value(keyFileName).bytes, changed);
+    account.put(keyFileName, here.keyFile("correct horse", 1));
+    here.scheduler.advance(1h);
+    EXPECT_EQ(account.files.value(keyFileName).bytes, changed);
+    EXPECT_TRUE(here.session.trouble().isEmpty());
+}
+
+TEST_F(CloudSessionTest, WhatWasChangedWhileItDidNotRunIsKeptAtTheStart)
+{
+    const QByteArray changed = here.keyFile("battery staple", 2);
+    account.put(keyFileName, changed);
+    here.launch();
+    EXPECT_EQ(here.keptFile(), changed);
+    EXPECT_TRUE(here.session.trouble().isEmpty());
+}
+
+TEST_F(CloudSessionTest, AKeyFileThatWasDamagedIsMended)
+{
+    here.launch();
+    const QByteArray file = account.files[keyFileName].bytes;
+    account.put(keyFileName, file.first(file.size() / 2));
+    here.scheduler.advance(1h);
+    EXPECT_EQ(account.files.value(keyFileName).bytes, file);
+    EXPECT_TRUE(here.session.trouble().isEmpty());
+}
+
+TEST_F(CloudSessionTest, AnotherKeyInTheSamePlaceIsToldAndNothingIsReadOrWritten)
+{
+    here.launch();
+    const QByteArray file = account.files[keyFileName].bytes;
+    const QString kept = here.secrets.secrets.value(CloudSecrets::keyName(server));
+    test::SeededRandom other(99);
+    const AccountKey foreign = AccountKey::random(other).value();
+    account.files.clear();
+    account.put(keyFileName, WrappedKey::wrap(foreign, "correct horse", other, {1, 8}).value());
+    const auto files = account.files;
+    here.insert(model::Rule, {{model::rule::name, u"Café"_s}});
+    here.save();
+    here.scheduler.advance(2h);
+    EXPECT_EQ(here.session.trouble(), keyFileMessage(KeyFileProblem::OtherKey));
+    for (auto it = files.begin(); it != files.end(); ++it) {
+        EXPECT_EQ(account.files.value(it.key()), *it);
+    }
+    EXPECT_EQ(here.secrets.secrets.value(CloudSecrets::keyName(server)), kept);
+    const auto left = account.files;
+    here.insert(model::Rule, {{model::rule::name, u"Office"_s}});
+    here.save();
+    here.scheduler.advance(2h);
+    EXPECT_EQ(account.files, left) << "from then on nothing is written";
+    // Nothing is lost: with the key back, everything arrives.
+    account.put(keyFileName, file);
+    here.scheduler.advance(2h);
+    EXPECT_TRUE(here.session.trouble().isEmpty());
+    Computer there(account, 3, server);
+    there.launch();
+    there.scheduler.advance(1h);
+    EXPECT_TRUE(there.rule(u"Café"_s));
+    EXPECT_TRUE(there.rule(u"Office"_s));
 }
 
 TEST_F(CloudSessionTest, DamagedAndNewerFilesAreToldAndLeftAlone)

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sodium.h>
+
 namespace quillon::test {
 namespace {
 
@@ -59,6 +61,36 @@ TEST_F(AccountKeyTest, NewerFileIsToldApart)
     QByteArray newer = file;
     newer[4] = 2;
     EXPECT_EQ(problem(newer), KeyFileProblem::Newer);
+}
+
+TEST_F(AccountKeyTest, WhoeverHasTheKeySeesWhoseAFileIsWithoutThePassphrase)
+{
+    EXPECT_EQ(std::get<std::uint32_t>(WrappedKey::check(file, key)), 1U);
+    const QByteArray changed = WrappedKey::wrap(key, "another", random, cheap, 7).value();
+    EXPECT_EQ(std::get<std::uint32_t>(WrappedKey::check(changed, key)), 7U);
+    const AccountKey other = AccountKey::random(random).value();
+    EXPECT_EQ(std::get<KeyFileProblem>(WrappedKey::check(file, other)), KeyFileProblem::OtherKey);
+    for (qsizetype index = 0; index < file.size(); ++index) {
+        QByteArray damaged = file;
+        damaged[index] = char(damaged.at(index) ^ 0x80);
+        EXPECT_EQ(
+            std::get<KeyFileProblem>(WrappedKey::check(damaged, key)), KeyFileProblem::Damaged)
+            << index;
+    }
+}
+
+TEST_F(AccountKeyTest, NobodyWithoutTheKeyMakesAnotherNumberOfIt)
+{
+    constexpr qsizetype numberAt = 101;
+    constexpr qsizetype checksumAt = 121;
+    QByteArray forged = file;
+    forged[numberAt + 3] = 2;
+    QByteArray checksum(16, '\0');
+    crypto_generichash(reinterpret_cast<unsigned char *>(checksum.data()), 16,
+        reinterpret_cast<const unsigned char *>(forged.constData()), checksumAt, nullptr, 0);
+    forged.replace(checksumAt, 16, checksum);
+    EXPECT_EQ(std::get<KeyFileProblem>(WrappedKey::check(forged, key)), KeyFileProblem::OtherKey);
+    EXPECT_EQ(problem(forged), KeyFileProblem::Damaged) << "though the passphrase opens it";
 }
 
 TEST_F(AccountKeyTest, UnreasonableCostIsNotMade)

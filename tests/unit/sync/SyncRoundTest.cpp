@@ -3,6 +3,7 @@
 #include "sync/SyncRound.h"
 
 #include "SyncedComputer.h"
+#include "sync/KeyFileWatch.h"
 #include "sync/SealedFile.h"
 
 #include <gtest/gtest.h>
@@ -210,9 +211,49 @@ TEST_F(SyncRoundTest, AccountWithoutKeyFileIsLeftAlone)
     EXPECT_TRUE(a.round().isKeyMissing);
     EXPECT_TRUE(account.files.isEmpty());
     account.put(u"key"_s, "the wrapped key");
-    EXPECT_EQ(a.round().keyRevision, account.files[u"key"_s].revision);
+    EXPECT_TRUE(a.round().isWell());
     b.round();
     EXPECT_EQ(b.name(1), u"Home"_s);
+}
+
+TEST_F(SyncRoundTest, AnAccountWithAnotherKeyIsLeftAlone)
+{
+    const auto file = [this](const AccountKey &ofKey) {
+        return WrappedKey::wrap(ofKey, "secret", random, {1, 8}).value();
+    };
+    KeyFileWatch watch(a.cloud, key, file(key), [](const auto &) {});
+    a.deps.keyFile = &watch;
+    account.put(u"key"_s, watch.copy());
+    settle();
+    a.round();
+    EXPECT_FALSE(a.cloud.given().contains(u"read key"_s)) << "it is known";
+    a.insert(1, u"Home"_s);
+    account.put(u"key"_s, file(AccountKey::random(random).value()));
+    const auto before = account.files;
+    EXPECT_EQ(a.round().keyProblem, KeyFileProblem::OtherKey);
+    EXPECT_FALSE(a.round().isWell());
+    EXPECT_EQ(account.files, before);
+    account.put(u"key"_s, watch.copy());
+    EXPECT_EQ(a.round().sent, 1) << "nothing was lost";
+    b.round();
+    EXPECT_EQ(b.name(1), u"Home"_s);
+}
+
+TEST_F(SyncRoundTest, AKeyFileThatVanishesIsMissing)
+{
+    KeyFileWatch watch(
+        a.cloud, key, WrappedKey::wrap(key, "secret", random, {1, 8}).value(), [](const auto &) {});
+    a.deps.keyFile = &watch;
+    account.put(u"key"_s, watch.copy());
+    a.begin(Look::Listing);
+    a.cloud.answer(0);
+    a.cloud.answer(0);
+    ASSERT_EQ(a.cloud.waiting(), QStringList{u"read key"_s});
+    account.files.remove(u"key"_s);
+    a.cloud.answerAll();
+    EXPECT_TRUE(a.outcome->isKeyMissing);
+    EXPECT_FALSE(a.outcome->error);
+    EXPECT_TRUE(account.files.isEmpty());
 }
 
 TEST_F(SyncRoundTest, RefusedPasswordEndsTheRound)

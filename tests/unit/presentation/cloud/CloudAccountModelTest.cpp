@@ -66,6 +66,17 @@ TEST_F(CloudAccountModelTest, AfterASignInSaysWhatTheAccountCanDo)
     EXPECT_EQ(model.state().hint, QString()) << "it was said of another account";
 }
 
+TEST_F(CloudAccountModelTest, WhatIsSaidIsSaidOfWhoIsSignedIn)
+{
+    model.say(u"The passphrase was changed."_s);
+    EXPECT_EQ(model.state().hint, QString());
+    signIn.become(account);
+    model.say(u"The passphrase was changed."_s);
+    EXPECT_EQ(model.state().hint, u"The passphrase was changed."_s);
+    signIn.become(CloudAccount{.kind = CloudAccount::Kind::Folder, .folder = u"/srv/mila"_s});
+    EXPECT_EQ(model.state().hint, QString());
+}
+
 TEST_F(CloudAccountModelTest, SignedOutItSaysWhatStays)
 {
     signIn.become(account);

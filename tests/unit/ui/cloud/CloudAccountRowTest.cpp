@@ -23,8 +23,9 @@ TEST_F(CloudAccountRowTest, WithoutAnybodyWhoSignsInThereIsNothingToPress)
 {
     CloudAccountModel nobody;
     CloudSignInModel nowhere;
+    PassphraseModel nothing;
     QWidget other;
-    CloudAccountRow unused({nobody, nowhere}, theme, &other);
+    CloudAccountRow unused({nobody, nowhere, nothing}, theme, &other);
     other.show();
     settle();
     EXPECT_FALSE(unused.isVisible());
@@ -37,7 +38,7 @@ TEST_F(CloudAccountRowTest, EveryControlSaysWhatItIs)
     signIn.become(account);
     settle();
     ASSERT_TRUE(signOutButton().isVisible());
-    for (const QPushButton *control : {&accountButton(), &signOutButton()}) {
+    for (const QPushButton *control : {&accountButton(), &changeButton(), &signOutButton()}) {
         EXPECT_FALSE(control->accessibleName().isEmpty());
         EXPECT_FALSE(control->toolTip().isEmpty());
     }

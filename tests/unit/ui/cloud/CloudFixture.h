@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fakes/FakeCloudPassphrase.h"
 #include "fakes/FakeCloudSignIn.h"
 #include "presentation/cloud/CloudAccountModel.h"
 #include "presentation/cloud/CloudSignInModel.h"
+#include "presentation/cloud/PassphraseModel.h"
 #include "ui/cloud/CloudAccountRow.h"
 #include "ui/widgets/HeldKeys.h"
 #include "unit/ui/WidgetFixture.h"
@@ -23,11 +25,14 @@ namespace quillon::test {
 class CloudFixture : public WidgetFixture
 {
 protected:
-    CloudFixture()
+    /// `dialogName` is the object name of the one that is tested.
+    explicit CloudFixture(const QString &dialogName = QStringLiteral("cloudSignIn"))
+        : m_dialogName(dialogName)
     {
         qApp->installEventFilter(&heldKeys);
         accountModel.use(signIn);
         model.use(signIn);
+        passphraseModel.use(passphrase);
         column->addWidget(row->button());
         column->addWidget(row);
         show();
@@ -40,6 +45,10 @@ protected:
     {
         return *row->findChild<QPushButton *>(QStringLiteral("signOutButton"));
     }
+    QPushButton &changeButton() const
+    {
+        return *row->findChild<QPushButton *>(QStringLiteral("changePassphraseButton"));
+    }
     void openDialog()
     {
         accountButton().setFocus();
@@ -51,7 +60,7 @@ protected:
     /// The one that is open.
     QDialog *dialog() const
     {
-        for (auto *found : window.findChildren<QDialog *>(QStringLiteral("cloudSignIn"))) {
+        for (auto *found : window.findChildren<QDialog *>(m_dialogName)) {
             if (found->isVisible()) {
                 return found;
             }
@@ -75,9 +84,14 @@ protected:
     FakeCloudSignIn signIn;
     CloudAccountModel accountModel;
     CloudSignInModel model;
-    QPointer<CloudAccountRow> row = new CloudAccountRow({accountModel, model}, theme, &window);
+    FakeCloudPassphrase passphrase;
+    PassphraseModel passphraseModel;
+    QPointer<CloudAccountRow> row =
+        new CloudAccountRow({accountModel, model, passphraseModel}, theme, &window);
 
 private:
+    QString m_dialogName;
+
     template <typename T>
     T &control(const char *name) const
     {
