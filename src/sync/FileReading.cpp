@@ -54,7 +54,7 @@ void FileReading::take(const QString &name, const CloudResult<CloudStorage::Cont
 {
     if (const auto *content = std::get_if<CloudStorage::Content>(&result)) {
         if (const auto problem = m_take(name, content->bytes)) {
-            refuse(name, *problem);
+            refuse(name, *problem, content->revision);
         }
         return;
     }
@@ -72,13 +72,13 @@ void FileReading::take(const QString &name, const CloudResult<CloudStorage::Cont
     }
 }
 
-void FileReading::refuse(const QString &name, FileProblem problem)
+void FileReading::refuse(const QString &name, FileProblem problem, const QByteArray &readRevision)
 {
     m_all = false;
     if (problem == FileProblem::NotKept) {
         m_state.failStoring();
     } else {
-        m_state.refuse(name, problem);
+        m_state.refuse(name, problem, readRevision);
     }
 }
 

@@ -25,7 +25,7 @@ public:
 private:
     void read(const QString &name, const RequestQueue::Answered &answered);
     void take(const QString &name, const CloudResult<CloudStorage::Content> &result);
-    void refuse(const QString &name, FileProblem problem);
+    void refuse(const QString &name, FileProblem problem, const QByteArray &readRevision = {});
 
     RoundState &m_state;
     RequestQueue m_queue;

@@ -49,7 +49,7 @@ void RoundState::failStoring()
     isStopped = true;
 }
 
-void RoundState::refuse(const QString &name, FileProblem problem)
+void RoundState::refuse(const QString &name, FileProblem problem, const QByteArray &readRevision)
 {
     const auto ignored = deps.storage.progress().ignored;
     const auto before = ignored.find(name);
@@ -58,7 +58,8 @@ void RoundState::refuse(const QString &name, FileProblem problem)
         qCWarning(logSync, "%s is left alone: %s", qUtf8Printable(name), spelled(problem));
     }
     const CloudFile *file = listed(name);
-    if (!deps.replica.ignore(name, problem, file ? file->revision : QByteArray())) {
+    const QByteArray revision = file && readRevision.isEmpty() ? file->revision : readRevision;
+    if (!deps.replica.ignore(name, problem, revision)) {
         failStoring();
     }
 }

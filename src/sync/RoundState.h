@@ -46,8 +46,9 @@ struct RoundState
     void failWriting(const CloudError &error);
     /// This computer could not store something: nothing else is worth trying.
     void failStoring();
-    /// Leaves a file alone, and tells of it when nobody has been told.
-    void refuse(const QString &name, FileProblem problem);
+    /// Leaves a file alone, and tells of it when nobody has been told. `readRevision` is of what
+    /// was read, if anything was: a server may list a file anew and give what it had cached.
+    void refuse(const QString &name, FileProblem problem, const QByteArray &readRevision = {});
 
     const CloudFile *listed(const QString &name) const;
     void setListed(const QString &name, qint64 size, const QByteArray &revision);

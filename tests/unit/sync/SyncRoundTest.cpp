@@ -166,6 +166,27 @@ TEST_F(SyncRoundTest, HalfWrittenFileIsCompletedAndReadThen)
     EXPECT_EQ(b.name(1), u"Home"_s);
 }
 
+TEST_F(SyncRoundTest, FileThatWasReplacedWhileItsOldBytesWereStillGivenIsReadAgain)
+{
+    a.insert(1, u"Home"_s);
+    a.round();
+    const QString name = a.change(1);
+    const FakeCloudAccount::File whole = account.files[name];
+    const FakeCloudAccount::File damaged{"rubbish", "before"};
+    b.begin(Look::Listing);
+    while (!b.cloud.waiting().contains(u"read "_s + name)) {
+        ASSERT_FALSE(b.cloud.waiting().isEmpty());
+        b.cloud.answer(0);
+    }
+    // As a server with a cache: the listing was of the file, the bytes are what was there before.
+    account.files[name] = damaged;
+    b.cloud.answerAll();
+    ASSERT_EQ(b.outcome->refused.size(), 1);
+    account.files[name] = whole;
+    b.round();
+    EXPECT_EQ(b.name(1), u"Home"_s);
+}
+
 TEST_F(SyncRoundTest, ForeignFilesStayAndAreToldOnce)
 {
     settle();
