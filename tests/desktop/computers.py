@@ -169,8 +169,6 @@ class Network:
 class TwoComputers:
     """For a unittest.TestCase: there are two, for all of its tests."""
 
-    told = 30
-
     @classmethod
     def setUpClass(cls):
         cls.shared = shared_folder()
@@ -192,8 +190,8 @@ class TwoComputers:
                     raise
 
     def give_to_tell(self, computer):
-        TwoComputers.told += 1
-        computer.write_setting("timerMinutes", TwoComputers.told)
+        """Whether a hot key that has no keys is on."""
+        computer.toggle("Randomize address")
 
     @staticmethod
     def rules_of(computer):

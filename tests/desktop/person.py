@@ -17,6 +17,7 @@ from program import (DEADLINE, FOLDER, NAME, RECORDS, TITLE, accessibility, forg
                      trayclient, wait_until, xdotool)
 
 KEYRING = "org.freedesktop.secrets"
+PANES = ("General", "Advanced", "Rules")  # that are used here
 SWITCH = "Sync settings, rules and history"
 
 
@@ -71,14 +72,16 @@ class Person:
 
     # The account
 
-    def pane(self):
-        """The General pane of the preferences, which are one window with the name of the pane."""
-        if not accessibility.has_window(NAME, "General"):
-            if accessibility.has_window(NAME, "Rules"):
-                accessibility.window(NAME, "Rules").find("page tab", "General").press()
-            else:
+    def pane(self, name="General"):
+        """Of the preferences, which are one window with the name of the pane."""
+        if not accessibility.has_window(NAME, name):
+            shown = next((other for other in PANES if accessibility.has_window(NAME, other)), None)
+            if shown is None:
                 trayclient.only_item().click("Preferences")
-        return accessibility.window(NAME, "General")
+                shown = "General"
+            if shown != name:
+                accessibility.window(NAME, shown).find("page tab", name).press()
+        return accessibility.window(NAME, name)
 
     def says(self, text):
         """Below the switch, or below the account."""
@@ -191,8 +194,14 @@ class Person:
     def toggle(self, box):
         self.pane().find("check box", box).press()
 
+    def set_minutes(self, minutes):
+        field = self.pane("Advanced").find("entry", "Repeat every … minutes by default")
+        field.type(str(minutes))
+        xdotool("key", "Return")
+        wait_until(lambda: stored().get("defaultTimerMinutes") == minutes, "the minutes were not stored")
+
     def write_setting(self, key, value):
-        """As another program does it."""
+        """While the program does not run: of two who write the file at the same moment one loses."""
         write_settings(**{key: value})
 
     # What has become of it
