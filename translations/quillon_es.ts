@@ -1971,11 +1971,11 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
     </message>
     <message>
         <source>&amp;Install Helper</source>
-        <translation>&amp;Instalar la herramienta</translation>
+        <translation>&amp;Instalar</translation>
     </message>
     <message>
         <source>The helper is not installed</source>
-        <translation>La herramienta auxiliar no está instalada</translation>
+        <translation>Falta la herramienta auxiliar</translation>
     </message>
     <message>
         <source>Installing…</source>

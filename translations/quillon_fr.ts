@@ -1759,7 +1759,7 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>Edit</source>
-        <translation>Édition</translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -1971,11 +1971,11 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>&amp;Install Helper</source>
-        <translation>&amp;Installer l’outil</translation>
+        <translation>&amp;Installer</translation>
     </message>
     <message>
         <source>The helper is not installed</source>
-        <translation>L’outil auxiliaire n’est pas installé</translation>
+        <translation>L’outil auxiliaire manque</translation>
     </message>
     <message>
         <source>Installing…</source>

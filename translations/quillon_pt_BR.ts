@@ -1971,11 +1971,11 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
     </message>
     <message>
         <source>&amp;Install Helper</source>
-        <translation>&amp;Instalar a ferramenta</translation>
+        <translation>&amp;Instalar</translation>
     </message>
     <message>
         <source>The helper is not installed</source>
-        <translation>A ferramenta auxiliar não está instalada</translation>
+        <translation>Falta a ferramenta auxiliar</translation>
     </message>
     <message>
         <source>Installing…</source>

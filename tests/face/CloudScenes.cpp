@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillon authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/Localized.h"
 #include "face/FaceProgram.h"
 #include "face/SceneSteps.h"
 #include "face/SceneSubjects.h"
@@ -136,12 +137,12 @@ QList<FaceScene> cloudScenes()
         {u"cloud-new-account"_s, nullptr,
             [](P &program) {
                 begin(program).fail(
-                    {.text = u"This account is new. Repeat the passphrase for it."_s,
+                    {.text = localized("This account is new. Repeat the passphrase."),
                         .remedy = Problem::Remedy::RepeatPassphrase});
             }},
         {u"cloud-other-passphrase"_s, nullptr,
             [](P &program) {
-                begin(program).fail({.text = u"The account has another passphrase."_s,
+                begin(program).fail({.text = localized("The account has another passphrase."),
                     .remedy = Problem::Remedy::AnotherPassphrase});
             }},
         {u"cloud-folder"_s, nullptr,
