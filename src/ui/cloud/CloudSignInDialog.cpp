@@ -240,6 +240,7 @@ QFrame *CloudSignInDialog::makeQuestion()
         Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     // Digits, in whatever direction the words run.
     m_fingerprint->setLayoutDirection(Qt::LeftToRight);
+    m_fingerprint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_fingerprint->setToolTip(plainToolTip(what->text()));
     column->addWidget(m_fingerprint, 0, Qt::AlignHCenter);
     auto *copy = new QPushButton(localized("Copy"));
