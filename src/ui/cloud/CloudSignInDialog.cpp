@@ -175,6 +175,7 @@ QFrame *CloudSignInDialog::makeQuestion()
     m_fingerprint->setFocusPolicy(Qt::StrongFocus);
     // Digits, in whatever direction the words run.
     m_fingerprint->setLayoutDirection(Qt::LeftToRight);
+    m_fingerprint->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_fingerprint->setToolTip(plainToolTip(what->text()));
     column->addWidget(m_fingerprint, 0, Qt::AlignHCenter);
     auto *copy = new QPushButton(localized("Copy"));

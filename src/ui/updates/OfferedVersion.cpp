@@ -46,6 +46,8 @@ OfferedVersion::OfferedVersion(UpdatePreferencesViewController &model, QWidget *
     m_page->setProperty("look", u"caption"_s);
     m_notes->setObjectName(u"releaseNotes"_s);
     m_notes->setWordWrap(true);
+    // Paragraphs in a language of their own begin where that does.
+    m_notes->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     m_notesArea->setAccessibleName(localized("What is new"));
     m_open->setObjectName(u"openOfferButton"_s);
     m_open->setProperty("look", u"primary"_s);

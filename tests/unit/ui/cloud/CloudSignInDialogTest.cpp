@@ -205,6 +205,25 @@ TEST_F(CloudSignInDialogTest, ANewAccountWantsThePassphraseTwice)
     EXPECT_EQ(field("Repeat passphrase").text(), QString());
 }
 
+struct MirroredApplication
+{
+    MirroredApplication() { QApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~MirroredApplication() { QApplication::setLayoutDirection(Qt::LeftToRight); }
+};
+
+/// Made in an application that is mirrored from its start.
+class CloudSignInDialogMirrored : MirroredApplication, public CloudSignInDialogTest
+{
+};
+
+TEST_F(CloudSignInDialogMirrored, TheColumnsOfTheFingerprintStandOverEachOther)
+{
+    askAboutCertificate();
+    // The last line is shorter, by its colon.
+    EXPECT_EQ(fingerprint().layoutDirection(), Qt::LeftToRight);
+    EXPECT_TRUE(fingerprint().alignment().testFlag(Qt::AlignLeft));
+}
+
 TEST_F(CloudSignInDialogTest, TheFingerprintCanBeComparedAndCopied)
 {
     askAboutCertificate();

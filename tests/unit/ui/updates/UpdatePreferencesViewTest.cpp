@@ -8,6 +8,7 @@
 #include "ui/widgets/InlineLine.h"
 #include "unit/updates/UpdaterFixture.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -169,6 +170,15 @@ TEST_F(UpdatePreferencesViewTest, ShowsTheOfferAndLeadsToIt)
     find("4.0", "");
     EXPECT_FALSE(offer().isVisible());
     EXPECT_EQ(result().kind(), InlineLine::Kind::Positive);
+}
+
+TEST_F(UpdatePreferencesViewTest, NotesBeginWhereTheirOwnLanguageDoes)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    make(source);
+    find("4.1", "New in this version");
+    EXPECT_FALSE(part<QLabel>("releaseNotes").alignment().testFlag(Qt::AlignAbsolute));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(UpdatePreferencesViewTest, NotesAreNoMarkupAndDoNotMakeItWider)
