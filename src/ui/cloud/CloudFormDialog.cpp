@@ -147,9 +147,10 @@ void CloudFormDialog::fit()
 
 bool CloudFormDialog::event(QEvent *event)
 {
+    const QEvent::Type type = event->type();
     const bool isTaken = QDialog::event(event);
-    if (layout() != nullptr &&
-        (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)) {
+    // Nothing of this is touched after others: one of them deletes it.
+    if ((type == QEvent::LayoutRequest || type == QEvent::Show) && layout() != nullptr) {
         fit();
     }
     return isTaken;

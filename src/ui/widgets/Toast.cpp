@@ -195,8 +195,10 @@ bool Toast::isLookedAt() const
 
 bool Toast::event(QEvent *event)
 {
+    const QEvent::Type type = event->type();
     const bool done = QFrame::event(event);
-    if (isVisible() && (event->type() == QEvent::Enter || event->type() == QEvent::Leave)) {
+    // Nothing of this is touched after others: one of them deletes it.
+    if ((type == QEvent::Enter || type == QEvent::Leave) && isVisible()) {
         waitAnew();
     }
     return done;
