@@ -4,6 +4,8 @@
 
 #include "unit/ui/UserInterfaceFixture.h"
 
+#include <QApplication>
+
 namespace quillon::test {
 
 using namespace Qt::StringLiterals;
