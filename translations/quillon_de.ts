@@ -2747,12 +2747,12 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
         <translation>Ändert sich nach einiger Zeit von selbst.</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>Bleibt in diesem Netzwerk gleich, bei jeder Adresse.</translation>
+        <source>Stays the same on this network.</source>
+        <translation>Bleibt in diesem Netzwerk gleich.</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>Bleibt in jedem Netzwerk gleich, bei jeder Adresse.</translation>
+        <source>Stays the same on every network.</source>
+        <translation>Bleibt in jedem Netzwerk gleich.</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

@@ -88,8 +88,9 @@ const char *settingOf(Kind kind, Lasts lasts, const QString &owner)
 
 QString settingAgainst(Kind kind, Lasts lasts, const QString &owner, const QString &device)
 {
-    if (lasts == Lasts::ChangesByItself) {
-        return {};
+    const bool isIdentifier = kind == Kind::DhcpIdentifier || kind == Kind::Duid;
+    if (lasts == Lasts::ChangesByItself || (isIdentifier && lasts == Lasts::FollowsAddress)) {
+        return {}; // no less can be shown
     }
     QString setting = QLatin1String(settingOf(kind, lasts, owner));
     return setting.contains("%1"_L1) ? setting.arg(device) : setting;

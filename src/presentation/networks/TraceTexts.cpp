@@ -45,9 +45,9 @@ QString lasting(const Trace &trace)
     case Lasts::ChangesByItself:
         return localized("Changes by itself after a time.");
     case Lasts::OnThisNetwork:
-        return localized("Stays the same on this network, whatever the address.");
+        return localized("Stays the same on this network.");
     case Lasts::Always:
-        return localized("Stays the same on every network, whatever the address.");
+        return localized("Stays the same on every network.");
     case Lasts::NamesHardwareAddress:
         return localized("Gives the hardware address away.");
     case Lasts::NamesOtherAddress:
@@ -123,10 +123,9 @@ QString traceHint(const Trace &trace, const QDateTime &now)
     if (trace.isKept && trace.age) {
         sentences.append(kept(trace, now));
     }
-    if (const QString what = remedy(trace); !what.isEmpty()) {
-        sentences.append(what);
-    }
-    return sentences.join(u' ');
+    const QString said = sentences.join(u' ');
+    const QString what = remedy(trace);
+    return what.isEmpty() ? said : said + u'\n' + what;
 }
 
 } // namespace quillon

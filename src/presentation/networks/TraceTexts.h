@@ -15,7 +15,7 @@ namespace quillon {
 QString traceLabel(Trace::Kind kind);
 /// What is shown of it, or that it is not known, in words for what is made of something.
 QString traceValue(const Trace &trace);
-/// What becomes of it at a change of the address, and what can be done: one to three sentences.
+/// What becomes of it at a change of the address, and in a line of its own what can be done.
 /// `now` is the moment to count back from.
 QString traceHint(const Trace &trace, const QDateTime &now);
 

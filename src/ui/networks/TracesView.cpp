@@ -48,6 +48,9 @@ TracesView::TracesView(TracesModel &model, QWidget *parent)
     m_title->setProperty("look", u"head"_s);
     m_title->setFont(Theme::font(Theme::Type::Strong));
     m_title->setWordWrap(true);
+    // All begins where the values begin.
+    m_title->setContentsMargins(ring, 0, ring, 0);
+    m_line->setContentsMargins(ring, 0, ring, 0);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Theme::unit / 2);

@@ -16,7 +16,7 @@ from told import DUID, IDENTIFIER, IPV6, LLMNR, MDNS, NAME, Listener  # noqa: E4
 
 NEW = "02:00:00:00:56:11"
 FOLLOWS = "Changes with the address."
-STAYS = ("Stays the same on this network, whatever the address.", "Stays the same on every network, whatever the address.")
+STAYS = ("Stays the same on this network.", "Stays the same on every network.")
 GIVES_AWAY = "Gives the hardware address away."
 # What the window calls each, and the kind that is heard on the wire.
 LABELS = {"Name sent with DHCP": NAME, "DHCP client identifier": IDENTIFIER, "DHCPv6 identifier (DUID)": DUID,

@@ -41,6 +41,15 @@ TEST(TraceSettings, GoByWhatAnIpv6AddressIsMadeOf)
     EXPECT_EQ(of(Lasts::ChangesByItself, networkManager), QString()) << "nothing is left to do";
 }
 
+TEST(TraceSettings, AreNoneWhereNoLessCanBeShown)
+{
+    for (const Kind kind : {Kind::DhcpIdentifier, Kind::Duid}) {
+        EXPECT_EQ(
+            settingAgainst(kind, Lasts::FollowsAddress, networkManager, u"eth0"_s), QString());
+        EXPECT_NE(settingAgainst(kind, Lasts::Always, networkManager, u"eth0"_s), QString());
+    }
+}
+
 TEST(TraceSettings, NameTheInterfaceAsItIs)
 {
     EXPECT_EQ(settingAgainst(Kind::MulticastName, Lasts::Always, u"Avahi"_s, u"%1<b>"_s),

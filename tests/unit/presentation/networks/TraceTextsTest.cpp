@@ -56,10 +56,9 @@ TEST(TraceTexts, SayWhatCanBeDone)
     trace.owner = u"NetworkManager"_s;
     trace.setting = u"a %1 b"_s;
     EXPECT_EQ(traceHint(trace, now),
-        u"Stays the same on every network, whatever the address. To show less, in "
-        "NetworkManager: a %1 b"_s);
+        u"Stays the same on every network.\nTo show less, in NetworkManager: a %1 b"_s);
     trace.owner.clear();
-    EXPECT_TRUE(traceHint(trace, now).endsWith(u" To show less: a %1 b"_s));
+    EXPECT_TRUE(traceHint(trace, now).endsWith(u"\nTo show less: a %1 b"_s));
 }
 
 TEST(TraceTexts, SaySinceWhenItWasKept)

@@ -135,7 +135,7 @@ TEST_F(NetworkRowTest, AValueThatBecomesKnownWhileItIsShownIsNotQuietAnyMore)
     row.click();
     const QLabel *country = row.popover().content()->findChildren<QLabel *>().constLast();
     for (const auto *label : row.popover().content()->findChildren<QLabel *>()) {
-        country = label->text() == "–"_L1 ? label : country;
+        country = label->text() == u"–"_s ? label : country;
     }
     ASSERT_EQ(country->text(), u"–"_s);
     EXPECT_EQ(country->palette().color(QPalette::WindowText), theme.colors().mutedText);

@@ -81,8 +81,7 @@ TEST_F(TracesViewTest, ShowsEachAndWhatCanBeDone)
     ASSERT_NE(name, nullptr);
     EXPECT_EQ(name->focusPolicy() & Qt::TabFocus, Qt::TabFocus);
     EXPECT_TRUE(name->textInteractionFlags() & Qt::TextSelectableByKeyboard);
-    EXPECT_EQ(
-        name->accessibleDescription(), u"Stays the same on every network, whatever the address."_s);
+    EXPECT_EQ(name->accessibleDescription(), u"Stays the same on every network."_s);
     source.facts.ipv4.sendsName = Answer::No;
     model.interfaceWasUpdated();
     settle();
