@@ -2680,7 +2680,7 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
     </message>
     <message>
         <source>Change Passphrase…</source>
-        <translation>Cambiar frase de contraseña…</translation>
+        <translation>Cambiar la frase…</translation>
     </message>
     <message>
         <source>Gives the account another passphrase, for all computers</source>

@@ -2680,7 +2680,7 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
     </message>
     <message>
         <source>Change Passphrase…</source>
-        <translation>Modifier la phrase secrète…</translation>
+        <translation>Modifier la phrase…</translation>
     </message>
     <message>
         <source>Gives the account another passphrase, for all computers</source>
