@@ -2578,5 +2578,217 @@ Rules and history are in this file, which is left as it is: %@</source>
             <numerusform>صُدّرت %Ln مدخلة</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>سجّل الدخول إلى الحساب أولًا.</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>أدخل عبارة السر الحالية.</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>أدخل عبارة سر جديدة.</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>عبارة السر الجديدة هي الحالية نفسها.</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>غيّر حاسوب آخر ملف المفتاح للتو. حاول مرة أخرى بعبارة السر السارية الآن.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>انقطع الاتصال. تفتح الحسابَ الآن إما عبارة السر الجديدة أو السابقة.</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>غيّر حاسوب آخر عبارة السر في الوقت نفسه. عبارته هي السارية الآن.</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>هذه ليست عبارة السر الحالية.</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>في الحساب مفتاح آخر: أعاد أحد إنشاء الحساب أو غيّره. لن تجري أي مزامنة حتى تسجّل الدخول من جديد.</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>جارٍ قراءة ملف مفتاح الحساب…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>جارٍ كتابة ملف مفتاح الحساب…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>غُيّرت عبارة السر. تبقى الحواسيب الأخرى مسجّلة الدخول.</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>ما لا تزال الشبكة تراه</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>ما لا تزال شبكة ⁨%@⁩ تراه</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>لم تُحدّد واجهة.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>جارٍ الفحص…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>لا يُعرف غير العنوان شيء يكشف هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>مشتق من العنوان الحالي</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>مشتق من عنوان العتاد</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>مشتق من عنوان آخر</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>مُنشأ لهذه الشبكة</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>مُنشأ لهذا الحاسوب</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>يتغيّر مع العنوان.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>يتغيّر تلقائيًا بعد مدة.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>يبقى كما هو على هذه الشبكة مهما كان العنوان.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>يبقى كما هو على كل شبكة مهما كان العنوان.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>يكشف عنوان العتاد.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>يكشف عنوانًا سابقًا أو عنوان واجهة أخرى.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>البرنامج الذي يحدده لا يفصح عنه.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>لا يُعرف هل يتغيّر مع العنوان.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>بقي كما هو عند التغيير، منذ ⁨%@⁩.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>لإظهار معلومات أقل: ⁨%@⁩</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>لإظهار معلومات أقل، في ⁨%@⁩: ⁨%@⁩</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>الاسم المرسل عبر DHCP</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>معرّف عميل DHCP</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>معرّف DHCPv6 (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>عنوان IPv6</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>عناوين IPv6 أخرى</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>الاسم المعلن عبر mDNS</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>الاسم المعلن عبر LLMNR</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>اسم الدخول (802.1X)</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>تغيير عبارة السر…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>يعطي الحساب عبارة سر أخرى، لكل الحواسيب</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>تغيير عبارة السر</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>بعد ذلك تفتح عبارة السر الجديدة الحساب</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>عبارة السر الحالية</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>المستخدمة عند تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>عبارة السر الجديدة</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>ثمانية محارف على الأقل. لن يستطيع أحد لاحقًا معرفة ما كُتب.</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>تكرار عبارة السر الجديدة</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>العبارة نفسها مرة أخرى</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>تبقى الحواسيب الأخرى مسجّلة الدخول. تظل نسخ الحساب التي أُنشئت سابقًا تُفتح بعبارة السر الحالية.</translation>
+    </message>
 </context>
 </TS>

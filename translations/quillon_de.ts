@@ -2303,7 +2303,7 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
     </message>
     <message>
         <source>The one with which you signed in</source>
-        <translation>Die, mit der Sie sich angemeldet haben</translation>
+        <translation>Die bei der Anmeldung benutzte</translation>
     </message>
     <message>
         <source>New passphrase</source>
@@ -2601,98 +2601,6 @@ Regeln und Verlauf sind in dieser Datei, die unverändert bleibt: %@</translatio
             <numerusform>%Ln Eintrag exportiert</numerusform>
             <numerusform>%Ln Einträge exportiert</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>On %@, give %@ a new random address every minute.</source>
-        <translation>In %@ erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On any network, give %@ a new random address every minute.</source>
-        <translation>In jedem Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On an unknown network, give %@ a new random address every minute.</source>
-        <translation>In einem unbekannten Netzwerk erhält %@ jede Minute eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On %@, give %@ a new random address every %@ minutes.</source>
-        <translation>In %@ erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On any network, give %@ a new random address every %@ minutes.</source>
-        <translation>In jedem Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>On an unknown network, give %@ a new random address every %@ minutes.</source>
-        <translation>In einem unbekannten Netzwerk erhält %@ alle %@ Minuten eine neue zufällige Adresse.</translation>
-    </message>
-    <message>
-        <source>Rule deleted</source>
-        <translation>Regel gelöscht</translation>
-    </message>
-    <message>
-        <source>%d rules deleted</source>
-        <translation>%d Regeln gelöscht</translation>
-    </message>
-    <message>
-        <source>%@ exported</source>
-        <translation>%@ exportiert</translation>
-    </message>
-    <message>
-        <source>%@ selected</source>
-        <translation>%@ ausgewählt</translation>
-    </message>
-    <message>
-        <source>Record deleted</source>
-        <translation>Eintrag gelöscht</translation>
-    </message>
-    <message>
-        <source>%@ records deleted</source>
-        <translation>%@ Einträge gelöscht</translation>
-    </message>
-    <message>
-        <source>Delete %@?</source>
-        <translation>%@ löschen?</translation>
-    </message>
-    <message>
-        <source>1 record</source>
-        <translation>1 Eintrag</translation>
-    </message>
-    <message>
-        <source>%@ records</source>
-        <translation>%@ Einträge</translation>
-    </message>
-    <message>
-        <source>%@ of 1 record</source>
-        <translation>%@ von 1 Eintrag</translation>
-    </message>
-    <message>
-        <source>%@ of %@ records</source>
-        <translation>%@ von %@ Einträgen</translation>
-    </message>
-    <message>
-        <source>1 address</source>
-        <translation>1 Adresse</translation>
-    </message>
-    <message>
-        <source>%@ addresses</source>
-        <translation>%@ Adressen</translation>
-    </message>
-    <message>
-        <source>1 network</source>
-        <translation>1 Netzwerk</translation>
-    </message>
-    <message>
-        <source>%@ networks</source>
-        <translation>%@ Netzwerke</translation>
-    </message>
-    <message>
-        <source>%@ added.</source>
-        <translation>%@ hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>%@ were saved. Save again for more.</source>
-        <translation>%@ wurden gespeichert. Für weitere erneut speichern.</translation>
     </message>
     <message>
         <source>What the network still sees</source>

@@ -2510,5 +2510,217 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
             <numerusform>%Ln entradas exportadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>Inicie sesión primero en la cuenta.</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>Escriba la frase de contraseña actual.</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>Escriba una frase de contraseña nueva.</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>La frase de contraseña nueva es la misma que la actual.</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>Otro equipo acaba de cambiar el archivo de clave. Inténtelo de nuevo con la frase de contraseña que vale ahora.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>Se perdió la conexión. La cuenta se abre ahora con la frase de contraseña nueva o con la anterior.</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>Otro equipo ha cambiado la frase de contraseña al mismo tiempo. Ahora vale la suya.</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>Esta no es la frase de contraseña actual.</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>La cuenta contiene otra clave: alguien la ha creado de nuevo o la ha cambiado. No se sincroniza nada hasta que inicie sesión de nuevo.</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>Leyendo el archivo de clave de la cuenta…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>Escribiendo el archivo de clave de la cuenta…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>La frase de contraseña se ha cambiado. Los demás equipos siguen con la sesión iniciada.</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>Lo que la red aún ve</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>Lo que la red de %@ aún ve</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>No hay ninguna interfaz seleccionada.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Consultando…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>Aparte de la dirección, no se conoce nada que delate este equipo.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>Formado con la dirección actual</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>Formado con la dirección de hardware</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>Formado con otra dirección</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>Creado para esta red</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>Creado para este equipo</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>Cambia con la dirección.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>Cambia automáticamente pasado un tiempo.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>Sigue igual en esta red, sea cual sea la dirección.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>Sigue igual en todas las redes, sea cual sea la dirección.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>Delata la dirección de hardware.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>Delata una dirección anterior o la de otra interfaz.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>El programa que lo establece no da información.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>No se sabe si cambia con la dirección.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>Se mantuvo tras el cambio, desde %@.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>Para mostrar menos: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>Para mostrar menos, en %@: %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>Nombre enviado por DHCP</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>Identificador de cliente DHCP</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>Identificador DHCPv6 (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Dirección IPv6</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>Más direcciones IPv6</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>Nombre anunciado por mDNS</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>Nombre anunciado por LLMNR</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>Nombre de usuario (802.1X)</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>Cambiar la frase…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>Da a la cuenta otra frase de contraseña, para todos los equipos</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Cambiar frase de contraseña</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>Desde entonces la frase de contraseña nueva abre la cuenta</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>Frase de contraseña actual</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>La que usó para iniciar sesión</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Frase de contraseña nueva</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>Al menos ocho caracteres. Nadie podrá decir después qué se escribió.</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>Repetir la frase de contraseña nueva</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>La misma otra vez</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>Los demás equipos siguen con la sesión iniciada. Las copias de la cuenta hechas antes se siguen abriendo con la frase de contraseña actual.</translation>
+    </message>
 </context>
 </TS>

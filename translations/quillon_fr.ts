@@ -2510,5 +2510,217 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
             <numerusform>%Ln entrées exportées</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>Se connecter d’abord au compte.</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>Saisir la phrase secrète actuelle.</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>Saisir une nouvelle phrase secrète.</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>La nouvelle phrase secrète est la même que l’actuelle.</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>Un autre ordinateur vient de modifier le fichier de clé. Réessayer avec la phrase secrète désormais valable.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>La connexion a été perdue. Le compte s’ouvre maintenant avec la nouvelle phrase secrète ou avec la précédente.</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>Un autre ordinateur a modifié la phrase secrète en même temps. C’est la sienne qui vaut maintenant.</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>Ce n’est pas la phrase secrète actuelle.</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>Le compte contient une autre clé&#xa0;: quelqu’un l’a recréé ou modifié. Rien n’est synchronisé avant une nouvelle connexion.</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>Lecture du fichier de clé du compte…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>Écriture du fichier de clé du compte…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>La phrase secrète a été modifiée. Les autres ordinateurs restent connectés.</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>Ce que le réseau voit encore</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>Ce que le réseau de %@ voit encore</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>Aucune interface n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Recherche…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>Hormis l’adresse, rien de connu ne révèle cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>Formé à partir de l’adresse actuelle</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>Formé à partir de l’adresse matérielle</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>Formé à partir d’une autre adresse</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>Formé pour ce réseau</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>Formé pour cet ordinateur</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>Change avec l’adresse.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>Change automatiquement après un certain temps.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>Reste identique sur ce réseau, quelle que soit l’adresse.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>Reste identique sur tous les réseaux, quelle que soit l’adresse.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>Révèle l’adresse matérielle.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>Révèle une adresse antérieure ou celle d’une autre interface.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>Le programme qui en décide n’en dit rien.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>On ne sait pas si cela change avec l’adresse.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>Identique malgré la modification, depuis %@.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>Pour en montrer moins&#xa0;: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>Pour en montrer moins, dans %@&#xa0;: %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>Nom envoyé par DHCP</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>Identifiant client DHCP</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>Identifiant DHCPv6 (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Adresse IPv6</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>Autres adresses IPv6</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>Nom annoncé par mDNS</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>Nom annoncé par LLMNR</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>Nom d’utilisateur (802.1X)</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>Modifier la phrase…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>Donne au compte une autre phrase secrète, pour tous les ordinateurs</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Modifier la phrase secrète</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>La nouvelle phrase secrète ouvrira désormais le compte</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>Phrase secrète actuelle</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>Celle utilisée pour se connecter</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Nouvelle phrase secrète</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>Au moins huit caractères. Personne ne pourra dire plus tard ce qui a été saisi.</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>Répéter la nouvelle phrase secrète</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>La même, encore une fois</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>Les autres ordinateurs restent connectés. Les copies du compte faites auparavant s’ouvrent toujours avec la phrase secrète actuelle.</translation>
+    </message>
 </context>
 </TS>

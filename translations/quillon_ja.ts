@@ -2493,5 +2493,217 @@ Rules and history are in this file, which is left as it is: %@</source>
             <numerusform>%Ln 件の記録をエクスポートしました</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>先にアカウントにサインインしてください。</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>現在のパスフレーズを入力してください。</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>新しいパスフレーズを入力してください。</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>新しいパスフレーズが現在のものと同じです。</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>別のコンピューターがキーファイルを変更したところです。現在有効なパスフレーズでもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>接続が切れました。アカウントは、新しいパスフレーズかこれまでのパスフレーズのどちらかで開きます。</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>別のコンピューターが同時にパスフレーズを変更しました。現在はそちらが有効です。</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>現在のパスフレーズではありません。</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>アカウントに別のキーがあります。誰かがアカウントを作り直したか、変更しています。再度サインインするまで何も同期されません。</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>アカウントのキーファイルを読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>アカウントのキーファイルを書き込んでいます…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>パスフレーズを変更しました。ほかのコンピューターはサインインしたままです。</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>ネットワークにまだ見えるもの</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>%@ のネットワークにまだ見えるもの</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>インターフェースが選択されていません。</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>確認中…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>わかっている範囲では、アドレスのほかにこのコンピューターを特定できるものはありません。</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>現在のアドレスから作成</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>ハードウェアアドレスから作成</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>別のアドレスから作成</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>このネットワーク用に作成</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>このコンピューター用に作成</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>アドレスとともに変わります。</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>しばらくすると自動で変わります。</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>このネットワークでは、アドレスが変わっても同じです。</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>どのネットワークでも、アドレスが変わっても同じです。</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>ハードウェアアドレスが知られます。</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>以前のアドレスか、別のインターフェースのアドレスが知られます。</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>設定しているプログラムから情報が得られません。</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>アドレスとともに変わるかどうかは不明です。</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>アドレスの変更後も同じです (%@ から)。</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>見えるものを減らすには: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>見えるものを減らすには (%@): %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>DHCP で送られる名前</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>DHCP クライアント識別子</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>DHCPv6 識別子 (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6 アドレス</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>その他の IPv6 アドレス</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>mDNS で知らされる名前</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>LLMNR で知らされる名前</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>ログイン名 (802.1X)</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>パスフレーズを変更…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>すべてのコンピューターについて、アカウントのパスフレーズを変更します</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>パスフレーズを変更</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>以後、アカウントは新しいパスフレーズで開きます</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>現在のパスフレーズ</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>サインインに使ったパスフレーズです</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>新しいパスフレーズ</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>8 文字以上です。入力した内容はあとで誰にもわかりません。</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>新しいパスフレーズ (確認)</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>同じものをもう一度入力します</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>ほかのコンピューターはサインインしたままです。以前に作られたアカウントのコピーは、引き続き現在のパスフレーズで開きます。</translation>
+    </message>
 </context>
 </TS>

@@ -2510,5 +2510,217 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
             <numerusform>%Ln entradas exportadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>Entre primeiro na conta.</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>Digite a frase secreta atual.</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>Digite uma nova frase secreta.</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>A nova frase secreta é igual à atual.</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>Outro computador acabou de alterar o arquivo de chave. Tente novamente com a frase secreta que vale agora.</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>A conexão foi perdida. A conta agora abre com a nova frase secreta ou com a anterior.</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>Outro computador alterou a frase secreta ao mesmo tempo. Agora vale a dele.</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>Esta não é a frase secreta atual.</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>Há outra chave na conta: alguém a criou de novo ou a alterou. Nada é sincronizado até que você entre novamente.</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>Lendo o arquivo de chave da conta…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>Gravando o arquivo de chave da conta…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>A frase secreta foi alterada. Os outros computadores continuam conectados.</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>O que a rede ainda vê</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>O que a rede de %@ ainda vê</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>Nenhuma interface está selecionada.</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>Consultando…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>Além do endereço, não se conhece nada que revele este computador.</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>Formado com o endereço atual</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>Formado com o endereço de hardware</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>Formado com outro endereço</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>Criado para esta rede</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>Criado para este computador</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>Desconhecido</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>Muda com o endereço.</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>Muda sozinho depois de algum tempo.</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>Continua igual nesta rede, seja qual for o endereço.</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>Continua igual em todas as redes, seja qual for o endereço.</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>Revela o endereço de hardware.</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>Revela um endereço anterior ou o de outra interface.</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>O programa que o define não dá informações.</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>Não se sabe se muda com o endereço.</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>Mantido após a alteração, desde %@.</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>Para mostrar menos: %@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>Para mostrar menos, em %@: %@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>Nome enviado por DHCP</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>Identificador de cliente DHCP</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>Identificador DHCPv6 (DUID)</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Endereço IPv6</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>Mais endereços IPv6</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>Nome anunciado por mDNS</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>Nome anunciado por LLMNR</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>Nome de usuário (802.1X)</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>Alterar frase secreta…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>Dá à conta outra frase secreta, para todos os computadores</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Alterar frase secreta</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>Depois disso, a nova frase secreta abre a conta</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>Frase secreta atual</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>A que você usou para entrar</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Nova frase secreta</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>Pelo menos oito caracteres. Ninguém poderá dizer depois o que foi digitado.</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>Repetir a nova frase secreta</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>A mesma mais uma vez</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>Os outros computadores continuam conectados. Cópias da conta feitas antes ainda abrem com a frase secreta atual.</translation>
+    </message>
 </context>
 </TS>

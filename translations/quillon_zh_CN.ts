@@ -2493,5 +2493,217 @@ Rules and history are in this file, which is left as it is: %@</source>
             <numerusform>已导出 %Ln 条记录</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Sign in to the account first.</source>
+        <translation>请先登录账户。</translation>
+    </message>
+    <message>
+        <source>Enter the current passphrase.</source>
+        <translation>请输入当前口令。</translation>
+    </message>
+    <message>
+        <source>Enter a new passphrase.</source>
+        <translation>请输入新口令。</translation>
+    </message>
+    <message>
+        <source>The new passphrase is the current one.</source>
+        <translation>新口令与当前口令相同。</translation>
+    </message>
+    <message>
+        <source>Another computer has just changed the key file. Try again with the passphrase that holds now.</source>
+        <translation>另一台计算机刚刚更改了密钥文件。请用现在有效的口令重试。</translation>
+    </message>
+    <message>
+        <source>The connection was lost. Either the new passphrase or the current one opens the account now.</source>
+        <translation>连接已断开。现在能打开账户的是新口令或原口令之一。</translation>
+    </message>
+    <message>
+        <source>Another computer has changed the passphrase at the same time. That one holds now.</source>
+        <translation>另一台计算机同时更改了口令。现在以那个口令为准。</translation>
+    </message>
+    <message>
+        <source>This is not the current passphrase.</source>
+        <translation>这不是当前口令。</translation>
+    </message>
+    <message>
+        <source>Another key is in the account: somebody has made it anew, or changed it. Nothing is synced until you sign in again.</source>
+        <translation>账户中是另一个密钥：有人重新创建或更改了账户。重新登录之前不会同步任何内容。</translation>
+    </message>
+    <message>
+        <source>Reading the account&apos;s key file…</source>
+        <translation>正在读取账户的密钥文件…</translation>
+    </message>
+    <message>
+        <source>Writing the account&apos;s key file…</source>
+        <translation>正在写入账户的密钥文件…</translation>
+    </message>
+    <message>
+        <source>The passphrase was changed. Your other computers stay signed in.</source>
+        <translation>口令已更改。其他计算机保持登录状态。</translation>
+    </message>
+    <message>
+        <source>What the network still sees</source>
+        <translation>网络仍能看到的内容</translation>
+    </message>
+    <message>
+        <source>What the network of %@ still sees</source>
+        <translation>%@ 的网络仍能看到的内容</translation>
+    </message>
+    <message>
+        <source>No interface is selected.</source>
+        <translation>未选择接口。</translation>
+    </message>
+    <message>
+        <source>Looking…</source>
+        <translation>正在查看…</translation>
+    </message>
+    <message>
+        <source>Nothing but the address is known to tell who this is.</source>
+        <translation>除地址外，没有已知信息会暴露此计算机的身份。</translation>
+    </message>
+    <message>
+        <source>Made from the current address</source>
+        <translation>由当前地址生成</translation>
+    </message>
+    <message>
+        <source>Made from the hardware address</source>
+        <translation>由硬件地址生成</translation>
+    </message>
+    <message>
+        <source>Made from another address</source>
+        <translation>由另一个地址生成</translation>
+    </message>
+    <message>
+        <source>Made for this network</source>
+        <translation>为此网络生成</translation>
+    </message>
+    <message>
+        <source>Made for this computer</source>
+        <translation>为此计算机生成</translation>
+    </message>
+    <message>
+        <source>Not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Changes with the address.</source>
+        <translation>随地址变化。</translation>
+    </message>
+    <message>
+        <source>Changes by itself after a time.</source>
+        <translation>一段时间后自动变化。</translation>
+    </message>
+    <message>
+        <source>Stays the same on this network, whatever the address.</source>
+        <translation>在此网络上保持不变，无论地址为何。</translation>
+    </message>
+    <message>
+        <source>Stays the same on every network, whatever the address.</source>
+        <translation>在所有网络上保持不变，无论地址为何。</translation>
+    </message>
+    <message>
+        <source>Gives the hardware address away.</source>
+        <translation>会泄露硬件地址。</translation>
+    </message>
+    <message>
+        <source>Gives an earlier address, or that of another interface, away.</source>
+        <translation>会泄露以前的地址或另一接口的地址。</translation>
+    </message>
+    <message>
+        <source>Who sets it does not tell.</source>
+        <translation>设置它的程序未提供信息。</translation>
+    </message>
+    <message>
+        <source>Whether it changes with the address is not known.</source>
+        <translation>不清楚是否随地址变化。</translation>
+    </message>
+    <message>
+        <source>Kept across the change, since %@.</source>
+        <translation>更改地址后仍保留，自 %@ 起。</translation>
+    </message>
+    <message>
+        <source>To show less: %@</source>
+        <translation>若要减少暴露：%@</translation>
+    </message>
+    <message>
+        <source>To show less, in %@: %@</source>
+        <translation>若要减少暴露，在 %@ 中：%@</translation>
+    </message>
+    <message>
+        <source>Name sent with DHCP</source>
+        <translation>通过 DHCP 发送的名称</translation>
+    </message>
+    <message>
+        <source>DHCP client identifier</source>
+        <translation>DHCP 客户端标识符</translation>
+    </message>
+    <message>
+        <source>DHCPv6 identifier (DUID)</source>
+        <translation>DHCPv6 标识符（DUID）</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6 地址</translation>
+    </message>
+    <message>
+        <source>More IPv6 addresses</source>
+        <translation>更多 IPv6 地址</translation>
+    </message>
+    <message>
+        <source>Name told by mDNS</source>
+        <translation>通过 mDNS 公布的名称</translation>
+    </message>
+    <message>
+        <source>Name told by LLMNR</source>
+        <translation>通过 LLMNR 公布的名称</translation>
+    </message>
+    <message>
+        <source>Login name (802.1X)</source>
+        <translation>登录名（802.1X）</translation>
+    </message>
+    <message>
+        <source>Change Passphrase…</source>
+        <translation>更改口令…</translation>
+    </message>
+    <message>
+        <source>Gives the account another passphrase, for all computers</source>
+        <translation>为账户设置另一个口令，适用于所有计算机</translation>
+    </message>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>更改口令</translation>
+    </message>
+    <message>
+        <source>From then on the account is opened by the new passphrase</source>
+        <translation>此后用新口令打开账户</translation>
+    </message>
+    <message>
+        <source>Current passphrase</source>
+        <translation>当前口令</translation>
+    </message>
+    <message>
+        <source>The one with which you signed in</source>
+        <translation>登录时使用的口令</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>新口令</translation>
+    </message>
+    <message>
+        <source>At least eight characters. Nobody can tell you later what you typed.</source>
+        <translation>至少八个字符。以后没有人能告知所输入的内容。</translation>
+    </message>
+    <message>
+        <source>Repeat new passphrase</source>
+        <translation>重复新口令</translation>
+    </message>
+    <message>
+        <source>The same once more</source>
+        <translation>再输入一次相同的口令</translation>
+    </message>
+    <message>
+        <source>Your other computers stay signed in. Copies of the account that somebody has made before still open with the current passphrase.</source>
+        <translation>其他计算机保持登录状态。以前制作的账户副本仍用当前口令打开。</translation>
+    </message>
 </context>
 </TS>
