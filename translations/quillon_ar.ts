@@ -2679,12 +2679,12 @@ Rules and history are in this file, which is left as it is: %@</source>
         <translation>يتغيّر تلقائيًا بعد مدة.</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>يبقى كما هو على هذه الشبكة مهما كان العنوان.</translation>
+        <source>Stays the same on this network.</source>
+        <translation>يبقى كما هو على هذه الشبكة.</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>يبقى كما هو على كل شبكة مهما كان العنوان.</translation>
+        <source>Stays the same on every network.</source>
+        <translation>يبقى كما هو على كل شبكة.</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

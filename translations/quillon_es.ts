@@ -2611,12 +2611,12 @@ Las reglas y el historial están en este archivo, que se deja como está: %@</tr
         <translation>Cambia automáticamente pasado un tiempo.</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>Sigue igual en esta red, sea cual sea la dirección.</translation>
+        <source>Stays the same on this network.</source>
+        <translation>Sigue igual en esta red.</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>Sigue igual en todas las redes, sea cual sea la dirección.</translation>
+        <source>Stays the same on every network.</source>
+        <translation>Sigue igual en todas las redes.</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

@@ -2611,12 +2611,12 @@ Les règles et l’historique sont dans ce fichier, qui reste tel quel&#xa0;: %@
         <translation>Change automatiquement après un certain temps.</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>Reste identique sur ce réseau, quelle que soit l’adresse.</translation>
+        <source>Stays the same on this network.</source>
+        <translation>Reste identique sur ce réseau.</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>Reste identique sur tous les réseaux, quelle que soit l’adresse.</translation>
+        <source>Stays the same on every network.</source>
+        <translation>Reste identique sur tous les réseaux.</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

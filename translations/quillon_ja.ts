@@ -2594,12 +2594,12 @@ Rules and history are in this file, which is left as it is: %@</source>
         <translation>しばらくすると自動で変わります。</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>このネットワークでは、アドレスが変わっても同じです。</translation>
+        <source>Stays the same on this network.</source>
+        <translation>このネットワークでは同じです。</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>どのネットワークでも、アドレスが変わっても同じです。</translation>
+        <source>Stays the same on every network.</source>
+        <translation>どのネットワークでも同じです。</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

@@ -2611,12 +2611,12 @@ As regras e o histórico estão neste arquivo, que fica como está: %@</translat
         <translation>Muda sozinho depois de algum tempo.</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>Continua igual nesta rede, seja qual for o endereço.</translation>
+        <source>Stays the same on this network.</source>
+        <translation>Continua igual nesta rede.</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>Continua igual em todas as redes, seja qual for o endereço.</translation>
+        <source>Stays the same on every network.</source>
+        <translation>Continua igual em todas as redes.</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>

@@ -2594,12 +2594,12 @@ Rules and history are in this file, which is left as it is: %@</source>
         <translation>一段时间后自动变化。</translation>
     </message>
     <message>
-        <source>Stays the same on this network, whatever the address.</source>
-        <translation>在此网络上保持不变，无论地址为何。</translation>
+        <source>Stays the same on this network.</source>
+        <translation>在此网络上保持不变。</translation>
     </message>
     <message>
-        <source>Stays the same on every network, whatever the address.</source>
-        <translation>在所有网络上保持不变，无论地址为何。</translation>
+        <source>Stays the same on every network.</source>
+        <translation>在所有网络上保持不变。</translation>
     </message>
     <message>
         <source>Gives the hardware address away.</source>
