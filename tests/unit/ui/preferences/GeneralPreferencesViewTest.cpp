@@ -169,6 +169,8 @@ TEST_F(GeneralPreferencesViewAccount, TabGoesFromTheSwitchToTheAccount)
     press(Qt::Key_Tab);
     EXPECT_TRUE(box("accountButton").hasFocus());
     press(Qt::Key_Tab);
+    EXPECT_TRUE(box("changePassphraseButton").hasFocus());
+    press(Qt::Key_Tab);
     EXPECT_TRUE(box("signOutButton").hasFocus());
 }
 
