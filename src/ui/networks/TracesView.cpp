@@ -7,8 +7,11 @@
 #include "ui/widgets/ContentScrollArea.h"
 #include "ui/widgets/PlainText.h"
 
+#include <QFontMetrics>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillon {
 
@@ -17,7 +20,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Three entries of two lines each, and a bit of the next one, which shows that there is more.
-constexpr int tallest = 200;
+/// What is above it grows with the text, and all of it has to fit on a small screen: the larger the
+/// text, the less of the list is seen at once.
+int tallest()
+{
+    constexpr int most = 200;
+    constexpr int least = 96;
+    constexpr int share = 3400;
+    const int line = QFontMetrics(Theme::font(Theme::Type::Body)).lineSpacing();
+    return std::clamp(share / line, least, most);
+}
+
 constexpr int ring = ContentScrollArea::ringRoom;
 
 QLabel *caption()
@@ -41,7 +54,7 @@ TracesView::TracesView(TracesModel &model, QWidget *parent)
     // Room for the ring around a value that has the keyboard.
     m_list->setContentsMargins(ring, ring, ring, ring);
     m_list->setSpacing(Theme::unit / 4);
-    m_area = new ContentScrollArea(list, tallest);
+    m_area = new ContentScrollArea(list, tallest());
 
     auto *rule = new QFrame;
     rule->setProperty("look", u"rule"_s);
