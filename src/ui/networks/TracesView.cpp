@@ -25,10 +25,11 @@ namespace {
 int tallest()
 {
     constexpr int most = 200;
-    constexpr int least = 96;
-    constexpr int share = 3400;
+    constexpr int least = 72;
+    constexpr int usualLine = 18;
+    constexpr int lessForEachPixel = 9;
     const int line = QFontMetrics(Theme::font(Theme::Type::Body)).lineSpacing();
-    return std::clamp(share / line, least, most);
+    return std::clamp(most - (line - usualLine) * lessForEachPixel, least, most);
 }
 
 constexpr int ring = ContentScrollArea::ringRoom;
