@@ -9,8 +9,13 @@
 //   compact      the computer that filled it writes a snapshot: nanoseconds, files, bytes, nanoseconds
 //                of the longest turn
 //   requests     of a poll without news, and of a change: how many
+//   day          by the program's schedule and a clock with hands: requests of one computer on a day
+//                without news; milliseconds from an edit until the other computer has it, the mean and
+//                the longest of 100
 #include "bench/Request.h"
+#include "sync/SyncSchedule.h"
 #include "sync/SyncValue.h"
+#include "tests/fakes/FakeScheduler.h"
 #include "tests/unit/sync/SyncedComputer.h"
 
 #include <QDateTime>
@@ -22,6 +27,7 @@
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace quillon;
 using namespace quillon::bench;
 using test::FakeCloudAccount;
@@ -53,7 +59,7 @@ public:
     {
     }
 
-    void round(SyncRound::Look look, const SyncLimits &limits = {})
+    SyncOutcome round(SyncRound::Look look, const SyncLimits &limits = {})
     {
         std::optional<SyncOutcome> outcome;
         SyncRound running(deps, limits);
@@ -67,6 +73,7 @@ public:
         if (!outcome || !outcome->isWell()) {
             throw std::runtime_error("the round did not end well");
         }
+        return *outcome;
     }
 
     test::SeededRandom random;
@@ -120,6 +127,9 @@ public:
         }
         if (what == "requests") {
             return requests();
+        }
+        if (what == "day") {
+            return day();
         }
         throw std::runtime_error("no such request");
     }
@@ -204,6 +214,45 @@ private:
             {{LocalEdit::Kind::Set, {}, {}, {u"key"_s, u"entry"_s}, u"value"_s}}, firstMoment);
         m_writer.round(SyncRound::Look::Head);
         return {std::to_string(idle), std::to_string(m_writer.cloud.given().size())};
+    }
+
+    Words day()
+    {
+        constexpr int edits = 100;
+        test::FakeScheduler scheduler;
+        Computer reader(m_account, m_key, ++m_seed);
+        std::optional<std::chrono::milliseconds> arrival;
+        SyncSchedule reading(scheduler, reader.random, [&](SyncRound::Look look, const auto &done) {
+            const SyncOutcome outcome = reader.round(look);
+            if (outcome.received > 0) {
+                arrival = scheduler.monotonic();
+            }
+            done(outcome);
+        });
+        SyncSchedule writing(scheduler, m_writer.random,
+            [this](SyncRound::Look look, const auto &done) { done(m_writer.round(look)); });
+        reading.start();
+        writing.start();
+        std::chrono::milliseconds sum{0};
+        std::chrono::milliseconds longest{0};
+        for (int number = 0; number < edits; ++number) {
+            scheduler.advance(13min + number * 7s);
+            arrival.reset();
+            const auto begin = scheduler.monotonic();
+            m_writer.replica.edit(
+                {{LocalEdit::Kind::Set, {}, {}, {u"key"_s, u"entry"_s}, u"value %1"_s.arg(number)}},
+                scheduler.now().toMSecsSinceEpoch());
+            writing.edited();
+            while (!arrival) {
+                scheduler.advance(100ms);
+            }
+            sum += *arrival - begin;
+            longest = std::max(longest, *arrival - begin);
+        }
+        reader.cloud.forgetGiven();
+        scheduler.advance(24h);
+        return {std::to_string(reader.cloud.given().size()), std::to_string(sum.count() / edits),
+            std::to_string(longest.count())};
     }
 
     qint64 bytesOf(const QString &ending) const

@@ -27,6 +27,10 @@ def measure(report, make_worker):
     idle, change = (int(word) for word in worker.ask("requests"))
     report.count_goal("requests of a poll without news", idle, 1)
     report.count_goal("requests of a change", change, 2)
+    asked, mean, longest = (int(word) for word in worker.ask("day"))
+    report.row("requests of a day without news, by the schedule", f"{asked}")
+    report.row("from an edit until the other computer has it, by the schedule: mean", f"{mean / 1000:.0f} s")
+    report.row("  longest of 100", f"{longest / 1000:.0f} s")
     worker.end()
 
 
