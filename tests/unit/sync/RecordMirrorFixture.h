@@ -122,4 +122,29 @@ struct MirroringComputer : RecordsOfComputer
     Replica replica;
 };
 
+/// Two computers of a person, and what they share.
+class MirroringComputersFixture : public ::testing::Test
+{
+protected:
+    void launchBoth()
+    {
+        a.launch();
+        b.launch();
+    }
+    /// The same record on both computers.
+    void shareRule(const QString &name)
+    {
+        using namespace Qt::StringLiterals;
+        a.insert(model::Rule, {{u"name"_s, name}, {u"device"_s, u"wlan0"_s}, {u"network"_s, name},
+                                  {u"timerMins"_s, 5}});
+        a.saveAndSettle();
+        a.send({&b});
+    }
+
+    SeededRandom random{7};
+    const AccountKey key = AccountKey::random(random).value();
+    MirroringComputer a{key, 11};
+    MirroringComputer b{key, 12};
+};
+
 } // namespace quillon::test
